@@ -1,0 +1,128 @@
+#include <ovoui/frame/MsgBoxDlg.h>
+
+#include <ovoui/frame/ClipboardText.h>
+#include <ovouires/resource.h>
+
+using namespace ovoui::frame;
+
+BEGIN_MESSAGE_MAP(COVOMsgBoxDlg, CDialog)
+    // answers
+    ON_COMMAND_EX(IDOK, OnAnswer)
+    ON_COMMAND_EX(IDYES, OnAnswer)
+    ON_COMMAND_EX(IDYESTOALL, OnAnswer)
+    ON_COMMAND_EX(IDNO, OnAnswer)
+    ON_COMMAND_EX(IDNOTOALL, OnAnswer)
+    ON_COMMAND_EX(IDABORT, OnAnswer)
+    ON_COMMAND_EX(IDRETRY, OnAnswer)
+    ON_COMMAND_EX(IDIGNORE, OnAnswer)
+    ON_WM_CLOSE()
+    // help
+    ON_COMMAND(IDHELP, OnHelp)
+    ON_WM_HELPINFO()
+    // the remembered position
+    ON_WM_MOVE()
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+COVOMsgBoxDlg::COVOMsgBoxDlg(const Request& request)
+    : CDialog(IDD_MESSAGE_BOX, CWnd::FromHandle(request.owner))
+    , m_owner(request.owner)
+    , m_message(request.text ? request.text : L"")
+    , m_caption(request.caption)
+    , m_type(request.type)
+    , m_settingsKey(request.settingsKey)
+    , m_helpId(request.helpId)
+    , m_buttons(messageBoxButtons(request.type))
+{
+}
+
+COVOMsgBoxDlg::~COVOMsgBoxDlg() = default;
+
+void COVOMsgBoxDlg::DoDataExchange(CDataExchange* exchange)
+{
+    CDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_MESSAGE_TEXT, m_text);
+}
+
+BOOL COVOMsgBoxDlg::PreTranslateMessage(MSG* message)
+{
+    return copyByKeyboard(*message) || CDialog::PreTranslateMessage(message);
+}
+
+BOOL COVOMsgBoxDlg::OnAnswer(UINT id)
+{
+    EndDialog(static_cast<int>(id));
+    return TRUE;
+}
+
+void COVOMsgBoxDlg::OnCancel()
+{
+    EndDialog(IDCANCEL);
+}
+
+void COVOMsgBoxDlg::OnClose()
+{
+    for (const int id : {IDCANCEL, IDNO, IDIGNORE, IDOK}) {
+        if (GetDlgItem(id)) {
+            EndDialog(id);
+            return;
+        }
+    }
+    EndDialog(IDCANCEL);
+}
+
+void COVOMsgBoxDlg::OnHelp()
+{
+    ::SendMessageW(m_owner, m_helpMessage, reinterpret_cast<WPARAM>(m_hWnd), 0);
+}
+
+BOOL COVOMsgBoxDlg::OnHelpInfo(HELPINFO* info)
+{
+    CWinApp* app = AfxGetApp();
+    if (m_helpId == 0 || !app)
+        return CWnd::OnHelpInfo(info);
+    app->HtmlHelp(m_helpId, HH_HELP_CONTEXT);
+    return TRUE;
+}
+
+void COVOMsgBoxDlg::OnMove(int, int)
+{
+    Default();
+    m_moved = true;
+}
+
+void COVOMsgBoxDlg::OnDestroy()
+{
+    CWnd::OnDestroy();
+    if (m_moved)
+        savePosition();
+}
+
+void COVOMsgBoxDlg::savePosition()
+{
+    RECT place{};
+    ::GetWindowRect(m_anchor ? m_anchor : m_hWnd, &place);
+    const std::wstring text =
+        formatPosition({static_cast<int>(place.left), static_cast<int>(place.top)});
+    if (CWinApp* app = AfxGetApp())
+        app->WriteProfileString(L"settings", m_settingsKey, text.c_str());
+}
+
+/// Ctrl+C (or Ctrl+Insert) copies from anywhere in the box: the selection, or the whole message.
+bool COVOMsgBoxDlg::copyByKeyboard(const MSG& message)
+{
+    const bool copies = message.wParam == 'C' || message.wParam == VK_INSERT;
+    if (message.message != WM_KEYDOWN || !copies || ::GetKeyState(VK_CONTROL) >= 0)
+        return false;
+    if (::GetKeyState(VK_SHIFT) < 0 || ::GetKeyState(VK_MENU) < 0)
+        return false;
+
+    int start = 0;
+    int end = 0;
+    m_text.GetSel(start, end);
+    if (start != end)
+        m_text.Copy();
+    else
+        setClipboardText(m_hWnd, m_message);
+    return true;
+}

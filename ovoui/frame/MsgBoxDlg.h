@@ -1,0 +1,78 @@
+/// Not exported: the dialog behind OVOMessageBox.
+#pragma once
+
+#include <ovoui/frame/core/MessageBoxLayout.h>
+#include <ovoui/frame/core/MessageBoxStyle.h>
+#include <ovoui/frame/core/SavedPosition.h>
+
+#include <afxwin.h>
+
+#include <string>
+
+class COVOMsgBoxDlg : public CDialog
+{
+public:
+    /// The arguments of OVOMessageBox, with the caption resolved.
+    struct Request
+    {
+        HWND owner;
+        const wchar_t* text;
+        const wchar_t* caption;
+        UINT type;
+        const wchar_t* settingsKey;
+        UINT helpId;
+    };
+
+    explicit COVOMsgBoxDlg(const Request& request);
+    ~COVOMsgBoxDlg() override;
+
+    BOOL PreTranslateMessage(MSG* message) override;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+    BOOL OnInitDialog() override;
+    void OnCancel() override;
+
+    afx_msg BOOL OnAnswer(UINT id);
+    afx_msg void OnHelp();
+    afx_msg void OnClose();
+    afx_msg void OnMove(int x, int y);
+    afx_msg BOOL OnHelpInfo(HELPINFO* info);
+    afx_msg void OnDestroy();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    // Steps of OnInitDialog (MsgBoxDlgInit.cpp).
+    void readSavedPosition();
+    void useGuiFont();
+    ovoui::frame::Extent fitText();
+    void measureButtons(CDC& dc, const TEXTMETRICW& font);
+    ovoui::frame::Extent measureText(CDC& dc);
+    void addScrollBars(const ovoui::frame::TextArea& area);
+    void placeDialog(const ovoui::frame::Extent& size);
+    void createButtons();
+    void createButton(const ovoui::frame::MessageBoxButton& button, int position);
+    void createIcon();
+    void moveAnchorToSavedPosition();
+    RECT areaToCentreIn() const;
+
+    bool copyByKeyboard(const MSG& message);
+    void savePosition();
+
+    CEdit m_text;
+    HWND m_owner;
+    std::wstring m_message;
+    CString m_caption;
+    UINT m_type;
+    CString m_settingsKey;
+    UINT m_helpId;
+    bool m_moved = false;
+    int m_buttonHeight = 0;
+    int m_buttonWidth = 0;
+    UINT m_helpMessage = 0;
+    bool m_focusSet = false;
+    HWND m_anchor = nullptr; // the default button
+
+    ovoui::frame::MessageBoxButtons m_buttons;
+    ovoui::frame::SavedPosition m_saved;
+};

@@ -1,0 +1,261 @@
+// How the message box lays itself out when it opens.
+#include <ovoui/frame/MsgBoxDlg.h>
+
+#include <ovocor/ovocor.h>
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/Geometry.h>
+#include <ovoui/frame/Module.h>
+
+using namespace ovoui::frame;
+
+namespace
+{
+
+constexpr POINT kIconPlace{10, 8};
+constexpr POINT kTextPlace{52, 8};
+
+BoxMetrics systemMetrics()
+{
+    BoxMetrics metrics;
+    metrics.edgeWidth = ::GetSystemMetrics(SM_CXEDGE);
+    metrics.borderWidth = ::GetSystemMetrics(SM_CXBORDER);
+    metrics.borderHeight = ::GetSystemMetrics(SM_CYBORDER);
+    metrics.frameWidth = ::GetSystemMetrics(SM_CXDLGFRAME);
+    metrics.frameHeight = ::GetSystemMetrics(SM_CYDLGFRAME);
+    metrics.captionHeight = ::GetSystemMetrics(SM_CYCAPTION);
+    metrics.scrollBarWidth = ::GetSystemMetrics(SM_CXVSCROLL);
+    return metrics;
+}
+
+/// A window DC with the window's font selected for the life of the object.
+class FontDC
+{
+public:
+    explicit FontDC(CWnd& wnd)
+        : m_dc(&wnd)
+        , m_previous(m_dc.SelectObject(wnd.GetFont()))
+    {
+    }
+    ~FontDC() { m_dc.SelectObject(m_previous); }
+    FontDC(const FontDC&) = delete;
+    FontDC& operator=(const FontDC&) = delete;
+
+    CDC& dc() { return m_dc; }
+
+    TEXTMETRICW metrics()
+    {
+        TEXTMETRICW metrics{};
+        if (!m_dc.GetTextMetrics(&metrics))
+            throw WinError(L"GetTextMetrics", ::GetLastError());
+        return metrics;
+    }
+
+private:
+    CWindowDC m_dc;
+    CFont* m_previous;
+};
+
+std::vector<int> labelWidths(CDC& dc)
+{
+    std::vector<int> widths;
+    for (const MessageBoxButton& button : allMessageBoxButtons()) {
+        const std::wstring label = ovoui::resourceString(button.label);
+        SIZE extent{};
+        if (!label.empty() && ::GetTextExtentPoint32W(dc, label.data(), static_cast<int>(label.size()), &extent))
+            widths.push_back(extent.cx);
+    }
+    return widths;
+}
+
+std::wstring withWindowsLineEnds(const std::wstring& text)
+{
+    std::vector<std::wstring> lines;
+    for (TextLineIterator line(text); line; ++line)
+        lines.emplace_back(*line);
+    return joinLines(lines);
+}
+
+Extent clientExtent(const CWnd& wnd)
+{
+    CRect client;
+    wnd.GetClientRect(&client);
+    return {client.Width(), client.Height()};
+}
+
+} // namespace
+
+BOOL COVOMsgBoxDlg::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    m_focusSet = false;
+    m_helpMessage = ::RegisterWindowMessageW(L"commdlg_help");
+
+    readSavedPosition();
+    useGuiFont();
+    placeDialog(fitText());
+    m_text.SetWindowPos(nullptr, kTextPlace.x, kTextPlace.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    createButtons();
+    createIcon();
+    SetWindowText(m_caption);
+    SetForegroundWindow();
+    moveAnchorToSavedPosition();
+
+    m_moved = false; // only the user's moves count
+    return !m_focusSet;
+}
+
+void COVOMsgBoxDlg::readSavedPosition()
+{
+    if (CWinApp* app = AfxGetApp())
+        m_saved = parsePosition(app->GetProfileString(L"settings", m_settingsKey).GetString());
+}
+
+void COVOMsgBoxDlg::useGuiFont()
+{
+    CFont* font = CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT)));
+    SetFont(font);
+    m_text.SetFont(font);
+}
+
+/// Fills the text control, grows it to its text, and answers the size that the dialog needs.
+Extent COVOMsgBoxDlg::fitText()
+{
+    const BoxMetrics metrics = systemMetrics();
+    FontDC font(m_text);
+    const TEXTMETRICW fontMetrics = font.metrics();
+    measureButtons(font.dc(), fontMetrics);
+
+    const int widthLimit = font.dc().GetDeviceCaps(HORZRES) * 2 / 3;
+    CRect format;
+    m_text.GetRect(&format);
+    format.right = format.left + widthLimit;
+    format.bottom = format.top + font.dc().GetDeviceCaps(VERTRES);
+    m_text.SetRect(&format);
+
+    m_message = withWindowsLineEnds(m_message);
+    const Extent text = measureText(font.dc());
+    m_text.SetWindowText(m_message.c_str());
+    format.right = format.left + text.width;
+    format.bottom = format.top + text.height;
+
+    const DWORD margins = m_text.GetMargins();
+    const TextArea area = textArea(text, fontMetrics.tmHeight + fontMetrics.tmExternalLeading,
+                                   LOWORD(margins) + HIWORD(margins), widthLimit, metrics);
+    addScrollBars(area);
+
+    CRect window;
+    m_text.GetWindowRect(&window);
+    ScreenToClient(&window);
+    const Box grown = grownTextControl(toBox(window), clientExtent(m_text), area.client, metrics);
+    const RECT place = toRect(grown);
+    m_text.MoveWindow(&place);
+    m_text.SetRect(&format);
+
+    return dialogSize(grown.width(), area.client.height, {m_buttonWidth, m_buttonHeight}, m_buttons.count(),
+                      metrics);
+}
+
+void COVOMsgBoxDlg::measureButtons(CDC& dc, const TEXTMETRICW& font)
+{
+    const Extent size =
+        buttonSize(font.tmHeight, font.tmAveCharWidth, labelWidths(dc), systemMetrics());
+    m_buttonWidth = size.width;
+    m_buttonHeight = size.height;
+}
+
+Extent COVOMsgBoxDlg::measureText(CDC& dc)
+{
+    CRect format;
+    m_text.GetRect(&format);
+    dc.DrawText(m_message.c_str(), static_cast<int>(m_message.size()), &format,
+                DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOCLIP | DT_NOPREFIX | DT_EDITCONTROL);
+    return {format.Width(), format.Height()};
+}
+
+void COVOMsgBoxDlg::addScrollBars(const TextArea& area)
+{
+    if (!area.vertical)
+        return;
+    m_text.ModifyStyle(0, WS_VSCROLL | (area.horizontal ? WS_HSCROLL : 0));
+    m_text.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED);
+}
+
+void COVOMsgBoxDlg::placeDialog(const Extent& size)
+{
+    Box box;
+    if (m_saved.remembered())
+        box = {m_saved.x, m_saved.y, m_saved.x + size.width, m_saved.y + size.height};
+    else
+        box = centredIn(toBox(areaToCentreIn()), size.width, size.height);
+
+    RECT place = toRect(box);
+    EnsureRectVisible(place);
+    MoveWindow(&place, FALSE);
+}
+
+/// The parent's client rectangle as it stands, with its corner at the screen's origin; without a parent, or
+/// when that is empty, the work area.
+RECT COVOMsgBoxDlg::areaToCentreIn() const
+{
+    CRect area;
+    if (const CWnd* parent = GetParent())
+        parent->GetClientRect(&area);
+    if (area.IsRectEmpty() && !::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0))
+        area.SetRect(0, 0, 1280, 1024);
+    return area;
+}
+
+void COVOMsgBoxDlg::createButtons()
+{
+    const int last = m_buttons.count() - 1;
+    const bool help = m_buttons.buttons[last].id == IDHELP;
+    if (help) // first in the tab order
+        createButton(m_buttons.buttons[last], last);
+    for (int position = 0; position < (help ? last : last + 1); ++position)
+        createButton(m_buttons.buttons[position], position);
+}
+
+void COVOMsgBoxDlg::createButton(const MessageBoxButton& button, int position)
+{
+    const bool isDefault = position == m_buttons.defaultPosition;
+    const std::wstring label = ovoui::resourceString(button.label);
+    const Box place = buttonBox(position, m_buttons.count(), {m_buttonWidth, m_buttonHeight}, clientExtent(*this));
+    const HWND wnd = ::CreateWindowExW(
+        0, L"BUTTON", label.empty() ? button.fallback : label.c_str(),
+        WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_NOTIFY | (isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON), place.left,
+        place.top, place.width(), place.height(), m_hWnd,
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(button.id)), ovoui::ownInstance(), nullptr);
+    if (!wnd)
+        return;
+    ::SendMessageW(wnd, WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)), TRUE);
+    if (!isDefault)
+        return;
+    // The dialog manager knows no default button made after the template's: without it Enter in the text would
+    // answer IDOK in a box that has no such button.
+    SetDefID(button.id);
+    ::SetFocus(wnd);
+    m_focusSet = true;
+    m_anchor = wnd;
+}
+
+void COVOMsgBoxDlg::createIcon()
+{
+    constexpr int kAnySize = 10; // the control takes the icon's size
+    const INT_PTR noId = -1;
+    ::CreateWindowExW(0, L"STATIC", messageBoxIcon(m_type), WS_CHILD | WS_VISIBLE | SS_ICON, kIconPlace.x,
+                      kIconPlace.y, kAnySize, kAnySize, m_hWnd, reinterpret_cast<HMENU>(noId),
+                      ovoui::ownInstance(), nullptr);
+}
+
+void COVOMsgBoxDlg::moveAnchorToSavedPosition()
+{
+    if (!m_saved.remembered() || !m_anchor)
+        return;
+    CRect anchor;
+    ::GetWindowRect(m_anchor, &anchor);
+    CRect place;
+    GetWindowRect(&place);
+    place.OffsetRect(m_saved.x - anchor.left, m_saved.y - anchor.top);
+    EnsureRectVisible(place);
+    MoveWindow(&place);
+}

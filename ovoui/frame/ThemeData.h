@@ -1,0 +1,62 @@
+/// Visual styles, used only where the platform has them.
+///
+///     if (!CThemeData::getThemeData().drawBackground(dc, &rect, wnd, L"Button", PBS_NORMAL))
+///         ::DrawFrameControl(dc, &rect, DFC_BUTTON, DFCS_BUTTONPUSH);
+#pragma once
+
+#include <ovoui/export.h>
+
+#include <windows.h>
+#include <uxtheme.h>
+
+/// The entry points of UxTheme, fetched once when the object is made. Whether visual styles are on is asked at
+/// every call, so a change of theme needs nothing.
+///
+/// A copy shares the module with its original: both release it.
+class OVOUI_API CThemeData
+{
+public:
+    /// Loads a library by its file name; null when there is none.
+    using Loader = HMODULE (*)(const wchar_t* name);
+
+    /// Loads UxTheme from the system directory. Without it the object answers as on a system without themes.
+    CThemeData();
+
+    /// The same with a loader of the caller's.
+    explicit CThemeData(Loader load);
+
+    CThemeData(const CThemeData&) = default;
+    CThemeData& operator=(const CThemeData&) = default;
+    ~CThemeData();
+
+    /// The library's own instance, which lives as long as the library is loaded.
+    static CThemeData& getThemeData();
+
+    /// Whether visual styles are on; false without UxTheme.
+    bool IsAppThemed();
+
+    /// COLOR_BTNFACE, whatever the window and the theme.
+    COLORREF ButtonFace(HWND wnd) const;
+
+    /// The system's brush for COLOR_BTNFACE, shared: the caller must not delete it.
+    HBRUSH BackgroundBrush(HWND wnd);
+
+    /// Text colour of a group box in the window's theme; without one the highlight colour, which sets group
+    /// titles off from the labels.
+    COLORREF GroupboxText(HWND wnd) const;
+
+    /// Draws the background of a push button in `state` when `classList` is "Button" (in any case of letters)
+    /// and the window has a theme; draws nothing otherwise. False only when there is no UxTheme: true means that
+    /// the theme engine is present, not that something was drawn.
+    bool drawBackground(HDC dc, const RECT* rect, HWND wnd, const wchar_t* classList, int state);
+
+private:
+    HMODULE m_module = nullptr;
+    decltype(&::OpenThemeData) m_openThemeData = nullptr;
+    decltype(&::CloseThemeData) m_closeThemeData = nullptr;
+    decltype(&::GetThemeColor) m_getThemeColor = nullptr;
+    decltype(&::GetThemeSysColorBrush) m_getThemeSysColorBrush = nullptr;
+    decltype(&::IsAppThemed) m_isAppThemed = nullptr;
+    decltype(&::DrawThemeBackground) m_drawThemeBackground = nullptr;
+    HBRUSH m_backgroundBrush = nullptr; // a slot for a cached brush: freed when set
+};

@@ -1,0 +1,77 @@
+#include <ovoui/frame/core/MessageBoxLayout.h>
+
+#include <algorithm>
+
+namespace ovoui::frame
+{
+namespace
+{
+
+constexpr int kMaxLines = 15;      // more lines than this are scrolled
+constexpr int kButtonGap = 10;     // between buttons, and beside the last
+constexpr int kButtonBottom = 8;   // below the buttons
+constexpr int kBesideText = 62;    // icon and margins beside the text control
+constexpr int kAroundText = 24;    // above the text, between text and buttons, below the buttons
+constexpr int kIconRow = 56;       // the least height that the icon and the margins take
+
+} // namespace
+
+Extent buttonSize(int fontHeight, int averageCharWidth, const std::vector<int>& labelWidths,
+                  const BoxMetrics& metrics)
+{
+    int width = averageCharWidth * 50 / 4;
+    for (const int label : labelWidths)
+        width = std::max(width, label + 2 * metrics.edgeWidth);
+    return {width, fontHeight * 14 / 8};
+}
+
+TextArea textArea(const Extent& text, int lineHeight, int margins, int widthLimit, const BoxMetrics& metrics)
+{
+    TextArea area{{text.width + margins, text.height}};
+    if (text.height / lineHeight <= kMaxLines)
+        return area;
+
+    area.vertical = true;
+    area.client.height = kMaxLines * lineHeight;
+    area.client.width += metrics.scrollBarWidth;
+    area.horizontal = area.client.width > widthLimit;
+    return area;
+}
+
+Box grownTextControl(const Box& window, const Extent& from, const Extent& to, const BoxMetrics& metrics)
+{
+    Box grown = window;
+    grown.right += to.width - from.width + 2 * metrics.borderWidth;
+    grown.bottom += to.height - from.height + 2 * metrics.borderHeight;
+    return grown;
+}
+
+Extent dialogSize(int textControlWidth, int textHeight, const Extent& button, int buttonCount,
+                  const BoxMetrics& metrics)
+{
+    const int forText = textControlWidth + 2 * metrics.frameWidth + kBesideText;
+    const int forButtons = (button.width + kButtonGap) * buttonCount + 2 * metrics.frameWidth + kButtonGap;
+    const int frame = metrics.captionHeight + 2 * metrics.frameHeight;
+    return {std::max(forText, forButtons),
+            frame + button.height + std::max(kAroundText + textHeight, kIconRow)};
+}
+
+Box buttonBox(int position, int count, const Extent& button, const Extent& client)
+{
+    const int left = client.width - (count - position) * (button.width + kButtonGap);
+    const int top = client.height - button.height - kButtonBottom;
+    return {left, top, left + button.width, top + button.height};
+}
+
+std::wstring joinLines(const std::vector<std::wstring>& lines)
+{
+    std::wstring joined;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (i > 0)
+            joined += L"\r\n";
+        joined += lines[i];
+    }
+    return joined;
+}
+
+} // namespace ovoui::frame

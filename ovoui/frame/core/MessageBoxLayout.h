@@ -1,0 +1,63 @@
+/// Arithmetic of the message box's layout, in pixels. Plain values, no windows.
+#pragma once
+
+#include <ovoui/frame/core/Placement.h>
+
+#include <string>
+#include <vector>
+
+namespace ovoui::frame
+{
+
+struct Extent
+{
+    int width = 0;
+    int height = 0;
+
+    friend bool operator==(const Extent&, const Extent&) = default;
+};
+
+/// What the layout needs to know of the system.
+struct BoxMetrics
+{
+    int edgeWidth = 0;       ///< of a three-dimensional edge
+    int borderWidth = 0;     ///< of a thin border, left or right
+    int borderHeight = 0;    ///< of a thin border, top or bottom
+    int frameWidth = 0;      ///< of a dialog frame, left or right
+    int frameHeight = 0;     ///< of a dialog frame, top or bottom
+    int captionHeight = 0;   ///< of a title bar
+    int scrollBarWidth = 0;  ///< of a vertical scroll bar
+};
+
+/// Size common to all buttons, for a font of the given height and average character width, wide enough for
+/// the widest label.
+Extent buttonSize(int fontHeight, int averageCharWidth, const std::vector<int>& labelWidths,
+                  const BoxMetrics& metrics);
+
+/// The client area that the text control needs, and the scroll bars that it gets.
+struct TextArea
+{
+    Extent client;
+    bool vertical = false;
+    bool horizontal = false;
+};
+
+/// `text` is the measured size of the message, `margins` the sum of the control's left and right margin,
+/// `widthLimit` the width at which a scrolled text also gets a horizontal bar.
+TextArea textArea(const Extent& text, int lineHeight, int margins, int widthLimit, const BoxMetrics& metrics);
+
+/// `window` grown so that a client area of `from` becomes `to`.
+Box grownTextControl(const Box& window, const Extent& from, const Extent& to, const BoxMetrics& metrics);
+
+/// Outer size of the dialog. `textControlWidth` is that of the grown control, `textHeight` the height of the
+/// text area's client.
+Extent dialogSize(int textControlWidth, int textHeight, const Extent& button, int buttonCount,
+                  const BoxMetrics& metrics);
+
+/// Where the button at `position` of `count` lies in the dialog's client area.
+Box buttonBox(int position, int count, const Extent& button, const Extent& client);
+
+/// The lines joined by CR LF.
+std::wstring joinLines(const std::vector<std::wstring>& lines);
+
+} // namespace ovoui::frame

@@ -1,0 +1,38 @@
+/// What the type flags of a message box ask for: buttons, default button, icon. Plain values, no windows.
+#pragma once
+
+#include <ovoui/frame/MessageBoxFlags.h>
+
+#include <vector>
+
+namespace ovoui::frame
+{
+
+/// A button of the message box: its control id, which is also the box's result, its label's string id, and
+/// the label shown when that string is missing.
+struct MessageBoxButton
+{
+    int id;
+    unsigned label;
+    const wchar_t* fallback;
+};
+
+/// Every button there is, in the order of the label strings.
+const std::vector<MessageBoxButton>& allMessageBoxButtons();
+
+/// The buttons of a box and which of them is the default. Positions count from 0 at the left; Help, if it is
+/// there, is the last.
+struct MessageBoxButtons
+{
+    std::vector<MessageBoxButton> buttons;
+    int defaultPosition = 0;
+
+    int count() const { return static_cast<int>(buttons.size()); }
+};
+
+MessageBoxButtons messageBoxButtons(unsigned type);
+
+/// Name of the icon resource.
+const wchar_t* messageBoxIcon(unsigned type);
+
+} // namespace ovoui::frame

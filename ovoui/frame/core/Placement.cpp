@@ -1,0 +1,33 @@
+#include <ovoui/frame/core/Placement.h>
+
+namespace ovoui::frame
+{
+
+Box movedBy(const Box& box, int dx, int dy)
+{
+    return {box.left + dx, box.top + dy, box.right + dx, box.bottom + dy};
+}
+
+Box movedInto(const Box& box, const Box& area)
+{
+    // The order matters: the left and the top edge are corrected last, so that they win.
+    Box moved = box;
+    if (moved.right > area.right)
+        moved = movedBy(moved, area.right - moved.right, 0);
+    if (moved.left < area.left)
+        moved = movedBy(moved, area.left - moved.left, 0);
+    if (moved.bottom > area.bottom)
+        moved = movedBy(moved, 0, area.bottom - moved.bottom);
+    if (moved.top < area.top)
+        moved = movedBy(moved, 0, area.top - moved.top);
+    return moved;
+}
+
+Box centredIn(const Box& area, int width, int height)
+{
+    const int left = (area.right - width + area.left) / 2;
+    const int top = (area.top + area.bottom - height) / 2;
+    return {left, top, left + width, top + height};
+}
+
+} // namespace ovoui::frame

@@ -1,0 +1,32 @@
+/// Placing rectangles: plain values, no windows.
+#pragma once
+
+namespace ovoui::frame
+{
+
+/// A rectangle in pixels; right and bottom are exclusive.
+struct Box
+{
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+
+    int width() const { return right - left; }
+    int height() const { return bottom - top; }
+    bool empty() const { return width() <= 0 || height() <= 0; }
+
+    friend bool operator==(const Box&, const Box&) = default;
+};
+
+/// `box` moved, never resized, into `area`. What is too wide or too tall ends at the area's left or top edge
+/// and hangs over at the right or bottom.
+Box movedInto(const Box& box, const Box& area);
+
+/// `box` moved by the given distances.
+Box movedBy(const Box& box, int dx, int dy);
+
+/// A box of the given size with the centre of `area`; odd remainders are cut towards zero.
+Box centredIn(const Box& area, int width, int height);
+
+} // namespace ovoui::frame

@@ -1,0 +1,20 @@
+/// Which tab comes next when a dialog is paged through by the keyboard.
+#pragma once
+
+#include <cstdint>
+
+namespace ovoui::frame
+{
+
+enum class TabDirection
+{
+    Forward,
+    Backward
+};
+
+/// Index of the tab beside `current` in a row of `count` tabs (at least 1), going round at both ends.
+/// The arithmetic is signed and the remainder keeps the sign of the dividend, so a row without a current
+/// tab (-1) answers 0 forward and, backward, `count - 2`, or 0 in a row of one.
+std::int64_t nextTab(std::int64_t current, std::int64_t count, TabDirection direction);
+
+} // namespace ovoui::frame

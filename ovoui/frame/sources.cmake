@@ -1,0 +1,28 @@
+# Library frame: module start and stop, theme data, geometry, keys, the modal dialog base, the message box.
+set(frame_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/MessageBoxLayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/MessageBoxStyle.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/Placement.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SavedPosition.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/TabStep.cpp)
+
+if(NOT WIN32)
+  add_library(ovoui_frame_core STATIC ${frame_core})
+  target_include_directories(ovoui_frame_core PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(ovoui_frame_core PRIVATE ovo_flags)
+  return()
+endif()
+
+target_sources(ovoui PRIVATE
+  ${frame_core}
+  ${CMAKE_CURRENT_LIST_DIR}/ClipboardText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Geometry.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MessageBox.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ModalDialog.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Module.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MsgBoxDlg.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MsgBoxDlgInit.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/NonClientMetrics.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/TabKeys.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ThemeData.cpp)
+include(${CMAKE_CURRENT_LIST_DIR}/icons.cmake)

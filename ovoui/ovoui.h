@@ -1,0 +1,12 @@
+/// Umbrella header: everything that the library offers to a host.
+#pragma once
+
+#include <ovoui/frame/Geometry.h>
+#include <ovoui/frame/MessageBox.h>
+#include <ovoui/frame/ModalDialog.h>
+#include <ovoui/frame/NonClientMetrics.h>
+#include <ovoui/frame/TabKeys.h>
+#include <ovoui/frame/ThemeData.h>
+#include <ovoui/images/AlphaImageButton.h>
+#include <ovoui/images/AlphaImageList.h>
+#include <ovoui/tree/MultiTreeCtrl.h>

@@ -1,0 +1,98 @@
+#include <ovoui/frame/core/MessageBoxLayout.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovoui::frame;
+
+namespace
+{
+
+BoxMetrics metrics()
+{
+    BoxMetrics m;
+    m.edgeWidth = 2;
+    m.borderWidth = 1;
+    m.borderHeight = 1;
+    m.frameWidth = 3;
+    m.frameHeight = 4;
+    m.captionHeight = 19;
+    m.scrollBarWidth = 17;
+    return m;
+}
+
+} // namespace
+
+TEST(MessageBoxLayout, ButtonsAreSizedByTheFontAndTheWidestLabel)
+{
+    EXPECT_EQ(buttonSize(13, 5, {}, metrics()), (Extent{62, 22}));
+    EXPECT_EQ(buttonSize(13, 5, {30, 58, 10}, metrics()), (Extent{62, 22}));
+    EXPECT_EQ(buttonSize(13, 5, {30, 59, 10}, metrics()), (Extent{63, 22}));
+    EXPECT_EQ(buttonSize(16, 7, {}, metrics()), (Extent{87, 28}));
+}
+
+TEST(MessageBoxLayout, ShortTextTakesItsOwnSize)
+{
+    const TextArea area = textArea({200, 26}, 13, 8, 800, metrics());
+    EXPECT_EQ(area.client, (Extent{208, 26}));
+    EXPECT_FALSE(area.vertical);
+    EXPECT_FALSE(area.horizontal);
+}
+
+TEST(MessageBoxLayout, FifteenLinesAreNotScrolled)
+{
+    const TextArea area = textArea({200, 15 * 13}, 13, 8, 800, metrics());
+    EXPECT_EQ(area.client.height, 15 * 13);
+    EXPECT_FALSE(area.vertical);
+}
+
+TEST(MessageBoxLayout, SixteenLinesShowFifteenWithABar)
+{
+    const TextArea area = textArea({200, 16 * 13}, 13, 8, 800, metrics());
+    EXPECT_EQ(area.client, (Extent{208 + 17, 15 * 13}));
+    EXPECT_TRUE(area.vertical);
+    EXPECT_FALSE(area.horizontal);
+}
+
+TEST(MessageBoxLayout, AWideTextGetsAHorizontalBarOnlyWhenItIsScrolled)
+{
+    EXPECT_FALSE(textArea({900, 15 * 13}, 13, 8, 800, metrics()).horizontal);
+    EXPECT_TRUE(textArea({900, 16 * 13}, 13, 8, 800, metrics()).horizontal);
+}
+
+TEST(MessageBoxLayout, TheHorizontalBarComesWhenMarginsAndBarPassTheLimit)
+{
+    EXPECT_FALSE(textArea({775, 16 * 13}, 13, 8, 800, metrics()).horizontal);
+    EXPECT_TRUE(textArea({776, 16 * 13}, 13, 8, 800, metrics()).horizontal);
+}
+
+TEST(MessageBoxLayout, TheControlGrowsByTheMissingClientAreaAndTheBorders)
+{
+    EXPECT_EQ(grownTextControl({10, 5, 110, 25}, {100, 20}, {208, 26}, metrics()), (Box{10, 5, 220, 33}));
+    EXPECT_EQ(grownTextControl({10, 5, 110, 25}, {96, 16}, {50, 10}, metrics()), (Box{10, 5, 66, 21}));
+}
+
+TEST(MessageBoxLayout, TheDialogFitsTheText)
+{
+    EXPECT_EQ(dialogSize(400, 100, {75, 22}, 1, metrics()), (Extent{400 + 6 + 62, 8 + 24 + 19 + 100 + 22}));
+}
+
+TEST(MessageBoxLayout, TheDialogFitsTheButtonsAndTheIcon)
+{
+    EXPECT_EQ(dialogSize(20, 13, {75, 22}, 4, metrics()), (Extent{85 * 4 + 6 + 10, 19 + 8 + 56 + 22}));
+    EXPECT_EQ(dialogSize(20, 32, {75, 22}, 1, metrics()).height, 19 + 8 + 56 + 22);
+    EXPECT_EQ(dialogSize(20, 33, {75, 22}, 1, metrics()).height, 19 + 8 + 57 + 22);
+}
+
+TEST(MessageBoxLayout, ButtonsStandAtTheRightInOrder)
+{
+    const Extent client{300, 120};
+    EXPECT_EQ(buttonBox(0, 2, {75, 22}, client), (Box{130, 90, 205, 112}));
+    EXPECT_EQ(buttonBox(1, 2, {75, 22}, client), (Box{215, 90, 290, 112}));
+}
+
+TEST(MessageBoxLayout, LinesAreJoinedByWindowsLineEnds)
+{
+    EXPECT_EQ(joinLines({}), L"");
+    EXPECT_EQ(joinLines({L"oak"}), L"oak");
+    EXPECT_EQ(joinLines({L"oak", L"", L"elm"}), L"oak\r\n\r\nelm");
+}

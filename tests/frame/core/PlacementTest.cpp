@@ -1,0 +1,58 @@
+#include <ovoui/frame/core/Placement.h>
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+namespace ovoui::frame
+{
+static void PrintTo(const Box& box, std::ostream* out)
+{
+    *out << box.left << "," << box.top << "," << box.right << "," << box.bottom;
+}
+} // namespace ovoui::frame
+
+using namespace ovoui::frame;
+
+namespace
+{
+constexpr Box kScreen{0, 0, 1920, 1040};
+}
+
+TEST(Placement, LeavesABoxInsideAlone)
+{
+    EXPECT_EQ(movedInto({10, 20, 110, 220}, kScreen), (Box{10, 20, 110, 220}));
+    EXPECT_EQ(movedInto(kScreen, kScreen), kScreen);
+}
+
+TEST(Placement, PullsABoxBackFromEveryEdge)
+{
+    EXPECT_EQ(movedInto({1900, 50, 2000, 150}, kScreen), (Box{1820, 50, 1920, 150}));
+    EXPECT_EQ(movedInto({-30, 50, 70, 150}, kScreen), (Box{0, 50, 100, 150}));
+    EXPECT_EQ(movedInto({50, 1000, 150, 1100}, kScreen), (Box{50, 940, 150, 1040}));
+    EXPECT_EQ(movedInto({50, -1, 150, 99}, kScreen), (Box{50, 0, 150, 100}));
+}
+
+TEST(Placement, TooWideEndsAtTheLeftEdgeAndHangsOverAtTheRight)
+{
+    EXPECT_EQ(movedInto({-500, 10, 2500, 20}, kScreen), (Box{0, 10, 3000, 20}));
+    EXPECT_EQ(movedInto({700, 10, 3700, 20}, kScreen), (Box{0, 10, 3000, 20}));
+}
+
+TEST(Placement, TooTallEndsAtTheTopEdgeAndHangsOverAtTheBottom)
+{
+    EXPECT_EQ(movedInto({10, 900, 20, 2900}, kScreen), (Box{10, 0, 20, 2000}));
+}
+
+TEST(Placement, UsesTheAreaOfAMonitorLeftOfThePrimary)
+{
+    const Box left{-1280, 100, 0, 900};
+    EXPECT_EQ(movedInto({-1300, 850, -1200, 950}, left), (Box{-1280, 800, -1180, 900}));
+}
+
+TEST(Placement, CentresAndCutsOddRemaindersTowardsZero)
+{
+    EXPECT_EQ(centredIn({0, 0, 100, 100}, 50, 30), (Box{25, 35, 75, 65}));
+    EXPECT_EQ(centredIn({0, 0, 101, 101}, 50, 30), (Box{25, 35, 75, 65}));
+    EXPECT_EQ(centredIn({0, 0, 101, 100}, 200, 301), (Box{-49, -100, 151, 201}));
+}
