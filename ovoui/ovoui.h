@@ -7,6 +7,3 @@
 #include <ovoui/frame/NonClientMetrics.h>
 #include <ovoui/frame/TabKeys.h>
 #include <ovoui/frame/ThemeData.h>
-#include <ovoui/images/AlphaImageButton.h>
-#include <ovoui/images/AlphaImageList.h>
-#include <ovoui/tree/MultiTreeCtrl.h>

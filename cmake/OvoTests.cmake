@@ -1,0 +1,84 @@
+# Test programs: cross-compiled ones that run under Wine, native ones that run under the sanitizers.
+#
+#   ovo_test(NAME SOURCES a.cpp ... LIBS target ... [RESOURCES x.rc ...] [TIMEOUT SECONDS])
+#       A GoogleTest program for Windows with the harness of tests/support, registered with CTest.
+#   ovo_test_variant(NAME VARIANT [FILTER PATTERN] [THEMES OFF])
+#       Runs the program NAME once more, as NAME.VARIANT: a part of it, or with visual styles off.
+#   ovo_native_test(NAME SOURCES a.cpp ... LIBS target ...)
+#       A GoogleTest program for this machine under AddressSanitizer and UndefinedBehaviorSanitizer.
+#
+# Each function does nothing in the other kind of build, so that a folder's list needs no conditions.
+include_guard(GLOBAL)
+
+set(OVO_UNDER_WINE ${PROJECT_SOURCE_DIR}/cmake/under-wine)
+set(OVO_TEST_RESULTS ${PROJECT_BINARY_DIR}/results)
+
+# Registers one run of a test program with CTest; the counts are read from its XML afterwards.
+function(_ovo_register name program timeout)
+  set(arguments --gtest_output=xml:${OVO_TEST_RESULTS}/${name}.xml)
+  cmake_parse_arguments(arg "" "FILTER;THEMES" "" ${ARGN})
+  if(arg_FILTER)
+    list(APPEND arguments --gtest_filter=${arg_FILTER})
+  endif()
+  set(launcher "")
+  if(WIN32 AND NOT CMAKE_HOST_WIN32)
+    set(themes on)
+    if("${arg_THEMES}" STREQUAL "OFF")
+      set(themes off)
+    endif()
+    set(launcher ${OVO_UNDER_WINE} --home ${PROJECT_BINARY_DIR}/wine --themes ${themes} --apart)
+  endif()
+  add_test(NAME ${name} COMMAND ${launcher} $<TARGET_FILE:${program}> ${arguments}
+           WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${timeout})
+endfunction()
+
+function(ovo_test name)
+  if(NOT WIN32)
+    return()
+  endif()
+  cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LIBS;RESOURCES" ${ARGN})
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 600)
+  endif()
+  add_executable(${name} ${arg_SOURCES} ${arg_RESOURCES} ${PROJECT_SOURCE_DIR}/tests/support/program.rc)
+  target_link_libraries(${name} PRIVATE ovo_flags ${arg_LIBS} ovo_test_support)
+  target_precompile_headers(${name} REUSE_FROM ovo_test_support)
+  # A library's own definitions may keep the shared header from being reused; that costs time only.
+  set_target_properties(${name} PROPERTIES PCH_WARN_INVALID OFF)
+  _ovo_register(${name} ${name} ${arg_TIMEOUT})
+endfunction()
+
+function(ovo_test_variant name variant)
+  if(NOT WIN32)
+    return()
+  endif()
+  cmake_parse_arguments(arg "" "FILTER;THEMES;TIMEOUT" "" ${ARGN})
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 600)
+  endif()
+  set(how "")
+  if(arg_FILTER)
+    list(APPEND how FILTER ${arg_FILTER})
+  endif()
+  if(DEFINED arg_THEMES)
+    list(APPEND how THEMES ${arg_THEMES})
+  endif()
+  _ovo_register(${name}.${variant} ${name} ${arg_TIMEOUT} ${how})
+endfunction()
+
+function(ovo_native_test name)
+  if(WIN32)
+    return()
+  endif()
+  cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LIBS" ${ARGN})
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 600)
+  endif()
+  add_executable(${name} ${arg_SOURCES})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE ovo_flags ${arg_LIBS} gmock gtest gtest_main)
+  _ovo_register(${name} ${name} ${arg_TIMEOUT})
+  set_tests_properties(${name} PROPERTIES ENVIRONMENT
+    "ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
+endfunction()

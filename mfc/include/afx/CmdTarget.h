@@ -1,0 +1,150 @@
+// CCmdTarget: whatever can handle commands, and answer for COM interfaces.
+#pragma once
+
+#include <afx.h>
+#include <afx/MessageMap.h>
+#include <afx/ModuleState.h>
+
+#include <unknwn.h>
+
+class CCmdUI;
+
+/// Asked for instead of a call: who would handle a command.
+struct AFX_CMDHANDLERINFO
+{
+    CCmdTarget* pTarget;
+    AFX_PMSG pmf;
+};
+
+/// What a WM_NOTIFY carries along the command routing.
+struct AFX_NOTIFY
+{
+    LRESULT* pResult;
+    NMHDR* pNMHDR;
+};
+
+/// One interface of a class: its id, and the offset of the nested object that implements it.
+struct AFX_INTERFACEMAP_ENTRY
+{
+    const IID* piid; ///< null ends the map
+    std::size_t nOffset;
+};
+
+struct AFX_INTERFACEMAP
+{
+    const AFX_INTERFACEMAP*(PASCAL* pfnGetBaseMap)();
+    const AFX_INTERFACEMAP_ENTRY* pEntry;
+};
+
+class OVOMFC_API CCmdTarget : public CObject
+{
+    DECLARE_DYNAMIC(CCmdTarget)
+
+public:
+    CCmdTarget();
+    ~CCmdTarget() override;
+
+    /// Routes a command, an update request (CN_UPDATE_COMMAND_UI, `extra` a CCmdUI) or a notification
+    /// (MAKELONG(code, WM_NOTIFY), `extra` an AFX_NOTIFY) to its handler. With `info` nothing is called: the
+    /// handler's place is written there. TRUE when there is a handler that took it.
+    virtual BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
+
+    void BeginWaitCursor();
+    void EndWaitCursor();
+    void RestoreWaitCursor(); ///< After something else, such as a message box, has changed the pointer.
+
+    /// Called when the last reference is released; deletes the object. Objects that are owned otherwise
+    /// override it.
+    virtual void OnFinalRelease();
+
+    // Reference counting through the outer object, if there is one.
+    DWORD ExternalAddRef();
+    DWORD ExternalRelease();
+    DWORD ExternalQueryInterface(const void* iid, LPVOID* object);
+    DWORD InternalAddRef();
+    DWORD InternalRelease();
+    DWORD InternalQueryInterface(const void* iid, LPVOID* object);
+
+    /// The interface without a new reference, or null.
+    LPUNKNOWN GetInterface(const void* iid);
+    LPUNKNOWN GetControllingUnknown();
+
+    static const AFX_MSGMAP* PASCAL GetThisMessageMap();
+    static const AFX_INTERFACEMAP* PASCAL GetThisInterfaceMap();
+
+    long m_dwRef = 1;
+    LPUNKNOWN m_pOuterUnknown = nullptr;
+
+protected:
+    virtual const AFX_MSGMAP* GetMessageMap() const;
+    virtual const AFX_INTERFACEMAP* GetInterfaceMap() const;
+
+public:
+    AFX_MODULE_STATE* m_pModuleState; ///< of the module that made the object
+};
+
+/// Shows the hourglass while it lives.
+class OVOMFC_API CWaitCursor
+{
+public:
+    CWaitCursor();
+    ~CWaitCursor();
+    CWaitCursor(const CWaitCursor&) = delete;
+    CWaitCursor& operator=(const CWaitCursor&) = delete;
+
+    void Restore();
+};
+
+#define DECLARE_INTERFACE_MAP()                                                                                   \
+protected:                                                                                                        \
+    static const AFX_INTERFACEMAP* PASCAL GetThisInterfaceMap();                                                  \
+    const AFX_INTERFACEMAP* GetInterfaceMap() const override;
+
+#define BEGIN_INTERFACE_MAP(theClass, theBase)                                                                    \
+    const AFX_INTERFACEMAP* theClass::GetInterfaceMap() const                                                     \
+    {                                                                                                             \
+        return GetThisInterfaceMap();                                                                             \
+    }                                                                                                             \
+    const AFX_INTERFACEMAP* PASCAL theClass::GetThisInterfaceMap()                                                \
+    {                                                                                                             \
+        using ThisClass [[maybe_unused]] = theClass;                                                              \
+        using TheBaseClass = theBase;                                                                             \
+        static const AFX_INTERFACEMAP_ENTRY entries[] = {
+
+/// `localClass` names the part: the member m_x<localClass>.
+#define INTERFACE_PART(theClass, iid, localClass) {&iid, offsetof(theClass, m_x##localClass)},
+
+#define END_INTERFACE_MAP()                                                                                       \
+    {nullptr, 0}                                                                                                  \
+    }                                                                                                             \
+    ;                                                                                                             \
+    static const AFX_INTERFACEMAP map{&TheBaseClass::GetThisInterfaceMap, entries};                               \
+    return &map;                                                                                                  \
+    }
+
+/// Declares the nested class X<localClass> that implements an interface, up to END_INTERFACE_PART.
+#define BEGIN_INTERFACE_PART(localClass, baseClass)                                                               \
+    class X##localClass : public baseClass                                                                        \
+    {                                                                                                             \
+    public:                                                                                                       \
+        STDMETHOD_(ULONG, AddRef)() override;                                                                     \
+        STDMETHOD_(ULONG, Release)() override;                                                                    \
+        STDMETHOD(QueryInterface)(REFIID iid, LPVOID* object) override;
+
+#define END_INTERFACE_PART(localClass)                                                                            \
+    }                                                                                                             \
+    m_x##localClass;                                                                                              \
+    friend class X##localClass;
+
+/// Inside a method of a part: `pThis` is the object that the part belongs to.
+#define METHOD_PROLOGUE(theClass, localClass)                                                                     \
+    theClass* const pThis [[maybe_unused]] =                                                                      \
+        reinterpret_cast<theClass*>(reinterpret_cast<BYTE*>(this) - offsetof(theClass, m_x##localClass));         \
+    AFX_MANAGE_STATE(pThis->m_pModuleState)
+
+#define METHOD_PROLOGUE_EX(theClass, localClass) METHOD_PROLOGUE(theClass, localClass)
+
+/// The same without the module state, for AddRef and the like.
+#define METHOD_PROLOGUE_EX_(theClass, localClass)                                                                 \
+    theClass* const pThis =                                                                                       \
+        reinterpret_cast<theClass*>(reinterpret_cast<BYTE*>(this) - offsetof(theClass, m_x##localClass));

@@ -1,0 +1,26 @@
+// CProgressCtrl: how far something long has come.
+#pragma once
+
+#include <afx/Wnd.h>
+#include <commctrl.h>
+
+/// A progress bar. Set functions give the value of before.
+class OVOMFC_API CProgressCtrl : public CWnd
+{
+    DECLARE_DYNAMIC(CProgressCtrl)
+
+public:
+    CProgressCtrl();
+
+    virtual BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    virtual BOOL CreateEx(DWORD exStyle, DWORD style, const RECT& rect, CWnd* parent, UINT id);
+
+    void SetRange(short lower, short upper);
+    void SetRange32(int lower, int upper);
+    void GetRange(int& lower, int& upper);
+    int GetPos();
+    int SetPos(int position);
+    int OffsetPos(int distance);
+    int SetStep(int step);
+    int StepIt();
+};

@@ -1,0 +1,133 @@
+// CWinApp: the program.
+#pragma once
+
+#include <afx/WinThread.h>
+
+class CCommandLineInfo;
+
+#ifndef HH_HELP_CONTEXT
+#define HH_HELP_CONTEXT 0x000F
+#define HH_DISPLAY_TOPIC 0x0000
+#endif
+
+enum AFX_HELP_TYPE
+{
+    afxWinHelp = 0,
+    afxHTMLHelp = 1
+};
+
+/// A program makes one object of a class derived from this, at global scope.
+class OVOMFC_API CWinApp : public CWinThread
+{
+    DECLARE_DYNAMIC(CWinApp)
+
+public:
+    /// `name`: shown in message boxes and used for the profile; NULL takes the string AFX_IDS_APP_TITLE or the
+    /// program's file name.
+    explicit CWinApp(LPCTSTR name = nullptr);
+    ~CWinApp() override;
+
+    HINSTANCE m_hInstance = nullptr;
+    LPTSTR m_lpCmdLine = nullptr;
+    int m_nCmdShow = SW_SHOWNORMAL;
+    // Allocated with malloc (_tcsdup); freed by the destructor.
+    LPCTSTR m_pszAppName = nullptr;
+    LPCTSTR m_pszExeName = nullptr;
+    LPCTSTR m_pszHelpFilePath = nullptr;
+    LPCTSTR m_pszProfileName = nullptr;
+    LPCTSTR m_pszRegistryKey = nullptr;
+    AFX_HELP_TYPE m_eHelpType = afxWinHelp;
+
+    virtual BOOL InitApplication();
+    BOOL InitInstance() override;
+    int ExitInstance() override;
+    int Run() override;
+    BOOL OnIdle(LONG count) override;
+    LRESULT ProcessWndProcException(CException* exception, const MSG* message) override;
+    virtual BOOL SaveAllModified();
+
+    // Resources, along the resource chain
+    HCURSOR LoadCursor(LPCTSTR name) const;
+    HCURSOR LoadCursor(UINT id) const;
+    HCURSOR LoadStandardCursor(LPCTSTR name) const;
+    HCURSOR LoadOEMCursor(UINT id) const;
+    HICON LoadIcon(LPCTSTR name) const;
+    HICON LoadIcon(UINT id) const;
+    HICON LoadStandardIcon(LPCTSTR name) const;
+    HICON LoadOEMIcon(UINT id) const;
+
+    // The profile: the registry once a key is set, a private INI file before. An empty entry name is one like any
+    // other.
+    void SetRegistryKey(LPCTSTR company);
+    void SetRegistryKey(UINT companyId);
+    UINT GetProfileInt(LPCTSTR section, LPCTSTR entry, int defaultValue);
+    BOOL WriteProfileInt(LPCTSTR section, LPCTSTR entry, int value);
+    CString GetProfileString(LPCTSTR section, LPCTSTR entry, LPCTSTR defaultValue = nullptr);
+    /// A NULL entry deletes the section, a NULL value the entry.
+    BOOL WriteProfileString(LPCTSTR section, LPCTSTR entry, LPCTSTR value);
+    /// `*data` is freed by the caller with delete[].
+    BOOL GetProfileBinary(LPCTSTR section, LPCTSTR entry, LPBYTE* data, UINT* bytes);
+    BOOL WriteProfileBinary(LPCTSTR section, LPCTSTR entry, LPBYTE data, UINT bytes);
+    /// HKEY_CURRENT_USER\Software\company\program, created if needed; the caller closes it.
+    HKEY GetAppRegistryKey();
+    HKEY GetSectionKey(LPCTSTR section);
+
+    // Messages and help
+    virtual int DoMessageBox(LPCTSTR text, UINT type, UINT helpId);
+    /// 1 begins, -1 ends, 0 restores the hourglass.
+    virtual void DoWaitCursor(int code);
+    virtual void HtmlHelp(DWORD_PTR data, UINT command = HH_HELP_CONTEXT);
+    virtual void WinHelp(DWORD_PTR data, UINT command = HELP_CONTEXT);
+    void EnableHtmlHelp();
+    AFX_HELP_TYPE GetHelpMode() const;
+    void SetHelpMode(AFX_HELP_TYPE type);
+
+    void ParseCommandLine(CCommandLineInfo& info);
+    void HideApplication();
+
+protected:
+    afx_msg void OnAppExit();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool usesRegistry() const { return m_pszRegistryKey != nullptr; }
+};
+
+/// What the command line asks for.
+class OVOMFC_API CCommandLineInfo : public CObject
+{
+public:
+    CCommandLineInfo();
+    ~CCommandLineInfo() override;
+
+    /// Called for each argument; `flag` when it began with - or /, which is taken off.
+    virtual void ParseParam(const TCHAR* parameter, BOOL flag, BOOL last);
+
+    enum
+    {
+        FileNew,
+        FileOpen,
+        FilePrint,
+        FilePrintTo,
+        FileNothing = -1
+    } m_nShellCommand = FileNew;
+    CString m_strFileName;
+    BOOL m_bShowSplash = TRUE;
+    BOOL m_bRunEmbedded = FALSE;
+    BOOL m_bRunAutomated = FALSE;
+};
+
+/// Shows a message through the program's DoMessageBox and gives the answer, 0 on failure.
+OVOMFC_API int AFXAPI AfxMessageBox(LPCTSTR text, UINT type = MB_OK, UINT helpId = 0);
+OVOMFC_API int AFXAPI AfxMessageBox(UINT textId, UINT type = MB_OK, UINT helpId = static_cast<UINT>(-1));
+
+/// Starts the framework by hand, for programs with a main function of their own.
+OVOMFC_API BOOL AFXAPI AfxWinInit(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine, int show);
+/// What wWinMain does.
+OVOMFC_API int AFXAPI AfxWinMain(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine, int show);
+OVOMFC_API void AFXAPI AfxWinTerm();
+
+/// Work to be done when the program ends, last added first.
+OVOMFC_API void AFXAPI AfxRegisterTerm(void (*work)());
+
+OVOMFC_API BOOL AFXAPI AfxEnableControlContainer();

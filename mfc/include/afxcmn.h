@@ -1,0 +1,17 @@
+// The common controls and image lists.
+#pragma once
+
+#include <afxwin.h>
+#include <commctrl.h>
+
+#include <afx/HeaderCtrl.h>
+#include <afx/ImageList.h>
+#include <afx/ListCtrl.h>
+#include <afx/ProgressCtrl.h>
+#include <afx/SliderCtrl.h>
+#include <afx/SpinButtonCtrl.h>
+#include <afx/StatusBarCtrl.h>
+#include <afx/TabCtrl.h>
+#include <afx/ToolBarCtrl.h>
+#include <afx/ToolTipCtrl.h>
+#include <afx/TreeCtrl.h>

@@ -1,0 +1,7 @@
+// Control bars.
+#pragma once
+
+#include <afxwin.h>
+
+#include <afx/ControlBar.h>
+#include <afx/StatusBar.h>

@@ -1,0 +1,35 @@
+// Messages that the framework's windows send each other.
+#pragma once
+
+#include <afxwin.h>
+
+#define WM_QUERYAFXWNDPROC 0x0360  // answered with 1 by windows of the framework
+#define WM_SIZEPARENT 0x0361       // lParam: AFX_SIZEPARENTPARAMS*
+#define WM_SETMESSAGESTRING 0x0362 // wParam: string id, or lParam: text
+#define WM_IDLEUPDATECMDUI 0x0363  // wParam: disable commands without a handler
+#define WM_INITIALUPDATE 0x0364
+#define WM_COMMANDHELP 0x0365
+#define WM_HELPHITTEST 0x0366
+#define WM_EXITHELPMODE 0x0367
+#define WM_RECALCPARENT 0x0368
+#define WM_SIZECHILD 0x0369
+#define WM_KICKIDLE 0x036A         // of a modal loop: wParam MSGF_DIALOGBOX, lParam the count; 0 ends the idling
+#define WM_QUERYCENTERWND 0x036B
+#define WM_DISABLEMODAL 0x036C
+#define WM_FLOATSTATUS 0x036D
+#define WM_ACTIVATETOPLEVEL 0x036E
+#define WM_POPMESSAGESTRING 0x0375
+
+/// Of WM_SIZEPARENT: each control bar takes its part of `rect`.
+struct AFX_SIZEPARENTPARAMS
+{
+    HDWP hDWP; ///< null: only ask
+    RECT rect;
+    SIZE sizeTotal;
+    BOOL bStretch;
+};
+
+/// Moves a window, with a DeferWindowPos handle if there is one.
+OVOMFC_API void AFXAPI AfxRepositionWindow(AFX_SIZEPARENTPARAMS* layout, HWND wnd, LPCRECT rect);
+OVOMFC_API BOOL AFXAPI AfxIsDescendant(HWND ancestor, HWND wnd);
+OVOMFC_API HWND AFXAPI AfxGetParentOwner(HWND wnd);

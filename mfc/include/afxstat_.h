@@ -1,0 +1,4 @@
+// Module state.
+#pragma once
+
+#include <afx/ModuleState.h>

@@ -1,0 +1,25 @@
+// Windows, dialogs, frames, menus, drawing, standard controls, the program.
+#pragma once
+
+#include <afx.h>
+
+#include <afxmsg_.h>
+#include <afxres.h>
+
+#include <afx/CmdTarget.h>
+#include <afx/ModuleState.h>
+
+#include <afx/Gdi.h>
+#include <afx/Menu.h>
+#include <afx/Wnd.h>
+
+#include <afx/CmdUI.h>
+#include <afx/Controls.h>
+#include <afx/DataExchange.h>
+#include <afx/Dialog.h>
+#include <afx/FrameWnd.h>
+#include <afx/View.h>
+#include <afx/WinApp.h>
+#include <afx/WinThread.h>
+
+#include <afxdd_.h>

@@ -1,0 +1,4 @@
+// CString.
+#pragma once
+
+#include <afx/String.h>

@@ -1,0 +1,98 @@
+// Internal: which object stands for a handle.
+#pragma once
+
+#include <afx.h>
+#include <detail/threadstate.h>
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace afxdetail
+{
+
+/// Has the running thread call `purge(map)` when its temporary objects are to go.
+OVOMFC_API void registerTemporaryPurge(void (*purge)(void* map), void* map);
+
+/// Handles of one kind and their objects, for one thread.
+///
+/// The permanent map holds objects that were attached to their handle; it does not own them. The temporary map
+/// owns objects made for handles that nobody attached; they never close the handle and go in idle time.
+/// `Traits` gives `Object`, `Handle`, `static std::unique_ptr<Object> make(Handle)` (an object that holds the
+/// handle) and `static void forget(Object&)` (takes the handle out again, so that the destructor leaves it).
+template <class Traits>
+class HandleMap
+{
+public:
+    using Object = typename Traits::Object;
+    using Handle = typename Traits::Handle;
+
+    ~HandleMap() { deleteTemporary(); }
+
+    /// NULL for NULL; never fails otherwise.
+    Object* fromHandle(Handle handle)
+    {
+        if (!handle)
+            return nullptr;
+        if (Object* permanent = fromHandlePermanent(handle))
+            return permanent;
+        const auto found = m_temporary.find(handle);
+        if (found != m_temporary.end())
+            return found->second.get();
+        return m_temporary.emplace(handle, Traits::make(handle)).first->second.get();
+    }
+
+    Object* fromHandlePermanent(Handle handle) const
+    {
+        const auto found = m_permanent.find(handle);
+        return found != m_permanent.end() ? found->second : nullptr;
+    }
+
+    void setPermanent(Handle handle, Object* object) { m_permanent[handle] = object; }
+
+    /// Forgets a handle that is being closed or given away.
+    void remove(Handle handle)
+    {
+        m_permanent.erase(handle);
+        const auto found = m_temporary.find(handle);
+        if (found == m_temporary.end())
+            return;
+        Traits::forget(*found->second);
+        m_stale.push_back(std::move(found->second)); // somebody may still hold the pointer
+        m_temporary.erase(found);
+    }
+
+    void removePermanent(Handle handle) { m_permanent.erase(handle); }
+
+    void deleteTemporary()
+    {
+        for (auto& [handle, object] : m_temporary)
+            Traits::forget(*object);
+        m_temporary.clear();
+        m_stale.clear();
+    }
+
+    std::size_t temporaryCount() const { return m_temporary.size(); }
+
+private:
+    std::unordered_map<Handle, Object*> m_permanent;
+    std::unordered_map<Handle, std::unique_ptr<Object>> m_temporary;
+    std::vector<std::unique_ptr<Object>> m_stale;
+};
+
+/// The map for `Traits` of the running thread. It is never destroyed: windows may outlive everything else.
+template <class Traits>
+HandleMap<Traits>& handleMap()
+{
+    thread_local HandleMap<Traits>* const map = [] {
+        auto* made = new HandleMap<Traits>;
+        registerTemporaryPurge([](void* self) { static_cast<HandleMap<Traits>*>(self)->deleteTemporary(); }, made);
+        return made;
+    }();
+    return *map;
+}
+
+/// Deletes the temporary objects of all kinds. The caller makes sure that no message is being handled.
+OVOMFC_API void purgeTemporaryObjects();
+
+} // namespace afxdetail

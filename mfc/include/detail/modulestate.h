@@ -1,0 +1,26 @@
+// Internal: the contents of the module state.
+#pragma once
+
+#include <afx/ModuleState.h>
+
+#include <set>
+#include <string>
+
+/// There is one, made before anything needs it and never destroyed.
+class AFX_MODULE_STATE
+{
+public:
+    CWinApp* app = nullptr;
+    HINSTANCE instance = ::GetModuleHandleW(nullptr);
+    HINSTANCE resources = instance;
+    CDynLinkLibrary* libraries = nullptr; ///< from the newest to the oldest
+    std::set<std::wstring> wndClasses;    ///< registered by name for the program
+};
+
+namespace afxdetail
+{
+
+/// The module of ovomfc.dll itself.
+HINSTANCE frameworkModule();
+
+} // namespace afxdetail

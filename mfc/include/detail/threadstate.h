@@ -1,0 +1,43 @@
+// Internal: what the framework knows about the running thread.
+#pragma once
+
+#include <afx/Platform.h>
+
+#include <exception>
+#include <vector>
+
+class AFX_MODULE_STATE;
+class CWinThread;
+class CWnd;
+
+namespace afxdetail
+{
+
+struct TemporaryPurge
+{
+    void (*purge)(void* map);
+    void* map;
+};
+
+/// One block a thread, made when it is first asked for and kept as long as the process: windows may outlive
+/// the destructors of thread-local objects.
+struct ThreadState
+{
+    AFX_MODULE_STATE* moduleState = nullptr; ///< pushed by AFX_MANAGE_STATE; null means the process's
+    CWinThread* currentThread = nullptr;
+    MSG lastMessage{}; ///< the message being handled, for CWnd::Default
+    CWnd* windowBeingHooked = nullptr;
+    HHOOK cbtHook = nullptr;
+    std::vector<TemporaryPurge> temporaryPurges; ///< one a kind of handle
+    int dispatchDepth = 0; ///< window procedures of ours on the stack
+    std::exception_ptr pendingException;
+    CWnd* toolTip = nullptr;        ///< the thread's tooltip control
+    CWnd* toolTipOwner = nullptr;   ///< the window whose tool it shows
+    INT_PTR toolTipHit = -1;        ///< the tool under the pointer, -1 for none
+    int waitCursorCount = 0;
+    HCURSOR waitCursorRestore = nullptr;
+};
+
+OVOMFC_API ThreadState& threadState();
+
+} // namespace afxdetail

@@ -1,0 +1,49 @@
+// Message boxes.
+#include <afxwin.h>
+
+#include <detail/pending.h>
+
+namespace
+{
+
+/// A message without an icon of its own gets the exclamation mark.
+UINT withIcon(UINT type)
+{
+    return (type & MB_ICONMASK) ? type : type | MB_ICONEXCLAMATION;
+}
+
+int show(LPCTSTR text, UINT type)
+{
+    HWND topLevel = nullptr;
+    CWnd* owner = CWnd::GetSafeOwner(nullptr, &topLevel);
+    const HWND ownerWnd = owner->GetSafeHwnd();
+    if (topLevel)
+        ::EnableWindow(topLevel, FALSE);
+    // A task-modal box disables the thread's windows by itself; it must then have no owner.
+    const HWND given = (type & MB_TASKMODAL) ? nullptr : ownerWnd;
+    const int answer = ::MessageBoxW(given, text, AfxGetAppName(), withIcon(type));
+    if (topLevel)
+        ::EnableWindow(topLevel, TRUE);
+    afxdetail::rethrowPendingException();
+    return answer;
+}
+
+} // namespace
+
+int CWinApp::DoMessageBox(LPCTSTR text, UINT type, UINT)
+{
+    return show(text, type);
+}
+
+int AFXAPI AfxMessageBox(LPCTSTR text, UINT type, UINT helpId)
+{
+    CWinApp* app = AfxGetApp();
+    return app ? app->DoMessageBox(text, type, helpId) : show(text, type);
+}
+
+int AFXAPI AfxMessageBox(UINT textId, UINT type, UINT helpId)
+{
+    CString text;
+    text.LoadString(textId);
+    return AfxMessageBox(text, type, helpId == static_cast<UINT>(-1) ? textId : helpId);
+}

@@ -1,0 +1,8 @@
+target_sources(ovomfc PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/app.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/appmain.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/commandline.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/help.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/messagebox.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/profile.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/thread.cpp)

@@ -1,0 +1,11 @@
+target_sources(ovomfc PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/bitmap.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/brush.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/dc.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/dcdraw.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/font.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/gdiobject.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/palette.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/pen.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/region.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/windowdcs.cpp)

@@ -1,0 +1,29 @@
+// Starting OLE.
+#include <afxole.h>
+
+namespace
+{
+
+bool s_started = false;
+
+} // namespace
+
+BOOL AFXAPI AfxOleInit()
+{
+    if (s_started)
+        return TRUE;
+    if (FAILED(::OleInitialize(nullptr)))
+        return FALSE;
+    s_started = true;
+    AfxRegisterTerm(&AfxOleTerm);
+    return TRUE;
+}
+
+void AFXAPI AfxOleTerm()
+{
+    if (!s_started)
+        return;
+    s_started = false;
+    ::OleFlushClipboard();
+    ::OleUninitialize();
+}

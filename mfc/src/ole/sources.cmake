@@ -1,0 +1,2 @@
+target_sources(ovomfc PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/oleinit.cpp)

@@ -1,0 +1,88 @@
+// CWnd: loops that run until one window says so.
+#include <afxwin.h>
+#include <afxpriv.h>
+
+#include "wndflags.h"
+
+#include <detail/pending.h>
+
+using namespace afxdetail;
+
+namespace
+{
+
+/// Marks a window as running a loop while it lives; the window may be destroyed meanwhile, its object not.
+class ModalMark
+{
+public:
+    explicit ModalMark(UINT& flags)
+        : m_flags(flags)
+    {
+        m_flags |= kModalLoop | kContinueModal;
+    }
+    ~ModalMark() { m_flags &= ~(kModalLoop | kContinueModal); }
+    ModalMark(const ModalMark&) = delete;
+    ModalMark& operator=(const ModalMark&) = delete;
+
+private:
+    UINT& m_flags;
+};
+
+bool queueIsEmpty()
+{
+    MSG next;
+    return callOut([&] { return !::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE); });
+}
+
+} // namespace
+
+int CWnd::RunModalLoop(DWORD flags)
+{
+    ASSERT(::IsWindow(m_hWnd));
+    const ModalMark mark(m_nFlags);
+    const HWND owner = ::GetParent(m_hWnd);
+    bool show = (flags & MLF_SHOWONIDLE) && !(GetStyle() & WS_VISIBLE);
+    bool idle = true;
+    LONG idleCount = 0;
+
+    for (;;) {
+        while (idle && queueIsEmpty()) {
+            if (std::exchange(show, false)) {
+                ShowWindow(SW_SHOWNORMAL);
+                UpdateWindow();
+            }
+            if (!(flags & MLF_NOIDLEMSG) && owner && idleCount == 0)
+                callOut([&] { ::SendMessageW(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd)); });
+            if ((flags & MLF_NOKICKIDLE) || !SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, idleCount++))
+                idle = false;
+        }
+        if (!ContinueModal()) // ended while idling
+            break;
+        if (!AfxPumpMessage()) {
+            AfxPostQuitMessage(0); // for the loop outside
+            return -1;
+        }
+        if (!ContinueModal())
+            break;
+        CWinThread* thread = AfxGetThread();
+        if (!thread || thread->IsIdleMessage(AfxGetCurrentMessage())) {
+            idle = true;
+            idleCount = 0;
+        }
+    }
+    return m_nModalResult;
+}
+
+BOOL CWnd::ContinueModal()
+{
+    return (m_nFlags & kContinueModal) != 0;
+}
+
+void CWnd::EndModalLoop(int result)
+{
+    m_nModalResult = result;
+    if (!(m_nFlags & kContinueModal))
+        return;
+    m_nFlags &= ~kContinueModal;
+    PostMessage(WM_NULL); // the loop may be waiting
+}

@@ -1,0 +1,11 @@
+// Internal to the window engine and the dialogs: bits of CWnd::m_nFlags.
+#pragma once
+
+namespace afxdetail
+{
+
+inline constexpr unsigned kModalLoop = 0x0010;
+inline constexpr unsigned kContinueModal = 0x0020;
+inline constexpr unsigned kToolTips = 0x0001;
+
+} // namespace afxdetail

@@ -1,0 +1,131 @@
+// CWnd: centring, and laying out control bars.
+#include <afxwin.h>
+#include <afxpriv.h>
+
+namespace
+{
+
+CRect workAreaAt(HWND wnd)
+{
+    MONITORINFO info{};
+    info.cbSize = sizeof info;
+    ::GetMonitorInfoW(::MonitorFromWindow(wnd, MONITOR_DEFAULTTONEAREST), &info);
+    return info.rcWork;
+}
+
+CRect screenRectOf(HWND wnd)
+{
+    CRect rect;
+    ::GetWindowRect(wnd, &rect);
+    return rect;
+}
+
+/// The nearest place inside `area`; the left and the top edge win over the others.
+void keepInside(CRect& rect, const CRect& area)
+{
+    if (rect.right > area.right)
+        rect.OffsetRect(area.right - rect.right, 0);
+    if (rect.bottom > area.bottom)
+        rect.OffsetRect(0, area.bottom - rect.bottom);
+    if (rect.left < area.left)
+        rect.OffsetRect(area.left - rect.left, 0);
+    if (rect.top < area.top)
+        rect.OffsetRect(0, area.top - rect.top);
+}
+
+} // namespace
+
+void CWnd::CenterWindow(CWnd* alternate)
+{
+    const bool child = (GetStyle() & WS_CHILD) != 0;
+    HWND reference = alternate->GetSafeHwnd();
+    if (!reference)
+        reference = child ? ::GetParent(m_hWnd) : ::GetWindow(m_hWnd, GW_OWNER);
+
+    CRect area;
+    CRect around;
+    if (child) {
+        ::GetClientRect(::GetParent(m_hWnd), &area);
+        ::GetClientRect(reference, &around);
+        ::MapWindowPoints(reference, ::GetParent(m_hWnd), reinterpret_cast<POINT*>(&around), 2);
+    } else {
+        const bool usable = reference && ::IsWindowVisible(reference) && !::IsIconic(reference);
+        area = workAreaAt(usable ? reference : m_hWnd);
+        around = usable ? screenRectOf(reference) : area;
+    }
+
+    CRect rect = screenRectOf(m_hWnd);
+    const CSize size = rect.Size();
+    rect = CRect(CPoint((around.left + around.right - size.cx) / 2, (around.top + around.bottom - size.cy) / 2), size);
+    keepInside(rect, area);
+    SetWindowPos(nullptr, rect.left, rect.top, -1, -1, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CWnd::CalcWindowRect(LPRECT clientRect, UINT adjustType)
+{
+    DWORD exStyle = GetExStyle();
+    if (adjustType == adjustBorder)
+        exStyle &= ~static_cast<DWORD>(WS_EX_CLIENTEDGE);
+    ::AdjustWindowRectEx(clientRect, GetStyle(), FALSE, exStyle);
+}
+
+void AFXAPI AfxRepositionWindow(AFX_SIZEPARENTPARAMS* layout, HWND wnd, LPCRECT rect)
+{
+    const HWND parent = ::GetParent(wnd);
+    if (layout && !layout->hDWP)
+        return;
+    CRect old = screenRectOf(wnd);
+    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&old), 2);
+    if (old == *rect)
+        return;
+    constexpr UINT kFlags = SWP_NOACTIVATE | SWP_NOZORDER;
+    const CRect place(rect);
+    if (layout)
+        layout->hDWP =
+            ::DeferWindowPos(layout->hDWP, wnd, nullptr, place.left, place.top, place.Width(), place.Height(), kFlags);
+    else
+        ::SetWindowPos(wnd, nullptr, place.left, place.top, place.Width(), place.Height(), kFlags);
+}
+
+void CWnd::RepositionBars(UINT first, UINT last, UINT leftOver, UINT flag, LPRECT rect, LPCRECT client, BOOL stretch)
+{
+    const UINT kind = flag & ~static_cast<UINT>(CBRS_ALIGN_ANY);
+    AFX_SIZEPARENTPARAMS layout{};
+    layout.bStretch = stretch;
+    if (client)
+        layout.rect = *client;
+    else
+        GetClientRect(&layout.rect);
+    if (kind != reposQuery)
+        layout.hDWP = ::BeginDeferWindowPos(8);
+
+    HWND rest = nullptr;
+    for (HWND child = ::GetTopWindow(m_hWnd); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        const UINT id = static_cast<UINT>(::GetDlgCtrlID(child)) & 0xFFFF;
+        if (id == leftOver)
+            rest = child;
+        else if (id >= first && id <= last && FromHandlePermanent(child))
+            ::SendMessageW(child, WM_SIZEPARENT, 0, reinterpret_cast<LPARAM>(&layout));
+    }
+
+    if (kind == reposQuery) {
+        if (stretch)
+            *rect = layout.rect;
+        else
+            ::SetRect(rect, 0, 0, layout.sizeTotal.cx, layout.sizeTotal.cy);
+        return;
+    }
+    if (leftOver != 0 && rest) {
+        CWnd* left = FromHandle(rest);
+        if (kind == reposExtra) {
+            layout.rect.left += rect->left;
+            layout.rect.top += rect->top;
+            layout.rect.right -= rect->right;
+            layout.rect.bottom -= rect->bottom;
+        }
+        left->CalcWindowRect(&layout.rect);
+        AfxRepositionWindow(&layout, rest, &layout.rect);
+    }
+    if (layout.hDWP)
+        afxdetail::callOut([&] { ::EndDeferWindowPos(layout.hDWP); });
+}

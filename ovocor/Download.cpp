@@ -1,0 +1,199 @@
+#include <ovocor/Download.h>
+
+#include <ovocor/CacheFile.h>
+#include <ovocor/Text.h>
+#include <ovocor/Url.h>
+#include <ovocor/WinError.h>
+
+#include <cwchar>
+#include <vector>
+
+namespace OVO
+{
+
+namespace
+{
+
+constexpr DWORD kTimeout = 30'000; // milliseconds, for each step of a conversation
+constexpr std::size_t kPiece = 64 * 1024;
+
+bool isCertificateError(DWORD code)
+{
+    switch (code) {
+    case ERROR_INTERNET_SEC_CERT_DATE_INVALID:
+    case ERROR_INTERNET_SEC_CERT_CN_INVALID:
+    case ERROR_INTERNET_SEC_CERT_ERRORS:
+    case ERROR_INTERNET_SEC_CERT_REV_FAILED:
+    case ERROR_INTERNET_SEC_CERT_REVOKED:
+    case ERROR_INTERNET_INVALID_CA:
+    case ERROR_INTERNET_SECURITY_CHANNEL_ERROR:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// What a person can do about an answer of a web server.
+const wchar_t* remedyFor(DWORD status)
+{
+    switch (status) {
+    case HTTP_STATUS_DENIED:
+    case HTTP_STATUS_FORBIDDEN:
+    case HTTP_STATUS_PROXY_AUTH_REQ:
+        return L"Access to it needs permission; ask whoever runs the server or the network.";
+    case HTTP_STATUS_NOT_FOUND:
+    case HTTP_STATUS_GONE:
+        return L"The file is not there; check the address.";
+    default:
+        return status >= HTTP_STATUS_SERVER_ERROR ? L"The server has a problem; try again later."
+                                                  : L"Check the address, or try again later.";
+    }
+}
+
+} // namespace
+
+Download::Download(const std::wstring& url)
+    : m_inet(WinInet::get())
+    , m_url(url)
+    , m_canonical(canonicalizeUrl(url))
+{
+    checkAddress();
+}
+
+void Download::checkAddress()
+{
+    URL_COMPONENTSW parts{};
+    parts.dwStructSize = sizeof parts;
+    parts.dwSchemeLength = 1; // asked for by not being 0
+    parts.dwHostNameLength = 1;
+    if (!m_inet.crackUrl(m_canonical.c_str(), static_cast<DWORD>(m_canonical.size()), 0, &parts))
+        failWith(::GetLastError());
+
+    m_http = parts.nScheme == INTERNET_SCHEME_HTTP || parts.nScheme == INTERNET_SCHEME_HTTPS;
+    if (!m_http && parts.nScheme != INTERNET_SCHEME_FTP)
+        fail(L"only http, https and ftp addresses can be downloaded.");
+    if (parts.dwHostNameLength == 0)
+        fail(L"the address names no server. Check how it is written.");
+    m_host.assign(parts.lpszHostName, parts.dwHostNameLength);
+}
+
+std::wstring Download::run()
+{
+    const InternetHandle session(
+        m_inet.open(L"ovocor/11", INTERNET_OPEN_TYPE_PRECONFIG, nullptr, nullptr, 0));
+    if (!session)
+        failWith(::GetLastError());
+    limitWaiting(session.get());
+
+    // The file is written here and entered into the cache when it is known to be whole; WinINet itself would
+    // also keep the first part of a body that was cut short.
+    constexpr DWORD kFlags = INTERNET_FLAG_RELOAD | INTERNET_FLAG_PRAGMA_NOCACHE |
+                             INTERNET_FLAG_NO_CACHE_WRITE | INTERNET_FLAG_NO_UI;
+    const InternetHandle request(m_inet.openUrl(session.get(), m_canonical.c_str(), nullptr, 0, kFlags, 0));
+    if (!request)
+        failWith(::GetLastError());
+    checkAnswer(request.get());
+    const std::optional<std::uint64_t> announced = announcedSize(request.get());
+
+    CacheFile file(m_url);
+    const std::uint64_t size = copy(request.get(), file);
+    if (announced && size != *announced)
+        fail(stringPrintf(L"the connection ended after %I64u of %I64u bytes. Try again.", size, *announced));
+    file.commit();
+    return file.path();
+}
+
+/// The caller's thread waits meanwhile, so it must not wait for ever.
+void Download::limitWaiting(HINTERNET session) const
+{
+    const auto set = [&](DWORD option, DWORD value) {
+        m_inet.setOption(session, option, &value, sizeof value);
+    };
+    set(INTERNET_OPTION_CONNECT_TIMEOUT, kTimeout);
+    set(INTERNET_OPTION_SEND_TIMEOUT, kTimeout);
+    set(INTERNET_OPTION_RECEIVE_TIMEOUT, kTimeout);
+    set(INTERNET_OPTION_CONNECT_RETRIES, 1);
+}
+
+void Download::checkAnswer(HINTERNET request) const
+{
+    if (!m_http)
+        return;
+    DWORD status = 0;
+    DWORD size = sizeof status;
+    if (!m_inet.queryInfo(request, HTTP_QUERY_STATUS_CODE | HTTP_QUERY_FLAG_NUMBER, &status, &size, nullptr))
+        failWith(::GetLastError());
+    if (status >= HTTP_STATUS_OK && status < HTTP_STATUS_AMBIGUOUS)
+        return;
+
+    wchar_t reason[128]{};
+    size = sizeof reason;
+    m_inet.queryInfo(request, HTTP_QUERY_STATUS_TEXT, reason, &size, nullptr);
+    fail(stringPrintf(L"the server \"%s\" answered %lu%s%s. %s", m_host.c_str(), status, *reason ? L" " : L"",
+                      reason, remedyFor(status)));
+}
+
+std::optional<std::uint64_t> Download::announcedSize(HINTERNET request) const
+{
+    wchar_t digits[32]{};
+    DWORD size = sizeof digits;
+    if (!m_http || !m_inet.queryInfo(request, HTTP_QUERY_CONTENT_LENGTH, digits, &size, nullptr))
+        return std::nullopt;
+    return std::wcstoull(digits, nullptr, 10);
+}
+
+std::uint64_t Download::copy(HINTERNET request, CacheFile& file) const
+{
+    std::vector<char> piece(kPiece);
+    std::uint64_t total = 0;
+    while (true) {
+        DWORD got = 0;
+        if (!m_inet.readFile(request, piece.data(), static_cast<DWORD>(piece.size()), &got))
+            failWith(::GetLastError());
+        if (got == 0)
+            return total;
+        file.write(piece.data(), got);
+        total += got;
+    }
+}
+
+void Download::fail(const std::wstring& cause) const
+{
+    throw OvoError(L"\"" + m_url + L"\" cannot be downloaded: " + cause);
+}
+
+void Download::failWith(DWORD code) const
+{
+    fail(causeOf(code));
+}
+
+std::wstring Download::causeOf(DWORD code) const
+{
+    switch (code) {
+    case ERROR_INTERNET_INVALID_URL:
+    case ERROR_INTERNET_UNRECOGNIZED_SCHEME:
+        return L"the address is not valid. Check how it is written.";
+    case ERROR_INTERNET_NAME_NOT_RESOLVED:
+        return L"the server \"" + m_host + L"\" is not known. Check the address and the network connection.";
+    case ERROR_INTERNET_CANNOT_CONNECT:
+        return L"the server \"" + m_host +
+               L"\" cannot be reached or refuses the connection. Check the address, the network connection "
+               L"and the "
+               L"proxy settings.";
+    case ERROR_INTERNET_TIMEOUT:
+        return L"the server \"" + m_host + L"\" does not answer. Try again later.";
+    case ERROR_INTERNET_CONNECTION_ABORTED:
+    case ERROR_INTERNET_CONNECTION_RESET:
+    case ERROR_HTTP_INVALID_SERVER_RESPONSE:
+        return L"the connection to the server \"" + m_host + L"\" was broken off. Try again.";
+    default:
+        break;
+    }
+    const std::wstring text = formatMessage(code, m_inet.module);
+    if (isCertificateError(code))
+        return L"the certificate of the server \"" + m_host + L"\" is not accepted (" + text +
+               L"). Check the date of this computer and the address.";
+    return text;
+}
+
+} // namespace OVO

@@ -1,0 +1,42 @@
+/// Not exported. One download into the system's URL cache.
+#pragma once
+
+#include <ovocor/WinInet.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace OVO
+{
+
+class CacheFile;
+
+/// Fetches one address. Every failure is an OvoError that names the address, the cause and a remedy.
+class Download
+{
+public:
+    explicit Download(const std::wstring& url);
+
+    /// Gives the full name of the local file.
+    std::wstring run();
+
+private:
+    void checkAddress();
+    void limitWaiting(HINTERNET session) const;
+    void checkAnswer(HINTERNET request) const;
+    std::optional<std::uint64_t> announcedSize(HINTERNET request) const;
+    std::uint64_t copy(HINTERNET request, CacheFile& file) const;
+
+    [[noreturn]] void fail(const std::wstring& cause) const;
+    [[noreturn]] void failWith(DWORD code) const;
+    std::wstring causeOf(DWORD code) const;
+
+    const WinInet& m_inet;
+    std::wstring m_url;
+    std::wstring m_canonical;
+    std::wstring m_host;
+    bool m_http = false;
+};
+
+} // namespace OVO

@@ -1,0 +1,30 @@
+#include <ovocor/Url.h>
+
+#include <ovocor/Download.h>
+#include <ovocor/OvoError.h>
+#include <ovocor/WinError.h>
+#include <ovocor/WinInet.h>
+
+std::wstring canonicalizeUrl(const std::wstring& url)
+{
+    const OVO::WinInet& inet = OVO::WinInet::get();
+    std::wstring canonical(url.size() + 64, L'\0');
+    while (true) {
+        auto size = static_cast<DWORD>(canonical.size());
+        if (!url.empty() && inet.canonicalizeUrl(url.c_str(), canonical.data(), &size, 0)) {
+            canonical.resize(size);
+            return canonical;
+        }
+        const DWORD code = url.empty() ? ERROR_INTERNET_INVALID_URL : ::GetLastError();
+        // The size needed counts the terminator, and never shrinks what was offered: the loop ends.
+        if (code != ERROR_INSUFFICIENT_BUFFER || size <= canonical.size())
+            throw OvoError(L"The address \"" + url + L"\" is not valid (" + formatMessage(code, inet.module) +
+                           L"). Check how it is written.");
+        canonical.resize(size);
+    }
+}
+
+std::wstring downloadUrlToCache(const std::wstring& url)
+{
+    return OVO::Download(url).run();
+}

@@ -1,0 +1,20 @@
+/// Web addresses and downloads.
+#pragma once
+
+#include <ovocor/export.h>
+
+#include <string>
+
+/// The canonical form of an address: unsafe characters escaped, "." and ".." resolved. Throws OvoError,
+/// naming the address, when it has none.
+OVOCOR_API std::wstring canonicalizeUrl(const std::wstring& url);
+
+/// Downloads an http, https or ftp address into the system's URL cache, always anew, and gives the full name
+/// of the local file. The cache entry is kept under `url`: ::DeleteUrlCacheEntryW(url) removes it with the
+/// file.
+///
+/// Returns when the download is complete. Throws OvoError with a text that names the address, what went wrong
+/// and what to try: the address is not valid, the server is not found, cannot be reached or does not answer
+/// (30 seconds for each step), it answers with an error, the connection ends before all of the announced size
+/// has come, the disk is full. Then nothing new is kept; a file of an earlier download stays.
+OVOCOR_API std::wstring downloadUrlToCache(const std::wstring& url);

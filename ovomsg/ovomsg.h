@@ -1,0 +1,13 @@
+/// The message catalogue: numbered texts.
+///
+///     throw OvoError(stringPrintf(ovoMsg(OVOMSG_URL_SCHEME).c_str(), url.c_str()));
+#pragma once
+
+#include <ovomsg/MessageIds.h>
+#include <ovomsg/export.h>
+
+#include <string>
+
+/// The text of a message, a printf format without a line end. A number without a text gives a text that names
+/// the number and holds no format of its own.
+OVOMSG_API std::wstring ovoMsg(unsigned id);

@@ -1,0 +1,228 @@
+// How the message box is answered: mouse, keys, close box, help.
+#include "ImportPatch.h"
+#include "MessageBoxScene.h"
+#include "support/RecordingParent.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+/// The answer when the box is closed by its title bar's button or Alt+F4.
+int answerByClosing(UINT type)
+{
+    auto closing = whenOpen().holding(VK_MENU).key(VK_F4).letGo(VK_MENU).start();
+    return show({.type = type});
+}
+
+int answerByKey(UINT type, WORD key)
+{
+    auto answering = whenOpen().key(key).start();
+    return show({.type = type});
+}
+
+int answerByClicking(UINT type, int button)
+{
+    auto clicking = whenOpen().click([button] { return ::GetDlgItem(openBox(), button); }).start();
+    return show({.type = type});
+}
+
+int answerByMnemonic(UINT type, WORD letter)
+{
+    auto answering = whenOpen().holding(VK_MENU).key(letter).letGo(VK_MENU).start();
+    return show({.type = type});
+}
+
+int focusedId(HWND box)
+{
+    const HWND focus = ::GetFocus();
+    return ::GetParent(focus) == box ? ::GetDlgCtrlID(focus) : 0;
+}
+
+HRSRC WINAPI noDialogs(HMODULE module, LPCWSTR name, LPCWSTR type)
+{
+    if (type == RT_DIALOG) {
+        ::SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
+        return nullptr;
+    }
+    return ::FindResourceW(module, name, type);
+}
+
+} // namespace
+
+TEST(MessageBoxAnswer, EveryButtonOfEverySetAnswersItsIdWhenClicked)
+{
+    const struct
+    {
+        UINT type;
+        std::vector<int> buttons;
+    } rows[] = {
+        {MB_OK, {IDOK}},
+        {MB_OKCANCEL, {IDOK, IDCANCEL}},
+        {MB_ABORTRETRYIGNORE, {IDABORT, IDRETRY, IDIGNORE}},
+        {MB_YESNOCANCEL, {IDYES, IDNO, IDCANCEL}},
+        {MB_RETRYCANCEL, {IDRETRY, IDCANCEL}},
+        {OVOMB_EXTBUTTONS | 3, {IDYES, IDYESTOALL, IDNO, IDNOTOALL, IDCANCEL}},
+    };
+    for (const auto& row : rows)
+        for (const int button : row.buttons)
+            EXPECT_EQ(answerByClicking(row.type, button), button) << std::hex << row.type;
+}
+
+TEST(MessageBoxAnswer, EnterAnswersTheDefaultButton)
+{
+    EXPECT_EQ(answerByKey(MB_YESNOCANCEL, VK_RETURN), IDYES);
+    EXPECT_EQ(answerByKey(MB_YESNOCANCEL | MB_DEFBUTTON2, VK_RETURN), IDNO);
+    EXPECT_EQ(answerByKey(OVOMB_EXTBUTTONS | 3 | OVOMB_EXTDEFBUTTON | 0x400, VK_RETURN), IDCANCEL);
+    EXPECT_EQ(answerByKey(MB_OK | MB_DEFBUTTON3, VK_RETURN), IDOK);
+}
+
+TEST(MessageBoxAnswer, EnterInTheTextAnswersTheDefaultButton)
+{
+    auto answering = whenOpen()
+                         .click([] { return textControl(openBox()); })
+                         .waitFor("focus in the text", [] { return ::GetFocus() == textControl(openBox()); })
+                         .key(VK_RETURN)
+                         .start();
+    EXPECT_EQ(show({.type = MB_YESNO | MB_DEFBUTTON2}), IDNO);
+}
+
+TEST(MessageBoxAnswer, TheArrowAndTabKeysReachTheOtherButtons)
+{
+    auto answering = whenOpen().key(VK_TAB).key(VK_SPACE).start();
+    EXPECT_EQ(show({.type = MB_YESNOCANCEL}), IDNO);
+}
+
+TEST(MessageBoxAnswer, EscapeAnswersCancelEvenWithoutACancelButton)
+{
+    for (const UINT type : {MB_OK, MB_OKCANCEL, MB_ABORTRETRYIGNORE, MB_YESNOCANCEL, MB_YESNO, MB_RETRYCANCEL})
+        EXPECT_EQ(answerByKey(type, VK_ESCAPE), IDCANCEL) << type;
+}
+
+TEST(MessageBoxAnswer, TheCloseBoxAnswersTheMildestButtonThereIs)
+{
+    EXPECT_EQ(answerByClosing(MB_OK), IDOK);
+    EXPECT_EQ(answerByClosing(MB_OKCANCEL), IDCANCEL);
+    EXPECT_EQ(answerByClosing(MB_ABORTRETRYIGNORE), IDIGNORE);
+    EXPECT_EQ(answerByClosing(MB_YESNOCANCEL), IDCANCEL);
+    EXPECT_EQ(answerByClosing(MB_YESNO), IDNO);
+    EXPECT_EQ(answerByClosing(MB_RETRYCANCEL), IDCANCEL);
+    EXPECT_EQ(answerByClosing(OVOMB_EXTBUTTONS | 4), IDNO);
+    EXPECT_EQ(answerByClosing(OVOMB_EXTBUTTONS | 1), IDCANCEL);
+}
+
+TEST(MessageBoxAnswer, MnemonicsAnswer)
+{
+    EXPECT_EQ(answerByMnemonic(MB_YESNO, 'Y'), IDYES);
+    EXPECT_EQ(answerByMnemonic(MB_YESNO, 'N'), IDNO);
+}
+
+TEST(MessageBoxAnswer, NoTwoButtonsOfABoxShareAMnemonic)
+{
+    for (const UINT extension : {0u, OVOMB_EXTBUTTONS}) {
+        for (UINT set = 0; set <= 5; ++set) {
+            inspect({.type = extension | set | MB_HELP}, [](HWND box) {
+                std::wstring letters;
+                for (const int id : buttonsFromTheLeft(box)) {
+                    const std::wstring label = windowText(::GetDlgItem(box, id));
+                    const std::size_t mark = label.find(L'&');
+                    if (mark != std::wstring::npos)
+                        letters += static_cast<wchar_t>(::towlower(label[mark + 1]));
+                    else
+                        EXPECT_TRUE(id == IDOK || id == IDCANCEL) << "no mnemonic: " << id;
+                }
+                std::sort(letters.begin(), letters.end());
+                EXPECT_EQ(std::adjacent_find(letters.begin(), letters.end()), letters.end());
+            });
+        }
+    }
+}
+
+TEST(MessageBoxAnswer, TheDefaultButtonHasTheFocus)
+{
+    const struct
+    {
+        UINT type;
+        int id;
+    } rows[] = {
+        {MB_YESNO, IDYES},
+        {MB_YESNO | MB_DEFBUTTON2, IDNO},
+        {MB_YESNO | MB_HELP | MB_DEFBUTTON3, IDHELP},
+        {MB_OK | MB_DEFBUTTON3, IDOK},
+        {OVOMB_EXTBUTTONS | 3 | MB_HELP | OVOMB_EXTDEFBUTTON | 0x500, IDHELP},
+    };
+    for (const auto& row : rows) {
+        inspect({.type = row.type}, [&row](HWND box) {
+            EXPECT_EQ(focusedId(box), row.id);
+            const LONG style = ::GetWindowLongW(::GetDlgItem(box, row.id), GWL_STYLE);
+            EXPECT_EQ(style & 0xF, BS_DEFPUSHBUTTON);
+        });
+    }
+}
+
+TEST(MessageBoxAnswer, HelpComesFirstInTheTabOrder)
+{
+    inspect({.type = MB_YESNO | MB_HELP}, [](HWND box) {
+        std::vector<int> order;
+        for (HWND wnd = nullptr; (wnd = ::FindWindowExW(box, wnd, L"BUTTON", nullptr)) != nullptr;)
+            order.push_back(::GetDlgCtrlID(wnd));
+        EXPECT_EQ(order, (std::vector<int>{IDHELP, IDYES, IDNO}));
+    });
+}
+
+TEST(MessageBoxAnswer, TheHelpButtonTellsTheOwnerAndLeavesTheBoxOpen)
+{
+    static UINT s_help = 0;
+    static WPARAM s_box = 0;
+    static int s_times = 0;
+    class HelpfulOwner : public CWnd
+    {
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == s_help) {
+                ++s_times;
+                s_box = wParam;
+            }
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    };
+    s_help = ::RegisterWindowMessageW(L"commdlg_help");
+    s_times = 0;
+    HelpfulOwner owner;
+    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP, 0, 0, 200, 200, nullptr, nullptr);
+
+    HWND box = nullptr;
+    auto story = whenOpen()
+                     .then([&box] { box = openBox(); })
+                     .click([] { return ::GetDlgItem(openBox(), IDHELP); })
+                     .waitFor("the owner to hear", [] { return s_times == 1; })
+                     .then([&box] { EXPECT_EQ(openBox(), box); })
+                     .key(VK_ESCAPE)
+                     .start();
+    EXPECT_EQ(show({.type = MB_YESNO | MB_HELP, .owner = owner.m_hWnd}), IDCANCEL);
+    story.finish();
+    EXPECT_EQ(s_times, 1);
+    EXPECT_EQ(reinterpret_cast<HWND>(s_box), box);
+    owner.DestroyWindow();
+}
+
+TEST(MessageBoxAnswer, TheOwnerIsDisabledMeanwhileAndNoLonger)
+{
+    CWnd owner;
+    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 300, 200, nullptr,
+                   nullptr);
+    bool enabledMeanwhile = true;
+    inspect({.owner = owner.m_hWnd}, [&](HWND) { enabledMeanwhile = owner.IsWindowEnabled() != FALSE; });
+    EXPECT_FALSE(enabledMeanwhile);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    owner.DestroyWindow();
+}
+
+TEST(MessageBoxAnswer, ABoxThatCannotBeCreatedAnswersMinusOne)
+{
+    const ImportPatch patch{L"ovomfc.dll", "FindResourceW", reinterpret_cast<void*>(&noDialogs)};
+    EXPECT_EQ(show({}), -1);
+}

@@ -1,0 +1,154 @@
+// The position that the message box remembers, and its help key.
+#include "MessageBoxScene.h"
+#include "support/TemporaryProfile.h"
+#include "support/TestApp.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+CPoint defaultButtonPlace(HWND box, int id)
+{
+    return screenRect(::GetDlgItem(box, id)).TopLeft();
+}
+
+
+class MessageBoxPosition : public ::testing::Test
+{
+protected:
+    static CString saved(const wchar_t* key) { return AfxGetApp()->GetProfileString(L"settings", key, L"(none)"); }
+    static void save(const wchar_t* key, const wchar_t* text)
+    {
+        AfxGetApp()->WriteProfileString(L"settings", key, text);
+    }
+
+    /// Drags the box by its title bar, closes it, and gives the place where its OK button was then.
+    static CPoint moveAndClose(const BoxArguments& arguments, int right, int down)
+    {
+        CPoint place;
+        auto moving = whenOpen()
+                          .press([] {
+                              const CRect box = screenRect(openBox());
+                              return CPoint(box.CenterPoint().x, box.top + 12);
+                          })
+                          .moveBy(right, down)
+                          .release()
+                          .then([&place] { place = defaultButtonPlace(openBox(), IDOK); })
+                          .key(VK_RETURN)
+                          .start();
+        show(arguments);
+        moving.finish();
+        return place;
+    }
+
+    static CPoint okPlace(const BoxArguments& arguments)
+    {
+        CPoint place;
+        inspect(arguments, [&place](HWND box) { place = defaultButtonPlace(box, IDOK); });
+        return place;
+    }
+
+private:
+    TemporaryProfile m_profile;
+};
+
+std::wstring asText(CPoint point)
+{
+    return std::to_wstring(point.x) + L"," + std::to_wstring(point.y);
+}
+
+} // namespace
+
+TEST_F(MessageBoxPosition, ABoxThatWasNotMovedIsNotRemembered)
+{
+    inspect({.settingsKey = L"still"}, [](HWND) {});
+    EXPECT_STREQ(saved(L"still"), L"(none)");
+}
+
+TEST_F(MessageBoxPosition, AMovedBoxRemembersWhereItsDefaultButtonWas)
+{
+    const CPoint before = okPlace({.settingsKey = L"moved"});
+    const CPoint after = moveAndClose({.settingsKey = L"moved"}, 60, 40);
+    EXPECT_EQ(after, before + CSize(60, 40));
+    EXPECT_EQ(saved(L"moved").GetString(), asText(after));
+}
+
+TEST_F(MessageBoxPosition, TheNextBoxOpensWithItsDefaultButtonThere)
+{
+    const CPoint place = moveAndClose({.settingsKey = L"again"}, 50, 30);
+    EXPECT_EQ(okPlace({.settingsKey = L"again"}), place);
+    EXPECT_EQ(okPlace({.text = L"A text of quite another\nsize\nthan the box before had.", .settingsKey = L"again"}),
+              place);
+    EXPECT_NE(okPlace({.settingsKey = L"another key"}), place);
+}
+
+TEST_F(MessageBoxPosition, TheNextBoxIsNotRememberedAnewUnlessItIsMoved)
+{
+    moveAndClose({.settingsKey = L"once"}, 50, 30);
+    save(L"once", L"300,300");
+    okPlace({.settingsKey = L"once"});
+    EXPECT_STREQ(saved(L"once"), L"300,300");
+}
+
+TEST_F(MessageBoxPosition, TheEmptyKeyRemembersToo)
+{
+    const CPoint place = moveAndClose({.settingsKey = L""}, 45, 25);
+    EXPECT_EQ(saved(L"").GetString(), asText(place));
+    EXPECT_EQ(okPlace({.settingsKey = L""}), place);
+    EXPECT_EQ(okPlace({.settingsKey = nullptr}), place) << "no key is the empty key";
+}
+
+TEST_F(MessageBoxPosition, APlaceOffTheScreenIsPulledIntoView)
+{
+    save(L"off", L"9000,8000");
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    inspect({.settingsKey = L"off"}, [&work](HWND box) {
+        EXPECT_EQ(screenRect(box).right, work.right);
+        EXPECT_EQ(screenRect(box).bottom, work.bottom);
+    });
+}
+
+TEST_F(MessageBoxPosition, WhatCannotBeReadOrHoldsMinusOneIsNotRemembered)
+{
+    const CPoint centred = okPlace({.settingsKey = L"fresh"});
+    for (const wchar_t* text : {L"oak", L"17", L"17;30", L"-1,30", L"30,-1", L""}) {
+        save(L"odd", text);
+        EXPECT_EQ(okPlace({.settingsKey = L"odd"}), centred) << text;
+    }
+}
+
+TEST_F(MessageBoxPosition, NegativePlacesAreReadAndWritten)
+{
+    save(L"left", L"-40,200");
+    inspect({.settingsKey = L"left"}, [](HWND box) {
+        EXPECT_EQ(screenRect(box).left, 0) << "pulled back from the left";
+        EXPECT_EQ(defaultButtonPlace(box, IDOK).y, 200);
+    });
+}
+
+TEST(MessageBoxHelp, F1AsksForTheHelpPage)
+{
+    auto asking = whenOpen()
+                      .key(VK_F1)
+                      .waitFor("the help", [] { return !TestApp::instance().helps().empty(); })
+                      .then([] { EXPECT_NE(openBox(), nullptr); })
+                      .key(VK_ESCAPE)
+                      .start();
+    EXPECT_EQ(show({.helpId = 4711}), IDCANCEL);
+    asking.finish();
+    ASSERT_EQ(TestApp::instance().helps().size(), 1u);
+    EXPECT_EQ(TestApp::instance().helps()[0].data, 4711u);
+    EXPECT_EQ(TestApp::instance().helps()[0].command, 15u);
+}
+
+TEST(MessageBoxHelp, WithoutAHelpPageF1DoesNothing)
+{
+    auto asking = whenOpen().key(VK_F1).key(VK_ESCAPE).start();
+    EXPECT_EQ(show({.helpId = 0}), IDCANCEL);
+    asking.finish();
+    EXPECT_TRUE(TestApp::instance().helps().empty());
+}

@@ -1,0 +1,114 @@
+// The text of the message box: line ends, selecting, copying.
+#include "MessageBoxScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+std::wstring clipboardText()
+{
+    std::wstring text;
+    if (!::OpenClipboard(nullptr))
+        return L"(the clipboard cannot be opened)";
+    if (const HANDLE data = ::GetClipboardData(CF_UNICODETEXT)) {
+        text = static_cast<const wchar_t*>(::GlobalLock(data));
+        ::GlobalUnlock(data);
+    }
+    ::CloseClipboard();
+    return text;
+}
+
+void emptyClipboard()
+{
+    ASSERT_TRUE(::OpenClipboard(nullptr));
+    ::EmptyClipboard();
+    ::CloseClipboard();
+}
+
+} // namespace
+
+TEST(MessageBoxText, EveryKindOfLineEndStartsANewLine)
+{
+    inspect({.text = L"oak\r\nelm\nash\rfir\u2028yew\u2029box"}, [](HWND box) {
+        EXPECT_EQ(windowText(textControl(box)), L"oak\r\nelm\r\nash\r\nfir\r\nyew\r\nbox");
+        EXPECT_EQ(::SendMessageW(textControl(box), EM_GETLINECOUNT, 0, 0), 6);
+    });
+}
+
+TEST(MessageBoxText, AmpersandsAreText)
+{
+    inspect({.text = L"Oak & elm"}, [](HWND box) { EXPECT_EQ(windowText(textControl(box)), L"Oak & elm"); });
+}
+
+TEST(MessageBoxText, NoTextIsAnEmptyMessage)
+{
+    inspect({.text = L""}, [](HWND box) { EXPECT_EQ(windowText(textControl(box)), L""); });
+    inspect({.text = nullptr}, [](HWND box) { EXPECT_EQ(windowText(textControl(box)), L""); });
+}
+
+TEST(MessageBoxText, CannotBeTypedOver)
+{
+    auto typing = whenOpen()
+                      .click([] { return textControl(openBox()); })
+                      .type(L"elm")
+                      .then([] { EXPECT_EQ(windowText(textControl(openBox())), L"The message."); })
+                      .key(VK_ESCAPE)
+                      .start();
+    EXPECT_EQ(show({}), IDCANCEL);
+}
+
+TEST(MessageBoxText, CtrlCCopiesTheWholeMessageWhenNothingIsSelected)
+{
+    emptyClipboard();
+    auto copying = whenOpen()
+                       .holding(VK_CONTROL)
+                       .key('C')
+                       .letGo(VK_CONTROL)
+                       .waitFor("the text on the clipboard", [] { return !clipboardText().empty(); })
+                       .key(VK_ESCAPE)
+                       .start();
+    show({.text = L"oak\nelm"});
+    copying.finish();
+    EXPECT_EQ(clipboardText(), L"oak\r\nelm");
+}
+
+TEST(MessageBoxText, CtrlCCopiesTheSelectionWhereverTheFocusIs)
+{
+    for (const bool focusInText : {true, false}) {
+        emptyClipboard();
+        auto copying = whenOpen()
+                           .then([focusInText] {
+                               if (focusInText)
+                                   ::SetFocus(textControl(openBox()));
+                               ::SendMessageW(textControl(openBox()), EM_SETSEL, 4, 7);
+                           })
+                           .holding(VK_CONTROL)
+                           .key('C')
+                           .letGo(VK_CONTROL)
+                           .waitFor("the text on the clipboard", [] { return !clipboardText().empty(); })
+                           .key(VK_ESCAPE)
+                           .start();
+        show({.text = L"oak elm ash"});
+        copying.finish();
+        EXPECT_EQ(clipboardText(), L"elm");
+    }
+}
+
+TEST(MessageBoxText, CanBeSelectedWithTheMouse)
+{
+    emptyClipboard();
+    auto selecting = whenOpen()
+                         .doubleClick([] {
+                             CRect text = screenRect(textControl(openBox()));
+                             return CPoint(text.left + 8, text.top + 8);
+                         })
+                         .then([] { ::SendMessageW(textControl(openBox()), WM_COPY, 0, 0); })
+                         .key(VK_ESCAPE)
+                         .start();
+    show({.text = L"Oakwood"});
+    selecting.finish();
+    EXPECT_EQ(clipboardText(), L"Oakwood");
+}

@@ -1,0 +1,136 @@
+// The modal dialog base: what happens to the errors of its handlers.
+#include "support/Desktop.h"
+#include "support/Robot.h"
+#include "support/TestApp.h"
+#include "ModalDialogTest.h"
+
+#include <ovocor/ovocor.h>
+#include <ovoui/frame/ModalDialog.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
+
+using namespace ovotest;
+
+namespace
+{
+
+constexpr UINT kAct = WM_APP + 7;
+
+struct Foreign
+{
+};
+
+class ErrorDialog : public COVOModalDialog
+{
+public:
+    ErrorDialog()
+        : COVOModalDialog(IDD_ERROR_DIALOG, nullptr)
+    {
+    }
+
+    std::function<void()> onInit = [] {};
+    std::function<void()> onAct = [] {};
+    LRESULT actResult = -7;
+
+protected:
+    BOOL OnInitDialog() override
+    {
+        COVOModalDialog::OnInitDialog();
+        onInit();
+        return TRUE;
+    }
+    afx_msg LRESULT OnAct(WPARAM, LPARAM)
+    {
+        onAct();
+        return 42;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ErrorDialog, COVOModalDialog)
+    ON_MESSAGE(kAct, OnAct)
+END_MESSAGE_MAP()
+
+/// Opens the dialog, lets its handler act, and closes it with Escape.
+INT_PTR run(ErrorDialog& dialog)
+{
+    auto acting = Robot()
+                      .waitFor("the dialog", [] { return shownDialog() != nullptr; })
+                      .then([&dialog] { dialog.actResult = ::SendMessageW(shownDialog(), kAct, 0, 0); })
+                      .then([] { EXPECT_NE(shownDialog(), nullptr) << "the dialog stays open"; })
+                      .key(VK_ESCAPE)
+                      .start();
+    return dialog.DoModal();
+}
+
+const std::vector<AskedBox>& boxes()
+{
+    return TestApp::instance().boxes();
+}
+
+} // namespace
+
+TEST(ModalDialog, WithoutErrorsItIsAnOrdinaryDialog)
+{
+    ErrorDialog dialog;
+    EXPECT_EQ(run(dialog), IDCANCEL);
+    EXPECT_EQ(dialog.actResult, 42);
+    EXPECT_TRUE(boxes().empty());
+}
+
+TEST(ModalDialog, ShowsALibraryErrorWithItsWideText)
+{
+    ErrorDialog dialog;
+    dialog.onAct = [] { throw OvoError(L"the oak \u2260 the elm"); };
+    EXPECT_EQ(run(dialog), IDCANCEL);
+    ASSERT_EQ(boxes().size(), 1u);
+    EXPECT_EQ(boxes()[0].text, L"the oak \u2260 the elm");
+    EXPECT_EQ(boxes()[0].type, 0x2030u);
+    EXPECT_EQ(boxes()[0].helpId, static_cast<UINT>(IDD_ERROR_DIALOG));
+}
+
+TEST(ModalDialog, ShowsAStandardException)
+{
+    ErrorDialog dialog;
+    dialog.onAct = [] { throw std::runtime_error("no more elms"); };
+    EXPECT_EQ(run(dialog), IDCANCEL);
+    ASSERT_EQ(boxes().size(), 1u);
+    EXPECT_EQ(boxes()[0].text, L"no more elms");
+    EXPECT_EQ(boxes()[0].type, 0x2030u);
+    EXPECT_EQ(boxes()[0].helpId, static_cast<UINT>(IDD_ERROR_DIALOG));
+}
+
+TEST(ModalDialog, UsesTheDialogsOwnHelpId)
+{
+    ErrorDialog dialog;
+    dialog.SetHelpID(77);
+    dialog.onAct = [] { throw OvoError(L"oak"); };
+    run(dialog);
+    ASSERT_EQ(boxes().size(), 1u);
+    EXPECT_EQ(boxes()[0].helpId, 77u);
+}
+
+TEST(ModalDialog, ShowsAnErrorOfItsInitialisationAndStaysOpen)
+{
+    ErrorDialog dialog;
+    dialog.onInit = [] { throw WinError(L"Planting", ERROR_ACCESS_DENIED); };
+    EXPECT_EQ(run(dialog), IDCANCEL);
+    ASSERT_EQ(boxes().size(), 1u);
+    EXPECT_NE(boxes()[0].text.find(L"Planting"), std::wstring::npos);
+}
+
+TEST(ModalDialog, LetsAnyOtherExceptionPass)
+{
+    ErrorDialog dialog;
+    dialog.onAct = [] { throw Foreign{}; };
+    auto acting = Robot()
+                      .waitFor("the dialog", [] { return shownDialog() != nullptr; })
+                      .then([] { ::PostMessageW(shownDialog(), kAct, 0, 0); })
+                      .start();
+    EXPECT_THROW(dialog.DoModal(), Foreign);
+    EXPECT_TRUE(boxes().empty());
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+}

@@ -1,0 +1,105 @@
+#include "Performance.h"
+#include "GuiThread.h"
+#include "Snapshot.h"
+
+#include <gtest/gtest.h>
+
+#include <exception>
+
+namespace ovotest
+{
+
+struct Performance::State
+{
+    std::vector<Step> steps;
+    std::atomic<bool> over{false};     // the robot has done all it will do
+    std::atomic<bool> cut{false};      // nobody wants the rest
+    std::atomic<bool> loopFree{false}; // the thread with the windows is back from every nested loop
+    std::string problem;               // read once `over` is set
+};
+
+Performance::Performance(std::vector<Step> steps)
+    : m_state(std::make_shared<State>())
+{
+    m_state->steps = std::move(steps);
+    m_thread = std::thread{[state = m_state] { act(*state); }};
+}
+
+Performance::~Performance() noexcept(false)
+{
+    if (!m_thread.joinable())
+        return;
+    if (std::uncaught_exceptions() == 0) {
+        finish();
+        return;
+    }
+    m_state->cut = true;
+    m_state->loopFree = true;
+    GuiThread::runUntil([this] { return m_state->over.load(); });
+    m_thread.join();
+}
+
+void Performance::finish()
+{
+    if (!m_thread.joinable())
+        return;
+    // Every wait inside a story has a limit of its own, so that this one needs none but the watchdog's.
+    GuiThread::runUntil([this] { return m_state->over.load(); }, std::chrono::hours{1});
+    m_state->loopFree = true;
+    m_thread.join();
+    GuiThread::settle();
+    if (!m_state->problem.empty())
+        ADD_FAILURE() << m_state->problem;
+}
+
+void Performance::act(State& state)
+{
+    Stage stage;
+    const char* name = "";
+    try {
+        for (const Step& step : state.steps) {
+            if (state.cut)
+                break;
+            name = step.name.c_str();
+            step.act(stage);
+        }
+    } catch (const std::exception& problem) {
+        state.problem = std::string{"the story stopped at \""} + name + "\": " + problem.what();
+        takeSnapshot(state.problem);
+    }
+    stage.letGo();
+    state.over = true;
+    if (!state.problem.empty())
+        freeTheLoop(state);
+}
+
+// A story that stopped leaves its dialog, menu or drag open, and the test in its loop: close them as a user
+// would give up, so that the other tests still run.
+void Performance::freeTheLoop(State& state)
+{
+    const auto giveUp = [] {
+        ::EndMenu();
+        if (const HWND capture = ::GetCapture())
+            ::PostMessageW(capture, WM_CANCELMODE, 0, 0);
+        const auto cancel = [](HWND window, LPARAM) -> BOOL {
+            wchar_t name[16] = L"";
+            ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+            if (std::wstring_view{name} == L"#32770" && ::IsWindowVisible(window) &&
+                ::IsWindowEnabled(window))
+                ::PostMessageW(window, WM_CLOSE, 0, 0);
+            return TRUE;
+        };
+        ::EnumThreadWindows(::GetCurrentThreadId(), cancel, 0);
+    };
+    while (!state.loopFree) {
+        try {
+            GuiThread::ask(giveUp);
+        } catch (const Unanswered&) {
+            // Stuck for good: the watchdog will end the program.
+        }
+        for (int i = 0; i < 20 && !state.loopFree; ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds{10});
+    }
+}
+
+} // namespace ovotest

@@ -1,0 +1,129 @@
+#include "Stage.h"
+#include "GuiThread.h"
+
+#include <cstdlib>
+#include <thread>
+
+namespace ovotest
+{
+
+namespace
+{
+
+constexpr int kGlideStep = 6; // pixels; more than a drag needs to begin takes a few of them
+constexpr int kGlideStepsMost = 12;
+constexpr Stage::Limit kInputLimit{10000};
+
+CPoint pointer()
+{
+    CPoint point;
+    ::GetCursorPos(&point);
+    return point;
+}
+
+CPoint onScreen(CPoint point)
+{
+    return {std::clamp<LONG>(point.x, 0, ::GetSystemMetrics(SM_CXSCREEN) - 1),
+            std::clamp<LONG>(point.y, 0, ::GetSystemMetrics(SM_CYSCREEN) - 1)};
+}
+
+} // namespace
+
+void Stage::waitFor(const std::string& what, const std::function<bool()>& condition, Limit limit)
+{
+    const auto end = std::chrono::steady_clock::now() + limit;
+    bool holds = false;
+    for (;;) {
+        GuiThread::ask([&] { holds = condition(); });
+        if (holds)
+            return;
+        if (std::chrono::steady_clock::now() > end)
+            throw std::runtime_error("waited in vain for " + what);
+        std::this_thread::sleep_for(std::chrono::milliseconds{2});
+    }
+}
+
+// Input counts as taken when the thread with the windows looks for messages and none of it is left in its
+// queue: whatever it set off, up to a nested loop, has then happened.
+void Stage::awaitInputTaken()
+{
+    waitFor(
+        "the input to be taken", [] { return HIWORD(::GetQueueStatus(QS_INPUT)) == 0; }, kInputLimit);
+}
+
+void Stage::jumpTo(CPoint point)
+{
+    m_input.moveTo(point);
+    waitFor(
+        "the pointer to move", [point] { return pointer() == point; }, kInputLimit);
+    awaitInputTaken();
+}
+
+void Stage::glideTo(const Spot& spot)
+{
+    CPoint target;
+    GuiThread::ask([&] { target = onScreen(spot.find()); });
+    const CPoint start = pointer();
+    const CSize way = target - start;
+    const int longest = static_cast<int>(std::max(std::labs(way.cx), std::labs(way.cy)));
+    const int steps = std::clamp(longest / kGlideStep, 1, kGlideStepsMost);
+    for (int step = 1; step < steps; ++step)
+        jumpTo({start.x + way.cx * step / steps, start.y + way.cy * step / steps});
+    jumpTo(target);
+}
+
+void Stage::glideBy(CSize distance)
+{
+    glideTo(Spot{pointer() + distance});
+}
+
+void Stage::press(Button button)
+{
+    m_input.press(button);
+    awaitInputTaken();
+}
+
+void Stage::release(Button button)
+{
+    m_input.release(button);
+    awaitInputTaken();
+}
+
+void Stage::doubleClick(Button button)
+{
+    m_input.doubleClick(button);
+    awaitInputTaken();
+}
+
+void Stage::turnWheel(int notches)
+{
+    m_input.turnWheel(notches);
+    awaitInputTaken();
+}
+
+void Stage::keyDown(WORD virtualKey)
+{
+    m_input.keyDown(virtualKey);
+    awaitInputTaken();
+}
+
+void Stage::keyUp(WORD virtualKey)
+{
+    m_input.keyUp(virtualKey);
+    awaitInputTaken();
+}
+
+void Stage::type(const std::wstring& text)
+{
+    for (const wchar_t character : text) {
+        m_input.character(character);
+        awaitInputTaken();
+    }
+}
+
+void Stage::letGo()
+{
+    m_input.releaseAll();
+}
+
+} // namespace ovotest

@@ -1,0 +1,20 @@
+#pragma once
+
+namespace ovotest
+{
+
+/// Counts the windows of the calling thread: shown or not, children and message-only ones included.
+class WindowCounter
+{
+public:
+    /// How many there are now.
+    static int live();
+
+    /// How many more there are than when this object was made.
+    int grown() const { return live() - m_start; }
+
+private:
+    int m_start = live();
+};
+
+} // namespace ovotest
