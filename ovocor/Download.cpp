@@ -5,7 +5,9 @@
 #include <ovocor/Url.h>
 #include <ovocor/WinError.h>
 
+#include <algorithm>
 #include <cwchar>
+#include <string_view>
 #include <vector>
 
 namespace OVO
@@ -50,6 +52,11 @@ const wchar_t* remedyFor(DWORD status)
     }
 }
 
+const wchar_t* orNull(const std::wstring& text)
+{
+    return text.empty() ? nullptr : text.c_str();
+}
+
 } // namespace
 
 Download::Download(const std::wstring& url)
@@ -57,44 +64,51 @@ Download::Download(const std::wstring& url)
     , m_url(url)
     , m_canonical(canonicalizeUrl(url))
 {
-    checkAddress();
+    takeApart();
 }
 
-void Download::checkAddress()
+void Download::takeApart()
 {
     URL_COMPONENTSW parts{};
     parts.dwStructSize = sizeof parts;
-    parts.dwSchemeLength = 1; // asked for by not being 0
+    // Asked for by not being 0.
     parts.dwHostNameLength = 1;
+    parts.dwUserNameLength = 1;
+    parts.dwPasswordLength = 1;
+    parts.dwUrlPathLength = 1;
+    parts.dwExtraInfoLength = 1;
     if (!m_inet.crackUrl(m_canonical.c_str(), static_cast<DWORD>(m_canonical.size()), 0, &parts))
         failWith(::GetLastError());
 
-    m_http = parts.nScheme == INTERNET_SCHEME_HTTP || parts.nScheme == INTERNET_SCHEME_HTTPS;
-    if (!m_http && parts.nScheme != INTERNET_SCHEME_FTP)
-        fail(L"only http, https and ftp addresses can be downloaded.");
+    if (parts.nScheme != INTERNET_SCHEME_HTTP && parts.nScheme != INTERNET_SCHEME_HTTPS)
+        fail(L"only http and https addresses can be downloaded.");
     if (parts.dwHostNameLength == 0)
         fail(L"the address names no server. Check how it is written.");
+    m_secure = parts.nScheme == INTERNET_SCHEME_HTTPS;
+    m_port = parts.nPort;
     m_host.assign(parts.lpszHostName, parts.dwHostNameLength);
+    m_user.assign(parts.lpszUserName, parts.dwUserNameLength);
+    m_password.assign(parts.lpszPassword, parts.dwPasswordLength);
+    m_object.assign(parts.lpszUrlPath, parts.dwUrlPathLength);
+    m_object += std::wstring_view(parts.lpszExtraInfo, parts.dwExtraInfoLength);
+    m_object.erase(std::min(m_object.find(L'#'), m_object.size())); // a place in the page is not the server's
 }
 
 std::wstring Download::run()
 {
     const InternetHandle session(
-        m_inet.open(L"ovocor/11", INTERNET_OPEN_TYPE_PRECONFIG, nullptr, nullptr, 0));
-    if (!session)
-        failWith(::GetLastError());
-    limitWaiting(session.get());
-
-    // The file is written here and entered into the cache when it is known to be whole; WinINet itself would
-    // also keep the first part of a body that was cut short.
-    constexpr DWORD kFlags = INTERNET_FLAG_RELOAD | INTERNET_FLAG_PRAGMA_NOCACHE |
-                             INTERNET_FLAG_NO_CACHE_WRITE | INTERNET_FLAG_NO_UI;
-    const InternetHandle request(m_inet.openUrl(session.get(), m_canonical.c_str(), nullptr, 0, kFlags, 0));
-    if (!request)
+        checked(m_inet.open(L"ovocor/11", INTERNET_OPEN_TYPE_PRECONFIG, nullptr, nullptr, 0)));
+    const InternetHandle connection(
+        checked(m_inet.connect(session.get(), m_host.c_str(), m_port, orNull(m_user), orNull(m_password),
+                               INTERNET_SERVICE_HTTP, 0, 0)));
+    const InternetHandle request(checked(m_inet.openRequest(connection.get(), nullptr, m_object.c_str(),
+                                                            nullptr, nullptr, nullptr, requestFlags(), 0)));
+    limitWaiting(request.get());
+    if (!m_inet.sendRequest(request.get(), nullptr, 0, nullptr, 0))
         failWith(::GetLastError());
     checkAnswer(request.get());
-    const std::optional<std::uint64_t> announced = announcedSize(request.get());
 
+    const std::optional<std::uint64_t> announced = announcedSize(request.get());
     CacheFile file(m_url);
     const std::uint64_t size = copy(request.get(), file);
     if (announced && size != *announced)
@@ -103,11 +117,19 @@ std::wstring Download::run()
     return file.path();
 }
 
+/// The file is written here and entered into the cache when it is known to be whole; WinINet itself would
+/// also keep the first part of a body that was cut short.
+DWORD Download::requestFlags() const
+{
+    return INTERNET_FLAG_RELOAD | INTERNET_FLAG_PRAGMA_NOCACHE | INTERNET_FLAG_NO_CACHE_WRITE |
+           INTERNET_FLAG_NO_UI | (m_secure ? INTERNET_FLAG_SECURE : 0);
+}
+
 /// The caller's thread waits meanwhile, so it must not wait for ever.
-void Download::limitWaiting(HINTERNET session) const
+void Download::limitWaiting(HINTERNET request) const
 {
     const auto set = [&](DWORD option, DWORD value) {
-        m_inet.setOption(session, option, &value, sizeof value);
+        m_inet.setOption(request, option, &value, sizeof value);
     };
     set(INTERNET_OPTION_CONNECT_TIMEOUT, kTimeout);
     set(INTERNET_OPTION_SEND_TIMEOUT, kTimeout);
@@ -117,8 +139,6 @@ void Download::limitWaiting(HINTERNET session) const
 
 void Download::checkAnswer(HINTERNET request) const
 {
-    if (!m_http)
-        return;
     DWORD status = 0;
     DWORD size = sizeof status;
     if (!m_inet.queryInfo(request, HTTP_QUERY_STATUS_CODE | HTTP_QUERY_FLAG_NUMBER, &status, &size, nullptr))
@@ -137,7 +157,7 @@ std::optional<std::uint64_t> Download::announcedSize(HINTERNET request) const
 {
     wchar_t digits[32]{};
     DWORD size = sizeof digits;
-    if (!m_http || !m_inet.queryInfo(request, HTTP_QUERY_CONTENT_LENGTH, digits, &size, nullptr))
+    if (!m_inet.queryInfo(request, HTTP_QUERY_CONTENT_LENGTH, digits, &size, nullptr))
         return std::nullopt;
     return std::wcstoull(digits, nullptr, 10);
 }
@@ -155,6 +175,13 @@ std::uint64_t Download::copy(HINTERNET request, CacheFile& file) const
         file.write(piece.data(), got);
         total += got;
     }
+}
+
+HINTERNET Download::checked(HINTERNET handle) const
+{
+    if (!handle)
+        failWith(::GetLastError());
+    return handle;
 }
 
 void Download::fail(const std::wstring& cause) const

@@ -22,12 +22,14 @@ public:
     std::wstring run();
 
 private:
-    void checkAddress();
-    void limitWaiting(HINTERNET session) const;
+    void takeApart();
+    DWORD requestFlags() const;
+    void limitWaiting(HINTERNET request) const;
     void checkAnswer(HINTERNET request) const;
     std::optional<std::uint64_t> announcedSize(HINTERNET request) const;
     std::uint64_t copy(HINTERNET request, CacheFile& file) const;
 
+    HINTERNET checked(HINTERNET handle) const;
     [[noreturn]] void fail(const std::wstring& cause) const;
     [[noreturn]] void failWith(DWORD code) const;
     std::wstring causeOf(DWORD code) const;
@@ -35,8 +37,12 @@ private:
     const WinInet& m_inet;
     std::wstring m_url;
     std::wstring m_canonical;
+    bool m_secure = false;
+    INTERNET_PORT m_port = 0;
     std::wstring m_host;
-    bool m_http = false;
+    std::wstring m_user;
+    std::wstring m_password;
+    std::wstring m_object; // path and query
 };
 
 } // namespace OVO

@@ -9,7 +9,7 @@
 /// naming the address, when it has none.
 OVOCOR_API std::wstring canonicalizeUrl(const std::wstring& url);
 
-/// Downloads an http, https or ftp address into the system's URL cache, always anew, and gives the full name
+/// Downloads an http or https address into the system's URL cache, always anew, and gives the full name
 /// of the local file. The cache entry is kept under `url`: ::DeleteUrlCacheEntryW(url) removes it with the
 /// file.
 ///

@@ -27,7 +27,9 @@ WinInet load()
     fetch(inet.module, "InternetCrackUrlW", inet.crackUrl);
     fetch(inet.module, "InternetOpenW", inet.open);
     fetch(inet.module, "InternetSetOptionW", inet.setOption);
-    fetch(inet.module, "InternetOpenUrlW", inet.openUrl);
+    fetch(inet.module, "InternetConnectW", inet.connect);
+    fetch(inet.module, "HttpOpenRequestW", inet.openRequest);
+    fetch(inet.module, "HttpSendRequestW", inet.sendRequest);
     fetch(inet.module, "InternetReadFile", inet.readFile);
     fetch(inet.module, "InternetCloseHandle", inet.closeHandle);
     fetch(inet.module, "HttpQueryInfoW", inet.queryInfo);

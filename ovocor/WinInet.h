@@ -19,7 +19,9 @@ struct WinInet
     decltype(&::InternetCrackUrlW) crackUrl = nullptr;
     decltype(&::InternetOpenW) open = nullptr;
     decltype(&::InternetSetOptionW) setOption = nullptr;
-    decltype(&::InternetOpenUrlW) openUrl = nullptr;
+    decltype(&::InternetConnectW) connect = nullptr;
+    decltype(&::HttpOpenRequestW) openRequest = nullptr;
+    decltype(&::HttpSendRequestW) sendRequest = nullptr;
     decltype(&::InternetReadFile) readFile = nullptr;
     decltype(&::InternetCloseHandle) closeHandle = nullptr;
     decltype(&::HttpQueryInfoW) queryInfo = nullptr;

@@ -46,7 +46,7 @@ void COVOMsgBoxDlg::DoDataExchange(CDataExchange* exchange)
 
 BOOL COVOMsgBoxDlg::PreTranslateMessage(MSG* message)
 {
-    return copyByKeyboard(*message) || CDialog::PreTranslateMessage(message);
+    return cancelByKeyboard(*message) || copyByKeyboard(*message) || CDialog::PreTranslateMessage(message);
 }
 
 BOOL COVOMsgBoxDlg::OnAnswer(UINT id)
@@ -106,6 +106,16 @@ void COVOMsgBoxDlg::savePosition()
         formatPosition({static_cast<int>(place.left), static_cast<int>(place.top)});
     if (CWinApp* app = AfxGetApp())
         app->WriteProfileString(L"settings", m_settingsKey, text.c_str());
+}
+
+/// Escape always cancels. From the text it would otherwise close the box: an edit control of several lines takes
+/// the key to itself and sends its dialog WM_CLOSE.
+bool COVOMsgBoxDlg::cancelByKeyboard(const MSG& message)
+{
+    if (message.message != WM_KEYDOWN || message.wParam != VK_ESCAPE)
+        return false;
+    SendMessage(WM_COMMAND, IDCANCEL);
+    return true;
 }
 
 /// Ctrl+C (or Ctrl+Insert) copies from anywhere in the box: the selection, or the whole message.

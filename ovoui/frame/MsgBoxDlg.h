@@ -56,6 +56,7 @@ private:
     void moveAnchorToSavedPosition();
     RECT areaToCentreIn() const;
 
+    bool cancelByKeyboard(const MSG& message);
     bool copyByKeyboard(const MSG& message);
     void savePosition();
 

@@ -5,6 +5,7 @@
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/Module.h>
+#include <ovouires/resource.h>
 
 using namespace ovoui::frame;
 
@@ -75,6 +76,35 @@ std::wstring withWindowsLineEnds(const std::wstring& text)
     return joinLines(lines);
 }
 
+/// Forgets at the end of a scope, however it ends, that the window was moved in it.
+class UncountedMoves
+{
+public:
+    explicit UncountedMoves(bool& moved)
+        : m_moved(moved)
+    {
+    }
+    ~UncountedMoves() { m_moved = false; }
+    UncountedMoves(const UncountedMoves&) = delete;
+    UncountedMoves& operator=(const UncountedMoves&) = delete;
+
+private:
+    bool& m_moved;
+};
+
+/// Sets the formatting rectangle. Some systems take the control's margins off it, which the rectangle given has
+/// no room for: the text would be broken within words.
+void setFormatRect(CEdit& text, const CRect& rect)
+{
+    text.SetRect(&rect);
+    CRect actual;
+    text.GetRect(&actual);
+    if (actual.Width() >= rect.Width())
+        return;
+    const CRect widened(2 * rect.left - actual.left, rect.top, 2 * rect.right - actual.right, rect.bottom);
+    text.SetRect(&widened);
+}
+
 Extent clientExtent(const CWnd& wnd)
 {
     CRect client;
@@ -86,6 +116,7 @@ Extent clientExtent(const CWnd& wnd)
 
 BOOL COVOMsgBoxDlg::OnInitDialog()
 {
+    const UncountedMoves uncounted(m_moved); // only the user's moves count
     CDialog::OnInitDialog();
     m_focusSet = false;
     m_helpMessage = ::RegisterWindowMessageW(L"commdlg_help");
@@ -99,8 +130,6 @@ BOOL COVOMsgBoxDlg::OnInitDialog()
     SetWindowText(m_caption);
     SetForegroundWindow();
     moveAnchorToSavedPosition();
-
-    m_moved = false; // only the user's moves count
     return !m_focusSet;
 }
 
@@ -130,7 +159,7 @@ Extent COVOMsgBoxDlg::fitText()
     m_text.GetRect(&format);
     format.right = format.left + widthLimit;
     format.bottom = format.top + font.dc().GetDeviceCaps(VERTRES);
-    m_text.SetRect(&format);
+    setFormatRect(m_text, format);
 
     m_message = withWindowsLineEnds(m_message);
     const Extent text = measureText(font.dc());
@@ -149,7 +178,7 @@ Extent COVOMsgBoxDlg::fitText()
     const Box grown = grownTextControl(toBox(window), clientExtent(m_text), area.client, metrics);
     const RECT place = toRect(grown);
     m_text.MoveWindow(&place);
-    m_text.SetRect(&format);
+    setFormatRect(m_text, format);
 
     return dialogSize(grown.width(), area.client.height, {m_buttonWidth, m_buttonHeight}, m_buttons.count(),
                       metrics);
@@ -172,12 +201,25 @@ Extent COVOMsgBoxDlg::measureText(CDC& dc)
     return {format.Width(), format.Height()};
 }
 
+/// Makes the text control anew with a frame and scroll bars. Merely changing the style would do on Windows, but not
+/// every system's control keeps a scroll bar up to date that it was not made with.
 void COVOMsgBoxDlg::addScrollBars(const TextArea& area)
 {
     if (!area.vertical)
         return;
-    m_text.ModifyStyle(0, WS_VSCROLL | (area.horizontal ? WS_HSCROLL : 0));
-    m_text.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED);
+    const DWORD style = m_text.GetStyle() | WS_VSCROLL | (area.horizontal ? WS_HSCROLL : 0);
+    const HWND plain = m_text.UnsubclassWindow();
+    CRect place;
+    ::GetWindowRect(plain, &place);
+    ScreenToClient(&place);
+    ::DestroyWindow(plain);
+
+    const HWND framed = ::CreateWindowExW(WS_EX_CLIENTEDGE, L"EDIT", L"", style, place.left, place.top, place.Width(),
+                                          place.Height(), m_hWnd, reinterpret_cast<HMENU>(IDC_MESSAGE_TEXT),
+                                          ovoui::ownInstance(), nullptr);
+    m_text.SubclassWindow(framed);
+    m_text.SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))));
+    m_text.SetWindowText(m_message.c_str());
 }
 
 void COVOMsgBoxDlg::placeDialog(const Extent& size)

@@ -5,6 +5,7 @@
 #include <windows.h>
 #include <tlhelp32.h>
 
+#include <cstdio>
 #include <cwchar>
 
 namespace
@@ -81,6 +82,9 @@ int loadAndUnload()
     const Usage after = usage();
     const bool grew = after.handles > before.handles + 2 || after.modules > before.modules ||
                       after.committed > before.committed + kSlack;
+    std::printf("handles %lu to %lu, modules %d to %d, committed %llu to %llu\n", before.handles, after.handles,
+                before.modules, after.modules, static_cast<unsigned long long>(before.committed),
+                static_cast<unsigned long long>(after.committed));
     return grew ? 3 : 0;
 }
 

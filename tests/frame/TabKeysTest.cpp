@@ -18,6 +18,21 @@ SHORT WINAPI keyState(int key)
     return s_keysDown.count(key) ? static_cast<SHORT>(0x8000) : static_cast<SHORT>(0x0001);
 }
 
+/// A tab control that takes down which tab it was asked to go to.
+class RecordingTabs : public CTabCtrl
+{
+public:
+    std::vector<WPARAM> asked;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == TCM_SETCURFOCUS)
+            asked.push_back(wParam);
+        return CTabCtrl::WindowProc(message, wParam, lParam);
+    }
+};
+
 /// A parent with a tab control, which logs the tab control's notifications.
 class TabScene : public CWnd
 {
@@ -42,7 +57,7 @@ public:
         return PreTranslateTabControl(msg, m_tabs.m_hWnd);
     }
 
-    CTabCtrl& tabs() { return m_tabs; }
+    RecordingTabs& tabs() { return m_tabs; }
     std::vector<UINT> codes;
 
 protected:
@@ -53,7 +68,7 @@ protected:
     }
 
 private:
-    CTabCtrl m_tabs;
+    RecordingTabs m_tabs;
     ImportPatch m_keys{L"ovoui.dll", "GetKeyState", reinterpret_cast<void*>(&keyState)};
 };
 
@@ -95,22 +110,25 @@ TEST(TabKeys, ShiftDoesNotTurnThePageKeysRound)
     EXPECT_EQ(scene.tabs().GetCurSel(), 2);
 }
 
+// What the control makes of it differs between systems: one that has no current tab may still have a tab with the
+// focus. So the request counts here.
 TEST(TabKeys, WithoutACurrentTabTheSignedRemainderDecides)
 {
     TabScene four(4);
     four.tabs().SetCurSel(-1);
     ASSERT_EQ(four.tabs().GetCurSel(), -1);
     EXPECT_TRUE(four.press(VK_TAB, {VK_CONTROL}));
-    EXPECT_EQ(four.tabs().GetCurSel(), 0);
+    EXPECT_EQ(four.tabs().asked, std::vector<WPARAM>{0});
 
     four.tabs().SetCurSel(-1);
+    four.tabs().asked.clear();
     EXPECT_TRUE(four.press(VK_TAB, {VK_CONTROL, VK_SHIFT}));
-    EXPECT_EQ(four.tabs().GetCurSel(), 2);
+    EXPECT_EQ(four.tabs().asked, std::vector<WPARAM>{2});
 
     TabScene one(1);
     one.tabs().SetCurSel(-1);
     EXPECT_TRUE(one.press(VK_TAB, {VK_CONTROL, VK_SHIFT}));
-    EXPECT_EQ(one.tabs().GetCurSel(), 0);
+    EXPECT_EQ(one.tabs().asked, std::vector<WPARAM>{0});
 }
 
 TEST(TabKeys, TheParentHearsOfTheChange)

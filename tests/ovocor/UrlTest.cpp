@@ -189,6 +189,22 @@ TEST_F(Download, OfAnAddressThatNeedsEscapingIsKeptUnderTheAddressAsGiven)
     EXPECT_TRUE(::DeleteUrlCacheEntryW(url.c_str()));
 }
 
+TEST_F(Download, AsksForTheQueryButNotForThePlaceInThePage)
+{
+    const std::wstring url = server.address(L"/list?kind=oak&year=11#leaves");
+    server.answer("/list?kind=oak&year=11", LoopbackServer::page("200 OK", "here"));
+    EXPECT_EQ(contentOf(downloadUrlToCache(url)), "here");
+    EXPECT_TRUE(::DeleteUrlCacheEntryW(url.c_str()));
+}
+
+TEST_F(Download, AsksForTheRootWhenTheAddressHasNoPath)
+{
+    server.answer("/", LoopbackServer::page("200 OK", "here"));
+    const std::wstring url = server.address(L"");
+    EXPECT_EQ(contentOf(downloadUrlToCache(url)), "here");
+    EXPECT_TRUE(::DeleteUrlCacheEntryW(url.c_str()));
+}
+
 TEST_F(Download, OfAFileThatIsNotThereSaysWhatTheServerAnswered)
 {
     const std::wstring url = server.address(L"/gone.csv");
@@ -247,8 +263,9 @@ TEST_F(Download, ThatFailsLeavesTheFileOfAnEarlierOneAlone)
 
 TEST_F(Download, TakesWebAddressesOnly)
 {
-    for (const wchar_t* url : {L"file:///C:/oak.csv", L"gopher://example.org/", L"mailto:oak@example.org"})
-        EXPECT_TRUE(mentions(errorOf(url), L"only http, https and ftp"))
+    for (const wchar_t* url :
+         {L"file:///C:/oak.csv", L"ftp://example.org/oak.csv", L"mailto:oak@example.org"})
+        EXPECT_TRUE(mentions(errorOf(url), L"only http and https"))
             << testing::PrintToString(std::wstring(url));
 }
 
