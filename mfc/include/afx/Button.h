@@ -40,6 +40,7 @@ public:
     BOOL SetElevationRequired(BOOL required);
 
     // Command links
+    CString GetNote() const;
     /// `*length` is the room in characters, on return the length of the note.
     BOOL GetNote(LPTSTR note, UINT* length) const;
     UINT GetNoteLength() const;
@@ -48,6 +49,14 @@ public:
     // Split buttons
     BOOL GetSplitInfo(PBUTTON_SPLITINFO info) const;
     BOOL SetSplitInfo(PBUTTON_SPLITINFO info);
+    UINT GetSplitStyle() const;
+    BOOL SetSplitStyle(UINT style);
+    BOOL GetSplitSize(LPSIZE size) const;
+    BOOL SetSplitSize(LPSIZE size);
+    CImageList* GetSplitImageList() const;
+    BOOL SetSplitImageList(CImageList* imageList);
+    TCHAR GetSplitGlyph() const;
+    BOOL SetSplitGlyph(TCHAR glyph);
     BOOL SetDropDownState(BOOL dropDown);
 
     /// Draws a button of style BS_OWNERDRAW, which must override this.

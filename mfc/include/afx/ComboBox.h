@@ -47,6 +47,8 @@ public:
     void Paste();
     void Clear();
     BOOL SetCueBanner(LPCTSTR text);
+    CString GetCueBanner() const; ///< At most 1023 characters.
+    BOOL GetCueBanner(LPTSTR text, int room) const;
 
     // Dropping down and layout, in pixels
     void ShowDropDown(BOOL show = TRUE);

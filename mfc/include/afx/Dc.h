@@ -1,8 +1,8 @@
 // CDC: a device context, all of GDI's drawing as members.
 #pragma once
 
-#include <atltypes.h>
 #include <afx/GdiObject.h>
+#include <atltypes.h>
 
 class CBitmap;
 class CBrush;
@@ -14,10 +14,10 @@ class CWnd;
 
 /// Wraps one device context for output and one for questions.
 ///
-/// Both are the same unless SetAttribDC says otherwise. Only the output context is attached: it is known
-/// to the handle map and deleted with the object; a different attribute context stays its owner's.
-/// Members not described here do what the GDI function of the same name does, give what it gives
-/// (FALSE, 0, NULL or CLR_INVALID on failure) and take logical units. Rectangles exclude right and bottom.
+/// Both are the same unless SetAttribDC says otherwise. Only the output context is attached: it is known to
+/// the handle map and deleted with the object; a different attribute context stays its owner's. Members not
+/// described here do what the GDI function of the same name does, give what it gives (FALSE, 0, NULL or
+/// CLR_INVALID on failure) and take logical units. Rectangles exclude right and bottom.
 class OVOMFC_API CDC : public CObject
 {
     DECLARE_DYNCREATE(CDC)
@@ -193,9 +193,9 @@ public:
     /// background colour.
     void Draw3dRect(LPCRECT rect, COLORREF topLeft, COLORREF bottomRight);
     void Draw3dRect(int x, int y, int cx, int cy, COLORREF topLeft, COLORREF bottomRight);
-    /// Draws the outline of something being dragged by inverting, after erasing the one of before.
-    /// `size` and `lastSize` are the thickness of the outlines, NULL for `lastRect` means the first time,
-    /// and no brush means the halftone brush.
+    /// Draws the outline of something being dragged by inverting, after erasing the one of before. `size` and
+    /// `lastSize` are the thickness of the outlines, NULL for `lastRect` means the first time, and no brush
+    /// means the halftone brush.
     void DrawDragRect(LPCRECT rect, SIZE size, LPCRECT lastRect, SIZE lastSize, CBrush* brush = nullptr,
                       CBrush* lastBrush = nullptr);
     BOOL DrawEdge(LPRECT rect, UINT edge, UINT flags);
@@ -261,8 +261,8 @@ public:
     BOOL ExtFloodFill(int x, int y, COLORREF colour, UINT fillType);
     BOOL ScrollDC(int dx, int dy, LPCRECT scroll, LPCRECT clip, CRgn* update, LPRECT updateRect);
 
-    // Text. Counts are characters; extents come from the attribute context, or from the output context
-    // where the name says so.
+    // Text. Counts are characters; extents come from the attribute context, or from the output context where
+    // the name says so.
     virtual BOOL TextOut(int x, int y, LPCTSTR text, int count);
     BOOL TextOut(int x, int y, const CString& text);
     virtual BOOL ExtTextOut(int x, int y, UINT options, LPCRECT rect, LPCTSTR text, UINT count, LPINT widths);
@@ -340,7 +340,7 @@ public:
     int EndDoc();
     int AbortDoc();
     int SetAbortProc(BOOL(CALLBACK* abort)(HDC, int));
-    BOOL QueryAbort() const;
+    BOOL QueryAbort() const; ///< Asks the procedure set before: FALSE when printing is to end.
     virtual int Escape(int escape, int count, LPCSTR inData, LPVOID outData);
     int Escape(int escape, int inputSize, LPCSTR inputData, int outputSize, LPSTR outputData);
     int DrawEscape(int escape, int inputSize, LPCSTR inputData);
@@ -352,4 +352,7 @@ protected:
     /// For Create functions: takes over a new context, NULL being their failure. An object that has one
     /// already is an error, and loses it.
     BOOL adopt(HDC dc);
+
+private:
+    BOOL(CALLBACK* m_pfnAbort)(HDC, int) = nullptr;
 };

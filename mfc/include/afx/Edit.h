@@ -66,7 +66,11 @@ public:
     // Common controls 6
     BOOL SetCueBanner(LPCWSTR text);
     BOOL SetCueBanner(LPCWSTR text, BOOL drawWhenFocused);
+    CString GetCueBanner() const; ///< At most 1023 characters.
+    BOOL GetCueBanner(LPWSTR text, int room) const;
     void SetHighlight(int start, int end);
+    BOOL GetHighlight(int* start, int* end) const;
     BOOL ShowBalloonTip(PEDITBALLOONTIP tip);
+    BOOL ShowBalloonTip(LPCWSTR title, LPCWSTR text, INT icon = TTI_NONE);
     BOOL HideBalloonTip();
 };

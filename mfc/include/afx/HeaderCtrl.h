@@ -23,18 +23,37 @@ public:
     BOOL DeleteItem(int position);
     BOOL GetItem(int position, HDITEM* item) const;
     BOOL SetItem(int position, HDITEM* item);
+    int GetFocusedItem() const;
+    BOOL SetFocusedItem(int index);
 
-    // Order. `OrderToIndex` gives the item at a place from the left.
-    int OrderToIndex(int order) const;
+    // Order
+    int OrderToIndex(int order) const; ///< The item at a place counted from the left.
+    BOOL GetOrderArray(LPINT order, int count);
+    BOOL SetOrderArray(int count, LPINT order);
 
     // Where things are, in client pixels
     BOOL Layout(HDLAYOUT* layout);
+    int HitTest(LPHDHITTESTINFO info);
     BOOL GetItemRect(int index, LPRECT rect) const;
+    BOOL GetItemDropDownRect(int index, LPRECT rect) const;
+    BOOL GetOverflowRect(LPRECT rect) const;
+    int SetHotDivider(CPoint point);
+    int SetHotDivider(int index);
 
     // Looks and filters
+    CImageList* GetImageList() const;
     CImageList* SetImageList(CImageList* list); ///< Gives the list of before.
+    CImageList* CreateDragImage(int index);     ///< The caller deletes both the list and the object.
+    int GetBitmapMargin() const;
+    int SetBitmapMargin(int width); ///< Gives the margin of before.
+    int SetFilterChangeTimeout(DWORD milliseconds);
+    BOOL EditFilter(int column, BOOL discardChanges);
+    BOOL ClearFilter(int column);
+    BOOL ClearAllFilters();
 
     /// Draws an item of format HDF_OWNERDRAW; the header must override this then.
+    virtual void DrawItem(LPDRAWITEMSTRUCT item);
 
 protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 };

@@ -21,6 +21,14 @@ public:
     int GetPos();
     int SetPos(int position);
     int OffsetPos(int distance);
+    int GetStep() const;
     int SetStep(int step);
     int StepIt();
+    BOOL SetMarquee(BOOL marquee, int interval); ///< With PBS_MARQUEE; milliseconds between steps.
+    int GetState() const;                        ///< PBST_ value.
+    int SetState(int state);
+    COLORREF GetBarColor() const;
+    COLORREF SetBarColor(COLORREF colour);
+    COLORREF GetBkColor() const;
+    COLORREF SetBkColor(COLORREF colour);
 };

@@ -60,6 +60,10 @@ public:
     BOOL SetItemState(HTREEITEM item, UINT state, UINT mask);
     BOOL GetItemImage(HTREEITEM item, int& image, int& selectedImage) const;
     BOOL SetItemImage(HTREEITEM item, int image, int selectedImage);
+    UINT GetItemStateEx(HTREEITEM item) const;
+    BOOL SetItemStateEx(HTREEITEM item, UINT state);
+    int GetItemExpandedImageIndex(HTREEITEM item) const;
+    BOOL SetItemExpandedImageIndex(HTREEITEM item, int image);
     BOOL GetCheck(HTREEITEM item) const; ///< With TVS_CHECKBOXES.
     BOOL SetCheck(HTREEITEM item, BOOL check = TRUE);
 
@@ -68,13 +72,15 @@ public:
     BOOL SelectItem(HTREEITEM item);        ///< NULL selects none.
     BOOL SelectDropTarget(HTREEITEM item);  ///< NULL highlights none.
     BOOL SelectSetFirstVisible(HTREEITEM item);
+    UINT GetSelectedCount();
     BOOL EnsureVisible(HTREEITEM item);
     BOOL Expand(HTREEITEM item, UINT code); ///< TVE_ values.
     BOOL SortChildren(HTREEITEM item);      ///< NULL sorts the top level.
     BOOL SortChildrenCB(LPTVSORTCB sort);
     BOOL SetInsertMark(HTREEITEM item, BOOL after = TRUE); ///< NULL removes the mark.
-    CImageList*
-    CreateDragImage(HTREEITEM item); ///< The caller deletes both the list and the object; NULL on failure.
+    /// The caller deletes both the list and the object; NULL on failure.
+    CImageList* CreateDragImage(HTREEITEM item);
+    void ShowInfoTip(HTREEITEM item);
 
     // Editing labels
     CEdit* EditLabel(HTREEITEM item); ///< The temporary edit control, which must not be deleted.
@@ -86,6 +92,7 @@ public:
     HTREEITEM HitTest(TVHITTESTINFO* info) const;
     BOOL GetItemRect(HTREEITEM item, LPRECT rect,
                      BOOL textOnly) const; ///< FALSE for an item that is not displayed.
+    BOOL GetItemPartRect(HTREEITEM item, int part, LPRECT rect) const; ///< `part` is a TVGIPR_ value.
     UINT GetVisibleCount() const; ///< How many items fit into the window.
 
     // Looks

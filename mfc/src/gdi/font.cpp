@@ -49,8 +49,8 @@ BOOL CFont::CreateFont(int height, int width, int escapement, int orientation, i
                        BYTE underline, BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision,
                        BYTE quality, BYTE pitchAndFamily, LPCTSTR faceName)
 {
-    return adopt(::CreateFontW(height, width, escapement, orientation, weight, italic, underline, strikeOut, charSet,
-                               outPrecision, clipPrecision, quality, pitchAndFamily, faceName));
+    return adopt(::CreateFontW(height, width, escapement, orientation, weight, italic, underline, strikeOut,
+                               charSet, outPrecision, clipPrecision, quality, pitchAndFamily, faceName));
 }
 
 BOOL CFont::CreatePointFont(int pointSize, LPCTSTR faceName, CDC* dc)
@@ -66,7 +66,8 @@ BOOL CFont::CreatePointFontIndirect(const LOGFONT* font, CDC* dc)
 {
     LOGFONT scaled = *font;
     // Negative: the height of the characters, as point sizes are meant, not of the line.
-    scaled.lfHeight = -(dc ? logicalHeight(dc->m_hAttribDC, font->lfHeight) : logicalHeight(ScreenDc(), font->lfHeight));
+    scaled.lfHeight =
+        -(dc ? logicalHeight(dc->m_hAttribDC, font->lfHeight) : logicalHeight(ScreenDc(), font->lfHeight));
     return CreateFontIndirect(&scaled);
 }
 

@@ -28,8 +28,8 @@ BOOL CPen::CreatePen(int style, int width, COLORREF colour)
 
 BOOL CPen::CreatePen(int style, int width, const LOGBRUSH* brush, int styleCount, const DWORD* styles)
 {
-    return adopt(
-        ::ExtCreatePen(static_cast<DWORD>(style), static_cast<DWORD>(width), brush, static_cast<DWORD>(styleCount), styles));
+    return adopt(::ExtCreatePen(static_cast<DWORD>(style), static_cast<DWORD>(width), brush,
+                                static_cast<DWORD>(styleCount), styles));
 }
 
 BOOL CPen::CreatePenIndirect(LPLOGPEN pen)

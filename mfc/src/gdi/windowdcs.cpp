@@ -1,14 +1,16 @@
-// Device contexts of windows.
+// Device contexts of windows: CClientDC, CWindowDC and CPaintDC.
 #include <afxwin.h>
 
-#include <detail/pending.h>
+#include <detail/handleof.h>
+
+using afxdetail::handleOf;
 
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
 IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 
 CClientDC::CClientDC(CWnd* window)
-    : m_hWnd(window->GetSafeHwnd())
+    : m_hWnd(handleOf(window))
 {
     if (!Attach(::GetDC(m_hWnd)))
         AfxThrowResourceException();
@@ -20,7 +22,7 @@ CClientDC::~CClientDC()
 }
 
 CWindowDC::CWindowDC(CWnd* window)
-    : m_hWnd(window->GetSafeHwnd())
+    : m_hWnd(handleOf(window))
 {
     if (!Attach(::GetWindowDC(m_hWnd)))
         AfxThrowResourceException();
@@ -33,14 +35,15 @@ CWindowDC::~CWindowDC()
 
 CPaintDC::CPaintDC(CWnd* window)
     : m_ps{}
-    , m_hWnd(window->GetSafeHwnd())
+    , m_hWnd(handleOf(window))
 {
-    if (!Attach(afxdetail::callOut([this] { return ::BeginPaint(m_hWnd, &m_ps); })))
+    // What erasing the background raises stays pending: painting has begun, and has to end.
+    if (!Attach(::BeginPaint(m_hWnd, &m_ps)))
         AfxThrowResourceException();
 }
 
 CPaintDC::~CPaintDC()
 {
-    ::EndPaint(m_hWnd, &m_ps);
     Detach();
+    ::EndPaint(m_hWnd, &m_ps);
 }

@@ -1,4 +1,5 @@
 target_sources(ovomfc PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/dllmain.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dynlink.cpp
   ${CMAKE_CURRENT_LIST_DIR}/findres.cpp
   ${CMAKE_CURRENT_LIST_DIR}/module.cpp

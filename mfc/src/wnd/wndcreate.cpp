@@ -1,5 +1,6 @@
 // CWnd: how an object gets its window and loses it.
 #include "handlemap.h"
+#include "wndflags.h"
 
 #include <afxole.h>
 
@@ -78,12 +79,13 @@ CWnd::CWnd() = default;
 
 CWnd::CWnd(HWND wnd)
     : m_hWnd(wnd)
+    , m_nFlags(afxdetail::kBorrowed)
 {
 }
 
 CWnd::~CWnd()
 {
-    if (!m_hWnd || FromHandlePermanent(m_hWnd) != this)
+    if (!m_hWnd || (m_nFlags & afxdetail::kBorrowed) || FromHandlePermanent(m_hWnd) != this)
         return;
     // No exception may leave a destructor: what a handler raises now waits for the next call that can.
     const HWND wnd = m_hWnd;
