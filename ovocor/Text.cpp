@@ -55,7 +55,7 @@ std::wstring vstringPrintf(const wchar_t* format, std::va_list arguments)
         throw OvoError(std::wstring(L"A text cannot be put together from the format \"") + format + L"\".");
 
     std::wstring text(static_cast<std::size_t>(length), L'\0');
-    ::_vsnwprintf(text.data(), text.size() + 1, format, arguments);
+    ::_vsnwprintf(text.data(), text.size(), format, arguments); // the string has a terminator of its own
     return text;
 }
 

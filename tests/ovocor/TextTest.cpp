@@ -148,6 +148,7 @@ TEST(CollateStrings, OrdersAsALocaleDoes)
     EXPECT_LT(collateStrings(L"apple", L"Banana"), 0) << "letters before case";
     EXPECT_LT(collateStrings(L"\u00E9clair", L"fig"), 0) << "accented letters stand with their own";
     EXPECT_GT(collateStrings(L"fig", L"\u00E9clair"), 0);
+    EXPECT_LT(collateStrings(L"oak", L"Oak"), 0) << "small letters first";
     EXPECT_LT(collateStrings(L"oak", L"oaks"), 0);
     EXPECT_LT(collateStrings(L"", L"a"), 0);
     EXPECT_GT(collateStrings(L"a", L""), 0);

@@ -44,6 +44,30 @@ std::wstring cachedFile(const std::wstring& url)
     return ::GetUrlCacheEntryInfoW(url.c_str(), entry, &size) ? entry->lpszLocalFileName : L"";
 }
 
+/// Whether a file whose name begins so lies anywhere in a folder.
+bool holdsFile(const std::wstring& folder, const std::wstring& begin)
+{
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = ::FindFirstFileW((folder + L"\\*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return false;
+    bool holds = false;
+    do {
+        const std::wstring name = found.cFileName;
+        if (name.starts_with(begin))
+            holds = true;
+        else if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && name != L"." && name != L"..")
+            holds = holdsFile(folder + L'\\' + name, begin);
+    } while (!holds && ::FindNextFileW(search, &found));
+    ::FindClose(search);
+    return holds;
+}
+
+std::wstring parentOf(const std::wstring& path)
+{
+    return path.substr(0, path.find_last_of(L'\\'));
+}
+
 /// The text of the error that a download ends with, or nothing.
 std::wstring errorOf(const std::wstring& url)
 {
@@ -249,6 +273,20 @@ TEST_F(Download, OfABodyCutShortSaysHowMuchCame)
     EXPECT_EQ(cachedFile(url), L"") << "the part is not kept";
 }
 
+TEST_F(Download, OfABodyCutShortLeavesNoFileBehind)
+{
+    server.answer("/ovowhole.csv", LoopbackServer::page("200 OK", "oak"));
+    server.answer("/ovocut.csv", "HTTP/1.1 200 OK\r\nContent-Length: 1000\r\nConnection: close\r\n\r\noak");
+    const std::wstring whole = downloadUrlToCache(server.address(L"/ovowhole.csv"));
+    EXPECT_FALSE(errorOf(server.address(L"/ovocut.csv")).empty());
+
+    // The cache spreads its files over folders that stand side by side.
+    const std::wstring cache = parentOf(parentOf(whole));
+    EXPECT_TRUE(holdsFile(cache, L"ovowhole")) << "where files are looked for, they are found";
+    EXPECT_FALSE(holdsFile(cache, L"ovocut"));
+    ::DeleteUrlCacheEntryW(server.address(L"/ovowhole.csv").c_str());
+}
+
 TEST_F(Download, ThatFailsLeavesTheFileOfAnEarlierOneAlone)
 {
     const std::wstring url = server.address(L"/list.csv");
@@ -275,6 +313,8 @@ TEST_F(Download, RefusesWhatIsNoAddress)
         const std::wstring error = errorOf(url);
         EXPECT_FALSE(error.empty()) << testing::PrintToString(std::wstring(url));
         EXPECT_TRUE(mentions(error, url)) << testing::PrintToString(error);
+        EXPECT_TRUE(mentions(error, L"Check how it is written") || mentions(error, L"only http and https"))
+            << testing::PrintToString(error);
     }
 }
 

@@ -40,4 +40,7 @@ struct ThreadState
 
 OVOMFC_API ThreadState& threadState();
 
+/// Deletes the running thread's block and the module state: for the unloading of the DLL.
+void releaseStates();
+
 } // namespace afxdetail

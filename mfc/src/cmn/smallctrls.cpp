@@ -289,7 +289,7 @@ int CToolTipCtrl::SetMaxTipWidth(int width)
 
 BOOL CToolTipCtrl::Create(CWnd* parent, DWORD style)
 {
-    return CreateEx(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, style | WS_POPUP, CW_USEDEFAULT, CW_USEDEFAULT,
+    return CWnd::CreateEx(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, style | WS_POPUP, CW_USEDEFAULT, CW_USEDEFAULT,
                     CW_USEDEFAULT, CW_USEDEFAULT, parent->GetSafeHwnd(), nullptr);
 }
 
@@ -483,4 +483,36 @@ CToolTipCtrl* CToolBarCtrl::GetToolTips() const
 void CToolBarCtrl::SetToolTips(CToolTipCtrl* tip)
 {
     SendMessage(TB_SETTOOLTIPS, reinterpret_cast<WPARAM>(tip->GetSafeHwnd()));
+}
+
+BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    if (message != WM_DRAWITEM)
+        return CWnd::OnChildNotify(message, wParam, lParam, result);
+    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    return TRUE;
+}
+
+void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT)
+{
+    ASSERT(FALSE); // an owner-drawn control overrides this
+}
+
+BOOL CStatusBarCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    if (message != WM_DRAWITEM)
+        return CWnd::OnChildNotify(message, wParam, lParam, result);
+    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    return TRUE;
+}
+
+void CStatusBarCtrl::DrawItem(LPDRAWITEMSTRUCT)
+{
+    ASSERT(FALSE); // an owner-drawn control overrides this
+}
+
+BOOL CToolTipCtrl::CreateEx(CWnd* parent, DWORD style, DWORD exStyle)
+{
+    return CWnd::CreateEx(WS_EX_TOPMOST | exStyle, TOOLTIPS_CLASSW, nullptr, style | WS_POPUP, CW_USEDEFAULT,
+                          CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, parent->GetSafeHwnd(), nullptr);
 }

@@ -1,6 +1,8 @@
-// CComboBox.
 #include <afxwin.h>
-#include <afxcmn.h>
+
+#include <detail/send.h>
+
+using afxdetail::send;
 
 IMPLEMENT_DYNAMIC(CComboBox, CWnd)
 
@@ -8,238 +10,271 @@ CComboBox::CComboBox() = default;
 
 BOOL CComboBox::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
-    return CWnd::CreateEx(0, L"COMBOBOX", nullptr, style | WS_CHILD, rect, parent, id);
+    return CWnd::Create(WC_COMBOBOXW, nullptr, style, rect, parent, id);
 }
 
 int CComboBox::AddString(LPCTSTR text)
 {
-    return static_cast<int>(SendMessage(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)));
+    return send<int>(*this, CB_ADDSTRING, 0, text);
 }
 
 int CComboBox::InsertString(int index, LPCTSTR text)
 {
-    return static_cast<int>(SendMessage(CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text)));
+    return send<int>(*this, CB_INSERTSTRING, index, text);
 }
 
 int CComboBox::DeleteString(UINT index)
 {
-    return static_cast<int>(SendMessage(CB_DELETESTRING, index));
+    return send<int>(*this, CB_DELETESTRING, index);
 }
 
 void CComboBox::ResetContent()
 {
-    SendMessage(CB_RESETCONTENT);
+    send(*this, CB_RESETCONTENT);
 }
 
 int CComboBox::Dir(UINT attributes, LPCTSTR wildCard)
 {
-    return static_cast<int>(SendMessage(CB_DIR, attributes, reinterpret_cast<LPARAM>(wildCard)));
+    return send<int>(*this, CB_DIR, attributes, wildCard);
 }
 
 int CComboBox::InitStorage(int items, UINT bytes)
 {
-    return static_cast<int>(SendMessage(CB_INITSTORAGE, static_cast<WPARAM>(items), static_cast<LPARAM>(bytes)));
+    return send<int>(*this, CB_INITSTORAGE, items, bytes);
 }
 
 int CComboBox::GetCount() const
 {
-    return static_cast<int>(SendMessage(CB_GETCOUNT));
+    return send<int>(*this, CB_GETCOUNT);
 }
 
 int CComboBox::FindString(int startAfter, LPCTSTR text) const
 {
-    return static_cast<int>(SendMessage(CB_FINDSTRING, static_cast<WPARAM>(startAfter), reinterpret_cast<LPARAM>(text)));
+    return send<int>(*this, CB_FINDSTRING, startAfter, text);
 }
 
 int CComboBox::FindStringExact(int startAfter, LPCTSTR text) const
 {
-    return static_cast<int>(SendMessage(CB_FINDSTRINGEXACT, static_cast<WPARAM>(startAfter), reinterpret_cast<LPARAM>(text)));
+    return send<int>(*this, CB_FINDSTRINGEXACT, startAfter, text);
 }
 
 int CComboBox::SelectString(int startAfter, LPCTSTR text)
 {
-    return static_cast<int>(SendMessage(CB_SELECTSTRING, static_cast<WPARAM>(startAfter), reinterpret_cast<LPARAM>(text)));
-}
-
-int CComboBox::GetLBTextLen(int index) const
-{
-    return static_cast<int>(SendMessage(CB_GETLBTEXTLEN, static_cast<WPARAM>(index)));
-}
-
-DWORD_PTR CComboBox::GetItemData(int index) const
-{
-    return static_cast<DWORD_PTR>(SendMessage(CB_GETITEMDATA, static_cast<WPARAM>(index)));
-}
-
-int CComboBox::SetItemData(int index, DWORD_PTR data)
-{
-    return static_cast<int>(SendMessage(CB_SETITEMDATA, static_cast<WPARAM>(index), static_cast<LPARAM>(data)));
-}
-
-void* CComboBox::GetItemDataPtr(int index) const
-{
-    return reinterpret_cast<void*>(SendMessage(CB_GETITEMDATA, static_cast<WPARAM>(index)));
-}
-
-int CComboBox::SetItemDataPtr(int index, void* data)
-{
-    return static_cast<int>(SendMessage(CB_SETITEMDATA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(data)));
-}
-
-int CComboBox::GetCurSel() const
-{
-    return static_cast<int>(SendMessage(CB_GETCURSEL));
-}
-
-int CComboBox::SetCurSel(int index)
-{
-    return static_cast<int>(SendMessage(CB_SETCURSEL, static_cast<WPARAM>(index)));
-}
-
-DWORD CComboBox::GetEditSel() const
-{
-    return static_cast<DWORD>(SendMessage(CB_GETEDITSEL));
-}
-
-BOOL CComboBox::SetEditSel(int start, int end)
-{
-    return static_cast<BOOL>(SendMessage(CB_SETEDITSEL, 0, MAKELONG(start,end)));
-}
-
-BOOL CComboBox::LimitText(int chars)
-{
-    return static_cast<BOOL>(SendMessage(CB_LIMITTEXT, static_cast<WPARAM>(chars)));
-}
-
-void CComboBox::Cut()
-{
-    SendMessage(WM_CUT);
-}
-
-void CComboBox::Copy()
-{
-    SendMessage(WM_COPY);
-}
-
-void CComboBox::Paste()
-{
-    SendMessage(WM_PASTE);
-}
-
-void CComboBox::Clear()
-{
-    SendMessage(WM_CLEAR);
-}
-
-BOOL CComboBox::SetCueBanner(LPCTSTR text)
-{
-    return static_cast<BOOL>(SendMessage(CB_SETCUEBANNER, 0, reinterpret_cast<LPARAM>(text)));
-}
-
-void CComboBox::ShowDropDown(BOOL show)
-{
-    SendMessage(CB_SHOWDROPDOWN, static_cast<WPARAM>(show));
-}
-
-BOOL CComboBox::GetDroppedState() const
-{
-    return static_cast<BOOL>(SendMessage(CB_GETDROPPEDSTATE));
-}
-
-void CComboBox::GetDroppedControlRect(LPRECT rect) const
-{
-    SendMessage(CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(rect));
-}
-
-int CComboBox::GetDroppedWidth() const
-{
-    return static_cast<int>(SendMessage(CB_GETDROPPEDWIDTH));
-}
-
-int CComboBox::SetDroppedWidth(UINT width)
-{
-    return static_cast<int>(SendMessage(CB_SETDROPPEDWIDTH, width));
-}
-
-BOOL CComboBox::GetExtendedUI() const
-{
-    return static_cast<BOOL>(SendMessage(CB_GETEXTENDEDUI));
-}
-
-int CComboBox::SetExtendedUI(BOOL extended)
-{
-    return static_cast<int>(SendMessage(CB_SETEXTENDEDUI, static_cast<WPARAM>(extended)));
-}
-
-int CComboBox::GetItemHeight(int index) const
-{
-    return static_cast<int>(SendMessage(CB_GETITEMHEIGHT, static_cast<WPARAM>(index)));
-}
-
-int CComboBox::SetItemHeight(int index, UINT height)
-{
-    return static_cast<int>(SendMessage(CB_SETITEMHEIGHT, static_cast<WPARAM>(index), static_cast<LPARAM>(height)));
-}
-
-int CComboBox::GetTopIndex() const
-{
-    return static_cast<int>(SendMessage(CB_GETTOPINDEX));
-}
-
-int CComboBox::SetTopIndex(int index)
-{
-    return static_cast<int>(SendMessage(CB_SETTOPINDEX, static_cast<WPARAM>(index)));
-}
-
-int CComboBox::GetMinVisible() const
-{
-    return static_cast<int>(SendMessage(CB_GETMINVISIBLE));
-}
-
-BOOL CComboBox::SetMinVisibleItems(int count)
-{
-    return static_cast<BOOL>(SendMessage(CB_SETMINVISIBLE, static_cast<WPARAM>(count)));
-}
-
-UINT CComboBox::GetHorizontalExtent() const
-{
-    return static_cast<UINT>(SendMessage(CB_GETHORIZONTALEXTENT));
-}
-
-void CComboBox::SetHorizontalExtent(UINT extent)
-{
-    SendMessage(CB_SETHORIZONTALEXTENT, extent);
-}
-
-LCID CComboBox::GetLocale() const
-{
-    return static_cast<LCID>(SendMessage(CB_GETLOCALE));
-}
-
-LCID CComboBox::SetLocale(LCID locale)
-{
-    return static_cast<LCID>(SendMessage(CB_SETLOCALE, static_cast<WPARAM>(locale)));
-}
-
-BOOL CComboBox::GetComboBoxInfo(PCOMBOBOXINFO info) const
-{
-    return static_cast<BOOL>(SendMessage(CB_GETCOMBOBOXINFO, 0, reinterpret_cast<LPARAM>(info)));
+    return send<int>(*this, CB_SELECTSTRING, startAfter, text);
 }
 
 int CComboBox::GetLBText(int index, LPTSTR text) const
 {
-    return static_cast<int>(SendMessage(CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text)));
+    return send<int>(*this, CB_GETLBTEXT, index, text);
 }
 
 void CComboBox::GetLBText(int index, CString& text) const
 {
-    text.Empty();
     const int length = GetLBTextLen(index);
-    if (length < 0)
+    if (length == CB_ERR) {
+        text.Empty();
         return;
+    }
     GetLBText(index, text.GetBuffer(length));
-    text.ReleaseBuffer();
+    text.ReleaseBuffer(length);
 }
+
+int CComboBox::GetLBTextLen(int index) const
+{
+    return send<int>(*this, CB_GETLBTEXTLEN, index);
+}
+
+DWORD_PTR CComboBox::GetItemData(int index) const
+{
+    return send<DWORD_PTR>(*this, CB_GETITEMDATA, index);
+}
+
+int CComboBox::SetItemData(int index, DWORD_PTR data)
+{
+    return send<int>(*this, CB_SETITEMDATA, index, data);
+}
+
+void* CComboBox::GetItemDataPtr(int index) const
+{
+    return reinterpret_cast<void*>(GetItemData(index));
+}
+
+int CComboBox::SetItemDataPtr(int index, void* data)
+{
+    return SetItemData(index, reinterpret_cast<DWORD_PTR>(data));
+}
+
+int CComboBox::GetCurSel() const
+{
+    return send<int>(*this, CB_GETCURSEL);
+}
+
+int CComboBox::SetCurSel(int index)
+{
+    return send<int>(*this, CB_SETCURSEL, index);
+}
+
+DWORD CComboBox::GetEditSel() const
+{
+    return send<DWORD>(*this, CB_GETEDITSEL);
+}
+
+BOOL CComboBox::SetEditSel(int start, int end)
+{
+    return send<BOOL>(*this, CB_SETEDITSEL, 0, MAKELONG(start, end));
+}
+
+BOOL CComboBox::LimitText(int chars)
+{
+    return send<BOOL>(*this, CB_LIMITTEXT, chars);
+}
+
+void CComboBox::Cut()
+{
+    send(*this, WM_CUT);
+}
+
+void CComboBox::Copy()
+{
+    send(*this, WM_COPY);
+}
+
+void CComboBox::Paste()
+{
+    send(*this, WM_PASTE);
+}
+
+void CComboBox::Clear()
+{
+    send(*this, WM_CLEAR);
+}
+
+BOOL CComboBox::SetCueBanner(LPCTSTR text)
+{
+    return send<BOOL>(*this, CB_SETCUEBANNER, 0, text);
+}
+
+CString CComboBox::GetCueBanner() const
+{
+    constexpr int kRoom = 1024;
+    CString text;
+    const BOOL got = GetCueBanner(text.GetBuffer(kRoom), kRoom);
+    text.ReleaseBuffer(got ? -1 : 0);
+    return text;
+}
+
+BOOL CComboBox::GetCueBanner(LPTSTR text, int room) const
+{
+    return send<BOOL>(*this, CB_GETCUEBANNER, text, room);
+}
+
+void CComboBox::ShowDropDown(BOOL show)
+{
+    send(*this, CB_SHOWDROPDOWN, show);
+}
+
+BOOL CComboBox::GetDroppedState() const
+{
+    return send<BOOL>(*this, CB_GETDROPPEDSTATE);
+}
+
+void CComboBox::GetDroppedControlRect(LPRECT rect) const
+{
+    send(*this, CB_GETDROPPEDCONTROLRECT, 0, rect);
+}
+
+int CComboBox::GetDroppedWidth() const
+{
+    return send<int>(*this, CB_GETDROPPEDWIDTH);
+}
+
+int CComboBox::SetDroppedWidth(UINT width)
+{
+    return send<int>(*this, CB_SETDROPPEDWIDTH, width);
+}
+
+BOOL CComboBox::GetExtendedUI() const
+{
+    return send<BOOL>(*this, CB_GETEXTENDEDUI);
+}
+
+int CComboBox::SetExtendedUI(BOOL extended)
+{
+    return send<int>(*this, CB_SETEXTENDEDUI, extended);
+}
+
+int CComboBox::GetItemHeight(int index) const
+{
+    return send<int>(*this, CB_GETITEMHEIGHT, index);
+}
+
+int CComboBox::SetItemHeight(int index, UINT height)
+{
+    return send<int>(*this, CB_SETITEMHEIGHT, index, height);
+}
+
+int CComboBox::GetTopIndex() const
+{
+    return send<int>(*this, CB_GETTOPINDEX);
+}
+
+int CComboBox::SetTopIndex(int index)
+{
+    return send<int>(*this, CB_SETTOPINDEX, index);
+}
+
+int CComboBox::GetMinVisible() const
+{
+    return send<int>(*this, CB_GETMINVISIBLE);
+}
+
+BOOL CComboBox::SetMinVisibleItems(int count)
+{
+    return send<BOOL>(*this, CB_SETMINVISIBLE, count);
+}
+
+UINT CComboBox::GetHorizontalExtent() const
+{
+    return send<UINT>(*this, CB_GETHORIZONTALEXTENT);
+}
+
+void CComboBox::SetHorizontalExtent(UINT extent)
+{
+    send(*this, CB_SETHORIZONTALEXTENT, extent);
+}
+
+LCID CComboBox::GetLocale() const
+{
+    return send<LCID>(*this, CB_GETLOCALE);
+}
+
+LCID CComboBox::SetLocale(LCID locale)
+{
+    return send<LCID>(*this, CB_SETLOCALE, locale);
+}
+
+BOOL CComboBox::GetComboBoxInfo(PCOMBOBOXINFO info) const
+{
+    return send<BOOL>(*this, CB_GETCOMBOBOXINFO, 0, info);
+}
+
+void CComboBox::DrawItem(LPDRAWITEMSTRUCT)
+{
+    ASSERT(FALSE); // an owner-drawn control overrides this
+}
+
+void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT)
+{
+    ASSERT(FALSE); // so does one with items of varying height
+}
+
+int CComboBox::CompareItem(LPCOMPAREITEMSTRUCT)
+{
+    ASSERT(FALSE); // so does a sorted one without texts
+    return 0;
+}
+
+void CComboBox::DeleteItem(LPDELETEITEMSTRUCT) {}
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
@@ -260,21 +295,3 @@ BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
         return CWnd::OnChildNotify(message, wParam, lParam, result);
     }
 }
-
-void CComboBox::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn control overrides this
-}
-
-void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn control overrides this
-}
-
-int CComboBox::CompareItem(LPCOMPAREITEMSTRUCT)
-{
-    ASSERT(FALSE); // a sorted owner-drawn control overrides this
-    return 0;
-}
-
-void CComboBox::DeleteItem(LPDELETEITEMSTRUCT) {}

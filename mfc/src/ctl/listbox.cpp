@@ -1,6 +1,8 @@
-// CListBox.
 #include <afxwin.h>
-#include <afxcmn.h>
+
+#include <detail/send.h>
+
+using afxdetail::send;
 
 IMPLEMENT_DYNAMIC(CListBox, CWnd)
 
@@ -8,239 +10,262 @@ CListBox::CListBox() = default;
 
 BOOL CListBox::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
-    return CWnd::CreateEx(0, L"LISTBOX", nullptr, style | WS_CHILD, rect, parent, id);
+    return CWnd::Create(WC_LISTBOXW, nullptr, style, rect, parent, id);
 }
 
 int CListBox::AddString(LPCTSTR text)
 {
-    return static_cast<int>(SendMessage(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)));
+    return send<int>(*this, LB_ADDSTRING, 0, text);
 }
 
 int CListBox::InsertString(int index, LPCTSTR text)
 {
-    return static_cast<int>(SendMessage(LB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text)));
+    return send<int>(*this, LB_INSERTSTRING, index, text);
 }
 
 int CListBox::DeleteString(UINT index)
 {
-    return static_cast<int>(SendMessage(LB_DELETESTRING, index));
+    return send<int>(*this, LB_DELETESTRING, index);
 }
 
 void CListBox::ResetContent()
 {
-    SendMessage(LB_RESETCONTENT);
+    send(*this, LB_RESETCONTENT);
 }
 
 int CListBox::Dir(UINT attributes, LPCTSTR wildCard)
 {
-    return static_cast<int>(SendMessage(LB_DIR, attributes, reinterpret_cast<LPARAM>(wildCard)));
+    return send<int>(*this, LB_DIR, attributes, wildCard);
 }
 
 int CListBox::InitStorage(int items, UINT bytes)
 {
-    return static_cast<int>(SendMessage(LB_INITSTORAGE, static_cast<WPARAM>(items), static_cast<LPARAM>(bytes)));
+    return send<int>(*this, LB_INITSTORAGE, items, bytes);
 }
 
 int CListBox::GetCount() const
 {
-    return static_cast<int>(SendMessage(LB_GETCOUNT));
+    return send<int>(*this, LB_GETCOUNT);
 }
 
 int CListBox::FindString(int startAfter, LPCTSTR text) const
 {
-    return static_cast<int>(SendMessage(LB_FINDSTRING, static_cast<WPARAM>(startAfter), reinterpret_cast<LPARAM>(text)));
+    return send<int>(*this, LB_FINDSTRING, startAfter, text);
 }
 
 int CListBox::FindStringExact(int startAfter, LPCTSTR text) const
 {
-    return static_cast<int>(SendMessage(LB_FINDSTRINGEXACT, static_cast<WPARAM>(startAfter), reinterpret_cast<LPARAM>(text)));
+    return send<int>(*this, LB_FINDSTRINGEXACT, startAfter, text);
 }
 
 int CListBox::SelectString(int startAfter, LPCTSTR text)
 {
-    return static_cast<int>(SendMessage(LB_SELECTSTRING, static_cast<WPARAM>(startAfter), reinterpret_cast<LPARAM>(text)));
-}
-
-int CListBox::GetTextLen(int index) const
-{
-    return static_cast<int>(SendMessage(LB_GETTEXTLEN, static_cast<WPARAM>(index)));
-}
-
-DWORD_PTR CListBox::GetItemData(int index) const
-{
-    return static_cast<DWORD_PTR>(SendMessage(LB_GETITEMDATA, static_cast<WPARAM>(index)));
-}
-
-int CListBox::SetItemData(int index, DWORD_PTR data)
-{
-    return static_cast<int>(SendMessage(LB_SETITEMDATA, static_cast<WPARAM>(index), static_cast<LPARAM>(data)));
-}
-
-void* CListBox::GetItemDataPtr(int index) const
-{
-    return reinterpret_cast<void*>(SendMessage(LB_GETITEMDATA, static_cast<WPARAM>(index)));
-}
-
-int CListBox::SetItemDataPtr(int index, void* data)
-{
-    return static_cast<int>(SendMessage(LB_SETITEMDATA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(data)));
-}
-
-int CListBox::GetCurSel() const
-{
-    return static_cast<int>(SendMessage(LB_GETCURSEL));
-}
-
-int CListBox::SetCurSel(int index)
-{
-    return static_cast<int>(SendMessage(LB_SETCURSEL, static_cast<WPARAM>(index)));
-}
-
-int CListBox::GetSel(int index) const
-{
-    return static_cast<int>(SendMessage(LB_GETSEL, static_cast<WPARAM>(index)));
-}
-
-int CListBox::SetSel(int index, BOOL select)
-{
-    return static_cast<int>(SendMessage(LB_SETSEL, static_cast<WPARAM>(select), index));
-}
-
-int CListBox::GetSelCount() const
-{
-    return static_cast<int>(SendMessage(LB_GETSELCOUNT));
-}
-
-int CListBox::GetSelItems(int room, LPINT indices) const
-{
-    return static_cast<int>(SendMessage(LB_GETSELITEMS, static_cast<WPARAM>(room), reinterpret_cast<LPARAM>(indices)));
-}
-
-int CListBox::SelItemRange(BOOL select, int first, int last)
-{
-    return static_cast<int>(SendMessage(LB_SELITEMRANGE, static_cast<WPARAM>(select), MAKELPARAM(first,last)));
-}
-
-void CListBox::SetAnchorIndex(int index)
-{
-    SendMessage(LB_SETANCHORINDEX, static_cast<WPARAM>(index));
-}
-
-int CListBox::GetAnchorIndex() const
-{
-    return static_cast<int>(SendMessage(LB_GETANCHORINDEX));
-}
-
-int CListBox::SetCaretIndex(int index, BOOL scroll)
-{
-    return static_cast<int>(SendMessage(LB_SETCARETINDEX, static_cast<WPARAM>(index), MAKELONG(!scroll,0)));
-}
-
-int CListBox::GetCaretIndex() const
-{
-    return static_cast<int>(SendMessage(LB_GETCARETINDEX));
-}
-
-int CListBox::GetTopIndex() const
-{
-    return static_cast<int>(SendMessage(LB_GETTOPINDEX));
-}
-
-int CListBox::SetTopIndex(int index)
-{
-    return static_cast<int>(SendMessage(LB_SETTOPINDEX, static_cast<WPARAM>(index)));
-}
-
-int CListBox::GetItemHeight(int index) const
-{
-    return static_cast<int>(SendMessage(LB_GETITEMHEIGHT, static_cast<WPARAM>(index)));
-}
-
-int CListBox::SetItemHeight(int index, UINT height)
-{
-    return static_cast<int>(SendMessage(LB_SETITEMHEIGHT, static_cast<WPARAM>(index), static_cast<LPARAM>(height)));
-}
-
-int CListBox::GetItemRect(int index, LPRECT rect) const
-{
-    return static_cast<int>(SendMessage(LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(rect)));
-}
-
-DWORD CListBox::GetListBoxInfo() const
-{
-    return static_cast<DWORD>(SendMessage(LB_GETLISTBOXINFO));
-}
-
-void CListBox::SetColumnWidth(int width)
-{
-    SendMessage(LB_SETCOLUMNWIDTH, static_cast<WPARAM>(width));
-}
-
-int CListBox::GetHorizontalExtent() const
-{
-    return static_cast<int>(SendMessage(LB_GETHORIZONTALEXTENT));
-}
-
-void CListBox::SetHorizontalExtent(int extent)
-{
-    SendMessage(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(extent));
-}
-
-LCID CListBox::GetLocale() const
-{
-    return static_cast<LCID>(SendMessage(LB_GETLOCALE));
-}
-
-LCID CListBox::SetLocale(LCID locale)
-{
-    return static_cast<LCID>(SendMessage(LB_SETLOCALE, static_cast<WPARAM>(locale)));
+    return send<int>(*this, LB_SELECTSTRING, startAfter, text);
 }
 
 int CListBox::GetText(int index, LPTSTR buffer) const
 {
-    return static_cast<int>(SendMessage(LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer)));
+    return send<int>(*this, LB_GETTEXT, index, buffer);
 }
 
 void CListBox::GetText(int index, CString& text) const
 {
-    text.Empty();
     const int length = GetTextLen(index);
-    if (length < 0)
+    if (length == LB_ERR) {
+        text.Empty();
         return;
+    }
     GetText(index, text.GetBuffer(length));
-    text.ReleaseBuffer();
+    text.ReleaseBuffer(length);
+}
+
+int CListBox::GetTextLen(int index) const
+{
+    return send<int>(*this, LB_GETTEXTLEN, index);
+}
+
+DWORD_PTR CListBox::GetItemData(int index) const
+{
+    return send<DWORD_PTR>(*this, LB_GETITEMDATA, index);
+}
+
+int CListBox::SetItemData(int index, DWORD_PTR data)
+{
+    return send<int>(*this, LB_SETITEMDATA, index, data);
+}
+
+void* CListBox::GetItemDataPtr(int index) const
+{
+    return reinterpret_cast<void*>(GetItemData(index));
+}
+
+int CListBox::SetItemDataPtr(int index, void* data)
+{
+    return SetItemData(index, reinterpret_cast<DWORD_PTR>(data));
+}
+
+int CListBox::GetCurSel() const
+{
+    return send<int>(*this, LB_GETCURSEL);
+}
+
+int CListBox::SetCurSel(int index)
+{
+    return send<int>(*this, LB_SETCURSEL, index);
+}
+
+int CListBox::GetSel(int index) const
+{
+    return send<int>(*this, LB_GETSEL, index);
+}
+
+int CListBox::SetSel(int index, BOOL select)
+{
+    return send<int>(*this, LB_SETSEL, select, index);
+}
+
+int CListBox::GetSelCount() const
+{
+    return send<int>(*this, LB_GETSELCOUNT);
+}
+
+int CListBox::GetSelItems(int room, LPINT indices) const
+{
+    return send<int>(*this, LB_GETSELITEMS, room, indices);
+}
+
+int CListBox::SelItemRange(BOOL select, int first, int last)
+{
+    return send<int>(*this, LB_SELITEMRANGE, select, afxdetail::pack(first, last));
+}
+
+void CListBox::SetAnchorIndex(int index)
+{
+    send(*this, LB_SETANCHORINDEX, index);
+}
+
+int CListBox::GetAnchorIndex() const
+{
+    return send<int>(*this, LB_GETANCHORINDEX);
+}
+
+int CListBox::SetCaretIndex(int index, BOOL scroll)
+{
+    return send<int>(*this, LB_SETCARETINDEX, index, scroll);
+}
+
+int CListBox::GetCaretIndex() const
+{
+    return send<int>(*this, LB_GETCARETINDEX);
+}
+
+int CListBox::GetTopIndex() const
+{
+    return send<int>(*this, LB_GETTOPINDEX);
+}
+
+int CListBox::SetTopIndex(int index)
+{
+    return send<int>(*this, LB_SETTOPINDEX, index);
+}
+
+int CListBox::GetItemHeight(int index) const
+{
+    return send<int>(*this, LB_GETITEMHEIGHT, index);
+}
+
+int CListBox::SetItemHeight(int index, UINT height)
+{
+    return send<int>(*this, LB_SETITEMHEIGHT, index, height);
+}
+
+int CListBox::GetItemRect(int index, LPRECT rect) const
+{
+    return send<int>(*this, LB_GETITEMRECT, index, rect);
 }
 
 UINT CListBox::ItemFromPoint(CPoint point, BOOL& outside) const
 {
-    const LRESULT found = SendMessage(LB_ITEMFROMPOINT, 0, MAKELONG(point.x, point.y));
-    outside = HIWORD(found) != 0;
-    return LOWORD(found);
+    const DWORD item = send<DWORD>(*this, LB_ITEMFROMPOINT, 0, afxdetail::pack(point.x, point.y));
+    outside = HIWORD(item) != 0;
+    return LOWORD(item);
+}
+
+DWORD CListBox::GetListBoxInfo() const
+{
+    return send<DWORD>(*this, LB_GETLISTBOXINFO);
+}
+
+void CListBox::SetColumnWidth(int width)
+{
+    send(*this, LB_SETCOLUMNWIDTH, width);
+}
+
+int CListBox::GetHorizontalExtent() const
+{
+    return send<int>(*this, LB_GETHORIZONTALEXTENT);
+}
+
+void CListBox::SetHorizontalExtent(int extent)
+{
+    send(*this, LB_SETHORIZONTALEXTENT, extent);
 }
 
 void CListBox::SetTabStops()
 {
-    SendMessage(LB_SETTABSTOPS);
+    send(*this, LB_SETTABSTOPS);
 }
 
 BOOL CListBox::SetTabStops(const int& eachStop)
 {
-    return static_cast<BOOL>(SendMessage(LB_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&eachStop)));
+    return send<BOOL>(*this, LB_SETTABSTOPS, 1, &eachStop);
 }
 
 BOOL CListBox::SetTabStops(int count, LPINT stops)
 {
-    return static_cast<BOOL>(SendMessage(LB_SETTABSTOPS, static_cast<WPARAM>(count), reinterpret_cast<LPARAM>(stops)));
+    return send<BOOL>(*this, LB_SETTABSTOPS, count, stops);
 }
 
-int CListBox::VKeyToItem(UINT, UINT)
+LCID CListBox::GetLocale() const
 {
-    return -1;
+    return send<LCID>(*this, LB_GETLOCALE);
 }
 
-int CListBox::CharToItem(UINT, UINT)
+LCID CListBox::SetLocale(LCID locale)
 {
-    return -1;
+    return send<LCID>(*this, LB_SETLOCALE, locale);
+}
+
+void CListBox::DrawItem(LPDRAWITEMSTRUCT)
+{
+    ASSERT(FALSE); // an owner-drawn control overrides this
+}
+
+void CListBox::MeasureItem(LPMEASUREITEMSTRUCT)
+{
+    ASSERT(FALSE); // so does one with items of varying height
+}
+
+int CListBox::CompareItem(LPCOMPAREITEMSTRUCT)
+{
+    ASSERT(FALSE); // so does a sorted one without texts
+    return 0;
+}
+
+void CListBox::DeleteItem(LPDELETEITEMSTRUCT) {}
+
+int CListBox::VKeyToItem(UINT key, UINT index)
+{
+    UNUSED_ALWAYS(key);
+    UNUSED_ALWAYS(index);
+    return static_cast<int>(Default());
+}
+
+int CListBox::CharToItem(UINT key, UINT index)
+{
+    UNUSED_ALWAYS(key);
+    UNUSED_ALWAYS(index);
+    return static_cast<int>(Default());
 }
 
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
@@ -268,21 +293,3 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
         return CWnd::OnChildNotify(message, wParam, lParam, result);
     }
 }
-
-void CListBox::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn control overrides this
-}
-
-void CListBox::MeasureItem(LPMEASUREITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn control overrides this
-}
-
-int CListBox::CompareItem(LPCOMPAREITEMSTRUCT)
-{
-    ASSERT(FALSE); // a sorted owner-drawn control overrides this
-    return 0;
-}
-
-void CListBox::DeleteItem(LPDELETEITEMSTRUCT) {}

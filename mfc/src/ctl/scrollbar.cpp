@@ -1,6 +1,6 @@
-// CScrollBar.
 #include <afxwin.h>
-#include <afxcmn.h>
+
+#include <detail/send.h>
 
 IMPLEMENT_DYNAMIC(CScrollBar, CWnd)
 
@@ -8,12 +8,7 @@ CScrollBar::CScrollBar() = default;
 
 BOOL CScrollBar::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
-    return CWnd::CreateEx(0, L"SCROLLBAR", nullptr, style | WS_CHILD, rect, parent, id);
-}
-
-BOOL CScrollBar::GetScrollBarInfo(PSCROLLBARINFO info) const
-{
-    return static_cast<BOOL>(SendMessage(SBM_GETSCROLLBARINFO, 0, reinterpret_cast<LPARAM>(info)));
+    return CWnd::Create(WC_SCROLLBARW, nullptr, style, rect, parent, id);
 }
 
 int CScrollBar::GetScrollPos() const
@@ -48,15 +43,27 @@ BOOL CScrollBar::EnableScrollBar(UINT arrows)
 
 BOOL CScrollBar::SetScrollInfo(LPSCROLLINFO info, BOOL redraw)
 {
-    return CWnd::SetScrollInfo(SB_CTL, info, redraw);
+    info->cbSize = sizeof *info;
+    ::SetScrollInfo(m_hWnd, SB_CTL, info, redraw);
+    return TRUE; // the system gives the position, which is no success value
 }
 
 BOOL CScrollBar::GetScrollInfo(LPSCROLLINFO info, UINT mask)
 {
-    return CWnd::GetScrollInfo(SB_CTL, info, mask);
+    info->cbSize = sizeof *info;
+    info->fMask = mask;
+    return ::GetScrollInfo(m_hWnd, SB_CTL, info);
 }
 
 int CScrollBar::GetScrollLimit()
 {
-    return CWnd::GetScrollLimit(SB_CTL);
+    SCROLLINFO info{};
+    if (!GetScrollInfo(&info, SIF_RANGE | SIF_PAGE))
+        return 0;
+    return info.nMax - std::max(static_cast<int>(info.nPage) - 1, 0);
+}
+
+BOOL CScrollBar::GetScrollBarInfo(PSCROLLBARINFO info) const
+{
+    return ::GetScrollBarInfo(m_hWnd, OBJID_CLIENT, info);
 }

@@ -1,6 +1,8 @@
-// CStatic.
 #include <afxwin.h>
-#include <afxcmn.h>
+
+#include <detail/send.h>
+
+using afxdetail::send;
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 
@@ -8,47 +10,52 @@ CStatic::CStatic() = default;
 
 BOOL CStatic::Create(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
-    return CWnd::CreateEx(0, L"STATIC", text, style | WS_CHILD, rect, parent, id);
+    return CWnd::Create(WC_STATICW, text, style, rect, parent, id);
 }
 
 HBITMAP CStatic::SetBitmap(HBITMAP bitmap)
 {
-    return reinterpret_cast<HBITMAP>(SendMessage(STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(bitmap)));
+    return send<HBITMAP>(*this, STM_SETIMAGE, IMAGE_BITMAP, bitmap);
 }
 
 HBITMAP CStatic::GetBitmap() const
 {
-    return reinterpret_cast<HBITMAP>(SendMessage(STM_GETIMAGE, IMAGE_BITMAP));
+    return send<HBITMAP>(*this, STM_GETIMAGE, IMAGE_BITMAP);
 }
 
 HICON CStatic::SetIcon(HICON icon)
 {
-    return reinterpret_cast<HICON>(SendMessage(STM_SETICON, reinterpret_cast<WPARAM>(icon)));
+    return send<HICON>(*this, STM_SETIMAGE, IMAGE_ICON, icon);
 }
 
 HICON CStatic::GetIcon() const
 {
-    return reinterpret_cast<HICON>(SendMessage(STM_GETICON));
+    return send<HICON>(*this, STM_GETIMAGE, IMAGE_ICON);
 }
 
 HCURSOR CStatic::SetCursor(HCURSOR cursor)
 {
-    return reinterpret_cast<HCURSOR>(SendMessage(STM_SETIMAGE, IMAGE_CURSOR, reinterpret_cast<LPARAM>(cursor)));
+    return send<HCURSOR>(*this, STM_SETIMAGE, IMAGE_CURSOR, cursor);
 }
 
 HCURSOR CStatic::GetCursor()
 {
-    return reinterpret_cast<HCURSOR>(SendMessage(STM_GETIMAGE, IMAGE_CURSOR));
+    return send<HCURSOR>(*this, STM_GETIMAGE, IMAGE_CURSOR);
 }
 
 HENHMETAFILE CStatic::SetEnhMetaFile(HENHMETAFILE metafile)
 {
-    return reinterpret_cast<HENHMETAFILE>(SendMessage(STM_SETIMAGE, IMAGE_ENHMETAFILE, reinterpret_cast<LPARAM>(metafile)));
+    return send<HENHMETAFILE>(*this, STM_SETIMAGE, IMAGE_ENHMETAFILE, metafile);
 }
 
 HENHMETAFILE CStatic::GetEnhMetaFile() const
 {
-    return reinterpret_cast<HENHMETAFILE>(SendMessage(STM_GETIMAGE, IMAGE_ENHMETAFILE));
+    return send<HENHMETAFILE>(*this, STM_GETIMAGE, IMAGE_ENHMETAFILE);
+}
+
+void CStatic::DrawItem(LPDRAWITEMSTRUCT)
+{
+    ASSERT(FALSE); // an owner-drawn control overrides this
 }
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
@@ -57,9 +64,4 @@ BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT*
         return CWnd::OnChildNotify(message, wParam, lParam, result);
     DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
     return TRUE;
-}
-
-void CStatic::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn control overrides this
 }

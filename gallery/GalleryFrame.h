@@ -1,0 +1,53 @@
+// The gallery's window: pages at the left, the open page, a log of notifications at the bottom.
+#pragma once
+
+#include "GalleryPage.h"
+#include "PageTable.h"
+
+#include <afxcmn.h>
+#include <afxext.h>
+
+#include <memory>
+#include <string>
+
+class GalleryFrame : public CFrameWnd
+{
+public:
+    GalleryFrame();
+    ~GalleryFrame() override;
+
+    /// Opens a page of the table and marks it in the list.
+    void openPage(const PageEntry& entry);
+
+    /// Writes one picture of every page and of every pose into a folder. False when a file cannot be written.
+    bool shootAll(const std::wstring& folder);
+    /// One picture: of a page, or, named "page/pose", of what a pose shows.
+    bool shoot(const PageEntry& entry, const std::wstring& pose, const std::wstring& path);
+
+    void RecalcLayout(BOOL notify = TRUE) override;
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    BOOL OnCreateClient(LPCREATESTRUCT cs, CCreateContext* context) override;
+
+    afx_msg void OnEnterIdle(UINT why, CWnd* who);
+    afx_msg void OnPageChosen(NMHDR* header, LRESULT* result);
+    afx_msg void OnLogClear();
+    afx_msg void OnUpdateLogClear(CCmdUI* ui);
+    afx_msg void OnSetFocus(CWnd* old);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void fillPageList();
+    void logLine(const std::wstring& line);
+    void settle();
+
+    CTreeCtrl m_pageList;
+    CListBox m_log;
+    CStatusBar m_statusBar;
+    CFont m_font;
+    std::unique_ptr<GalleryPage> m_page;
+    const PageEntry* m_entry = nullptr;
+    std::wstring m_posePath; ///< where the picture of the next modal box goes; empty when none is wanted
+    bool m_poseSaved = false;
+};

@@ -1,0 +1,34 @@
+#include "PageTable.h"
+
+#include "pages/GeometryPage.h"
+#include "pages/MessageBoxPage.h"
+#include "pages/ThemesPage.h"
+
+namespace
+{
+
+template <class Page>
+std::unique_ptr<GalleryPage> make()
+{
+    return std::make_unique<Page>();
+}
+
+} // namespace
+
+const std::vector<PageEntry>& pageTable()
+{
+    static const std::vector<PageEntry> pages{
+        {L"messagebox", L"Message box", &make<MessageBoxPage>},
+        {L"geometry", L"Geometry and keys", &make<GeometryPage>},
+        {L"themes", L"Themes", &make<ThemesPage>},
+    };
+    return pages;
+}
+
+const PageEntry* findPage(std::wstring_view name)
+{
+    for (const PageEntry& page : pageTable())
+        if (name == page.name)
+            return &page;
+    return nullptr;
+}

@@ -1,0 +1,20 @@
+// The one table of pages.
+#pragma once
+
+#include "GalleryPage.h"
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+struct PageEntry
+{
+    const wchar_t* name;  ///< on the command line and in file names
+    const wchar_t* title; ///< in the list
+    std::unique_ptr<GalleryPage> (*make)();
+};
+
+const std::vector<PageEntry>& pageTable();
+
+/// Null when there is no such page.
+const PageEntry* findPage(std::wstring_view name);

@@ -1,0 +1,50 @@
+#include "Screenshot.h"
+
+#include <algorithm>
+#include <memory>
+
+// GDI+ uses min and max as the standard library has them.
+using std::max;
+using std::min;
+#include <objidl.h>
+#include <gdiplus.h>
+
+namespace
+{
+
+/// The encoder that Windows brings for PNG files.
+constexpr CLSID kPngEncoder = {0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
+
+struct DeleteBitmap
+{
+    void operator()(HBITMAP bitmap) const { ::DeleteObject(bitmap); }
+};
+using UniqueBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteBitmap>;
+
+UniqueBitmap copyOfScreen(const RECT& rect)
+{
+    const int width = rect.right - rect.left;
+    const int height = rect.bottom - rect.top;
+    const HDC screen = ::GetDC(nullptr);
+    UniqueBitmap bitmap(::CreateCompatibleBitmap(screen, width, height));
+    const HDC memory = ::CreateCompatibleDC(screen);
+    const HGDIOBJ previous = ::SelectObject(memory, bitmap.get());
+    ::BitBlt(memory, 0, 0, width, height, screen, rect.left, rect.top, SRCCOPY);
+    ::SelectObject(memory, previous);
+    ::DeleteDC(memory);
+    ::ReleaseDC(nullptr, screen);
+    return bitmap;
+}
+
+} // namespace
+
+bool saveScreenshot(HWND window, const std::wstring& path)
+{
+    ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    ::GdiFlush();
+    RECT rect{};
+    ::GetWindowRect(window, &rect);
+    const UniqueBitmap bitmap = copyOfScreen(rect);
+    Gdiplus::Bitmap image(bitmap.get(), nullptr);
+    return image.Save(path.c_str(), &kPngEncoder) == Gdiplus::Ok;
+}

@@ -1,0 +1,9 @@
+// Pictures of windows in PNG files.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+/// What the screen shows where the window is. False when the file cannot be written; GDI+ must be started.
+bool saveScreenshot(HWND window, const std::wstring& path);

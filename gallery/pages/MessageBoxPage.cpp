@@ -1,0 +1,223 @@
+#include "MessageBoxPage.h"
+
+#include "resource.h"
+
+#include <span>
+
+namespace
+{
+
+struct Choice
+{
+    const wchar_t* label;
+    UINT flags;
+};
+
+constexpr Choice kButtons[] = {
+    {L"OK", MB_OK},
+    {L"OK, Cancel", MB_OKCANCEL},
+    {L"Abort, Retry, Ignore", MB_ABORTRETRYIGNORE},
+    {L"Yes, No, Cancel", MB_YESNOCANCEL},
+    {L"Yes, No", MB_YESNO},
+    {L"Retry, Cancel", MB_RETRYCANCEL},
+    {L"Yes, Yes to All, No, Cancel", OVOMB_EXTBUTTONS | 1},
+    {L"Yes, No, No to All, Cancel", OVOMB_EXTBUTTONS | 2},
+    {L"Yes, Yes to All, No, No to All, Cancel", OVOMB_EXTBUTTONS | 3},
+    {L"Yes, Yes to All, No, No to All", OVOMB_EXTBUTTONS | 4},
+    {L"Yes, No, No to All", OVOMB_EXTBUTTONS | 5},
+};
+
+constexpr Choice kIcons[] = {
+    {L"(of the buttons)", 0},
+    {L"Stop", MB_ICONHAND},
+    {L"Question", MB_ICONQUESTION},
+    {L"Exclamation", MB_ICONEXCLAMATION},
+    {L"Information", MB_ICONASTERISK},
+    {L"Computer", OVOMB_EXTICONS | 0x10},
+    {L"Fixed disc", OVOMB_EXTICONS | 0x20},
+    {L"Network disc", OVOMB_EXTICONS | 0x30},
+    {L"Removable disc", OVOMB_EXTICONS | 0x40},
+    {L"CD", OVOMB_EXTICONS | 0x50},
+    {L"Closed folder", OVOMB_EXTICONS | 0x60},
+    {L"Open folder", OVOMB_EXTICONS | 0x70},
+    {L"Internet", OVOMB_EXTICONS | 0x80},
+    {L"Logo", OVOMB_EXTICONS | 0x90},
+    {L"Key", OVOMB_EXTICONS | 0xA0},
+    {L"Mouse", OVOMB_EXTICONS | 0xB0},
+    {L"Network", OVOMB_EXTICONS | 0xC0},
+    {L"Empty note", OVOMB_EXTICONS | 0xD0},
+    {L"Full note", OVOMB_EXTICONS | 0xE0},
+};
+
+constexpr Choice kDefaults[] = {
+    {L"First", MB_DEFBUTTON1},
+    {L"Second", MB_DEFBUTTON2},
+    {L"Third", MB_DEFBUTTON3},
+    {L"Fourth", MB_DEFBUTTON4},
+    {L"Fifth", OVOMB_EXTDEFBUTTON | 0x400},
+    {L"Sixth", OVOMB_EXTDEFBUTTON | 0x500},
+};
+
+constexpr wchar_t kSaveText[] = L"The document \u201CSpring planting\u201D has been changed.\nSave the changes?";
+constexpr wchar_t kReplaceText[] = L"A file of this name exists already.\nReplace it?";
+
+/// A box that is shown for its picture.
+struct Pose
+{
+    const wchar_t* name;
+    UINT type;
+    const wchar_t* text;
+};
+
+constexpr Pose kPoses[] = {
+    {L"two-lines", MB_YESNOCANCEL, kSaveText},
+    {L"extended-1", OVOMB_EXTBUTTONS | 1, kReplaceText},
+    {L"extended-2", OVOMB_EXTBUTTONS | 2, kReplaceText},
+    {L"extended-3", OVOMB_EXTBUTTONS | 3, kReplaceText},
+    {L"extended-4", OVOMB_EXTBUTTONS | 4, kReplaceText},
+    {L"extended-5", OVOMB_EXTBUTTONS | 5, kReplaceText},
+    {L"extended-icon", MB_RETRYCANCEL | OVOMB_EXTICONS | 0x30, L"The network drive does not answer."},
+    {L"long-text", MB_OK | MB_ICONASTERISK, nullptr},
+    {L"help-default", MB_YESNO | MB_HELP | MB_DEFBUTTON3, L"Start without the plug-in?"},
+    {L"wide-line", MB_OKCANCEL | MB_ICONEXCLAMATION,
+     L"A message that is much longer than the screen is wide is broken between its words at two thirds of the "
+     L"width of the screen, so that the box stays readable and its buttons stay in reach of the pointer, however "
+     L"much the program has to say to whoever sits before it."},
+    {L"stop", MB_ABORTRETRYIGNORE, L"The file could not be read."},
+};
+
+void fill(CComboBox& combo, std::span<const Choice> choices)
+{
+    for (const Choice& choice : choices)
+        combo.AddString(choice.label);
+    combo.SetCurSel(0);
+}
+
+UINT flagsOf(const CComboBox& combo, std::span<const Choice> choices)
+{
+    const int chosen = combo.GetCurSel();
+    return chosen < 0 ? 0 : choices[static_cast<std::size_t>(chosen)].flags;
+}
+
+std::wstring manyLines()
+{
+    std::wstring text = L"These files are not in the archive:";
+    for (int i = 1; i <= 24; ++i)
+        text += L"\nC:\\Plants\\Bed " + std::to_wstring(i) + L".plan";
+    return text;
+}
+
+std::wstring answerName(int answer)
+{
+    switch (answer) {
+    case IDOK:
+        return L"IDOK";
+    case IDCANCEL:
+        return L"IDCANCEL";
+    case IDABORT:
+        return L"IDABORT";
+    case IDRETRY:
+        return L"IDRETRY";
+    case IDIGNORE:
+        return L"IDIGNORE";
+    case IDYES:
+        return L"IDYES";
+    case IDNO:
+        return L"IDNO";
+    case IDYESTOALL:
+        return L"IDYESTOALL";
+    case IDNOTOALL:
+        return L"IDNOTOALL";
+    default:
+        return std::to_wstring(answer);
+    }
+}
+
+const UINT s_helpMessage = ::RegisterWindowMessageW(L"commdlg_help");
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(MessageBoxPage, GalleryPage)
+    ON_BN_CLICKED(IDC_BOX_SHOW, OnShow)
+    ON_REGISTERED_MESSAGE(s_helpMessage, OnHelpAsked)
+END_MESSAGE_MAP()
+
+MessageBoxPage::MessageBoxPage()
+    : GalleryPage(IDD_PAGE_MESSAGE_BOX)
+    , m_text(kReplaceText)
+    , m_key(L"GalleryBox")
+{
+    m_text.Replace(L"\n", L"\r\n");
+}
+
+MessageBoxPage::~MessageBoxPage() = default;
+
+void MessageBoxPage::DoDataExchange(CDataExchange* exchange)
+{
+    GalleryPage::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_BOX_BUTTONS, m_buttonsCombo);
+    DDX_Control(exchange, IDC_BOX_ICON, m_iconCombo);
+    DDX_Control(exchange, IDC_BOX_DEFAULT, m_defaultCombo);
+    DDX_Text(exchange, IDC_BOX_TEXT, m_text);
+    DDX_Text(exchange, IDC_BOX_CAPTION, m_caption);
+    DDX_Text(exchange, IDC_BOX_KEY, m_key);
+    DDX_Text(exchange, IDC_BOX_HELP_ID, m_helpId);
+    DDX_Check(exchange, IDC_BOX_HELP, m_help);
+}
+
+BOOL MessageBoxPage::OnInitDialog()
+{
+    GalleryPage::OnInitDialog();
+    fill(m_buttonsCombo, kButtons);
+    fill(m_iconCombo, kIcons);
+    fill(m_defaultCombo, kDefaults);
+    m_buttonsCombo.SetCurSel(8);
+    showRemembered();
+    return FALSE;
+}
+
+UINT MessageBoxPage::chosenType() const
+{
+    return flagsOf(m_buttonsCombo, kButtons) | flagsOf(m_iconCombo, kIcons) | flagsOf(m_defaultCombo, kDefaults) |
+           (m_help ? MB_HELP : 0);
+}
+
+void MessageBoxPage::OnShow()
+{
+    if (!UpdateData())
+        return;
+    const int answer = OVOMessageBox(m_hWnd, m_text, m_caption, chosenType(), m_key, m_helpId);
+    const std::wstring result = answerName(answer);
+    SetDlgItemText(IDC_BOX_RESULT, result.c_str());
+    log(L"OVOMessageBox answered " + result);
+    showRemembered();
+}
+
+void MessageBoxPage::showRemembered()
+{
+    const CString place = AfxGetApp()->GetProfileString(L"settings", m_key);
+    SetDlgItemText(IDC_BOX_REMEMBERED, place.IsEmpty() ? L"nothing for this key" : place.GetString());
+}
+
+LRESULT MessageBoxPage::OnHelpAsked(WPARAM, LPARAM)
+{
+    log(L"commdlg_help from the message box");
+    return 0;
+}
+
+std::vector<std::wstring> MessageBoxPage::poses() const
+{
+    std::vector<std::wstring> names;
+    for (const Pose& pose : kPoses)
+        names.emplace_back(pose.name);
+    return names;
+}
+
+void MessageBoxPage::pose(const std::wstring& name)
+{
+    const std::wstring lines = manyLines();
+    for (const Pose& pose : kPoses)
+        if (name == pose.name)
+            OVOMessageBox(GetParent()->m_hWnd, pose.text ? pose.text : lines.c_str(), L"ovoui gallery", pose.type,
+                          L"GalleryPose", 0);
+}

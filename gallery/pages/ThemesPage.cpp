@@ -1,0 +1,100 @@
+#include "ThemesPage.h"
+
+#include "resource.h"
+
+#include <ovoui/frame/ThemeData.h>
+
+BEGIN_MESSAGE_MAP(ThemeSamples, CWnd)
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr int kRow = 40;
+constexpr int kLabel = 170;
+
+struct State
+{
+    const wchar_t* label;
+    int value;
+    UINT classic; ///< for DrawFrameControl where there are no themes
+};
+
+constexpr State kStates[] = {
+    {L"Normal", 1, 0},
+    {L"Hot", 2, DFCS_HOT},
+    {L"Pressed", 3, DFCS_PUSHED},
+    {L"Disabled", 4, DFCS_INACTIVE},
+    {L"Default", 5, 0},
+};
+
+} // namespace
+
+bool ThemeSamples::create(CWnd& parent, const CRect& place)
+{
+    const LPCTSTR cls = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW),
+                                            reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
+    if (!CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE, place, &parent, 1))
+        return false;
+    SetFont(parent.GetFont());
+    return true;
+}
+
+void ThemeSamples::OnPaint()
+{
+    CThemeData& themes = CThemeData::getThemeData();
+    CPaintDC dc(this);
+    CFont* const old = dc.SelectObject(GetParent()->GetFont());
+    dc.SetBkMode(TRANSPARENT);
+
+    int top = 0;
+    const auto label = [&](const wchar_t* text) {
+        CRect place(0, top, kLabel, top + kRow - 10);
+        dc.DrawText(text, -1, &place, DT_SINGLELINE | DT_VCENTER);
+    };
+    const auto swatch = [&](const wchar_t* text, COLORREF colour) {
+        label(text);
+        const CRect place(kLabel, top, kLabel + 90, top + kRow - 10);
+        dc.FillSolidRect(&place, colour);
+        dc.Draw3dRect(&place, ::GetSysColor(COLOR_BTNSHADOW), ::GetSysColor(COLOR_BTNSHADOW));
+        dc.SetBkMode(TRANSPARENT);
+        top += kRow;
+    };
+    swatch(L"GroupboxText", themes.GroupboxText(m_hWnd));
+    swatch(L"ButtonFace", themes.ButtonFace(m_hWnd));
+    LOGBRUSH brush{};
+    ::GetObjectW(themes.BackgroundBrush(m_hWnd), sizeof brush, &brush);
+    swatch(L"BackgroundBrush", brush.lbColor);
+
+    label(L"drawBackground");
+    int left = kLabel;
+    for (const State& state : kStates) {
+        CRect place(left, top, left + 72, top + kRow - 10);
+        const bool themed = themes.IsAppThemed() && themes.drawBackground(dc, &place, m_hWnd, L"Button", state.value);
+        if (!themed)
+            dc.DrawFrameControl(&place, DFC_BUTTON, DFCS_BUTTONPUSH | state.classic);
+        dc.DrawText(state.label, -1, &place, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
+        left += 80;
+    }
+    dc.SelectObject(old);
+}
+
+ThemesPage::ThemesPage()
+    : GalleryPage(IDD_PAGE_THEMES)
+{
+}
+
+ThemesPage::~ThemesPage() = default;
+
+BOOL ThemesPage::OnInitDialog()
+{
+    GalleryPage::OnInitDialog();
+    SetDlgItemText(IDC_THEME_STATE, CThemeData::getThemeData().IsAppThemed() ? L"Visual styles are on."
+                                                                            : L"Visual styles are off.");
+    CRect place;
+    GetDlgItem(IDC_THEME_SAMPLES)->GetWindowRect(&place);
+    ScreenToClient(&place);
+    m_samples.create(*this, place);
+    return FALSE;
+}

@@ -1,0 +1,33 @@
+// Numbers of the gallery's resources.
+#pragma once
+
+#define IDR_MAIN_FRAME 101
+
+#define IDD_PAGE_GEOMETRY 201
+#define IDD_PAGE_MESSAGE_BOX 202
+#define IDD_PAGE_THEMES 203
+
+#define IDC_PAGE_LIST 1001
+#define IDC_LOG 1002
+
+#define IDC_BOX_TEXT 1101
+#define IDC_BOX_CAPTION 1102
+#define IDC_BOX_BUTTONS 1103
+#define IDC_BOX_ICON 1104
+#define IDC_BOX_DEFAULT 1105
+#define IDC_BOX_HELP 1106
+#define IDC_BOX_KEY 1107
+#define IDC_BOX_SHOW 1108
+#define IDC_BOX_RESULT 1109
+#define IDC_BOX_REMEMBERED 1110
+#define IDC_BOX_HELP_ID 1111
+
+#define IDC_MAP 1201
+#define IDC_MAP_TEXT 1202
+#define IDC_TABS 1203
+#define IDC_TAB_TEXT 1204
+
+#define IDC_THEME_STATE 1301
+#define IDC_THEME_SAMPLES 1302
+
+#define ID_LOG_CLEAR 32801
