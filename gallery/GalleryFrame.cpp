@@ -11,11 +11,14 @@ namespace
 constexpr int kListWidth = 170;
 constexpr int kLogHeight = 120;
 constexpr int kGap = 6;
+constexpr UINT_PTR kPoseTimer = 1;
+constexpr UINT kPoseDelay = 200; // milliseconds for the screen to show what was painted
 
 } // namespace
 
 BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_WM_ENTERIDLE()
+    ON_WM_TIMER()
     ON_WM_SETFOCUS()
     ON_NOTIFY(TVN_SELCHANGEDW, IDC_PAGE_LIST, OnPageChosen)
     ON_COMMAND(ID_LOG_CLEAR, OnLogClear)
@@ -37,7 +40,8 @@ BOOL GalleryFrame::PreCreateWindow(CREATESTRUCT& cs)
 
 BOOL GalleryFrame::OnCreateClient(LPCREATESTRUCT, CCreateContext*)
 {
-    m_font.CreateFontIndirect(&OvoNonClientMetrics().lfMessageFont);
+    const OvoNonClientMetrics metrics;
+    m_font.CreateFontIndirect(&metrics.lfMessageFont);
     constexpr DWORD kList = TVS_HASBUTTONS | TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT;
     if (!m_pageList.CreateEx(WS_EX_CLIENTEDGE, kList | WS_VISIBLE | WS_TABSTOP, CRect(), this, IDC_PAGE_LIST))
         return FALSE;
@@ -133,15 +137,26 @@ void GalleryFrame::settle()
     RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
-/// A modal box that a pose has opened is idle: it has painted, and its picture can be taken.
+/// A modal box that a pose has opened is idle: its picture can be taken as soon as the screen shows it.
 void GalleryFrame::OnEnterIdle(UINT why, CWnd* who)
 {
     CFrameWnd::OnEnterIdle(why, who);
-    if (why != MSGF_DIALOGBOX || m_posePath.empty())
+    if (why != MSGF_DIALOGBOX || m_posePath.empty() || m_posing)
         return;
-    m_poseSaved = saveScreenshot(who->m_hWnd, m_posePath);
+    m_posing = who->m_hWnd;
+    SetTimer(kPoseTimer, kPoseDelay, nullptr);
+}
+
+void GalleryFrame::OnTimer(UINT_PTR id)
+{
+    if (id != kPoseTimer) {
+        CFrameWnd::OnTimer(id);
+        return;
+    }
+    KillTimer(kPoseTimer);
+    m_poseSaved = saveScreenshot(m_posing, m_posePath);
     m_posePath.clear();
-    who->PostMessage(WM_COMMAND, IDCANCEL);
+    ::PostMessageW(std::exchange(m_posing, nullptr), WM_COMMAND, IDCANCEL, 0);
 }
 
 bool GalleryFrame::shoot(const PageEntry& entry, const std::wstring& pose, const std::wstring& path)

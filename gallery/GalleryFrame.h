@@ -31,6 +31,7 @@ protected:
     BOOL OnCreateClient(LPCREATESTRUCT cs, CCreateContext* context) override;
 
     afx_msg void OnEnterIdle(UINT why, CWnd* who);
+    afx_msg void OnTimer(UINT_PTR id);
     afx_msg void OnPageChosen(NMHDR* header, LRESULT* result);
     afx_msg void OnLogClear();
     afx_msg void OnUpdateLogClear(CCmdUI* ui);
@@ -48,6 +49,7 @@ private:
     CFont m_font;
     std::unique_ptr<GalleryPage> m_page;
     const PageEntry* m_entry = nullptr;
+    HWND m_posing = nullptr; ///< the modal box whose picture is due
     std::wstring m_posePath; ///< where the picture of the next modal box goes; empty when none is wanted
     bool m_poseSaved = false;
 };

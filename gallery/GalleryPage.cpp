@@ -20,6 +20,8 @@ std::wstring commandName(HWND control, UINT code)
         return L"BN_CLICKED";
     if (kind == L"Edit" && code == EN_CHANGE)
         return L"EN_CHANGE";
+    if (kind == L"Edit" && code == EN_UPDATE)
+        return L"EN_UPDATE";
     if (kind == L"ComboBox" && code == CBN_SELCHANGE)
         return L"CBN_SELCHANGE";
     if (kind == L"ComboBox" && code == CBN_DROPDOWN)

@@ -46,5 +46,5 @@ bool saveScreenshot(HWND window, const std::wstring& path)
     ::GetWindowRect(window, &rect);
     const UniqueBitmap bitmap = copyOfScreen(rect);
     Gdiplus::Bitmap image(bitmap.get(), nullptr);
-    return image.Save(path.c_str(), &kPngEncoder) == Gdiplus::Ok;
+    return image.Save(path.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
 }

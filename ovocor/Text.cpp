@@ -2,6 +2,7 @@
 #include <ovocor/Text.h>
 
 #include <ovocor/IntCast.h>
+#include <ovocor/OvoError.h>
 #include <ovocor/core/Utf.h>
 
 #include <windows.h>

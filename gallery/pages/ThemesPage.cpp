@@ -12,7 +12,7 @@ namespace
 {
 
 constexpr int kRow = 40;
-constexpr int kLabel = 170;
+constexpr int kLabel = 120;
 
 struct State
 {
@@ -70,12 +70,12 @@ void ThemeSamples::OnPaint()
     label(L"drawBackground");
     int left = kLabel;
     for (const State& state : kStates) {
-        CRect place(left, top, left + 72, top + kRow - 10);
+        CRect place(left, top, left + 60, top + kRow - 10);
         const bool themed = themes.IsAppThemed() && themes.drawBackground(dc, &place, m_hWnd, L"Button", state.value);
         if (!themed)
             dc.DrawFrameControl(&place, DFC_BUTTON, DFCS_BUTTONPUSH | state.classic);
         dc.DrawText(state.label, -1, &place, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
-        left += 80;
+        left += 66;
     }
     dc.SelectObject(old);
 }

@@ -1,7 +1,7 @@
 /// The system's non-client metrics: fonts and sizes of captions, menus and messages.
 ///
-///     CFont font;
-///     font.CreateFontIndirect(&OvoNonClientMetrics().lfMessageFont);
+///     const OvoNonClientMetrics metrics;
+///     font.CreateFontIndirect(&metrics.lfMessageFont);
 #pragma once
 
 #include <ovoui/export.h>

@@ -275,16 +275,19 @@ TEST_F(Download, OfABodyCutShortSaysHowMuchCame)
 
 TEST_F(Download, OfABodyCutShortLeavesNoFileBehind)
 {
-    server.answer("/ovowhole.csv", LoopbackServer::page("200 OK", "oak"));
-    server.answer("/ovocut.csv", "HTTP/1.1 200 OK\r\nContent-Length: 1000\r\nConnection: close\r\n\r\noak");
-    const std::wstring whole = downloadUrlToCache(server.address(L"/ovowhole.csv"));
-    EXPECT_FALSE(errorOf(server.address(L"/ovocut.csv")).empty());
+    // The cache names files after addresses; this one has never been used.
+    const std::string mark = std::to_string(::GetTickCount64());
+    const std::wstring wideMark(mark.begin(), mark.end());
+    server.answer("/whole" + mark, LoopbackServer::page("200 OK", "oak"));
+    server.answer("/cut" + mark, "HTTP/1.1 200 OK\r\nContent-Length: 1000\r\nConnection: close\r\n\r\noak");
+    const std::wstring whole = downloadUrlToCache(server.address(L"/whole" + wideMark));
+    EXPECT_FALSE(errorOf(server.address(L"/cut" + wideMark)).empty());
 
-    // The cache spreads its files over folders that stand side by side.
+    // It spreads them over folders that stand side by side.
     const std::wstring cache = parentOf(parentOf(whole));
-    EXPECT_TRUE(holdsFile(cache, L"ovowhole")) << "where files are looked for, they are found";
-    EXPECT_FALSE(holdsFile(cache, L"ovocut"));
-    ::DeleteUrlCacheEntryW(server.address(L"/ovowhole.csv").c_str());
+    EXPECT_TRUE(holdsFile(cache, L"whole" + wideMark)) << "where files are looked for, they are found";
+    EXPECT_FALSE(holdsFile(cache, L"cut" + wideMark));
+    ::DeleteUrlCacheEntryW(server.address(L"/whole" + wideMark).c_str());
 }
 
 TEST_F(Download, ThatFailsLeavesTheFileOfAnEarlierOneAlone)

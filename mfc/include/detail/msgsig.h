@@ -4,6 +4,7 @@
 #include <afx/MessageMap.h>
 #include <atltypes.h>
 
+#include <bit>
 #include <type_traits>
 
 class CDC;
@@ -264,6 +265,14 @@ struct ReflectedNotifyExHandler
     }
 };
 
+/// The handler's address as AFX_CMDHANDLERINFO keeps it. Nobody calls it through that type.
+template <class Member>
+AFX_PMSG stored(Member handler)
+{
+    static_assert(sizeof(Member) == sizeof(AFX_PMSG));
+    return std::bit_cast<AFX_PMSG>(handler);
+}
+
 } // namespace afxdetail
 
 /// The handler's address, converted to the one type it may have: another type does not compile.
@@ -279,4 +288,4 @@ struct ReflectedNotifyExHandler
      [](CCmdTarget* target, afxdetail::Call& call) -> BOOL {                                                      \
          return Kind::call(static_cast<ThisClass*>(target), AFX_MEMBER_(Kind, memberFxn), call);                  \
      },                                                                                                           \
-     reinterpret_cast<AFX_PMSG>(AFX_MEMBER_(Kind, memberFxn))},
+     afxdetail::stored(AFX_MEMBER_(Kind, memberFxn))},

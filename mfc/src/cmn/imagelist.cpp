@@ -1,8 +1,10 @@
-// CImageList.
 #include <afxwin.h>
 #include <afxcmn.h>
 
 #include <detail/handlemap.h>
+#include <detail/handleof.h>
+
+using afxdetail::handleOf;
 
 IMPLEMENT_DYNCREATE(CImageList, CObject)
 
@@ -25,11 +27,6 @@ struct ImageListTraits
 afxdetail::HandleMap<ImageListTraits>& imageListMap()
 {
     return afxdetail::handleMap<ImageListTraits>();
-}
-
-HBITMAP bitmapOf(const CBitmap* bitmap)
-{
-    return static_cast<HBITMAP>(bitmap->GetSafeHandle());
 }
 
 } // namespace
@@ -56,9 +53,34 @@ void PASCAL CImageList::DeleteTempMap()
     imageListMap().deleteTemporary();
 }
 
+BOOL CImageList::Create(int cx, int cy, UINT flags, int initial, int grow)
+{
+    return adopt(::ImageList_Create(cx, cy, flags, initial, grow));
+}
+
+BOOL CImageList::Create(UINT bitmapId, int cx, int grow, COLORREF mask)
+{
+    return Create(MAKEINTRESOURCEW(bitmapId), cx, grow, mask);
+}
+
+BOOL CImageList::Create(LPCTSTR bitmapName, int cx, int grow, COLORREF mask)
+{
+    const HINSTANCE module = AfxFindResourceHandle(bitmapName, RT_BITMAP);
+    return adopt(::ImageList_LoadImageW(module, bitmapName, cx, grow, mask, IMAGE_BITMAP, 0));
+}
+
+BOOL CImageList::Create(CImageList& list1, int image1, CImageList& list2, int image2, int dx, int dy)
+{
+    return adopt(::ImageList_Merge(list1, image1, list2, image2, dx, dy));
+}
+
+BOOL CImageList::Create(CImageList* source)
+{
+    return adopt(::ImageList_Duplicate(handleOf(source)));
+}
+
 BOOL CImageList::Attach(HIMAGELIST list)
 {
-    ASSERT(!m_hImageList);
     if (!list || m_hImageList)
         return FALSE;
     m_hImageList = list;
@@ -66,11 +88,21 @@ BOOL CImageList::Attach(HIMAGELIST list)
     return TRUE;
 }
 
+BOOL CImageList::adopt(HIMAGELIST list)
+{
+    ASSERT(!m_hImageList);
+    if (!list)
+        return FALSE;
+    Detach();
+    return Attach(list);
+}
+
 HIMAGELIST CImageList::Detach()
 {
-    const HIMAGELIST list = std::exchange(m_hImageList, nullptr);
+    const HIMAGELIST list = m_hImageList;
     if (list)
-        imageListMap().removePermanent(list);
+        imageListMap().remove(list);
+    m_hImageList = nullptr;
     return list;
 }
 
@@ -81,38 +113,14 @@ BOOL CImageList::DeleteImageList()
 
 HIMAGELIST CImageList::GetSafeHandle() const
 {
-    return this ? m_hImageList : nullptr;
+    // Documented for a null pointer too: read through a volatile, since compilers take `this` for not null.
+    const CImageList* const volatile self = this;
+    return handleOf(self);
 }
 
 CImageList::operator HIMAGELIST() const
 {
-    return GetSafeHandle();
-}
-
-BOOL CImageList::Create(int cx, int cy, UINT flags, int initial, int grow)
-{
-    return Attach(::ImageList_Create(cx, cy, flags, initial, grow));
-}
-
-BOOL CImageList::Create(UINT bitmapId, int cx, int grow, COLORREF mask)
-{
-    return Create(MAKEINTRESOURCEW(bitmapId), cx, grow, mask);
-}
-
-BOOL CImageList::Create(LPCTSTR bitmapName, int cx, int grow, COLORREF mask)
-{
-    return Attach(
-        ::ImageList_LoadBitmap(AfxFindResourceHandle(bitmapName, RT_BITMAP), bitmapName, cx, grow, mask));
-}
-
-BOOL CImageList::Create(CImageList& list1, int image1, CImageList& list2, int image2, int dx, int dy)
-{
-    return Attach(::ImageList_Merge(list1, image1, list2, image2, dx, dy));
-}
-
-BOOL CImageList::Create(CImageList* source)
-{
-    return Attach(::ImageList_Duplicate(source->GetSafeHandle()));
+    return m_hImageList;
 }
 
 int CImageList::GetImageCount() const
@@ -127,12 +135,12 @@ BOOL CImageList::SetImageCount(UINT count)
 
 int CImageList::Add(CBitmap* image, CBitmap* mask)
 {
-    return ::ImageList_Add(m_hImageList, bitmapOf(image), bitmapOf(mask));
+    return ::ImageList_Add(m_hImageList, handleOf(image), handleOf(mask));
 }
 
 int CImageList::Add(CBitmap* image, COLORREF mask)
 {
-    return ::ImageList_AddMasked(m_hImageList, bitmapOf(image), mask);
+    return ::ImageList_AddMasked(m_hImageList, handleOf(image), mask);
 }
 
 int CImageList::Add(HICON icon)
@@ -147,7 +155,7 @@ BOOL CImageList::Remove(int image)
 
 BOOL CImageList::Replace(int image, CBitmap* bitmap, CBitmap* mask)
 {
-    return ::ImageList_Replace(m_hImageList, image, bitmapOf(bitmap), bitmapOf(mask));
+    return ::ImageList_Replace(m_hImageList, image, handleOf(bitmap), handleOf(mask));
 }
 
 int CImageList::Replace(int image, HICON icon)
@@ -172,7 +180,7 @@ BOOL CImageList::Copy(int to, int from, UINT flags)
 
 BOOL CImageList::Copy(int to, CImageList* source, int from, UINT flags)
 {
-    return ::ImageList_Copy(m_hImageList, to, source->GetSafeHandle(), from, flags);
+    return ::ImageList_Copy(m_hImageList, to, handleOf(source), from, flags);
 }
 
 BOOL CImageList::SetOverlayImage(int image, int overlay)
@@ -192,13 +200,13 @@ COLORREF CImageList::GetBkColor() const
 
 BOOL CImageList::Draw(CDC* dc, int image, POINT point, UINT style)
 {
-    return ::ImageList_Draw(m_hImageList, image, dc->GetSafeHdc(), point.x, point.y, style);
+    return ::ImageList_Draw(m_hImageList, image, handleOf(dc), point.x, point.y, style);
 }
 
 BOOL CImageList::DrawEx(CDC* dc, int image, POINT point, SIZE size, COLORREF background, COLORREF foreground,
                         UINT style)
 {
-    return ::ImageList_DrawEx(m_hImageList, image, dc->GetSafeHdc(), point.x, point.y, size.cx, size.cy, background,
+    return ::ImageList_DrawEx(m_hImageList, image, handleOf(dc), point.x, point.y, size.cx, size.cy, background,
                               foreground, style);
 }
 
@@ -213,18 +221,18 @@ BOOL CImageList::DrawIndirect(CDC* dc, int image, POINT point, SIZE size, POINT 
                               COLORREF background, COLORREF foreground, DWORD state, DWORD frame, COLORREF effect)
 {
     IMAGELISTDRAWPARAMS params{};
-    params.hdcDst = dc->GetSafeHdc();
     params.i = image;
+    params.hdcDst = handleOf(dc);
     params.x = point.x;
     params.y = point.y;
     params.cx = size.cx;
     params.cy = size.cy;
     params.xBitmap = origin.x;
     params.yBitmap = origin.y;
-    params.fStyle = style;
-    params.dwRop = rop;
     params.rgbBk = background;
     params.rgbFg = foreground;
+    params.fStyle = style;
+    params.dwRop = rop;
     params.fState = state;
     params.Frame = frame;
     params.crEffect = effect;
@@ -243,12 +251,12 @@ void PASCAL CImageList::EndDrag()
 
 BOOL PASCAL CImageList::DragEnter(CWnd* lock, CPoint point)
 {
-    return ::ImageList_DragEnter(lock->GetSafeHwnd(), point.x, point.y);
+    return ::ImageList_DragEnter(handleOf(lock), point.x, point.y);
 }
 
 BOOL PASCAL CImageList::DragLeave(CWnd* lock)
 {
-    return ::ImageList_DragLeave(lock->GetSafeHwnd());
+    return ::ImageList_DragLeave(handleOf(lock));
 }
 
 BOOL PASCAL CImageList::DragMove(CPoint point)

@@ -1,6 +1,14 @@
-// CTreeCtrl.
 #include <afxwin.h>
 #include <afxcmn.h>
+
+#include "ownedlist.h"
+
+#include <detail/handleof.h>
+#include <detail/send.h>
+
+using afxdetail::controlFrom;
+using afxdetail::handleOf;
+using afxdetail::send;
 
 IMPLEMENT_DYNAMIC(CTreeCtrl, CWnd)
 
@@ -8,7 +16,7 @@ CTreeCtrl::CTreeCtrl() = default;
 
 BOOL CTreeCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
-    return CWnd::CreateEx(0, WC_TREEVIEWW, nullptr, style | WS_CHILD, rect, parent, id);
+    return CWnd::Create(WC_TREEVIEWW, nullptr, style, rect, parent, id);
 }
 
 BOOL CTreeCtrl::CreateEx(DWORD exStyle, DWORD style, const RECT& rect, CWnd* parent, UINT id)
@@ -16,264 +24,9 @@ BOOL CTreeCtrl::CreateEx(DWORD exStyle, DWORD style, const RECT& rect, CWnd* par
     return CWnd::CreateEx(exStyle, WC_TREEVIEWW, nullptr, style | WS_CHILD, rect, parent, id);
 }
 
-BOOL CTreeCtrl::DeleteItem(HTREEITEM item)
-{
-    return static_cast<BOOL>(SendMessage(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(item)));
-}
-
-UINT CTreeCtrl::GetCount() const
-{
-    return static_cast<UINT>(SendMessage(TVM_GETCOUNT));
-}
-
-HTREEITEM CTreeCtrl::GetNextItem(HTREEITEM item, UINT code) const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, code, reinterpret_cast<LPARAM>(item)));
-}
-
-HTREEITEM CTreeCtrl::GetRootItem() const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, TVGN_ROOT));
-}
-
-HTREEITEM CTreeCtrl::GetChildItem(HTREEITEM item) const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, TVGN_CHILD, reinterpret_cast<LPARAM>(item)));
-}
-
-HTREEITEM CTreeCtrl::GetParentItem(HTREEITEM item) const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, TVGN_PARENT, reinterpret_cast<LPARAM>(item)));
-}
-
-HTREEITEM CTreeCtrl::GetNextSiblingItem(HTREEITEM item) const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, TVGN_NEXT, reinterpret_cast<LPARAM>(item)));
-}
-
-HTREEITEM CTreeCtrl::GetPrevSiblingItem(HTREEITEM item) const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, TVGN_PREVIOUS, reinterpret_cast<LPARAM>(item)));
-}
-
-HTREEITEM CTreeCtrl::GetFirstVisibleItem() const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, TVGN_FIRSTVISIBLE));
-}
-
-HTREEITEM CTreeCtrl::GetNextVisibleItem(HTREEITEM item) const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, TVGN_NEXTVISIBLE, reinterpret_cast<LPARAM>(item)));
-}
-
-HTREEITEM CTreeCtrl::GetPrevVisibleItem(HTREEITEM item) const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, TVGN_PREVIOUSVISIBLE, reinterpret_cast<LPARAM>(item)));
-}
-
-HTREEITEM CTreeCtrl::GetLastVisibleItem() const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, TVGN_LASTVISIBLE));
-}
-
-HTREEITEM CTreeCtrl::GetSelectedItem() const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, TVGN_CARET));
-}
-
-HTREEITEM CTreeCtrl::GetDropHilightItem() const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, TVGN_DROPHILITE));
-}
-
-BOOL CTreeCtrl::GetItem(TVITEM* item) const
-{
-    return static_cast<BOOL>(SendMessage(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(item)));
-}
-
-BOOL CTreeCtrl::Select(HTREEITEM item, UINT code)
-{
-    return static_cast<BOOL>(SendMessage(TVM_SELECTITEM, code, reinterpret_cast<LPARAM>(item)));
-}
-
-BOOL CTreeCtrl::SelectItem(HTREEITEM item)
-{
-    return static_cast<BOOL>(SendMessage(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item)));
-}
-
-BOOL CTreeCtrl::SelectDropTarget(HTREEITEM item)
-{
-    return static_cast<BOOL>(SendMessage(TVM_SELECTITEM, TVGN_DROPHILITE, reinterpret_cast<LPARAM>(item)));
-}
-
-BOOL CTreeCtrl::SelectSetFirstVisible(HTREEITEM item)
-{
-    return static_cast<BOOL>(SendMessage(TVM_SELECTITEM, TVGN_FIRSTVISIBLE, reinterpret_cast<LPARAM>(item)));
-}
-
-BOOL CTreeCtrl::EnsureVisible(HTREEITEM item)
-{
-    return static_cast<BOOL>(SendMessage(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item)));
-}
-
-BOOL CTreeCtrl::Expand(HTREEITEM item, UINT code)
-{
-    return static_cast<BOOL>(SendMessage(TVM_EXPAND, code, reinterpret_cast<LPARAM>(item)));
-}
-
-BOOL CTreeCtrl::SortChildren(HTREEITEM item)
-{
-    return static_cast<BOOL>(SendMessage(TVM_SORTCHILDREN, 0, reinterpret_cast<LPARAM>(item)));
-}
-
-BOOL CTreeCtrl::SortChildrenCB(LPTVSORTCB sort)
-{
-    return static_cast<BOOL>(SendMessage(TVM_SORTCHILDRENCB, 0, reinterpret_cast<LPARAM>(sort)));
-}
-
-BOOL CTreeCtrl::SetInsertMark(HTREEITEM item, BOOL after)
-{
-    return static_cast<BOOL>(SendMessage(TVM_SETINSERTMARK, static_cast<WPARAM>(after), reinterpret_cast<LPARAM>(item)));
-}
-
-CEdit* CTreeCtrl::EditLabel(HTREEITEM item)
-{
-    return static_cast<CEdit*>(CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(TVM_EDITLABELW, 0, reinterpret_cast<LPARAM>(item)))));
-}
-
-BOOL CTreeCtrl::EndEditLabelNow(BOOL cancel)
-{
-    return static_cast<BOOL>(SendMessage(TVM_ENDEDITLABELNOW, static_cast<WPARAM>(cancel)));
-}
-
-CEdit* CTreeCtrl::GetEditControl() const
-{
-    return static_cast<CEdit*>(CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(TVM_GETEDITCONTROL))));
-}
-
-UINT CTreeCtrl::GetVisibleCount() const
-{
-    return static_cast<UINT>(SendMessage(TVM_GETVISIBLECOUNT));
-}
-
-UINT CTreeCtrl::GetIndent() const
-{
-    return static_cast<UINT>(SendMessage(TVM_GETINDENT));
-}
-
-void CTreeCtrl::SetIndent(UINT indent)
-{
-    SendMessage(TVM_SETINDENT, indent);
-}
-
-SHORT CTreeCtrl::GetItemHeight() const
-{
-    return static_cast<SHORT>(SendMessage(TVM_GETITEMHEIGHT));
-}
-
-SHORT CTreeCtrl::SetItemHeight(SHORT height)
-{
-    return static_cast<SHORT>(SendMessage(TVM_SETITEMHEIGHT, static_cast<WPARAM>(height)));
-}
-
-CImageList* CTreeCtrl::GetImageList(UINT type) const
-{
-    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(SendMessage(TVM_GETIMAGELIST, type)));
-}
-
-CImageList* CTreeCtrl::SetImageList(CImageList* list, int type)
-{
-    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(SendMessage(TVM_SETIMAGELIST, static_cast<WPARAM>(type), reinterpret_cast<LPARAM>(list->GetSafeHandle()))));
-}
-
-CToolTipCtrl* CTreeCtrl::GetToolTips() const
-{
-    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(TVM_GETTOOLTIPS))));
-}
-
-CToolTipCtrl* CTreeCtrl::SetToolTips(CToolTipCtrl* tip)
-{
-    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(TVM_SETTOOLTIPS, reinterpret_cast<WPARAM>(tip->GetSafeHwnd())))));
-}
-
-COLORREF CTreeCtrl::GetBkColor() const
-{
-    return static_cast<COLORREF>(SendMessage(TVM_GETBKCOLOR));
-}
-
-COLORREF CTreeCtrl::SetBkColor(COLORREF colour)
-{
-    return static_cast<COLORREF>(SendMessage(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(colour)));
-}
-
-COLORREF CTreeCtrl::GetTextColor() const
-{
-    return static_cast<COLORREF>(SendMessage(TVM_GETTEXTCOLOR));
-}
-
-COLORREF CTreeCtrl::SetTextColor(COLORREF colour)
-{
-    return static_cast<COLORREF>(SendMessage(TVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(colour)));
-}
-
-COLORREF CTreeCtrl::GetLineColor() const
-{
-    return static_cast<COLORREF>(SendMessage(TVM_GETLINECOLOR));
-}
-
-COLORREF CTreeCtrl::SetLineColor(COLORREF colour)
-{
-    return static_cast<COLORREF>(SendMessage(TVM_SETLINECOLOR, 0, static_cast<LPARAM>(colour)));
-}
-
-COLORREF CTreeCtrl::GetInsertMarkColor() const
-{
-    return static_cast<COLORREF>(SendMessage(TVM_GETINSERTMARKCOLOR));
-}
-
-COLORREF CTreeCtrl::SetInsertMarkColor(COLORREF colour)
-{
-    return static_cast<COLORREF>(SendMessage(TVM_SETINSERTMARKCOLOR, 0, static_cast<LPARAM>(colour)));
-}
-
-DWORD CTreeCtrl::GetExtendedStyle() const
-{
-    return static_cast<DWORD>(SendMessage(TVM_GETEXTENDEDSTYLE));
-}
-
-DWORD CTreeCtrl::SetExtendedStyle(DWORD mask, DWORD style)
-{
-    return static_cast<DWORD>(SendMessage(TVM_SETEXTENDEDSTYLE, static_cast<WPARAM>(mask), static_cast<LPARAM>(style)));
-}
-
-UINT CTreeCtrl::GetScrollTime() const
-{
-    return static_cast<UINT>(SendMessage(TVM_GETSCROLLTIME));
-}
-
-UINT CTreeCtrl::SetScrollTime(UINT time)
-{
-    return static_cast<UINT>(SendMessage(TVM_SETSCROLLTIME, time));
-}
-
-BOOL CTreeCtrl::SetAutoscrollInfo(UINT pixelsPerSecond, UINT updateTime)
-{
-    return static_cast<BOOL>(SendMessage(TVM_SETAUTOSCROLLINFO, pixelsPerSecond, static_cast<LPARAM>(updateTime)));
-}
-
-HTREEITEM CTreeCtrl::MapAccIdToItem(UINT id) const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_MAPACCIDTOHTREEITEM, id));
-}
-
-UINT CTreeCtrl::MapItemToAccID(HTREEITEM item) const
-{
-    return static_cast<UINT>(SendMessage(TVM_MAPHTREEITEMTOACCID, reinterpret_cast<WPARAM>(item)));
-}
-
 HTREEITEM CTreeCtrl::InsertItem(LPTVINSERTSTRUCT insert)
 {
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(insert)));
+    return send<HTREEITEM>(*this, TVM_INSERTITEMW, 0, insert);
 }
 
 HTREEITEM CTreeCtrl::InsertItem(UINT mask, LPCTSTR text, int image, int selectedImage, UINT state, UINT stateMask,
@@ -302,120 +55,154 @@ HTREEITEM CTreeCtrl::InsertItem(LPCTSTR text, int image, int selectedImage, HTRE
     return InsertItem(TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, text, image, selectedImage, 0, 0, 0, parent, after);
 }
 
+BOOL CTreeCtrl::DeleteItem(HTREEITEM item)
+{
+    return send<BOOL>(*this, TVM_DELETEITEM, 0, item);
+}
+
 BOOL CTreeCtrl::DeleteAllItems()
 {
     return DeleteItem(TVI_ROOT);
 }
 
-namespace
+UINT CTreeCtrl::GetCount() const
 {
-
-TVITEM itemOf(HTREEITEM item, UINT mask, UINT stateMask = 0)
-{
-    TVITEM tv{};
-    tv.mask = mask | TVIF_HANDLE;
-    tv.hItem = item;
-    tv.stateMask = stateMask;
-    return tv;
+    return send<UINT>(*this, TVM_GETCOUNT);
 }
 
-} // namespace
-
-BOOL CTreeCtrl::SetItem(TVITEM* item)
+HTREEITEM CTreeCtrl::GetNextItem(HTREEITEM item, UINT code) const
 {
-    return static_cast<BOOL>(SendMessage(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(item)));
+    return send<HTREEITEM>(*this, TVM_GETNEXTITEM, code, item);
 }
 
-BOOL CTreeCtrl::SetItem(HTREEITEM item, UINT mask, LPCTSTR text, int image, int selectedImage, UINT state,
-                        UINT stateMask, LPARAM data)
+HTREEITEM CTreeCtrl::GetRootItem() const
 {
-    TVITEM tv = itemOf(item, mask, stateMask);
-    tv.pszText = const_cast<LPTSTR>(text);
-    tv.iImage = image;
-    tv.iSelectedImage = selectedImage;
-    tv.state = state;
-    tv.lParam = data;
-    return SetItem(&tv);
+    return GetNextItem(nullptr, TVGN_ROOT);
 }
 
-BOOL CTreeCtrl::ItemHasChildren(HTREEITEM item) const
+HTREEITEM CTreeCtrl::GetChildItem(HTREEITEM item) const
 {
-    TVITEM tv = itemOf(item, TVIF_CHILDREN);
-    GetItem(&tv);
-    return tv.cChildren;
+    return GetNextItem(item, TVGN_CHILD);
 }
 
-CString CTreeCtrl::GetItemText(HTREEITEM item) const
+HTREEITEM CTreeCtrl::GetParentItem(HTREEITEM item) const
 {
-    CString text;
-    for (int room = 128;; room *= 2) {
-        TVITEM tv = itemOf(item, TVIF_TEXT);
-        tv.pszText = text.GetBuffer(room);
-        tv.cchTextMax = room;
-        if (!GetItem(&tv))
-            tv.pszText[0] = 0;
-        // The control may answer with a buffer of its own.
-        const CString got(tv.pszText);
-        if (got.GetLength() < room - 1) {
-            text.ReleaseBuffer(0);
-            return got;
-        }
-        text.ReleaseBuffer(0);
-    }
+    return GetNextItem(item, TVGN_PARENT);
 }
 
-BOOL CTreeCtrl::SetItemText(HTREEITEM item, LPCTSTR text)
+HTREEITEM CTreeCtrl::GetNextSiblingItem(HTREEITEM item) const
 {
-    return SetItem(item, TVIF_TEXT, text, 0, 0, 0, 0, 0);
+    return GetNextItem(item, TVGN_NEXT);
 }
 
-DWORD_PTR CTreeCtrl::GetItemData(HTREEITEM item) const
+HTREEITEM CTreeCtrl::GetPrevSiblingItem(HTREEITEM item) const
 {
-    TVITEM tv = itemOf(item, TVIF_PARAM);
-    GetItem(&tv);
-    return static_cast<DWORD_PTR>(tv.lParam);
+    return GetNextItem(item, TVGN_PREVIOUS);
 }
 
-BOOL CTreeCtrl::SetItemData(HTREEITEM item, DWORD_PTR data)
+HTREEITEM CTreeCtrl::GetFirstVisibleItem() const
 {
-    return SetItem(item, TVIF_PARAM, nullptr, 0, 0, 0, 0, static_cast<LPARAM>(data));
+    return GetNextItem(nullptr, TVGN_FIRSTVISIBLE);
 }
 
-UINT CTreeCtrl::GetItemState(HTREEITEM item, UINT mask) const
+HTREEITEM CTreeCtrl::GetNextVisibleItem(HTREEITEM item) const
 {
-    // Unlike TVM_GETITEMSTATE, this works with every version of the control.
-    TVITEM tv = itemOf(item, TVIF_STATE, mask);
-    GetItem(&tv);
-    return tv.state & mask;
+    return GetNextItem(item, TVGN_NEXTVISIBLE);
 }
 
-BOOL CTreeCtrl::SetItemState(HTREEITEM item, UINT state, UINT mask)
+HTREEITEM CTreeCtrl::GetPrevVisibleItem(HTREEITEM item) const
 {
-    return SetItem(item, TVIF_STATE, nullptr, 0, 0, state, mask, 0);
+    return GetNextItem(item, TVGN_PREVIOUSVISIBLE);
 }
 
-BOOL CTreeCtrl::GetItemImage(HTREEITEM item, int& image, int& selectedImage) const
+HTREEITEM CTreeCtrl::GetLastVisibleItem() const
 {
-    TVITEM tv = itemOf(item, TVIF_IMAGE | TVIF_SELECTEDIMAGE);
-    const BOOL found = GetItem(&tv);
-    image = tv.iImage;
-    selectedImage = tv.iSelectedImage;
-    return found;
+    return GetNextItem(nullptr, TVGN_LASTVISIBLE);
 }
 
-BOOL CTreeCtrl::SetItemImage(HTREEITEM item, int image, int selectedImage)
+HTREEITEM CTreeCtrl::GetSelectedItem() const
 {
-    return SetItem(item, TVIF_IMAGE | TVIF_SELECTEDIMAGE, nullptr, image, selectedImage, 0, 0, 0);
+    return GetNextItem(nullptr, TVGN_CARET);
 }
 
-BOOL CTreeCtrl::GetCheck(HTREEITEM item) const
+HTREEITEM CTreeCtrl::GetDropHilightItem() const
 {
-    return static_cast<BOOL>((GetItemState(item, TVIS_STATEIMAGEMASK) >> 12) - 1);
+    return GetNextItem(nullptr, TVGN_DROPHILITE);
 }
 
-BOOL CTreeCtrl::SetCheck(HTREEITEM item, BOOL check)
+BOOL CTreeCtrl::Select(HTREEITEM item, UINT code)
 {
-    return SetItemState(item, INDEXTOSTATEIMAGEMASK(check ? 2 : 1), TVIS_STATEIMAGEMASK);
+    return send<BOOL>(*this, TVM_SELECTITEM, code, item);
+}
+
+BOOL CTreeCtrl::SelectItem(HTREEITEM item)
+{
+    return Select(item, TVGN_CARET);
+}
+
+BOOL CTreeCtrl::SelectDropTarget(HTREEITEM item)
+{
+    return Select(item, TVGN_DROPHILITE);
+}
+
+BOOL CTreeCtrl::SelectSetFirstVisible(HTREEITEM item)
+{
+    return Select(item, TVGN_FIRSTVISIBLE);
+}
+
+UINT CTreeCtrl::GetSelectedCount()
+{
+    return send<UINT>(*this, TVM_GETSELECTEDCOUNT);
+}
+
+BOOL CTreeCtrl::EnsureVisible(HTREEITEM item)
+{
+    return send<BOOL>(*this, TVM_ENSUREVISIBLE, 0, item);
+}
+
+BOOL CTreeCtrl::Expand(HTREEITEM item, UINT code)
+{
+    return send<BOOL>(*this, TVM_EXPAND, code, item);
+}
+
+BOOL CTreeCtrl::SortChildren(HTREEITEM item)
+{
+    return send<BOOL>(*this, TVM_SORTCHILDREN, FALSE, item);
+}
+
+BOOL CTreeCtrl::SortChildrenCB(LPTVSORTCB sort)
+{
+    return send<BOOL>(*this, TVM_SORTCHILDRENCB, FALSE, sort);
+}
+
+BOOL CTreeCtrl::SetInsertMark(HTREEITEM item, BOOL after)
+{
+    return send<BOOL>(*this, TVM_SETINSERTMARK, after, item);
+}
+
+CImageList* CTreeCtrl::CreateDragImage(HTREEITEM item)
+{
+    return afxdetail::ownedList(send<HIMAGELIST>(*this, TVM_CREATEDRAGIMAGE, 0, item));
+}
+
+void CTreeCtrl::ShowInfoTip(HTREEITEM item)
+{
+    send(*this, TVM_SHOWINFOTIP, 0, item);
+}
+
+CEdit* CTreeCtrl::EditLabel(HTREEITEM item)
+{
+    return controlFrom<CEdit>(send<HWND>(*this, TVM_EDITLABELW, 0, item));
+}
+
+BOOL CTreeCtrl::EndEditLabelNow(BOOL cancel)
+{
+    return send<BOOL>(*this, TVM_ENDEDITLABELNOW, cancel);
+}
+
+CEdit* CTreeCtrl::GetEditControl() const
+{
+    return controlFrom<CEdit>(send<HWND>(*this, TVM_GETEDITCONTROL));
 }
 
 HTREEITEM CTreeCtrl::HitTest(CPoint point, UINT* flags) const
@@ -430,22 +217,138 @@ HTREEITEM CTreeCtrl::HitTest(CPoint point, UINT* flags) const
 
 HTREEITEM CTreeCtrl::HitTest(TVHITTESTINFO* info) const
 {
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(info)));
+    return send<HTREEITEM>(*this, TVM_HITTEST, 0, info);
 }
 
 BOOL CTreeCtrl::GetItemRect(HTREEITEM item, LPRECT rect, BOOL textOnly) const
 {
+    // The control expects the item where it puts the rectangle.
     *reinterpret_cast<HTREEITEM*>(rect) = item;
-    return static_cast<BOOL>(SendMessage(TVM_GETITEMRECT, static_cast<WPARAM>(textOnly), reinterpret_cast<LPARAM>(rect)));
+    return send<BOOL>(*this, TVM_GETITEMRECT, textOnly, rect);
 }
 
-CImageList* CTreeCtrl::CreateDragImage(HTREEITEM item)
+BOOL CTreeCtrl::GetItemPartRect(HTREEITEM item, int part, LPRECT rect) const
 {
-    const auto list =
-        reinterpret_cast<HIMAGELIST>(SendMessage(TVM_CREATEDRAGIMAGE, 0, reinterpret_cast<LPARAM>(item)));
-    if (!list)
-        return nullptr;
-    auto* image = new CImageList;
-    image->Attach(list);
-    return image;
+    TVGETITEMPARTRECTINFO info{item, rect, static_cast<TVITEMPART>(part)};
+    return send<BOOL>(*this, TVM_GETITEMPARTRECT, 0, &info);
+}
+
+UINT CTreeCtrl::GetVisibleCount() const
+{
+    return send<UINT>(*this, TVM_GETVISIBLECOUNT);
+}
+
+UINT CTreeCtrl::GetIndent() const
+{
+    return send<UINT>(*this, TVM_GETINDENT);
+}
+
+void CTreeCtrl::SetIndent(UINT indent)
+{
+    send(*this, TVM_SETINDENT, indent);
+}
+
+SHORT CTreeCtrl::GetItemHeight() const
+{
+    return send<SHORT>(*this, TVM_GETITEMHEIGHT);
+}
+
+SHORT CTreeCtrl::SetItemHeight(SHORT height)
+{
+    return send<SHORT>(*this, TVM_SETITEMHEIGHT, height);
+}
+
+CImageList* CTreeCtrl::GetImageList(UINT type) const
+{
+    return CImageList::FromHandle(send<HIMAGELIST>(*this, TVM_GETIMAGELIST, type));
+}
+
+CImageList* CTreeCtrl::SetImageList(CImageList* list, int type)
+{
+    return CImageList::FromHandle(send<HIMAGELIST>(*this, TVM_SETIMAGELIST, type, handleOf(list)));
+}
+
+CToolTipCtrl* CTreeCtrl::GetToolTips() const
+{
+    return controlFrom<CToolTipCtrl>(send<HWND>(*this, TVM_GETTOOLTIPS));
+}
+
+CToolTipCtrl* CTreeCtrl::SetToolTips(CToolTipCtrl* tip)
+{
+    return controlFrom<CToolTipCtrl>(send<HWND>(*this, TVM_SETTOOLTIPS, handleOf(tip)));
+}
+
+COLORREF CTreeCtrl::GetBkColor() const
+{
+    return send<COLORREF>(*this, TVM_GETBKCOLOR);
+}
+
+COLORREF CTreeCtrl::SetBkColor(COLORREF colour)
+{
+    return send<COLORREF>(*this, TVM_SETBKCOLOR, 0, colour);
+}
+
+COLORREF CTreeCtrl::GetTextColor() const
+{
+    return send<COLORREF>(*this, TVM_GETTEXTCOLOR);
+}
+
+COLORREF CTreeCtrl::SetTextColor(COLORREF colour)
+{
+    return send<COLORREF>(*this, TVM_SETTEXTCOLOR, 0, colour);
+}
+
+COLORREF CTreeCtrl::GetLineColor() const
+{
+    return send<COLORREF>(*this, TVM_GETLINECOLOR);
+}
+
+COLORREF CTreeCtrl::SetLineColor(COLORREF colour)
+{
+    return send<COLORREF>(*this, TVM_SETLINECOLOR, 0, colour);
+}
+
+COLORREF CTreeCtrl::GetInsertMarkColor() const
+{
+    return send<COLORREF>(*this, TVM_GETINSERTMARKCOLOR);
+}
+
+COLORREF CTreeCtrl::SetInsertMarkColor(COLORREF colour)
+{
+    return send<COLORREF>(*this, TVM_SETINSERTMARKCOLOR, 0, colour);
+}
+
+DWORD CTreeCtrl::GetExtendedStyle() const
+{
+    return send<DWORD>(*this, TVM_GETEXTENDEDSTYLE);
+}
+
+DWORD CTreeCtrl::SetExtendedStyle(DWORD mask, DWORD style)
+{
+    return send<DWORD>(*this, TVM_SETEXTENDEDSTYLE, mask, style);
+}
+
+UINT CTreeCtrl::GetScrollTime() const
+{
+    return send<UINT>(*this, TVM_GETSCROLLTIME);
+}
+
+UINT CTreeCtrl::SetScrollTime(UINT time)
+{
+    return send<UINT>(*this, TVM_SETSCROLLTIME, time);
+}
+
+BOOL CTreeCtrl::SetAutoscrollInfo(UINT pixelsPerSecond, UINT updateTime)
+{
+    return send<BOOL>(*this, TVM_SETAUTOSCROLLINFO, pixelsPerSecond, updateTime);
+}
+
+HTREEITEM CTreeCtrl::MapAccIdToItem(UINT id) const
+{
+    return send<HTREEITEM>(*this, TVM_MAPACCIDTOHTREEITEM, id);
+}
+
+UINT CTreeCtrl::MapItemToAccID(HTREEITEM item) const
+{
+    return send<UINT>(*this, TVM_MAPHTREEITEMTOACCID, item);
 }

@@ -92,7 +92,8 @@ void CEdit::GetSel(int& start, int& end) const
 
 void CEdit::SetSel(DWORD selection, BOOL noScroll)
 {
-    SetSel(static_cast<short>(LOWORD(selection)), static_cast<short>(HIWORD(selection)), noScroll);
+    const auto position = [](WORD word) { return word == 0xFFFF ? -1 : static_cast<int>(word); };
+    SetSel(position(LOWORD(selection)), position(HIWORD(selection)), noScroll);
 }
 
 void CEdit::SetSel(int start, int end, BOOL noScroll)

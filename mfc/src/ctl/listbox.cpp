@@ -254,18 +254,14 @@ int CListBox::CompareItem(LPCOMPAREITEMSTRUCT)
 
 void CListBox::DeleteItem(LPDELETEITEMSTRUCT) {}
 
-int CListBox::VKeyToItem(UINT key, UINT index)
+int CListBox::VKeyToItem(UINT, UINT)
 {
-    UNUSED_ALWAYS(key);
-    UNUSED_ALWAYS(index);
-    return static_cast<int>(Default());
+    return -1;
 }
 
-int CListBox::CharToItem(UINT key, UINT index)
+int CListBox::CharToItem(UINT, UINT)
 {
-    UNUSED_ALWAYS(key);
-    UNUSED_ALWAYS(index);
-    return static_cast<int>(Default());
+    return -1;
 }
 
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
