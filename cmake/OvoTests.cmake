@@ -15,7 +15,11 @@ set(OVO_TEST_RESULTS ${PROJECT_BINARY_DIR}/results)
 
 # Registers one run of a test program with CTest; the counts are read from its XML afterwards.
 function(_ovo_register name program timeout)
-  set(arguments --gtest_output=xml:${OVO_TEST_RESULTS}/${name}.xml)
+  set(report ${OVO_TEST_RESULTS}/${name}.xml)
+  if(WIN32 AND NOT CMAKE_HOST_WIN32)
+    set(report Z:${report}) # without a drive, GoogleTest takes it for a path below the working directory
+  endif()
+  set(arguments --gtest_output=xml:${report})
   cmake_parse_arguments(arg "" "FILTER;THEMES" "" ${ARGN})
   if(arg_FILTER)
     list(APPEND arguments --gtest_filter=${arg_FILTER})

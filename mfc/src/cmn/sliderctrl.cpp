@@ -1,6 +1,11 @@
-// CSliderCtrl.
 #include <afxwin.h>
 #include <afxcmn.h>
+
+#include <detail/handleof.h>
+#include <detail/send.h>
+
+using afxdetail::handleOf;
+using afxdetail::send;
 
 IMPLEMENT_DYNAMIC(CSliderCtrl, CWnd)
 
@@ -8,7 +13,7 @@ CSliderCtrl::CSliderCtrl() = default;
 
 BOOL CSliderCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
-    return CWnd::CreateEx(0, TRACKBAR_CLASSW, nullptr, style | WS_CHILD, rect, parent, id);
+    return CWnd::Create(TRACKBAR_CLASSW, nullptr, style, rect, parent, id);
 }
 
 BOOL CSliderCtrl::CreateEx(DWORD exStyle, DWORD style, const RECT& rect, CWnd* parent, UINT id)
@@ -18,137 +23,12 @@ BOOL CSliderCtrl::CreateEx(DWORD exStyle, DWORD style, const RECT& rect, CWnd* p
 
 int CSliderCtrl::GetPos() const
 {
-    return static_cast<int>(SendMessage(TBM_GETPOS));
+    return send<int>(*this, TBM_GETPOS);
 }
 
 void CSliderCtrl::SetPos(int position)
 {
-    SendMessage(TBM_SETPOS, TRUE, position);
-}
-
-int CSliderCtrl::GetRangeMin() const
-{
-    return static_cast<int>(SendMessage(TBM_GETRANGEMIN));
-}
-
-void CSliderCtrl::SetRangeMin(int minimum, BOOL redraw)
-{
-    SendMessage(TBM_SETRANGEMIN, static_cast<WPARAM>(redraw), minimum);
-}
-
-int CSliderCtrl::GetRangeMax() const
-{
-    return static_cast<int>(SendMessage(TBM_GETRANGEMAX));
-}
-
-void CSliderCtrl::SetRangeMax(int maximum, BOOL redraw)
-{
-    SendMessage(TBM_SETRANGEMAX, static_cast<WPARAM>(redraw), maximum);
-}
-
-int CSliderCtrl::GetLineSize() const
-{
-    return static_cast<int>(SendMessage(TBM_GETLINESIZE));
-}
-
-int CSliderCtrl::SetLineSize(int size)
-{
-    return static_cast<int>(SendMessage(TBM_SETLINESIZE, 0, size));
-}
-
-int CSliderCtrl::GetPageSize() const
-{
-    return static_cast<int>(SendMessage(TBM_GETPAGESIZE));
-}
-
-int CSliderCtrl::SetPageSize(int size)
-{
-    return static_cast<int>(SendMessage(TBM_SETPAGESIZE, 0, size));
-}
-
-void CSliderCtrl::ClearSel(BOOL redraw)
-{
-    SendMessage(TBM_CLEARSEL, static_cast<WPARAM>(redraw));
-}
-
-UINT CSliderCtrl::GetNumTics() const
-{
-    return static_cast<UINT>(SendMessage(TBM_GETNUMTICS));
-}
-
-DWORD* CSliderCtrl::GetTicArray() const
-{
-    return reinterpret_cast<DWORD*>(SendMessage(TBM_GETPTICS));
-}
-
-int CSliderCtrl::GetTic(int tic) const
-{
-    return static_cast<int>(SendMessage(TBM_GETTIC, static_cast<WPARAM>(tic)));
-}
-
-int CSliderCtrl::GetTicPos(int tic) const
-{
-    return static_cast<int>(SendMessage(TBM_GETTICPOS, static_cast<WPARAM>(tic)));
-}
-
-BOOL CSliderCtrl::SetTic(int position)
-{
-    return static_cast<BOOL>(SendMessage(TBM_SETTIC, 0, position));
-}
-
-void CSliderCtrl::SetTicFreq(int frequency)
-{
-    SendMessage(TBM_SETTICFREQ, static_cast<WPARAM>(frequency));
-}
-
-void CSliderCtrl::ClearTics(BOOL redraw)
-{
-    SendMessage(TBM_CLEARTICS, static_cast<WPARAM>(redraw));
-}
-
-void CSliderCtrl::GetChannelRect(LPRECT rect) const
-{
-    SendMessage(TBM_GETCHANNELRECT, 0, reinterpret_cast<LPARAM>(rect));
-}
-
-void CSliderCtrl::GetThumbRect(LPRECT rect) const
-{
-    SendMessage(TBM_GETTHUMBRECT, 0, reinterpret_cast<LPARAM>(rect));
-}
-
-int CSliderCtrl::GetThumbLength() const
-{
-    return static_cast<int>(SendMessage(TBM_GETTHUMBLENGTH));
-}
-
-void CSliderCtrl::SetThumbLength(int length)
-{
-    SendMessage(TBM_SETTHUMBLENGTH, static_cast<WPARAM>(length));
-}
-
-CWnd* CSliderCtrl::GetBuddy(BOOL leftOrAbove) const
-{
-    return CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(TBM_GETBUDDY, static_cast<WPARAM>(leftOrAbove))));
-}
-
-CWnd* CSliderCtrl::SetBuddy(CWnd* buddy, BOOL leftOrAbove)
-{
-    return CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(TBM_SETBUDDY, static_cast<WPARAM>(leftOrAbove), reinterpret_cast<LPARAM>(buddy->GetSafeHwnd()))));
-}
-
-CToolTipCtrl* CSliderCtrl::GetToolTips() const
-{
-    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(TBM_GETTOOLTIPS))));
-}
-
-void CSliderCtrl::SetToolTips(CToolTipCtrl* tip)
-{
-    SendMessage(TBM_SETTOOLTIPS, reinterpret_cast<WPARAM>(tip->GetSafeHwnd()));
-}
-
-int CSliderCtrl::SetTipSide(int side)
-{
-    return static_cast<int>(SendMessage(TBM_SETTIPSIDE, static_cast<WPARAM>(side)));
+    send(*this, TBM_SETPOS, TRUE, position);
 }
 
 void CSliderCtrl::GetRange(int& minimum, int& maximum) const
@@ -159,19 +39,144 @@ void CSliderCtrl::GetRange(int& minimum, int& maximum) const
 
 void CSliderCtrl::SetRange(int minimum, int maximum, BOOL redraw)
 {
-    // Two messages: TBM_SETRANGE would cut the bounds to 16 bits.
+    // TBM_SETRANGE has room for 16 bits each only.
     SetRangeMin(minimum, FALSE);
     SetRangeMax(maximum, redraw);
 }
 
+int CSliderCtrl::GetRangeMin() const
+{
+    return send<int>(*this, TBM_GETRANGEMIN);
+}
+
+void CSliderCtrl::SetRangeMin(int minimum, BOOL redraw)
+{
+    send(*this, TBM_SETRANGEMIN, redraw, minimum);
+}
+
+int CSliderCtrl::GetRangeMax() const
+{
+    return send<int>(*this, TBM_GETRANGEMAX);
+}
+
+void CSliderCtrl::SetRangeMax(int maximum, BOOL redraw)
+{
+    send(*this, TBM_SETRANGEMAX, redraw, maximum);
+}
+
+int CSliderCtrl::GetLineSize() const
+{
+    return send<int>(*this, TBM_GETLINESIZE);
+}
+
+int CSliderCtrl::SetLineSize(int size)
+{
+    return send<int>(*this, TBM_SETLINESIZE, 0, size);
+}
+
+int CSliderCtrl::GetPageSize() const
+{
+    return send<int>(*this, TBM_GETPAGESIZE);
+}
+
+int CSliderCtrl::SetPageSize(int size)
+{
+    return send<int>(*this, TBM_SETPAGESIZE, 0, size);
+}
+
 void CSliderCtrl::GetSelection(int& minimum, int& maximum) const
 {
-    minimum = static_cast<int>(SendMessage(TBM_GETSELSTART));
-    maximum = static_cast<int>(SendMessage(TBM_GETSELEND));
+    minimum = send<int>(*this, TBM_GETSELSTART);
+    maximum = send<int>(*this, TBM_GETSELEND);
 }
 
 void CSliderCtrl::SetSelection(int minimum, int maximum)
 {
-    SendMessage(TBM_SETSELSTART, FALSE, minimum);
-    SendMessage(TBM_SETSELEND, TRUE, maximum);
+    send(*this, TBM_SETSELSTART, FALSE, minimum);
+    send(*this, TBM_SETSELEND, TRUE, maximum);
+}
+
+void CSliderCtrl::ClearSel(BOOL redraw)
+{
+    send(*this, TBM_CLEARSEL, redraw);
+}
+
+UINT CSliderCtrl::GetNumTics() const
+{
+    return send<UINT>(*this, TBM_GETNUMTICS);
+}
+
+DWORD* CSliderCtrl::GetTicArray() const
+{
+    return send<DWORD*>(*this, TBM_GETPTICS);
+}
+
+int CSliderCtrl::GetTic(int tic) const
+{
+    return send<int>(*this, TBM_GETTIC, tic);
+}
+
+int CSliderCtrl::GetTicPos(int tic) const
+{
+    return send<int>(*this, TBM_GETTICPOS, tic);
+}
+
+BOOL CSliderCtrl::SetTic(int position)
+{
+    return send<BOOL>(*this, TBM_SETTIC, 0, position);
+}
+
+void CSliderCtrl::SetTicFreq(int frequency)
+{
+    send(*this, TBM_SETTICFREQ, frequency);
+}
+
+void CSliderCtrl::ClearTics(BOOL redraw)
+{
+    send(*this, TBM_CLEARTICS, redraw);
+}
+
+void CSliderCtrl::GetChannelRect(LPRECT rect) const
+{
+    send(*this, TBM_GETCHANNELRECT, 0, rect);
+}
+
+void CSliderCtrl::GetThumbRect(LPRECT rect) const
+{
+    send(*this, TBM_GETTHUMBRECT, 0, rect);
+}
+
+int CSliderCtrl::GetThumbLength() const
+{
+    return send<int>(*this, TBM_GETTHUMBLENGTH);
+}
+
+void CSliderCtrl::SetThumbLength(int length)
+{
+    send(*this, TBM_SETTHUMBLENGTH, length);
+}
+
+CWnd* CSliderCtrl::GetBuddy(BOOL leftOrAbove) const
+{
+    return CWnd::FromHandle(send<HWND>(*this, TBM_GETBUDDY, leftOrAbove));
+}
+
+CWnd* CSliderCtrl::SetBuddy(CWnd* buddy, BOOL leftOrAbove)
+{
+    return CWnd::FromHandle(send<HWND>(*this, TBM_SETBUDDY, leftOrAbove, handleOf(buddy)));
+}
+
+CToolTipCtrl* CSliderCtrl::GetToolTips() const
+{
+    return afxdetail::controlFrom<CToolTipCtrl>(send<HWND>(*this, TBM_GETTOOLTIPS));
+}
+
+void CSliderCtrl::SetToolTips(CToolTipCtrl* tip)
+{
+    send(*this, TBM_SETTOOLTIPS, handleOf(tip));
+}
+
+int CSliderCtrl::SetTipSide(int side)
+{
+    return send<int>(*this, TBM_SETTIPSIDE, side);
 }

@@ -1,6 +1,12 @@
-// CTabCtrl.
 #include <afxwin.h>
 #include <afxcmn.h>
+
+#include <detail/handleof.h>
+#include <detail/send.h>
+
+using afxdetail::handleOf;
+using afxdetail::pack;
+using afxdetail::send;
 
 IMPLEMENT_DYNAMIC(CTabCtrl, CWnd)
 
@@ -8,7 +14,7 @@ CTabCtrl::CTabCtrl() = default;
 
 BOOL CTabCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
-    return CWnd::CreateEx(0, WC_TABCONTROLW, nullptr, style | WS_CHILD, rect, parent, id);
+    return CWnd::Create(WC_TABCONTROLW, nullptr, style, rect, parent, id);
 }
 
 BOOL CTabCtrl::CreateEx(DWORD exStyle, DWORD style, const RECT& rect, CWnd* parent, UINT id)
@@ -16,139 +22,9 @@ BOOL CTabCtrl::CreateEx(DWORD exStyle, DWORD style, const RECT& rect, CWnd* pare
     return CWnd::CreateEx(exStyle, WC_TABCONTROLW, nullptr, style | WS_CHILD, rect, parent, id);
 }
 
-BOOL CTabCtrl::DeleteItem(int index)
-{
-    return static_cast<BOOL>(SendMessage(TCM_DELETEITEM, static_cast<WPARAM>(index)));
-}
-
-BOOL CTabCtrl::DeleteAllItems()
-{
-    return static_cast<BOOL>(SendMessage(TCM_DELETEALLITEMS));
-}
-
-int CTabCtrl::GetItemCount() const
-{
-    return static_cast<int>(SendMessage(TCM_GETITEMCOUNT));
-}
-
-BOOL CTabCtrl::GetItem(int index, TCITEM* item) const
-{
-    return static_cast<BOOL>(SendMessage(TCM_GETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(item)));
-}
-
-BOOL CTabCtrl::SetItem(int index, TCITEM* item)
-{
-    return static_cast<BOOL>(SendMessage(TCM_SETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(item)));
-}
-
-BOOL CTabCtrl::SetItemExtra(int bytes)
-{
-    return static_cast<BOOL>(SendMessage(TCM_SETITEMEXTRA, static_cast<WPARAM>(bytes)));
-}
-
-BOOL CTabCtrl::HighlightItem(int index, BOOL highlight)
-{
-    return static_cast<BOOL>(SendMessage(TCM_HIGHLIGHTITEM, static_cast<WPARAM>(index), highlight));
-}
-
-int CTabCtrl::GetCurSel() const
-{
-    return static_cast<int>(SendMessage(TCM_GETCURSEL));
-}
-
-int CTabCtrl::SetCurSel(int index)
-{
-    return static_cast<int>(SendMessage(TCM_SETCURSEL, static_cast<WPARAM>(index)));
-}
-
-int CTabCtrl::GetCurFocus() const
-{
-    return static_cast<int>(SendMessage(TCM_GETCURFOCUS));
-}
-
-void CTabCtrl::SetCurFocus(int index)
-{
-    SendMessage(TCM_SETCURFOCUS, static_cast<WPARAM>(index));
-}
-
-void CTabCtrl::DeselectAll(BOOL excludeFocus)
-{
-    SendMessage(TCM_DESELECTALL, static_cast<WPARAM>(excludeFocus));
-}
-
-BOOL CTabCtrl::GetItemRect(int index, LPRECT rect) const
-{
-    return static_cast<BOOL>(SendMessage(TCM_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(rect)));
-}
-
-int CTabCtrl::HitTest(TCHITTESTINFO* info) const
-{
-    return static_cast<int>(SendMessage(TCM_HITTEST, 0, reinterpret_cast<LPARAM>(info)));
-}
-
-void CTabCtrl::AdjustRect(BOOL larger, LPRECT rect)
-{
-    SendMessage(TCM_ADJUSTRECT, static_cast<WPARAM>(larger), reinterpret_cast<LPARAM>(rect));
-}
-
-int CTabCtrl::GetRowCount() const
-{
-    return static_cast<int>(SendMessage(TCM_GETROWCOUNT));
-}
-
-CSize CTabCtrl::SetItemSize(CSize size)
-{
-    return CSize(static_cast<DWORD>(SendMessage(TCM_SETITEMSIZE, 0, static_cast<LPARAM>(MAKELONG(size.cx, size.cy)))));
-}
-
-int CTabCtrl::SetMinTabWidth(int width)
-{
-    return static_cast<int>(SendMessage(TCM_SETMINTABWIDTH, 0, width));
-}
-
-void CTabCtrl::SetPadding(CSize size)
-{
-    SendMessage(TCM_SETPADDING, 0, static_cast<LPARAM>(MAKELONG(size.cx, size.cy)));
-}
-
-CImageList* CTabCtrl::GetImageList() const
-{
-    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(SendMessage(TCM_GETIMAGELIST)));
-}
-
-CImageList* CTabCtrl::SetImageList(CImageList* list)
-{
-    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(SendMessage(TCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(list->GetSafeHandle()))));
-}
-
-void CTabCtrl::RemoveImage(int image)
-{
-    SendMessage(TCM_REMOVEIMAGE, static_cast<WPARAM>(image));
-}
-
-CToolTipCtrl* CTabCtrl::GetToolTips() const
-{
-    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(reinterpret_cast<HWND>(SendMessage(TCM_GETTOOLTIPS))));
-}
-
-void CTabCtrl::SetToolTips(CToolTipCtrl* tip)
-{
-    SendMessage(TCM_SETTOOLTIPS, reinterpret_cast<WPARAM>(tip->GetSafeHwnd()));
-}
-
-DWORD CTabCtrl::GetExtendedStyle()
-{
-    return static_cast<DWORD>(SendMessage(TCM_GETEXTENDEDSTYLE));
-}
-
-DWORD CTabCtrl::SetExtendedStyle(DWORD style, DWORD mask)
-{
-    return static_cast<DWORD>(SendMessage(TCM_SETEXTENDEDSTYLE, static_cast<WPARAM>(mask), static_cast<LPARAM>(style)));
-}
-
 LONG CTabCtrl::InsertItem(int index, TCITEM* item)
 {
-    return static_cast<LONG>(SendMessage(TCM_INSERTITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(item)));
+    return send<LONG>(*this, TCM_INSERTITEMW, index, item);
 }
 
 LONG CTabCtrl::InsertItem(int index, LPCTSTR text)
@@ -178,13 +54,42 @@ LONG CTabCtrl::InsertItem(UINT mask, int index, LPCTSTR text, int image, LPARAM 
     return InsertItem(index, &item);
 }
 
+BOOL CTabCtrl::DeleteItem(int index)
+{
+    return send<BOOL>(*this, TCM_DELETEITEM, index);
+}
+
+BOOL CTabCtrl::DeleteAllItems()
+{
+    return send<BOOL>(*this, TCM_DELETEALLITEMS);
+}
+
+int CTabCtrl::GetItemCount() const
+{
+    return send<int>(*this, TCM_GETITEMCOUNT);
+}
+
+BOOL CTabCtrl::GetItem(int index, TCITEM* item) const
+{
+    return send<BOOL>(*this, TCM_GETITEMW, index, item);
+}
+
+BOOL CTabCtrl::SetItem(int index, TCITEM* item)
+{
+    return send<BOOL>(*this, TCM_SETITEMW, index, item);
+}
+
+BOOL CTabCtrl::SetItemExtra(int bytes)
+{
+    return send<BOOL>(*this, TCM_SETITEMEXTRA, bytes);
+}
+
 DWORD CTabCtrl::GetItemState(int index, DWORD mask) const
 {
     TCITEM item{};
     item.mask = TCIF_STATE;
     item.dwStateMask = mask;
-    GetItem(index, &item);
-    return item.dwState & mask;
+    return GetItem(index, &item) ? item.dwState & mask : 0;
 }
 
 BOOL CTabCtrl::SetItemState(int index, DWORD mask, DWORD state)
@@ -196,15 +101,115 @@ BOOL CTabCtrl::SetItemState(int index, DWORD mask, DWORD state)
     return SetItem(index, &item);
 }
 
+BOOL CTabCtrl::HighlightItem(int index, BOOL highlight)
+{
+    return send<BOOL>(*this, TCM_HIGHLIGHTITEM, index, pack(highlight, 0));
+}
+
+int CTabCtrl::GetCurSel() const
+{
+    return send<int>(*this, TCM_GETCURSEL);
+}
+
+int CTabCtrl::SetCurSel(int index)
+{
+    return send<int>(*this, TCM_SETCURSEL, index);
+}
+
+int CTabCtrl::GetCurFocus() const
+{
+    return send<int>(*this, TCM_GETCURFOCUS);
+}
+
+void CTabCtrl::SetCurFocus(int index)
+{
+    send(*this, TCM_SETCURFOCUS, index);
+}
+
+void CTabCtrl::DeselectAll(BOOL excludeFocus)
+{
+    send(*this, TCM_DESELECTALL, excludeFocus);
+}
+
+BOOL CTabCtrl::GetItemRect(int index, LPRECT rect) const
+{
+    return send<BOOL>(*this, TCM_GETITEMRECT, index, rect);
+}
+
+int CTabCtrl::HitTest(TCHITTESTINFO* info) const
+{
+    return send<int>(*this, TCM_HITTEST, 0, info);
+}
+
+void CTabCtrl::AdjustRect(BOOL larger, LPRECT rect)
+{
+    send(*this, TCM_ADJUSTRECT, larger, rect);
+}
+
+int CTabCtrl::GetRowCount() const
+{
+    return send<int>(*this, TCM_GETROWCOUNT);
+}
+
+CSize CTabCtrl::SetItemSize(CSize size)
+{
+    return CSize(send<DWORD>(*this, TCM_SETITEMSIZE, 0, pack(size.cx, size.cy)));
+}
+
+int CTabCtrl::SetMinTabWidth(int width)
+{
+    return send<int>(*this, TCM_SETMINTABWIDTH, 0, width);
+}
+
+void CTabCtrl::SetPadding(CSize size)
+{
+    send(*this, TCM_SETPADDING, 0, pack(size.cx, size.cy));
+}
+
+CImageList* CTabCtrl::GetImageList() const
+{
+    return CImageList::FromHandle(send<HIMAGELIST>(*this, TCM_GETIMAGELIST));
+}
+
+CImageList* CTabCtrl::SetImageList(CImageList* list)
+{
+    return CImageList::FromHandle(send<HIMAGELIST>(*this, TCM_SETIMAGELIST, 0, handleOf(list)));
+}
+
+void CTabCtrl::RemoveImage(int image)
+{
+    send(*this, TCM_REMOVEIMAGE, image);
+}
+
+CToolTipCtrl* CTabCtrl::GetToolTips() const
+{
+    return afxdetail::controlFrom<CToolTipCtrl>(send<HWND>(*this, TCM_GETTOOLTIPS));
+}
+
+void CTabCtrl::SetToolTips(CToolTipCtrl* tip)
+{
+    send(*this, TCM_SETTOOLTIPS, handleOf(tip));
+}
+
+DWORD CTabCtrl::GetExtendedStyle()
+{
+    return send<DWORD>(*this, TCM_GETEXTENDEDSTYLE);
+}
+
+DWORD CTabCtrl::SetExtendedStyle(DWORD style, DWORD mask)
+{
+    return send<DWORD>(*this, TCM_SETEXTENDEDSTYLE, mask, style);
+}
+
+void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT)
+{
+    ASSERT(FALSE); // an owner-drawn control overrides this
+}
+
 BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     if (message != WM_DRAWITEM)
         return CWnd::OnChildNotify(message, wParam, lParam, result);
     DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
     return TRUE;
-}
-
-void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn control overrides this
 }

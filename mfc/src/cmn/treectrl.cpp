@@ -6,6 +6,8 @@
 #include <detail/handleof.h>
 #include <detail/send.h>
 
+#include <cstring>
+
 using afxdetail::controlFrom;
 using afxdetail::handleOf;
 using afxdetail::send;
@@ -223,7 +225,7 @@ HTREEITEM CTreeCtrl::HitTest(TVHITTESTINFO* info) const
 BOOL CTreeCtrl::GetItemRect(HTREEITEM item, LPRECT rect, BOOL textOnly) const
 {
     // The control expects the item where it puts the rectangle.
-    *reinterpret_cast<HTREEITEM*>(rect) = item;
+    std::memcpy(rect, &item, sizeof item);
     return send<BOOL>(*this, TVM_GETITEMRECT, textOnly, rect);
 }
 
