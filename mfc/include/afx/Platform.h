@@ -24,6 +24,8 @@
 #include <windowsx.h>
 #include <tchar.h>
 #include <commctrl.h>
+#include <oleauto.h>
+#include <shellapi.h>
 
 // Macros that would rename members of the same names.
 #undef GetFirstChild
