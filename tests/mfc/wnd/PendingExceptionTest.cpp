@@ -112,7 +112,7 @@ TEST(PendingException, LeavesNothingBehindForTheNextCall)
     EXPECT_THROW(wnd.MoveWindow(0, 0, 70, 70), Oak);
     wnd.from = 0;
     EXPECT_NO_THROW(wnd.MoveWindow(0, 0, 80, 80));
-    EXPECT_NO_THROW(wnd.SendMessage(WM_NULL));
+    EXPECT_NO_THROW(wnd.SendMessage(WM_APP));
     wnd.DestroyWindow();
 }
 
