@@ -1,7 +1,8 @@
 # Test programs: cross-compiled ones that run under Wine, native ones that run under the sanitizers.
 #
-#   ovo_test(NAME SOURCES a.cpp ... LIBS target ... [RESOURCES x.rc ...] [TIMEOUT SECONDS])
-#       A GoogleTest program for Windows with the harness of tests/support, registered with CTest.
+#   ovo_test(NAME [NO_MANIFEST] SOURCES a.cpp ... LIBS target ... [RESOURCES x.rc ...] [TIMEOUT SECONDS])
+#       A GoogleTest program for Windows with the harness of tests/support, registered with CTest. It asks for the
+#       common controls 6 unless NO_MANIFEST is given.
 #   ovo_test_variant(NAME VARIANT [FILTER PATTERN] [THEMES OFF])
 #       Runs the program NAME once more, as NAME.VARIANT: a part of it, or with visual styles off.
 #   ovo_native_test(NAME SOURCES a.cpp ... LIBS target ...)
@@ -41,11 +42,14 @@ function(ovo_test name)
   if(NOT WIN32)
     return()
   endif()
-  cmake_parse_arguments(arg "" "TIMEOUT" "SOURCES;LIBS;RESOURCES" ${ARGN})
+  cmake_parse_arguments(arg "NO_MANIFEST" "TIMEOUT" "SOURCES;LIBS;RESOURCES" ${ARGN})
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 600)
   endif()
-  add_executable(${name} ${arg_SOURCES} ${arg_RESOURCES} ${PROJECT_SOURCE_DIR}/tests/support/program.rc)
+  if(NOT arg_NO_MANIFEST)
+    list(APPEND arg_RESOURCES ${PROJECT_SOURCE_DIR}/tests/support/program.rc)
+  endif()
+  add_executable(${name} ${arg_SOURCES} ${arg_RESOURCES})
   target_link_libraries(${name} PRIVATE ovo_flags ${arg_LIBS} ovo_test_support)
   # GCC 12 warns of its own string constructor when many short strings stand in one list.
   foreach(warning array-bounds restrict stringop-overread stringop-overflow)
