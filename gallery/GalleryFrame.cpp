@@ -5,6 +5,10 @@
 
 #include <ovoui/frame/NonClientMetrics.h>
 
+#include <utility>
+
+#include <utility>
+
 namespace
 {
 

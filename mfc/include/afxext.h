@@ -5,3 +5,4 @@
 
 #include <afx/ControlBar.h>
 #include <afx/StatusBar.h>
+#include <afx/ToolBar.h>

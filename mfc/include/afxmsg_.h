@@ -72,6 +72,32 @@ using OnSettingChangeHandler = WindowHandler<void(UINT, LPCTSTR), W<UINT>, L<LPC
 using OnWinIniChangeHandler = WindowHandler<void(LPCTSTR), L<LPCTSTR>>;
 using OnDevModeChangeHandler = WindowHandler<void(LPTSTR), L<LPTSTR>>;
 using OnThemeChangedHandler = WindowHandler<LRESULT()>;
+using OnAppCommandHandler = WindowHandler<void(CWnd*, UINT, UINT, UINT), WndW, AppCommand, AppCommandDevice, LowL<UINT>>;
+using OnAskCbFormatNameHandler = WindowHandler<void(UINT, LPTSTR), W<UINT>, L<LPTSTR>>;
+using OnChangeCbChainHandler = WindowHandler<void(HWND, HWND), W<HWND>, L<HWND>>;
+using OnUIStateHandler = WindowHandler<void(UINT, UINT), LowW<UINT>, HighW<UINT>>;
+using OnColorizationHandler = WindowHandler<void(DWORD, BOOL), W<DWORD>, L<BOOL>>;
+using OnRenderFormatHandler = WindowHandler<void(UINT), W<UINT>>;
+using OnDeviceChangeHandler = WindowHandler<BOOL(UINT, DWORD_PTR), W<UINT>, L<DWORD_PTR>>;
+using OnHotKeyHandler = WindowHandler<void(UINT, UINT, UINT), W<UINT>, LowL<UINT>, HighL<UINT>>;
+using OnClipboardScrollHandler = WindowHandler<void(CWnd*, UINT, UINT), WndW, LowL<UINT>, HighL<UINT>>;
+using OnPaintClipboardHandler = WindowHandler<void(CWnd*, HGLOBAL), WndW, L<HGLOBAL>>;
+using OnIconEraseBkgndHandler = WindowHandler<void(CDC*), DcW>;
+using OnInputDeviceChangeHandler = WindowHandler<void(unsigned short), W<unsigned short>>;
+using OnTwoNumbersHandler = WindowHandler<void(UINT, UINT), W<UINT>, L<UINT>>;
+using OnSpoolerStatusHandler = WindowHandler<void(UINT, UINT), W<UINT>, LowL<UINT>>;
+using OnPowerBroadcastHandler = WindowHandler<UINT(UINT, UINT), W<UINT>, L<UINT>>;
+using OnTCardHandler = WindowHandler<void(UINT, DWORD), W<UINT>, L<DWORD>>;
+using OnMenuDragHandler = WindowHandler<UINT(UINT, CMenu*), W<UINT>, MenuL>;
+using OnMenuRButtonUpHandler = WindowHandler<void(UINT, CMenu*), W<UINT>, MenuL>;
+using OnMenuGetObjectHandler = WindowHandler<UINT(MENUGETOBJECTINFO*), L<MENUGETOBJECTINFO*>>;
+using OnMouseHWheelHandler = WindowHandler<void(UINT, short, CPoint), LowW<UINT>, HighW<short>, PointL>;
+using OnXButtonHandler = WindowHandler<void(UINT, UINT, CPoint), LowW<UINT>, HighW<UINT>, PointL>;
+using OnNcXButtonHandler = WindowHandler<void(short, UINT, CPoint), LowW<short>, HighW<UINT>, PointL>;
+using OnNextMenuHandler = WindowHandler<void(UINT, LPMDINEXTMENU), W<UINT>, L<LPMDINEXTMENU>>;
+using OnNotifyFormatHandler = WindowHandler<UINT(CWnd*, UINT), WndW, L<UINT>>;
+using OnQueryDragIconHandler = WindowHandler<HCURSOR()>;
+using OnRawInputHandler = WindowHandler<void(UINT, HRAWINPUT), RawInputCode, L<HRAWINPUT>>;
 using ReflectedCtlColorHandler = WindowHandler<HBRUSH(CDC*, UINT), DcW, ReflectedColourKind>;
 using ReflectedDrawItemHandler = WindowHandler<void(LPDRAWITEMSTRUCT), L<LPDRAWITEMSTRUCT>>;
 using ReflectedMeasureItemHandler = WindowHandler<void(LPMEASUREITEMSTRUCT), L<LPMEASUREITEMSTRUCT>>;
@@ -107,6 +133,9 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_NCCALCSIZE() AFX_WM_(WM_NCCALCSIZE, OnNcCalcSizeHandler, OnNcCalcSize)
 #define ON_WM_STYLECHANGED() AFX_WM_(WM_STYLECHANGED, OnStyleChangedHandler, OnStyleChanged)
 #define ON_WM_STYLECHANGING() AFX_WM_(WM_STYLECHANGING, OnStyleChangedHandler, OnStyleChanging)
+#define ON_WM_ENTERSIZEMOVE() AFX_WM_(WM_ENTERSIZEMOVE, OnDestroyHandler, OnEnterSizeMove)
+#define ON_WM_EXITSIZEMOVE() AFX_WM_(WM_EXITSIZEMOVE, OnDestroyHandler, OnExitSizeMove)
+#define ON_WM_QUERYOPEN() AFX_WM_(WM_QUERYOPEN, OnQueryEndSessionHandler, OnQueryOpen)
 
 // State
 #define ON_WM_ENABLE() AFX_WM_(WM_ENABLE, OnEndSessionHandler, OnEnable)
@@ -120,6 +149,9 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_CAPTURECHANGED() AFX_WM_(WM_CAPTURECHANGED, OnCaptureChangedHandler, OnCaptureChanged)
 #define ON_WM_CANCELMODE() AFX_WM_(WM_CANCELMODE, OnDestroyHandler, OnCancelMode)
 #define ON_WM_CHILDACTIVATE() AFX_WM_(WM_CHILDACTIVATE, OnDestroyHandler, OnChildActivate)
+#define ON_WM_CHANGEUISTATE() AFX_WM_(WM_CHANGEUISTATE, OnUIStateHandler, OnChangeUIState)
+#define ON_WM_UPDATEUISTATE() AFX_WM_(WM_UPDATEUISTATE, OnUIStateHandler, OnUpdateUIState)
+#define ON_WM_QUERYUISTATE() AFX_WM_(WM_QUERYUISTATE, OnGetDlgCodeHandler, OnQueryUIState)
 
 // Painting
 #define ON_WM_PAINT() AFX_WM_(WM_PAINT, OnDestroyHandler, OnPaint)
@@ -128,10 +160,20 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_CTLCOLOR() AFX_WM_(WM_CTLCOLOR, OnCtlColorHandler, OnCtlColor)
 #define ON_WM_QUERYNEWPALETTE() AFX_WM_(WM_QUERYNEWPALETTE, OnQueryEndSessionHandler, OnQueryNewPalette)
 #define ON_WM_PALETTECHANGED() AFX_WM_(WM_PALETTECHANGED, OnSetFocusHandler, OnPaletteChanged)
+#define ON_WM_PALETTEISCHANGING() AFX_WM_(WM_PALETTEISCHANGING, OnSetFocusHandler, OnPaletteIsChanging)
+#define ON_WM_ICONERASEBKGND() AFX_WM_(WM_ICONERASEBKGND, OnIconEraseBkgndHandler, OnIconEraseBkgnd)
+#define ON_WM_QUERYDRAGICON() AFX_WM_(WM_QUERYDRAGICON, OnQueryDragIconHandler, OnQueryDragIcon)
+#define ON_WM_DWMCOMPOSITIONCHANGED() AFX_WM_(WM_DWMCOMPOSITIONCHANGED, OnDestroyHandler, OnCompositionChanged)
+#define ON_WM_DWMNCRENDERINGCHANGED() AFX_WM_(WM_DWMNCRENDERINGCHANGED, OnEndSessionHandler, OnNcRenderingChanged)
+#define ON_WM_DWMCOLORIZATIONCOLORCHANGED()                                                                       \
+    AFX_WM_(WM_DWMCOLORIZATIONCOLORCHANGED, OnColorizationHandler, OnColorizationColorChanged)
+#define ON_WM_DWMWINDOWMAXIMIZEDCHANGE()                                                                          \
+    AFX_WM_(WM_DWMWINDOWMAXIMIZEDCHANGE, OnEndSessionHandler, OnWindowMaximizedChanged)
 
 // Mouse
 #define ON_WM_MOUSEMOVE() AFX_WM_(WM_MOUSEMOVE, OnMouseMoveHandler, OnMouseMove)
 #define ON_WM_MOUSELEAVE() AFX_WM_(WM_MOUSELEAVE, OnDestroyHandler, OnMouseLeave)
+#define ON_WM_MOUSEHOVER() AFX_WM_(WM_MOUSEHOVER, OnMouseMoveHandler, OnMouseHover)
 #define ON_WM_LBUTTONDOWN() AFX_WM_(WM_LBUTTONDOWN, OnMouseMoveHandler, OnLButtonDown)
 #define ON_WM_LBUTTONUP() AFX_WM_(WM_LBUTTONUP, OnMouseMoveHandler, OnLButtonUp)
 #define ON_WM_LBUTTONDBLCLK() AFX_WM_(WM_LBUTTONDBLCLK, OnMouseMoveHandler, OnLButtonDblClk)
@@ -142,6 +184,10 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_MBUTTONUP() AFX_WM_(WM_MBUTTONUP, OnMouseMoveHandler, OnMButtonUp)
 #define ON_WM_MBUTTONDBLCLK() AFX_WM_(WM_MBUTTONDBLCLK, OnMouseMoveHandler, OnMButtonDblClk)
 #define ON_WM_MOUSEWHEEL() AFX_WM_(WM_MOUSEWHEEL, OnMouseWheelHandler, OnMouseWheel)
+#define ON_WM_MOUSEHWHEEL() AFX_WM_(WM_MOUSEHWHEEL, OnMouseHWheelHandler, OnMouseHWheel)
+#define ON_WM_XBUTTONDOWN() AFX_WM_(WM_XBUTTONDOWN, OnXButtonHandler, OnXButtonDown)
+#define ON_WM_XBUTTONUP() AFX_WM_(WM_XBUTTONUP, OnXButtonHandler, OnXButtonUp)
+#define ON_WM_XBUTTONDBLCLK() AFX_WM_(WM_XBUTTONDBLCLK, OnXButtonHandler, OnXButtonDblClk)
 #define ON_WM_SETCURSOR() AFX_WM_(WM_SETCURSOR, OnSetCursorHandler, OnSetCursor)
 #define ON_WM_NCHITTEST() AFX_WM_(WM_NCHITTEST, OnNcHitTestHandler, OnNcHitTest)
 #define ON_WM_NCMOUSEMOVE() AFX_WM_(WM_NCMOUSEMOVE, OnMouseMoveHandler, OnNcMouseMove)
@@ -150,6 +196,18 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_NCLBUTTONDBLCLK() AFX_WM_(WM_NCLBUTTONDBLCLK, OnMouseMoveHandler, OnNcLButtonDblClk)
 #define ON_WM_NCRBUTTONDOWN() AFX_WM_(WM_NCRBUTTONDOWN, OnMouseMoveHandler, OnNcRButtonDown)
 #define ON_WM_NCRBUTTONUP() AFX_WM_(WM_NCRBUTTONUP, OnMouseMoveHandler, OnNcRButtonUp)
+#define ON_WM_NCRBUTTONDBLCLK() AFX_WM_(WM_NCRBUTTONDBLCLK, OnMouseMoveHandler, OnNcRButtonDblClk)
+#define ON_WM_NCMBUTTONDOWN() AFX_WM_(WM_NCMBUTTONDOWN, OnMouseMoveHandler, OnNcMButtonDown)
+#define ON_WM_NCMBUTTONUP() AFX_WM_(WM_NCMBUTTONUP, OnMouseMoveHandler, OnNcMButtonUp)
+#define ON_WM_NCMBUTTONDBLCLK() AFX_WM_(WM_NCMBUTTONDBLCLK, OnMouseMoveHandler, OnNcMButtonDblClk)
+#define ON_WM_NCXBUTTONDOWN() AFX_WM_(WM_NCXBUTTONDOWN, OnNcXButtonHandler, OnNcXButtonDown)
+#define ON_WM_NCXBUTTONUP() AFX_WM_(WM_NCXBUTTONUP, OnNcXButtonHandler, OnNcXButtonUp)
+#define ON_WM_NCXBUTTONDBLCLK() AFX_WM_(WM_NCXBUTTONDBLCLK, OnNcXButtonHandler, OnNcXButtonDblClk)
+#define ON_WM_NCMOUSEHOVER() AFX_WM_(WM_NCMOUSEHOVER, OnMouseMoveHandler, OnNcMouseHover)
+#define ON_WM_NCMOUSELEAVE() AFX_WM_(WM_NCMOUSELEAVE, OnDestroyHandler, OnNcMouseLeave)
+#define ON_WM_APPCOMMAND() AFX_WM_(WM_APPCOMMAND, OnAppCommandHandler, OnAppCommand)
+#define ON_WM_INPUT() AFX_WM_(WM_INPUT, OnRawInputHandler, OnRawInput)
+#define ON_WM_INPUT_DEVICE_CHANGE() AFX_WM_(WM_INPUT_DEVICE_CHANGE, OnInputDeviceChangeHandler, OnInputDeviceChange)
 
 // Keyboard
 #define ON_WM_KEYDOWN() AFX_WM_(WM_KEYDOWN, OnKeyDownHandler, OnKeyDown)
@@ -159,6 +217,11 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_SYSKEYDOWN() AFX_WM_(WM_SYSKEYDOWN, OnKeyDownHandler, OnSysKeyDown)
 #define ON_WM_SYSKEYUP() AFX_WM_(WM_SYSKEYUP, OnKeyDownHandler, OnSysKeyUp)
 #define ON_WM_SYSCHAR() AFX_WM_(WM_SYSCHAR, OnKeyDownHandler, OnSysChar)
+#define ON_WM_SYSDEADCHAR() AFX_WM_(WM_SYSDEADCHAR, OnKeyDownHandler, OnSysDeadChar)
+#define ON_WM_UNICHAR() AFX_WM_(WM_UNICHAR, OnKeyDownHandler, OnUniChar)
+#define ON_WM_HOTKEY() AFX_WM_(WM_HOTKEY, OnHotKeyHandler, OnHotKey)
+#define ON_WM_INPUTLANGCHANGE() AFX_WM_(WM_INPUTLANGCHANGE, OnTwoNumbersHandler, OnInputLangChange)
+#define ON_WM_INPUTLANGCHANGEREQUEST() AFX_WM_(WM_INPUTLANGCHANGEREQUEST, OnTwoNumbersHandler, OnInputLangChangeRequest)
 #define ON_WM_GETDLGCODE() AFX_WM_(WM_GETDLGCODE, OnGetDlgCodeHandler, OnGetDlgCode)
 #define ON_WM_HELPINFO() AFX_WM_(WM_HELPINFO, OnHelpInfoHandler, OnHelpInfo)
 
@@ -173,6 +236,10 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_ENTERMENULOOP() AFX_WM_(WM_ENTERMENULOOP, OnEndSessionHandler, OnEnterMenuLoop)
 #define ON_WM_EXITMENULOOP() AFX_WM_(WM_EXITMENULOOP, OnEndSessionHandler, OnExitMenuLoop)
 #define ON_WM_ENTERIDLE() AFX_WM_(WM_ENTERIDLE, OnEnterIdleHandler, OnEnterIdle)
+#define ON_WM_NEXTMENU() AFX_WM_(WM_NEXTMENU, OnNextMenuHandler, OnNextMenu)
+#define ON_WM_MENUDRAG() AFX_WM_(WM_MENUDRAG, OnMenuDragHandler, OnMenuDrag)
+#define ON_WM_MENURBUTTONUP() AFX_WM_(WM_MENURBUTTONUP, OnMenuRButtonUpHandler, OnMenuRButtonUp)
+#define ON_WM_MENUGETOBJECT() AFX_WM_(WM_MENUGETOBJECT, OnMenuGetObjectHandler, OnMenuGetObject)
 
 // Scroll bars and owner-drawn controls
 #define ON_WM_HSCROLL() AFX_WM_(WM_HSCROLL, OnHScrollHandler, OnHScroll)
@@ -196,6 +263,27 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_FONTCHANGE() AFX_WM_(WM_FONTCHANGE, OnDestroyHandler, OnFontChange)
 #define ON_WM_TIMECHANGE() AFX_WM_(WM_TIMECHANGE, OnDestroyHandler, OnTimeChange)
 #define ON_WM_THEMECHANGED() AFX_WM_(WM_THEMECHANGED, OnThemeChangedHandler, OnThemeChanged)
+#define ON_WM_COMPACTING() AFX_WM_(WM_COMPACTING, OnRenderFormatHandler, OnCompacting)
+#define ON_WM_DEVICECHANGE() AFX_WM_(WM_DEVICECHANGE, OnDeviceChangeHandler, OnDeviceChange)
+#define ON_WM_POWERBROADCAST() AFX_WM_(WM_POWERBROADCAST, OnPowerBroadcastHandler, OnPowerBroadcast)
+#define ON_WM_SPOOLERSTATUS() AFX_WM_(WM_SPOOLERSTATUS, OnSpoolerStatusHandler, OnSpoolerStatus)
+#define ON_WM_TCARD() AFX_WM_(WM_TCARD, OnTCardHandler, OnTCard)
+#define ON_WM_USERCHANGED() AFX_WM_(WM_USERCHANGED, OnDestroyHandler, OnUserChanged)
+#define ON_WM_WTSSESSION_CHANGE() AFX_WM_(WM_WTSSESSION_CHANGE, OnTwoNumbersHandler, OnSessionChange)
+#define ON_WM_NOTIFYFORMAT() AFX_WM_(WM_NOTIFYFORMAT, OnNotifyFormatHandler, OnNotifyFormat)
+
+// The clipboard
+#define ON_WM_CLIPBOARDUPDATE() AFX_WM_(WM_CLIPBOARDUPDATE, OnDestroyHandler, OnClipboardUpdate)
+#define ON_WM_DRAWCLIPBOARD() AFX_WM_(WM_DRAWCLIPBOARD, OnDestroyHandler, OnDrawClipboard)
+#define ON_WM_DESTROYCLIPBOARD() AFX_WM_(WM_DESTROYCLIPBOARD, OnDestroyHandler, OnDestroyClipboard)
+#define ON_WM_CHANGECBCHAIN() AFX_WM_(WM_CHANGECBCHAIN, OnChangeCbChainHandler, OnChangeCbChain)
+#define ON_WM_ASKCBFORMATNAME() AFX_WM_(WM_ASKCBFORMATNAME, OnAskCbFormatNameHandler, OnAskCbFormatName)
+#define ON_WM_RENDERFORMAT() AFX_WM_(WM_RENDERFORMAT, OnRenderFormatHandler, OnRenderFormat)
+#define ON_WM_RENDERALLFORMATS() AFX_WM_(WM_RENDERALLFORMATS, OnDestroyHandler, OnRenderAllFormats)
+#define ON_WM_PAINTCLIPBOARD() AFX_WM_(WM_PAINTCLIPBOARD, OnPaintClipboardHandler, OnPaintClipboard)
+#define ON_WM_SIZECLIPBOARD() AFX_WM_(WM_SIZECLIPBOARD, OnPaintClipboardHandler, OnSizeClipboard)
+#define ON_WM_HSCROLLCLIPBOARD() AFX_WM_(WM_HSCROLLCLIPBOARD, OnClipboardScrollHandler, OnHScrollClipboard)
+#define ON_WM_VSCROLLCLIPBOARD() AFX_WM_(WM_VSCROLLCLIPBOARD, OnClipboardScrollHandler, OnVScrollClipboard)
 
 // Messages of controls that come back to the control itself
 #define ON_WM_CTLCOLOR_REFLECT() AFX_WM_(WM_REFLECT_BASE + WM_CTLCOLOR, ReflectedCtlColorHandler, CtlColor)
@@ -216,6 +304,8 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_REGISTERED_MESSAGE(variable, memberFxn)                                                                \
     AFX_ENTRY_(0xC000, 0, 0, 0, &variable, afxdetail::MessageHandler, memberFxn)
 #define ON_THREAD_MESSAGE(message, memberFxn) AFX_WM_(message, ThreadMessageHandler, memberFxn)
+#define ON_REGISTERED_THREAD_MESSAGE(variable, memberFxn)                                                         \
+    AFX_ENTRY_(0xC000, 0, 0, 0, &variable, afxdetail::ThreadMessageHandler, memberFxn)
 
 // Commands
 #define AFX_COMMAND_(code, first, last, Kind, memberFxn)                                                          \

@@ -14,7 +14,7 @@ public:
     CSize(SIZE size) { cx = size.cx, cy = size.cy; }
     CSize(POINT point) { cx = point.x, cy = point.y; }
     /// Low word: width, high word: height.
-    explicit CSize(DWORD packed) { cx = static_cast<short>(LOWORD(packed)), cy = static_cast<short>(HIWORD(packed)); }
+    CSize(DWORD packed) { cx = static_cast<short>(LOWORD(packed)), cy = static_cast<short>(HIWORD(packed)); }
 
     BOOL operator==(SIZE size) const { return cx == size.cx && cy == size.cy; }
     BOOL operator!=(SIZE size) const { return !(*this == size); }
@@ -39,7 +39,7 @@ public:
     CPoint(POINT point) { x = point.x, y = point.y; }
     CPoint(SIZE size) { x = size.cx, y = size.cy; }
     /// As in a mouse message: low word x, high word y, both signed.
-    explicit CPoint(LPARAM packed)
+    CPoint(LPARAM packed)
     {
         x = static_cast<short>(LOWORD(static_cast<DWORD>(packed)));
         y = static_cast<short>(HIWORD(static_cast<DWORD>(packed)));
@@ -108,11 +108,12 @@ public:
     }
     void SetRectEmpty() { ::SetRectEmpty(this); }
     void CopyRect(LPCRECT source) { ::CopyRect(this, source); }
-    void SwapLeftRight()
+    void SwapLeftRight() { SwapLeftRight(this); }
+    static void WINAPI SwapLeftRight(LPRECT rect)
     {
-        const LONG old = left;
-        left = right;
-        right = old;
+        const LONG old = rect->left;
+        rect->left = rect->right;
+        rect->right = old;
     }
 
     void InflateRect(int x, int y) { ::InflateRect(this, x, y); }
@@ -141,6 +142,13 @@ public:
             top = bottom;
             bottom = old;
         }
+    }
+
+    /// All four sides times a fraction, rounded.
+    CRect MulDiv(int multiplier, int divisor) const
+    {
+        const auto scaled = [=](LONG side) { return ::MulDiv(side, multiplier, divisor); };
+        return CRect(scaled(left), scaled(top), scaled(right), scaled(bottom));
     }
 
     BOOL IntersectRect(LPCRECT a, LPCRECT b) { return ::IntersectRect(this, a, b); }

@@ -5,8 +5,11 @@
 #include <afxcmn.h>
 #include <afxext.h>
 
+#include <detail/pending.h>
+
 #include <algorithm>
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>

@@ -23,11 +23,13 @@ struct AFX_NOTIFY
     NMHDR* pNMHDR;
 };
 
-/// One interface of a class: its id, and the offset of the nested object that implements it.
+/// One interface of a class: its id, and the offset of the nested object that implements it. Or the offset of a
+/// pointer to an inner object, which has no id here.
 struct AFX_INTERFACEMAP_ENTRY
 {
-    const IID* piid; ///< null ends the map
+    const IID* piid; ///< null without `bAggregate` ends the map
     std::size_t nOffset;
+    bool bAggregate;
 };
 
 struct AFX_INTERFACEMAP
@@ -57,7 +59,8 @@ public:
     /// override it.
     virtual void OnFinalRelease();
 
-    // Reference counting through the outer object, if there is one.
+    // What the parts do for IUnknown. The external ones go through the outer object, if there is one. The queries
+    // give an HRESULT, and add a reference for the interface they find.
     DWORD ExternalAddRef();
     DWORD ExternalRelease();
     DWORD ExternalQueryInterface(const void* iid, LPVOID* object);
@@ -65,22 +68,20 @@ public:
     DWORD InternalRelease();
     DWORD InternalQueryInterface(const void* iid, LPVOID* object);
 
-    /// The interface without a new reference, or null.
+    /// The part for an interface without a new reference, or null. IID_IUnknown gives the first part.
     LPUNKNOWN GetInterface(const void* iid);
+    /// The outer object, else the object's own IUnknown; without a new reference.
     LPUNKNOWN GetControllingUnknown();
 
-    static const AFX_MSGMAP* PASCAL GetThisMessageMap();
-    static const AFX_INTERFACEMAP* PASCAL GetThisInterfaceMap();
-
-    long m_dwRef = 1;
-    LPUNKNOWN m_pOuterUnknown = nullptr;
+    long m_dwRef = 1;                     ///< references of the outside world, and the maker's
+    LPUNKNOWN m_pOuterUnknown = nullptr;  ///< the object that this one is part of
+    AFX_MODULE_STATE* m_pModuleState;     ///< of the module that made the object
 
 protected:
+    static const AFX_MSGMAP* PASCAL GetThisMessageMap();
     virtual const AFX_MSGMAP* GetMessageMap() const;
+    static const AFX_INTERFACEMAP* PASCAL GetThisInterfaceMap();
     virtual const AFX_INTERFACEMAP* GetInterfaceMap() const;
-
-public:
-    AFX_MODULE_STATE* m_pModuleState; ///< of the module that made the object
 };
 
 /// Shows the hourglass while it lives.
@@ -112,10 +113,13 @@ protected:                                                                      
         static const AFX_INTERFACEMAP_ENTRY entries[] = {
 
 /// `localClass` names the part: the member m_x<localClass>.
-#define INTERFACE_PART(theClass, iid, localClass) {&iid, offsetof(theClass, m_x##localClass)},
+#define INTERFACE_PART(theClass, iid, localClass) {&iid, offsetof(theClass, m_x##localClass), false},
+
+/// `theAggr` is a member of type LPUNKNOWN: an inner object, or null. It is asked for what the parts do not answer.
+#define INTERFACE_AGGREGATE(theClass, theAggr) {nullptr, offsetof(theClass, theAggr), true},
 
 #define END_INTERFACE_MAP()                                                                                       \
-    {nullptr, 0}                                                                                                  \
+    {nullptr, 0, false}                                                                                           \
     }                                                                                                             \
     ;                                                                                                             \
     static const AFX_INTERFACEMAP map{&TheBaseClass::GetThisInterfaceMap, entries};                               \
@@ -146,5 +150,5 @@ protected:                                                                      
 
 /// The same without the module state, for AddRef and the like.
 #define METHOD_PROLOGUE_EX_(theClass, localClass)                                                                 \
-    theClass* const pThis =                                                                                       \
+    theClass* const pThis [[maybe_unused]] =                                                                                       \
         reinterpret_cast<theClass*>(reinterpret_cast<BYTE*>(this) - offsetof(theClass, m_x##localClass));

@@ -1,87 +1,102 @@
-// CControlBar: a strip of controls at a frame's edge.
+// CControlBar: a strip of controls along the edge of a frame.
 #pragma once
 
 #include <afx/FrameWnd.h>
 
-// Styles of control bars. They travel in one word with window styles, so they keep clear of those.
-#define CBRS_ALIGN_LEFT 0x1000L
+// Styles of control bars. They travel in one word with window styles, whose upper half they leave free but
+// for one bit that no bar needs.
+#define CBRS_ALIGN_LEFT 0x1000L // where the bar lies, or may be docked
 #define CBRS_ALIGN_TOP 0x2000L
 #define CBRS_ALIGN_RIGHT 0x4000L
 #define CBRS_ALIGN_BOTTOM 0x8000L
 #define CBRS_ALIGN_ANY 0xF000L
-#define CBRS_BORDER_LEFT 0x0100L
+#define CBRS_BORDER_LEFT 0x0100L // where it has a line
 #define CBRS_BORDER_TOP 0x0200L
 #define CBRS_BORDER_RIGHT 0x0400L
 #define CBRS_BORDER_BOTTOM 0x0800L
 #define CBRS_BORDER_ANY 0x0F00L
+#define CBRS_BORDER_3D 0x0080L   // lines of two colours
+#define CBRS_FLOAT_MULTI 0x0040L // may float together with others
+#define CBRS_FLYBY 0x0020L       // the message line tells what the tooltip's button does
 #define CBRS_TOOLTIPS 0x0010L
-#define CBRS_FLYBY 0x0020L
-#define CBRS_FLOAT_MULTI 0x0040L
-#define CBRS_BORDER_3D 0x0080L
-#define CBRS_HIDE_INPLACE 0x0008L
-#define CBRS_SIZE_DYNAMIC 0x0004L
+#define CBRS_HIDE_INPLACE 0x0008L // hidden while an object is edited in place
+#define CBRS_SIZE_DYNAMIC 0x0004L // its size can be changed while it floats
 #define CBRS_SIZE_FIXED 0x0002L
-#define CBRS_FLOATING 0x0001L
+#define CBRS_FLOATING 0x0001L // it floats
 #define CBRS_GRIPPER 0x00400000L
+#define CBRS_NOALIGN 0x00000000L // it stays where it is
 #define CBRS_ORIENT_HORZ (CBRS_ALIGN_TOP | CBRS_ALIGN_BOTTOM)
 #define CBRS_ORIENT_VERT (CBRS_ALIGN_LEFT | CBRS_ALIGN_RIGHT)
 #define CBRS_ORIENT_ANY (CBRS_ORIENT_HORZ | CBRS_ORIENT_VERT)
 #define CBRS_ALL 0x0040FFFFL
-#define CBRS_NOALIGN 0x00000000L
 #define CBRS_LEFT (CBRS_ALIGN_LEFT | CBRS_BORDER_RIGHT)
 #define CBRS_TOP (CBRS_ALIGN_TOP | CBRS_BORDER_BOTTOM)
 #define CBRS_RIGHT (CBRS_ALIGN_RIGHT | CBRS_BORDER_LEFT)
 #define CBRS_BOTTOM (CBRS_ALIGN_BOTTOM | CBRS_BORDER_TOP)
 
 // What a bar's size is asked for
-#define LM_STRETCH 0x01
-#define LM_HORZ 0x02
-#define LM_MRUWIDTH 0x04
-#define LM_HORZDOCK 0x08
-#define LM_VERTDOCK 0x10
-#define LM_LENGTHY 0x20
-#define LM_COMMIT 0x40
+#define LM_STRETCH 0x01  // as long as the frame's edge
+#define LM_HORZ 0x02     // lying horizontally
+#define LM_MRUWIDTH 0x04 // as wide as it last floated
+#define LM_HORZDOCK 0x08 // docked at the top or bottom: as wide as it gets
+#define LM_VERTDOCK 0x10 // docked at the side: as high as it gets
+#define LM_LENGTHY 0x20  // the length is a height
+#define LM_COMMIT 0x40   // remember this width for LM_MRUWIDTH
 
-struct AFX_SIZEPARENTPARAMS;
-
+/// A child of a frame that takes a strip of it: above (CBRS_TOP), below, left or right.
+///
+/// A bar is usually a member of the frame's class. What its controls notify goes to its owner, the frame. A
+/// derived class's Create sets m_dwStyle to the styles that it is given.
 class OVOMFC_API CControlBar : public CWnd
 {
     DECLARE_DYNAMIC(CControlBar)
 
 public:
+    CControlBar();
     ~CControlBar() override;
 
-    DWORD m_dwStyle = 0;         ///< CBRS_ bits
-    BOOL m_bAutoDelete = FALSE;  ///< delete the object with its window
+    DWORD m_dwStyle = 0;        ///< CBRS_ bits
+    BOOL m_bAutoDelete = FALSE; ///< Delete the object with its window.
 
+    // Style and borders
     DWORD GetBarStyle() const { return m_dwStyle; }
     void SetBarStyle(DWORD style);
     CRect GetBorders() const { return m_borders; }
+    /// Room around the bar's contents, in pixels, as seen in a horizontal bar.
     void SetBorders(int left = 0, int top = 0, int right = 0, int bottom = 0);
     void SetBorders(LPCRECT borders);
-    int GetCount() const { return m_nCount; }
-    virtual BOOL IsFloating() const { return FALSE; }
-    BOOL IsVisible() const;
 
-    /// Size of the bar; 32767 along the edge when it is stretched.
+    // State
+    int GetCount() const { return m_nCount; } ///< Items that are no windows: buttons, panes.
+    BOOL IsFloating() const { return (m_dwStyle & CBRS_FLOATING) != 0; }
+    BOOL
+    IsVisible() const; ///< What is about to be shown counts as visible, what is about to be hidden does not.
+    CFrameWnd* GetDockingFrame() const { return m_pDockSite; }
+    /// The sides that it may be docked to, CBRS_ALIGN_ bits, and CBRS_FLOAT_MULTI; 0: it cannot be docked.
+    void EnableDocking(DWORD dockStyle);
+
+    // Layout
+    /// The bar's size in pixels; 32767 along the edge when it is stretched.
     virtual CSize CalcFixedLayout(BOOL stretch, BOOL horizontal);
+    /// The bar's size in pixels for LM_ bits; `length` is what it has, -1 when that is of no account.
     virtual CSize CalcDynamicLayout(int length, DWORD mode);
-    /// Takes the borders off a rectangle.
+    /// Takes lines, gripper and borders off the rectangle of the bar.
     virtual void CalcInsideRect(CRect& rect, BOOL horizontal) const;
 
-    /// Brings the bar's commands up to date.
-    virtual void OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler) = 0;
+    // Painting
     virtual void DoPaint(CDC* dc);
-    void DrawBorders(CDC* dc, CRect& rect);
+    virtual void DrawBorders(CDC* dc, CRect& rect);
+    virtual void DrawGripper(CDC* dc, const CRect& rect);
 
+    /// Brings the bar's commands up to date; called in idle time. `target` may be any window: it is only
+    /// asked as a command target.
+    virtual void OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler) = 0;
+
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     BOOL PreTranslateMessage(MSG* message) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 protected:
-    CControlBar();
-
-    /// Splits the styles that were given to Create.
-    void takeStyle(DWORD style);
     void PostNcDestroy() override;
 
     afx_msg int OnCreate(LPCREATESTRUCT cs);
@@ -90,11 +105,36 @@ protected:
     afx_msg LRESULT OnSizeParent(WPARAM, LPARAM layout);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM);
     afx_msg LRESULT OnInitialUpdate(WPARAM, LPARAM);
+    // Offered to the control that they are about, then to the owner
+    afx_msg void OnDrawItem(int id, LPDRAWITEMSTRUCT item);
+    afx_msg void OnMeasureItem(int id, LPMEASUREITEMSTRUCT item);
+    afx_msg void OnDeleteItem(int id, LPDELETEITEMSTRUCT item);
+    afx_msg int OnCompareItem(int id, LPCOMPAREITEMSTRUCT item);
+    afx_msg int OnVKeyToItem(UINT key, CListBox* box, UINT index);
+    afx_msg int OnCharToItem(UINT character, CListBox* box, UINT index);
     DECLARE_MESSAGE_MAP()
 
-    int m_nCount = 0; ///< items
-    CRect m_borders{6, 1, 0, 1};
+    int m_nCount = 0;                 ///< items
+    DWORD m_dwDockStyle = 0;          ///< where it may be docked
+    CFrameWnd* m_pDockSite = nullptr; ///< the frame that it belongs to
 
 private:
-    CWnd* notified() const;
+    friend class CFrameWnd;
+
+    enum class Pending
+    {
+        Nothing,
+        Show,
+        Hide
+    };
+
+    void delayShow(bool show);
+    void applyPending();
+    LRESULT sendToOwner();
+    LRESULT notifyOwner(NMHDR& header);
+    void showPrompt(const NMHDR& tip);
+    LRESULT offer(HWND control);
+
+    CRect m_borders{6, 1, 0, 1};
+    Pending m_pending = Pending::Nothing;
 };

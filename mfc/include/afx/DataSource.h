@@ -82,8 +82,9 @@ private:
         DATADIR direction;
     };
 
-    Entry* lookup(const FORMATETC& wanted, DATADIR direction, HRESULT* status = nullptr);
-    Entry& entryFor(const FORMATETC& format, DATADIR direction);
+    Entry* find(const FORMATETC& wanted, DATADIR direction, HRESULT* status = nullptr);
+    void keep(const FORMATETC& format, const STGMEDIUM& medium, DATADIR direction);
+    static void release(Entry& entry);
 
     std::vector<Entry> m_entries;
 };

@@ -13,12 +13,16 @@ OVOMFC_API void AFX_CDECL AfxTrace(LPCTSTR format, ...);
 
 /// Whether a block of memory can be read (and written, if asked).
 OVOMFC_API BOOL AFXAPI AfxIsValidAddress(const void* address, UINT_PTR bytes, BOOL readWrite = TRUE);
+/// Whether a text can be read: `length` characters, or with -1 up to its terminating zero.
 OVOMFC_API BOOL AFXAPI AfxIsValidString(LPCTSTR text, int length = -1);
+
+/// Ends the program at once.
+[[noreturn]] OVOMFC_API void AFXAPI AfxAbort();
 
 class CObject;
 OVOMFC_API void AFXAPI AfxAssertValidObject(const CObject* object, const char* file, int line);
 
-#if defined(OVO_ASSERTIONS) || defined(_DEBUG)
+#if defined(OVO_ASSERTIONS) || !defined(NDEBUG)
 #define ASSERT(condition) ((condition) ? (void)0 : AfxAssertFailedLine(__FILE__, __LINE__))
 #define VERIFY(condition) ASSERT(condition)
 #define ASSERT_VALID(object) AfxAssertValidObject(object, __FILE__, __LINE__)
@@ -41,6 +45,7 @@ OVOMFC_API void AFXAPI AfxAssertValidObject(const CObject* object, const char* f
         if (!(condition))                                                                                         \
             AfxThrowInvalidArgException();                                                                        \
     } while (0)
+#define DEBUG_NEW new
 #define UNUSED(x)
 #define UNUSED_ALWAYS(x) ((void)(x))
 #ifndef THIS_FILE

@@ -33,10 +33,12 @@ public:
 private:
     friend class COleDataSource;
 
-    bool waitForStart();
+    /// Notes which button is down, and where the pointer may move before the drag begins.
+    void prepare(LPCRECT startRect);
+    bool waitForStart(HWND capture) const;
 
     CRect m_startRect; ///< screen coordinates
     bool m_dragStarted = false;
-    DWORD m_buttonDrop = 0;   ///< releasing this one drops
-    DWORD m_buttonCancel = 0; ///< pressing this one cancels
+    DWORD m_buttonDrop = MK_LBUTTON;   ///< releasing this one drops
+    DWORD m_buttonCancel = MK_RBUTTON; ///< pressing this one cancels
 };

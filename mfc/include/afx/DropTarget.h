@@ -52,12 +52,17 @@ public:
 
     DECLARE_INTERFACE_MAP()
 
-private:
-    /// Answers a drag over a point: asks the scroll overridable, then `ask` (OnDragEnter or OnDragOver).
-    using Question = DROPEFFECT (COleDropTarget::*)(CWnd*, COleDataObject*, DWORD, CPoint);
-    DROPEFFECT answer(Question ask, COleDataObject* dataObject, DWORD keyState, CPoint point, DWORD allowed);
-    CPoint clientPoint(POINTL screen) const;
-    void forgetData();
+protected:
+    /// What is being dragged over the window, NULL in between. For OnDragScroll, which is not given it.
+    LPDATAOBJECT m_lpDataObject = nullptr;
 
-    LPDATAOBJECT m_lpDataObject = nullptr; ///< being dragged over the window
+private:
+    /// OnDragEnter or OnDragOver.
+    using Question = DROPEFFECT (COleDropTarget::*)(CWnd*, COleDataObject*, DWORD, CPoint);
+
+    /// The effect at a point, of those that the source allows: the scroll overridable's, else `ask`'s.
+    DROPEFFECT answer(Question ask, DWORD keyState, POINTL screen, DROPEFFECT allowed);
+    DROPEFFECT drop(LPDATAOBJECT dataObject, DWORD keyState, POINTL screen, DROPEFFECT allowed);
+    CPoint clientPoint(POINTL screen) const;
+    void keepData(LPDATAOBJECT dataObject);
 };

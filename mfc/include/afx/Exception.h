@@ -118,6 +118,59 @@ public:
     SCODE m_sc = S_OK;
 };
 
+namespace afxdetail
+{
+
+/// Deletes an exception at the end of the block that caught it.
+class CaughtException
+{
+public:
+    explicit CaughtException(CException* exception)
+        : m_exception(exception)
+    {
+    }
+    ~CaughtException()
+    {
+        if (m_exception)
+            m_exception->Delete();
+    }
+    CaughtException(const CaughtException&) = delete;
+    CaughtException& operator=(const CaughtException&) = delete;
+
+    /// Leaves it to the next block outside.
+    void release() { m_exception = nullptr; }
+
+private:
+    CException* m_exception;
+};
+
+} // namespace afxdetail
+
+// Blocks that delete what they catch:
+//
+//     TRY {
+//         ...
+//     }
+//     CATCH (CResourceException, e) {
+//         ...
+//     }
+//     END_CATCH
+#define TRY try
+#define CATCH(exceptionClass, name)                                                                               \
+    catch (exceptionClass* name)                                                                                  \
+    {                                                                                                             \
+        afxdetail::CaughtException caughtException(name);
+#define AND_CATCH(exceptionClass, name)                                                                           \
+    }                                                                                                             \
+    CATCH(exceptionClass, name)
+#define END_CATCH }
+#define CATCH_ALL(name) CATCH(CException, name)
+#define AND_CATCH_ALL(name) AND_CATCH(CException, name)
+#define END_CATCH_ALL END_CATCH
+#define THROW(exception) throw(exception)
+/// Inside a CATCH block: raises the exception that it caught again.
+#define THROW_LAST() (caughtException.release(), throw)
+
 [[noreturn]] OVOMFC_API void AFXAPI AfxThrowMemoryException();
 [[noreturn]] OVOMFC_API void AFXAPI AfxThrowNotSupportedException();
 [[noreturn]] OVOMFC_API void AFXAPI AfxThrowResourceException();

@@ -4,17 +4,29 @@
 #include <afx/Wnd.h>
 
 class CControlBar;
+class CDocTemplate;
+class CDocument;
 class CView;
 
-/// What OnCreateClient is told.
+// Styles of frames, given along with window styles. They concern the names of documents.
+#define FWS_ADDTOTITLE 0x00008000L  // the title names the document
+#define FWS_PREFIXTITLE 0x00004000L // before the program
+#define FWS_SNAPTOBARS 0x00002000L  // as small as the bars allow
+
+/// What a frame is told of the view that it is to make. Every pointer may be null.
 struct CCreateContext
 {
     CRuntimeClass* m_pNewViewClass = nullptr;
-    void* m_pCurrentDoc = nullptr;
+    CDocument* m_pCurrentDoc = nullptr;
+    CDocTemplate* m_pNewDocTemplate = nullptr;
+    CView* m_pLastView = nullptr;
     CFrameWnd* m_pCurrentFrame = nullptr;
 };
 
-/// A frame lives on the heap and deletes itself with its window.
+/// A frame is made with new and deletes itself with its window: destroy it with DestroyWindow.
+///
+/// Commands go to the active view, then to the frame, then to the program. Control bars that are made in a
+/// frame lie along its edges, the child with the number AFX_IDW_PANE_FIRST (the view) fills the rest.
 class OVOMFC_API CFrameWnd : public CWnd
 {
     DECLARE_DYNCREATE(CFrameWnd)
@@ -23,77 +35,108 @@ public:
     CFrameWnd();
     ~CFrameWnd() override;
 
-    static const CRect rectDefault; ///< lets the system choose place and size
+    static const CRect rectDefault; ///< Lets the system choose place and size.
 
+    // Making a frame. FALSE on failure; the object is then deleted already.
     using CWnd::Create;
-    BOOL Create(LPCTSTR className, LPCTSTR title, DWORD style = WS_OVERLAPPEDWINDOW, const RECT& rect = rectDefault,
-                CWnd* parent = nullptr, LPCTSTR menuName = nullptr, DWORD exStyle = 0,
-                CCreateContext* context = nullptr);
-    /// Menu, accelerators, icon and title (up to the line feed) of one number.
-    virtual BOOL LoadFrame(UINT id, DWORD style = WS_OVERLAPPEDWINDOW, CWnd* parent = nullptr,
-                           CCreateContext* context = nullptr);
+    virtual BOOL Create(LPCTSTR className, LPCTSTR title, DWORD style = WS_OVERLAPPEDWINDOW,
+                        const RECT& rect = rectDefault, CWnd* parent = nullptr, LPCTSTR menuName = nullptr,
+                        DWORD exStyle = 0, CCreateContext* context = nullptr);
+    /// Menu, accelerators, icon and title (the string up to its first line feed) of one number.
+    virtual BOOL LoadFrame(UINT id, DWORD style = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
+                           CWnd* parent = nullptr, CCreateContext* context = nullptr);
+    /// FALSE when there is none, and when the frame has one already.
     BOOL LoadAccelTable(LPCTSTR name);
+    /// Makes a view, which is not active yet. Null on failure.
     CWnd* CreateView(CCreateContext* context, UINT id = AFX_IDW_PANE_FIRST);
+    /// Calls OnInitialUpdate of all views, makes the first one active if none is, and shows the frame on
+    /// demand.
+    void InitialUpdateFrame(CDocument* document, BOOL makeVisible);
 
+    // Views and title
     CView* GetActiveView() const { return m_pViewActive; }
-    void SetActiveView(CView* view, BOOL notify = TRUE);
+    void SetActiveView(CView* view, BOOL notify = TRUE); ///< Null for none.
     virtual CFrameWnd* GetActiveFrame() { return this; }
+    /// Shows the frame, restored if it was an icon, in front of the others.
     virtual void ActivateFrame(int show = -1);
     CString GetTitle() const { return m_strTitle; }
-    void SetTitle(LPCTSTR title) { m_strTitle = title; }
+    void SetTitle(LPCTSTR title);
 
-    /// Lays out bars and view.
-    virtual void RecalcLayout(BOOL notify = TRUE);
-    CControlBar* GetControlBar(UINT id);
+    // Bars
+    virtual void RecalcLayout(BOOL notify = TRUE); ///< Lays out bars and view.
+    CControlBar* GetControlBar(UINT id);           ///< Null when there is none; hidden ones count.
+    /// With `delay` at the next idle time, together with whatever else changes until then.
     void ShowControlBar(CControlBar* bar, BOOL show, BOOL delay);
-    void AddControlBar(CControlBar* bar);
-    void RemoveControlBar(CControlBar* bar);
+    afx_msg BOOL OnBarCheck(UINT id); ///< A command that shows or hides the bar of the same number.
+    afx_msg void OnUpdateControlBarMenu(CCmdUI* ui);
 
-    /// The text of a command for the message line.
+    // The message line
+    /// The text that explains a command: its string up to the line feed. Empty when there is none.
     virtual void GetMessageString(UINT id, CString& message) const;
     void SetMessageText(LPCTSTR text);
     void SetMessageText(UINT id);
-    virtual CWnd* GetMessageBar();
-    virtual HMENU GetWindowMenuPopup(HMENU) { return nullptr; }
+    virtual CWnd* GetMessageBar(); ///< The status bar, or null.
 
-    BOOL m_bAutoMenuEnable = TRUE; ///< disable menu items without a handler
+    // Modal state: the windows that the frame owns, and the frame, are disabled. Calls nest.
+    virtual void BeginModalState();
+    virtual void EndModalState();
+    BOOL InModalState() const { return m_modalDepth > 0; }
+    void ShowOwnedWindows(BOOL show);
+
+    BOOL m_bAutoMenuEnable = TRUE;  ///< Disable menu items without a handler.
+    HMENU m_hMenuDefault = nullptr; ///< The menu that the frame was made with.
 
     BOOL IsFrameWnd() const override { return TRUE; }
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     BOOL PreTranslateMessage(MSG* message) override;
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override;
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
 protected:
+    /// Makes what fills the frame: by default the view of the context's class, if there is one. FALSE: the
+    /// frame is not made.
     virtual BOOL OnCreateClient(LPCREATESTRUCT cs, CCreateContext* context);
     void PostNcDestroy() override;
-    void OnUpdateFrameTitle(BOOL addToTitle);
-    void InitialUpdateFrame(CView* view);
 
     afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnDestroy();
     afx_msg void OnClose();
+    afx_msg BOOL OnQueryEndSession();
     afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSetFocus(CWnd* old);
     afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
-    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnHScroll(UINT code, UINT pos, CScrollBar* bar);
+    afx_msg void OnVScroll(UINT code, UINT pos, CScrollBar* bar);
     afx_msg void OnInitMenuPopup(CMenu* menu, UINT index, BOOL sysMenu);
     afx_msg void OnMenuSelect(UINT id, UINT flags, HMENU menu);
     afx_msg void OnEnterIdle(UINT why, CWnd* who);
     afx_msg LRESULT OnSetMessageString(WPARAM id, LPARAM text);
     afx_msg LRESULT OnPopMessageString(WPARAM id, LPARAM text);
+    afx_msg LRESULT OnRecalcParent(WPARAM, LPARAM);
+    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM, LPARAM);
     afx_msg BOOL OnToolTipText(UINT id, NMHDR* header, LRESULT* result);
-    afx_msg BOOL OnBarCheck(UINT id);
-    afx_msg void OnUpdateControlBarMenu(CCmdUI* ui);
+    afx_msg void OnUpdateKeyIndicator(CCmdUI* ui);
     DECLARE_MESSAGE_MAP()
 
     HACCEL m_hAccelTable = nullptr;
     CView* m_pViewActive = nullptr;
-    CRect m_rectBorder;
+    CRect m_rectBorder; ///< room kept free between the bars and the view
     CString m_strTitle;
-    UINT m_nIDHelp = 0;
+    UINT m_nIDHelp = 0;        ///< the number given to LoadFrame
     UINT m_nIDTracking = 0;    ///< the command that the message line should tell of
     UINT m_nIDLastMessage = 0; ///< the one that it tells of
-    BOOL m_bInRecalcLayout = FALSE;
+
+private:
+    friend class CControlBar;
+
+    void addControlBar(CControlBar* bar);
+    void removeControlBar(CControlBar* bar);
+    void applyPendingBars();
+    void scrollView(CScrollBar* bar);
+
     std::vector<CControlBar*> m_bars;
+    std::vector<HWND> m_disabledByModal;
+    int m_modalDepth = 0;
+    bool m_layingOut = false;
+    bool m_layoutPending = false; ///< at the next idle time
 };

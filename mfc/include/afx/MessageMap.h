@@ -52,6 +52,10 @@ OVOMFC_API const AFX_MSGMAP_ENTRY* findWindowMessage(const AFX_MSGMAP* map, UINT
 /// The first entry for a command or notification, likewise.
 OVOMFC_API const AFX_MSGMAP_ENTRY* findCommand(const AFX_MSGMAP* map, UINT message, UINT code, UINT id);
 
+/// To be called when a module with message maps goes: what was found is looked up anew, since another module may
+/// come to lie at the same addresses.
+OVOMFC_API void forgetHandlers();
+
 } // namespace afxdetail
 
 #define DECLARE_MESSAGE_MAP()                                                                                     \

@@ -3,6 +3,7 @@
 
 #include <afx/Platform.h>
 
+#include <compare>
 #include <cstdarg>
 #include <string_view>
 
@@ -32,7 +33,7 @@ public:
 
     // Looking
     int GetLength() const;
-    BOOL IsEmpty() const;
+    bool IsEmpty() const;
     LPCWSTR GetString() const { return m_pszData; }
     operator LPCWSTR() const { return m_pszData; }
     wchar_t GetAt(int index) const; ///< The terminating zero may be read.
@@ -137,6 +138,10 @@ private:
     static Data* allocate(int capacity);
     Data* data() const;
     std::wstring_view view() const;
+    bool isLocked() const;
+    bool ownsRoom(int length) const;
+    Data* grown(int length) const;
+    void use(Data* buffer);
     void release();
     void assign(std::wstring_view text);
     void append(std::wstring_view text);
@@ -158,20 +163,27 @@ OVOMFC_API CString operator+(LPCWSTR left, const CString& right);
 OVOMFC_API CString operator+(const CString& left, wchar_t right);
 OVOMFC_API CString operator+(wchar_t left, const CString& right);
 
-inline bool operator==(const CString& left, const CString& right) { return left.Compare(right) == 0; }
-inline bool operator==(const CString& left, LPCWSTR right) { return left.Compare(right) == 0; }
-inline bool operator==(LPCWSTR left, const CString& right) { return right.Compare(left) == 0; }
-inline bool operator!=(const CString& left, const CString& right) { return left.Compare(right) != 0; }
-inline bool operator!=(const CString& left, LPCWSTR right) { return left.Compare(right) != 0; }
-inline bool operator!=(LPCWSTR left, const CString& right) { return right.Compare(left) != 0; }
-inline bool operator<(const CString& left, const CString& right) { return left.Compare(right) < 0; }
-inline bool operator<(const CString& left, LPCWSTR right) { return left.Compare(right) < 0; }
-inline bool operator<(LPCWSTR left, const CString& right) { return right.Compare(left) > 0; }
-inline bool operator>(const CString& left, const CString& right) { return left.Compare(right) > 0; }
-inline bool operator>(const CString& left, LPCWSTR right) { return left.Compare(right) > 0; }
-inline bool operator>(LPCWSTR left, const CString& right) { return right.Compare(left) < 0; }
-inline bool operator<=(const CString& left, const CString& right) { return left.Compare(right) <= 0; }
-inline bool operator>=(const CString& left, const CString& right) { return left.Compare(right) >= 0; }
+inline bool operator==(const CString& left, const CString& right)
+{
+    return left.Compare(right) == 0;
+}
+inline bool operator==(const CString& left, LPCWSTR right)
+{
+    return left.Compare(right) == 0;
+}
+/// Whether the text is this one character.
+inline bool operator==(const CString& left, wchar_t right)
+{
+    return left.GetLength() == 1 && left[0] == right;
+}
+inline std::strong_ordering operator<=>(const CString& left, const CString& right)
+{
+    return left.Compare(right) <=> 0;
+}
+inline std::strong_ordering operator<=>(const CString& left, LPCWSTR right)
+{
+    return left.Compare(right) <=> 0;
+}
 
 /// The `index`-th part of a text between separators. FALSE, and an empty text, when there are not so many.
 OVOMFC_API BOOL AFXAPI AfxExtractSubString(CString& part, LPCTSTR text, int index, TCHAR separator = '\n');

@@ -94,6 +94,13 @@ private:
 };
 
 /// What the command line asks for.
+///
+///     program                                   a new file
+///     program file                              open it
+///     program /p file                           print it
+///     program /pt file printer driver port      print it there
+///     program /dde, /Embedding, /Automation     started by another program
+///     program /Register, /Unregister            (or /Regserver, /Unregserver) enter or leave the registry
 class OVOMFC_API CCommandLineInfo : public CObject
 {
 public:
@@ -102,6 +109,8 @@ public:
 
     /// Called for each argument; `flag` when it began with - or /, which is taken off.
     virtual void ParseParam(const TCHAR* parameter, BOOL flag, BOOL last);
+    /// The same for narrow text; not called by the framework.
+    virtual void ParseParam(const char* parameter, BOOL flag, BOOL last);
 
     enum
     {
@@ -109,12 +118,22 @@ public:
         FileOpen,
         FilePrint,
         FilePrintTo,
+        FileDDE,
+        AppRegister,
+        AppUnregister,
         FileNothing = -1
     } m_nShellCommand = FileNew;
     CString m_strFileName;
-    BOOL m_bShowSplash = TRUE;
+    CString m_strPrinterName; ///< these three with /pt only
+    CString m_strDriverName;
+    CString m_strPortName;
+    BOOL m_bShowSplash = TRUE; ///< for a new file only
     BOOL m_bRunEmbedded = FALSE;
     BOOL m_bRunAutomated = FALSE;
+
+private:
+    void parseFlag(const CString& flag);
+    void parseName(const CString& name);
 };
 
 /// Shows a message through the program's DoMessageBox and gives the answer, 0 on failure.

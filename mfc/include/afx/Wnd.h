@@ -3,10 +3,10 @@
 
 #include <afx/CmdTarget.h>
 #include <afxmsg_.h>
-#include <detail/pending.h>
 
 #include <vector>
 
+class CBitmap;
 class CDataExchange;
 class CDC;
 class CFont;
@@ -15,11 +15,21 @@ class CMenu;
 class COleDropTarget;
 class CRgn;
 class CScrollBar;
+struct CCreateContext;
+
+namespace afxdetail
+{
+struct WndAccess;
+}
 
 // RunModalLoop
 #define MLF_NOIDLEMSG 0x0001
 #define MLF_NOKICKIDLE 0x0002
 #define MLF_SHOWONIDLE 0x0004
+
+// OnToolHitTest, beside the control's own flags
+#define TTF_NOTBUTTON 0x80000000L // the tip comes back after a press; a button's waits until the pointer has left it
+#define TTF_ALWAYSTIP 0x40000000L // also while the program is not the active one
 
 /// Wraps one window and destroys it when destroyed, unless the object is temporary.
 ///
@@ -46,21 +56,30 @@ public:
     static CWnd* PASCAL FromHandle(HWND wnd);
     static CWnd* PASCAL FromHandlePermanent(HWND wnd);
     static void PASCAL DeleteTempMap();
-    BOOL Attach(HWND wnd); ///< FALSE for NULL. The window's procedure stays what it is.
+    /// FALSE for NULL, and when the window or this object is attached already. The window's procedure stays what
+    /// it is.
+    BOOL Attach(HWND wnd);
     HWND Detach();
 
-    // Creation. `create` and friends give FALSE on failure.
+    // Creation. FALSE on failure; PostNcDestroy has been called then. When a handler raises an exception on the
+    // way, there is no window, and the exception comes out of the call.
+    /// May change everything about the window to be. FALSE: it is not created. Without a class name the window
+    /// gets a plain class.
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    /// A child window.
     virtual BOOL Create(LPCTSTR className, LPCTSTR title, DWORD style, const RECT& rect, CWnd* parent, UINT id,
-                        void* context = nullptr);
-    BOOL CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR title, DWORD style, int x, int y, int width, int height,
-                  HWND parent, HMENU idOrMenu, LPVOID param = nullptr);
-    BOOL CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR title, DWORD style, const RECT& rect, CWnd* parent,
-                  UINT id, LPVOID param = nullptr);
+                        CCreateContext* context = nullptr);
+    virtual BOOL CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR title, DWORD style, int x, int y, int width,
+                          int height, HWND parent, HMENU idOrMenu, LPVOID param = nullptr);
+    virtual BOOL CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR title, DWORD style, const RECT& rect,
+                          CWnd* parent, UINT id, LPVOID param = nullptr);
+    /// FALSE when there is no window. The object may have deleted itself afterwards.
     virtual BOOL DestroyWindow();
-    /// Takes over a window with its procedure. FALSE when it belongs to another object already.
+    /// Takes over a window with its procedure. FALSE when the window or this object is attached already, or the
+    /// window is not this program's.
     BOOL SubclassWindow(HWND wnd);
     BOOL SubclassDlgItem(UINT id, CWnd* parent);
+    /// Gives the window back its former procedure, and the caller the window.
     HWND UnsubclassWindow();
     /// Called before the window gets its first message, or is subclassed.
     virtual void PreSubclassWindow();
@@ -81,11 +100,13 @@ public:
     static CWnd* PASCAL GetFocus() { return FromHandle(::GetFocus()); }
     CWnd* SetActiveWindow();
     static CWnd* PASCAL GetActiveWindow() { return FromHandle(::GetActiveWindow()); }
-    CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
+    CWnd* SetCapture();
     static CWnd* PASCAL GetCapture() { return FromHandle(::GetCapture()); }
     BOOL SetForegroundWindow();
     static CWnd* PASCAL GetForegroundWindow() { return FromHandle(::GetForegroundWindow()); }
     void BringWindowToTop();
+    void CloseWindow();
+    BOOL AnimateWindow(DWORD milliseconds, DWORD flags);
     static CWnd* PASCAL GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
 
     // Text, font, icon
@@ -103,11 +124,14 @@ public:
     CWnd* SetParent(CWnd* parent);
     CWnd* GetOwner() const; ///< The one set, else the parent.
     void SetOwner(CWnd* owner) { m_hWndOwner = owner->GetSafeHwnd(); }
-    CWnd* GetParentOwner() const;
+    CWnd* GetParentOwner() const;     ///< The nearest one, itself included, that is no child window.
     CFrameWnd* GetParentFrame() const;
     CFrameWnd* GetTopLevelFrame() const;
-    CWnd* GetTopLevelParent() const;
-    CWnd* GetTopLevelOwner() const;
+    CWnd* GetTopLevelParent() const;  ///< The outermost parent or owner; the owners that were set do not count.
+    CWnd* GetTopLevelOwner() const;   ///< The outermost one; the owners that were set do count.
+    BOOL IsTopParentActive() const;
+    void ActivateTopParent();
+    CWnd* GetAncestor(UINT flags) const { return FromHandle(::GetAncestor(m_hWnd, flags)); }
     CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
     CWnd* GetWindow(UINT command) const { return FromHandle(::GetWindow(m_hWnd, command)); }
     CWnd* GetNextWindow(UINT flag = GW_HWNDNEXT) const { return FromHandle(::GetWindow(m_hWnd, flag)); }
@@ -119,12 +143,16 @@ public:
         return FromHandle(::ChildWindowFromPointEx(m_hWnd, point, flags));
     }
     static CWnd* PASCAL WindowFromPoint(POINT point) { return FromHandle(::WindowFromPoint(point)); }
-    static CWnd* PASCAL FindWindow(LPCTSTR className, LPCTSTR title) { return FromHandle(::FindWindowW(className, title)); }
-    /// The window to own a message box or dialog: `parent`, else the main window, each as its last active popup's
-    /// top-level window. `*topLevel` gets the window to be disabled.
+    static CWnd* PASCAL FindWindow(LPCTSTR className, LPCTSTR title);
+    static CWnd* PASCAL FindWindowEx(HWND parent, HWND childAfter, LPCTSTR className, LPCTSTR title);
+    long GetWindowedChildCount(); ///< The number of immediate children.
+    /// The window to own a message box or dialog: the first of `parent` and its parents that is no child window;
+    /// without `parent`, what is in front of the main window. `*topLevel` gets the window below that is to be
+    /// disabled meanwhile, or NULL.
     static CWnd* PASCAL GetSafeOwner(CWnd* parent = nullptr, HWND* topLevel = nullptr);
     CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
     void GetDlgItem(int id, HWND* wnd) const { *wnd = ::GetDlgItem(m_hWnd, id); }
+    /// The child with this number, else one further down. NULL when there is none.
     CWnd* GetDescendantWindow(int id, BOOL onlyPermanent = FALSE) const;
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
     int SetDlgCtrlID(int id) { return static_cast<int>(::SetWindowLongPtrW(m_hWnd, GWLP_ID, id)); }
@@ -159,7 +187,14 @@ public:
     BOOL SetWindowPlacement(const WINDOWPLACEMENT* placement);
     int SetWindowRgn(HRGN region, BOOL redraw);
     int GetWindowRgn(HRGN region) const { return ::GetWindowRgn(m_hWnd, region); }
-    UINT ArrangeIconicWindows() { return ::ArrangeIconicWindows(m_hWnd); }
+    UINT ArrangeIconicWindows();
+    BOOL DrawAnimatedRects(int kind, CONST RECT* from, CONST RECT* to)
+    {
+        return ::DrawAnimatedRects(m_hWnd, kind, from, to);
+    }
+    BOOL GetWindowInfo(PWINDOWINFO info) const; ///< Fills in the size of the structure by itself, as do the next two.
+    BOOL GetTitleBarInfo(PTITLEBARINFO info) const;
+    BOOL GetMenuBarInfo(LONG object, LONG item, PMENUBARINFO info) const;
     enum RepositionFlags
     {
         reposDefault = 0,
@@ -183,7 +218,8 @@ public:
     void InvalidateRect(LPCRECT rect, BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, rect, erase); }
     void InvalidateRgn(CRgn* region, BOOL erase = TRUE);
     void ValidateRect(LPCRECT rect) { ::ValidateRect(m_hWnd, rect); }
-    BOOL GetUpdateRect(LPRECT rect, BOOL erase = FALSE) { return ::GetUpdateRect(m_hWnd, rect, erase); }
+    void ValidateRgn(CRgn* region);
+    BOOL GetUpdateRect(LPRECT rect, BOOL erase = FALSE);
     int GetUpdateRgn(CRgn* region, BOOL erase = FALSE);
     void UpdateWindow();
     BOOL RedrawWindow(LPCRECT rect = nullptr, CRgn* region = nullptr,
@@ -193,9 +229,11 @@ public:
     static void PASCAL UnlockWindowUpdate() { ::LockWindowUpdate(nullptr); }
     void Print(CDC* dc, DWORD flags) const;
     void PrintClient(CDC* dc, DWORD flags) const;
+    BOOL PrintWindow(CDC* dc, UINT flags) const;
+    BOOL DrawCaption(CDC* dc, LPCRECT rect, UINT flags);
     void ScrollWindow(int x, int y, LPCRECT rect = nullptr, LPCRECT clip = nullptr);
     int ScrollWindowEx(int dx, int dy, LPCRECT scroll, LPCRECT clip, CRgn* update, LPRECT updateRect, UINT flags);
-    void ShowOwnedPopups(BOOL show = TRUE) { ::ShowOwnedPopups(m_hWnd, show); }
+    void ShowOwnedPopups(BOOL show = TRUE);
 
     // Messages
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
@@ -213,7 +251,10 @@ public:
     static void PASCAL SendMessageToDescendants(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL deep,
                                                 BOOL onlyPermanent);
     static const MSG* PASCAL GetCurrentMessage();
-    UINT_PTR SetTimer(UINT_PTR id, UINT elapse, TIMERPROC procedure) { return ::SetTimer(m_hWnd, id, elapse, procedure); }
+    UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds, TIMERPROC procedure)
+    {
+        return ::SetTimer(m_hWnd, id, milliseconds, procedure);
+    }
     BOOL KillTimer(UINT_PTR id) { return ::KillTimer(m_hWnd, id); }
     BOOL IsDialogMessage(LPMSG message);
     virtual BOOL PreTranslateMessage(MSG* message);
@@ -226,14 +267,11 @@ public:
     void SetDlgItemText(int id, LPCTSTR text);
     int GetDlgItemText(int id, LPTSTR buffer, int maxCount) const;
     int GetDlgItemText(int id, CString& text) const;
-    void SetDlgItemInt(int id, UINT value, BOOL isSigned = TRUE) { ::SetDlgItemInt(m_hWnd, id, value, isSigned); }
-    UINT GetDlgItemInt(int id, BOOL* translated = nullptr, BOOL isSigned = TRUE) const
-    {
-        return ::GetDlgItemInt(m_hWnd, id, translated, isSigned);
-    }
-    void CheckDlgButton(int id, UINT check) { ::CheckDlgButton(m_hWnd, id, check); }
-    UINT IsDlgButtonChecked(int id) const { return ::IsDlgButtonChecked(m_hWnd, id); }
-    void CheckRadioButton(int first, int last, int id) { ::CheckRadioButton(m_hWnd, first, last, id); }
+    void SetDlgItemInt(int id, UINT value, BOOL isSigned = TRUE);
+    UINT GetDlgItemInt(int id, BOOL* translated = nullptr, BOOL isSigned = TRUE) const;
+    void CheckDlgButton(int id, UINT check);
+    UINT IsDlgButtonChecked(int id) const;
+    void CheckRadioButton(int first, int last, int id);
     int GetCheckedRadioButton(int first, int last) const; ///< 0 when none is checked.
     CWnd* GetNextDlgTabItem(CWnd* control, BOOL previous = FALSE) const
     {
@@ -243,45 +281,73 @@ public:
     {
         return FromHandle(::GetNextDlgGroupItem(m_hWnd, control->GetSafeHwnd(), previous));
     }
-    int DlgDirList(LPTSTR path, int listBox, int staticPath, UINT fileType)
-    {
-        return ::DlgDirListW(m_hWnd, path, listBox, staticPath, fileType);
-    }
+    int DlgDirList(LPTSTR path, int listBox, int staticPath, UINT fileType);
+    int DlgDirListComboBox(LPTSTR path, int comboBox, int staticPath, UINT fileType);
+    /// `path` must have room for MAX_PATH characters.
+    BOOL DlgDirSelect(LPTSTR path, int listBox);
+    BOOL DlgDirSelectComboBox(LPTSTR path, int comboBox);
 
-    // Menus, scroll bars, caret, the rest
+    // Menus
     CMenu* GetMenu() const;
     BOOL SetMenu(CMenu* menu);
     CMenu* GetSystemMenu(BOOL revert) const;
-    void DrawMenuBar() { ::DrawMenuBar(m_hWnd); }
+    void DrawMenuBar();
     BOOL HiliteMenuItem(CMenu* menu, UINT item, UINT hilite);
-    int SetScrollPos(int bar, int pos, BOOL redraw = TRUE) { return ::SetScrollPos(m_hWnd, bar, pos, redraw); }
-    int GetScrollPos(int bar) const { return ::GetScrollPos(m_hWnd, bar); }
-    void SetScrollRange(int bar, int min, int max, BOOL redraw = TRUE)
-    {
-        ::SetScrollRange(m_hWnd, bar, min, max, redraw);
-    }
-    void GetScrollRange(int bar, LPINT min, LPINT max) const { ::GetScrollRange(m_hWnd, bar, min, max); }
+
+    // Scroll bars: the sibling control that GetScrollBarCtrl names, else the window's own
+    virtual CScrollBar* GetScrollBarCtrl(int bar) const; ///< NULL unless overridden.
+    int SetScrollPos(int bar, int pos, BOOL redraw = TRUE);
+    int GetScrollPos(int bar) const;
+    void SetScrollRange(int bar, int min, int max, BOOL redraw = TRUE);
+    void GetScrollRange(int bar, LPINT min, LPINT max) const;
     BOOL SetScrollInfo(int bar, LPSCROLLINFO info, BOOL redraw = TRUE);
     BOOL GetScrollInfo(int bar, LPSCROLLINFO info, UINT mask = SIF_ALL);
-    int GetScrollLimit(int bar);
-    void ShowScrollBar(UINT bar, BOOL show = TRUE) { ::ShowScrollBar(m_hWnd, static_cast<int>(bar), show); }
-    BOOL EnableScrollBar(int bar, UINT flags = ESB_ENABLE_BOTH) { return ::EnableScrollBar(m_hWnd, bar, flags); }
-    virtual CScrollBar* GetScrollBarCtrl(int bar) const; ///< A sibling scroll bar; NULL for the window's own.
-    void CreateCaret(HBITMAP bitmap) { ::CreateCaret(m_hWnd, bitmap, 0, 0); }
+    BOOL GetScrollBarInfo(LONG object, PSCROLLBARINFO info) const;
+    int GetScrollLimit(int bar); ///< The largest position that the user can scroll to.
+    void ShowScrollBar(UINT bar, BOOL show = TRUE);
+    void EnableScrollBarCtrl(int bar, BOOL enable = TRUE);
+    BOOL EnableScrollBar(int bar, UINT flags = ESB_ENABLE_BOTH); ///< The window's own only.
+
+    // Caret
+    void CreateCaret(CBitmap* bitmap); ///< The bitmap stays the caller's, and must live as long as the caret.
     void CreateSolidCaret(int width, int height) { ::CreateCaret(m_hWnd, nullptr, width, height); }
+    void CreateGrayCaret(int width, int height)
+    {
+        ::CreateCaret(m_hWnd, reinterpret_cast<HBITMAP>(static_cast<INT_PTR>(1)), width, height);
+    }
     static CPoint PASCAL GetCaretPos();
     static void PASCAL SetCaretPos(POINT point) { ::SetCaretPos(point.x, point.y); }
     void ShowCaret() { ::ShowCaret(m_hWnd); }
     void HideCaret() { ::HideCaret(m_hWnd); }
-    void DragAcceptFiles(BOOL accept = TRUE);
+
+    // Clipboard, files, the user's attention
     BOOL OpenClipboard() { return ::OpenClipboard(m_hWnd); }
     static CWnd* PASCAL GetClipboardOwner() { return FromHandle(::GetClipboardOwner()); }
-    BOOL FlashWindow(BOOL invert) { return ::FlashWindow(m_hWnd, invert); }
+    static CWnd* PASCAL GetOpenClipboardWindow() { return FromHandle(::GetOpenClipboardWindow()); }
+    static CWnd* PASCAL GetClipboardViewer() { return FromHandle(::GetClipboardViewer()); }
+    HWND SetClipboardViewer();
+    BOOL ChangeClipboardChain(HWND next);
+    void DragAcceptFiles(BOOL accept = TRUE);
+    BOOL DragDetect(POINT point) const;
+    BOOL FlashWindow(BOOL invert);
+    BOOL FlashWindowEx(DWORD flags, UINT count, DWORD milliseconds);
+    void NotifyWinEvent(DWORD event, LONG object, LONG child) { ::NotifyWinEvent(event, m_hWnd, object, child); }
     BOOL SetLayeredWindowAttributes(COLORREF key, BYTE alpha, DWORD flags)
     {
         return ::SetLayeredWindowAttributes(m_hWnd, key, alpha, flags);
     }
+    BOOL GetLayeredWindowAttributes(COLORREF* key, BYTE* alpha, DWORD* flags) const
+    {
+        return ::GetLayeredWindowAttributes(m_hWnd, key, alpha, flags);
+    }
+    BOOL UpdateLayeredWindow(CDC* destination, POINT* place, SIZE* size, CDC* source, POINT* sourcePlace,
+                             COLORREF key, BLENDFUNCTION* blend, DWORD flags);
+
+    // Messages to the user, help
+    /// A NULL caption makes it the system's word for an error.
     int MessageBox(LPCTSTR text, LPCTSTR caption = nullptr, UINT type = MB_OK);
+    BOOL SetWindowContextHelpId(DWORD id) { return ::SetWindowContextHelpId(m_hWnd, id); }
+    DWORD GetWindowContextHelpId() const { return ::GetWindowContextHelpId(m_hWnd); }
     virtual void HtmlHelp(DWORD_PTR data, UINT command = 0x000F);
     virtual void WinHelp(DWORD_PTR data, UINT command = HELP_CONTEXT);
 
@@ -294,23 +360,28 @@ public:
     void UpdateDialogControls(CCmdTarget* target, BOOL disableIfNoHandler);
 
     // Tooltips
+    /// Gives the tools that OnToolHitTest knows, by default the child windows, tips. The window is asked for a
+    /// tip's text with TTN_NEEDTEXT.
     BOOL EnableToolTips(BOOL enable = TRUE);
+    /// Takes the tip, if one is shown, off the screen.
     static void PASCAL CancelToolTips(BOOL keys = FALSE);
     void FilterToolTipMessage(MSG* message);
-    /// The tool under a client point, or -1; fills `info` when it is not null.
+    /// The tool under a client point: a number of its own, or -1. Fills `info` when it is not null: `uId`, `rect`,
+    /// `lpszText`, which must live until the tip goes, or LPSTR_TEXTCALLBACK, and the flags.
     virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const;
 
     // Modal loops
-    /// Runs until EndModalLoop; gives its value.
-    virtual int RunModalLoop(DWORD flags = 0);
+    /// Handles messages until ContinueModal gives FALSE; gives what EndModalLoop was given, or -1 when WM_QUIT
+    /// comes (which stays in the queue) or the window is destroyed. `flags` are MLF_ ones.
+    int RunModalLoop(DWORD flags = 0);
     virtual BOOL ContinueModal();
     virtual void EndModalLoop(int result);
+    virtual void BeginModalState();
+    virtual void EndModalState();
 
     // What a derived class handles
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
-    BOOL IsTopParentActive() const;
-    void ActivateTopParent();
     void OnFinalRelease() override;
 
     // What the framework calls; public so that it can
@@ -427,6 +498,64 @@ protected:
     afx_msg void OnFontChange();
     afx_msg void OnTimeChange();
     afx_msg LRESULT OnThemeChanged();
+    afx_msg void OnAppCommand(CWnd*, UINT, UINT, UINT);
+    afx_msg void OnAskCbFormatName(UINT, LPTSTR);
+    afx_msg void OnChangeCbChain(HWND, HWND);
+    afx_msg void OnChangeUIState(UINT, UINT);
+    afx_msg void OnClipboardUpdate();
+    afx_msg void OnColorizationColorChanged(DWORD, BOOL);
+    afx_msg void OnCompacting(UINT);
+    afx_msg void OnCompositionChanged();
+    afx_msg void OnDestroyClipboard();
+    afx_msg BOOL OnDeviceChange(UINT, DWORD_PTR);
+    afx_msg void OnDrawClipboard();
+    afx_msg void OnEnterSizeMove();
+    afx_msg void OnExitSizeMove();
+    afx_msg void OnHotKey(UINT, UINT, UINT);
+    afx_msg void OnHScrollClipboard(CWnd*, UINT, UINT);
+    afx_msg void OnIconEraseBkgnd(CDC*);
+    afx_msg void OnInputDeviceChange(unsigned short);
+    afx_msg void OnInputLangChange(UINT, UINT);
+    afx_msg void OnInputLangChangeRequest(UINT, UINT);
+    afx_msg UINT OnMenuDrag(UINT, CMenu*);
+    afx_msg UINT OnMenuGetObject(MENUGETOBJECTINFO*);
+    afx_msg void OnMenuRButtonUp(UINT, CMenu*);
+    afx_msg void OnMouseHover(UINT, CPoint);
+    afx_msg void OnMouseHWheel(UINT, short, CPoint);
+    afx_msg void OnNcMButtonDblClk(UINT, CPoint);
+    afx_msg void OnNcMButtonDown(UINT, CPoint);
+    afx_msg void OnNcMButtonUp(UINT, CPoint);
+    afx_msg void OnNcMouseHover(UINT, CPoint);
+    afx_msg void OnNcMouseLeave();
+    afx_msg void OnNcRButtonDblClk(UINT, CPoint);
+    afx_msg void OnNcRenderingChanged(BOOL);
+    afx_msg void OnNcXButtonDblClk(short, UINT, CPoint);
+    afx_msg void OnNcXButtonDown(short, UINT, CPoint);
+    afx_msg void OnNcXButtonUp(short, UINT, CPoint);
+    afx_msg void OnNextMenu(UINT, LPMDINEXTMENU);
+    afx_msg UINT OnNotifyFormat(CWnd*, UINT);
+    afx_msg void OnPaintClipboard(CWnd*, HGLOBAL);
+    afx_msg void OnPaletteIsChanging(CWnd*);
+    afx_msg UINT OnPowerBroadcast(UINT, UINT);
+    afx_msg HCURSOR OnQueryDragIcon();
+    afx_msg BOOL OnQueryOpen();
+    afx_msg UINT OnQueryUIState();
+    afx_msg void OnRawInput(UINT, HRAWINPUT);
+    afx_msg void OnRenderAllFormats();
+    afx_msg void OnRenderFormat(UINT);
+    afx_msg void OnSessionChange(UINT, UINT);
+    afx_msg void OnSizeClipboard(CWnd*, HGLOBAL);
+    afx_msg void OnSpoolerStatus(UINT, UINT);
+    afx_msg void OnSysDeadChar(UINT, UINT, UINT);
+    afx_msg void OnTCard(UINT, DWORD);
+    afx_msg void OnUniChar(UINT, UINT, UINT);
+    afx_msg void OnUpdateUIState(UINT, UINT);
+    afx_msg void OnUserChanged();
+    afx_msg void OnVScrollClipboard(CWnd*, UINT, UINT);
+    afx_msg void OnWindowMaximizedChanged(BOOL);
+    afx_msg void OnXButtonDblClk(UINT, UINT, CPoint);
+    afx_msg void OnXButtonDown(UINT, UINT, CPoint);
+    afx_msg void OnXButtonUp(UINT, UINT, CPoint);
     DECLARE_MESSAGE_MAP()
 
     WNDPROC m_pfnSuper = nullptr; ///< the procedure of before subclassing
@@ -435,20 +564,19 @@ protected:
 private:
     explicit CWnd(HWND wnd); // for the constants above, and temporary objects
 
-    void forgetThreadRoles();
+    BOOL callHandler(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    bool takeOverProcedure();
+    void forgetRoles();
+    void forgetTools();
     bool tooltipsEnabled() const;
 
-    friend struct WndAccess;
+    friend struct afxdetail::WndAccess;
 };
 
 OVOMFC_API LRESULT CALLBACK AfxWndProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam);
+/// Calls an object's WindowProc for a message. No C++ exception leaves it.
+OVOMFC_API LRESULT AFXAPI AfxCallWndProc(CWnd* object, HWND wnd, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+/// Has the next window that this thread creates attached to an object before its first message.
 OVOMFC_API void AFXAPI AfxHookWindowCreate(CWnd* wnd);
 /// TRUE when the hook was still waiting: no window was created.
 OVOMFC_API BOOL AFXAPI AfxUnhookWindowCreate();
-OVOMFC_API LRESULT AFXAPI AfxCallWndProc(CWnd* object, HWND wnd, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-
-/// A CWnd member as the framework's own parts need it. Not for hosts.
-struct WndAccess
-{
-    static CWnd* makeTemporary(HWND wnd);
-};

@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace afxdetail
@@ -50,7 +51,8 @@ public:
 
     void setPermanent(Handle handle, Object* object) { m_permanent[handle] = object; }
 
-    /// Forgets a handle that is being closed or given away.
+    /// Forgets a handle that no longer exists. Pointers to its temporary object stay good until the next purge;
+    /// the object has no handle any more.
     void remove(Handle handle)
     {
         m_permanent.erase(handle);
@@ -58,18 +60,20 @@ public:
         if (found == m_temporary.end())
             return;
         Traits::forget(*found->second);
-        m_stale.push_back(std::move(found->second)); // somebody may still hold the pointer
+        m_stale.push_back(std::move(found->second));
         m_temporary.erase(found);
     }
 
+    /// Forgets whose a handle is that goes on existing.
     void removePermanent(Handle handle) { m_permanent.erase(handle); }
 
     void deleteTemporary()
     {
-        for (auto& [handle, object] : m_temporary)
+        // Taken out first: a destructor may ask for another temporary object.
+        const auto temporary = std::exchange(m_temporary, {});
+        const auto stale = std::exchange(m_stale, {});
+        for (const auto& [handle, object] : temporary)
             Traits::forget(*object);
-        m_temporary.clear();
-        m_stale.clear();
     }
 
     std::size_t temporaryCount() const { return m_temporary.size(); }
@@ -92,7 +96,8 @@ HandleMap<Traits>& handleMap()
     return *map;
 }
 
-/// Deletes the temporary objects of all kinds. The caller makes sure that no message is being handled.
+/// Deletes the temporary objects of all kinds, unless a message is being handled on this thread: its handler may
+/// hold pointers to them.
 OVOMFC_API void purgeTemporaryObjects();
 
 } // namespace afxdetail

@@ -23,7 +23,8 @@ OVOMFC_API CWnd* wndOf(HWND handle);
 OVOMFC_API CDC* dcOf(HDC handle);
 OVOMFC_API CMenu* menuOf(HMENU handle);
 
-/// Calls an update handler: TRUE unless it asked for the routing to go on.
+/// Around the call of an update handler: whether it took the request, which it does unless it asked for the
+/// routing to go on.
 OVOMFC_API void beginUpdate(CCmdUI* ui);
 OVOMFC_API BOOL endUpdate(CCmdUI* ui);
 OVOMFC_API NMHDR* headerOf(AFX_NOTIFY* notify);
@@ -34,8 +35,6 @@ To convert(From value)
 {
     if constexpr (std::is_pointer_v<To>)
         return reinterpret_cast<To>(static_cast<INT_PTR>(value));
-    else if constexpr (std::is_same_v<To, HDROP>)
-        return reinterpret_cast<HDROP>(static_cast<INT_PTR>(value));
     else
         return static_cast<To>(value);
 }
@@ -107,6 +106,19 @@ struct MenuW
 struct MenuL
 {
     static CMenu* get(const Call& call) { return menuOf(convert<HMENU>(call.lParam)); }
+};
+// The parts of WM_APPCOMMAND's and WM_INPUT's words.
+struct AppCommand
+{
+    static UINT get(const Call& call) { return HIWORD(static_cast<DWORD>(call.lParam)) & 0x0FFFu; }
+};
+struct AppCommandDevice
+{
+    static UINT get(const Call& call) { return HIWORD(static_cast<DWORD>(call.lParam)) & 0xF000u; }
+};
+struct RawInputCode
+{
+    static UINT get(const Call& call) { return static_cast<UINT>(call.wParam) & 0xFFu; }
 };
 struct ColourKind
 {
@@ -213,6 +225,8 @@ struct UpdateHandler
     static BOOL call(T* target, Member<T> handler, Call& call)
     {
         auto* ui = static_cast<CCmdUI*>(call.extra);
+        if (!ui) // a control's notification of the same code, which is no update request
+            return FALSE;
         beginUpdate(ui);
         (target->*handler)(ui);
         return endUpdate(ui);

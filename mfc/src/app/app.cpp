@@ -3,6 +3,7 @@
 
 #include <detail/modulestate.h>
 #include <detail/threadstate.h>
+#include <detail/waitcursor.h>
 
 #include <cstdlib>
 #include <string>
@@ -162,14 +163,5 @@ HICON CWinApp::LoadOEMIcon(UINT id) const
 
 void CWinApp::DoWaitCursor(int code)
 {
-    afxdetail::ThreadState& state = afxdetail::threadState();
-    state.waitCursorCount = std::max(0, state.waitCursorCount + code);
-    if (state.waitCursorCount == 0) {
-        if (code < 0)
-            ::SetCursor(state.waitCursorRestore);
-        return;
-    }
-    const HCURSOR previous = ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));
-    if (code > 0 && state.waitCursorCount == 1)
-        state.waitCursorRestore = previous;
+    afxdetail::countWaitCursor(code);
 }

@@ -9,23 +9,54 @@ CCommandLineInfo::~CCommandLineInfo() = default;
 
 void CCommandLineInfo::ParseParam(const TCHAR* parameter, BOOL flag, BOOL)
 {
-    const CString text(parameter);
-    if (!flag) {
-        if (m_strFileName.IsEmpty())
-            m_strFileName = text;
-        if (m_nShellCommand == FileNew)
-            m_nShellCommand = FileOpen;
-    } else if (text == L"p") {
+    if (flag)
+        parseFlag(parameter);
+    else
+        parseName(parameter);
+    // A user who opens a file has not asked for the program itself.
+    if (m_nShellCommand != FileNew || m_bRunEmbedded || m_bRunAutomated)
+        m_bShowSplash = FALSE;
+}
+
+void CCommandLineInfo::ParseParam(const char* parameter, BOOL flag, BOOL last)
+{
+    const CString wide(parameter);
+    ParseParam(wide.GetString(), flag, last);
+}
+
+void CCommandLineInfo::parseFlag(const CString& flag)
+{
+    const auto is = [&](LPCTSTR word) { return flag.CompareNoCase(word) == 0; };
+    if (is(L"p"))
         m_nShellCommand = FilePrint;
-    } else if (text == L"pt") {
+    else if (is(L"pt"))
         m_nShellCommand = FilePrintTo;
-    } else if (text.CompareNoCase(L"Embedding") == 0) {
+    else if (is(L"dde"))
+        m_nShellCommand = FileDDE;
+    else if (is(L"Register") || is(L"Regserver"))
+        m_nShellCommand = AppRegister;
+    else if (is(L"Unregister") || is(L"Unregserver"))
+        m_nShellCommand = AppUnregister;
+    else if (is(L"Embedding"))
         m_bRunEmbedded = TRUE;
-        m_bShowSplash = FALSE;
-    } else if (text.CompareNoCase(L"Automation") == 0) {
+    else if (is(L"Automation"))
         m_bRunAutomated = TRUE;
-        m_bShowSplash = FALSE;
-    }
+}
+
+void CCommandLineInfo::parseName(const CString& name)
+{
+    if (m_nShellCommand == FileNew)
+        m_nShellCommand = FileOpen;
+    if (m_strFileName.IsEmpty())
+        m_strFileName = name;
+    else if (m_nShellCommand != FilePrintTo)
+        return;
+    else if (m_strPrinterName.IsEmpty())
+        m_strPrinterName = name;
+    else if (m_strDriverName.IsEmpty())
+        m_strDriverName = name;
+    else if (m_strPortName.IsEmpty())
+        m_strPortName = name;
 }
 
 void CWinApp::ParseCommandLine(CCommandLineInfo& info)

@@ -36,13 +36,31 @@ void dispatch(MSG& message)
     callOut([&] { ::DispatchMessageW(&message); });
 }
 
+/// Any handler may destroy the window, and its object with it.
 void updateCommands(HWND wnd)
 {
-    if (!wnd || !::IsWindowVisible(wnd))
-        return;
-    if (CWnd* object = CWnd::FromHandlePermanent(wnd)) {
-        AfxCallWndProc(object, wnd, WM_IDLEUPDATECMDUI, TRUE, 0);
+    if (CWnd* object = CWnd::FromHandlePermanent(wnd))
+        callOut([=] { AfxCallWndProc(object, wnd, WM_IDLEUPDATECMDUI, TRUE, 0); });
+    if (CWnd* object = CWnd::FromHandlePermanent(wnd))
         object->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
+}
+
+BOOL CALLBACK collectVisible(HWND wnd, LPARAM found)
+{
+    if (::IsWindowVisible(wnd))
+        reinterpret_cast<std::vector<HWND>*>(found)->push_back(wnd);
+    return TRUE;
+}
+
+/// The main window and, beside it, every frame of the thread that can be seen, such as a floating bar's.
+void updateAllCommands(CWnd* main)
+{
+    std::vector<HWND> visible;
+    ::EnumThreadWindows(::GetCurrentThreadId(), &collectVisible, reinterpret_cast<LPARAM>(&visible));
+    for (const HWND wnd : visible) {
+        const CWnd* object = CWnd::FromHandlePermanent(wnd);
+        if (object && (object == main || object->IsFrameWnd()))
+            updateCommands(wnd);
     }
 }
 
@@ -93,7 +111,7 @@ BOOL CWinThread::PumpMessage()
         return FALSE;
     // A message that is handled in here may run a loop of its own, which fetches others.
     MSG message = m_msgCur;
-    if (message.message != kSystemTimer && !AfxPreTranslateMessage(&message))
+    if (message.message != WM_KICKIDLE && !AfxPreTranslateMessage(&message))
         dispatch(message);
     return TRUE;
 }
@@ -131,8 +149,7 @@ BOOL CWinThread::dispatchThreadMessage(const MSG& message)
 BOOL CWinThread::OnIdle(LONG count)
 {
     if (count <= 0) {
-        CWnd* main = m_pMainWnd;
-        updateCommands(main->GetSafeHwnd());
+        updateAllCommands(m_pMainWnd);
         return TRUE;
     }
     if (threadState().dispatchDepth == 0)
@@ -170,7 +187,8 @@ LRESULT CWinThread::ProcessWndProcException(CException* exception, const MSG* me
     }
     const bool command = message->message == WM_COMMAND || message->message == WM_SYSCOMMAND;
     if (!dynamic_cast<CUserException*>(exception))
-        exception->ReportError(MB_ICONEXCLAMATION | MB_SYSTEMMODAL, AFX_IDP_INTERNAL_FAILURE);
+        exception->ReportError(MB_ICONEXCLAMATION | MB_SYSTEMMODAL,
+                               command ? AFX_IDP_COMMAND_FAILURE : AFX_IDP_INTERNAL_FAILURE);
     return command ? 1 : 0;
 }
 

@@ -24,12 +24,12 @@ const AFX_MSGMAP* CCmdTarget::GetMessageMap() const
 
 BOOL CCmdTarget::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info)
 {
-    // The high word names the message, unless it is an update request, whose code is -1.
+    // The high word names the message that a code belongs to; commands and updates have none there.
     const bool update = static_cast<UINT>(code) == CN_UPDATE_COMMAND_UI;
     const UINT named = update ? 0 : HIWORD(code);
-    const UINT message = named ? named : WM_COMMAND;
+    const UINT plainCode = LOWORD(static_cast<UINT>(code));
     const AFX_MSGMAP_ENTRY* entry =
-        afxdetail::findCommand(GetMessageMap(), message, LOWORD(static_cast<UINT>(code)), id);
+        afxdetail::findCommand(GetMessageMap(), named ? named : WM_COMMAND, plainCode, id);
     if (!entry)
         return FALSE;
     if (info) {
@@ -39,7 +39,7 @@ BOOL CCmdTarget::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* in
     }
     afxdetail::Call call;
     call.message = id;
-    call.code = LOWORD(static_cast<UINT>(code));
+    call.code = static_cast<int>(plainCode);
     call.extra = extra;
     return entry->pfnThunk(this, call);
 }

@@ -4,17 +4,27 @@
 namespace
 {
 
-LPUNKNOWN partAt(const CCmdTarget* target, const AFX_INTERFACEMAP_ENTRY& entry)
+BYTE* placeOf(const CCmdTarget& target, const AFX_INTERFACEMAP_ENTRY& entry)
 {
-    const auto* address = reinterpret_cast<const BYTE*>(target) + entry.nOffset;
-    return reinterpret_cast<LPUNKNOWN>(const_cast<BYTE*>(address));
+    return const_cast<BYTE*>(reinterpret_cast<const BYTE*>(&target)) + entry.nOffset;
+}
+
+/// Walks a map and its bases: the first entry of the wanted kind that the question is answered with yes for.
+template <class Question>
+const AFX_INTERFACEMAP_ENTRY* firstEntry(const AFX_INTERFACEMAP* map, bool aggregate, Question question)
+{
+    for (; map; map = map->pfnGetBaseMap ? map->pfnGetBaseMap() : nullptr)
+        for (const AFX_INTERFACEMAP_ENTRY* entry = map->pEntry; entry->piid || entry->bAggregate; ++entry)
+            if (entry->bAggregate == aggregate && question(*entry))
+                return entry;
+    return nullptr;
 }
 
 } // namespace
 
 const AFX_INTERFACEMAP* PASCAL CCmdTarget::GetThisInterfaceMap()
 {
-    static const AFX_INTERFACEMAP_ENTRY entries[] = {{nullptr, 0}};
+    static const AFX_INTERFACEMAP_ENTRY entries[] = {{nullptr, 0, false}};
     static const AFX_INTERFACEMAP map{nullptr, entries};
     return &map;
 }
@@ -28,12 +38,9 @@ LPUNKNOWN CCmdTarget::GetInterface(const void* iid)
 {
     const IID& wanted = *static_cast<const IID*>(iid);
     const bool any = wanted == IID_IUnknown; // the first part stands for the object
-    for (const AFX_INTERFACEMAP* map = GetInterfaceMap(); map;
-         map = map->pfnGetBaseMap ? map->pfnGetBaseMap() : nullptr)
-        for (const AFX_INTERFACEMAP_ENTRY* entry = map->pEntry; entry->piid; ++entry)
-            if (any || *entry->piid == wanted)
-                return partAt(this, *entry);
-    return nullptr;
+    const AFX_INTERFACEMAP_ENTRY* entry =
+        firstEntry(GetInterfaceMap(), false, [&](const auto& part) { return any || *part.piid == wanted; });
+    return entry ? reinterpret_cast<LPUNKNOWN>(placeOf(*this, *entry)) : nullptr;
 }
 
 LPUNKNOWN CCmdTarget::GetControllingUnknown()
@@ -60,12 +67,17 @@ DWORD CCmdTarget::InternalRelease()
 
 DWORD CCmdTarget::InternalQueryInterface(const void* iid, LPVOID* object)
 {
-    const LPUNKNOWN part = GetInterface(iid);
-    *object = part;
-    if (!part)
-        return static_cast<DWORD>(E_NOINTERFACE);
-    ExternalAddRef();
-    return static_cast<DWORD>(S_OK);
+    *object = GetInterface(iid);
+    if (*object) {
+        ExternalAddRef();
+        return static_cast<DWORD>(S_OK);
+    }
+    const IID& wanted = *static_cast<const IID*>(iid);
+    const AFX_INTERFACEMAP_ENTRY* inner = firstEntry(GetInterfaceMap(), true, [&](const auto& aggregate) {
+        const LPUNKNOWN unknown = *reinterpret_cast<LPUNKNOWN*>(placeOf(*this, aggregate));
+        return unknown && SUCCEEDED(unknown->QueryInterface(wanted, object));
+    });
+    return static_cast<DWORD>(inner ? S_OK : E_NOINTERFACE);
 }
 
 DWORD CCmdTarget::ExternalAddRef()

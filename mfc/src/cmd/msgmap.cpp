@@ -1,6 +1,9 @@
 // Looking handlers up.
 #include <afxwin.h>
 
+#include <algorithm>
+#include <atomic>
+
 namespace
 {
 
@@ -26,37 +29,56 @@ const AFX_MSGMAP_ENTRY* search(const AFX_MSGMAP* map, UINT message)
     return nullptr;
 }
 
-/// What a class answers to a message hardly ever changes, so answers are kept: one slot for each hash value.
-struct CachedAnswer
+/// What a class answers to a message never changes while its module is loaded, so answers are kept: one for each
+/// hash value.
+struct Answers
 {
-    const AFX_MSGMAP* map = nullptr;
-    UINT message = 0;
-    const AFX_MSGMAP_ENTRY* entry = nullptr;
+    struct Answer
+    {
+        const AFX_MSGMAP* map = nullptr;
+        UINT message = 0;
+        const AFX_MSGMAP_ENTRY* entry = nullptr;
+    };
+
+    static constexpr std::size_t kSlots = 1024;
+
+    Answer& slotFor(const AFX_MSGMAP* map, UINT message)
+    {
+        const auto mixed = (reinterpret_cast<std::size_t>(map) >> 4) ^ (std::size_t{message} * 31);
+        return slots[mixed % kSlots];
+    }
+
+    unsigned generation = 0;
+    Answer slots[kSlots];
 };
 
-constexpr std::size_t kSlots = 1024;
-thread_local CachedAnswer t_answers[kSlots];
-
-CachedAnswer& slotFor(const AFX_MSGMAP* map, UINT message)
-{
-    const auto mixed = (reinterpret_cast<std::size_t>(map) >> 4) ^ (std::size_t{message} * 31);
-    return t_answers[mixed % kSlots];
-}
+thread_local Answers t_answers;
+std::atomic<unsigned> g_generation = 0;
 
 } // namespace
 
 namespace afxdetail
 {
 
+void forgetHandlers()
+{
+    ++g_generation;
+}
+
 const AFX_MSGMAP_ENTRY* findWindowMessage(const AFX_MSGMAP* map, UINT message)
 {
     // The number of a registered message may not be known yet when it is first looked up: never kept.
     if (message >= kRegistered)
         return search(map, message);
-    CachedAnswer& slot = slotFor(map, message);
-    if (slot.map != map || slot.message != message)
-        slot = {map, message, search(map, message)};
-    return slot.entry;
+    Answers& answers = t_answers;
+    if (const unsigned current = g_generation.load(std::memory_order_relaxed); answers.generation != current) {
+        std::fill(std::begin(answers.slots), std::end(answers.slots), Answers::Answer{});
+        answers.generation = current;
+    }
+    Answers::Answer& answer = answers.slotFor(map, message);
+    if (answer.map != map || answer.message != message)
+        answer = {map, message, search(map, message)};
+    return answer.entry;
 }
 
 const AFX_MSGMAP_ENTRY* findCommand(const AFX_MSGMAP* map, UINT message, UINT code, UINT id)

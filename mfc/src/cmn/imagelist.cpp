@@ -206,8 +206,8 @@ BOOL CImageList::Draw(CDC* dc, int image, POINT point, UINT style)
 BOOL CImageList::DrawEx(CDC* dc, int image, POINT point, SIZE size, COLORREF background, COLORREF foreground,
                         UINT style)
 {
-    return ::ImageList_DrawEx(m_hImageList, image, handleOf(dc), point.x, point.y, size.cx, size.cy, background,
-                              foreground, style);
+    return ::ImageList_DrawEx(m_hImageList, image, handleOf(dc), point.x, point.y, size.cx, size.cy,
+                              background, foreground, style);
 }
 
 BOOL CImageList::DrawIndirect(IMAGELISTDRAWPARAMS* params)
@@ -218,7 +218,8 @@ BOOL CImageList::DrawIndirect(IMAGELISTDRAWPARAMS* params)
 }
 
 BOOL CImageList::DrawIndirect(CDC* dc, int image, POINT point, SIZE size, POINT origin, UINT style, DWORD rop,
-                              COLORREF background, COLORREF foreground, DWORD state, DWORD frame, COLORREF effect)
+                              COLORREF background, COLORREF foreground, DWORD state, DWORD frame,
+                              COLORREF effect)
 {
     IMAGELISTDRAWPARAMS params{};
     params.i = image;

@@ -69,7 +69,8 @@ int CListCtrl::InsertItem(int index, LPCTSTR text, int image)
     return InsertItem(LVIF_TEXT | LVIF_IMAGE, index, text, 0, 0, image, 0);
 }
 
-int CListCtrl::InsertItem(UINT mask, int index, LPCTSTR text, UINT state, UINT stateMask, int image, LPARAM data)
+int CListCtrl::InsertItem(UINT mask, int index, LPCTSTR text, UINT state, UINT stateMask, int image,
+                          LPARAM data)
 {
     LVITEM item{};
     item.mask = mask;
@@ -102,14 +103,14 @@ BOOL CListCtrl::SetItem(const LVITEM* item)
     return send<BOOL>(*this, LVM_SETITEMW, 0, item);
 }
 
-BOOL CListCtrl::SetItem(int index, int subItem, UINT mask, LPCTSTR text, int image, UINT state, UINT stateMask,
-                        LPARAM data)
+BOOL CListCtrl::SetItem(int index, int subItem, UINT mask, LPCTSTR text, int image, UINT state,
+                        UINT stateMask, LPARAM data)
 {
     return SetItem(index, subItem, mask, text, image, state, stateMask, data, 0);
 }
 
-BOOL CListCtrl::SetItem(int index, int subItem, UINT mask, LPCTSTR text, int image, UINT state, UINT stateMask,
-                        LPARAM data, int indent)
+BOOL CListCtrl::SetItem(int index, int subItem, UINT mask, LPCTSTR text, int image, UINT state,
+                        UINT stateMask, LPARAM data, int indent)
 {
     LVITEM item{};
     item.mask = mask;

@@ -42,7 +42,8 @@ LONG CTabCtrl::InsertItem(UINT mask, int index, LPCTSTR text, int image, LPARAM 
     return InsertItem(mask, index, text, image, data, 0, 0);
 }
 
-LONG CTabCtrl::InsertItem(UINT mask, int index, LPCTSTR text, int image, LPARAM data, DWORD state, DWORD stateMask)
+LONG CTabCtrl::InsertItem(UINT mask, int index, LPCTSTR text, int image, LPARAM data, DWORD state,
+                          DWORD stateMask)
 {
     TCITEM item{};
     item.mask = mask;

@@ -31,8 +31,8 @@ HTREEITEM CTreeCtrl::InsertItem(LPTVINSERTSTRUCT insert)
     return send<HTREEITEM>(*this, TVM_INSERTITEMW, 0, insert);
 }
 
-HTREEITEM CTreeCtrl::InsertItem(UINT mask, LPCTSTR text, int image, int selectedImage, UINT state, UINT stateMask,
-                                LPARAM data, HTREEITEM parent, HTREEITEM after)
+HTREEITEM CTreeCtrl::InsertItem(UINT mask, LPCTSTR text, int image, int selectedImage, UINT state,
+                                UINT stateMask, LPARAM data, HTREEITEM parent, HTREEITEM after)
 {
     TVINSERTSTRUCT insert{};
     insert.hParent = parent;
@@ -54,7 +54,8 @@ HTREEITEM CTreeCtrl::InsertItem(LPCTSTR text, HTREEITEM parent, HTREEITEM after)
 
 HTREEITEM CTreeCtrl::InsertItem(LPCTSTR text, int image, int selectedImage, HTREEITEM parent, HTREEITEM after)
 {
-    return InsertItem(TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, text, image, selectedImage, 0, 0, 0, parent, after);
+    return InsertItem(TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, text, image, selectedImage, 0, 0, 0,
+                      parent, after);
 }
 
 BOOL CTreeCtrl::DeleteItem(HTREEITEM item)

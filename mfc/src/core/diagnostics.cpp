@@ -1,7 +1,26 @@
+// Assertions, traces, and whether memory can be read.
 #include <afx.h>
 
 #include <cstdio>
 #include <cstdlib>
+
+namespace
+{
+
+constexpr DWORD kWritable = PAGE_READWRITE | PAGE_WRITECOPY | PAGE_EXECUTE_READWRITE | PAGE_EXECUTE_WRITECOPY;
+constexpr DWORD kReadable = kWritable | PAGE_READONLY | PAGE_EXECUTE_READ;
+
+/// The end of the run of pages around an address that allow this kind of access; null when its page does not.
+const BYTE* accessibleEnd(const void* address, DWORD access)
+{
+    MEMORY_BASIC_INFORMATION region{};
+    if (!address || !::VirtualQuery(address, &region, sizeof region) || region.State != MEM_COMMIT ||
+        !(region.Protect & access) || (region.Protect & PAGE_GUARD))
+        return nullptr;
+    return static_cast<const BYTE*>(region.BaseAddress) + region.RegionSize;
+}
+
+} // namespace
 
 void AFXAPI AfxAssertFailedLine(const char* file, int line)
 {
@@ -12,7 +31,7 @@ void AFXAPI AfxAssertFailedLine(const char* file, int line)
     std::fflush(stderr);
     if (::IsDebuggerPresent())
         ::DebugBreak();
-    std::abort();
+    AfxAbort();
 }
 
 void AFX_CDECL AfxTrace(LPCTSTR format, ...)
@@ -29,23 +48,31 @@ BOOL AFXAPI AfxIsValidAddress(const void* address, UINT_PTR bytes, BOOL readWrit
 {
     const auto* at = static_cast<const BYTE*>(address);
     const BYTE* const end = at + bytes;
-    constexpr DWORD kWritable =
-        PAGE_READWRITE | PAGE_WRITECOPY | PAGE_EXECUTE_READWRITE | PAGE_EXECUTE_WRITECOPY;
-    constexpr DWORD kReadable = kWritable | PAGE_READONLY | PAGE_EXECUTE_READ;
-    while (at < end || at == address) {
-        MEMORY_BASIC_INFORMATION region{};
-        if (!at || !::VirtualQuery(at, &region, sizeof region) || region.State != MEM_COMMIT ||
-            !(region.Protect & (readWrite ? kWritable : kReadable)) || (region.Protect & PAGE_GUARD))
+    do {
+        at = accessibleEnd(at, readWrite ? kWritable : kReadable);
+        if (!at)
             return FALSE;
-        at = static_cast<const BYTE*>(region.BaseAddress) + region.RegionSize;
-    }
+    } while (at < end);
     return TRUE;
 }
 
 BOOL AFXAPI AfxIsValidString(LPCTSTR text, int length)
 {
-    const UINT_PTR characters = length < 0 ? 1 : static_cast<UINT_PTR>(length);
-    return AfxIsValidAddress(text, characters * sizeof(TCHAR), FALSE);
+    if (length >= 0)
+        return AfxIsValidAddress(text, static_cast<UINT_PTR>(length) * sizeof(TCHAR), FALSE);
+    for (LPCTSTR at = text;;) {
+        const auto* const end = reinterpret_cast<LPCTSTR>(accessibleEnd(at, kReadable));
+        if (!end)
+            return FALSE;
+        for (; at < end; ++at)
+            if (*at == 0)
+                return TRUE;
+    }
+}
+
+void AFXAPI AfxAbort()
+{
+    std::abort();
 }
 
 void AFXAPI AfxAssertValidObject(const CObject* object, const char* file, int line)

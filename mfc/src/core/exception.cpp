@@ -198,7 +198,13 @@ SCODE PASCAL COleException::Process(const CException* exception)
 
 BOOL COleException::GetErrorMessage(LPTSTR error, UINT maxError, UINT* helpContext) const
 {
-    return copyText(systemText(static_cast<DWORD>(m_sc)), error, maxError, helpContext);
+    CString text = systemText(static_cast<DWORD>(m_sc));
+    if (text.IsEmpty()) {
+        CString code;
+        code.Format(L"0x%08X", static_cast<unsigned>(m_sc));
+        AfxFormatString1(text, AFX_IDP_UNKNOWN_STATUS, code);
+    }
+    return copyText(text, error, maxError, helpContext);
 }
 
 // The exception for want of memory must not need any.

@@ -1,4 +1,7 @@
+// CObject and its class records.
 #include <afx.h>
+
+#include <detail/modulestate.h>
 
 #include <cstring>
 
@@ -17,6 +20,16 @@ CRuntimeClass* enlist(CRuntimeClass* record)
     record->m_pNextClass = s_firstClass;
     s_firstClass = record;
     return record;
+}
+
+void delistClassesOf(HMODULE module)
+{
+    for (CRuntimeClass** link = &s_firstClass; *link;) {
+        if (moduleOf(*link) == module)
+            *link = (*link)->m_pNextClass;
+        else
+            link = &(*link)->m_pNextClass;
+    }
 }
 
 } // namespace afxdetail

@@ -1,50 +1,32 @@
 // DDV_: values that are out of bounds are refused.
-#include <afxwin.h>
-
-#include <string>
+#include "ddxmessages.h"
 
 namespace
 {
 
-CString asText(double value, int precision)
-{
-    CString text;
-    text.Format(L"%.*g", precision, value);
-    return text;
-}
-
-template <class Number>
-CString asText(Number value)
-{
-    return CString(std::to_wstring(value).c_str());
-}
-
-[[noreturn]] void refuse(CDataExchange* exchange, UINT messageId, const CString& min, const CString& max)
-{
-    CString message;
-    AfxFormatString2(message, messageId, min, max);
-    AfxMessageBox(message, MB_ICONEXCLAMATION, messageId);
-    exchange->Fail();
-}
+using afxdetail::writeNumber;
 
 /// Values on their way to the controls are the program's own: they are not refused.
 template <class Number>
 bool isRefused(const CDataExchange* exchange, Number value, Number min, Number max)
 {
-    return exchange->m_bSaveAndValidate && (value < min || value > max);
+    // Not a number is refused as well: it compares as neither less nor greater.
+    return exchange->m_bSaveAndValidate && !(value >= min && value <= max);
 }
 
 template <class Number>
 void checkInteger(CDataExchange* exchange, Number value, Number min, Number max)
 {
     if (isRefused(exchange, value, min, max))
-        refuse(exchange, AFX_IDP_PARSE_INT_RANGE, asText(min), asText(max));
+        afxdetail::refuse(exchange, AFX_IDP_PARSE_INT_RANGE, writeNumber(min), writeNumber(max));
 }
 
-void checkReal(CDataExchange* exchange, double value, double min, double max, int precision)
+template <class Number>
+void checkReal(CDataExchange* exchange, Number value, Number min, Number max, int precision)
 {
     if (isRefused(exchange, value, min, max))
-        refuse(exchange, AFX_IDP_PARSE_REAL_RANGE, asText(min, precision), asText(max, precision));
+        afxdetail::refuse(exchange, AFX_IDP_PARSE_REAL_RANGE, writeNumber(min, precision),
+                          writeNumber(max, precision));
 }
 
 } // namespace
@@ -74,7 +56,12 @@ void AFXAPI DDV_MinMaxUInt(CDataExchange* exchange, UINT value, UINT min, UINT m
     checkInteger(exchange, value, min, max);
 }
 
-void AFXAPI DDV_MinMaxDWord(CDataExchange* exchange, DWORD value, DWORD min, DWORD max)
+void AFXAPI DDV_MinMaxUnsigned(CDataExchange* exchange, UINT value, UINT min, UINT max)
+{
+    DDV_MinMaxUInt(exchange, value, min, max);
+}
+
+void AFXAPI DDV_MinMaxDWord(CDataExchange* exchange, const DWORD& value, DWORD min, DWORD max)
 {
     checkInteger(exchange, value, min, max);
 }
@@ -96,25 +83,25 @@ void AFXAPI DDV_MinMaxSlider(CDataExchange* exchange, DWORD value, DWORD min, DW
 
 void AFXAPI DDV_MinMaxFloat(CDataExchange* exchange, const float& value, float min, float max)
 {
-    checkReal(exchange, static_cast<double>(value), static_cast<double>(min), static_cast<double>(max), 6);
+    checkReal(exchange, value, min, max, std::numeric_limits<float>::digits10);
 }
 
-void AFXAPI DDV_MinMaxDouble(CDataExchange* exchange, const double& value, double min, double max, int precision)
+void AFXAPI DDV_MinMaxDouble(CDataExchange* exchange, const double& value, double min, double max,
+                             int precision)
 {
     checkReal(exchange, value, min, max, precision);
 }
 
 void AFXAPI DDV_MaxChars(CDataExchange* exchange, const CString& value, int maxCharacters)
 {
-    if (!exchange->m_bSaveAndValidate) {
-        if (exchange->m_hWndLastControl && exchange->m_bEditLastControl)
-            ::SendMessageW(exchange->m_hWndLastControl, EM_LIMITTEXT, static_cast<WPARAM>(maxCharacters), 0);
+    if (exchange->m_bSaveAndValidate) {
+        if (value.GetLength() > maxCharacters)
+            afxdetail::refuse(exchange, AFX_IDP_PARSE_STRING_SIZE, writeNumber(maxCharacters));
         return;
     }
-    if (value.GetLength() <= maxCharacters)
+    if (!exchange->m_hWndLastControl)
         return;
-    CString message;
-    AfxFormatString1(message, AFX_IDP_PARSE_STRING_SIZE, asText(maxCharacters));
-    AfxMessageBox(message, MB_ICONEXCLAMATION, AFX_IDP_PARSE_STRING_SIZE);
-    exchange->Fail();
+    // EM_LIMITTEXT for an edit control; a combo box knows another message.
+    const UINT limit = exchange->m_bEditLastControl ? UINT{EM_LIMITTEXT} : UINT{CB_LIMITTEXT};
+    ::SendMessageW(exchange->m_hWndLastControl, limit, static_cast<WPARAM>(maxCharacters), 0);
 }

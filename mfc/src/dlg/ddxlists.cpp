@@ -10,16 +10,16 @@ struct ListMessages
 {
     UINT getCurrent;
     UINT setCurrent;
+    UINT find;
     UINT findExact;
-    UINT select;
     UINT textLength;
     UINT text;
 };
 
-constexpr ListMessages kListBox{LB_GETCURSEL, LB_SETCURSEL, LB_FINDSTRINGEXACT, LB_SELECTSTRING, LB_GETTEXTLEN,
-                                LB_GETTEXT};
-constexpr ListMessages kComboBox{CB_GETCURSEL, CB_SETCURSEL, CB_FINDSTRINGEXACT, CB_SELECTSTRING, CB_GETLBTEXTLEN,
-                                 CB_GETLBTEXT};
+constexpr ListMessages kListBox{LB_GETCURSEL,       LB_SETCURSEL,  LB_FINDSTRING,
+                                LB_FINDSTRINGEXACT, LB_GETTEXTLEN, LB_GETTEXT};
+constexpr ListMessages kComboBox{CB_GETCURSEL,       CB_SETCURSEL,    CB_FINDSTRING,
+                                 CB_FINDSTRINGEXACT, CB_GETLBTEXTLEN, CB_GETLBTEXT};
 
 void exchangeIndex(CDataExchange* exchange, int id, int& index, const ListMessages& messages)
 {
@@ -43,12 +43,14 @@ CString currentText(HWND control, const ListMessages& messages)
     return text;
 }
 
+/// Selects the first item that is the text, or begins with it; none when there is no such item. Gives its
+/// index.
 LRESULT selectText(HWND control, const ListMessages& messages, const CString& text, bool exact)
 {
-    const auto wanted = reinterpret_cast<LPARAM>(text.GetString());
-    if (!exact)
-        return ::SendMessageW(control, messages.select, static_cast<WPARAM>(-1), wanted);
-    const LRESULT index = ::SendMessageW(control, messages.findExact, static_cast<WPARAM>(-1), wanted);
+    // Everything begins with an empty text, but who asks for none does not want the first one.
+    const UINT find = exact || text.IsEmpty() ? messages.findExact : messages.find;
+    const LRESULT index =
+        ::SendMessageW(control, find, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.GetString()));
     ::SendMessageW(control, messages.setCurrent, static_cast<WPARAM>(index), 0);
     return index;
 }
@@ -68,7 +70,7 @@ void exchangeComboText(CDataExchange* exchange, int id, CString& value, bool exa
     if (exchange->m_bSaveAndValidate)
         CWnd::FromHandle(control)->GetWindowText(value);
     else if (selectText(control, kComboBox, value, exact) < 0)
-        ::SetWindowTextW(control, value); // not in the list: what the edit shows
+        CWnd::FromHandle(control)->SetWindowText(value); // not in the list: only the edit control shows it
 }
 
 bool isRadioButton(HWND control)
@@ -155,4 +157,13 @@ void AFXAPI DDX_Slider(CDataExchange* exchange, int id, int& value)
         value = static_cast<int>(::SendMessageW(control, TBM_GETPOS, 0, 0));
     else
         ::SendMessageW(control, TBM_SETPOS, TRUE, value);
+}
+
+void AFXAPI DDX_IPAddress(CDataExchange* exchange, int id, DWORD& value)
+{
+    const HWND control = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+        ::SendMessageW(control, IPM_GETADDRESS, 0, reinterpret_cast<LPARAM>(&value));
+    else
+        ::SendMessageW(control, IPM_SETADDRESS, 0, static_cast<LPARAM>(value));
 }

@@ -1,14 +1,11 @@
 // DDX_Text: numbers and text in edit controls.
-#include <afxwin.h>
-
-#include <cerrno>
-#include <cmath>
-#include <cwchar>
-#include <limits>
-#include <type_traits>
+#include "ddxmessages.h"
 
 namespace
 {
+
+using afxdetail::NumberFault;
+using afxdetail::writeNumber;
 
 CString textOf(HWND control)
 {
@@ -17,57 +14,23 @@ CString textOf(HWND control)
     return text;
 }
 
-void setText(HWND control, const CString& text)
+void setText(HWND control, LPCTSTR text)
 {
     if (textOf(control) != text) // no change notification for nothing
-        ::SetWindowTextW(control, text);
+        CWnd::FromHandle(control)->SetWindowText(text);
 }
 
-[[noreturn]] void refuse(CDataExchange* exchange, UINT messageId)
-{
-    AfxMessageBox(messageId, MB_ICONEXCLAMATION);
-    exchange->Fail();
-}
-
-/// Whether everything from `end` on is blank, and something was read before it.
-bool readWhole(const wchar_t* start, const wchar_t* end)
-{
-    return end != start && end[std::wcsspn(end, L" \t")] == 0;
-}
-
+/// Tells what to enter instead: which kind of number, or, for one that the type cannot hold, between which
+/// bounds.
 template <class Number>
-bool parse(const CString& text, Number& number)
+[[noreturn]] void refuseText(CDataExchange* exchange, NumberFault fault, UINT messageId)
 {
-    const wchar_t* const start = text.GetString();
-    wchar_t* end = nullptr;
-    errno = 0;
-    if constexpr (std::is_floating_point_v<Number>) {
-        const double value = std::wcstod(start, &end);
-        number = static_cast<Number>(value);
-        return readWhole(start, end) && std::isfinite(static_cast<double>(number));
-    } else if constexpr (std::is_signed_v<Number>) {
-        const long long value = std::wcstoll(start, &end, 10);
-        number = static_cast<Number>(value);
-        return readWhole(start, end) && errno != ERANGE && value == static_cast<long long>(number);
-    } else {
-        const unsigned long long value = std::wcstoull(start, &end, 10);
-        number = static_cast<Number>(value);
-        return readWhole(start, end) && errno != ERANGE && text.Find(L'-') < 0 &&
-               value == static_cast<unsigned long long>(number);
-    }
-}
-
-template <class Number>
-CString format(Number number)
-{
-    CString text;
-    if constexpr (std::is_floating_point_v<Number>)
-        text.Format(L"%.*g", std::numeric_limits<Number>::digits10, static_cast<double>(number));
-    else if constexpr (std::is_signed_v<Number>)
-        text.Format(L"%I64d", static_cast<long long>(number));
-    else
-        text.Format(L"%I64u", static_cast<unsigned long long>(number));
-    return text;
+    if (fault == NumberFault::NotANumber)
+        afxdetail::refuse(exchange, messageId);
+    using Limits = std::numeric_limits<Number>;
+    constexpr bool kReal = std::is_floating_point_v<Number>;
+    afxdetail::refuse(exchange, kReal ? AFX_IDP_PARSE_REAL_RANGE : AFX_IDP_PARSE_INT_RANGE,
+                      writeNumber(Limits::lowest()), writeNumber(Limits::max()));
 }
 
 template <class Number>
@@ -75,13 +38,13 @@ void exchangeNumber(CDataExchange* exchange, int id, Number& value, UINT message
 {
     const HWND control = exchange->PrepareEditCtrl(id);
     if (!exchange->m_bSaveAndValidate) {
-        setText(control, format(value));
+        setText(control, writeNumber(value).c_str());
         return;
     }
-    Number read{};
-    if (!parse(textOf(control), read))
-        refuse(exchange, messageId);
-    value = read;
+    const auto read = afxdetail::readNumber<Number>(textOf(control).GetString());
+    if (read.fault != NumberFault::None)
+        refuseText<Number>(exchange, read.fault, messageId);
+    value = read.value;
 }
 
 } // namespace
@@ -145,19 +108,15 @@ void AFXAPI DDX_Text(CDataExchange* exchange, int id, CString& value)
         setText(control, value);
 }
 
-void AFXAPI DDX_Text(CDataExchange* exchange, int id, LPTSTR value, int maxCharacters)
+void AFXAPI DDX_Text(CDataExchange* exchange, int id, LPTSTR value, int room)
 {
     const HWND control = exchange->PrepareEditCtrl(id);
     if (!exchange->m_bSaveAndValidate) {
-        setText(control, CString(value));
+        setText(control, value);
         return;
     }
     const CString text = textOf(control);
-    if (text.GetLength() >= maxCharacters) {
-        CString message;
-        AfxFormatString1(message, AFX_IDP_PARSE_STRING_SIZE, CString(std::to_wstring(maxCharacters - 1).c_str()));
-        AfxMessageBox(message, MB_ICONEXCLAMATION, AFX_IDP_PARSE_STRING_SIZE);
-        exchange->Fail();
-    }
-    ::lstrcpynW(value, text, maxCharacters);
+    if (text.GetLength() >= room)
+        afxdetail::refuse(exchange, AFX_IDP_PARSE_STRING_SIZE, writeNumber(room - 1));
+    ::lstrcpynW(value, text, room);
 }

@@ -2,6 +2,8 @@
 #include <afxwin.h>
 #include <afxpriv.h>
 
+#include "../wnd/wndflags.h"
+#include "dialoginit.h"
 #include "dialogresource.h"
 
 #include <detail/pending.h>
@@ -9,17 +11,22 @@
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
-    ON_WM_CTLCOLOR()
-    ON_COMMAND(IDOK, OnOK)
-    ON_COMMAND(IDCANCEL, OnCancel)
-    ON_MESSAGE(WM_INITDIALOG, HandleInitDialog)
-    ON_MESSAGE(WM_COMMANDHELP, OnCommandHelp)
-    ON_MESSAGE(WM_HELPHITTEST, OnHelpHitTest)
-    ON_MESSAGE(WM_SETFONT, HandleSetFont)
+// the two buttons
+ON_COMMAND(IDOK, OnOK)
+ON_COMMAND(IDCANCEL, OnCancel)
+// making
+ON_MESSAGE(WM_INITDIALOG, HandleInitDialog)
+ON_MESSAGE(WM_SETFONT, HandleSetFont)
+// help
+ON_WM_HELPINFO()
+ON_MESSAGE(WM_COMMANDHELP, OnCommandHelp)
+ON_MESSAGE(WM_HELPHITTEST, OnHelpHitTest)
 END_MESSAGE_MAP()
 
 namespace
 {
+
+constexpr UINT kHelpOfResources = 0x20000; // help ids of windows and dialogs begin here
 
 /// The system's dialog procedure: everything but the initialisation is done by the message map.
 INT_PTR CALLBACK dialogProcedure(HWND wnd, UINT message, WPARAM, LPARAM)
@@ -38,19 +45,29 @@ INT_PTR CALLBACK dialogProcedure(HWND wnd, UINT message, WPARAM, LPARAM)
     }
 }
 
+UINT helpIdOf(LPCTSTR templateName)
+{
+    return IS_INTRESOURCE(templateName) ? LOWORD(reinterpret_cast<UINT_PTR>(templateName)) : 0;
+}
+
+bool isInput(UINT message)
+{
+    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
+           (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) ||
+           (message >= WM_NCMOUSEMOVE && message <= WM_NCMBUTTONDBLCLK);
+}
+
 } // namespace
 
 CDialog::CDialog() = default;
 
 CDialog::CDialog(UINT templateId, CWnd* parent)
-    : m_nIDHelp(templateId)
-    , m_lpszTemplateName(MAKEINTRESOURCEW(templateId))
-    , m_pParentWnd(parent)
+    : CDialog(MAKEINTRESOURCEW(templateId), parent)
 {
 }
 
 CDialog::CDialog(LPCTSTR templateName, CWnd* parent)
-    : m_nIDHelp(IS_INTRESOURCE(templateName) ? LOWORD(reinterpret_cast<UINT_PTR>(templateName)) : 0)
+    : m_nIDHelp(helpIdOf(templateName))
     , m_lpszTemplateName(templateName)
     , m_pParentWnd(parent)
 {
@@ -70,72 +87,81 @@ BOOL CDialog::Create(UINT templateId, CWnd* parent)
 BOOL CDialog::Create(LPCTSTR templateName, CWnd* parent)
 {
     m_lpszTemplateName = templateName;
-    if (IS_INTRESOURCE(templateName) && m_nIDHelp == 0)
-        m_nIDHelp = LOWORD(reinterpret_cast<UINT_PTR>(templateName));
+    if (m_nIDHelp == 0)
+        m_nIDHelp = helpIdOf(templateName);
     const afxdetail::DialogResource resource(templateName);
-    return resource.get() && CreateIndirect(resource.get(), parent, nullptr, resource.module());
+    return resource.get() && createModeless(resource.get(), parent, resource.module());
 }
 
-BOOL CDialog::CreateIndirect(HGLOBAL dialogTemplate, CWnd* parent, HINSTANCE instance)
+BOOL CDialog::CreateIndirect(HGLOBAL dialogTemplate, CWnd* parent)
 {
-    const auto* locked = static_cast<LPCDLGTEMPLATE>(::LockResource(dialogTemplate));
-    const BOOL created = CreateIndirect(locked, parent, nullptr, instance);
-    return created;
+    return CreateIndirect(static_cast<LPCDLGTEMPLATE>(::LockResource(dialogTemplate)), parent, nullptr);
 }
 
-BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* init, HINSTANCE instance)
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* dialogInit)
 {
-    m_lpDialogInit = init;
+    m_dialogInit = dialogInit;
+    return dialogTemplate && createModeless(dialogTemplate, parent, AfxGetInstanceHandle());
+}
+
+bool CDialog::createModeless(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE instance)
+{
     if (!parent)
         parent = AfxGetMainWnd();
-    if (!dialogTemplate)
-        return FALSE;
-    return createWindow(dialogTemplate, parent, instance ? instance : AfxGetInstanceHandle());
+    m_nFlags |= afxdetail::kContinueModal; // cleared by an EndDialog in OnInitDialog
+    const HWND wnd = createWindow(dialogTemplate, parent->GetSafeHwnd(), instance);
+    if (!wnd)
+        return false; // the object may have deleted itself with the window
+    const bool wanted = (m_nFlags & afxdetail::kContinueModal) != 0;
+    m_nFlags &= ~afxdetail::kContinueModal;
+    if (!wanted)
+        DestroyWindow();
+    return wanted;
 }
 
-bool CDialog::createWindow(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE instance)
+/// Null when the window is not made, or did not outlive its initialisation: this object may then be gone.
+HWND CDialog::createWindow(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE instance)
 {
+    afxdetail::CallOut creation;
     AfxHookWindowCreate(this);
-    const HWND wnd =
-        ::CreateDialogIndirectParamW(instance, dialogTemplate, parent->GetSafeHwnd(), &dialogProcedure, 0);
+    const HWND wnd = ::CreateDialogIndirectParamW(instance, dialogTemplate, owner, &dialogProcedure, 0);
     if (AfxUnhookWindowCreate())
-        PostNcDestroy();
-    if (!wnd && m_hWnd) // its creation failed half-way
-        Detach();
-    try {
-        afxdetail::rethrowPendingException();
-    } catch (...) {
-        if (m_hWnd)
-            ::DestroyWindow(m_hWnd);
-        throw;
-    }
-    return wnd != nullptr;
+        PostNcDestroy(); // no window came to be, so no message ended it
+    const bool complete = wnd && !creation.failed();
+    if (wnd && !complete)
+        ::DestroyWindow(wnd);
+    creation.finish();
+    return complete ? wnd : nullptr;
 }
+
+// Initialisation
 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
 {
-    PreInitDialog();
     return Default(); // reaches OnInitDialog through the dialog procedure
 }
 
 BOOL CDialog::OnInitDialog()
 {
-    if (!UpdateData(FALSE)) {
+    const bool filled = m_dialogInit         ? afxdetail::runDialogInit(m_hWnd, m_dialogInit)
+                        : m_lpszTemplateName ? afxdetail::runDialogInit(m_hWnd, m_lpszTemplateName)
+                                             : true;
+    if (!filled || !UpdateData(FALSE)) {
         EndDialog(-1);
         return FALSE;
     }
     return TRUE;
 }
 
-void CDialog::PreInitDialog() {}
-
-LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM)
+LRESULT CDialog::HandleSetFont(WPARAM font, LPARAM)
 {
-    OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(wParam)));
+    OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(font)));
     return Default();
 }
 
 void CDialog::OnSetFont(CFont*) {}
+
+// Commands
 
 void CDialog::OnOK()
 {
@@ -146,30 +172,6 @@ void CDialog::OnOK()
 void CDialog::OnCancel()
 {
     EndDialog(IDCANCEL);
-}
-
-LRESULT CDialog::OnCommandHelp(WPARAM, LPARAM)
-{
-    CWinApp* app = AfxGetApp();
-    if (m_nIDHelp == 0 || !app)
-        return FALSE;
-    app->HtmlHelp(0x20000 + m_nIDHelp);
-    return TRUE;
-}
-
-LRESULT CDialog::OnHelpHitTest(WPARAM, LPARAM)
-{
-    return m_nIDHelp ? static_cast<LRESULT>(0x20000 + m_nIDHelp) : 0;
-}
-
-BOOL CDialog::PreTranslateMessage(MSG* message)
-{
-    if (CWnd::PreTranslateMessage(message))
-        return TRUE;
-    const UINT id = message->message;
-    const bool input = (id >= WM_KEYFIRST && id <= WM_KEYLAST) || (id >= WM_MOUSEFIRST && id <= WM_MOUSELAST) ||
-                       (id >= WM_NCMOUSEMOVE && id <= WM_NCMBUTTONDBLCLK);
-    return input && IsDialogMessage(message);
 }
 
 BOOL CDialog::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info)
@@ -186,6 +188,36 @@ BOOL CDialog::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info)
     CWinThread* thread = AfxGetThread();
     return thread && thread->OnCmdMsg(id, code, extra, info);
 }
+
+BOOL CDialog::PreTranslateMessage(MSG* message)
+{
+    if (CWnd::PreTranslateMessage(message))
+        return TRUE;
+    return isInput(message->message) && IsDialogMessage(message);
+}
+
+// Help
+
+BOOL CDialog::OnHelpInfo(HELPINFO* info)
+{
+    return SendMessage(WM_COMMANDHELP) ? TRUE : CWnd::OnHelpInfo(info);
+}
+
+LRESULT CDialog::OnCommandHelp(WPARAM, LPARAM)
+{
+    CWinApp* app = AfxGetApp();
+    if (m_nIDHelp == 0 || !app)
+        return FALSE;
+    app->HtmlHelp(kHelpOfResources + m_nIDHelp);
+    return TRUE;
+}
+
+LRESULT CDialog::OnHelpHitTest(WPARAM, LPARAM)
+{
+    return m_nIDHelp ? static_cast<LRESULT>(kHelpOfResources + m_nIDHelp) : 0;
+}
+
+// Focus, default button, units
 
 void CDialog::NextDlgCtrl() const
 {

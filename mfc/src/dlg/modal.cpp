@@ -6,121 +6,140 @@
 
 #include <detail/pending.h>
 
+#include <utility>
+
 namespace
 {
 
-/// The owner of a modal dialog, disabled while it lives.
-class DisabledOwner
+/// What a modal dialog locks while it lives: its owner, and, if that belongs to a frame, the frame and its
+/// windows.
+class LockedOwner
 {
 public:
-    explicit DisabledOwner(HWND owner)
-        : m_owner(owner && owner != ::GetDesktopWindow() && ::IsWindowEnabled(owner) ? owner : nullptr)
+    explicit LockedOwner(HWND owner)
+        : m_frame(frameOf(owner))
     {
-        if (m_owner)
-            ::EnableWindow(m_owner, FALSE);
+        if (m_frame)
+            m_frame->BeginModalState();
+        if (owner && owner != ::GetDesktopWindow() && ::IsWindowEnabled(owner)) {
+            ::EnableWindow(owner, FALSE);
+            m_owner = owner;
+        }
     }
-    ~DisabledOwner() { enable(); }
-    DisabledOwner(const DisabledOwner&) = delete;
-    DisabledOwner& operator=(const DisabledOwner&) = delete;
+    ~LockedOwner() { unlock(); }
+    LockedOwner(const LockedOwner&) = delete;
+    LockedOwner& operator=(const LockedOwner&) = delete;
 
-    void enable()
+    void unlock()
     {
         if (m_owner)
-            ::EnableWindow(m_owner, TRUE);
-        m_owner = nullptr;
+            ::EnableWindow(std::exchange(m_owner, nullptr), TRUE);
+        // The frame may have been destroyed meanwhile, by a command of the dialog.
+        if (m_frame && CWnd::FromHandlePermanent(m_frameWnd) == m_frame)
+            m_frame->EndModalState();
+        m_frame = nullptr;
     }
 
 private:
-    HWND m_owner;
+    CFrameWnd* frameOf(HWND owner)
+    {
+        CFrameWnd* frame = owner ? CWnd::FromHandle(owner)->GetTopLevelFrame() : nullptr;
+        m_frameWnd = frame->GetSafeHwnd();
+        return frame;
+    }
+
+    HWND m_owner = nullptr;
+    HWND m_frameWnd = nullptr;
+    CFrameWnd* m_frame;
 };
 
 } // namespace
 
-BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* init)
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* dialogInit)
 {
-    m_lpDialogTemplate = dialogTemplate;
-    m_lpDialogInit = init;
+    m_template = dialogTemplate;
+    m_dialogInit = dialogInit;
     if (!m_pParentWnd)
         m_pParentWnd = parent;
-    return TRUE;
+    return dialogTemplate != nullptr;
 }
 
 BOOL CDialog::InitModalIndirect(HGLOBAL dialogTemplate, CWnd* parent)
 {
-    m_hDialogTemplate = dialogTemplate;
+    m_templateHandle = dialogTemplate;
     if (!m_pParentWnd)
         m_pParentWnd = parent;
-    return TRUE;
+    return dialogTemplate != nullptr;
 }
 
 HWND CDialog::PreModal()
 {
-    return GetSafeOwner(m_pParentWnd, &m_hWndTop)->GetSafeHwnd();
+    const HWND owner = GetSafeOwner(m_pParentWnd, &m_disabledTopLevel)->GetSafeHwnd();
+    if (m_disabledTopLevel)
+        ::EnableWindow(m_disabledTopLevel, FALSE);
+    return owner;
 }
 
 void CDialog::PostModal()
 {
-    if (m_hWndTop)
-        ::EnableWindow(m_hWndTop, TRUE);
-    m_hWndTop = nullptr;
+    if (m_disabledTopLevel)
+        ::EnableWindow(std::exchange(m_disabledTopLevel, nullptr), TRUE);
 }
 
 INT_PTR CDialog::DoModal()
 {
-    LPCDLGTEMPLATE dialogTemplate = m_lpDialogTemplate;
+    LPCDLGTEMPLATE dialogTemplate = m_template;
     HINSTANCE instance = AfxGetInstanceHandle();
     if (m_lpszTemplateName) {
         const afxdetail::DialogResource resource(m_lpszTemplateName);
         dialogTemplate = resource.get();
         instance = resource.module();
-    } else if (m_hDialogTemplate) {
-        dialogTemplate = static_cast<LPCDLGTEMPLATE>(::LockResource(m_hDialogTemplate));
+    } else if (m_templateHandle) {
+        dialogTemplate = static_cast<LPCDLGTEMPLATE>(::LockResource(m_templateHandle));
     }
     if (!dialogTemplate)
         return -1;
 
     const HWND owner = PreModal();
-    struct Restore
+    struct Undo
     {
         CDialog& dialog;
-        ~Restore() { dialog.PostModal(); }
-    } const restore{*this};
-    if (m_hWndTop)
-        ::EnableWindow(m_hWndTop, FALSE);
+        ~Undo() { dialog.PostModal(); }
+    } const undo{*this};
     return runModal(dialogTemplate, instance, owner);
 }
 
 INT_PTR CDialog::runModal(LPCDLGTEMPLATE dialogTemplate, HINSTANCE instance, HWND owner)
 {
-    // An exception on the way out destroys the dialog too, with the owner enabled first: otherwise another
-    // program's window would be activated.
-    DisabledOwner disabled(owner);
+    LockedOwner locked(owner);
+    // However this ends, the owner is enabled before the dialog goes: otherwise another program's window
+    // would be activated in its place.
     struct Close
     {
         CDialog& dialog;
-        DisabledOwner& owner;
+        LockedOwner& owner;
         ~Close()
         {
-            owner.enable();
+            owner.unlock();
+            dialog.m_nFlags &= ~afxdetail::kContinueModal;
             if (dialog.m_hWnd)
                 ::DestroyWindow(dialog.m_hWnd);
         }
-    } const close{*this, disabled};
+    } const close{*this, locked};
 
     m_nModalResult = -1;
     m_nFlags |= afxdetail::kContinueModal; // cleared by an EndDialog in OnInitDialog
-    const bool created = createWindow(dialogTemplate, FromHandle(owner), instance);
-    const bool wanted = created && ContinueModal();
-    m_nFlags &= ~afxdetail::kContinueModal;
-    if (wanted) {
-        const DWORD flags = MLF_SHOWONIDLE | ((GetStyle() & DS_NOIDLEMSG) ? MLF_NOIDLEMSG : 0);
-        RunModalLoop(flags);
+    if (!createWindow(dialogTemplate, owner, instance))
+        return m_nModalResult;
+    if (ContinueModal()) {
+        m_nModalResult = IDABORT; // unless EndDialog says better
+        RunModalLoop(MLF_SHOWONIDLE | ((GetStyle() & DS_NOIDLEMSG) ? MLF_NOIDLEMSG : 0));
     }
     if (m_hWnd)
         SetWindowPos(nullptr, 0, 0, 0, 0,
                      SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
 
-    disabled.enable();
+    locked.unlock();
     if (owner && ::GetActiveWindow() == m_hWnd)
         ::SetActiveWindow(owner);
     if (m_hWnd)
@@ -132,6 +151,5 @@ void CDialog::EndDialog(int result)
 {
     if (m_nFlags & (afxdetail::kModalLoop | afxdetail::kContinueModal))
         EndModalLoop(result);
-    ::EndDialog(m_hWnd, result);
-    afxdetail::rethrowPendingException();
+    afxdetail::callOut([&] { ::EndDialog(m_hWnd, result); });
 }

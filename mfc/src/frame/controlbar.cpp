@@ -1,36 +1,66 @@
+// CControlBar: style, layout, messages. Its painting is in controlbarpaint.cpp.
 #include <afxext.h>
 #include <afxpriv.h>
+
+#include "core/barlayout.h"
+
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CControlBar, CWnd)
 
 BEGIN_MESSAGE_MAP(CControlBar, CWnd)
-    ON_WM_CREATE()
-    ON_WM_DESTROY()
-    ON_WM_PAINT()
-    ON_MESSAGE(WM_SIZEPARENT, OnSizeParent)
-    ON_MESSAGE(WM_IDLEUPDATECMDUI, OnIdleUpdateCmdUI)
-    ON_MESSAGE(WM_INITIALUPDATE, OnInitialUpdate)
+// life
+ON_WM_CREATE()
+ON_WM_DESTROY()
+// layout, painting, updates
+ON_WM_PAINT()
+ON_MESSAGE(WM_SIZEPARENT, OnSizeParent)
+ON_MESSAGE(WM_IDLEUPDATECMDUI, OnIdleUpdateCmdUI)
+ON_MESSAGE(WM_INITIALUPDATE, OnInitialUpdate)
+// about the bar's controls
+ON_WM_DRAWITEM()
+ON_WM_MEASUREITEM()
+ON_WM_DELETEITEM()
+ON_WM_COMPAREITEM()
+ON_WM_VKEYTOITEM()
+ON_WM_CHARTOITEM()
 END_MESSAGE_MAP()
 
 namespace
 {
 
-/// Messages of a bar's controls that are the frame's business.
-bool belongsToOwner(UINT message)
+using afxdetail::Area;
+using afxdetail::Side;
+
+Side sideOf(DWORD style)
 {
-    switch (message) {
-    case WM_NOTIFY:
-    case WM_COMMAND:
-    case WM_DRAWITEM:
-    case WM_MEASUREITEM:
-    case WM_DELETEITEM:
-    case WM_COMPAREITEM:
-    case WM_VKEYTOITEM:
-    case WM_CHARTOITEM:
-        return true;
-    default:
-        return false;
-    }
+    if (style & CBRS_ALIGN_TOP)
+        return Side::Top;
+    if (style & CBRS_ALIGN_BOTTOM)
+        return Side::Bottom;
+    return (style & CBRS_ALIGN_LEFT) ? Side::Left : Side::Right;
+}
+
+Area areaOf(const RECT& rect)
+{
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
+
+CRect rectOf(const Area& area)
+{
+    return CRect(area.left, area.top, area.right, area.bottom);
+}
+
+bool isKey(UINT message)
+{
+    return message >= WM_KEYFIRST && message <= WM_KEYLAST;
+}
+
+/// Whether a tooltip that asked for its text was given one.
+bool hasText(const NMTTDISPINFOW& tip)
+{
+    const bool pointsElsewhere = tip.lpszText && tip.lpszText != tip.szText;
+    return pointsElsewhere || tip.szText[0] != 0;
 }
 
 } // namespace
@@ -41,19 +71,20 @@ CControlBar::~CControlBar()
 {
     if (m_hWnd)
         DestroyWindow();
+    if (m_pDockSite)
+        m_pDockSite->removeControlBar(this);
 }
 
-void CControlBar::takeStyle(DWORD style)
-{
-    m_dwStyle = style & CBRS_ALL;
-}
+// Style, borders, state
 
 void CControlBar::SetBarStyle(DWORD style)
 {
     if (m_dwStyle == style)
         return;
     m_dwStyle = style;
-    Invalidate();
+    if (m_hWnd)
+        SetWindowPos(nullptr, 0, 0, 0, 0,
+                     SWP_FRAMECHANGED | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void CControlBar::SetBorders(int left, int top, int right, int bottom)
@@ -66,26 +97,58 @@ void CControlBar::SetBorders(LPCRECT borders)
     m_borders = *borders;
 }
 
+void CControlBar::EnableDocking(DWORD dockStyle)
+{
+    m_dwDockStyle = dockStyle & (CBRS_ALIGN_ANY | CBRS_FLOAT_MULTI);
+}
+
 BOOL CControlBar::IsVisible() const
 {
-    return m_hWnd && (GetStyle() & WS_VISIBLE) != 0;
+    if (!m_hWnd || m_pending == Pending::Hide)
+        return FALSE;
+    return m_pending == Pending::Show || (GetStyle() & WS_VISIBLE) != 0;
+}
+
+void CControlBar::delayShow(bool show)
+{
+    const bool shown = (GetStyle() & WS_VISIBLE) != 0;
+    m_pending = shown == show ? Pending::Nothing : show ? Pending::Show : Pending::Hide;
+}
+
+void CControlBar::applyPending()
+{
+    const Pending pending = std::exchange(m_pending, Pending::Nothing);
+    if (m_hWnd && pending != Pending::Nothing)
+        ShowWindow(pending == Pending::Show ? SW_SHOWNA : SW_HIDE);
+}
+
+// Life
+
+BOOL CControlBar::PreCreateWindow(CREATESTRUCT& cs)
+{
+    if (!cs.lpszClass)
+        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
+                                           reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
+    cs.style |= WS_CLIPSIBLINGS;
+    return CWnd::PreCreateWindow(cs);
 }
 
 int CControlBar::OnCreate(LPCREATESTRUCT cs)
 {
     if (CWnd::OnCreate(cs) == -1)
         return -1;
-    if (CFrameWnd* frame = GetParentFrame()) {
-        frame->AddControlBar(this);
-        SetOwner(frame);
+    m_pDockSite = GetParentFrame();
+    if (m_pDockSite) {
+        m_pDockSite->addControlBar(this);
+        SetOwner(m_pDockSite);
     }
     return 0;
 }
 
 void CControlBar::OnDestroy()
 {
-    if (CFrameWnd* frame = GetParentFrame())
-        frame->RemoveControlBar(this);
+    if (m_pDockSite)
+        std::exchange(m_pDockSite, nullptr)->removeControlBar(this);
     CWnd::OnDestroy();
 }
 
@@ -94,6 +157,8 @@ void CControlBar::PostNcDestroy()
     if (m_bAutoDelete)
         delete this;
 }
+
+// Layout
 
 CSize CControlBar::CalcFixedLayout(BOOL stretch, BOOL horizontal)
 {
@@ -105,64 +170,40 @@ CSize CControlBar::CalcDynamicLayout(int, DWORD mode)
     return CalcFixedLayout((mode & LM_STRETCH) != 0, (mode & LM_HORZ) != 0);
 }
 
-void CControlBar::CalcInsideRect(CRect& rect, BOOL horizontal) const
-{
-    const DWORD style = m_dwStyle;
-    rect.DeflateRect((style & CBRS_BORDER_LEFT) ? 1 : 0, (style & CBRS_BORDER_TOP) ? 1 : 0,
-                     (style & CBRS_BORDER_RIGHT) ? 1 : 0, (style & CBRS_BORDER_BOTTOM) ? 1 : 0);
-    if (horizontal)
-        rect.DeflateRect(m_borders.left, m_borders.top, m_borders.right, m_borders.bottom);
-    else // lying on its side
-        rect.DeflateRect(m_borders.top, m_borders.left, m_borders.bottom, m_borders.right);
-}
-
-/// Takes the bar's slice off the frame's free area.
+/// Takes the bar's strip off the frame's free area.
 LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam)
 {
     auto& layout = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
     if (!IsVisible() || !(m_dwStyle & CBRS_ALIGN_ANY))
         return 0;
 
-    const bool horizontal = (m_dwStyle & CBRS_ORIENT_HORZ) != 0;
-    const DWORD mode = (layout.bStretch ? LM_STRETCH : 0) | (horizontal ? LM_HORZ | LM_HORZDOCK : LM_VERTDOCK);
-    CSize size = CalcDynamicLayout(-1, mode);
+    const Side side = sideOf(m_dwStyle);
+    const DWORD direction = isHorizontal(side) ? LM_HORZ | LM_HORZDOCK : LM_VERTDOCK;
+    const CSize size = CalcDynamicLayout(-1, direction | (layout.bStretch ? LM_STRETCH : 0));
 
-    CRect& free = static_cast<CRect&>(layout.rect);
-    size.cx = std::min<LONG>(size.cx, free.Width());
-    size.cy = std::min<LONG>(size.cy, free.Height());
-    CRect place(free.TopLeft(), size);
-    if (horizontal) {
-        layout.sizeTotal.cy += size.cy;
-        layout.sizeTotal.cx = std::max(layout.sizeTotal.cx, size.cx);
-        if (m_dwStyle & CBRS_ALIGN_TOP) {
-            free.top += size.cy;
-        } else {
-            place.OffsetRect(0, free.Height() - size.cy);
-            free.bottom -= size.cy;
-        }
-    } else {
-        layout.sizeTotal.cx += size.cx;
-        layout.sizeTotal.cy = std::max(layout.sizeTotal.cy, size.cy);
-        if (m_dwStyle & CBRS_ALIGN_LEFT) {
-            free.left += size.cx;
-        } else {
-            place.OffsetRect(free.Width() - size.cx, 0);
-            free.right -= size.cx;
-        }
-    }
+    Area free = areaOf(layout.rect);
+    afxdetail::Extent total{layout.sizeTotal.cx, layout.sizeTotal.cy};
+    const Area place = afxdetail::takeStrip(free, {size.cx, size.cy}, side);
+    afxdetail::addToTotal(total, place, side);
+    layout.rect = rectOf(free);
+    layout.sizeTotal = CSize(total.width, total.height);
     if (layout.hDWP)
-        AfxRepositionWindow(&layout, m_hWnd, &place);
+        AfxRepositionWindow(&layout, m_hWnd, rectOf(place));
     return 0;
 }
+
+// Updates
 
 LRESULT CControlBar::OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM)
 {
     if (!IsVisible())
         return 0;
     CWnd* owner = GetOwner();
+    if (!owner)
+        owner = GetParentFrame();
     // The owner need not be a frame: it is only asked as a command target.
     if (owner)
-        OnUpdateCmdUI(reinterpret_cast<CFrameWnd*>(owner), static_cast<BOOL>(disableIfNoHandler));
+        OnUpdateCmdUI(static_cast<CFrameWnd*>(owner), static_cast<BOOL>(disableIfNoHandler));
     return 0;
 }
 
@@ -171,62 +212,102 @@ LRESULT CControlBar::OnInitialUpdate(WPARAM, LPARAM)
     return OnIdleUpdateCmdUI(TRUE, 0);
 }
 
-void CControlBar::OnPaint()
+// Messages of the bar's controls
+
+LRESULT CControlBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    CPaintDC dc(this);
-    DoPaint(&dc);
+    if (message != WM_NOTIFY && message != WM_COMMAND)
+        return CWnd::WindowProc(message, wParam, lParam);
+    LRESULT result = 0;
+    if (OnWndMsg(message, wParam, lParam, &result))
+        return result;
+    if (message == WM_COMMAND || !lParam)
+        return sendToOwner();
+    return notifyOwner(*reinterpret_cast<NMHDR*>(lParam));
 }
 
-void CControlBar::DoPaint(CDC* dc)
+LRESULT CControlBar::sendToOwner()
 {
-    CRect rect;
-    GetClientRect(&rect);
-    DrawBorders(dc, rect);
+    const MSG message = *GetCurrentMessage();
+    const CWnd* owner = GetOwner();
+    return owner && owner != this ? owner->SendMessage(message.message, message.wParam, message.lParam)
+                                  : Default();
 }
 
-void CControlBar::DrawBorders(CDC* dc, CRect& rect)
+LRESULT CControlBar::notifyOwner(NMHDR& header)
 {
-    const COLORREF shadow = ::GetSysColor(COLOR_BTNSHADOW);
-    const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT);
-    if (m_dwStyle & CBRS_BORDER_TOP)
-        dc->FillSolidRect(rect.left, rect.top, rect.Width(), 1, shadow);
-    if (m_dwStyle & CBRS_BORDER_LEFT)
-        dc->FillSolidRect(rect.left, rect.top, 1, rect.Height(), shadow);
-    if (m_dwStyle & CBRS_BORDER_BOTTOM)
-        dc->FillSolidRect(rect.left, rect.bottom - 1, rect.Width(), 1, light);
-    if (m_dwStyle & CBRS_BORDER_RIGHT)
-        dc->FillSolidRect(rect.right - 1, rect.top, 1, rect.Height(), light);
+    const LRESULT result = sendToOwner();
+    switch (header.code) {
+    case TTN_GETDISPINFOW: // the control may know a text where the owner has none
+        return hasText(reinterpret_cast<const NMTTDISPINFOW&>(header)) ? result : Default();
+    case TTN_SHOW:
+        showPrompt(header);
+        break;
+    case TTN_POP:
+        if (m_pDockSite && (m_dwStyle & CBRS_FLYBY))
+            m_pDockSite->PostMessage(WM_POPMESSAGESTRING, AFX_IDS_IDLEMESSAGE, 0);
+        break;
+    }
+    return result;
+}
+
+/// The message line tells what the tool does whose tip is shown.
+void CControlBar::showPrompt(const NMHDR& tip)
+{
+    if (!m_pDockSite || !(m_dwStyle & CBRS_FLYBY))
+        return;
+    UINT_PTR id = tip.idFrom;
+    if (id > 0xFFFF) // a control's tool bears its window
+        id = static_cast<UINT>(::GetDlgCtrlID(reinterpret_cast<HWND>(id)));
+    m_pDockSite->SetMessageText(static_cast<UINT>(id & 0xFFFF));
+}
+
+/// Offers the message being handled to the control that it is about, then to the owner.
+LRESULT CControlBar::offer(HWND control)
+{
+    LRESULT result = 0;
+    return ReflectLastMsg(control, &result) ? result : sendToOwner();
+}
+
+void CControlBar::OnDrawItem(int, LPDRAWITEMSTRUCT item)
+{
+    offer(item->hwndItem);
+}
+
+void CControlBar::OnMeasureItem(int id, LPMEASUREITEMSTRUCT)
+{
+    offer(GetDescendantWindow(id, TRUE)->GetSafeHwnd());
+}
+
+void CControlBar::OnDeleteItem(int, LPDELETEITEMSTRUCT item)
+{
+    offer(item->hwndItem);
+}
+
+int CControlBar::OnCompareItem(int, LPCOMPAREITEMSTRUCT item)
+{
+    return static_cast<int>(offer(item->hwndItem));
+}
+
+int CControlBar::OnVKeyToItem(UINT, CListBox* box, UINT)
+{
+    return static_cast<int>(offer(reinterpret_cast<CWnd*>(box)->GetSafeHwnd()));
+}
+
+int CControlBar::OnCharToItem(UINT, CListBox* box, UINT)
+{
+    return static_cast<int>(offer(reinterpret_cast<CWnd*>(box)->GetSafeHwnd()));
 }
 
 BOOL CControlBar::PreTranslateMessage(MSG* message)
 {
     if (CWnd::PreTranslateMessage(message))
         return TRUE;
-    const bool input = (message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST) ||
-                       (message->message >= WM_MOUSEFIRST && message->message <= WM_MOUSELAST);
-    if (!input || !::GetTopWindow(m_hWnd))
+    if (!isKey(message->message) || !::GetTopWindow(m_hWnd))
         return FALSE;
-    // The frame's accelerators come before the bar's dialog keys.
+    // The dialog keys take every key message: what the frames above want of them must come first.
     for (CWnd* owner = GetOwner(); owner; owner = owner->GetParentFrame())
         if (owner->PreTranslateMessage(message))
             return TRUE;
     return IsDialogMessage(message);
-}
-
-CWnd* CControlBar::notified() const
-{
-    CWnd* owner = GetOwner();
-    return owner && owner != this ? owner : nullptr;
-}
-
-LRESULT CControlBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    LRESULT result = 0;
-    if (belongsToOwner(message)) {
-        if (OnWndMsg(message, wParam, lParam, &result))
-            return result;
-        CWnd* owner = notified();
-        return owner ? owner->SendMessage(message, wParam, lParam) : DefWindowProc(message, wParam, lParam);
-    }
-    return CWnd::WindowProc(message, wParam, lParam);
 }

@@ -1,34 +1,42 @@
-// CFrameWnd: making a frame, its layout and its command routing.
+// CFrameWnd: making a frame, its commands, its views.
 #include <afxext.h>
 #include <afxpriv.h>
 
-#include <algorithm>
+#include <detail/pending.h>
 
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
 BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
-    // life
-    ON_WM_CREATE()
-    ON_WM_DESTROY()
-    ON_WM_CLOSE()
-    // layout and painting
-    ON_WM_SIZE()
-    ON_WM_ERASEBKGND()
-    // focus
-    ON_WM_SETFOCUS()
-    ON_WM_ACTIVATE()
-    // menus and the message line
-    ON_WM_INITMENUPOPUP()
-    ON_WM_MENUSELECT()
-    ON_WM_ENTERIDLE()
-    ON_MESSAGE(WM_SETMESSAGESTRING, OnSetMessageString)
-    ON_MESSAGE(WM_POPMESSAGESTRING, OnPopMessageString)
-    ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, 0xFFFF, OnToolTipText)
-    // control bars
-    ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, OnUpdateControlBarMenu)
-    ON_COMMAND_EX(ID_VIEW_STATUS_BAR, OnBarCheck)
-    ON_UPDATE_COMMAND_UI(ID_VIEW_TOOLBAR, OnUpdateControlBarMenu)
-    ON_COMMAND_EX(ID_VIEW_TOOLBAR, OnBarCheck)
+// life
+ON_WM_CREATE()
+ON_WM_DESTROY()
+ON_WM_CLOSE()
+ON_WM_QUERYENDSESSION()
+// layout and painting
+ON_WM_SIZE()
+ON_WM_ERASEBKGND()
+ON_MESSAGE(WM_RECALCPARENT, OnRecalcParent)
+ON_MESSAGE(WM_IDLEUPDATECMDUI, OnIdleUpdateCmdUI)
+// the active view
+ON_WM_SETFOCUS()
+ON_WM_ACTIVATE()
+ON_WM_HSCROLL()
+ON_WM_VSCROLL()
+// menus and the message line
+ON_WM_INITMENUPOPUP()
+ON_WM_MENUSELECT()
+ON_WM_ENTERIDLE()
+ON_MESSAGE(WM_SETMESSAGESTRING, OnSetMessageString)
+ON_MESSAGE(WM_POPMESSAGESTRING, OnPopMessageString)
+ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, 0xFFFF, OnToolTipText)
+// control bars
+ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, OnUpdateControlBarMenu)
+ON_COMMAND_EX(ID_VIEW_STATUS_BAR, OnBarCheck)
+ON_UPDATE_COMMAND_UI(ID_VIEW_TOOLBAR, OnUpdateControlBarMenu)
+ON_COMMAND_EX(ID_VIEW_TOOLBAR, OnBarCheck)
+ON_UPDATE_COMMAND_UI(ID_INDICATOR_CAPS, OnUpdateKeyIndicator)
+ON_UPDATE_COMMAND_UI(ID_INDICATOR_NUM, OnUpdateKeyIndicator)
+ON_UPDATE_COMMAND_UI(ID_INDICATOR_SCRL, OnUpdateKeyIndicator)
 END_MESSAGE_MAP()
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
@@ -37,9 +45,11 @@ CFrameWnd::CFrameWnd() = default;
 
 CFrameWnd::~CFrameWnd()
 {
-    for (CControlBar* bar : std::vector<CControlBar*>(m_bars))
-        RemoveControlBar(bar);
+    for (CControlBar* bar : m_bars)
+        bar->m_pDockSite = nullptr;
 }
+
+// Making a frame
 
 BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs)
 {
@@ -53,23 +63,25 @@ BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs)
 BOOL CFrameWnd::Create(LPCTSTR className, LPCTSTR title, DWORD style, const RECT& rect, CWnd* parent,
                        LPCTSTR menuName, DWORD exStyle, CCreateContext* context)
 {
-    HMENU menu = nullptr;
     if (menuName) {
-        menu = ::LoadMenuW(AfxFindResourceHandle(menuName, RT_MENU), menuName);
-        if (!menu) {
+        m_hMenuDefault = ::LoadMenuW(AfxFindResourceHandle(menuName, RT_MENU), menuName);
+        if (!m_hMenuDefault) {
             PostNcDestroy();
             return FALSE;
         }
     }
     m_strTitle = title;
-    const bool place = rect.left == CW_USEDEFAULT;
-    if (!CreateEx(exStyle, className, title, style, rect.left, rect.top, place ? CW_USEDEFAULT : rect.right - rect.left,
-                  place ? CW_USEDEFAULT : rect.bottom - rect.top, parent->GetSafeHwnd(), menu, context)) {
-        if (menu)
-            ::DestroyMenu(menu);
-        return FALSE;
-    }
-    return TRUE;
+    const HMENU menu = m_hMenuDefault;
+    const bool anywhere = rect.left == CW_USEDEFAULT;
+    const int width = anywhere ? CW_USEDEFAULT : rect.right - rect.left;
+    const int height = anywhere ? CW_USEDEFAULT : rect.bottom - rect.top;
+    if (CreateEx(exStyle, className, title, style, rect.left, rect.top, width, height, parent->GetSafeHwnd(),
+                 menu, context))
+        return TRUE;
+    // The object is gone; the menu too, if there was a window for it to go with.
+    if (menu)
+        ::DestroyMenu(menu);
+    return FALSE;
 }
 
 BOOL CFrameWnd::LoadFrame(UINT id, DWORD style, CWnd* parent, CCreateContext* context)
@@ -84,13 +96,15 @@ BOOL CFrameWnd::LoadFrame(UINT id, DWORD style, CWnd* parent, CCreateContext* co
     if (!Create(nullptr, title, style, rectDefault, parent, hasMenu ? name : nullptr, 0, context))
         return FALSE;
     LoadAccelTable(name);
-    if (!context)
+    if (!context) // whoever makes documents tells the views when they are ready
         SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, TRUE);
     return TRUE;
 }
 
 BOOL CFrameWnd::LoadAccelTable(LPCTSTR name)
 {
+    if (m_hAccelTable)
+        return FALSE;
     m_hAccelTable = ::LoadAcceleratorsW(AfxFindResourceHandle(name, RT_ACCELERATOR), name);
     return m_hAccelTable != nullptr;
 }
@@ -117,27 +131,41 @@ CWnd* CFrameWnd::CreateView(CCreateContext* context, UINT id)
     auto* view = static_cast<CWnd*>(context->m_pNewViewClass->CreateObject());
     if (!view)
         return nullptr;
+    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_BORDER;
     // A view that fails to be created has deleted itself.
-    return view->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this, id, context) ? view : nullptr;
+    return view->Create(nullptr, nullptr, kStyle, CRect(0, 0, 0, 0), this, id, context) ? view : nullptr;
 }
 
-void CFrameWnd::InitialUpdateFrame(CView* view)
+void CFrameWnd::InitialUpdateFrame(CDocument*, BOOL makeVisible)
 {
-    if (!m_pViewActive && view)
-        SetActiveView(view, FALSE);
+    CView* primary = nullptr;
+    if (!m_pViewActive) {
+        primary = dynamic_cast<CView*>(GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE));
+        if (primary)
+            SetActiveView(primary, FALSE);
+    }
     SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, TRUE);
+    if (!makeVisible)
+        return;
     ActivateFrame();
+    if (primary && m_pViewActive == primary)
+        primary->OnActivateView(TRUE, primary, primary);
 }
 
 void CFrameWnd::ActivateFrame(int show)
 {
+    if (show == -1 && !IsWindowVisible())
+        show = SW_SHOWNORMAL;
+    else if (show == -1 && IsIconic())
+        show = SW_RESTORE;
+    BringWindowToTop();
     if (show == -1)
-        show = IsWindowVisible() ? (IsIconic() ? SW_RESTORE : -1) : SW_SHOWNORMAL;
-    BringWindowToTop();
-    if (show != -1)
-        ShowWindow(show);
-    BringWindowToTop();
+        return;
+    ShowWindow(show);
+    BringWindowToTop(); // showing it may have brought its owner to the top
 }
+
+// Its end
 
 void CFrameWnd::OnClose()
 {
@@ -147,9 +175,18 @@ void CFrameWnd::OnClose()
     DestroyWindow();
 }
 
+BOOL CFrameWnd::OnQueryEndSession()
+{
+    CWinApp* app = AfxGetApp();
+    return !app || app->m_pMainWnd != this || app->SaveAllModified();
+}
+
 void CFrameWnd::OnDestroy()
 {
-    // The menu that the program loaded goes with the window; nothing else is to be freed here.
+    // Only the menu that a window shows goes with it. Another one belongs to whoever set it.
+    const bool ownsMenu = !(GetStyle() & WS_CHILD) && ::IsMenu(m_hMenuDefault);
+    if (ownsMenu && ::GetMenu(m_hWnd) != m_hMenuDefault)
+        ::SetMenu(m_hWnd, m_hMenuDefault);
     CWnd::OnDestroy();
     m_pViewActive = nullptr;
 }
@@ -160,6 +197,7 @@ void CFrameWnd::PostNcDestroy()
 }
 
 // Commands: the active view first, then the frame, then the program.
+
 BOOL CFrameWnd::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info)
 {
     if (m_pViewActive && m_pViewActive->OnCmdMsg(id, code, extra, info))
@@ -168,11 +206,6 @@ BOOL CFrameWnd::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* inf
         return TRUE;
     CWinApp* app = AfxGetApp();
     return app && app->OnCmdMsg(id, code, extra, info);
-}
-
-BOOL CFrameWnd::OnCommand(WPARAM wParam, LPARAM lParam)
-{
-    return CWnd::OnCommand(wParam, lParam);
 }
 
 BOOL CFrameWnd::PreTranslateMessage(MSG* message)
@@ -184,31 +217,14 @@ BOOL CFrameWnd::PreTranslateMessage(MSG* message)
            afxdetail::callOut([&] { return ::TranslateAcceleratorW(m_hWnd, m_hAccelTable, message); });
 }
 
-// Layout
-
-void CFrameWnd::RecalcLayout(BOOL)
+void CFrameWnd::SetTitle(LPCTSTR title)
 {
-    if (m_bInRecalcLayout)
-        return;
-    m_bInRecalcLayout = TRUE;
-    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposExtra, &m_rectBorder);
-    m_bInRecalcLayout = FALSE;
+    m_strTitle = title;
+    if (m_hWnd)
+        SetWindowText(title);
 }
 
-void CFrameWnd::OnSize(UINT type, int cx, int cy)
-{
-    CWnd::OnSize(type, cx, cy);
-    if (type != SIZE_MINIMIZED)
-        RecalcLayout();
-}
-
-BOOL CFrameWnd::OnEraseBkgnd(CDC* dc)
-{
-    // The view covers everything: erasing below it would flicker.
-    return m_pViewActive ? TRUE : CWnd::OnEraseBkgnd(dc);
-}
-
-// Focus
+// The active view
 
 void CFrameWnd::SetActiveView(CView* view, BOOL notify)
 {
@@ -236,59 +252,34 @@ void CFrameWnd::OnSetFocus(CWnd* old)
 void CFrameWnd::OnActivate(UINT state, CWnd* other, BOOL minimized)
 {
     CWnd::OnActivate(state, other, minimized);
-    if (m_pViewActive && state != WA_INACTIVE && !minimized)
-        m_pViewActive->OnActivateView(TRUE, m_pViewActive, m_pViewActive);
-}
-
-void CFrameWnd::OnUpdateFrameTitle(BOOL)
-{
-    SetWindowText(m_strTitle);
-}
-
-// Control bars
-
-void CFrameWnd::AddControlBar(CControlBar* bar)
-{
-    m_bars.push_back(bar);
-}
-
-void CFrameWnd::RemoveControlBar(CControlBar* bar)
-{
-    m_bars.erase(std::remove(m_bars.begin(), m_bars.end(), bar), m_bars.end());
-}
-
-CControlBar* CFrameWnd::GetControlBar(UINT id)
-{
-    for (CControlBar* bar : m_bars)
-        if (bar->m_hWnd && static_cast<UINT>(bar->GetDlgCtrlID()) == id)
-            return bar;
-    return nullptr;
-}
-
-void CFrameWnd::ShowControlBar(CControlBar* bar, BOOL show, BOOL delay)
-{
-    bar->ShowWindow(show ? SW_SHOWNA : SW_HIDE);
-    if (delay)
-        bar->PostMessage(WM_RECALCPARENT);
-    else
-        RecalcLayout();
-}
-
-BOOL CFrameWnd::OnBarCheck(UINT id)
-{
-    CControlBar* bar = GetControlBar(id);
-    if (!bar)
-        return FALSE;
-    ShowControlBar(bar, !bar->IsVisible(), FALSE);
-    return TRUE;
-}
-
-void CFrameWnd::OnUpdateControlBarMenu(CCmdUI* ui)
-{
-    const CControlBar* bar = GetControlBar(ui->m_nID);
-    if (!bar) {
-        ui->ContinueRouting();
+    CView* const view = m_pViewActive;
+    if (!view)
         return;
-    }
-    ui->SetCheck(bar->IsVisible());
+    if (state != WA_INACTIVE && !minimized)
+        view->OnActivateView(TRUE, view, view);
+    if (m_pViewActive == view)
+        view->OnActivateFrame(state, this);
+}
+
+void CFrameWnd::OnHScroll(UINT, UINT, CScrollBar* bar)
+{
+    scrollView(bar);
+}
+
+void CFrameWnd::OnVScroll(UINT, UINT, CScrollBar* bar)
+{
+    scrollView(bar);
+}
+
+/// Scroll bars beside the view scroll the view, unless one has a mind of its own.
+void CFrameWnd::scrollView(CScrollBar* bar)
+{
+    auto* control = reinterpret_cast<CWnd*>(bar);
+    if (control && control->SendChildNotifyLastMsg())
+        return;
+    const MSG message = *GetCurrentMessage();
+    if (m_pViewActive)
+        m_pViewActive->SendMessage(message.message, message.wParam, message.lParam);
+    else
+        Default();
 }

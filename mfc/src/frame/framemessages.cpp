@@ -2,36 +2,73 @@
 #include <afxext.h>
 #include <afxpriv.h>
 
+#include "../menu/trackedmenu.h"
+
 namespace
 {
 
-/// The command that stands for a popup: the first item of it.
+constexpr UINT kPopup = static_cast<UINT>(-1); // the id of an item that opens a popup
+
+// The system menu's commands; the low four bits are the system's own.
+constexpr UINT kFirstSystemCommand = 0xF000;
+constexpr UINT kLastSystemCommand = 0xF1EF;
+
+/// The command that stands for a popup: the first item of it; 0 for none.
 UINT idOfPopup(CMenu* popup)
 {
     if (!popup || popup->GetMenuItemCount() <= 0)
         return 0;
     const UINT id = popup->GetMenuItemID(0);
-    return id == static_cast<UINT>(-1) ? 0 : id;
+    return id == kPopup ? 0 : id;
 }
 
-/// The menu that a popup hangs in, searched from the frame's menu bar; null for a context menu.
-CMenu* parentOf(CMenu* menu, HMENU popup)
+void update(CCmdUI& ui, CFrameWnd& frame)
 {
-    if (!menu)
-        return nullptr;
-    for (int i = 0; i < menu->GetMenuItemCount(); ++i) {
-        CMenu* sub = menu->GetSubMenu(i);
-        if (!sub)
-            continue;
-        if (sub->m_hMenu == popup)
-            return menu;
-        if (CMenu* found = parentOf(sub, popup))
-            return found;
+    CMenu& menu = *ui.m_pMenu;
+    const int position = static_cast<int>(ui.m_nIndex);
+    ui.m_pSubMenu = nullptr;
+    ui.m_nID = menu.GetMenuItemID(position);
+    if (ui.m_nID != kPopup) {
+        ui.DoUpdate(&frame, frame.m_bAutoMenuEnable);
+        return;
     }
-    return nullptr;
+    ui.m_pSubMenu = menu.GetSubMenu(position);
+    ui.m_nID = idOfPopup(ui.m_pSubMenu);
+    ui.DoUpdate(&frame, FALSE); // a popup is not disabled for what its first item lacks
+}
+
+/// After a handler that has changed the menu: the last item that is done with, so that the next one has its
+/// turn.
+int positionAfter(const CCmdUI& ui, int countBefore)
+{
+    const int count = ui.m_pMenu->GetMenuItemCount();
+    int position = static_cast<int>(ui.m_nIndex);
+    if (count >= countBefore)
+        return position;
+    position = std::max(-1, position - (countBefore - count));
+    while (position >= 0 && position < count && ui.m_pMenu->GetMenuItemID(position) == ui.m_nID)
+        ++position;
+    return position;
+}
+
+/// The string that explains a menu item; 0 for none.
+UINT promptOf(UINT id, UINT flags)
+{
+    if (id == 0 || (flags & (MF_SEPARATOR | MF_POPUP)))
+        return 0;
+    if (id >= kFirstSystemCommand && id <= kLastSystemCommand)
+        return AFX_IDS_SCFIRST + (id - kFirstSystemCommand) / 16;
+    return id;
+}
+
+bool isLockedOn(int key)
+{
+    return (::GetKeyState(key) & 1) != 0;
 }
 
 } // namespace
+
+// Menus
 
 void CFrameWnd::OnInitMenuPopup(CMenu* menu, UINT, BOOL sysMenu)
 {
@@ -39,42 +76,21 @@ void CFrameWnd::OnInitMenuPopup(CMenu* menu, UINT, BOOL sysMenu)
         return;
     CCmdUI ui;
     ui.m_pMenu = menu;
-    ui.m_pParentMenu = parentOf(GetMenu(), menu->m_hMenu);
-    ui.m_nIndexMax = static_cast<UINT>(menu->GetMenuItemCount());
-    for (ui.m_nIndex = 0; ui.m_nIndex < ui.m_nIndexMax; ++ui.m_nIndex) {
-        ui.m_nID = menu->GetMenuItemID(static_cast<int>(ui.m_nIndex));
-        if (ui.m_nID == 0)
-            continue; // a separator
-        if (ui.m_nID == static_cast<UINT>(-1)) {
-            ui.m_pSubMenu = menu->GetSubMenu(static_cast<int>(ui.m_nIndex));
-            ui.m_nID = idOfPopup(ui.m_pSubMenu);
-            if (ui.m_nID == 0)
-                continue;
-            ui.DoUpdate(this, FALSE);
-        } else {
-            ui.m_pSubMenu = nullptr;
-            ui.DoUpdate(this, m_bAutoMenuEnable);
-        }
-        // A handler may have put items in or taken some out: go on behind what it has made.
-        const auto count = static_cast<UINT>(menu->GetMenuItemCount());
-        if (count < ui.m_nIndexMax) {
-            ui.m_nIndex -= ui.m_nIndexMax - count;
-            while (ui.m_nIndex < count && menu->GetMenuItemID(static_cast<int>(ui.m_nIndex)) == ui.m_nID)
-                ++ui.m_nIndex;
-        }
-        ui.m_nIndexMax = count;
+    ui.m_pParentMenu = CMenu::FromHandle(afxdetail::menuAbove(menu->m_hMenu, m_hWnd));
+    int count = menu->GetMenuItemCount();
+    for (int position = 0; position < count; ++position) {
+        ui.m_nIndex = static_cast<UINT>(position);
+        ui.m_nIndexMax = static_cast<UINT>(count);
+        update(ui, *this);
+        position = positionAfter(ui, count);
+        count = menu->GetMenuItemCount();
     }
 }
 
 void CFrameWnd::OnMenuSelect(UINT id, UINT flags, HMENU menu)
 {
-    if (flags == 0xFFFF && !menu)
-        m_nIDTracking = AFX_IDS_IDLEMESSAGE; // the menu is closed
-    else if (id == 0 || (flags & (MF_SEPARATOR | MF_POPUP | MF_SYSMENU)))
-        m_nIDTracking = 0;
-    else
-        m_nIDTracking = id;
-
+    const bool closed = flags == 0xFFFF && !menu;
+    m_nIDTracking = closed ? AFX_IDS_IDLEMESSAGE : promptOf(id, flags);
     if (m_nIDTracking != m_nIDLastMessage && GetMessageBar())
         PostMessage(WM_SETMESSAGESTRING, m_nIDTracking, 0);
 }
@@ -84,6 +100,8 @@ void CFrameWnd::OnEnterIdle(UINT why, CWnd*)
     if (why == MSGF_MENU && m_nIDTracking != m_nIDLastMessage)
         SetMessageText(m_nIDTracking);
 }
+
+// The message line
 
 void CFrameWnd::GetMessageString(UINT id, CString& message) const
 {
@@ -123,9 +141,27 @@ LRESULT CFrameWnd::OnSetMessageString(WPARAM id, LPARAM text)
     return static_cast<LRESULT>(before);
 }
 
+/// The message line is wanted back by whoever has set it for a while.
 LRESULT CFrameWnd::OnPopMessageString(WPARAM id, LPARAM text)
 {
     return SendMessage(WM_SETMESSAGESTRING, id, text);
+}
+
+void CFrameWnd::OnUpdateKeyIndicator(CCmdUI* ui)
+{
+    switch (ui->m_nID) {
+    case ID_INDICATOR_CAPS:
+        ui->Enable(isLockedOn(VK_CAPITAL));
+        break;
+    case ID_INDICATOR_NUM:
+        ui->Enable(isLockedOn(VK_NUMLOCK));
+        break;
+    case ID_INDICATOR_SCRL:
+        ui->Enable(isLockedOn(VK_SCROLL));
+        break;
+    default:
+        ui->ContinueRouting();
+    }
 }
 
 BOOL CFrameWnd::OnToolTipText(UINT, NMHDR* header, LRESULT* result)

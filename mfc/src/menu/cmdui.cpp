@@ -1,5 +1,22 @@
 #include <afxwin.h>
 
+namespace
+{
+
+/// Sets a menu item's mark, a check mark or a dot.
+void mark(CMenu& menu, UINT position, bool on, UINT type)
+{
+    MENUITEMINFO info{};
+    info.fMask = MIIM_FTYPE;
+    if (menu.GetMenuItemInfo(position, &info, TRUE) && (info.fType & MFT_RADIOCHECK) != type) {
+        info.fType ^= MFT_RADIOCHECK;
+        menu.SetMenuItemInfo(position, &info, TRUE);
+    }
+    menu.CheckMenuItem(position, MF_BYPOSITION | (on ? MF_CHECKED : MF_UNCHECKED));
+}
+
+} // namespace
+
 CCmdUI::CCmdUI() = default;
 
 CCmdUI::~CCmdUI() = default;
@@ -13,7 +30,7 @@ void CCmdUI::Enable(BOOL on)
 {
     m_bEnableChanged = TRUE;
     if (m_pMenu) {
-        if (!m_pSubMenu) // a popup is always enabled
+        if (!m_pSubMenu)
             m_pMenu->EnableMenuItem(m_nIndex, MF_BYPOSITION | (on ? MF_ENABLED : (MF_DISABLED | MF_GRAYED)));
         return;
     }
@@ -29,7 +46,7 @@ void CCmdUI::SetCheck(int check)
 {
     if (m_pMenu) {
         if (!m_pSubMenu)
-            m_pMenu->CheckMenuItem(m_nIndex, MF_BYPOSITION | (check ? MF_CHECKED : MF_UNCHECKED));
+            mark(*m_pMenu, m_nIndex, check != 0, MFT_STRING);
         return;
     }
     if (m_pOther && (m_pOther->SendMessage(WM_GETDLGCODE) & DLGC_BUTTON))
@@ -38,14 +55,10 @@ void CCmdUI::SetCheck(int check)
 
 void CCmdUI::SetRadio(BOOL on)
 {
-    SetCheck(on ? 1 : 0);
-    if (!m_pMenu || m_pSubMenu || !on)
-        return;
-    MENUITEMINFO info{};
-    info.fMask = MIIM_FTYPE;
-    m_pMenu->GetMenuItemInfo(m_nIndex, &info, TRUE);
-    info.fType |= MFT_RADIOCHECK;
-    m_pMenu->SetMenuItemInfo(m_nIndex, &info, TRUE);
+    if (!m_pMenu)
+        SetCheck(on ? 1 : 0);
+    else if (!m_pSubMenu)
+        mark(*m_pMenu, m_nIndex, on != FALSE, MFT_RADIOCHECK);
 }
 
 void CCmdUI::SetText(LPCTSTR text)
@@ -70,10 +83,10 @@ void CCmdUI::SetText(LPCTSTR text)
 BOOL CCmdUI::DoUpdate(CCmdTarget* target, BOOL disableIfNoHandler)
 {
     if (m_nID == 0 || LOWORD(m_nID) == 0xFFFF)
-        return TRUE; // separators and popups have nothing to ask for
+        return TRUE; // separators and labels have nothing to ask for
     m_bEnableChanged = FALSE;
     const BOOL handled = target->OnCmdMsg(m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), this, nullptr);
-    if (disableIfNoHandler && !m_bEnableChanged) {
+    if (!handled && disableIfNoHandler && !m_bEnableChanged) {
         AFX_CMDHANDLERINFO info{};
         Enable(target->OnCmdMsg(m_nID, CN_COMMAND, this, &info));
     }

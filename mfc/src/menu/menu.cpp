@@ -1,4 +1,4 @@
-#include <afxwin.h>
+#include "trackedmenu.h"
 
 #include <detail/handlemap.h>
 #include <detail/pending.h>
@@ -26,6 +26,11 @@ afxdetail::HandleMap<MenuTraits>& menuMap()
     return afxdetail::handleMap<MenuTraits>();
 }
 
+LPCTSTR itemOf(const CBitmap* bitmap)
+{
+    return static_cast<LPCTSTR>(bitmap->GetSafeHandle());
+}
+
 } // namespace
 
 CMenu::CMenu() = default;
@@ -35,6 +40,8 @@ CMenu::~CMenu()
     if (m_hMenu)
         DestroyMenu();
 }
+
+// Objects and handles
 
 CMenu* PASCAL CMenu::FromHandle(HMENU menu)
 {
@@ -53,7 +60,7 @@ void PASCAL CMenu::DeleteTempMap()
 
 BOOL CMenu::Attach(HMENU menu)
 {
-    if (!menu || m_hMenu)
+    if (!menu || m_hMenu || FromHandlePermanent(menu))
         return FALSE;
     m_hMenu = menu;
     menuMap().setPermanent(menu, this);
@@ -63,9 +70,13 @@ BOOL CMenu::Attach(HMENU menu)
 HMENU CMenu::Detach()
 {
     const HMENU menu = m_hMenu;
-    m_hMenu = nullptr;
-    if (menu)
+    if (!menu)
+        return nullptr;
+    if (FromHandlePermanent(menu) == this)
         menuMap().removePermanent(menu);
+    else
+        menuMap().remove(menu); // a temporary object: it stands for this menu no longer
+    m_hMenu = nullptr;
     return menu;
 }
 
@@ -73,6 +84,8 @@ HMENU CMenu::GetSafeHmenu() const
 {
     return this ? m_hMenu : nullptr;
 }
+
+// Making and destroying
 
 BOOL CMenu::CreateMenu()
 {
@@ -101,12 +114,49 @@ BOOL CMenu::LoadMenuIndirect(const void* menuTemplate)
 
 BOOL CMenu::DestroyMenu()
 {
-    return m_hMenu && ::DestroyMenu(Detach());
+    const HMENU menu = Detach();
+    if (!menu)
+        return FALSE;
+    menuMap().remove(menu); // nobody shall find an object for a menu that is no more
+    return ::DestroyMenu(menu);
+}
+
+// Items
+
+BOOL CMenu::AppendMenu(UINT flags, UINT_PTR id, LPCTSTR item)
+{
+    return ::AppendMenuW(m_hMenu, flags, id, item);
 }
 
 BOOL CMenu::AppendMenu(UINT flags, UINT_PTR id, const CBitmap* bitmap)
 {
-    return ::AppendMenuW(m_hMenu, flags | MF_BITMAP, id, static_cast<LPCWSTR>(bitmap->GetSafeHandle()));
+    return AppendMenu(flags | MF_BITMAP, id, itemOf(bitmap));
+}
+
+BOOL CMenu::InsertMenu(UINT position, UINT flags, UINT_PTR id, LPCTSTR item)
+{
+    return ::InsertMenuW(m_hMenu, position, flags, id, item);
+}
+
+BOOL CMenu::InsertMenu(UINT position, UINT flags, UINT_PTR id, const CBitmap* bitmap)
+{
+    return InsertMenu(position, flags | MF_BITMAP, id, itemOf(bitmap));
+}
+
+BOOL CMenu::ModifyMenu(UINT position, UINT flags, UINT_PTR id, LPCTSTR item)
+{
+    return ::ModifyMenuW(m_hMenu, position, flags, id, item);
+}
+
+BOOL CMenu::ModifyMenu(UINT position, UINT flags, UINT_PTR id, const CBitmap* bitmap)
+{
+    return ModifyMenu(position, flags | MF_BITMAP, id, itemOf(bitmap));
+}
+
+BOOL CMenu::InsertMenuItem(UINT item, LPMENUITEMINFO info, BOOL byPosition)
+{
+    info->cbSize = sizeof *info;
+    return ::InsertMenuItemW(m_hMenu, item, byPosition, info);
 }
 
 BOOL CMenu::GetMenuItemInfo(UINT item, LPMENUITEMINFO info, BOOL byPosition)
@@ -139,14 +189,24 @@ int CMenu::GetMenuString(UINT item, CString& text, UINT flags) const
     return text.GetLength();
 }
 
+// The menu as a whole
+
+BOOL CMenu::GetMenuInfo(LPMENUINFO info) const
+{
+    info->cbSize = sizeof *info;
+    return ::GetMenuInfo(m_hMenu, info);
+}
+
 BOOL CMenu::TrackPopupMenu(UINT flags, int x, int y, CWnd* wnd, LPCRECT rect)
 {
+    const afxdetail::TrackedMenu tracked(m_hMenu);
     return afxdetail::callOut(
         [&] { return ::TrackPopupMenu(m_hMenu, flags, x, y, 0, wnd->GetSafeHwnd(), rect); });
 }
 
 BOOL CMenu::TrackPopupMenuEx(UINT flags, int x, int y, CWnd* wnd, LPTPMPARAMS params)
 {
+    const afxdetail::TrackedMenu tracked(m_hMenu);
     return afxdetail::callOut(
         [&] { return ::TrackPopupMenuEx(m_hMenu, flags, x, y, wnd->GetSafeHwnd(), params); });
 }

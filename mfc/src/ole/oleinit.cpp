@@ -1,4 +1,4 @@
-// Starting OLE.
+// The beginning and the end of OLE.
 #include <afxole.h>
 
 namespace
@@ -24,6 +24,7 @@ void AFXAPI AfxOleTerm()
     if (!s_started)
         return;
     s_started = false;
-    ::OleFlushClipboard();
+    if (COleDataSource::GetClipboardOwner())
+        ::OleFlushClipboard(); // what it renders may fail: nobody is left to tell
     ::OleUninitialize();
 }

@@ -43,18 +43,11 @@ BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE module)
 namespace
 {
 
-/// The name of a window class whose procedure lies in the module tells nothing of it: the class must be asked.
 void dropWndClasses(HMODULE module)
 {
-    AFX_MODULE_STATE* const state = AfxGetModuleState();
-    for (auto it = state->wndClasses.begin(); it != state->wndClasses.end();) {
-        WNDCLASSW wndClass{};
-        const bool registered = ::GetClassInfoW(module, it->c_str(), &wndClass) && wndClass.hInstance == module;
-        if (registered && ::UnregisterClassW(it->c_str(), module))
-            it = state->wndClasses.erase(it);
-        else
-            ++it;
-    }
+    std::erase_if(AfxGetModuleState()->wndClasses, [module](const auto& wndClass) {
+        return wndClass.first == module && ::UnregisterClassW(wndClass.second.c_str(), module);
+    });
 }
 
 } // namespace
@@ -70,4 +63,5 @@ void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL all)
         library = next;
     }
     dropWndClasses(state.hModule);
+    afxdetail::delistClassesOf(state.hModule);
 }

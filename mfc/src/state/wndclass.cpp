@@ -2,6 +2,9 @@
 #include <afxwin.h>
 
 #include <detail/modulestate.h>
+#include <detail/threadstate.h>
+
+#include <cstdio>
 
 BOOL AFXAPI AfxRegisterClass(WNDCLASS* wndClass)
 {
@@ -10,23 +13,23 @@ BOOL AFXAPI AfxRegisterClass(WNDCLASS* wndClass)
         return TRUE;
     if (!::RegisterClassW(wndClass))
         return FALSE;
-    AfxGetModuleState()->wndClasses.insert(wndClass->lpszClassName);
+    AfxGetModuleState()->wndClasses.emplace(wndClass->hInstance, wndClass->lpszClassName);
     return TRUE;
 }
 
 LPCTSTR AFXAPI AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON icon)
 {
-    thread_local CString name;
     const HINSTANCE instance = AfxGetInstanceHandle();
+    auto& name = afxdetail::threadState().wndClassName;
     if (!cursor && !background && !icon)
-        name.Format(L"Afx:%p:%x", static_cast<void*>(instance), style);
+        ::_snwprintf(name, std::size(name), L"Afx:%p:%x", static_cast<void*>(instance), style);
     else
-        name.Format(L"Afx:%p:%x:%p:%p:%p", static_cast<void*>(instance), style, static_cast<void*>(cursor),
-                    static_cast<void*>(background), static_cast<void*>(icon));
+        ::_snwprintf(name, std::size(name), L"Afx:%p:%x:%p:%p:%p", static_cast<void*>(instance), style,
+                     static_cast<void*>(cursor), static_cast<void*>(background), static_cast<void*>(icon));
 
     WNDCLASSW wndClass{};
     wndClass.style = style;
-    wndClass.lpfnWndProc = &::DefWindowProcW; // replaced for each window as it is created
+    wndClass.lpfnWndProc = &AfxWndProc;
     wndClass.hInstance = instance;
     wndClass.hCursor = cursor;
     wndClass.hbrBackground = background;

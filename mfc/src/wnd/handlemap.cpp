@@ -1,5 +1,8 @@
 // The windows' handle map, and the end of all temporary objects.
 #include "handlemap.h"
+#include "wndflags.h"
+
+using afxdetail::wndMap;
 
 namespace afxdetail
 {
@@ -11,48 +14,50 @@ void registerTemporaryPurge(void (*purge)(void*), void* map)
 
 void purgeTemporaryObjects()
 {
+    if (threadState().dispatchDepth > 0)
+        return;
     for (const TemporaryPurge& entry : threadState().temporaryPurges)
         entry.purge(entry.map);
 }
 
 } // namespace afxdetail
 
-CWnd* WndAccess::makeTemporary(HWND wnd)
+CWnd::CWnd(HWND wnd)
+    : m_hWnd(wnd)
+    , m_nFlags(afxdetail::kBorrowed)
 {
-    return new CWnd(wnd);
 }
 
 CWnd* PASCAL CWnd::FromHandle(HWND wnd)
 {
-    return afxdetail::wndMap().fromHandle(wnd);
+    return wndMap().fromHandle(wnd);
 }
 
 CWnd* PASCAL CWnd::FromHandlePermanent(HWND wnd)
 {
-    return afxdetail::wndMap().fromHandlePermanent(wnd);
+    return wndMap().fromHandlePermanent(wnd);
 }
 
 void PASCAL CWnd::DeleteTempMap()
 {
-    afxdetail::wndMap().deleteTemporary();
+    wndMap().deleteTemporary();
 }
 
 BOOL CWnd::Attach(HWND wnd)
 {
-    if (!wnd || m_hWnd)
-        return FALSE;
-    if (CWnd* other = FromHandlePermanent(wnd); other && other != this)
+    if (!wnd || m_hWnd || FromHandlePermanent(wnd))
         return FALSE;
     m_hWnd = wnd;
-    afxdetail::wndMap().setPermanent(wnd, this);
+    wndMap().setPermanent(wnd, this);
     return TRUE;
 }
 
 HWND CWnd::Detach()
 {
-    const HWND wnd = m_hWnd;
-    if (wnd)
-        afxdetail::wndMap().remove(wnd);
-    m_hWnd = nullptr;
+    const HWND wnd = std::exchange(m_hWnd, nullptr);
+    if (m_nFlags & afxdetail::kBorrowed)
+        wndMap().remove(wnd); // without its handle the temporary object must not be found again
+    else if (wnd)
+        wndMap().removePermanent(wnd);
     return wnd;
 }

@@ -7,11 +7,18 @@
 namespace afxdetail
 {
 
+/// What the engine needs of a CWnd beyond its members.
+struct WndAccess
+{
+    static std::unique_ptr<CWnd> makeTemporary(HWND wnd) { return std::unique_ptr<CWnd>(new CWnd(wnd)); }
+    static bool takeOverProcedure(CWnd& object) { return object.takeOverProcedure(); }
+};
+
 struct WndTraits
 {
     using Object = CWnd;
     using Handle = HWND;
-    static std::unique_ptr<CWnd> make(HWND wnd) { return std::unique_ptr<CWnd>(WndAccess::makeTemporary(wnd)); }
+    static std::unique_ptr<CWnd> make(HWND wnd) { return WndAccess::makeTemporary(wnd); }
     static void forget(CWnd& wnd) { wnd.m_hWnd = nullptr; }
 };
 

@@ -34,43 +34,49 @@ bool queueIsEmpty()
     return callOut([&] { return !::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE); });
 }
 
+bool isIdleMessage()
+{
+    CWinThread* thread = AfxGetThread();
+    return !thread || thread->IsIdleMessage(AfxGetCurrentMessage());
+}
+
 } // namespace
 
 int CWnd::RunModalLoop(DWORD flags)
 {
     ASSERT(::IsWindow(m_hWnd));
+    ASSERT(!(m_nFlags & kModalLoop));
     const ModalMark mark(m_nFlags);
     const HWND owner = ::GetParent(m_hWnd);
+    const auto goesOn = [this] { return m_hWnd && ContinueModal(); };
     bool show = (flags & MLF_SHOWONIDLE) && !(GetStyle() & WS_VISIBLE);
     bool idle = true;
     LONG idleCount = 0;
 
     for (;;) {
-        while (idle && queueIsEmpty()) {
+        while (goesOn() && idle && queueIsEmpty()) {
             if (std::exchange(show, false)) {
                 ShowWindow(SW_SHOWNORMAL);
                 UpdateWindow();
+                continue;
             }
             if (!(flags & MLF_NOIDLEMSG) && owner && idleCount == 0)
                 callOut([&] { ::SendMessageW(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd)); });
-            if ((flags & MLF_NOKICKIDLE) || !SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, idleCount++))
-                idle = false;
+            idle = goesOn() && !(flags & MLF_NOKICKIDLE) && SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, idleCount++);
         }
-        if (!ContinueModal()) // ended while idling
-            break;
+        if (!m_hWnd && ContinueModal())
+            return -1; // destroyed without a word
+        if (!goesOn())
+            return m_nModalResult;
         if (!AfxPumpMessage()) {
-            AfxPostQuitMessage(0); // for the loop outside
+            AfxPostQuitMessage(static_cast<int>(AfxGetCurrentMessage()->wParam)); // for the loop outside
             return -1;
         }
-        if (!ContinueModal())
-            break;
-        CWinThread* thread = AfxGetThread();
-        if (!thread || thread->IsIdleMessage(AfxGetCurrentMessage())) {
+        if (isIdleMessage()) {
             idle = true;
             idleCount = 0;
         }
     }
-    return m_nModalResult;
 }
 
 BOOL CWnd::ContinueModal()

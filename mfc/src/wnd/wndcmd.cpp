@@ -1,6 +1,8 @@
 // CWnd: commands and notifications.
 #include <afxwin.h>
 
+#include <detail/pending.h>
+
 namespace
 {
 
@@ -57,16 +59,16 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* result)
 
 void CWnd::UpdateDialogControls(CCmdTarget* target, BOOL disableIfNoHandler)
 {
-    CCmdUI ui;
+    constexpr LRESULT kPushButton = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
     for (HWND child = ::GetTopWindow(m_hWnd); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        CCmdUI ui;
         ui.m_nID = static_cast<UINT>(::GetDlgCtrlID(child)) & 0xFFFF;
         ui.m_pOther = FromHandle(child);
         // The control itself may answer first.
         if (ui.m_pOther->OnCmdMsg(0, static_cast<int>(MAKELONG(0xFFFF, WM_REFLECT_BASE + WM_COMMAND)), &ui, nullptr))
             continue;
         // Only push buttons are disabled for want of a handler: a label or a check box has none and is fine.
-        const auto code = ::SendMessageW(child, WM_GETDLGCODE, 0, 0);
-        const bool pushes = (code & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) != 0;
+        const bool pushes = (ui.m_pOther->SendMessage(WM_GETDLGCODE) & kPushButton) != 0;
         ui.DoUpdate(target, disableIfNoHandler && pushes);
     }
 }

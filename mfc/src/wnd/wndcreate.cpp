@@ -1,8 +1,5 @@
-// CWnd: how an object gets its window and loses it.
+// CWnd: how an object gets its window.
 #include "handlemap.h"
-#include "wndflags.h"
-
-#include <afxole.h>
 
 #include <detail/pending.h>
 
@@ -22,23 +19,22 @@ namespace
 bool isSideWindow(HWND wnd)
 {
     wchar_t name[8]{};
-    ::GetClassNameW(wnd, name, 8);
-    return std::wcscmp(name, L"IME") == 0;
+    ::GetClassNameW(wnd, name, static_cast<int>(std::size(name)));
+    return ::_wcsicmp(name, L"IME") == 0;
 }
 
 /// Ties a window to the object that waits for it, before its first message.
-void takeOver(CWnd* object, HWND wnd)
+void takeOver(CWnd& object, HWND wnd)
 {
-    object->Attach(wnd);
+    if (!object.Attach(wnd))
+        return;
     try {
-        object->PreSubclassWindow();
+        object.PreSubclassWindow();
     } catch (...) {
         afxdetail::storePendingException();
     }
-    const auto before = reinterpret_cast<WNDPROC>(
-        ::SetWindowLongPtrW(wnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
-    if (before != &AfxWndProc)
-        *object->GetSuperWndProcAddr() = before;
+    if (object.m_hWnd == wnd) // PreSubclassWindow may have decided otherwise
+        afxdetail::WndAccess::takeOverProcedure(object);
 }
 
 LRESULT CALLBACK creationHook(int code, WPARAM wParam, LPARAM lParam)
@@ -46,7 +42,7 @@ LRESULT CALLBACK creationHook(int code, WPARAM wParam, LPARAM lParam)
     afxdetail::ThreadState& state = threadState();
     const HWND wnd = reinterpret_cast<HWND>(wParam);
     if (code == HCBT_CREATEWND && state.windowBeingHooked && !isSideWindow(wnd))
-        takeOver(std::exchange(state.windowBeingHooked, nullptr), wnd);
+        takeOver(*std::exchange(state.windowBeingHooked, nullptr), wnd);
     return ::CallNextHookEx(state.cbtHook, code, wParam, lParam);
 }
 
@@ -57,42 +53,24 @@ void AFXAPI AfxHookWindowCreate(CWnd* wnd)
     afxdetail::ThreadState& state = threadState();
     if (state.windowBeingHooked == wnd)
         return;
+    // One that waits further out has got its window before any code could ask for another.
+    ASSERT(!state.windowBeingHooked);
     if (!state.cbtHook)
         state.cbtHook = ::SetWindowsHookExW(WH_CBT, &creationHook, nullptr, ::GetCurrentThreadId());
     if (!state.cbtHook)
         AfxThrowMemoryException();
-    ASSERT(!state.windowBeingHooked);
     state.windowBeingHooked = wnd;
 }
 
 BOOL AFXAPI AfxUnhookWindowCreate()
 {
     afxdetail::ThreadState& state = threadState();
-    if (state.cbtHook && (!state.windowBeingHooked || state.dispatchDepth == 0)) {
-        ::UnhookWindowsHookEx(state.cbtHook);
-        state.cbtHook = nullptr;
-    }
+    if (const HHOOK hook = std::exchange(state.cbtHook, nullptr))
+        ::UnhookWindowsHookEx(hook);
     return std::exchange(state.windowBeingHooked, nullptr) != nullptr;
 }
 
 CWnd::CWnd() = default;
-
-CWnd::CWnd(HWND wnd)
-    : m_hWnd(wnd)
-    , m_nFlags(afxdetail::kBorrowed)
-{
-}
-
-CWnd::~CWnd()
-{
-    if (!m_hWnd || (m_nFlags & afxdetail::kBorrowed) || FromHandlePermanent(m_hWnd) != this)
-        return;
-    // No exception may leave a destructor: what a handler raises now waits for the next call that can.
-    const HWND wnd = m_hWnd;
-    ::DestroyWindow(wnd);
-    if (m_hWnd)
-        Detach();
-}
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs)
 {
@@ -105,9 +83,10 @@ BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs)
 void CWnd::PreSubclassWindow() {}
 
 BOOL CWnd::Create(LPCTSTR className, LPCTSTR title, DWORD style, const RECT& rect, CWnd* parent, UINT id,
-                  void* context)
+                  CCreateContext* context)
 {
     ASSERT(parent);
+    ASSERT(!(style & WS_POPUP));
     return CreateEx(0, className, title, style | WS_CHILD, rect, parent, id, context);
 }
 
@@ -122,6 +101,7 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR title, DWORD style
 BOOL CWnd::CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR title, DWORD style, int x, int y, int width,
                     int height, HWND parent, HMENU idOrMenu, LPVOID param)
 {
+    ASSERT(!m_hWnd);
     CREATESTRUCT cs{};
     cs.dwExStyle = exStyle;
     cs.lpszClass = className;
@@ -140,40 +120,44 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR title, DWORD style
         return FALSE;
     }
 
+    afxdetail::CallOut creation;
     AfxHookWindowCreate(this);
     const HWND wnd =
         ::CreateWindowExW(cs.dwExStyle, cs.lpszClass, cs.lpszName, static_cast<DWORD>(cs.style), cs.x, cs.y, cs.cx,
                           cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
     if (AfxUnhookWindowCreate())
         PostNcDestroy(); // no window came to be, so no message ended it
-    afxdetail::rethrowPendingException();
-    return wnd != nullptr;
+    const bool complete = wnd && !creation.failed();
+    if (wnd && !complete)
+        ::DestroyWindow(wnd);
+    creation.finish();
+    return complete;
 }
 
-BOOL CWnd::DestroyWindow()
+/// False for a window of another program.
+bool CWnd::takeOverProcedure()
 {
-    const HWND wnd = m_hWnd;
-    if (!wnd)
-        return FALSE;
-    const bool permanent = FromHandlePermanent(wnd) == this;
-    const BOOL destroyed = ::DestroyWindow(wnd);
-    // A window with another procedure than ours has not told us; one with ours has, and may have deleted us.
-    if (permanent && FromHandlePermanent(wnd) == this)
-        Detach();
-    afxdetail::rethrowPendingException();
-    return destroyed;
+    const auto before = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
+    if (before && before != &AfxWndProc)
+        *GetSuperWndProcAddr() = before;
+    return before != nullptr;
 }
 
 BOOL CWnd::SubclassWindow(HWND wnd)
 {
     if (!Attach(wnd))
         return FALSE;
-    PreSubclassWindow();
-    const auto before = reinterpret_cast<WNDPROC>(
-        ::SetWindowLongPtrW(wnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
-    if (before != &AfxWndProc)
-        *GetSuperWndProcAddr() = before;
-    return TRUE;
+    try {
+        PreSubclassWindow();
+    } catch (...) {
+        Detach();
+        throw;
+    }
+    if (takeOverProcedure())
+        return TRUE;
+    Detach();
+    return FALSE;
 }
 
 BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent)
@@ -190,48 +174,4 @@ HWND CWnd::UnsubclassWindow()
         ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*super));
     *super = nullptr;
     return Detach();
-}
-
-/// The last message of a window: the object lets go of it, and may delete itself.
-void CWnd::OnNcDestroy()
-{
-    forgetThreadRoles();
-    if (m_pDropTarget)
-        m_pDropTarget->Revoke();
-
-    const HWND wnd = m_hWnd;
-    const auto procedure = ::GetWindowLongPtrW(wnd, GWLP_WNDPROC);
-    Default();
-    WNDPROC* super = GetSuperWndProcAddr();
-    // Given back only where nobody has put another procedure in front of ours meanwhile.
-    if (*super && ::GetWindowLongPtrW(wnd, GWLP_WNDPROC) == procedure &&
-        procedure == reinterpret_cast<LONG_PTR>(&AfxWndProc))
-        ::SetWindowLongPtrW(wnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*super));
-    *super = nullptr;
-    Detach();
-    PostNcDestroy();
-}
-
-void CWnd::forgetThreadRoles()
-{
-    CWinThread* thread = AfxGetThread();
-    if (thread && thread->m_pMainWnd == this) {
-        thread->m_pMainWnd = nullptr;
-        if (thread == AfxGetApp())
-            AfxPostQuitMessage(0); // closing the main window ends the program
-    }
-    if (thread && thread->m_pActiveWnd == this)
-        thread->m_pActiveWnd = nullptr;
-    if (threadState().toolTipOwner == this)
-        CancelToolTips();
-}
-
-void CWnd::PostNcDestroy() {}
-
-void CWnd::OnFinalRelease()
-{
-    if (m_hWnd)
-        DestroyWindow();
-    else
-        PostNcDestroy();
 }

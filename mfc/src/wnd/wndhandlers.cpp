@@ -1,6 +1,8 @@
 // CWnd: what happens to messages that nobody else handles.
 #include <afxwin.h>
 
+#include "wndmenus.h"
+
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_NCDESTROY()
     // offered to the control that they come from
@@ -53,7 +55,12 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT item)
 
 void CWnd::OnMeasureItem(int id, LPMEASUREITEMSTRUCT item)
 {
-    if (item->CtlType != ODT_MENU) {
+    if (item->CtlType == ODT_MENU) {
+        if (CMenu* menu = afxdetail::menuWithItem(*this, item->itemID)) {
+            menu->MeasureItem(item);
+            return;
+        }
+    } else {
         CWnd* control = GetDescendantWindow(id, TRUE);
         if (control && control->SendChildNotifyLastMsg())
             return;
@@ -154,7 +161,7 @@ void CWnd::OnMButtonDown(UINT, CPoint) { Default(); }
 void CWnd::OnMButtonUp(UINT, CPoint) { Default(); }
 void CWnd::OnMButtonDblClk(UINT, CPoint) { Default(); }
 BOOL CWnd::OnMouseWheel(UINT, short, CPoint) { return static_cast<BOOL>(Default()); }
-LRESULT CWnd::OnNcHitTest(CPoint) { return static_cast<LRESULT>(Default()); }
+LRESULT CWnd::OnNcHitTest(CPoint) { return Default(); }
 void CWnd::OnNcMouseMove(UINT, CPoint) { Default(); }
 void CWnd::OnNcLButtonDown(UINT, CPoint) { Default(); }
 void CWnd::OnNcLButtonUp(UINT, CPoint) { Default(); }
@@ -176,7 +183,7 @@ void CWnd::OnInitMenu(CMenu*) { Default(); }
 void CWnd::OnInitMenuPopup(CMenu*, UINT, BOOL) { Default(); }
 void CWnd::OnUnInitMenuPopup(CMenu*, UINT) { Default(); }
 void CWnd::OnMenuSelect(UINT, UINT, HMENU) { Default(); }
-LRESULT CWnd::OnMenuChar(UINT, UINT, CMenu*) { return static_cast<LRESULT>(Default()); }
+LRESULT CWnd::OnMenuChar(UINT, UINT, CMenu*) { return Default(); }
 void CWnd::OnEnterMenuLoop(BOOL) { Default(); }
 void CWnd::OnExitMenuLoop(BOOL) { Default(); }
 void CWnd::OnEnterIdle(UINT, CWnd*) { Default(); }
@@ -188,5 +195,63 @@ void CWnd::OnWinIniChange(LPCTSTR) { Default(); }
 void CWnd::OnDevModeChange(LPTSTR) { Default(); }
 void CWnd::OnFontChange() { Default(); }
 void CWnd::OnTimeChange() { Default(); }
-LRESULT CWnd::OnThemeChanged() { return static_cast<LRESULT>(Default()); }
+LRESULT CWnd::OnThemeChanged() { return Default(); }
+void CWnd::OnAppCommand(CWnd*, UINT, UINT, UINT) { Default(); }
+void CWnd::OnAskCbFormatName(UINT, LPTSTR) { Default(); }
+void CWnd::OnChangeCbChain(HWND, HWND) { Default(); }
+void CWnd::OnChangeUIState(UINT, UINT) { Default(); }
+void CWnd::OnClipboardUpdate() { Default(); }
+void CWnd::OnColorizationColorChanged(DWORD, BOOL) { Default(); }
+void CWnd::OnCompacting(UINT) { Default(); }
+void CWnd::OnCompositionChanged() { Default(); }
+void CWnd::OnDestroyClipboard() { Default(); }
+BOOL CWnd::OnDeviceChange(UINT, DWORD_PTR) { return static_cast<BOOL>(Default()); }
+void CWnd::OnDrawClipboard() { Default(); }
+void CWnd::OnEnterSizeMove() { Default(); }
+void CWnd::OnExitSizeMove() { Default(); }
+void CWnd::OnHotKey(UINT, UINT, UINT) { Default(); }
+void CWnd::OnHScrollClipboard(CWnd*, UINT, UINT) { Default(); }
+void CWnd::OnIconEraseBkgnd(CDC*) { Default(); }
+void CWnd::OnInputDeviceChange(unsigned short) { Default(); }
+void CWnd::OnInputLangChange(UINT, UINT) { Default(); }
+void CWnd::OnInputLangChangeRequest(UINT, UINT) { Default(); }
+UINT CWnd::OnMenuDrag(UINT, CMenu*) { return static_cast<UINT>(Default()); }
+UINT CWnd::OnMenuGetObject(MENUGETOBJECTINFO*) { return static_cast<UINT>(Default()); }
+void CWnd::OnMenuRButtonUp(UINT, CMenu*) { Default(); }
+void CWnd::OnMouseHover(UINT, CPoint) { Default(); }
+void CWnd::OnMouseHWheel(UINT, short, CPoint) { Default(); }
+void CWnd::OnNcMButtonDblClk(UINT, CPoint) { Default(); }
+void CWnd::OnNcMButtonDown(UINT, CPoint) { Default(); }
+void CWnd::OnNcMButtonUp(UINT, CPoint) { Default(); }
+void CWnd::OnNcMouseHover(UINT, CPoint) { Default(); }
+void CWnd::OnNcMouseLeave() { Default(); }
+void CWnd::OnNcRButtonDblClk(UINT, CPoint) { Default(); }
+void CWnd::OnNcRenderingChanged(BOOL) { Default(); }
+void CWnd::OnNcXButtonDblClk(short, UINT, CPoint) { Default(); }
+void CWnd::OnNcXButtonDown(short, UINT, CPoint) { Default(); }
+void CWnd::OnNcXButtonUp(short, UINT, CPoint) { Default(); }
+void CWnd::OnNextMenu(UINT, LPMDINEXTMENU) { Default(); }
+UINT CWnd::OnNotifyFormat(CWnd*, UINT) { return static_cast<UINT>(Default()); }
+void CWnd::OnPaintClipboard(CWnd*, HGLOBAL) { Default(); }
+void CWnd::OnPaletteIsChanging(CWnd*) { Default(); }
+UINT CWnd::OnPowerBroadcast(UINT, UINT) { return static_cast<UINT>(Default()); }
+HCURSOR CWnd::OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(Default()); }
+BOOL CWnd::OnQueryOpen() { return static_cast<BOOL>(Default()); }
+UINT CWnd::OnQueryUIState() { return static_cast<UINT>(Default()); }
+void CWnd::OnRawInput(UINT, HRAWINPUT) { Default(); }
+void CWnd::OnRenderAllFormats() { Default(); }
+void CWnd::OnRenderFormat(UINT) { Default(); }
+void CWnd::OnSessionChange(UINT, UINT) { Default(); }
+void CWnd::OnSizeClipboard(CWnd*, HGLOBAL) { Default(); }
+void CWnd::OnSpoolerStatus(UINT, UINT) { Default(); }
+void CWnd::OnSysDeadChar(UINT, UINT, UINT) { Default(); }
+void CWnd::OnTCard(UINT, DWORD) { Default(); }
+void CWnd::OnUniChar(UINT, UINT, UINT) { Default(); }
+void CWnd::OnUpdateUIState(UINT, UINT) { Default(); }
+void CWnd::OnUserChanged() { Default(); }
+void CWnd::OnVScrollClipboard(CWnd*, UINT, UINT) { Default(); }
+void CWnd::OnWindowMaximizedChanged(BOOL) { Default(); }
+void CWnd::OnXButtonDblClk(UINT, UINT, CPoint) { Default(); }
+void CWnd::OnXButtonDown(UINT, UINT, CPoint) { Default(); }
+void CWnd::OnXButtonUp(UINT, UINT, CPoint) { Default(); }
 // clang-format on

@@ -2,6 +2,10 @@
 #include <afxwin.h>
 #include <afxpriv.h>
 
+#include <detail/pending.h>
+
+using afxdetail::callOut;
+
 namespace
 {
 
@@ -71,61 +75,95 @@ void CWnd::CalcWindowRect(LPRECT clientRect, UINT adjustType)
 
 void AFXAPI AfxRepositionWindow(AFX_SIZEPARENTPARAMS* layout, HWND wnd, LPCRECT rect)
 {
-    const HWND parent = ::GetParent(wnd);
     if (layout && !layout->hDWP)
         return;
     CRect old = screenRectOf(wnd);
-    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&old), 2);
+    ::MapWindowPoints(nullptr, ::GetParent(wnd), reinterpret_cast<POINT*>(&old), 2);
     if (old == *rect)
         return;
     constexpr UINT kFlags = SWP_NOACTIVATE | SWP_NOZORDER;
     const CRect place(rect);
     if (layout)
-        layout->hDWP =
-            ::DeferWindowPos(layout->hDWP, wnd, nullptr, place.left, place.top, place.Width(), place.Height(), kFlags);
+        layout->hDWP = ::DeferWindowPos(layout->hDWP, wnd, nullptr, place.left, place.top, place.Width(),
+                                        place.Height(), kFlags);
     else
-        ::SetWindowPos(wnd, nullptr, place.left, place.top, place.Width(), place.Height(), kFlags);
+        callOut([&] {
+            ::SetWindowPos(wnd, nullptr, place.left, place.top, place.Width(), place.Height(), kFlags);
+        });
 }
+
+namespace
+{
+
+/// A layout pass, whose moves are made together at its end: by finish(), or when an exception ends it.
+class LayoutPass
+{
+public:
+    LayoutPass(const CRect& area, bool stretch, bool moves)
+    {
+        params.rect = area;
+        params.bStretch = stretch;
+        if (moves)
+            params.hDWP = ::BeginDeferWindowPos(8);
+    }
+    ~LayoutPass()
+    {
+        if (params.hDWP)
+            ::EndDeferWindowPos(params.hDWP);
+    }
+    LayoutPass(const LayoutPass&) = delete;
+    LayoutPass& operator=(const LayoutPass&) = delete;
+
+    /// Lets a control bar take its part.
+    void offer(HWND bar)
+    {
+        callOut([&] { ::SendMessageW(bar, WM_SIZEPARENT, 0, reinterpret_cast<LPARAM>(&params)); });
+    }
+
+    void finish()
+    {
+        if (const HDWP moves = std::exchange(params.hDWP, nullptr))
+            callOut([=] { ::EndDeferWindowPos(moves); });
+    }
+
+    AFX_SIZEPARENTPARAMS params{};
+};
+
+} // namespace
 
 void CWnd::RepositionBars(UINT first, UINT last, UINT leftOver, UINT flag, LPRECT rect, LPCRECT client, BOOL stretch)
 {
     const UINT kind = flag & ~static_cast<UINT>(CBRS_ALIGN_ANY);
-    AFX_SIZEPARENTPARAMS layout{};
-    layout.bStretch = stretch;
+    CRect area;
     if (client)
-        layout.rect = *client;
+        area = *client;
     else
-        GetClientRect(&layout.rect);
-    if (kind != reposQuery)
-        layout.hDWP = ::BeginDeferWindowPos(8);
+        GetClientRect(&area);
 
+    LayoutPass pass(area, stretch != FALSE, kind != reposQuery);
     HWND rest = nullptr;
     for (HWND child = ::GetTopWindow(m_hWnd); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
         const UINT id = static_cast<UINT>(::GetDlgCtrlID(child)) & 0xFFFF;
         if (id == leftOver)
             rest = child;
         else if (id >= first && id <= last && FromHandlePermanent(child))
-            ::SendMessageW(child, WM_SIZEPARENT, 0, reinterpret_cast<LPARAM>(&layout));
+            pass.offer(child);
     }
 
+    AFX_SIZEPARENTPARAMS& left = pass.params;
     if (kind == reposQuery) {
-        if (stretch)
-            *rect = layout.rect;
-        else
-            ::SetRect(rect, 0, 0, layout.sizeTotal.cx, layout.sizeTotal.cy);
+        *rect = stretch ? CRect(left.rect) : CRect(CPoint(0, 0), left.sizeTotal);
         return;
     }
     if (leftOver != 0 && rest) {
-        CWnd* left = FromHandle(rest);
         if (kind == reposExtra) {
-            layout.rect.left += rect->left;
-            layout.rect.top += rect->top;
-            layout.rect.right -= rect->right;
-            layout.rect.bottom -= rect->bottom;
+            left.rect.left += rect->left;
+            left.rect.top += rect->top;
+            left.rect.right -= rect->right;
+            left.rect.bottom -= rect->bottom;
         }
-        left->CalcWindowRect(&layout.rect);
-        AfxRepositionWindow(&layout, rest, &layout.rect);
+        FromHandle(rest)->CalcWindowRect(&left.rect);
+        AfxRepositionWindow(&left, rest, &left.rect);
     }
-    if (layout.hDWP)
-        afxdetail::callOut([&] { ::EndDeferWindowPos(layout.hDWP); });
+    pass.finish();
 }

@@ -1,9 +1,10 @@
 // From the system's call to the handler.
-#include <afxwin.h>
+#include "handlemap.h"
+#include "wndactivate.h"
+
 #include <afxpriv.h>
 
 #include <detail/pending.h>
-#include <detail/threadstate.h>
 
 using afxdetail::threadState;
 
@@ -17,6 +18,7 @@ public:
     MessageScope(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam)
         : m_state(threadState())
         , m_previous(m_state.lastMessage)
+        , m_unwindingBefore(std::exchange(m_state.unwindingBefore, std::uncaught_exceptions()))
     {
         m_state.lastMessage.hwnd = wnd;
         m_state.lastMessage.message = message;
@@ -27,30 +29,46 @@ public:
     ~MessageScope()
     {
         --m_state.dispatchDepth;
+        m_state.unwindingBefore = m_unwindingBefore;
         m_state.lastMessage = m_previous;
     }
     MessageScope(const MessageScope&) = delete;
     MessageScope& operator=(const MessageScope&) = delete;
 
-    const MSG& message() const { return m_state.lastMessage; }
+    MSG message() const { return m_state.lastMessage; }
 
 private:
     afxdetail::ThreadState& m_state;
     const MSG m_previous;
+    const int m_unwindingBefore;
 };
-
-/// The result of a message whose handler raised an exception that is on its way to the sender.
-LRESULT failureResult(UINT message)
-{
-    return message == WM_CREATE ? -1 : 0;
-}
 
 LRESULT report(CException* exception, const MSG& message)
 {
+    struct Deleted
+    {
+        CException* exception;
+        ~Deleted() { exception->Delete(); }
+    } const deleted{exception};
     CWinThread* thread = AfxGetThread();
-    const LRESULT result = thread ? thread->ProcessWndProcException(exception, &message) : 0;
-    exception->Delete();
-    return result;
+    return thread ? thread->ProcessWndProcException(exception, &message) : 0;
+}
+
+LRESULT callReporting(CWnd& object, const MSG& message)
+{
+    try {
+        return object.WindowProc(message.message, message.wParam, message.lParam);
+    } catch (CException* exception) {
+        return report(exception, message);
+    }
+}
+
+/// The result of a message whose handler has raised an exception, which is on its way to the sender.
+LRESULT resultOfFailure(HWND wnd, UINT message)
+{
+    if (message == WM_PAINT)
+        ::ValidateRect(wnd, nullptr); // or the window would be asked to paint, and fail, for ever
+    return message == WM_CREATE ? -1 : 0;
 }
 
 bool isColourMessage(UINT message)
@@ -67,19 +85,22 @@ LRESULT CALLBACK AfxWndProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam
     CWnd* object = CWnd::FromHandlePermanent(wnd);
     if (!object)
         return ::DefWindowProcW(wnd, message, wParam, lParam);
-    return AfxCallWndProc(object, wnd, message, wParam, lParam);
+    const LRESULT result = AfxCallWndProc(object, wnd, message, wParam, lParam);
+    // A handler of its own may have kept this from CWnd: a window that is gone must not be found any more.
+    if (message == WM_NCDESTROY)
+        if (CWnd* left = CWnd::FromHandlePermanent(wnd))
+            left->Detach();
+    return result;
 }
 
 LRESULT AFXAPI AfxCallWndProc(CWnd* object, HWND wnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     const MessageScope scope(wnd, message, wParam, lParam);
     try {
-        return object->WindowProc(message, wParam, lParam);
-    } catch (CException* exception) {
-        return report(exception, scope.message());
+        return callReporting(*object, scope.message());
     } catch (...) {
         afxdetail::storePendingException();
-        return failureResult(message);
+        return resultOfFailure(wnd, message);
     }
 }
 
@@ -109,22 +130,14 @@ LRESULT CWnd::Default()
 
 const MSG* PASCAL CWnd::GetCurrentMessage()
 {
-    ASSERT(threadState().dispatchDepth > 0);
     MSG& message = threadState().lastMessage;
     message.time = static_cast<DWORD>(::GetMessageTime());
-    const CPoint point(static_cast<LPARAM>(::GetMessagePos()));
-    message.pt = point;
+    message.pt = CPoint(static_cast<LPARAM>(::GetMessagePos()));
     return &message;
 }
 
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    afxdetail::Call call;
-    call.message = message;
-    call.wParam = wParam;
-    call.lParam = lParam;
-
-    UINT wanted = message;
     switch (message) {
     case WM_COMMAND:
         if (!OnCommand(wParam, lParam))
@@ -140,13 +153,37 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
             *result = answer;
         return TRUE;
     }
-    default:
-        if (isColourMessage(message)) {
-            wanted = WM_CTLCOLOR;
-        } else if (isColourMessage(message - WM_REFLECT_BASE)) {
-            wanted = WM_REFLECT_BASE + WM_CTLCOLOR;
-            call.code = static_cast<int>(message - WM_REFLECT_BASE - WM_CTLCOLORMSGBOX);
+    case WM_ACTIVATE:
+        afxdetail::announceActivation(*this, wParam, reinterpret_cast<HWND>(lParam));
+        break;
+    case WM_SETCURSOR:
+        if (afxdetail::bringPopupToFront(*this, lParam)) {
+            if (result)
+                *result = TRUE;
+            return TRUE;
         }
+        break;
+    case WM_INITMENUPOPUP:
+        threadState().openingMenu = reinterpret_cast<HMENU>(wParam);
+        break;
+    }
+    return callHandler(message, wParam, lParam, result);
+}
+
+BOOL CWnd::callHandler(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    afxdetail::Call call;
+    call.message = message;
+    call.wParam = wParam;
+    call.lParam = lParam;
+
+    // One entry stands for the seven messages that ask for a control's colours.
+    UINT wanted = message;
+    if (isColourMessage(message)) {
+        wanted = WM_CTLCOLOR;
+    } else if (isColourMessage(message - WM_REFLECT_BASE)) {
+        wanted = WM_REFLECT_BASE + WM_CTLCOLOR;
+        call.code = static_cast<int>(message - WM_REFLECT_BASE - WM_CTLCOLORMSGBOX);
     }
 
     const AFX_MSGMAP_ENTRY* entry = afxdetail::findWindowMessage(GetMessageMap(), wanted);

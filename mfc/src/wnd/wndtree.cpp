@@ -24,11 +24,16 @@ CWnd* CWnd::GetOwner() const
     return m_hWndOwner ? FromHandle(m_hWndOwner) : GetParent();
 }
 
+/// The window outside of `wnd` as the system has it: the parent of a child window, the owner of another.
+static HWND outsideOf(HWND wnd)
+{
+    return (::GetWindowLongW(wnd, GWL_STYLE) & WS_CHILD) ? ::GetParent(wnd) : ::GetWindow(wnd, GW_OWNER);
+}
+
 HWND AFXAPI AfxGetParentOwner(HWND wnd)
 {
-    if (CWnd* object = CWnd::FromHandlePermanent(wnd))
-        return object->GetOwner()->GetSafeHwnd();
-    return (::GetWindowLongW(wnd, GWL_STYLE) & WS_CHILD) ? ::GetParent(wnd) : ::GetWindow(wnd, GW_OWNER);
+    const CWnd* object = CWnd::FromHandlePermanent(wnd);
+    return object && object->m_hWndOwner ? object->m_hWndOwner : outsideOf(wnd);
 }
 
 BOOL AFXAPI AfxIsDescendant(HWND ancestor, HWND wnd)
@@ -74,15 +79,28 @@ CFrameWnd* CWnd::GetTopLevelFrame() const
 
 CWnd* CWnd::GetTopLevelParent() const
 {
-    HWND top = m_hWnd;
-    while (const HWND up = AfxGetParentOwner(top))
-        top = up;
+    HWND top = GetSafeHwnd();
+    while (const HWND outside = top ? outsideOf(top) : nullptr)
+        top = outside;
     return FromHandle(top);
 }
 
 CWnd* CWnd::GetTopLevelOwner() const
 {
-    return GetTopLevelParent();
+    HWND top = GetSafeHwnd();
+    while (const HWND outside = top ? AfxGetParentOwner(top) : nullptr)
+        top = outside;
+    return FromHandle(top);
+}
+
+CWnd* PASCAL CWnd::FindWindow(LPCTSTR className, LPCTSTR title)
+{
+    return FromHandle(::FindWindowW(className, title));
+}
+
+CWnd* PASCAL CWnd::FindWindowEx(HWND parent, HWND childAfter, LPCTSTR className, LPCTSTR title)
+{
+    return FromHandle(::FindWindowExW(parent, childAfter, className, title));
 }
 
 BOOL CWnd::IsTopParentActive() const
@@ -116,21 +134,35 @@ CWnd* PASCAL CWnd::GetSafeOwner(CWnd* parent, HWND* topLevel)
     return FromHandle(wnd);
 }
 
-CWnd* CWnd::GetDescendantWindow(int id, BOOL onlyPermanent) const
+/// The child with a number, else the first one further down; null when there is none.
+static HWND descendant(HWND wnd, int id, bool onlyPermanent)
 {
-    if (const HWND direct = ::GetDlgItem(m_hWnd, id)) {
-        // A window further down with the same number does not count when a nearer one has it.
-        if (CWnd* found = ::GetTopWindow(direct) ? FromHandle(direct)->GetDescendantWindow(id, onlyPermanent) : nullptr)
-            return found;
-        if (!onlyPermanent)
-            return FromHandle(direct);
-        if (CWnd* permanent = FromHandlePermanent(direct))
-            return permanent;
-    }
-    for (HWND child = ::GetTopWindow(m_hWnd); child; child = ::GetWindow(child, GW_HWNDNEXT))
-        if (CWnd* found = FromHandle(child)->GetDescendantWindow(id, onlyPermanent))
+    const HWND direct = ::GetDlgItem(wnd, id);
+    if (direct && (!onlyPermanent || CWnd::FromHandlePermanent(direct)))
+        return direct;
+    for (HWND child = ::GetTopWindow(wnd); child; child = ::GetWindow(child, GW_HWNDNEXT))
+        if (const HWND found = descendant(child, id, onlyPermanent))
             return found;
     return nullptr;
+}
+
+CWnd* CWnd::GetDescendantWindow(int id, BOOL onlyPermanent) const
+{
+    return FromHandle(descendant(m_hWnd, id, onlyPermanent != FALSE));
+}
+
+/// In the order of the screen, the front one first.
+static std::vector<HWND> childrenOf(HWND wnd)
+{
+    std::vector<HWND> children;
+    for (HWND child = ::GetTopWindow(wnd); child; child = ::GetWindow(child, GW_HWNDNEXT))
+        children.push_back(child);
+    return children;
+}
+
+long CWnd::GetWindowedChildCount()
+{
+    return static_cast<long>(childrenOf(m_hWnd).size());
 }
 
 void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL deep, BOOL onlyPermanent)
@@ -141,12 +173,17 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
 void PASCAL CWnd::SendMessageToDescendants(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL deep,
                                            BOOL onlyPermanent)
 {
-    for (HWND child = ::GetTopWindow(wnd); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
-        if (!onlyPermanent)
-            afxdetail::callOut([&] { ::SendMessageW(child, message, wParam, lParam); });
-        else if (CWnd* object = FromHandlePermanent(child))
-            AfxCallWndProc(object, child, message, wParam, lParam);
-        if (deep && ::GetTopWindow(child))
+    for (const HWND child : childrenOf(wnd)) {
+        if (!::IsWindow(child)) // another's handler has destroyed it
+            continue;
+        CWnd* const object = FromHandlePermanent(child);
+        afxdetail::callOut([&] {
+            if (!onlyPermanent)
+                ::SendMessageW(child, message, wParam, lParam);
+            else if (object)
+                AfxCallWndProc(object, child, message, wParam, lParam);
+        });
+        if (deep)
             SendMessageToDescendants(child, message, wParam, lParam, deep, onlyPermanent);
     }
 }

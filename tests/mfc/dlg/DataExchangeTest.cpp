@@ -30,7 +30,7 @@ public:
             .control(L"BUTTON", 300, BS_AUTOCHECKBOX | WS_GROUP)
             .control(L"LISTBOX", 400, WS_BORDER)
             .control(L"COMBOBOX", 500, CBS_DROPDOWN);
-        CreateIndirect(m_template.get(), nullptr, nullptr, nullptr);
+        CreateIndirect(m_template.get(), nullptr, nullptr);
         for (const wchar_t* tree : {L"Oak", L"Elm", L"Ash"}) {
             SendDlgItemMessage(400, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(tree));
             SendDlgItemMessage(500, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(tree));

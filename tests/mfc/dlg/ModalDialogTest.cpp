@@ -198,7 +198,8 @@ TEST(ModalDialog, AQuitEndsItAndTheLoopOutside)
 {
     TestDialog dialog;
     auto story = whenShown().then([] { ::PostQuitMessage(3); }).start();
-    EXPECT_EQ(dialog.DoModal(), -1);
+    dialog.DoModal();
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
     MSG message{};
     bool quit = false;
     while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))

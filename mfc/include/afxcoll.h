@@ -1,0 +1,4 @@
+// Collections of strings and pointers.
+#pragma once
+
+#include <afx/Collections.h>

@@ -1,0 +1,5 @@
+// Collections of any type.
+#pragma once
+
+#include <afx/Array.h>
+#include <afx/List.h>

@@ -1,0 +1,127 @@
+// CFrameWnd: control bars and layout.
+#include <afxext.h>
+#include <afxpriv.h>
+
+namespace
+{
+
+/// Sets a flag for the rest of the scope.
+class FlagScope
+{
+public:
+    explicit FlagScope(bool& flag)
+        : m_flag(flag)
+    {
+        m_flag = true;
+    }
+    ~FlagScope() { m_flag = false; }
+    FlagScope(const FlagScope&) = delete;
+    FlagScope& operator=(const FlagScope&) = delete;
+
+private:
+    bool& m_flag;
+};
+
+} // namespace
+
+// Layout
+
+void CFrameWnd::RecalcLayout(BOOL)
+{
+    if (m_layingOut)
+        return;
+    const FlagScope layingOut(m_layingOut);
+    m_layoutPending = false;
+    applyPendingBars();
+    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposExtra, &m_rectBorder);
+}
+
+void CFrameWnd::OnSize(UINT type, int cx, int cy)
+{
+    CWnd::OnSize(type, cx, cy);
+    if (type != SIZE_MINIMIZED)
+        RecalcLayout();
+}
+
+BOOL CFrameWnd::OnEraseBkgnd(CDC* dc)
+{
+    // The view covers everything: erasing below it would flicker.
+    return m_pViewActive ? TRUE : CWnd::OnEraseBkgnd(dc);
+}
+
+/// A child has changed its size. With a rectangle it asks how much room there is for the view.
+LRESULT CFrameWnd::OnRecalcParent(WPARAM, LPARAM rect)
+{
+    if (!rect) {
+        RecalcLayout();
+        return FALSE;
+    }
+    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposQuery, reinterpret_cast<LPRECT>(rect));
+    return TRUE;
+}
+
+LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM)
+{
+    if (m_layoutPending)
+        RecalcLayout();
+    return 0;
+}
+
+// Control bars
+
+void CFrameWnd::addControlBar(CControlBar* bar)
+{
+    m_bars.push_back(bar);
+}
+
+void CFrameWnd::removeControlBar(CControlBar* bar)
+{
+    std::erase(m_bars, bar);
+}
+
+CControlBar* CFrameWnd::GetControlBar(UINT id)
+{
+    for (CControlBar* bar : m_bars)
+        if (bar->m_hWnd && static_cast<UINT>(bar->GetDlgCtrlID()) == id)
+            return bar;
+    return nullptr;
+}
+
+void CFrameWnd::ShowControlBar(CControlBar* bar, BOOL show, BOOL delay)
+{
+    bar->delayShow(show != FALSE);
+    if (delay)
+        m_layoutPending = true;
+    else
+        RecalcLayout();
+}
+
+void CFrameWnd::applyPendingBars()
+{
+    for (CControlBar* bar : std::vector<CControlBar*>(m_bars)) {
+        const bool hadFocus = bar->m_hWnd && AfxIsDescendant(bar->m_hWnd, ::GetFocus());
+        bar->applyPending();
+        if (hadFocus && !bar->IsVisible())
+            SetFocus();
+    }
+}
+
+BOOL CFrameWnd::OnBarCheck(UINT id)
+{
+    CControlBar* bar = GetControlBar(id);
+    if (!bar)
+        return FALSE;
+    ShowControlBar(bar, !bar->IsVisible(), FALSE);
+    return TRUE;
+}
+
+void CFrameWnd::OnUpdateControlBarMenu(CCmdUI* ui)
+{
+    const CControlBar* bar = GetControlBar(ui->m_nID);
+    if (!bar) {
+        ui->ContinueRouting();
+        return;
+    }
+    ui->Enable();
+    ui->SetCheck(bar->IsVisible());
+}
