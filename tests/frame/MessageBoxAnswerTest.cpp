@@ -10,10 +10,17 @@ using namespace ovotest;
 namespace
 {
 
-/// The answer when the box is closed by its title bar's button or Alt+F4.
+/// The middle of the close box in the title bar.
+CPoint closeBox()
+{
+    const CRect box = screenRect(openBox());
+    return {box.right - ::GetSystemMetrics(SM_CXDLGFRAME) - ::GetSystemMetrics(SM_CXSIZE) / 2,
+            box.top + ::GetSystemMetrics(SM_CYDLGFRAME) + ::GetSystemMetrics(SM_CYCAPTION) / 2};
+}
+
 int answerByClosing(UINT type)
 {
-    auto closing = whenOpen().holding(VK_MENU).key(VK_F4).letGo(VK_MENU).start();
+    auto closing = whenOpen().click(&closeBox).start();
     return show({.type = type});
 }
 
