@@ -105,7 +105,7 @@ using ReflectedDeleteItemHandler = WindowHandler<void(LPDELETEITEMSTRUCT), L<LPD
 using ReflectedCompareItemHandler = WindowHandler<int(LPCOMPAREITEMSTRUCT), L<LPCOMPAREITEMSTRUCT>>;
 using ReflectedCharToItemHandler = WindowHandler<int(UINT, UINT), LowW<UINT>, HighW<UINT>>;
 using ReflectedHScrollHandler = WindowHandler<void(UINT, UINT), LowW<UINT>, HighW<UINT>>;
-using ReflectedParentNotifyHandler = WindowHandler<void(UINT, LPARAM), LowW<UINT>, L<LPARAM>>;
+using ReflectedParentNotifyHandler = WindowHandler<void(UINT, LPARAM), W<UINT>, L<LPARAM>>;
 using MessageHandler = WindowHandler<LRESULT(WPARAM, LPARAM), W<WPARAM>, L<LPARAM>>;
 using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LPARAM>>;
 

@@ -167,14 +167,38 @@ public:
     void operator&=(const RECT& rect) { ::IntersectRect(this, this, &rect); }
     void operator|=(const RECT& rect) { ::UnionRect(this, this, &rect); }
 
-    CRect operator+(POINT point) const { return changed([&](CRect& r) { r += point; }); }
-    CRect operator-(POINT point) const { return changed([&](CRect& r) { r -= point; }); }
-    CRect operator+(SIZE size) const { return changed([&](CRect& r) { r += size; }); }
-    CRect operator-(SIZE size) const { return changed([&](CRect& r) { r -= size; }); }
-    CRect operator+(LPCRECT rect) const { return changed([&](CRect& r) { r += rect; }); }
-    CRect operator-(LPCRECT rect) const { return changed([&](CRect& r) { r -= rect; }); }
-    CRect operator&(const RECT& rect) const { return changed([&](CRect& r) { r &= rect; }); }
-    CRect operator|(const RECT& rect) const { return changed([&](CRect& r) { r |= rect; }); }
+    CRect operator+(POINT point) const
+    {
+        return changed([&](CRect& r) { r += point; });
+    }
+    CRect operator-(POINT point) const
+    {
+        return changed([&](CRect& r) { r -= point; });
+    }
+    CRect operator+(SIZE size) const
+    {
+        return changed([&](CRect& r) { r += size; });
+    }
+    CRect operator-(SIZE size) const
+    {
+        return changed([&](CRect& r) { r -= size; });
+    }
+    CRect operator+(LPCRECT rect) const
+    {
+        return changed([&](CRect& r) { r += rect; });
+    }
+    CRect operator-(LPCRECT rect) const
+    {
+        return changed([&](CRect& r) { r -= rect; });
+    }
+    CRect operator&(const RECT& rect) const
+    {
+        return changed([&](CRect& r) { r &= rect; });
+    }
+    CRect operator|(const RECT& rect) const
+    {
+        return changed([&](CRect& r) { r |= rect; });
+    }
 
 private:
     template <class Change>
@@ -186,9 +210,27 @@ private:
     }
 };
 
-inline CPoint CSize::operator+(POINT point) const { return CPoint(cx + point.x, cy + point.y); }
-inline CPoint CSize::operator-(POINT point) const { return CPoint(cx - point.x, cy - point.y); }
-inline CRect CSize::operator+(const RECT* rect) const { return CRect(rect) + *this; }
-inline CRect CSize::operator-(const RECT* rect) const { return CRect(rect) - *this; }
-inline CRect CPoint::operator+(const RECT* rect) const { return CRect(rect) + *this; }
-inline CRect CPoint::operator-(const RECT* rect) const { return CRect(rect) - *this; }
+inline CPoint CSize::operator+(POINT point) const
+{
+    return CPoint(cx + point.x, cy + point.y);
+}
+inline CPoint CSize::operator-(POINT point) const
+{
+    return CPoint(cx - point.x, cy - point.y);
+}
+inline CRect CSize::operator+(const RECT* rect) const
+{
+    return CRect(rect) + *this;
+}
+inline CRect CSize::operator-(const RECT* rect) const
+{
+    return CRect(rect) - *this;
+}
+inline CRect CPoint::operator+(const RECT* rect) const
+{
+    return CRect(rect) + *this;
+}
+inline CRect CPoint::operator-(const RECT* rect) const
+{
+    return CRect(rect) - *this;
+}

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <vector>
 
-/// Elements in a row, with indexes from 0. Elements are copied and moved as their type says; new ones are made
-/// by its default constructor.
+/// Elements in a row, with indexes from 0. Elements are copied and moved as their type says; new ones are
+/// made by its default constructor.
 template <class TYPE, class ARG_TYPE = const TYPE&>
 class CArray : public CObject
 {

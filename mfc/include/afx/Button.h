@@ -59,7 +59,7 @@ public:
     BOOL SetSplitGlyph(TCHAR glyph);
     BOOL SetDropDownState(BOOL dropDown);
 
-    /// Draws a button of style BS_OWNERDRAW, which must override this.
+    /// Draws a button of style BS_OWNERDRAW. Does nothing by default.
     virtual void DrawItem(LPDRAWITEMSTRUCT item);
 
 protected:

@@ -70,11 +70,11 @@ public:
     LCID SetLocale(LCID locale);
     BOOL GetComboBoxInfo(PCOMBOBOXINFO info) const;
 
-    // Owner-drawn lists override these; the first three must be overridden where the style asks for them.
+    // For owner-drawn lists to override. They do nothing by default.
     virtual void DrawItem(LPDRAWITEMSTRUCT item);
     virtual void MeasureItem(LPMEASUREITEMSTRUCT item);
     virtual int CompareItem(LPCOMPAREITEMSTRUCT items); ///< -1, 0 or 1.
-    virtual void DeleteItem(LPDELETEITEMSTRUCT item);   ///< Does nothing by default.
+    virtual void DeleteItem(LPDELETEITEMSTRUCT item);
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;

@@ -5,7 +5,8 @@
 
 #include <cstdarg>
 
-/// Called for a failed ASSERT: says where on the debugger's channel and the error output, and ends the program.
+/// Called for a failed ASSERT: says where on the debugger's channel and the error output, and ends the
+/// program.
 OVOMFC_API void AFXAPI AfxAssertFailedLine(const char* file, int line);
 
 /// Writes to the debugger's channel, in the manner of wprintf (%s is wide).
@@ -40,10 +41,10 @@ OVOMFC_API void AFXAPI AfxAssertValidObject(const CObject* object, const char* f
 #define TRACE2(format, a, b) TRACE(_T(format), a, b)
 #define TRACE3(format, a, b, c) TRACE(_T(format), a, b, c)
 #define ASSERT_KINDOF(className, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(className)))
-#define ENSURE(condition)                                                                                         \
-    do {                                                                                                          \
-        if (!(condition))                                                                                         \
-            AfxThrowInvalidArgException();                                                                        \
+#define ENSURE(condition)                                                                                    \
+    do {                                                                                                     \
+        if (!(condition))                                                                                    \
+            AfxThrowInvalidArgException();                                                                   \
     } while (0)
 #define DEBUG_NEW new
 #define UNUSED(x)

@@ -17,8 +17,8 @@ public:
     /// Frees the object if it lies on the heap.
     void Delete();
 
-    /// A text for the user, cut to `maxError` characters with the terminating zero. `helpContext` may be null.
-    /// FALSE, and an empty text, when there is none.
+    /// A text for the user, cut to `maxError` characters with the terminating zero. `helpContext` may be
+    /// null. FALSE, and an empty text, when there is none.
     virtual BOOL GetErrorMessage(LPTSTR error, UINT maxError, UINT* helpContext = nullptr) const;
 
     /// Shows the text in a message box; `messageId` is the string shown when there is no text.
@@ -156,12 +156,12 @@ private:
 //     }
 //     END_CATCH
 #define TRY try
-#define CATCH(exceptionClass, name)                                                                               \
-    catch (exceptionClass* name)                                                                                  \
-    {                                                                                                             \
+#define CATCH(exceptionClass, name)                                                                          \
+    catch (exceptionClass * name)                                                                            \
+    {                                                                                                        \
         afxdetail::CaughtException caughtException(name);
-#define AND_CATCH(exceptionClass, name)                                                                           \
-    }                                                                                                             \
+#define AND_CATCH(exceptionClass, name)                                                                      \
+    }                                                                                                        \
     CATCH(exceptionClass, name)
 #define END_CATCH }
 #define CATCH_ALL(name) CATCH(CException, name)

@@ -7,7 +7,8 @@ struct AFX_EXTENSION_MODULE
 {
     BOOL bInitialized = FALSE;
     HMODULE hModule = nullptr;
-    HMODULE hResource = nullptr; ///< where CDynLinkLibrary lets resources be looked for; hModule unless changed
+    HMODULE hResource =
+        nullptr; ///< where CDynLinkLibrary lets resources be looked for; hModule unless changed
     CRuntimeClass* pFirstSharedClass = nullptr;
     void* pFirstSharedFactory = nullptr;
 };
@@ -15,8 +16,7 @@ struct AFX_EXTENSION_MODULE
 /// Process attach: fills the record. TRUE without change when it is initialised already; FALSE on failure.
 OVOMFC_API BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE module);
 
-/// Process detach: deletes the module's CDynLinkLibrary objects (`all`: everybody's), and forgets its window
-/// classes and class records.
+/// Process detach: deletes the module's CDynLinkLibrary objects (`all`: everybody's) and its window classes.
 OVOMFC_API void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL all = FALSE);
 
 /// Joins an extension module to the resource search while it lives. Made with `new` at process attach; the

@@ -51,7 +51,7 @@ public:
     BOOL ClearFilter(int column);
     BOOL ClearAllFilters();
 
-    /// Draws an item of format HDF_OWNERDRAW; the header must override this then.
+    /// Draws an item of format HDF_OWNERDRAW. Does nothing by default.
     virtual void DrawItem(LPDRAWITEMSTRUCT item);
 
 protected:

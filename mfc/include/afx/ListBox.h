@@ -67,11 +67,11 @@ public:
     LCID GetLocale() const;
     LCID SetLocale(LCID locale);
 
-    // Owner-drawn lists override these; the first four must be overridden where the style asks for them.
+    // For owner-drawn lists to override. They do nothing by default.
     virtual void DrawItem(LPDRAWITEMSTRUCT item);
     virtual void MeasureItem(LPMEASUREITEMSTRUCT item);
     virtual int CompareItem(LPCOMPAREITEMSTRUCT items); ///< -1, 0 or 1.
-    virtual void DeleteItem(LPDELETEITEMSTRUCT item);   ///< Does nothing by default.
+    virtual void DeleteItem(LPDELETEITEMSTRUCT item);
     /// With LBS_WANTKEYBOARDINPUT: -2 for no further action, -1 for the default, else the index to act on.
     virtual int VKeyToItem(UINT key, UINT index);
     virtual int CharToItem(UINT key, UINT index);

@@ -177,7 +177,7 @@ public:
     UINT GetGroupState(int groupId, DWORD mask) const;
     BOOL SortGroups(PFNLVGROUPCOMPARE compare, LPVOID data);
 
-    /// Draws a row of a list of style LVS_OWNERDRAWFIXED, which must override this.
+    /// Draws a row of a list of style LVS_OWNERDRAWFIXED. Does nothing by default.
     virtual void DrawItem(LPDRAWITEMSTRUCT item);
 
 protected:

@@ -38,18 +38,18 @@ OVOMFC_API void AFXAPI AfxSetResourceHandle(HINSTANCE module);
 /// the current one when none has it. Name and type may be integers (MAKEINTRESOURCE).
 OVOMFC_API HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR name, LPCTSTR type);
 
-/// A string resource along the resource chain into a buffer of `maxLength` characters with the terminating zero;
-/// gives its length, 0 when there is none.
+/// A string resource along the resource chain into a buffer of `maxLength` characters with the terminating
+/// zero; gives its length, 0 when there is none.
 OVOMFC_API int AFXAPI AfxLoadString(UINT id, LPTSTR buffer, UINT maxLength = 256);
 
 /// The program's object, NULL before it is made and in programs without one.
 OVOMFC_API CWinApp* AFXAPI AfxGetApp();
 OVOMFC_API LPCTSTR AFXAPI AfxGetAppName();
 
-/// Registers a window class whose name is made from the arguments, once for equal ones, and gives the name. It
-/// stays valid until the next call. Throws CResourceException on failure.
-OVOMFC_API LPCTSTR AFXAPI AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
-                                              HICON icon = nullptr);
+/// Registers a window class whose name is made from the arguments, once for equal ones, and gives the name.
+/// It stays valid until the next call. Throws CResourceException on failure.
+OVOMFC_API LPCTSTR AFXAPI AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr,
+                                              HBRUSH background = nullptr, HICON icon = nullptr);
 /// Registers a window class of a name of its own, unless it is registered already. FALSE on failure.
 OVOMFC_API BOOL AFXAPI AfxRegisterClass(WNDCLASS* wndClass);
 

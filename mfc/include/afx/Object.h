@@ -22,7 +22,7 @@ struct OVOMFC_API CRuntimeClass
     UINT m_wSchema;                            ///< 0xFFFF: objects are not serialised
     CObject*(PASCAL* m_pfnCreateObject)();     ///< null: objects cannot be created by name
     CRuntimeClass*(PASCAL* m_pfnGetBaseClass)();
-    CRuntimeClass* m_pNextClass = nullptr;     ///< of the list that FromName searches
+    CRuntimeClass* m_pNextClass = nullptr;     ///< of the list that FromName searches; the framework's own
 
     /// A new object made by the default constructor, owned by the caller; NULL when the class has none for it.
     CObject* CreateObject();
@@ -30,7 +30,7 @@ struct OVOMFC_API CRuntimeClass
     /// Whether the class is `base` or derived from it.
     BOOL IsDerivedFrom(const CRuntimeClass* base) const;
 
-    /// The class of this name, or NULL. Only classes whose record has been asked for are known.
+    /// The class of this name, or NULL. The classes of a module are known while it is loaded.
     static CRuntimeClass* PASCAL FromName(LPCSTR name);
     static CRuntimeClass* PASCAL FromName(LPCWSTR name);
     static CObject* PASCAL CreateObject(LPCSTR name);
@@ -40,8 +40,18 @@ struct OVOMFC_API CRuntimeClass
 namespace afxdetail
 {
 
-/// Adds the record to the list that FromName searches, and gives it back.
-OVOMFC_API CRuntimeClass* enlist(CRuntimeClass* record);
+/// Keeps a class on the list that FromName searches, as long as the module with its record is loaded.
+class OVOMFC_API Enlistment
+{
+public:
+    explicit Enlistment(CRuntimeClass* record);
+    ~Enlistment();
+    Enlistment(const Enlistment&) = delete;
+    Enlistment& operator=(const Enlistment&) = delete;
+
+private:
+    CRuntimeClass* m_record;
+};
 
 } // namespace afxdetail
 
@@ -81,18 +91,21 @@ public:                                                                         
     DECLARE_DYNAMIC(className)                                                                                    \
     static CObject* PASCAL CreateObject();
 
+#define AFX_JOINED_(a, b) a##b
+#define AFX_NUMBERED_(name, number) AFX_JOINED_(name, number)
+
 #define AFX_IMPLEMENT_RUNTIMECLASS_(className, baseClassName, schema, createFunction)                             \
     CRuntimeClass* PASCAL className::GetThisClass()                                                               \
     {                                                                                                             \
         static CRuntimeClass record{#className, static_cast<int>(sizeof(className)), schema, createFunction,     \
                                     &baseClassName::GetThisClass};                                                \
-        static CRuntimeClass* const enlisted = afxdetail::enlist(&record);                                        \
-        return enlisted;                                                                                          \
+        return &record;                                                                                           \
     }                                                                                                             \
     CRuntimeClass* className::GetRuntimeClass() const                                                             \
     {                                                                                                             \
         return className::GetThisClass();                                                                         \
-    }
+    }                                                                                                             \
+    static const afxdetail::Enlistment AFX_NUMBERED_(afxEnlistment, __COUNTER__)(className::GetThisClass());
 
 #define IMPLEMENT_DYNAMIC(className, baseClassName)                                                               \
     AFX_IMPLEMENT_RUNTIMECLASS_(className, baseClassName, 0xFFFF, nullptr)

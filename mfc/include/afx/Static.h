@@ -23,7 +23,7 @@ public:
     HENHMETAFILE SetEnhMetaFile(HENHMETAFILE metafile);
     HENHMETAFILE GetEnhMetaFile() const;
 
-    /// Draws a control of style SS_OWNERDRAW, which must override this.
+    /// Draws a control of style SS_OWNERDRAW. Does nothing by default.
     virtual void DrawItem(LPDRAWITEMSTRUCT item);
 
 protected:

@@ -37,7 +37,7 @@ public:
     CString GetTipText(int pane) const;   ///< At most 255 characters.
     COLORREF SetBkColor(COLORREF colour); ///< Gives the colour of before.
 
-    /// Draws a pane of type SBT_OWNERDRAW; the bar must override this then.
+    /// Draws a pane of type SBT_OWNERDRAW. Does nothing by default.
     virtual void DrawItem(LPDRAWITEMSTRUCT item);
 
 protected:

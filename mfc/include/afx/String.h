@@ -7,9 +7,9 @@
 #include <cstdarg>
 #include <string_view>
 
-/// Wide text. One pointer to a counted buffer: copies are cheap, and the first change makes a copy of its own.
-/// Objects that share a buffer belong to one thread. Positions and lengths count wide characters. Passing a
-/// CString through an ellipsis is not portable: write `(LPCTSTR)text`.
+/// Wide text. One pointer to a counted buffer: copies are cheap, and the first change makes a copy of its
+/// own. Objects that share a buffer belong to one thread. Positions and lengths count wide characters.
+/// Passing a CString through an ellipsis is not portable: write `(LPCTSTR)text`.
 class OVOMFC_API CString
 {
 public:

@@ -60,7 +60,7 @@ public:
     DWORD GetExtendedStyle();
     DWORD SetExtendedStyle(DWORD style, DWORD mask = 0);
 
-    /// Draws a tab of a control of style TCS_OWNERDRAWFIXED, which must override this.
+    /// Draws a tab of a control of style TCS_OWNERDRAWFIXED. Does nothing by default.
     virtual void DrawItem(LPDRAWITEMSTRUCT item);
 
 protected:

@@ -22,8 +22,8 @@ class OVOMFC_API CWinApp : public CWinThread
     DECLARE_DYNAMIC(CWinApp)
 
 public:
-    /// `name`: shown in message boxes and used for the profile; NULL takes the string AFX_IDS_APP_TITLE or the
-    /// program's file name.
+    /// `name`: shown in message boxes and used for the profile; NULL takes the string AFX_IDS_APP_TITLE or
+    /// the program's file name.
     explicit CWinApp(LPCTSTR name = nullptr);
     ~CWinApp() override;
 
@@ -56,8 +56,8 @@ public:
     HICON LoadStandardIcon(LPCTSTR name) const;
     HICON LoadOEMIcon(UINT id) const;
 
-    // The profile: the registry once a key is set, a private INI file before. An empty entry name is one like any
-    // other.
+    // The profile: the registry once a key is set, a private INI file before. An empty entry name is one like
+    // any other.
     void SetRegistryKey(LPCTSTR company);
     void SetRegistryKey(UINT companyId);
     UINT GetProfileInt(LPCTSTR section, LPCTSTR entry, int defaultValue);
@@ -144,9 +144,8 @@ OVOMFC_API int AFXAPI AfxMessageBox(UINT textId, UINT type = MB_OK, UINT helpId 
 OVOMFC_API BOOL AFXAPI AfxWinInit(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine, int show);
 /// What wWinMain does.
 OVOMFC_API int AFXAPI AfxWinMain(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine, int show);
+/// Ends what the framework has begun, OLE first of all. AfxWinMain calls it; programs with a main function of
+/// their own do.
 OVOMFC_API void AFXAPI AfxWinTerm();
-
-/// Work to be done when the program ends, last added first.
-OVOMFC_API void AFXAPI AfxRegisterTerm(void (*work)());
 
 OVOMFC_API BOOL AFXAPI AfxEnableControlContainer();

@@ -14,20 +14,14 @@ public:
     CWinApp* app = nullptr;
     HINSTANCE instance = ::GetModuleHandleW(nullptr);
     HINSTANCE resources = instance;
-    CDynLinkLibrary* libraries = nullptr; ///< from the newest to the oldest
+    CDynLinkLibrary* libraries = nullptr;                    ///< from the newest to the oldest
     std::set<std::pair<HINSTANCE, std::wstring>> wndClasses; ///< that were registered through the framework
 };
 
 namespace afxdetail
 {
 
-/// The module that an address lies in.
-HINSTANCE moduleOf(const void* address);
-
 /// The module of ovomfc.dll itself.
 HINSTANCE frameworkModule();
-
-/// Takes the class records of a module that is about to go off the list that FromName searches.
-void delistClassesOf(HMODULE module);
 
 } // namespace afxdetail

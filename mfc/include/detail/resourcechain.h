@@ -15,8 +15,8 @@ HINSTANCE firstInResourceChain(const std::function<bool(HINSTANCE)>& question);
 /// A string of one module, in the module's own memory; empty when there is none.
 std::wstring_view stringResource(HINSTANCE module, UINT id, WORD language);
 
-/// A string of the first module of the chain that has that very string. Strings lie in blocks of sixteen; another
-/// module may have the block, but not the string.
+/// A string of the first module of the chain that has that very string. Strings lie in blocks of sixteen;
+/// another module may have the block, but not the string.
 std::wstring_view stringResource(UINT id);
 
 } // namespace afxdetail

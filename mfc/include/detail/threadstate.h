@@ -29,15 +29,15 @@ struct ThreadState
     CWnd* windowBeingHooked = nullptr;
     HHOOK cbtHook = nullptr;
     std::vector<TemporaryPurge> temporaryPurges; ///< one a kind of handle
-    int dispatchDepth = 0; ///< window procedures of ours on the stack
+    int dispatchDepth = 0;                       ///< window procedures of ours on the stack
     std::exception_ptr pendingException;
-    int callOuts = 0;         ///< calls into the system on the stack that raise what is kept meanwhile
-    int unwindingBefore = 0;  ///< exceptions that were unwinding the stack when the message came in
-    HMENU openingMenu = nullptr; ///< the popup that was about to be shown last
-    CWnd* toolTip = nullptr;        ///< the thread's tooltip control
-    CWnd* toolTipOwner = nullptr;   ///< the window whose tool it shows
-    INT_PTR toolTipHit = -1;        ///< the tool under the pointer, -1 for none
-    UINT toolTipFlags = 0;          ///< of that tool, TTF_
+    int callOuts = 0;             ///< calls into the system on the stack that raise what is kept meanwhile
+    int unwindingBefore = 0;      ///< exceptions that were unwinding the stack when the message came in
+    HMENU openingMenu = nullptr;  ///< the popup that was about to be shown last
+    CWnd* toolTip = nullptr;      ///< the thread's tooltip control
+    CWnd* toolTipOwner = nullptr; ///< the window whose tool it shows
+    INT_PTR toolTipHit = -1;      ///< the tool under the pointer, -1 for none
+    UINT toolTipFlags = 0;        ///< of that tool, TTF_
     int waitCursorCount = 0;
     HCURSOR waitCursorRestore = nullptr;
     wchar_t wndClassName[96]{}; ///< the name that AfxRegisterWndClass gave last

@@ -2,6 +2,7 @@
 #include <afxwin.h>
 
 #include <detail/modulestate.h>
+#include <detail/termwork.h>
 #include <detail/threadstate.h>
 
 #include <commctrl.h>
@@ -61,7 +62,7 @@ int AFXAPI AfxWinMain(HINSTANCE instance, HINSTANCE previous, LPTSTR commandLine
     return result;
 }
 
-void AFXAPI AfxRegisterTerm(void (*work)())
+void afxdetail::registerTermWork(void (*work)())
 {
     termWork().push_back(work);
 }

@@ -18,8 +18,8 @@ UniqueKey subKey(HKEY parent, LPCTSTR name)
 {
     HKEY key = nullptr;
     if (parent)
-        ::RegCreateKeyExW(parent, name, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_READ | KEY_WRITE, nullptr, &key,
-                          nullptr);
+        ::RegCreateKeyExW(parent, name, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_READ | KEY_WRITE, nullptr,
+                          &key, nullptr);
     return UniqueKey(key);
 }
 
@@ -38,7 +38,8 @@ bool readValue(HKEY section, LPCTSTR entry, DWORD type, std::vector<BYTE>& data)
         actual != type)
         return false;
     data.resize(bytes);
-    return ::RegQueryValueExW(section, valueName(entry), nullptr, nullptr, data.data(), &bytes) == ERROR_SUCCESS;
+    return ::RegQueryValueExW(section, valueName(entry), nullptr, nullptr, data.data(), &bytes) ==
+           ERROR_SUCCESS;
 }
 
 bool writeValue(HKEY section, LPCTSTR entry, DWORD type, const void* data, std::size_t bytes)

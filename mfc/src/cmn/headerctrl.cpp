@@ -153,10 +153,7 @@ BOOL CHeaderCtrl::ClearAllFilters()
     return ClearFilter(-1);
 }
 
-void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // a header with owner-drawn items overrides this
-}
+void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

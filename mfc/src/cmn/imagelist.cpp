@@ -113,9 +113,7 @@ BOOL CImageList::DeleteImageList()
 
 HIMAGELIST CImageList::GetSafeHandle() const
 {
-    // Documented for a null pointer too: read through a volatile, since compilers take `this` for not null.
-    const CImageList* const volatile self = this;
-    return handleOf(self);
+    return handleOf(this); // documented for a null pointer too
 }
 
 CImageList::operator HIMAGELIST() const

@@ -304,10 +304,7 @@ CEdit* CListCtrl::GetEditControl() const
     return controlFrom<CEdit>(send<HWND>(*this, LVM_GETEDITCONTROL));
 }
 
-void CListCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn control overrides this
-}
+void CListCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

@@ -132,10 +132,7 @@ COLORREF CStatusBarCtrl::SetBkColor(COLORREF colour)
     return send<COLORREF>(*this, SB_SETBKCOLOR, 0, colour);
 }
 
-void CStatusBarCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // a bar with owner-drawn panes overrides this
-}
+void CStatusBarCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CStatusBarCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

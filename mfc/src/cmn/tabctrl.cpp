@@ -202,10 +202,7 @@ DWORD CTabCtrl::SetExtendedStyle(DWORD style, DWORD mask)
     return send<DWORD>(*this, TCM_SETEXTENDEDSTYLE, mask, style);
 }
 
-void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn control overrides this
-}
+void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

@@ -168,17 +168,23 @@ int CToolBarCtrl::AddStrings(LPCTSTR strings)
 
 int CToolBarCtrl::GetString(int index, LPTSTR text, int room) const
 {
-    return send<int>(*this, TB_GETSTRINGW, MAKEWPARAM(room, index), text);
+    CString whole;
+    const int length = GetString(index, whole);
+    if (length < 0 || room <= 0)
+        return length;
+    ::lstrcpynW(text, whole, room);
+    return ::lstrlenW(text);
 }
 
 int CToolBarCtrl::GetString(int index, CString& text) const
 {
-    const int length = GetString(index, nullptr, 0);
     text.Empty();
+    const int length = send<int>(*this, TB_GETSTRINGW, MAKEWPARAM(0, index));
     if (length <= 0)
         return length;
-    GetString(index, text.GetBuffer(length), length + 1);
-    text.ReleaseBuffer(length);
+    const int bytes = (length + 1) * static_cast<int>(sizeof(TCHAR)); // the message counts bytes
+    send(*this, TB_GETSTRINGW, MAKEWPARAM(bytes, index), text.GetBuffer(length));
+    text.ReleaseBuffer();
     return length;
 }
 

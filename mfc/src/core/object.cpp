@@ -1,9 +1,8 @@
 // CObject and its class records.
 #include <afx.h>
 
-#include <detail/modulestate.h>
-
 #include <cstring>
+#include <utility>
 
 namespace
 {
@@ -12,27 +11,20 @@ CRuntimeClass* s_firstClass = nullptr;
 
 } // namespace
 
-namespace afxdetail
+afxdetail::Enlistment::Enlistment(CRuntimeClass* record)
+    : m_record(record)
 {
-
-CRuntimeClass* enlist(CRuntimeClass* record)
-{
-    record->m_pNextClass = s_firstClass;
-    s_firstClass = record;
-    return record;
+    record->m_pNextClass = std::exchange(s_firstClass, record);
 }
 
-void delistClassesOf(HMODULE module)
+afxdetail::Enlistment::~Enlistment()
 {
-    for (CRuntimeClass** link = &s_firstClass; *link;) {
-        if (moduleOf(*link) == module)
-            *link = (*link)->m_pNextClass;
-        else
-            link = &(*link)->m_pNextClass;
-    }
+    CRuntimeClass** link = &s_firstClass;
+    while (*link && *link != m_record)
+        link = &(*link)->m_pNextClass;
+    if (*link)
+        *link = m_record->m_pNextClass;
 }
-
-} // namespace afxdetail
 
 CObject* CRuntimeClass::CreateObject()
 {
@@ -41,7 +33,8 @@ CObject* CRuntimeClass::CreateObject()
 
 BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* base) const
 {
-    for (const CRuntimeClass* cls = this; cls; cls = cls->m_pfnGetBaseClass ? cls->m_pfnGetBaseClass() : nullptr)
+    for (const CRuntimeClass* cls = this; cls;
+         cls = cls->m_pfnGetBaseClass ? cls->m_pfnGetBaseClass() : nullptr)
         if (cls == base)
             return TRUE;
     return FALSE;
@@ -58,8 +51,9 @@ CRuntimeClass* PASCAL CRuntimeClass::FromName(LPCSTR name)
 CRuntimeClass* PASCAL CRuntimeClass::FromName(LPCWSTR name)
 {
     char narrow[256];
-    return ::WideCharToMultiByte(CP_ACP, 0, name, -1, narrow, sizeof narrow, nullptr, nullptr) ? FromName(narrow)
-                                                                                               : nullptr;
+    return ::WideCharToMultiByte(CP_ACP, 0, name, -1, narrow, sizeof narrow, nullptr, nullptr)
+               ? FromName(narrow)
+               : nullptr;
 }
 
 CObject* PASCAL CRuntimeClass::CreateObject(LPCSTR name)
@@ -74,6 +68,8 @@ CObject* PASCAL CRuntimeClass::CreateObject(LPCWSTR name)
     return cls ? cls->CreateObject() : nullptr;
 }
 
+static const afxdetail::Enlistment rootEnlistment(CObject::GetThisClass());
+
 CObject::CObject() = default;
 
 CObject::~CObject() = default;
@@ -81,8 +77,7 @@ CObject::~CObject() = default;
 CRuntimeClass* PASCAL CObject::GetThisClass()
 {
     static CRuntimeClass record{"CObject", static_cast<int>(sizeof(CObject)), 0xFFFF, nullptr, nullptr};
-    static CRuntimeClass* const enlisted = afxdetail::enlist(&record);
-    return enlisted;
+    return &record;
 }
 
 CRuntimeClass* CObject::GetRuntimeClass() const

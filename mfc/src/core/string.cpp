@@ -48,7 +48,8 @@ bool CString::ownsRoom(int length) const
 CString::Data* CString::grown(int length) const
 {
     Data* const old = data();
-    const int ahead = old->references == 1 ? old->capacity + std::min(old->capacity / 2, INT_MAX - old->capacity - 1) : 0;
+    const int ahead =
+        old->references == 1 ? old->capacity + std::min(old->capacity / 2, INT_MAX - old->capacity - 1) : 0;
     Data* const fresh = allocate(std::max({length, old->length, ahead}));
     std::wmemcpy(fresh->text(), m_pszData, static_cast<std::size_t>(old->length));
     fresh->length = old->length;
@@ -240,7 +241,8 @@ void CString::SetString(LPCWSTR text)
 
 void CString::SetString(LPCWSTR text, int length)
 {
-    assign(text && length > 0 ? std::wstring_view(text, static_cast<std::size_t>(length)) : std::wstring_view());
+    assign(text && length > 0 ? std::wstring_view(text, static_cast<std::size_t>(length))
+                              : std::wstring_view());
 }
 
 void CString::Empty()

@@ -15,7 +15,9 @@ bool isSpace(wchar_t character)
 
 auto oneOf(LPCWSTR characters)
 {
-    return [set = std::wstring_view(characters ? characters : L"")](wchar_t c) { return set.find(c) != set.npos; };
+    return [set = std::wstring_view(characters ? characters : L"")](wchar_t c) {
+        return set.find(c) != set.npos;
+    };
 }
 
 auto equalTo(wchar_t character)

@@ -66,8 +66,8 @@ void AFX_CDECL CString::AppendFormat(UINT formatId, ...)
 void CString::FormatMessageV(LPCWSTR format, va_list* arguments)
 {
     LPWSTR text = nullptr;
-    const DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_STRING | FORMAT_MESSAGE_ALLOCATE_BUFFER, format, 0, 0,
-                                          reinterpret_cast<LPWSTR>(&text), 0, arguments);
+    const DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_STRING | FORMAT_MESSAGE_ALLOCATE_BUFFER, format,
+                                          0, 0, reinterpret_cast<LPWSTR>(&text), 0, arguments);
     if (length == 0 && ::GetLastError() == ERROR_NOT_ENOUGH_MEMORY)
         AfxThrowMemoryException();
     const std::unique_ptr<void, decltype(&::LocalFree)> owner(text, &::LocalFree);

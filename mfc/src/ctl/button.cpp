@@ -217,10 +217,7 @@ BOOL CButton::SetDropDownState(BOOL dropDown)
     return send<BOOL>(*this, BCM_SETDROPDOWNSTATE, dropDown);
 }
 
-void CButton::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn control overrides this
-}
+void CButton::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

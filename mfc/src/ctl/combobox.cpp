@@ -258,19 +258,12 @@ BOOL CComboBox::GetComboBoxInfo(PCOMBOBOXINFO info) const
     return send<BOOL>(*this, CB_GETCOMBOBOXINFO, 0, info);
 }
 
-void CComboBox::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn control overrides this
-}
+void CComboBox::DrawItem(LPDRAWITEMSTRUCT) {}
 
-void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT)
-{
-    ASSERT(FALSE); // so does one with items of varying height
-}
+void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
 
 int CComboBox::CompareItem(LPCOMPAREITEMSTRUCT)
 {
-    ASSERT(FALSE); // so does a sorted one without texts
     return 0;
 }
 

@@ -53,10 +53,7 @@ HENHMETAFILE CStatic::GetEnhMetaFile() const
     return send<HENHMETAFILE>(*this, STM_GETIMAGE, IMAGE_ENHMETAFILE);
 }
 
-void CStatic::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn control overrides this
-}
+void CStatic::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {

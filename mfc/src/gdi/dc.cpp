@@ -124,9 +124,7 @@ BOOL CDC::DeleteDC()
 
 HDC CDC::GetSafeHdc() const
 {
-    // Documented for a null pointer too: read through a volatile, since compilers take `this` for not null.
-    const CDC* const volatile self = this;
-    return handleOf(self);
+    return handleOf(this); // documented for a null pointer too
 }
 
 CDC::operator HDC() const

@@ -102,10 +102,7 @@ BOOL CGdiObject::DeleteObject()
 
 HGDIOBJ CGdiObject::GetSafeHandle() const
 {
-    // Documented for a null pointer too: read through a volatile, since compilers take `this` for not null.
-    const CGdiObject* const volatile self = this;
-    const CGdiObject* const object = self;
-    return object ? object->m_hObject : nullptr;
+    return this ? m_hObject : nullptr; // documented for a null pointer too
 }
 
 CGdiObject::operator HGDIOBJ() const

@@ -1,6 +1,8 @@
 // The beginning and the end of OLE.
 #include <afxole.h>
 
+#include <detail/termwork.h>
+
 namespace
 {
 
@@ -15,7 +17,7 @@ BOOL AFXAPI AfxOleInit()
     if (FAILED(::OleInitialize(nullptr)))
         return FALSE;
     s_started = true;
-    AfxRegisterTerm(&AfxOleTerm);
+    afxdetail::registerTermWork(&AfxOleTerm);
     return TRUE;
 }
 

@@ -1,4 +1,5 @@
-// Unloading: what the framework keeps for the whole process goes only when a program frees the DLL before its end.
+// Unloading: what the framework keeps for the whole process goes only when a program frees the DLL before its
+// end.
 #include <detail/modulestate.h>
 #include <detail/threadstate.h>
 

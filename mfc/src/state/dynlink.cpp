@@ -63,5 +63,4 @@ void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL all)
         library = next;
     }
     dropWndClasses(state.hModule);
-    afxdetail::delistClassesOf(state.hModule);
 }

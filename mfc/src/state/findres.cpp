@@ -14,7 +14,8 @@ using Question = std::function<bool(HINSTANCE)>;
 /// The first extension module, among the system's or the others, that the question is answered with yes for.
 HINSTANCE firstExtension(const Question& question, bool system)
 {
-    for (const CDynLinkLibrary* library = AfxGetModuleState()->libraries; library; library = library->m_pNextDLL)
+    for (const CDynLinkLibrary* library = AfxGetModuleState()->libraries; library;
+         library = library->m_pNextDLL)
         if ((library->m_bSystem != FALSE) == system && library->m_hResource && question(library->m_hResource))
             return library->m_hResource;
     return nullptr;

@@ -71,17 +71,13 @@ BOOL AFXAPI AfxFreeLibrary(HINSTANCE module)
 namespace afxdetail
 {
 
-HINSTANCE moduleOf(const void* address)
-{
-    HMODULE module = nullptr;
-    ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                         static_cast<LPCWSTR>(address), &module);
-    return module;
-}
-
 HINSTANCE frameworkModule()
 {
-    return moduleOf(reinterpret_cast<const void*>(&AfxGetAppModuleState));
+    HMODULE module = nullptr;
+    ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                             GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<LPCWSTR>(&AfxGetAppModuleState), &module);
+    return module;
 }
 
 } // namespace afxdetail
