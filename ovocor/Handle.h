@@ -52,6 +52,9 @@ public:
     /// Handles that the destructor makes and drops on its way do not destroy the object again.
     void release() const noexcept override;
 
+    /// Takes back an addRef that came to nothing: one reference less, and the object stays even without any.
+    void giveBack() const noexcept { --m_references; }
+
 private:
     mutable int m_references = 0;
 };

@@ -7,6 +7,9 @@
 
 #include <unknwn.h>
 
+#include <bit>
+#include <cstddef>
+
 class CCmdUI;
 
 /// Asked for instead of a call: who would handle a command.
@@ -28,9 +31,22 @@ struct AFX_NOTIFY
 struct AFX_INTERFACEMAP_ENTRY
 {
     const IID* piid; ///< null without `bAggregate` ends the map
-    std::size_t nOffset;
+    std::ptrdiff_t nOffset;
     bool bAggregate;
 };
+
+namespace afxdetail
+{
+
+/// Where a member lies in its class, derived from others or not.
+template <class Owner, class Member>
+std::ptrdiff_t offsetOf(Member Owner::*member)
+{
+    static_assert(sizeof member == sizeof(std::ptrdiff_t)); // what a pointer to a data member is
+    return std::bit_cast<std::ptrdiff_t>(member);
+}
+
+} // namespace afxdetail
 
 struct AFX_INTERFACEMAP
 {
@@ -113,10 +129,10 @@ protected:                                                                      
         static const AFX_INTERFACEMAP_ENTRY entries[] = {
 
 /// `localClass` names the part: the member m_x<localClass>.
-#define INTERFACE_PART(theClass, iid, localClass) {&iid, offsetof(theClass, m_x##localClass), false},
+#define INTERFACE_PART(theClass, iid, localClass) {&iid, afxdetail::offsetOf<theClass>(&theClass::m_x##localClass), false},
 
 /// `theAggr` is a member of type LPUNKNOWN: an inner object, or null. It is asked for what the parts do not answer.
-#define INTERFACE_AGGREGATE(theClass, theAggr) {nullptr, offsetof(theClass, theAggr), true},
+#define INTERFACE_AGGREGATE(theClass, theAggr) {nullptr, afxdetail::offsetOf<theClass>(&theClass::theAggr), true},
 
 #define END_INTERFACE_MAP()                                                                                       \
     {nullptr, 0, false}                                                                                           \
@@ -142,13 +158,12 @@ protected:                                                                      
 
 /// Inside a method of a part: `pThis` is the object that the part belongs to.
 #define METHOD_PROLOGUE(theClass, localClass)                                                                     \
-    theClass* const pThis [[maybe_unused]] =                                                                      \
-        reinterpret_cast<theClass*>(reinterpret_cast<BYTE*>(this) - offsetof(theClass, m_x##localClass));         \
+    METHOD_PROLOGUE_EX_(theClass, localClass)                                                                     \
     AFX_MANAGE_STATE(pThis->m_pModuleState)
 
 #define METHOD_PROLOGUE_EX(theClass, localClass) METHOD_PROLOGUE(theClass, localClass)
 
 /// The same without the module state, for AddRef and the like.
 #define METHOD_PROLOGUE_EX_(theClass, localClass)                                                                 \
-    theClass* const pThis [[maybe_unused]] =                                                                                       \
-        reinterpret_cast<theClass*>(reinterpret_cast<BYTE*>(this) - offsetof(theClass, m_x##localClass));
+    theClass* const pThis [[maybe_unused]] = reinterpret_cast<theClass*>(                                         \
+        reinterpret_cast<BYTE*>(this) - afxdetail::offsetOf<theClass>(&theClass::m_x##localClass));

@@ -89,5 +89,6 @@ private:
     LPCDLGTEMPLATE m_template = nullptr; ///< of InitModalIndirect
     HGLOBAL m_templateHandle = nullptr;  ///< likewise
     const void* m_dialogInit = nullptr;  ///< DLGINIT data given with a template in memory
+    bool m_shownWhenMade = false;        ///< its template says WS_VISIBLE
     HWND m_disabledTopLevel = nullptr;   ///< between PreModal and PostModal
 };

@@ -57,14 +57,14 @@ int CString::CollateNoCase(LPCWSTR text) const
 
 int CString::Find(LPCWSTR text, int start) const
 {
-    if (!text || start < 0 || start > GetLength())
+    if (!text || start < 0)
         return -1;
     return static_cast<int>(view().find(text, static_cast<std::size_t>(start)));
 }
 
 int CString::Find(wchar_t character, int start) const
 {
-    if (start < 0 || start > GetLength())
+    if (start < 0)
         return -1;
     return static_cast<int>(view().find(character, static_cast<std::size_t>(start)));
 }

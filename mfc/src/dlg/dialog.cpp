@@ -50,6 +50,16 @@ UINT helpIdOf(LPCTSTR templateName)
     return IS_INTRESOURCE(templateName) ? LOWORD(reinterpret_cast<UINT_PTR>(templateName)) : 0;
 }
 
+/// Whether a template asks for a dialog that is shown as soon as it is made.
+bool isVisible(LPCDLGTEMPLATE dialogTemplate)
+{
+    // The extended form begins with two words that no style has, and has the style further on.
+    const auto* words = reinterpret_cast<const WORD*>(dialogTemplate);
+    const bool extended = words[0] == 1 && words[1] == 0xFFFF;
+    const DWORD style = extended ? static_cast<DWORD>(MAKELONG(words[6], words[7])) : dialogTemplate->style;
+    return (style & WS_VISIBLE) != 0;
+}
+
 bool isInput(UINT message)
 {
     return (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
@@ -122,13 +132,14 @@ bool CDialog::createModeless(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTA
 /// Null when the window is not made, or did not outlive its initialisation: this object may then be gone.
 HWND CDialog::createWindow(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE instance)
 {
+    m_shownWhenMade = isVisible(dialogTemplate);
     afxdetail::CallOut creation;
     AfxHookWindowCreate(this);
     const HWND wnd = ::CreateDialogIndirectParamW(instance, dialogTemplate, owner, &dialogProcedure, 0);
     if (AfxUnhookWindowCreate())
         PostNcDestroy(); // no window came to be, so no message ended it
-    const bool complete = wnd && !creation.failed();
-    if (wnd && !complete)
+    const bool complete = ::IsWindow(wnd) && !creation.failed();
+    if (!complete && ::IsWindow(wnd))
         ::DestroyWindow(wnd);
     creation.finish();
     return complete ? wnd : nullptr;
@@ -138,7 +149,14 @@ HWND CDialog::createWindow(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE 
 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
 {
-    return Default(); // reaches OnInitDialog through the dialog procedure
+    const HWND wnd = m_hWnd;
+    const LRESULT result = Default(); // reaches OnInitDialog through the dialog procedure
+    if (FromHandlePermanent(wnd) != this)
+        return result; // the object may be gone with the window
+    // Ended already: it must not be shown any more, whatever its template says.
+    if (m_shownWhenMade && !(m_nFlags & afxdetail::kContinueModal))
+        ::DestroyWindow(wnd);
+    return result;
 }
 
 BOOL CDialog::OnInitDialog()

@@ -1,6 +1,8 @@
 // CToolBar: its buttons, their updates, its window. Layout and pictures have files of their own.
 #include <afxext.h>
 
+#include <utility>
+
 IMPLEMENT_DYNAMIC(CToolBar, CControlBar)
 
 BEGIN_MESSAGE_MAP(CToolBar, CControlBar)
@@ -67,10 +69,9 @@ BOOL CToolBar::Create(CWnd* parent, DWORD style, UINT id)
 
 BOOL CToolBar::CreateEx(CWnd* parent, DWORD controlStyle, DWORD style, CRect borders, UINT id)
 {
+    ::DeleteObject(std::exchange(m_bitmap, nullptr)); // of a window before
     SetBorders(borders);
     m_dwStyle = style & CBRS_ALL;
-    if (style & CBRS_HIDE_INPLACE)
-        m_dwStyle |= CBRS_HIDE_INPLACE;
     // The frame's layout places the bar, not the control itself.
     constexpr DWORD kPlacedFromOutside = CCS_NOPARENTALIGN | CCS_NOMOVEY | CCS_NODIVIDER | CCS_NORESIZE;
     DWORD wndStyle = (style & ~static_cast<DWORD>(CBRS_ALL)) | controlStyle | kPlacedFromOutside | WS_CHILD;

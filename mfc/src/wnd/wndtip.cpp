@@ -68,8 +68,20 @@ public:
         });
     }
 
-    /// Tells the control of the pointer as its tool sees it: the message may have gone to another window, since
-    /// a static text lets the mouse through and a disabled control does not get it.
+    /// A window that the mouse does not reach, such as a static text or a disabled control, becomes an area of the
+    /// window that gets its messages: the control looks for tools where the mouse is.
+    static void makeReachable(TOOLINFO& tool, INT_PTR hit, const MSG& message)
+    {
+        const auto window = reinterpret_cast<HWND>(tool.uId);
+        if (!(tool.uFlags & TTF_IDISHWND) || message.hwnd == window || message.hwnd != tool.hwnd)
+            return;
+        ::GetWindowRect(window, &tool.rect);
+        ::MapWindowPoints(nullptr, tool.hwnd, reinterpret_cast<POINT*>(&tool.rect), 2);
+        tool.uFlags &= ~static_cast<UINT>(TTF_IDISHWND);
+        tool.uId = static_cast<UINT_PTR>(hit);
+    }
+
+    /// Tells the control of the pointer as its tool sees it.
     static void tellMove(HWND tip, const TOOLINFO& tool, const MSG& original)
     {
         MSG move = original;
@@ -175,6 +187,9 @@ void CWnd::FilterToolTipMessage(MSG* message)
     ScreenToClient(&point);
     const INT_PTR hit = OnToolHitTest(point, &tool);
     const bool wanted = hit != -1 && ((tool.uFlags & TTF_ALWAYSTIP) || IsTopParentActive());
+
+    if (hit != -1)
+        Tip::makeReachable(tool, hit, *message);
 
     afxdetail::ThreadState& state = threadState();
     if (!wanted) {
