@@ -8,7 +8,8 @@ MemoryTemplate::MemoryTemplate(const std::wstring& title, DWORD style)
     text(title);
 }
 
-MemoryTemplate& MemoryTemplate::control(const std::wstring& windowClass, WORD id, DWORD style, const std::wstring& label)
+MemoryTemplate& MemoryTemplate::control(const std::wstring& windowClass, WORD id, DWORD style,
+                                        const std::wstring& label)
 {
     if (m_words.size() % 2)
         m_words.push_back(0);

@@ -1,14 +1,12 @@
-// Modal dialogs: results, nesting, errors, focus.
-#include "MemoryTemplate.h"
+// Modal dialogs: results, owners, errors, nesting.
+#include "TestDialog.h"
+#include "resource.h"
 
-#include "support/Desktop.h"
-#include "support/Robot.h"
-
-#include <afxwin.h>
+#include "support/TestApp.h"
+#include "support/WindowCounter.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <stdexcept>
 
 using namespace ovotest;
@@ -16,65 +14,18 @@ using namespace ovotest;
 namespace
 {
 
-class TestDialog : public CDialog
+struct Foreign
 {
-public:
-    std::function<BOOL(TestDialog&)> onInit = [](TestDialog&) { return TRUE; };
-    std::function<void(TestDialog&)> onCommand;
-    int shown = 0;
-
-    explicit TestDialog(CWnd* parent = nullptr)
-        : CDialog()
-        , m_template(L"Test dialog")
-    {
-        m_template.control(L"BUTTON", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, L"OK")
-            .control(L"EDIT", 100, WS_TABSTOP | WS_BORDER)
-            .control(L"BUTTON", 101, BS_PUSHBUTTON | WS_TABSTOP, L"Act");
-        InitModalIndirect(m_template.get(), parent);
-    }
-
-    using CDialog::EndDialog;
-
-protected:
-    BOOL OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        return onInit(*this);
-    }
-    afx_msg void OnAct()
-    {
-        if (onCommand)
-            onCommand(*this);
-    }
-    afx_msg void OnShowWindow(BOOL show, UINT status)
-    {
-        shown += show != FALSE;
-        CDialog::OnShowWindow(show, status);
-    }
-    DECLARE_MESSAGE_MAP()
-
-private:
-    MemoryTemplate m_template;
 };
 
-BEGIN_MESSAGE_MAP(TestDialog, CDialog)
-    ON_COMMAND(101, OnAct)
-    ON_WM_SHOWWINDOW()
-END_MESSAGE_MAP()
-
-Story whenShown()
+void pressAct()
 {
-    return Robot().waitFor("a dialog", [] { return shownDialog() != nullptr; });
+    ::PostMessageW(shownDialog(), WM_COMMAND, TestDialog::kAct, 0);
 }
 
-class Owner : public CWnd
-{
-public:
-    Owner() { CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr); }
-    ~Owner() override { DestroyWindow(); }
-};
-
 } // namespace
+
+// Results
 
 TEST(ModalDialog, AnswersWhatItWasEndedWith)
 {
@@ -84,61 +35,246 @@ TEST(ModalDialog, AnswersWhatItWasEndedWith)
         EXPECT_EQ(dialog.DoModal(), key == VK_RETURN ? IDOK : IDCANCEL);
         EXPECT_EQ(dialog.m_hWnd, nullptr);
     }
-    TestDialog dialog;
-    dialog.onCommand = [](TestDialog& d) { d.EndDialog(4711); };
-    auto answering = whenShown().click([] { return ::GetDlgItem(shownDialog(), 101); }).start();
-    EXPECT_EQ(dialog.DoModal(), 4711);
+    for (const int result : {4711, 0, -1, -4711}) {
+        TestDialog dialog;
+        dialog.onAct = [=](TestDialog& d) { d.EndDialog(result); };
+        auto answering = whenShown().click([] { return shownControl(TestDialog::kAct); }).start();
+        EXPECT_EQ(dialog.DoModal(), result);
+    }
 }
 
-TEST(ModalDialog, IsShownExactlyOnce)
+TEST(ModalDialog, IsMadeFromAResource)
 {
-    TestDialog dialog;
-    auto answering = whenShown().key(VK_ESCAPE).start();
-    dialog.DoModal();
-    EXPECT_EQ(dialog.shown, 1);
+    CDialog dialog(IDD_PLAIN);
+    std::wstring title;
+    auto answering = whenShown()
+                         .then([&] { title = textOf(shownDialog()); })
+                         .click([] { return shownControl(IDCANCEL); })
+                         .start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(title, L"From a resource");
 }
 
 TEST(ModalDialog, WithoutATemplateAnswersMinusOne)
 {
-    Owner owner;
-    CDialog dialog(12345, &owner);
+    OwnerWindow owner;
+    CDialog numbered(IDD_MISSING, &owner);
+    EXPECT_EQ(numbered.DoModal(), -1);
+    CDialog named(L"NO_SUCH_DIALOG", &owner);
+    EXPECT_EQ(named.DoModal(), -1);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST(ModalDialog, ThatCannotBeCreatedAnswersMinusOne)
+{
+    class BadControl : public CDialog
+    {
+    public:
+        BadControl()
+            : memory(L"Bad")
+        {
+            memory.control(L"no such window class", 1, 0);
+        }
+        MemoryTemplate memory;
+    };
+    OwnerWindow owner;
+    BadControl dialog;
+    ASSERT_TRUE(dialog.InitModalIndirect(dialog.memory.get(), &owner));
     EXPECT_EQ(dialog.DoModal(), -1);
     EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
+TEST(ModalDialog, DestroyedInsteadOfEndedAnswersAbort)
+{
+    OwnerWindow owner;
+    TestDialog dialog(&owner);
+    dialog.onAct = [](TestDialog& d) { d.DestroyWindow(); };
+    auto answering = whenShown().then(pressAct).start();
+    EXPECT_EQ(dialog.DoModal(), IDABORT);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST(ModalDialog, AQuitEndsItAndTheLoopOutside)
+{
+    OwnerWindow owner;
+    TestDialog dialog(&owner);
+    auto story = whenShown().then([] { ::PostQuitMessage(3); }).start();
+    EXPECT_EQ(dialog.DoModal(), IDABORT) << "nobody has ended it";
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    MSG message{};
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) && message.message != WM_QUIT)
+        ::DispatchMessageW(&message);
+    EXPECT_EQ(message.message, static_cast<UINT>(WM_QUIT));
+    EXPECT_EQ(message.wParam, 3u) << "with the exit code that it came with";
+}
+
+TEST(ModalDialog, MayBeShownAgainAndAgain)
+{
+    const WindowCounter windows;
+    TestDialog dialog;
+    for (int i = 0; i < 3; ++i) {
+        auto answering = whenShown().key(VK_ESCAPE).start();
+        EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    }
+    EXPECT_EQ(dialog.destroyed, 3);
+    EXPECT_EQ(windows.grown(), 0);
+}
+
+// Showing
+
+TEST(ModalDialog, IsShownExactlyOnce)
+{
+    for (const DWORD visible : {DWORD{0}, DWORD{WS_VISIBLE}}) {
+        TestDialog dialog(nullptr, TestDialog::kStyle | visible);
+        auto answering = whenShown().key(VK_ESCAPE).start();
+        dialog.DoModal();
+        EXPECT_EQ(dialog.shown, 1) << (visible ? "WS_VISIBLE" : "hidden template");
+    }
 }
 
 TEST(ModalDialog, EndedInItsInitialisationIsNeverShown)
 {
-    Owner owner;
-    TestDialog dialog(&owner);
-    dialog.onInit = [](TestDialog& d) {
-        d.EndDialog(77);
-        return TRUE;
-    };
-    EXPECT_EQ(dialog.DoModal(), 77);
-    EXPECT_EQ(dialog.shown, 0);
-    EXPECT_TRUE(owner.IsWindowEnabled());
+    for (const DWORD visible : {DWORD{0}, DWORD{WS_VISIBLE}}) {
+        OwnerWindow owner;
+        TestDialog dialog(&owner, TestDialog::kStyle | visible);
+        dialog.onInit = [](TestDialog& d) {
+            d.EndDialog(77);
+            return TRUE;
+        };
+        EXPECT_EQ(dialog.DoModal(), 77);
+        EXPECT_EQ(dialog.shown, 0) << (visible ? "WS_VISIBLE" : "hidden template");
+        EXPECT_EQ(dialog.destroyed, 1);
+        EXPECT_TRUE(owner.IsWindowEnabled());
+    }
 }
+
+TEST(ModalDialog, EndDialogLetsTheHandlerFinish)
+{
+    TestDialog dialog;
+    bool finished = false;
+    dialog.onAct = [&](TestDialog& d) {
+        d.EndDialog(1);
+        EXPECT_NE(d.m_hWnd, nullptr) << "the window outlives the handler";
+        finished = true;
+        d.EndDialog(2);
+    };
+    auto answering = whenShown().then(pressAct).start();
+    EXPECT_EQ(dialog.DoModal(), 2) << "the last word counts";
+    EXPECT_TRUE(finished);
+}
+
+TEST(ModalDialog, WhoseValuesCannotBeShownAnswersMinusOne)
+{
+    TestDialog dialog;
+    dialog.onExchange = [](CDataExchange*) { AfxThrowUserException(); };
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_EQ(dialog.shown, 0);
+}
+
+// Owners
 
 TEST(ModalDialog, DisablesItsOwnerAndGivesItBack)
 {
-    Owner owner;
+    OwnerWindow owner;
     TestDialog dialog(&owner);
     BOOL enabledMeanwhile = TRUE;
-    auto answering = whenShown().then([&] { enabledMeanwhile = owner.IsWindowEnabled(); }).key(VK_ESCAPE).start();
+    HWND itsOwner = nullptr;
+    auto answering = whenShown()
+                         .then([&] {
+                             enabledMeanwhile = owner.IsWindowEnabled();
+                             itsOwner = ::GetWindow(shownDialog(), GW_OWNER);
+                         })
+                         .key(VK_ESCAPE)
+                         .start();
     dialog.DoModal();
     EXPECT_FALSE(enabledMeanwhile);
+    EXPECT_EQ(itsOwner, owner.m_hWnd);
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
+TEST(ModalDialog, LeavesADisabledOwnerDisabled)
+{
+    OwnerWindow owner;
+    owner.EnableWindow(FALSE);
+    TestDialog dialog(&owner);
+    dialog.onInit = [](TestDialog& d) {
+        d.PostMessage(WM_COMMAND, IDCANCEL);
+        return TRUE;
+    };
+    dialog.DoModal();
+    // The system enables the owner of every dialog that is ended; a dialog that is destroyed shows what we
+    // do.
+    owner.EnableWindow(FALSE);
+    TestDialog destroyed(&owner);
+    destroyed.onAct = [](TestDialog& d) { d.DestroyWindow(); };
+    auto answering = whenShown().then(pressAct).start();
+    destroyed.DoModal();
+    EXPECT_FALSE(owner.IsWindowEnabled());
+}
+
+TEST(ModalDialog, OfAChildWindowIsOwnedByTheTopLevelWindow)
+{
+    OwnerWindow owner;
+    CButton child;
+    child.Create(L"Child", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &owner, 7);
+    TestDialog dialog(&child);
+    HWND itsOwner = nullptr;
+    auto answering =
+        whenShown().then([&] { itsOwner = ::GetWindow(shownDialog(), GW_OWNER); }).key(VK_ESCAPE).start();
+    dialog.DoModal();
+    EXPECT_EQ(itsOwner, owner.m_hWnd);
+}
+
+TEST(ModalDialog, WithoutAParentIsOwnedByTheMainWindow)
+{
+    OwnerWindow main;
+    AfxGetApp()->m_pMainWnd = &main;
+    TestDialog dialog;
+    HWND itsOwner = nullptr;
+    auto answering =
+        whenShown().then([&] { itsOwner = ::GetWindow(shownDialog(), GW_OWNER); }).key(VK_ESCAPE).start();
+    dialog.DoModal();
+    AfxGetApp()->m_pMainWnd = nullptr;
+    EXPECT_EQ(itsOwner, main.m_hWnd);
+}
+
+TEST(ModalDialog, GivesTheFocusBackToTheControlThatHadIt)
+{
+    TestDialog outer;
+    int focused = 0;
+    outer.onAct = [&](TestDialog& d) {
+        d.GotoDlgCtrl(d.GetDlgItem(TestDialog::kEdit));
+        TestDialog inner(&d);
+        auto answering =
+            Robot()
+                .waitFor("the inner dialog", [&] { return shownDialog() && shownDialog() != d.m_hWnd; })
+                .key(VK_ESCAPE)
+                .start();
+        inner.DoModal();
+        answering.finish();
+        focused = ::GetDlgCtrlID(::GetFocus());
+        d.EndDialog(IDOK);
+    };
+    auto story = whenShown().then(pressAct).start();
+    outer.DoModal();
+    EXPECT_EQ(focused, TestDialog::kEdit);
+}
+
+// Errors
+
 TEST(ModalDialog, AnErrorInItsInitialisationComesOutOfDoModal)
 {
-    Owner owner;
+    OwnerWindow owner;
+    const WindowCounter windows;
     TestDialog dialog(&owner);
     dialog.onInit = [](TestDialog&) -> BOOL { throw std::runtime_error("oak"); };
     EXPECT_THROW(dialog.DoModal(), std::runtime_error);
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(dialog.m_hWnd, nullptr);
-    EXPECT_EQ(shownDialog(), nullptr);
+    EXPECT_EQ(dialog.destroyed, 1);
+    EXPECT_EQ(windows.grown(), 0);
+    expectNothingPending();
 
     dialog.onInit = [](TestDialog&) { return TRUE; };
     auto answering = whenShown().key(VK_ESCAPE).start();
@@ -147,14 +283,53 @@ TEST(ModalDialog, AnErrorInItsInitialisationComesOutOfDoModal)
 
 TEST(ModalDialog, AnErrorInAHandlerComesOutOfDoModal)
 {
-    Owner owner;
+    OwnerWindow owner;
     TestDialog dialog(&owner);
-    dialog.onCommand = [](TestDialog&) { throw std::runtime_error("elm"); };
-    auto acting = whenShown().then([] { ::PostMessageW(shownDialog(), WM_COMMAND, 101, 0); }).start();
-    EXPECT_THROW(dialog.DoModal(), std::runtime_error);
+    dialog.onAct = [](TestDialog&) { throw Foreign{}; };
+    auto acting = whenShown().then(pressAct).start();
+    EXPECT_THROW(dialog.DoModal(), Foreign);
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(dialog.m_hWnd, nullptr);
+    acting.finish();
+    expectNothingPending();
 }
+
+TEST(ModalDialog, AFrameworkExceptionIsReportedAndTheDialogStaysOpen)
+{
+    TestDialog dialog;
+    dialog.onInit = [](TestDialog&) -> BOOL { AfxThrowResourceException(); };
+    bool open = false;
+    auto story = whenShown().then([&] { open = true; }).key(VK_ESCAPE).start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_TRUE(open);
+    EXPECT_EQ(TestApp::instance().boxes().size(), 1u);
+}
+
+TEST(ModalDialog, AnErrorComesThroughBothOfTwoNestedDialogs)
+{
+    OwnerWindow owner;
+    TestDialog outer(&owner);
+    bool innerOwnerEnabled = false;
+    outer.onAct = [&](TestDialog& d) {
+        TestDialog inner(&d);
+        inner.onInit = [](TestDialog&) -> BOOL { throw std::runtime_error("elm"); };
+        try {
+            inner.DoModal();
+        } catch (...) {
+            innerOwnerEnabled = d.IsWindowEnabled() != FALSE;
+            throw;
+        }
+    };
+    auto acting = whenShown().then(pressAct).start();
+    EXPECT_THROW(outer.DoModal(), std::runtime_error);
+    EXPECT_TRUE(innerOwnerEnabled);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(outer.m_hWnd, nullptr);
+    acting.finish();
+    expectNothingPending();
+}
+
+// Nesting
 
 TEST(ModalDialog, MayOpenAnother)
 {
@@ -162,14 +337,15 @@ TEST(ModalDialog, MayOpenAnother)
     INT_PTR innerResult = 0;
     HWND outerWnd = nullptr;
     BOOL outerEnabled = TRUE;
-    outer.onCommand = [&](TestDialog& d) {
+    outer.onAct = [&](TestDialog& d) {
         outerWnd = d.m_hWnd;
         TestDialog inner(&d);
         innerResult = inner.DoModal();
     };
     auto story = whenShown()
-                     .click([] { return ::GetDlgItem(shownDialog(), 101); })
-                     .waitFor("the inner dialog", [&] { return outerWnd && shownDialog() && shownDialog() != outerWnd; })
+                     .click([] { return shownControl(TestDialog::kAct); })
+                     .waitFor("the inner dialog",
+                              [&] { return outerWnd && shownDialog() && shownDialog() != outerWnd; })
                      .then([&] { outerEnabled = ::IsWindowEnabled(outerWnd); })
                      .key(VK_ESCAPE)
                      .waitFor("the outer dialog again", [&] { return shownDialog() == outerWnd; })
@@ -179,30 +355,4 @@ TEST(ModalDialog, MayOpenAnother)
     story.finish();
     EXPECT_EQ(innerResult, IDCANCEL);
     EXPECT_FALSE(outerEnabled);
-}
-
-TEST(ModalDialog, KeepsTheFocusThatItsInitialisationSet)
-{
-    TestDialog dialog;
-    int focused = 0;
-    dialog.onInit = [](TestDialog& d) {
-        d.GetDlgItem(101)->SetFocus();
-        return FALSE;
-    };
-    auto story = whenShown().then([&] { focused = ::GetDlgCtrlID(::GetFocus()); }).key(VK_ESCAPE).start();
-    dialog.DoModal();
-    EXPECT_EQ(focused, 101);
-}
-
-TEST(ModalDialog, AQuitEndsItAndTheLoopOutside)
-{
-    TestDialog dialog;
-    auto story = whenShown().then([] { ::PostQuitMessage(3); }).start();
-    dialog.DoModal();
-    EXPECT_EQ(dialog.m_hWnd, nullptr);
-    MSG message{};
-    bool quit = false;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-        quit = quit || message.message == WM_QUIT;
-    EXPECT_TRUE(quit || GuiThread::tookQuit());
 }
