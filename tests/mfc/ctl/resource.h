@@ -1,0 +1,8 @@
+// What the tests load along the resource chain.
+#pragma once
+
+#define IDB_SQUARES 101 // three pictures of 4 by 4 pixels: red, green, blue
+#define IDB_NONE 199    // no such bitmap
+
+#define IDS_TIP 201
+#define IDS_BUTTONS 202
