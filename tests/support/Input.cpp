@@ -156,6 +156,11 @@ void Input::keyUp(WORD virtualKey)
     send(keyboard(virtualKey, KEYEVENTF_KEYUP));
 }
 
+void Input::holdAgain(WORD virtualKey)
+{
+    send(keyboard(virtualKey, 0));
+}
+
 void Input::character(wchar_t character)
 {
     const SHORT key = ::VkKeyScanW(character);

@@ -40,6 +40,12 @@ public:
     void keyDown(WORD virtualKey);
     void keyUp(WORD virtualKey);
 
+    /// The keys that are down, in the order in which they went down.
+    const std::vector<WORD>& heldKeys() const { return m_keys; }
+
+    /// Presses a held key once more, as a keyboard does that repeats it.
+    void holdAgain(WORD virtualKey);
+
     /// One character: by its key where the keyboard has one, else as a character of its own.
     void character(wchar_t character);
 

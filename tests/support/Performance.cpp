@@ -9,12 +9,20 @@
 namespace ovotest
 {
 
+namespace
+{
+
+constexpr std::chrono::hours kForever{1};
+
+} // namespace
+
 struct Performance::State
 {
     std::vector<Step> steps;
     std::atomic<bool> over{false};     // the robot has done all it will do
     std::atomic<bool> cut{false};      // nobody wants the rest
     std::atomic<bool> loopFree{false}; // the thread with the windows is back from every nested loop
+    std::atomic<bool> gone{false};     // the robot needs no answers any more
     std::string problem;               // read once `over` is set
 };
 
@@ -22,7 +30,10 @@ Performance::Performance(std::vector<Step> steps)
     : m_state(std::make_shared<State>())
 {
     m_state->steps = std::move(steps);
-    m_thread = std::thread{[state = m_state] { act(*state); }};
+    m_thread = std::thread{[state = m_state] {
+        act(*state);
+        state->gone = true;
+    }};
 }
 
 Performance::~Performance() noexcept(false)
@@ -34,9 +45,7 @@ Performance::~Performance() noexcept(false)
         return;
     }
     m_state->cut = true;
-    m_state->loopFree = true;
-    GuiThread::runUntil([this] { return m_state->over.load(); });
-    m_thread.join();
+    leave();
 }
 
 void Performance::finish()
@@ -44,12 +53,28 @@ void Performance::finish()
     if (!m_thread.joinable())
         return;
     // Every wait inside a story has a limit of its own, so that this one needs none but the watchdog's.
-    GuiThread::runUntil([this] { return m_state->over.load(); }, std::chrono::hours{1});
-    m_state->loopFree = true;
-    m_thread.join();
+    GuiThread::runUntil([this] { return m_state->over.load(); }, kForever);
+    leave();
     GuiThread::settle();
     if (!m_state->problem.empty())
         ADD_FAILURE() << m_state->problem;
+}
+
+// Waits for the robot's thread, which may still be asking something.
+void Performance::leave()
+{
+    m_state->loopFree = true;
+    for (;;) {
+        try {
+            GuiThread::runUntil([this] { return m_state->gone.load(); }, kForever);
+            break;
+        } catch (...) {
+            // One exception is on its way already; what else handlers throw meanwhile has no way out.
+            if (std::uncaught_exceptions() == 0)
+                throw;
+        }
+    }
+    m_thread.join();
 }
 
 void Performance::act(State& state)

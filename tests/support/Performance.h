@@ -36,6 +36,7 @@ public:
 private:
     struct State;
 
+    void leave();
     static void act(State& state);
     static void freeTheLoop(State& state);
 

@@ -1,7 +1,9 @@
 #include "Stage.h"
 #include "GuiThread.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <thread>
 
 namespace ovotest
@@ -19,6 +21,15 @@ CPoint pointer()
     CPoint point;
     ::GetCursorPos(&point);
     return point;
+}
+
+// Reading from the screen takes until the display has done, and told the windows, what it was asked before.
+void awaitScreen()
+{
+    const HDC screen = ::GetDC(nullptr);
+    for (int i = 0; i < 2; ++i)
+        ::GetPixel(screen, 0, 0);
+    ::ReleaseDC(nullptr, screen);
 }
 
 CPoint onScreen(CPoint point)
@@ -56,6 +67,26 @@ void Stage::jumpTo(CPoint point)
     m_input.moveTo(point);
     waitFor(
         "the pointer to move", [point] { return pointer() == point; }, kInputLimit);
+    awaitInputTaken();
+    keepHeldKeysDown();
+}
+
+// Under Wine the pointer's move comes back from the X server together with its own view of the keyboard, on
+// which nothing is held; Wine then lets go of the modifiers. Wait for that, and hold them again.
+void Stage::keepHeldKeysDown()
+{
+    const std::vector<WORD> held = m_input.heldKeys();
+    if (held.empty())
+        return;
+    awaitScreen();
+    awaitInputTaken();
+    std::vector<WORD> lost;
+    GuiThread::ask([&] {
+        std::ranges::copy_if(held, std::back_inserter(lost),
+                             [](WORD key) { return ::GetAsyncKeyState(key) >= 0; });
+    });
+    for (const WORD key : lost)
+        m_input.holdAgain(key);
     awaitInputTaken();
 }
 

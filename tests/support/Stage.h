@@ -39,6 +39,7 @@ public:
 private:
     void jumpTo(CPoint point);
     void awaitInputTaken();
+    void keepHeldKeysDown();
 
     Input m_input;
 };

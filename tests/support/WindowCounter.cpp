@@ -2,15 +2,25 @@
 
 #include <windows.h>
 
+#include <iterator>
+#include <string_view>
+
 namespace ovotest
 {
 
 namespace
 {
 
-BOOL CALLBACK countOne(HWND, LPARAM count)
+bool belongsToInputMethod(HWND window)
 {
-    ++*reinterpret_cast<int*>(count);
+    wchar_t name[16] = L"";
+    ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    return std::wstring_view{name} == L"IME" || std::wstring_view{name} == L"MSCTFIME UI";
+}
+
+BOOL CALLBACK countOne(HWND window, LPARAM count)
+{
+    *reinterpret_cast<int*>(count) += !belongsToInputMethod(window);
     return TRUE;
 }
 

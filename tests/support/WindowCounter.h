@@ -3,7 +3,8 @@
 namespace ovotest
 {
 
-/// Counts the windows of the calling thread: shown or not, children and message-only ones included.
+/// Counts the windows of the calling thread: shown or not, children and message-only ones included. The input
+/// method's own windows, which come and go with the first top-level window, do not count.
 class WindowCounter
 {
 public:
