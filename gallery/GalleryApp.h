@@ -4,11 +4,11 @@
 #include <afxwin.h>
 
 #include <memory>
-#include <string>
-#include <vector>
 
 class GdiPlus;
 class GalleryFrame;
+struct CommandLine;
+struct PageEntry;
 
 class GalleryApp : public CWinApp
 {
@@ -19,21 +19,14 @@ public:
     BOOL InitInstance() override;
     int ExitInstance() override;
 
-private:
-    /// What the command line asks for.
-    struct Wishes
-    {
-        bool list = false;
-        std::wstring page;    ///< with "/pose" behind it, one of its poses
-        std::wstring shot;    ///< a file
-        std::wstring shotAll; ///< a folder
-        std::wstring mistake; ///< what is wrong with the command line
-    };
+    /// There is no help file: the log shows what would be opened.
+    void HtmlHelp(DWORD_PTR data, UINT command = HH_HELP_CONTEXT) override;
 
-    static Wishes readCommandLine();
-    bool takePictures(GalleryFrame& frame, const Wishes& wishes);
+private:
     BOOL end(int exitCode);
+    BOOL show(const CommandLine& line, const PageEntry& first);
 
     std::unique_ptr<GdiPlus> m_gdiPlus;
+    GalleryFrame* m_frame = nullptr; // deletes itself with its window
     int m_exitCode = 0;
 };

@@ -3,65 +3,108 @@
 #include "Screenshot.h"
 #include "resource.h"
 
-#include <ovoui/frame/NonClientMetrics.h>
-
-#include <utility>
-
+#include <initializer_list>
+#include <iterator>
 #include <utility>
 
 namespace
 {
 
+constexpr SIZE kFrameSize{940, 720};
 constexpr int kListWidth = 170;
-constexpr int kLogHeight = 120;
-constexpr int kGap = 6;
+constexpr int kLogHeight = 104;
+constexpr int kLabelHeight = 16;
+constexpr int kGap = 8;
 constexpr UINT_PTR kPoseTimer = 1;
 constexpr UINT kPoseDelay = 200; // milliseconds for the screen to show what was painted
 
 } // namespace
 
 BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
-    ON_WM_ENTERIDLE()
-    ON_WM_TIMER()
-    ON_WM_SETFOCUS()
+    // pages
     ON_NOTIFY(TVN_SELCHANGEDW, IDC_PAGE_LIST, OnPageChosen)
+    ON_COMMAND(ID_PAGE_NEXT, OnNextPage)
+    ON_COMMAND(ID_PAGE_PREVIOUS, OnPreviousPage)
+    ON_WM_SETFOCUS()
+    // log
     ON_COMMAND(ID_LOG_CLEAR, OnLogClear)
     ON_UPDATE_COMMAND_UI(ID_LOG_CLEAR, OnUpdateLogClear)
+    // pictures
+    ON_WM_ENTERIDLE()
+    ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 GalleryFrame::GalleryFrame() = default;
 
 GalleryFrame::~GalleryFrame() = default;
 
+// Window and parts
+
 BOOL GalleryFrame::PreCreateWindow(CREATESTRUCT& cs)
 {
     cs.lpszClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW),
-                                       reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
-    cs.cx = 900;
-    cs.cy = 680;
+                                       reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1),
+                                       AfxGetApp()->LoadIcon(IDR_MAIN_FRAME));
+    cs.cx = kFrameSize.cx;
+    cs.cy = kFrameSize.cy;
     return CFrameWnd::PreCreateWindow(cs);
 }
 
 BOOL GalleryFrame::OnCreateClient(LPCREATESTRUCT, CCreateContext*)
 {
-    const OvoNonClientMetrics metrics;
-    m_font.CreateFontIndirect(&metrics.lfMessageFont);
-    constexpr DWORD kList = TVS_HASBUTTONS | TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT;
-    if (!m_pageList.CreateEx(WS_EX_CLIENTEDGE, kList | WS_VISIBLE | WS_TABSTOP, CRect(), this, IDC_PAGE_LIST))
-        return FALSE;
-    constexpr DWORD kLog = LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_VISIBLE | WS_CHILD;
-    if (!m_log.CWnd::CreateEx(WS_EX_CLIENTEDGE, L"LISTBOX", nullptr, kLog, CRect(), this, IDC_LOG))
-        return FALSE;
-    if (!m_statusBar.Create(this))
+    m_font.CreatePointFont(80, L"MS Shell Dlg 2");
+    if (!createParts())
         return FALSE;
     static constexpr UINT kPanes[] = {ID_SEPARATOR, ID_INDICATOR_CAPS, ID_INDICATOR_NUM};
     m_statusBar.SetIndicators(kPanes, static_cast<int>(std::size(kPanes)));
-
-    for (CWnd* wnd : {static_cast<CWnd*>(&m_pageList), static_cast<CWnd*>(&m_log)})
+    for (CWnd* wnd : std::initializer_list<CWnd*>{&m_pageList, &m_logLabel, &m_log})
         wnd->SetFont(&m_font);
     fillPageList();
     return TRUE;
 }
+
+bool GalleryFrame::createParts()
+{
+    constexpr DWORD kList = TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT | WS_VISIBLE | WS_TABSTOP;
+    constexpr DWORD kLog = LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_VISIBLE | WS_CHILD;
+    return m_pageList.CreateEx(WS_EX_CLIENTEDGE, kList, CRect(), this, IDC_PAGE_LIST) &&
+           m_header.create(*this, m_font) &&
+           m_logLabel.Create(L"Notifica&tions:", WS_CHILD | WS_VISIBLE, CRect(), this) &&
+           m_log.CWnd::CreateEx(WS_EX_CLIENTEDGE, L"LISTBOX", nullptr, kLog, CRect(), this, IDC_LOG) &&
+           m_statusBar.Create(this);
+}
+
+void GalleryFrame::RecalcLayout(BOOL notify)
+{
+    CFrameWnd::RecalcLayout(notify);
+    if (!m_log.m_hWnd)
+        return;
+    CRect area;
+    RepositionBars(0, 0xFFFF, 0, reposQuery, &area);
+    area.DeflateRect(kGap, kGap);
+    const CRect log(area.left, area.bottom - kLogHeight, area.right, area.bottom);
+    const CRect label(area.left, log.top - kLabelHeight, area.right, log.top);
+    const CRect list(area.left, area.top, area.left + kListWidth, label.top - kGap);
+    const CRect header(list.right + kGap, area.top, area.right, area.top + m_header.height());
+    m_log.MoveWindow(&log);
+    m_logLabel.MoveWindow(&label);
+    m_pageList.MoveWindow(&list);
+    m_header.MoveWindow(&header);
+    if (m_page)
+        m_page->MoveWindow(CRect(header.left, header.bottom, header.right, list.bottom));
+}
+
+// Tab and mnemonics reach the page list and the log as well as the page; Enter belongs to the page, whose default
+// button it presses.
+BOOL GalleryFrame::PreTranslateMessage(MSG* message)
+{
+    if (CFrameWnd::PreTranslateMessage(message))
+        return TRUE;
+    const bool forPage = message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
+    return forPage ? m_page && m_page->IsDialogMessage(message) : IsDialogMessage(message);
+}
+
+// Pages
 
 void GalleryFrame::fillPageList()
 {
@@ -73,12 +116,13 @@ void GalleryFrame::fillPageList()
 
 void GalleryFrame::openPage(const PageEntry& entry)
 {
-    if (m_entry == &entry)
-        return;
     m_entry = &entry;
     m_page.reset();
     m_page = entry.make();
     m_page->open(*this, [this](const std::wstring& line) { logLine(line); });
+    // Behind the list, so that Tab goes from the list to the page and on to the log.
+    m_page->SetWindowPos(&m_pageList, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    m_header.show(entry.title, entry.summary);
     RecalcLayout();
     m_page->ShowWindow(SW_SHOW);
 
@@ -87,34 +131,38 @@ void GalleryFrame::openPage(const PageEntry& entry)
             m_pageList.SelectItem(item);
 }
 
-void GalleryFrame::RecalcLayout(BOOL notify)
-{
-    CFrameWnd::RecalcLayout(notify);
-    if (!m_log.m_hWnd)
-        return;
-    CRect area;
-    RepositionBars(0, 0xFFFF, 0, reposQuery, &area);
-    area.DeflateRect(kGap, kGap);
-    const int logTop = area.bottom - kLogHeight;
-    m_log.MoveWindow(area.left, logTop, area.Width(), kLogHeight);
-    m_pageList.MoveWindow(area.left, area.top, kListWidth, logTop - area.top - kGap);
-    if (m_page)
-        m_page->MoveWindow(area.left + kListWidth + kGap, area.top, area.Width() - kListWidth - kGap,
-                           logTop - area.top - kGap);
-}
-
 void GalleryFrame::OnPageChosen(NMHDR* header, LRESULT* result)
 {
-    const auto& change = *reinterpret_cast<NMTREEVIEWW*>(header);
     *result = 0;
-    if (change.itemNew.hItem)
-        openPage(*reinterpret_cast<const PageEntry*>(m_pageList.GetItemData(change.itemNew.hItem)));
+    const HTREEITEM item = reinterpret_cast<const NMTREEVIEWW*>(header)->itemNew.hItem;
+    const auto* entry = item ? reinterpret_cast<const PageEntry*>(m_pageList.GetItemData(item)) : nullptr;
+    if (entry && entry != m_entry)
+        openPage(*entry);
+}
+
+void GalleryFrame::stepPage(int step)
+{
+    const auto& pages = pageTable();
+    const auto count = std::ssize(pages);
+    openPage(pages[static_cast<std::size_t>((m_entry - pages.data() + step + count) % count)]);
+}
+
+void GalleryFrame::OnNextPage()
+{
+    stepPage(1);
+}
+
+void GalleryFrame::OnPreviousPage()
+{
+    stepPage(-1);
 }
 
 void GalleryFrame::OnSetFocus(CWnd*)
 {
     m_pageList.SetFocus();
 }
+
+// Log
 
 void GalleryFrame::logLine(const std::wstring& line)
 {
@@ -141,7 +189,25 @@ void GalleryFrame::settle()
     RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
-/// A modal box that a pose has opened is idle: its picture can be taken as soon as the screen shows it.
+bool GalleryFrame::shoot(const PageEntry& entry, const std::wstring& pose, const std::wstring& path)
+{
+    OnLogClear();
+    openPage(entry);
+    settle();
+    if (pose.empty())
+        return saveScreenshot(m_hWnd, path);
+    m_posePath = path;
+    m_poseSaved = false;
+    const bool known = m_page->pose(pose);
+    if (!std::exchange(m_posePath, {}).empty()) {
+        // No modal box came: the page itself shows the pose.
+        settle();
+        m_poseSaved = known && saveScreenshot(m_hWnd, path);
+    }
+    return m_poseSaved;
+}
+
+// A modal box that a pose has opened is idle: its picture can be taken as soon as the screen shows it.
 void GalleryFrame::OnEnterIdle(UINT why, CWnd* who)
 {
     CFrameWnd::OnEnterIdle(why, who);
@@ -161,28 +227,4 @@ void GalleryFrame::OnTimer(UINT_PTR id)
     m_poseSaved = saveScreenshot(m_posing, m_posePath);
     m_posePath.clear();
     ::PostMessageW(std::exchange(m_posing, nullptr), WM_COMMAND, IDCANCEL, 0);
-}
-
-bool GalleryFrame::shoot(const PageEntry& entry, const std::wstring& pose, const std::wstring& path)
-{
-    openPage(entry);
-    settle();
-    if (pose.empty())
-        return saveScreenshot(m_hWnd, path);
-    m_posePath = path;
-    m_poseSaved = false;
-    m_page->pose(pose);
-    return m_poseSaved;
-}
-
-bool GalleryFrame::shootAll(const std::wstring& folder)
-{
-    bool good = true;
-    for (const PageEntry& entry : pageTable()) {
-        const std::wstring base = folder + L"\\" + entry.name;
-        good = shoot(entry, L"", base + L".png") && good;
-        for (const std::wstring& pose : m_page->poses())
-            good = shoot(entry, pose, base + L"-" + pose + L".png") && good;
-    }
-    return good;
 }

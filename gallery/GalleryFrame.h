@@ -2,6 +2,7 @@
 #pragma once
 
 #include "GalleryPage.h"
+#include "PageHeader.h"
 #include "PageTable.h"
 
 #include <afxcmn.h>
@@ -16,15 +17,17 @@ public:
     GalleryFrame();
     ~GalleryFrame() override;
 
-    /// Opens a page of the table and marks it in the list.
+    /// Opens a page of the table afresh and marks it in the list.
     void openPage(const PageEntry& entry);
+    GalleryPage& page() const { return *m_page; }
 
-    /// Writes one picture of every page and of every pose into a folder. False when a file cannot be written.
-    bool shootAll(const std::wstring& folder);
-    /// One picture: of a page, or, named "page/pose", of what a pose shows.
+    void logLine(const std::wstring& line);
+
+    /// Writes one picture: of a page, or of what one of its poses shows. False when that cannot be done.
     bool shoot(const PageEntry& entry, const std::wstring& pose, const std::wstring& path);
 
     void RecalcLayout(BOOL notify = TRUE) override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
@@ -33,20 +36,25 @@ protected:
     afx_msg void OnEnterIdle(UINT why, CWnd* who);
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg void OnPageChosen(NMHDR* header, LRESULT* result);
+    afx_msg void OnNextPage();
+    afx_msg void OnPreviousPage();
     afx_msg void OnLogClear();
     afx_msg void OnUpdateLogClear(CCmdUI* ui);
     afx_msg void OnSetFocus(CWnd* old);
     DECLARE_MESSAGE_MAP()
 
 private:
+    bool createParts();
     void fillPageList();
-    void logLine(const std::wstring& line);
+    void stepPage(int step);
     void settle();
 
+    CFont m_font; // first, since the windows below use it
     CTreeCtrl m_pageList;
+    PageHeader m_header;
+    CStatic m_logLabel;
     CListBox m_log;
     CStatusBar m_statusBar;
-    CFont m_font;
     std::unique_ptr<GalleryPage> m_page;
     const PageEntry* m_entry = nullptr;
     HWND m_posing = nullptr; ///< the modal box whose picture is due

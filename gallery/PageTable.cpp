@@ -18,9 +18,14 @@ std::unique_ptr<GalleryPage> make()
 const std::vector<PageEntry>& pageTable()
 {
     static const std::vector<PageEntry> pages{
-        {L"messagebox", L"Message box", &make<MessageBoxPage>},
-        {L"geometry", L"Geometry and keys", &make<GeometryPage>},
-        {L"themes", L"Themes", &make<ThemesPage>},
+        {L"messagebox", L"Message box",
+         L"OVOMessageBox: more buttons and icons than the system's, and a place that it remembers.",
+         &make<MessageBoxPage>},
+        {L"geometry", L"Geometry and keys",
+         L"GetWorkArea and EnsureRectVisible keep rectangles on the screen; PreTranslateTabControl pages by keyboard.",
+         &make<GeometryPage>},
+        {L"themes", L"Themes", L"CThemeData: colours and button backgrounds, with visual styles or without.",
+         &make<ThemesPage>},
     };
     return pages;
 }

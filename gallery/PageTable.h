@@ -9,8 +9,9 @@
 
 struct PageEntry
 {
-    const wchar_t* name;  ///< on the command line and in file names
-    const wchar_t* title; ///< in the list
+    const wchar_t* name;    ///< on the command line and in file names
+    const wchar_t* title;   ///< in the list and above the page
+    const wchar_t* summary; ///< one sentence below the title
     std::unique_ptr<GalleryPage> (*make)();
 };
 

@@ -2,6 +2,8 @@
 
 #include "resource.h"
 
+#include <algorithm>
+#include <iterator>
 #include <span>
 
 namespace
@@ -64,7 +66,7 @@ constexpr wchar_t kReplaceText[] = L"A file of this name exists already.\nReplac
 /// A box that is shown for its picture.
 struct Pose
 {
-    const wchar_t* name;
+    std::wstring_view name;
     UINT type;
     const wchar_t* text;
 };
@@ -213,11 +215,12 @@ std::vector<std::wstring> MessageBoxPage::poses() const
     return names;
 }
 
-void MessageBoxPage::pose(const std::wstring& name)
+bool MessageBoxPage::pose(const std::wstring& name)
 {
-    const std::wstring lines = manyLines();
-    for (const Pose& pose : kPoses)
-        if (name == pose.name)
-            OVOMessageBox(GetParent()->m_hWnd, pose.text ? pose.text : lines.c_str(), L"ovoui gallery", pose.type,
-                          L"GalleryPose", 0);
+    const auto* const pose = std::ranges::find(kPoses, name, &Pose::name);
+    if (pose == std::end(kPoses))
+        return false;
+    const std::wstring text = pose->text ? pose->text : manyLines();
+    OVOMessageBox(GetParent()->m_hWnd, text.c_str(), L"ovoui gallery", pose->type, L"GalleryPose", 0);
+    return true;
 }

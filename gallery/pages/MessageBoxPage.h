@@ -12,7 +12,7 @@ public:
     ~MessageBoxPage() override;
 
     std::vector<std::wstring> poses() const override;
-    void pose(const std::wstring& name) override;
+    bool pose(const std::wstring& name) override;
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;

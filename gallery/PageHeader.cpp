@@ -1,0 +1,66 @@
+#include "PageHeader.h"
+
+namespace
+{
+
+constexpr int kMargin = 10;
+constexpr int kGap = 2;
+
+int lineHeight(CDC& dc, CFont& font)
+{
+    CFont* const old = dc.SelectObject(&font);
+    TEXTMETRIC metrics{};
+    dc.GetTextMetrics(&metrics);
+    dc.SelectObject(old);
+    return metrics.tmHeight;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(PageHeader, CWnd)
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+bool PageHeader::create(CWnd& parent, CFont& font)
+{
+    const LPCTSTR cls =
+        AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW), ::GetSysColorBrush(COLOR_WINDOW));
+    if (!CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE, CRect(), &parent, 0))
+        return false;
+    SetFont(&font);
+    LOGFONT face{};
+    font.GetLogFont(&face);
+    face.lfHeight = face.lfHeight * 3 / 2;
+    face.lfWeight = FW_BOLD;
+    m_titleFont.CreateFontIndirect(&face);
+
+    CClientDC dc(this);
+    m_titleHeight = lineHeight(dc, m_titleFont);
+    m_height = kMargin + m_titleHeight + kGap + lineHeight(dc, font) + kMargin;
+    return true;
+}
+
+void PageHeader::show(const wchar_t* title, const wchar_t* summary)
+{
+    m_title = title;
+    m_summary = summary;
+    Invalidate();
+}
+
+void PageHeader::OnPaint()
+{
+    CPaintDC dc(this);
+    CRect place;
+    GetClientRect(&place);
+    dc.FillSolidRect(place.left, place.bottom - 1, place.Width(), 1, ::GetSysColor(COLOR_BTNSHADOW));
+
+    place.DeflateRect(kMargin, kMargin);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+    CFont* const old = dc.SelectObject(&m_titleFont);
+    dc.DrawText(m_title, -1, &place, DT_SINGLELINE | DT_NOPREFIX);
+    dc.SelectObject(GetFont());
+    place.top += m_titleHeight + kGap;
+    dc.DrawText(m_summary, -1, &place, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+    dc.SelectObject(old);
+}

@@ -1,0 +1,27 @@
+// The band above a page: its title and one sentence.
+#pragma once
+
+#include <afxwin.h>
+
+class PageHeader : public CWnd
+{
+public:
+    bool create(CWnd& parent, CFont& font);
+
+    /// The texts must live as long as they are shown.
+    void show(const wchar_t* title, const wchar_t* summary);
+
+    /// In pixels, for the font given.
+    int height() const { return m_height; }
+
+protected:
+    afx_msg void OnPaint();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CFont m_titleFont;
+    int m_height = 0;
+    int m_titleHeight = 0;
+    const wchar_t* m_title = L"";
+    const wchar_t* m_summary = L"";
+};
