@@ -1,0 +1,30 @@
+/// Not exported: the tree as a target of OLE drags.
+#pragma once
+
+#include <ovoui/tree/MultiTreeCtrl.h>
+#include <ovoui/tree/core/EdgeScroll.h>
+
+#include <afxole.h>
+
+/// Marks the place under the pointer, scrolls at the edges, and hands what is dropped to the node there.
+class MultiTreeCtrl::DropTarget : public COleDropTarget
+{
+public:
+    explicit DropTarget(MultiTreeCtrl& tree);
+    ~DropTarget() override;
+
+    DROPEFFECT OnDragEnter(CWnd* window, COleDataObject* data, DWORD keys, CPoint point) override;
+    DROPEFFECT OnDragOver(CWnd* window, COleDataObject* data, DWORD keys, CPoint point) override;
+    DROPEFFECT OnDragScroll(CWnd* window, DWORD keys, CPoint point) override;
+    void OnDragLeave(CWnd* window) override;
+    DROPEFFECT OnDropEx(CWnd* window, COleDataObject* data, DROPEFFECT standard, DROPEFFECT allowed,
+                        CPoint point) override;
+
+private:
+    unsigned directionAt(CPoint point) const;
+    bool drop(COleDataObject& data, DROPEFFECT& effect, DROPEFFECT allowed, CPoint point);
+
+    MultiTreeCtrl& m_tree;
+    bool m_rightButton = false;
+    ovoui::tree::EdgeScrollTimer m_scroll;
+};

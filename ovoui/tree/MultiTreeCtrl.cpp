@@ -1,0 +1,179 @@
+// The control: message map, creation and destruction, and its way to the tree view.
+#include <ovoui/tree/MultiTreeCtrl.h>
+
+#include <ovoui/tree/DropTarget.h>
+#include <ovoui/tree/EditLabelAgain.h>
+#include <ovoui/tree/TreeState.h>
+
+#include <ovouires/resource.h>
+
+BEGIN_MESSAGE_MAP(MultiTreeCtrl, CTreeCtrl)
+// Mouse: TreeMouse.cpp
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_RBUTTONDOWN()
+ON_WM_RBUTTONUP()
+ON_WM_RBUTTONDBLCLK()
+ON_NOTIFY_REFLECT(NM_RCLICK, OnRClick)
+ON_WM_TIMER()
+// Keyboard and focus: TreeKeys.cpp
+ON_WM_KEYDOWN()
+ON_WM_SYSKEYDOWN()
+ON_WM_CHAR()
+ON_WM_GETDLGCODE()
+ON_NOTIFY_REFLECT(NM_RETURN, OnReturn)
+ON_WM_SETFOCUS()
+ON_WM_KILLFOCUS()
+// Opening, closing, deleting: TreeExpansion.cpp
+ON_NOTIFY_REFLECT_EX(TVN_ITEMEXPANDINGW, OnItemexpanding)
+ON_NOTIFY_REFLECT_EX(TVN_ITEMEXPANDEDW, OnItemexpanded)
+ON_NOTIFY_REFLECT(TVN_DELETEITEMW, OnDeleteitem)
+ON_NOTIFY_REFLECT_EX(TVN_GETDISPINFOW, OnGetdispinfo)
+// Label editing: TreeLabelEdit.cpp
+ON_NOTIFY_REFLECT(TVN_BEGINLABELEDITW, OnBeginlabeledit)
+ON_NOTIFY_REFLECT(TVN_ENDLABELEDITW, OnEndlabeledit)
+ON_REGISTERED_MESSAGE(ovoui::tree::kEditLabelAgain, OnEditLabelAgain)
+// Tooltips: TreeTips.cpp
+ON_NOTIFY_REFLECT(TVN_GETINFOTIPW, OnGetinfotip)
+ON_NOTIFY_EX(TTN_SHOW, 0, OnToolTipShow)
+// Commands and menus: TreeCommands.cpp, TreePaste.cpp, TreeContextMenu.cpp
+ON_COMMAND(IDOK, OnOk)
+ON_COMMAND(ID_TREE_DELETE, OnEditDelete)
+ON_UPDATE_COMMAND_UI(ID_TREE_DELETE, OnUpdateEditDelete)
+ON_COMMAND(ID_TREE_RENAME, OnEditReplace)
+ON_UPDATE_COMMAND_UI(ID_TREE_RENAME, OnUpdateEditReplace)
+ON_COMMAND(ID_TREE_REDRAW, OnRedraw)
+ON_COMMAND_EX(ID_EDIT_PASTE, OnEditPaste)
+ON_UPDATE_COMMAND_UI(ID_EDIT_PASTE, OnUpdateEditPaste)
+ON_COMMAND(ID_EDIT_SELECT_ALL, OnEditSelectAll)
+ON_WM_CONTEXTMENU()
+ON_WM_INITMENUPOPUP()
+ON_WM_CREATE()
+// Behind all named commands: it takes every other one
+ON_COMMAND_EX_RANGE(0, 0xFFFF, OnUnknownCommand)
+END_MESSAGE_MAP()
+
+MultiTreeCtrl::MultiTreeCtrl()
+    : m_dropTarget(std::make_unique<DropTarget>(*this))
+    , m_gestures(EVSubscriptionList<int>::create())
+    , m_state(std::make_shared<State>(*this))
+{
+}
+
+MultiTreeCtrl::~MultiTreeCtrl()
+{
+    m_state->closing = true;
+    // Here and not in the base class: there the notifications that release the nodes would not arrive. Not by
+    // the member function either: an exception must not leave a destructor.
+    if (m_hWnd)
+        ::DestroyWindow(m_hWnd);
+    m_state->tree = nullptr;
+}
+
+int MultiTreeCtrl::OnCreate(LPCREATESTRUCT cs)
+{
+    if (CTreeCtrl::OnCreate(cs) == -1)
+        return -1;
+    setUp();
+    return 0;
+}
+
+void MultiTreeCtrl::PreSubclassWindow()
+{
+    CTreeCtrl::PreSubclassWindow();
+    // A window that is just being created has no items' height yet; its OnCreate will come.
+    if (::SendMessageW(m_hWnd, TVM_GETITEMHEIGHT, 0, 0) == 0)
+        return;
+    m_state->selection.setComplete(false);
+    setUp();
+}
+
+void MultiTreeCtrl::setUp()
+{
+    // Without OLE the tree works, but for drops.
+    m_dropTarget->Register(this);
+    const LPCTSTR name = MAKEINTRESOURCE(IDR_TREE_ACCELERATORS);
+    m_accelerators = ::LoadAccelerators(AfxFindResourceHandle(name, RT_ACCELERATOR), name);
+}
+
+bool MultiTreeCtrl::isUsable() const
+{
+    return m_hWnd && !m_state->closing;
+}
+
+// The tree view
+
+LRESULT MultiTreeCtrl::ask(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    // Questions change nothing; DefWindowProc is not const because messages may.
+    return const_cast<MultiTreeCtrl*>(this)->CTreeCtrl::DefWindowProc(message, wParam, lParam);
+}
+
+HTREEITEM MultiTreeCtrl::next(UINT relation, HTREEITEM item) const
+{
+    return reinterpret_cast<HTREEITEM>(ask(TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
+}
+
+HTREEITEM MultiTreeCtrl::caret() const
+{
+    return next(TVGN_CARET);
+}
+
+bool MultiTreeCtrl::isSelected(HTREEITEM item) const
+{
+    return (ask(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), TVIS_SELECTED) & TVIS_SELECTED) != 0;
+}
+
+void MultiTreeCtrl::setItemState(HTREEITEM item, UINT state, UINT mask)
+{
+    TVITEM changes{};
+    changes.mask = TVIF_HANDLE | TVIF_STATE;
+    changes.hItem = item;
+    changes.state = state;
+    changes.stateMask = mask;
+    DefWindowProc(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changes));
+}
+
+void MultiTreeCtrl::setSelected(HTREEITEM item, bool selected)
+{
+    setItemState(item, selected ? TVIS_SELECTED : 0, TVIS_SELECTED);
+}
+
+bool MultiTreeCtrl::selectCaret(HTREEITEM item)
+{
+    return DefWindowProc(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item)) != 0;
+}
+
+void MultiTreeCtrl::deleteItem(HTREEITEM item)
+{
+    DefWindowProc(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(item));
+}
+
+OVO::Handle<MultiTreeCtrl::Node> MultiTreeCtrl::node(HTREEITEM item) const
+{
+    TVITEM data{};
+    data.mask = TVIF_HANDLE | TVIF_PARAM;
+    data.hItem = item;
+    if (!item || !ask(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&data)))
+        return nullptr;
+    return OVO::Handle<Node>(reinterpret_cast<Node*>(data.lParam));
+}
+
+HTREEITEM MultiTreeCtrl::HitTest(CPoint point, unsigned* flags) const
+{
+    TVHITTESTINFO info{};
+    info.pt = point;
+    const auto item = reinterpret_cast<HTREEITEM>(ask(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&info)));
+    unsigned hit = info.flags;
+    if (const OVO::Handle<Node> under = node(item))
+        under->hitTest(*this, point, hit);
+    if (flags)
+        *flags = hit;
+    return item;
+}
+
+EVSubscriptionList<int>& MultiTreeCtrl::gestureEV()
+{
+    return *m_gestures;
+}

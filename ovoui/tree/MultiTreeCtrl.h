@@ -1,0 +1,350 @@
+/// A tree view of the application's own objects, any number of which can be selected.
+///
+///     class Folder : public MultiTreeCtrl::Node { ... };   // text, images, what opening it does ...
+///     class ProjectTree : public MultiTreeCtrl             // where errors go, what is forbidden
+///     {
+///         void reportError(const wchar_t* message) override { AfxMessageBox(message); }
+///         bool isCommandDisabled(unsigned) override { return false; }
+///     };
+///
+///     tree.Create(WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_SHOWSELALWAYS, rect, this, IDC_TREE);
+///     (new Folder(L"Sources"))->insert(tree, TVI_ROOT, TVI_LAST);
+///
+/// Classes and files: the nodes and the places where children go are in TreeNode.h and InsertionPoint.h,
+/// walking over items in TreeIterator.h, the drop menu in DropMenu.h.
+#pragma once
+
+#include <ovoui/export.h>
+#include <ovoui/tree/CommandSupported.h>
+#include <ovoui/tree/DragCursorSet.h>
+
+#include <ovocor/EventList.h>
+#include <ovocor/Handle.h>
+
+#include <afxwin.h>
+#include <afxcmn.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class COleDataObject;
+
+/// The control. A host derives from it, answers the two pure operations, and creates it or attaches it to a
+/// dialog item (SubclassDlgItem, DDX_Control). For drag and drop the host starts OLE (AfxOleInit) first.
+///
+/// Items are those of CTreeCtrl, each with a node behind it; insert them through Node::insert or the
+/// operations here. The platform's selected item is the focus here (the caret); selected are all items with
+/// the bit TVIS_SELECTED. Every change of the selection reaches the parent window as TVN_SELCHANGED.
+///
+/// Items passed in must exist in this tree, except where null is mentioned. Exceptions of nodes pass through
+/// all public operations; see TreeNode.h.
+class OVOUI_API MultiTreeCtrl : public CTreeCtrl
+{
+public:
+    class InsertionPoint;
+    class Node;
+    class iterator;
+    using CommandSupported = ::CommandSupported;
+    using DragCursorSet = ::DragCursorSet;
+
+    /// What gestureEV() publishes at the beginning of a gesture, beside the numbers of commands; 0 is the
+    /// end.
+    static constexpr int kGestureDelete = 5146;
+    static constexpr int kGestureDefaultAction = 1118;
+
+    MultiTreeCtrl();
+    /// Destroys the window, if there is one, and lets go of all nodes.
+    ~MultiTreeCtrl() override;
+
+    // Inserting
+
+    /// Inserts a node among the children of `where`: in order if these are kept sorted (behind all that sort
+    /// before it), else behind `position` children; a negative or too large position appends.
+    ///
+    /// Gives the new item. If `where` is not expanded, null; if a child sorts the same, that child's item: in
+    /// both cases the node is destroyed, unless somebody holds a handle to it. Null too when the tree view
+    /// cannot insert the item, or for a null node: the node is left as it was, and likewise when a node
+    /// raises an exception.
+    ///
+    /// More than 64 sorted children are searched by halving. That relies on their order: a node whose place
+    /// may have changed must be brought up to date by updateUI or resetItemText, or be inserted anew.
+    HTREEITEM insert(Node* node, InsertionPoint& where, int position);
+
+    /// Inserts many nodes at once, with one repaint. Gives what insert() gives for each, in the order of
+    /// `nodes`.
+    ///
+    /// Sorted children end as if the nodes were inserted one by one; of several nodes that sort the same, the
+    /// first is inserted. Otherwise the nodes go in as one block, in their order, behind `position` children.
+    /// When a node raises an exception, nothing was inserted yet, or (from text() or an image) the nodes
+    /// before it were.
+    std::vector<HTREEITEM> insertBatch(const std::vector<Node*>& nodes, InsertionPoint& where, int position);
+
+    /// Inserts as Node::insert or insert() do, and adds the item to the selection. `first`, true before the
+    /// first call of a batch, makes that call replace the selection, and becomes false. Gives null, and
+    /// changes nothing of the selection, when nothing was inserted.
+    HTREEITEM insertAndSelect(Node* node, bool& first, HTREEITEM parent, HTREEITEM after);
+    HTREEITEM insertAndSelect(Node* node, bool& first, InsertionPoint& where, int position);
+
+    // Nodes
+
+    /// The node behind an item; none for null or an item without a node.
+    OVO::Handle<Node> node(HTREEITEM item) const;
+
+    /// Brings an item up to date with its node: label, images, has-children value, the cut, drop-highlighted
+    /// and bold bits. For the caret the parent gets TVN_SELCHANGED, since what it shows of the item may have
+    /// changed.
+    void updateUI(Node& node);
+    void updateUI(HTREEITEM item);
+
+    /// Ends an open label editor, keeping the edit, and deletes all items. Gives the tree view's result.
+    BOOL DeleteAllItems();
+
+    /// Asks the user, then has the selected nodes that can be erased erase themselves, and deletes their
+    /// items. Nodes get dragStarting and dragEnding with no effect around it.
+    void eraseSelectedNodes();
+
+    // Walking
+
+    iterator begin(bool selectedOnly) const;
+    iterator beginAll() const;
+    iterator beginSelected() const;
+    iterator end() const;
+
+    // Selection
+
+    /// Makes an item the caret and the only selected one; null clears the selection. Calls doSelectItem.
+    BOOL SelectItem(HTREEITEM item);
+
+    /// Sets the fixed end of the next range (Shift); null for none.
+    void selectItemAnchor(HTREEITEM item);
+
+    /// Deselects `first`, its following siblings, and all below these, without a notification. Gives how many
+    /// were selected. Null does nothing.
+    unsigned clearselection(HTREEITEM first);
+
+    /// Adds the displayed items from one to the other, in whatever order they stand, to the selection,
+    /// without a notification. If one is null or not displayed, the range goes from the other to the last
+    /// displayed item.
+    void selectRange(HTREEITEM a, HTREEITEM b);
+
+    /// Sends the parent TVN_SELCHANGED. `action` is one of the TVC_ values; the items may be null.
+    void notifyTvnSelchanged(unsigned action, HTREEITEM oldItem, HTREEITEM newItem,
+                             const CPoint& point) const;
+
+    /// The selected item (the caret if it is selected, else the first) as a path of texts from the top:
+    /// "/Project/Sources/main.cpp". In a text a slash is written "\/" and a backslash "\\"; "\#2" behind a
+    /// text means the second child with it. Empty when nothing is selected.
+    std::wstring selectedPath();
+
+    /// Selects the item of a path, opening what is on the way; an empty path clears the selection. When there
+    /// is no such item the selection stays.
+    void selectPath(const std::wstring& path);
+
+    /// As CTreeCtrl::HitTest, with flags (may be null) that the node under the point may have changed.
+    HTREEITEM HitTest(CPoint point, unsigned* flags = nullptr) const;
+    using CTreeCtrl::HitTest;
+
+    /// Activates the selected nodes, as a double click does.
+    void defaultAction();
+
+    /// Tells when a user's gesture begins (its number) and ends (0), so that all it does can be made undone
+    /// at once.
+    EVSubscriptionList<int>& gestureEV();
+
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override;
+    BOOL PreTranslateMessage(MSG* message) override;
+
+    // What the host answers
+
+    /// Shows an error that a node has raised.
+    virtual void reportError(const wchar_t* message) = 0;
+    /// Whether a command or gesture is forbidden now.
+    virtual bool isCommandDisabled(unsigned id) = 0;
+
+    // What the host may change
+
+    /// Scrolls by one item during a drag, or, with `doIt` false, tells whether it could. The high byte of
+    /// `code` is 0 for up and 1 for down.
+    virtual bool dragScroll(unsigned code, unsigned reserved, bool doIt);
+    /// Does the work of SelectItem. False when the parent refused the change.
+    virtual bool doSelectItem(HTREEITEM item);
+
+protected:
+    void PreSubclassWindow() override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    // Mouse
+    afx_msg void OnLButtonDown(UINT keys, CPoint point);
+    afx_msg void OnLButtonUp(UINT keys, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT keys, CPoint point);
+    afx_msg void OnRButtonDown(UINT keys, CPoint point);
+    afx_msg void OnRButtonUp(UINT keys, CPoint point);
+    afx_msg void OnRButtonDblClk(UINT keys, CPoint point);
+    afx_msg void OnRClick(NMHDR* header, LRESULT* result);
+    afx_msg void OnTimer(UINT_PTR id);
+
+    // Keyboard and focus
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnSysKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnReturn(NMHDR* header, LRESULT* result);
+    afx_msg void OnSetFocus(CWnd* old);
+    afx_msg void OnKillFocus(CWnd* next);
+
+    // Commands
+    afx_msg void OnOk();
+    afx_msg void OnEditDelete();
+    afx_msg void OnEditReplace();
+    afx_msg void OnRedraw();
+    afx_msg BOOL OnEditPaste(UINT id);
+    afx_msg void OnEditSelectAll();
+    afx_msg BOOL OnUnknownCommand(UINT id);
+    afx_msg void OnUpdateEditDelete(CCmdUI* ui);
+    afx_msg void OnUpdateEditReplace(CCmdUI* ui);
+    afx_msg void OnUpdateEditPaste(CCmdUI* ui);
+    afx_msg void OnContextMenu(CWnd* wnd, CPoint screen);
+    afx_msg void OnInitMenuPopup(CMenu* popup, UINT index, BOOL systemMenu);
+
+    // The tree view's notifications
+    afx_msg BOOL OnItemexpanding(NMHDR* header, LRESULT* result);
+    afx_msg BOOL OnItemexpanded(NMHDR* header, LRESULT* result);
+    afx_msg void OnDeleteitem(NMHDR* header, LRESULT* result);
+    afx_msg BOOL OnGetdispinfo(NMHDR* header, LRESULT* result);
+    afx_msg void OnBeginlabeledit(NMHDR* header, LRESULT* result);
+    afx_msg void OnEndlabeledit(NMHDR* header, LRESULT* result);
+    afx_msg LRESULT OnEditLabelAgain(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnGetinfotip(NMHDR* header, LRESULT* result);
+    afx_msg BOOL OnToolTipShow(UINT id, NMHDR* header, LRESULT* result);
+
+    afx_msg int OnCreate(LPCREATESTRUCT cs);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    class DropTarget;
+    class ErasingDrag;
+    class Inserter;
+    class LayoutHold;
+    class NativeCall;
+    struct PastePlace;
+    struct Press;
+    struct State;
+
+    // The tree view, without the way through the message map
+    LRESULT ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    HTREEITEM next(UINT relation, HTREEITEM item = nullptr) const;
+    HTREEITEM caret() const;
+    bool isSelected(HTREEITEM item) const;
+    void setSelected(HTREEITEM item, bool selected);
+    void setItemState(HTREEITEM item, UINT state, UINT mask);
+    bool selectCaret(HTREEITEM item);
+    void setUp();
+    bool isUsable() const;
+
+    // Walking
+    HTREEITEM nextItem(HTREEITEM item, bool intoChildren) const;
+    HTREEITEM getLastItem() const;
+    HTREEITEM firstSelected() const;
+    HTREEITEM nextSelected(HTREEITEM item) const;
+    HTREEITEM selectedFrom(HTREEITEM item) const;
+    std::vector<HTREEITEM> selectedItems() const;
+    bool orderSelected(std::vector<HTREEITEM>& items) const;
+    std::vector<OVO::Handle<Node>> selectedNodes() const;
+    bool isBelow(HTREEITEM item, HTREEITEM ancestor) const;
+
+    // Inserting
+    HTREEITEM insertItem(const Node& node, HTREEITEM parent, HTREEITEM after);
+    void selectInserted(HTREEITEM item, bool& first);
+
+    // Opening, closing, deleting
+    void openItem(Node& node, HTREEITEM item, LRESULT* result);
+    void closeItem(Node& node, HTREEITEM item);
+    void restoreState(Node& node, HTREEITEM item);
+    void deleteItem(HTREEITEM item);
+    void deleteChildren(HTREEITEM item);
+    bool postponesDeleting(HTREEITEM item);
+    static void deletePostponed(State& state);
+    void detachNodes(HTREEITEM item);
+    void releaseNode(HTREEITEM item, LPARAM data);
+    bool eraseSelection();
+    void eraseNodes(const std::vector<OVO::Handle<Node>>& nodes);
+    bool confirmsErasing(const std::vector<OVO::Handle<Node>>& nodes);
+    void refreshItem(Node& node, HTREEITEM item);
+
+    // Selection
+    TVITEM describe(HTREEITEM item) const;
+    void notifyParent(NMHDR& header) const;
+    unsigned deselectAllBut(HTREEITEM kept);
+    void deselect(const std::vector<HTREEITEM>& items);
+    void selectWithoutNotice(HTREEITEM item);
+    bool isDisplayed(HTREEITEM item) const;
+    std::vector<HTREEITEM> displayedRange(HTREEITEM a, HTREEITEM b) const;
+    void selectAll(unsigned action);
+    void moveCaretAlone(HTREEITEM item);
+    void invalidateSelection();
+
+    // Mouse: a press, step by step
+    void doButtonDown(UINT keys, CPoint point, UINT dragCode);
+    void pressWithShift(Press& press);
+    void pressPlain(Press& press);
+    void pressWithCtrl(Press& press);
+    void moveAnchor(const Press& press);
+    HTREEITEM itemBeyond(unsigned hit) const;
+    void takeFocus();
+    void releaseWithCtrl(const Press& press);
+    void releasePlain(const Press& press);
+    void selectPressed(const Press& press);
+    void deselectOne(HTREEITEM item, CPoint point);
+    void sendBeginDrag(UINT dragCode, CPoint point) const;
+    void sendContextMenu();
+    void startEditTimer(HTREEITEM item);
+    void stopEditTimer();
+
+    // Keyboard
+    void moveTo(HTREEITEM target);
+    void toggleCaret();
+    void runOwnCommand(unsigned id);
+    void runDefaultAction();
+    void activateSelection();
+
+    // Drop and paste
+    InsertionPoint* rootInsertionPoint() const;
+    DWORD dragHitTest(COleDataObject& data, CPoint point, DWORD& effects, OVO::Handle<Node>* target,
+                      HTREEITEM& item, int& zone);
+    DWORD askTarget(COleDataObject& data, HTREEITEM hovered, DWORD& effects, OVO::Handle<Node>* target,
+                    HTREEITEM& item, int& zone);
+    int placeAmongSiblings(HTREEITEM item);
+    void showDropMark(HTREEITEM markBehind, HTREEITEM highlighted);
+    void setInsertMark(HTREEITEM behind);
+    PastePlace findPastePlace(COleDataObject& data);
+    bool canPaste(UINT id);
+
+    // Commands
+    bool offersCommand(UINT id) const;
+    bool routeToNodes(UINT id);
+    bool routeToParent(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
+    BOOL findHandler(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
+    void updateMenuItem(CMenu& popup, UINT index, const std::vector<OVO::Handle<Node>>& nodes);
+    CPoint menuPlaceAtCaret();
+
+    // Label editing and paths
+    void editLabel(HTREEITEM item);
+    bool applyTypedText(Node& node, HTREEITEM item, const std::wstring& typed, LRESULT* result);
+    std::wstring labelOf(HTREEITEM item) const;
+    HTREEITEM findChild(HTREEITEM first, const std::wstring& text, unsigned ordinal) const;
+
+    HTREEITEM m_anchor = nullptr;
+    bool m_pending = false;
+    std::unique_ptr<DropTarget> m_dropTarget;
+    HACCEL m_accelerators = nullptr;
+    UINT_PTR m_editTimer = 0;
+    HTREEITEM m_editItem = nullptr;
+    OVO::Handle<EVSubscriptionList<int>> m_gestures;
+    /// Shared, since calls into the host may destroy the control.
+    std::shared_ptr<State> m_state;
+};
+
+#include <ovoui/tree/InsertionPoint.h>
+#include <ovoui/tree/TreeNode.h>
+#include <ovoui/tree/TreeIterator.h>

@@ -1,0 +1,103 @@
+#include <ovoui/tree/ParentNotificationFilter.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <map>
+#include <vector>
+
+namespace ovoui::tree
+{
+
+namespace
+{
+
+/// A window whose procedure is replaced. The window's user data stays untouched: the parent may need it for
+/// the messages that reach it meanwhile.
+struct FilteredParent
+{
+    WNDPROC procedure;
+    bool unicode;
+    std::vector<HWND> quietTrees; ///< one entry for each filter
+};
+
+/// All on the one thread with windows.
+std::map<HWND, FilteredParent>& filteredParents()
+{
+    static std::map<HWND, FilteredParent> parents;
+    return parents;
+}
+
+bool isSelectionChange(UINT message, LPARAM lParam, const std::vector<HWND>& trees)
+{
+    if (message != WM_NOTIFY)
+        return false;
+    const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
+    return (header.code == TVN_SELCHANGEDW || header.code == TVN_SELCHANGEDA) &&
+           std::find(trees.begin(), trees.end(), header.hwndFrom) != trees.end();
+}
+
+LRESULT CALLBACK filterProcedure(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const auto found = filteredParents().find(wnd);
+    if (found == filteredParents().end())
+        return ::DefWindowProcW(wnd, message, wParam, lParam);
+    if (isSelectionChange(message, lParam, found->second.quietTrees))
+        return 0;
+    const WNDPROC procedure = found->second.procedure;
+    const bool unicode = found->second.unicode;
+    if (message == WM_NCDESTROY)
+        filteredParents().erase(found);
+    return unicode ? ::CallWindowProcW(procedure, wnd, message, wParam, lParam)
+                   : ::CallWindowProcA(procedure, wnd, message, wParam, lParam);
+}
+
+WNDPROC setProcedure(HWND wnd, WNDPROC procedure, bool unicode)
+{
+    const auto value = reinterpret_cast<LONG_PTR>(procedure);
+    return reinterpret_cast<WNDPROC>(unicode ? ::SetWindowLongPtrW(wnd, GWLP_WNDPROC, value)
+                                             : ::SetWindowLongPtrA(wnd, GWLP_WNDPROC, value));
+}
+
+WNDPROC currentProcedure(HWND wnd, bool unicode)
+{
+    return reinterpret_cast<WNDPROC>(unicode ? ::GetWindowLongPtrW(wnd, GWLP_WNDPROC)
+                                             : ::GetWindowLongPtrA(wnd, GWLP_WNDPROC));
+}
+
+} // namespace
+
+ParentNotificationFilter::ParentNotificationFilter(HWND tree)
+    : m_tree(tree)
+    , m_parent(::GetParent(tree))
+{
+    if (!m_parent)
+        return;
+    auto& parents = filteredParents();
+    auto found = parents.find(m_parent);
+    if (found == parents.end()) {
+        const bool unicode = ::IsWindowUnicode(m_parent) != FALSE;
+        // Entered first: the procedure may be called while it is being set.
+        found =
+            parents.emplace(m_parent, FilteredParent{currentProcedure(m_parent, unicode), unicode, {}}).first;
+        setProcedure(m_parent, &filterProcedure, unicode);
+    }
+    found->second.quietTrees.push_back(m_tree);
+}
+
+ParentNotificationFilter::~ParentNotificationFilter()
+{
+    auto& parents = filteredParents();
+    const auto found = parents.find(m_parent);
+    if (found == parents.end()) // destroyed meanwhile
+        return;
+    FilteredParent& parent = found->second;
+    parent.quietTrees.erase(std::find(parent.quietTrees.begin(), parent.quietTrees.end(), m_tree));
+    // Somebody else may have come in front of the filter: then it stays, and passes everything on.
+    if (!parent.quietTrees.empty() || currentProcedure(m_parent, parent.unicode) != &filterProcedure)
+        return;
+    setProcedure(m_parent, parent.procedure, parent.unicode);
+    parents.erase(found);
+}
+
+} // namespace ovoui::tree

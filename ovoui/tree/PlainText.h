@@ -1,0 +1,12 @@
+/// Text for a drag or for the clipboard.
+#pragma once
+
+#include <ovoui/export.h>
+
+#include <string>
+
+class COleDataSource;
+
+/// Offers `text` on `source` as Unicode text (CF_UNICODETEXT) and in the ANSI code page (CF_TEXT). A format
+/// for which there is no memory is left out.
+OVOUI_API void cachePlaintext(COleDataSource& source, const std::wstring& text);

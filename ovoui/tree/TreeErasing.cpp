@@ -1,0 +1,122 @@
+// Erasing the selected nodes, as the user wants it.
+#include <ovoui/tree/NodeErrors.h>
+#include <ovoui/tree/ParentNotificationFilter.h>
+#include <ovoui/tree/TreeState.h>
+
+#include <ovoui/frame/MessageBox.h>
+#include <ovoui/frame/Module.h>
+
+#include <ovocor/Text.h>
+#include <ovouires/resource.h>
+
+/// Deleting counts as a drag without an effect: nodes are told of its beginning, and of its end however it
+/// comes.
+class MultiTreeCtrl::ErasingDrag
+{
+public:
+    ErasingDrag(MultiTreeCtrl& tree, const std::vector<OVO::Handle<Node>>& nodes)
+        : m_state(tree.m_state)
+        , m_nodes(nodes)
+    {
+    }
+    /// What nodes raise here is of no interest: another exception is on its way.
+    ~ErasingDrag()
+    {
+        while (m_ended < m_started)
+            try {
+                end();
+            } catch (...) {
+            }
+    }
+    ErasingDrag(const ErasingDrag&) = delete;
+    ErasingDrag& operator=(const ErasingDrag&) = delete;
+
+    void start()
+    {
+        for (; m_started < m_nodes.size() && m_state->usable(); ++m_started) {
+            const DragCursorSet* cursors = nullptr;
+            m_nodes[m_started]->dragStarting(*m_state->tree, 0, cursors);
+        }
+    }
+    void endAll()
+    {
+        while (m_ended < m_started)
+            end();
+    }
+
+private:
+    void end()
+    {
+        const OVO::Handle<Node>& node = m_nodes[m_ended++];
+        if (m_state->usable())
+            node->dragEnding(*m_state->tree, 0);
+    }
+
+    const std::shared_ptr<State> m_state;
+    const std::vector<OVO::Handle<Node>>& m_nodes;
+    std::size_t m_started = 0;
+    std::size_t m_ended = 0;
+};
+
+void MultiTreeCtrl::eraseSelectedNodes()
+{
+    const std::shared_ptr<State> state = m_state;
+    if (eraseSelection() && state->usable())
+        notifyTvnSelchanged(TVC_UNKNOWN, nullptr, caret(), CPoint(0, 0));
+}
+
+/// The command: the whole is one gesture, and the parent hears of the new selection when it is over.
+void MultiTreeCtrl::OnEditDelete()
+{
+    const std::shared_ptr<State> state = m_state;
+    const OVO::Handle<EVSubscriptionList<int>> gestures = m_gestures;
+    bool erased = false;
+    gestures->notify(kGestureDelete);
+    const std::exception_ptr foreign =
+        ovoui::tree::keepForeign(*this, [&] { erased = state->usable() && eraseSelection(); });
+    gestures->notify(0);
+    if (erased && state->usable())
+        notifyTvnSelchanged(TVC_UNKNOWN, nullptr, caret(), CPoint(0, 0));
+    ovoui::tree::raise(foreign);
+}
+
+/// Asks, and erases. False when there was nothing to erase, or the user did not want it.
+bool MultiTreeCtrl::eraseSelection()
+{
+    const std::shared_ptr<State> state = m_state;
+    std::vector<OVO::Handle<Node>> nodes = selectedNodes();
+    std::erase_if(nodes, [](const OVO::Handle<Node>& node) { return !node->canErase(); });
+    if (nodes.empty() || !confirmsErasing(nodes) || !state->usable())
+        return false;
+    ErasingDrag drag(*this, nodes);
+    drag.start();
+    eraseNodes(nodes);
+    drag.endAll();
+    return true;
+}
+
+bool MultiTreeCtrl::confirmsErasing(const std::vector<OVO::Handle<Node>>& nodes)
+{
+    const std::wstring question =
+        nodes.size() == 1
+            ? stringPrintf(ovoui::resourceString(IDS_DELETE_ONE).c_str(), nodes.front()->text(*this).c_str())
+            : stringPrintf(ovoui::resourceString(IDS_DELETE_MANY).c_str(), static_cast<int>(nodes.size()));
+    const std::wstring caption = ovoui::resourceString(IDS_DELETE_CAPTION);
+    return OVOMessageBox(m_hWnd, question.c_str(), caption.c_str(), MB_YESNO | MB_ICONQUESTION, L"MsgWindow",
+                         0) == IDYES;
+}
+
+void MultiTreeCtrl::eraseNodes(const std::vector<OVO::Handle<Node>>& nodes)
+{
+    const std::shared_ptr<State> state = m_state;
+    for (const OVO::Handle<Node>& node : nodes) {
+        if (!state->usable())
+            return;
+        const bool agreed = node->erase(*this);
+        if (!state->usable() || !agreed || !node->hTreeItem())
+            continue;
+        // The caret may go from one deleted item to the next; the parent is told at the end.
+        const ovoui::tree::ParentNotificationFilter quiet(m_hWnd);
+        deleteItem(node->hTreeItem());
+    }
+}

@@ -1,0 +1,61 @@
+/// Walks over the items of a tree.
+#include <ovoui/tree/MultiTreeCtrl.h> // which includes this file at its end
+
+#ifndef OVOUI_TREE_TREEITERATOR_H
+#define OVOUI_TREE_TREEITERATOR_H
+
+#include <cstddef>
+#include <iterator>
+
+/// Stands at an item, or at the end. Goes depth first, parents before their children, over open and closed
+/// items alike; over the selected ones only, if so made. It stays good while its item exists.
+///
+///     for (auto node = tree.beginSelected(); node != tree.end(); ++node)
+///         print(node->text(tree));
+class OVOUI_API MultiTreeCtrl::iterator
+{
+public:
+    using iterator_category = std::forward_iterator_tag;
+    using value_type = Node;
+    using difference_type = std::ptrdiff_t;
+    using pointer = OVO::Handle<Node>;
+    using reference = Node&;
+
+    /// The end of no tree.
+    iterator() = default;
+
+    /// The node of the item; the reference is good while the item exists.
+    Node& operator*() const;
+    /// A handle to the node, which keeps it alive.
+    OVO::Handle<Node> operator->() const;
+    operator OVO::Handle<Node>() const;
+
+    /// Stays at the end when it is there.
+    iterator& operator++();
+    iterator operator++(int);
+
+    /// Whether both stand at the same item of the same tree.
+    friend bool operator==(const iterator& a, const iterator& b) { return a.eq(b); }
+
+    /// Whether the next steps go to selected items only; the iterator stays where it is.
+    iterator& setSelect(bool selected);
+    bool selectedOnly() const { return m_selectedOnly; }
+
+private:
+    friend class MultiTreeCtrl;
+
+    iterator(const MultiTreeCtrl& tree, HTREEITEM item, bool selectedOnly)
+        : m_tree(&tree)
+        , m_item(item)
+        , m_selectedOnly(selectedOnly)
+    {
+    }
+
+    bool eq(const iterator& other) const { return m_tree == other.m_tree && m_item == other.m_item; }
+
+    const MultiTreeCtrl* m_tree = nullptr;
+    HTREEITEM m_item = nullptr;
+    bool m_selectedOnly = false;
+};
+
+#endif

@@ -1,0 +1,27 @@
+// Tooltips.
+#include <ovoui/tree/NodeErrors.h>
+
+#include <ovocor/Text.h>
+
+void MultiTreeCtrl::OnGetinfotip(NMHDR* header, LRESULT* result)
+{
+    auto& request = *reinterpret_cast<NMTVGETINFOTIP*>(header);
+    *result = 0;
+    const OVO::Handle<Node> node = this->node(request.hItem);
+    if (!node)
+        return;
+    ovoui::tree::reportErrors(*this, [&] {
+        const std::wstring tip = node->infotip(*this);
+        if (!tip.empty() && request.cchTextMax > 0)
+            packTo(request.pszText, static_cast<std::size_t>(request.cchTextMax), tip);
+    });
+}
+
+/// The tip must not hide behind a topmost window that the tree is in; where it is shown is the tree view's
+/// choice.
+BOOL MultiTreeCtrl::OnToolTipShow(UINT, NMHDR* header, LRESULT* result)
+{
+    ::SetWindowPos(header->hwndFrom, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    *result = FALSE;
+    return FALSE;
+}
