@@ -7,7 +7,7 @@
 ///         bool isCommandDisabled(unsigned) override { return false; }
 ///     };
 ///
-///     tree.Create(WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_SHOWSELALWAYS, rect, this, IDC_TREE);
+///     tree.Create(WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_SHOWSELALWAYS, rect, this, idOfTree);
 ///     (new Folder(L"Sources"))->insert(tree, TVI_ROOT, TVI_LAST);
 ///
 /// Classes and files: the nodes and the places where children go are in TreeNode.h and InsertionPoint.h,
