@@ -261,6 +261,7 @@ private:
     void openItem(Node& node, HTREEITEM item, LRESULT* result);
     void closeItem(Node& node, HTREEITEM item);
     void restoreState(Node& node, HTREEITEM item);
+    void noticeClosing(HTREEITEM item);
     void deleteItem(HTREEITEM item);
     void deleteChildren(HTREEITEM item);
     bool postponesDeleting(HTREEITEM item);

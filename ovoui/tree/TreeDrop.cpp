@@ -70,7 +70,8 @@ int MultiTreeCtrl::placeAmongSiblings(HTREEITEM item)
     HTREEITEM before = item;
     HTREEITEM behind = known ? item : nullptr;
     int steps = 0;
-    while (before && before != known && behind != known) {
+    const auto meets = [known](HTREEITEM at) { return known && at == known; };
+    while (before && !meets(before) && !meets(behind)) {
         before = next(TVGN_PREVIOUS, before);
         behind = behind ? next(TVGN_NEXT, behind) : nullptr;
         ++steps;

@@ -94,6 +94,19 @@ void MultiTreeCtrl::restoreState(Node& node, HTREEITEM item)
 
 // Closing
 
+/// When a program closes an item, the tree view may do so without a notification; the node must hear of it.
+void MultiTreeCtrl::noticeClosing(HTREEITEM item)
+{
+    const OVO::Handle<Node> node = this->node(item);
+    if (!node || !node->expanded())
+        return;
+    const auto state = static_cast<UINT>(ask(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), ~0u));
+    if (state & TVIS_EXPANDED)
+        return;
+    node->state = state & ~TVIS_EXPANDEDONCE;
+    closeItem(*node, item);
+}
+
 BOOL MultiTreeCtrl::OnItemexpanded(NMHDR* header, LRESULT* result)
 {
     const auto& notification = *reinterpret_cast<const NMTREEVIEW*>(header);
@@ -166,6 +179,8 @@ void MultiTreeCtrl::OnDeleteitem(NMHDR* header, LRESULT* result)
 {
     const TVITEM& item = reinterpret_cast<const NMTREEVIEW*>(header)->itemOld;
     *result = 0;
+    if (m_state->edited == item.hItem) // an editor must not outlive its item
+        ask(TVM_ENDEDITLABELNOW, TRUE);
     m_state->forgetItem(item.hItem);
     if (m_anchor == item.hItem)
         m_anchor = nullptr;

@@ -178,12 +178,15 @@ LRESULT MultiTreeCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const std::shared_ptr<State> state = m_state;
     if (message == TVM_DELETEITEM && postponesDeleting(asItem(lParam)))
         return TRUE;
+    const State::Tracker concerned(state, message == TVM_EXPAND ? asItem(lParam) : nullptr);
     LRESULT result = 0;
     {
         NativeCall call(*state, message, wParam, lParam);
         result = CTreeCtrl::DefWindowProc(message, wParam, lParam);
         call.finish(result);
     }
+    if (concerned && state->usable())
+        noticeClosing(concerned.item());
     deletePostponed(*state);
     return result;
 }

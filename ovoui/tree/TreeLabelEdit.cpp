@@ -52,7 +52,7 @@ void MultiTreeCtrl::OnBeginlabeledit(NMHDR* header, LRESULT* result)
     });
     if (ready) {
         *result = FALSE;
-        state->editing = true;
+        state->edited = reinterpret_cast<NMTVDISPINFO*>(header)->item.hItem;
     } else if (begun) {
         const std::exception_ptr another = keepForeign(*this, [&] { node->endLabelEdit(*this); });
         foreign = foreign ? foreign : another;
@@ -69,10 +69,11 @@ void MultiTreeCtrl::OnEndlabeledit(NMHDR* header, LRESULT* result)
     const TVITEM& edited = reinterpret_cast<NMTVDISPINFO*>(header)->item;
     *result = FALSE;
     // The end of one edit may be told twice; the second time there is nothing to do.
-    if (!std::exchange(state->editing, false))
+    if (!std::exchange(state->edited, nullptr))
         return;
-    const HTREEITEM item = edited.hItem;
-    const OVO::Handle<Node> node = this->node(item);
+    // Not just its handle: a new item may get that of a deleted one.
+    const State::Tracker item(state, edited.hItem);
+    const OVO::Handle<Node> node = this->node(item.item());
     if (!node)
         return;
     // The tree view's own text changes without a message when it takes the typed one.
@@ -81,17 +82,17 @@ void MultiTreeCtrl::OnEndlabeledit(NMHDR* header, LRESULT* result)
     std::exception_ptr foreign;
     if (edited.pszText) {
         const std::wstring typed = edited.pszText;
-        foreign = keepForeign(*this, [&] { again = applyTypedText(*node, item, typed, result); });
+        foreign = keepForeign(*this, [&] { again = applyTypedText(*node, item.item(), typed, result); });
     }
     if (state->usable()) {
         const std::exception_ptr another = keepForeign(*this, [&] { node->endLabelEdit(*this); });
         foreign = foreign ? foreign : another;
     }
-    if (again && state->usable() && node->hTreeItem() == item) {
-        state->editAgain = item;
+    if (again && state->usable() && item) {
+        state->editAgain = item.item();
         PostMessage(ovoui::tree::kEditLabelAgain);
     }
-    if (node->hTreeItem() != item)
+    if (!item)
         *result = FALSE; // the tree view must not touch the item any more
     raise(foreign);
 }
@@ -103,12 +104,13 @@ bool MultiTreeCtrl::applyTypedText(Node& node, HTREEITEM item, const std::wstrin
     if (typed == node.renameText(*this))
         return false;
     const std::shared_ptr<State> state = m_state;
+    const State::Tracker old(state, item);
     const std::wstring before = node.text(*this);
     node.rename(*this, typed);
     const HTREEITEM now = node.hTreeItem();
     if (!state->usable() || !now)
         return false;
-    if (now != item) {
+    if (!old || now != item) {
         clearselection(next(TVGN_ROOT));
         doSelectItem(now);
         return false;

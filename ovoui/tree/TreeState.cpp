@@ -27,7 +27,7 @@ void MultiTreeCtrl::State::forgetAll()
     children.forgetAll();
     appended = nullptr;
     postponed.clear();
-    editing = false;
+    edited = nullptr;
     editAgain = nullptr;
     redraws = true;
     markShown = false;

@@ -49,7 +49,7 @@ struct MultiTreeCtrl::State
     std::vector<Tracker*> trackers;
 
     // Label editing (TreeLabelEdit.cpp)
-    bool editing = false;
+    HTREEITEM edited = nullptr; ///< while its editor is open
     HTREEITEM editAgain = nullptr;
 
     // Command routing (TreeCommands.cpp): what the parent is being asked

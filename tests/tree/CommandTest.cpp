@@ -1,0 +1,400 @@
+// Commands: the tree's own, those of the nodes, and the way on to the parent; menus.
+#include "TreeScene.h"
+
+#include <ovocor/OvoError.h>
+#include <ovouires/resource.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+constexpr UINT kPaint = 4001;
+constexpr UINT kPrint = 4002;
+
+/// A parent that knows one command.
+class CommandParent : public RecordingParent
+{
+public:
+    using RecordingParent::RecordingParent;
+    int printed = 0;
+
+protected:
+    afx_msg void OnPrint() { ++printed; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CommandParent, RecordingParent)
+ON_COMMAND(kPrint, OnPrint)
+END_MESSAGE_MAP()
+
+class CommandScene : public Scene
+{
+public:
+    explicit CommandScene(const Names& names)
+        : Scene(std::make_unique<CommandParent>(CSize(420, 380), L"Tree"), names, kStyle)
+    {
+    }
+
+    int printed() { return static_cast<CommandParent&>(parent()).printed; }
+    void command(UINT id) { tree.SendMessage(WM_COMMAND, id); }
+    void select(const Names& names)
+    {
+        for (const std::string& name : names)
+            tree.SetItemState(item(name), TVIS_SELECTED, TVIS_SELECTED);
+    }
+};
+
+/// A menu with these commands, as it stands after the tree was asked.
+class AskedMenu
+{
+public:
+    AskedMenu(CWnd& tree, std::initializer_list<UINT> commands)
+    {
+        m_menu.CreatePopupMenu();
+        for (const UINT id : commands)
+            m_menu.AppendMenu(id ? MF_STRING : MF_SEPARATOR, id, L"text");
+        tree.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(m_menu.m_hMenu), 0);
+    }
+
+    bool isGrey(UINT id) const { return (m_menu.GetMenuState(id, MF_BYCOMMAND) & MF_GRAYED) != 0; }
+    bool isChecked(UINT id) const { return (m_menu.GetMenuState(id, MF_BYCOMMAND) & MF_CHECKED) != 0; }
+
+private:
+    CMenu m_menu;
+};
+
+/// Answers the question before a deletion.
+class Answer
+{
+public:
+    Answer(Robot& user, WORD key)
+        : m_performance(user.waitFor("the question", [] { return shownDialog() != nullptr; })
+                            .then([this] { read(); })
+                            .key(key)
+                            .start())
+    {
+    }
+
+    std::wstring text;
+    std::wstring caption;
+
+private:
+    void read()
+    {
+        const HWND box = shownDialog();
+        wchar_t buffer[256]{};
+        ::GetWindowTextW(box, buffer, 256);
+        caption = buffer;
+        ::GetDlgItemTextW(box, IDC_MESSAGE_TEXT, buffer, 256);
+        text = buffer;
+    }
+
+    Performance m_performance;
+};
+
+} // namespace
+
+// Routing
+
+TEST(TreeCommands, GoToTheSelectedNodesThatOfferThem)
+{
+    CommandScene scene({"a", "b", "c", "d"});
+    scene.node("a").offer(kPaint);
+    scene.node("b").offer(kPaint, false);
+    scene.node("c").offer(kPaint);
+    scene.node("d").offer(kPaint); // not selected
+    scene.select({"a", "b", "c"});
+    scene.command(kPaint);
+    EXPECT_EQ(scene.journal, (Journal{"gesture 4001", "doCommand 4001 a", "doCommand 4001 c", "gesture 0"}));
+}
+
+TEST(TreeCommands, ThatNoSelectedNodeOffersGoToTheParent)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("b").offer(kPrint);
+    scene.select({"a"});
+    scene.command(kPrint);
+    EXPECT_EQ(scene.journal, Journal{});
+    EXPECT_EQ(scene.printed(), 1);
+    scene.select({"b"});
+    scene.command(kPrint);
+    EXPECT_EQ(scene.journal, (Journal{"gesture 4002", "doCommand 4002 b", "gesture 0"}));
+    EXPECT_EQ(scene.printed(), 1);
+}
+
+TEST(TreeCommands, ThatAreForbiddenDoNothing)
+{
+    CommandScene scene({"a"});
+    scene.node("a").offer(kPrint);
+    scene.select({"a"});
+    scene.tree.disabled = {kPrint};
+    scene.command(kPrint);
+    EXPECT_EQ(scene.journal, Journal{});
+    EXPECT_EQ(scene.printed(), 0);
+}
+
+TEST(TreeCommands, ANodeThatDeletesTheOthersDoesNoHarm)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("a").offer(kPaint);
+    scene.node("b").offer(kPaint);
+    scene.node("a").commanding = [](MultiTreeCtrl& tree, unsigned) { tree.DeleteAllItems(); };
+    scene.select({"a", "b"});
+    scene.command(kPaint);
+    EXPECT_EQ(scene.tree.GetCount(), 0u);
+    EXPECT_EQ(scene.journal, (Journal{"gesture 4001", "doCommand 4001 a", "doCommand 4001 b", "gesture 0"}));
+}
+
+TEST(TreeCommands, AnErrorOfANodeIsReportedAndTheGestureEnds)
+{
+    CommandScene scene({"a"});
+    scene.node("a").offer(kPaint);
+    scene.node("a").commanding = [](MultiTreeCtrl&, unsigned) { throw OvoError(L"no paint"); };
+    scene.select({"a"});
+    scene.command(kPaint);
+    EXPECT_EQ(scene.tree.errors, (Journal{"no paint"}));
+    EXPECT_EQ(scene.journal.back(), "gesture 0");
+}
+
+TEST(TreeCommands, ASubscriberThatDestroysTheTreeDoesNoHarm)
+{
+    CommandScene scene({"a"});
+    scene.node("a").offer(kPaint);
+    scene.select({"a"});
+    const auto subscription = scene.tree.gestureEV().subscribe([&](const int& code) {
+        if (code == static_cast<int>(kPaint))
+            scene.tree.DestroyWindow();
+    });
+    scene.command(kPaint);
+    EXPECT_EQ(scene.tree.m_hWnd, nullptr);
+    EXPECT_EQ(scene.journal.back(), "gesture 0");
+}
+
+TEST(TreeCommands, KeysOfTheAcceleratorTableReachTheNodes)
+{
+    CommandScene scene({"a"});
+    for (const UINT id : {ID_EDIT_CUT, ID_EDIT_COPY, ID_EDIT_PASTE})
+        scene.node("a").offer(id);
+    scene.user.click(scene.label("a"));
+    scene.forget();
+    const auto press = [&](WORD modifier, WORD key) {
+        scene.journal.clear();
+        scene.user.holding(modifier).key(key);
+        return scene.journal.size() == 3 ? scene.journal[1] : std::string("nothing");
+    };
+    EXPECT_EQ(press(VK_CONTROL, 'X'), "doCommand 57635 a");
+    EXPECT_EQ(press(VK_CONTROL, 'C'), "doCommand 57634 a");
+    EXPECT_EQ(press(VK_CONTROL, 'V'), "doCommand 57637 a");
+    EXPECT_EQ(press(VK_SHIFT, VK_DELETE), "doCommand 57635 a");
+    EXPECT_EQ(press(VK_CONTROL, VK_INSERT), "doCommand 57634 a");
+    EXPECT_EQ(press(VK_SHIFT, VK_INSERT), "doCommand 57637 a");
+}
+
+// Menus
+
+TEST(TreeMenus, ShowWhatTheSelectedNodesOffer)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("a").offer(kPaint);
+    scene.node("a").updating = [](CCmdUI* ui, bool) { ui->SetCheck(1); };
+    scene.select({"a"});
+    const AskedMenu menu(scene.tree, {kPaint, 0, kPrint, 4003});
+    EXPECT_FALSE(menu.isGrey(kPaint));
+    EXPECT_TRUE(menu.isChecked(kPaint));
+    EXPECT_FALSE(menu.isGrey(kPrint)) << "the parent does it";
+    EXPECT_TRUE(menu.isGrey(4003)) << "nobody does it";
+    EXPECT_EQ(scene.journal, (Journal{"doUpdateCmd 4001 single a"}));
+}
+
+TEST(TreeMenus, TellTheNodesWhetherTheyAreSeveral)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("a").offer(kPaint);
+    scene.node("b").offer(kPaint);
+    scene.select({"a", "b"});
+    const AskedMenu menu(scene.tree, {kPaint});
+    EXPECT_EQ(scene.journal, (Journal{"doUpdateCmd 4001 several a", "doUpdateCmd 4001 several b"}));
+}
+
+TEST(TreeMenus, AskFromTheLastItemToTheFirst)
+{
+    CommandScene scene({"a"});
+    scene.node("a").offer(kPaint);
+    scene.node("a").offer(kPrint);
+    scene.select({"a"});
+    const AskedMenu menu(scene.tree, {kPaint, 0, kPrint});
+    EXPECT_EQ(scene.journal, (Journal{"doUpdateCmd 4002 single a", "doUpdateCmd 4001 single a"}));
+}
+
+TEST(TreeMenus, GreyWhatIsForbiddenEvenIfANodeOffersIt)
+{
+    CommandScene scene({"a"});
+    scene.node("a").offer(kPaint);
+    scene.select({"a"});
+    scene.tree.disabled = {kPaint, kPrint};
+    const AskedMenu menu(scene.tree, {kPaint, kPrint});
+    EXPECT_TRUE(menu.isGrey(kPaint));
+    EXPECT_TRUE(menu.isGrey(kPrint));
+}
+
+TEST(TreeMenus, GreyDeleteUnlessEverySelectedNodeCanBeErased)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("a").erasable = true;
+    EXPECT_TRUE(AskedMenu(scene.tree, {5146}).isGrey(5146)) << "nothing is selected";
+    scene.select({"a"});
+    EXPECT_FALSE(AskedMenu(scene.tree, {5146}).isGrey(5146));
+    scene.select({"b"});
+    EXPECT_TRUE(AskedMenu(scene.tree, {5146}).isGrey(5146));
+}
+
+TEST(TreeMenus, TheContextMenuOffersTheEditCommands)
+{
+    CommandScene scene({"a"});
+    scene.node("a").erasable = true;
+    scene.node("a").renamable = true;
+    scene.node("a").offer(ID_EDIT_COPY);
+    Names lines;
+    const auto read = [&] {
+        const auto menu = reinterpret_cast<HMENU>(::SendMessageW(shownMenu(), MN_GETHMENU, 0, 0));
+        for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
+            const UINT id = ::GetMenuItemID(menu, i);
+            const bool grey = (::GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION) & MF_GRAYED) != 0;
+            if (id)
+                lines.push_back(std::to_string(id) + (grey ? " grey" : ""));
+        }
+    };
+    scene.user.rightClick(scene.label("a"))
+        .waitFor("the menu", [] { return shownMenu() != nullptr; })
+        .then(read)
+        .key(VK_ESCAPE);
+    EXPECT_EQ(lines, (Names{"57635 grey", "57634", "57637 grey", "5146", "5598", "57642"}));
+}
+
+TEST(TreeMenus, TheContextMenuOpensByKeyboardAtTheCaretAndRunsTheCommand)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("b").offer(ID_EDIT_COPY);
+    scene.user.click(scene.label("b"));
+    scene.forget();
+    CRect menu;
+    scene.user.key(VK_APPS)
+        .waitFor("the menu", [] { return shownMenu() != nullptr; })
+        .then([&] { ::GetWindowRect(shownMenu(), &menu); })
+        .type(L"c");
+    EXPECT_EQ(scene.journal.back(), "gesture 0");
+    EXPECT_NE(std::find(scene.journal.begin(), scene.journal.end(), "doCommand 57634 b"),
+              scene.journal.end());
+    CRect label;
+    scene.tree.GetItemRect(scene.item("b"), &label, TRUE);
+    scene.tree.ClientToScreen(&label);
+    EXPECT_NEAR(menu.left, label.left, 8);
+    EXPECT_NEAR(menu.top, label.bottom, 8);
+}
+
+// Deleting
+
+TEST(TreeErasing, DeleteAsksAndErasesTheSelectedNodesThatAgree)
+{
+    CommandScene scene({"a", "b", "c", "d"});
+    for (const char* name : {"a", "b", "c"})
+        scene.node(name).erasable = true;
+    scene.node("b").erasing = [](MultiTreeCtrl&) { return false; };
+    scene.user.click(scene.label("a")).holding(VK_SHIFT).click(scene.label("d"));
+    scene.forget();
+    {
+        const Answer yes(scene.user, VK_RETURN);
+        scene.tree.SendMessage(WM_KEYDOWN, VK_DELETE);
+        EXPECT_EQ(yes.caption, L"Confirm Delete");
+        EXPECT_EQ(yes.text, L"Are you sure you want to delete these 3 items?");
+    }
+    EXPECT_EQ(scene.journal, (Journal{"gesture 5146", "dragStarting 0 a", "dragStarting 0 b",
+                                      "dragStarting 0 c", "erase a", "erase b", "erase c", "dragEnding 0 a",
+                                      "dragEnding 0 b", "dragEnding 0 c", "gesture 0"}));
+    EXPECT_EQ(scene.all(), (Names{"b", "d"}));
+    ASSERT_EQ(scene.changes().size(), 1u) << "the parent hears of it once";
+    EXPECT_EQ(scene.changes()[0].newItem, "d");
+}
+
+TEST(TreeErasing, TheQuestionNamesASingleNode)
+{
+    CommandScene scene({"a", "plan"});
+    scene.node("plan").erasable = true;
+    scene.user.click(scene.label("plan"));
+    const Answer no(scene.user, VK_ESCAPE);
+    // Escape is no answer to Yes or No: the box is left by its No.
+    auto answering = scene.user.waitFor("the box to ignore Escape", [] { return shownDialog() != nullptr; })
+                         .type(L"n")
+                         .start();
+    scene.tree.eraseSelectedNodes();
+    EXPECT_EQ(no.text, L"Are you sure you want to delete \u201Cplan\u201D?");
+    EXPECT_EQ(scene.all(), (Names{"a", "plan"}));
+}
+
+TEST(TreeErasing, TheDeleteKeyDoesTheSame)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("a").erasable = true;
+    scene.user.click(scene.label("a"));
+    scene.forget();
+    scene.user.key(VK_DELETE).waitFor("the question", [] { return shownDialog() != nullptr; }).key(VK_RETURN);
+    EXPECT_EQ(scene.all(), Names{"b"});
+    EXPECT_EQ(scene.journal.front(), "gesture 5146");
+}
+
+TEST(TreeErasing, WithoutAnErasableNodeNothingIsAsked)
+{
+    CommandScene scene({"a"});
+    scene.user.click(scene.label("a"));
+    scene.forget();
+    scene.tree.eraseSelectedNodes();
+    EXPECT_EQ(scene.journal, Journal{});
+    EXPECT_EQ(scene.all(), Names{"a"});
+}
+
+TEST(TreeErasing, AnErrorIsReportedAndEveryDragEnds)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("a").erasable = scene.node("b").erasable = true;
+    scene.node("a").erasing = [](MultiTreeCtrl&) -> bool { throw OvoError(L"in use"); };
+    scene.select({"a", "b"});
+    {
+        const Answer yes(scene.user, VK_RETURN);
+        scene.command(5146);
+    }
+    EXPECT_EQ(scene.tree.errors, (Journal{"in use"}));
+    EXPECT_EQ(scene.all(), (Names{"a", "b"}));
+    EXPECT_EQ(scene.journal, (Journal{"gesture 5146", "dragStarting 0 a", "dragStarting 0 b", "erase a",
+                                      "dragEnding 0 a", "dragEnding 0 b", "gesture 0"}));
+}
+
+TEST(TreeErasing, NodesThatDeleteEachOtherDoNoHarm)
+{
+    CommandScene scene({"a", "b", "c"});
+    for (const char* name : {"a", "b", "c"})
+        scene.node(name).erasable = true;
+    scene.node("a").erasing = [](MultiTreeCtrl& tree) {
+        tree.DeleteAllItems();
+        return true;
+    };
+    scene.select({"a", "b", "c"});
+    const int before = TestNode::live();
+    const Answer yes(scene.user, VK_RETURN);
+    scene.command(5146);
+    EXPECT_EQ(scene.tree.GetCount(), 0u);
+    EXPECT_EQ(TestNode::live(), before - 3);
+}
+
+TEST(TreeErasing, AChildGoesWithItsParent)
+{
+    CommandScene scene({"a", "b"});
+    scene.add("x", "a");
+    scene.node("a").erasable = scene.node("x").erasable = true;
+    scene.select({"a", "x"});
+    const Answer yes(scene.user, VK_RETURN);
+    scene.command(5146);
+    EXPECT_EQ(scene.all(), Names{"b"});
+}

@@ -1,0 +1,458 @@
+// Drag and drop, from end to end: real drags by the robot, out of one tree into another.
+#include "TreeScene.h"
+
+#include <ovoui/tree/DropMenu.h>
+#include <ovoui/tree/PlainText.h>
+
+#include <ovocor/OvoError.h>
+#include <ovouires/resource.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+std::wstring textOf(COleDataObject& data)
+{
+    const HGLOBAL memory = data.GetGlobalData(CF_UNICODETEXT);
+    if (!memory)
+        return L"(none)";
+    const std::wstring text = static_cast<const wchar_t*>(::GlobalLock(memory));
+    ::GlobalUnlock(memory);
+    ::GlobalFree(memory);
+    return text;
+}
+
+/// What a target was asked, each time it differs from the time before.
+struct Asked
+{
+    int zone;
+    std::string who;
+
+    friend bool operator==(const Asked&, const Asked&) = default;
+};
+
+/// A tree whose parent drags the selection as text, and that takes drops.
+class DropScene : public RootScene
+{
+public:
+    explicit DropScene(const Names& names)
+        : RootScene(names)
+    {
+        for (const UINT code : {static_cast<UINT>(TVN_BEGINDRAGW), static_cast<UINT>(TVN_BEGINRDRAGW)})
+            parent().answer(code, [this](NMHDR*) -> LRESULT {
+                drag();
+                return 0;
+            });
+    }
+
+    /// Makes a node take everything into itself.
+    void take(const std::string& name, DWORD allowed = DROPEFFECT_COPY | DROPEFFECT_MOVE,
+              DWORD answer = DROPEFFECT_MOVE)
+    {
+        TestNode* const target = &node(name);
+        target->draggingInto = [=, this](COleDataObject&, DWORD& effects, bool&, int zone) {
+            ask({zone, target->name});
+            effects = allowed;
+            return answer;
+        };
+        target->droppingInto = [this](COleDataObject& data, DWORD, MultiTreeCtrl&, int) {
+            dropped = narrow(textOf(data));
+            return true;
+        };
+    }
+
+    /// Makes the top level take everything.
+    void takeAtTheTop()
+    {
+        root().draggingInto = [this](COleDataObject&, DWORD& effects, bool&, int zone) -> DWORD {
+            ask({zone, "root"});
+            effects = DROPEFFECT_COPY | DROPEFFECT_MOVE;
+            return DROPEFFECT_MOVE;
+        };
+        root().droppingInto = [this](COleDataObject& data, DWORD effect, MultiTreeCtrl&, int zone) {
+            journal.push_back("dropInto " + std::to_string(effect) + " zone " + std::to_string(zone) +
+                              " root");
+            dropped = narrow(textOf(data));
+            return true;
+        };
+    }
+
+    /// Drags the first item to a spot, and acts there before the release.
+    void dragTo(
+        Spot spot, std::function<void()> there = [] {}, WORD key = 0)
+    {
+        result = kNotDone;
+        Story story = user.press(label(source)).moveBy(0, 12);
+        if (key)
+            story.holding(key);
+        story.moveTo(spot).moveBy(1, 0).then(there).release().waitFor("the end of the drag",
+                                                                      [this] { return result != kNotDone; });
+    }
+
+    std::string last() { return journal.empty() ? "nothing" : journal.back(); }
+
+    static constexpr DWORD kNotDone = 0xFFFFFFFF;
+    std::string source = "source";
+    std::vector<Asked> asked;
+    std::string dropped = "nothing";
+    DWORD result = kNotDone;
+
+private:
+    void drag()
+    {
+        COleDataSource data;
+        cachePlaintext(data, L"from the tree");
+        result = data.DoDragDrop(DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK);
+    }
+    void ask(const Asked& one)
+    {
+        if (asked.empty() || !(asked.back() == one))
+            asked.push_back(one);
+    }
+};
+
+} // namespace
+
+TEST(TreeDrop, ANodeUnderThePointerTakesTheData)
+{
+    DropScene scene({"source", "a", "target"});
+    scene.take("target");
+    UINT highlighted = 0;
+    scene.dragTo(scene.label("target"),
+                 [&] { highlighted = scene.tree.GetItemState(scene.item("target"), TVIS_DROPHILITED); });
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_MOVE});
+    EXPECT_EQ(scene.dropped, "from the tree");
+    EXPECT_EQ(highlighted, UINT{TVIS_DROPHILITED});
+    EXPECT_EQ(scene.tree.GetItemState(scene.item("target"), TVIS_DROPHILITED), 0u);
+    EXPECT_EQ(scene.last(), "dropInto 2 zone -1 target");
+    EXPECT_EQ(scene.asked, (std::vector<Asked>{{-1, "target"}}));
+}
+
+TEST(TreeDrop, ANodeThatTakesNothingShowsNoDrop)
+{
+    DropScene scene({"source", "a"});
+    scene.dragTo(scene.label("a"));
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+    EXPECT_EQ(scene.dropped, "nothing");
+}
+
+TEST(TreeDrop, KeysChooseTheEffectAmongThoseAllowed)
+{
+    DropScene scene({"source", "target"});
+    scene.take("target");
+    scene.dragTo(
+        scene.label("target"), [] {}, VK_CONTROL);
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_COPY});
+    EXPECT_EQ(scene.last(), "dropInto 1 zone -1 target");
+}
+
+TEST(TreeDrop, BesideANodeItGoesAmongItsSiblings)
+{
+    DropScene scene({"source", "folder"});
+    scene.node("folder").childNames = {"x", "y"};
+    scene.node("folder").children = 1;
+    scene.tree.updateUI(scene.item("folder"));
+    scene.open("folder");
+    scene.take("folder");
+    scene.dragTo(scene.label("y"));
+    EXPECT_EQ(scene.last(), "dropInto 2 zone 2 folder");
+    EXPECT_EQ(scene.dropped, "from the tree");
+    scene.dragTo(scene.label("x"));
+    EXPECT_EQ(scene.last(), "dropInto 2 zone 1 folder");
+}
+
+TEST(TreeDrop, BesideATopLevelNodeItGoesToTheParentWindow)
+{
+    DropScene scene({"source", "a", "b"});
+    scene.takeAtTheTop();
+    scene.dragTo(scene.label("b"));
+    EXPECT_EQ(scene.last(), "dropInto 2 zone 3 root");
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_MOVE});
+}
+
+TEST(TreeDrop, BelowTheLastItemTheLastDisplayedItemIsMeant)
+{
+    DropScene scene({"source", "target"});
+    scene.add("hidden", "target");
+    scene.take("target");
+    scene.dragTo(scene.below());
+    EXPECT_EQ(scene.last(), "dropInto 2 zone -1 target");
+}
+
+TEST(TreeDrop, AnEmptyTreeTakesDropsAtTheTopLevel)
+{
+    DropScene scene({"source"});
+    DropScene other({});
+    scene.parent().SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    other.parent().SetWindowPos(nullptr, 500, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    other.takeAtTheTop();
+    scene.dragTo(Spot(other.tree));
+    EXPECT_EQ(other.last(), "dropInto 2 zone -1 root");
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_MOVE});
+}
+
+TEST(TreeDrop, AParentThatIsNoInsertionPointTakesNothingAtTheTop)
+{
+    DropScene scene({"source"});
+    Scene other{{"a"}};
+    scene.parent().SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    other.parent().SetWindowPos(nullptr, 500, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    scene.dragTo(other.label("a"));
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+}
+
+TEST(TreeDrop, EscapeTakesTheMarksAway)
+{
+    DropScene scene({"source", "target"});
+    scene.take("target");
+    scene.user.press(scene.label("source"))
+        .moveTo(scene.label("target"))
+        .waitFor("the target to be asked", [&] { return !scene.asked.empty(); })
+        .key(VK_ESCAPE)
+        .waitFor("the end of the drag", [&] { return scene.result != DropScene::kNotDone; })
+        .release();
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+    EXPECT_EQ(scene.tree.GetItemState(scene.item("target"), TVIS_DROPHILITED), 0u);
+    EXPECT_EQ(scene.dropped, "nothing");
+}
+
+TEST(TreeDrop, AnErrorWhileDroppingIsReportedAndRefusesTheDrop)
+{
+    DropScene scene({"source", "target"});
+    scene.take("target");
+    scene.node("target").droppingInto = [](COleDataObject&, DWORD, MultiTreeCtrl&, int) -> bool {
+        throw OvoError(L"disc full");
+    };
+    scene.dragTo(scene.label("target"));
+    EXPECT_EQ(scene.tree.errors, (Journal{"disc full"}));
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+}
+
+TEST(TreeDrop, AnErrorWhileDraggingIsSwallowed)
+{
+    DropScene scene({"source", "target"});
+    scene.node("target").draggingInto = [](COleDataObject&, DWORD&, bool&, int) -> DWORD {
+        throw std::runtime_error("what?");
+    };
+    scene.dragTo(scene.label("target"));
+    EXPECT_EQ(scene.tree.errors, Journal{});
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+}
+
+TEST(TreeDrop, ATargetThatDeletesItselfDoesNoHarm)
+{
+    DropScene scene({"source", "target"});
+    scene.take("target");
+    scene.node("target").droppingInto = [&](COleDataObject&, DWORD, MultiTreeCtrl& tree, int) {
+        tree.DeleteAllItems();
+        return true;
+    };
+    scene.dragTo(scene.label("target"));
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_MOVE});
+    EXPECT_EQ(scene.tree.GetCount(), 0u);
+}
+
+TEST(TreeDrop, TheWholeSelectionIsStillSelectedDuringTheDrag)
+{
+    DropScene scene({"source", "b", "target"});
+    scene.take("target");
+    scene.user.click(scene.label("source")).holding(VK_CONTROL).click(scene.label("b"));
+    Names during;
+    scene.dragTo(scene.label("target"), [&] { during = scene.selected(); });
+    EXPECT_EQ(during, (Names{"source", "b"}));
+    EXPECT_EQ(scene.selected(), (Names{"source", "b"}));
+}
+
+// The right button
+
+TEST(TreeDrop, TheRightButtonEndsInAMenu)
+{
+    DropScene scene({"source", "target"});
+    scene.take("target");
+    Names lines;
+    scene.user.press(scene.label("source"), Button::Right)
+        .moveTo(scene.label("target"))
+        .waitFor("the target to be asked", [&] { return !scene.asked.empty(); })
+        .release(Button::Right)
+        .waitFor("the menu", [] { return shownMenu() != nullptr; })
+        .then([&] {
+            const auto menu = reinterpret_cast<HMENU>(::SendMessageW(shownMenu(), MN_GETHMENU, 0, 0));
+            for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
+                const UINT state = ::GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION);
+                lines.push_back(std::to_string(::GetMenuItemID(menu, i)) +
+                                ((state & MF_GRAYED) ? " grey" : "") +
+                                ((state & MF_DEFAULT) ? " default" : ""));
+            }
+        })
+        .type(L"c")
+        .waitFor("the end of the drag", [&] { return scene.result != DropScene::kNotDone; });
+    EXPECT_EQ(lines, (Names{"5610 default", "1191", "1194 grey"}));
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_COPY});
+    EXPECT_EQ(scene.last(), "dropInto 1 zone -1 target");
+}
+
+TEST(TreeDrop, AMenuThatIsDismissedRefusesTheDrop)
+{
+    DropScene scene({"source", "target"});
+    scene.take("target");
+    scene.user.press(scene.label("source"), Button::Right)
+        .moveTo(scene.label("target"))
+        .waitFor("the target to be asked", [&] { return !scene.asked.empty(); })
+        .release(Button::Right)
+        .waitFor("the menu", [] { return shownMenu() != nullptr; })
+        .key(VK_ESCAPE)
+        .waitFor("the end of the drag", [&] { return scene.result != DropScene::kNotDone; });
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+    EXPECT_EQ(scene.dropped, "nothing");
+}
+
+TEST(TreeDrop, WithNothingAllowedTheRightButtonShowsNoMenu)
+{
+    DropScene scene({"source", "target"});
+    bool menu = false;
+    scene.user.press(scene.label("source"), Button::Right)
+        .moveTo(scene.label("target"))
+        .release(Button::Right)
+        .waitFor("the end of the drag", [&] {
+            menu = menu || shownMenu() != nullptr;
+            return scene.result != DropScene::kNotDone;
+        });
+    EXPECT_FALSE(menu);
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+}
+
+// The menu by itself
+
+TEST(TreeDropMenu, WithOneEffectAllowedTheOthersAreGrey)
+{
+    RecordingParent parent;
+    present(parent);
+    Names lines;
+    Robot user;
+    auto choosing = user.waitFor("the menu", [] { return shownMenu() != nullptr; })
+                        .then([&] {
+                            const auto menu =
+                                reinterpret_cast<HMENU>(::SendMessageW(shownMenu(), MN_GETHMENU, 0, 0));
+                            for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
+                                wchar_t text[64]{};
+                                ::GetMenuStringW(menu, static_cast<UINT>(i), text, 64, MF_BYPOSITION);
+                                const UINT state = ::GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION);
+                                lines.push_back(narrow(text) + ((state & MF_GRAYED) ? " (grey)" : ""));
+                            }
+                        })
+                        .type(L"l")
+                        .start();
+    EXPECT_EQ(nondefaultDrop(parent, DROPEFFECT_LINK, DROPEFFECT_LINK, CPoint(20, 20), L"Fish & Chips"),
+              DWORD{DROPEFFECT_LINK});
+    EXPECT_EQ(lines, (Names{"&Move Fish && Chips Here (grey)", "&Copy Fish && Chips Here (grey)",
+                            "Create &Link to Fish && Chips Here"}));
+}
+
+TEST(TreeDropMenu, DismissedIsNoEffect)
+{
+    RecordingParent parent;
+    present(parent);
+    Robot user;
+    auto choosing = user.waitFor("the menu", [] { return shownMenu() != nullptr; }).key(VK_ESCAPE).start();
+    EXPECT_EQ(nondefaultDrop(parent, DROPEFFECT_COPY, DROPEFFECT_COPY, CPoint(20, 20), L""), 0u);
+    EXPECT_TRUE(parent.log().empty()) << "the window is not told of the command";
+}
+
+// Scrolling
+
+TEST(TreeDropScroll, GoesOneItemUpOrDown)
+{
+    Names many;
+    for (int i = 0; i < 60; ++i)
+        many.push_back(std::to_string(100 + i));
+    Scene scene{many};
+    const auto first = [&] { return scene.nameOf(scene.tree.GetFirstVisibleItem()); };
+    EXPECT_FALSE(scene.tree.dragScroll(0x00FF, 0, true)) << "there is nothing above";
+    EXPECT_TRUE(scene.tree.dragScroll(0x01FF, 0, false));
+    EXPECT_EQ(first(), "100") << "asked only";
+    EXPECT_TRUE(scene.tree.dragScroll(0x01FF, 0, true));
+    EXPECT_EQ(first(), "101");
+    EXPECT_TRUE(scene.tree.dragScroll(0x00FF, 0, true));
+    EXPECT_EQ(first(), "100");
+    EXPECT_FALSE(scene.tree.dragScroll(0xFF00, 0, true)) << "there is no horizontal scrolling";
+    scene.tree.EnsureVisible(scene.item("159"));
+    EXPECT_FALSE(scene.tree.dragScroll(0x01FF, 0, false)) << "there is nothing below";
+}
+
+TEST(TreeDropScroll, ADragNearTheEdgeScrolls)
+{
+    Names many{"source"};
+    for (int i = 0; i < 60; ++i)
+        many.push_back(std::to_string(100 + i));
+    DropScene scene(many);
+    CRect client;
+    scene.tree.GetClientRect(&client);
+    scene.user.press(scene.label("source"))
+        .moveTo(Spot(scene.tree, CPoint(60, client.bottom - 4)))
+        .waitFor("the tree to scroll",
+                 [&] { return scene.nameOf(scene.tree.GetFirstVisibleItem()) == "103"; })
+        .key(VK_ESCAPE)
+        .waitFor("the end of the drag", [&] { return scene.result != DropScene::kNotDone; })
+        .release();
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+}
+
+// Text
+
+TEST(TreePlainText, IsOfferedAsUnicodeAndInTheCodePage)
+{
+    auto* source = new COleDataSource;
+    cachePlaintext(*source, L"gr\u00FCn \u20AC \u4E2D");
+    COleDataObject data;
+    data.Attach(static_cast<IDataObject*>(source->GetInterface(&IID_IDataObject)), FALSE);
+    EXPECT_EQ(textOf(data), L"gr\u00FCn \u20AC \u4E2D");
+    const HGLOBAL memory = data.GetGlobalData(CF_TEXT);
+    ASSERT_NE(memory, nullptr);
+    const std::string ansi = static_cast<const char*>(::GlobalLock(memory));
+    EXPECT_EQ(ansi.substr(0, 2), "gr");
+    EXPECT_EQ(::GlobalSize(memory), ansi.size() + 1);
+    ::GlobalUnlock(memory);
+    ::GlobalFree(memory);
+    data.Detach();
+    source->InternalRelease();
+}
+
+// Paste
+
+TEST(TreePaste, GoesToTheSelectedNodeThatWouldTakeTheData)
+{
+    DropScene scene({"a", "target"});
+    scene.take("target", DROPEFFECT_COPY, DROPEFFECT_COPY);
+    scene.user.click(scene.label("target"));
+    auto* source = new COleDataSource;
+    cachePlaintext(*source, L"pasted");
+    source->SetClipboard();
+    scene.user.holding(VK_CONTROL).key('V');
+    EXPECT_EQ(scene.dropped, "pasted");
+    EXPECT_EQ(scene.last(), "dropInto 1 zone -1 target");
+    COleDataSource::FlushClipboard();
+}
+
+TEST(TreePaste, IsGreyWhereNobodyTakesTheData)
+{
+    DropScene scene({"a", "target"});
+    scene.take("target");
+    auto* source = new COleDataSource;
+    cachePlaintext(*source, L"pasted");
+    source->SetClipboard();
+    const auto isGrey = [&] {
+        CMenu menu;
+        menu.CreatePopupMenu();
+        menu.AppendMenu(MF_STRING, ID_EDIT_PASTE, L"Paste");
+        scene.tree.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
+        return (menu.GetMenuState(ID_EDIT_PASTE, MF_BYCOMMAND) & MF_GRAYED) != 0;
+    };
+    scene.user.click(scene.label("a"));
+    EXPECT_TRUE(isGrey());
+    scene.user.click(scene.label("target"));
+    EXPECT_FALSE(isGrey());
+    COleDataSource::FlushClipboard();
+}

@@ -1,0 +1,260 @@
+// Opening and closing items.
+#include "TreeScene.h"
+
+#include <ovocor/OvoError.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+TestNode& folder(Scene& scene, const std::string& name, const Names& children)
+{
+    TestNode& node = scene.node(name);
+    node.childNames = children;
+    node.children = 1;
+    node.closed = 1;
+    node.open = 2;
+    scene.tree.updateUI(node);
+    scene.forget();
+    return node;
+}
+
+int imageOf(Scene& scene, const std::string& name)
+{
+    int image = 0;
+    int selectedImage = 0;
+    scene.tree.GetItemImage(scene.item(name), image, selectedImage);
+    return image;
+}
+
+} // namespace
+
+TEST(TreeExpansion, TheButtonOpensAndTheNodeInsertsItsChildren)
+{
+    Scene scene{{"a", "b"}};
+    TestNode& a = folder(scene, "a", {"x", "y"});
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.all(), (Names{"a", "x", "y", "b"}));
+    EXPECT_EQ(scene.journal, (Journal{"expand a"}));
+    EXPECT_TRUE(scene.isExpanded("a"));
+    EXPECT_TRUE(a.expanded());
+    EXPECT_EQ(imageOf(scene, "a"), 2);
+}
+
+TEST(TreeExpansion, ANodeThatDoesNotExpandStaysClosed)
+{
+    Scene scene{{"a"}};
+    TestNode& a = folder(scene, "a", {});
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.journal, (Journal{"expand a"}));
+    EXPECT_FALSE(scene.isExpanded("a"));
+    EXPECT_FALSE(a.expanded());
+    EXPECT_EQ(imageOf(scene, "a"), 1);
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.journal, (Journal{"expand a", "expand a"}));
+}
+
+TEST(TreeExpansion, ClosingDeletesTheChildrenAndOpeningMakesThemAnew)
+{
+    Scene scene{{"a"}};
+    TestNode& a = folder(scene, "a", {"x", "y"});
+    const int before = TestNode::live();
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(TestNode::live(), before + 2);
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.all(), Names{"a"});
+    EXPECT_EQ(TestNode::live(), before);
+    EXPECT_FALSE(a.expanded());
+    EXPECT_EQ(imageOf(scene, "a"), 1);
+    EXPECT_TRUE(scene.tree.ItemHasChildren(scene.item("a")));
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.all(), (Names{"a", "x", "y"}));
+    EXPECT_EQ(scene.journal, (Journal{"expand a", "collapse a", "expand a"}));
+}
+
+TEST(TreeExpansion, TheKeyboardOpensAndCloses)
+{
+    Scene scene{{"a"}};
+    folder(scene, "a", {"x"});
+    scene.user.click(scene.label("a"));
+    scene.user.key(VK_RIGHT);
+    EXPECT_EQ(scene.all(), (Names{"a", "x"}));
+    scene.user.key(VK_LEFT);
+    EXPECT_EQ(scene.all(), Names{"a"});
+}
+
+TEST(TreeExpansion, ClosingAnItemAboveTheCaretTakesTheCaret)
+{
+    Scene scene{{"a"}};
+    folder(scene, "a", {"x", "y"});
+    scene.open("a");
+    scene.user.click(scene.label("y"));
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.all(), Names{"a"});
+    EXPECT_EQ(scene.caret(), "a");
+}
+
+TEST(TreeExpansion, BothWaysOfClosingAskTheNode)
+{
+    Scene scene{{"a"}};
+    folder(scene, "a", {"x"});
+    scene.open("a");
+    scene.tree.Expand(scene.item("a"), TVE_COLLAPSE);
+    EXPECT_EQ(scene.all(), Names{"a"});
+    scene.open("a");
+    scene.tree.Expand(scene.item("a"), TVE_COLLAPSE | TVE_COLLAPSERESET);
+    EXPECT_EQ(scene.all(), Names{"a"});
+    EXPECT_EQ(scene.journal, (Journal{"expand a", "collapse a", "expand a", "collapse a"}));
+}
+
+TEST(TreeExpansion, OpeningAnOpenItemAsksNobody)
+{
+    Scene scene{{"a"}};
+    folder(scene, "a", {"x"});
+    scene.open("a");
+    scene.forget();
+    scene.tree.Expand(scene.item("a"), TVE_EXPAND);
+    EXPECT_EQ(scene.journal, Journal{});
+    EXPECT_EQ(scene.all(), (Names{"a", "x"}));
+}
+
+TEST(TreeExpansion, AnErrorIsReportedAndTheItemShowsTheNodesState)
+{
+    Scene scene{{"a"}};
+    TestNode& a = folder(scene, "a", {});
+    a.expanding = [](MultiTreeCtrl&) -> bool { throw OvoError(L"the disc is gone"); };
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.tree.errors, (Journal{"the disc is gone"}));
+    EXPECT_EQ(scene.isExpanded("a"), a.expanded());
+
+    a.expanding = [](MultiTreeCtrl&) -> bool { throw std::runtime_error("what?"); };
+    a.state = 0;
+    scene.tree.errors.clear();
+    scene.tree.SetItemState(scene.item("a"), 0, TVIS_EXPANDED);
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.tree.errors, (Journal{"what?"}));
+}
+
+TEST(TreeExpansion, AForeignExceptionPassesOnAndTheTreeGoesOnWorking)
+{
+    Scene scene{{"a", "b"}};
+    TestNode& a = folder(scene, "a", {"x"});
+    a.expanding = [](MultiTreeCtrl&) -> bool { throw 42; };
+    EXPECT_THROW(scene.tree.Expand(scene.item("a"), TVE_EXPAND), int);
+    EXPECT_EQ(scene.tree.errors, Journal{});
+    a.expanding = nullptr;
+    scene.tree.SetItemState(scene.item("a"), 0, TVIS_EXPANDED);
+    scene.tree.Expand(scene.item("a"), TVE_EXPAND);
+    EXPECT_EQ(scene.all(), (Names{"a", "x", "b"}));
+}
+
+TEST(TreeExpansion, AnErrorWhileClosingIsReportedAndTheChildrenGo)
+{
+    Scene scene{{"a"}};
+    TestNode& a = folder(scene, "a", {"x"});
+    a.collapsing = [](MultiTreeCtrl&) { throw OvoError(L"cannot"); };
+    scene.open("a");
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.tree.errors, (Journal{"cannot"}));
+    EXPECT_EQ(scene.all(), Names{"a"});
+}
+
+TEST(TreeExpansion, ANodeThatDeletesItselfWhileItOpensDoesNoHarm)
+{
+    Scene scene{{"a", "b"}};
+    folder(scene, "a", {}).expanding = [&](MultiTreeCtrl& tree) {
+        tree.DeleteItem(scene.item("a"));
+        return true;
+    };
+    const int before = TestNode::live();
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.all(), Names{"b"});
+    EXPECT_EQ(TestNode::live(), before - 1);
+}
+
+TEST(TreeExpansion, ANodeThatClearsTheTreeWhileItOpensDoesNoHarm)
+{
+    Scene scene{{"a", "b"}};
+    folder(scene, "a", {}).expanding = [](MultiTreeCtrl& tree) {
+        tree.DeleteAllItems();
+        return true;
+    };
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.tree.GetCount(), 0u);
+}
+
+TEST(TreeExpansion, ANodeThatDeletesItsSiblingsWhileItClosesDoesNoHarm)
+{
+    Scene scene{{"a", "b", "c"}};
+    folder(scene, "b", {"x"}).collapsing = [&](MultiTreeCtrl& tree) {
+        tree.DeleteItem(scene.item("a"));
+        tree.DeleteItem(scene.item("c"));
+    };
+    scene.open("b");
+    scene.user.click(scene.button("b"));
+    EXPECT_EQ(scene.all(), Names{"b"});
+}
+
+TEST(TreeExpansion, ANodeThatPumpsMessagesWhileItOpensDoesNoHarm)
+{
+    Scene scene{{"a"}};
+    TestNode& a = folder(scene, "a", {});
+    a.expanding = [&](MultiTreeCtrl& tree) {
+        (new TestNode("x"))->insert(tree, a.hTreeItem(), TVI_LAST);
+        MSG message;
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+            ::DispatchMessageW(&message);
+        tree.UpdateWindow();
+        return true;
+    };
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.all(), (Names{"a", "x"}));
+    EXPECT_TRUE(scene.isExpanded("a"));
+}
+
+TEST(TreeExpansion, ANodeThatInsertsItselfElsewhereWhileItOpensDoesNoHarm)
+{
+    Scene scene{{"a", "b"}};
+    TestNode& a = folder(scene, "a", {});
+    const OVO::Handle<MultiTreeCtrl::Node> kept(&a);
+    a.expanding = [&](MultiTreeCtrl& tree) {
+        tree.DeleteItem(a.hTreeItem());
+        a.insert(tree, TVI_ROOT, TVI_LAST);
+        return true;
+    };
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.all(), (Names{"b", "a"}));
+    EXPECT_EQ(a.hTreeItem(), scene.item("a"));
+}
+
+TEST(TreeExpansion, TheWaitCursorIsShownMeanwhile)
+{
+    Scene scene{{"a"}};
+    HCURSOR meanwhile = nullptr;
+    folder(scene, "a", {}).expanding = [&](MultiTreeCtrl&) {
+        meanwhile = ::GetCursor();
+        return false;
+    };
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(meanwhile, ::LoadCursorW(nullptr, IDC_WAIT));
+    EXPECT_NE(::GetCursor(), ::LoadCursorW(nullptr, IDC_WAIT));
+}
+
+TEST(TreeExpansion, ClosingALargeFolderRepaintsOnce)
+{
+    Scene scene{{"a"}};
+    Names many;
+    for (int i = 0; i < 300; ++i)
+        many.push_back(std::to_string(i));
+    folder(scene, "a", many);
+    scene.open("a");
+    scene.tree.UpdateWindow();
+    scene.tree.counting = true;
+    scene.tree.Expand(scene.item("a"), TVE_COLLAPSE);
+    scene.tree.UpdateWindow();
+    EXPECT_EQ(scene.tree.paints, 1);
+    EXPECT_EQ(scene.all(), Names{"a"});
+}

@@ -1,0 +1,311 @@
+// The keyboard: moving, selecting, activating, and what dialogs leave to the tree.
+#include "TreeScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+/// A tree with the focus and one item selected.
+class KeyScene : public Scene
+{
+public:
+    KeyScene(const Names& names, const std::string& start)
+        : Scene(names)
+    {
+        user.click(label(start));
+        forget();
+    }
+};
+
+} // namespace
+
+TEST(TreeKeys, ArrowsMoveTheSelection)
+{
+    KeyScene scene({"a", "b", "c"}, "a");
+    scene.user.key(VK_DOWN);
+    EXPECT_EQ(scene.selected(), Names{"b"});
+    EXPECT_EQ(scene.caret(), "b");
+    scene.user.key(VK_DOWN, 5);
+    EXPECT_EQ(scene.selected(), Names{"c"});
+    scene.user.key(VK_UP);
+    EXPECT_EQ(scene.selected(), Names{"b"});
+    scene.user.key(VK_HOME);
+    EXPECT_EQ(scene.selected(), Names{"a"});
+    scene.user.key(VK_UP);
+    EXPECT_EQ(scene.selected(), Names{"a"});
+}
+
+TEST(TreeKeys, ArrowsGoThroughOpenItemsOnly)
+{
+    KeyScene scene({"a", "b"}, "a");
+    scene.add("hidden", "a");
+    scene.user.key(VK_DOWN);
+    EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+TEST(TreeKeys, AnArrowLeavesAMultipleSelection)
+{
+    KeyScene scene({"a", "b", "c"}, "a");
+    scene.user.holding(VK_CONTROL).click(scene.label("c"));
+    scene.user.key(VK_DOWN);
+    EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+TEST(TreeKeys, EndAndLettersAreTheTreeViews)
+{
+    KeyScene scene({"ant", "bee", "cat"}, "ant");
+    scene.user.key(VK_END);
+    EXPECT_EQ(scene.caret(), "cat");
+    scene.user.type(L"b");
+    EXPECT_EQ(scene.caret(), "bee");
+    EXPECT_EQ(scene.selected(), Names{"bee"});
+}
+
+TEST(TreeKeys, ShiftArrowsSelectFromTheAnchor)
+{
+    KeyScene scene({"a", "b", "c", "d"}, "b");
+    scene.user.holding(VK_SHIFT).key(VK_DOWN, 2);
+    EXPECT_EQ(scene.selected(), (Names{"b", "c", "d"}));
+    EXPECT_EQ(scene.caret(), "d");
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYKEYBOARD, "b", "c"}, {TVC_BYKEYBOARD, "c", "d"}}));
+    scene.user.holding(VK_SHIFT).key(VK_UP, 3);
+    EXPECT_EQ(scene.selected(), (Names{"a", "b"}));
+    scene.user.holding(VK_SHIFT).key(VK_HOME);
+    EXPECT_EQ(scene.selected(), (Names{"a", "b"}));
+}
+
+TEST(TreeKeys, CtrlArrowsMoveTheCaretAlone)
+{
+    KeyScene scene({"a", "b", "c"}, "a");
+    scene.add("hidden", "b");
+    scene.tree.SetItemState(scene.item("hidden"), TVIS_SELECTED, TVIS_SELECTED);
+    scene.user.holding(VK_CONTROL).key(VK_DOWN);
+    EXPECT_EQ(scene.caret(), "b");
+    EXPECT_EQ(scene.selected(), (Names{"a", "hidden"}));
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYKEYBOARD, "b", "b"}}));
+    scene.user.holding(VK_CONTROL).key(VK_DOWN);
+    EXPECT_EQ(scene.caret(), "c");
+    EXPECT_EQ(scene.selected(), (Names{"a", "hidden"}));
+}
+
+TEST(TreeKeys, CtrlArrowsMoveTheAnchor)
+{
+    KeyScene scene({"a", "b", "c", "d"}, "a");
+    scene.user.holding(VK_CONTROL).key(VK_DOWN, 2);
+    scene.user.holding(VK_SHIFT).key(VK_DOWN);
+    EXPECT_EQ(scene.selected(), (Names{"c", "d"}));
+}
+
+TEST(TreeKeys, CtrlSpaceTogglesTheCaret)
+{
+    KeyScene scene({"a", "b"}, "a");
+    scene.user.holding(VK_CONTROL).key(VK_DOWN).key(VK_SPACE);
+    EXPECT_EQ(scene.selected(), (Names{"a", "b"}));
+    EXPECT_EQ(scene.changes().back(), (Change{TVC_BYKEYBOARD, "b", "b"}));
+    scene.user.holding(VK_CONTROL).key(VK_SPACE);
+    EXPECT_EQ(scene.selected(), Names{"a"});
+    EXPECT_EQ(scene.journal, Journal{});
+}
+
+TEST(TreeKeys, MovingScrolls)
+{
+    Names many;
+    for (int i = 0; i < 60; ++i)
+        many.push_back(std::to_string(100 + i));
+    KeyScene scene(many, "100");
+    scene.user.key(VK_DOWN, 40);
+    CRect rect;
+    EXPECT_TRUE(scene.tree.GetItemRect(scene.item("140"), &rect, FALSE));
+    CRect client;
+    scene.tree.GetClientRect(&client);
+    EXPECT_LE(rect.bottom, client.bottom);
+    EXPECT_EQ(scene.selected(), Names{"140"});
+}
+
+TEST(TreeKeys, WithoutACaretAnArrowDoesNothing)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.click(scene.label("a")).click(scene.below());
+    scene.forget();
+    scene.user.key(VK_DOWN);
+    EXPECT_EQ(scene.selected(), Names{});
+    EXPECT_EQ(scene.changes(), Changes{});
+}
+
+// Select all
+
+TEST(TreeKeys, CtrlASelectsAllDisplayedItems)
+{
+    KeyScene scene({"a", "b", "c"}, "b");
+    scene.add("hidden", "a");
+    scene.forget();
+    scene.user.holding(VK_CONTROL).key('A');
+    EXPECT_EQ(scene.selected(), (Names{"a", "b", "c"}));
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYKEYBOARD, "b", "b"}}));
+}
+
+TEST(TreeKeys, TheSelectAllCommandSaysThatNobodyKnowsHow)
+{
+    KeyScene scene({"a", "b"}, "b");
+    scene.tree.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL);
+    EXPECT_EQ(scene.selected(), (Names{"a", "b"}));
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_UNKNOWN, "b", "b"}}));
+}
+
+TEST(TreeKeys, AForbiddenSelectAllDoesNothing)
+{
+    KeyScene scene({"a", "b"}, "b");
+    scene.tree.disabled = {ID_EDIT_SELECT_ALL};
+    scene.user.holding(VK_CONTROL).key('A');
+    EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+// The default action
+
+TEST(TreeKeys, EnterAndSpaceActivateAllSelectedNodes)
+{
+    KeyScene scene({"a", "b", "c"}, "a");
+    scene.user.holding(VK_CONTROL).click(scene.label("c"));
+    scene.user.key(VK_RETURN);
+    const Journal expected{"gesture 1118", "activate a", "activate c", "gesture 0"};
+    EXPECT_EQ(scene.journal, expected);
+    scene.forget();
+    scene.user.key(VK_SPACE);
+    EXPECT_EQ(scene.journal, expected);
+}
+
+TEST(TreeKeys, EnterWithAltDoesNothing)
+{
+    KeyScene scene({"a"}, "a");
+    scene.user.holding(VK_MENU).key(VK_RETURN);
+    EXPECT_EQ(scene.journal, Journal{});
+}
+
+TEST(TreeKeys, ReturnNotificationsAndOkActivate)
+{
+    KeyScene scene({"a"}, "a");
+    NMHDR header{scene.tree.m_hWnd, 7, static_cast<UINT>(NM_RETURN)};
+    EXPECT_EQ(scene.parent().SendMessage(WM_NOTIFY, 7, reinterpret_cast<LPARAM>(&header)), 0);
+    scene.tree.SendMessage(WM_COMMAND, IDOK);
+    EXPECT_EQ(scene.journal, (Journal{"gesture 1118", "activate a", "gesture 0", "gesture 1118", "activate a",
+                                      "gesture 0"}));
+}
+
+TEST(TreeKeys, ActivatingTakesOverTheItemsState)
+{
+    KeyScene scene({"a"}, "a");
+    TestNode& a = scene.node("a");
+    a.children = 1;
+    a.childNames = {"x"};
+    scene.tree.updateUI(a);
+    a.activating = [&](MultiTreeCtrl& tree) { tree.Expand(a.hTreeItem(), TVE_TOGGLE); };
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.all(), (Names{"a", "x"}));
+    EXPECT_EQ(a.state & (TVIS_EXPANDED | TVIS_SELECTED), unsigned{TVIS_EXPANDED | TVIS_SELECTED});
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.all(), Names{"a"});
+    EXPECT_FALSE(a.expanded());
+}
+
+TEST(TreeKeys, AnErrorOfANodeIsReportedAndTheGestureEnds)
+{
+    KeyScene scene({"a"}, "a");
+    scene.node("a").activating = [](MultiTreeCtrl&) { throw std::runtime_error("cannot start"); };
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.tree.errors, (Journal{"cannot start"}));
+    EXPECT_EQ(scene.journal.back(), "gesture 0");
+}
+
+TEST(TreeKeys, ANodeThatClearsTheTreeWhenActivatedDoesNoHarm)
+{
+    KeyScene scene({"a", "b"}, "a");
+    scene.user.holding(VK_CONTROL).click(scene.label("b"));
+    scene.node("a").activating = [](MultiTreeCtrl& tree) { tree.DeleteAllItems(); };
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.tree.GetCount(), 0u);
+    EXPECT_EQ(scene.journal.back(), "gesture 0");
+}
+
+TEST(TreeKeys, ANodeThatDestroysTheWindowWhenActivatedDoesNoHarm)
+{
+    KeyScene scene({"a", "b"}, "a");
+    scene.node("a").activating = [](MultiTreeCtrl& tree) { tree.DestroyWindow(); };
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.tree.m_hWnd, nullptr);
+    EXPECT_EQ(scene.journal.back(), "gesture 0");
+}
+
+TEST(TreeKeys, AForbiddenDefaultActionActivatesNothing)
+{
+    KeyScene scene({"a"}, "a");
+    scene.tree.disabled = {1118};
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.journal, Journal{});
+}
+
+// Redraw
+
+TEST(TreeKeys, F5RefreshesEveryNodeAndDeletesThoseThatAreGone)
+{
+    KeyScene scene({"a", "b", "c"}, "a");
+    scene.add("x", "a");
+    scene.add("y", "b");
+    scene.node("b").refreshing = [] { return false; };
+    scene.node("c").refreshing = [&] {
+        scene.node("c").name = "C";
+        return true;
+    };
+    scene.forget();
+    scene.user.key(VK_F5);
+    EXPECT_EQ(scene.all(), (Names{"a", "x", "C"}));
+    EXPECT_EQ(scene.journal, (Journal{"refresh a", "refresh x", "refresh b", "refresh c"}));
+}
+
+TEST(TreeKeys, ANodeThatDeletesItsNeighboursWhenRefreshedDoesNoHarm)
+{
+    KeyScene scene({"a", "b", "c", "d"}, "a");
+    scene.node("b").refreshing = [&] {
+        scene.tree.DeleteItem(scene.item("c"));
+        scene.tree.DeleteItem(scene.item("b"));
+        return true;
+    };
+    scene.forget();
+    scene.user.key(VK_F5);
+    EXPECT_EQ(scene.all(), (Names{"a", "d"}));
+    EXPECT_EQ(scene.journal, (Journal{"refresh a", "refresh b", "refresh d"}));
+}
+
+TEST(TreeKeys, ARefreshThatThrowsIsReported)
+{
+    KeyScene scene({"a", "b"}, "a");
+    scene.node("a").refreshing = []() -> bool { throw std::runtime_error("not there"); };
+    scene.tree.SendMessage(WM_COMMAND, 5234);
+    EXPECT_EQ(scene.tree.errors, (Journal{"not there"}));
+    EXPECT_EQ(scene.all(), (Names{"a", "b"}));
+}
+
+// Dialogs
+
+TEST(TreeKeys, TheDialogLeavesTheArrowsToTheTree)
+{
+    Scene scene{{"a"}};
+    EXPECT_TRUE(scene.tree.SendMessage(WM_GETDLGCODE) & DLGC_WANTARROWS);
+}
+
+TEST(TreeKeys, EnterIsTheTreesBeforeADialogTakesIt)
+{
+    KeyScene scene({"a"}, "a");
+    MSG message{scene.tree.m_hWnd, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    EXPECT_TRUE(scene.tree.PreTranslateMessage(&message));
+    EXPECT_EQ(scene.journal, (Journal{"gesture 1118", "activate a", "gesture 0"}));
+}
+
+TEST(TreeKeys, OtherKeysGoOnToTheDialog)
+{
+    KeyScene scene({"a"}, "a");
+    MSG message{scene.tree.m_hWnd, WM_KEYDOWN, VK_TAB, 0, 0, {}};
+    EXPECT_FALSE(scene.tree.PreTranslateMessage(&message));
+}

@@ -1,0 +1,443 @@
+// Clicks: plain, with Ctrl, with Shift, on empty space, with the right button, double.
+#include "TreeScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+int contextMenus(Scene& scene)
+{
+    return scene.tree.contextMenus;
+}
+
+} // namespace
+
+// Plain
+
+TEST(TreeMouse, AClickSelectsTheItemAlone)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.click(scene.label("b"));
+    EXPECT_EQ(scene.selected(), Names{"b"});
+    EXPECT_EQ(scene.caret(), "b");
+    EXPECT_EQ(::GetFocus(), scene.tree.m_hWnd);
+}
+
+TEST(TreeMouse, AClickOnAnotherItemLeavesTheFirst)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.click(scene.label("a")).click(scene.label("c"));
+    EXPECT_EQ(scene.selected(), Names{"c"});
+}
+
+TEST(TreeMouse, AClickInAMultipleSelectionKeepsItUntilTheRelease)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.click(scene.label("a")).holding(VK_CONTROL).click(scene.label("b")).click(scene.label("c"));
+    Names pressed;
+    scene.user.press(scene.label("b")).then([&] { pressed = scene.selected(); }).release();
+    EXPECT_EQ(pressed, (Names{"a", "b", "c"}));
+    EXPECT_EQ(scene.selected(), Names{"b"});
+    EXPECT_EQ(scene.caret(), "b");
+}
+
+TEST(TreeMouse, LeavingAMultipleSelectionForItsCaretTellsTheParentOnce)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.click(scene.label("a")).holding(VK_CONTROL).click(scene.label("b"));
+    ASSERT_EQ(scene.caret(), "a");
+    scene.forget();
+    scene.user.click(scene.label("a"));
+    EXPECT_EQ(scene.selected(), Names{"a"});
+    // The tree view sends nothing, as its own selected item is the same.
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_UNKNOWN, "a", "a"}}));
+}
+
+TEST(TreeMouse, AClickOnEmptySpaceClearsTheSelection)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.click(scene.label("a")).holding(VK_CONTROL).click(scene.label("b"));
+    scene.user.click(scene.below());
+    EXPECT_EQ(scene.selected(), Names{});
+    EXPECT_EQ(scene.caret(), "-");
+    EXPECT_EQ(::GetFocus(), scene.tree.m_hWnd);
+}
+
+TEST(TreeMouse, APressBesideALabelClearsAndItsReleaseSelectsTheItem)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.click(scene.label("a"));
+    Names pressed{"?"};
+    scene.user.press(scene.beside("b")).then([&] { pressed = scene.selected(); }).release();
+    EXPECT_EQ(pressed, Names{});
+    EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+TEST(TreeMouse, TheButtonOfAnItemLeavesTheSelectionAlone)
+{
+    Scene scene{{"a", "b"}};
+    scene.add("x", "a");
+    scene.node("a").childNames = {"x"};
+    scene.node("a").children = 1;
+    scene.tree.updateUI(scene.item("a"));
+    scene.user.click(scene.label("b"));
+    scene.user.click(scene.button("a"));
+    EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+// Ctrl
+
+TEST(TreeMouse, CtrlClickAddsToTheSelectionAndKeepsTheCaret)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.click(scene.label("a"));
+    scene.forget();
+    Names pressed;
+    scene.user.holding(VK_CONTROL)
+        .press(scene.label("c"))
+        .then([&] { pressed = scene.selected(); })
+        .release();
+    EXPECT_EQ(pressed, (Names{"a", "c"}));
+    EXPECT_EQ(scene.selected(), (Names{"a", "c"}));
+    EXPECT_EQ(scene.caret(), "a");
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYMOUSE, "a", "a"}}));
+}
+
+TEST(TreeMouse, CtrlClickOnASelectedItemTakesItOutOnRelease)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.click(scene.label("a")).holding(VK_CONTROL).click(scene.label("b"));
+    scene.forget();
+    Names pressed;
+    scene.user.holding(VK_CONTROL)
+        .press(scene.label("b"))
+        .then([&] { pressed = scene.selected(); })
+        .release();
+    EXPECT_EQ(pressed, (Names{"a", "b"}));
+    EXPECT_EQ(scene.selected(), Names{"a"});
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYMOUSE, "a", "a"}}));
+}
+
+TEST(TreeMouse, CtrlClickMovesTheAnchor)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.user.click(scene.label("a")).holding(VK_CONTROL).click(scene.label("c"));
+    scene.user.holding(VK_SHIFT).click(scene.label("d"));
+    EXPECT_EQ(scene.selected(), (Names{"c", "d"}));
+}
+
+TEST(TreeMouse, CtrlClickOnEmptySpaceKeepsTheSelection)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.click(scene.label("a"));
+    scene.forget();
+    scene.user.holding(VK_CONTROL).click(scene.below());
+    EXPECT_EQ(scene.selected(), Names{"a"});
+    EXPECT_EQ(scene.changes(), Changes{});
+}
+
+// Shift
+
+TEST(TreeMouse, ShiftClickSelectsFromTheAnchorAndTellsTheParentOnce)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.user.click(scene.label("b"));
+    scene.forget();
+    scene.user.holding(VK_SHIFT).click(scene.label("d"));
+    EXPECT_EQ(scene.selected(), (Names{"b", "c", "d"}));
+    EXPECT_EQ(scene.caret(), "d");
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYMOUSE, "b", "d"}}));
+}
+
+TEST(TreeMouse, ShiftClickKeepsTheAnchorAndGoesUpwardsToo)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.user.click(scene.label("c")).holding(VK_SHIFT).click(scene.label("d")).click(scene.label("a"));
+    EXPECT_EQ(scene.selected(), (Names{"a", "b", "c"}));
+}
+
+TEST(TreeMouse, ShiftClickWithoutAnAnchorGoesToTheLastDisplayedItem)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.add("hidden", "c");
+    scene.user.holding(VK_SHIFT).click(scene.label("b"));
+    EXPECT_EQ(scene.selected(), (Names{"b", "c"}));
+}
+
+TEST(TreeMouse, ShiftClickBelowTheLastItemGoesToIt)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.click(scene.label("b")).holding(VK_SHIFT).click(scene.below());
+    EXPECT_EQ(scene.selected(), (Names{"b", "c"}));
+    EXPECT_EQ(scene.caret(), "c");
+}
+
+TEST(TreeMouse, ShiftClickInAnEmptyTreeIsNothing)
+{
+    Scene scene;
+    scene.user.holding(VK_SHIFT).click(scene.below());
+    EXPECT_EQ(scene.selected(), Names{});
+}
+
+TEST(TreeMouse, TheRangeGoesThroughOpenItemsOnly)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.add("hidden", "b");
+    scene.user.click(scene.label("a")).holding(VK_SHIFT).click(scene.label("c"));
+    EXPECT_EQ(scene.selected(), (Names{"a", "b", "c"}));
+}
+
+TEST(TreeMouse, AnAnchorThatWasDeletedIsNone)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.user.click(scene.label("a"));
+    scene.tree.DeleteItem(scene.item("a"));
+    scene.user.holding(VK_SHIFT).click(scene.label("c"));
+    EXPECT_EQ(scene.selected(), (Names{"c", "d"}));
+}
+
+// Dragging
+
+TEST(TreeMouse, ADragKeepsTheMultipleSelectionAndNamesTheCaret)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.click(scene.label("a")).holding(VK_CONTROL).click(scene.label("b"));
+    scene.forget();
+    const CPoint start = scene.labelPoint("b");
+    Names dragged;
+    scene.user.press(scene.label("b")).moveBy(0, 40).then([&] { dragged = scene.selected(); }).release();
+    const Notification begun = scene.parent().log().last(static_cast<UINT>(TVN_BEGINDRAGW));
+    EXPECT_EQ(scene.nameOf(begun.newItem), "a");
+    EXPECT_EQ(begun.point.x, start.x);
+    EXPECT_EQ(begun.point.y, start.y);
+    EXPECT_EQ(begun.id, 7u);
+    EXPECT_EQ(begun.from, scene.tree.m_hWnd);
+    EXPECT_EQ(begun.itemData, static_cast<LPARAM>(scene.tree.GetItemData(scene.item("a"))));
+    EXPECT_EQ(dragged, (Names{"a", "b"}));
+}
+
+TEST(TreeMouse, APressThatStaysWithinTheDragRectangleIsAClick)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.press(scene.label("b")).moveBy(1, 0).moveBy(-1, 0).release();
+    EXPECT_EQ(scene.parent().log().count(static_cast<UINT>(TVN_BEGINDRAGW)), 0);
+    EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+TEST(TreeMouse, HoldingTheButtonStillStartsADrag)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.press(scene.label("b"))
+        .waitFor("the drag to begin",
+                 [&] { return scene.parent().log().count(static_cast<UINT>(TVN_BEGINDRAGW)) == 1; })
+        .release();
+    EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+TEST(TreeMouse, EscapeEndsTheWaitWithoutADrag)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.press(scene.label("b")).key(VK_ESCAPE).moveBy(0, 60).release();
+    EXPECT_EQ(scene.parent().log().count(static_cast<UINT>(TVN_BEGINDRAGW)), 0);
+    EXPECT_NE(::GetCapture(), scene.tree.m_hWnd);
+}
+
+TEST(TreeMouse, TheMouseIsLetGoAfterTheWait)
+{
+    Scene scene{{"a"}};
+    bool captured = false;
+    scene.user.press(scene.label("a"))
+        .then([&] { captured = ::GetCapture() == scene.tree.m_hWnd; })
+        .moveBy(0, 50)
+        .release();
+    EXPECT_TRUE(captured);
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST(TreeMouse, WithShiftNoDragBegins)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.holding(VK_SHIFT).press(scene.label("a")).moveBy(0, 60).release();
+    EXPECT_EQ(scene.parent().log().count(static_cast<UINT>(TVN_BEGINDRAGW)), 0);
+}
+
+TEST(TreeMouse, TheRightButtonDragsToo)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.press(scene.label("b"), Button::Right).moveBy(0, 40).release(Button::Right);
+    EXPECT_EQ(scene.parent().log().count(static_cast<UINT>(TVN_BEGINRDRAGW)), 1);
+    EXPECT_EQ(scene.parent().log().count(static_cast<UINT>(TVN_BEGINDRAGW)), 0);
+    EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+// The right button
+
+TEST(TreeMouse, ARightClickSelectsTheItemAndAsksForTheContextMenu)
+{
+    Scene scene{{"a", "b"}};
+    scene.tree.swallowsContextMenu = true;
+    scene.user.rightClick(scene.label("b"));
+    EXPECT_EQ(scene.selected(), Names{"b"});
+    EXPECT_EQ(contextMenus(scene), 1);
+}
+
+TEST(TreeMouse, ARightClickInAMultipleSelectionKeepsIt)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.tree.swallowsContextMenu = true;
+    scene.user.click(scene.label("a")).holding(VK_CONTROL).click(scene.label("b"));
+    scene.user.rightClick(scene.label("b"));
+    EXPECT_EQ(scene.selected(), (Names{"a", "b"}));
+    EXPECT_EQ(contextMenus(scene), 1);
+}
+
+TEST(TreeMouse, ARightClickWithCtrlTogglesAndAsksForTheContextMenu)
+{
+    Scene scene{{"a", "b"}};
+    scene.tree.swallowsContextMenu = true;
+    scene.user.click(scene.label("a")).holding(VK_CONTROL).rightClick(scene.label("b"));
+    EXPECT_EQ(scene.selected(), (Names{"a", "b"}));
+    EXPECT_EQ(contextMenus(scene), 1);
+    scene.user.holding(VK_CONTROL).rightClick(scene.label("b"));
+    EXPECT_EQ(scene.selected(), Names{"a"});
+    EXPECT_EQ(contextMenus(scene), 2);
+}
+
+TEST(TreeMouse, ARightClickWithShiftSelectsTheRangeAndAsksOnRelease)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.tree.swallowsContextMenu = true;
+    scene.user.click(scene.label("a"));
+    int pressed = -1;
+    scene.user.holding(VK_SHIFT)
+        .press(scene.label("c"), Button::Right)
+        .then([&] { pressed = contextMenus(scene); })
+        .release(Button::Right);
+    EXPECT_EQ(scene.selected(), (Names{"a", "b", "c"}));
+    EXPECT_EQ(pressed, 0);
+    EXPECT_EQ(contextMenus(scene), 1);
+}
+
+TEST(TreeMouse, TheTreeViewsOwnRightClickAsksForTheContextMenu)
+{
+    Scene scene{{"a"}};
+    scene.tree.swallowsContextMenu = true;
+    NMHDR header{scene.tree.m_hWnd, 7, static_cast<UINT>(NM_RCLICK)};
+    EXPECT_EQ(scene.parent().SendMessage(WM_NOTIFY, 7, reinterpret_cast<LPARAM>(&header)), TRUE);
+    EXPECT_EQ(contextMenus(scene), 1);
+}
+
+// Double clicks
+
+TEST(TreeMouse, ADoubleClickActivatesTheItem)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.doubleClick(scene.label("b"));
+    EXPECT_EQ(scene.journal, (Journal{"gesture 1118", "activate b", "gesture 0"}));
+}
+
+TEST(TreeMouse, ADoubleClickOnEmptySpaceDoesNothing)
+{
+    Scene scene{{"a"}};
+    scene.tree.SelectItem(scene.item("a"));
+    scene.forget();
+    scene.user.doubleClick(scene.below());
+    EXPECT_EQ(scene.journal, Journal{});
+}
+
+TEST(TreeMouse, ADoubleClickOnTheButtonOpensAndCloses)
+{
+    Scene scene{{"a"}};
+    scene.node("a").childNames = {"x"};
+    scene.node("a").children = 1;
+    scene.tree.updateUI(scene.item("a"));
+    scene.user.doubleClick(scene.button("a"));
+    EXPECT_EQ(scene.journal, (Journal{"expand a", "collapse a"}));
+}
+
+TEST(TreeMouse, ARightDoubleClickActivatesNothing)
+{
+    Scene scene{{"a"}};
+    scene.tree.swallowsContextMenu = true;
+    scene.user.doubleClick(scene.label("a"), Button::Right);
+    EXPECT_EQ(scene.journal, Journal{});
+}
+
+// Places of the node's own
+
+TEST(TreeMouse, APlaceOfTheNodesOwnTakesThePress)
+{
+    Scene scene{{"a", "b"}};
+    TestNode& b = scene.node("b");
+    constexpr unsigned kCheckBox = 0x10000;
+    unsigned seen = 0;
+    b.hitting = [](CPoint, unsigned& flags) { flags = kCheckBox; };
+    b.pressing = [&](unsigned, CPoint, unsigned flags) {
+        seen = flags;
+        return true;
+    };
+    b.releasing = [](CPoint, unsigned) { return true; };
+    scene.user.click(scene.label("b"));
+    EXPECT_EQ(scene.journal, (Journal{"buttonDown b", "buttonUp b"}));
+    EXPECT_EQ(seen, kCheckBox);
+    EXPECT_EQ(scene.selected(), Names{});
+    EXPECT_EQ(scene.changes(), Changes{});
+}
+
+TEST(TreeMouse, AFlagOfTheNodesOwnBesideTheTreeViewsChangesNothing)
+{
+    Scene scene{{"a", "b"}};
+    scene.node("b").hitting = [](CPoint, unsigned& flags) { flags |= 0x20000; };
+    scene.user.click(scene.label("b"));
+    EXPECT_EQ(scene.journal, Journal{});
+    EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+TEST(TreeMouse, TheHitTestTellsWhatTheNodeMadeOfIt)
+{
+    Scene scene{{"a"}};
+    unsigned flags = 0;
+    EXPECT_EQ(scene.tree.HitTest(scene.labelPoint("a"), &flags), scene.item("a"));
+    EXPECT_EQ(flags, unsigned{TVHT_ONITEMLABEL});
+    scene.node("a").hitting = [](CPoint, unsigned& changed) { changed = 0x40000; };
+    EXPECT_EQ(scene.tree.HitTest(scene.labelPoint("a"), &flags), scene.item("a"));
+    EXPECT_EQ(flags, 0x40000u);
+    EXPECT_EQ(scene.tree.HitTest(scene.labelPoint("a")), scene.item("a"));
+}
+
+// Harm
+
+TEST(TreeMouse, AParentThatDestroysTheTreeInAPressDoesNoHarm)
+{
+    Scene scene{{"a", "b"}};
+    scene.parent().answer(static_cast<UINT>(TVN_SELCHANGEDW), [&](NMHDR*) -> LRESULT {
+        scene.tree.DestroyWindow();
+        return 0;
+    });
+    scene.user.press(Spot(scene.tree, scene.labelPoint("b"))).release();
+    EXPECT_EQ(scene.tree.m_hWnd, nullptr);
+    EXPECT_EQ(TestNode::live(), 0);
+}
+
+TEST(TreeMouse, AParentThatClearsTheTreeInAPressDoesNoHarm)
+{
+    Scene scene{{"a", "b"}};
+    scene.parent().answer(static_cast<UINT>(TVN_SELCHANGEDW), [&](NMHDR*) -> LRESULT {
+        scene.tree.DeleteAllItems();
+        return 0;
+    });
+    scene.user.press(Spot(scene.tree, scene.labelPoint("b"))).release();
+    EXPECT_EQ(scene.tree.GetCount(), 0u);
+}
+
+TEST(TreeMouse, AParentThatRefusesTheChangeKeepsTheSelection)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.click(scene.label("a"));
+    scene.parent().answer(static_cast<UINT>(TVN_SELCHANGINGW), TRUE);
+    EXPECT_FALSE(scene.tree.SelectItem(scene.item("b")));
+    EXPECT_EQ(scene.caret(), "a");
+}
