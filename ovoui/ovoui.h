@@ -7,3 +7,8 @@
 #include <ovoui/frame/NonClientMetrics.h>
 #include <ovoui/frame/TabKeys.h>
 #include <ovoui/frame/ThemeData.h>
+#include <ovoui/images/AlphaImageButton.h>
+#include <ovoui/images/AlphaImageList.h>
+#include <ovoui/tree/DropMenu.h>
+#include <ovoui/tree/MultiTreeCtrl.h>
+#include <ovoui/tree/PlainText.h>

@@ -12,6 +12,16 @@
 // Dialogs: 1501 to 1599
 #define IDD_MESSAGE_BOX 1505
 
+// Bitmaps: 6001 to 6099
+#define IDB_TOOLBAR_16 6001
+#define IDB_TOOLBAR_24 6002
+#define IDB_TOOLBAR_32 6003
+#define IDB_TOOLBAR_16_CLASSIC 6004
+#define IDB_BUTTONS_16 6011
+#define IDB_BUTTONS_24 6012
+#define IDB_BUTTONS_32 6013
+#define IDB_BUTTONS_16_CLASSIC 6014
+
 // Menus and accelerator tables: 7401 to 7499
 #define IDR_TREE_ACCELERATORS 7471
 #define IDR_DROP_MENU 7472

@@ -11,7 +11,7 @@ foreach(icon ${icon_names})
   set(ico ${icon_folder}/${icon}.ico)
   add_custom_command(OUTPUT ${ico}
     COMMAND ${PROJECT_SOURCE_DIR}/ovoui/tools/make-ico ${ico} ${svg} 16 32 48
-    DEPENDS ${svg} ${PROJECT_SOURCE_DIR}/ovoui/tools/make-ico
+    DEPENDS ${svg} ${PROJECT_SOURCE_DIR}/ovoui/tools/make-ico ${PROJECT_SOURCE_DIR}/ovoui/tools/svgpixels.py
     VERBATIM)
   string(TOUPPER ${icon} resource)
   string(APPEND icon_script "${resource} ICON \"${icon}.ico\"\n")

@@ -1,5 +1,5 @@
 // How the message box is answered: mouse, keys, close box, help.
-#include "ImportPatch.h"
+#include <support/ImportPatch.h>
 #include "MessageBoxScene.h"
 #include "support/RecordingParent.h"
 

@@ -1,5 +1,5 @@
 // How the message box looks: sizes and places of its parts, in a real window.
-#include "ImportPatch.h"
+#include <support/ImportPatch.h>
 #include "MessageBoxScene.h"
 
 #include <ovocor/ovocor.h>

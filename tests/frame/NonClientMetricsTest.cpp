@@ -1,4 +1,4 @@
-#include "ImportPatch.h"
+#include <support/ImportPatch.h>
 
 #include <ovocor/ovocor.h>
 #include <ovoui/frame/NonClientMetrics.h>

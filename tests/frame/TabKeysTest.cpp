@@ -1,4 +1,4 @@
-#include "ImportPatch.h"
+#include <support/ImportPatch.h>
 
 #include <ovoui/frame/TabKeys.h>
 

@@ -1,0 +1,47 @@
+/// A push button that shows a square image from the resources.
+///
+///     button.setSize(16);
+///     button.loadImage(IDB_BUTTONS_16); // the first image of the strip
+#pragma once
+
+#include <ovoui/export.h>
+#include <ovoui/images/AlphaImageList.h>
+
+#include <afxwin.h>
+
+#include <memory>
+
+/// With visual styles it shows an image with alpha, by a button image list; without them a classic bitmap in
+/// which light grey becomes the colour of button faces and black that of their text. The host makes the
+/// button with BS_BITMAP, which the classic bitmap needs.
+class OVOUI_API CAlphaImageButton : public CButton
+{
+    DECLARE_DYNAMIC(CAlphaImageButton)
+
+public:
+    CAlphaImageButton();
+    /// The button should be destroyed by then, as it still shows what goes here.
+    ~CAlphaImageButton() override;
+
+    /// Width and height of the image in pixels; for the next loadImage.
+    void setSize(unsigned int size);
+
+    /// Shows a bitmap resource, found by the framework's search: the first image of it with visual styles,
+    /// all of it without. In the latter case only a bitmap with a palette gets the system's colours. Without
+    /// such a resource the button shows no image. Can be called again, for another image or after a change of
+    /// the theme.
+    void loadImage(unsigned int id);
+
+protected:
+    afx_msg int OnEraseBkgnd(CDC* dc);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void loadThemed(unsigned int id);
+    void loadClassic(unsigned int id);
+
+    // Each stays when the other one takes its place in the button.
+    std::unique_ptr<CBitmap> m_classic;
+    std::unique_ptr<CAlphaImageList> m_images;
+    unsigned int m_size = 0;
+};

@@ -1,0 +1,115 @@
+#include <ovoui/images/AlphaImageList.h>
+
+#include <ovoui/images/StripPainter.h>
+
+using ovoui::images::Strip;
+using ovoui::images::StripPainter;
+
+namespace
+{
+
+/// GDI+ on its own DIB section: the header has room for one colour, as the system's structure for it has.
+BITMAPINFO topDownHeader(UINT width, UINT height)
+{
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof(BITMAPINFO);
+    info.bmiHeader.biWidth = static_cast<LONG>(width);
+    info.bmiHeader.biHeight = -static_cast<LONG>(height);
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    return info;
+}
+
+} // namespace
+
+CAlphaImageList::CAlphaImageList() = default;
+
+CAlphaImageList::~CAlphaImageList()
+{
+    Clear();
+}
+
+BOOL CAlphaImageList::Create(int cx, int cy, int initial)
+{
+    constexpr UINT kFlags = ILC_COLOR32 | ILC_MASK;
+    constexpr int kGrow = 1;
+    return m_normal.Create(cx, cy, kFlags, initial, kGrow) && m_hot.Create(cx, cy, kFlags, initial, kGrow);
+}
+
+int CAlphaImageList::AddBitmap(unsigned int id, bool hot, long index, const SIZE& sourceSize,
+                               const CSize& targetSize, HBITMAP bitmap, const DWORD* remap)
+{
+    const std::optional<Strip> strip = bitmap ? Strip::passed(bitmap) : Strip::resource(id);
+    if (!strip)
+        return -1;
+    StripPainter painter(*strip, sourceSize, targetSize, m_interpolation, m_sharpen);
+    const std::unique_ptr<Gdiplus::Bitmap> images = painter.paint(index, remap);
+    if (!images)
+        return -1;
+    auto added = std::make_unique<CBitmap>();
+    added->Attach(GetHBitmap(*images));
+    const auto handle = static_cast<HBITMAP>(added->GetSafeHandle());
+    if (!handle)
+        return -1;
+    const int first =
+        hot ? ::ImageList_Add(m_hot.GetSafeHandle(), handle, nullptr)
+            : ::ImageList_AddMasked(m_normal.GetSafeHandle(), handle, ::GetSysColor(COLOR_BTNFACE));
+    if (first != -1)
+        m_lastBitmap = std::move(added);
+    return first;
+}
+
+HBITMAP CAlphaImageList::GetHBitmap(Gdiplus::Bitmap& bitmap)
+{
+    const UINT width = bitmap.GetWidth();
+    const UINT height = bitmap.GetHeight();
+    const BITMAPINFO info = topDownHeader(width, height);
+    void* bits = nullptr;
+    const HBITMAP handle = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    if (!handle)
+        return nullptr;
+    Gdiplus::BitmapData data{};
+    data.Width = width;
+    data.Height = height;
+    data.Stride = static_cast<INT>(width * sizeof(Gdiplus::ARGB));
+    data.PixelFormat = PixelFormat32bppARGB;
+    data.Scan0 = bits;
+    const Gdiplus::Rect all(0, 0, static_cast<INT>(width), static_cast<INT>(height));
+    constexpr UINT kMode = Gdiplus::ImageLockModeRead | Gdiplus::ImageLockModeUserInputBuf;
+    if (bitmap.LockBits(&all, kMode, PixelFormat32bppARGB, &data) == Gdiplus::Ok)
+        bitmap.UnlockBits(&data);
+    return handle;
+}
+
+CImageList* CAlphaImageList::ImageList()
+{
+    return &m_normal;
+}
+
+HIMAGELIST CAlphaImageList::GetImageList() const
+{
+    return m_normal.GetSafeHandle();
+}
+
+HIMAGELIST CAlphaImageList::GetHotImageList() const
+{
+    return m_hot.GetSafeHandle();
+}
+
+void CAlphaImageList::Clear()
+{
+    m_lastBitmap.reset();
+    m_normal.DeleteImageList();
+    m_hot.DeleteImageList();
+}
+
+void CAlphaImageList::SetInterpolationMode(Gdiplus::InterpolationMode mode)
+{
+    m_interpolation = mode;
+}
+
+void CAlphaImageList::SetSharpenMode(bool sharpen)
+{
+    m_sharpen = sharpen;
+}

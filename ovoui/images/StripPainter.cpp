@@ -1,0 +1,217 @@
+#include <ovoui/images/StripPainter.h>
+
+#include <ovoui/images/core/SharpenFilter.h>
+
+#include <map>
+#include <utility>
+
+namespace ovoui::images
+{
+
+namespace
+{
+
+constexpr Gdiplus::ARGB kOpaque = 0xFF000000;
+constexpr Gdiplus::ARGB kTransparentWhite = 0x00FFFFFF;
+constexpr Gdiplus::ARGB kResourceKey = 0xFFC0C0C0; ///< transparent in resources: light grey
+constexpr Gdiplus::ARGB kNoKey = kOpaque;          ///< where the top left pixel cannot be read
+
+/// Images of this size or smaller are not sharpened in either direction.
+constexpr LONG kTooSmall = 3;
+
+bool isGood(Gdiplus::Bitmap& bitmap)
+{
+    return bitmap.GetLastStatus() == Gdiplus::Ok;
+}
+
+/// Loaded once and never freed, as shared images are. Not every platform shares bitmaps by itself.
+HBITMAP sharedBitmap(HINSTANCE module, UINT id)
+{
+    static std::map<std::pair<HINSTANCE, UINT>, HBITMAP> loaded;
+    HBITMAP& bitmap = loaded[{module, id}];
+    constexpr UINT kFlags = LR_CREATEDIBSECTION | LR_SHARED;
+    if (!bitmap || ::GetObjectType(bitmap) != OBJ_BITMAP)
+        bitmap = static_cast<HBITMAP>(::LoadImageW(module, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, kFlags));
+    return bitmap;
+}
+
+/// Without GDI+ not even the memory for its objects is to be had.
+bool isGdiPlusStarted()
+{
+    Gdiplus::Bitmap probe(1, 1, PixelFormat32bppARGB);
+    return isGood(probe);
+}
+
+/// The pixels of a DIB of 32 bits, whichever way up it is stored, taken as ARGB as they stand.
+std::unique_ptr<Gdiplus::Bitmap> withAlpha(HBITMAP dib, int width, int height)
+{
+    auto picture = std::make_unique<Gdiplus::Bitmap>(width, height, PixelFormat32bppARGB);
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    const Gdiplus::Rect all(0, 0, width, height);
+    Gdiplus::BitmapData data{};
+    if (picture->LockBits(&all, Gdiplus::ImageLockModeWrite, PixelFormat32bppARGB, &data) != Gdiplus::Ok)
+        return picture;
+    const HDC dc = ::GetDC(nullptr);
+    ::GetDIBits(dc, dib, 0, static_cast<UINT>(height), data.Scan0, &info, DIB_RGB_COLORS);
+    ::ReleaseDC(nullptr, dc);
+    picture->UnlockBits(&data);
+    return picture;
+}
+
+} // namespace
+
+// Strip
+
+std::optional<Strip> Strip::passed(HBITMAP bitmap)
+{
+    return read(bitmap, false);
+}
+
+std::optional<Strip> Strip::resource(UINT id)
+{
+    const HBITMAP bitmap = sharedBitmap(AfxFindResourceHandle(MAKEINTRESOURCE(id), RT_BITMAP), id);
+    return bitmap ? read(bitmap, true) : std::nullopt;
+}
+
+std::optional<Strip> Strip::read(HBITMAP bitmap, bool isResource)
+{
+    Strip strip{bitmap, {}, isResource};
+    if (!::GetObjectW(bitmap, sizeof strip.facts, &strip.facts) || strip.facts.bmHeight == 0)
+        return std::nullopt;
+    return strip;
+}
+
+// StripPainter
+
+StripPainter::StripPainter(const Strip& strip, const SIZE& sourceSize, const SIZE& targetSize,
+                           Gdiplus::InterpolationMode interpolation, bool sharpen)
+    : m_strip(strip)
+    , m_source(sourceSize)
+    , m_target(targetSize)
+    , m_interpolation(interpolation)
+    , m_sharpen(sharpen)
+{
+}
+
+std::unique_ptr<Gdiplus::Bitmap> StripPainter::paint(long index, const DWORD* remap) const
+{
+    if (m_source.cx <= 0 || m_source.cy <= 0 || m_target.cx <= 0 || m_target.cy <= 0)
+        return nullptr;
+    const Part part = partOf(index);
+    if (part.count == 0 || !isGdiPlusStarted())
+        return nullptr;
+    auto target =
+        std::make_unique<Gdiplus::Bitmap>(m_target.cx * part.count, m_target.cy, PixelFormat32bppARGB);
+    if (!isGood(*target))
+        return nullptr;
+    draw(*target, part, remap);
+    const bool scaled = m_target.cx != m_source.cx || m_target.cy != m_source.cy;
+    if (m_sharpen && scaled && m_target.cx > kTooSmall && m_target.cy > kTooSmall)
+        sharpenImages(*target, part.count);
+    return target;
+}
+
+StripPainter::Part StripPainter::partOf(long index) const
+{
+    if (index < 0)
+        return {0, m_strip.count(m_source.cx)};
+    return {static_cast<int>(index), 1};
+}
+
+std::unique_ptr<Gdiplus::Bitmap> StripPainter::source() const
+{
+    if (m_strip.hasAlpha())
+        return withAlpha(m_strip.bitmap, m_strip.facts.bmWidth, m_strip.facts.bmHeight);
+    return std::make_unique<Gdiplus::Bitmap>(m_strip.bitmap, nullptr);
+}
+
+/// The colour that stands for transparency in a strip without alpha.
+Gdiplus::ARGB StripPainter::transparentColour() const
+{
+    if (m_strip.isResource)
+        return kResourceKey;
+    Gdiplus::Bitmap picture(m_strip.bitmap, nullptr);
+    Gdiplus::Color colour;
+    return picture.GetPixel(0, 0, &colour) == Gdiplus::Ok ? colour.GetValue() : kNoKey;
+}
+
+/// Null for a strip with alpha, which needs none.
+std::unique_ptr<Gdiplus::ImageAttributes> StripPainter::attributes(const DWORD* remap) const
+{
+    if (m_strip.hasAlpha())
+        return nullptr;
+    auto result = std::make_unique<Gdiplus::ImageAttributes>();
+    const Gdiplus::Color key(transparentColour());
+    result->SetColorKey(key, key);
+    if (remap) {
+        // The system's colour has red and blue the other way round, and is meant to stay so.
+        Gdiplus::ColorMap map;
+        map.oldColor = Gdiplus::Color(*remap | kOpaque);
+        map.newColor = Gdiplus::Color(::GetSysColor(COLOR_BTNTEXT) | kOpaque);
+        result->SetRemapTable(1, &map);
+    }
+    return result;
+}
+
+void StripPainter::draw(Gdiplus::Bitmap& target, const Part& part, const DWORD* remap) const
+{
+    Gdiplus::Graphics graphics(&target);
+    graphics.SetCompositingMode(Gdiplus::CompositingModeSourceCopy);
+    graphics.SetInterpolationMode(m_interpolation);
+    graphics.Clear(Gdiplus::Color(kTransparentWhite));
+    graphics.SetCompositingMode(Gdiplus::CompositingModeSourceOver);
+    const std::unique_ptr<Gdiplus::Bitmap> pixels = source();
+    const std::unique_ptr<Gdiplus::ImageAttributes> how = attributes(remap);
+    if (m_sharpen)
+        drawSeparately(graphics, *pixels, part, how.get());
+    else
+        drawWhole(graphics, *pixels, part.count, how.get());
+}
+
+/// Out of the whole strip: scaling mixes what is at the edges of neighbouring images. The images drawn are
+/// always the first ones of the strip.
+void StripPainter::drawWhole(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& source, int count,
+                             const Gdiplus::ImageAttributes* attributes) const
+{
+    const auto width = static_cast<Gdiplus::REAL>(m_source.cx);
+    const auto height = static_cast<Gdiplus::REAL>(m_source.cy);
+    for (int i = 0; i < count; ++i) {
+        const Gdiplus::RectF slot(static_cast<Gdiplus::REAL>(i * m_target.cx), 0,
+                                  static_cast<Gdiplus::REAL>(m_target.cx),
+                                  static_cast<Gdiplus::REAL>(m_target.cy));
+        graphics.DrawImage(&source, slot, static_cast<Gdiplus::REAL>(i) * width, 0, width, height,
+                           Gdiplus::UnitPixel, attributes);
+    }
+}
+
+/// Each image by itself, so that none gets pixels of its neighbours.
+void StripPainter::drawSeparately(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& source, const Part& part,
+                                  const Gdiplus::ImageAttributes* attributes) const
+{
+    for (int i = 0; i < part.count; ++i) {
+        const Gdiplus::Rect slot(i * m_target.cx, 0, m_target.cx, m_target.cy);
+        graphics.SetClip(slot, Gdiplus::CombineModeReplace);
+        const std::unique_ptr<Gdiplus::Bitmap> image(
+            source.Clone((part.first + i) * m_source.cx, 0, m_source.cx, m_source.cy, PixelFormat32bppARGB));
+        if (image)
+            graphics.DrawImage(image.get(), slot, 0, 0, m_source.cx, m_source.cy, Gdiplus::UnitPixel,
+                               attributes);
+    }
+}
+
+void StripPainter::sharpenImages(Gdiplus::Bitmap& target, int count) const
+{
+    const Gdiplus::Rect all(0, 0, m_target.cx * count, m_target.cy);
+    constexpr UINT kMode = Gdiplus::ImageLockModeRead | Gdiplus::ImageLockModeWrite;
+    Gdiplus::BitmapData data{};
+    if (target.LockBits(&all, kMode, PixelFormat32bppARGB, &data) != Gdiplus::Ok)
+        return;
+    auto* const pixels = static_cast<std::uint32_t*>(data.Scan0);
+    const std::ptrdiff_t stride = data.Stride / static_cast<std::ptrdiff_t>(sizeof *pixels);
+    for (int i = 0; i < count; ++i)
+        sharpen({pixels + i * m_target.cx, m_target.cx, m_target.cy, stride});
+    target.UnlockBits(&data);
+}
+
+} // namespace ovoui::images

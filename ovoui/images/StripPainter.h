@@ -1,0 +1,70 @@
+/// Not exported: images of a strip, drawn through GDI+ at the size wanted.
+#pragma once
+
+#include <afxwin.h>
+
+#include <objidl.h> // before the next one, which relies on it
+#include <gdiplus.h>
+
+#include <memory>
+#include <optional>
+
+namespace ovoui::images
+{
+
+/// A bitmap that holds images side by side. It is the caller's or shared, and never freed here.
+struct Strip
+{
+    HBITMAP bitmap;
+    BITMAP facts;    ///< its size and depth
+    bool isResource; ///< found by its number, not passed in
+
+    /// None when the bitmap cannot be read.
+    static std::optional<Strip> passed(HBITMAP bitmap);
+    static std::optional<Strip> resource(UINT id);
+
+    bool hasAlpha() const { return facts.bmBitsPixel == 32; }
+    int count(int imageWidth) const { return facts.bmWidth / imageWidth; }
+
+private:
+    static std::optional<Strip> read(HBITMAP bitmap, bool isResource);
+};
+
+/// Draws images of a strip into a picture that holds them side by side.
+class StripPainter
+{
+public:
+    /// `strip` must live as long as this object.
+    StripPainter(const Strip& strip, const SIZE& sourceSize, const SIZE& targetSize,
+                 Gdiplus::InterpolationMode interpolation, bool sharpen);
+
+    /// One image, or all for a negative index. Null when the sizes leave nothing to draw, or without GDI+.
+    /// `remap` as CAlphaImageList::AddBitmap takes it.
+    std::unique_ptr<Gdiplus::Bitmap> paint(long index, const DWORD* remap) const;
+
+private:
+    struct Part
+    {
+        int first; ///< index of the first image drawn
+        int count;
+    };
+
+    Part partOf(long index) const;
+    std::unique_ptr<Gdiplus::Bitmap> source() const;
+    Gdiplus::ARGB transparentColour() const;
+    std::unique_ptr<Gdiplus::ImageAttributes> attributes(const DWORD* remap) const;
+    void draw(Gdiplus::Bitmap& target, const Part& part, const DWORD* remap) const;
+    void drawWhole(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& source, int count,
+                   const Gdiplus::ImageAttributes* attributes) const;
+    void drawSeparately(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& source, const Part& part,
+                        const Gdiplus::ImageAttributes* attributes) const;
+    void sharpenImages(Gdiplus::Bitmap& target, int count) const;
+
+    const Strip& m_strip;
+    const SIZE m_source;
+    const SIZE m_target;
+    const Gdiplus::InterpolationMode m_interpolation;
+    const bool m_sharpen;
+};
+
+} // namespace ovoui::images

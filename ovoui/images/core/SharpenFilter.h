@@ -1,0 +1,40 @@
+/// Sharpens small pictures that scaling has blurred. Plain values, no windows.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace ovoui::images
+{
+
+/// A rectangle of pixels in memory, four channels of 8 bits each. The stride is the distance from one row to
+/// the next, in pixels, at least the width.
+struct PixelBlock
+{
+    std::uint32_t* pixels;
+    int width;
+    int height;
+    std::ptrdiff_t stride;
+};
+
+/// Which instructions are used. All give the same result, bit by bit.
+enum class SharpenCode
+{
+    Baseline, ///< what every x86-64 processor has (SSE2)
+    Avx2
+};
+
+/// The fastest that this processor has.
+SharpenCode fastestSharpenCode();
+
+/// Replaces each channel of each pixel, alpha included, by c + 0.075 (8 c - n), limited to 0 to 255 and
+/// rounded half up in single precision, where c is its value and n the sum of its eight neighbours before the
+/// call: a Laplacian sharpening with the weights 1.6 and -0.075.
+///
+/// The first and the last row are their own neighbours outside, and so is the first column. In the last
+/// column the right neighbours are the pixels themselves too, but the left one and the one below it are both
+/// the one above left. In a block of one column that is the pixel above.
+void sharpen(const PixelBlock& block);
+void sharpen(const PixelBlock& block, SharpenCode code);
+
+} // namespace ovoui::images

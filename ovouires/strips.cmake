@@ -1,0 +1,31 @@
+# Strips of images for toolbars and buttons: drawn as SVG, turned into bitmaps while building.
+set(toolbar_images new open save cut copy paste delete undo redo find print help)
+set(button_images add remove up down edit refresh)
+find_program(RSVG_CONVERT rsvg-convert REQUIRED)
+set(strip_folder ${CMAKE_CURRENT_BINARY_DIR}/strips)
+set(make_strip ${PROJECT_SOURCE_DIR}/ovoui/tools/make-strip)
+file(MAKE_DIRECTORY ${strip_folder})
+set(strip_files "")
+
+# add_strip(FILE SIZE [--classic] IMAGE ...)
+function(add_strip file size)
+  set(how "")
+  if("${ARGV2}" STREQUAL --classic)
+    set(how --classic)
+    list(REMOVE_ITEM ARGN --classic)
+  endif()
+  list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/strips/)
+  list(TRANSFORM ARGN APPEND .svg)
+  add_custom_command(OUTPUT ${strip_folder}/${file}
+    COMMAND ${make_strip} ${strip_folder}/${file} ${size} ${how} ${ARGN}
+    DEPENDS ${ARGN} ${make_strip} ${PROJECT_SOURCE_DIR}/ovoui/tools/svgpixels.py
+    VERBATIM)
+  set(strip_files ${strip_files} ${strip_folder}/${file} PARENT_SCOPE)
+endfunction()
+
+foreach(size 16 24 32)
+  add_strip(toolbar${size}.bmp ${size} ${toolbar_images})
+  add_strip(buttons${size}.bmp ${size} ${button_images})
+endforeach()
+add_strip(toolbar16classic.bmp 16 --classic ${toolbar_images})
+add_strip(buttons16classic.bmp 16 --classic ${button_images})
