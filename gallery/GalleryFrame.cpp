@@ -59,15 +59,13 @@ BOOL GalleryFrame::OnCreateClient(LPCREATESTRUCT, CCreateContext*)
     m_statusBar.SetIndicators(kPanes, static_cast<int>(std::size(kPanes)));
     for (CWnd* wnd : std::initializer_list<CWnd*>{&m_pageList, &m_logLabel, &m_log})
         wnd->SetFont(&m_font);
-    fillPageList();
     return TRUE;
 }
 
 bool GalleryFrame::createParts()
 {
-    constexpr DWORD kList = TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP | TVS_FULLROWSELECT | WS_VISIBLE | WS_TABSTOP;
     constexpr DWORD kLog = LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_VISIBLE | WS_CHILD;
-    return m_pageList.CreateEx(WS_EX_CLIENTEDGE, kList, CRect(), this, IDC_PAGE_LIST) &&
+    return m_pageList.create(*this, IDC_PAGE_LIST) &&
            m_header.create(*this, m_font) &&
            m_logLabel.Create(L"Notifica&tions:", WS_CHILD | WS_VISIBLE, CRect(), this) &&
            m_log.CWnd::CreateEx(WS_EX_CLIENTEDGE, L"LISTBOX", nullptr, kLog, CRect(), this, IDC_LOG) &&
@@ -106,14 +104,6 @@ BOOL GalleryFrame::PreTranslateMessage(MSG* message)
 
 // Pages
 
-void GalleryFrame::fillPageList()
-{
-    for (const PageEntry& page : pageTable()) {
-        const HTREEITEM item = m_pageList.InsertItem(page.title);
-        m_pageList.SetItemData(item, reinterpret_cast<DWORD_PTR>(&page));
-    }
-}
-
 void GalleryFrame::openPage(const PageEntry& entry)
 {
     m_entry = &entry;
@@ -126,16 +116,13 @@ void GalleryFrame::openPage(const PageEntry& entry)
     RecalcLayout();
     m_page->ShowWindow(SW_SHOW);
 
-    for (HTREEITEM item = m_pageList.GetRootItem(); item; item = m_pageList.GetNextSiblingItem(item))
-        if (m_pageList.GetItemData(item) == reinterpret_cast<DWORD_PTR>(&entry))
-            m_pageList.SelectItem(item);
+    m_pageList.show(entry);
 }
 
 void GalleryFrame::OnPageChosen(NMHDR* header, LRESULT* result)
 {
     *result = 0;
-    const HTREEITEM item = reinterpret_cast<const NMTREEVIEWW*>(header)->itemNew.hItem;
-    const auto* entry = item ? reinterpret_cast<const PageEntry*>(m_pageList.GetItemData(item)) : nullptr;
+    const PageEntry* const entry = m_pageList.pageAt(reinterpret_cast<const NMTREEVIEWW*>(header)->itemNew.hItem);
     if (entry && entry != m_entry)
         openPage(*entry);
 }

@@ -4,6 +4,7 @@
 #include "GalleryPage.h"
 #include "PageHeader.h"
 #include "PageTable.h"
+#include "PageTree.h"
 
 #include <afxcmn.h>
 #include <afxext.h>
@@ -45,12 +46,11 @@ protected:
 
 private:
     bool createParts();
-    void fillPageList();
     void stepPage(int step);
     void settle();
 
     CFont m_font; // first, since the windows below use it
-    CTreeCtrl m_pageList;
+    PageTree m_pageList;
     PageHeader m_header;
     CStatic m_logLabel;
     CListBox m_log;

@@ -27,7 +27,7 @@ bool PageHeader::create(CWnd& parent, CFont& font)
         AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW), ::GetSysColorBrush(COLOR_WINDOW));
     if (!CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE, CRect(), &parent, 0))
         return false;
-    SetFont(&font);
+    m_font = &font;
     LOGFONT face{};
     font.GetLogFont(&face);
     face.lfHeight = face.lfHeight * 3 / 2;
@@ -59,7 +59,7 @@ void PageHeader::OnPaint()
     dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
     CFont* const old = dc.SelectObject(&m_titleFont);
     dc.DrawText(m_title, -1, &place, DT_SINGLELINE | DT_NOPREFIX);
-    dc.SelectObject(GetFont());
+    dc.SelectObject(m_font);
     place.top += m_titleHeight + kGap;
     dc.DrawText(m_summary, -1, &place, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
     dc.SelectObject(old);

@@ -6,6 +6,7 @@
 class PageHeader : public CWnd
 {
 public:
+    /// `font` must live as long as this window.
     bool create(CWnd& parent, CFont& font);
 
     /// The texts must live as long as they are shown.
@@ -19,6 +20,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    CFont* m_font = nullptr; ///< of the window around
     CFont m_titleFont;
     int m_height = 0;
     int m_titleHeight = 0;

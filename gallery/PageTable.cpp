@@ -1,8 +1,10 @@
 #include "PageTable.h"
 
 #include "pages/GeometryPage.h"
+#include "pages/ImagesPage.h"
 #include "pages/MessageBoxPage.h"
 #include "pages/ThemesPage.h"
+#include "pages/TreePage.h"
 
 namespace
 {
@@ -26,6 +28,12 @@ const std::vector<PageEntry>& pageTable()
          &make<GeometryPage>},
         {L"themes", L"Themes", L"CThemeData: colours and button backgrounds, with visual styles or without.",
          &make<ThemesPage>},
+        {L"images", L"Alpha images",
+         L"CAlphaImageList scales strips of images and keeps their alpha; CAlphaImageButton shows one.",
+         &make<ImagesPage>},
+        {L"tree", L"Multi-selection tree",
+         L"MultiTreeCtrl: select several, drag them with either button, rename, delete, copy and paste.",
+         &make<TreePage>},
     };
     return pages;
 }

@@ -29,3 +29,8 @@ foreach(size 16 24 32)
 endforeach()
 add_strip(toolbar16classic.bmp 16 --classic ${toolbar_images})
 add_strip(buttons16classic.bmp 16 --classic ${button_images})
+# One image each, for buttons, which show a classic bitmap as a whole.
+foreach(image ${button_images})
+  add_strip(${image}16.bmp 16 ${image})
+  add_strip(${image}16classic.bmp 16 --classic ${image})
+endforeach()

@@ -1,0 +1,71 @@
+#include "PageTree.h"
+
+#include "resource.h"
+
+namespace
+{
+
+class PageNode : public MultiTreeCtrl::Node
+{
+public:
+    explicit PageNode(const PageEntry& page)
+        : m_page(page)
+    {
+    }
+
+    const PageEntry& page() const { return m_page; }
+
+    void activate(MultiTreeCtrl&) override {} // it is open already
+    std::wstring text(const MultiTreeCtrl&) const override { return m_page.title; }
+    std::wstring infotip(MultiTreeCtrl&) const override { return m_page.summary; }
+    int closedImage() const override { return 0; }
+    int openImage() const override { return 0; }
+
+private:
+    const PageEntry& m_page;
+};
+
+const CSize kImage(16, 16);
+
+} // namespace
+
+PageTree::PageTree() = default;
+
+PageTree::~PageTree() = default;
+
+bool PageTree::create(CWnd& parent, UINT id)
+{
+    constexpr DWORD kStyle =
+        TVS_SHOWSELALWAYS | TVS_FULLROWSELECT | TVS_INFOTIP | WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+    if (!CreateEx(WS_EX_CLIENTEDGE, kStyle, CRect(), &parent, id))
+        return false;
+    m_images.Create(kImage.cx, kImage.cy, 1);
+    m_images.AddBitmap(IDB_PAGES, false, -1, kImage, kImage, nullptr, nullptr);
+    SetImageList(m_images.ImageList(), TVSIL_NORMAL);
+    for (const PageEntry& page : pageTable())
+        (new PageNode(page))->insert(*this, TVI_ROOT, TVI_LAST);
+    return true;
+}
+
+void PageTree::show(const PageEntry& page)
+{
+    for (auto at = beginAll(); at != end(); ++at)
+        if (&static_cast<PageNode&>(*at).page() == &page)
+            SelectItem(at->hTreeItem());
+}
+
+const PageEntry* PageTree::pageAt(HTREEITEM item) const
+{
+    const OVO::Handle<Node> found = node(item);
+    return found ? &static_cast<PageNode&>(*found).page() : nullptr;
+}
+
+void PageTree::reportError(const wchar_t* message)
+{
+    AfxMessageBox(message);
+}
+
+bool PageTree::isCommandDisabled(unsigned)
+{
+    return false;
+}

@@ -1,0 +1,28 @@
+// The list of pages: a multi-selection tree like any other.
+#pragma once
+
+#include "PageTable.h"
+
+#include <ovoui/images/AlphaImageList.h>
+#include <ovoui/tree/MultiTreeCtrl.h>
+
+class PageTree : public MultiTreeCtrl
+{
+public:
+    PageTree();
+    ~PageTree() override;
+
+    /// Creates the window with an item for every page of the table.
+    bool create(CWnd& parent, UINT id);
+
+    /// Marks a page.
+    void show(const PageEntry& page);
+    /// The page behind an item; null for none.
+    const PageEntry* pageAt(HTREEITEM item) const;
+
+    void reportError(const wchar_t* message) override;
+    bool isCommandDisabled(unsigned id) override;
+
+private:
+    CAlphaImageList m_images;
+};

@@ -1,0 +1,78 @@
+#include "ProjectPane.h"
+
+#include "NotificationNames.h"
+#include "ProjectFolder.h"
+#include "ProjectNode.h"
+#include "resource.h"
+
+namespace
+{
+
+constexpr int kImageSize = 16;
+constexpr DWORD kTreeStyle = TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_EDITLABELS |
+                             TVS_SHOWSELALWAYS | TVS_INFOTIP | WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(ProjectPane, CWnd)
+ON_NOTIFY(TVN_BEGINDRAGW, IDC_PROJECT_TREE, OnBeginDrag)
+ON_NOTIFY(TVN_BEGINRDRAGW, IDC_PROJECT_TREE, OnBeginDrag)
+ON_WM_SETFOCUS()
+END_MESSAGE_MAP()
+
+ProjectPane::ProjectPane(ProjectItem::Pointer root)
+    : m_root(std::move(root))
+{
+}
+
+ProjectPane::~ProjectPane() = default;
+
+bool ProjectPane::create(CWnd& parent, const CRect& place, UINT id, ProjectTree::Log log, DWORD extendedStyle)
+{
+    const LPCTSTR windowClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
+    if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, place,
+                  &parent, id))
+        return false;
+    const CRect all(0, 0, place.Width(), place.Height());
+    if (!m_tree.CreateEx(WS_EX_CLIENTEDGE | extendedStyle, kTreeStyle, all, this, IDC_PROJECT_TREE))
+        return false;
+    m_log = log;
+    m_tree.setLog(std::move(log));
+    m_images.Create(kImageSize, kImageSize, 8);
+    m_images.AddBitmap(IDB_PROJECT, false, -1, CSize(kImageSize, kImageSize), CSize(kImageSize, kImageSize),
+                       nullptr, nullptr);
+    m_tree.SetImageList(m_images.ImageList(), TVSIL_NORMAL);
+    m_tree.SetFont(parent.GetFont());
+    for (const ProjectItem::Pointer& item : m_root->items)
+        m_tree.insert(new ProjectNode(item), *this, -1);
+    m_tree.Expand(m_tree.GetRootItem(), TVE_EXPAND);
+    return true;
+}
+
+DWORD ProjectPane::dragInto(COleDataObject& data, DWORD& effect, bool&, int) const
+{
+    return ProjectFolder(*m_root).dragInto(data, effect);
+}
+
+bool ProjectPane::dropInto(COleDataObject& data, DWORD effect, MultiTreeCtrl& tree, int zone)
+{
+    return ProjectFolder(*m_root).dropInto(data, effect, tree, *this, zone);
+}
+
+BOOL ProjectPane::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    if (m_log)
+        m_log(describeNotify(*reinterpret_cast<const NMHDR*>(lParam)));
+    return CWnd::OnNotify(wParam, lParam, result);
+}
+
+void ProjectPane::OnBeginDrag(NMHDR*, LRESULT* result)
+{
+    *result = 0;
+    m_tree.dragSelection();
+}
+
+void ProjectPane::OnSetFocus(CWnd*)
+{
+    m_tree.SetFocus();
+}

@@ -1,0 +1,43 @@
+// Alpha images at several sizes and in all their states, and buttons that show them.
+#pragma once
+
+#include "GalleryPage.h"
+
+#include <ovoui/images/AlphaImageButton.h>
+#include <ovoui/images/AlphaImageList.h>
+
+#include <array>
+
+/// Strips drawn out of image lists, some enlarged so that pixels can be seen.
+class ImageSamples : public CWnd
+{
+public:
+    bool create(CWnd& parent, const CRect& place);
+
+protected:
+    afx_msg void OnPaint();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    int drawSizes(CDC& dc, int top);
+    int drawScaled(CDC& dc, int top);
+    int drawStates(CDC& dc, int top);
+
+    std::array<CAlphaImageList, 3> m_sizes; ///< 16, 24 and 32 pixels, drawn at these sizes
+    CAlphaImageList m_soft;                 ///< from 16 to 24 pixels, not sharpened
+    CAlphaImageList m_sharp;                ///< the same, sharpened
+};
+
+class ImagesPage : public GalleryPage
+{
+public:
+    ImagesPage();
+    ~ImagesPage() override;
+
+protected:
+    BOOL OnInitDialog() override;
+
+private:
+    ImageSamples m_samples;
+    std::array<CAlphaImageButton, 7> m_buttons;
+};

@@ -1,0 +1,95 @@
+#include "TreePage.h"
+
+#include "resource.h"
+
+BEGIN_MESSAGE_MAP(TreePage, GalleryPage)
+ON_BN_CLICKED(IDC_TREE_READ_ONLY, OnReadOnly)
+END_MESSAGE_MAP()
+
+TreePage::TreePage()
+    : GalleryPage(IDD_PAGE_TREE)
+    , m_project(ProjectItem::makeProject())
+    , m_archive(ProjectItem::makeArchive())
+{
+}
+
+TreePage::~TreePage() = default;
+
+void TreePage::DoDataExchange(CDataExchange* exchange)
+{
+    GalleryPage::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_TREE_TEXT, m_text);
+}
+
+BOOL TreePage::OnInitDialog()
+{
+    GalleryPage::OnInitDialog();
+    m_text.takeDrops();
+    createPane(m_project, IDC_TREE_PROJECT);
+    createPane(m_archive, IDC_TREE_ARCHIVE);
+    return FALSE;
+}
+
+/// Puts a tree where the template has an empty control, which gives its number and its place in the order of
+/// Tab.
+bool TreePage::createPane(ProjectPane& pane, UINT placeholder, DWORD extendedStyle)
+{
+    CWnd* const before = GetDlgItem(static_cast<int>(placeholder));
+    CRect place;
+    before->GetWindowRect(&place);
+    ScreenToClient(&place);
+    const auto logLine = [this](const std::wstring& line) { log(line); };
+    if (!pane.create(*this, place, placeholder, logLine, extendedStyle))
+        return false;
+    pane.SetWindowPos(before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    before->DestroyWindow();
+    return true;
+}
+
+void TreePage::OnReadOnly()
+{
+    const bool readOnly = IsDlgButtonChecked(IDC_TREE_READ_ONLY) == BST_CHECKED;
+    m_project.tree().setReadOnly(readOnly);
+    m_archive.tree().setReadOnly(readOnly);
+}
+
+// Pictures
+
+std::vector<std::wstring> TreePage::poses() const
+{
+    return {L"selection", L"unfocused", L"drop", L"label", L"right-to-left"};
+}
+
+void TreePage::selectSome(ProjectTree& tree)
+{
+    tree.selectPath(L"/Garden/Beds (sorted)/Herbs.plan");
+    const HTREEITEM herbs = tree.GetSelectedItem();
+    tree.selectRange(herbs, tree.GetNextItem(tree.GetNextItem(herbs, TVGN_NEXTVISIBLE), TVGN_NEXTVISIBLE));
+}
+
+bool TreePage::pose(const std::wstring& name)
+{
+    ProjectTree& tree = m_project.tree();
+    selectSome(tree);
+    tree.SetFocus();
+    if (name == L"selection")
+        return true;
+    if (name == L"unfocused") {
+        m_text.SetFocus();
+        return true;
+    }
+    if (name == L"drop") {
+        const HTREEITEM folder = m_archive.tree().GetRootItem();
+        m_archive.tree().SelectDropTarget(folder);
+        m_archive.tree().SetInsertMark(m_archive.tree().GetChildItem(folder), TRUE);
+        return true;
+    }
+    if (name == L"label")
+        return tree.EditLabel(tree.GetSelectedItem()) != nullptr;
+    if (name != L"right-to-left")
+        return false;
+    tree.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    tree.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
+    tree.Invalidate();
+    return true;
+}

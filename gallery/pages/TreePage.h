@@ -1,0 +1,30 @@
+// Two multi-selection trees of a project, and a text to drag to.
+#pragma once
+
+#include "GalleryPage.h"
+#include "model/ProjectPane.h"
+#include "model/TextDropEdit.h"
+
+class TreePage : public GalleryPage
+{
+public:
+    TreePage();
+    ~TreePage() override;
+
+    std::vector<std::wstring> poses() const override;
+    bool pose(const std::wstring& name) override;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+    BOOL OnInitDialog() override;
+    afx_msg void OnReadOnly();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool createPane(ProjectPane& pane, UINT placeholder, DWORD extendedStyle = 0);
+    void selectSome(ProjectTree& tree);
+
+    ProjectPane m_project;
+    ProjectPane m_archive;
+    TextDropEdit m_text;
+};
