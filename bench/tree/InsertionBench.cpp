@@ -60,7 +60,7 @@ TEST_CASE("inserting at the end")
     const int count = GENERATE(1000, 10000, 100000);
     const std::vector<std::wstring> names = labels(count);
     const std::string size = std::to_string(count);
-    BENCHMARK_ADVANCED("TVM_INSERTITEM, " + size)(Catch::Benchmark::Chronometer meter)
+    BENCHMARK_ADVANCED("TVM_INSERTITEM, " + size + " [baseline]")(Catch::Benchmark::Chronometer meter)
     {
         measure<BareTree>(meter, [&](BareTree& tree) {
             for (const std::wstring& name : names)
@@ -81,7 +81,7 @@ TEST_CASE("inserting in random order under a sorted insertion point")
 {
     const std::vector<std::wstring> few = shuffled(labels(10000));
     const std::vector<std::wstring> many = shuffled(labels(100000));
-    BENCHMARK_ADVANCED("one by one, 10000")(Catch::Benchmark::Chronometer meter)
+    BENCHMARK_ADVANCED("one by one, 10000 [baseline]")(Catch::Benchmark::Chronometer meter)
     {
         measure<BenchTree>(meter, [&](BenchTree& tree) { insertSorted(tree, few); });
     };
@@ -89,7 +89,7 @@ TEST_CASE("inserting in random order under a sorted insertion point")
     {
         measure<BenchTree>(meter, [&](BenchTree& tree) { insertSorted(tree, many); });
     };
-    BENCHMARK_ADVANCED("as a batch, 10000")(Catch::Benchmark::Chronometer meter)
+    BENCHMARK_ADVANCED("as a batch, 10000 [baseline]")(Catch::Benchmark::Chronometer meter)
     {
         measure<BenchTree>(meter, [&](BenchTree& tree) { insertBatch(tree, few); });
     };
