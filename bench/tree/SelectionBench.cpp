@@ -142,7 +142,7 @@ TEST_CASE("walk over all")
     };
 }
 
-TEST_CASE("walk over the selected ones, a tenth of all")
+TEST_CASE("walk over the selected tenth")
 {
     const int count = GENERATE(1000, 10000, 100000);
     Pair pair(count);
