@@ -56,11 +56,11 @@ LRESULT BareTree::send(UINT message, WPARAM wParam, LPARAM lParam) const
     return ::SendMessageW(m_window, message, wParam, lParam);
 }
 
-HTREEITEM BareTree::insertLast(const std::wstring& label) const
+HTREEITEM BareTree::insert(const std::wstring& label, HTREEITEM after) const
 {
     TVINSERTSTRUCTW insert{};
     insert.hParent = TVI_ROOT;
-    insert.hInsertAfter = TVI_LAST;
+    insert.hInsertAfter = after;
     insert.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_STATE | TVIF_CHILDREN | TVIF_PARAM;
     insert.item.pszText = const_cast<LPWSTR>(label.c_str());
     return reinterpret_cast<HTREEITEM>(send(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
@@ -70,7 +70,7 @@ void BareTree::fill(const std::vector<std::wstring>& labels) const
 {
     send(WM_SETREDRAW, FALSE);
     for (const std::wstring& label : labels)
-        insertLast(label);
+        insert(label, TVI_LAST);
     send(WM_SETREDRAW, TRUE);
     ::UpdateWindow(m_window);
 }

@@ -80,8 +80,9 @@ public:
     BareTree& operator=(const BareTree&) = delete;
 
     HWND window() const { return m_window; }
+    operator HWND() const { return m_window; }
     LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-    HTREEITEM insertLast(const std::wstring& label) const;
+    HTREEITEM insert(const std::wstring& label, HTREEITEM after) const;
     void fill(const std::vector<std::wstring>& labels) const;
     HTREEITEM next(UINT relation, HTREEITEM item = nullptr) const;
     void setSelected(HTREEITEM item, bool selected) const;
