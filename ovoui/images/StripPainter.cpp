@@ -123,7 +123,11 @@ std::unique_ptr<Gdiplus::Bitmap> StripPainter::source() const
 {
     if (m_strip.hasAlpha())
         return withAlpha(m_strip.bitmap, m_strip.facts.bmWidth, m_strip.facts.bmHeight);
-    return std::make_unique<Gdiplus::Bitmap>(m_strip.bitmap, nullptr);
+    // As 32 bits at once: images of few bits may begin within a byte, where not every platform can cut.
+    Gdiplus::Bitmap original(m_strip.bitmap, nullptr);
+    std::unique_ptr<Gdiplus::Bitmap> copy(
+        original.Clone(0, 0, m_strip.facts.bmWidth, m_strip.facts.bmHeight, PixelFormat32bppARGB));
+    return copy ? std::move(copy) : std::make_unique<Gdiplus::Bitmap>(1, 1, PixelFormat32bppARGB);
 }
 
 /// The colour that stands for transparency in a strip without alpha.

@@ -124,6 +124,16 @@ TEST_F(AlphaImageButton, EveryStateLooksLikeAButtonWithTheImage)
     const Picture focused = shown();
     EXPECT_GT(focused.differences(normal), 0) << "focused";
 
+    if (themed()) {
+        other.SetFocus();
+        button.SendMessage(WM_MOUSEHOVER, 0, MAKELPARAM(20, 20));
+        const Picture hot = shown();
+        EXPECT_GT(hot.differences(normal), 0) << "hot";
+        EXPECT_GT(count(&green), 30) << "hot, with its image";
+        button.SendMessage(WM_MOUSELEAVE);
+        button.SetFocus();
+    }
+
     int pressed = 0;
     user.press(button).then([&] { pressed = shown().differences(focused); }).release();
     EXPECT_GT(pressed, 0) << "pressed";

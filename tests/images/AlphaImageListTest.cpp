@@ -265,6 +265,21 @@ TEST_F(AlphaImageList, ThePixelAtTheTopLeftIsTransparentInABitmapPassed)
     }
 }
 
+TEST_F(AlphaImageList, ImagesOfFewBitsMayBeginWithinAByte)
+{
+    for (const int bits : {1, 4}) {
+        // Three images of 5 pixels: the second one is all black, the others all white but for the key.
+        const TestStrip strip(15, 5, bits,
+                              [](int x, int y) { return x + y == 0 || x / 5 != 1 ? 0xFFFFFFu : 0u; });
+        images.Clear();
+        images.Create(5, 5, 3);
+        ASSERT_EQ(images.AddBitmap(0, false, -1, CSize(5, 5), CSize(5, 5), strip.handle(), nullptr), 0)
+            << bits;
+        for (int x = 0; x < 15; ++x)
+            EXPECT_EQ(added.last().at(x, 2) >> 24, x / 5 == 1 ? 0xFFu : 0u) << bits << " bits, x " << x;
+    }
+}
+
 TEST_F(AlphaImageList, ATopDownBitmapWithoutAlphaIsReadFromItsTop)
 {
     const TestStrip strip(

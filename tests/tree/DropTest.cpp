@@ -266,6 +266,16 @@ TEST(TreeDrop, TheWholeSelectionIsStillSelectedDuringTheDrag)
     EXPECT_EQ(scene.selected(), (Names{"source", "b"}));
 }
 
+TEST(TreeDrop, APressOnASelectedItemThatBecomesADragKeepsTheAnchor)
+{
+    DropScene scene({"a", "source", "c", "d"});
+    scene.user.click(scene.label("a")).holding(VK_SHIFT).click(scene.label("source"));
+    scene.dragTo(scene.label("d"));
+    ASSERT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+    scene.user.holding(VK_SHIFT).click(scene.label("c"));
+    EXPECT_EQ(scene.selected(), (Names{"a", "source", "c"}));
+}
+
 // The right button
 
 TEST(TreeDrop, TheRightButtonEndsInAMenu)

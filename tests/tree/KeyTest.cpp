@@ -184,6 +184,19 @@ TEST(TreeKeys, EnterWithAltDoesNothing)
     EXPECT_EQ(scene.journal, Journal{});
 }
 
+TEST(TreeKeys, EnterWithAltAndCtrlWhichComesAsAnOrdinaryKeyDoesNothing)
+{
+    KeyScene scene({"a"}, "a");
+    BYTE keys[256]{};
+    ::GetKeyboardState(keys);
+    keys[VK_MENU] = 0x80;
+    ::SetKeyboardState(keys);
+    scene.tree.SendMessage(WM_KEYDOWN, VK_RETURN, 1);
+    keys[VK_MENU] = 0;
+    ::SetKeyboardState(keys);
+    EXPECT_EQ(scene.journal, Journal{});
+}
+
 TEST(TreeKeys, ReturnNotificationsAndOkActivate)
 {
     KeyScene scene({"a"}, "a");

@@ -219,6 +219,19 @@ TEST(TreeLabelEdit, AClickThatMovesTheCaretEditsNothing)
     EXPECT_EQ(scene.journal, Journal{});
 }
 
+TEST(TreeLabelEdit, AClickOnASelectedItemThatIsNotTheCaretEditsNothing)
+{
+    EditScene scene({"a", "b"});
+    scene.user.holding(VK_CONTROL).click(scene.label("b"));
+    ASSERT_EQ(scene.caret(), "a");
+    scene.user.click(scene.label("b"));
+    EXPECT_EQ(scene.selected(), Names{"b"});
+    scene.user.waitFor("the double-click time to pass", [since = ::GetTickCount()] {
+        return ::GetTickCount() - since > ::GetDoubleClickTime() + 100;
+    });
+    EXPECT_FALSE(scene.isEditing());
+}
+
 TEST(TreeLabelEdit, AnotherPressComesBeforeTheEditor)
 {
     EditScene scene({"a", "b"});

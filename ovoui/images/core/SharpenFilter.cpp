@@ -1,16 +1,23 @@
-// The filter in three forms that give the same bits: one pixel at a time for the edges, and for all others
-// eight or sixteen channels at once, with SSE2, which every x86-64 processor has, or with AVX2. Sums of bytes
-// are taken in whole numbers of 16 bits, in which they are exact; the rest is single-precision arithmetic in
-// the order of the formula. Rounding differences are visible where a result lies between two bytes, so fused
-// operations, which round once less, must not be used here.
+// How the filter is made fast:
+//
+// The bytes of a row are widened to words, where sums of nine bytes are exact, and turned into floats only
+// for the weighting. The order of operations there, a product and then a sum, decides the last bit: it must
+// not be changed, and no fused multiplication may be used. Neither clamp appears, since the instructions that
+// narrow the results to bytes saturate.
+//
+// A step makes several pixels of a row from the three rows around it. Steps need all neighbours within the
+// row; the last one overlaps the step before it, which does no harm because sources are never overwritten.
+// The first and the last column are made one by one.
+//
+// The block is filtered in place: of what has been overwritten only the row above is needed again, so the
+// unfiltered row and the one above it are kept in two scratch rows.
 #include <ovoui/images/core/SharpenFilter.h>
 
-#include <immintrin.h>
-
-#include <algorithm>
-#include <array>
 #include <cstring>
-#include <vector>
+#include <memory>
+#include <utility>
+
+#include <immintrin.h>
 
 namespace ovoui::images
 {
@@ -18,164 +25,259 @@ namespace ovoui::images
 namespace
 {
 
-constexpr int kChannels = 4;
-constexpr short kCentreTimes =
-    9; ///< the sum of all nine holds the centre once more than the eight neighbours do
-constexpr float kStrength = 0.075f;
-constexpr float kHalf = 0.5f; ///< rounds half up, together with the truncation
+/// Differences are weighted 65536 times too large: a power of two, which changes no bit of the product's
+/// mantissa.
+constexpr float kWeight = 0.075F / 65536.0F;
+constexpr float kHalf = 0.5F;
 
-/// Three rows as bytes, not yet sharpened; `count` is the number of channels in each.
+/// Rows up to this width need no allocation: two of them are 4 KB.
+constexpr int kStackWidth = 512;
+
+/// The unfiltered rows around the one being made.
 struct Rows
 {
-    const std::uint8_t* above;
-    const std::uint8_t* centre;
-    const std::uint8_t* below;
-    int count;
+    const std::uint32_t* above;
+    const std::uint32_t* centre;
+    const std::uint32_t* below;
 };
 
-/// Adds the three rows, channel by channel. The compiler makes vector instructions of it.
-[[gnu::always_inline]] inline void addRows(const Rows& rows, std::uint16_t* __restrict sums)
+// SSE2: four pixels a step, two in a register of words
+
+constexpr int kSse2Step = 4;
+constexpr int kSse2MinWidth = kSse2Step + 2;
+
+__m128i load(const std::uint32_t* pixels)
 {
-    for (int i = 0; i < rows.count; ++i)
-        sums[i] = static_cast<std::uint16_t>(rows.above[i] + rows.centre[i] + rows.below[i]);
+    return _mm_loadu_si128(reinterpret_cast<const __m128i*>(pixels));
 }
 
-/// A new value from the old one and the sum of it and its eight neighbours.
-std::uint8_t sharpened(int centre, int sumOfNine)
+__m128i lowWords(__m128i bytes)
 {
-    const float value =
-        static_cast<float>(centre) + kStrength * static_cast<float>(kCentreTimes * centre - sumOfNine);
-    return static_cast<std::uint8_t>(std::clamp(value, 0.0f, 255.0f) + kHalf);
+    return _mm_unpacklo_epi8(bytes, _mm_setzero_si128());
 }
 
-/// From `from` to the last but one pixel, one channel at a time.
-void sharpenOneByOne(const Rows& rows, const std::uint16_t* sums, std::uint8_t* out, int from)
+__m128i highWords(__m128i bytes)
 {
-    for (int i = from; i < rows.count - kChannels; ++i)
-        out[i] = sharpened(rows.centre[i], sums[i - kChannels] + sums[i] + sums[i + kChannels]);
+    return _mm_unpackhi_epi8(bytes, _mm_setzero_si128());
 }
 
-// SSE2. Values out of range need no care: packing limits them to 0 to 255.
-
-__m128i sharpenedFour(__m128i centre, __m128i difference)
+__m128i sum(__m128i a, __m128i b, __m128i c)
 {
-    const __m128 value =
-        _mm_add_ps(_mm_cvtepi32_ps(centre), _mm_mul_ps(_mm_set1_ps(kStrength), _mm_cvtepi32_ps(difference)));
+    return _mm_add_epi16(_mm_add_epi16(a, b), c);
+}
+
+/// The words that two registers of two pixels have in the middle.
+__m128i middle(__m128i low, __m128i high)
+{
+    return _mm_castpd_si128(_mm_shuffle_pd(_mm_castsi128_pd(low), _mm_castsi128_pd(high), 1));
+}
+
+/// From the centre's values and the differences in the upper half of each lane.
+__m128i weighted(__m128i difference, __m128i centre)
+{
+    const __m128 change = _mm_mul_ps(_mm_set1_ps(kWeight), _mm_cvtepi32_ps(difference));
+    const __m128 value = _mm_add_ps(_mm_cvtepi32_ps(centre), change);
     return _mm_cvttps_epi32(_mm_add_ps(value, _mm_set1_ps(kHalf)));
 }
 
-__m128i sharpenedEight(const std::uint8_t* centre, const std::uint16_t* sums)
+/// Sharpened words, from the centre's and the sum of all nine.
+__m128i sharpened(__m128i centre, __m128i nine)
 {
-    const auto load = [](const void* from) { return _mm_loadu_si128(static_cast<const __m128i*>(from)); };
+    const __m128i ninefold = _mm_add_epi16(_mm_slli_epi16(centre, 3), centre);
+    const __m128i difference = _mm_sub_epi16(ninefold, nine);
     const __m128i zero = _mm_setzero_si128();
-    const __m128i c = _mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(centre)), zero);
-    const __m128i sum =
-        _mm_add_epi16(_mm_add_epi16(load(sums - kChannels), load(sums)), load(sums + kChannels));
-    const __m128i d = _mm_sub_epi16(_mm_mullo_epi16(c, _mm_set1_epi16(kCentreTimes)), sum);
-    const __m128i low =
-        sharpenedFour(_mm_unpacklo_epi16(c, zero), _mm_srai_epi32(_mm_unpacklo_epi16(d, d), 16));
-    const __m128i high =
-        sharpenedFour(_mm_unpackhi_epi16(c, zero), _mm_srai_epi32(_mm_unpackhi_epi16(d, d), 16));
+    const __m128i low = weighted(_mm_unpacklo_epi16(zero, difference), _mm_unpacklo_epi16(centre, zero));
+    const __m128i high = weighted(_mm_unpackhi_epi16(zero, difference), _mm_unpackhi_epi16(centre, zero));
     return _mm_packs_epi32(low, high);
 }
 
-void sharpenInnerBaseline(const Rows& rows, std::uint16_t* sums, std::uint8_t* out)
+void stepSse2(const Rows& rows, int x, std::uint32_t* target)
 {
-    addRows(rows, sums);
-    int i = kChannels;
-    for (; i + 8 <= rows.count - kChannels; i += 8) {
-        const __m128i words = sharpenedEight(rows.centre + i, sums + i);
-        _mm_storel_epi64(reinterpret_cast<__m128i*>(out + i), _mm_packus_epi16(words, words));
-    }
-    sharpenOneByOne(rows, sums, out, i);
+    const __m128i aboveLeft = load(rows.above + x - 1);
+    const __m128i centreLeft = load(rows.centre + x - 1);
+    const __m128i belowLeft = load(rows.below + x - 1);
+    // Sums of columns, two at a time: x - 1 and x, x + 1 and x + 2, x + 3 and x + 4.
+    const __m128i first = sum(lowWords(aboveLeft), lowWords(centreLeft), lowWords(belowLeft));
+    const __m128i second = sum(highWords(aboveLeft), highWords(centreLeft), highWords(belowLeft));
+    const __m128i third = sum(highWords(load(rows.above + x + 1)), highWords(load(rows.centre + x + 1)),
+                              highWords(load(rows.below + x + 1)));
+
+    const __m128i centre = load(rows.centre + x);
+    const __m128i low = sharpened(lowWords(centre), sum(first, middle(first, second), second));
+    const __m128i high = sharpened(highWords(centre), sum(second, middle(second, third), third));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(target + x), _mm_packus_epi16(low, high));
 }
 
-// AVX2: the same, twice as wide.
+// AVX2: the same in registers twice as wide, each half of which is a step of its own
 
-[[gnu::target("avx2")]] __m256i sharpenedEightWide(__m256i centre, __m256i difference)
+constexpr int kAvx2Step = 8;
+constexpr int kAvx2MinWidth = kAvx2Step + 2;
+
+[[gnu::target("avx2")]] __m256i loadWide(const std::uint32_t* pixels)
 {
-    const __m256 value = _mm256_add_ps(
-        _mm256_cvtepi32_ps(centre), _mm256_mul_ps(_mm256_set1_ps(kStrength), _mm256_cvtepi32_ps(difference)));
+    return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(pixels));
+}
+
+[[gnu::target("avx2")]] __m256i lowWords(__m256i bytes)
+{
+    return _mm256_unpacklo_epi8(bytes, _mm256_setzero_si256());
+}
+
+[[gnu::target("avx2")]] __m256i highWords(__m256i bytes)
+{
+    return _mm256_unpackhi_epi8(bytes, _mm256_setzero_si256());
+}
+
+[[gnu::target("avx2")]] __m256i sum(__m256i a, __m256i b, __m256i c)
+{
+    return _mm256_add_epi16(_mm256_add_epi16(a, b), c);
+}
+
+[[gnu::target("avx2")]] __m256i middle(__m256i low, __m256i high)
+{
+    return _mm256_castpd_si256(_mm256_shuffle_pd(_mm256_castsi256_pd(low), _mm256_castsi256_pd(high), 5));
+}
+
+[[gnu::target("avx2")]] __m256i weighted(__m256i difference, __m256i centre)
+{
+    const __m256 change = _mm256_mul_ps(_mm256_set1_ps(kWeight), _mm256_cvtepi32_ps(difference));
+    const __m256 value = _mm256_add_ps(_mm256_cvtepi32_ps(centre), change);
     return _mm256_cvttps_epi32(_mm256_add_ps(value, _mm256_set1_ps(kHalf)));
 }
 
-[[gnu::target("avx2")]] void sharpenInnerAvx2(const Rows& rows, std::uint16_t* sums, std::uint8_t* out)
+[[gnu::target("avx2")]] __m256i sharpened(__m256i centre, __m256i nine)
 {
-    addRows(rows, sums);
+    const __m256i ninefold = _mm256_add_epi16(_mm256_slli_epi16(centre, 3), centre);
+    const __m256i difference = _mm256_sub_epi16(ninefold, nine);
     const __m256i zero = _mm256_setzero_si256();
-    const int end = rows.count - kChannels;
-    int i = kChannels;
-    while (i + 16 <= end) {
-        const auto* at = reinterpret_cast<const __m256i*>(sums + i);
-        const auto* left = reinterpret_cast<const __m256i*>(sums + i - kChannels);
-        const auto* right = reinterpret_cast<const __m256i*>(sums + i + kChannels);
-        const __m256i c =
-            _mm256_cvtepu8_epi16(_mm_loadu_si128(reinterpret_cast<const __m128i*>(rows.centre + i)));
-        const __m256i sum = _mm256_add_epi16(
-            _mm256_add_epi16(_mm256_loadu_si256(left), _mm256_loadu_si256(at)), _mm256_loadu_si256(right));
-        const __m256i d = _mm256_sub_epi16(_mm256_mullo_epi16(c, _mm256_set1_epi16(kCentreTimes)), sum);
-        const __m256i low = sharpenedEightWide(_mm256_unpacklo_epi16(c, zero),
-                                               _mm256_srai_epi32(_mm256_unpacklo_epi16(d, d), 16));
-        const __m256i high = sharpenedEightWide(_mm256_unpackhi_epi16(c, zero),
-                                                _mm256_srai_epi32(_mm256_unpackhi_epi16(d, d), 16));
-        const __m256i words = _mm256_packs_epi32(low, high);
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(out + i),
-                         _mm_packus_epi16(_mm256_castsi256_si128(words), _mm256_extracti128_si256(words, 1)));
-        i += 16;
-        if (i < end && i + 16 > end)
-            i = end - 16; // the last one overlaps the one before
+    const __m256i low =
+        weighted(_mm256_unpacklo_epi16(zero, difference), _mm256_unpacklo_epi16(centre, zero));
+    const __m256i high =
+        weighted(_mm256_unpackhi_epi16(zero, difference), _mm256_unpackhi_epi16(centre, zero));
+    return _mm256_packs_epi32(low, high);
+}
+
+[[gnu::target("avx2")]] void stepAvx2(const Rows& rows, int x, std::uint32_t* target)
+{
+    const __m256i aboveLeft = loadWide(rows.above + x - 1);
+    const __m256i centreLeft = loadWide(rows.centre + x - 1);
+    const __m256i belowLeft = loadWide(rows.below + x - 1);
+    const __m256i first = sum(lowWords(aboveLeft), lowWords(centreLeft), lowWords(belowLeft));
+    const __m256i second = sum(highWords(aboveLeft), highWords(centreLeft), highWords(belowLeft));
+    const __m256i third =
+        sum(highWords(loadWide(rows.above + x + 1)), highWords(loadWide(rows.centre + x + 1)),
+            highWords(loadWide(rows.below + x + 1)));
+
+    const __m256i centre = loadWide(rows.centre + x);
+    const __m256i low = sharpened(lowWords(centre), sum(first, middle(first, second), second));
+    const __m256i high = sharpened(highWords(centre), sum(second, middle(second, third), third));
+    _mm256_storeu_si256(reinterpret_cast<__m256i*>(target + x), _mm256_packus_epi16(low, high));
+}
+
+// Rows
+
+/// The four channels of a pixel as words.
+__m128i wordsOf(std::uint32_t pixel)
+{
+    return lowWords(_mm_cvtsi32_si128(static_cast<int>(pixel)));
+}
+
+std::uint32_t sharpenedPixel(std::uint32_t centre, __m128i nine)
+{
+    const __m128i words = sharpened(wordsOf(centre), nine);
+    return static_cast<std::uint32_t>(_mm_cvtsi128_si32(_mm_packus_epi16(words, words)));
+}
+
+__m128i columnSum(const Rows& rows, int x)
+{
+    return sum(wordsOf(rows.above[x]), wordsOf(rows.centre[x]), wordsOf(rows.below[x]));
+}
+
+__m128i twice(__m128i words)
+{
+    return _mm_add_epi16(words, words);
+}
+
+void sharpenFirstColumn(const Rows& rows, int width, std::uint32_t* target)
+{
+    const __m128i right = columnSum(rows, width > 1 ? 1 : 0);
+    target[0] = sharpenedPixel(rows.centre[0], _mm_add_epi16(twice(columnSum(rows, 0)), right));
+}
+
+// The left neighbours beside and below come from the row above: images have always been sharpened so, and
+// must stay the same.
+void sharpenLastColumn(const Rows& rows, int width, std::uint32_t* target)
+{
+    const int last = width - 1;
+    const __m128i left = wordsOf(rows.above[last - 1]);
+    const __m128i column = columnSum(rows, last);
+    target[last] = sharpenedPixel(rows.centre[last], _mm_add_epi16(twice(column), sum(left, left, left)));
+}
+
+void sharpenOneByOne(const Rows& rows, int width, std::uint32_t* target)
+{
+    for (int x = 1; x < width - 1; ++x) {
+        const __m128i nine = sum(columnSum(rows, x - 1), columnSum(rows, x), columnSum(rows, x + 1));
+        target[x] = sharpenedPixel(rows.centre[x], nine);
     }
+}
+
+void sharpenInteriorSse2(const Rows& rows, int width, std::uint32_t* target)
+{
+    if (width < kSse2MinWidth) {
+        sharpenOneByOne(rows, width, target);
+        return;
+    }
+    const int last = width - 1 - kSse2Step;
+    for (int x = 1; x < last; x += kSse2Step)
+        stepSse2(rows, x, target);
+    stepSse2(rows, last, target);
+}
+
+[[gnu::target("avx2")]] void sharpenInteriorAvx2(const Rows& rows, int width, std::uint32_t* target)
+{
+    if (width < kAvx2MinWidth) {
+        sharpenInteriorSse2(rows, width, target);
+        return;
+    }
+    const int last = width - 1 - kAvx2Step;
+    for (int x = 1; x < last; x += kAvx2Step)
+        stepAvx2(rows, x, target);
+    stepAvx2(rows, last, target);
     _mm256_zeroupper(); // or what follows, written for SSE, would be slowed down
-    sharpenOneByOne(rows, sums, out, i);
 }
 
-void sharpenFirstPixel(const Rows& rows, const std::uint16_t* sums, std::uint8_t* out)
+void sharpenRow(const Rows& rows, int width, std::uint32_t* target, SharpenCode code)
 {
-    for (int i = 0; i < kChannels; ++i)
-        out[i] = sharpened(rows.centre[i], static_cast<std::uint16_t>(2 * sums[i] + sums[i + kChannels]));
+    sharpenFirstColumn(rows, width, target);
+    if (width == 1)
+        return;
+    if (code == SharpenCode::Avx2)
+        sharpenInteriorAvx2(rows, width, target);
+    else
+        sharpenInteriorSse2(rows, width, target);
+    sharpenLastColumn(rows, width, target);
 }
 
-void sharpenLastPixel(const Rows& rows, std::uint8_t* out)
-{
-    const int last = rows.count - kChannels;
-    const int left = std::max(last - kChannels, 0);
-    for (int i = 0; i < kChannels; ++i) {
-        const int sum = 3 * rows.above[left + i] + 2 * rows.above[last + i] + 2 * rows.centre[last + i] +
-                        2 * rows.below[last + i];
-        out[last + i] = sharpened(rows.centre[last + i], static_cast<std::uint16_t>(sum));
-    }
-}
-
-/// The rows that are needed unsharpened while the block changes: on the stack for the size of a toolbar's
-/// images.
-class Scratch
+/// Room for two rows of unfiltered pixels: on the stack for the size of a toolbar's images.
+class ScratchRows
 {
 public:
-    explicit Scratch(int width)
+    explicit ScratchRows(int width)
         : m_width(static_cast<std::size_t>(width))
     {
-        if (m_width > kOnStack)
-            m_allocated.resize(kParts * m_width);
+        if (width > kStackWidth)
+            m_allocated = std::make_unique_for_overwrite<std::uint32_t[]>(2 * m_width);
     }
 
-    std::uint32_t* row(int which) { return data() + static_cast<std::size_t>(which) * m_width; }
-    std::uint16_t* sums() { return reinterpret_cast<std::uint16_t*>(data() + 2 * m_width); }
+    std::uint32_t* first() { return m_allocated ? m_allocated.get() : m_own; }
+    std::uint32_t* second() { return first() + m_width; }
 
 private:
-    static constexpr std::size_t kOnStack = 256; ///< pixels in a row, which makes 4 KB in all
-    static constexpr std::size_t kParts = 4;     ///< two rows, and the sums, which take two bytes a channel
-
-    std::uint32_t* data() { return m_allocated.empty() ? m_stack.data() : m_allocated.data(); }
-
-    std::size_t m_width;
-    std::array<std::uint32_t, kParts * kOnStack> m_stack;
-    std::vector<std::uint32_t> m_allocated;
+    const std::size_t m_width;
+    std::unique_ptr<std::uint32_t[]> m_allocated;
+    std::uint32_t m_own[2 * kStackWidth];
 };
-
-const std::uint8_t* bytes(const std::uint32_t* pixels)
-{
-    return reinterpret_cast<const std::uint8_t*>(pixels);
-}
 
 } // namespace
 
@@ -194,22 +296,17 @@ void sharpen(const PixelBlock& block, SharpenCode code)
 {
     if (block.width <= 0 || block.height <= 0)
         return;
-    const auto inner = code == SharpenCode::Avx2 ? &sharpenInnerAvx2 : &sharpenInnerBaseline;
-    const std::size_t rowSize = static_cast<std::size_t>(block.width) * sizeof(std::uint32_t);
-    Scratch scratch(block.width);
-    std::memcpy(scratch.row(1), block.pixels, rowSize); // above the first row is that row itself
+    const std::size_t rowBytes = static_cast<std::size_t>(block.width) * sizeof *block.pixels;
+    ScratchRows scratch(block.width);
+    std::uint32_t* above = scratch.first();
+    std::uint32_t* centre = scratch.second();
+    std::memcpy(above, block.pixels, rowBytes);
     for (int y = 0; y < block.height; ++y) {
-        std::uint32_t* const pixels = block.pixels + y * block.stride;
-        std::uint32_t* const centre = scratch.row(y % 2);
-        std::memcpy(centre, pixels, rowSize);
-        const bool last = y + 1 == block.height;
-        const Rows rows{bytes(scratch.row((y + 1) % 2)), bytes(centre),
-                        bytes(last ? centre : pixels + block.stride), block.width * kChannels};
-        auto* const out = reinterpret_cast<std::uint8_t*>(pixels);
-        inner(rows, scratch.sums(), out);
-        if (block.width > 1)
-            sharpenFirstPixel(rows, scratch.sums(), out);
-        sharpenLastPixel(rows, out);
+        std::uint32_t* const row = block.pixels + y * block.stride;
+        std::memcpy(centre, row, rowBytes);
+        const std::uint32_t* const below = y + 1 < block.height ? row + block.stride : centre;
+        sharpenRow({above, centre, below}, block.width, row, code);
+        std::swap(above, centre);
     }
 }
 

@@ -33,7 +33,8 @@ SharpenCode fastestSharpenCode();
 ///
 /// The first and the last row are their own neighbours outside, and so is the first column. In the last
 /// column the right neighbours are the pixels themselves too, but the left one and the one below it are both
-/// the one above left. In a block of one column that is the pixel above.
+/// the one above left. A block of one column has that column on either
+/// side.
 void sharpen(const PixelBlock& block);
 void sharpen(const PixelBlock& block, SharpenCode code);
 

@@ -37,6 +37,8 @@ std::array<std::uint32_t, 8> neighboursOf(const Pixels& pixels, int width, int h
     const std::uint32_t* centre = row(y);
     const std::uint32_t* below = row(y + 1 < height ? y + 1 : y);
     const int left = x > 0 ? x - 1 : 0;
+    if (width == 1) // that column on either side
+        return {*above, *above, *above, *centre, *centre, *below, *below, *below};
     if (x + 1 < width)
         return {above[left],   above[x],    above[x + 1], centre[left],
                 centre[x + 1], below[left], below[x],     below[x + 1]};
