@@ -23,7 +23,6 @@ constexpr UINT kStrips[] = {IDB_TOOLBAR_16, IDB_TOOLBAR_24, IDB_TOOLBAR_32};
 
 constexpr int kScaled = 24;
 constexpr int kZoom = 3;
-constexpr int kZoomed[] = {2, 3, 4, 9}; ///< the images that are shown enlarged
 
 void label(CDC& dc, const wchar_t* text, int top, int height)
 {
@@ -97,21 +96,24 @@ int ImageSamples::drawSizes(CDC& dc, int top)
     return top;
 }
 
+/// Each image soft and, beside it, sharpened.
 int ImageSamples::drawScaled(CDC& dc, int top)
 {
+    constexpr int kSide = kScaled * kZoom;
     const struct
     {
         const wchar_t* text;
-        CAlphaImageList& images;
-    } rows[] = {{L"16 to 24, soft", m_soft}, {L"sharpened", m_sharp}};
+        int images[2];
+    } rows[] = {{L"16 to 24 pixels,", {2, 3}}, {L"soft and sharp", {4, 9}}};
     for (const auto& [text, images] : rows) {
-        label(dc, text, top, kScaled * kZoom);
+        label(dc, text, top, kSide);
         int left = kLabel;
-        for (const int image : kZoomed) {
-            drawZoomed(dc, images, image, CPoint(left, top));
-            left += kScaled * kZoom + kGap;
+        for (const int image : images) {
+            drawZoomed(dc, m_soft, image, CPoint(left, top));
+            drawZoomed(dc, m_sharp, image, CPoint(left + kSide + kGap / 2, top));
+            left += 2 * kSide + 3 * kGap;
         }
-        top += kScaled * kZoom + kGap;
+        top += kSide + kGap;
     }
     return top;
 }
