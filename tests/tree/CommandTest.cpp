@@ -125,6 +125,18 @@ TEST(TreeCommands, ThatNoSelectedNodeOffersGoToTheParent)
     EXPECT_EQ(scene.printed(), 1);
 }
 
+TEST(TreeCommands, GoOnToTheParentInTheRoutingItself)
+{
+    CommandScene scene({"a"});
+    EXPECT_TRUE(scene.tree.OnCmdMsg(kPrint, CN_COMMAND, nullptr, nullptr));
+    EXPECT_EQ(scene.printed(), 1);
+    EXPECT_FALSE(scene.tree.OnCmdMsg(4003, CN_COMMAND, nullptr, nullptr)) << "nobody knows it";
+    AFX_CMDHANDLERINFO info{};
+    EXPECT_TRUE(scene.tree.OnCmdMsg(kPrint, CN_COMMAND, nullptr, &info));
+    EXPECT_EQ(info.pTarget, &scene.parent());
+    EXPECT_EQ(scene.printed(), 1) << "asked only";
+}
+
 TEST(TreeCommands, ThatAreForbiddenDoNothing)
 {
     CommandScene scene({"a"});
