@@ -15,10 +15,10 @@
 #define CBRS_BORDER_RIGHT 0x0400L
 #define CBRS_BORDER_BOTTOM 0x0800L
 #define CBRS_BORDER_ANY 0x0F00L
-#define CBRS_BORDER_3D 0x0080L   // lines of two colours
-#define CBRS_FLOAT_MULTI 0x0040L // may float together with others
-#define CBRS_FLYBY 0x0020L       // the message line tells what the tooltip's button does
-#define CBRS_TOOLTIPS 0x0010L
+#define CBRS_BORDER_3D 0x0080L    // lines of two colours
+#define CBRS_FLOAT_MULTI 0x0040L  // may float together with others
+#define CBRS_FLYBY 0x0020L        // the message line tells what the tool under the pointer does
+#define CBRS_TOOLTIPS 0x0010L     // buttons and controls of the bar have tips
 #define CBRS_HIDE_INPLACE 0x0008L // hidden while an object is edited in place
 #define CBRS_SIZE_DYNAMIC 0x0004L // its size can be changed while it floats
 #define CBRS_SIZE_FIXED 0x0002L
@@ -61,7 +61,10 @@ public:
     // Style and borders
     DWORD GetBarStyle() const { return m_dwStyle; }
     void SetBarStyle(DWORD style);
-    CRect GetBorders() const { return m_borders; }
+    CRect GetBorders() const
+    {
+        return CRect(m_cxLeftBorder, m_cyTopBorder, m_cxRightBorder, m_cyBottomBorder);
+    }
     /// Room around the bar's contents, in pixels, as seen in a horizontal bar.
     void SetBorders(int left = 0, int top = 0, int right = 0, int bottom = 0);
     void SetBorders(LPCRECT borders);
@@ -102,6 +105,7 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnDestroy();
     afx_msg void OnPaint();
+    afx_msg void OnTimer(UINT_PTR id);
     afx_msg LRESULT OnSizeParent(WPARAM, LPARAM layout);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM);
     afx_msg LRESULT OnInitialUpdate(WPARAM, LPARAM);
@@ -114,6 +118,12 @@ protected:
     afx_msg int OnCharToItem(UINT character, CListBox* box, UINT index);
     DECLARE_MESSAGE_MAP()
 
+    // Room around the bar's contents in pixels, as seen in a horizontal bar
+    int m_cxLeftBorder = 6;
+    int m_cxRightBorder = 0;
+    int m_cyTopBorder = 1;
+    int m_cyBottomBorder = 1;
+    int m_nMRUWidth = 32767;          ///< how wide it last floated, in pixels, for LM_MRUWIDTH
     int m_nCount = 0;                 ///< items
     DWORD m_dwDockStyle = 0;          ///< where it may be docked
     CFrameWnd* m_pDockSite = nullptr; ///< the frame that it belongs to
@@ -131,10 +141,16 @@ private:
     void delayShow(bool show);
     void applyPending();
     LRESULT sendToOwner();
-    LRESULT notifyOwner(NMHDR& header);
-    void showPrompt(const NMHDR& tip);
+    LRESULT notifyOwner(const NMHDR& header);
     LRESULT offer(HWND control);
+    void followTipStyle();
+    void followPointer();
+    INT_PTR toolUnderPointer() const;
+    void showPrompt();
+    void forgetPrompt();
 
-    CRect m_borders{6, 1, 0, 1};
     Pending m_pending = Pending::Nothing;
+    INT_PTR m_promptTool = -1; ///< the tool whose prompt is shown or about to be shown
+    bool m_promptShown = false;
+    bool m_tipsFollowed = false; ///< whether tips are on, as m_dwStyle said when it was last looked at
 };

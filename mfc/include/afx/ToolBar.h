@@ -87,6 +87,9 @@ protected:
     afx_msg void OnSysColorChange();
     DECLARE_MESSAGE_MAP()
 
+    CSize m_sizeImage{16, 15};  ///< of a picture, in pixels
+    CSize m_sizeButton{24, 22}; ///< of a button, in pixels
+
 private:
     TBBUTTON button(int index) const;
     void setButton(int index, const TBBUTTON& button);
@@ -96,10 +99,7 @@ private:
     std::vector<afxdetail::ToolBarItem> itemsOfBar() const;
     void breakRows(const std::vector<afxdetail::ToolBarItem>& items);
 
-    CSize m_imageSize{16, 15};
-    CSize m_buttonSize{24, 22};
     int m_height = 0;                   ///< SetHeight; 0 follows the buttons
-    int m_floatWidth = 32767;           ///< for LM_MRUWIDTH
     HBITMAP m_bitmap = nullptr;         ///< owned
     HINSTANCE m_bitmapModule = nullptr; ///< where m_bitmap was loaded from, to follow the system's colours
     HRSRC m_bitmapResource = nullptr;

@@ -14,6 +14,7 @@ ON_WM_CREATE()
 ON_WM_DESTROY()
 // layout, painting, updates
 ON_WM_PAINT()
+ON_WM_TIMER() // prompts, in controlbartips.cpp
 ON_MESSAGE(WM_SIZEPARENT, OnSizeParent)
 ON_MESSAGE(WM_IDLEUPDATECMDUI, OnIdleUpdateCmdUI)
 ON_MESSAGE(WM_INITIALUPDATE, OnInitialUpdate)
@@ -82,6 +83,7 @@ void CControlBar::SetBarStyle(DWORD style)
     if (m_dwStyle == style)
         return;
     m_dwStyle = style;
+    followTipStyle();
     if (m_hWnd)
         SetWindowPos(nullptr, 0, 0, 0, 0,
                      SWP_FRAMECHANGED | SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -89,12 +91,15 @@ void CControlBar::SetBarStyle(DWORD style)
 
 void CControlBar::SetBorders(int left, int top, int right, int bottom)
 {
-    m_borders.SetRect(left, top, right, bottom);
+    m_cxLeftBorder = left;
+    m_cyTopBorder = top;
+    m_cxRightBorder = right;
+    m_cyBottomBorder = bottom;
 }
 
 void CControlBar::SetBorders(LPCRECT borders)
 {
-    m_borders = *borders;
+    SetBorders(borders->left, borders->top, borders->right, borders->bottom);
 }
 
 void CControlBar::EnableDocking(DWORD dockStyle)
@@ -147,6 +152,7 @@ int CControlBar::OnCreate(LPCREATESTRUCT cs)
 
 void CControlBar::OnDestroy()
 {
+    forgetPrompt();
     if (m_pDockSite)
         std::exchange(m_pDockSite, nullptr)->removeControlBar(this);
     CWnd::OnDestroy();
@@ -234,32 +240,13 @@ LRESULT CControlBar::sendToOwner()
                                   : Default();
 }
 
-LRESULT CControlBar::notifyOwner(NMHDR& header)
+LRESULT CControlBar::notifyOwner(const NMHDR& header)
 {
     const LRESULT result = sendToOwner();
-    switch (header.code) {
-    case TTN_GETDISPINFOW: // the control may know a text where the owner has none
-        return hasText(reinterpret_cast<const NMTTDISPINFOW&>(header)) ? result : Default();
-    case TTN_SHOW:
-        showPrompt(header);
-        break;
-    case TTN_POP:
-        if (m_pDockSite && (m_dwStyle & CBRS_FLYBY))
-            m_pDockSite->PostMessage(WM_POPMESSAGESTRING, AFX_IDS_IDLEMESSAGE, 0);
-        break;
-    }
-    return result;
-}
-
-/// The message line tells what the tool does whose tip is shown.
-void CControlBar::showPrompt(const NMHDR& tip)
-{
-    if (!m_pDockSite || !(m_dwStyle & CBRS_FLYBY))
-        return;
-    UINT_PTR id = tip.idFrom;
-    if (id > 0xFFFF) // a control's tool bears its window
-        id = static_cast<UINT>(::GetDlgCtrlID(reinterpret_cast<HWND>(id)));
-    m_pDockSite->SetMessageText(static_cast<UINT>(id & 0xFFFF));
+    if (header.code != TTN_GETDISPINFOW)
+        return result;
+    // The control may know a text where the owner has none.
+    return hasText(reinterpret_cast<const NMTTDISPINFOW&>(header)) ? result : Default();
 }
 
 /// Offers the message being handled to the control that it is about, then to the owner.
@@ -301,8 +288,14 @@ int CControlBar::OnCharToItem(UINT, CListBox* box, UINT)
 
 BOOL CControlBar::PreTranslateMessage(MSG* message)
 {
+    const HWND wnd = m_hWnd;
+    followTipStyle();
     if (CWnd::PreTranslateMessage(message))
         return TRUE;
+    if (!FromHandlePermanent(wnd)) // a host that was asked for the text of a tip has destroyed the bar
+        return FALSE;
+    if (message->message == WM_MOUSEMOVE)
+        followPointer();
     if (!isKey(message->message) || !::GetTopWindow(m_hWnd))
         return FALSE;
     // The dialog keys take every key message: what the frames above want of them must come first.

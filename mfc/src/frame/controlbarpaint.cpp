@@ -48,9 +48,9 @@ void CControlBar::CalcInsideRect(CRect& rect, BOOL horizontal) const
 {
     rect.DeflateRect(linesOf(m_dwStyle));
     if (horizontal)
-        rect.DeflateRect(m_borders);
+        rect.DeflateRect(m_cxLeftBorder, m_cyTopBorder, m_cxRightBorder, m_cyBottomBorder);
     else // lying on its side
-        rect.DeflateRect(m_borders.top, m_borders.left, m_borders.bottom, m_borders.right);
+        rect.DeflateRect(m_cyTopBorder, m_cxLeftBorder, m_cyBottomBorder, m_cxRightBorder);
     if (!hasGripper(m_dwStyle))
         return;
     if (horizontal)
@@ -93,10 +93,10 @@ void CControlBar::DrawGripper(CDC* dc, const CRect& rect)
     const COLORREF shadow = ::GetSysColor(COLOR_BTNSHADOW);
     CRect gripper(rect);
     if (m_dwStyle & CBRS_ORIENT_HORZ) {
-        gripper.DeflateRect(kGripperOffset, m_borders.top + 1, 0, m_borders.bottom + 1);
+        gripper.DeflateRect(kGripperOffset, m_cyTopBorder + 1, 0, m_cyBottomBorder + 1);
         gripper.right = gripper.left + kGripperWidth;
     } else {
-        gripper.DeflateRect(m_borders.top + 1, kGripperOffset, m_borders.bottom + 1, 0);
+        gripper.DeflateRect(m_cyTopBorder + 1, kGripperOffset, m_cyBottomBorder + 1, 0);
         gripper.bottom = gripper.top + kGripperWidth;
     }
     dc->Draw3dRect(gripper, light, shadow);

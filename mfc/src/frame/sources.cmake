@@ -1,6 +1,7 @@
 target_sources(ovomfc PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/controlbar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/controlbarpaint.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/controlbartips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/barlayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/panelayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/toolbarlayout.cpp

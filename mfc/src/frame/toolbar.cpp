@@ -74,13 +74,12 @@ BOOL CToolBar::CreateEx(CWnd* parent, DWORD controlStyle, DWORD style, CRect bor
     m_dwStyle = style & CBRS_ALL;
     // The frame's layout places the bar, not the control itself.
     constexpr DWORD kPlacedFromOutside = CCS_NOPARENTALIGN | CCS_NOMOVEY | CCS_NODIVIDER | CCS_NORESIZE;
-    DWORD wndStyle = (style & ~static_cast<DWORD>(CBRS_ALL)) | controlStyle | kPlacedFromOutside | WS_CHILD;
-    if (style & CBRS_TOOLTIPS)
-        wndStyle |= TBSTYLE_TOOLTIPS;
+    const DWORD wndStyle =
+        (style & ~static_cast<DWORD>(CBRS_ALL)) | controlStyle | kPlacedFromOutside | WS_CHILD;
     if (!CWnd::CreateEx(0, TOOLBARCLASSNAMEW, nullptr, wndStyle, CRect(0, 0, 0, 0), parent, id))
         return FALSE;
     SendMessage(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
-    SetSizes(m_buttonSize, m_imageSize);
+    SetSizes(m_sizeButton, m_sizeImage);
     return TRUE;
 }
 

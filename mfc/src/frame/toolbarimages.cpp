@@ -133,7 +133,7 @@ BOOL CToolBar::SetBitmap(HBITMAP bitmap)
     BITMAP data{};
     if (!::GetObjectW(bitmap, sizeof data, &data))
         return FALSE;
-    const int pictures = m_imageSize.cx > 0 ? data.bmWidth / m_imageSize.cx : 0;
+    const int pictures = m_sizeImage.cx > 0 ? data.bmWidth / m_sizeImage.cx : 0;
     if (!showPictures(bitmap, pictures))
         return FALSE;
     ::DeleteObject(std::exchange(m_bitmap, bitmap));

@@ -16,8 +16,8 @@ constexpr int kOneColumn = 0;
 
 void CToolBar::SetSizes(SIZE button, SIZE image)
 {
-    m_buttonSize = button;
-    m_imageSize = image;
+    m_sizeButton = button;
+    m_sizeImage = image;
     if (!m_hWnd)
         return;
     SendMessage(TB_SETBITMAPSIZE, 0, MAKELPARAM(image.cx, image.cy));
@@ -56,7 +56,7 @@ CSize CToolBar::layOut(int length, DWORD mode)
     if (!(m_dwStyle & CBRS_SIZE_FIXED)) {
         int width = horizontal ? kOneRow : kOneColumn;
         if ((mode & LM_MRUWIDTH) && (m_dwStyle & CBRS_SIZE_DYNAMIC))
-            width = m_floatWidth;
+            width = m_nMRUWidth;
         else if (length != -1 && (m_dwStyle & CBRS_SIZE_DYNAMIC))
             width = (mode & LM_LENGTHY) ? afxdetail::widthForHeight(items, rowHeight, length - around.cy)
                                         : length - around.cx;
@@ -64,7 +64,7 @@ CSize CToolBar::layOut(int length, DWORD mode)
     }
     const Extent extent = afxdetail::extentOf(items, rowHeight);
     if (mode & LM_COMMIT)
-        m_floatWidth = extent.width;
+        m_nMRUWidth = extent.width;
     if (length == -1 || (mode & LM_COMMIT))
         breakRows(items);
 

@@ -257,14 +257,11 @@ TEST_F(ToolBar, ItsTipsAreThePromptsOfTheCommands)
     m_frame->RecalcLayout();
     present(*m_frame);
     std::wstring tip;
-    const auto isTipShown = [&] {
-        const HWND tips = m_bar.GetToolBarCtrl().GetToolTips()->GetSafeHwnd();
-        return tips && ::IsWindowVisible(tips);
-    };
+    const auto shownTip = [] { return shownWindow(nullptr, TOOLTIPS_CLASSW); };
     Robot()
         .moveTo(spot(Act))
-        .waitFor("the tip", isTipShown)
-        .then([&] { tip = textIn(*m_bar.GetToolBarCtrl().GetToolTips()); })
+        .waitFor("the tip", [&] { return shownTip() != nullptr; })
+        .then([&] { tip = textIn(*CWnd::FromHandle(shownTip())); })
         .waitFor("the prompt", [&] { return status.GetPaneText(0) == L"Does the act"; })
         .moveTo(Spot{*m_frame->view})
         .waitFor("the prompt to go", [&] { return status.GetPaneText(0) == L"Ready"; });
