@@ -1,4 +1,5 @@
-// The macros that fill message maps. Each takes a member function of exactly the documented signature.
+// The macros that fill message maps. Each takes a member function of exactly the documented signature, as
+// `&Class::Handler`; g++ also compiles the older form, the bare name.
 #pragma once
 
 #include <afx/MessageMap.h>
@@ -59,12 +60,14 @@ using OnUnInitMenuPopupHandler = WindowHandler<void(CMenu*, UINT), MenuW, HighL<
 using OnMenuSelectHandler = WindowHandler<void(UINT, UINT, HMENU), LowW<UINT>, HighW<UINT>, L<HMENU>>;
 using OnMenuCharHandler = WindowHandler<LRESULT(UINT, UINT, CMenu*), LowW<UINT>, HighW<UINT>, MenuL>;
 using OnEnterIdleHandler = WindowHandler<void(UINT, CWnd*), W<UINT>, WndL>;
-using OnHScrollHandler = WindowHandler<void(UINT, UINT, CScrollBar*), LowW<UINT>, HighW<UINT>, ControlL<CScrollBar>>;
+using OnHScrollHandler =
+    WindowHandler<void(UINT, UINT, CScrollBar*), LowW<UINT>, HighW<UINT>, ControlL<CScrollBar>>;
 using OnDrawItemHandler = WindowHandler<void(int, LPDRAWITEMSTRUCT), W<int>, L<LPDRAWITEMSTRUCT>>;
 using OnMeasureItemHandler = WindowHandler<void(int, LPMEASUREITEMSTRUCT), W<int>, L<LPMEASUREITEMSTRUCT>>;
 using OnCompareItemHandler = WindowHandler<int(int, LPCOMPAREITEMSTRUCT), W<int>, L<LPCOMPAREITEMSTRUCT>>;
 using OnDeleteItemHandler = WindowHandler<void(int, LPDELETEITEMSTRUCT), W<int>, L<LPDELETEITEMSTRUCT>>;
-using OnCharToItemHandler = WindowHandler<int(UINT, CListBox*, UINT), LowW<UINT>, ControlL<CListBox>, HighW<UINT>>;
+using OnCharToItemHandler =
+    WindowHandler<int(UINT, CListBox*, UINT), LowW<UINT>, ControlL<CListBox>, HighW<UINT>>;
 using OnTimerHandler = WindowHandler<void(UINT_PTR), W<UINT_PTR>>;
 using OnDropFilesHandler = WindowHandler<void(HDROP), W<HDROP>>;
 using OnCopyDataHandler = WindowHandler<BOOL(CWnd*, COPYDATASTRUCT*), WndW, L<COPYDATASTRUCT*>>;
@@ -72,7 +75,8 @@ using OnSettingChangeHandler = WindowHandler<void(UINT, LPCTSTR), W<UINT>, L<LPC
 using OnWinIniChangeHandler = WindowHandler<void(LPCTSTR), L<LPCTSTR>>;
 using OnDevModeChangeHandler = WindowHandler<void(LPTSTR), L<LPTSTR>>;
 using OnThemeChangedHandler = WindowHandler<LRESULT()>;
-using OnAppCommandHandler = WindowHandler<void(CWnd*, UINT, UINT, UINT), WndW, AppCommand, AppCommandDevice, LowL<UINT>>;
+using OnAppCommandHandler =
+    WindowHandler<void(CWnd*, UINT, UINT, UINT), WndW, AppCommand, AppCommandDevice, LowL<UINT>>;
 using OnAskCbFormatNameHandler = WindowHandler<void(UINT, LPTSTR), W<UINT>, L<LPTSTR>>;
 using OnChangeCbChainHandler = WindowHandler<void(HWND, HWND), W<HWND>, L<HWND>>;
 using OnUIStateHandler = WindowHandler<void(UINT, UINT), LowW<UINT>, HighW<UINT>>;
@@ -111,7 +115,10 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 
 } // namespace afxdetail
 
-#define AFX_WM_(message, Kind, memberFxn) AFX_ENTRY_(message, 0, 0, 0, nullptr, afxdetail::Kind, memberFxn)
+#define AFX_MESSAGE_(message, Kind, memberFxn)                                                               \
+    AFX_ENTRY_(message, 0, 0, 0, nullptr, afxdetail::Kind, memberFxn)
+/// For a message whose handler has one name in every class.
+#define AFX_WM_(message, Kind, name) AFX_MESSAGE_(message, Kind, &ThisClass::name)
 
 // Windows: creation and destruction
 #define ON_WM_CREATE() AFX_WM_(WM_CREATE, OnCreateHandler, OnCreate)
@@ -127,7 +134,8 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_MOVING() AFX_WM_(WM_MOVING, OnMovingHandler, OnMoving)
 #define ON_WM_SIZE() AFX_WM_(WM_SIZE, OnSizeHandler, OnSize)
 #define ON_WM_SIZING() AFX_WM_(WM_SIZING, OnMovingHandler, OnSizing)
-#define ON_WM_WINDOWPOSCHANGING() AFX_WM_(WM_WINDOWPOSCHANGING, OnWindowPosChangingHandler, OnWindowPosChanging)
+#define ON_WM_WINDOWPOSCHANGING()                                                                            \
+    AFX_WM_(WM_WINDOWPOSCHANGING, OnWindowPosChangingHandler, OnWindowPosChanging)
 #define ON_WM_WINDOWPOSCHANGED() AFX_WM_(WM_WINDOWPOSCHANGED, OnWindowPosChangingHandler, OnWindowPosChanged)
 #define ON_WM_GETMINMAXINFO() AFX_WM_(WM_GETMINMAXINFO, OnGetMinMaxInfoHandler, OnGetMinMaxInfo)
 #define ON_WM_NCCALCSIZE() AFX_WM_(WM_NCCALCSIZE, OnNcCalcSizeHandler, OnNcCalcSize)
@@ -163,11 +171,13 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_PALETTEISCHANGING() AFX_WM_(WM_PALETTEISCHANGING, OnSetFocusHandler, OnPaletteIsChanging)
 #define ON_WM_ICONERASEBKGND() AFX_WM_(WM_ICONERASEBKGND, OnIconEraseBkgndHandler, OnIconEraseBkgnd)
 #define ON_WM_QUERYDRAGICON() AFX_WM_(WM_QUERYDRAGICON, OnQueryDragIconHandler, OnQueryDragIcon)
-#define ON_WM_DWMCOMPOSITIONCHANGED() AFX_WM_(WM_DWMCOMPOSITIONCHANGED, OnDestroyHandler, OnCompositionChanged)
-#define ON_WM_DWMNCRENDERINGCHANGED() AFX_WM_(WM_DWMNCRENDERINGCHANGED, OnEndSessionHandler, OnNcRenderingChanged)
-#define ON_WM_DWMCOLORIZATIONCOLORCHANGED()                                                                       \
+#define ON_WM_DWMCOMPOSITIONCHANGED()                                                                        \
+    AFX_WM_(WM_DWMCOMPOSITIONCHANGED, OnDestroyHandler, OnCompositionChanged)
+#define ON_WM_DWMNCRENDERINGCHANGED()                                                                        \
+    AFX_WM_(WM_DWMNCRENDERINGCHANGED, OnEndSessionHandler, OnNcRenderingChanged)
+#define ON_WM_DWMCOLORIZATIONCOLORCHANGED()                                                                  \
     AFX_WM_(WM_DWMCOLORIZATIONCOLORCHANGED, OnColorizationHandler, OnColorizationColorChanged)
-#define ON_WM_DWMWINDOWMAXIMIZEDCHANGE()                                                                          \
+#define ON_WM_DWMWINDOWMAXIMIZEDCHANGE()                                                                     \
     AFX_WM_(WM_DWMWINDOWMAXIMIZEDCHANGE, OnEndSessionHandler, OnWindowMaximizedChanged)
 
 // Mouse
@@ -207,7 +217,8 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_NCMOUSELEAVE() AFX_WM_(WM_NCMOUSELEAVE, OnDestroyHandler, OnNcMouseLeave)
 #define ON_WM_APPCOMMAND() AFX_WM_(WM_APPCOMMAND, OnAppCommandHandler, OnAppCommand)
 #define ON_WM_INPUT() AFX_WM_(WM_INPUT, OnRawInputHandler, OnRawInput)
-#define ON_WM_INPUT_DEVICE_CHANGE() AFX_WM_(WM_INPUT_DEVICE_CHANGE, OnInputDeviceChangeHandler, OnInputDeviceChange)
+#define ON_WM_INPUT_DEVICE_CHANGE()                                                                          \
+    AFX_WM_(WM_INPUT_DEVICE_CHANGE, OnInputDeviceChangeHandler, OnInputDeviceChange)
 
 // Keyboard
 #define ON_WM_KEYDOWN() AFX_WM_(WM_KEYDOWN, OnKeyDownHandler, OnKeyDown)
@@ -221,7 +232,8 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_WM_UNICHAR() AFX_WM_(WM_UNICHAR, OnKeyDownHandler, OnUniChar)
 #define ON_WM_HOTKEY() AFX_WM_(WM_HOTKEY, OnHotKeyHandler, OnHotKey)
 #define ON_WM_INPUTLANGCHANGE() AFX_WM_(WM_INPUTLANGCHANGE, OnTwoNumbersHandler, OnInputLangChange)
-#define ON_WM_INPUTLANGCHANGEREQUEST() AFX_WM_(WM_INPUTLANGCHANGEREQUEST, OnTwoNumbersHandler, OnInputLangChangeRequest)
+#define ON_WM_INPUTLANGCHANGEREQUEST()                                                                       \
+    AFX_WM_(WM_INPUTLANGCHANGEREQUEST, OnTwoNumbersHandler, OnInputLangChangeRequest)
 #define ON_WM_GETDLGCODE() AFX_WM_(WM_GETDLGCODE, OnGetDlgCodeHandler, OnGetDlgCode)
 #define ON_WM_HELPINFO() AFX_WM_(WM_HELPINFO, OnHelpInfoHandler, OnHelpInfo)
 
@@ -288,63 +300,76 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 // Messages of controls that come back to the control itself
 #define ON_WM_CTLCOLOR_REFLECT() AFX_WM_(WM_REFLECT_BASE + WM_CTLCOLOR, ReflectedCtlColorHandler, CtlColor)
 #define ON_WM_DRAWITEM_REFLECT() AFX_WM_(WM_REFLECT_BASE + WM_DRAWITEM, ReflectedDrawItemHandler, DrawItem)
-#define ON_WM_MEASUREITEM_REFLECT() AFX_WM_(WM_REFLECT_BASE + WM_MEASUREITEM, ReflectedMeasureItemHandler, MeasureItem)
-#define ON_WM_DELETEITEM_REFLECT() AFX_WM_(WM_REFLECT_BASE + WM_DELETEITEM, ReflectedDeleteItemHandler, DeleteItem)
-#define ON_WM_COMPAREITEM_REFLECT() AFX_WM_(WM_REFLECT_BASE + WM_COMPAREITEM, ReflectedCompareItemHandler, CompareItem)
-#define ON_WM_CHARTOITEM_REFLECT() AFX_WM_(WM_REFLECT_BASE + WM_CHARTOITEM, ReflectedCharToItemHandler, CharToItem)
-#define ON_WM_VKEYTOITEM_REFLECT() AFX_WM_(WM_REFLECT_BASE + WM_VKEYTOITEM, ReflectedCharToItemHandler, VKeyToItem)
+#define ON_WM_MEASUREITEM_REFLECT()                                                                          \
+    AFX_WM_(WM_REFLECT_BASE + WM_MEASUREITEM, ReflectedMeasureItemHandler, MeasureItem)
+#define ON_WM_DELETEITEM_REFLECT()                                                                           \
+    AFX_WM_(WM_REFLECT_BASE + WM_DELETEITEM, ReflectedDeleteItemHandler, DeleteItem)
+#define ON_WM_COMPAREITEM_REFLECT()                                                                          \
+    AFX_WM_(WM_REFLECT_BASE + WM_COMPAREITEM, ReflectedCompareItemHandler, CompareItem)
+#define ON_WM_CHARTOITEM_REFLECT()                                                                           \
+    AFX_WM_(WM_REFLECT_BASE + WM_CHARTOITEM, ReflectedCharToItemHandler, CharToItem)
+#define ON_WM_VKEYTOITEM_REFLECT()                                                                           \
+    AFX_WM_(WM_REFLECT_BASE + WM_VKEYTOITEM, ReflectedCharToItemHandler, VKeyToItem)
 #define ON_WM_HSCROLL_REFLECT() AFX_WM_(WM_REFLECT_BASE + WM_HSCROLL, ReflectedHScrollHandler, HScroll)
 #define ON_WM_VSCROLL_REFLECT() AFX_WM_(WM_REFLECT_BASE + WM_VSCROLL, ReflectedHScrollHandler, VScroll)
-#define ON_WM_PARENTNOTIFY_REFLECT() AFX_WM_(WM_REFLECT_BASE + WM_PARENTNOTIFY, ReflectedParentNotifyHandler, ParentNotify)
+#define ON_WM_PARENTNOTIFY_REFLECT()                                                                         \
+    AFX_WM_(WM_REFLECT_BASE + WM_PARENTNOTIFY, ReflectedParentNotifyHandler, ParentNotify)
 
 // Messages by number
-#define ON_MESSAGE(message, memberFxn) AFX_WM_(message, MessageHandler, memberFxn)
-#define ON_MESSAGE_VOID(message, memberFxn) AFX_WM_(message, OnDestroyHandler, memberFxn)
+#define ON_MESSAGE(message, memberFxn) AFX_MESSAGE_(message, MessageHandler, memberFxn)
+#define ON_MESSAGE_VOID(message, memberFxn) AFX_MESSAGE_(message, OnDestroyHandler, memberFxn)
 /// `variable` is a UINT that RegisterWindowMessage has filled, or will.
-#define ON_REGISTERED_MESSAGE(variable, memberFxn)                                                                \
+#define ON_REGISTERED_MESSAGE(variable, memberFxn)                                                           \
     AFX_ENTRY_(0xC000, 0, 0, 0, &variable, afxdetail::MessageHandler, memberFxn)
-#define ON_THREAD_MESSAGE(message, memberFxn) AFX_WM_(message, ThreadMessageHandler, memberFxn)
-#define ON_REGISTERED_THREAD_MESSAGE(variable, memberFxn)                                                         \
+#define ON_THREAD_MESSAGE(message, memberFxn) AFX_MESSAGE_(message, ThreadMessageHandler, memberFxn)
+#define ON_REGISTERED_THREAD_MESSAGE(variable, memberFxn)                                                    \
     AFX_ENTRY_(0xC000, 0, 0, 0, &variable, afxdetail::ThreadMessageHandler, memberFxn)
 
 // Commands
-#define AFX_COMMAND_(code, first, last, Kind, memberFxn)                                                          \
+#define AFX_COMMAND_(code, first, last, Kind, memberFxn)                                                     \
     AFX_ENTRY_(WM_COMMAND, code, first, last, nullptr, afxdetail::Kind, memberFxn)
 #define ON_COMMAND(id, memberFxn) AFX_COMMAND_(CN_COMMAND, id, id, CommandHandler, memberFxn)
-#define ON_COMMAND_RANGE(id, idLast, memberFxn) AFX_COMMAND_(CN_COMMAND, id, idLast, CommandRangeHandler, memberFxn)
+#define ON_COMMAND_RANGE(id, idLast, memberFxn)                                                              \
+    AFX_COMMAND_(CN_COMMAND, id, idLast, CommandRangeHandler, memberFxn)
 /// The handler answers FALSE to let the command go on to other targets.
 #define ON_COMMAND_EX(id, memberFxn) AFX_COMMAND_(CN_COMMAND, id, id, CommandExHandler, memberFxn)
-#define ON_COMMAND_EX_RANGE(id, idLast, memberFxn) AFX_COMMAND_(CN_COMMAND, id, idLast, CommandExHandler, memberFxn)
+#define ON_COMMAND_EX_RANGE(id, idLast, memberFxn)                                                           \
+    AFX_COMMAND_(CN_COMMAND, id, idLast, CommandExHandler, memberFxn)
 #define ON_COMMAND_RANGE_EX ON_COMMAND_EX_RANGE
-#define ON_UPDATE_COMMAND_UI(id, memberFxn) AFX_COMMAND_(CN_UPDATE_COMMAND_UI, id, id, UpdateHandler, memberFxn)
-#define ON_UPDATE_COMMAND_UI_RANGE(id, idLast, memberFxn)                                                         \
+#define ON_UPDATE_COMMAND_UI(id, memberFxn)                                                                  \
+    AFX_COMMAND_(CN_UPDATE_COMMAND_UI, id, id, UpdateHandler, memberFxn)
+#define ON_UPDATE_COMMAND_UI_RANGE(id, idLast, memberFxn)                                                    \
     AFX_COMMAND_(CN_UPDATE_COMMAND_UI, id, idLast, UpdateHandler, memberFxn)
-#define ON_UPDATE_COMMAND_UI_REFLECT(memberFxn)                                                                   \
-    AFX_ENTRY_(WM_REFLECT_BASE + WM_COMMAND, CN_UPDATE_COMMAND_UI, 0, 0xFFFF, nullptr, afxdetail::UpdateHandler,  \
-               memberFxn)
+#define ON_UPDATE_COMMAND_UI_REFLECT(memberFxn)                                                              \
+    AFX_ENTRY_(WM_REFLECT_BASE + WM_COMMAND, CN_UPDATE_COMMAND_UI, 0, 0xFFFF, nullptr,                       \
+               afxdetail::UpdateHandler, memberFxn)
 
 // Notifications of standard controls
 #define ON_CONTROL(code, id, memberFxn) AFX_COMMAND_(code, id, id, CommandHandler, memberFxn)
-#define ON_CONTROL_RANGE(code, id, idLast, memberFxn) AFX_COMMAND_(code, id, idLast, CommandRangeHandler, memberFxn)
-#define ON_CONTROL_REFLECT(code, memberFxn)                                                                       \
+#define ON_CONTROL_RANGE(code, id, idLast, memberFxn)                                                        \
+    AFX_COMMAND_(code, id, idLast, CommandRangeHandler, memberFxn)
+#define ON_CONTROL_REFLECT(code, memberFxn)                                                                  \
     AFX_ENTRY_(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0xFFFF, nullptr, afxdetail::CommandHandler, memberFxn)
 /// The handler answers FALSE to let the parent have the notification too.
-#define ON_CONTROL_REFLECT_EX(code, memberFxn)                                                                    \
-    AFX_ENTRY_(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0xFFFF, nullptr, afxdetail::ReflectedControlExHandler,      \
+#define ON_CONTROL_REFLECT_EX(code, memberFxn)                                                               \
+    AFX_ENTRY_(WM_REFLECT_BASE + WM_COMMAND, code, 0, 0xFFFF, nullptr, afxdetail::ReflectedControlExHandler, \
                memberFxn)
 
 // Notifications of common controls
-#define AFX_NOTIFY_(code, first, last, Kind, memberFxn)                                                           \
+#define AFX_NOTIFY_(code, first, last, Kind, memberFxn)                                                      \
     AFX_ENTRY_(WM_NOTIFY, code, first, last, nullptr, afxdetail::Kind, memberFxn)
 #define ON_NOTIFY(code, id, memberFxn) AFX_NOTIFY_(code, id, id, NotifyHandler, memberFxn)
-#define ON_NOTIFY_RANGE(code, id, idLast, memberFxn) AFX_NOTIFY_(code, id, idLast, NotifyRangeHandler, memberFxn)
+#define ON_NOTIFY_RANGE(code, id, idLast, memberFxn)                                                         \
+    AFX_NOTIFY_(code, id, idLast, NotifyRangeHandler, memberFxn)
 #define ON_NOTIFY_EX(code, id, memberFxn) AFX_NOTIFY_(code, id, id, NotifyExHandler, memberFxn)
-#define ON_NOTIFY_EX_RANGE(code, id, idLast, memberFxn) AFX_NOTIFY_(code, id, idLast, NotifyExHandler, memberFxn)
-#define ON_NOTIFY_REFLECT(code, memberFxn)                                                                        \
+#define ON_NOTIFY_EX_RANGE(code, id, idLast, memberFxn)                                                      \
+    AFX_NOTIFY_(code, id, idLast, NotifyExHandler, memberFxn)
+#define ON_NOTIFY_REFLECT(code, memberFxn)                                                                   \
     AFX_ENTRY_(WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0xFFFF, nullptr, afxdetail::NotifyHandler, memberFxn)
 /// The handler answers FALSE to let the parent have the notification too.
-#define ON_NOTIFY_REFLECT_EX(code, memberFxn)                                                                     \
-    AFX_ENTRY_(WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0xFFFF, nullptr, afxdetail::ReflectedNotifyExHandler, memberFxn)
+#define ON_NOTIFY_REFLECT_EX(code, memberFxn)                                                                \
+    AFX_ENTRY_(WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0xFFFF, nullptr, afxdetail::ReflectedNotifyExHandler,   \
+               memberFxn)
 
 // Notifications by name
 #define ON_BN_CLICKED(id, memberFxn) ON_CONTROL(BN_CLICKED, id, memberFxn)

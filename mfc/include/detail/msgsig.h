@@ -129,7 +129,8 @@ struct ReflectedColourKind
     static UINT get(const Call& call) { return call.code; }
 };
 
-/// A window message's handler: `Signature` is its type without the class, `Arguments` where each argument stands.
+/// A window message's handler: `Signature` is its type without the class, `Arguments` where each argument
+/// stands.
 template <class Signature, class... Arguments>
 struct WindowHandler;
 
@@ -279,7 +280,15 @@ struct ReflectedNotifyExHandler
     }
 };
 
-/// The handler's address as AFX_CMDHANDLERINFO keeps it. Nobody calls it through that type.
+/// A handler as a member of the map's class. One of a base class converts, an overloaded one is chosen by its
+/// type, and no other type does.
+template <class Member>
+constexpr Member handler(std::type_identity_t<Member> handler)
+{
+    return handler;
+}
+
+/// The handler's address as AFX_CMDHANDLERINFO keeps it. It is never called through that type.
 template <class Member>
 AFX_PMSG stored(Member handler)
 {
@@ -289,17 +298,17 @@ AFX_PMSG stored(Member handler)
 
 } // namespace afxdetail
 
-/// The handler's address, converted to the one type it may have: another type does not compile.
-#define AFX_MEMBER_(Kind, memberFxn) static_cast<Kind::template Member<ThisClass>>(&ThisClass::memberFxn)
-
-/// One entry: the thunk for this handler, and its address for AFX_CMDHANDLERINFO.
-#define AFX_ENTRY_(message, code, first, last, registered, Kind, memberFxn)                                       \
-    {static_cast<UINT>(message),                                                                                  \
-     static_cast<UINT>(code),                                                                                     \
-     static_cast<UINT>(first),                                                                                    \
-     static_cast<UINT>(last),                                                                                     \
-     registered,                                                                                                  \
-     [](CCmdTarget* target, afxdetail::Call& call) -> BOOL {                                                      \
-         return Kind::call(static_cast<ThisClass*>(target), AFX_MEMBER_(Kind, memberFxn), call);                  \
-     },                                                                                                           \
-     afxdetail::stored(AFX_MEMBER_(Kind, memberFxn))},
+/// One entry: the thunk for this handler, and its address for AFX_CMDHANDLERINFO. `memberFxn` is
+/// `&Class::Handler`; g++ for Windows also takes the bare name of a member for its address, the form of older
+/// programs.
+#define AFX_ENTRY_(message, code, first, last, registered, Kind, memberFxn)                                  \
+    {static_cast<UINT>(message),                                                                             \
+     static_cast<UINT>(code),                                                                                \
+     static_cast<UINT>(first),                                                                               \
+     static_cast<UINT>(last),                                                                                \
+     registered,                                                                                             \
+     [](CCmdTarget* target, afxdetail::Call& call) -> BOOL {                                                 \
+         return Kind::call(static_cast<ThisClass*>(target),                                                  \
+                           afxdetail::handler<Kind::template Member<ThisClass>>(memberFxn), call);           \
+     },                                                                                                      \
+     afxdetail::stored(afxdetail::handler<Kind::template Member<ThisClass>>(memberFxn))},

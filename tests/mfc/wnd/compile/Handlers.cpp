@@ -22,8 +22,26 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
+class Deeper : public Window
+{
+public:
+    afx_msg void OnDeeper();
+};
+
+class Other : public CWnd
+{
+public:
+    afx_msg void OnOther();
+};
+
 BEGIN_MESSAGE_MAP(Window, CWnd)
-    ON_WM_SIZE()
-    ON_WM_ERASEBKGND()
-    ON_COMMAND(100, OnOpen)
+ON_WM_SIZE()
+ON_WM_ERASEBKGND()
+ON_COMMAND(100, &Window::OnOpen)
+#if defined(CASE_OfAnotherClass)
+ON_COMMAND(101, &Other::OnOther)
+#endif
+#if defined(CASE_OfADerivedClass)
+ON_COMMAND(101, &Deeper::OnDeeper)
+#endif
 END_MESSAGE_MAP()
