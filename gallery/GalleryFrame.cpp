@@ -1,8 +1,12 @@
 #include "GalleryFrame.h"
 
+#include "Resolution.h"
 #include "Screenshot.h"
 #include "resource.h"
 
+#include <ovoui/frame/Geometry.h>
+
+#include <algorithm>
 #include <initializer_list>
 #include <iterator>
 #include <utility>
@@ -10,7 +14,11 @@
 namespace
 {
 
-constexpr SIZE kFrameSize{940, 720};
+constexpr SIZE kPageSize{440, 260}; // dialog units; no page's template is larger
+constexpr int kFontSize = 8;        // points
+constexpr int kPointsPerInch = 72;
+
+// Pixels at 96 dots per inch.
 constexpr int kListWidth = 170;
 constexpr int kLogHeight = 104;
 constexpr int kLabelHeight = 16;
@@ -21,17 +29,18 @@ constexpr UINT kPoseDelay = 200; // milliseconds for the screen to show what was
 } // namespace
 
 BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
-    // pages
-    ON_NOTIFY(TVN_SELCHANGEDW, IDC_PAGE_LIST, OnPageChosen)
-    ON_COMMAND(ID_PAGE_NEXT, OnNextPage)
-    ON_COMMAND(ID_PAGE_PREVIOUS, OnPreviousPage)
-    ON_WM_SETFOCUS()
-    // log
-    ON_COMMAND(ID_LOG_CLEAR, OnLogClear)
-    ON_UPDATE_COMMAND_UI(ID_LOG_CLEAR, OnUpdateLogClear)
-    // pictures
-    ON_WM_ENTERIDLE()
-    ON_WM_TIMER()
+// pages
+ON_NOTIFY(TVN_SELCHANGEDW, IDC_PAGE_LIST, OnPageChosen)
+ON_COMMAND(ID_PAGE_NEXT, OnNextPage)
+ON_COMMAND(ID_PAGE_PREVIOUS, OnPreviousPage)
+ON_WM_SETFOCUS()
+ON_MESSAGE(WM_DPICHANGED, OnResolutionChanged)
+// log
+ON_COMMAND(ID_LOG_CLEAR, OnLogClear)
+ON_UPDATE_COMMAND_UI(ID_LOG_CLEAR, OnUpdateLogClear)
+// pictures
+ON_WM_ENTERIDLE()
+ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 GalleryFrame::GalleryFrame() = default;
@@ -42,34 +51,79 @@ GalleryFrame::~GalleryFrame() = default;
 
 BOOL GalleryFrame::PreCreateWindow(CREATESTRUCT& cs)
 {
-    cs.lpszClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW),
-                                       reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1),
-                                       AfxGetApp()->LoadIcon(IDR_MAIN_FRAME));
-    cs.cx = kFrameSize.cx;
-    cs.cy = kFrameSize.cy;
+    cs.lpszClass =
+        AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1),
+                            AfxGetApp()->LoadIcon(IDR_MAIN_FRAME));
     return CFrameWnd::PreCreateWindow(cs);
 }
 
 BOOL GalleryFrame::OnCreateClient(LPCREATESTRUCT, CCreateContext*)
 {
-    m_font.CreatePointFont(80, L"MS Shell Dlg 2");
     if (!createParts())
         return FALSE;
     static constexpr UINT kPanes[] = {ID_SEPARATOR, ID_INDICATOR_CAPS, ID_INDICATOR_NUM};
     m_statusBar.SetIndicators(kPanes, static_cast<int>(std::size(kPanes)));
-    for (CWnd* wnd : std::initializer_list<CWnd*>{&m_pageList, &m_logLabel, &m_log})
-        wnd->SetFont(&m_font);
+    useResolution();
+    makeRoomForPages();
     return TRUE;
 }
 
 bool GalleryFrame::createParts()
 {
     constexpr DWORD kLog = LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_VISIBLE | WS_CHILD;
-    return m_pageList.create(*this, IDC_PAGE_LIST) &&
-           m_header.create(*this, m_font) &&
+    return m_pageList.create(*this, IDC_PAGE_LIST) && m_header.create(*this) &&
            m_logLabel.Create(L"Notifica&tions:", WS_CHILD | WS_VISIBLE, CRect(), this) &&
            m_log.CWnd::CreateEx(WS_EX_CLIENTEDGE, L"LISTBOX", nullptr, kLog, CRect(), this, IDC_LOG) &&
            m_statusBar.Create(this);
+}
+
+// Fonts and images for the monitor that the window is on.
+void GalleryFrame::useResolution()
+{
+    LOGFONT face{};
+    face.lfHeight = -::MulDiv(kFontSize, dotsPerInch(m_hWnd), kPointsPerInch);
+    face.lfWeight = FW_NORMAL;
+    face.lfCharSet = DEFAULT_CHARSET;
+    ::lstrcpynW(face.lfFaceName, L"MS Shell Dlg 2", LF_FACESIZE);
+    auto font = std::make_unique<CFont>();
+    font->CreateFontIndirect(&face);
+    for (CWnd* wnd : std::initializer_list<CWnd*>{&m_pageList, &m_logLabel, &m_log})
+        wnd->SetFont(font.get());
+    m_font = std::move(font);
+    m_header.useFont(face);
+    m_pageList.loadImages();
+}
+
+// The window opens as large as the pages are, or as the monitor's work area is.
+void GalleryFrame::makeRoomForPages()
+{
+    CRect frame;
+    GetWindowRect(&frame);
+    const CSize room = places().page.Size();
+    const CSize wanted(dialogUnits(m_hWnd, *m_font, kPageSize));
+    const CRect work(GetWorkArea(frame));
+    frame.right = frame.left + std::min(frame.Width() + wanted.cx - room.cx, static_cast<LONG>(work.Width()));
+    frame.bottom =
+        frame.top + std::min(frame.Height() + wanted.cy - room.cy, static_cast<LONG>(work.Height()));
+    EnsureRectVisible(frame);
+    MoveWindow(&frame);
+}
+
+GalleryFrame::Places GalleryFrame::places()
+{
+    const int gap = scaled(m_hWnd, kGap);
+    CRect area;
+    RepositionBars(0, 0xFFFF, 0, reposQuery, &area);
+    area.DeflateRect(gap, gap);
+    Places places;
+    places.log = CRect(area.left, area.bottom - scaled(m_hWnd, kLogHeight), area.right, area.bottom);
+    places.label =
+        CRect(area.left, places.log.top - scaled(m_hWnd, kLabelHeight), area.right, places.log.top);
+    places.list = CRect(area.left, area.top, area.left + scaled(m_hWnd, kListWidth), places.label.top - gap);
+    const CRect right(places.list.right + gap, area.top, area.right, places.list.bottom);
+    places.header = CRect(right.left, right.top, right.right, right.top + m_header.height());
+    places.page = CRect(right.left, places.header.bottom, right.right, right.bottom);
+    return places;
 }
 
 void GalleryFrame::RecalcLayout(BOOL notify)
@@ -77,29 +131,39 @@ void GalleryFrame::RecalcLayout(BOOL notify)
     CFrameWnd::RecalcLayout(notify);
     if (!m_log.m_hWnd)
         return;
-    CRect area;
-    RepositionBars(0, 0xFFFF, 0, reposQuery, &area);
-    area.DeflateRect(kGap, kGap);
-    const CRect log(area.left, area.bottom - kLogHeight, area.right, area.bottom);
-    const CRect label(area.left, log.top - kLabelHeight, area.right, log.top);
-    const CRect list(area.left, area.top, area.left + kListWidth, label.top - kGap);
-    const CRect header(list.right + kGap, area.top, area.right, area.top + m_header.height());
-    m_log.MoveWindow(&log);
-    m_logLabel.MoveWindow(&label);
-    m_pageList.MoveWindow(&list);
-    m_header.MoveWindow(&header);
-    if (m_page)
-        m_page->MoveWindow(CRect(header.left, header.bottom, header.right, list.bottom));
+    const Places at = places();
+    m_log.MoveWindow(&at.log);
+    m_logLabel.MoveWindow(&at.label);
+    m_pageList.MoveWindow(&at.list);
+    m_header.MoveWindow(&at.header);
+    if (m_page && m_page->m_hWnd)
+        m_page->MoveWindow(&at.page);
 }
 
-// Tab and mnemonics reach the page list and the log as well as the page; Enter belongs to the page, whose default
-// button it presses.
+LRESULT GalleryFrame::OnResolutionChanged(WPARAM, LPARAM place)
+{
+    useResolution();
+    MoveWindow(reinterpret_cast<const RECT*>(place));
+    if (m_entry)
+        openPage(*m_entry);
+    return 0;
+}
+
+// Tab and mnemonics reach the page list and the log as well as the page; Enter belongs to the page, whose
+// default button it presses.
 BOOL GalleryFrame::PreTranslateMessage(MSG* message)
 {
+    if (!IsWindowEnabled())
+        return FALSE; // the keys belong to the modal box that is open
     if (CFrameWnd::PreTranslateMessage(message))
         return TRUE;
+    const HWND self = m_hWnd;
     const bool forPage = message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
-    return forPage ? m_page && m_page->IsDialogMessage(message) : IsDialogMessage(message);
+    const BOOL taken = forPage ? m_page && m_page->IsDialogMessage(message) : IsDialogMessage(message);
+    // What the key led to may have closed the gallery.
+    if (taken && ::IsWindow(self) && m_page)
+        m_page->revealFocus();
+    return taken;
 }
 
 // Pages
@@ -107,7 +171,8 @@ BOOL GalleryFrame::PreTranslateMessage(MSG* message)
 void GalleryFrame::openPage(const PageEntry& entry)
 {
     m_entry = &entry;
-    m_page.reset();
+    if (m_page)
+        m_page->DestroyWindow(); // a handler under way keeps the object itself
     m_page = entry.make();
     m_page->open(*this, [this](const std::wstring& line) { logLine(line); });
     // Behind the list, so that Tab goes from the list to the page and on to the log.
@@ -122,7 +187,8 @@ void GalleryFrame::openPage(const PageEntry& entry)
 void GalleryFrame::OnPageChosen(NMHDR* header, LRESULT* result)
 {
     *result = 0;
-    const PageEntry* const entry = m_pageList.pageAt(reinterpret_cast<const NMTREEVIEWW*>(header)->itemNew.hItem);
+    const PageEntry* const entry =
+        m_pageList.pageAt(reinterpret_cast<const NMTREEVIEWW*>(header)->itemNew.hItem);
     if (entry && entry != m_entry)
         openPage(*entry);
 }

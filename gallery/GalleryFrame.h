@@ -42,20 +42,34 @@ protected:
     afx_msg void OnLogClear();
     afx_msg void OnUpdateLogClear(CCmdUI* ui);
     afx_msg void OnSetFocus(CWnd* old);
+    afx_msg LRESULT OnResolutionChanged(WPARAM dots, LPARAM place);
     DECLARE_MESSAGE_MAP()
 
 private:
+    /// Where the parts go, in client pixels.
+    struct Places
+    {
+        CRect list;
+        CRect header;
+        CRect page;
+        CRect label;
+        CRect log;
+    };
+
     bool createParts();
+    void useResolution();
+    void makeRoomForPages();
+    Places places();
     void stepPage(int step);
     void settle();
 
-    CFont m_font; // first, since the windows below use it
+    std::unique_ptr<CFont> m_font; // first, since the windows below use it
     PageTree m_pageList;
     PageHeader m_header;
     CStatic m_logLabel;
     CListBox m_log;
     CStatusBar m_statusBar;
-    std::unique_ptr<GalleryPage> m_page;
+    std::shared_ptr<GalleryPage> m_page;
     const PageEntry* m_entry = nullptr;
     HWND m_posing = nullptr; ///< the modal box whose picture is due
     std::wstring m_posePath; ///< where the picture of the next modal box goes; empty when none is wanted

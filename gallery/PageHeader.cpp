@@ -1,8 +1,11 @@
 #include "PageHeader.h"
 
+#include "Resolution.h"
+
 namespace
 {
 
+// Pixels at 96 dots per inch.
 constexpr int kMargin = 10;
 constexpr int kGap = 2;
 
@@ -18,26 +21,32 @@ int lineHeight(CDC& dc, CFont& font)
 } // namespace
 
 BEGIN_MESSAGE_MAP(PageHeader, CWnd)
-    ON_WM_PAINT()
+ON_WM_PAINT()
 END_MESSAGE_MAP()
 
-bool PageHeader::create(CWnd& parent, CFont& font)
+bool PageHeader::create(CWnd& parent)
 {
-    const LPCTSTR cls =
-        AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW), ::GetSysColorBrush(COLOR_WINDOW));
-    if (!CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE, CRect(), &parent, 0))
-        return false;
-    m_font = &font;
-    LOGFONT face{};
-    font.GetLogFont(&face);
+    const LPCTSTR cls = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW),
+                                            ::GetSysColorBrush(COLOR_WINDOW));
+    return CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE, CRect(), &parent, 0) != FALSE;
+}
+
+void PageHeader::useFont(const LOGFONT& font)
+{
+    m_font.DeleteObject();
+    m_font.CreateFontIndirect(&font);
+    LOGFONT face = font;
     face.lfHeight = face.lfHeight * 3 / 2;
     face.lfWeight = FW_BOLD;
+    m_titleFont.DeleteObject();
     m_titleFont.CreateFontIndirect(&face);
 
     CClientDC dc(this);
     m_titleHeight = lineHeight(dc, m_titleFont);
-    m_height = kMargin + m_titleHeight + kGap + lineHeight(dc, font) + kMargin;
-    return true;
+    m_margin = scaled(m_hWnd, kMargin);
+    m_gap = scaled(m_hWnd, kGap);
+    m_height = m_margin + m_titleHeight + m_gap + lineHeight(dc, m_font) + m_margin;
+    Invalidate();
 }
 
 void PageHeader::show(const wchar_t* title, const wchar_t* summary)
@@ -54,13 +63,13 @@ void PageHeader::OnPaint()
     GetClientRect(&place);
     dc.FillSolidRect(place.left, place.bottom - 1, place.Width(), 1, ::GetSysColor(COLOR_BTNSHADOW));
 
-    place.DeflateRect(kMargin, kMargin);
+    place.DeflateRect(m_margin, m_margin);
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
     CFont* const old = dc.SelectObject(&m_titleFont);
     dc.DrawText(m_title, -1, &place, DT_SINGLELINE | DT_NOPREFIX);
-    dc.SelectObject(m_font);
-    place.top += m_titleHeight + kGap;
+    dc.SelectObject(&m_font);
+    place.top += m_titleHeight + m_gap;
     dc.DrawText(m_summary, -1, &place, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
     dc.SelectObject(old);
 }

@@ -6,13 +6,15 @@
 class PageHeader : public CWnd
 {
 public:
-    /// `font` must live as long as this window.
-    bool create(CWnd& parent, CFont& font);
+    bool create(CWnd& parent);
+
+    /// Takes the fonts for the resolution of the monitor that the window is on.
+    void useFont(const LOGFONT& font);
 
     /// The texts must live as long as they are shown.
     void show(const wchar_t* title, const wchar_t* summary);
 
-    /// In pixels, for the font given.
+    /// In pixels, for the font in use.
     int height() const { return m_height; }
 
 protected:
@@ -20,9 +22,11 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CFont* m_font = nullptr; ///< of the window around
+    CFont m_font;
     CFont m_titleFont;
     int m_height = 0;
+    int m_margin = 0;
+    int m_gap = 0;
     int m_titleHeight = 0;
     const wchar_t* m_title = L"";
     const wchar_t* m_summary = L"";

@@ -10,9 +10,9 @@ namespace
 {
 
 template <class Page>
-std::unique_ptr<GalleryPage> make()
+std::shared_ptr<GalleryPage> make()
 {
-    return std::make_unique<Page>();
+    return std::make_shared<Page>();
 }
 
 } // namespace
@@ -24,7 +24,8 @@ const std::vector<PageEntry>& pageTable()
          L"OVOMessageBox: more buttons and icons than the system's, and a place that it remembers.",
          &make<MessageBoxPage>},
         {L"geometry", L"Geometry and keys",
-         L"GetWorkArea and EnsureRectVisible keep rectangles on the screen; PreTranslateTabControl pages by keyboard.",
+         L"GetWorkArea and EnsureRectVisible keep rectangles on the screen; PreTranslateTabControl pages by "
+         L"keyboard.",
          &make<GeometryPage>},
         {L"themes", L"Themes", L"CThemeData: colours and button backgrounds, with visual styles or without.",
          &make<ThemesPage>},

@@ -12,7 +12,7 @@ struct PageEntry
     const wchar_t* name;    ///< on the command line and in file names
     const wchar_t* title;   ///< in the list and above the page
     const wchar_t* summary; ///< one sentence below the title
-    std::unique_ptr<GalleryPage> (*make)();
+    std::shared_ptr<GalleryPage> (*make)();
 };
 
 const std::vector<PageEntry>& pageTable();

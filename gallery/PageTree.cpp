@@ -1,6 +1,9 @@
 #include "PageTree.h"
 
+#include "ImageStrip.h"
 #include "resource.h"
+
+#include <utility>
 
 namespace
 {
@@ -25,7 +28,7 @@ private:
     const PageEntry& m_page;
 };
 
-const CSize kImage(16, 16);
+constexpr ImageStrip kStrip{IDB_PAGES_16, IDB_PAGES_24, IDB_PAGES_32};
 
 } // namespace
 
@@ -39,12 +42,17 @@ bool PageTree::create(CWnd& parent, UINT id)
         TVS_SHOWSELALWAYS | TVS_FULLROWSELECT | TVS_INFOTIP | WS_CHILD | WS_VISIBLE | WS_TABSTOP;
     if (!CreateEx(WS_EX_CLIENTEDGE, kStyle, CRect(), &parent, id))
         return false;
-    m_images.Create(kImage.cx, kImage.cy, 1);
-    m_images.AddBitmap(IDB_PAGES, false, -1, kImage, kImage, nullptr, nullptr);
-    SetImageList(m_images.ImageList(), TVSIL_NORMAL);
+    loadImages();
     for (const PageEntry& page : pageTable())
         (new PageNode(page))->insert(*this, TVI_ROOT, TVI_LAST);
     return true;
+}
+
+void PageTree::loadImages()
+{
+    const auto shownUntilNow = std::exchange(m_images, std::make_unique<CAlphaImageList>());
+    createImages(*m_images, kStrip, m_hWnd);
+    SetImageList(m_images->ImageList(), TVSIL_NORMAL);
 }
 
 void PageTree::show(const PageEntry& page)

@@ -6,6 +6,8 @@
 #include <ovoui/images/AlphaImageList.h>
 #include <ovoui/tree/MultiTreeCtrl.h>
 
+#include <memory>
+
 class PageTree : public MultiTreeCtrl
 {
 public:
@@ -14,6 +16,9 @@ public:
 
     /// Creates the window with an item for every page of the table.
     bool create(CWnd& parent, UINT id);
+
+    /// Loads the images for the resolution of the monitor that the tree is on.
+    void loadImages();
 
     /// Marks a page.
     void show(const PageEntry& page);
@@ -24,5 +29,5 @@ public:
     bool isCommandDisabled(unsigned id) override;
 
 private:
-    CAlphaImageList m_images;
+    std::unique_ptr<CAlphaImageList> m_images; ///< shown by the tree until others are loaded
 };

@@ -1,5 +1,6 @@
 #include "ProjectPane.h"
 
+#include "ImageStrip.h"
 #include "NotificationNames.h"
 #include "ProjectFolder.h"
 #include "ProjectNode.h"
@@ -8,7 +9,7 @@
 namespace
 {
 
-constexpr int kImageSize = 16;
+constexpr ImageStrip kStrip{IDB_PROJECT_16, IDB_PROJECT_24, IDB_PROJECT_32};
 constexpr DWORD kTreeStyle = TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_EDITLABELS |
                              TVS_SHOWSELALWAYS | TVS_INFOTIP | WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 
@@ -18,6 +19,7 @@ BEGIN_MESSAGE_MAP(ProjectPane, CWnd)
 ON_NOTIFY(TVN_BEGINDRAGW, IDC_PROJECT_TREE, OnBeginDrag)
 ON_NOTIFY(TVN_BEGINRDRAGW, IDC_PROJECT_TREE, OnBeginDrag)
 ON_WM_SETFOCUS()
+ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 ProjectPane::ProjectPane(ProjectItem::Pointer root)
@@ -27,20 +29,17 @@ ProjectPane::ProjectPane(ProjectItem::Pointer root)
 
 ProjectPane::~ProjectPane() = default;
 
-bool ProjectPane::create(CWnd& parent, const CRect& place, UINT id, ProjectTree::Log log, DWORD extendedStyle)
+bool ProjectPane::create(CWnd& parent, ProjectTree::Log log)
 {
     const LPCTSTR windowClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
-    if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, place,
-                  &parent, id))
+    if (!CreateEx(WS_EX_CONTROLPARENT, windowClass, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(),
+                  &parent, 0))
         return false;
-    const CRect all(0, 0, place.Width(), place.Height());
-    if (!m_tree.CreateEx(WS_EX_CLIENTEDGE | extendedStyle, kTreeStyle, all, this, IDC_PROJECT_TREE))
+    if (!m_tree.CreateEx(WS_EX_CLIENTEDGE, kTreeStyle, CRect(), this, IDC_PROJECT_TREE))
         return false;
     m_log = log;
     m_tree.setLog(std::move(log));
-    m_images.Create(kImageSize, kImageSize, 8);
-    m_images.AddBitmap(IDB_PROJECT, false, -1, CSize(kImageSize, kImageSize), CSize(kImageSize, kImageSize),
-                       nullptr, nullptr);
+    createImages(m_images, kStrip, m_hWnd);
     m_tree.SetImageList(m_images.ImageList(), TVSIL_NORMAL);
     m_tree.SetFont(parent.GetFont());
     for (const ProjectItem::Pointer& item : m_root->items)
@@ -75,4 +74,10 @@ void ProjectPane::OnBeginDrag(NMHDR*, LRESULT* result)
 void ProjectPane::OnSetFocus(CWnd*)
 {
     m_tree.SetFocus();
+}
+
+void ProjectPane::OnSize(UINT, int width, int height)
+{
+    if (m_tree.m_hWnd)
+        m_tree.MoveWindow(0, 0, width, height);
 }

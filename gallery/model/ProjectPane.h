@@ -12,8 +12,7 @@ public:
     explicit ProjectPane(ProjectItem::Pointer root);
     ~ProjectPane() override;
 
-    /// Fills `place` of the parent with the tree. `extendedStyle` may hold WS_EX_LAYOUTRTL.
-    bool create(CWnd& parent, const CRect& place, UINT id, ProjectTree::Log log, DWORD extendedStyle = 0);
+    bool create(CWnd& parent, ProjectTree::Log log);
 
     ProjectTree& tree() { return m_tree; }
 
@@ -27,6 +26,7 @@ protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     afx_msg void OnBeginDrag(NMHDR* header, LRESULT* result);
     afx_msg void OnSetFocus(CWnd* old);
+    afx_msg void OnSize(UINT type, int width, int height);
     DECLARE_MESSAGE_MAP()
 
 private:

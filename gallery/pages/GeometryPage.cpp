@@ -6,7 +6,7 @@
 #include <ovoui/frame/TabKeys.h>
 
 BEGIN_MESSAGE_MAP(GeometryPage, GalleryPage)
-    ON_NOTIFY(TCN_SELCHANGE, IDC_TABS, OnTabChanged)
+ON_NOTIFY(TCN_SELCHANGE, IDC_TABS, OnTabChanged)
 END_MESSAGE_MAP()
 
 namespace
@@ -42,22 +42,26 @@ void GeometryPage::DoDataExchange(CDataExchange* exchange)
 BOOL GeometryPage::OnInitDialog()
 {
     GalleryPage::OnInitDialog();
-    CRect place;
-    GetDlgItem(IDC_MAP)->GetWindowRect(&place);
-    ScreenToClient(&place);
-    m_map.create(*this, place, [this](const CRect& rect) { showPlace(rect); });
+    m_map.create(*this, [this](const CRect& rect) { showPlace(rect); });
+    replace(IDC_MAP, m_map);
     showPlace(m_map.rectangle());
 
     int index = 0;
     for (const wchar_t* title : {L"Oak", L"Elm", L"Ash", L"Fir"})
         m_tabs.InsertItem(index++, title);
     showTab();
+    stretch(IDC_MAP, {.growX = 100, .growY = 100});
+    stretch(IDC_MAP_TEXT, {.moveX = 100});
+    stretch(IDC_TABS_LABEL, {.moveY = 100});
+    stretch(IDC_TABS, {.moveY = 100, .growX = 100});
+    stretch(IDC_TAB_TEXT, {.moveX = 100, .moveY = 100});
     return FALSE;
 }
 
 void GeometryPage::showPlace(const CRect& rect)
 {
-    SetDlgItemText(IDC_MAP_TEXT, asText(L"Rectangle", rect) + L"\n" + asText(L"Work area", GetWorkArea(rect)));
+    SetDlgItemText(IDC_MAP_TEXT,
+                   asText(L"Rectangle", rect) + L"\n" + asText(L"Work area", GetWorkArea(rect)));
 }
 
 void GeometryPage::showTab()

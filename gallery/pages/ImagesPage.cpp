@@ -1,11 +1,13 @@
 #include "ImagesPage.h"
 
+#include "Resolution.h"
 #include "resource.h"
 
 #include <ovoui/frame/ThemeData.h>
 
 #include <ovouires/resource.h>
 
+#include <iterator>
 #include <string>
 
 BEGIN_MESSAGE_MAP(ImageSamples, CWnd)
@@ -16,19 +18,18 @@ namespace
 {
 
 constexpr int kImages = 12;
+
+// Pixels at 96 dots per inch.
 constexpr int kLabel = 100;
 constexpr int kGap = 8;
 constexpr int kSizes[] = {16, 24, 32};
+constexpr int kButton = 16;
+
 constexpr UINT kStrips[] = {IDB_TOOLBAR_16, IDB_TOOLBAR_24, IDB_TOOLBAR_32};
 
+constexpr int kDrawn = 16; // pixels whatever the resolution: the example is to be seen pixel by pixel
 constexpr int kScaled = 24;
 constexpr int kZoom = 3;
-
-void label(CDC& dc, const wchar_t* text, int top, int height)
-{
-    CRect place(0, top, kLabel, top + height);
-    dc.DrawText(text, -1, &place, DT_SINGLELINE | DT_VCENTER);
-}
 
 void drawStrip(CDC& dc, CAlphaImageList& images, int left, int top, int size, int count)
 {
@@ -37,7 +38,7 @@ void drawStrip(CDC& dc, CAlphaImageList& images, int left, int top, int size, in
 }
 
 /// One image with every pixel as a square.
-void drawZoomed(CDC& dc, CAlphaImageList& images, int image, CPoint place)
+void drawZoomed(CDC& dc, CAlphaImageList& images, int image, CPoint place, int side)
 {
     CDC memory;
     memory.CreateCompatibleDC(&dc);
@@ -47,8 +48,7 @@ void drawZoomed(CDC& dc, CAlphaImageList& images, int image, CPoint place)
     memory.FillSolidRect(0, 0, kScaled, kScaled, ::GetSysColor(COLOR_WINDOW));
     images.ImageList()->Draw(&memory, image, CPoint(0, 0), ILD_NORMAL);
     dc.SetStretchBltMode(COLORONCOLOR);
-    dc.StretchBlt(place.x, place.y, kScaled * kZoom, kScaled * kZoom, &memory, 0, 0, kScaled, kScaled,
-                  SRCCOPY);
+    dc.StretchBlt(place.x, place.y, side, side, &memory, 0, 0, kScaled, kScaled, SRCCOPY);
     memory.SelectObject(old);
 }
 
@@ -61,17 +61,36 @@ void fill(CAlphaImageList& images, UINT strip, int from, int to, bool sharpen)
     images.AddBitmap(strip, true, -1, CSize(from, from), CSize(to, to), nullptr, nullptr);
 }
 
+struct ButtonImages
+{
+    int size;   ///< in pixels
+    UINT first; ///< the others follow
+};
+
+constexpr UINT kButtonImages = 6;
+
+/// A button does not scale its image: the largest of those drawn that is not larger than wanted.
+ButtonImages imagesForButtons(int size)
+{
+    constexpr ButtonImages kDrawn[] = {
+        {32, IDB_ADD_32}, {24, IDB_ADD_24}, {20, IDB_ADD_20}, {16, IDB_ADD_16}};
+    for (const ButtonImages& images : kDrawn)
+        if (images.size <= size)
+            return images;
+    return kDrawn[std::size(kDrawn) - 1];
+}
+
 } // namespace
 
-bool ImageSamples::create(CWnd& parent, const CRect& place)
+bool ImageSamples::create(CWnd& parent)
 {
     for (std::size_t i = 0; i < m_sizes.size(); ++i)
-        fill(m_sizes[i], kStrips[i], kSizes[i], kSizes[i], true);
-    fill(m_soft, IDB_TOOLBAR_16, 16, kScaled, false);
-    fill(m_sharp, IDB_TOOLBAR_16, 16, kScaled, true);
+        fill(m_sizes[i], kStrips[i], kSizes[i], scaled(parent, kSizes[i]), true);
+    fill(m_soft, IDB_TOOLBAR_16, kDrawn, kScaled, false);
+    fill(m_sharp, IDB_TOOLBAR_16, kDrawn, kScaled, true);
     const LPCTSTR cls = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW),
                                             reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
-    return CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE, place, &parent, 1) != FALSE;
+    return CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE, CRect(), &parent, 1) != FALSE;
 }
 
 void ImageSamples::OnPaint()
@@ -85,13 +104,19 @@ void ImageSamples::OnPaint()
     dc.SelectObject(old);
 }
 
+void ImageSamples::drawLabel(CDC& dc, const wchar_t* text, int top, int height)
+{
+    CRect place(0, top, scaled(m_hWnd, kLabel), top + height);
+    dc.DrawText(text, -1, &place, DT_SINGLELINE | DT_VCENTER);
+}
+
 int ImageSamples::drawSizes(CDC& dc, int top)
 {
     for (std::size_t i = 0; i < m_sizes.size(); ++i) {
-        const int size = kSizes[i];
-        label(dc, (std::to_wstring(size) + L" pixels").c_str(), top, size);
-        drawStrip(dc, m_sizes[i], kLabel, top, size, kImages);
-        top += size + kGap;
+        const int size = scaled(m_hWnd, kSizes[i]);
+        drawLabel(dc, (std::to_wstring(size) + L" pixels").c_str(), top, size);
+        drawStrip(dc, m_sizes[i], scaled(m_hWnd, kLabel), top, size, kImages);
+        top += size + scaled(m_hWnd, kGap);
     }
     return top;
 }
@@ -99,21 +124,22 @@ int ImageSamples::drawSizes(CDC& dc, int top)
 /// Each image soft and, beside it, sharpened.
 int ImageSamples::drawScaled(CDC& dc, int top)
 {
-    constexpr int kSide = kScaled * kZoom;
+    const int side = kScaled * scaled(m_hWnd, kZoom);
+    const int gap = scaled(m_hWnd, kGap);
     const struct
     {
         const wchar_t* text;
         int images[2];
     } rows[] = {{L"16 to 24 pixels,", {2, 3}}, {L"soft and sharp", {4, 9}}};
     for (const auto& [text, images] : rows) {
-        label(dc, text, top, kSide);
-        int left = kLabel;
+        drawLabel(dc, text, top, side);
+        int left = scaled(m_hWnd, kLabel);
         for (const int image : images) {
-            drawZoomed(dc, m_soft, image, CPoint(left, top));
-            drawZoomed(dc, m_sharp, image, CPoint(left + kSide + kGap / 2, top));
-            left += 2 * kSide + 3 * kGap;
+            drawZoomed(dc, m_soft, image, CPoint(left, top), side);
+            drawZoomed(dc, m_sharp, image, CPoint(left + side + gap / 2, top), side);
+            left += 2 * side + 3 * gap;
         }
-        top += kSide + kGap;
+        top += side + gap;
     }
     return top;
 }
@@ -121,21 +147,23 @@ int ImageSamples::drawScaled(CDC& dc, int top)
 int ImageSamples::drawStates(CDC& dc, int top)
 {
     CAlphaImageList& images = m_sizes[1];
-    const int size = kSizes[1];
-    label(dc, L"Normal", top, size);
-    drawStrip(dc, images, kLabel, top, size, kImages);
-    top += size + kGap;
-    label(dc, L"Hot, disabled", top, size);
+    const int size = scaled(m_hWnd, kSizes[1]);
+    const int left = scaled(m_hWnd, kLabel);
+    const int gap = scaled(m_hWnd, kGap);
+    drawLabel(dc, L"Normal", top, size);
+    drawStrip(dc, images, left, top, size, kImages);
+    top += size + gap;
+    drawLabel(dc, L"Hot, disabled", top, size);
     constexpr int kHalf = kImages / 2;
     for (int i = 0; i < kHalf; ++i)
-        ::ImageList_Draw(images.GetHotImageList(), i, dc, kLabel + i * (size + 2), top, ILD_NORMAL);
+        ::ImageList_Draw(images.GetHotImageList(), i, dc, left + i * (size + 2), top, ILD_NORMAL);
     for (int i = kHalf; i < kImages; ++i) {
         IMAGELISTDRAWPARAMS how{};
         how.cbSize = sizeof how;
         how.himl = images.GetImageList();
         how.i = i;
         how.hdcDst = dc;
-        how.x = kLabel + i * (size + 2);
+        how.x = left + i * (size + 2);
         how.y = top;
         how.rgbBk = CLR_NONE;
         how.rgbFg = CLR_NONE;
@@ -143,7 +171,7 @@ int ImageSamples::drawStates(CDC& dc, int top)
         how.fState = ILS_SATURATE;
         ::ImageList_DrawIndirect(&how);
     }
-    return top + size + kGap;
+    return top + size + gap;
 }
 
 // The page
@@ -158,17 +186,23 @@ ImagesPage::~ImagesPage() = default;
 BOOL ImagesPage::OnInitDialog()
 {
     GalleryPage::OnInitDialog();
-    CRect place;
-    GetDlgItem(IDC_IMAGES_SAMPLES)->GetWindowRect(&place);
-    ScreenToClient(&place);
-    m_samples.create(*this, place);
+    m_samples.create(*this);
+    replace(IDC_IMAGES_SAMPLES, m_samples);
+    loadButtons();
+    stretch(IDC_IMAGES_SAMPLES, {.growX = 100, .growY = 100});
+    stretch(IDC_IMAGES_BUTTONS_LABEL, {.moveY = 100});
+    for (int i = 0; i < static_cast<int>(m_buttons.size()); ++i)
+        stretch(IDC_IMAGES_BUTTON + i, {.moveY = 100});
+    return FALSE;
+}
 
+void ImagesPage::loadButtons()
+{
+    const auto [size, first] = imagesForButtons(scaled(kButton));
     const bool themed = CThemeData::getThemeData().IsAppThemed();
     for (std::size_t i = 0; i < m_buttons.size(); ++i) {
         m_buttons[i].SubclassDlgItem(IDC_IMAGES_BUTTON + static_cast<UINT>(i), this);
-        m_buttons[i].setSize(16);
-        const UINT image = static_cast<UINT>(i) % 6;
-        m_buttons[i].loadImage(themed ? IDB_ADD_16 + image : IDB_ADD_16_CLASSIC + image);
+        m_buttons[i].setSize(static_cast<unsigned>(size));
+        m_buttons[i].loadImage((themed ? first : IDB_ADD_16_CLASSIC) + static_cast<UINT>(i) % kButtonImages);
     }
-    return FALSE;
 }

@@ -12,18 +12,19 @@
 class ImageSamples : public CWnd
 {
 public:
-    bool create(CWnd& parent, const CRect& place);
+    bool create(CWnd& parent);
 
 protected:
     afx_msg void OnPaint();
     DECLARE_MESSAGE_MAP()
 
 private:
+    void drawLabel(CDC& dc, const wchar_t* text, int top, int height);
     int drawSizes(CDC& dc, int top);
     int drawScaled(CDC& dc, int top);
     int drawStates(CDC& dc, int top);
 
-    std::array<CAlphaImageList, 3> m_sizes; ///< 16, 24 and 32 pixels, drawn at these sizes
+    std::array<CAlphaImageList, 3> m_sizes; ///< strips of 16, 24 and 32 pixels, at the monitor's scale
     CAlphaImageList m_soft;                 ///< from 16 to 24 pixels, not sharpened
     CAlphaImageList m_sharp;                ///< the same, sharpened
 };
@@ -38,6 +39,8 @@ protected:
     BOOL OnInitDialog() override;
 
 private:
+    void loadButtons();
+
     ImageSamples m_samples;
     std::array<CAlphaImageButton, 7> m_buttons;
 };

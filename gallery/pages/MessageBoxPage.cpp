@@ -60,7 +60,8 @@ constexpr Choice kDefaults[] = {
     {L"Sixth", OVOMB_EXTDEFBUTTON | 0x500},
 };
 
-constexpr wchar_t kSaveText[] = L"The document \u201CSpring planting\u201D has been changed.\nSave the changes?";
+constexpr wchar_t kSaveText[] =
+    L"The document \u201CSpring planting\u201D has been changed.\nSave the changes?";
 constexpr wchar_t kReplaceText[] = L"A file of this name exists already.\nReplace it?";
 
 /// A box that is shown for its picture.
@@ -82,8 +83,10 @@ constexpr Pose kPoses[] = {
     {L"long-text", MB_OK | MB_ICONASTERISK, nullptr},
     {L"help-default", MB_YESNO | MB_HELP | MB_DEFBUTTON3, L"Start without the plug-in?"},
     {L"wide-line", MB_OKCANCEL | MB_ICONEXCLAMATION,
-     L"A message that is much longer than the screen is wide is broken between its words at two thirds of the "
-     L"width of the screen, so that the box stays readable and its buttons stay in reach of the pointer, however "
+     L"A message that is much longer than the screen is wide is broken between its words at two thirds of "
+     L"the "
+     L"width of the screen, so that the box stays readable and its buttons stay in reach of the pointer, "
+     L"however "
      L"much the program has to say to whoever sits before it."},
     {L"stop", MB_ABORTRETRYIGNORE, L"The file could not be read."},
 };
@@ -135,13 +138,20 @@ std::wstring answerName(int answer)
     }
 }
 
+/// What moves down when the text gets more room.
+constexpr int kBelowText[] = {
+    IDC_BOX_CAPTION_LABEL,    IDC_BOX_BUTTONS_LABEL, IDC_BOX_BUTTONS, IDC_BOX_ICON_LABEL,   IDC_BOX_ICON,
+    IDC_BOX_DEFAULT_LABEL,    IDC_BOX_DEFAULT,       IDC_BOX_HELP,    IDC_BOX_KEY_LABEL,    IDC_BOX_KEY,
+    IDC_BOX_HELP_ID_LABEL,    IDC_BOX_HELP_ID,       IDC_BOX_SHOW,    IDC_BOX_RESULT_LABEL, IDC_BOX_RESULT,
+    IDC_BOX_REMEMBERED_LABEL, IDC_BOX_REMEMBERED};
+
 const UINT s_helpMessage = ::RegisterWindowMessageW(L"commdlg_help");
 
 } // namespace
 
 BEGIN_MESSAGE_MAP(MessageBoxPage, GalleryPage)
-    ON_BN_CLICKED(IDC_BOX_SHOW, OnShow)
-    ON_REGISTERED_MESSAGE(s_helpMessage, OnHelpAsked)
+ON_BN_CLICKED(IDC_BOX_SHOW, OnShow)
+ON_REGISTERED_MESSAGE(s_helpMessage, OnHelpAsked)
 END_MESSAGE_MAP()
 
 MessageBoxPage::MessageBoxPage()
@@ -175,13 +185,17 @@ BOOL MessageBoxPage::OnInitDialog()
     fill(m_defaultCombo, kDefaults);
     m_buttonsCombo.SetCurSel(8);
     showRemembered();
+    stretch(IDC_BOX_TEXT, {.growX = 100, .growY = 100});
+    stretch(IDC_BOX_CAPTION, {.moveY = 100, .growX = 100});
+    for (const int id : kBelowText)
+        stretch(id, {.moveY = 100});
     return FALSE;
 }
 
 UINT MessageBoxPage::chosenType() const
 {
-    return flagsOf(m_buttonsCombo, kButtons) | flagsOf(m_iconCombo, kIcons) | flagsOf(m_defaultCombo, kDefaults) |
-           (m_help ? MB_HELP : 0);
+    return flagsOf(m_buttonsCombo, kButtons) | flagsOf(m_iconCombo, kIcons) |
+           flagsOf(m_defaultCombo, kDefaults) | (m_help ? MB_HELP : 0);
 }
 
 void MessageBoxPage::OnShow()
@@ -189,6 +203,8 @@ void MessageBoxPage::OnShow()
     if (!UpdateData())
         return;
     const int answer = OVOMessageBox(m_hWnd, m_text, m_caption, chosenType(), m_key, m_helpId);
+    if (!m_hWnd)
+        return; // another page was opened while the box was
     const std::wstring result = answerName(answer);
     SetDlgItemText(IDC_BOX_RESULT, result.c_str());
     log(L"OVOMessageBox answered " + result);

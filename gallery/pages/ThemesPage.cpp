@@ -1,18 +1,24 @@
 #include "ThemesPage.h"
 
+#include "Resolution.h"
 #include "resource.h"
 
 #include <ovoui/frame/ThemeData.h>
 
 BEGIN_MESSAGE_MAP(ThemeSamples, CWnd)
-    ON_WM_PAINT()
+ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 namespace
 {
 
+// Pixels at 96 dots per inch.
 constexpr int kRow = 40;
+constexpr int kHeight = 30;
 constexpr int kLabel = 120;
+constexpr int kSwatch = 90;
+constexpr int kButton = 60;
+constexpr int kGap = 6;
 
 struct State
 {
@@ -22,20 +28,17 @@ struct State
 };
 
 constexpr State kStates[] = {
-    {L"Normal", 1, 0},
-    {L"Hot", 2, DFCS_HOT},
-    {L"Pressed", 3, DFCS_PUSHED},
-    {L"Disabled", 4, DFCS_INACTIVE},
+    {L"Normal", 1, 0},  {L"Hot", 2, DFCS_HOT}, {L"Pressed", 3, DFCS_PUSHED}, {L"Disabled", 4, DFCS_INACTIVE},
     {L"Default", 5, 0},
 };
 
 } // namespace
 
-bool ThemeSamples::create(CWnd& parent, const CRect& place)
+bool ThemeSamples::create(CWnd& parent)
 {
     const LPCTSTR cls = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW),
                                             reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
-    if (!CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE, place, &parent, 1))
+    if (!CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE, CRect(), &parent, 1))
         return false;
     SetFont(parent.GetFont());
     return true;
@@ -48,18 +51,20 @@ void ThemeSamples::OnPaint()
     CFont* const old = dc.SelectObject(GetParent()->GetFont());
     dc.SetBkMode(TRANSPARENT);
 
+    const int height = scaled(m_hWnd, kHeight);
+    const int labelWidth = scaled(m_hWnd, kLabel);
     int top = 0;
     const auto label = [&](const wchar_t* text) {
-        CRect place(0, top, kLabel, top + kRow - 10);
+        CRect place(0, top, labelWidth, top + height);
         dc.DrawText(text, -1, &place, DT_SINGLELINE | DT_VCENTER);
     };
     const auto swatch = [&](const wchar_t* text, COLORREF colour) {
         label(text);
-        const CRect place(kLabel, top, kLabel + 90, top + kRow - 10);
+        const CRect place(labelWidth, top, labelWidth + scaled(m_hWnd, kSwatch), top + height);
         dc.FillSolidRect(&place, colour);
         dc.Draw3dRect(&place, ::GetSysColor(COLOR_BTNSHADOW), ::GetSysColor(COLOR_BTNSHADOW));
         dc.SetBkMode(TRANSPARENT);
-        top += kRow;
+        top += scaled(m_hWnd, kRow);
     };
     swatch(L"GroupboxText", themes.GroupboxText(m_hWnd));
     swatch(L"ButtonFace", themes.ButtonFace(m_hWnd));
@@ -68,14 +73,15 @@ void ThemeSamples::OnPaint()
     swatch(L"BackgroundBrush", brush.lbColor);
 
     label(L"drawBackground");
-    int left = kLabel;
+    int left = labelWidth;
     for (const State& state : kStates) {
-        CRect place(left, top, left + 60, top + kRow - 10);
-        const bool themed = themes.IsAppThemed() && themes.drawBackground(dc, &place, m_hWnd, L"Button", state.value);
+        CRect place(left, top, left + scaled(m_hWnd, kButton), top + height);
+        const bool themed =
+            themes.IsAppThemed() && themes.drawBackground(dc, &place, m_hWnd, L"Button", state.value);
         if (!themed)
             dc.DrawFrameControl(&place, DFC_BUTTON, DFCS_BUTTONPUSH | state.classic);
         dc.DrawText(state.label, -1, &place, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
-        left += 66;
+        left += scaled(m_hWnd, kButton + kGap);
     }
     dc.SelectObject(old);
 }
@@ -91,10 +97,9 @@ BOOL ThemesPage::OnInitDialog()
 {
     GalleryPage::OnInitDialog();
     SetDlgItemText(IDC_THEME_STATE, CThemeData::getThemeData().IsAppThemed() ? L"Visual styles are on."
-                                                                            : L"Visual styles are off.");
-    CRect place;
-    GetDlgItem(IDC_THEME_SAMPLES)->GetWindowRect(&place);
-    ScreenToClient(&place);
-    m_samples.create(*this, place);
+                                                                             : L"Visual styles are off.");
+    m_samples.create(*this);
+    replace(IDC_THEME_SAMPLES, m_samples);
+    stretch(IDC_THEME_SAMPLES, {.growX = 100, .growY = 100});
     return FALSE;
 }

@@ -7,7 +7,7 @@
 class ThemeSamples : public CWnd
 {
 public:
-    bool create(CWnd& parent, const CRect& place);
+    bool create(CWnd& parent);
 
 protected:
     afx_msg void OnPaint();

@@ -27,23 +27,19 @@ BOOL TreePage::OnInitDialog()
     m_text.takeDrops();
     createPane(m_project, IDC_TREE_PROJECT);
     createPane(m_archive, IDC_TREE_ARCHIVE);
+    stretch(IDC_TREE_PROJECT, {.growX = 50, .growY = 100});
+    stretch(IDC_TREE_ARCHIVE_LABEL, {.moveX = 50});
+    stretch(IDC_TREE_ARCHIVE, {.moveX = 50, .growX = 50, .growY = 100});
+    stretch(IDC_TREE_TEXT_LABEL, {.moveY = 100});
+    stretch(IDC_TREE_TEXT, {.moveY = 100, .growX = 100});
+    stretch(IDC_TREE_READ_ONLY, {.moveY = 100});
     return FALSE;
 }
 
-/// Puts a tree where the template has an empty control, which gives its number and its place in the order of
-/// Tab.
-bool TreePage::createPane(ProjectPane& pane, UINT placeholder, DWORD extendedStyle)
+void TreePage::createPane(ProjectPane& pane, int id)
 {
-    CWnd* const before = GetDlgItem(static_cast<int>(placeholder));
-    CRect place;
-    before->GetWindowRect(&place);
-    ScreenToClient(&place);
-    const auto logLine = [this](const std::wstring& line) { log(line); };
-    if (!pane.create(*this, place, placeholder, logLine, extendedStyle))
-        return false;
-    pane.SetWindowPos(before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    before->DestroyWindow();
-    return true;
+    if (pane.create(*this, [this](const std::wstring& line) { log(line); }))
+        replace(id, pane);
 }
 
 void TreePage::OnReadOnly()

@@ -21,7 +21,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool createPane(ProjectPane& pane, UINT placeholder, DWORD extendedStyle = 0);
+    void createPane(ProjectPane& pane, int id);
     void selectSome(ProjectTree& tree);
 
     ProjectPane m_project;

@@ -1,11 +1,13 @@
 #include "WorkAreaMap.h"
 
+#include "Resolution.h"
+
 #include <ovoui/frame/Geometry.h>
 
 namespace
 {
 
-constexpr int kMargin = 24; // around the work area, for what hangs out of it
+constexpr int kMargin = 24; // pixels at 96 dots per inch around the work area, for what hangs out of it
 
 CRect workArea()
 {
@@ -15,30 +17,34 @@ CRect workArea()
 } // namespace
 
 BEGIN_MESSAGE_MAP(WorkAreaMap, CWnd)
-    ON_WM_PAINT()
-    ON_WM_ERASEBKGND()
-    ON_WM_LBUTTONDOWN()
-    ON_WM_MOUSEMOVE()
-    ON_WM_LBUTTONUP()
+ON_WM_PAINT()
+ON_WM_ERASEBKGND()
+ON_WM_LBUTTONDOWN()
+ON_WM_MOUSEMOVE()
+ON_WM_LBUTTONUP()
 END_MESSAGE_MAP()
 
-bool WorkAreaMap::create(CWnd& parent, const CRect& place, std::function<void(const CRect&)> moved)
+bool WorkAreaMap::create(CWnd& parent, std::function<void(const CRect&)> moved)
 {
     m_moved = std::move(moved);
     const LPCTSTR cls = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
-    return CreateEx(WS_EX_CLIENTEDGE, cls, L"", WS_CHILD | WS_VISIBLE, place, &parent, 1) != FALSE;
+    return CreateEx(WS_EX_CLIENTEDGE, cls, L"", WS_CHILD | WS_VISIBLE, CRect(), &parent, 1) != FALSE;
 }
 
 CRect WorkAreaMap::onMap(const CRect& screen) const
 {
     CRect client;
     GetClientRect(&client);
-    client.DeflateRect(kMargin, kMargin);
+    const int margin = scaled(m_hWnd, kMargin);
+    client.DeflateRect(margin, margin);
     const CRect work = workArea();
     const double scale = std::min(static_cast<double>(client.Width()) / work.Width(),
                                   static_cast<double>(client.Height()) / work.Height());
-    const auto x = [&](int value) { return client.left + static_cast<int>((value - work.left) * scale); };
-    const auto y = [&](int value) { return client.top + static_cast<int>((value - work.top) * scale); };
+    // In the middle of the room there is.
+    const int left = client.left + static_cast<int>(client.Width() - work.Width() * scale) / 2;
+    const int top = client.top + static_cast<int>(client.Height() - work.Height() * scale) / 2;
+    const auto x = [&](int value) { return left + static_cast<int>((value - work.left) * scale); };
+    const auto y = [&](int value) { return top + static_cast<int>((value - work.top) * scale); };
     return CRect(x(screen.left), y(screen.top), x(screen.right), y(screen.bottom));
 }
 

@@ -9,8 +9,8 @@
 class WorkAreaMap : public CWnd
 {
 public:
-    /// Covers `place` (client pixels of the parent). `moved` is called whenever the rectangle has a new place.
-    bool create(CWnd& parent, const CRect& place, std::function<void(const CRect& rect)> moved);
+    /// `moved` is called whenever the rectangle has a new place.
+    bool create(CWnd& parent, std::function<void(const CRect& rect)> moved);
 
     /// The rectangle in screen pixels.
     CRect rectangle() const { return m_rect; }
