@@ -8,6 +8,14 @@ packages=(
   librsvg2-bin imagemagick python3                       # icons from drawings, scripts
 )
 
+trap 'echo; echo "Interrupted." >&2; exit 130' INT
+
+# fail WORDS: says in one line why this cannot go on.
+fail() {
+  echo "$(basename "$0"): $*" >&2
+  exit 1
+}
+
 missing_packages() {
   local package
   for package in "${packages[@]}"; do
@@ -18,12 +26,11 @@ missing_packages() {
 # Installs what is missing; without the right to, says what is needed and gives up.
 require_packages() {
   local missing
+  command -v dpkg-query >/dev/null || fail "needs the packages of Debian 12: ${packages[*]}"
   mapfile -t missing < <(missing_packages)
   [ ${#missing[@]} -eq 0 ] && return
-  if [ "$(id -u)" -ne 0 ]; then
-    echo "apt-get install --no-install-recommends ${missing[*]}"
-    exit 1
-  fi
+  [ "$(id -u)" -eq 0 ] ||
+    fail "packages are missing; as root run: apt-get install --no-install-recommends ${missing[*]}"
   # One installation at a time, whatever else is being set up on this machine.
   (
     flock 9
@@ -32,7 +39,22 @@ require_packages() {
     [ ${#missing[@]} -eq 0 ] && exit
     apt-get -o DPkg::Lock::Timeout=600 update &&
       apt-get -o DPkg::Lock::Timeout=600 install -y --no-install-recommends "${missing[@]}"
-  ) 9</etc/debian_version || { echo "The packages could not be installed: ${missing[*]}" >&2; exit 1; }
+  ) 9</etc/debian_version || fail "the packages could not be installed: ${missing[*]}"
+}
+
+# Everything that is made goes into the folder build.
+require_build_folder() {
+  mkdir -p "$root/build" 2>/dev/null
+  [ -d "$root/build" ] && [ -w "$root/build" ] ||
+    fail "the folder $root/build cannot be written to; use a checkout of your own"
+}
+
+# one_at_a_time FD FILE WHAT: holds the lock FILE on FD, and says so when it has to be waited for.
+one_at_a_time() {
+  { eval "exec $1>\"\$2\""; } 2>/dev/null || fail "$2 cannot be written to; another user has made it"
+  flock -n "$1" && return
+  echo "Waiting for another $3 in this checkout to end."
+  flock "$1"
 }
 
 # build PRESET [TARGET ...]: configures where that has not been done, and builds.
@@ -40,14 +62,14 @@ build() {
   local preset=$1
   shift
   (
-    flock 9
+    one_at_a_time 9 "$root/build/lock" build
     cd "$root" || exit 1
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" || exit 1
     cmake --build --preset "$preset" ${1:+--target "$@"}
-  ) 9>"$root/build/lock" || exit 1
+  ) 8>&- || exit
 }
 
 set_up() {
   require_packages
-  mkdir -p "$root/build"
+  require_build_folder
 }
