@@ -3,8 +3,9 @@
 #   ovo_test(NAME [NO_MANIFEST] SOURCES a.cpp ... LIBS target ... [RESOURCES x.rc ...] [TIMEOUT SECONDS])
 #       A GoogleTest program for Windows with the harness of tests/support, registered with CTest. It asks for the
 #       common controls 6 unless NO_MANIFEST is given.
-#   ovo_test_variant(NAME VARIANT [FILTER PATTERN] [THEMES OFF])
-#       Runs the program NAME once more, as NAME.VARIANT: a part of it, or with visual styles off.
+#   ovo_test_variant(NAME VARIANT [FILTER PATTERN] [THEMES OFF] [DPI N])
+#       Runs the program NAME once more, as NAME.VARIANT: a part of it, with visual styles off, or at a resolution of
+#       N dots per inch instead of 96.
 #   ovo_native_test(NAME SOURCES a.cpp ... LIBS target ...)
 #       A GoogleTest program for this machine under AddressSanitizer and UndefinedBehaviorSanitizer.
 #
@@ -21,7 +22,7 @@ function(_ovo_register name program timeout)
     set(report Z:${report}) # without a drive, GoogleTest takes it for a path below the working directory
   endif()
   set(arguments --gtest_output=xml:${report})
-  cmake_parse_arguments(arg "" "FILTER;THEMES" "" ${ARGN})
+  cmake_parse_arguments(arg "" "FILTER;THEMES;DPI" "" ${ARGN})
   if(arg_FILTER)
     list(APPEND arguments --gtest_filter=${arg_FILTER})
   endif()
@@ -31,7 +32,11 @@ function(_ovo_register name program timeout)
     if("${arg_THEMES}" STREQUAL "OFF")
       set(themes off)
     endif()
-    set(launcher ${OVO_UNDER_WINE} --home ${PROJECT_BINARY_DIR}/wine --themes ${themes} --apart)
+    set(dpi 96)
+    if(arg_DPI)
+      set(dpi ${arg_DPI})
+    endif()
+    set(launcher ${OVO_UNDER_WINE} --home ${PROJECT_BINARY_DIR}/wine --themes ${themes} --dpi ${dpi} --apart)
   endif()
   add_test(NAME ${name} COMMAND ${launcher} $<TARGET_FILE:${program}> ${arguments}
            WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
@@ -65,7 +70,7 @@ function(ovo_test_variant name variant)
   if(NOT WIN32)
     return()
   endif()
-  cmake_parse_arguments(arg "" "FILTER;THEMES;TIMEOUT" "" ${ARGN})
+  cmake_parse_arguments(arg "" "FILTER;THEMES;DPI;TIMEOUT" "" ${ARGN})
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 600)
   endif()
@@ -75,6 +80,9 @@ function(ovo_test_variant name variant)
   endif()
   if(DEFINED arg_THEMES)
     list(APPEND how THEMES ${arg_THEMES})
+  endif()
+  if(arg_DPI)
+    list(APPEND how DPI ${arg_DPI})
   endif()
   _ovo_register(${name}.${variant} ${name} ${arg_TIMEOUT} ${how})
 endfunction()
