@@ -55,9 +55,15 @@ TEST_F(GalleryModalBox, TheAnswerIsShownByThePage)
 
 TEST_F(GalleryModalBox, AnotherPageMayBeOpenedMeanwhile)
 {
-    whenBoxIsOpen().then([this] { scene.open(L"themes"); }).key(VK_ESCAPE).waitFor("the box to go", [] {
-        return shownDialog() == nullptr;
-    });
+    const std::weak_ptr<GalleryPage> page = scene.page().weak_from_this();
+    whenBoxIsOpen()
+        .then([&] {
+            scene.open(L"themes");
+            EXPECT_FALSE(page.expired()) << "its handler is under way";
+        })
+        .key(VK_ESCAPE)
+        .waitFor("the box to go", [] { return shownDialog() == nullptr; });
+    EXPECT_TRUE(page.expired());
     EXPECT_TRUE(shows<ThemesPage>());
     EXPECT_TRUE(scene.frame().IsWindowEnabled());
 }
