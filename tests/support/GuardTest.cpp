@@ -1,6 +1,7 @@
 // What happens to tests that hang or leave windows behind: tried in this program started once more.
 #include "Desktop.h"
 #include "RecordingParent.h"
+#include "Robot.h"
 #include "Snapshot.h"
 
 #include <gmock/gmock.h>
@@ -89,6 +90,14 @@ TEST(DISABLED_Wrong, Hangs)
         ::Sleep(INFINITE);
 }
 
+// Slower than the limit for a test, but never long at one step.
+TEST(DISABLED_Wrong, GoesOnSlowly)
+{
+    Robot robot;
+    const auto slowly = [] { ::Sleep(900); };
+    robot.then(slowly).then(slowly).then(slowly).then(slowly);
+}
+
 TEST(DISABLED_Wrong, LeavesAWindow)
 {
     auto* forgotten = new RecordingParent{{200, 100}, L"Forgotten"};
@@ -114,6 +123,13 @@ TEST(Watchdog, EndsAProgramThatHangsWithAPictureOfWhatItWasAt)
     EXPECT_THAT(contents(failureFile("DISABLED_Wrong.Hangs.txt")),
                 HasSubstr("The window of the hanging test"));
     EXPECT_THAT(contents(failureFile("DISABLED_Wrong.Hangs.png")), HasSubstr("PNG"));
+}
+
+TEST(Watchdog, LetsATestGoOnWhoseStoryGetsOn)
+{
+    const Outcome outcome = runAlone(L"DISABLED_Wrong.GoesOnSlowly");
+
+    EXPECT_EQ(outcome.exitCode, 0U) << outcome.output;
 }
 
 TEST(TestGuard, FailsATestThatLeavesAWindowOpen)

@@ -112,7 +112,7 @@ bool GuiThread::runUntil(const std::function<bool()>& done, Limit limit)
 void GuiThread::settle()
 {
     LONG idleCount = 0;
-    const auto end = std::chrono::steady_clock::now() + Limit{5000};
+    const auto end = std::chrono::steady_clock::now() + Limit{30000};
     for (bool busy = true; busy && std::chrono::steady_clock::now() < end;) {
         if (messageWaits())
             pump();

@@ -33,7 +33,7 @@ public:
 
     /// Runs the message loop, with idle processing, until `done` gives true. False when the limit passes
     /// first. A WM_QUIT on the way is taken out of the queue and remembered.
-    static bool runUntil(const std::function<bool()>& done, Limit limit = Limit{10000});
+    static bool runUntil(const std::function<bool()>& done, Limit limit = Limit{30000});
 
     /// Runs the message loop until the queue is empty and idle processing has nothing left to do.
     static void settle();
@@ -43,7 +43,7 @@ public:
 
     /// For other threads: runs `question` on the thread with the windows and waits for it. What it throws
     /// is thrown here. Throws Unanswered when the limit passes first; the question is then dropped.
-    static void ask(const std::function<void()>& question, Limit limit = Limit{5000});
+    static void ask(const std::function<void()>& question, Limit limit = Limit{30000});
 };
 
 } // namespace ovotest

@@ -1,6 +1,7 @@
 #include "Performance.h"
 #include "GuiThread.h"
 #include "Snapshot.h"
+#include "Watchdog.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +14,58 @@ namespace
 {
 
 constexpr std::chrono::hours kForever{1};
+constexpr GuiThread::Limit kGiveUpLimit{5000};
+
+// From which round on a loop that does not end gets more than a request to close.
+constexpr int kEscapeRound = 1;
+constexpr int kButtonRound = 3;
+constexpr int kQuitRound = 8;
+
+bool isShownDialog(HWND window)
+{
+    wchar_t name[16] = L"";
+    ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    return std::wstring_view{name} == L"#32770" && ::IsWindowVisible(window) && ::IsWindowEnabled(window);
+}
+
+BOOL CALLBACK close(HWND window, LPARAM)
+{
+    if (isShownDialog(window))
+        ::PostMessageW(window, WM_CLOSE, 0, 0);
+    return TRUE;
+}
+
+// Some boxes cannot be cancelled, only answered.
+BOOL CALLBACK pressAButton(HWND window, LPARAM)
+{
+    if (const HWND button =
+            isShownDialog(window) ? ::FindWindowExW(window, nullptr, L"Button", nullptr) : nullptr)
+        ::PostMessageW(window, WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(button), BN_CLICKED),
+                       reinterpret_cast<LPARAM>(button));
+    return TRUE;
+}
+
+// While a window is moved, the loop waits for the button to go up. Without the capture it would not hear of
+// it.
+void cancelCapture()
+{
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    if (::GetGUIThreadInfo(::GetCurrentThreadId(), &info) && info.hwndCapture &&
+        !(info.flags & GUI_INMOVESIZE))
+        ::PostMessageW(info.hwndCapture, WM_CANCELMODE, 0, 0);
+}
+
+void giveUp(int round)
+{
+    ::EndMenu();
+    cancelCapture();
+    ::EnumThreadWindows(::GetCurrentThreadId(), close, 0);
+    if (round >= kButtonRound)
+        ::EnumThreadWindows(::GetCurrentThreadId(), pressAButton, 0);
+    if (round == kQuitRound)
+        ::PostQuitMessage(0);
+}
 
 } // namespace
 
@@ -87,41 +140,39 @@ void Performance::act(State& state)
                 break;
             name = step.name.c_str();
             step.act(stage);
+            Watchdog::progress();
         }
     } catch (const std::exception& problem) {
         state.problem = std::string{"the story stopped at \""} + name + "\": " + problem.what();
         takeSnapshot(state.problem);
     }
-    stage.letGo();
+    letGo(stage);
     state.over = true;
     if (!state.problem.empty())
-        freeTheLoop(state);
+        freeTheLoop(state, stage);
 }
 
-// A story that stopped leaves its dialog, menu or drag open, and the test in its loop: close them as a user
-// would give up, so that the other tests still run.
-void Performance::freeTheLoop(State& state)
+void Performance::letGo(Stage& stage)
 {
-    const auto giveUp = [] {
-        ::EndMenu();
-        if (const HWND capture = ::GetCapture())
-            ::PostMessageW(capture, WM_CANCELMODE, 0, 0);
-        const auto cancel = [](HWND window, LPARAM) -> BOOL {
-            wchar_t name[16] = L"";
-            ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
-            if (std::wstring_view{name} == L"#32770" && ::IsWindowVisible(window) &&
-                ::IsWindowEnabled(window))
-                ::PostMessageW(window, WM_CLOSE, 0, 0);
-            return TRUE;
-        };
-        ::EnumThreadWindows(::GetCurrentThreadId(), cancel, 0);
-    };
-    while (!state.loopFree) {
+    try {
+        stage.letGo();
+    } catch (const std::exception&) {
+        // What is stuck is seen to below, or ended by the watchdog.
+    }
+}
+
+// A story that stopped leaves its dialog, menu or drag open, and the test in its loop: end them as a user
+// would who gives up, so that the other tests still run. Each round insists more than the one before.
+void Performance::freeTheLoop(State& state, Stage& stage)
+{
+    for (int round = 0; !state.loopFree; ++round) {
         try {
-            GuiThread::ask(giveUp);
+            GuiThread::ask([round] { giveUp(round); }, kGiveUpLimit);
         } catch (const Unanswered&) {
             // Stuck for good: the watchdog will end the program.
         }
+        if (round >= kEscapeRound && !state.loopFree)
+            stage.escape();
         for (int i = 0; i < 20 && !state.loopFree; ++i)
             std::this_thread::sleep_for(std::chrono::milliseconds{10});
     }

@@ -38,7 +38,8 @@ private:
 
     void leave();
     static void act(State& state);
-    static void freeTheLoop(State& state);
+    static void letGo(Stage& stage);
+    static void freeTheLoop(State& state, Stage& stage);
 
     std::shared_ptr<State> m_state;
     std::thread m_thread;

@@ -14,7 +14,8 @@ namespace
 
 constexpr int kGlideStep = 6; // pixels; more than a drag needs to begin takes a few of them
 constexpr int kGlideStepsMost = 12;
-constexpr Stage::Limit kInputLimit{10000};
+constexpr Stage::Limit kInputLimit{30000};
+constexpr Stage::Limit kMoveAgain{250};
 
 CPoint pointer()
 {
@@ -40,18 +41,24 @@ CPoint onScreen(CPoint point)
 
 } // namespace
 
-void Stage::waitFor(const std::string& what, const std::function<bool()>& condition, Limit limit)
+bool Stage::holdsWithin(const std::function<bool()>& condition, Limit limit)
 {
     const auto end = std::chrono::steady_clock::now() + limit;
     bool holds = false;
     for (;;) {
         GuiThread::ask([&] { holds = condition(); });
         if (holds)
-            return;
+            return true;
         if (std::chrono::steady_clock::now() > end)
-            throw std::runtime_error("waited in vain for " + what);
+            return false;
         std::this_thread::sleep_for(std::chrono::milliseconds{2});
     }
+}
+
+void Stage::waitFor(const std::string& what, const std::function<bool()>& condition, Limit limit)
+{
+    if (!holdsWithin(condition, limit))
+        throw std::runtime_error("waited in vain for " + what);
 }
 
 // Input counts as taken when the thread with the windows looks for messages and none of it is left in its
@@ -62,11 +69,16 @@ void Stage::awaitInputTaken()
         "the input to be taken", [] { return HIWORD(::GetQueueStatus(QS_INPUT)) == 0; }, kInputLimit);
 }
 
+// On a busy machine the display may report the move before only after this one, and the system then takes the
+// pointer back to it.
 void Stage::jumpTo(CPoint point)
 {
-    m_input.moveTo(point);
-    waitFor(
-        "the pointer to move", [point] { return pointer() == point; }, kInputLimit);
+    const auto end = std::chrono::steady_clock::now() + kInputLimit;
+    do {
+        if (std::chrono::steady_clock::now() > end)
+            throw std::runtime_error("waited in vain for the pointer to move");
+        m_input.moveTo(point);
+    } while (!holdsWithin([point] { return pointer() == point; }, kMoveAgain));
     awaitInputTaken();
     keepHeldKeysDown();
 }
@@ -155,6 +167,13 @@ void Stage::type(const std::wstring& text)
 void Stage::letGo()
 {
     m_input.releaseAll();
+    awaitInputTaken();
+}
+
+void Stage::escape()
+{
+    m_input.keyDown(VK_ESCAPE);
+    m_input.keyUp(VK_ESCAPE);
 }
 
 } // namespace ovotest

@@ -33,10 +33,14 @@ public:
     /// std::runtime_error with the words of `what` when it does not in time.
     void waitFor(const std::string& what, const std::function<bool()>& condition, Limit limit);
 
-    /// Lets go of every key and button.
+    /// Lets go of every key and button, and waits until that has been taken.
     void letGo();
 
+    /// Presses Escape without waiting for what it does: the user has had enough.
+    void escape();
+
 private:
+    static bool holdsWithin(const std::function<bool()>& condition, Limit limit);
     void jumpTo(CPoint point);
     void awaitInputTaken();
     void keepHeldKeysDown();

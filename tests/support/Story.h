@@ -99,7 +99,7 @@ public:
     // Looking.
     /// Waits until the condition holds. When it does not in time, the test fails with the words of `what`,
     /// and the rest of the story is not acted.
-    auto waitFor(std::string what, std::function<bool()> condition, Limit limit = 10s)
+    auto waitFor(std::string what, std::function<bool()> condition, Limit limit = 30s)
     {
         return tell(what, [=](Stage& stage) { stage.waitFor(what, condition, limit); });
     }

@@ -24,6 +24,40 @@ protected:
     }
 };
 
+constexpr int kAnswer = 17;
+
+/// A box with one button that Escape and its title bar do not close.
+class StubbornBox : public CDialog
+{
+public:
+    INT_PTR DoModal() override
+    {
+        const struct
+        {
+            DLGTEMPLATE box;
+            WORD menuClassTitle[3];
+        } nothing{{WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE, 0, 0, 20, 20, 120, 60}, {}};
+        InitModalIndirect(&nothing.box);
+        return CDialog::DoModal();
+    }
+
+protected:
+    BOOL OnInitDialog() override
+    {
+        m_button.Create(L"Answer", WS_CHILD | WS_VISIBLE, CRect(10, 10, 90, 34), this, kAnswer);
+        return CDialog::OnInitDialog();
+    }
+    BOOL OnCommand(WPARAM wParam, LPARAM) override
+    {
+        if (LOWORD(wParam) == kAnswer)
+            EndDialog(kAnswer);
+        return TRUE;
+    }
+
+private:
+    CButton m_button;
+};
+
 } // namespace
 
 TEST(Story, AnswersAModalDialogThatTheTestOpensAfterwards)
@@ -52,7 +86,9 @@ TEST(Story, GoesOnThroughADialogThatOpensAnother)
                          .waitFor("the second box to go", [=] { return !isShown(L"Second")(); })
                          .key(VK_ESCAPE)
                          .start();
-    owner.onPrivateMessage = [&] { inner = ::MessageBoxW(shownWindow(L"First"), L"Inner", L"Second", MB_YESNO); };
+    owner.onPrivateMessage = [&] {
+        inner = ::MessageBoxW(shownWindow(L"First"), L"Inner", L"Second", MB_YESNO);
+    };
     const int outer = ::MessageBoxW(owner, L"Outer", L"First", MB_OKCANCEL);
 
     EXPECT_EQ(inner, IDYES);
@@ -182,6 +218,71 @@ TEST(Story, FailureClosesTheMenuThatTheTestIsIn)
         "what never comes");
 
     EXPECT_EQ(chosen, FALSE);
+}
+
+TEST(Story, FailureEndsTheMoveThatTheTestIsIn)
+{
+    Robot robot;
+    TestApp::instance().showBoxes();
+    int answer = 0;
+    const auto title = [] {
+        CRect box;
+        ::GetWindowRect(shownDialog(), &box);
+        return CPoint(box.CenterPoint().x, box.top + 10);
+    };
+
+    EXPECT_NONFATAL_FAILURE(
+        {
+            auto moving = robot.waitFor("the box", [] { return shownDialog() != nullptr; })
+                              .press(title)
+                              .moveBy(40, 30)
+                              .waitFor(
+                                  "what never comes", [] { return false; }, 20ms)
+                              .start();
+            answer = AfxMessageBox(L"Stuck", MB_OKCANCEL);
+        },
+        "what never comes");
+
+    EXPECT_EQ(answer, IDCANCEL);
+}
+
+TEST(Story, FailureAnswersTheBoxThatCannotBeCancelled)
+{
+    Robot robot;
+    StubbornBox box;
+    int answer = 0;
+
+    EXPECT_NONFATAL_FAILURE(
+        {
+            auto answering = robot.waitFor("the box", [] { return shownDialog() != nullptr; })
+                                 .waitFor(
+                                     "what never comes", [] { return false; }, 20ms)
+                                 .start();
+            answer = static_cast<int>(box.DoModal());
+        },
+        "what never comes");
+
+    EXPECT_EQ(answer, kAnswer);
+}
+
+TEST(Story, FailureEndsTheLoopThatTheTestIsIn)
+{
+    ProbeWindow probe;
+    Robot robot;
+    int result = 0;
+
+    EXPECT_NONFATAL_FAILURE(
+        {
+            auto waiting = robot
+                               .waitFor(
+                                   "what never comes", [] { return false; }, 20ms)
+                               .start();
+            result = probe.RunModalLoop();
+        },
+        "what never comes");
+
+    EXPECT_EQ(result, -1);
+    EXPECT_TRUE(GuiThread::tookQuit()) << "the loop's own end";
 }
 
 TEST(Story, WhatAHandlerThrowsComesOutOfTheStory)

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <atomic>
 #include <cstdlib>
 #include <string>
 
@@ -13,6 +14,7 @@ namespace
 {
 
 constexpr UINT kHung = 3;
+std::atomic<Watchdog*> g_watchdog{nullptr};
 constexpr DWORD kSnapshotLimit = 15000; // milliseconds
 
 std::chrono::seconds limitFromEnvironment()
@@ -34,10 +36,12 @@ Watchdog::Watchdog()
     : m_limit(limitFromEnvironment())
     , m_thread([this] { watch(); })
 {
+    g_watchdog = this;
 }
 
 Watchdog::~Watchdog()
 {
+    g_watchdog = nullptr;
     {
         const std::lock_guard guard{m_lock};
         m_leaving = true;
@@ -59,6 +63,16 @@ void Watchdog::end()
 {
     const std::lock_guard guard{m_lock};
     m_deadline = Clock::time_point::max();
+}
+
+void Watchdog::progress()
+{
+    Watchdog* const watchdog = g_watchdog;
+    if (!watchdog)
+        return;
+    const std::lock_guard guard{watchdog->m_lock};
+    if (watchdog->m_deadline != Clock::time_point::max())
+        watchdog->m_deadline = Clock::now() + watchdog->m_limit;
 }
 
 void Watchdog::watch()

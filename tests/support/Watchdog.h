@@ -9,7 +9,8 @@ namespace ovotest
 {
 
 /// Ends the program when a test hangs: takes a snapshot first, then exits with failure. The limit is a
-/// minute a test; the environment variable OVO_TEST_LIMIT sets another number of seconds.
+/// minute for a test, and again for each step of its stories; the environment variable OVO_TEST_LIMIT sets
+/// another number of seconds.
 class Watchdog
 {
 public:
@@ -23,6 +24,9 @@ public:
 
     /// Stops counting.
     void end();
+
+    /// The running test is getting on, however slowly: counts anew. Any thread.
+    static void progress();
 
 private:
     void watch();
