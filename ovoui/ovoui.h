@@ -9,6 +9,8 @@
 #include <ovoui/frame/ThemeData.h>
 #include <ovoui/images/AlphaImageButton.h>
 #include <ovoui/images/AlphaImageList.h>
+#include <ovoui/lists/ColourEntry.h>
+#include <ovoui/lists/ListCtrlEx.h>
 #include <ovoui/tree/DropMenu.h>
 #include <ovoui/tree/MultiTreeCtrl.h>
 #include <ovoui/tree/PlainText.h>

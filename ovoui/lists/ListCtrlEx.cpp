@@ -1,0 +1,230 @@
+#include <ovoui/lists/ListCtrlEx.h>
+
+#include <ovoui/lists/Alive.h>
+#include <ovoui/lists/ListRowPainter.h>
+#include <ovoui/lists/TextExtents.h>
+#include <ovoui/lists/core/ShortText.h>
+
+#include <cwchar>
+
+using namespace ovoui::lists;
+
+IMPLEMENT_DYNCREATE(COVOListCtrlEx, CListCtrl)
+
+BEGIN_MESSAGE_MAP(COVOListCtrlEx, CListCtrl)
+ON_WM_SIZE()
+ON_WM_PAINT()
+ON_WM_SETFOCUS()
+ON_WM_KILLFOCUS()
+ON_MESSAGE(LVM_SETIMAGELIST, OnSetImageList)
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr int kHeadingMargin = 15;
+
+wchar_t s_shortText[kShortTextRoom];
+
+} // namespace
+
+COVOListCtrlEx::COVOListCtrlEx() = default;
+
+COVOListCtrlEx::~COVOListCtrlEx() = default;
+
+BOOL COVOListCtrlEx::PreCreateWindow(CREATESTRUCT& cs)
+{
+    cs.style &= ~static_cast<LONG>(LVS_SMALLICON);
+    cs.style |= LVS_REPORT | LVS_OWNERDRAWFIXED;
+    return CWnd::PreCreateWindow(cs);
+}
+
+// Contents
+
+void COVOListCtrlEx::UseRowColours(BOOL use)
+{
+    m_useRowColours = use;
+}
+
+int COVOListCtrlEx::AddColumn(const std::wstring& heading, int nCol, int nSubItem, bool colourColumn,
+                              int mask, int fmt)
+{
+    LVCOLUMN column{};
+    column.mask = static_cast<UINT>(mask);
+    column.fmt = fmt;
+    column.pszText = const_cast<LPWSTR>(heading.c_str());
+    column.cx = GetStringWidth(heading.c_str()) + kHeadingMargin;
+    if (mask & LVCF_SUBITEM)
+        column.iSubItem = nSubItem == -1 ? nCol : nSubItem;
+    const int index = InsertColumn(nCol, &column);
+    if (index >= 0)
+        setColourColumn(index, colourColumn);
+    return index;
+}
+
+void COVOListCtrlEx::setColourColumn(int column, bool isColour)
+{
+    const auto at = static_cast<std::size_t>(column);
+    if (m_colourColumns.size() <= at)
+        m_colourColumns.resize(at + 1);
+    m_colourColumns[at] = isColour;
+}
+
+int COVOListCtrlEx::AddItem(int nItem, int nSubItem, const std::wstring& text, DWORD colour, int image)
+{
+    LVITEM item{};
+    item.mask = LVIF_TEXT;
+    item.iItem = nItem;
+    item.iSubItem = nSubItem;
+    item.pszText = const_cast<LPWSTR>(text.c_str());
+    if (image != -1) {
+        item.mask |= LVIF_IMAGE;
+        item.iImage = image;
+    }
+    int index = nItem;
+    if (nSubItem != 0)
+        SetItem(&item);
+    else
+        index = InsertItem(&item);
+    if (nSubItem == 0 && index != -1 && m_useRowColours)
+        m_rowColours[nItem] = colour;
+    SetItemData(nItem, static_cast<DWORD_PTR>(nItem));
+    return index;
+}
+
+CImageList* COVOListCtrlEx::SetImageList(CImageList* pImageList, int nImageListType)
+{
+    return CListCtrl::SetImageList(pImageList, nImageListType);
+}
+
+LRESULT COVOListCtrlEx::OnSetImageList(WPARAM wParam, LPARAM lParam)
+{
+    if (wParam == LVSIL_STATE) {
+        int width = 0;
+        int height = 0;
+        const bool known = ::ImageList_GetIconSize(reinterpret_cast<HIMAGELIST>(lParam), &width, &height);
+        m_stateImageWidth = known ? width : 0;
+    }
+    return Default();
+}
+
+// Selection
+
+int COVOListCtrlEx::GetSelItems(int nMaxItems, int* rgIndex)
+{
+    const int limit = std::min(nMaxItems, static_cast<int>(GetSelectedCount()));
+    int count = 0;
+    for (int item = GetNextItem(-1, LVNI_SELECTED); item != -1; item = GetNextItem(item, LVNI_SELECTED)) {
+        rgIndex[count++] = item;
+        if (count >= limit)
+            break;
+    }
+    return count;
+}
+
+int COVOListCtrlEx::GetCurSel()
+{
+    return GetSelectedCount() == 1 ? GetNextItem(-1, LVNI_SELECTED) : -1;
+}
+
+// Drawing
+
+LPCWSTR COVOListCtrlEx::MakeShortString(CDC* pDC, LPCWSTR text, int width, int offset)
+{
+    const std::size_t length = std::wcslen(text);
+    if (length == 0)
+        return text;
+    const TextExtents extents(*pDC, text, length);
+    if (fits(extents.whole(), width, offset))
+        return text;
+    const int dots = width < 1 ? 0 : pDC->GetTextExtent(kDots.data(), kMeasuredDots).cx;
+    const ShortText result = shorten(extents.beginnings(), dots, width, offset);
+    std::wmemmove(s_shortText, text, result.length); // the text may be an earlier result
+    std::wcscpy(s_shortText + result.length, result.dots ? kDots.data() : L"");
+    return s_shortText;
+}
+
+void COVOListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
+{
+    const int item = static_cast<int>(lpDrawItemStruct->itemID);
+    RowLook look{m_clientWidth, m_stateImageWidth, m_colourColumns, std::nullopt};
+    if (m_useRowColours)
+        look.colour = m_rowColours[static_cast<int>(GetItemData(item))];
+    ListRowPainter(*this, *lpDrawItemStruct, look).paint();
+}
+
+bool COVOListCtrlEx::inReportView() const
+{
+    return (GetStyle() & LVS_TYPEMASK) == LVS_REPORT;
+}
+
+/// What is right of the last column belongs to the rows: it is painted with whatever needs painting.
+void COVOListCtrlEx::OnPaint()
+{
+    CRect bounds;
+    if (inReportView() && GetItemRect(0, &bounds, LVIR_BOUNDS) && bounds.right < m_clientWidth) {
+        CRect clip;
+        CPaintDC(this).GetClipBox(&clip);
+        clip.left = std::min(clip.left, bounds.right - 1);
+        clip.right = m_clientWidth;
+        InvalidateRect(&clip, FALSE);
+    }
+    CWnd::OnPaint();
+}
+
+void COVOListCtrlEx::OnSize(UINT nType, int cx, int cy)
+{
+    m_clientWidth = cx;
+    CWnd::OnSize(nType, cx, cy);
+}
+
+// Focus
+
+void COVOListCtrlEx::OnSetFocus(CWnd* pOldWnd)
+{
+    const HWND window = m_hWnd;
+    const bool fromChild = isOurs(pOldWnd);
+    CWnd::OnSetFocus(pOldWnd);
+    if (isAlive(this, window))
+        repaintSelectionUnless(fromChild);
+}
+
+void COVOListCtrlEx::OnKillFocus(CWnd* pNewWnd)
+{
+    const HWND window = m_hWnd;
+    const bool toChild = isOurs(pNewWnd);
+    CWnd::OnKillFocus(pNewWnd);
+    if (isAlive(this, window))
+        repaintSelectionUnless(toChild);
+}
+
+/// Whether a window is a child of this list, such as the editor of a label.
+bool COVOListCtrlEx::isOurs(const CWnd* window) const
+{
+    return window && ::IsWindow(window->GetSafeHwnd()) && ::GetParent(window->GetSafeHwnd()) == m_hWnd;
+}
+
+void COVOListCtrlEx::repaintSelectionUnless(bool inOurChild)
+{
+    if (!inOurChild && inReportView())
+        RepaintSelectedItems();
+}
+
+void COVOListCtrlEx::RepaintSelectedItems()
+{
+    repaintRow(GetNextItem(-1, LVNI_FOCUSED));
+    if (!(GetStyle() & LVS_SHOWSELALWAYS))
+        for (int item = GetNextItem(-1, LVNI_SELECTED); item != -1; item = GetNextItem(item, LVNI_SELECTED))
+            repaintRow(item);
+    UpdateWindow();
+}
+
+void COVOListCtrlEx::repaintRow(int item)
+{
+    CRect bounds;
+    CRect label;
+    if (item == -1 || !GetItemRect(item, &bounds, LVIR_BOUNDS) || !GetItemRect(item, &label, LVIR_LABEL))
+        return;
+    bounds.left = label.left;
+    InvalidateRect(&bounds, FALSE);
+}

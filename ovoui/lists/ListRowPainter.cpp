@@ -1,0 +1,241 @@
+#include <ovoui/lists/ListRowPainter.h>
+
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/lists/Alive.h>
+#include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/core/RowLayout.h>
+
+using ovoui::frame::toBox;
+using ovoui::frame::toRect;
+
+namespace ovoui::lists
+{
+
+namespace
+{
+
+constexpr UINT kTextFormat = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_NOCLIP;
+constexpr int kItemTextRoom = 260;
+constexpr int kNarrowestForIcon = 2; // pixels
+
+wchar_t s_itemText[kItemTextRoom];
+
+/// A context's text and background colours and background mode, which return at the end of the scope.
+class TextLook
+{
+public:
+    TextLook(CDC& dc, COLORREF text, COLORREF background)
+        : m_dc(dc)
+        , m_oldText(dc.SetTextColor(text))
+        , m_oldBackground(dc.SetBkColor(background))
+        , m_oldMode(dc.GetBkMode())
+    {
+    }
+    ~TextLook()
+    {
+        m_dc.SetBkMode(m_oldMode);
+        m_dc.SetBkColor(m_oldBackground);
+        m_dc.SetTextColor(m_oldText);
+    }
+    TextLook(const TextLook&) = delete;
+    TextLook& operator=(const TextLook&) = delete;
+
+private:
+    CDC& m_dc;
+    const COLORREF m_oldText;
+    const COLORREF m_oldBackground;
+    const int m_oldMode;
+};
+
+/// For the text of a cell that shows a colour: whichever of black and white can be read, over what is there.
+class OverSwatch
+{
+public:
+    OverSwatch(CDC& dc, COLORREF text)
+        : m_dc(dc)
+        , m_oldText(dc.SetTextColor(text))
+        , m_oldMode(dc.SetBkMode(TRANSPARENT))
+    {
+    }
+    ~OverSwatch()
+    {
+        m_dc.SetBkMode(m_oldMode);
+        m_dc.SetTextColor(m_oldText);
+    }
+    OverSwatch(const OverSwatch&) = delete;
+    OverSwatch& operator=(const OverSwatch&) = delete;
+
+private:
+    CDC& m_dc;
+    const COLORREF m_oldText;
+    const int m_oldMode;
+};
+
+UINT alignmentOf(int format)
+{
+    switch (format & LVCFMT_JUSTIFYMASK) {
+    case LVCFMT_RIGHT:
+        return DT_RIGHT;
+    case LVCFMT_CENTER:
+        return DT_CENTER;
+    default:
+        return DT_LEFT;
+    }
+}
+
+frame::Box itemBox(const COVOListCtrlEx& list, int item, UINT part)
+{
+    CRect rect;
+    list.GetItemRect(item, &rect, part);
+    return toBox(rect);
+}
+
+/// Empty where the platform has no text.
+LPCWSTR textOf(const LVITEM& item)
+{
+    return item.pszText && item.pszText != LPSTR_TEXTCALLBACKW ? item.pszText : L"";
+}
+
+} // namespace
+
+ListRowPainter::ListRowPainter(COVOListCtrlEx& list, const DRAWITEMSTRUCT& draw, const RowLook& look)
+    : m_list(list)
+    , m_draw(draw)
+    , m_look(look)
+    , m_dc(*CDC::FromHandle(draw.hDC))
+    , m_index(static_cast<int>(draw.itemID))
+    , m_focused(::GetFocus() == list.m_hWnd)
+{
+}
+
+void ListRowPainter::paint()
+{
+    if (!readItem())
+        return;
+    chooseColours();
+    const frame::Box label = itemBox(m_list, m_index, LVIR_LABEL);
+    const CRect row = toRect(rowBox(itemBox(m_list, m_index, LVIR_BOUNDS), label, m_look.clientWidth));
+
+    const TextLook kept(m_dc, m_text, m_background);
+    m_dc.FillSolidRect(&row, m_background);
+    paintLabel(label);
+    paintSubItems(label);
+    if ((m_item.state & LVIS_FOCUSED) && m_focused)
+        m_dc.DrawFocusRect(&row);
+}
+
+bool ListRowPainter::readItem()
+{
+    s_itemText[0] = 0;
+    m_item.mask = LVIF_TEXT | LVIF_IMAGE | LVIF_STATE;
+    m_item.iItem = m_index;
+    m_item.stateMask = 0xFFFF;
+    m_item.pszText = s_itemText;
+    m_item.cchTextMax = kItemTextRoom;
+    const HWND window = m_list.m_hWnd;
+    return m_list.GetItem(&m_item) && isAlive(&m_list, window);
+}
+
+void ListRowPainter::chooseColours()
+{
+    const bool selected = looksSelected();
+    m_text = ::GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT);
+    m_background = selected ? ::GetSysColor(COLOR_HIGHLIGHT) : m_list.GetBkColor();
+    m_colours = m_look.colour ? coloursOf(*m_look.colour)
+                              : EntryColours{m_background, m_background, m_background, m_text};
+}
+
+bool ListRowPainter::looksSelected() const
+{
+    if (m_item.state & LVIS_DROPHILITED)
+        return true;
+    return (m_item.state & LVIS_SELECTED) && (m_focused || (m_list.GetStyle() & LVS_SHOWSELALWAYS));
+}
+
+bool ListRowPainter::isColourColumn(int column) const
+{
+    const auto at = static_cast<std::size_t>(column);
+    return at < m_look.colourColumns.size() && m_look.colourColumns[at];
+}
+
+void ListRowPainter::paintSwatch(const frame::Box& box)
+{
+    fillColourEntryBgd(m_dc, m_colours.solid, m_colours.overBlack, m_colours.overWhite, toRect(box));
+}
+
+// Column 0
+
+void ListRowPainter::paintLabel(const frame::Box& label)
+{
+    std::optional<OverSwatch> readable;
+    if (isColourColumn(0)) {
+        readable.emplace(m_dc, m_colours.text);
+        paintSwatch(label);
+    }
+    paintStateImage();
+    paintIcon();
+    const frame::Box area = labelTextBox(label, m_look.stateImageWidth);
+    const LPCWSTR text = COVOListCtrlEx::MakeShortString(&m_dc, textOf(m_item), area.width(), kLabelOffset);
+    CRect place = toRect(textBox(area, kLabelInset));
+    m_dc.DrawText(text, -1, &place, kTextFormat);
+}
+
+void ListRowPainter::paintStateImage()
+{
+    const int image = static_cast<int>((m_item.state & LVIS_STATEIMAGEMASK) >> 12) - 1;
+    if (image < 0)
+        return;
+    if (CImageList* const images = m_list.GetImageList(LVSIL_STATE))
+        images->Draw(&m_dc, image, CRect(m_draw.rcItem).TopLeft(), ILD_TRANSPARENT);
+}
+
+void ListRowPainter::paintIcon()
+{
+    CImageList* const images = m_list.GetImageList(LVSIL_SMALL);
+    if (!images || CRect(m_draw.rcItem).Width() < kNarrowestForIcon)
+        return;
+    const frame::Box icon = itemBox(m_list, m_index, LVIR_ICON);
+    images->Draw(&m_dc, m_item.iImage, CPoint(icon.left, icon.top),
+                 ILD_TRANSPARENT | (m_item.state & LVIS_OVERLAYMASK));
+}
+
+// The other columns
+
+void ListRowPainter::paintSubItems(const frame::Box& label)
+{
+    frame::Box box = label;
+    LVCOLUMN column{};
+    column.mask = LVCF_FMT | LVCF_WIDTH;
+    const HWND window = m_list.m_hWnd;
+    // The platform may ask the host for a text, who may destroy the list instead.
+    for (int i = 1; isAlive(&m_list, window) && m_list.GetColumn(i, &column); ++i) {
+        box = cellAfter(box, column.cx);
+        s_itemText[0] = 0;
+        LVITEM item{};
+        item.mask = LVIF_TEXT;
+        item.iItem = m_index;
+        item.iSubItem = i;
+        item.pszText = s_itemText;
+        item.cchTextMax = kItemTextRoom;
+        if (m_list.GetItem(&item))
+            paintSubItem(textOf(item), box, column.fmt, isColourColumn(i));
+    }
+}
+
+/// An empty cell shows nothing, not even its colour.
+void ListRowPainter::paintSubItem(LPCWSTR text, const frame::Box& box, int format, bool isColour)
+{
+    if (!*text)
+        return;
+    const LPCWSTR shown = COVOListCtrlEx::MakeShortString(&m_dc, text, box.width(), kCellOffset);
+    const UINT alignment = shown == text ? alignmentOf(format) : DT_LEFT;
+    std::optional<OverSwatch> readable;
+    if (isColour) {
+        readable.emplace(m_dc, m_colours.text);
+        paintSwatch(box);
+    }
+    CRect place = toRect(textBox(box, kCellInset));
+    m_dc.DrawText(shown, -1, &place, kTextFormat | alignment);
+}
+
+} // namespace ovoui::lists

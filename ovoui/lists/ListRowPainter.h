@@ -1,0 +1,61 @@
+/// Not exported: draws a row of an extended list.
+#pragma once
+
+#include <ovoui/frame/core/Placement.h>
+#include <ovoui/lists/core/EntryColours.h>
+
+#include <afxcmn.h>
+
+#include <optional>
+#include <vector>
+
+class COVOListCtrlEx;
+
+namespace ovoui::lists
+{
+
+/// What the list knows about a row and the platform does not.
+struct RowLook
+{
+    int clientWidth;
+    int stateImageWidth;
+    const std::vector<bool>& colourColumns;
+    std::optional<ColourEntry> colour; ///< none when rows have no colours of their own
+};
+
+class ListRowPainter
+{
+public:
+    /// Everything given must live as long as this object.
+    ListRowPainter(COVOListCtrlEx& list, const DRAWITEMSTRUCT& draw, const RowLook& look);
+
+    /// Draws nothing when the row is gone. The device context's colours and modes are those of before
+    /// afterwards.
+    void paint();
+
+private:
+    bool readItem();
+    void chooseColours();
+    bool looksSelected() const;
+    bool isColourColumn(int column) const;
+
+    void paintSwatch(const frame::Box& box);
+    void paintStateImage();
+    void paintIcon();
+    void paintLabel(const frame::Box& label);
+    void paintSubItems(const frame::Box& label);
+    void paintSubItem(LPCWSTR text, const frame::Box& box, int format, bool isColour);
+
+    COVOListCtrlEx& m_list;
+    const DRAWITEMSTRUCT& m_draw;
+    const RowLook& m_look;
+    CDC& m_dc;
+    const int m_index;
+    const bool m_focused; ///< the list has the keyboard focus
+    LVITEM m_item{};
+    COLORREF m_text = 0;
+    COLORREF m_background = 0;
+    EntryColours m_colours{};
+};
+
+} // namespace ovoui::lists

@@ -1,0 +1,29 @@
+/// Where the parts of a row in a report list lie.
+#pragma once
+
+#include <ovoui/frame/core/Placement.h>
+
+namespace ovoui::lists
+{
+
+using frame::Box;
+
+// Pixels between a cell's edges and its text, and what the text's width may not use.
+constexpr int kLabelInset = 2;
+constexpr int kLabelOffset = 4;
+constexpr int kCellInset = 6;
+constexpr int kCellOffset = 12;
+
+/// What is filled for a row: from its label to the last column, or to the window's edge if that is further.
+Box rowBox(const Box& bounds, const Box& label, int clientWidth);
+
+/// The label as far as its text may go; a state image takes its width from the right.
+Box labelTextBox(const Box& label, int stateImageWidth);
+
+/// The cell right of another one.
+Box cellAfter(const Box& before, int width);
+
+/// A cell without its insets.
+Box textBox(const Box& cell, int inset);
+
+} // namespace ovoui::lists

@@ -1,0 +1,19 @@
+# Lists: the extended list control and the completing combo box.
+set(lists_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/Checkerboard.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/EntryColours.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/RowLayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ShortText.cpp)
+
+if(NOT WIN32)
+  add_library(ovoui_lists_core STATIC ${lists_core})
+  target_include_directories(ovoui_lists_core PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(ovoui_lists_core PRIVATE ovo_flags)
+  return()
+endif()
+
+target_sources(ovoui PRIVATE
+  ${lists_core}
+  ${CMAKE_CURRENT_LIST_DIR}/ColourEntry.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListCtrlEx.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListRowPainter.cpp)

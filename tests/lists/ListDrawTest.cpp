@@ -1,0 +1,463 @@
+// Rows pixel by pixel, in memory and on the screen.
+#include "ListScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+constexpr DWORD kOpaque = 0xFF000000;
+
+Knowledge known(const ListScene& scene)
+{
+    CRect client;
+    scene.list.GetClientRect(&client);
+    Knowledge result;
+    result.clientWidth = client.Width();
+    return result;
+}
+
+} // namespace
+
+TEST(ListDraw, APlainRow)
+{
+    ListScene scene;
+    scene.fill({100, 80, 60}, 4);
+    scene.show();
+    for (int row = 0; row < 4; ++row)
+        scene.expectRow(row, known(scene));
+}
+
+TEST(ListDraw, ASelectedRowOfTheFocusedList)
+{
+    ListScene scene;
+    scene.fill({100, 80, 60}, 3);
+    scene.show();
+    scene.list.SetFocus();
+    scene.list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
+    scene.expectRow(1, known(scene));
+    // The selection reaches the window's edge, beyond the last column.
+    const CRect row = scene.itemRect(1);
+    EXPECT_THAT(Picture::ofClient(scene.list).at(row.right + 100, row.CenterPoint().y),
+                IsColour(::GetSysColor(COLOR_HIGHLIGHT)));
+}
+
+TEST(ListDraw, ASelectedRowWithoutTheFocus)
+{
+    for (const bool always : {false, true}) {
+        ListScene scene(always ? LVS_SHOWSELALWAYS : 0);
+        scene.fill({100, 80}, 3);
+        scene.show();
+        scene.list.SetItemState(1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        scene.button.SetFocus();
+        scene.expectRow(1, known(scene));
+        const CRect row = scene.itemRect(1);
+        EXPECT_THAT(Picture::ofClient(scene.list).at(row.right - 3, row.top + 3),
+                    IsColour(::GetSysColor(always ? COLOR_HIGHLIGHT : COLOR_WINDOW)));
+    }
+}
+
+TEST(ListDraw, ADropHighlightedRowLooksSelectedWithoutTheFocus)
+{
+    ListScene scene;
+    scene.fill({100, 80}, 3);
+    scene.show();
+    scene.button.SetFocus();
+    scene.list.SetItemState(2, LVIS_DROPHILITED, LVIS_DROPHILITED);
+    scene.expectRow(2, known(scene));
+    const CRect row = scene.itemRect(2);
+    EXPECT_THAT(Picture::ofClient(scene.list).at(row.right - 3, row.top + 3),
+                IsColour(::GetSysColor(COLOR_HIGHLIGHT)));
+}
+
+TEST(ListDraw, TheFocusRectangleGoesRoundTheRow)
+{
+    ListScene scene;
+    scene.fill({100, 80}, 3);
+    scene.show();
+    scene.list.SetFocus();
+    scene.list.SetItemState(0, LVIS_FOCUSED, LVIS_FOCUSED);
+    scene.expectRow(0, known(scene));
+    scene.button.SetFocus();
+    scene.expectRow(0, known(scene));
+}
+
+TEST(ListDraw, TheListsOwnBackgroundColour)
+{
+    ListScene scene;
+    scene.list.SetBkColor(RGB(240, 230, 140));
+    scene.fill({100, 80}, 2);
+    scene.show();
+    scene.expectRow(0, known(scene));
+}
+
+TEST(ListDraw, StateImages)
+{
+    ListScene scene;
+    scene.fill({100, 80}, 3);
+    CImageList states;
+    fillImages(states, 16, {RGB(200, 0, 0), RGB(0, 0, 200)});
+    scene.list.SetImageList(&states, LVSIL_STATE);
+    scene.list.SetItemState(0, INDEXTOSTATEIMAGEMASK(1), LVIS_STATEIMAGEMASK);
+    scene.list.SetItemState(1, INDEXTOSTATEIMAGEMASK(2), LVIS_STATEIMAGEMASK);
+    scene.show();
+    Knowledge facts = known(scene);
+    facts.stateImageWidth = 16;
+    for (int row = 0; row < 3; ++row)
+        scene.expectRow(row, facts);
+    EXPECT_GT(Picture::ofClient(scene.list).count(RGB(200, 0, 0)), 50);
+
+    // The width is known at once when the images are taken away again.
+    scene.list.SetImageList(nullptr, LVSIL_STATE);
+    scene.expectRow(2, known(scene));
+}
+
+TEST(ListDraw, ALabelIsCutEarlierByTheWidthOfAStateImage)
+{
+    ListScene scene;
+    scene.addColumn(L"c", 100);
+    scene.addColumn(L"d", 80);
+    scene.list.AddItem(0, 0, L"a label that is long enough to be cut", 0, -1);
+    scene.list.AddItem(0, 1, L"x", 0, -1);
+    CImageList states;
+    fillImages(states, 24, {RGB(200, 0, 0)});
+    scene.list.SetImageList(&states, LVSIL_STATE);
+    scene.list.SetItemState(0, INDEXTOSTATEIMAGEMASK(1), LVIS_STATEIMAGEMASK);
+    scene.show();
+    Knowledge facts = known(scene);
+    facts.stateImageWidth = 24;
+    scene.expectRow(0, facts);
+    scene.list.SetImageList(nullptr, LVSIL_STATE);
+}
+
+TEST(ListDraw, SmallIconsWithOverlay)
+{
+    ListScene scene;
+    CImageList icons;
+    fillImages(icons, 16, {RGB(0, 150, 0), RGB(250, 200, 0), RGB(90, 0, 90)});
+    icons.SetOverlayImage(2, 1);
+    scene.list.SetImageList(&icons, LVSIL_SMALL);
+    scene.addColumn(L"c", 120);
+    scene.list.AddItem(0, 0, L"green", 0, 0);
+    scene.list.AddItem(1, 0, L"with overlay", 0, 1);
+    scene.list.SetItemState(1, INDEXTOOVERLAYMASK(1), LVIS_OVERLAYMASK);
+    scene.show();
+    scene.expectRow(0, known(scene));
+    scene.expectRow(1, known(scene));
+    EXPECT_GT(Picture::ofClient(scene.list).count(RGB(0, 150, 0)), 50);
+    EXPECT_GT(Picture::ofClient(scene.list).count(RGB(90, 0, 90)), 50);
+
+    // No icon into a rectangle less than 2 pixels wide.
+    for (const int width : {1, 2}) {
+        Picture picture(60, 40);
+        DRAWITEMSTRUCT draw{};
+        draw.hDC = picture.dc();
+        draw.rcItem = {0, scene.itemRect(0).top, width, scene.itemRect(0).bottom};
+        scene.list.DrawItem(&draw);
+        EXPECT_EQ(picture.count(RGB(0, 150, 0)) > 0, width == 2);
+    }
+    scene.list.SetImageList(nullptr, LVSIL_SMALL);
+}
+
+TEST(ListDraw, ColourColumns)
+{
+    for (const bool first : {true, false})
+        for (const DWORD entry : {kOpaque | RGB(200, 30, 30), 0x80000000 | RGB(30, 200, 30),
+                                  DWORD{RGB(90, 90, 255)}, kOpaque | RGB(255, 255, 0)}) {
+            ListScene scene;
+            scene.list.UseRowColours(TRUE);
+            scene.addColumn(L"a", 100, first);
+            scene.addColumn(L"b", 90, !first);
+            scene.addColumn(L"c", 60);
+            scene.list.AddItem(0, 0, L"name", entry, -1);
+            scene.list.AddItem(0, 1, L"colour", 0, -1);
+            scene.list.AddItem(0, 2, L"more", 0, -1);
+            scene.show();
+            scene.list.SetFocus();
+            Knowledge facts = known(scene);
+            facts.colourColumns = {first ? 0 : 1};
+            facts.entry = entry;
+            scene.expectRow(0, facts);
+            scene.list.SetItemState(0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+            scene.expectRow(0, facts);
+        }
+}
+
+TEST(ListDraw, AlphaShowsOverACheckerboard)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    scene.addColumn(L"a", 60);
+    scene.addColumn(L"b", 100, true);
+    scene.list.AddItem(0, 0, L"opaque", kOpaque | RGB(200, 30, 30), -1);
+    scene.list.AddItem(0, 1, L".", 0, -1);
+    scene.list.AddItem(1, 0, L"clear", RGB(200, 30, 30), -1);
+    scene.list.AddItem(1, 1, L".", 0, -1);
+    scene.show();
+    const Picture shown = Picture::ofClient(scene.list);
+    const CRect opaque = scene.cell(0, 1);
+    EXPECT_GT(shown.count(RGB(200, 30, 30), 0, opaque), opaque.Width() * opaque.Height() - 30);
+    const CRect clear = scene.cell(1, 1);
+    const CRect left(clear.left, clear.top, clear.left + clear.Width() / 2, clear.bottom);
+    const CRect right(left.right, clear.top, clear.right, clear.bottom);
+    EXPECT_GT(shown.count(RGB(200, 30, 30), 0, left), left.Width() * left.Height() - 30);
+    EXPECT_EQ(shown.count(RGB(0, 0, 0), 0, right) + shown.count(RGB(255, 255, 255), 0, right),
+              right.Width() * right.Height());
+    EXPECT_GT(shown.count(RGB(0, 0, 0), 0, right), right.Width() * right.Height() / 3);
+    EXPECT_GT(shown.count(RGB(255, 255, 255), 0, right), right.Width() * right.Height() / 3);
+}
+
+TEST(ListDraw, WithoutRowColoursAColourColumnIsPlain)
+{
+    ListScene scene;
+    scene.addColumn(L"a", 100, true);
+    scene.addColumn(L"b", 90, true);
+    scene.list.AddItem(0, 0, L"name", kOpaque | RGB(200, 30, 30), -1);
+    scene.list.AddItem(0, 1, L"colour", 0, -1);
+    scene.show();
+    Knowledge facts = known(scene);
+    facts.colourColumns = {0, 1};
+    scene.expectRow(0, facts);
+    EXPECT_EQ(Picture::ofClient(scene.list).count(RGB(200, 30, 30)), 0);
+}
+
+TEST(ListDraw, ARowWithoutAColourIsBlackAndTransparent)
+{
+    ListScene scene;
+    scene.addColumn(L"a", 100);
+    scene.addColumn(L"b", 90, true);
+    scene.list.AddItem(0, 0, L"name", kOpaque | RGB(200, 30, 30), -1); // before row colours are in use
+    scene.list.AddItem(0, 1, L"colour", 0, -1);
+    scene.list.UseRowColours(TRUE);
+    scene.show();
+    Knowledge facts = known(scene);
+    facts.colourColumns = {1};
+    facts.entry = 0;
+    scene.expectRow(0, facts);
+}
+
+TEST(ListDraw, RightAndCentredColumns)
+{
+    ListScene scene;
+    scene.addColumn(L"a", 60);
+    scene.addColumn(L"right", 80, false, LVCFMT_RIGHT);
+    scene.addColumn(L"centre", 80, false, LVCFMT_CENTER);
+    scene.list.AddItem(0, 0, L"fits", 0, -1);
+    scene.list.AddItem(0, 1, L"12", 0, -1);
+    scene.list.AddItem(0, 2, L"34", 0, -1);
+    scene.list.AddItem(1, 0, L"does not", 0, -1);
+    scene.list.AddItem(1, 1, L"a long text for the right", 0, -1);
+    scene.list.AddItem(1, 2, L"a long text for the middle", 0, -1);
+    scene.show();
+    scene.expectRow(0, known(scene));
+    scene.expectRow(1, known(scene));
+
+    // What was cut begins at the left.
+    const Picture shown = Picture::ofClient(scene.list);
+    const auto firstInk = [&](const CRect& cell) {
+        for (int x = cell.left; x < cell.right; ++x)
+            for (int y = cell.top; y < cell.bottom; ++y)
+                if (shown.at(x, y) != ::GetSysColor(COLOR_WINDOW))
+                    return x - static_cast<int>(cell.left);
+        return -1;
+    };
+    EXPECT_GT(firstInk(scene.cell(0, 1)), 50);
+    EXPECT_LT(firstInk(scene.cell(1, 1)), 10);
+    EXPECT_GE(firstInk(scene.cell(1, 1)), 6);
+    EXPECT_LT(firstInk(scene.cell(1, 2)), 10);
+}
+
+TEST(ListDraw, EmptySubitemsShowNothingNotEvenTheirColour)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    scene.addColumn(L"a", 60);
+    scene.addColumn(L"b", 80, true);
+    scene.addColumn(L"c", 80);
+    scene.list.AddItem(0, 0, L"name", kOpaque | RGB(200, 30, 30), -1);
+    scene.list.AddItem(0, 2, L"behind", 0, -1);
+    scene.show();
+    Knowledge facts = known(scene);
+    facts.colourColumns = {1};
+    facts.entry = kOpaque | RGB(200, 30, 30);
+    scene.expectRow(0, facts);
+    EXPECT_EQ(Picture::ofClient(scene.list).count(RGB(200, 30, 30)), 0);
+}
+
+TEST(ListDraw, AnEmptyLabelStillGetsItsColour)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    scene.addColumn(L"a", 60, true);
+    scene.list.AddItem(0, 0, L"", kOpaque | RGB(200, 30, 30), -1);
+    scene.show();
+    EXPECT_GT(Picture::ofClient(scene.list).count(RGB(200, 30, 30)), 300);
+}
+
+TEST(ListDraw, ColumnsNarrowerThanTheirInsets)
+{
+    for (int width = 0; width <= 24; ++width) {
+        ListScene scene;
+        scene.addColumn(L"a", 60);
+        scene.addColumn(L"b", 0, true, LVCFMT_RIGHT);
+        scene.addColumn(L"c", 50);
+        scene.list.UseRowColours(TRUE);
+        scene.list.AddItem(0, 0, L"name", 0x40000000 | RGB(200, 30, 30), -1);
+        scene.list.AddItem(0, 1, L"text", 0, -1);
+        scene.list.AddItem(0, 2, L"W", 0, -1);
+        scene.list.SetColumnWidth(1, width);
+        scene.list.SetColumnWidth(2, 24 - width);
+        scene.show();
+        Knowledge facts = known(scene);
+        facts.colourColumns = {1};
+        facts.entry = 0x40000000 | RGB(200, 30, 30);
+        scene.expectRow(0, facts);
+    }
+}
+
+TEST(ListDraw, ALastColumnLeftAndRightOfTheWindowsEdge)
+{
+    for (const int width : {50, 200, 270, 275, 280, 285, 290, 400, 900}) {
+        ListScene scene;
+        scene.fill({120, 10}, 2);
+        scene.list.SetColumnWidth(1, width);
+        scene.show();
+        scene.list.SetFocus();
+        scene.list.SetItemState(1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        scene.expectRow(0, known(scene));
+        scene.expectRow(1, known(scene));
+    }
+}
+
+TEST(ListDraw, ScrolledHorizontally)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    scene.addColumn(L"a", 300, true);
+    scene.addColumn(L"b", 300, true);
+    scene.list.AddItem(0, 0, L"one", 0x80000000 | RGB(0, 0, 200), -1);
+    scene.list.AddItem(0, 1, L"two", 0, -1);
+    scene.show();
+    scene.list.Scroll(CSize(130, 0));
+    EXPECT_EQ(scene.itemRect(0).left, -130);
+    Knowledge facts = known(scene);
+    facts.colourColumns = {0, 1};
+    facts.entry = 0x80000000 | RGB(0, 0, 200);
+    scene.expectRow(0, facts);
+}
+
+TEST(ListDraw, RightToLeft)
+{
+    ListScene scene(0, WS_EX_LAYOUTRTL);
+    scene.list.UseRowColours(TRUE);
+    scene.addColumn(L"a", 100);
+    scene.addColumn(L"b", 100, true);
+    scene.list.AddItem(0, 0, L"one", kOpaque | RGB(200, 0, 0), -1);
+    scene.list.AddItem(0, 1, L"two", 0, -1);
+    scene.list.AddItem(1, 0, L"selected", 0x80000000 | RGB(0, 0, 200), -1);
+    scene.list.AddItem(1, 1, L"three", 0, -1);
+    scene.list.SetItemState(1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    scene.show();
+    scene.list.SetFocus();
+    // The first column is at the right, the swatch left of it, and the selection reaches the left edge.
+    CRect window;
+    scene.list.GetWindowRect(&window);
+    const auto at = [&](int fromTheRight, int item) {
+        return Picture::ofScreen().at(window.right - fromTheRight, window.top + scene.itemRect(item).top + 2);
+    };
+    EXPECT_TRUE(GuiThread::runUntil([&] { return at(380, 1) == ::GetSysColor(COLOR_HIGHLIGHT); }));
+    EXPECT_THAT(at(150, 0), IsColour(RGB(200, 0, 0)));
+    EXPECT_THAT(at(50, 0), IsColour(::GetSysColor(COLOR_WINDOW)));
+    // The plain half of a swatch is its right one here.
+    EXPECT_THAT(at(105, 1), IsColour(RGB(0, 0, 200)));
+    int squares = 0;
+    for (int x = 155; x < 195; x += 2)
+        squares += isNear(at(x, 1), RGB(127, 127, 227), 1);
+    EXPECT_GT(squares, 3);
+}
+
+TEST(ListDraw, DraggingAHeaderLeavesTheCellsInTheOrderOfTheirNumbers)
+{
+    ListScene scene(0);
+    scene.list.SetExtendedStyle(LVS_EX_HEADERDRAGDROP);
+    scene.fill({100, 80, 60}, 2);
+    scene.show();
+    Robot robot;
+    robot.drag(Spot{*scene.list.GetHeaderCtrl(), CPoint(210, 8)},
+               Spot{*scene.list.GetHeaderCtrl(), CPoint(110, 8)});
+    int order[3] = {};
+    scene.list.GetColumnOrderArray(order, 3);
+    ASSERT_EQ(order[1], 2) << "the drag has moved the last column";
+    scene.expectRow(0, known(scene));
+    scene.expectRow(1, known(scene));
+}
+
+TEST(ListDraw, LeavesTheDeviceContextAsItWas)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    scene.addColumn(L"a", 60, true);
+    scene.addColumn(L"b", 60, true);
+    scene.list.AddItem(0, 0, L"one", 0x80000000, -1);
+    scene.list.AddItem(0, 1, L"two", 0, -1);
+    Picture picture(200, 60);
+    ::SetTextColor(picture.dc(), RGB(1, 2, 3));
+    ::SetBkColor(picture.dc(), RGB(4, 5, 6));
+    ::SetBkMode(picture.dc(), OPAQUE);
+    ::SetDCBrushColor(picture.dc(), RGB(7, 8, 9));
+    const HGDIOBJ brush = ::GetCurrentObject(picture.dc(), OBJ_BRUSH);
+    DRAWITEMSTRUCT draw{};
+    draw.hDC = picture.dc();
+    draw.rcItem = scene.itemRect(0);
+    scene.list.DrawItem(&draw);
+    EXPECT_EQ(::GetTextColor(picture.dc()), RGB(1, 2, 3));
+    EXPECT_EQ(::GetBkColor(picture.dc()), RGB(4, 5, 6));
+    EXPECT_EQ(::GetBkMode(picture.dc()), OPAQUE);
+    EXPECT_EQ(::GetDCBrushColor(picture.dc()), RGB(7, 8, 9));
+    EXPECT_EQ(::GetCurrentObject(picture.dc(), OBJ_BRUSH), brush);
+}
+
+TEST(ListDraw, ARowThatIsGoneIsNotDrawn)
+{
+    ListScene scene;
+    scene.fill({60}, 1);
+    Picture picture(200, 60, RGB(9, 9, 9));
+    DRAWITEMSTRUCT draw{};
+    draw.hDC = picture.dc();
+    draw.itemID = 5;
+    scene.list.DrawItem(&draw);
+    draw.itemID = static_cast<UINT>(-1);
+    scene.list.DrawItem(&draw);
+    EXPECT_EQ(picture.count(RGB(9, 9, 9)), 200 * 60);
+}
+
+TEST(ListDraw, TextsFromTheHostAreAskedForAndMayChangeTheList)
+{
+    ListScene scene;
+    scene.fill({60, 60}, 1);
+    scene.list.SetItemText(0, 0, LPSTR_TEXTCALLBACKW);
+    scene.list.SetItemText(0, 1, LPSTR_TEXTCALLBACKW);
+    int asked = 0;
+    scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFOW), [&](NMHDR* header) -> LRESULT {
+        auto& item = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
+        if (item.mask & LVIF_TEXT)
+            ::lstrcpynW(item.pszText, item.iSubItem ? L"second" : L"first", item.cchTextMax);
+        ++asked;
+        return 0;
+    });
+    scene.show();
+    scene.expectRow(0, known(scene));
+    EXPECT_GT(asked, 1);
+
+    scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFOW), [&](NMHDR*) -> LRESULT {
+        scene.list.DeleteAllItems();
+        return 0;
+    });
+    Picture picture(200, 60);
+    DRAWITEMSTRUCT draw{};
+    draw.hDC = picture.dc();
+    scene.list.DrawItem(&draw);
+    EXPECT_EQ(scene.list.GetItemCount(), 0);
+}

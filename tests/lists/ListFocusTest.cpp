@@ -1,0 +1,225 @@
+// What is painted anew when the focus comes and goes, when the window changes, and what lies right of the
+// columns.
+#include "ListScene.h"
+
+#include "support/ImportPatch.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+/// The rectangles that the library invalidates, in order.
+struct Invalidated
+{
+    HWND window;
+    CRect rect;
+    BOOL erase;
+};
+
+std::vector<Invalidated> g_invalidated;
+
+BOOL WINAPI noteInvalidated(HWND window, const RECT* rect, BOOL erase)
+{
+    g_invalidated.push_back({window, rect ? CRect(*rect) : CRect(), erase});
+    return ::InvalidateRect(window, rect, erase);
+}
+
+class ListFocus : public ::testing::TestWithParam<DWORD>
+{
+protected:
+    ListFocus()
+        : patch(L"ovoui.dll", "InvalidateRect", reinterpret_cast<void*>(&noteInvalidated))
+    {
+        g_invalidated.clear();
+    }
+
+    std::vector<Invalidated> ofList(ListScene& scene) const
+    {
+        std::vector<Invalidated> result;
+        for (const Invalidated& one : g_invalidated)
+            if (one.window == scene.list.m_hWnd)
+                result.push_back(one);
+        g_invalidated.clear();
+        return result;
+    }
+
+    static CRect rowOf(ListScene& scene, int item)
+    {
+        CRect row = scene.itemRect(item);
+        row.left = scene.rect(item, LVIR_LABEL).left;
+        return row;
+    }
+
+    ImportPatch patch;
+};
+
+} // namespace
+
+TEST_F(ListFocus, ComingAndGoingRepaintsTheFocusedAndTheSelectedRows)
+{
+    ListScene scene;
+    scene.fill({100, 500}, 6);
+    for (const int row : {1, 3})
+        scene.list.SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+    scene.list.SetItemState(4, LVIS_FOCUSED, LVIS_FOCUSED);
+    scene.show();
+    scene.button.SetFocus();
+    for (const bool coming : {true, false}) {
+        ofList(scene);
+        coming ? scene.list.SetFocus() : scene.button.SetFocus();
+        const auto rects = ofList(scene);
+        ASSERT_EQ(rects.size(), 3u) << coming;
+        EXPECT_EQ(rects[0].rect, rowOf(scene, 4));
+        EXPECT_EQ(rects[1].rect, rowOf(scene, 1));
+        EXPECT_EQ(rects[2].rect, rowOf(scene, 3));
+        for (const Invalidated& one : rects)
+            EXPECT_FALSE(one.erase);
+        EXPECT_FALSE(scene.list.GetUpdateRect(nullptr)) << "painted at once";
+    }
+}
+
+TEST_F(ListFocus, WithTheSelectionAlwaysShownOnlyTheFocusedRowIsRepainted)
+{
+    ListScene scene(LVS_SHOWSELALWAYS);
+    scene.fill({100, 500}, 6);
+    scene.list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
+    scene.list.SetItemState(4, LVIS_FOCUSED, LVIS_FOCUSED);
+    scene.show();
+    scene.button.SetFocus();
+    ofList(scene);
+    scene.list.SetFocus();
+    const auto rects = ofList(scene);
+    ASSERT_EQ(rects.size(), 1u);
+    EXPECT_EQ(rects[0].rect, rowOf(scene, 4));
+}
+
+TEST_F(ListFocus, WithNothingSelectedOrFocusedNothingIsRepainted)
+{
+    ListScene scene;
+    scene.show();
+    scene.button.SetFocus();
+    ofList(scene);
+    scene.list.SetFocus();
+    scene.button.SetFocus();
+    EXPECT_TRUE(ofList(scene).empty());
+}
+
+TEST_F(ListFocus, ALabelEditorDoesNotRepaintTheSelection)
+{
+    ListScene scene(LVS_EDITLABELS);
+    scene.fill({100, 500}, 6);
+    scene.list.SetItemState(1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    scene.show();
+    scene.list.SetFocus();
+    ofList(scene);
+    for (const WORD key : {VK_RETURN, VK_ESCAPE}) {
+        ASSERT_TRUE(scene.list.EditLabel(1));
+        ASSERT_EQ(::GetParent(::GetFocus()), scene.list.m_hWnd);
+        EXPECT_TRUE(ofList(scene).empty()) << "opening";
+        Robot().key(key);
+        ASSERT_EQ(::GetFocus(), scene.list.m_hWnd);
+        EXPECT_TRUE(ofList(scene).empty()) << "closing with key " << key;
+    }
+}
+
+TEST_F(ListFocus, OutsideReportViewNothingIsRepainted)
+{
+    ListScene scene;
+    scene.fill({100, 500}, 6);
+    scene.list.SetItemState(1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    scene.list.ModifyStyle(LVS_TYPEMASK, LVS_LIST);
+    scene.show();
+    scene.button.SetFocus();
+    ofList(scene);
+    scene.list.SetFocus();
+    scene.button.SetFocus();
+    EXPECT_TRUE(ofList(scene).empty());
+}
+
+TEST_F(ListFocus, TheListMayBeDestroyedWhenTheFocusComesOrGoes)
+{
+    for (const UINT code : {static_cast<UINT>(NM_SETFOCUS), static_cast<UINT>(NM_KILLFOCUS)}) {
+        RecordingParent parent;
+        CButton button;
+        button.Create(L"b", WS_CHILD | WS_VISIBLE, CRect(0, 120, 50, 150), &parent, 4);
+        auto list = std::make_unique<List>();
+        list->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 100), &parent, 3);
+        present(parent);
+        button.SetFocus();
+        parent.answer(code, [&](NMHDR*) -> LRESULT {
+            list.reset();
+            return 0;
+        });
+        list->SetFocus();
+        if (list)
+            button.SetFocus();
+        EXPECT_FALSE(list);
+    }
+}
+
+// Painting beside the columns
+
+TEST_F(ListFocus, PaintingReachesFromTheLastColumnToTheEdge)
+{
+    ListScene scene;
+    scene.fill({100, 80}, 3);
+    scene.show();
+    const CRect row = scene.itemRect(1);
+    scene.list.ValidateRect(nullptr);
+    ofList(scene);
+    const CRect part(20, row.top, 40, row.bottom);
+    ::InvalidateRect(scene.list, &part, FALSE);
+    scene.list.UpdateWindow();
+    CRect client;
+    scene.list.GetClientRect(&client);
+    const auto rects = ofList(scene);
+    ASSERT_EQ(rects.size(), 1u);
+    EXPECT_EQ(rects[0].rect, CRect(20, row.top, client.right, row.bottom));
+    EXPECT_FALSE(rects[0].erase);
+
+    // What begins beyond the columns is widened to the left, to the last pixel of the columns.
+    const CRect beyond(300, row.top, 320, row.bottom);
+    ::InvalidateRect(scene.list, &beyond, FALSE);
+    scene.list.UpdateWindow();
+    const auto widened = ofList(scene);
+    ASSERT_EQ(widened.size(), 1u);
+    EXPECT_EQ(widened[0].rect, CRect(179, row.top, client.right, row.bottom));
+}
+
+TEST_F(ListFocus, ColumnsThatReachTheEdgeNeedNoMore)
+{
+    ListScene scene;
+    scene.fill({100, 500}, 3);
+    scene.show();
+    ofList(scene);
+    ::InvalidateRect(scene.list, nullptr, FALSE);
+    scene.list.UpdateWindow();
+    EXPECT_TRUE(ofList(scene).empty());
+}
+
+TEST_F(ListFocus, AnEmptyListNeedsNoMore)
+{
+    ListScene scene;
+    scene.fill({100}, 0);
+    scene.show();
+    ofList(scene);
+    ::InvalidateRect(scene.list, nullptr, FALSE);
+    scene.list.UpdateWindow();
+    EXPECT_TRUE(ofList(scene).empty());
+}
+
+TEST_F(ListFocus, ASelectionFollowsTheWindowsWidth)
+{
+    ListScene scene;
+    scene.fill({100, 80}, 3);
+    scene.list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
+    scene.show();
+    scene.list.SetFocus();
+    scene.list.SetWindowPos(nullptr, 0, 0, 560, 190, SWP_NOMOVE | SWP_NOZORDER);
+    scene.list.UpdateWindow();
+    EXPECT_THAT(Picture::ofClient(scene.list).at(550, scene.itemRect(1).CenterPoint().y),
+                IsColour(::GetSysColor(COLOR_HIGHLIGHT)));
+}
