@@ -11,6 +11,8 @@
 #include <ovoui/images/AlphaImageList.h>
 #include <ovoui/lists/ColourEntry.h>
 #include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/toolbar/FlyoutToolbar.h>
+#include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/tree/DropMenu.h>
 #include <ovoui/tree/MultiTreeCtrl.h>
 #include <ovoui/tree/PlainText.h>

@@ -1,0 +1,244 @@
+// CFlyoutToolbar: the window and its entries. What follows the pointer is in FlyoutTracking.cpp.
+#include <ovoui/toolbar/FlyoutToolbar.h>
+
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/Geometry.h>
+#include <ovoui/toolbar/FlyoutTip.h>
+#include <ovoui/toolbar/ImageStrip.h>
+#include <ovoui/toolbar/VantorToolBar.h>
+#include <ovoui/toolbar/core/ButtonRows.h>
+#include <ovoui/toolbar/core/FlyoutPlacement.h>
+#include <ovoui/toolbar/core/FlyoutRecords.h>
+
+#include <set>
+
+using namespace ovoui::toolbar;
+
+IMPLEMENT_DYNAMIC(CFlyoutToolbar, CToolBar)
+
+BEGIN_MESSAGE_MAP(CFlyoutToolbar, CToolBar)
+ON_WM_TIMER()
+ON_WM_MOUSEACTIVATE()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr wchar_t kClass[] = L"OvoFlyoutToolbar";
+constexpr int kSeparatorWidth = 8;
+constexpr UINT kHoldDelay = 200; // milliseconds
+
+/// A toolbar control with a shadow, where the system has shadows.
+LPCWSTR windowClass()
+{
+    WNDCLASSW cls{};
+    if (!::GetClassInfoW(nullptr, TOOLBARCLASSNAMEW, &cls))
+        return TOOLBARCLASSNAMEW;
+    cls.style = (cls.style & ~static_cast<UINT>(CS_GLOBALCLASS)) | CS_DROPSHADOW;
+    cls.hInstance = AfxGetInstanceHandle();
+    cls.lpszClassName = kClass;
+    return AfxRegisterClass(&cls) ? kClass : TOOLBARCLASSNAMEW;
+}
+
+TBBUTTON separator()
+{
+    TBBUTTON button{};
+    button.iBitmap = kSeparatorWidth;
+    button.fsStyle = TBSTYLE_SEP;
+    button.fsState = TBSTATE_ENABLED;
+    button.iString = -1;
+    return button;
+}
+
+TBBUTTON commandButton(int command, int image)
+{
+    TBBUTTON button{};
+    button.iBitmap = image;
+    button.idCommand = command;
+    button.fsStyle = TBSTYLE_BUTTON;
+    button.fsState = TBSTATE_ENABLED;
+    button.iString = -1;
+    return button;
+}
+
+} // namespace
+
+CFlyoutToolbar::CFlyoutToolbar()
+    : m_tipDelay(::GetDoubleClickTime()) // as the platform's tooltips have it
+    , m_nextTipDelay(m_tipDelay / 5)
+    , m_tipTime(m_tipDelay * 10)
+    , m_holdDelay(kHoldDelay)
+{
+}
+
+CFlyoutToolbar::~CFlyoutToolbar()
+{
+    DestroyWindow();
+}
+
+bool CFlyoutToolbar::create(CVantorToolBar& bar, const FlyoutRecord& record, bool horizontal)
+{
+    SetBorders(1, 1, 1, 1);
+    SetBarStyle(CBRS_BORDER_ANY | (horizontal ? CBRS_ALIGN_TOP : CBRS_ALIGN_LEFT) |
+                (record.captioned ? CBRS_GRIPPER : 0));
+    m_mirrored = (bar.GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+    const DWORD exStyle = WS_EX_TOOLWINDOW | (m_mirrored ? WS_EX_LAYOUTRTL : 0);
+    constexpr DWORD kStyle =
+        WS_POPUP | TBSTYLE_FLAT | CCS_NOPARENTALIGN | CCS_NOMOVEY | CCS_NODIVIDER | CCS_NORESIZE;
+    const HWND owner = bar.commandTarget();
+    if (!CWnd::CreateEx(exStyle, windowClass(), nullptr, kStyle, 0, 0, 0, 0, owner, nullptr))
+        return false;
+    SetOwner(CWnd::FromHandle(owner));
+    CFrameWnd* const frame = bar.GetDockingFrame();
+    m_frame = frame ? frame->m_hWnd : bar.GetTopLevelFrame()->GetSafeHwnd();
+
+    SendMessage(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
+    SendMessage(TB_SETPARENT, reinterpret_cast<WPARAM>(m_hWnd)); // the owner knows nothing of this control
+    if (!(record.fromResource() ? fillFromResource(record) : fillFromCommands(record)))
+        return false;
+    SendMessage(TB_SETBUTTONSIZE, 0, bar.SendMessage(TB_GETBUTTONSIZE));
+    return !m_entries.empty();
+}
+
+// Entries
+
+bool CFlyoutToolbar::fillFromResource(const FlyoutRecord& record)
+{
+    if (!LoadToolBar(static_cast<UINT>(record.toolbarId)))
+        return false;
+    std::vector<TBBUTTON> all;
+    while (SendMessage(TB_BUTTONCOUNT) > 0) {
+        all.push_back(buttonAt(0));
+        SendMessage(TB_DELETEBUTTON, 0);
+    }
+    for (std::size_t i = 0; i < record.buttonIndices.size(); ++i) {
+        const auto index = static_cast<std::size_t>(record.buttonIndices[i]);
+        if (index < all.size())
+            addEntry(all[index], static_cast<int>(i));
+    }
+    return true;
+}
+
+bool CFlyoutToolbar::fillFromCommands(const FlyoutRecord& record)
+{
+    SendMessage(TB_SETBITMAPSIZE, 0, MAKELPARAM(record.bitmapSize, record.bitmapSize));
+    if (record.imageList) {
+        SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(record.imageList));
+    } else {
+        std::set<int> added;
+        for (const int bitmap : record.bitmapIds)
+            if (added.insert(bitmap).second)
+                addStrip(m_hWnd, bitmap, record.bitmapSize);
+    }
+    for (std::size_t i = 0; i < record.commands.size(); ++i) {
+        const int image = i < record.images.size() ? record.images[i] : I_IMAGENONE;
+        const int command = record.commands[i];
+        addEntry(command == ID_SEPARATOR ? separator() : commandButton(command, image), static_cast<int>(i));
+        m_names.push_back(i < record.names.size() ? record.names[i].value() : std::wstring());
+    }
+    return true;
+}
+
+void CFlyoutToolbar::addEntry(const TBBUTTON& button, int entry)
+{
+    if (SendMessage(TB_ADDBUTTONS, 1, reinterpret_cast<LPARAM>(&button)))
+        m_entries.push_back(entry);
+}
+
+TBBUTTON CFlyoutToolbar::buttonAt(int index) const
+{
+    TBBUTTON button{};
+    ::SendMessageW(m_hWnd, TB_GETBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&button));
+    return button;
+}
+
+// Place
+
+void CFlyoutToolbar::placeAt(const CRect& button, bool horizontal)
+{
+    CRect inside(0, 0, 0, 0);
+    CalcInsideRect(inside, horizontal);
+    const CSize around(-inside.Width(), -inside.Height());
+    const CRect area(GetWorkArea(button));
+    breakRowsFor(area.Size() - around, horizontal);
+    const CSize size = sizeOfEntries() + around;
+
+    using namespace ovoui::frame;
+    RECT place = toRect(flyoutPlace(toBox(button), size.cx, size.cy, horizontal, m_mirrored));
+    EnsureRectVisible(place);
+    SetWindowPos(nullptr, place.left, place.top, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+/// A flyout that is longer than the work area gets several rows, or columns.
+void CFlyoutToolbar::breakRowsFor(const CSize& room, bool horizontal)
+{
+    std::vector<RowItem> items;
+    for (int i = 0; i < static_cast<int>(m_entries.size()); ++i) {
+        CRect rect;
+        GetItemRect(i, &rect);
+        RowItem item;
+        item.width = rect.Width();
+        item.separator = (buttonAt(i).fsStyle & TBSTYLE_SEP) != 0;
+        items.push_back(item);
+    }
+    const int height = HIWORD(SendMessage(TB_GETBUTTONSIZE));
+    splitRows(items, horizontal ? room.cx : 0);
+    if (!horizontal && sizeOfRows(items, height).height > room.cy)
+        splitRows(items, widthForHeight(items, height, room.cy));
+    for (int i = 0; i < static_cast<int>(items.size()); ++i)
+        if (items[static_cast<std::size_t>(i)].endsRow)
+            SetButtonStyle(i, GetButtonStyle(i) | TBBS_WRAPPED);
+}
+
+CSize CFlyoutToolbar::sizeOfEntries() const
+{
+    CRect all(0, 0, 0, 0);
+    for (int i = 0; i < static_cast<int>(m_entries.size()); ++i) {
+        CRect rect;
+        GetItemRect(i, &rect);
+        all.UnionRect(all, rect);
+    }
+    return CSize(all.right, all.bottom);
+}
+
+// Life
+
+bool CFlyoutToolbar::showLater()
+{
+    return SetTimer(kHoldTimer, m_holdDelay, nullptr) != 0;
+}
+
+void CFlyoutToolbar::show()
+{
+    const std::shared_ptr<CFlyoutToolbar> self = shared_from_this();
+    if (CWnd* const owner = GetOwner()) // only asked as a command target
+        OnUpdateCmdUI(static_cast<CFrameWnd*>(owner), TRUE);
+    if (!m_hWnd)
+        return; // an update handler has closed it
+    constexpr UINT kInPlace = SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE;
+    SetWindowPos(&wndTop, 0, 0, 0, 0, kInPlace | SWP_SHOWWINDOW);
+}
+
+BOOL CFlyoutToolbar::DestroyWindow()
+{
+    if (!m_hWnd)
+        return FALSE;
+    if (m_hot >= 0)
+        showPrompt(AFX_IDS_IDLEMESSAGE);
+    m_tip.reset();
+    return CToolBar::DestroyWindow();
+}
+
+/// A call into the host's code may close the flyout: it stays until the message is handled.
+LRESULT CFlyoutToolbar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const std::shared_ptr<CFlyoutToolbar> self = weak_from_this().lock();
+    if (message == WM_NOTIFY)
+        return 0; // of this control itself
+    return CToolBar::WindowProc(message, wParam, lParam);
+}
+
+int CFlyoutToolbar::OnMouseActivate(CWnd*, UINT, UINT)
+{
+    return MA_NOACTIVATE;
+}

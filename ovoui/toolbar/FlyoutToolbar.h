@@ -1,0 +1,94 @@
+/// The flyout of a toolbar's button: a small flat toolbar that pops up beside it. CVantorToolBar opens it and
+/// moves it along with the mouse, which the bar has captured.
+#pragma once
+
+#include <ovoui/export.h>
+
+#include <afxext.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+class CFlyoutTip;
+class CVantorToolBar;
+
+namespace ovoui::toolbar
+{
+struct FlyoutRecord;
+}
+
+class OVOUI_API CFlyoutToolbar : public CToolBar, public std::enable_shared_from_this<CFlyoutToolbar>
+{
+    DECLARE_DYNAMIC(CFlyoutToolbar)
+
+public:
+    /// What is under the pointer.
+    struct Entry
+    {
+        int index = -1; ///< in the order in which the entries were attached; -1 for none
+        int command = 0;
+        bool enabled = false;
+
+        bool isHot() const { return index >= 0; }
+    };
+
+    CFlyoutToolbar();
+    ~CFlyoutToolbar() override;
+
+    /// Makes the window, hidden, with the entries of a record. False on failure.
+    bool create(CVantorToolBar& bar, const ovoui::toolbar::FlyoutRecord& record, bool horizontal);
+    /// Puts it below or beside a button, in screen pixels, inside the work area.
+    void placeAt(const CRect& button, bool horizontal);
+
+    /// Brings the entries up to date and shows them, without activating anything.
+    void show();
+    /// The same after the hold delay. False when there is no timer.
+    bool showLater();
+
+    /// Whether it is shown and the point of the screen lies in it, its border included.
+    bool covers(CPoint screen) const;
+    /// The pointer is at this point of the screen: makes the entry there hot.
+    Entry track(CPoint screen);
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    BOOL DestroyWindow() override;
+
+protected:
+    UINT m_tipDelay;     ///< in milliseconds, until the first tip is shown
+    UINT m_nextTipDelay; ///< until one is shown after it
+    UINT m_tipTime;      ///< how long a tip stays
+
+    afx_msg void OnTimer(UINT_PTR id);
+    afx_msg int OnMouseActivate(CWnd* top, UINT hitTest, UINT message);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    static constexpr UINT_PTR kHoldTimer = 42;
+    static constexpr UINT_PTR kTipTimer = 43;
+    static constexpr UINT_PTR kTipEndTimer = 44;
+
+    bool fillFromResource(const ovoui::toolbar::FlyoutRecord& record);
+    bool fillFromCommands(const ovoui::toolbar::FlyoutRecord& record);
+    void addEntry(const TBBUTTON& button, int entry);
+    void breakRowsFor(const CSize& room, bool horizontal);
+    CSize sizeOfEntries() const;
+
+    TBBUTTON buttonAt(int index) const;
+    int buttonUnder(CPoint screen) const;
+    void makeHot(int index);
+    void showPressed(int index, bool pressed);
+    void showPrompt(UINT id) const;
+    std::wstring tipText() const;
+    void showTip();
+    void hideTip();
+
+    HWND m_frame = nullptr; ///< whose message line shows the prompts
+    bool m_mirrored = false;
+    UINT m_holdDelay;
+    std::vector<int> m_entries;        ///< by button: the entry in the record
+    std::vector<std::wstring> m_names; ///< by entry
+    int m_hot = -1;                    ///< index of the hot button
+    bool m_tipWasShown = false;
+    std::unique_ptr<CFlyoutTip> m_tip;
+};

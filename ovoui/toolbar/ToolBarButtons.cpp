@@ -1,0 +1,159 @@
+// CVantorToolBar: its buttons and their images.
+#include <ovoui/toolbar/ImageStrip.h>
+#include <ovoui/toolbar/ToolBarState.h>
+#include <ovoui/toolbar/core/BarRules.h>
+#include <ovoui/toolbar/core/FlyoutGesture.h>
+
+#include <string_view>
+
+using namespace ovoui::toolbar;
+
+namespace
+{
+
+/// The text of a button that has one of its own, not one of the control's list.
+const wchar_t* ownText(const TBBUTTON& button)
+{
+    const bool isPointer = button.iString != -1 && !IS_INTRESOURCE(button.iString);
+    return isPointer ? reinterpret_cast<const wchar_t*>(button.iString) : nullptr;
+}
+
+ButtonFields fieldsOf(const TBBUTTON& button)
+{
+    return {button.iBitmap, button.idCommand, button.fsState, button.fsStyle, button.dwData, button.iString};
+}
+
+ButtonChange changeBetween(const TBBUTTON& before, const TBBUTTON& after)
+{
+    ButtonFields wanted = fieldsOf(after);
+    const wchar_t* const one = ownText(before);
+    const wchar_t* const other = ownText(after);
+    if (one && other && std::wstring_view(one) == other)
+        wanted.text = before.iString; // the same words elsewhere
+    return changeOf(fieldsOf(before), wanted);
+}
+
+/// While it lives the window does not redraw, and afterwards no more of it is invalid than before.
+class QuietChange
+{
+public:
+    explicit QuietChange(HWND wnd)
+        : m_wnd(wnd)
+        , m_invalid(::CreateRectRgn(0, 0, 0, 0))
+    {
+        ::GetUpdateRgn(m_wnd, m_invalid, FALSE);
+        ::SendMessageW(m_wnd, WM_SETREDRAW, FALSE, 0);
+    }
+    ~QuietChange()
+    {
+        // Wine's toolbar invalidates all of itself when it may redraw again.
+        ::SendMessageW(m_wnd, WM_SETREDRAW, TRUE, 0);
+        ::ValidateRect(m_wnd, nullptr);
+        ::InvalidateRgn(m_wnd, m_invalid, TRUE);
+        ::DeleteObject(m_invalid);
+    }
+    QuietChange(const QuietChange&) = delete;
+    QuietChange& operator=(const QuietChange&) = delete;
+
+private:
+    HWND m_wnd;
+    HRGN m_invalid;
+};
+
+} // namespace
+
+int CVantorToolBar::buttonCount() const
+{
+    return m_hWnd ? static_cast<int>(::SendMessageW(m_hWnd, TB_BUTTONCOUNT, 0, 0)) : 0;
+}
+
+bool CVantorToolBar::hasButton(int index) const
+{
+    return index >= 0 && index < buttonCount();
+}
+
+std::vector<TBBUTTON> CVantorToolBar::allButtons() const
+{
+    std::vector<TBBUTTON> buttons(static_cast<std::size_t>(buttonCount()));
+    for (std::size_t i = 0; i < buttons.size(); ++i)
+        _getButton(static_cast<int>(i), &buttons[i]);
+    return buttons;
+}
+
+BOOL CVantorToolBar::InsertButton(int index, TBBUTTON* button)
+{
+    if (m_state->records.insert(index) && ms_pressedBar == this)
+        ms_dragButton = afterInsertion(ms_dragButton, index);
+    if (!button)
+        return 1;
+    return static_cast<BOOL>(
+        SendMessage(TB_INSERTBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(button)));
+}
+
+BOOL CVantorToolBar::DeleteButton(int index)
+{
+    m_state->records.erase(index);
+    if (ms_pressedBar == this && index >= 0) {
+        if (ms_dragButton == index)
+            closeFlyout();
+        ms_dragButton = afterDeletion(ms_dragButton, index);
+    }
+    return static_cast<BOOL>(SendMessage(TB_DELETEBUTTON, static_cast<WPARAM>(index)));
+}
+
+void CVantorToolBar::_getButton(int index, TBBUTTON* button) const
+{
+    *button = {};
+    ::SendMessageW(m_hWnd, TB_GETBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(button));
+}
+
+void CVantorToolBar::_setButton(int index, const TBBUTTON* button)
+{
+    if (!hasButton(index))
+        return;
+    TBBUTTON before;
+    _getButton(index, &before);
+    const ButtonChange change = changeBetween(before, *button);
+    if (change == ButtonChange::None)
+        return;
+
+    TBBUTTON wanted = *button;
+    std::wstring text; // the control frees its copy with the button
+    if (const wchar_t* const words = ownText(wanted)) {
+        text = words;
+        wanted.iString = reinterpret_cast<INT_PTR>(text.c_str());
+    }
+    const std::shared_ptr<State> state = m_state;
+    {
+        const QuietChange quiet(m_hWnd);
+        SendMessage(TB_DELETEBUTTON, static_cast<WPARAM>(index)); // tells the owner
+        if (state->usable())
+            SendMessage(TB_INSERTBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&wanted));
+    }
+    if (!state->usable())
+        return;
+    CRect rect;
+    if (change == ButtonChange::Look && SendMessage(TB_GETITEMRECT, static_cast<WPARAM>(index),
+                                                    reinterpret_cast<LPARAM>(static_cast<RECT*>(&rect))))
+        InvalidateRect(&rect);
+    else
+        Invalidate();
+}
+
+// Images
+
+void CVantorToolBar::noteBitmap(int bitmapId, int offset)
+{
+    m_state->bitmapOffsets[bitmapId] = offset;
+}
+
+int CVantorToolBar::AddBitmap(int bitmapId, int bitmapSize)
+{
+    const auto noted = m_state->bitmapOffsets.find(bitmapId);
+    if (noted != m_state->bitmapOffsets.end())
+        return noted->second;
+    const int first = addStrip(m_hWnd, bitmapId, bitmapSize);
+    if (first >= 0)
+        noteBitmap(bitmapId, first);
+    return first;
+}

@@ -1,0 +1,242 @@
+// CVantorToolBar: press a button, hold it, slide to an entry of its flyout, release.
+#include <ovoui/frame/Geometry.h>
+#include <ovoui/toolbar/FlyoutToolbar.h>
+#include <ovoui/toolbar/ToolBarState.h>
+#include <ovoui/toolbar/core/FlyoutGesture.h>
+#include <ovoui/toolbar/core/FlyoutPlacement.h>
+
+#include <utility>
+
+using namespace ovoui::toolbar;
+
+namespace
+{
+
+EntryState stateOf(const CFlyoutToolbar::Entry& entry)
+{
+    if (!entry.isHot())
+        return EntryState::None;
+    return entry.enabled ? EntryState::Enabled : EntryState::Disabled;
+}
+
+} // namespace
+
+Press CVantorToolBar::press()
+{
+    return {ms_dragging, ms_dragButton, ms_popupBar != nullptr};
+}
+
+bool CVantorToolBar::isPressed() const
+{
+    return ms_dragging && ms_pressedBar == this;
+}
+
+void CVantorToolBar::closeFlyout()
+{
+    if (const std::shared_ptr<CFlyoutToolbar> flyout = std::exchange(ms_popupBar, nullptr))
+        flyout->DestroyWindow();
+}
+
+void CVantorToolBar::endPress()
+{
+    ms_dragging = false;
+    ms_dragButton = kNoButton;
+    ms_pressedBar = nullptr;
+    closeFlyout();
+}
+
+void CVantorToolBar::ActivateApp(BOOL active)
+{
+    if (!active && ms_dragging)
+        endPress();
+}
+
+bool CVantorToolBar::ButtonHitTest(CPoint point, int& index, CRect& rect, bool& hasFlyout) const
+{
+    const int count = buttonCount();
+    for (int i = 0; i < count; ++i) {
+        CRect item;
+        if (!GetToolBarCtrl().GetItemRect(i, &item) || !item.PtInRect(point))
+            continue;
+        ClientToScreen(&item);
+        index = i;
+        rect = item;
+        hasFlyout = HasFlyout(i);
+        return true;
+    }
+    return false;
+}
+
+// The press
+
+void CVantorToolBar::OnLButtonDown(UINT flags, CPoint point)
+{
+    const std::shared_ptr<State> state = m_state;
+    ButtonUnderPointer under;
+    CRect rect;
+    ButtonHitTest(point, under.index, rect, under.hasFlyout);
+    const MoveOutcome outcome = onPress(press(), under);
+    if (outcome.action == FlyoutAction::OpenHeld) {
+        CreatePopup(under.index, rect, 1);
+        if (!state->usable())
+            return;
+        ms_pressedBar = this;
+        ms_dragButton = outcome.next.button;
+        ms_dragging = true;
+    }
+    CToolBar::OnLButtonDown(flags, point);
+    // The control may leave the mouse alone, on a disabled button for one.
+    if (state->usable() && isPressed() && ::GetCapture() != m_hWnd)
+        SetCapture();
+}
+
+void CVantorToolBar::CreatePopup(int index, const CRect& rect, int held)
+{
+    const std::shared_ptr<State> state = m_state;
+    closeFlyout();
+    const FlyoutRecord* const record = state->records.find(index);
+    if (!record)
+        return;
+    const auto flyout = std::make_shared<CFlyoutToolbar>();
+    const bool horizontal = isHorizontal();
+    if (!flyout->create(*this, FlyoutRecord(*record), horizontal))
+        return;
+    ms_popupBar = flyout;
+    flyout->placeAt(rect, horizontal);
+    if (!held || !flyout->showLater())
+        flyout->show();
+}
+
+bool CVantorToolBar::isHorizontal() const
+{
+    BarPosition position;
+    position.floating = IsFloating();
+    position.rows = GetToolBarCtrl().GetRows();
+    position.atTheSide = (m_dwStyle & CBRS_ORIENT_VERT) != 0;
+    return ovoui::toolbar::isHorizontal(position);
+}
+
+// The slide
+
+void CVantorToolBar::OnMouseMove(UINT flags, CPoint point)
+{
+    const std::shared_ptr<State> state = m_state;
+    if (isPressed())
+        slide(point);
+    if (state->usable())
+        CToolBar::OnMouseMove(flags, point);
+}
+
+void CVantorToolBar::slide(CPoint point)
+{
+    const std::shared_ptr<State> state = m_state;
+    CPoint screen = point;
+    ClientToScreen(&screen);
+    ButtonUnderPointer under;
+    CRect rect;
+    ButtonHitTest(point, under.index, rect, under.hasFlyout);
+    const MoveOutcome outcome = onMove(press(), under, ms_popupBar && ms_popupBar->covers(screen));
+    ms_dragButton = outcome.next.button;
+    switch (outcome.action) {
+    case FlyoutAction::OpenNow:
+        CreatePopup(under.index, rect, 0);
+        break;
+    case FlyoutAction::Close:
+        closeFlyout();
+        break;
+    default:
+        break;
+    }
+    if (outcome.tracks && state->usable() && isPressed() && ms_popupBar)
+        ms_popupBar->track(screen);
+}
+
+// The release
+
+void CVantorToolBar::OnLButtonUp(UINT flags, CPoint point)
+{
+    const std::shared_ptr<State> state = m_state;
+    const bool chosen = isPressed() && choose(point);
+    if (!state->usable())
+        return;
+    endPress();
+    if (chosen)
+        releaseQuietly(flags, point);
+    else
+        CToolBar::OnLButtonUp(flags, point);
+    if (state->usable() && ::GetCapture() == m_hWnd)
+        ::ReleaseCapture();
+}
+
+/// Makes the entry under the pointer the button's command and issues it. False when there is none.
+bool CVantorToolBar::choose(CPoint point)
+{
+    const std::shared_ptr<CFlyoutToolbar> flyout = ms_popupBar;
+    ClientToScreen(&point);
+    const CFlyoutToolbar::Entry entry = flyout ? flyout->track(point) : CFlyoutToolbar::Entry{};
+    const ReleaseOutcome outcome = onRelease(press(), stateOf(entry));
+    const FlyoutRecord* const record = m_state->records.find(ms_dragButton);
+    if (!outcome.chooses || !record || !hasButton(ms_dragButton))
+        return false;
+    TBBUTTON button;
+    _getButton(ms_dragButton, &button);
+    const int image = imageOfEntry(*record, entry.index, button.iBitmap);
+    const HWND bar = m_hWnd;
+    const HWND target = commandTarget();
+    showChoice(ms_dragButton, entry.command, image);
+    if (outcome.sendsCommand)
+        ::PostMessageW(target, WM_COMMAND, static_cast<WORD>(entry.command), reinterpret_cast<LPARAM>(bar));
+    return true;
+}
+
+/// Of what the button was only the end of its row stays.
+void CVantorToolBar::showChoice(int index, int command, int image)
+{
+    TBBUTTON button;
+    _getButton(index, &button);
+    button.idCommand = command;
+    button.iBitmap = image;
+    button.fsState = static_cast<BYTE>((button.fsState & TBSTATE_WRAP) | TBSTATE_ENABLED);
+    button.fsStyle = TBSTYLE_BUTTON;
+    _setButton(index, &button);
+}
+
+/// Lets the control end its own press while the button under the pointer cannot fire.
+void CVantorToolBar::releaseQuietly(UINT flags, CPoint point)
+{
+    const std::shared_ptr<State> state = m_state;
+    CPoint hit = point;
+    const int index = GetToolBarCtrl().HitTest(&hit);
+    const bool quiet = index >= 0 && index < buttonCount() && !(GetButtonStyle(index) & TBBS_DISABLED);
+    if (quiet)
+        SetButtonStyle(index, GetButtonStyle(index) | TBBS_DISABLED);
+    CToolBar::OnLButtonUp(flags, point);
+    if (quiet && state->usable() && index < buttonCount())
+        SetButtonStyle(index, GetButtonStyle(index) & ~static_cast<UINT>(TBBS_DISABLED));
+}
+
+void CVantorToolBar::OnCaptureChanged(CWnd* now)
+{
+    const std::shared_ptr<State> state = m_state;
+    CToolBar::OnCaptureChanged(now);
+    if (state->usable() && isPressed() && now->GetSafeHwnd() != m_hWnd)
+        endPress();
+}
+
+// The double click
+
+void CVantorToolBar::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    int index = kNoButton;
+    CRect rect;
+    bool hasFlyout = false;
+    if (ButtonHitTest(point, index, rect, hasFlyout)) {
+        TBBUTTON button;
+        _getButton(index, &button);
+        CWnd* const mainWnd = AfxGetMainWnd();
+        if (button.idCommand != 0 && mainWnd &&
+            SendMessage(TB_ISBUTTONENABLED, static_cast<WPARAM>(button.idCommand)))
+            mainWnd->PostMessage(WM_OVO_TOOLBAR_DBLCLK, static_cast<WPARAM>(button.idCommand));
+    }
+    CToolBar::OnLButtonDblClk(flags, point);
+}

@@ -1,0 +1,140 @@
+// CVantorToolBar: painting, and controls that draw themselves.
+#include <ovoui/frame/ThemeData.h>
+#include <ovoui/toolbar/ToolBarState.h>
+
+namespace
+{
+
+constexpr int kDot = 2;     // pixels of a dot of the gripper, its shadow included
+constexpr int kDotStep = 4; // from dot to dot
+constexpr int kDotMargin = 3;
+
+/// A dot with a light edge at its lower right.
+void drawDot(CDC& dc, int x, int y)
+{
+    dc.FillSolidRect(x + 1, y + 1, kDot, kDot, ::GetSysColor(COLOR_BTNHIGHLIGHT));
+    dc.FillSolidRect(x, y, kDot, kDot, ::GetSysColor(COLOR_BTNSHADOW));
+}
+
+/// The text of an item of a list or combo box.
+std::wstring itemText(const DRAWITEMSTRUCT& item)
+{
+    const bool combo = item.CtlType == ODT_COMBOBOX;
+    const LRESULT length =
+        ::SendMessageW(item.hwndItem, combo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, item.itemID, 0);
+    if (length <= 0)
+        return {};
+    std::wstring text(static_cast<std::size_t>(length), L'\0');
+    ::SendMessageW(item.hwndItem, combo ? CB_GETLBTEXT : LB_GETTEXT, item.itemID,
+                   reinterpret_cast<LPARAM>(text.data()));
+    return text;
+}
+
+/// Whether the items are texts, which can be asked for.
+bool hasTexts(const DRAWITEMSTRUCT& item)
+{
+    const LONG_PTR style = ::GetWindowLongPtrW(item.hwndItem, GWL_STYLE);
+    return (item.CtlType == ODT_COMBOBOX && (style & CBS_HASSTRINGS)) ||
+           (item.CtlType == ODT_LISTBOX && (style & LBS_HASSTRINGS));
+}
+
+void drawTextItem(const DRAWITEMSTRUCT& item)
+{
+    const bool selected = (item.itemState & ODS_SELECTED) != 0;
+    const bool disabled = (item.itemState & ODS_DISABLED) != 0;
+    CRect rect(item.rcItem);
+    CDC& dc = *CDC::FromHandle(item.hDC);
+    dc.FillSolidRect(rect, ::GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    if (item.itemID != static_cast<UINT>(-1)) {
+        const int colour = disabled ? COLOR_GRAYTEXT : selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT;
+        const COLORREF before = dc.SetTextColor(::GetSysColor(colour));
+        rect.DeflateRect(2, 0);
+        const std::wstring text = itemText(item);
+        dc.DrawText(text.c_str(), static_cast<int>(text.size()), &rect,
+                    DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+        dc.SetTextColor(before);
+    }
+    if ((item.itemState & ODS_FOCUS) && !(item.itemState & ODS_NOFOCUSRECT))
+        ::DrawFocusRect(item.hDC, &item.rcItem);
+}
+
+int textHeight(HWND control)
+{
+    CClientDC dc(CWnd::FromHandle(control));
+    const auto font = reinterpret_cast<HFONT>(::SendMessageW(control, WM_GETFONT, 0, 0));
+    const HGDIOBJ before = font ? ::SelectObject(dc.m_hDC, font) : nullptr;
+    TEXTMETRIC metrics{};
+    dc.GetTextMetrics(&metrics);
+    if (before)
+        ::SelectObject(dc.m_hDC, before);
+    return metrics.tmHeight;
+}
+
+} // namespace
+
+void CVantorToolBar::OnPaint()
+{
+    CToolBar::OnPaint();
+}
+
+// The gripper
+
+void CVantorToolBar::DrawGripper(CDC* dc, const CRect& rect)
+{
+    const bool shown = (m_dwStyle & (CBRS_GRIPPER | CBRS_FLOATING)) == CBRS_GRIPPER;
+    if (shown)
+        DrawNCGripper(dc, rect);
+}
+
+/// With visual styles a row of dots, without them the framework's gripper.
+void CVantorToolBar::DrawNCGripper(CDC* dc, const CRect& rect)
+{
+    if (!CThemeData::getThemeData().IsAppThemed()) {
+        CToolBar::DrawGripper(dc, rect);
+        return;
+    }
+    if (m_dwStyle & CBRS_ORIENT_HORZ) {
+        for (int y = rect.top + kDotMargin; y + kDot < rect.bottom - kDotMargin; y += kDotStep)
+            drawDot(*dc, rect.left + kDotMargin, y);
+        return;
+    }
+    for (int x = rect.left + kDotMargin; x + kDot < rect.right - kDotMargin; x += kDotStep)
+        drawDot(*dc, x, rect.top + kDotMargin);
+}
+
+// Controls that draw themselves: what neither they nor the owner draws or measures is plain text.
+
+void CVantorToolBar::OnDrawItem(int id, LPDRAWITEMSTRUCT item)
+{
+    const std::shared_ptr<State> state = m_state;
+    LRESULT drawn = 0;
+    if (ReflectLastMsg(item->hwndItem, &drawn) || !state->usable())
+        return;
+    const CWnd* const owner = GetOwner();
+    if (owner && owner->SendMessage(WM_DRAWITEM, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(item)))
+        return;
+    if (::IsWindow(item->hwndItem) && hasTexts(*item))
+        drawTextItem(*item);
+}
+
+void CVantorToolBar::OnMeasureItem(int id, LPMEASUREITEMSTRUCT item)
+{
+    const std::shared_ptr<State> state = m_state;
+    const HWND control = ::GetDlgItem(m_hWnd, id);
+    LRESULT measured = 0;
+    if (ReflectLastMsg(control, &measured) || !state->usable())
+        return;
+    const CWnd* const owner = GetOwner();
+    if (owner && owner->SendMessage(WM_MEASUREITEM, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(item)))
+        return;
+    if (::IsWindow(control))
+        item->itemHeight = static_cast<UINT>(textHeight(control) + 2);
+}
+
+// Settings of the system
+
+void CVantorToolBar::OnSettingChange(UINT flags, LPCTSTR section)
+{
+    CToolBar::OnSettingChange(flags, section);
+    Invalidate();
+}

@@ -1,0 +1,33 @@
+/// Not exported: what a toolbar keeps. It outlives the bar while a call into the host's code is under way.
+#pragma once
+
+#include <ovoui/toolbar/VantorToolBar.h>
+#include <ovoui/toolbar/core/FlyoutRecords.h>
+
+#include <map>
+#include <set>
+
+struct CVantorToolBar::State
+{
+    explicit State(CVantorToolBar& owner)
+        : bar(&owner)
+    {
+    }
+
+    /// Whether the bar and its window are still there.
+    bool usable() const { return bar && bar->m_hWnd; }
+
+    /// Where the images of a strip begin; 0 for one that was not noted.
+    int offsetOf(int bitmapId) const
+    {
+        const auto found = bitmapOffsets.find(bitmapId);
+        return found == bitmapOffsets.end() ? 0 : found->second;
+    }
+
+    CVantorToolBar* bar; ///< null once it is destroyed
+    ovoui::toolbar::FlyoutRecords records;
+    std::map<int, int> bitmapOffsets; ///< where the images of a strip begin, by its resource
+    ControlCallback callback = nullptr;
+    int floatWidth = 0x7FFF;       ///< of the rows when the bar last floated
+    std::set<int> controlsPutAway; ///< hidden because the bar is vertical
+};

@@ -1,0 +1,132 @@
+// CVantorToolBar: its life, updates and notifications.
+#include <ovoui/toolbar/VantorToolBar.h>
+
+#include <ovoui/toolbar/FlyoutToolbar.h>
+#include <ovoui/toolbar/ToolBarState.h>
+#include <ovoui/toolbar/core/BarRules.h>
+
+#include <afxpriv.h>
+
+using namespace ovoui::toolbar;
+
+IMPLEMENT_DYNAMIC(CVantorToolBar, CToolBar)
+
+BEGIN_MESSAGE_MAP(CVantorToolBar, CToolBar)
+// mouse
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONUP()
+ON_WM_MOUSEMOVE()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_CAPTURECHANGED()
+// painting, controls that draw themselves
+ON_WM_PAINT()
+ON_WM_DRAWITEM()
+ON_WM_MEASUREITEM()
+// the rest
+ON_WM_TIMER()
+ON_WM_SETTINGCHANGE()
+ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr UINT_PTR kIdleTimer = 42;
+constexpr UINT kIdleDelay = 250; // milliseconds
+
+} // namespace
+
+std::shared_ptr<CFlyoutToolbar> CVantorToolBar::ms_popupBar;
+bool CVantorToolBar::ms_dragging = false;
+int CVantorToolBar::ms_dragButton = -1;
+bool CVantorToolBar::ms_idleTimerPending = false;
+DWORD CVantorToolBar::ms_apiRestartedTickCount = 0;
+CVantorToolBar* CVantorToolBar::ms_pressedBar = nullptr;
+
+CVantorToolBar::CVantorToolBar()
+    : m_state(std::make_shared<State>(*this))
+{
+}
+
+CVantorToolBar::~CVantorToolBar()
+{
+    if (ms_pressedBar == this)
+        endPress();
+    DestroyWindow(); // while the handlers of this class still answer
+    m_state->bar = nullptr;
+}
+
+void CVantorToolBar::OnDestroy()
+{
+    if (ms_pressedBar == this)
+        endPress();
+    CToolBar::OnDestroy();
+}
+
+// Updates
+
+HWND CVantorToolBar::commandTarget() const
+{
+    if (const CWnd* owner = GetOwner()) // its parent if no owner was set
+        return owner->m_hWnd;
+    return GetParentFrame()->GetSafeHwnd();
+}
+
+void CVantorToolBar::OnUpdateCmdUI(CFrameWnd*, BOOL disableIfNoHandler)
+{
+    // The target need not be a frame: it is only asked as a command target.
+    if (CWnd* target = CWnd::FromHandle(commandTarget()))
+        CToolBar::OnUpdateCmdUI(static_cast<CFrameWnd*>(target), disableIfNoHandler);
+}
+
+LRESULT CVantorToolBar::OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM lParam)
+{
+    if (updatesRest(::GetTickCount(), ms_apiRestartedTickCount)) {
+        SetTimer(kIdleTimer, kIdleDelay, nullptr);
+        ms_idleTimerPending = true;
+        return 0;
+    }
+    if (std::exchange(ms_idleTimerPending, false))
+        KillTimer(kIdleTimer);
+    return CToolBar::WindowProc(WM_IDLEUPDATECMDUI, disableIfNoHandler, lParam);
+}
+
+void CVantorToolBar::OnTimer(UINT_PTR id)
+{
+    if (id != kIdleTimer) {
+        CToolBar::OnTimer(id);
+        return;
+    }
+    KillTimer(kIdleTimer);
+    ms_idleTimerPending = false;
+    PostMessage(WM_IDLEUPDATECMDUI, TRUE);
+}
+
+// Messages, notifications of embedded controls
+
+LRESULT CVantorToolBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message) {
+    case WM_IDLEUPDATECMDUI:
+        return OnIdleUpdateCmdUI(wParam, lParam);
+    case WM_COMMAND:
+        return onControlCommand(wParam, lParam);
+    default:
+        return CToolBar::WindowProc(message, wParam, lParam);
+    }
+}
+
+LRESULT CVantorToolBar::onControlCommand(WPARAM wParam, LPARAM lParam)
+{
+    const std::shared_ptr<State> state = m_state;
+    const LRESULT result = CToolBar::WindowProc(WM_COMMAND, wParam, lParam);
+    const UINT code = HIWORD(wParam);
+    if (!state->usable() || !state->callback || !reachesCallback(code))
+        return result;
+    return state->callback(this, code, LOWORD(wParam), nullptr) ? result : 0;
+}
+
+void CVantorToolBar::SetControlCallback(ControlCallback callback)
+{
+    m_state->callback = callback;
+}

@@ -1,0 +1,178 @@
+/// A toolbar whose buttons can carry flyouts, and which hosts edits and combo boxes.
+///
+///     bar.CreateEx(this, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_TOOLTIPS);
+///     bar.LoadToolBar(IDR_DRAW);
+///     bar.AttachBar(2, IDR_SHAPES, 16, {0, 1, 3}, false); // the third button offers three shapes
+///
+/// The user presses such a button and holds it: its flyout opens, and the entry over which the mouse is
+/// released becomes the button's command and is issued. A quick click is the button's own command as ever.
+///
+/// The application passes WM_ACTIVATEAPP on to ActivateApp. A control inside the bar is a child of it whose
+/// number is the command of the separator that keeps its place.
+#pragma once
+
+#include <ovoui/export.h>
+
+#include <ovocor/Quark.h>
+
+#include <afxext.h>
+
+#include <memory>
+#include <vector>
+
+class CFlyoutToolbar;
+
+namespace ovoui::toolbar
+{
+struct FlyoutRecord;
+struct Press;
+} // namespace ovoui::toolbar
+
+/// Posted to the thread's main window when a button of a bar is double-clicked; wParam: its command.
+#define WM_OVO_TOOLBAR_DBLCLK 3586
+
+class OVOUI_API CVantorToolBar : public CToolBar
+{
+    DECLARE_DYNAMIC(CVantorToolBar)
+
+public:
+    /// Told of what an embedded control notifies, after the bar's owner. Zero makes zero the answer to the
+    /// control; any other result leaves the owner's. The last argument is null.
+    using ControlCallback = LRESULT (*)(CVantorToolBar* bar, UINT code, UINT id, void* data);
+
+    CVantorToolBar();
+    /// Closes the flyout if it is this bar's.
+    ~CVantorToolBar() override;
+
+    // Flyouts. Buttons count from 0, separators included; of a button that the bar does not have nothing is
+    // done.
+
+    /// Buttons of a toolbar resource, by their indices in it, separators counted. Each index is also the
+    /// image that the bar's button gets with the entry, as it stands. The resource's bitmap, of images
+    /// `bitmapSize` pixels wide, is added to the bar's images. `styleFlag` gives the flyout's window a grip.
+    void AttachBar(int button, int toolbarId, int bitmapSize, const std::vector<int>& buttonIndices,
+                   bool styleFlag);
+
+    /// A list of commands; 0 makes a separator. `images` are indices among the bar's images, and the flyout
+    /// shows the same; with `shiftImages` each is counted from where the strip `bitmapIds[i]` begins
+    /// (noteBitmap). In a bar without an image list the strips `bitmapIds` are added, to the bar and to the
+    /// flyout. `names` serve as tips for commands that have no string. The image list stays the bar's; it
+    /// must live as long as the record, or be replaced by AttachBar.
+    void AttachBar(int button, int bitmapSize, const std::vector<int>& commands,
+                   const std::vector<int>& bitmapIds, const std::vector<int>& images,
+                   const std::vector<Quark>& names, bool styleFlag, bool shiftImages);
+
+    void DetachBar(int button);
+    void DetachAllBars();
+    /// The flyout of another bar's button, or none if that has none. Nothing is done without `from`.
+    void CopyBar(int button, const CVantorToolBar* from, int fromButton);
+    bool HasFlyout(int button) const;
+    /// False for a button without a flyout; an empty list for one of a toolbar resource.
+    bool GetBarCommands(int button, std::vector<int>& commands) const;
+    /// The size in pixels of the images in flyouts that are lists of commands.
+    void UpdateBarBitmapSize(int size);
+
+    /// Closes the open flyout when the application is deactivated.
+    static void ActivateApp(BOOL active);
+
+    // Buttons. The flyouts stay with theirs.
+
+    /// Without a button only the records behind `index` move up, and the result is 1; otherwise it is the
+    /// control's.
+    BOOL InsertButton(int index, TBBUTTON* button);
+    BOOL DeleteButton(int index);
+
+    /// Adds the strip of a bitmap resource, with images `bitmapSize` pixels wide, to the bar's images, once.
+    /// Index of its first image, -1 on failure.
+    int AddBitmap(int bitmapId, int bitmapSize);
+
+    void SetControlCallback(ControlCallback callback);
+
+    /// Set by the host to GetTickCount when it restarts its command interface: for a quarter of a second
+    /// after it the buttons are not updated.
+    static DWORD ms_apiRestartedTickCount;
+
+    // Layout, in pixels
+
+    /// The size of rows that are broken where TBSTATE_WRAP says.
+    CSize calcSize(const TBBUTTON* buttons, int count) const;
+    /// Breaks the rows, in `buttons` only, so that they are no wider, or with `vertical` no higher, than
+    /// `length`.
+    void sizeToolBar(TBBUTTON* buttons, int count, int length, bool vertical = false) const;
+    /// The bar's size for LM_ bits. Without a length, or with LM_COMMIT, the bar takes this layout on: rows
+    /// are broken, embedded controls moved to their places, and hidden while the bar is vertical.
+    CSize calcLayout(DWORD mode, int length = -1);
+    CSize CalcFixedLayout(BOOL stretch, BOOL horizontal) override;
+    CSize CalcDynamicLayout(int length, DWORD mode) override;
+
+    /// Asks the bar's owner, else its parent, else its parent frame; `target` is ignored.
+    void OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler) override;
+    LRESULT OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM);
+
+    BOOL PreTranslateMessage(MSG* message) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void DrawGripper(CDC* dc, const CRect& rect) override;
+
+protected:
+    // One flyout is open at a time, whichever bar it belongs to.
+    static std::shared_ptr<CFlyoutToolbar> ms_popupBar;
+    static bool ms_dragging;         ///< from the press on a flyout button to the release
+    static int ms_dragButton;        ///< whose flyout is open; -1 for none
+    static bool ms_idleTimerPending; ///< a bar waits to update its buttons
+
+    /// The button at a client point: its index, its rectangle on the screen, and whether it has a flyout.
+    /// False where there is none; the results are left alone.
+    bool ButtonHitTest(CPoint point, int& index, CRect& rect, bool& hasFlyout) const;
+    /// Opens the flyout of a button whose rectangle on the screen is given, in place of the one that is open.
+    /// `held` makes it show itself after the hold delay.
+    void CreatePopup(int index, const CRect& rect, int held);
+    /// The images of a strip begin at this index of the bar's images.
+    void noteBitmap(int bitmapId, int offset);
+    void _getButton(int index, TBBUTTON* button) const;
+    /// Replaces a button that differs in more than being enabled.
+    void _setButton(int index, const TBBUTTON* button);
+    /// Called for the gripper of a docked bar.
+    virtual void DrawNCGripper(CDC* dc, const CRect& rect);
+
+    // mouse
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* now);
+    // painting, controls that draw themselves
+    afx_msg void OnPaint();
+    afx_msg void OnDrawItem(int id, LPDRAWITEMSTRUCT item);
+    afx_msg void OnMeasureItem(int id, LPMEASUREITEMSTRUCT item);
+    // the rest
+    afx_msg void OnTimer(UINT_PTR id);
+    afx_msg void OnSettingChange(UINT flags, LPCTSTR section);
+    afx_msg void OnDestroy();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    friend class CFlyoutToolbar;
+    struct State;
+
+    static ovoui::toolbar::Press press();
+    static void closeFlyout();
+    static void endPress();
+    bool isPressed() const;
+    void slide(CPoint point);
+    bool choose(CPoint point);
+    void releaseQuietly(UINT flags, CPoint point);
+    void showChoice(int index, int command, int image);
+    bool isHorizontal() const;
+    LRESULT onControlCommand(WPARAM wParam, LPARAM lParam);
+    void postEndOfInput(HWND target);
+    bool hasButton(int index) const;
+    int buttonCount() const;
+    std::vector<TBBUTTON> allButtons() const;
+    void takeLayout(const std::vector<TBBUTTON>& buttons, bool horizontal);
+    HWND controlAt(const TBBUTTON& button) const;
+    HWND commandTarget() const;
+
+    static CVantorToolBar* ms_pressedBar; ///< whose button is being pressed
+
+    std::shared_ptr<State> m_state;
+};

@@ -1,0 +1,42 @@
+#include <ovoui/toolbar/core/FlyoutGesture.h>
+
+namespace ovoui::toolbar
+{
+
+MoveOutcome onPress(const Press& now, const ButtonUnderPointer& under)
+{
+    if (now.dragging || under.index == kNoButton || !under.hasFlyout)
+        return {FlyoutAction::Keep, now, false};
+    return {FlyoutAction::OpenHeld, {true, under.index, true}, false};
+}
+
+MoveOutcome onMove(const Press& now, const ButtonUnderPointer& under, bool overFlyout)
+{
+    if (!now.dragging)
+        return {FlyoutAction::Keep, now, false};
+    if (overFlyout || under.index == kNoButton || under.index == now.button)
+        return {FlyoutAction::Keep, now, now.open};
+    if (!under.hasFlyout)
+        return {now.open ? FlyoutAction::Close : FlyoutAction::Keep, {true, kNoButton, false}, false};
+    return {FlyoutAction::OpenNow, {true, under.index, true}, true};
+}
+
+ReleaseOutcome onRelease(const Press& now, EntryState entry)
+{
+    const bool chooses = now.dragging && now.open && now.button != kNoButton && entry != EntryState::None;
+    return {chooses, chooses && entry == EntryState::Enabled};
+}
+
+int afterInsertion(int button, int inserted)
+{
+    return button != kNoButton && inserted <= button ? button + 1 : button;
+}
+
+int afterDeletion(int button, int deleted)
+{
+    if (button == kNoButton || deleted > button)
+        return button;
+    return deleted == button ? kNoButton : button - 1;
+}
+
+} // namespace ovoui::toolbar

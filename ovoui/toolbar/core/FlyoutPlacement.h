@@ -1,0 +1,25 @@
+/// Where a flyout goes. Plain values, no windows.
+#pragma once
+
+#include <ovoui/frame/core/Placement.h>
+
+namespace ovoui::toolbar
+{
+
+/// How a bar lies.
+struct BarPosition
+{
+    bool floating = false;
+    int rows = 1;           ///< of buttons; matters for a floating bar
+    bool atTheSide = false; ///< docked left or right; matters for a docked bar
+};
+
+/// A floating bar is horizontal while it has one row, a docked one unless it is docked at the side.
+bool isHorizontal(const BarPosition& bar);
+
+/// Where the top left corner of a flyout of this size belongs: below the button of a horizontal bar, beside
+/// that of a vertical one. In a mirrored bar it ends at the button's right edge, or at its left one.
+frame::Box flyoutPlace(const frame::Box& button, int width, int height, bool horizontal,
+                       bool mirrored = false);
+
+} // namespace ovoui::toolbar

@@ -1,0 +1,29 @@
+# Toolbars whose buttons carry flyouts.
+set(toolbar_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/BarRules.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ButtonRows.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ControlKeys.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutGesture.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutPlacement.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutRecords.cpp)
+
+if(NOT WIN32)
+  add_library(ovoui_toolbar_core STATIC ${toolbar_core})
+  target_include_directories(ovoui_toolbar_core PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(ovoui_toolbar_core PUBLIC ovocor_core PRIVATE ovo_flags)
+  return()
+endif()
+
+target_sources(ovoui PRIVATE
+  ${toolbar_core}
+  ${CMAKE_CURRENT_LIST_DIR}/FlyoutTip.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FlyoutToolbar.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FlyoutTracking.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ImageStrip.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarButtons.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarFlyouts.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarGesture.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarKeys.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarLayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarPaint.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/VantorToolBar.cpp)

@@ -1,0 +1,68 @@
+// Where flyouts go: docked on every side and floating, in and at the edges of a work area.
+#include <ovoui/toolbar/core/FlyoutPlacement.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovoui::toolbar;
+using ovoui::frame::Box;
+
+namespace
+{
+
+constexpr Box kArea{0, 0, 1000, 800};
+constexpr int kWidth = 120;
+constexpr int kHeight = 30;
+
+Box buttonAt(int left, int top)
+{
+    return {left, top, left + 24, top + 22};
+}
+
+} // namespace
+
+TEST(FlyoutPlacement, ADockedBarIsHorizontalUnlessItLiesAtTheSide)
+{
+    for (const int rows : {1, 2, 7}) {
+        EXPECT_TRUE(isHorizontal({false, rows, false}));
+        EXPECT_FALSE(isHorizontal({false, rows, true}));
+    }
+}
+
+TEST(FlyoutPlacement, AFloatingBarIsHorizontalWithOneRow)
+{
+    for (const bool atTheSide : {false, true}) {
+        EXPECT_TRUE(isHorizontal({true, 1, atTheSide}));
+        EXPECT_FALSE(isHorizontal({true, 2, atTheSide}));
+        EXPECT_FALSE(isHorizontal({true, 0, atTheSide}));
+    }
+}
+
+TEST(FlyoutPlacement, BelowTheButtonOrBesideIt)
+{
+    const Box button = buttonAt(100, 50);
+    EXPECT_EQ(flyoutPlace(button, kWidth, kHeight, true), (Box{100, 72, 220, 102}));
+    EXPECT_EQ(flyoutPlace(button, kWidth, kHeight, false), (Box{124, 50, 244, 80}));
+}
+
+TEST(FlyoutPlacement, InAMirroredBarOnTheOtherSide)
+{
+    const Box button = buttonAt(500, 50);
+    EXPECT_EQ(flyoutPlace(button, kWidth, kHeight, true, true), (Box{404, 72, 524, 102}));
+    EXPECT_EQ(flyoutPlace(button, kWidth, kHeight, false, true), (Box{380, 50, 500, 80}));
+}
+
+TEST(FlyoutPlacement, PulledIntoTheWorkAreaWithItsSize)
+{
+    for (int left = -60; left <= 1040; left += 20)
+        for (int top = -40; top <= 820; top += 20)
+            for (const bool horizontal : {true, false}) {
+                const Box wanted = flyoutPlace(buttonAt(left, top), kWidth, kHeight, horizontal);
+                const Box place = ovoui::frame::movedInto(wanted, kArea);
+                EXPECT_EQ(place.width(), kWidth);
+                EXPECT_EQ(place.height(), kHeight);
+                EXPECT_GE(place.left, kArea.left);
+                EXPECT_GE(place.top, kArea.top);
+                EXPECT_LE(place.right, kArea.right);
+                EXPECT_LE(place.bottom, kArea.bottom);
+            }
+}
