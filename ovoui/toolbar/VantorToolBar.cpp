@@ -7,6 +7,8 @@
 
 #include <afxpriv.h>
 
+#include <utility>
+
 using namespace ovoui::toolbar;
 
 IMPLEMENT_DYNAMIC(CVantorToolBar, CToolBar)

@@ -1,0 +1,176 @@
+// Single buttons: hit test, reading, replacing, and what is painted anew.
+#include "ToolBarScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+CRect itemRect(const TestBar& bar, int index)
+{
+    CRect rect;
+    bar.GetItemRect(index, &rect);
+    return rect;
+}
+
+/// What a change makes invalid.
+CRect invalidAfter(TestBar& bar, const std::function<void()>& change)
+{
+    GuiThread::settle();
+    bar.UpdateWindow();
+    bar.ValidateRect(nullptr);
+    change();
+    CRect invalid(0, 0, 0, 0);
+    bar.GetUpdateRect(&invalid);
+    return invalid;
+}
+
+CRect clientOf(const TestBar& bar)
+{
+    CRect client;
+    bar.GetClientRect(&client);
+    return client;
+}
+
+} // namespace
+
+TEST(BarButtonHit, FindsTheButtonItsPlaceOnTheScreenAndItsFlyout)
+{
+    BarScene scene;
+    for (int i = 0; i < 5; ++i) {
+        const CRect item = itemRect(scene.bar(), i);
+        CRect onScreen = item;
+        scene.bar().ClientToScreen(&onScreen);
+        for (const CPoint point :
+             {item.TopLeft(), item.CenterPoint(), CPoint(item.right - 1, item.bottom - 1)}) {
+            int index = -9;
+            CRect rect;
+            bool hasFlyout = false;
+            ASSERT_TRUE(scene.bar().ButtonHitTest(point, index, rect, hasFlyout));
+            EXPECT_EQ(index, i);
+            EXPECT_EQ(rect, onScreen);
+            EXPECT_EQ(hasFlyout, i == BarScene::Lines || i == BarScene::Shapes);
+        }
+    }
+}
+
+TEST(BarButtonHit, NoButtonLeavesTheResultsAlone)
+{
+    BarScene scene;
+    int index = -9;
+    CRect rect(1, 2, 3, 4);
+    bool hasFlyout = true;
+    for (const CPoint point : {CPoint(-1, 5), CPoint(5, -1), CPoint(2000, 5), CPoint(5, 2000)})
+        EXPECT_FALSE(scene.bar().ButtonHitTest(point, index, rect, hasFlyout));
+    EXPECT_EQ(index, -9);
+    EXPECT_EQ(rect, CRect(1, 2, 3, 4));
+    EXPECT_TRUE(hasFlyout);
+}
+
+TEST(BarButtonHit, AHiddenButtonIsNotThere)
+{
+    BarScene scene;
+    const CPoint first = itemRect(scene.bar(), 0).CenterPoint();
+    scene.bar().SetButtonStyle(0, TBBS_BUTTON | TBBS_HIDDEN);
+    int index = -9;
+    CRect rect;
+    bool hasFlyout = false;
+    ASSERT_TRUE(scene.bar().ButtonHitTest(first, index, rect, hasFlyout));
+    EXPECT_EQ(index, 1);
+}
+
+TEST(BarButton, AnEqualOneChangesNothing)
+{
+    BarScene scene;
+    TBBUTTON button;
+    scene.bar()._getButton(0, &button);
+    EXPECT_EQ(button.idCommand, ID_PLAIN);
+    int deletions = 0;
+    scene.frame().onNotify = [&](NMHDR* header) {
+        deletions += header->code == TBN_DELETINGBUTTON;
+        return 0;
+    };
+    EXPECT_TRUE(invalidAfter(scene.bar(), [&] { scene.bar()._setButton(0, &button); }).IsRectEmpty());
+    button.fsState ^= TBSTATE_ENABLED;
+    button.bReserved[0] = 1;
+    button.bReserved[1] = 2;
+    EXPECT_TRUE(invalidAfter(scene.bar(), [&] { scene.bar()._setButton(0, &button); }).IsRectEmpty());
+    EXPECT_EQ(deletions, 0);
+    EXPECT_FALSE(scene.bar().GetButtonStyle(0) & TBBS_DISABLED);
+}
+
+TEST(BarButton, AnotherLookPaintsItsRectangleOnly)
+{
+    BarScene scene;
+    TBBUTTON button;
+    scene.bar()._getButton(1, &button);
+    button.idCommand = ID_ARC;
+    button.iBitmap = 6;
+    button.fsState |= TBSTATE_CHECKED;
+    const CRect invalid = invalidAfter(scene.bar(), [&] { scene.bar()._setButton(1, &button); });
+    EXPECT_EQ(invalid, itemRect(scene.bar(), 1));
+    TBBUTTON after;
+    scene.bar()._getButton(1, &after);
+    EXPECT_EQ(after.idCommand, ID_ARC);
+    EXPECT_EQ(after.iBitmap, 6);
+    EXPECT_EQ(after.fsState, button.fsState);
+    EXPECT_EQ(scene.bar().SendMessage(TB_BUTTONCOUNT), 5);
+    EXPECT_TRUE(scene.bar().HasFlyout(1)) << "the flyout stays";
+}
+
+TEST(BarButton, WhatWasInvalidBeforeStaysSo)
+{
+    BarScene scene;
+    TBBUTTON button;
+    scene.bar()._getButton(1, &button);
+    button.iBitmap = 6;
+    const CRect other = itemRect(scene.bar(), 4);
+    const CRect invalid = invalidAfter(scene.bar(), [&] {
+        scene.bar().InvalidateRect(&other);
+        scene.bar()._setButton(1, &button);
+    });
+    CRect both;
+    both.UnionRect(other, itemRect(scene.bar(), 1));
+    EXPECT_EQ(invalid, both);
+}
+
+TEST(BarButton, AnotherWidthPaintsTheWholeBar)
+{
+    BarScene scene;
+    TBBUTTON button;
+    scene.bar()._getButton(BarScene::Gap, &button);
+    button.iBitmap = 40;
+    EXPECT_EQ(invalidAfter(scene.bar(), [&] { scene.bar()._setButton(BarScene::Gap, &button); }),
+              clientOf(scene.bar()));
+    EXPECT_EQ(itemRect(scene.bar(), BarScene::Gap).Width(), 40);
+
+    scene.bar()._getButton(0, &button);
+    button.fsStyle = TBSTYLE_AUTOSIZE;
+    EXPECT_EQ(invalidAfter(scene.bar(), [&] { scene.bar()._setButton(0, &button); }), clientOf(scene.bar()));
+}
+
+TEST(BarButton, ItsTextSurvivesTheReplacement)
+{
+    BarScene scene;
+    scene.bar().SetButtonText(0, L"Words of its own");
+    TBBUTTON button;
+    scene.bar()._getButton(0, &button);
+    button.iBitmap = 3;
+    scene.bar()._setButton(0, &button);
+    EXPECT_EQ(scene.bar().GetButtonText(0), CString(L"Words of its own"));
+    EXPECT_EQ(scene.image(0), 3);
+}
+
+TEST(BarButton, BeyondTheLastNothingHappens)
+{
+    BarScene scene;
+    TBBUTTON button;
+    scene.bar()._getButton(99, &button);
+    EXPECT_EQ(button.idCommand, 0);
+    button.idCommand = 5;
+    scene.bar()._setButton(99, &button);
+    scene.bar()._setButton(-1, &button);
+    EXPECT_EQ(scene.bar().SendMessage(TB_BUTTONCOUNT), 5);
+}
