@@ -10,6 +10,9 @@
 #include <ovoui/images/AlphaImageButton.h>
 #include <ovoui/images/AlphaImageList.h>
 #include <ovoui/lists/ColourEntry.h>
+#include <ovoui/lists/ComboBox.h>
+#include <ovoui/lists/ComboBoxDeletion.h>
+#include <ovoui/lists/ComboFunctions.h>
 #include <ovoui/lists/ListCtrlEx.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/VantorToolBar.h>

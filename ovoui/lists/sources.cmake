@@ -1,6 +1,7 @@
 # Lists: the extended list control and the completing combo box.
 set(lists_core
   ${CMAKE_CURRENT_LIST_DIR}/core/Checkerboard.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ComboRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/EntryColours.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/RowLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ShortText.cpp)
@@ -15,5 +16,7 @@ endif()
 target_sources(ovoui PRIVATE
   ${lists_core}
   ${CMAKE_CURRENT_LIST_DIR}/ColourEntry.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ComboBox.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ComboFunctions.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCtrlEx.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListRowPainter.cpp)

@@ -1,0 +1,374 @@
+#include <ovoui/lists/ComboBox.h>
+
+#include <ovoui/lists/Alive.h>
+#include <ovoui/lists/core/ComboRules.h>
+
+#include <memory>
+#include <utility>
+
+using namespace ovoui::lists;
+
+BEGIN_MESSAGE_MAP(COVOComboBox, CComboBox)
+ON_CONTROL_REFLECT(CBN_EDITUPDATE, &COVOComboBox::OnEditUpdate)
+ON_CONTROL_REFLECT_EX(CBN_SETFOCUS, &COVOComboBox::OnSetFocus)
+ON_CONTROL_REFLECT_EX(CBN_KILLFOCUS, &COVOComboBox::OnKillFocus)
+ON_CONTROL_REFLECT_EX(CBN_SELENDOK, &COVOComboBox::OnSelEndOk)
+ON_CONTROL_REFLECT_EX(CBN_CLOSEUP, &COVOComboBox::OnCloseup)
+END_MESSAGE_MAP()
+
+namespace
+{
+
+// Commands that the control posts to itself, so that the messages before a key are handled first.
+constexpr WPARAM kReturn = 0x0400;
+constexpr WPARAM kEscape = 0x0401;
+constexpr WPARAM kUp = 0x0402;
+constexpr WPARAM kDown = 0x0403;
+
+constexpr DWORD kNoEditField = static_cast<DWORD>(-1);
+
+/// Sets a flag of a combo box until the end of the scope, which the combo box may not live to see.
+class OwnChange
+{
+public:
+    OwnChange(const CWnd& combo, bool& flag)
+        : m_combo(combo)
+        , m_window(combo.m_hWnd)
+        , m_flag(flag)
+    {
+        m_flag = true;
+    }
+    ~OwnChange()
+    {
+        if (isAlive(&m_combo, m_window))
+            m_flag = false;
+    }
+    OwnChange(const OwnChange&) = delete;
+    OwnChange& operator=(const OwnChange&) = delete;
+
+private:
+    const CWnd& m_combo;
+    const HWND m_window;
+    bool& m_flag;
+};
+
+ComboKey keyOf(WPARAM virtualKey)
+{
+    switch (virtualKey) {
+    case VK_RETURN:
+        return ComboKey::Return;
+    case VK_ESCAPE:
+        return ComboKey::Escape;
+    case VK_UP:
+        return ComboKey::Up;
+    case VK_DOWN:
+        return ComboKey::Down;
+    default:
+        return ComboKey::Other;
+    }
+}
+
+/// 0 for none.
+WPARAM commandOf(KeyEffect effect)
+{
+    switch (effect) {
+    case KeyEffect::Return:
+        return kReturn;
+    case KeyEffect::Escape:
+        return kEscape;
+    case KeyEffect::Up:
+        return kUp;
+    case KeyEffect::Down:
+        return kDown;
+    case KeyEffect::PassOn:
+        break;
+    }
+    return 0;
+}
+
+UINT codeOf(Told told)
+{
+    switch (told) {
+    case Told::SelChange:
+        return CBN_SELCHANGE;
+    case Told::SelEndOk:
+        return CBN_SELENDOK;
+    case Told::SelEndCancel:
+        return CBN_SELENDCANCEL;
+    case Told::Return:
+        return OVOCBN_RETURN;
+    case Told::Up:
+        return OVOCBN_UP;
+    case Told::Down:
+        break;
+    }
+    return OVOCBN_DOWN;
+}
+
+} // namespace
+
+COVOComboBox::COVOComboBox() = default;
+
+COVOComboBox::~COVOComboBox()
+{
+    m_deletionObserver = nullptr;
+}
+
+void COVOComboBox::AutoComplete(bool complete)
+{
+    m_autoComplete = complete;
+}
+
+bool COVOComboBox::AutoComplete() const
+{
+    return m_autoComplete;
+}
+
+void COVOComboBox::TextMayBeEmpty(bool mayBe)
+{
+    m_textMayBeEmpty = mayBe;
+}
+
+void COVOComboBox::ConfirmAnyText(bool confirm)
+{
+    m_confirmAnyText = confirm;
+}
+
+void COVOComboBox::NotifyEditReturn(bool notify)
+{
+    m_notifyEditReturn = notify;
+}
+
+void COVOComboBox::AutoDelete(bool autoDelete)
+{
+    m_autoDelete = autoDelete;
+}
+
+void COVOComboBox::AutoDeleteNotify(COVOComboBoxDeletion* observer)
+{
+    m_deletionObserver = observer;
+}
+
+bool COVOComboBox::SelectListboxFromText()
+{
+    return selectString(*this, editText().c_str(), false) != -1;
+}
+
+ComboSettings COVOComboBox::settings() const
+{
+    return {m_autoComplete, m_confirmAnyText, m_notifyEditReturn};
+}
+
+std::wstring COVOComboBox::editText() const
+{
+    CString text;
+    GetWindowText(text);
+    return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
+}
+
+std::wstring COVOComboBox::itemText(int item) const
+{
+    CString text;
+    GetLBText(item, text);
+    return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
+}
+
+bool COVOComboBox::changed() const
+{
+    const int selection = GetCurSel();
+    return selection != m_savedSelection || (selection == -1 && editText() != m_savedText);
+}
+
+// Keys
+
+BOOL COVOComboBox::PreTranslateMessage(MSG* pMsg)
+{
+    if (pMsg->message != WM_KEYDOWN)
+        return CWnd::PreTranslateMessage(pMsg);
+    if (m_autoComplete)
+        m_completionAllowed = pMsg->wParam != VK_BACK && pMsg->wParam != VK_DELETE;
+    const ComboKey key = keyOf(pMsg->wParam);
+    const bool isChanged = key == ComboKey::Escape && changed();
+    const bool isDropped = (key == ComboKey::Up || key == ComboKey::Down) && GetDroppedState();
+    const WPARAM command = commandOf(effectOf(key, isChanged, isDropped));
+    if (command == 0)
+        return CWnd::PreTranslateMessage(pMsg);
+    PostMessage(WM_COMMAND, command, 0);
+    return TRUE;
+}
+
+BOOL COVOComboBox::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    const HWND window = m_hWnd;
+    if (lParam == 0) {
+        switch (wParam) {
+        case kReturn:
+            onReturn();
+            break;
+        case kEscape:
+            carryOut(afterEscape());
+            break;
+        case kUp:
+            onArrow(Told::Up);
+            break;
+        case kDown:
+            onArrow(Told::Down);
+            break;
+        }
+    }
+    return !isAlive(this, window) || CWnd::OnCommand(wParam, lParam);
+}
+
+void COVOComboBox::onReturn()
+{
+    const HWND window = m_hWnd;
+    const bool dropped = GetDroppedState();
+    const int selection = dropped ? GetCurSel() : -1;
+    const bool match = matches(takingOf(dropped, selection != -1, settings()), selection);
+    if (isAlive(this, window))
+        carryOut(afterReturn(match, dropped, settings()));
+}
+
+void COVOComboBox::onArrow(Told arrow)
+{
+    const bool match = SelectListboxFromText();
+    carryOut(afterArrow(match, arrow, settings()));
+}
+
+// Judging the text
+
+/// Closing the list calls the host: the combo box may be gone afterwards, which makes it no match.
+bool COVOComboBox::matches(const Taking& taking, int listSelection)
+{
+    const HWND window = m_hWnd;
+    if (taking.closesList)
+        ShowDropDown(FALSE);
+    if (!isAlive(this, window))
+        return false;
+    if (taking.selectsAgain)
+        SetCurSel(listSelection);
+    else if (taking.looksUpText)
+        return SelectListboxFromText();
+    return taking.selectsAgain;
+}
+
+void COVOComboBox::restore()
+{
+    SetCurSel(m_savedSelection);
+    if (m_savedSelection == -1)
+        SetWindowText(m_savedText.c_str());
+}
+
+void COVOComboBox::carryOut(const Verdict& verdict)
+{
+    if (verdict.restores)
+        restore();
+    for (const Told told : verdict.told)
+        if (!tell(codeOf(told)))
+            return;
+}
+
+/// False when the combo box is gone afterwards.
+bool COVOComboBox::tell(UINT code)
+{
+    const HWND window = m_hWnd;
+    if (CWnd* const parent = GetParent())
+        parent->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), code), reinterpret_cast<LPARAM>(window));
+    return isAlive(this, window);
+}
+
+// Completion
+
+void COVOComboBox::OnEditUpdate()
+{
+    if (m_autoComplete && m_completionAllowed && !m_completing)
+        complete();
+}
+
+void COVOComboBox::complete()
+{
+    const std::wstring text = editText();
+    const DWORD selection = GetEditSel();
+    const int item = completionOf(
+        text, GetCount(), [&](int after) { return FindString(after, text.c_str()); },
+        [this](int index) { return itemText(index); });
+    if (item == -1)
+        return;
+    // What changes the text here is no typing, and is not to be completed in its turn.
+    const HWND window = m_hWnd;
+    const OwnChange change(*this, m_completing);
+    SetWindowText(itemText(item).c_str());
+    if (isAlive(this, window))
+        selectTail(selection, text.size());
+}
+
+/// Selects what was added, so that typing replaces it; leaves a selection further left as it was.
+void COVOComboBox::selectTail(DWORD before, std::size_t typed)
+{
+    if (before == kNoEditField || HIWORD(before) >= typed)
+        SetEditSel(static_cast<int>(typed), -1);
+    else
+        SetEditSel(LOWORD(before), HIWORD(before));
+}
+
+// Focus and list. Each answers FALSE, so that the parent hears of it too, unless the combo box has gone
+// meanwhile.
+
+BOOL COVOComboBox::OnSetFocus()
+{
+    // A parent may fill the list when it is about to open: that is needed before anything is typed.
+    if (m_autoComplete && !GetDroppedState())
+        if (!tell(CBN_DROPDOWN) || !tell(CBN_CLOSEUP))
+            return TRUE;
+    m_savedSelection = GetCurSel();
+    m_savedText = m_savedSelection == -1 ? editText() : std::wstring();
+    return FALSE;
+}
+
+BOOL COVOComboBox::OnKillFocus()
+{
+    const HWND window = m_hWnd;
+    const bool dropped = GetDroppedState();
+    const int selection = dropped ? GetCurSel() : -1;
+    const bool match = matches(takingOf(dropped, selection != -1, settings()), selection);
+    if (isAlive(this, window))
+        carryOut(afterFocusLost(match, changed(), settings()));
+    return !isAlive(this, window);
+}
+
+BOOL COVOComboBox::OnSelEndOk()
+{
+    m_savedSelection = GetCurSel();
+    if (m_savedSelection != -1) {
+        SetCurSel(m_savedSelection);
+        m_savedText.clear();
+    } else {
+        m_savedText = editText();
+    }
+    return FALSE;
+}
+
+BOOL COVOComboBox::OnCloseup()
+{
+    const int selection = GetCurSel();
+    if (selection == -1)
+        return FALSE;
+    const std::wstring text = editText();
+    if (text != itemText(selection)) {
+        SetCurSel(-1);
+        SetWindowText(text.c_str());
+    }
+    return FALSE;
+}
+
+// End
+
+void COVOComboBox::PostNcDestroy()
+{
+    CWnd::PostNcDestroy();
+    if (!m_autoDelete)
+        return;
+    const std::unique_ptr<COVOComboBox> gone(this); // also when the observer throws
+    if (COVOComboBoxDeletion* const observer = std::exchange(m_deletionObserver, nullptr))
+        observer->OnComboBoxDeleted(this);
+}

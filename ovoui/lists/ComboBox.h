@@ -1,0 +1,105 @@
+/// A combo box that completes what is typed and decides whether to accept it.
+///
+///     COVOComboBox name;
+///     name.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | CBS_DROPDOWN, rect, this, IDC_NAME);
+///     name.AddString(L"Herbs");
+///     name.ConfirmAnyText(true); // names that are not in the list are fine
+///
+///     ON_CBN_SELENDOK(IDC_NAME, OnNameChosen)
+#pragma once
+
+#include <ovoui/export.h>
+#include <ovoui/lists/ComboBoxDeletion.h>
+#include <ovoui/lists/ComboFunctions.h>
+
+#include <afxwin.h>
+
+#include <string>
+
+// Notifications beside those of any combo box; only with NotifyEditReturn.
+constexpr UINT OVOCBN_RETURN = 0x40; ///< Enter was pressed while the list was closed
+constexpr UINT OVOCBN_UP = 0x41;     ///< the up arrow, while the list was closed
+constexpr UINT OVOCBN_DOWN = 0x42;   ///< the down arrow, while the list was closed
+
+namespace ovoui::lists
+{
+struct ComboSettings;
+struct Taking;
+struct Verdict;
+enum class Told;
+} // namespace ovoui::lists
+
+/// To be made with the style CBS_DROPDOWN, since it needs an edit field.
+///
+/// On Enter, on the arrow keys while the list is closed, and when the focus leaves, the text is accepted if
+/// it is an item: the parent gets CBN_SELCHANGE and CBN_SELENDOK. When the focus leaves with another text,
+/// and on Escape, what was there before comes back: the parent gets CBN_SELCHANGE and CBN_SELENDCANCEL. The
+/// notifications go to the parent with SendMessage; it may destroy the combo box in any of them.
+class OVOUI_API COVOComboBox : public CComboBox
+{
+public:
+    COVOComboBox();
+    ~COVOComboBox() override;
+
+    /// Whether typing completes the text from the list. On at first. Without it a text is also not looked up
+    /// in the list when it is judged while the list is closed, except by the arrow keys.
+    void AutoComplete(bool complete);
+    bool AutoComplete() const;
+
+    /// A note of the host's: the control keeps it and does nothing with it.
+    void TextMayBeEmpty(bool mayBe);
+
+    /// Whether a text that is no item is accepted too. Off at first.
+    void ConfirmAnyText(bool confirm);
+
+    /// Whether the parent also gets OVOCBN_RETURN, OVOCBN_UP and OVOCBN_DOWN. Off at first.
+    void NotifyEditReturn(bool notify);
+
+    /// Whether the object, which must have been made with new then, deletes itself when its window has gone.
+    void AutoDelete(bool autoDelete);
+
+    /// Who is told before the object deletes itself: the host's, and alive until then. Null for nobody.
+    void AutoDeleteNotify(COVOComboBoxDeletion* observer);
+
+    /// Selects the item that is exactly the edit field's text. False when there is none.
+    bool SelectListboxFromText();
+
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    void PostNcDestroy() override;
+
+    afx_msg void OnEditUpdate();
+    afx_msg BOOL OnSetFocus();
+    afx_msg BOOL OnKillFocus();
+    afx_msg BOOL OnSelEndOk();
+    afx_msg BOOL OnCloseup();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    ovoui::lists::ComboSettings settings() const;
+    std::wstring editText() const;
+    std::wstring itemText(int item) const;
+    bool changed() const;
+
+    void onReturn();
+    void onArrow(ovoui::lists::Told arrow);
+    void complete();
+    void selectTail(DWORD before, std::size_t typed);
+    bool matches(const ovoui::lists::Taking& taking, int listSelection);
+    void restore();
+    void carryOut(const ovoui::lists::Verdict& verdict);
+    bool tell(UINT code);
+
+    COVOComboBoxDeletion* m_deletionObserver = nullptr;
+    bool m_autoDelete = false;
+    bool m_autoComplete = true;
+    bool m_completionAllowed = true; ///< false after Backspace and Delete
+    int m_savedSelection = -1;
+    std::wstring m_savedText; ///< only when nothing was selected
+    bool m_textMayBeEmpty = true;
+    bool m_confirmAnyText = false;
+    bool m_notifyEditReturn = false;
+    bool m_completing = false; ///< the control itself is changing the text
+};

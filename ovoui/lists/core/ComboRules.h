@@ -1,0 +1,111 @@
+/// What keys and a loss of focus lead to in a completing combo box: plain values, no windows.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ovoui::lists
+{
+
+/// As the host has set them.
+struct ComboSettings
+{
+    bool autoComplete = true;
+    bool confirmAnyText = false;   ///< text that is no item is accepted too
+    bool notifyEditReturn = false; ///< the parent is told of Enter and the arrow keys
+};
+
+// Keys
+
+enum class ComboKey
+{
+    Return,
+    Escape,
+    Up,
+    Down,
+    Other
+};
+
+enum class KeyEffect
+{
+    PassOn, ///< the key goes where it was going
+    Return, ///< the others are taken from the edit field, and handled after the messages on their way to it
+    Escape,
+    Up,
+    Down
+};
+
+/// `changed` matters for Escape only, `dropped` (the list is open) for the arrows only.
+KeyEffect effectOf(ComboKey key, bool changed, bool dropped);
+
+// Judging the text
+
+/// What is done to learn whether the text is an item.
+struct Taking
+{
+    bool closesList = false;
+    bool selectsAgain = false; ///< the list's selection becomes the text, which is an item then
+    bool looksUpText = false;  ///< else, without this, the text is no item
+
+    friend bool operator==(const Taking&, const Taking&) = default;
+};
+
+/// For Enter and for a loss of focus. `hasSelection`: the open list has one.
+Taking takingOf(bool dropped, bool hasSelection, const ComboSettings& settings);
+
+/// What the parent is told, in the order of `Verdict::told`.
+enum class Told
+{
+    SelChange,
+    SelEndOk,
+    SelEndCancel,
+    Return,
+    Up,
+    Down
+};
+
+struct Verdict
+{
+    bool restores = false; ///< selection and text of before come back first
+    std::vector<Told> told;
+
+    friend bool operator==(const Verdict&, const Verdict&) = default;
+};
+
+/// `wasDropped`: the list was open when the key was handled.
+Verdict afterReturn(bool match, bool wasDropped, const ComboSettings& settings);
+Verdict afterEscape();
+/// `arrow` is Told::Up or Told::Down.
+Verdict afterArrow(bool match, Told arrow, const ComboSettings& settings);
+/// `changed`: selection or text are others than those of before.
+Verdict afterFocusLost(bool match, bool changed, const ComboSettings& settings);
+
+// Completion
+
+/// The item that completes a text, or -1. `find(after)` gives the next item behind `after` that begins with
+/// the text, whatever the case, going on at the top behind the last one; -1 for none. `textOf(i)` gives an
+/// item's text.
+///
+/// An item that begins with exactly the text is preferred to one that differs in case.
+template <class Find, class TextOf>
+int completionOf(std::wstring_view text, int count, Find find, TextOf textOf)
+{
+    const auto isExact = [&](int item) { return std::wstring_view(textOf(item)).starts_with(text); };
+    const int first = find(-1);
+    if (first < 0 || isExact(first))
+        return first;
+    int last = first;
+    while (last + 1 < count) { // nothing stands behind the last item
+        const int next = find(last);
+        if (next <= last)
+            break;
+        if (isExact(next))
+            return next;
+        last = next;
+    }
+    return first;
+}
+
+} // namespace ovoui::lists

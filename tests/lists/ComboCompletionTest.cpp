@@ -1,0 +1,166 @@
+// Completion while typing.
+#include "ComboScene.h"
+
+#include "support/ImportPatch.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+TEST(ComboTyping, CompletesAndSelectsTheTail)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.enter();
+    scene.robot.type(L"be");
+    EXPECT_EQ(scene.text(), L"berry");
+    EXPECT_EQ(scene.marked(), std::make_pair(2, 5));
+    scene.robot.type(L"l"); // replaces the tail
+    EXPECT_EQ(scene.text(), L"bel");
+}
+
+TEST(ComboTyping, PrefersTheExactCase)
+{
+    ComboScene scene{L"ABC", L"abd"};
+    scene.enter();
+    scene.robot.type(L"ab");
+    EXPECT_EQ(scene.text(), L"abd");
+    EXPECT_EQ(scene.marked(), std::make_pair(2, 3));
+}
+
+TEST(ComboTyping, TakesAnotherCaseWhenThereIsNoBetterOne)
+{
+    ComboScene scene{L"ABC", L"xyz"};
+    scene.enter();
+    scene.robot.type(L"ab");
+    EXPECT_EQ(scene.text(), L"ABC");
+    EXPECT_EQ(scene.marked(), std::make_pair(2, 3));
+}
+
+TEST(ComboTyping, TheParentDoesNotHearOfTheUpdate)
+{
+    ComboScene scene{L"berry"};
+    scene.enter();
+    scene.robot.type(L"b");
+    EXPECT_EQ(std::ranges::count(scene.take(), "EDITUPDATE"), 0);
+}
+
+TEST(ComboTyping, BackspaceAndDeleteDoNotComplete)
+{
+    for (const WORD key : {VK_BACK, VK_DELETE}) {
+        ComboScene scene{L"berry"};
+        scene.enter();
+        scene.robot.type(L"ber");
+        ASSERT_EQ(scene.text(), L"berry");
+        scene.robot.key(key); // takes the tail away
+        EXPECT_EQ(scene.text(), L"ber");
+        scene.robot.key(VK_BACK);
+        EXPECT_EQ(scene.text(), L"be");
+        scene.robot.type(L"r");
+        EXPECT_EQ(scene.text(), L"berry");
+    }
+}
+
+TEST(ComboTyping, WithTheCaretInTheMiddleTheSelectionStays)
+{
+    ComboScene scene{L"berry pie"};
+    scene.enter();
+    scene.combo.AutoComplete(false);
+    scene.robot.type(L"bery").key(VK_LEFT);
+    scene.combo.AutoComplete(true);
+    scene.robot.type(L"r"); // berry, with the caret before the y
+    EXPECT_EQ(scene.text(), L"berry pie");
+    EXPECT_EQ(scene.marked(), std::make_pair(4, 4));
+}
+
+TEST(ComboTyping, AnItemThatIsTheTextGetsNoTail)
+{
+    ComboScene scene{L"be", L"berry"};
+    scene.enter();
+    scene.robot.type(L"be");
+    EXPECT_EQ(scene.text(), L"be");
+    EXPECT_EQ(scene.marked(), std::make_pair(2, 2));
+}
+
+TEST(ComboTyping, AnEmptyItemCompletesNothing)
+{
+    ComboScene scene{L"", L"berry"};
+    scene.enter();
+    scene.robot.type(L"x");
+    EXPECT_EQ(scene.text(), L"x");
+    scene.robot.key(VK_BACK);
+    EXPECT_EQ(scene.text(), L"");
+}
+
+TEST(ComboTyping, OffCompletesNothing)
+{
+    ComboScene scene{L"berry"};
+    scene.combo.AutoComplete(false);
+    EXPECT_FALSE(scene.combo.AutoComplete());
+    scene.enter();
+    scene.robot.type(L"b");
+    EXPECT_EQ(scene.text(), L"b");
+}
+
+TEST(ComboTyping, PastedTextIsCompleted)
+{
+    ComboScene scene{L"berry"};
+    scene.enter();
+    scene.combo.AutoComplete(false);
+    scene.robot.type(L"ber");
+    scene.combo.AutoComplete(true);
+    ::SendMessageW(scene.edit(), EM_SETSEL, 0, -1);
+    ::SendMessageW(scene.edit(), WM_CUT, 0, 0);
+    ASSERT_NE(scene.text(), L"ber");
+    scene.setText(L"");
+    ::SendMessageW(scene.edit(), WM_PASTE, 0, 0);
+    EXPECT_EQ(scene.text(), L"berry");
+    EXPECT_EQ(scene.marked(), std::make_pair(3, 5));
+}
+
+TEST(ComboTyping, UndoneTextIsCompletedLikeTypedText)
+{
+    ComboScene scene{L"berry"};
+    scene.enter();
+    scene.robot.type(L"xb");
+    ASSERT_EQ(scene.text(), L"xb");
+    ::SendMessageW(scene.edit(), EM_UNDO, 0, 0);
+    EXPECT_NE(scene.text(), L"xb");
+}
+
+TEST(ComboTyping, TextsOfAnInputMethodAreCompleted)
+{
+    ComboScene scene{L"\x6F22\x5B57 table"};
+    scene.enter();
+    // The key that an input method takes, and the characters that it composes from it.
+    MSG key{scene.edit(), WM_KEYDOWN, VK_PROCESSKEY, 1, 0, {}};
+    EXPECT_FALSE(scene.combo.PreTranslateMessage(&key));
+    ::SendMessageW(scene.edit(), WM_IME_CHAR, 0x6F22, 1);
+    GuiThread::settle();
+    EXPECT_EQ(scene.text(), L"\x6F22\x5B57 table");
+    EXPECT_EQ(scene.marked(), std::make_pair(1, 8));
+}
+
+TEST(ComboTyping, AmongTwentyThousandItems)
+{
+    ComboScene scene{};
+    scene.combo.InitStorage(20000, 20000 * 32);
+    for (int i = 0; i < 20000; ++i)
+        scene.combo.AddString((L"ITEM " + std::to_wstring(100000 + i)).c_str());
+    scene.combo.AddString(L"item 119999 in small letters");
+    scene.enter();
+    scene.robot.type(L"item 119999");
+    EXPECT_EQ(scene.text(), L"item 119999 in small letters");
+}
+
+TEST(ComboTyping, TheKeyBeforeDecides)
+{
+    // Completion is off for whatever changes the text until the next key, which is any but these two.
+    ComboScene scene{L"berry"};
+    scene.enter();
+    scene.robot.key(VK_BACK);
+    ::SendMessageW(scene.edit(), WM_CHAR, L'b', 1); // a character without a key
+    EXPECT_EQ(scene.text(), L"b");
+    scene.robot.key(VK_SHIFT);
+    ::SendMessageW(scene.edit(), WM_CHAR, L'e', 1);
+    EXPECT_EQ(scene.text(), L"berry");
+}

@@ -1,0 +1,401 @@
+// Enter, Escape, the arrows, the list, and the focus: what becomes of the text, and what the parent hears.
+#include "ComboScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+struct Flags
+{
+    bool confirmAnyText;
+    bool notifyEditReturn;
+};
+
+constexpr Flags kAllFlags[] = {{false, false}, {false, true}, {true, false}, {true, true}};
+
+void set(COVOComboBox& combo, const Flags& flags)
+{
+    combo.ConfirmAnyText(flags.confirmAnyText);
+    combo.NotifyEditReturn(flags.notifyEditReturn);
+}
+
+Heard with(Heard first, const Heard& second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+/// What is heard when the focus goes: the platform's own cancel comes first, that the focus has gone last.
+Heard leaving(const Heard& judgement)
+{
+    return with(with({"SELENDCANCEL"}, judgement), {"KILLFOCUS"});
+}
+
+const Heard kAccepted{"SELCHANGE", "SELENDOK"};
+const Heard kRejected{"SELCHANGE", "SELENDCANCEL"};
+
+} // namespace
+
+// Enter
+
+TEST(ComboEnter, WithTheListClosed)
+{
+    for (const Flags& flags : kAllFlags)
+        for (const bool match : {true, false}) {
+            ComboScene scene{L"apple", L"berry"};
+            set(scene.combo, flags);
+            scene.enter();
+            scene.setText(match ? L"berry" : L"bramble");
+            scene.take();
+            scene.robot.key(VK_RETURN);
+            Heard expected;
+            if (match || flags.confirmAnyText)
+                expected = kAccepted;
+            if (flags.notifyEditReturn)
+                expected.push_back("RETURN");
+            EXPECT_EQ(scene.take(), expected);
+            EXPECT_EQ(scene.text(), match ? L"berry" : L"bramble") << "Enter restores nothing";
+            EXPECT_EQ(scene.combo.GetCurSel(), match ? 1 : -1);
+        }
+}
+
+TEST(ComboEnter, WithoutCompletionAClosedListIsNotSearched)
+{
+    for (const bool any : {false, true}) {
+        ComboScene scene{L"apple", L"berry"};
+        scene.combo.AutoComplete(false);
+        scene.combo.ConfirmAnyText(any);
+        scene.enter();
+        scene.setText(L"berry");
+        scene.take();
+        scene.robot.key(VK_RETURN);
+        EXPECT_EQ(scene.take(), any ? kAccepted : Heard{});
+        EXPECT_EQ(scene.combo.GetCurSel(), -1);
+    }
+}
+
+TEST(ComboEnter, WithTheListOpenAndAnItemSelected)
+{
+    for (const Flags& flags : kAllFlags) {
+        ComboScene scene{L"apple", L"berry", L"cherry"};
+        set(scene.combo, flags);
+        scene.enterWith(0);
+        scene.combo.ShowDropDown();
+        scene.robot.key(VK_DOWN);
+        ASSERT_EQ(scene.combo.GetCurSel(), 1);
+        scene.take();
+        scene.robot.key(VK_RETURN);
+        EXPECT_FALSE(scene.combo.GetDroppedState());
+        EXPECT_EQ(scene.text(), L"berry");
+        EXPECT_EQ(scene.combo.GetCurSel(), 1);
+        Heard heard = scene.take();
+        ASSERT_GE(heard.size(), 2u);
+        EXPECT_EQ(Heard(heard.end() - 2, heard.end()), kAccepted);
+        EXPECT_EQ(std::ranges::count(heard, "RETURN"), 0);
+        EXPECT_EQ(std::ranges::count(heard, "CLOSEUP"), 1);
+    }
+}
+
+TEST(ComboEnter, WithTheListOpenAndNothingSelected)
+{
+    for (const Flags& flags : kAllFlags)
+        for (const bool match : {true, false}) {
+            ComboScene scene{L"apple", L"berry"};
+            scene.combo.AutoComplete(false); // an open list is searched all the same
+            set(scene.combo, flags);
+            scene.enter();
+            scene.combo.ShowDropDown();
+            ::SendMessageW(scene.listBox(), LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+            scene.setText(match ? L"berry" : L"bramble");
+            ASSERT_EQ(scene.combo.GetCurSel(), -1);
+            scene.take();
+            scene.robot.key(VK_RETURN);
+            EXPECT_FALSE(scene.combo.GetDroppedState());
+            const Heard heard = scene.take();
+            const bool accepted = match || flags.confirmAnyText;
+            EXPECT_EQ(std::ranges::count(heard, "SELENDOK"), accepted);
+            EXPECT_EQ(std::ranges::count(heard, "RETURN"), 0);
+            EXPECT_EQ(scene.combo.GetCurSel(), match ? 1 : -1);
+        }
+}
+
+TEST(ComboEnter, DoesNotReachTheDialog)
+{
+    ComboScene scene{L"apple"};
+    scene.enter();
+    MSG enter{scene.edit(), WM_KEYDOWN, VK_RETURN, 1, 0, {}};
+    EXPECT_TRUE(scene.combo.PreTranslateMessage(&enter));
+    GuiThread::settle();
+}
+
+// Escape
+
+TEST(ComboEscape, WithoutAChangeGoesOn)
+{
+    for (const int selection : {-1, 1}) {
+        ComboScene scene{L"apple", L"berry"};
+        scene.enterWith(selection);
+        MSG escape{scene.edit(), WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
+        EXPECT_FALSE(scene.combo.PreTranslateMessage(&escape));
+        GuiThread::settle();
+        EXPECT_EQ(scene.take(), Heard{});
+    }
+}
+
+TEST(ComboEscape, BringsTheTextOfBeforeBack)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.setText(L"bramble");
+    scene.show();
+    scene.combo.SetFocus();
+    scene.take();
+    scene.setText(L"x");
+    scene.take();
+    scene.robot.key(VK_ESCAPE);
+    EXPECT_EQ(scene.take(), kRejected);
+    EXPECT_EQ(scene.text(), L"bramble");
+    EXPECT_EQ(scene.combo.GetCurSel(), -1);
+}
+
+TEST(ComboEscape, BringsTheSelectionOfBeforeBack)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.enterWith(1);
+    scene.combo.SetCurSel(0);
+    scene.robot.key(VK_ESCAPE);
+    EXPECT_EQ(scene.take(), kRejected);
+    EXPECT_EQ(scene.text(), L"berry");
+    EXPECT_EQ(scene.combo.GetCurSel(), 1);
+}
+
+TEST(ComboEscape, InTheOpenListUndoesTheSelection)
+{
+    ComboScene scene{L"apple", L"berry", L"cherry"};
+    scene.enterWith(0);
+    scene.robot.key(VK_F4).key(VK_DOWN, 2);
+    ASSERT_TRUE(scene.combo.GetDroppedState());
+    scene.take();
+    scene.robot.key(VK_ESCAPE);
+    EXPECT_EQ(scene.text(), L"apple");
+    EXPECT_EQ(scene.combo.GetCurSel(), 0);
+    const Heard heard = scene.take();
+    ASSERT_GE(heard.size(), 2u);
+    EXPECT_EQ(Heard(heard.end() - 2, heard.end()), kRejected);
+}
+
+// Arrows
+
+TEST(ComboArrows, WithTheListClosedJudgeTheTextAndDoNotStep)
+{
+    for (const Flags& flags : kAllFlags)
+        for (const bool match : {true, false})
+            for (const WORD key : {VK_UP, VK_DOWN}) {
+                ComboScene scene{L"apple", L"berry", L"cherry"};
+                set(scene.combo, flags);
+                scene.enter();
+                scene.setText(match ? L"berry" : L"bramble");
+                scene.take();
+                scene.robot.key(key);
+                Heard expected;
+                if (match || flags.confirmAnyText)
+                    expected = kAccepted;
+                if (flags.notifyEditReturn)
+                    expected.push_back(key == VK_UP ? "UP" : "DOWN");
+                EXPECT_EQ(scene.take(), expected);
+                EXPECT_EQ(scene.combo.GetCurSel(), match ? 1 : -1);
+            }
+}
+
+TEST(ComboArrows, SearchTheListWithoutCompletionToo)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.combo.AutoComplete(false);
+    scene.enter();
+    scene.setText(L"berry");
+    scene.take();
+    scene.robot.key(VK_DOWN);
+    EXPECT_EQ(scene.take(), kAccepted);
+    EXPECT_EQ(scene.combo.GetCurSel(), 1);
+}
+
+TEST(ComboArrows, WithTheListOpenStepThroughIt)
+{
+    ComboScene scene{L"apple", L"berry", L"cherry"};
+    scene.combo.NotifyEditReturn(true);
+    scene.enterWith(0);
+    scene.robot.key(VK_F4).key(VK_DOWN);
+    EXPECT_EQ(scene.combo.GetCurSel(), 1);
+    scene.robot.key(VK_UP);
+    EXPECT_EQ(scene.combo.GetCurSel(), 0);
+    const Heard heard = scene.take();
+    EXPECT_EQ(std::ranges::count(heard, "UP") + std::ranges::count(heard, "DOWN"), 0);
+}
+
+// Focus
+
+TEST(ComboFocus, ComingTellsTheParentToFillTheList)
+{
+    ComboScene scene{L"apple"};
+    scene.show();
+    scene.combo.SetFocus();
+    EXPECT_EQ(scene.take(), (Heard{"DROPDOWN", "CLOSEUP", "SETFOCUS"}));
+
+    scene.button.SetFocus();
+    scene.combo.AutoComplete(false);
+    scene.take();
+    scene.combo.SetFocus();
+    EXPECT_EQ(scene.take(), Heard{"SETFOCUS"});
+}
+
+TEST(ComboFocus, AListFilledOnDropdownIsThereForCompletion)
+{
+    ComboScene scene{};
+    scene.parent.hearing = [&](const std::string& what) {
+        if (what == "DROPDOWN" && scene.combo.GetCount() == 0)
+            scene.combo.AddString(L"berry");
+    };
+    scene.enter();
+    scene.robot.type(L"b");
+    EXPECT_EQ(scene.text(), L"berry");
+}
+
+TEST(ComboFocus, GoingWithoutAChangeIsACancel)
+{
+    for (const int selection : {-1, 1}) {
+        ComboScene scene{L"apple", L"berry"};
+        scene.enterWith(selection);
+        scene.button.SetFocus();
+        EXPECT_EQ(scene.take(), leaving({"SELENDCANCEL"}));
+    }
+}
+
+TEST(ComboFocus, GoingWithAnotherTextAcceptsOrRestores)
+{
+    for (const bool any : {false, true})
+        for (const bool match : {false, true}) {
+            ComboScene scene{L"apple", L"berry"};
+            scene.combo.ConfirmAnyText(any);
+            scene.enterWith(0);
+            scene.combo.SetCurSel(-1);
+            scene.setText(match ? L"berry" : L"bramble");
+            scene.take();
+            scene.button.SetFocus();
+            EXPECT_EQ(scene.take(), leaving(match || any ? kAccepted : kRejected));
+            EXPECT_EQ(scene.text(), match ? L"berry" : any ? L"bramble" : L"apple");
+            EXPECT_EQ(scene.combo.GetCurSel(), match ? 1 : any ? -1 : 0);
+        }
+}
+
+TEST(ComboFocus, GoingWithoutCompletionDoesNotSearchAClosedList)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.combo.AutoComplete(false);
+    scene.enter();
+    scene.setText(L"berry");
+    scene.take();
+    scene.button.SetFocus();
+    EXPECT_EQ(scene.take(), leaving(kRejected));
+    EXPECT_EQ(scene.text(), L"");
+}
+
+TEST(ComboFocus, GoingWithTheListOpenTakesItsSelection)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.enterWith(0);
+    scene.robot.key(VK_F4).key(VK_DOWN);
+    ASSERT_TRUE(scene.combo.GetDroppedState());
+    scene.take();
+    scene.button.SetFocus();
+    EXPECT_FALSE(scene.combo.GetDroppedState());
+    EXPECT_EQ(scene.text(), L"berry");
+    const Heard heard = scene.take();
+    EXPECT_EQ(std::ranges::count(heard, "SELENDOK"), 1);
+    EXPECT_EQ(heard.back(), "KILLFOCUS");
+}
+
+TEST(ComboFocus, GoingToAnotherWindow)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.enterWith(0);
+    scene.combo.SetCurSel(-1);
+    scene.setText(L"bramble");
+    scene.take();
+    ComboParent another;
+    present(another);
+    EXPECT_EQ(scene.take(), leaving(kRejected));
+    EXPECT_EQ(scene.text(), L"apple");
+}
+
+TEST(ComboFocus, GoingWithTheDialog)
+{
+    auto parent = std::make_unique<ComboParent>();
+    COVOComboBox combo;
+    combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWN, CRect(10, 10, 210, 160), parent.get(),
+                 21);
+    combo.AddString(L"apple");
+    present(*parent);
+    combo.SetFocus();
+    combo.SetWindowText(L"bramble");
+    parent->heard.clear();
+    parent->ShowWindow(SW_HIDE);
+    GuiThread::settle();
+    EXPECT_EQ(parent->heard, leaving(kRejected));
+    parent.reset();
+    EXPECT_FALSE(combo.m_hWnd);
+}
+
+TEST(ComboFocus, WhatWasSavedIsThatOfTheLastAcceptedSelection)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.enterWith(0);
+    scene.combo.SetCurSel(1);
+    scene.robot.key(VK_RETURN); // berry is accepted
+    scene.combo.SetCurSel(0);
+    scene.take();
+    scene.robot.key(VK_ESCAPE);
+    EXPECT_EQ(scene.take(), kRejected);
+    EXPECT_EQ(scene.text(), L"berry");
+}
+
+// The list with the mouse
+
+TEST(ComboList, AClickOnAnItemAcceptsIt)
+{
+    ComboScene scene{L"apple", L"berry", L"cherry"};
+    scene.enterWith(0);
+    scene.combo.ShowDropDown();
+    scene.take();
+    CRect third;
+    ::SendMessageW(scene.listBox(), LB_GETITEMRECT, 2, reinterpret_cast<LPARAM>(static_cast<RECT*>(&third)));
+    CPoint middle = third.CenterPoint();
+    ::ClientToScreen(scene.listBox(), &middle);
+    scene.robot.click(Spot{middle});
+    EXPECT_FALSE(scene.combo.GetDroppedState());
+    EXPECT_EQ(scene.text(), L"cherry");
+    EXPECT_EQ(scene.combo.GetCurSel(), 2);
+    const Heard heard = scene.take();
+    EXPECT_EQ(std::ranges::count(heard, "SELENDOK"), 1);
+    EXPECT_EQ(std::ranges::count(heard, "SELCHANGE"), 1);
+    // It is what Escape would bring back now: there is no change.
+    MSG escape{scene.edit(), WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
+    EXPECT_FALSE(scene.combo.PreTranslateMessage(&escape));
+}
+
+TEST(ComboList, ClosingItKeepsWhatWasTyped)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.combo.AutoComplete(false);
+    scene.enter();
+    scene.robot.type(L"be");
+    scene.combo.ShowDropDown(); // highlights what begins with the text
+    ::SendMessageW(scene.listBox(), LB_SETCURSEL, 1, 0);
+    scene.setText(L"be");
+    ::SendMessageW(scene.listBox(), LB_SETCURSEL, 1, 0);
+    ASSERT_EQ(scene.combo.GetCurSel(), 1);
+    scene.combo.ShowDropDown(FALSE);
+    EXPECT_EQ(scene.text(), L"be");
+    EXPECT_EQ(scene.combo.GetCurSel(), -1);
+}

@@ -1,0 +1,214 @@
+// What keys and a loss of focus lead to: every case there is.
+#include <ovoui/lists/core/ComboRules.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovoui::lists;
+
+namespace
+{
+
+ComboSettings settings(bool autoComplete, bool confirmAnyText, bool notifyEditReturn)
+{
+    return {autoComplete, confirmAnyText, notifyEditReturn};
+}
+
+using Words = std::vector<Told>;
+
+/// Calls `check(flag, flag, ...)` with every combination.
+template <class Check>
+void forAllOf3(Check check)
+{
+    for (int bits = 0; bits < 8; ++bits)
+        check((bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0);
+}
+
+} // namespace
+
+TEST(ComboRules, EnterIsAlwaysTaken)
+{
+    for (int bits = 0; bits < 4; ++bits)
+        EXPECT_EQ(effectOf(ComboKey::Return, bits & 1, bits & 2), KeyEffect::Return);
+}
+
+TEST(ComboRules, EscapeIsTakenWhenThereIsSomethingToUndo)
+{
+    for (const bool dropped : {false, true}) {
+        EXPECT_EQ(effectOf(ComboKey::Escape, true, dropped), KeyEffect::Escape);
+        EXPECT_EQ(effectOf(ComboKey::Escape, false, dropped), KeyEffect::PassOn);
+    }
+}
+
+TEST(ComboRules, ArrowsAreTakenWhileTheListIsClosed)
+{
+    for (const bool changed : {false, true}) {
+        EXPECT_EQ(effectOf(ComboKey::Up, changed, false), KeyEffect::Up);
+        EXPECT_EQ(effectOf(ComboKey::Down, changed, false), KeyEffect::Down);
+        EXPECT_EQ(effectOf(ComboKey::Up, changed, true), KeyEffect::PassOn);
+        EXPECT_EQ(effectOf(ComboKey::Down, changed, true), KeyEffect::PassOn);
+    }
+}
+
+TEST(ComboRules, OtherKeysPass)
+{
+    for (int bits = 0; bits < 4; ++bits)
+        EXPECT_EQ(effectOf(ComboKey::Other, bits & 1, bits & 2), KeyEffect::PassOn);
+}
+
+TEST(ComboRules, AnOpenListGivesItsSelectionOrElseTheTextIsLookedUp)
+{
+    forAllOf3([](bool a, bool b, bool c) {
+        EXPECT_EQ(takingOf(true, true, settings(a, b, c)), (Taking{true, true, false}));
+        EXPECT_EQ(takingOf(true, false, settings(a, b, c)), (Taking{true, false, true}));
+    });
+}
+
+TEST(ComboRules, WithTheListClosedTheTextIsLookedUpWhenCompletionIsOn)
+{
+    for (const bool selection : {false, true})
+        for (const bool complete : {false, true})
+            EXPECT_EQ(takingOf(false, selection, settings(complete, true, true)),
+                      (Taking{false, false, complete}));
+}
+
+TEST(ComboRules, EnterAcceptsWhatMatchesOrAnyText)
+{
+    forAllOf3([](bool match, bool any, bool notify) {
+        for (const bool dropped : {false, true}) {
+            Words expected;
+            if (match || any)
+                expected = {Told::SelChange, Told::SelEndOk};
+            if (notify && !dropped)
+                expected.push_back(Told::Return);
+            EXPECT_EQ(afterReturn(match, dropped, settings(true, any, notify)), (Verdict{false, expected}));
+        }
+    });
+}
+
+TEST(ComboRules, EscapeRestores)
+{
+    EXPECT_EQ(afterEscape(), (Verdict{true, {Told::SelChange, Told::SelEndCancel}}));
+}
+
+TEST(ComboRules, ArrowsAcceptAndSayWhichOneItWas)
+{
+    forAllOf3([](bool match, bool any, bool notify) {
+        for (const Told arrow : {Told::Up, Told::Down}) {
+            Words expected;
+            if (match || any)
+                expected = {Told::SelChange, Told::SelEndOk};
+            if (notify)
+                expected.push_back(arrow);
+            EXPECT_EQ(afterArrow(match, arrow, settings(true, any, notify)), (Verdict{false, expected}));
+        }
+    });
+}
+
+TEST(ComboRules, FocusLostWithoutAChangeIsACancel)
+{
+    forAllOf3([](bool match, bool any, bool notify) {
+        EXPECT_EQ(afterFocusLost(match, false, settings(true, any, notify)),
+                  (Verdict{false, {Told::SelEndCancel}}));
+    });
+}
+
+TEST(ComboRules, FocusLostWithAChangeAcceptsOrRestores)
+{
+    forAllOf3([](bool match, bool any, bool notify) {
+        const Verdict verdict = afterFocusLost(match, true, settings(true, any, notify));
+        if (match || any)
+            EXPECT_EQ(verdict, (Verdict{false, {Told::SelChange, Told::SelEndOk}}));
+        else
+            EXPECT_EQ(verdict, (Verdict{true, {Told::SelChange, Told::SelEndCancel}}));
+    });
+}
+
+// Completion
+
+namespace
+{
+
+/// Items that are found as a combo box finds them; counts how often it is asked.
+class Items
+{
+public:
+    explicit Items(std::vector<std::wstring> items)
+        : m_items(std::move(items))
+    {
+    }
+
+    int completion(const std::wstring& text)
+    {
+        return completionOf(
+            text, static_cast<int>(m_items.size()),
+            [&](int after) {
+                ++searches;
+                return find(after, lower(text));
+            },
+            [this](int item) { return m_items[static_cast<std::size_t>(item)]; });
+    }
+
+    int searches = 0;
+
+private:
+    static std::wstring lower(std::wstring text)
+    {
+        for (wchar_t& c : text)
+            if (c >= L'A' && c <= L'Z')
+                c = static_cast<wchar_t>(c - L'A' + L'a');
+        return text;
+    }
+
+    int find(int after, const std::wstring& prefix) const
+    {
+        const int count = static_cast<int>(m_items.size());
+        for (int step = 1; step <= count; ++step) {
+            const int item = (after + step) % count;
+            if (lower(m_items[static_cast<std::size_t>(item)]).starts_with(prefix))
+                return item;
+        }
+        return -1;
+    }
+
+    std::vector<std::wstring> m_items;
+};
+
+} // namespace
+
+TEST(ComboCompletion, PrefersTheExactCase)
+{
+    EXPECT_EQ(Items({L"ABC", L"abd"}).completion(L"ab"), 1);
+    EXPECT_EQ(Items({L"ABC", L"abd"}).completion(L"AB"), 0);
+    EXPECT_EQ(Items({L"ABC", L"Abx", L"abd", L"abe"}).completion(L"ab"), 2);
+}
+
+TEST(ComboCompletion, TakesAnotherCaseWhenThereIsNoBetterOne)
+{
+    EXPECT_EQ(Items({L"x", L"ABC", L"ABD"}).completion(L"ab"), 1);
+}
+
+TEST(ComboCompletion, FindsNothing)
+{
+    EXPECT_EQ(Items({L"ABC"}).completion(L"b"), -1);
+    EXPECT_EQ(Items({}).completion(L"b"), -1);
+}
+
+TEST(ComboCompletion, EndsWhenTheSearchBeginsAgainAtTheTop)
+{
+    Items items({L"AB1", L"x", L"AB2", L"y"});
+    EXPECT_EQ(items.completion(L"ab"), 0);
+    EXPECT_EQ(items.searches, 3);
+}
+
+TEST(ComboCompletion, DoesNotSearchBehindTheLastItem)
+{
+    Items items({L"x", L"ABC"});
+    EXPECT_EQ(items.completion(L"ab"), 1);
+    EXPECT_EQ(items.searches, 1);
+}
+
+TEST(ComboCompletion, AnEmptyTextIsCompletedByTheFirstItem)
+{
+    EXPECT_EQ(Items({L"", L"a"}).completion(L""), 0);
+    EXPECT_EQ(Items({L"b", L"a"}).completion(L""), 0);
+}
