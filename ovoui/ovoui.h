@@ -16,6 +16,10 @@
 #include <ovoui/lists/ListCtrlEx.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/VantorToolBar.h>
+#include <ovoui/sliders/RoundSlider.h>
+#include <ovoui/sliders/Separators.h>
+#include <ovoui/sliders/SliderButton.h>
+#include <ovoui/sliders/WheelSlider.h>
 #include <ovoui/tree/DropMenu.h>
 #include <ovoui/tree/MultiTreeCtrl.h>
 #include <ovoui/tree/PlainText.h>

@@ -60,5 +60,9 @@
 #define IDS_MENU_RENAME 20125
 #define IDS_MENU_SELECT_ALL 20126
 
+// Dialogs of the controls: 20200 to 20201
+#define IDD_POPUP_SLIDER 20200
+
 // Controls: 20501 to 20599
+#define IDC_POPUP_SLIDER 20505
 #define IDC_MESSAGE_TEXT 20507

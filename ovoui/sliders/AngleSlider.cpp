@@ -1,0 +1,218 @@
+#include <ovoui/sliders/AngleSlider.h>
+
+#include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/sliders/core/CylinderDrag.h>
+#include <ovoui/sliders/core/CylinderPicture.h>
+
+using namespace ovoui::sliders;
+
+BEGIN_MESSAGE_MAP(CAngleSlider, CWnd)
+ON_WM_MOUSEMOVE() // mouse
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_LBUTTONUP()
+ON_WM_CAPTURECHANGED()
+ON_WM_PAINT() // painting
+ON_WM_ERASEBKGND()
+ON_WM_SIZE()
+ON_WM_ENABLE()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr int kEdge = 2; // the etched edge and the gap outside it
+
+Shade shadeOf(int systemColour)
+{
+    const COLORREF colour = ::GetSysColor(systemColour);
+    return {GetRValue(colour), GetGValue(colour), GetBValue(colour)};
+}
+
+COLORREF colorrefOf(const Shade& shade)
+{
+    return RGB(shade.red, shade.green, shade.blue);
+}
+
+CylinderColours systemColours(bool enabled)
+{
+    return {.dark = shadeOf(enabled ? COLOR_3DDKSHADOW : COLOR_GRAYTEXT),
+            .light = shadeOf(COLOR_3DLIGHT),
+            .face = shadeOf(enabled ? COLOR_WINDOW : COLOR_GRAYTEXT)};
+}
+
+} // namespace
+
+CAngleSlider::CAngleSlider(Axis axis, Turn turn, bool reversed)
+    : m_drag(std::make_unique<CylinderDrag>(turn))
+    , m_axis(axis)
+    , m_reversed(reversed)
+{
+}
+
+CAngleSlider::~CAngleSlider() = default;
+
+BOOL CAngleSlider::createNamed(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id)
+{
+    const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
+                                                    reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
+    return CWnd::Create(windowClass, text, style, rect, parent, id);
+}
+
+double CAngleSlider::GetPos() const
+{
+    return m_drag->position();
+}
+
+void CAngleSlider::SetPos(double degrees)
+{
+    m_drag->setPosition(degrees);
+    if (m_hWnd)
+        Invalidate();
+}
+
+// Mouse
+
+void CAngleSlider::OnLButtonDown(UINT flags, CPoint point)
+{
+    OnLButtonDblClk(flags, point);
+}
+
+void CAngleSlider::OnLButtonDblClk(UINT, CPoint point)
+{
+    m_drag->press(DegreesFromCentre(along(point)));
+    SetCapture();
+}
+
+void CAngleSlider::OnMouseMove(UINT, CPoint point)
+{
+    const auto angle = m_drag->move(DegreesFromCentre(along(point)));
+    if (!angle || !tellParent(SB_THUMBTRACK, *angle))
+        return;
+    m_drag->track(*angle);
+    Invalidate(FALSE);
+}
+
+void CAngleSlider::OnLButtonUp(UINT, CPoint point)
+{
+    const bool dragging = m_drag->dragging();
+    m_drag->cancel(); // so that losing the capture does not count as an interruption
+    ::ReleaseCapture();
+    if (dragging)
+        tellParent(SB_THUMBPOSITION, m_drag->release(DegreesFromCentre(along(point))));
+}
+
+void CAngleSlider::OnCaptureChanged(CWnd* wnd)
+{
+    if (m_drag->dragging()) {
+        m_drag->cancel();
+        Invalidate(FALSE); // the committed angle shows again
+    }
+    CWnd::OnCaptureChanged(wnd);
+}
+
+/// Whether the slider still has its window afterwards.
+bool CAngleSlider::tellParent(UINT code, double degrees)
+{
+    const Lifeline::Watch watch(m_lifeline);
+    const UINT message = m_axis == Axis::Vertical ? WM_HSCROLL : WM_VSCROLL;
+    ::SendMessageW(::GetParent(m_hWnd), message, MAKEWPARAM(code, messageAngle(degrees)),
+                   reinterpret_cast<LPARAM>(m_hWnd));
+    return watch.alive() && m_hWnd;
+}
+
+CRect CAngleSlider::cylinder() const
+{
+    CRect rect;
+    GetClientRect(&rect);
+    rect.DeflateRect(kEdge, kEdge);
+    return rect;
+}
+
+int CAngleSlider::along(CPoint point) const
+{
+    return m_axis == Axis::Vertical ? point.x : point.y;
+}
+
+double CAngleSlider::DegreesFromCentre(int coordinate) const
+{
+    const CRect rect = cylinder();
+    const double degrees = m_axis == Axis::Vertical ? angleUnder(coordinate, rect.left, rect.right)
+                                                    : angleUnder(coordinate, rect.top, rect.bottom);
+    return m_reversed ? -degrees : degrees;
+}
+
+// Painting
+
+void CAngleSlider::OnPaint()
+{
+    BufferedPaint paint(*this);
+    CDC& dc = paint.dc();
+    CRect rect;
+    GetClientRect(&rect);
+    dc.FillSolidRect(&rect, ::GetSysColor(COLOR_BTNFACE));
+    rect.DeflateRect(1, 1);
+    dc.DrawEdge(&rect, EDGE_ETCHED, BF_RECT);
+    rect.DeflateRect(1, 1);
+    ShadeRect(rect, &dc);
+    if (IsWindowEnabled())
+        drawOnCylinder(dc, rect, m_drag->shown());
+}
+
+void CAngleSlider::drawOnCylinder(CDC&, const CRect&, double) {}
+
+/// What is painted covers all of the window, so erasing would only flicker.
+BOOL CAngleSlider::OnEraseBkgnd(CDC*)
+{
+    return TRUE;
+}
+
+void CAngleSlider::OnSize(UINT type, int width, int height)
+{
+    CWnd::OnSize(type, width, height);
+    Invalidate(FALSE);
+}
+
+void CAngleSlider::OnEnable(BOOL enable)
+{
+    CWnd::OnEnable(enable);
+    Invalidate(FALSE);
+}
+
+void CAngleSlider::ShadeRect(const CRect& rect, CDC* dc)
+{
+    const bool enabled = IsWindowEnabled() != FALSE;
+    const bool sideways = m_axis == Axis::Vertical;
+    const double rotation = m_reversed ? -m_drag->shown() : m_drag->shown();
+    const CylinderPicture picture =
+        cylinderPicture(sideways ? rect.left : rect.top, sideways ? rect.right : rect.bottom, rotation,
+                        systemColours(enabled), enabled);
+    for (const Strip& strip : picture.strips) {
+        CRect place = rect;
+        (sideways ? place.left : place.top) = strip.from;
+        (sideways ? place.right : place.bottom) = strip.to;
+        dc->FillSolidRect(&place, colorrefOf(strip.colour));
+    }
+    CGdiObject* const old = dc->SelectStockObject(DC_PEN);
+    for (const RibLine& line : picture.lines) {
+        ::SetDCPenColor(*dc, colorrefOf(line.colour));
+        DrawLine(dc, rect, line.at);
+    }
+    dc->SelectObject(static_cast<CPen*>(old));
+}
+
+/// In the DC's pen, only strictly inside the rectangle.
+void CAngleSlider::DrawLine(CDC* dc, const CRect& rect, int coordinate)
+{
+    if (m_axis == Axis::Vertical) {
+        if (coordinate <= rect.left || coordinate >= rect.right)
+            return;
+        dc->MoveTo(coordinate, rect.top);
+        dc->LineTo(coordinate, rect.bottom);
+    } else {
+        if (coordinate <= rect.top || coordinate >= rect.bottom)
+            return;
+        dc->MoveTo(rect.left, coordinate);
+        dc->LineTo(rect.right, coordinate);
+    }
+}

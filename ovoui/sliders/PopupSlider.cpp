@@ -1,0 +1,97 @@
+#include <ovoui/sliders/PopupSlider.h>
+
+#include <ovoui/sliders/SliderButton.h>
+
+#include <ovouires/resource.h>
+
+BEGIN_MESSAGE_MAP(CPopupSlider, CDialog)
+ON_WM_HSCROLL()
+ON_WM_SETFOCUS()
+ON_WM_ACTIVATE()
+ON_WM_ACTIVATEAPP()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+/// False while a popup is being put away, since that takes the activation from it once more.
+bool g_watchingActivation = true;
+
+class ActivationGuard
+{
+public:
+    ActivationGuard() { g_watchingActivation = false; }
+    ~ActivationGuard() { g_watchingActivation = true; }
+    ActivationGuard(const ActivationGuard&) = delete;
+    ActivationGuard& operator=(const ActivationGuard&) = delete;
+};
+
+} // namespace
+
+CPopupSlider::CPopupSlider() = default;
+
+BOOL CPopupSlider::Create(CSliderButton* owner)
+{
+    m_owner = owner;
+    return CDialog::Create(IDD_POPUP_SLIDER, owner);
+}
+
+void CPopupSlider::DoDataExchange(CDataExchange* exchange)
+{
+    CDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_POPUP_SLIDER, m_slider);
+}
+
+/// FALSE: the focus stays where it is.
+BOOL CPopupSlider::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    return FALSE;
+}
+
+/// Escape, which the dialog would end itself with.
+void CPopupSlider::OnCancel()
+{
+    m_owner->cancelPopup();
+}
+
+/// Enter keeps what the slider shows.
+void CPopupSlider::OnOK()
+{
+    ShowWindow(SW_HIDE);
+}
+
+void CPopupSlider::OnHScroll(UINT, UINT, CScrollBar*)
+{
+    m_owner->SetValue(); // the popup may be gone now
+}
+
+void CPopupSlider::OnSetFocus(CWnd*)
+{
+    if (m_slider.m_hWnd)
+        m_slider.SetFocus();
+}
+
+void CPopupSlider::OnActivate(UINT state, CWnd* other, BOOL minimized)
+{
+    CDialog::OnActivate(state, other, minimized);
+    if (state == WA_INACTIVE)
+        putAway();
+}
+
+/// The popup hears of this without having had the activation itself.
+void CPopupSlider::OnActivateApp(BOOL active, DWORD thread)
+{
+    CDialog::OnActivateApp(active, thread);
+    if (!active && IsWindowVisible())
+        putAway();
+}
+
+void CPopupSlider::putAway()
+{
+    if (!g_watchingActivation)
+        return;
+    const ActivationGuard guard;
+    ShowWindow(SW_HIDE);
+    m_owner->PostMessage(kDeactivated);
+}

@@ -1,0 +1,44 @@
+/// The popup of a slider button: a small dialog that holds one slider.
+#pragma once
+
+#include <ovoui/export.h>
+#include <ovoui/sliders/PopupSliderCtrl.h>
+
+#include <afxwin.h>
+
+class CSliderButton;
+
+/// Part of CSliderButton, which makes it when it is first needed. It goes out of sight when it loses the
+/// activation, and posts kDeactivated to its button.
+class OVOUI_API CPopupSlider : public CDialog
+{
+public:
+    /// Posted to the button.
+    static constexpr UINT kDeactivated = 3606;
+
+    CPopupSlider();
+
+    /// Makes the popup, out of sight and without taking the focus, in the window tree of `owner`, which
+    /// outlives it.
+    BOOL Create(CSliderButton* owner);
+
+    CPopupSliderCtrl& slider() { return m_slider; }
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+    BOOL OnInitDialog() override;
+    void OnCancel() override;
+    void OnOK() override;
+
+    afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
+    afx_msg void OnActivateApp(BOOL active, DWORD thread);
+    afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnSetFocus(CWnd* old);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void putAway();
+
+    CPopupSliderCtrl m_slider;
+    CSliderButton* m_owner = nullptr;
+};

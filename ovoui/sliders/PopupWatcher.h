@@ -1,0 +1,36 @@
+/// Not exported. What ends a popup that is open without the activation: a press of the mouse elsewhere in
+/// this thread's windows, and Escape, wherever the focus is.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+
+/// One at a time: a second watcher takes the first one's place until it goes.
+class PopupWatcher
+{
+public:
+    struct Calls
+    {
+        /// With the window under the pointer, before that window hears of the press.
+        std::function<void(HWND under)> pressed;
+        /// The key goes no further.
+        std::function<void()> escape;
+    };
+
+    /// The calls may destroy the watcher. What they throw is lost.
+    explicit PopupWatcher(Calls calls);
+    ~PopupWatcher();
+    PopupWatcher(const PopupWatcher&) = delete;
+    PopupWatcher& operator=(const PopupWatcher&) = delete;
+
+private:
+    static LRESULT CALLBACK hearMouse(int code, WPARAM message, LPARAM event);
+    static LRESULT CALLBACK hearKey(int code, WPARAM key, LPARAM flags);
+
+    static PopupWatcher* s_current;
+    Calls m_calls;
+    PopupWatcher* m_before;
+    HHOOK m_mouse;
+    HHOOK m_keyboard;
+};

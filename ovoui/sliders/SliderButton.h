@@ -1,0 +1,132 @@
+/// A small button beside an edit control, its buddy, that drops a slider for the buddy's number.
+///
+///     m_slider.SubclassDlgItem(IDC_SIZE_SLIDER, this); // a static control with a tab stop
+///     m_slider.SetBuddy(m_size);
+///     m_slider.SetType(CSliderButton::SliderLogarithmic);
+///     m_slider.SetRange(0.1, 1000.0, 2);
+///
+/// The user clicks the button and moves the slider, or presses, drags straight onto the thumb and lets go.
+/// The popup never takes the activation by itself: the arrow keys, Page Up and Down, Home and End of the
+/// button move the slider while it is open; Escape puts back the text from before.
+#pragma once
+
+#include <ovoui/export.h>
+#include <ovoui/frame/Lifeline.h>
+#include <ovoui/sliders/PopupSlider.h>
+#include <ovoui/sliders/SliderButtonUtils.h>
+
+#include <afxwin.h>
+
+#include <memory>
+#include <string>
+
+class PopupWatcher;
+
+/// The buddy's parent is sent kValueChanged whenever the slider has rewritten the buddy's text, and kReleased
+/// when the button is released, after the buddy got the focus; wParam is the buddy, lParam 0. It may destroy
+/// the button or the buddy in both, and so may the operations of SliderButtonUtils.
+class OVOUI_API CSliderButton : public CStatic
+{
+public:
+    enum SliderType
+    {
+        SliderInteger,     ///< the slider's positions are the numbers
+        SliderLinear,      ///< a hundred steps from low to high
+        SliderLogarithmic, ///< equal steps are equal ratios; both ends have the same sign and are not zero
+        SliderSquareRoot, ///< the number grows with the square of the way; exact both ways only when low is 0
+    };
+
+    static constexpr UINT kValueChanged = 3600;
+    static constexpr UINT kReleased = 3601;
+
+    /// `utils` belongs to the host and outlives the button.
+    explicit CSliderButton(SliderButtonUtils& utils);
+    ~CSliderButton() override;
+
+    /// Null: none, and the slider changes nothing. The tip is the string whose id is the buddy's control id.
+    void SetBuddy(HWND buddy);
+    void SetType(SliderType type);
+
+    /// For SliderInteger; 0 to 100 at first.
+    void SetRange(int low, int high);
+
+    /// For the other types, with this many digits behind the decimal sign; 1 to 100 with two at first.
+    void SetRange(double low, double high, int decimals);
+
+    /// The slider's range in pages, which is what a click beside the thumb moves it by; 10 at first, never 0.
+    void SetPages(int pages);
+
+    /// Writes the slider's number into the buddy and tells the buddy's parent.
+    void SetValue();
+
+    /// Closes the popup and puts back the text that the buddy had when it opened.
+    void cancelPopup();
+
+    BOOL PreTranslateMessage(MSG* message) override;
+
+protected:
+    void PreSubclassWindow() override;
+
+    afx_msg void OnCaptureChanged(CWnd* wnd);
+    afx_msg void OnDestroy();
+    afx_msg void OnEnable(BOOL enable);
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnKillFocus(CWnd* other);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnMouseLeave();
+    afx_msg void OnPaint();
+    afx_msg void OnSetFocus(CWnd* other);
+    afx_msg LRESULT OnUnpress(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void ShowPopup(const CPoint& at);
+    void HidePopup();
+    void SetSliderPos();
+    void placePopup(const CPoint& at);
+    void SetPressed(bool pressed);
+    bool press(const CPoint& at);
+    void dismiss();
+    void dragTo(int x);
+    void enterTip();
+    bool takesKey(const MSG& message);
+    CPoint middle() const;
+    void dismissFor(HWND pressed);
+    CString buddyText() const;
+    void setBuddyText(LPCTSTR text);
+    bool tellParent(UINT message);
+    void paintFace(CDC& dc, const CRect& client);
+    void paintArrow(CDC& dc, const CRect& client);
+
+    CPopupSlider m_popup;
+    HWND m_buddy = nullptr;
+    bool m_pressed = false;
+    CRect m_popupRect; // the popup's client area, in client coordinates of the button
+    bool m_dragging = false;
+    bool m_tracking = false;
+    CPoint m_pressPoint;
+    int m_thumbOffset = 0; // from the press to the thumb
+    int m_channelLeft = 0; // in client coordinates of the button
+    int m_channelRight = 0;
+    int m_minimum = 0;
+    int m_maximum = 0;
+    SliderType m_type = SliderInteger;
+    int m_low = 0;
+    int m_high = 100;
+    double m_realLow = 1.0;
+    double m_realHigh = 100.0;
+    int m_decimals = 2;
+    int m_pages = 10;
+    bool m_tipShown = false;
+    bool m_noTip = false;
+    CString m_tip;
+    SliderButtonUtils& m_utils;
+    CString m_textBefore;                    // what the buddy showed when the popup opened
+    std::unique_ptr<PopupWatcher> m_watcher; // while the popup is open
+    Lifeline m_lifeline;
+};

@@ -1,0 +1,26 @@
+# Sliders: the slider button with its popup, the round and the wheel slider, decimal signs and list separators.
+set(sliders_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/CylinderDrag.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/CylinderPicture.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/NumberText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SeparatorText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SliderDrag.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SliderMapping.cpp)
+
+if(NOT WIN32)
+  add_library(ovoui_sliders_core STATIC ${sliders_core})
+  target_include_directories(ovoui_sliders_core PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(ovoui_sliders_core PRIVATE ovo_flags)
+  return()
+endif()
+
+target_sources(ovoui PRIVATE
+  ${sliders_core}
+  ${CMAKE_CURRENT_LIST_DIR}/AngleSlider.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PopupSlider.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PopupSliderCtrl.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PopupWatcher.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/RoundSlider.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Separators.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SliderButton.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/WheelSlider.cpp)

@@ -1,0 +1,100 @@
+#include <ovoui/sliders/core/CylinderPicture.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+
+using namespace ovoui::sliders;
+
+namespace
+{
+
+constexpr CylinderColours kColours{{100, 0, 50}, {220, 200, 250}, {255, 255, 255}};
+
+/// What is seen at each pixel.
+std::vector<Shade> pixels(int from, int to, double rotation, bool quarters)
+{
+    const CylinderPicture picture = cylinderPicture(from, to, rotation, kColours, quarters);
+    std::vector<Shade> row(static_cast<std::size_t>(to - from), Shade{-1, -1, -1});
+    for (const Strip& strip : picture.strips)
+        std::fill(row.begin() + strip.from - from, row.begin() + strip.to - from, strip.colour);
+    for (const RibLine& line : picture.lines)
+        if (line.at >= from && line.at < to)
+            row[static_cast<std::size_t>(line.at - from)] = line.colour;
+    return row;
+}
+
+} // namespace
+
+TEST(CylinderPicture, WhatFacesTheViewerIsLight)
+{
+    EXPECT_EQ(shadeAt(0, kColours.dark, kColours.light), kColours.light);
+    EXPECT_EQ(shadeAt(90, kColours.dark, kColours.light), kColours.dark);
+    EXPECT_EQ(shadeAt(-90, kColours.dark, kColours.light), kColours.dark);
+    EXPECT_EQ(shadeAt(60, kColours.dark, kColours.light), (Shade{160, 100, 150}));
+}
+
+TEST(CylinderPicture, StripsCoverItWithoutAGap)
+{
+    for (const double rotation : {0.0, 2.5, 5.0, -31.7, 90.0, 1000.1, -40000.0})
+        for (const int width : {1, 2, 7, 40, 288, 300}) {
+            int end = 3;
+            for (const Strip& strip : cylinderPicture(3, 3 + width, rotation, kColours, true).strips) {
+                EXPECT_EQ(strip.from, end);
+                EXPECT_GT(strip.to, strip.from);
+                end = strip.to;
+            }
+            EXPECT_EQ(end, 3 + width) << rotation;
+        }
+}
+
+TEST(CylinderPicture, StripsDarkenTowardsTheEdges)
+{
+    const std::vector<Strip> strips = cylinderPicture(0, 300, 2.5, kColours, true).strips;
+    const auto darker = [](const Strip& a, const Strip& b) { return a.colour.red < b.colour.red; };
+    const auto lightest =
+        std::find_if(strips.begin(), strips.end(), [](const Strip& strip) { return strip.to > 150; });
+    EXPECT_EQ(lightest->colour, kColours.light) << "the one in the middle";
+    EXPECT_TRUE(std::is_sorted(strips.begin(), lightest, darker));
+    EXPECT_TRUE(std::is_sorted(strips.rbegin(), std::make_reverse_iterator(lightest), darker));
+}
+
+TEST(CylinderPicture, ThereIsARibEveryFiveDegrees)
+{
+    EXPECT_EQ(cylinderPicture(0, 300, 1, kColours, false).lines.size(), 2u * 36);
+    EXPECT_EQ(cylinderPicture(0, 300, 0, kColours, false).lines.size(), 2u * 36) << "the one at -90 is hidden";
+    const auto row = pixels(0, 300, 2.5, false);
+    EXPECT_NE(row[150 + 6], row[150]) << "the rib at 2.5 degrees";
+    EXPECT_NE(row[150 - 8], row[150]) << "and the one at -2.5";
+}
+
+TEST(CylinderPicture, QuartersStandOutAsBrightBands)
+{
+    const auto row = pixels(0, 300, 30, true); // the quarter at 0 degrees is seen at -30
+    const auto plain = pixels(0, 300, 30, false);
+    int brighter = 0;
+    for (std::size_t x = 75 - 8; x <= 75 + 8; ++x)
+        brighter += row[x].green > plain[x].green ? 1 : 0;
+    EXPECT_GE(brighter, 5);
+    EXPECT_EQ(row[150], plain[150]) << "elsewhere it is the same";
+    EXPECT_EQ(cylinderPicture(0, 300, 30, kColours, true).lines.size(), 2u * 34 + 2u * 16)
+        << "eight lines on either side of the quarters at 0 and at 90 degrees";
+}
+
+TEST(CylinderPicture, AFullTurnLooksTheSame)
+{
+    for (const double rotation : {0.0, 12.5, -88.0, 179.0})
+        for (const bool quarters : {false, true}) {
+            EXPECT_EQ(pixels(0, 200, rotation, quarters), pixels(0, 200, rotation + 360, quarters));
+            EXPECT_EQ(pixels(0, 200, rotation, quarters), pixels(0, 200, rotation - 720, quarters));
+        }
+}
+
+TEST(CylinderPicture, WithoutRoomOrAnAngleThereIsNothing)
+{
+    EXPECT_TRUE(cylinderPicture(5, 5, 0, kColours, true).strips.empty());
+    EXPECT_TRUE(cylinderPicture(5, 2, 0, kColours, true).strips.empty());
+    EXPECT_TRUE(cylinderPicture(0, 9, std::numeric_limits<double>::quiet_NaN(), kColours, true).strips.empty());
+    EXPECT_TRUE(cylinderPicture(0, 9, std::numeric_limits<double>::infinity(), kColours, true).lines.empty());
+}
