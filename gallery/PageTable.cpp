@@ -3,6 +3,7 @@
 #include "pages/GeometryPage.h"
 #include "pages/ImagesPage.h"
 #include "pages/MessageBoxPage.h"
+#include "pages/SlidersPage.h"
 #include "pages/ThemesPage.h"
 #include "pages/TreePage.h"
 
@@ -35,6 +36,9 @@ const std::vector<PageEntry>& pageTable()
         {L"tree", L"Multi-selection tree",
          L"MultiTreeCtrl: select several, drag them with either button, rename, delete, copy and paste.",
          &make<TreePage>},
+        {L"sliders", L"Sliders",
+         L"CSliderButton drops a slider for the number beside it; CRoundSlider and CWheelSlider turn a box.",
+         &make<SlidersPage>},
     };
     return pages;
 }

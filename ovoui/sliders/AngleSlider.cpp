@@ -152,6 +152,8 @@ void CAngleSlider::OnPaint()
     GetClientRect(&rect);
     dc.FillSolidRect(&rect, ::GetSysColor(COLOR_BTNFACE));
     rect.DeflateRect(1, 1);
+    if (rect.IsRectEmpty())
+        return;
     dc.DrawEdge(&rect, EDGE_ETCHED, BF_RECT);
     rect.DeflateRect(1, 1);
     ShadeRect(rect, &dc);

@@ -63,7 +63,8 @@ TEST(CylinderPicture, StripsDarkenTowardsTheEdges)
 TEST(CylinderPicture, ThereIsARibEveryFiveDegrees)
 {
     EXPECT_EQ(cylinderPicture(0, 300, 1, kColours, false).lines.size(), 2u * 36);
-    EXPECT_EQ(cylinderPicture(0, 300, 0, kColours, false).lines.size(), 2u * 36) << "the one at -90 is hidden";
+    EXPECT_EQ(cylinderPicture(0, 300, 0, kColours, false).lines.size(), 2u * 36)
+        << "the one at -90 is hidden";
     const auto row = pixels(0, 300, 2.5, false);
     EXPECT_NE(row[150 + 6], row[150]) << "the rib at 2.5 degrees";
     EXPECT_NE(row[150 - 8], row[150]) << "and the one at -2.5";
@@ -95,6 +96,7 @@ TEST(CylinderPicture, WithoutRoomOrAnAngleThereIsNothing)
 {
     EXPECT_TRUE(cylinderPicture(5, 5, 0, kColours, true).strips.empty());
     EXPECT_TRUE(cylinderPicture(5, 2, 0, kColours, true).strips.empty());
-    EXPECT_TRUE(cylinderPicture(0, 9, std::numeric_limits<double>::quiet_NaN(), kColours, true).strips.empty());
+    EXPECT_TRUE(
+        cylinderPicture(0, 9, std::numeric_limits<double>::quiet_NaN(), kColours, true).strips.empty());
     EXPECT_TRUE(cylinderPicture(0, 9, std::numeric_limits<double>::infinity(), kColours, true).lines.empty());
 }

@@ -20,7 +20,8 @@ TEST(SliderNumberText, ReadsTheNumberAtTheStart)
 
 TEST(SliderNumberText, TellsWhenThereIsNone)
 {
-    for (const wchar_t* text : {L"", L"   ", L"abc", L"+", L"-", L"+-1", L"--1", L".", L"\u0663", L"\u221E"}) {
+    for (const wchar_t* text :
+         {L"", L"   ", L"abc", L"+", L"-", L"+-1", L"--1", L".", L"\u0663", L"\u221E"}) {
         EXPECT_FALSE(parseReal(text)) << testing::PrintToString(text);
         EXPECT_FALSE(parseWhole(text)) << testing::PrintToString(text);
     }

@@ -72,10 +72,17 @@ TEST(SliderMapping, ValuesThatAreNotPositiveCountAsTheLowEnd)
 
 TEST(SliderMapping, EveryValueHasOneOfThePositions)
 {
-    const RealRange ranges[] = {{1, 100},       {100, 1},        {5, 5},
-                                {0, 0},         {0, 10},         {-10, 10},
-                                {-10, -1},      {kNan, 1},       {1, kInfinity},
-                                {1e308, -1e308}, {-kInfinity, kInfinity}};
+    const RealRange ranges[] = {{1, 100},
+                                {100, 1},
+                                {5, 5},
+                                {0, 0},
+                                {0, 10},
+                                {-10, 10},
+                                {-10, -1},
+                                {kNan, 1},
+                                {1, kInfinity},
+                                {1e308, -1e308},
+                                {-kInfinity, kInfinity}};
     const double values[] = {0, 1, -1, 5, 1e-300, 1e300, -1e300, kInfinity, -kInfinity, kNan};
     for (const Mapping mapping : {Mapping::Linear, Mapping::Logarithmic, Mapping::SquareRoot})
         for (const RealRange& range : ranges)
@@ -109,7 +116,8 @@ TEST(SliderMapping, TheValueOfAPositionHasThatPosition)
 {
     for (int step = 0; step <= 100; ++step) {
         EXPECT_EQ(position(value(step, Mapping::Linear, {-3, 11}), Mapping::Linear, {-3, 11}), step);
-        EXPECT_EQ(position(value(step, Mapping::Logarithmic, {0.5, 4000}), Mapping::Logarithmic, {0.5, 4000}), step);
+        EXPECT_EQ(position(value(step, Mapping::Logarithmic, {0.5, 4000}), Mapping::Logarithmic, {0.5, 4000}),
+                  step);
         EXPECT_EQ(position(value(step, Mapping::SquareRoot, {0, 50}), Mapping::SquareRoot, {0, 50}), step);
     }
 }

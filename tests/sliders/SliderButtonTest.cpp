@@ -1,0 +1,712 @@
+// The slider button with real input: clicks, the drag in one movement, keys, what the host is asked and told,
+// and what the host may do meanwhile.
+#include "SliderButtonScene.h"
+
+#include "support/GdiCounter.h"
+#include "support/WindowCounter.h"
+
+#include <ovoui/frame/Geometry.h>
+
+#include <stdexcept>
+
+using namespace ovotest;
+
+namespace
+{
+
+constexpr UINT kChanged = CSliderButton::kValueChanged;
+constexpr UINT kReleased = CSliderButton::kReleased;
+
+class SliderButton : public SliderButtonScene
+{
+protected:
+    void open()
+    {
+        user.click(Spot{*button}).waitFor("the popup", &isOpen);
+        parent.log().clear();
+    }
+};
+
+} // namespace
+
+// Opening and closing
+
+TEST_F(SliderButton, AClickOpensThePopupAndASecondOneClosesIt)
+{
+    show();
+    user.click(Spot{*button}).waitFor("the popup", &isOpen);
+    EXPECT_TRUE(told().empty()) << "nothing has happened yet";
+    EXPECT_EQ(::GetFocus(), other.m_hWnd) << "the focus stays where it was";
+    EXPECT_EQ(::GetActiveWindow(), parent.m_hWnd) << "so does the activation";
+
+    user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+    EXPECT_EQ(::GetFocus(), buddy.m_hWnd);
+}
+
+TEST_F(SliderButton, AQuickSecondClickClosesItToo)
+{
+    show();
+    user.doubleClick(Spot{*button}).waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+}
+
+TEST_F(SliderButton, TheParentIsToldOfTheReleaseAfterTheFocusCameBack)
+{
+    class Watching : public CWnd
+    {
+    public:
+        CSliderButton* button = nullptr;
+        HWND focus = nullptr;
+        WPARAM buddy = 0;
+        LPARAM lParam = 1;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM l) override
+        {
+            if (message == kReleased) {
+                focus = ::GetFocus();
+                buddy = wParam;
+                lParam = l;
+            }
+            return CWnd::WindowProc(message, wParam, l);
+        }
+    } watching;
+    CRect place;
+    parent.GetClientRect(&place);
+    watching.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, place, &parent, 20);
+    buddy.SetParent(&watching);
+    show();
+    button->SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    user.click(Spot{*button})
+        .waitFor("the popup", &isOpen)
+        .click(Spot{*button})
+        .waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(watching.focus, buddy.m_hWnd);
+    EXPECT_EQ(watching.buddy, reinterpret_cast<WPARAM>(buddy.m_hWnd));
+    EXPECT_EQ(watching.lParam, 0);
+}
+
+TEST_F(SliderButton, AClickElsewhereClosesIt)
+{
+    show();
+    open();
+    user.click(Spot{other}).waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+    EXPECT_EQ(::GetFocus(), other.m_hWnd) << "the click itself counts as well";
+}
+
+TEST_F(SliderButton, AClickOnTheWindowsBackgroundClosesIt)
+{
+    show();
+    open();
+    user.click(Spot{parent, CPoint(250, 100)}).waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+}
+
+TEST_F(SliderButton, LosingTheProgramsActivationClosesIt)
+{
+    show();
+    open();
+    ::SendMessageW(popup(), WM_ACTIVATEAPP, FALSE, 0);
+    user.waitFor("the release", [&] { return !told().empty(); });
+    EXPECT_TRUE(isClosed());
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+}
+
+TEST_F(SliderButton, AnActivePopupClosesWhenAnotherWindowIsActivated)
+{
+    show();
+    open();
+    user.click(Spot{[] { return CPoint(thumbX(), middleOfSlider()); }}).waitFor("the activation", [] {
+        return ::GetActiveWindow() == popup();
+    });
+    EXPECT_EQ(::GetFocus(), slider()) << "the popup hands the focus to its slider";
+    parent.SetActiveWindow();
+    user.waitFor("the release", [&] { return !told().empty() && told().back() == kReleased; });
+    EXPECT_TRUE(isClosed());
+}
+
+TEST_F(SliderButton, ThePostedMessageReleasesIt)
+{
+    show();
+    open();
+    EXPECT_EQ(button->SendMessage(3606), 0);
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+    EXPECT_EQ(button->SendMessage(3606), 0);
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased})) << "only when pressed";
+}
+
+// The place of the popup
+
+TEST_F(SliderButton, ThePopupOpensBelowWithTheThumbUnderThePointer)
+{
+    setBuddyText(L"50");
+    show();
+    CPoint pointer;
+    user.click(Spot{*button}).waitFor("the popup", &isOpen).then([&] { ::GetCursorPos(&pointer); });
+    CRect place;
+    ::GetWindowRect(popup(), &place);
+    CRect under;
+    button->GetWindowRect(&under);
+    EXPECT_EQ(place.top, under.bottom);
+    EXPECT_NEAR(thumbX(), pointer.x, 4);
+}
+
+TEST_F(SliderButton, ThePopupStaysOnTheScreen)
+{
+    setBuddyText(L"0");
+    CRect work(GetWorkArea(CRect(0, 0, 10, 10)));
+    for (const CPoint at :
+         {CPoint(work.right - 140, 100), CPoint(work.left - 90, 100), CPoint(200, work.bottom - 60)}) {
+        show(at);
+        open();
+        CRect place;
+        ::GetWindowRect(popup(), &place);
+        CRect common;
+        common.IntersectRect(place, work);
+        EXPECT_EQ(common, place);
+        user.key(VK_ESCAPE).waitFor("the popup to go", &isClosed);
+    }
+}
+
+TEST_F(SliderButton, ThePopupIsASmallWindowWithoutACaption)
+{
+    show();
+    open();
+    const LONG_PTR style = ::GetWindowLongPtrW(popup(), GWL_STYLE);
+    EXPECT_TRUE(style & WS_POPUP);
+    EXPECT_NE(style & WS_CAPTION, WS_CAPTION);
+    EXPECT_EQ(::GetWindow(popup(), GW_OWNER), parent.m_hWnd) << "so it is not in the task bar";
+    EXPECT_EQ(::GetDlgCtrlID(slider()), 20505);
+}
+
+// The drag in one movement
+
+TEST_F(SliderButton, PressDragReleaseIsOneMovement)
+{
+    setBuddyText(L"50");
+    show();
+    int before = 0;
+    user.press(Spot{*button})
+        .waitFor("the popup", &isOpen)
+        .then([&] { before = sliderPos(); })
+        .moveBy(30, 0)
+        .waitFor("the value", [&] { return buddyText() != L"50"; })
+        .release()
+        .waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(before, 50);
+    EXPECT_GT(std::stoi(buddyText()), 50);
+    const std::vector<UINT> messages = told();
+    ASSERT_GE(messages.size(), 2u);
+    EXPECT_EQ(messages.back(), kReleased);
+    EXPECT_EQ(std::count(messages.begin(), messages.end(), kChanged), static_cast<long>(messages.size()) - 1);
+    EXPECT_EQ(::GetFocus(), buddy.m_hWnd);
+}
+
+TEST_F(SliderButton, ADragBeyondTheEndsStopsThere)
+{
+    setBuddyText(L"50");
+    show();
+    user.press(Spot{*button}).waitFor("the popup", &isOpen).moveBy(600, 0).then([&] {
+        EXPECT_EQ(buddyText(), L"100");
+    });
+    EXPECT_TRUE(isClosed()) << "the story let the button go";
+    user.press(Spot{*button}).waitFor("the popup", &isOpen).moveBy(-299, 0).moveBy(-299, 0).then([&] {
+        EXPECT_EQ(buddyText(), L"0");
+    });
+}
+
+TEST_F(SliderButton, ASmallMovementIsAClick)
+{
+    setBuddyText(L"50");
+    show();
+    user.press(Spot{*button}).waitFor("the popup", &isOpen).moveBy(2, 1).release();
+    EXPECT_TRUE(isOpen());
+    EXPECT_EQ(buddyText(), L"50");
+    EXPECT_TRUE(told().empty());
+}
+
+TEST_F(SliderButton, AThumbToTheRightWaitsUntilThePointerIsThere)
+{
+    setBuddyText(L"90");
+    show({-60, 200}); // the popup cannot go as far to the left as the thumb would have it
+    CPoint press;
+    int thumb = 0;
+    user.press(Spot{*button}).waitFor("the popup", &isOpen).then([&] {
+        ::GetCursorPos(&press);
+        thumb = thumbX() - press.x;
+    });
+    ASSERT_GT(thumb, 20);
+    user.click(Spot{other}).waitFor("the popup to go", &isClosed);
+    setBuddyText(L"90");
+    user.press(Spot{*button})
+        .waitFor("the popup", &isOpen)
+        .moveBy(thumb - 8, 0)
+        .then([&] { EXPECT_EQ(buddyText(), L"90") << "not there yet"; })
+        .moveBy(30, 0)
+        .waitFor("the value", [&] { return buddyText() != L"90"; })
+        .release();
+    EXPECT_GT(std::stoi(buddyText()), 95);
+    EXPECT_TRUE(isClosed());
+}
+
+TEST_F(SliderButton, AThumbToTheLeftWaitsUntilThePointerIsThere)
+{
+    setBuddyText(L"10");
+    const CRect work(GetWorkArea(CRect(0, 0, 10, 10)));
+    show({work.right - 125, 200});
+    int thumb = 0;
+    user.press(Spot{*button}).waitFor("the popup", &isOpen).then([&] {
+        CPoint press;
+        ::GetCursorPos(&press);
+        thumb = press.x - thumbX();
+    });
+    ASSERT_GT(thumb, 20);
+    user.click(Spot{other}).waitFor("the popup to go", &isClosed);
+    user.press(Spot{*button})
+        .waitFor("the popup", &isOpen)
+        .moveBy(8 - thumb, 0)
+        .then([&] { EXPECT_EQ(buddyText(), L"10") << "not there yet"; })
+        .moveBy(-30, 0)
+        .waitFor("the value", [&] { return buddyText() != L"10"; })
+        .release();
+    EXPECT_EQ(buddyText(), L"0");
+}
+
+TEST_F(SliderButton, InsideThePopupTheThumbComesToThePointer)
+{
+    setBuddyText(L"90");
+    show({-60, 200});
+    user.press(Spot{*button})
+        .waitFor("the popup", &isOpen)
+        .moveBy(0, 24)
+        .waitFor("the value", [&] { return buddyText() != L"90"; })
+        .release();
+    EXPECT_LT(std::stoi(buddyText()), 90);
+}
+
+TEST_F(SliderButton, LosingTheCaptureEndsTheDragOnly)
+{
+    setBuddyText(L"50");
+    show();
+    user.press(Spot{*button})
+        .waitFor("the popup", &isOpen)
+        .moveBy(30, 0)
+        .waitFor("the value", [&] { return buddyText() != L"50"; })
+        .then([&] {
+            ::ReleaseCapture();
+            parent.log().clear();
+        })
+        .moveBy(20, 0)
+        .release();
+    EXPECT_TRUE(told().empty());
+    EXPECT_TRUE(isOpen());
+}
+
+// Keyboard
+
+TEST_F(SliderButton, ItTakesPartInTabbingLikeAButton)
+{
+    EXPECT_EQ(button->SendMessage(WM_GETDLGCODE) & DLGC_STATIC, 0);
+}
+
+TEST_F(SliderButton, SpaceOpensAndCloses)
+{
+    show();
+    button->SetFocus();
+    user.key(VK_SPACE).waitFor("the popup", &isOpen);
+    EXPECT_EQ(::GetFocus(), button->m_hWnd);
+    user.key(VK_SPACE).waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+    EXPECT_EQ(::GetFocus(), buddy.m_hWnd);
+}
+
+TEST_F(SliderButton, DownOpensAndTheKeysMoveTheSlider)
+{
+    setBuddyText(L"50");
+    show();
+    button->SetFocus();
+    user.key(VK_DOWN).waitFor("the popup", &isOpen);
+    EXPECT_EQ(buddyText(), L"50") << "the key that opens moves nothing";
+    const struct
+    {
+        WORD key;
+        const wchar_t* text;
+    } keys[] = {{VK_RIGHT, L"51"}, {VK_LEFT, L"50"},  {VK_DOWN, L"51"}, {VK_UP, L"50"},
+                {VK_NEXT, L"60"},  {VK_PRIOR, L"50"}, {VK_END, L"100"}, {VK_HOME, L"0"}};
+    for (const auto& [key, text] : keys) {
+        user.key(key).waitFor("the value", [&, text = text] { return buddyText() == text; });
+        EXPECT_EQ(told(), (std::vector<UINT>{kChanged}));
+        parent.log().clear();
+    }
+    EXPECT_EQ(::GetFocus(), button->m_hWnd);
+}
+
+TEST_F(SliderButton, EscapePutsTheTextBack)
+{
+    setBuddyText(L"50 apples");
+    show();
+    button->SetFocus();
+    user.key(VK_DOWN).waitFor("the popup", &isOpen).key(VK_END).waitFor("the value", [&] {
+        return buddyText() == L"100";
+    });
+    parent.log().clear();
+    user.key(VK_ESCAPE).waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(buddyText(), L"50 apples");
+    EXPECT_EQ(told(), (std::vector<UINT>{kChanged, kReleased}));
+}
+
+TEST_F(SliderButton, EscapeWithoutAChangeTellsOfNone)
+{
+    setBuddyText(L"50 apples");
+    show();
+    open();
+    user.key(VK_ESCAPE).waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(buddyText(), L"50 apples");
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+}
+
+TEST_F(SliderButton, SpaceTabAndEnterInThePopupCloseIt)
+{
+    for (const WORD key : {VK_SPACE, VK_TAB, VK_RETURN}) {
+        setBuddyText(L"50");
+        show();
+        open();
+        EXPECT_TRUE(::SendMessageW(slider(), WM_GETDLGCODE, 0, 0) & DLGC_WANTTAB);
+        user.click(Spot{[] { return CPoint(thumbX(), middleOfSlider()); }})
+            .waitFor("the focus in the slider", [] { return ::GetFocus() == slider(); })
+            .key(key)
+            .waitFor("the release", [&] { return !told().empty() && told().back() == kReleased; });
+        EXPECT_TRUE(isClosed());
+        EXPECT_EQ(buddyText(), L"50");
+    }
+}
+
+TEST_F(SliderButton, EscapeInThePopupPutsTheTextBack)
+{
+    setBuddyText(L"50");
+    show();
+    open();
+    user.click(Spot{[] { return CPoint(thumbX(), middleOfSlider()); }})
+        .waitFor("the focus in the slider", [] { return ::GetFocus() == slider(); })
+        .key(VK_END)
+        .waitFor("the value", [&] { return buddyText() == L"100"; })
+        .key(VK_ESCAPE)
+        .waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(buddyText(), L"50");
+}
+
+// Numbers
+
+TEST_F(SliderButton, WholeNumbersGoRoundTheHostsConversions)
+{
+    button->SetRange(-20, 20);
+    setBuddyText(L" 5 apples");
+    show();
+    button->SetFocus();
+    user.key(VK_DOWN).waitFor("the popup", &isOpen);
+    EXPECT_EQ(sliderPos(), 5);
+    EXPECT_EQ(::SendMessageW(slider(), TBM_GETRANGEMIN, 0, 0), -20);
+    EXPECT_EQ(::SendMessageW(slider(), TBM_GETRANGEMAX, 0, 0), 20);
+    user.key(VK_RIGHT).waitFor("the value", [&] { return buddyText() == L"6"; });
+    EXPECT_TRUE(utils.calls.empty());
+}
+
+TEST_F(SliderButton, RealNumbersPassTheHostsConversions)
+{
+    button->SetType(CSliderButton::SliderLinear);
+    button->SetRange(0.0, 10.0, 2);
+    setBuddyText(L"2,5");
+    show();
+    button->SetFocus();
+    user.key(VK_DOWN).waitFor("the popup", &isOpen);
+    EXPECT_EQ(sliderPos(), 25);
+    user.key(VK_RIGHT).waitFor("the value", [&] { return buddyText() == L"2,60 mm"; });
+    EXPECT_EQ(utils.calls, (std::vector<std::wstring>{L"from 2,5", L"to 2.60"}));
+}
+
+TEST_F(SliderButton, EveryTypePlacesTheSliderByItsMapping)
+{
+    const struct
+    {
+        CSliderButton::SliderType type;
+        const wchar_t* text;
+        int position;
+        const wchar_t* next;
+    } rows[] = {{CSliderButton::SliderLinear, L"50.5", 50, L"51,490 mm"},
+                {CSliderButton::SliderLogarithmic, L"10", 50, L"10,471 mm"},
+                {CSliderButton::SliderLogarithmic, L"-3", 0, L"1,047 mm"},
+                {CSliderButton::SliderSquareRoot, L"30.25", 50, L"26,750 mm"}};
+    for (const auto& row : rows) {
+        button->SetType(row.type);
+        button->SetRange(1.0, 100.0, 3);
+        setBuddyText(row.text);
+        show();
+        button->SetFocus();
+        user.key(VK_DOWN).waitFor("the popup", &isOpen);
+        EXPECT_EQ(sliderPos(), row.position) << row.type;
+        user.key(VK_RIGHT).waitFor("the value", [&] { return buddyText() == row.next; });
+        user.key(VK_SPACE).waitFor("the popup to go", &isClosed);
+    }
+}
+
+TEST_F(SliderButton, ATextWithoutANumberIsTheLowEnd)
+{
+    setBuddyText(L"none");
+    button->SetRange(3, 9);
+    show();
+    open();
+    EXPECT_EQ(sliderPos(), 3);
+    user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+    button->SetType(CSliderButton::SliderLinear);
+    button->SetRange(5.0, 1.0, 0);
+    open();
+    EXPECT_EQ(sliderPos(), 0);
+    user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+}
+
+TEST_F(SliderButton, AHundredCharactersAreRead)
+{
+    for (const size_t length : {size_t{99}, size_t{100}, size_t{101}, size_t{5000}}) {
+        const std::wstring number = std::wstring(length - 2, L' ') + L"42";
+        setBuddyText(number.c_str());
+        show();
+        open();
+        EXPECT_EQ(sliderPos(), length <= 100 ? 42 : length == 101 ? 4 : 0) << length;
+        user.key(VK_ESCAPE).waitFor("the popup to go", &isClosed);
+        EXPECT_EQ(buddyText(), number) << "put back whole";
+    }
+}
+
+TEST_F(SliderButton, PagesArePartsOfTheRange)
+{
+    button->SetPages(4);
+    show();
+    open();
+    EXPECT_EQ(::SendMessageW(slider(), TBM_GETPAGESIZE, 0, 0), 25);
+}
+
+TEST_F(SliderButton, WithoutABuddyNothingIsWritten)
+{
+    button->SetBuddy(nullptr);
+    setBuddyText(L"7");
+    show();
+    button->SetFocus();
+    user.key(VK_DOWN)
+        .waitFor("the popup", &isOpen)
+        .key(VK_END)
+        .key(VK_SPACE)
+        .waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(buddyText(), L"7");
+    EXPECT_TRUE(told().empty());
+}
+
+// The tip
+
+TEST_F(SliderButton, TheTipIsTheStringOfTheBuddysNumberUpToTheLineFeed)
+{
+    show();
+    user.moveTo(Spot{*button}).waitFor("the tip", [&] { return utils.calls.size() == 1; });
+    EXPECT_EQ(utils.calls[0], L"show Width of the pen");
+    user.moveBy(2, 2).moveTo(Spot{other}).waitFor("the end of the tip", [&] {
+        return utils.calls.size() == 2;
+    });
+    EXPECT_EQ(utils.calls[1], L"hide");
+    user.moveTo(Spot{*button}).waitFor("the tip again", [&] { return utils.calls.size() == 3; });
+    EXPECT_EQ(utils.calls[2], L"show Width of the pen");
+}
+
+TEST_F(SliderButton, WithoutATextThereIsNoTipForGood)
+{
+    button->SetBuddy(other);
+    show();
+    user.moveTo(Spot{*button}).moveBy(2, 2);
+    button->SetBuddy(buddy);
+    user.moveTo(Spot{other}).moveTo(Spot{*button}).moveBy(2, 2);
+    EXPECT_TRUE(utils.calls.empty());
+}
+
+// What a host may do meanwhile
+
+TEST_F(SliderButton, DisablingItClosesThePopup)
+{
+    show();
+    open();
+    button->EnableWindow(FALSE);
+    EXPECT_TRUE(isClosed());
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+}
+
+TEST_F(SliderButton, TheBuddyMayVanish)
+{
+    show();
+    button->SetFocus();
+    user.key(VK_DOWN).waitFor("the popup", &isOpen);
+    buddy.DestroyWindow();
+    user.key(VK_RIGHT).key(VK_ESCAPE).waitFor("the popup to go", &isClosed);
+    EXPECT_TRUE(told().empty());
+    user.click(Spot{*button}).waitFor("the popup", &isOpen);
+}
+
+TEST_F(SliderButton, DestroyingItTakesThePopupAlong)
+{
+    show();
+    const WindowCounter windows;
+    open();
+    button->DestroyWindow();
+    EXPECT_TRUE(isClosed());
+    EXPECT_EQ(windows.grown(), -1) << "only the button is gone, and no popup is left";
+}
+
+TEST_F(SliderButton, AHostMayDestroyEverythingWhenItIsTold)
+{
+    for (const UINT message : {kChanged, kReleased})
+        for (const bool deletes : {false, true}) {
+            HostUtils host;
+            CFrameWnd frame;
+            frame.Create(nullptr, L"Host", WS_OVERLAPPEDWINDOW, CRect(300, 200, 600, 400));
+            class Destroying : public CWnd
+            {
+            public:
+                UINT trigger = 0;
+                std::function<void()> deed;
+
+            protected:
+                LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+                {
+                    if (message == trigger)
+                        deed();
+                    return CWnd::WindowProc(message, wParam, lParam);
+                }
+            } panel;
+            panel.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 280, 150), &frame, 1);
+            CEdit edit;
+            edit.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 100, 32), &panel, kBuddyId);
+            edit.SetWindowText(L"50");
+            CStatic plain;
+            plain.Create(L"", WS_CHILD | WS_VISIBLE, CRect(102, 10, 118, 32), &panel, 9);
+            auto slider = std::make_unique<CSliderButton>(host);
+            slider->SubclassWindow(plain.Detach());
+            slider->SetBuddy(edit);
+            bool done = false;
+            panel.trigger = message;
+            panel.deed = [&] {
+                done = true;
+                if (deletes)
+                    slider.reset();
+                else
+                    slider->DestroyWindow();
+                edit.DestroyWindow();
+            };
+            present(frame);
+            user.press(Spot{slider->m_hWnd})
+                .waitFor("the popup", &isOpen)
+                .moveBy(30, 0)
+                .release()
+                .waitFor("the deed", [&] { return done; });
+            EXPECT_TRUE(isClosed());
+            frame.DestroyWindow();
+        }
+}
+
+TEST_F(SliderButton, AHostMayDeleteItInAConversion)
+{
+    button->SetType(CSliderButton::SliderLinear);
+    for (const bool opening : {true, false}) {
+        if (!button) {
+            CStatic plain;
+            plain.Create(L"", WS_CHILD | WS_VISIBLE, CRect(102, 10, 118, 32), &parent, 9);
+            button = std::make_unique<CSliderButton>(utils);
+            button->SubclassWindow(plain.Detach());
+            button->SetBuddy(buddy);
+            button->SetType(CSliderButton::SliderLinear);
+        }
+        utils.misdeed = nullptr;
+        show();
+        const auto deletes = [&] { button.reset(); };
+        if (opening) {
+            utils.misdeed = deletes;
+            user.click(Spot{*button});
+        } else {
+            user.press(Spot{*button})
+                .waitFor("the popup", &isOpen)
+                .then([&] { utils.misdeed = deletes; })
+                .moveBy(30, 0)
+                .release();
+        }
+        EXPECT_EQ(button, nullptr);
+        EXPECT_TRUE(isClosed());
+    }
+}
+
+TEST_F(SliderButton, WhatAConversionThrowsReachesTheHostAndTheButtonStaysUsable)
+{
+    button->SetType(CSliderButton::SliderLinear);
+    button->SetRange(0.0, 10.0, 1);
+    setBuddyText(L"5");
+    show();
+    utils.misdeed = [] { throw std::runtime_error("no such unit"); };
+    EXPECT_THROW(button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5)), std::runtime_error);
+    EXPECT_TRUE(isClosed());
+    EXPECT_NE(::GetCapture(), button->m_hWnd);
+
+    utils.misdeed = nullptr;
+    open();
+    utils.misdeed = [] { throw std::runtime_error("no such unit"); };
+    EXPECT_THROW(button->SetValue(), std::runtime_error);
+    EXPECT_EQ(buddyText(), L"5");
+    utils.misdeed = nullptr;
+    user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+}
+
+TEST_F(SliderButton, AHostMayChangeTextAndFocusWhenTheValueChanges)
+{
+    class Changing : public CWnd
+    {
+    public:
+        CEdit* buddy = nullptr;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == kChanged) {
+                buddy->SetWindowText(L"mine");
+                buddy->SetFocus();
+            }
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    } panel;
+    panel.buddy = &buddy;
+    panel.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 90, 300, 120), &parent, 20);
+    setBuddyText(L"50");
+    buddy.SetParent(&panel);
+    buddy.SetWindowPos(nullptr, 10, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    show();
+    user.press(Spot{*button})
+        .waitFor("the popup", &isOpen)
+        .moveBy(30, 0)
+        .waitFor("the value", [&] { return buddyText() == L"mine"; })
+        .moveBy(10, 0)
+        .release()
+        .waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(buddyText(), L"mine");
+    EXPECT_EQ(::GetFocus(), buddy.m_hWnd);
+}
+
+TEST_F(SliderButton, OpeningAndClosingLeavesNothingBehind)
+{
+    show();
+    open();
+    user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+    const GdiCounter objects;
+    const WindowCounter windows;
+    for (int round = 0; round < 1000; ++round) {
+        button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+        button->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+        button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    }
+    EXPECT_TRUE(isClosed());
+    EXPECT_EQ(objects.grown(), 0);
+    EXPECT_EQ(windows.grown(), 0);
+}
