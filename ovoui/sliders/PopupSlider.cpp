@@ -5,10 +5,10 @@
 #include <ovouires/resource.h>
 
 BEGIN_MESSAGE_MAP(CPopupSlider, CDialog)
-ON_WM_HSCROLL()
-ON_WM_SETFOCUS()
-ON_WM_ACTIVATE()
-ON_WM_ACTIVATEAPP()
+    ON_WM_HSCROLL()
+    ON_WM_SETFOCUS()
+    ON_WM_ACTIVATE()
+    ON_WM_ACTIVATEAPP()
 END_MESSAGE_MAP()
 
 namespace

@@ -1,8 +1,8 @@
 #include <ovoui/sliders/PopupSliderCtrl.h>
 
 BEGIN_MESSAGE_MAP(CPopupSliderCtrl, CSliderCtrl)
-ON_WM_GETDLGCODE()
-ON_WM_KEYDOWN()
+    ON_WM_GETDLGCODE()
+    ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
 
 UINT CPopupSliderCtrl::OnGetDlgCode()

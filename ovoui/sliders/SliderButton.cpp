@@ -14,21 +14,22 @@
 using namespace ovoui::sliders;
 
 BEGIN_MESSAGE_MAP(CSliderButton, CStatic)
-ON_WM_LBUTTONDOWN() // mouse
-ON_WM_LBUTTONDBLCLK()
-ON_WM_MOUSEMOVE()
-ON_WM_LBUTTONUP()
-ON_WM_MOUSELEAVE()
-ON_WM_CAPTURECHANGED()
-ON_WM_KEYDOWN() // keyboard
-ON_WM_GETDLGCODE()
-ON_WM_SETFOCUS()
-ON_WM_KILLFOCUS()
-ON_WM_PAINT() // painting
-ON_WM_ERASEBKGND()
-ON_WM_ENABLE()
-ON_WM_DESTROY()
-ON_MESSAGE(CPopupSlider::kDeactivated, &CSliderButton::OnUnpress)
+    ON_WM_NCHITTEST() // mouse
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSELEAVE()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_KEYDOWN() // keyboard
+    ON_WM_GETDLGCODE()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_WM_PAINT() // painting
+    ON_WM_ERASEBKGND()
+    ON_WM_ENABLE()
+    ON_WM_DESTROY()
+    ON_MESSAGE(CPopupSlider::kDeactivated, &CSliderButton::OnUnpress)
 END_MESSAGE_MAP()
 
 namespace
@@ -107,13 +108,6 @@ void CSliderButton::SetPages(int pages)
 {
     ASSERT(pages != 0);
     m_pages = pages;
-}
-
-/// A static control that does not notify lets the mouse through to its parent.
-void CSliderButton::PreSubclassWindow()
-{
-    CStatic::PreSubclassWindow();
-    ModifyStyle(0, SS_NOTIFY);
 }
 
 void CSliderButton::OnDestroy()
@@ -324,6 +318,12 @@ bool CSliderButton::press(const CPoint& at)
 }
 
 // Mouse
+
+/// A static control lets the mouse through to its parent otherwise.
+LRESULT CSliderButton::OnNcHitTest(CPoint)
+{
+    return HTCLIENT;
+}
 
 void CSliderButton::OnLButtonDown(UINT, CPoint point)
 {

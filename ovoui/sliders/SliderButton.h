@@ -65,8 +65,6 @@ public:
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
-    void PreSubclassWindow() override;
-
     afx_msg void OnCaptureChanged(CWnd* wnd);
     afx_msg void OnDestroy();
     afx_msg void OnEnable(BOOL enable);
@@ -79,6 +77,7 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnMouseLeave();
+    afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg void OnPaint();
     afx_msg void OnSetFocus(CWnd* other);
     afx_msg LRESULT OnUnpress(WPARAM wParam, LPARAM lParam);

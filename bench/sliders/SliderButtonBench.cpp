@@ -1,0 +1,96 @@
+// Opening the popup, and a step of a drag, against the calls that cannot be avoided.
+#include <ovoui/sliders/SliderButton.h>
+
+#include <catch2/catch.hpp>
+
+namespace
+{
+
+class Plain : public SliderButtonUtils
+{
+public:
+    void fromDisplay(std::wstring& out, const std::wstring& displayed) override { out = displayed; }
+    void toDisplay(std::wstring& out, const std::wstring& machine) override { out = machine; }
+    void hideTip() override {}
+    void showTip(const std::wstring&) override {}
+};
+
+/// A shown window with a buddy and a button.
+class Scene
+{
+public:
+    Scene()
+        : button(utils)
+    {
+        parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW, CRect(200, 200, 600, 400),
+                        nullptr, 0);
+        buddy.Create(WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(10, 10, 100, 32), &parent, 1);
+        buddy.SetWindowText(L"50");
+        CStatic plain;
+        plain.Create(L"", WS_CHILD | WS_VISIBLE, CRect(102, 10, 118, 32), &parent, 2);
+        button.SubclassWindow(plain.Detach());
+        button.SetBuddy(buddy);
+        parent.ShowWindow(SW_SHOW);
+        parent.UpdateWindow();
+    }
+
+    void press() { button.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5)); }
+    void release() { button.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5)); }
+    HWND popup() const { return ::GetWindow(parent, GW_ENABLEDPOPUP); }
+    HWND slider() const { return ::FindWindowExW(popup(), nullptr, TRACKBAR_CLASSW, nullptr); }
+
+    Plain utils;
+    CWnd parent;
+    CEdit buddy;
+    CSliderButton button;
+};
+
+} // namespace
+
+TEST_CASE("opening the popup again")
+{
+    Scene scene;
+    scene.press();
+    const HWND popup = scene.popup();
+    REQUIRE(popup);
+    scene.release();
+    scene.press();
+
+    BENCHMARK("SetWindowPos with show, and hiding")
+    {
+        ::SetWindowPos(popup, HWND_TOP, 300, 300, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+        ::UpdateWindow(popup);
+        return ::ShowWindow(popup, SW_HIDE);
+    };
+    BENCHMARK("the button, opened and closed [at most 1.3]")
+    {
+        scene.press();
+        scene.release();
+        ::UpdateWindow(popup);
+        scene.press();
+    };
+}
+
+TEST_CASE("a step of a drag")
+{
+    Scene scene;
+    scene.press();
+    const HWND slider = scene.slider();
+    REQUIRE(slider);
+    int step = 0;
+
+    BENCHMARK("position, text and notification")
+    {
+        const int position = 10 + ++step % 80;
+        ::SendMessageW(slider, TBM_SETPOS, TRUE, position);
+        ::SetWindowTextW(scene.buddy, std::to_wstring(position).c_str());
+        return scene.parent.SendMessage(CSliderButton::kValueChanged,
+                                        reinterpret_cast<WPARAM>(scene.buddy.m_hWnd));
+    };
+    scene.button.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(5, 30));
+    BENCHMARK("WM_MOUSEMOVE [at most 1.3]")
+    {
+        return scene.button.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(20 + 2 * (++step % 60), 30));
+    };
+    scene.release();
+}
