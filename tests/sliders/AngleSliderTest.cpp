@@ -176,16 +176,17 @@ TEST_F(AngleSlider, BeyondTheEndsItIsARightAngle)
 
 TEST_F(AngleSlider, AClickNudgesByAThird)
 {
-    user.click(onRound(50));
+    // The pointer rests before the press: a move in between would make it a drag.
+    user.moveTo(onRound(50)).click(onRound(50));
     EXPECT_EQ(parent.told, (std::vector<Told>{{WM_HSCROLL, SB_THUMBPOSITION, 10, roundWnd()}}));
     EXPECT_NEAR(round->GetPos(), 10, 1e-9);
-    user.click(onRound(150));
+    user.moveTo(onRound(150)).click(onRound(150));
     EXPECT_NEAR(round->GetPos(), 0, 1e-9);
 }
 
 TEST_F(AngleSlider, ADoubleClickIsTwoClicks)
 {
-    user.doubleClick(onRound(50));
+    user.moveTo(onRound(50)).doubleClick(onRound(50));
     EXPECT_EQ(released().size(), 2u);
     EXPECT_NEAR(round->GetPos(), 20, 1e-9);
 }
@@ -210,7 +211,7 @@ TEST_F(AngleSlider, TheWheelNeverTellsOfMoreThanARightAngle)
         EXPECT_LE(std::abs(told.angle), 90);
     wheel->SetPos(85);
     parent.told.clear();
-    user.click(onWheel(20));
+    user.moveTo(onWheel(20)).click(onWheel(20));
     EXPECT_EQ(parent.told, (std::vector<Told>{{WM_VSCROLL, SB_THUMBPOSITION, 90, wheelWnd()}}));
 }
 
