@@ -29,18 +29,18 @@ constexpr UINT kPoseDelay = 200; // milliseconds for the screen to show what was
 } // namespace
 
 BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
-// pages
-ON_NOTIFY(TVN_SELCHANGEDW, IDC_PAGE_LIST, OnPageChosen)
-ON_COMMAND(ID_PAGE_NEXT, OnNextPage)
-ON_COMMAND(ID_PAGE_PREVIOUS, OnPreviousPage)
-ON_WM_SETFOCUS()
-ON_MESSAGE(WM_DPICHANGED, OnResolutionChanged)
-// log
-ON_COMMAND(ID_LOG_CLEAR, OnLogClear)
-ON_UPDATE_COMMAND_UI(ID_LOG_CLEAR, OnUpdateLogClear)
-// pictures
-ON_WM_ENTERIDLE()
-ON_WM_TIMER()
+    // pages
+    ON_NOTIFY(TVN_SELCHANGEDW, IDC_PAGE_LIST, &GalleryFrame::OnPageChosen)
+    ON_COMMAND(ID_PAGE_NEXT, &GalleryFrame::OnNextPage)
+    ON_COMMAND(ID_PAGE_PREVIOUS, &GalleryFrame::OnPreviousPage)
+    ON_WM_SETFOCUS()
+    ON_MESSAGE(WM_DPICHANGED, &GalleryFrame::OnResolutionChanged)
+    // log
+    ON_COMMAND(ID_LOG_CLEAR, &GalleryFrame::OnLogClear)
+    ON_UPDATE_COMMAND_UI(ID_LOG_CLEAR, &GalleryFrame::OnUpdateLogClear)
+    // pictures
+    ON_WM_ENTERIDLE()
+    ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 GalleryFrame::GalleryFrame() = default;

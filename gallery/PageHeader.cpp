@@ -21,7 +21,7 @@ int lineHeight(CDC& dc, CFont& font)
 } // namespace
 
 BEGIN_MESSAGE_MAP(PageHeader, CWnd)
-ON_WM_PAINT()
+    ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 bool PageHeader::create(CWnd& parent)

@@ -6,7 +6,7 @@
 #include <ovoui/frame/TabKeys.h>
 
 BEGIN_MESSAGE_MAP(GeometryPage, GalleryPage)
-ON_NOTIFY(TCN_SELCHANGE, IDC_TABS, OnTabChanged)
+    ON_NOTIFY(TCN_SELCHANGE, IDC_TABS, &GeometryPage::OnTabChanged)
 END_MESSAGE_MAP()
 
 namespace

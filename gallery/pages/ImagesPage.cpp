@@ -11,7 +11,7 @@
 #include <string>
 
 BEGIN_MESSAGE_MAP(ImageSamples, CWnd)
-ON_WM_PAINT()
+    ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 namespace

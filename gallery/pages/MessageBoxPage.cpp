@@ -150,8 +150,8 @@ const UINT s_helpMessage = ::RegisterWindowMessageW(L"commdlg_help");
 } // namespace
 
 BEGIN_MESSAGE_MAP(MessageBoxPage, GalleryPage)
-ON_BN_CLICKED(IDC_BOX_SHOW, OnShow)
-ON_REGISTERED_MESSAGE(s_helpMessage, OnHelpAsked)
+    ON_BN_CLICKED(IDC_BOX_SHOW, &MessageBoxPage::OnShow)
+    ON_REGISTERED_MESSAGE(s_helpMessage, &MessageBoxPage::OnHelpAsked)
 END_MESSAGE_MAP()
 
 MessageBoxPage::MessageBoxPage()

@@ -6,7 +6,7 @@
 #include <ovoui/frame/ThemeData.h>
 
 BEGIN_MESSAGE_MAP(ThemeSamples, CWnd)
-ON_WM_PAINT()
+    ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 namespace

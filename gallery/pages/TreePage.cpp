@@ -3,7 +3,7 @@
 #include "resource.h"
 
 BEGIN_MESSAGE_MAP(TreePage, GalleryPage)
-ON_BN_CLICKED(IDC_TREE_READ_ONLY, OnReadOnly)
+    ON_BN_CLICKED(IDC_TREE_READ_ONLY, &TreePage::OnReadOnly)
 END_MESSAGE_MAP()
 
 TreePage::TreePage()

@@ -17,11 +17,11 @@ CRect workArea()
 } // namespace
 
 BEGIN_MESSAGE_MAP(WorkAreaMap, CWnd)
-ON_WM_PAINT()
-ON_WM_ERASEBKGND()
-ON_WM_LBUTTONDOWN()
-ON_WM_MOUSEMOVE()
-ON_WM_LBUTTONUP()
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
 END_MESSAGE_MAP()
 
 bool WorkAreaMap::create(CWnd& parent, std::function<void(const CRect&)> moved)

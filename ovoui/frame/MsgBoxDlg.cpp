@@ -7,17 +7,17 @@ using namespace ovoui::frame;
 
 BEGIN_MESSAGE_MAP(COVOMsgBoxDlg, CDialog)
     // answers
-    ON_COMMAND_EX(IDOK, OnAnswer)
-    ON_COMMAND_EX(IDYES, OnAnswer)
-    ON_COMMAND_EX(IDYESTOALL, OnAnswer)
-    ON_COMMAND_EX(IDNO, OnAnswer)
-    ON_COMMAND_EX(IDNOTOALL, OnAnswer)
-    ON_COMMAND_EX(IDABORT, OnAnswer)
-    ON_COMMAND_EX(IDRETRY, OnAnswer)
-    ON_COMMAND_EX(IDIGNORE, OnAnswer)
+    ON_COMMAND_EX(IDOK, &COVOMsgBoxDlg::OnAnswer)
+    ON_COMMAND_EX(IDYES, &COVOMsgBoxDlg::OnAnswer)
+    ON_COMMAND_EX(IDYESTOALL, &COVOMsgBoxDlg::OnAnswer)
+    ON_COMMAND_EX(IDNO, &COVOMsgBoxDlg::OnAnswer)
+    ON_COMMAND_EX(IDNOTOALL, &COVOMsgBoxDlg::OnAnswer)
+    ON_COMMAND_EX(IDABORT, &COVOMsgBoxDlg::OnAnswer)
+    ON_COMMAND_EX(IDRETRY, &COVOMsgBoxDlg::OnAnswer)
+    ON_COMMAND_EX(IDIGNORE, &COVOMsgBoxDlg::OnAnswer)
     ON_WM_CLOSE()
     // help
-    ON_COMMAND(IDHELP, OnHelp)
+    ON_COMMAND(IDHELP, &COVOMsgBoxDlg::OnHelp)
     ON_WM_HELPINFO()
     // the remembered position
     ON_WM_MOVE()

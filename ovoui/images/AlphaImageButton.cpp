@@ -10,7 +10,7 @@
 IMPLEMENT_DYNAMIC(CAlphaImageButton, CButton)
 
 BEGIN_MESSAGE_MAP(CAlphaImageButton, CButton)
-ON_WM_ERASEBKGND()
+    ON_WM_ERASEBKGND()
 END_MESSAGE_MAP()
 
 namespace

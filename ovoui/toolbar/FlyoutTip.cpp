@@ -25,9 +25,9 @@ bool registerClass()
 } // namespace
 
 BEGIN_MESSAGE_MAP(CFlyoutTip, CWnd)
-ON_WM_PAINT()
-ON_WM_ERASEBKGND()
-ON_WM_NCHITTEST()
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_NCHITTEST()
 END_MESSAGE_MAP()
 
 CFlyoutTip::~CFlyoutTip()

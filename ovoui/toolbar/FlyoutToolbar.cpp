@@ -17,8 +17,8 @@ using namespace ovoui::toolbar;
 IMPLEMENT_DYNAMIC(CFlyoutToolbar, CToolBar)
 
 BEGIN_MESSAGE_MAP(CFlyoutToolbar, CToolBar)
-ON_WM_TIMER()
-ON_WM_MOUSEACTIVATE()
+    ON_WM_TIMER()
+    ON_WM_MOUSEACTIVATE()
 END_MESSAGE_MAP()
 
 namespace

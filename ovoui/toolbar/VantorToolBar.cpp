@@ -14,20 +14,20 @@ using namespace ovoui::toolbar;
 IMPLEMENT_DYNAMIC(CVantorToolBar, CToolBar)
 
 BEGIN_MESSAGE_MAP(CVantorToolBar, CToolBar)
-// mouse
-ON_WM_LBUTTONDOWN()
-ON_WM_LBUTTONUP()
-ON_WM_MOUSEMOVE()
-ON_WM_LBUTTONDBLCLK()
-ON_WM_CAPTURECHANGED()
-// painting, controls that draw themselves
-ON_WM_PAINT()
-ON_WM_DRAWITEM()
-ON_WM_MEASUREITEM()
-// the rest
-ON_WM_TIMER()
-ON_WM_SETTINGCHANGE()
-ON_WM_DESTROY()
+    // mouse
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_CAPTURECHANGED()
+    // painting, controls that draw themselves
+    ON_WM_PAINT()
+    ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
+    // the rest
+    ON_WM_TIMER()
+    ON_WM_SETTINGCHANGE()
+    ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 namespace

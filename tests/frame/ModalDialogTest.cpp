@@ -51,7 +51,7 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(ErrorDialog, COVOModalDialog)
-    ON_MESSAGE(kAct, OnAct)
+    ON_MESSAGE(kAct, &ErrorDialog::OnAct)
 END_MESSAGE_MAP()
 
 /// Opens the dialog, lets its handler act, and closes it with Escape.

@@ -27,7 +27,7 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(CommandParent, RecordingParent)
-ON_COMMAND(kPrint, OnPrint)
+    ON_COMMAND(kPrint, &CommandParent::OnPrint)
 END_MESSAGE_MAP()
 
 class CommandScene : public Scene

@@ -11,16 +11,16 @@
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
-// the two buttons
-ON_COMMAND(IDOK, OnOK)
-ON_COMMAND(IDCANCEL, OnCancel)
-// making
-ON_MESSAGE(WM_INITDIALOG, HandleInitDialog)
-ON_MESSAGE(WM_SETFONT, HandleSetFont)
-// help
-ON_WM_HELPINFO()
-ON_MESSAGE(WM_COMMANDHELP, OnCommandHelp)
-ON_MESSAGE(WM_HELPHITTEST, OnHelpHitTest)
+    // the two buttons
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+    // making
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_MESSAGE(WM_SETFONT, &CDialog::HandleSetFont)
+    // help
+    ON_WM_HELPINFO()
+    ON_MESSAGE(WM_COMMANDHELP, &CDialog::OnCommandHelp)
+    ON_MESSAGE(WM_HELPHITTEST, &CDialog::OnHelpHitTest)
 END_MESSAGE_MAP()
 
 namespace

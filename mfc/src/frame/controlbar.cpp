@@ -9,22 +9,22 @@
 IMPLEMENT_DYNAMIC(CControlBar, CWnd)
 
 BEGIN_MESSAGE_MAP(CControlBar, CWnd)
-// life
-ON_WM_CREATE()
-ON_WM_DESTROY()
-// layout, painting, updates
-ON_WM_PAINT()
-ON_WM_TIMER() // prompts, in controlbartips.cpp
-ON_MESSAGE(WM_SIZEPARENT, OnSizeParent)
-ON_MESSAGE(WM_IDLEUPDATECMDUI, OnIdleUpdateCmdUI)
-ON_MESSAGE(WM_INITIALUPDATE, OnInitialUpdate)
-// about the bar's controls
-ON_WM_DRAWITEM()
-ON_WM_MEASUREITEM()
-ON_WM_DELETEITEM()
-ON_WM_COMPAREITEM()
-ON_WM_VKEYTOITEM()
-ON_WM_CHARTOITEM()
+    // life
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    // layout, painting, updates
+    ON_WM_PAINT()
+    ON_WM_TIMER() // prompts, in controlbartips.cpp
+    ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
+    ON_MESSAGE(WM_INITIALUPDATE, &CControlBar::OnInitialUpdate)
+    // about the bar's controls
+    ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
+    ON_WM_DELETEITEM()
+    ON_WM_COMPAREITEM()
+    ON_WM_VKEYTOITEM()
+    ON_WM_CHARTOITEM()
 END_MESSAGE_MAP()
 
 namespace

@@ -7,36 +7,36 @@
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
 BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
-// life
-ON_WM_CREATE()
-ON_WM_DESTROY()
-ON_WM_CLOSE()
-ON_WM_QUERYENDSESSION()
-// layout and painting
-ON_WM_SIZE()
-ON_WM_ERASEBKGND()
-ON_MESSAGE(WM_RECALCPARENT, OnRecalcParent)
-ON_MESSAGE(WM_IDLEUPDATECMDUI, OnIdleUpdateCmdUI)
-// the active view
-ON_WM_SETFOCUS()
-ON_WM_ACTIVATE()
-ON_WM_HSCROLL()
-ON_WM_VSCROLL()
-// menus and the message line
-ON_WM_INITMENUPOPUP()
-ON_WM_MENUSELECT()
-ON_WM_ENTERIDLE()
-ON_MESSAGE(WM_SETMESSAGESTRING, OnSetMessageString)
-ON_MESSAGE(WM_POPMESSAGESTRING, OnPopMessageString)
-ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, 0xFFFF, OnToolTipText)
-// control bars
-ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, OnUpdateControlBarMenu)
-ON_COMMAND_EX(ID_VIEW_STATUS_BAR, OnBarCheck)
-ON_UPDATE_COMMAND_UI(ID_VIEW_TOOLBAR, OnUpdateControlBarMenu)
-ON_COMMAND_EX(ID_VIEW_TOOLBAR, OnBarCheck)
-ON_UPDATE_COMMAND_UI(ID_INDICATOR_CAPS, OnUpdateKeyIndicator)
-ON_UPDATE_COMMAND_UI(ID_INDICATOR_NUM, OnUpdateKeyIndicator)
-ON_UPDATE_COMMAND_UI(ID_INDICATOR_SCRL, OnUpdateKeyIndicator)
+    // life
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_CLOSE()
+    ON_WM_QUERYENDSESSION()
+    // layout and painting
+    ON_WM_SIZE()
+    ON_WM_ERASEBKGND()
+    ON_MESSAGE(WM_RECALCPARENT, &CFrameWnd::OnRecalcParent)
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWnd::OnIdleUpdateCmdUI)
+    // the active view
+    ON_WM_SETFOCUS()
+    ON_WM_ACTIVATE()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    // menus and the message line
+    ON_WM_INITMENUPOPUP()
+    ON_WM_MENUSELECT()
+    ON_WM_ENTERIDLE()
+    ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
+    ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnPopMessageString)
+    ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, 0xFFFF, &CFrameWnd::OnToolTipText)
+    // control bars
+    ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CFrameWnd::OnBarCheck)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_TOOLBAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_COMMAND_EX(ID_VIEW_TOOLBAR, &CFrameWnd::OnBarCheck)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_CAPS, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_NUM, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_SCRL, &CFrameWnd::OnUpdateKeyIndicator)
 END_MESSAGE_MAP()
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);

@@ -5,9 +5,9 @@
 IMPLEMENT_DYNAMIC(CStatusBar, CControlBar)
 
 BEGIN_MESSAGE_MAP(CStatusBar, CControlBar)
-ON_WM_SIZE()
-ON_WM_PAINT()
-ON_MESSAGE(WM_SETTEXT, OnSetText)
+    ON_WM_SIZE()
+    ON_WM_PAINT()
+    ON_MESSAGE(WM_SETTEXT, &CStatusBar::OnSetText)
 END_MESSAGE_MAP()
 
 namespace

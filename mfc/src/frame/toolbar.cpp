@@ -6,13 +6,13 @@
 IMPLEMENT_DYNAMIC(CToolBar, CControlBar)
 
 BEGIN_MESSAGE_MAP(CToolBar, CControlBar)
-// lines, gripper and borders lie around the control
-ON_WM_NCCALCSIZE()
-ON_WM_NCPAINT()
-ON_WM_NCHITTEST()
-// the control paints itself
-ON_WM_PAINT()
-ON_WM_SYSCOLORCHANGE()
+    // lines, gripper and borders lie around the control
+    ON_WM_NCCALCSIZE()
+    ON_WM_NCPAINT()
+    ON_WM_NCHITTEST()
+    // the control paints itself
+    ON_WM_PAINT()
+    ON_WM_SYSCOLORCHANGE()
 END_MESSAGE_MAP()
 
 namespace

@@ -297,7 +297,7 @@ public:
 };
 
 BEGIN_MESSAGE_MAP(CThreadWithMap, CWinThread)
-ON_THREAD_MESSAGE(WM_APP + 5, onThreadMessage)
+    ON_THREAD_MESSAGE(WM_APP + 5, &CThreadWithMap::onThreadMessage)
 END_MESSAGE_MAP()
 
 } // namespace

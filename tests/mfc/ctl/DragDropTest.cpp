@@ -104,8 +104,8 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(Draggable, CWnd)
-ON_WM_LBUTTONDOWN()
-ON_WM_RBUTTONDOWN()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_RBUTTONDOWN()
 END_MESSAGE_MAP()
 
 struct DragDropTest : ::testing::Test

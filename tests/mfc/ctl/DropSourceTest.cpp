@@ -47,7 +47,7 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Pressed, RecordingParent)
-ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDOWN()
 END_MESSAGE_MAP()
 
 } // namespace

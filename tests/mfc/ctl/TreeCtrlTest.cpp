@@ -64,8 +64,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(ListeningTree, CTreeCtrl)
-ON_NOTIFY_REFLECT(TVN_ITEMEXPANDINGW, OnExpanding)
-ON_NOTIFY_REFLECT_EX(TVN_SELCHANGEDW, OnSelected)
+    ON_NOTIFY_REFLECT(TVN_ITEMEXPANDINGW, &ListeningTree::OnExpanding)
+    ON_NOTIFY_REFLECT_EX(TVN_SELCHANGEDW, &ListeningTree::OnSelected)
 END_MESSAGE_MAP()
 
 } // namespace

@@ -39,7 +39,7 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(PaintedWindow, CWnd)
-ON_WM_PAINT()
+    ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 } // namespace

@@ -21,8 +21,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Target, CCmdTarget)
-ON_COMMAND(ID_TEST_ACT, OnCommand)
-ON_UPDATE_COMMAND_UI(ID_TEST_OTHER, OnUpdate)
+    ON_COMMAND(ID_TEST_ACT, &Target::OnCommand)
+    ON_UPDATE_COMMAND_UI(ID_TEST_OTHER, &Target::OnUpdate)
 END_MESSAGE_MAP()
 
 /// Notes what is asked of it.

@@ -53,13 +53,13 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(RoutingOwner, CWnd)
-ON_COMMAND_EX(ID_TEST_ACT, OnAny)
-ON_COMMAND_EX(kPrivate, OnAny)
-ON_COMMAND_EX(kFramework, OnAny)
-ON_CONTROL(EN_CHANGE, ID_TEST_ACT, OnNotified)
-ON_UPDATE_COMMAND_UI(ID_TEST_OTHER, OnUpdate)
-ON_COMMAND_EX(ID_TEST_OTHER, OnAny)
-ON_WM_CLOSE()
+    ON_COMMAND_EX(ID_TEST_ACT, &RoutingOwner::OnAny)
+    ON_COMMAND_EX(kPrivate, &RoutingOwner::OnAny)
+    ON_COMMAND_EX(kFramework, &RoutingOwner::OnAny)
+    ON_CONTROL(EN_CHANGE, ID_TEST_ACT, &RoutingOwner::OnNotified)
+    ON_UPDATE_COMMAND_UI(ID_TEST_OTHER, &RoutingOwner::OnUpdate)
+    ON_COMMAND_EX(ID_TEST_OTHER, &RoutingOwner::OnAny)
+    ON_WM_CLOSE()
 END_MESSAGE_MAP()
 
 class RoutingDialog : public TestDialog
@@ -79,8 +79,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(RoutingDialog, TestDialog)
-ON_COMMAND_EX(ID_TEST_ACT, OnAny)
-ON_COMMAND_EX(kPrivate, OnAny)
+    ON_COMMAND_EX(ID_TEST_ACT, &RoutingDialog::OnAny)
+    ON_COMMAND_EX(kPrivate, &RoutingDialog::OnAny)
 END_MESSAGE_MAP()
 
 } // namespace

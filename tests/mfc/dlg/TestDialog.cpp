@@ -5,9 +5,9 @@
 using namespace ovotest;
 
 BEGIN_MESSAGE_MAP(TestDialog, CDialog)
-ON_COMMAND(kAct, OnAct)
-ON_WM_SHOWWINDOW()
-ON_WM_DESTROY()
+    ON_COMMAND(kAct, &TestDialog::OnAct)
+    ON_WM_SHOWWINDOW()
+    ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 TestDialog::TestDialog(CWnd* parent, DWORD style)

@@ -7,8 +7,8 @@ IMPLEMENT_DYNCREATE(TestView, CView)
 IMPLEMENT_DYNCREATE(TestFrame, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(TestView, CView)
-ON_COMMAND_EX(ID_TEST_ACT, OnAct)
-ON_WM_VSCROLL()
+    ON_COMMAND_EX(ID_TEST_ACT, &TestView::OnAct)
+    ON_WM_VSCROLL()
 END_MESSAGE_MAP()
 
 void TestView::OnDraw(CDC*)
@@ -49,9 +49,9 @@ void TestView::OnVScroll(UINT code, UINT pos, CScrollBar*)
 }
 
 BEGIN_MESSAGE_MAP(TestFrame, CFrameWnd)
-ON_COMMAND_EX(ID_TEST_ACT, OnAct)
-ON_COMMAND(ID_TEST_OTHER, OnOther)
-ON_COMMAND(ID_TEST_FIRST, OnFirst)
+    ON_COMMAND_EX(ID_TEST_ACT, &TestFrame::OnAct)
+    ON_COMMAND(ID_TEST_OTHER, &TestFrame::OnOther)
+    ON_COMMAND(ID_TEST_FIRST, &TestFrame::OnFirst)
 END_MESSAGE_MAP()
 
 TestFrame* TestFrame::makeEmpty()

@@ -23,9 +23,9 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Document, CCmdTarget)
-    ON_COMMAND(100, OnSave)
-    ON_COMMAND(101, OnSave)
-    ON_UPDATE_COMMAND_UI(100, OnUpdateSave)
+    ON_COMMAND(100, &Document::OnSave)
+    ON_COMMAND(101, &Document::OnSave)
+    ON_UPDATE_COMMAND_UI(100, &Document::OnUpdateSave)
 END_MESSAGE_MAP()
 
 class Base : public Hidden<>
@@ -44,9 +44,9 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Base, Hidden<>)
-    ON_COMMAND(100, OnBase)
-    ON_COMMAND_EX(101, OnBaseEx)
-    ON_COMMAND(102, OnBase)
+    ON_COMMAND(100, &Base::OnBase)
+    ON_COMMAND_EX(101, &Base::OnBaseEx)
+    ON_COMMAND(102, &Base::OnBase)
 END_MESSAGE_MAP()
 
 class Derived : public Base
@@ -77,11 +77,11 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Derived, Base)
-    ON_COMMAND_EX(100, OnEx)
-    ON_COMMAND_EX(101, OnEx)
-    ON_COMMAND(500, OnNamed)
-    ON_COMMAND_EX_RANGE(400, 65535, OnAny)
-    ON_COMMAND_RANGE_EX(300, 310, OnAny)
+    ON_COMMAND_EX(100, &Derived::OnEx)
+    ON_COMMAND_EX(101, &Derived::OnEx)
+    ON_COMMAND(500, &Derived::OnNamed)
+    ON_COMMAND_EX_RANGE(400, 65535, &Derived::OnAny)
+    ON_COMMAND_RANGE_EX(300, 310, &Derived::OnAny)
 END_MESSAGE_MAP()
 
 class CommandOrder : public ::testing::Test

@@ -48,7 +48,7 @@ protected:
 
 BEGIN_MESSAGE_MAP(Passing, Writing)
     ON_WM_LBUTTONDOWN()
-    ON_MESSAGE(WM_APP + 2, OnAsk)
+    ON_MESSAGE(WM_APP + 2, &Passing::OnAsk)
 END_MESSAGE_MAP()
 
 } // namespace

@@ -265,7 +265,7 @@ BEGIN_MESSAGE_MAP(Taker, Hidden<>)
     ON_WM_VKEYTOITEM()
     ON_WM_VSCROLLCLIPBOARD()
     ON_WM_XBUTTONDOWN()
-    ON_MESSAGE(WM_APP, OnOwn)
+    ON_MESSAGE(WM_APP, &Taker::OnOwn)
 END_MESSAGE_MAP()
 
 class MessageArguments : public ::testing::Test

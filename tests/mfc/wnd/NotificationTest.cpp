@@ -44,15 +44,15 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Parent, Hidden<>)
-    ON_EN_CHANGE(10, OnChange)
-    ON_CONTROL_RANGE(EN_KILLFOCUS, 10, 12, OnKillFocusRange)
-    ON_CBN_SELCHANGE(20, OnSelChange)
-    ON_LBN_DBLCLK(21, OnDblClk)
-    ON_STN_CLICKED(22, OnStatic)
-    ON_NOTIFY(TVN_SELCHANGED, 30, OnPlain)
-    ON_NOTIFY_RANGE(TVN_SELCHANGED, 31, 33, OnRange)
-    ON_NOTIFY_EX(TTN_NEEDTEXT, 0, OnEx)
-    ON_NOTIFY_EX_RANGE(NM_DBLCLK, 30, 39, OnEx)
+    ON_EN_CHANGE(10, &Parent::OnChange)
+    ON_CONTROL_RANGE(EN_KILLFOCUS, 10, 12, &Parent::OnKillFocusRange)
+    ON_CBN_SELCHANGE(20, &Parent::OnSelChange)
+    ON_LBN_DBLCLK(21, &Parent::OnDblClk)
+    ON_STN_CLICKED(22, &Parent::OnStatic)
+    ON_NOTIFY(TVN_SELCHANGED, 30, &Parent::OnPlain)
+    ON_NOTIFY_RANGE(TVN_SELCHANGED, 31, 33, &Parent::OnRange)
+    ON_NOTIFY_EX(TTN_NEEDTEXT, 0, &Parent::OnEx)
+    ON_NOTIFY_EX_RANGE(NM_DBLCLK, 30, 39, &Parent::OnEx)
 END_MESSAGE_MAP()
 
 class Notifications : public ::testing::Test

@@ -72,7 +72,7 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Tipped, Hidden<>)
-    ON_NOTIFY_EX(TTN_NEEDTEXT, 0, OnNeedText)
+    ON_NOTIFY_EX(TTN_NEEDTEXT, 0, &Tipped::OnNeedText)
 END_MESSAGE_MAP()
 
 /// Has tools that are no windows: 30 on the left, 31 on the right, with a text of its own.

@@ -22,9 +22,9 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Target, CCmdTarget)
-    ON_COMMAND(100, OnCommand100)
-    ON_UPDATE_COMMAND_UI(102, OnUpdate102)
-    ON_UPDATE_COMMAND_UI(103, OnUpdate103)
+    ON_COMMAND(100, &Target::OnCommand100)
+    ON_UPDATE_COMMAND_UI(102, &Target::OnUpdate102)
+    ON_UPDATE_COMMAND_UI(103, &Target::OnUpdate103)
 END_MESSAGE_MAP()
 
 /// Answers for itself.
@@ -47,7 +47,7 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(SelfAware, CButton)
-    ON_UPDATE_COMMAND_UI_REFLECT(OnUpdateMe)
+    ON_UPDATE_COMMAND_UI_REFLECT(&SelfAware::OnUpdateMe)
 END_MESSAGE_MAP()
 
 class UpdatingControls : public ::testing::Test
