@@ -1,5 +1,7 @@
 #include "NotificationNames.h"
 
+#include <ovoui/lists/ComboBox.h>
+
 #include <commctrl.h>
 
 #include <array>
@@ -9,7 +11,10 @@
 namespace
 {
 
-#define NAMED(code) {static_cast<UINT>(code), L## #code}
+#define NAMED(code)                                                                                          \
+    {                                                                                                        \
+        static_cast<UINT>(code), L## #code                                                                   \
+    }
 
 using Names = std::map<UINT, const wchar_t*>;
 
@@ -24,7 +29,8 @@ const std::map<std::wstring, Names>& commandNames()
         {L"ComboBox",
          {NAMED(CBN_SELCHANGE), NAMED(CBN_DBLCLK), NAMED(CBN_SETFOCUS), NAMED(CBN_KILLFOCUS),
           NAMED(CBN_EDITCHANGE), NAMED(CBN_EDITUPDATE), NAMED(CBN_DROPDOWN), NAMED(CBN_CLOSEUP),
-          NAMED(CBN_SELENDOK), NAMED(CBN_SELENDCANCEL)}},
+          NAMED(CBN_SELENDOK), NAMED(CBN_SELENDCANCEL), NAMED(OVOCBN_RETURN), NAMED(OVOCBN_UP),
+          NAMED(OVOCBN_DOWN)}},
         {L"ListBox",
          {NAMED(LBN_SELCHANGE), NAMED(LBN_DBLCLK), NAMED(LBN_SELCANCEL), NAMED(LBN_SETFOCUS),
           NAMED(LBN_KILLFOCUS)}},
@@ -35,15 +41,19 @@ const std::map<std::wstring, Names>& commandNames()
 const Names& notifyNames()
 {
     static const Names names{
-        NAMED(NM_CLICK),           NAMED(NM_DBLCLK),           NAMED(NM_RETURN),
-        NAMED(NM_RCLICK),          NAMED(NM_RDBLCLK),          NAMED(NM_SETFOCUS),
-        NAMED(NM_KILLFOCUS),       NAMED(NM_RELEASEDCAPTURE),  NAMED(TCN_SELCHANGING),
-        NAMED(TCN_SELCHANGE),      NAMED(TCN_KEYDOWN),         NAMED(TVN_SELCHANGINGW),
-        NAMED(TVN_SELCHANGEDW),    NAMED(TVN_ITEMEXPANDINGW),  NAMED(TVN_ITEMEXPANDEDW),
-        NAMED(TVN_BEGINDRAGW),     NAMED(TVN_BEGINRDRAGW),     NAMED(TVN_DELETEITEMW),
-        NAMED(TVN_KEYDOWN),        NAMED(TVN_BEGINLABELEDITW), NAMED(TVN_ENDLABELEDITW),
-        NAMED(LVN_ITEMCHANGED),    NAMED(LVN_COLUMNCLICK),     NAMED(LVN_ITEMACTIVATE),
-        NAMED(LVN_KEYDOWN),        NAMED(UDN_DELTAPOS),
+        NAMED(NM_CLICK),        NAMED(NM_DBLCLK),           NAMED(NM_RETURN),
+        NAMED(NM_RCLICK),       NAMED(NM_RDBLCLK),          NAMED(NM_SETFOCUS),
+        NAMED(NM_KILLFOCUS),    NAMED(NM_RELEASEDCAPTURE),  NAMED(TCN_SELCHANGING),
+        NAMED(TCN_SELCHANGE),   NAMED(TCN_KEYDOWN),         NAMED(TVN_SELCHANGINGW),
+        NAMED(TVN_SELCHANGEDW), NAMED(TVN_ITEMEXPANDINGW),  NAMED(TVN_ITEMEXPANDEDW),
+        NAMED(TVN_BEGINDRAGW),  NAMED(TVN_BEGINRDRAGW),     NAMED(TVN_DELETEITEMW),
+        NAMED(TVN_KEYDOWN),     NAMED(TVN_BEGINLABELEDITW), NAMED(TVN_ENDLABELEDITW),
+        NAMED(LVN_ITEMCHANGED), NAMED(LVN_COLUMNCLICK),     NAMED(LVN_ITEMACTIVATE),
+        NAMED(LVN_KEYDOWN),     NAMED(LVN_ITEMCHANGING),    NAMED(LVN_INSERTITEM),
+        NAMED(LVN_DELETEITEM),  NAMED(LVN_DELETEALLITEMS),  NAMED(LVN_ODSTATECHANGED),
+        NAMED(LVN_ODFINDITEMW), NAMED(LVN_BEGINDRAG),       NAMED(LVN_BEGINRDRAG),
+        NAMED(LVN_BEGINSCROLL), NAMED(LVN_ENDSCROLL),       NAMED(LVN_MARQUEEBEGIN),
+        NAMED(UDN_DELTAPOS),
     };
     return names;
 }
@@ -54,7 +64,7 @@ bool isSentWhileDrawing(UINT code)
 {
     return code == static_cast<UINT>(NM_CUSTOMDRAW) || code == static_cast<UINT>(NM_SETCURSOR) ||
            code == static_cast<UINT>(TVN_GETDISPINFOW) || code == static_cast<UINT>(LVN_GETDISPINFOW) ||
-           code == static_cast<UINT>(TTN_GETDISPINFOW);
+           code == static_cast<UINT>(TTN_GETDISPINFOW) || code == static_cast<UINT>(LVN_ODCACHEHINT);
 }
 
 std::wstring classOf(HWND window)
@@ -75,7 +85,7 @@ std::wstring textOf(HWND window)
 std::wstring labelOf(HWND control)
 {
     const HWND before = ::GetWindow(control, GW_HWNDPREV);
-    std::wstring text = classOf(control) == L"Button" ? textOf(control)
+    std::wstring text = classOf(control) == L"Button"  ? textOf(control)
                         : classOf(before) == L"Static" ? textOf(before)
                                                        : std::wstring();
     std::erase(text, L'&');

@@ -1,7 +1,9 @@
 #include "PageTable.h"
 
+#include "pages/ComboPage.h"
 #include "pages/GeometryPage.h"
 #include "pages/ImagesPage.h"
+#include "pages/ListsPage.h"
 #include "pages/MessageBoxPage.h"
 #include "pages/SlidersPage.h"
 #include "pages/ThemesPage.h"
@@ -39,6 +41,13 @@ const std::vector<PageEntry>& pageTable()
         {L"sliders", L"Sliders",
          L"CSliderButton drops a slider for the number beside it; CRoundSlider and CWheelSlider turn a box.",
          &make<SlidersPage>},
+        {L"lists", L"Lists",
+         L"COVOListCtrlEx: rows that draw themselves, with colours, cut texts and a selection to the "
+         L"window's edge.",
+         &make<ListsPage>},
+        {L"combo", L"Combo box",
+         L"COVOComboBox completes what is typed, and accepts it or brings back what was there before.",
+         &make<ComboPage>},
     };
     return pages;
 }

@@ -13,7 +13,10 @@
 #include <ovoui/lists/ComboBox.h>
 #include <ovoui/lists/ComboBoxDeletion.h>
 #include <ovoui/lists/ComboFunctions.h>
+#include <ovoui/lists/ListCopier.h>
 #include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/ListLayout.h>
+#include <ovoui/lists/ListSorter.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/sliders/RoundSlider.h>

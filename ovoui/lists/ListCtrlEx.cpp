@@ -12,11 +12,11 @@ using namespace ovoui::lists;
 IMPLEMENT_DYNCREATE(COVOListCtrlEx, CListCtrl)
 
 BEGIN_MESSAGE_MAP(COVOListCtrlEx, CListCtrl)
-ON_WM_SIZE()
-ON_WM_PAINT()
-ON_WM_SETFOCUS()
-ON_WM_KILLFOCUS()
-ON_MESSAGE(LVM_SETIMAGELIST, &COVOListCtrlEx::OnSetImageList)
+    ON_WM_SIZE()
+    ON_WM_PAINT()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_MESSAGE(LVM_SETIMAGELIST, &COVOListCtrlEx::OnSetImageList)
 END_MESSAGE_MAP()
 
 namespace
@@ -147,10 +147,24 @@ LPCWSTR COVOListCtrlEx::MakeShortString(CDC* pDC, LPCWSTR text, int width, int o
 void COVOListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
     const int item = static_cast<int>(lpDrawItemStruct->itemID);
-    RowLook look{m_clientWidth, m_stateImageWidth, m_colourColumns, std::nullopt};
+    RowLook look{m_clientWidth, m_stateImageWidth, m_colourColumns, m_followsOrder, std::nullopt};
+    const HWND window = m_hWnd;
     if (m_useRowColours)
-        look.colour = m_rowColours[static_cast<int>(GetItemData(item))];
-    ListRowPainter(*this, *lpDrawItemStruct, look).paint();
+        look.colour = rowColour(item);
+    if (isAlive(this, window))
+        ListRowPainter(*this, *lpDrawItemStruct, look).paint();
+}
+
+DWORD COVOListCtrlEx::rowColour(int item)
+{
+    return m_rowColours[static_cast<int>(GetItemData(item))];
+}
+
+void COVOListCtrlEx::FollowColumnOrder(bool follow)
+{
+    m_followsOrder = follow;
+    if (m_hWnd)
+        Invalidate();
 }
 
 bool COVOListCtrlEx::inReportView() const
@@ -225,6 +239,6 @@ void COVOListCtrlEx::repaintRow(int item)
     CRect label;
     if (item == -1 || !GetItemRect(item, &bounds, LVIR_BOUNDS) || !GetItemRect(item, &label, LVIR_LABEL))
         return;
-    bounds.left = label.left;
+    bounds.left = m_followsOrder ? 0 : label.left; // cells may lie before the label
     InvalidateRect(&bounds, FALSE);
 }

@@ -71,9 +71,20 @@ public:
     /// less than 1 or not even the first character fits.
     static LPCWSTR MakeShortString(CDC* pDC, LPCWSTR text, int width, int offset);
 
+    // Off unless asked for
+
+    /// Whether the cells follow their headings when columns are moved. Off at first: then the cells of
+    /// columns 1, 2 and so on are drawn side by side from column 0 on, wherever the headings are. Repaints
+    /// the list.
+    void FollowColumnOrder(bool follow);
+
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
+
+    /// A row's colour, as AddItem takes it; asked for while drawing, when row colours are in use. By default
+    /// the one given to AddItem, or 0. Lists with LVS_OWNERDATA, which have no AddItem, override it.
+    virtual DWORD rowColour(int item);
 
     /// Paints the rows anew that look different with and without the focus.
     void RepaintSelectedItems();
@@ -97,4 +108,5 @@ private:
     int m_stateImageWidth = 0;
     std::vector<bool> m_colourColumns;
     std::map<int, DWORD> m_rowColours; ///< by item data
+    bool m_followsOrder = false;
 };

@@ -114,7 +114,7 @@ void ListRowPainter::paint()
         return;
     chooseColours();
     const frame::Box label = itemBox(m_list, m_index, LVIR_LABEL);
-    const CRect row = toRect(rowBox(itemBox(m_list, m_index, LVIR_BOUNDS), label, m_look.clientWidth));
+    const CRect row = toRect(rowBoxOf(label));
 
     const TextLook kept(m_dc, m_text, m_background);
     m_dc.FillSolidRect(&row, m_background);
@@ -122,6 +122,19 @@ void ListRowPainter::paint()
     paintSubItems(label);
     if ((m_item.state & LVIS_FOCUSED) && m_focused)
         m_dc.DrawFocusRect(&row);
+}
+
+/// Where other cells lie before or behind the label, the row reaches from the first to the last one shown.
+frame::Box ListRowPainter::rowBoxOf(const frame::Box& label) const
+{
+    frame::Box row = rowBox(itemBox(m_list, m_index, LVIR_BOUNDS), label, m_look.clientWidth);
+    const CHeaderCtrl* const header = m_look.followsOrder ? m_list.GetHeaderCtrl() : nullptr;
+    if (!header)
+        return row;
+    row.left = cellBox(header->OrderToIndex(0), 0, label).left;
+    row.right =
+        std::max(row.right, cellBox(header->OrderToIndex(header->GetItemCount() - 1), 0, label).right);
+    return row;
 }
 
 bool ListRowPainter::readItem()
@@ -201,6 +214,16 @@ void ListRowPainter::paintIcon()
 
 // The other columns
 
+frame::Box ListRowPainter::cellBox(int column, int width, const frame::Box& before) const
+{
+    CRect rect;
+    if (column == 0)
+        return itemBox(m_list, m_index, LVIR_LABEL);
+    if (m_look.followsOrder && m_list.GetSubItemRect(m_index, column, LVIR_BOUNDS, rect))
+        return toBox(rect);
+    return cellAfter(before, width);
+}
+
 void ListRowPainter::paintSubItems(const frame::Box& label)
 {
     frame::Box box = label;
@@ -209,7 +232,7 @@ void ListRowPainter::paintSubItems(const frame::Box& label)
     const HWND window = m_list.m_hWnd;
     // The platform may ask the host for a text, who may destroy the list instead.
     for (int i = 1; isAlive(&m_list, window) && m_list.GetColumn(i, &column); ++i) {
-        box = cellAfter(box, column.cx);
+        box = cellBox(i, column.cx, box);
         s_itemText[0] = 0;
         LVITEM item{};
         item.mask = LVIF_TEXT;

@@ -20,6 +20,7 @@ struct RowLook
     int clientWidth;
     int stateImageWidth;
     const std::vector<bool>& colourColumns;
+    bool followsOrder;                 ///< cells lie under their headings
     std::optional<ColourEntry> colour; ///< none when rows have no colours of their own
 };
 
@@ -39,6 +40,8 @@ private:
     bool looksSelected() const;
     bool isColourColumn(int column) const;
 
+    frame::Box rowBoxOf(const frame::Box& label) const;
+    frame::Box cellBox(int column, int width, const frame::Box& before) const;
     void paintSwatch(const frame::Box& box);
     void paintStateImage();
     void paintIcon();

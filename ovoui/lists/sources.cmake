@@ -1,10 +1,13 @@
 # Lists: the extended list control and the completing combo box.
 set(lists_core
   ${CMAKE_CURRENT_LIST_DIR}/core/Checkerboard.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ColumnLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ComboRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/EntryColours.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/NumberText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/RowLayout.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/core/ShortText.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/core/ShortText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/TableText.cpp)
 
 if(NOT WIN32)
   add_library(ovoui_lists_core STATIC ${lists_core})
@@ -18,5 +21,10 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ColourEntry.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboFunctions.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListCopier.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCtrlEx.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/ListRowPainter.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/ListLayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListRowPainter.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListSorter.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/RowData.cpp)
+target_link_libraries(ovoui PRIVATE oleaut32)

@@ -394,6 +394,72 @@ TEST(ListDraw, DraggingAHeaderLeavesTheCellsInTheOrderOfTheirNumbers)
     scene.expectRow(1, known(scene));
 }
 
+TEST(ListDraw, CellsFollowTheirHeadingsWhenTheHostAsksForIt)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    scene.addColumn(L"a", 100);
+    scene.addColumn(L"b", 80, true);
+    scene.addColumn(L"c", 60);
+    for (int column = 0; column < 3; ++column)
+        scene.list.AddItem(0, column, L"x", kOpaque | RGB(200, 0, 0), -1);
+    int order[] = {1, 2, 0};
+    scene.list.SetColumnOrderArray(3, order);
+    scene.list.FollowColumnOrder(true);
+    scene.list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+    scene.show();
+    scene.list.SetFocus();
+    const Picture shown = Picture::ofClient(scene.list);
+    const int y = scene.itemRect(0).top + 2;
+    EXPECT_THAT(shown.at(1, y), IsColour(RGB(200, 0, 0)));
+    EXPECT_THAT(shown.at(78, y), IsColour(RGB(200, 0, 0)));
+    for (const int x : {82, 138, 238, 300})
+        EXPECT_THAT(shown.at(x, y), IsColour(::GetSysColor(COLOR_HIGHLIGHT))) << x;
+    // In the usual order nothing differs from a list that was not asked to.
+    int usual[] = {0, 1, 2};
+    scene.list.SetColumnOrderArray(3, usual);
+    Knowledge facts = known(scene);
+    facts.colourColumns = {1};
+    facts.entry = kOpaque | RGB(200, 0, 0);
+    scene.expectRow(0, facts);
+}
+
+namespace
+{
+
+/// Rows that are not stored.
+class VirtualList : public List
+{
+public:
+    DWORD rowColour(int item) override { return kOpaque | static_cast<DWORD>(item % 256); }
+};
+
+} // namespace
+
+TEST(ListDraw, RowsOfAListWithoutStorageTakeTheirColoursFromTheHost)
+{
+    RecordingParent parent;
+    VirtualList list;
+    list.Create(WS_CHILD | WS_VISIBLE | LVS_OWNERDATA, CRect(0, 0, 300, 150), &parent, 7);
+    list.UseRowColours(TRUE);
+    for (const bool colour : {false, true})
+        list.AddColumn(L"column", colour, -1, colour, LVCF_TEXT | LVCF_WIDTH | LVCF_FMT | LVCF_SUBITEM,
+                       LVCFMT_LEFT);
+    parent.answer(static_cast<UINT>(LVN_GETDISPINFOW), [](NMHDR* header) -> LRESULT {
+        auto& item = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
+        if (item.mask & LVIF_TEXT)
+            ::lstrcpynW(item.pszText, std::to_wstring(item.iItem).c_str(), item.cchTextMax);
+        return 0;
+    });
+    list.SetItemCountEx(1000000);
+    present(parent);
+    list.EnsureVisible(999999, FALSE);
+    list.RedrawWindow();
+    CRect label;
+    list.GetItemRect(999999, &label, LVIR_LABEL);
+    EXPECT_THAT(Picture::ofClient(list).at(label.right + 2, label.top + 2), IsColour(999999 % 256));
+}
+
 TEST(ListDraw, LeavesTheDeviceContextAsItWas)
 {
     ListScene scene;

@@ -1,0 +1,19 @@
+// What the benchmarks of lists share.
+#pragma once
+
+#include <ovoui/lists/ListCtrlEx.h>
+
+#include <string>
+
+constexpr int kBenchColumn = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT | LVCF_SUBITEM;
+
+/// A top-level window, shown.
+class ListParent : public CWnd
+{
+public:
+    ListParent();
+    ~ListParent() override;
+};
+
+/// "cell 000012 03"
+std::wstring cellText(int row, int column);

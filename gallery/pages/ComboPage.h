@@ -1,0 +1,27 @@
+// Completing combo boxes, with every choice that a host has.
+#pragma once
+
+#include "GalleryPage.h"
+
+#include <ovoui/lists/ComboBox.h>
+
+class ComboPage : public GalleryPage
+{
+public:
+    ComboPage();
+    ~ComboPage() override;
+
+    std::vector<std::wstring> poses() const override;
+    bool pose(const std::wstring& name) override;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+    BOOL OnInitDialog() override;
+    afx_msg void OnFlags();
+    afx_msg void OnAccepted();
+    afx_msg void OnRejected();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    COVOComboBox m_plant;
+};

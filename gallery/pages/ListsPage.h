@@ -1,0 +1,40 @@
+// Extended lists: a table of colours, a list of processes, and a list of a million rows.
+#pragma once
+
+#include "GalleryPage.h"
+#include "model/MillionList.h"
+
+#include <ovoui/lists/ListCopier.h>
+#include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/ListSorter.h>
+
+class ListsPage : public GalleryPage
+{
+public:
+    ListsPage();
+    ~ListsPage() override;
+
+    std::vector<std::wstring> poses() const override;
+    bool pose(const std::wstring& name) override;
+
+protected:
+    BOOL OnInitDialog() override;
+    afx_msg void OnRowColours();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void createColours();
+    void createProcesses();
+    void createStates();
+    void addHelpers();
+    void arrange();
+
+    COVOListCtrlEx m_colours;
+    CImageList m_states; // shown by the next list until its end
+    COVOListCtrlEx m_processes;
+    MillionList m_million;
+    COVOListSorter m_colourSorter;
+    COVOListSorter m_processSorter;
+    COVOListCopier m_colourCopier;
+    COVOListCopier m_processCopier;
+};

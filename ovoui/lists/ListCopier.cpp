@@ -1,0 +1,136 @@
+#include <ovoui/lists/ListCopier.h>
+
+#include <ovoui/lists/Alive.h>
+#include <ovoui/lists/ReportColumns.h>
+#include <ovoui/lists/core/TableText.h>
+
+#include <commctrl.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+
+using namespace ovoui::lists;
+
+namespace
+{
+
+template <class TextOf>
+TableRow rowOf(const std::vector<int>& columns, TextOf textOf)
+{
+    TableRow row;
+    for (const int column : columns)
+        row.push_back(textOf(column));
+    return row;
+}
+
+/// The host may be asked for texts, and may destroy the list then: the rest is left out.
+std::vector<TableRow> selectedRows(CListCtrl& list, const std::vector<int>& columns)
+{
+    const HWND window = list.m_hWnd;
+    std::vector<TableRow> rows;
+    for (int item = -1; isAlive(&list, window) && (item = list.GetNextItem(item, LVNI_SELECTED)) != -1;)
+        rows.push_back(rowOf(columns, [&](int column) -> std::wstring {
+            return isAlive(&list, window) ? list.GetItemText(item, column).GetString() : L"";
+        }));
+    return rows;
+}
+
+std::string utf8(const std::wstring& text)
+{
+    const int size = static_cast<int>(text.size());
+    std::string result(static_cast<std::size_t>(::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, nullptr,
+                                                                      0, nullptr, nullptr)),
+                       '\0');
+    ::WideCharToMultiByte(CP_UTF8, 0, text.data(), size, result.data(), static_cast<int>(result.size()),
+                          nullptr, nullptr);
+    return result;
+}
+
+struct FreeGlobal
+{
+    void operator()(void* block) const { ::GlobalFree(block); }
+};
+using Block = std::unique_ptr<void, FreeGlobal>;
+
+/// Null when memory runs out.
+Block blockOf(const void* bytes, std::size_t size)
+{
+    Block block(::GlobalAlloc(GMEM_MOVEABLE, size));
+    if (void* const place = block ? ::GlobalLock(block.get()) : nullptr) {
+        std::memcpy(place, bytes, size);
+        ::GlobalUnlock(block.get());
+    }
+    return block;
+}
+
+bool put(UINT format, Block block)
+{
+    if (!block || !::SetClipboardData(format, block.get()))
+        return false;
+    block.release(); // the clipboard's from now on
+    return true;
+}
+
+} // namespace
+
+bool copySelectedRows(CListCtrl& list, bool headings)
+{
+    const std::vector<int> columns = columnsAsShown(list);
+    const HWND window = list.m_hWnd;
+    std::vector<TableRow> rows = selectedRows(list, columns);
+    if (rows.empty() || !isAlive(&list, window))
+        return false;
+    if (headings)
+        rows.insert(rows.begin(), rowOf(columns, [&](int column) { return headingOf(list, column); }));
+    const std::wstring text = tabSeparated(rows);
+    const std::string html = htmlForClipboard(utf8(htmlTable(rows, headings)));
+    Block textBlock = blockOf(text.c_str(), (text.size() + 1) * sizeof(wchar_t));
+    Block htmlBlock = blockOf(html.c_str(), html.size() + 1);
+    if (!textBlock || !htmlBlock || !list.OpenClipboard())
+        return false;
+    ::EmptyClipboard();
+    const bool copied = put(CF_UNICODETEXT, std::move(textBlock)) &&
+                        put(::RegisterClipboardFormatW(L"HTML Format"), std::move(htmlBlock));
+    ::CloseClipboard();
+    return copied;
+}
+
+COVOListCopier::COVOListCopier() = default;
+
+COVOListCopier::~COVOListCopier()
+{
+    Detach();
+}
+
+void COVOListCopier::Attach(CListCtrl& list, bool headings)
+{
+    Detach();
+    m_list = &list;
+    m_window = list.m_hWnd;
+    m_headings = headings;
+    ::SetWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this),
+                        reinterpret_cast<DWORD_PTR>(this));
+}
+
+void COVOListCopier::Detach()
+{
+    if (m_window)
+        ::RemoveWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this));
+    m_list = nullptr;
+    m_window = nullptr;
+}
+
+LRESULT CALLBACK COVOListCopier::listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                               UINT_PTR, DWORD_PTR copier)
+{
+    auto* const self = reinterpret_cast<COVOListCopier*>(copier);
+    if (message == WM_NCDESTROY)
+        self->Detach();
+    const bool wantsCopy = message == WM_KEYDOWN && (wParam == L'C' || wParam == VK_INSERT) &&
+                           ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_SHIFT) >= 0 &&
+                           ::GetKeyState(VK_MENU) >= 0;
+    if (wantsCopy)
+        copySelectedRows(*self->m_list, self->m_headings);
+    return ::IsWindow(window) ? ::DefSubclassProc(window, message, wParam, lParam) : 0;
+}

@@ -1,0 +1,36 @@
+/// Copies a list's selected rows to the clipboard.
+///
+///     COVOListCopier copier;            // a member beside the list
+///     copier.Attach(m_list, true);      // Ctrl+C copies from now on, with headings
+#pragma once
+
+#include <ovoui/export.h>
+
+#include <afxcmn.h>
+
+/// Copies the selected rows as text with tabs and as an HTML table, the columns in the order in which they
+/// are shown, with the headings above them if `headings`. False when no row is selected or the clipboard
+/// cannot be had: then the clipboard keeps what it has. Works with any list in report view.
+OVOUI_API bool copySelectedRows(CListCtrl& list, bool headings);
+
+/// Lets a list copy its selected rows when Ctrl+C or Ctrl+Insert is pressed in it.
+class OVOUI_API COVOListCopier
+{
+public:
+    COVOListCopier();
+    ~COVOListCopier();
+    COVOListCopier(const COVOListCopier&) = delete;
+    COVOListCopier& operator=(const COVOListCopier&) = delete;
+
+    /// The list must have its window. It may be destroyed before this object. Replaces the list of before.
+    void Attach(CListCtrl& list, bool headings);
+    void Detach();
+
+private:
+    static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                          UINT_PTR id, DWORD_PTR copier);
+
+    CListCtrl* m_list = nullptr;
+    HWND m_window = nullptr;
+    bool m_headings = false;
+};

@@ -1,0 +1,214 @@
+#include <ovoui/lists/ListSorter.h>
+
+#include <ovoui/lists/Alive.h>
+#include <ovoui/lists/RowData.h>
+#include <ovoui/lists/core/NumberText.h>
+#include <ovoui/lists/core/RowOrder.h>
+
+#include <commctrl.h>
+#include <oleauto.h>
+
+#include <limits>
+
+using namespace ovoui::lists;
+
+namespace
+{
+
+constexpr double kNoValue = -std::numeric_limits<double>::infinity();
+
+wchar_t localeSign(LCTYPE what, wchar_t otherwise)
+{
+    wchar_t text[8] = {};
+    return ::GetLocaleInfoW(LOCALE_USER_DEFAULT, what, text, static_cast<int>(std::size(text))) ? text[0]
+                                                                                                : otherwise;
+}
+
+/// What rows are compared by, made once for each row.
+template <class Key, class Make>
+std::vector<Key> keysOf(const COVOListCtrlEx& list, int column, Make make)
+{
+    CellText text;
+    const int count = list.GetItemCount();
+    std::vector<Key> keys;
+    keys.reserve(static_cast<std::size_t>(count));
+    for (int row = 0; row < count; ++row)
+        keys.push_back(make(text(list, row, column)));
+    return keys;
+}
+
+/// Bytes that sort as the text does in the user's locale.
+std::string sortKeyOf(LPCWSTR text)
+{
+    constexpr int kUsual = 512;
+    char usual[kUsual];
+    const auto map = [text](char* room, int size) {
+        return ::LCMapStringW(LOCALE_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, text, -1,
+                              reinterpret_cast<LPWSTR>(room), size);
+    };
+    if (const int size = map(usual, kUsual))
+        return {usual, static_cast<std::size_t>(size)};
+    std::string key(static_cast<std::size_t>(map(nullptr, 0)), '\0');
+    map(key.data(), static_cast<int>(key.size()));
+    return key;
+}
+
+double dateIn(LPCWSTR text)
+{
+    DATE date = 0;
+    return SUCCEEDED(::VarDateFromStr(const_cast<LPOLESTR>(text), LOCALE_USER_DEFAULT, 0, &date)) ? date
+                                                                                                  : kNoValue;
+}
+
+template <class Key>
+std::vector<int> orderBy(const std::vector<Key>& keys, bool ascending)
+{
+    const auto key = [&keys](int row) -> const Key& { return keys[static_cast<std::size_t>(row)]; };
+    return orderOfRows(static_cast<int>(keys.size()), [&](int row, int other) {
+        return ascending ? key(row) < key(other) : key(other) < key(row);
+    });
+}
+
+} // namespace
+
+COVOListSorter::COVOListSorter() = default;
+
+COVOListSorter::~COVOListSorter()
+{
+    Detach();
+}
+
+void COVOListSorter::Attach(COVOListCtrlEx& list)
+{
+    Detach();
+    m_list = &list;
+    m_window = list.m_hWnd;
+    ::SetWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this),
+                        reinterpret_cast<DWORD_PTR>(this));
+}
+
+void COVOListSorter::Detach()
+{
+    if (m_window)
+        ::RemoveWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this));
+    m_list = nullptr;
+    m_window = nullptr;
+    m_column = -1;
+}
+
+void COVOListSorter::SetKind(int column, Kind kind)
+{
+    m_kinds[column] = kind;
+}
+
+void COVOListSorter::SetCompare(int column, Compare compare)
+{
+    m_compares[column] = std::move(compare);
+    SetKind(column, Kind::Custom);
+}
+
+COVOListSorter::Kind COVOListSorter::kindOf(int column) const
+{
+    const auto found = m_kinds.find(column);
+    return found == m_kinds.end() ? Kind::Text : found->second;
+}
+
+/// The sorter may be destroyed or attached elsewhere while the list and its parent handle the click.
+LRESULT CALLBACK COVOListSorter::listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                               UINT_PTR, DWORD_PTR sorter)
+{
+    auto* const self = reinterpret_cast<COVOListSorter*>(sorter);
+    if (message == WM_NCDESTROY) {
+        self->Detach();
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    }
+    int clicked = -1;
+    if (message == WM_NOTIFY) {
+        const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
+        if (header.code == static_cast<UINT>(HDN_ITEMCLICKW))
+            clicked = reinterpret_cast<const NMHEADERW&>(header).iItem;
+    }
+    const std::weak_ptr<const bool> alive = self->m_alive;
+    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+    if (clicked >= 0 && !alive.expired() && self->m_window == window)
+        self->headingClicked(clicked);
+    return result;
+}
+
+void COVOListSorter::headingClicked(int column)
+{
+    Sort(column, column != m_column || !m_ascending);
+}
+
+bool COVOListSorter::Sort(int column, bool ascending)
+{
+    LVCOLUMN known{};
+    known.mask = LVCF_WIDTH;
+    if (!m_list || !m_list->GetColumn(column, &known) || (m_list->GetStyle() & LVS_OWNERDATA))
+        return false;
+    COVOListCtrlEx& list = *m_list;
+    const HWND window = m_window;
+    const int count = list.GetItemCount();
+    const std::vector<int> order = orderOf(column, ascending);
+    if (!isAlive(&list, window) || list.GetItemCount() != count || m_list != &list)
+        return false;
+    reorderRows(list, order);
+    m_column = column;
+    m_ascending = ascending;
+    showArrow();
+    return true;
+}
+
+std::vector<int> COVOListSorter::orderOf(int column, bool ascending) const
+{
+    switch (kindOf(column)) {
+    case Kind::Number: {
+        const wchar_t decimal = localeSign(LOCALE_SDECIMAL, L'.');
+        const wchar_t group = localeSign(LOCALE_STHOUSAND, L',');
+        return orderBy(
+            keysOf<double>(*m_list, column,
+                           [=](LPCWSTR text) { return numberIn(text, decimal, group).value_or(kNoValue); }),
+            ascending);
+    }
+    case Kind::Date:
+        return orderBy(keysOf<double>(*m_list, column, &dateIn), ascending);
+    case Kind::Custom:
+        return orderByHost(column, ascending);
+    case Kind::Text:
+        break;
+    }
+    return orderBy(keysOf<std::string>(*m_list, column, &sortKeyOf), ascending);
+}
+
+/// The host's comparison may empty or destroy the list: from then on all rows are equal.
+std::vector<int> COVOListSorter::orderByHost(int column, bool ascending) const
+{
+    const auto found = m_compares.find(column);
+    const Compare compare = found == m_compares.end() ? Compare() : found->second;
+    COVOListCtrlEx& list = *m_list;
+    const HWND window = m_window;
+    const int count = list.GetItemCount();
+    return orderOfRows(count, [&, ascending](int row, int other) {
+        if (!compare || !isAlive(&list, window) || list.GetItemCount() != count)
+            return false;
+        const int result = compare(list, row, other);
+        return ascending ? result < 0 : result > 0;
+    });
+}
+
+void COVOListSorter::showArrow()
+{
+    CHeaderCtrl* const header = m_list->GetHeaderCtrl();
+    if (!header)
+        return;
+    for (int i = 0; i < header->GetItemCount(); ++i) {
+        HDITEM item{};
+        item.mask = HDI_FORMAT;
+        if (!header->GetItem(i, &item))
+            continue;
+        item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
+        if (i == m_column)
+            item.fmt |= m_ascending ? HDF_SORTUP : HDF_SORTDOWN;
+        header->SetItem(i, &item);
+    }
+}

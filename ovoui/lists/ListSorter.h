@@ -1,0 +1,74 @@
+/// Sorts an extended list when its headings are clicked.
+///
+///     COVOListSorter sorter;                       // a member beside the list
+///     sorter.Attach(m_list);
+///     sorter.SetKind(1, COVOListSorter::Kind::Number);
+///     sorter.Sort(0, true);
+#pragma once
+
+#include <ovoui/export.h>
+#include <ovoui/lists/ListCtrlEx.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+/// A click on a heading sorts by its column, a second one the other way round; an arrow in the heading shows
+/// it. Rows that are equal keep their order. Selection, focus, item data and row colours go with their rows.
+///
+/// The parent still gets LVN_COLUMNCLICK, before the list is sorted. A list with LVS_OWNERDATA is never
+/// sorted.
+class OVOUI_API COVOListSorter
+{
+public:
+    enum class Kind
+    {
+        Text,   ///< the order of the user's locale
+        Number, ///< the number that the text begins with, in the user's locale; other texts come first
+        Date,   ///< a date or time in the user's locale; other texts come first
+        Custom  ///< the host's comparison
+    };
+
+    /// Negative when the first row comes first, 0 when both are equal. Rows are given by their present
+    /// indices. It may throw, or empty or destroy the list: then nothing is sorted. It must not destroy the
+    /// sorter.
+    using Compare = std::function<int(COVOListCtrlEx& list, int row, int other)>;
+
+    COVOListSorter();
+    ~COVOListSorter();
+    COVOListSorter(const COVOListSorter&) = delete;
+    COVOListSorter& operator=(const COVOListSorter&) = delete;
+
+    /// The list must have its window. It may be destroyed before this object. Replaces the list of before.
+    void Attach(COVOListCtrlEx& list);
+    void Detach();
+
+    /// How a column is sorted; Text at first.
+    void SetKind(int column, Kind kind);
+    /// Makes a column's kind Custom.
+    void SetCompare(int column, Compare compare);
+
+    /// False when there is no list, no such column, or rows came or went during a comparison of the host's.
+    bool Sort(int column, bool ascending);
+
+    int Column() const { return m_column; } ///< -1 before the first sorting
+    bool Ascending() const { return m_ascending; }
+
+private:
+    static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                          UINT_PTR id, DWORD_PTR sorter);
+    void headingClicked(int column);
+    std::vector<int> orderOf(int column, bool ascending) const;
+    std::vector<int> orderByHost(int column, bool ascending) const;
+    Kind kindOf(int column) const;
+    void showArrow();
+
+    COVOListCtrlEx* m_list = nullptr;
+    HWND m_window = nullptr;
+    std::map<int, Kind> m_kinds;
+    std::map<int, Compare> m_compares;
+    int m_column = -1;
+    bool m_ascending = true;
+    std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true);
+};

@@ -1,0 +1,25 @@
+/// Not exported: brings a list's rows into a new order.
+#pragma once
+
+#include <afxcmn.h>
+
+#include <vector>
+
+namespace ovoui::lists
+{
+
+/// `order` holds every present index once, in the order wanted. Selection, focus and item data go with the
+/// rows.
+void reorderRows(CListCtrl& list, const std::vector<int>& order);
+
+/// A row's text in a column, of at most 259 characters, into a buffer that the caller keeps for the next one.
+class CellText
+{
+public:
+    LPCWSTR operator()(const CListCtrl& list, int row, int column);
+
+private:
+    wchar_t m_room[260];
+};
+
+} // namespace ovoui::lists

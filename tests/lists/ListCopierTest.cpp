@@ -1,0 +1,103 @@
+// Selected rows on the clipboard.
+#include "ListScene.h"
+
+#include <ovoui/lists/ListCopier.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+/// Empty when the clipboard has nothing in this format.
+std::string clipboardBytes(UINT format)
+{
+    std::string bytes;
+    EXPECT_TRUE(::OpenClipboard(nullptr));
+    if (const HANDLE data = ::GetClipboardData(format)) {
+        bytes.assign(static_cast<const char*>(::GlobalLock(data)), ::GlobalSize(data));
+        ::GlobalUnlock(data);
+    }
+    ::CloseClipboard();
+    return bytes;
+}
+
+std::wstring clipboardText()
+{
+    const std::string bytes = clipboardBytes(CF_UNICODETEXT);
+    return bytes.empty() ? std::wstring() : std::wstring(reinterpret_cast<const wchar_t*>(bytes.data()));
+}
+
+class ListCopying : public ::testing::Test
+{
+protected:
+    ListCopying()
+    {
+        scene.fill({60, 60, 60}, 4);
+        ::OpenClipboard(scene.parent);
+        ::EmptyClipboard();
+        ::CloseClipboard();
+    }
+
+    void select(std::initializer_list<int> rows)
+    {
+        for (const int row : rows)
+            scene.list.SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+    }
+
+    ListScene scene;
+};
+
+} // namespace
+
+TEST_F(ListCopying, SelectedRowsAsTextAndHtml)
+{
+    select({1, 3});
+    EXPECT_TRUE(copySelectedRows(scene.list, false));
+    EXPECT_EQ(clipboardText(), L"1.0\t1.1\t1.2\r\n3.0\t3.1\t3.2\r\n");
+    const std::string html = clipboardBytes(::RegisterClipboardFormatW(L"HTML Format"));
+    EXPECT_NE(html.find("<tr><td>1.0</td><td>1.1</td><td>1.2</td></tr>"), std::string::npos);
+}
+
+TEST_F(ListCopying, ColumnsInTheOrderInWhichTheyAreShown)
+{
+    int order[] = {2, 0, 1};
+    scene.list.SetColumnOrderArray(3, order);
+    select({0});
+    EXPECT_TRUE(copySelectedRows(scene.list, true));
+    EXPECT_EQ(clipboardText(), L"c\tc\tc\r\n0.2\t0.0\t0.1\r\n");
+}
+
+TEST_F(ListCopying, WithoutASelectionTheClipboardStays)
+{
+    select({0});
+    ASSERT_TRUE(copySelectedRows(scene.list, false));
+    scene.list.SetItemState(0, 0, LVIS_SELECTED);
+    EXPECT_FALSE(copySelectedRows(scene.list, true));
+    EXPECT_EQ(clipboardText(), L"0.0\t0.1\t0.2\r\n");
+}
+
+TEST_F(ListCopying, ByKeysInAListThatIsAttached)
+{
+    scene.show();
+    scene.list.SetFocus();
+    select({2});
+    Robot().holding(VK_CONTROL).key('C');
+    EXPECT_EQ(clipboardText(), L"") << "off unless asked for";
+    COVOListCopier copier;
+    copier.Attach(scene.list, false);
+    Robot().holding(VK_CONTROL).key('C');
+    EXPECT_EQ(clipboardText(), L"2.0\t2.1\t2.2\r\n");
+    copier.Attach(scene.list, true);
+    Robot().holding(VK_CONTROL).key(VK_INSERT);
+    EXPECT_EQ(clipboardText(), L"c\tc\tc\r\n2.0\t2.1\t2.2\r\n");
+}
+
+TEST_F(ListCopying, TheListMayBeDestroyedBeforeTheCopier)
+{
+    COVOListCopier copier;
+    copier.Attach(scene.list, false);
+    scene.list.DestroyWindow();
+    copier.Detach();
+}

@@ -1,0 +1,220 @@
+// Sorting by headings: order, arrows, and what goes with the rows.
+#include "ListScene.h"
+
+#include <ovoui/lists/ListSorter.h>
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <stdexcept>
+
+using namespace ovotest;
+
+namespace
+{
+
+using Kind = COVOListSorter::Kind;
+using Texts = std::vector<std::wstring>;
+
+constexpr DWORD kOpaque = 0xFF000000;
+
+class ListSorting : public ::testing::Test
+{
+protected:
+    ListSorting()
+    {
+        scene.addColumn(L"name", 120);
+        scene.addColumn(L"value", 100);
+        sorter.Attach(scene.list);
+    }
+
+    void add(std::initializer_list<const wchar_t*> values)
+    {
+        for (const wchar_t* value : values) {
+            const int row = scene.list.GetItemCount();
+            scene.list.AddItem(row, 0, L"row " + std::to_wstring(row), kOpaque | static_cast<DWORD>(row), -1);
+            scene.list.AddItem(row, 1, value, 0, -1);
+        }
+    }
+
+    Texts column(int index)
+    {
+        Texts texts;
+        for (int row = 0; row < scene.list.GetItemCount(); ++row)
+            texts.emplace_back(scene.list.GetItemText(row, index).GetString());
+        return texts;
+    }
+
+    int arrow(int index)
+    {
+        HDITEM item{};
+        item.mask = HDI_FORMAT;
+        scene.list.GetHeaderCtrl()->GetItem(index, &item);
+        return item.fmt & (HDF_SORTUP | HDF_SORTDOWN);
+    }
+
+    ListScene scene;
+    COVOListSorter sorter;
+};
+
+} // namespace
+
+TEST_F(ListSorting, TextsInTheOrderOfTheLocale)
+{
+    add({L"pear", L"Apple", L"\u00C4pfel", L"apple", L"zebra"});
+    EXPECT_TRUE(sorter.Sort(1, true));
+    EXPECT_EQ(column(1), (Texts{L"\u00C4pfel", L"Apple", L"apple", L"pear", L"zebra"}));
+    EXPECT_TRUE(sorter.Sort(1, false));
+    EXPECT_EQ(column(1), (Texts{L"zebra", L"pear", L"Apple", L"apple", L"\u00C4pfel"}))
+        << "equal rows keep their order";
+    EXPECT_EQ(sorter.Column(), 1);
+    EXPECT_FALSE(sorter.Ascending());
+}
+
+TEST_F(ListSorting, Numbers)
+{
+    add({L"10 KB", L"9 KB", L"none", L"-3", L"1,000"});
+    sorter.SetKind(1, Kind::Number);
+    sorter.Sort(1, true);
+    EXPECT_EQ(column(1), (Texts{L"none", L"-3", L"9 KB", L"10 KB", L"1,000"}));
+}
+
+TEST_F(ListSorting, Dates)
+{
+    add({L"2/1/2024", L"12/31/2023", L"never", L"1/15/2024"});
+    sorter.SetKind(1, Kind::Date);
+    sorter.Sort(1, true);
+    EXPECT_EQ(column(1), (Texts{L"never", L"12/31/2023", L"1/15/2024", L"2/1/2024"}));
+}
+
+TEST_F(ListSorting, TheHostsComparison)
+{
+    add({L"bb", L"a", L"ccc"});
+    sorter.SetCompare(1, [](COVOListCtrlEx& list, int row, int other) {
+        return list.GetItemText(row, 1).GetLength() - list.GetItemText(other, 1).GetLength();
+    });
+    sorter.Sort(1, false);
+    EXPECT_EQ(column(1), (Texts{L"ccc", L"bb", L"a"}));
+}
+
+TEST_F(ListSorting, ClicksOnHeadings)
+{
+    add({L"b", L"a", L"c"});
+    scene.show();
+    const Spot heading{*scene.list.GetHeaderCtrl(), CPoint(160, 8)};
+    Robot().click(heading);
+    EXPECT_EQ(column(1), (Texts{L"a", L"b", L"c"}));
+    EXPECT_EQ(arrow(1), HDF_SORTUP);
+    EXPECT_EQ(arrow(0), 0);
+    Robot().click(heading);
+    EXPECT_EQ(column(1), (Texts{L"c", L"b", L"a"}));
+    EXPECT_EQ(arrow(1), HDF_SORTDOWN);
+    Robot().click(Spot{*scene.list.GetHeaderCtrl(), CPoint(60, 8)});
+    EXPECT_EQ(column(1), (Texts{L"b", L"a", L"c"}));
+    EXPECT_EQ(arrow(1), 0);
+    EXPECT_EQ(arrow(0), HDF_SORTUP);
+    EXPECT_EQ(scene.parent.log().count(static_cast<UINT>(LVN_COLUMNCLICK)), 3)
+        << "the parent hears of it too";
+}
+
+TEST_F(ListSorting, SelectionFocusDataAndColoursGoWithTheRows)
+{
+    scene.list.UseRowColours(TRUE);
+    for (const bool unique : {true, false}) {
+        scene.list.DeleteAllItems();
+        add({L"d", L"b", L"a", L"c"});
+        if (!unique) // item data of the host's own, two of them the same
+            for (int row = 0; row < 4; ++row)
+                scene.list.SetItemData(row, row < 2 ? 5u : static_cast<DWORD_PTR>(row));
+        scene.list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+        scene.list.SetItemState(2, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        const auto dataOfD = scene.list.GetItemData(0);
+        sorter.Sort(1, true); // a b c d
+        int rows[4] = {};
+        ASSERT_EQ(scene.list.GetSelItems(4, rows), 2);
+        EXPECT_EQ(rows[0], 0);
+        EXPECT_EQ(rows[1], 3);
+        EXPECT_EQ(scene.list.GetNextItem(-1, LVNI_FOCUSED), 0);
+        EXPECT_EQ(scene.list.GetItemData(3), dataOfD);
+        EXPECT_EQ(scene.list.GetItemData(0), 2u);
+        EXPECT_EQ(column(0), (Texts{L"row 2", L"row 1", L"row 3", L"row 0"}));
+    }
+}
+
+TEST_F(ListSorting, ManyRows)
+{
+    std::mt19937 random(1);
+    scene.list.SetRedraw(FALSE);
+    for (int row = 0; row < 3000; ++row) {
+        scene.list.AddItem(row, 0, L"x", 0, -1);
+        scene.list.AddItem(row, 1, std::to_wstring(random() % 100000), 0, -1);
+    }
+    scene.list.SetRedraw(TRUE);
+    sorter.SetKind(1, Kind::Number);
+    sorter.Sort(1, true);
+    const Texts texts = column(1);
+    EXPECT_TRUE(std::ranges::is_sorted(texts, {}, [](const std::wstring& text) { return std::stol(text); }));
+}
+
+TEST_F(ListSorting, WhatCannotBeSortedStays)
+{
+    EXPECT_TRUE(sorter.Sort(1, true)) << "no rows";
+    add({L"b", L"a"});
+    EXPECT_FALSE(sorter.Sort(7, true));
+    EXPECT_FALSE(sorter.Sort(-1, true));
+    EXPECT_EQ(column(1), (Texts{L"b", L"a"}));
+    sorter.Detach();
+    EXPECT_FALSE(sorter.Sort(1, true));
+    scene.show();
+    Robot().click(Spot{*scene.list.GetHeaderCtrl(), CPoint(160, 8)});
+    EXPECT_EQ(column(1), (Texts{L"b", L"a"}));
+
+    List stored;
+    stored.Create(WS_CHILD | LVS_OWNERDATA, CRect(0, 0, 90, 90), &scene.parent, 40);
+    stored.AddColumn(L"c", 0, -1, false, LVCF_TEXT | LVCF_WIDTH, 0);
+    stored.SetItemCountEx(5);
+    sorter.Attach(stored);
+    EXPECT_FALSE(sorter.Sort(0, true));
+}
+
+TEST_F(ListSorting, AComparisonMayDoAnything)
+{
+    add({L"c", L"b", L"a"});
+    sorter.SetCompare(1, [](COVOListCtrlEx&, int, int) -> int { throw std::runtime_error("host"); });
+    EXPECT_THROW(sorter.Sort(1, true), std::runtime_error);
+    EXPECT_EQ(column(1), (Texts{L"c", L"b", L"a"}));
+
+    sorter.SetCompare(1, [](COVOListCtrlEx& list, int, int) {
+        list.DeleteItem(0);
+        return -1;
+    });
+    EXPECT_FALSE(sorter.Sort(1, true));
+    EXPECT_EQ(scene.list.GetItemCount(), 2);
+
+    sorter.SetCompare(1, [](COVOListCtrlEx& list, int, int) {
+        list.DestroyWindow();
+        return 1;
+    });
+    EXPECT_FALSE(sorter.Sort(1, true));
+    EXPECT_FALSE(scene.list.m_hWnd);
+}
+
+TEST_F(ListSorting, TheParentMayDestroyListOrSorterWhenAHeadingIsClicked)
+{
+    add({L"b", L"a"});
+    auto other = std::make_unique<COVOListSorter>();
+    other->Attach(scene.list);
+    sorter.Detach();
+    scene.show();
+    scene.parent.answer(static_cast<UINT>(LVN_COLUMNCLICK), [&](NMHDR*) -> LRESULT {
+        other.reset();
+        return 0;
+    });
+    NMHEADERW click{};
+    click.hdr.hwndFrom = scene.list.GetHeaderCtrl()->m_hWnd;
+    click.hdr.code = static_cast<UINT>(HDN_ITEMCLICKW);
+    click.iItem = 1;
+    scene.list.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&click));
+    EXPECT_FALSE(other);
+    EXPECT_EQ(column(1), (Texts{L"b", L"a"}));
+}
