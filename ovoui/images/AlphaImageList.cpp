@@ -1,6 +1,7 @@
 #include <ovoui/images/AlphaImageList.h>
 
 #include <ovoui/images/StripPainter.h>
+#include <ovoui/images/core/PictureSize.h>
 
 using ovoui::images::Strip;
 using ovoui::images::StripPainter;
@@ -34,6 +35,7 @@ BOOL CAlphaImageList::Create(int cx, int cy, int initial)
 {
     constexpr UINT kFlags = ILC_COLOR32 | ILC_MASK;
     constexpr int kGrow = 1;
+    Clear();
     return m_normal.Create(cx, cy, kFlags, initial, kGrow) && m_hot.Create(cx, cy, kFlags, initial, kGrow);
 }
 
@@ -64,6 +66,8 @@ HBITMAP CAlphaImageList::GetHBitmap(Gdiplus::Bitmap& bitmap)
 {
     const UINT width = bitmap.GetWidth();
     const UINT height = bitmap.GetHeight();
+    if (!ovoui::images::isPictureSize(width, height))
+        return nullptr;
     const BITMAPINFO info = topDownHeader(width, height);
     void* bits = nullptr;
     const HBITMAP handle = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);

@@ -28,8 +28,9 @@ public:
     CAlphaImageList(const CAlphaImageList&) = delete;
     CAlphaImageList& operator=(const CAlphaImageList&) = delete;
 
-    /// Makes both lists, for images of `cx` by `cy` pixels, with room for `initial` of them. FALSE when one
-    /// cannot be made; the hot one is not tried after the normal one has failed.
+    /// Makes both lists, for images of `cx` by `cy` pixels, with room for `initial` of them. An object that
+    /// was created before is cleared first. FALSE when a list cannot be made; the hot one is not tried after
+    /// the normal one has failed.
     BOOL Create(int cx, int cy, int initial);
 
     /// Adds one image of a strip, or all for a negative `index` (which is not checked against the strip's
@@ -45,7 +46,8 @@ public:
     /// COLOR_BTNTEXT; the bytes of that COLORREF are taken for 0xRRGGBB too.
     ///
     /// Gives the index of the first image added, in the hot list or in the normal one, or -1: no such
-    /// resource, an unreadable bitmap, an empty size, no GDI+, or no such list.
+    /// resource, an unreadable bitmap, a size that is empty or too large for a picture, no GDI+, or no such
+    /// list.
     int AddBitmap(unsigned int id, bool hot, long index, const SIZE& sourceSize, const CSize& targetSize,
                   HBITMAP bitmap, const DWORD* remap);
 

@@ -1,8 +1,9 @@
 #include <ovoui/images/StripPainter.h>
 
+#include <ovoui/images/core/PictureSize.h>
 #include <ovoui/images/core/SharpenFilter.h>
 
-#include <map>
+#include <cstdint>
 #include <utility>
 
 namespace ovoui::images
@@ -24,15 +25,21 @@ bool isGood(Gdiplus::Bitmap& bitmap)
     return bitmap.GetLastStatus() == Gdiplus::Ok;
 }
 
-/// Loaded once and never freed, as shared images are. Not every platform shares bitmaps by itself.
-HBITMAP sharedBitmap(HINSTANCE module, UINT id)
+HBITMAP loadBitmap(HINSTANCE module, UINT id)
 {
-    static std::map<std::pair<HINSTANCE, UINT>, HBITMAP> loaded;
-    HBITMAP& bitmap = loaded[{module, id}];
     constexpr UINT kFlags = LR_CREATEDIBSECTION | LR_SHARED;
-    if (!bitmap || ::GetObjectType(bitmap) != OBJ_BITMAP)
-        bitmap = static_cast<HBITMAP>(::LoadImageW(module, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, kFlags));
-    return bitmap;
+    return static_cast<HBITMAP>(::LoadImageW(module, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, kFlags));
+}
+
+/// Whether the platform shares this bitmap, which then must not be freed. Not every platform does, although
+/// it is asked to: each call then loads another bitmap, and each of them is the caller's.
+bool isShared(HBITMAP bitmap, HINSTANCE module, UINT id)
+{
+    const HBITMAP again = loadBitmap(module, id);
+    if (again == bitmap)
+        return true;
+    ::DeleteObject(again);
+    return false;
 }
 
 /// Without GDI+ not even the memory for its objects is to be had.
@@ -65,19 +72,29 @@ std::unique_ptr<Gdiplus::Bitmap> withAlpha(HBITMAP dib, int width, int height)
 
 std::optional<Strip> Strip::passed(HBITMAP bitmap)
 {
-    return read(bitmap, false);
+    return read(bitmap);
 }
 
 std::optional<Strip> Strip::resource(UINT id)
 {
-    const HBITMAP bitmap = sharedBitmap(AfxFindResourceHandle(MAKEINTRESOURCE(id), RT_BITMAP), id);
-    return bitmap ? read(bitmap, true) : std::nullopt;
+    const HINSTANCE module = AfxFindResourceHandle(MAKEINTRESOURCE(id), RT_BITMAP);
+    const HBITMAP bitmap = loadBitmap(module, id);
+    if (!bitmap)
+        return std::nullopt;
+    UniqueBitmap own(isShared(bitmap, module, id) ? nullptr : bitmap);
+    std::optional<Strip> strip = read(bitmap);
+    if (strip) {
+        strip->isResource = true;
+        strip->own = std::move(own);
+    }
+    return strip;
 }
 
-std::optional<Strip> Strip::read(HBITMAP bitmap, bool isResource)
+std::optional<Strip> Strip::read(HBITMAP bitmap)
 {
-    Strip strip{bitmap, {}, isResource};
-    if (!::GetObjectW(bitmap, sizeof strip.facts, &strip.facts) || strip.facts.bmHeight == 0)
+    Strip strip{bitmap, {}, false, nullptr};
+    if (!::GetObjectW(bitmap, sizeof strip.facts, &strip.facts) ||
+        !isPictureSize(strip.facts.bmWidth, strip.facts.bmHeight))
         return std::nullopt;
     return strip;
 }
@@ -99,10 +116,11 @@ std::unique_ptr<Gdiplus::Bitmap> StripPainter::paint(long index, const DWORD* re
     if (m_source.cx <= 0 || m_source.cy <= 0 || m_target.cx <= 0 || m_target.cy <= 0)
         return nullptr;
     const Part part = partOf(index);
-    if (part.count == 0 || !isGdiPlusStarted())
+    const std::int64_t width = std::int64_t{m_target.cx} * part.count;
+    if (!isPictureSize(width, m_target.cy) || !isGdiPlusStarted())
         return nullptr;
     auto target =
-        std::make_unique<Gdiplus::Bitmap>(m_target.cx * part.count, m_target.cy, PixelFormat32bppARGB);
+        std::make_unique<Gdiplus::Bitmap>(static_cast<INT>(width), m_target.cy, PixelFormat32bppARGB);
     if (!isGood(*target))
         return nullptr;
     draw(*target, part, remap);
@@ -196,8 +214,11 @@ void StripPainter::drawSeparately(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& 
     for (int i = 0; i < part.count; ++i) {
         const Gdiplus::Rect slot(i * m_target.cx, 0, m_target.cx, m_target.cy);
         graphics.SetClip(slot, Gdiplus::CombineModeReplace);
+        const std::int64_t left = (std::int64_t{part.first} + i) * m_source.cx;
+        if (left + m_source.cx > m_strip.facts.bmWidth)
+            continue; // beyond the strip's end: the image stays empty
         const std::unique_ptr<Gdiplus::Bitmap> image(
-            source.Clone((part.first + i) * m_source.cx, 0, m_source.cx, m_source.cy, PixelFormat32bppARGB));
+            source.Clone(static_cast<INT>(left), 0, m_source.cx, m_source.cy, PixelFormat32bppARGB));
         if (image)
             graphics.DrawImage(image.get(), slot, 0, 0, m_source.cx, m_source.cy, Gdiplus::UnitPixel,
                                attributes);
@@ -206,7 +227,7 @@ void StripPainter::drawSeparately(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& 
 
 void StripPainter::sharpenImages(Gdiplus::Bitmap& target, int count) const
 {
-    const Gdiplus::Rect all(0, 0, m_target.cx * count, m_target.cy);
+    const Gdiplus::Rect all(0, 0, m_target.cx * count, m_target.cy); // as large as a picture may be
     constexpr UINT kMode = Gdiplus::ImageLockModeRead | Gdiplus::ImageLockModeWrite;
     Gdiplus::BitmapData data{};
     if (target.LockBits(&all, kMode, PixelFormat32bppARGB, &data) != Gdiplus::Ok)

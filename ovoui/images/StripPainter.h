@@ -8,18 +8,28 @@
 
 #include <memory>
 #include <optional>
+#include <type_traits>
 
 namespace ovoui::images
 {
 
-/// A bitmap that holds images side by side. It is the caller's or shared, and never freed here.
+struct BitmapDeleter
+{
+    using pointer = HBITMAP;
+    void operator()(HBITMAP bitmap) const { ::DeleteObject(bitmap); }
+};
+using UniqueBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, BitmapDeleter>;
+
+/// A bitmap that holds images side by side.
 struct Strip
 {
     HBITMAP bitmap;
     BITMAP facts;    ///< its size and depth
     bool isResource; ///< found by its number, not passed in
+    UniqueBitmap
+        own; ///< the bitmap again if it is freed with the strip; null if it is the caller's or shared
 
-    /// None when the bitmap cannot be read.
+    /// None when the bitmap cannot be read or is larger than a picture may be.
     static std::optional<Strip> passed(HBITMAP bitmap);
     static std::optional<Strip> resource(UINT id);
 
@@ -27,7 +37,7 @@ struct Strip
     int count(int imageWidth) const { return facts.bmWidth / imageWidth; }
 
 private:
-    static std::optional<Strip> read(HBITMAP bitmap, bool isResource);
+    static std::optional<Strip> read(HBITMAP bitmap);
 };
 
 /// Draws images of a strip into a picture that holds them side by side.
@@ -38,8 +48,8 @@ public:
     StripPainter(const Strip& strip, const SIZE& sourceSize, const SIZE& targetSize,
                  Gdiplus::InterpolationMode interpolation, bool sharpen);
 
-    /// One image, or all for a negative index. Null when the sizes leave nothing to draw, or without GDI+.
-    /// `remap` as CAlphaImageList::AddBitmap takes it.
+    /// One image, or all for a negative index. Null when the sizes leave nothing to draw or make a picture
+    /// too large to be had, or without GDI+. `remap` as CAlphaImageList::AddBitmap takes it.
     std::unique_ptr<Gdiplus::Bitmap> paint(long index, const DWORD* remap) const;
 
 private:
@@ -61,7 +71,7 @@ private:
     void sharpenImages(Gdiplus::Bitmap& target, int count) const;
 
     const Strip& m_strip;
-    const SIZE m_source;
+    const SIZE m_source; // positive while painting, as the next one
     const SIZE m_target;
     const Gdiplus::InterpolationMode m_interpolation;
     const bool m_sharpen;

@@ -247,15 +247,27 @@ void sharpenInteriorSse2(const Rows& rows, int width, std::uint32_t* target)
     _mm256_zeroupper(); // or what follows, written for SSE, would be slowed down
 }
 
+void sharpenInterior(const Rows& rows, int width, std::uint32_t* target, SharpenCode code)
+{
+    switch (code) {
+    case SharpenCode::OnePixel:
+        sharpenOneByOne(rows, width, target);
+        break;
+    case SharpenCode::Sse2:
+        sharpenInteriorSse2(rows, width, target);
+        break;
+    case SharpenCode::Avx2:
+        sharpenInteriorAvx2(rows, width, target);
+        break;
+    }
+}
+
 void sharpenRow(const Rows& rows, int width, std::uint32_t* target, SharpenCode code)
 {
     sharpenFirstColumn(rows, width, target);
     if (width == 1)
         return;
-    if (code == SharpenCode::Avx2)
-        sharpenInteriorAvx2(rows, width, target);
-    else
-        sharpenInteriorSse2(rows, width, target);
+    sharpenInterior(rows, width, target, code);
     sharpenLastColumn(rows, width, target);
 }
 
@@ -284,7 +296,7 @@ private:
 SharpenCode fastestSharpenCode()
 {
     static const bool avx2 = __builtin_cpu_supports("avx2") != 0;
-    return avx2 ? SharpenCode::Avx2 : SharpenCode::Baseline;
+    return avx2 ? SharpenCode::Avx2 : SharpenCode::Sse2;
 }
 
 void sharpen(const PixelBlock& block)
