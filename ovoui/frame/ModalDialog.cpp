@@ -3,6 +3,7 @@
 #include <ovocor/ovocor.h>
 
 #include <exception>
+#include <string>
 
 COVOModalDialog::COVOModalDialog(UINT nIDTemplate, CWnd* pParentWnd)
     : CDialog(nIDTemplate, pParentWnd)
@@ -11,15 +12,18 @@ COVOModalDialog::COVOModalDialog(UINT nIDTemplate, CWnd* pParentWnd)
 
 COVOModalDialog::~COVOModalDialog() = default;
 
+/// The box is shown when the exception is gone: it runs a message loop of its own, whose handlers may raise
+/// and catch others, for as long as the user takes to answer.
 BOOL COVOModalDialog::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    constexpr UINT kStyle = MB_ICONEXCLAMATION | MB_TASKMODAL;
+    std::wstring text;
     try {
         return CWnd::OnWndMsg(message, wParam, lParam, pResult);
     } catch (const OvoError& error) {
-        AfxMessageBox(error.wwhat(), kStyle, m_nIDHelp);
+        text = error.wwhat();
     } catch (const std::exception& error) {
-        AfxMessageBox(getWCS(error.what()).c_str(), kStyle, m_nIDHelp);
+        text = getWCS(error.what());
     }
+    AfxMessageBox(text.c_str(), MB_ICONEXCLAMATION | MB_TASKMODAL, m_nIDHelp);
     return TRUE;
 }

@@ -1,6 +1,7 @@
 #include <ovoui/frame/MsgBoxDlg.h>
 
 #include <ovoui/frame/ClipboardText.h>
+#include <ovoui/frame/UncountedMoves.h>
 #include <ovouires/resource.h>
 
 using namespace ovoui::frame;
@@ -21,6 +22,7 @@ BEGIN_MESSAGE_MAP(COVOMsgBoxDlg, CDialog)
     ON_WM_HELPINFO()
     // the remembered position
     ON_WM_MOVE()
+    ON_MESSAGE(WM_DPICHANGED, &COVOMsgBoxDlg::OnDpiChanged)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
@@ -91,6 +93,13 @@ void COVOMsgBoxDlg::OnMove(int, int)
     m_moved = true;
 }
 
+/// The system moves the box to a place that suits the new resolution, which is no move by the user.
+LRESULT COVOMsgBoxDlg::OnDpiChanged(WPARAM, LPARAM)
+{
+    const UncountedMoves uncounted(m_moved);
+    return Default();
+}
+
 void COVOMsgBoxDlg::OnDestroy()
 {
     CWnd::OnDestroy();
@@ -102,14 +111,13 @@ void COVOMsgBoxDlg::savePosition()
 {
     RECT place{};
     ::GetWindowRect(m_anchor ? m_anchor : m_hWnd, &place);
-    const std::wstring text =
-        formatPosition({static_cast<int>(place.left), static_cast<int>(place.top)});
+    const std::wstring text = formatPosition({static_cast<int>(place.left), static_cast<int>(place.top)});
     if (CWinApp* app = AfxGetApp())
         app->WriteProfileString(L"settings", m_settingsKey, text.c_str());
 }
 
-/// Escape always cancels. From the text it would otherwise close the box: an edit control of several lines takes
-/// the key to itself and sends its dialog WM_CLOSE.
+/// Escape always cancels. From the text it would otherwise close the box: an edit control of several lines
+/// takes the key to itself and sends its dialog WM_CLOSE.
 bool COVOMsgBoxDlg::cancelByKeyboard(const MSG& message)
 {
     if (message.message != WM_KEYDOWN || message.wParam != VK_ESCAPE)

@@ -1,6 +1,7 @@
 /// Not exported: the dialog behind OVOMessageBox.
 #pragma once
 
+#include <ovoui/frame/MessageText.h>
 #include <ovoui/frame/core/MessageBoxLayout.h>
 #include <ovoui/frame/core/MessageBoxStyle.h>
 #include <ovoui/frame/core/SavedPosition.h>
@@ -37,15 +38,24 @@ protected:
     afx_msg void OnHelp();
     afx_msg void OnClose();
     afx_msg void OnMove(int x, int y);
+    afx_msg LRESULT OnDpiChanged(WPARAM, LPARAM);
     afx_msg BOOL OnHelpInfo(HELPINFO* info);
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
 
 private:
+    struct Measured
+    {
+        ovoui::frame::Extent text;
+        int lineHeight;
+        int widthLimit; ///< at which the text is wrapped
+    };
+
     // Steps of OnInitDialog (MsgBoxDlgInit.cpp).
     void readSavedPosition();
     void useGuiFont();
     ovoui::frame::Extent fitText();
+    Measured measure(CPoint place);
     void measureButtons(CDC& dc, const TEXTMETRICW& font);
     ovoui::frame::Extent measureText(CDC& dc);
     void addScrollBars(const ovoui::frame::TextArea& area);
@@ -60,7 +70,7 @@ private:
     bool copyByKeyboard(const MSG& message);
     void savePosition();
 
-    CEdit m_text;
+    MessageText m_text;
     HWND m_owner;
     std::wstring m_message;
     CString m_caption;

@@ -3,21 +3,29 @@
 
 #include <ovocor/ovocor.h>
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/FontDC.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/Module.h>
+#include <ovoui/frame/UncountedMoves.h>
 #include <ovouires/resource.h>
+
+#include <algorithm>
 
 using namespace ovoui::frame;
 
 namespace
 {
 
-constexpr POINT kIconPlace{10, 8};
-constexpr POINT kTextPlace{52, 8};
+int dotsPerInch()
+{
+    const CClientDC screen(nullptr);
+    return screen.GetDeviceCaps(LOGPIXELSX);
+}
 
 BoxMetrics systemMetrics()
 {
     BoxMetrics metrics;
+    metrics.dotsPerInch = dotsPerInch();
     metrics.edgeWidth = ::GetSystemMetrics(SM_CXEDGE);
     metrics.borderWidth = ::GetSystemMetrics(SM_CXBORDER);
     metrics.borderHeight = ::GetSystemMetrics(SM_CYBORDER);
@@ -25,36 +33,9 @@ BoxMetrics systemMetrics()
     metrics.frameHeight = ::GetSystemMetrics(SM_CYDLGFRAME);
     metrics.captionHeight = ::GetSystemMetrics(SM_CYCAPTION);
     metrics.scrollBarWidth = ::GetSystemMetrics(SM_CXVSCROLL);
+    metrics.scrollBarHeight = ::GetSystemMetrics(SM_CYHSCROLL);
     return metrics;
 }
-
-/// A window DC with the window's font selected for the life of the object.
-class FontDC
-{
-public:
-    explicit FontDC(CWnd& wnd)
-        : m_dc(&wnd)
-        , m_previous(m_dc.SelectObject(wnd.GetFont()))
-    {
-    }
-    ~FontDC() { m_dc.SelectObject(m_previous); }
-    FontDC(const FontDC&) = delete;
-    FontDC& operator=(const FontDC&) = delete;
-
-    CDC& dc() { return m_dc; }
-
-    TEXTMETRICW metrics()
-    {
-        TEXTMETRICW metrics{};
-        if (!m_dc.GetTextMetrics(&metrics))
-            throw WinError(L"GetTextMetrics", ::GetLastError());
-        return metrics;
-    }
-
-private:
-    CWindowDC m_dc;
-    CFont* m_previous;
-};
 
 std::vector<int> labelWidths(CDC& dc)
 {
@@ -62,7 +43,8 @@ std::vector<int> labelWidths(CDC& dc)
     for (const MessageBoxButton& button : allMessageBoxButtons()) {
         const std::wstring label = ovoui::resourceString(button.label);
         SIZE extent{};
-        if (!label.empty() && ::GetTextExtentPoint32W(dc, label.data(), static_cast<int>(label.size()), &extent))
+        if (!label.empty() &&
+            ::GetTextExtentPoint32W(dc, label.data(), static_cast<int>(label.size()), &extent))
             widths.push_back(extent.cx);
     }
     return widths;
@@ -76,24 +58,8 @@ std::wstring withWindowsLineEnds(const std::wstring& text)
     return joinLines(lines);
 }
 
-/// Forgets at the end of a scope, however it ends, that the window was moved in it.
-class UncountedMoves
-{
-public:
-    explicit UncountedMoves(bool& moved)
-        : m_moved(moved)
-    {
-    }
-    ~UncountedMoves() { m_moved = false; }
-    UncountedMoves(const UncountedMoves&) = delete;
-    UncountedMoves& operator=(const UncountedMoves&) = delete;
-
-private:
-    bool& m_moved;
-};
-
-/// Sets the formatting rectangle. Some systems take the control's margins off it, which the rectangle given has
-/// no room for: the text would be broken within words.
+/// Sets the formatting rectangle. Some systems take the control's margins and edge off it, which the
+/// rectangle given has no room for: lines would be cut at their ends, and one line less would be shown.
 void setFormatRect(CEdit& text, const CRect& rect)
 {
     text.SetRect(&rect);
@@ -101,7 +67,9 @@ void setFormatRect(CEdit& text, const CRect& rect)
     text.GetRect(&actual);
     if (actual.Width() >= rect.Width())
         return;
-    const CRect widened(2 * rect.left - actual.left, rect.top, 2 * rect.right - actual.right, rect.bottom);
+    const int edge = actual.top - rect.top;
+    const CRect widened(2 * rect.left - actual.left, rect.top - edge, 2 * rect.right - actual.right,
+                        rect.bottom + edge);
     text.SetRect(&widened);
 }
 
@@ -116,6 +84,7 @@ Extent clientExtent(const CWnd& wnd)
 
 BOOL COVOMsgBoxDlg::OnInitDialog()
 {
+    m_moved = false;
     const UncountedMoves uncounted(m_moved); // only the user's moves count
     CDialog::OnInitDialog();
     m_focusSet = false;
@@ -124,7 +93,8 @@ BOOL COVOMsgBoxDlg::OnInitDialog()
     readSavedPosition();
     useGuiFont();
     placeDialog(fitText());
-    m_text.SetWindowPos(nullptr, kTextPlace.x, kTextPlace.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    const Point text = textPlace(systemMetrics());
+    m_text.SetWindowPos(nullptr, text.x, text.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     createButtons();
     createIcon();
     SetWindowText(m_caption);
@@ -150,44 +120,52 @@ void COVOMsgBoxDlg::useGuiFont()
 Extent COVOMsgBoxDlg::fitText()
 {
     const BoxMetrics metrics = systemMetrics();
-    FontDC font(m_text);
-    const TEXTMETRICW fontMetrics = font.metrics();
-    measureButtons(font.dc(), fontMetrics);
-
-    const int widthLimit = font.dc().GetDeviceCaps(HORZRES) * 2 / 3;
+    m_message = withWindowsLineEnds(m_message);
     CRect format;
     m_text.GetRect(&format);
-    format.right = format.left + widthLimit;
-    format.bottom = format.top + font.dc().GetDeviceCaps(VERTRES);
-    setFormatRect(m_text, format);
-
-    m_message = withWindowsLineEnds(m_message);
-    const Extent text = measureText(font.dc());
-    m_text.SetWindowText(m_message.c_str());
-    format.right = format.left + text.width;
-    format.bottom = format.top + text.height;
-
+    const Measured measured = measure(format.TopLeft());
     const DWORD margins = m_text.GetMargins();
-    const TextArea area = textArea(text, fontMetrics.tmHeight + fontMetrics.tmExternalLeading,
-                                   LOWORD(margins) + HIWORD(margins), widthLimit, metrics);
-    addScrollBars(area);
+    const TextArea area = textArea(measured.text, measured.lineHeight, LOWORD(margins) + HIWORD(margins),
+                                   measured.widthLimit, metrics);
+    if (area.vertical)
+        addScrollBars(area);
+    m_text.showWrapped(m_message, measured.text.width,
+                       area.horizontal ? LongWords::Whole : LongWords::Broken);
 
     CRect window;
     m_text.GetWindowRect(&window);
     ScreenToClient(&window);
-    const Box grown = grownTextControl(toBox(window), clientExtent(m_text), area.client, metrics);
+    const Box grown = grownTextControl(toBox(window), clientExtent(m_text), area, metrics);
     const RECT place = toRect(grown);
     m_text.MoveWindow(&place);
-    setFormatRect(m_text, format);
+    // No taller than what is shown: a control takes what lies in this rectangle for visible and would not
+    // scroll to it.
+    const int height = std::min(area.client.height, clientExtent(m_text).height);
+    setFormatRect(m_text, {format.TopLeft(), CSize(measured.text.width, height)});
 
     return dialogSize(grown.width(), area.client.height, {m_buttonWidth, m_buttonHeight}, m_buttons.count(),
                       metrics);
 }
 
+/// Measures buttons and text, the latter in a formatting rectangle at `place` that is as wide as a text may
+/// become.
+COVOMsgBoxDlg::Measured COVOMsgBoxDlg::measure(CPoint place)
+{
+    FontDC font(m_text);
+    const TEXTMETRICW fontMetrics = font.metrics();
+    measureButtons(font.dc(), fontMetrics);
+
+    Measured measured;
+    measured.lineHeight = fontMetrics.tmHeight + fontMetrics.tmExternalLeading;
+    measured.widthLimit = font.dc().GetDeviceCaps(HORZRES) * 2 / 3;
+    setFormatRect(m_text, {place, CSize(measured.widthLimit, font.dc().GetDeviceCaps(VERTRES))});
+    measured.text = measureText(font.dc());
+    return measured;
+}
+
 void COVOMsgBoxDlg::measureButtons(CDC& dc, const TEXTMETRICW& font)
 {
-    const Extent size =
-        buttonSize(font.tmHeight, font.tmAveCharWidth, labelWidths(dc), systemMetrics());
+    const Extent size = buttonSize(font.tmHeight, font.tmAveCharWidth, labelWidths(dc), systemMetrics());
     m_buttonWidth = size.width;
     m_buttonHeight = size.height;
 }
@@ -197,16 +175,16 @@ Extent COVOMsgBoxDlg::measureText(CDC& dc)
     CRect format;
     m_text.GetRect(&format);
     dc.DrawText(m_message.c_str(), static_cast<int>(m_message.size()), &format,
-                DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOCLIP | DT_NOPREFIX | DT_EDITCONTROL);
+                DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_EXTERNALLEADING | DT_NOCLIP | DT_NOPREFIX |
+                    DT_EDITCONTROL);
     return {format.Width(), format.Height()};
 }
 
-/// Makes the text control anew with a frame and scroll bars. Merely changing the style would do on Windows, but not
-/// every system's control keeps a scroll bar up to date that it was not made with.
+/// Makes the text control anew with a frame and scroll bars, large enough for both bars to take their room.
+/// Merely changing the style would do on Windows, but not every system's control keeps a scroll bar up to
+/// date that it was not made with.
 void COVOMsgBoxDlg::addScrollBars(const TextArea& area)
 {
-    if (!area.vertical)
-        return;
     const DWORD style = m_text.GetStyle() | WS_VSCROLL | (area.horizontal ? WS_HSCROLL : 0);
     const HWND plain = m_text.UnsubclassWindow();
     CRect place;
@@ -214,12 +192,11 @@ void COVOMsgBoxDlg::addScrollBars(const TextArea& area)
     ScreenToClient(&place);
     ::DestroyWindow(plain);
 
-    const HWND framed = ::CreateWindowExW(WS_EX_CLIENTEDGE, L"EDIT", L"", style, place.left, place.top, place.Width(),
-                                          place.Height(), m_hWnd, reinterpret_cast<HMENU>(IDC_MESSAGE_TEXT),
-                                          ovoui::ownInstance(), nullptr);
+    const HWND framed = ::CreateWindowExW(
+        WS_EX_CLIENTEDGE, L"EDIT", L"", style, place.left, place.top, area.client.width, area.client.height,
+        m_hWnd, reinterpret_cast<HMENU>(IDC_MESSAGE_TEXT), ovoui::ownInstance(), nullptr);
     m_text.SubclassWindow(framed);
     m_text.SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))));
-    m_text.SetWindowText(m_message.c_str());
 }
 
 void COVOMsgBoxDlg::placeDialog(const Extent& size)
@@ -261,19 +238,20 @@ void COVOMsgBoxDlg::createButton(const MessageBoxButton& button, int position)
 {
     const bool isDefault = position == m_buttons.defaultPosition;
     const std::wstring label = ovoui::resourceString(button.label);
-    const Box place = buttonBox(position, m_buttons.count(), {m_buttonWidth, m_buttonHeight}, clientExtent(*this));
+    const Box place = buttonBox(position, m_buttons.count(), {m_buttonWidth, m_buttonHeight},
+                                clientExtent(*this), systemMetrics());
     const HWND wnd = ::CreateWindowExW(
         0, L"BUTTON", label.empty() ? button.fallback : label.c_str(),
-        WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_NOTIFY | (isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON), place.left,
-        place.top, place.width(), place.height(), m_hWnd,
+        WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_NOTIFY | (isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON),
+        place.left, place.top, place.width(), place.height(), m_hWnd,
         reinterpret_cast<HMENU>(static_cast<INT_PTR>(button.id)), ovoui::ownInstance(), nullptr);
     if (!wnd)
         return;
     ::SendMessageW(wnd, WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)), TRUE);
     if (!isDefault)
         return;
-    // The dialog manager knows no default button made after the template's: without it Enter in the text would
-    // answer IDOK in a box that has no such button.
+    // The dialog manager knows no default button made after the template's: without it Enter in the text
+    // would answer IDOK in a box that has no such button.
     SetDefID(button.id);
     ::SetFocus(wnd);
     m_focusSet = true;
@@ -284,9 +262,10 @@ void COVOMsgBoxDlg::createIcon()
 {
     constexpr int kAnySize = 10; // the control takes the icon's size
     const INT_PTR noId = -1;
-    ::CreateWindowExW(0, L"STATIC", messageBoxIcon(m_type), WS_CHILD | WS_VISIBLE | SS_ICON, kIconPlace.x,
-                      kIconPlace.y, kAnySize, kAnySize, m_hWnd, reinterpret_cast<HMENU>(noId),
-                      ovoui::ownInstance(), nullptr);
+    const Point place = iconPlace(systemMetrics());
+    ::CreateWindowExW(0, L"STATIC", messageBoxIcon(m_type), WS_CHILD | WS_VISIBLE | SS_ICON, place.x, place.y,
+                      kAnySize, kAnySize, m_hWnd, reinterpret_cast<HMENU>(noId), ovoui::ownInstance(),
+                      nullptr);
 }
 
 void COVOMsgBoxDlg::moveAnchorToSavedPosition()

@@ -1,10 +1,12 @@
 # Library frame: module start and stop, theme data, geometry, keys, the modal dialog base, the message box.
 set(frame_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/LineBreaker.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/MessageBoxLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/MessageBoxStyle.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/Placement.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SavedPosition.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/core/TabStep.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/core/TabStep.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/WrappedText.cpp)
 
 if(NOT WIN32)
   add_library(ovoui_frame_core STATIC ${frame_core})
@@ -19,6 +21,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ClipboardText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Geometry.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBox.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MessageText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ModalDialog.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Module.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MsgBoxDlg.cpp

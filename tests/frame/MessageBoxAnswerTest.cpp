@@ -59,6 +59,36 @@ HRSRC WINAPI noDialogs(HMODULE module, LPCWSTR name, LPCWSTR type)
 
 } // namespace
 
+namespace
+{
+
+std::vector<std::wstring> labels(HWND box)
+{
+    std::vector<std::wstring> texts;
+    for (const int id : buttonsFromTheLeft(box))
+        texts.push_back(windowText(::GetDlgItem(box, id)));
+    return texts;
+}
+
+int WINAPI noStrings(HINSTANCE, UINT, LPWSTR buffer, int)
+{
+    *buffer = L'\0';
+    return 0;
+}
+
+} // namespace
+
+TEST(MessageBoxAnswer, WithoutItsStringsTheButtonsHaveTheSameLabels)
+{
+    for (const UINT type :
+         {UINT{OVOMB_EXTBUTTONS | 3 | MB_HELP}, UINT{MB_ABORTRETRYIGNORE}, UINT{MB_OKCANCEL}}) {
+        std::vector<std::wstring> expected;
+        inspect({.type = type}, [&](HWND box) { expected = labels(box); });
+        const ImportPatch patch{L"ovoui.dll", "LoadStringW", reinterpret_cast<void*>(&noStrings)};
+        inspect({.type = type}, [&](HWND box) { EXPECT_EQ(labels(box), expected); });
+    }
+}
+
 TEST(MessageBoxAnswer, EveryButtonOfEverySetAnswersItsIdWhenClicked)
 {
     const struct
@@ -104,7 +134,8 @@ TEST(MessageBoxAnswer, TheArrowAndTabKeysReachTheOtherButtons)
 
 TEST(MessageBoxAnswer, EscapeAnswersCancelEvenWithoutACancelButton)
 {
-    for (const UINT type : {MB_OK, MB_OKCANCEL, MB_ABORTRETRYIGNORE, MB_YESNOCANCEL, MB_YESNO, MB_RETRYCANCEL})
+    for (const UINT type :
+         {MB_OK, MB_OKCANCEL, MB_ABORTRETRYIGNORE, MB_YESNOCANCEL, MB_YESNO, MB_RETRYCANCEL})
         EXPECT_EQ(answerByKey(type, VK_ESCAPE), IDCANCEL) << type;
 }
 
@@ -219,8 +250,8 @@ TEST(MessageBoxAnswer, TheHelpButtonTellsTheOwnerAndLeavesTheBoxOpen)
 TEST(MessageBoxAnswer, TheOwnerIsDisabledMeanwhileAndNoLonger)
 {
     CWnd owner;
-    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 300, 200, nullptr,
-                   nullptr);
+    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 300, 200,
+                   nullptr, nullptr);
     bool enabledMeanwhile = true;
     inspect({.owner = owner.m_hWnd}, [&](HWND) { enabledMeanwhile = owner.IsWindowEnabled() != FALSE; });
     EXPECT_FALSE(enabledMeanwhile);

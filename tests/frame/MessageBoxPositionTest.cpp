@@ -1,5 +1,6 @@
 // The position that the message box remembers, and its help key.
 #include "MessageBoxScene.h"
+#include "support/ImportPatch.h"
 #include "support/TemporaryProfile.h"
 #include "support/TestApp.h"
 
@@ -15,11 +16,13 @@ CPoint defaultButtonPlace(HWND box, int id)
     return screenRect(::GetDlgItem(box, id)).TopLeft();
 }
 
-
 class MessageBoxPosition : public ::testing::Test
 {
 protected:
-    static CString saved(const wchar_t* key) { return AfxGetApp()->GetProfileString(L"settings", key, L"(none)"); }
+    static CString saved(const wchar_t* key)
+    {
+        return AfxGetApp()->GetProfileString(L"settings", key, L"(none)");
+    }
     static void save(const wchar_t* key, const wchar_t* text)
     {
         AfxGetApp()->WriteProfileString(L"settings", key, text);
@@ -80,7 +83,8 @@ TEST_F(MessageBoxPosition, TheNextBoxOpensWithItsDefaultButtonThere)
 {
     const CPoint place = moveAndClose({.settingsKey = L"again"}, 50, 30);
     EXPECT_EQ(okPlace({.settingsKey = L"again"}), place);
-    EXPECT_EQ(okPlace({.text = L"A text of quite another\nsize\nthan the box before had.", .settingsKey = L"again"}),
+    EXPECT_EQ(okPlace({.text = L"A text of quite another\nsize\nthan the box before had.",
+                       .settingsKey = L"again"}),
               place);
     EXPECT_NE(okPlace({.settingsKey = L"another key"}), place);
 }
@@ -128,6 +132,47 @@ TEST_F(MessageBoxPosition, NegativePlacesAreReadAndWritten)
         EXPECT_EQ(screenRect(box).left, 0) << "pulled back from the left";
         EXPECT_EQ(defaultButtonPlace(box, IDOK).y, 200);
     });
+}
+
+namespace
+{
+
+/// A platform that gives a window whose resolution has changed the place suggested in the message.
+LRESULT WINAPI movingProcedure(WNDPROC procedure, HWND wnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_DPICHANGED) {
+        const auto* place = reinterpret_cast<const RECT*>(lParam);
+        ::SetWindowPos(wnd, nullptr, place->left, place->top, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        return 0;
+    }
+    return ::CallWindowProcW(procedure, wnd, message, wParam, lParam);
+}
+
+void changeResolution(HWND box)
+{
+    const RECT place{40, 60, 440, 260};
+    ::SendMessageW(box, WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&place));
+    EXPECT_EQ(screenRect(box).TopLeft(), CPoint(40, 60)) << "the box was moved";
+}
+
+} // namespace
+
+TEST_F(MessageBoxPosition, AMoveByAChangeOfResolutionIsNotTheUsers)
+{
+    const ImportPatch patch{L"ovomfc.dll", "CallWindowProcW", reinterpret_cast<void*>(&movingProcedure)};
+    inspect({.settingsKey = L"resolution"}, &changeResolution);
+    EXPECT_STREQ(saved(L"resolution"), L"(none)");
+}
+
+TEST_F(MessageBoxPosition, AMoveByTheUserCountsAfterAChangeOfResolutionToo)
+{
+    const ImportPatch patch{L"ovomfc.dll", "CallWindowProcW", reinterpret_cast<void*>(&movingProcedure)};
+    inspect({.settingsKey = L"both"}, [](HWND box) {
+        ::SetWindowPos(box, nullptr, 200, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        changeResolution(box);
+    });
+    EXPECT_STRNE(saved(L"both"), L"(none)");
 }
 
 TEST(MessageBoxHelp, F1AsksForTheHelpPage)

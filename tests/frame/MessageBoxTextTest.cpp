@@ -67,7 +67,8 @@ TEST(MessageBoxText, CtrlCCopiesTheWholeMessageWhenNothingIsSelected)
                        .holding(VK_CONTROL)
                        .key('C')
                        .letGo(VK_CONTROL)
-                       .waitFor("the text on the clipboard", [] { return !clipboardText().empty(); })
+                       .waitFor("the text on the clipboard",
+                                [] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE; })
                        .key(VK_ESCAPE)
                        .start();
     show({.text = L"oak\nelm"});
@@ -88,7 +89,8 @@ TEST(MessageBoxText, CtrlCCopiesTheSelectionWhereverTheFocusIs)
                            .holding(VK_CONTROL)
                            .key('C')
                            .letGo(VK_CONTROL)
-                           .waitFor("the text on the clipboard", [] { return !clipboardText().empty(); })
+                           .waitFor("the text on the clipboard",
+                                    [] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE; })
                            .key(VK_ESCAPE)
                            .start();
         show({.text = L"oak elm ash"});

@@ -103,6 +103,61 @@ TEST(ModalDialog, ShowsAStandardException)
     EXPECT_EQ(boxes()[0].helpId, static_cast<UINT>(IDD_ERROR_DIALOG));
 }
 
+namespace
+{
+
+/// Tells how many of its kind there are.
+class CountedError : public OvoError
+{
+public:
+    CountedError()
+        : OvoError(L"oak")
+    {
+        ++s_count;
+    }
+    CountedError(const CountedError& other)
+        : OvoError(other)
+    {
+        ++s_count;
+    }
+    ~CountedError() override { --s_count; }
+
+    static int count() { return s_count; }
+
+private:
+    inline static int s_count = 0;
+};
+
+} // namespace
+
+TEST(ModalDialog, TheExceptionIsGoneWhenItsBoxIsShown)
+{
+    TestApp::instance().onBox = [] {
+        EXPECT_EQ(std::current_exception(), nullptr);
+        EXPECT_EQ(CountedError::count(), 0);
+    };
+    ErrorDialog dialog;
+    dialog.onAct = [] { throw CountedError(); };
+    run(dialog);
+    EXPECT_EQ(boxes().size(), 1u);
+    dialog.onAct = [] { throw std::runtime_error("elm"); };
+    run(dialog);
+    EXPECT_EQ(boxes().size(), 2u);
+}
+
+TEST(ModalDialog, AnErrorWhileABoxIsShownIsShownToo)
+{
+    ErrorDialog dialog;
+    TestApp::instance().onBox = [] {
+        if (boxes().size() == 1)
+            ::SendMessageW(shownDialog(), kAct, 0, 0);
+    };
+    dialog.onAct = [] { throw OvoError(boxes().empty() ? L"the first" : L"the second"); };
+    EXPECT_EQ(run(dialog), IDCANCEL);
+    ASSERT_EQ(boxes().size(), 2u);
+    EXPECT_EQ(boxes()[1].text, L"the second");
+}
+
 TEST(ModalDialog, UsesTheDialogsOwnHelpId)
 {
     ErrorDialog dialog;

@@ -21,11 +21,14 @@ void TestApp::forget()
     m_helps.clear();
     m_results.clear();
     m_showsBoxes = false;
+    onBox = nullptr;
 }
 
 int TestApp::DoMessageBox(LPCTSTR text, UINT type, UINT helpId)
 {
     m_boxes.push_back({text, type, helpId});
+    if (onBox)
+        onBox();
     if (m_showsBoxes)
         return CWinApp::DoMessageBox(text, type, helpId);
     if (m_results.empty())

@@ -3,6 +3,7 @@
 #include <afxwin.h>
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -25,7 +26,7 @@ struct AskedHelp
 };
 
 /// The application of every test program. It shows neither message boxes nor help, but writes down that
-/// they were asked for: a box that nobody answers would stop the test.
+/// they were asked for: a box without an answer would stop the test.
 class TestApp : public CWinApp
 {
 public:
@@ -40,6 +41,9 @@ public:
 
     /// Shows boxes for real until forget() is called: for tests that answer them.
     void showBoxes() { m_showsBoxes = true; }
+
+    /// Called while a box waits for its answer.
+    std::function<void()> onBox;
 
     /// Back to the beginning; called before each test.
     void forget();

@@ -7,12 +7,27 @@ namespace ovoui::frame
 namespace
 {
 
-constexpr int kMaxLines = 15;      // more lines than this are scrolled
-constexpr int kButtonGap = 10;     // between buttons, and beside the last
-constexpr int kButtonBottom = 8;   // below the buttons
-constexpr int kBesideText = 62;    // icon and margins beside the text control
-constexpr int kAroundText = 24;    // above the text, between text and buttons, below the buttons
-constexpr int kIconRow = 56;       // the least height that the icon and the margins take
+constexpr int kMaxLines = 15; // more lines than this are scrolled
+
+// Pixels at 96 dots per inch
+constexpr Point kIconPlace{10, 8};
+constexpr Point kTextPlace{52, 8};
+constexpr int kButtonGap = 10;   // between buttons, and beside the last
+constexpr int kButtonBottom = 8; // below the buttons
+constexpr int kBesideText = 62;  // icon and margins beside the text control
+constexpr int kAroundText = 24;  // above the text, between text and buttons, below the buttons
+constexpr int kIconRow = 56;     // the least height that the icon and the margins take
+
+/// Pixels at the system's resolution.
+int scaled(int pixels, const BoxMetrics& metrics)
+{
+    return (pixels * metrics.dotsPerInch + 48) / 96;
+}
+
+Point scaled(const Point& point, const BoxMetrics& metrics)
+{
+    return {scaled(point.x, metrics), scaled(point.y, metrics)};
+}
 
 } // namespace
 
@@ -38,28 +53,41 @@ TextArea textArea(const Extent& text, int lineHeight, int margins, int widthLimi
     return area;
 }
 
-Box grownTextControl(const Box& window, const Extent& from, const Extent& to, const BoxMetrics& metrics)
+Box grownTextControl(const Box& window, const Extent& from, const TextArea& to, const BoxMetrics& metrics)
 {
     Box grown = window;
-    grown.right += to.width - from.width + 2 * metrics.borderWidth;
-    grown.bottom += to.height - from.height + 2 * metrics.borderHeight;
+    grown.right += to.client.width - from.width + 2 * metrics.borderWidth;
+    grown.bottom += to.client.height - from.height + 2 * metrics.borderHeight;
+    if (to.horizontal)
+        grown.bottom -= metrics.scrollBarHeight;
     return grown;
 }
 
 Extent dialogSize(int textControlWidth, int textHeight, const Extent& button, int buttonCount,
                   const BoxMetrics& metrics)
 {
-    const int forText = textControlWidth + 2 * metrics.frameWidth + kBesideText;
-    const int forButtons = (button.width + kButtonGap) * buttonCount + 2 * metrics.frameWidth + kButtonGap;
+    const int gap = scaled(kButtonGap, metrics);
+    const int forText = textControlWidth + 2 * metrics.frameWidth + scaled(kBesideText, metrics);
+    const int forButtons = (button.width + gap) * buttonCount + 2 * metrics.frameWidth + gap;
     const int frame = metrics.captionHeight + 2 * metrics.frameHeight;
-    return {std::max(forText, forButtons),
-            frame + button.height + std::max(kAroundText + textHeight, kIconRow)};
+    const int aboveButtons = std::max(scaled(kAroundText, metrics) + textHeight, scaled(kIconRow, metrics));
+    return {std::max(forText, forButtons), frame + button.height + aboveButtons};
 }
 
-Box buttonBox(int position, int count, const Extent& button, const Extent& client)
+Point iconPlace(const BoxMetrics& metrics)
 {
-    const int left = client.width - (count - position) * (button.width + kButtonGap);
-    const int top = client.height - button.height - kButtonBottom;
+    return scaled(kIconPlace, metrics);
+}
+
+Point textPlace(const BoxMetrics& metrics)
+{
+    return scaled(kTextPlace, metrics);
+}
+
+Box buttonBox(int position, int count, const Extent& button, const Extent& client, const BoxMetrics& metrics)
+{
+    const int left = client.width - (count - position) * (button.width + scaled(kButtonGap, metrics));
+    const int top = client.height - button.height - scaled(kButtonBottom, metrics);
     return {left, top, left + button.width, top + button.height};
 }
 

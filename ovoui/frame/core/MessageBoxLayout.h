@@ -17,9 +17,18 @@ struct Extent
     friend bool operator==(const Extent&, const Extent&) = default;
 };
 
-/// What the layout needs to know of the system.
+struct Point
+{
+    int x = 0;
+    int y = 0;
+
+    friend bool operator==(const Point&, const Point&) = default;
+};
+
+/// What the layout needs to know of the system. Sizes are in pixels.
 struct BoxMetrics
 {
+    int dotsPerInch = 96;    ///< the distances between the parts are made for 96 and scale with it
     int edgeWidth = 0;       ///< of a three-dimensional edge
     int borderWidth = 0;     ///< of a thin border, left or right
     int borderHeight = 0;    ///< of a thin border, top or bottom
@@ -27,6 +36,7 @@ struct BoxMetrics
     int frameHeight = 0;     ///< of a dialog frame, top or bottom
     int captionHeight = 0;   ///< of a title bar
     int scrollBarWidth = 0;  ///< of a vertical scroll bar
+    int scrollBarHeight = 0; ///< of a horizontal scroll bar
 };
 
 /// Size common to all buttons, for a font of the given height and average character width, wide enough for
@@ -46,16 +56,23 @@ struct TextArea
 /// `widthLimit` the width at which a scrolled text also gets a horizontal bar.
 TextArea textArea(const Extent& text, int lineHeight, int margins, int widthLimit, const BoxMetrics& metrics);
 
-/// `window` grown so that a client area of `from` becomes `to`.
-Box grownTextControl(const Box& window, const Extent& from, const Extent& to, const BoxMetrics& metrics);
+/// `window`, whose client area measures `from` beside the scroll bars, grown to the size that `to` asks for.
+/// The dialog has no room for a horizontal bar of its own: the bar takes it from the lines shown.
+Box grownTextControl(const Box& window, const Extent& from, const TextArea& to, const BoxMetrics& metrics);
 
 /// Outer size of the dialog. `textControlWidth` is that of the grown control, `textHeight` the height of the
 /// text area's client.
 Extent dialogSize(int textControlWidth, int textHeight, const Extent& button, int buttonCount,
                   const BoxMetrics& metrics);
 
+/// Where the icon's top left corner lies in the dialog's client area.
+Point iconPlace(const BoxMetrics& metrics);
+
+/// Where the text control's top left corner lies in the dialog's client area.
+Point textPlace(const BoxMetrics& metrics);
+
 /// Where the button at `position` of `count` lies in the dialog's client area.
-Box buttonBox(int position, int count, const Extent& button, const Extent& client);
+Box buttonBox(int position, int count, const Extent& button, const Extent& client, const BoxMetrics& metrics);
 
 /// The lines joined by CR LF.
 std::wstring joinLines(const std::vector<std::wstring>& lines);

@@ -1,5 +1,8 @@
 #include <ovoui/frame/core/MessageBoxStyle.h>
 
+#include <ovouires/ButtonLabels.h>
+#include <ovouires/resource.h>
+
 #include <array>
 
 namespace ovoui::frame
@@ -82,16 +85,16 @@ int requestedDefault(unsigned type)
 const std::vector<MessageBoxButton>& allMessageBoxButtons()
 {
     static const std::vector<MessageBoxButton> buttons{
-        {kAbort, 20100, L"&Abort"},
-        {kOk, 20101, L"OK"},
-        {kCancel, 20102, L"Cancel"},
-        {kRetry, 20103, L"&Retry"},
-        {kIgnore, 20104, L"&Ignore"},
-        {kYes, 20105, L"&Yes"},
-        {kNo, 20106, L"&No"},
-        {IDYESTOALL, 20107, L"Yes to &all"},
-        {IDNOTOALL, 20108, L"N&o to all"},
-        {kHelpButton, 20109, L"&Help"},
+        {kAbort, IDS_BUTTON_ABORT, L"" BUTTON_LABEL_ABORT},
+        {kOk, IDS_BUTTON_OK, L"" BUTTON_LABEL_OK},
+        {kCancel, IDS_BUTTON_CANCEL, L"" BUTTON_LABEL_CANCEL},
+        {kRetry, IDS_BUTTON_RETRY, L"" BUTTON_LABEL_RETRY},
+        {kIgnore, IDS_BUTTON_IGNORE, L"" BUTTON_LABEL_IGNORE},
+        {kYes, IDS_BUTTON_YES, L"" BUTTON_LABEL_YES},
+        {kNo, IDS_BUTTON_NO, L"" BUTTON_LABEL_NO},
+        {IDYESTOALL, IDS_BUTTON_YES_TO_ALL, L"" BUTTON_LABEL_YES_TO_ALL},
+        {IDNOTOALL, IDS_BUTTON_NO_TO_ALL, L"" BUTTON_LABEL_NO_TO_ALL},
+        {kHelpButton, IDS_BUTTON_HELP, L"" BUTTON_LABEL_HELP},
     };
     return buttons;
 }
@@ -112,8 +115,9 @@ MessageBoxButtons messageBoxButtons(unsigned type)
 const wchar_t* messageBoxIcon(unsigned type)
 {
     static constexpr std::array extended{
-        L"COMPUTER", L"DISCFIXED", L"DISCNETWORK", L"DISCREMOVABLE", L"DISCCD", L"FOLDERCLOSED", L"FOLDEROPEN",
-        L"INET",     L"OVOLOGO",   L"KEY",         L"MOUSE",         L"NETWORK", L"NOTEEMPTY",   L"NOTEFULL",
+        L"COMPUTER",     L"DISCFIXED",  L"DISCNETWORK", L"DISCREMOVABLE", L"DISCCD",
+        L"FOLDERCLOSED", L"FOLDEROPEN", L"INET",        L"OVOLOGO",       L"KEY",
+        L"MOUSE",        L"NETWORK",    L"NOTEEMPTY",   L"NOTEFULL",
     };
     const unsigned icon = (type & kIconMask) >> 4;
     if ((type & OVOMB_EXTICONS) && icon >= 1 && icon <= extended.size())

@@ -17,6 +17,7 @@ BoxMetrics metrics()
     m.frameHeight = 4;
     m.captionHeight = 19;
     m.scrollBarWidth = 17;
+    m.scrollBarHeight = 16;
     return m;
 }
 
@@ -67,8 +68,18 @@ TEST(MessageBoxLayout, TheHorizontalBarComesWhenMarginsAndBarPassTheLimit)
 
 TEST(MessageBoxLayout, TheControlGrowsByTheMissingClientAreaAndTheBorders)
 {
-    EXPECT_EQ(grownTextControl({10, 5, 110, 25}, {100, 20}, {208, 26}, metrics()), (Box{10, 5, 220, 33}));
-    EXPECT_EQ(grownTextControl({10, 5, 110, 25}, {96, 16}, {50, 10}, metrics()), (Box{10, 5, 66, 21}));
+    EXPECT_EQ(grownTextControl({10, 5, 110, 25}, {100, 20}, {{208, 26}}, metrics()), (Box{10, 5, 220, 33}));
+    EXPECT_EQ(grownTextControl({10, 5, 110, 25}, {96, 16}, {{50, 10}}, metrics()), (Box{10, 5, 66, 21}));
+    EXPECT_EQ(grownTextControl({10, 5, 110, 25}, {96, 16}, {{50, 10}, true, false}, metrics()),
+              (Box{10, 5, 66, 21}));
+}
+
+TEST(MessageBoxLayout, AHorizontalBarTakesItsRoomFromTheLines)
+{
+    const TextArea area{{208, 15 * 13}, true, true};
+    // 100 by 100 with both bars: a client area of 83 by 84.
+    EXPECT_EQ(grownTextControl({0, 0, 100, 100}, {83, 84}, area, metrics()),
+              (Box{0, 0, 208 + 17 + 2, 15 * 13 + 16 + 2 - 16}));
 }
 
 TEST(MessageBoxLayout, TheDialogFitsTheText)
@@ -86,8 +97,25 @@ TEST(MessageBoxLayout, TheDialogFitsTheButtonsAndTheIcon)
 TEST(MessageBoxLayout, ButtonsStandAtTheRightInOrder)
 {
     const Extent client{300, 120};
-    EXPECT_EQ(buttonBox(0, 2, {75, 22}, client), (Box{130, 90, 205, 112}));
-    EXPECT_EQ(buttonBox(1, 2, {75, 22}, client), (Box{215, 90, 290, 112}));
+    EXPECT_EQ(buttonBox(0, 2, {75, 22}, client, metrics()), (Box{130, 90, 205, 112}));
+    EXPECT_EQ(buttonBox(1, 2, {75, 22}, client, metrics()), (Box{215, 90, 290, 112}));
+}
+
+TEST(MessageBoxLayout, DistancesAreScaledWithTheResolution)
+{
+    BoxMetrics large = metrics();
+    EXPECT_EQ(iconPlace(large), (Point{10, 8}));
+    EXPECT_EQ(textPlace(large), (Point{52, 8}));
+    large.dotsPerInch = 144;
+    EXPECT_EQ(iconPlace(large), (Point{15, 12}));
+    EXPECT_EQ(textPlace(large), (Point{78, 12})); // the icon is 48 pixels wide: 15 of them to the text
+    EXPECT_EQ(dialogSize(400, 100, {75, 22}, 1, large), (Extent{400 + 6 + 93, 8 + 36 + 19 + 100 + 22}));
+    EXPECT_EQ(dialogSize(20, 13, {75, 22}, 4, large), (Extent{90 * 4 + 6 + 15, 19 + 8 + 84 + 22}));
+    EXPECT_EQ(buttonBox(1, 2, {75, 22}, {300, 120}, large), (Box{210, 86, 285, 108}));
+    large.dotsPerInch = 120;
+    EXPECT_EQ(iconPlace(large), (Point{13, 10}));
+    large.dotsPerInch = 192;
+    EXPECT_EQ(textPlace(large), (Point{104, 16}));
 }
 
 TEST(MessageBoxLayout, LinesAreJoinedByWindowsLineEnds)
