@@ -1,4 +1,4 @@
-// COleDataObject: data that somebody else offers, by drag and drop or on the clipboard.
+// COleDataObject: data that a source offers, by drag and drop or on the clipboard.
 #pragma once
 
 #include <afx.h>

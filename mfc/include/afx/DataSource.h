@@ -37,7 +37,7 @@ public:
 
     /// Lets the user drag. Waits first until the pointer leaves `startRect` (screen coordinates; NULL: the
     /// pixel under it) or the system's drag delay has passed. Gives DROPEFFECT_NONE when the button goes up
-    /// before that, the user cancels or nobody takes the data. What the overridables of source and target
+    /// before that, the user cancels or no target takes the data. What the overridables of source and target
     /// raise comes out of here.
     DROPEFFECT DoDragDrop(DWORD effects = DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK,
                           LPCRECT startRect = nullptr, COleDropSource* dropSource = nullptr);

@@ -1,4 +1,4 @@
-// MFC's own exceptions. They are thrown and caught by pointer; whoever catches one calls Delete().
+// MFC's own exceptions. They are thrown and caught by pointer; the handler that catches one calls Delete().
 #pragma once
 
 #include <afx/Object.h>

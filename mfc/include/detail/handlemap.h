@@ -18,7 +18,7 @@ OVOMFC_API void registerTemporaryPurge(void (*purge)(void* map), void* map);
 /// Handles of one kind and their objects, for one thread.
 ///
 /// The permanent map holds objects that were attached to their handle; it does not own them. The temporary map
-/// owns objects made for handles that nobody attached; they never close the handle and go in idle time.
+/// owns objects made for handles that were not attached; they never close the handle and go in idle time.
 /// `Traits` gives `Object`, `Handle`, `static std::unique_ptr<Object> make(Handle)` (an object that holds the
 /// handle) and `static void forget(Object&)` (takes the handle out again, so that the destructor leaves it).
 template <class Traits>

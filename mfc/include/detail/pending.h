@@ -22,7 +22,7 @@ OVOMFC_API void rethrowPendingException();
 /// A call into the system, from the constructor to finish().
 ///
 /// What was kept before the call belongs to a call further out and stays aside meanwhile, so that a handler on
-/// the way is never interrupted by somebody else's exception.
+/// the way is never interrupted by an exception of another call.
 class OVOMFC_API CallOut
 {
 public:

@@ -96,7 +96,7 @@ BOOL CFrameWnd::LoadFrame(UINT id, DWORD style, CWnd* parent, CCreateContext* co
     if (!Create(nullptr, title, style, rectDefault, parent, hasMenu ? name : nullptr, 0, context))
         return FALSE;
     LoadAccelTable(name);
-    if (!context) // whoever makes documents tells the views when they are ready
+    if (!context) // with a context, the document template sends this when the views are ready
         SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, TRUE);
     return TRUE;
 }
@@ -183,7 +183,7 @@ BOOL CFrameWnd::OnQueryEndSession()
 
 void CFrameWnd::OnDestroy()
 {
-    // Only the menu that a window shows goes with it. Another one belongs to whoever set it.
+    // Only the menu that a window shows goes with it. Another one belongs to the code that set it.
     const bool ownsMenu = !(GetStyle() & WS_CHILD) && ::IsMenu(m_hMenuDefault);
     if (ownsMenu && ::GetMenu(m_hWnd) != m_hMenuDefault)
         ::SetMenu(m_hWnd, m_hMenuDefault);

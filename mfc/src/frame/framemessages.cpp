@@ -141,7 +141,7 @@ LRESULT CFrameWnd::OnSetMessageString(WPARAM id, LPARAM text)
     return static_cast<LRESULT>(before);
 }
 
-/// The message line is wanted back by whoever has set it for a while.
+/// Ends a text that was put on the message line for a while.
 LRESULT CFrameWnd::OnPopMessageString(WPARAM id, LPARAM text)
 {
     return SendMessage(WM_SETMESSAGESTRING, id, text);

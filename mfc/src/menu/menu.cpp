@@ -117,7 +117,7 @@ BOOL CMenu::DestroyMenu()
     const HMENU menu = Detach();
     if (!menu)
         return FALSE;
-    menuMap().remove(menu); // nobody shall find an object for a menu that is no more
+    menuMap().remove(menu); // no object must be found for a menu that is gone
     return ::DestroyMenu(menu);
 }
 

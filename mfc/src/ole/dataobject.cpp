@@ -86,7 +86,7 @@ HGLOBAL COleDataObject::GetGlobalData(CLIPFORMAT format, LPFORMATETC formatEtc)
     const bool inMemory = medium.tymed == TYMED_HGLOBAL || medium.tymed == TYMED_MFPICT;
     if (inMemory && !medium.pUnkForRelease)
         return medium.hGlobal;
-    // The memory belongs to somebody else: the caller gets a copy.
+    // The memory belongs to the source: the caller gets a copy.
     const HGLOBAL copy =
         inMemory ? ::OleDuplicateData(medium.hGlobal, wanted.cfFormat, GMEM_MOVEABLE) : nullptr;
     ::ReleaseStgMedium(&medium);

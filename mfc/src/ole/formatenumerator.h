@@ -1,4 +1,4 @@
-// Internal to OLE: a list of formats for whoever asks a data source what it has.
+// Internal to OLE: the list of formats that a data source offers.
 #pragma once
 
 #include <ole2.h>

@@ -27,6 +27,6 @@ void AFXAPI AfxOleTerm()
         return;
     s_started = false;
     if (COleDataSource::GetClipboardOwner())
-        ::OleFlushClipboard(); // what it renders may fail: nobody is left to tell
+        ::OleFlushClipboard(); // errors in rendering are ignored: no window is left to show them
     ::OleUninitialize();
 }

@@ -59,7 +59,7 @@ void CWnd::OnNcDestroy()
     const auto procedure = ::GetWindowLongPtrW(wnd, GWLP_WNDPROC);
     regardless([this] { Default(); });
     WNDPROC* super = GetSuperWndProcAddr();
-    // Given back only where nobody has put another procedure in front of ours.
+    // Given back only if no other procedure has been put in front of ours.
     if (*super && procedure == reinterpret_cast<LONG_PTR>(&AfxWndProc) &&
         ::GetWindowLongPtrW(wnd, GWLP_WNDPROC) == procedure)
         ::SetWindowLongPtrW(wnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*super));

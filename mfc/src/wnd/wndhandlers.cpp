@@ -1,4 +1,4 @@
-// CWnd: what happens to messages that nobody else handles.
+// CWnd: what happens to messages that no derived class handles.
 #include <afxwin.h>
 
 #include "wndmenus.h"

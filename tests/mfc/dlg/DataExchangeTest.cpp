@@ -313,7 +313,7 @@ TEST(DataExchange, ARefusalOfTheProgramsOwnIsSilent)
     ExchangeDialog dialog;
     dialog.exchange = [&](CDataExchange* pass) {
         pass->PrepareCtrl(kList);
-        pass->Fail(); // whoever calls this has told the user
+        pass->Fail(); // to be called when the user has been told
     };
     EXPECT_FALSE(dialog.UpdateData(TRUE));
     EXPECT_TRUE(boxes().empty());

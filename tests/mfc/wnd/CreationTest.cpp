@@ -163,7 +163,7 @@ TEST(Creation, AFailedChildDoesNotDisturbItsParentsCreation)
     } parent;
     ASSERT_TRUE(parent.create());
     EXPECT_EQ(parent.child.ended, 1);
-    // Whatever is created next belongs to nobody.
+    // The window that is created next has no object.
     const PlainWindow plain;
     EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
     EXPECT_EQ(parent.child.m_hWnd, nullptr);

@@ -1,4 +1,4 @@
-// An object in front of a window that somebody else made.
+// An object in front of a window that other code made.
 #include "Windows.h"
 
 #include <gtest/gtest.h>
