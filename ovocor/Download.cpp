@@ -42,12 +42,12 @@ const wchar_t* remedyFor(DWORD status)
     case HTTP_STATUS_DENIED:
     case HTTP_STATUS_FORBIDDEN:
     case HTTP_STATUS_PROXY_AUTH_REQ:
-        return L"Access to it needs permission; ask whoever runs the server or the network.";
+        return L"Access denied. Ask the administrator of the server or the network for permission.";
     case HTTP_STATUS_NOT_FOUND:
     case HTTP_STATUS_GONE:
-        return L"The file is not there; check the address.";
+        return L"The file was not found. Check the address.";
     default:
-        return status >= HTTP_STATUS_SERVER_ERROR ? L"The server has a problem; try again later."
+        return status >= HTTP_STATUS_SERVER_ERROR ? L"A server error occurred. Try again later."
                                                   : L"Check the address, or try again later.";
     }
 }
@@ -83,7 +83,7 @@ void Download::takeApart()
     if (parts.nScheme != INTERNET_SCHEME_HTTP && parts.nScheme != INTERNET_SCHEME_HTTPS)
         fail(L"only http and https addresses can be downloaded.");
     if (parts.dwHostNameLength == 0)
-        fail(L"the address names no server. Check how it is written.");
+        fail(L"the address has no server name. Check the spelling.");
     m_secure = parts.nScheme == INTERNET_SCHEME_HTTPS;
     m_port = parts.nPort;
     m_host.assign(parts.lpszHostName, parts.dwHostNameLength);
@@ -112,7 +112,7 @@ std::wstring Download::run()
     CacheFile file(m_url);
     const std::uint64_t size = copy(request.get(), file);
     if (announced && size != *announced)
-        fail(stringPrintf(L"the connection ended after %I64u of %I64u bytes. Try again.", size, *announced));
+        fail(stringPrintf(L"the connection was closed after %I64u of %I64u bytes. Try again.", size, *announced));
     file.commit();
     return file.path();
 }
@@ -199,27 +199,26 @@ std::wstring Download::causeOf(DWORD code) const
     switch (code) {
     case ERROR_INTERNET_INVALID_URL:
     case ERROR_INTERNET_UNRECOGNIZED_SCHEME:
-        return L"the address is not valid. Check how it is written.";
+        return L"the address is not valid. Check the spelling.";
     case ERROR_INTERNET_NAME_NOT_RESOLVED:
-        return L"the server \"" + m_host + L"\" is not known. Check the address and the network connection.";
+        return L"the server \"" + m_host + L"\" was not found. Check the address and the network connection.";
     case ERROR_INTERNET_CANNOT_CONNECT:
         return L"the server \"" + m_host +
-               L"\" cannot be reached or refuses the connection. Check the address, the network connection "
-               L"and the "
-               L"proxy settings.";
+               L"\" cannot be reached or refused the connection. Check the address, the network connection "
+               L"and the proxy settings.";
     case ERROR_INTERNET_TIMEOUT:
-        return L"the server \"" + m_host + L"\" does not answer. Try again later.";
+        return L"the server \"" + m_host + L"\" is not responding. Try again later.";
     case ERROR_INTERNET_CONNECTION_ABORTED:
     case ERROR_INTERNET_CONNECTION_RESET:
     case ERROR_HTTP_INVALID_SERVER_RESPONSE:
-        return L"the connection to the server \"" + m_host + L"\" was broken off. Try again.";
+        return L"the connection to the server \"" + m_host + L"\" was lost. Try again.";
     default:
         break;
     }
     const std::wstring text = formatMessage(code, m_inet.module);
     if (isCertificateError(code))
-        return L"the certificate of the server \"" + m_host + L"\" is not accepted (" + text +
-               L"). Check the date of this computer and the address.";
+        return L"the certificate of the server \"" + m_host + L"\" is not valid (" + text +
+               L"). Check the address and the date on this computer.";
     return text;
 }
 

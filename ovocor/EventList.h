@@ -4,9 +4,9 @@
 ///     EVSubscription seen = changes->subscribe([](const int& id) { show(id); });
 ///     changes->notify(5146);   // calls the subscribers in the order of their subscriptions
 ///
-/// Inside a notification everything is allowed: who subscribes is called from the next notification on, who
-/// is unsubscribed is not called any more, notifications may nest, and the last handle to the list may go,
-/// which ends the list when the notification is over.
+/// Subscribers may change the list during a notification. A new subscriber is called from the next notification
+/// on; one that has unsubscribed is not called any more. Notifications may nest. A list whose last handle goes is
+/// destroyed when the notification is over.
 #pragma once
 
 #include <ovocor/Handle.h>

@@ -1,4 +1,4 @@
-/// Objects that live while somebody holds a handle to them.
+/// Objects that live while a handle refers to them.
 ///
 ///     class Folder : public Place, public OVO::Handlable { ... };
 ///

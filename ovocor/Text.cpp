@@ -53,7 +53,7 @@ std::wstring vstringPrintf(const wchar_t* format, std::va_list arguments)
     const int length = ::_vscwprintf(format, again);
     va_end(again);
     if (length < 0)
-        throw OvoError(std::wstring(L"A text cannot be put together from the format \"") + format + L"\".");
+        throw OvoError(std::wstring(L"Invalid format string: \"") + format + L"\"");
 
     std::wstring text(static_cast<std::size_t>(length), L'\0');
     ::_vsnwprintf(text.data(), text.size(), format, arguments); // the string has a terminator of its own

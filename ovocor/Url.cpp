@@ -19,7 +19,7 @@ std::wstring canonicalizeUrl(const std::wstring& url)
         // The size needed counts the terminator, and never shrinks what was offered: the loop ends.
         if (code != ERROR_INSUFFICIENT_BUFFER || size <= canonical.size())
             throw OvoError(L"The address \"" + url + L"\" is not valid (" + formatMessage(code, inet.module) +
-                           L"). Check how it is written.");
+                           L"). Check the spelling.");
         canonical.resize(size);
     }
 }

@@ -1,4 +1,4 @@
-// Adding a strip of 64 images, scaled from 16 to 24 pixels, against the GDI+ calls that nobody can avoid.
+// Adding a strip of 64 images, scaled from 16 to 24 pixels, against the GDI+ calls that it cannot do without.
 #include <ovoui/images/AlphaImageList.h>
 
 #include <catch2/catch.hpp>

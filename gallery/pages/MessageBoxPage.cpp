@@ -61,8 +61,8 @@ constexpr Choice kDefaults[] = {
 };
 
 constexpr wchar_t kSaveText[] =
-    L"The document \u201CSpring planting\u201D has been changed.\nSave the changes?";
-constexpr wchar_t kReplaceText[] = L"A file of this name exists already.\nReplace it?";
+    L"The document \u201CSpring planting\u201D has been changed.\nDo you want to save the changes?";
+constexpr wchar_t kReplaceText[] = L"A file with this name already exists.\nDo you want to replace it?";
 
 /// A box that is shown for its picture.
 struct Pose
@@ -70,7 +70,11 @@ struct Pose
     std::wstring_view name;
     UINT type;
     const wchar_t* text;
+    std::wstring (*longText)() = nullptr; ///< instead of the text
 };
+
+std::wstring manyLines();
+std::wstring paragraph();
 
 constexpr Pose kPoses[] = {
     {L"two-lines", MB_YESNOCANCEL, kSaveText},
@@ -79,15 +83,14 @@ constexpr Pose kPoses[] = {
     {L"extended-3", OVOMB_EXTBUTTONS | 3, kReplaceText},
     {L"extended-4", OVOMB_EXTBUTTONS | 4, kReplaceText},
     {L"extended-5", OVOMB_EXTBUTTONS | 5, kReplaceText},
-    {L"extended-icon", MB_RETRYCANCEL | OVOMB_EXTICONS | 0x30, L"The network drive does not answer."},
-    {L"long-text", MB_OK | MB_ICONASTERISK, nullptr},
+    {L"extended-icon", MB_RETRYCANCEL | OVOMB_EXTICONS | 0x30, L"The network drive is not responding."},
+    {L"long-text", MB_OK | MB_ICONASTERISK, nullptr, &manyLines},
+    {L"paragraph", MB_OK | MB_ICONASTERISK, nullptr, &paragraph},
     {L"help-default", MB_YESNO | MB_HELP | MB_DEFBUTTON3, L"Start without the plug-in?"},
     {L"wide-line", MB_OKCANCEL | MB_ICONEXCLAMATION,
-     L"A message that is much longer than the screen is wide is broken between its words at two thirds of "
-     L"the "
-     L"width of the screen, so that the box stays readable and its buttons stay in reach of the pointer, "
-     L"however "
-     L"much the program has to say to whoever sits before it."},
+     L"A message that is much longer than the screen is wide is wrapped between its words at two thirds of the "
+     L"width of the screen, so that the box stays readable and its buttons stay in reach of the pointer, however "
+     L"much the program has to say."},
     {L"stop", MB_ABORTRETRYIGNORE, L"The file could not be read."},
 };
 
@@ -106,9 +109,21 @@ UINT flagsOf(const CComboBox& combo, std::span<const Choice> choices)
 
 std::wstring manyLines()
 {
-    std::wstring text = L"These files are not in the archive:";
+    std::wstring text = L"The following files are not in the archive:";
     for (int i = 1; i <= 24; ++i)
         text += L"\nC:\\Plants\\Bed " + std::to_wstring(i) + L".plan";
+    return text;
+}
+
+/// More than fifteen lines without a break, and in the middle an address that no line can hold.
+std::wstring paragraph()
+{
+    std::wstring text;
+    for (int i = 1; i <= 60; ++i) {
+        text += L"Bed " + std::to_wstring(i) + L" was dug, sown and watered, and its label was written. ";
+        if (i == 12)
+            text += L"See http://garden.example.org/" + std::wstring(200, L'x') + L".html for the plan. ";
+    }
     return text;
 }
 
@@ -214,7 +229,7 @@ void MessageBoxPage::OnShow()
 void MessageBoxPage::showRemembered()
 {
     const CString place = AfxGetApp()->GetProfileString(L"settings", m_key);
-    SetDlgItemText(IDC_BOX_REMEMBERED, place.IsEmpty() ? L"nothing for this key" : place.GetString());
+    SetDlgItemText(IDC_BOX_REMEMBERED, place.IsEmpty() ? L"Nothing for this key" : place.GetString());
 }
 
 LRESULT MessageBoxPage::OnHelpAsked(WPARAM, LPARAM)
@@ -236,7 +251,7 @@ bool MessageBoxPage::pose(const std::wstring& name)
     const auto* const pose = std::ranges::find(kPoses, name, &Pose::name);
     if (pose == std::end(kPoses))
         return false;
-    const std::wstring text = pose->text ? pose->text : manyLines();
+    const std::wstring text = pose->longText ? pose->longText() : pose->text;
     OVOMessageBox(GetParent()->m_hWnd, text.c_str(), L"ovoui gallery", pose->type, L"GalleryPose", 0);
     return true;
 }

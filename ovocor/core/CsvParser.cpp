@@ -41,11 +41,11 @@ CSVParser::CSVParser(std::wstring_view header)
     rows.finish();
     const CSVRecord* names = rows.next();
     if (!names)
-        throw OvoError(L"The header of the comma-separated text names no column.");
+        throw OvoError(L"The header of the comma-separated text has no column names.");
     for (const CSVField& name : names->fields)
         m_columns.emplace_back(name.text);
     if (rows.next())
-        throw OvoError(L"The header of the comma-separated text is more than one row.");
+        throw OvoError(L"The header of the comma-separated text has more than one row.");
     m_columnLimit = m_columns.size();
 }
 
@@ -199,8 +199,8 @@ CSVParser::Ended CSVParser::takeSeparator()
         ++m_line;
         return Ended::Row;
     }
-    fail(m_state == State::QuoteClosed ? L"a quoted field goes on after its closing quote."
-                                       : L"there is a quote inside a field that does not begin with one.",
+    fail(m_state == State::QuoteClosed ? L"a quoted field continues after its closing quotation mark."
+                                       : L"a field that does not start with a quotation mark contains one.",
          m_line);
 }
 
@@ -209,7 +209,7 @@ CSVParser::Ended CSVParser::takeEndOfText()
     if (!m_finished)
         return Ended::Nothing;
     if (m_state == State::Quoted)
-        fail(L"a quoted field has no closing quote.", m_quoteLine);
+        fail(L"a quoted field has no closing quotation mark.", m_quoteLine);
     const bool rowBegun = m_fieldCount > 0 || m_state != State::FieldStart;
     return rowBegun ? Ended::Row : Ended::Nothing;
 }

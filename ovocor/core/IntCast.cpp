@@ -1,7 +1,7 @@
 #include <ovocor/IntCast.h>
 
 IntCastError::IntCastError()
-    : OvoError(L"A number is too large or too small for the place that has to hold it.")
+    : OvoError(L"The number is out of range.")
 {
 }
 

@@ -25,7 +25,7 @@ public:
     ~Winsock();
 };
 
-/// A TCP port of the loopback address, taken but not listened on: whoever connects is refused.
+/// A TCP port of the loopback address, taken but not listened on: connections are refused.
 class LoopbackPort
 {
 public:

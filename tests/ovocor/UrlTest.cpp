@@ -235,7 +235,7 @@ TEST_F(Download, OfAFileThatIsNotThereSaysWhatTheServerAnswered)
     const std::wstring error = errorOf(url);
     EXPECT_TRUE(mentions(error, url)) << testing::PrintToString(error);
     EXPECT_TRUE(mentions(error, L"404 Not Found")) << testing::PrintToString(error);
-    EXPECT_TRUE(mentions(error, L"check the address")) << testing::PrintToString(error);
+    EXPECT_TRUE(mentions(error, L"The file was not found. Check the address.")) << testing::PrintToString(error);
     EXPECT_EQ(cachedFile(url), L"");
 }
 
@@ -243,8 +243,8 @@ TEST_F(Download, SaysWhatToDoAboutOtherAnswersOfTheServer)
 {
     server.answer("/secret", LoopbackServer::page("403 Forbidden", ""));
     server.answer("/broken", LoopbackServer::page("500 Internal Server Error", ""));
-    EXPECT_TRUE(mentions(errorOf(server.address(L"/secret")), L"permission"));
-    EXPECT_TRUE(mentions(errorOf(server.address(L"/broken")), L"try again later"));
+    EXPECT_TRUE(mentions(errorOf(server.address(L"/secret")), L"Access denied."));
+    EXPECT_TRUE(mentions(errorOf(server.address(L"/broken")), L"A server error occurred. Try again later."));
 
     server.answer("/curt", "HTTP/1.1 418\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
     EXPECT_TRUE(mentions(errorOf(server.address(L"/curt")), L"answered 418. Check"));
@@ -252,11 +252,11 @@ TEST_F(Download, SaysWhatToDoAboutOtherAnswersOfTheServer)
 
 TEST_F(Download, OfARefusedConnectionNamesTheServer)
 {
-    const LoopbackPort nobody;
-    const std::wstring url = nobody.address(L"/list.csv");
+    const LoopbackPort closed;
+    const std::wstring url = closed.address(L"/list.csv");
     const std::wstring error = errorOf(url);
     EXPECT_TRUE(mentions(error, url)) << testing::PrintToString(error);
-    EXPECT_TRUE(mentions(error, L"\"127.0.0.1\" cannot be reached or refuses"))
+    EXPECT_TRUE(mentions(error, L"\"127.0.0.1\" cannot be reached or refused"))
         << testing::PrintToString(error);
     EXPECT_EQ(cachedFile(url), L"");
 }
@@ -316,7 +316,7 @@ TEST_F(Download, RefusesWhatIsNoAddress)
         const std::wstring error = errorOf(url);
         EXPECT_FALSE(error.empty()) << testing::PrintToString(std::wstring(url));
         EXPECT_TRUE(mentions(error, url)) << testing::PrintToString(error);
-        EXPECT_TRUE(mentions(error, L"Check how it is written") || mentions(error, L"only http and https"))
+        EXPECT_TRUE(mentions(error, L"Check the spelling") || mentions(error, L"only http and https"))
             << testing::PrintToString(error);
     }
 }

@@ -73,7 +73,7 @@ struct Performance::State
 {
     std::vector<Step> steps;
     std::atomic<bool> over{false};     // the robot has done all it will do
-    std::atomic<bool> cut{false};      // nobody wants the rest
+    std::atomic<bool> cut{false};      // the rest is not wanted any more
     std::atomic<bool> loopFree{false}; // the thread with the windows is back from every nested loop
     std::atomic<bool> gone{false};     // the robot needs no answers any more
     std::string problem;               // read once `over` is set

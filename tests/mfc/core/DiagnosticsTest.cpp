@@ -92,7 +92,7 @@ TEST(Ensure, ThrowsWhenItDoesNotHold)
 
 TEST(Traces, TakeFormatsAndArguments)
 {
-    // Nobody listens here; a trace must go by without harm, whatever its length.
+    // No debugger listens here: a trace of any length does no harm.
     TRACE0("plain\n");
     TRACE1("%d\n", 1);
     TRACE2("%d %s\n", 1, L"two");

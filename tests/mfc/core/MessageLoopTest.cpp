@@ -560,7 +560,7 @@ TEST(ProcessedExceptions, WithoutATextSayWhatFailed)
     EXPECT_EQ(AfxGetThread()->ProcessWndProcException(&exception, &message), 0);
     const auto& boxes = TestApp::instance().boxes();
     ASSERT_EQ(boxes.size(), 2u);
-    EXPECT_EQ(boxes[0].text, L"The command could not be carried out.");
+    EXPECT_EQ(boxes[0].text, L"The command could not be completed.");
     EXPECT_NE(boxes[1].text, boxes[0].text);
     EXPECT_FALSE(boxes[1].text.empty());
 }

@@ -31,7 +31,7 @@ protected:
 
 } // namespace
 
-TEST_F(EventList, CallsNobodyWhenNobodyHasSubscribed)
+TEST_F(EventList, WithoutSubscribersNothingIsCalled)
 {
     list->notify(1);
     EXPECT_TRUE(calls.empty());
