@@ -35,7 +35,7 @@ bool isCertificateError(DWORD code)
     }
 }
 
-/// What a person can do about an answer of a web server.
+/// What the user can do about the answer of a web server.
 const wchar_t* remedyFor(DWORD status)
 {
     switch (status) {
@@ -71,7 +71,7 @@ void Download::takeApart()
 {
     URL_COMPONENTSW parts{};
     parts.dwStructSize = sizeof parts;
-    // Asked for by not being 0.
+    // A length other than 0 asks for the part.
     parts.dwHostNameLength = 1;
     parts.dwUserNameLength = 1;
     parts.dwPasswordLength = 1;
@@ -91,7 +91,7 @@ void Download::takeApart()
     m_password.assign(parts.lpszPassword, parts.dwPasswordLength);
     m_object.assign(parts.lpszUrlPath, parts.dwUrlPathLength);
     m_object += std::wstring_view(parts.lpszExtraInfo, parts.dwExtraInfoLength);
-    m_object.erase(std::min(m_object.find(L'#'), m_object.size())); // a place in the page is not the server's
+    m_object.erase(std::min(m_object.find(L'#'), m_object.size())); // the fragment is not sent to a server
 }
 
 std::wstring Download::run()

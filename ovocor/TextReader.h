@@ -37,7 +37,7 @@ public:
     /// How the file is written; also known after `close`.
     TextEncoding encoding() const;
 
-    /// Closes the file before this object goes.
+    /// Closes the file before this object is destroyed.
     void close();
 
 private:

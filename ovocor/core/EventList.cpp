@@ -7,7 +7,7 @@ void EVSlot::cancel() noexcept
     if (!m_active)
         return;
     m_active = false;
-    // A running function must not be destroyed under its own feet; its last call does it on leaving.
+    // A function must not be destroyed while it runs: its last call destroys it when it returns.
     if (m_runningCalls == 0)
         dropFunction();
 }

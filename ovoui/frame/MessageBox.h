@@ -16,7 +16,7 @@
 /// `owner` (may be null) is disabled meanwhile, and gets the registered message "commdlg_help" with the box's
 /// handle in wParam when Help is pressed. `text` may have several lines with any line ends. A null or empty
 /// `caption` gives the default caption. `type` takes the platform's MB_ button sets, icons, default buttons and
-/// MB_HELP, and the flags of MessageBoxFlags.h. When the user moved the box, the place of its default button is
+/// MB_HELP, and the flags of MessageBoxFlags.h. When the user has moved the box, the place of its default button is
 /// kept in the application's profile, section "settings", entry `settingsKey` (null counts as empty), and the
 /// next box with that key opens with its default button there. `helpId`, if not 0, is the help context for F1.
 ///

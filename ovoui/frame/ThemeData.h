@@ -35,7 +35,7 @@ public:
     /// Whether visual styles are on; false without UxTheme.
     bool IsAppThemed();
 
-    /// COLOR_BTNFACE, whatever the window and the theme.
+    /// COLOR_BTNFACE, for every window and theme.
     COLORREF ButtonFace(HWND wnd) const;
 
     /// The system's brush for COLOR_BTNFACE, shared: the caller must not delete it.

@@ -20,7 +20,7 @@ class OVOUI_API CAlphaImageButton : public CButton
 
 public:
     CAlphaImageButton();
-    /// The button should be destroyed by then, as it still shows what goes here.
+    /// The window must have been destroyed: it still shows the image, which is freed here.
     ~CAlphaImageButton() override;
 
     /// Width and height of the image in pixels; for the next loadImage.

@@ -9,7 +9,7 @@ using ovoui::images::StripPainter;
 namespace
 {
 
-/// GDI+ on its own DIB section: the header has room for one colour, as the system's structure for it has.
+/// The header of a top-down DIB section. Its size is that of the whole structure, with room for one colour.
 BITMAPINFO topDownHeader(UINT width, UINT height)
 {
     BITMAPINFO info{};

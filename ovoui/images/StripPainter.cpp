@@ -42,7 +42,7 @@ bool isShared(HBITMAP bitmap, HINSTANCE module, UINT id)
     return false;
 }
 
-/// Without GDI+ not even the memory for its objects is to be had.
+/// Without GDI+ the smallest bitmap cannot be made.
 bool isGdiPlusStarted()
 {
     Gdiplus::Bitmap probe(1, 1, PixelFormat32bppARGB);
@@ -167,7 +167,7 @@ std::unique_ptr<Gdiplus::ImageAttributes> StripPainter::attributes(const DWORD* 
     const Gdiplus::Color key(transparentColour());
     result->SetColorKey(key, key);
     if (remap) {
-        // The system's colour has red and blue the other way round, and is meant to stay so.
+        // Red and blue of the system's colour are not exchanged, on purpose.
         Gdiplus::ColorMap map;
         map.oldColor = Gdiplus::Color(*remap | kOpaque);
         map.newColor = Gdiplus::Color(::GetSysColor(COLOR_BTNTEXT) | kOpaque);
@@ -191,7 +191,7 @@ void StripPainter::draw(Gdiplus::Bitmap& target, const Part& part, const DWORD* 
         drawWhole(graphics, *pixels, part.count, how.get());
 }
 
-/// Out of the whole strip: scaling mixes what is at the edges of neighbouring images. The images drawn are
+/// Draws from the whole strip, so that scaling mixes the edges of neighbouring images. The images drawn are
 /// always the first ones of the strip.
 void StripPainter::drawWhole(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& source, int count,
                              const Gdiplus::ImageAttributes* attributes) const
@@ -207,7 +207,7 @@ void StripPainter::drawWhole(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& sourc
     }
 }
 
-/// Each image by itself, so that none gets pixels of its neighbours.
+/// Draws each image by itself, so that none gets pixels of its neighbours.
 void StripPainter::drawSeparately(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& source, const Part& part,
                                   const Gdiplus::ImageAttributes* attributes) const
 {

@@ -39,6 +39,15 @@ TEST(Catalogue, HasFormatsThatShowTheirArguments)
     }
 }
 
+TEST(Catalogue, SaysWhyAnAddressCannotBeOpened)
+{
+    const wchar_t* const address = L"oak";
+    EXPECT_EQ(stringPrintf(ovoMsg(OVOMSG_URL_SCHEME).c_str(), address),
+              L"The address \"oak\" cannot be opened because it does not start with http:, https: or ftp:.");
+    EXPECT_EQ(stringPrintf(ovoMsg(OVOMSG_URL_INVALID).c_str(), address, L"No name."),
+              L"The address \"oak\" is not valid: No name.");
+}
+
 TEST(Catalogue, NamesANumberThatItDoesNotHave)
 {
     for (const unsigned id : {0u, 1u, 280u, 9999u, 0xFFFFFFFFu}) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cwctype>
 #include <set>
 #include <string>
 
@@ -89,9 +90,10 @@ TEST(MessageBoxStyle, StandardIcons)
 
 TEST(MessageBoxStyle, ExtendedIcons)
 {
-    const wchar_t* const names[] = {L"COMPUTER",     L"DISCFIXED",  L"DISCNETWORK", L"DISCREMOVABLE", L"DISCCD",
-                                    L"FOLDERCLOSED", L"FOLDEROPEN", L"INET",        L"OVOLOGO",       L"KEY",
-                                    L"MOUSE",        L"NETWORK",    L"NOTEEMPTY",   L"NOTEFULL"};
+    const wchar_t* const names[] = {L"COMPUTER",  L"DISCFIXED",    L"DISCNETWORK", L"DISCREMOVABLE",
+                                    L"DISCCD",    L"FOLDERCLOSED", L"FOLDEROPEN",  L"INET",
+                                    L"OVOLOGO",   L"KEY",          L"MOUSE",       L"NETWORK",
+                                    L"NOTEEMPTY", L"NOTEFULL"};
     for (unsigned k = 1; k <= 14; ++k)
         EXPECT_STREQ(messageBoxIcon(OVOMB_EXTICONS | k << 4), names[k - 1]);
 }
@@ -153,4 +155,20 @@ TEST(MessageBoxStyle, NoTwoButtonsShareAnIdOrALabel)
     EXPECT_EQ(ids.size(), 10u);
     EXPECT_EQ(*labels.begin(), 20100u);
     EXPECT_EQ(*labels.rbegin(), 20109u);
+}
+
+TEST(MessageBoxStyle, NoTwoButtonsOfABoxHaveTheSameMnemonic)
+{
+    for (const unsigned extension : {0u, OVOMB_EXTBUTTONS})
+        for (unsigned set = 0; set <= 15; ++set) {
+            std::set<wchar_t> letters;
+            for (const MessageBoxButton& button : messageBoxButtons(extension | set | kHelp).buttons) {
+                const std::wstring label = button.fallback;
+                const std::size_t mark = label.find(L'&');
+                if (mark == label.npos)
+                    continue;
+                const auto letter = static_cast<wchar_t>(std::towlower(label[mark + 1]));
+                EXPECT_TRUE(letters.insert(letter).second) << std::hex << (extension | set);
+            }
+        }
 }

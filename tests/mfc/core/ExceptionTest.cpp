@@ -155,7 +155,7 @@ TEST(OleExceptions, AnUnknownStatusIsNamed)
 {
     COleException* const exception = new COleException;
     exception->m_sc = static_cast<SCODE>(0xA0123456);
-    EXPECT_EQ(textOf(*exception), L"The operation failed with the status 0xA0123456.");
+    EXPECT_EQ(textOf(*exception), L"The operation failed with status 0xA0123456.");
     exception->Delete();
 }
 

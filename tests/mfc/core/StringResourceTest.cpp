@@ -97,3 +97,24 @@ TEST(StringResources, IntoABufferAreCutToIt)
     EXPECT_EQ(AfxLoadString(IDS_QUESTION, whole), 7);
     EXPECT_STREQ(whole, L"Really?");
 }
+
+TEST(StringResources, TheFrameworksOwnTextsAreWordedAsThePlatformsAre)
+{
+    const struct
+    {
+        UINT id;
+        const wchar_t* text;
+    } rows[] = {
+        {ID_EDIT_REPEAT, L"Repeats the last action\nRepeat"},
+        {ID_EDIT_UNDO, L"Undoes the last action\nUndo"},
+        {ID_FILE_PRINT_DIRECT, L"Prints the active document using the current settings\nPrint"},
+        {AFX_IDS_SCRESTORE, L"Restores the window to normal size"},
+        {AFX_IDP_NO_ERROR_AVAILABLE, L"An unknown error occurred."},
+        {AFX_IDP_INTERNAL_FAILURE, L"An internal error occurred. Save your work and restart the program."},
+    };
+    for (const auto& row : rows) {
+        CString text;
+        EXPECT_TRUE(text.LoadString(row.id)) << row.id;
+        EXPECT_STREQ(text.GetString(), row.text);
+    }
+}

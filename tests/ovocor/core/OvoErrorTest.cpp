@@ -51,6 +51,6 @@ TEST(IntCastError, IsRaisedAndCaughtAsAnOvoError)
     try {
         throwIntCast();
     } catch (const OvoError& error) {
-        EXPECT_FALSE(std::wstring(error.wwhat()).empty());
+        EXPECT_STREQ(error.wwhat(), L"The number is out of range.");
     }
 }
