@@ -5,6 +5,7 @@
 #include "pages/ImagesPage.h"
 #include "pages/ListsPage.h"
 #include "pages/MessageBoxPage.h"
+#include "pages/ShadedTabsPage.h"
 #include "pages/SlidersPage.h"
 #include "pages/ThemesPage.h"
 #include "pages/TreePage.h"
@@ -48,6 +49,9 @@ const std::vector<PageEntry>& pageTable()
         {L"combo", L"Combo box",
          L"COVOComboBox completes what is typed, and accepts it or brings back what was there before.",
          &make<ComboPage>},
+        {L"shadedtabs", L"Shaded tabs",
+         L"CShadedTabCtrl: the page of a tab control shows through the controls on it.",
+         &make<ShadedTabsPage>},
     };
     return pages;
 }

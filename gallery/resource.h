@@ -21,6 +21,8 @@
 #define IDD_PAGE_LISTS 211
 #define IDD_PAGE_COMBO 212
 #define IDD_PAGE_SLIDERS 214
+#define IDD_PAGE_SHADED_TABS 221
+#define IDD_TAB_CONTENT 222
 
 #define IDC_PAGE_LIST 1001
 #define IDC_LOG 1002
@@ -79,6 +81,12 @@
 #define IDC_COMBO_NOTIFY 1804
 #define IDC_COMBO_OTHER 1805
 #define IDC_COMBO_RESULT 1806
+#define IDC_SHADED_TABS 2201
+#define IDC_PLAIN_TABS 2202
+#define IDC_PLAIN_TABS_LABEL 2203
+#define IDC_CONTENT_CHECK 2204
+#define IDC_CONTENT_ROUND 2205
+#define IDC_CONTENT_EDIT 2206
 
 #define IDC_SLIDERS_BUDDY 2901  // the first of four, whose strings are the tips
 #define IDC_SLIDERS_BUTTON 2905 // the first of four

@@ -1,6 +1,7 @@
 /// Umbrella header: everything that the library offers to a host.
 #pragma once
 
+#include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/MessageBox.h>
 #include <ovoui/frame/ModalDialog.h>

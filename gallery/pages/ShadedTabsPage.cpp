@@ -1,0 +1,82 @@
+#include "ShadedTabsPage.h"
+
+#include <ovoui/frame/TabKeys.h>
+
+BEGIN_MESSAGE_MAP(TabContent, CDialog)
+    ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+bool TabContent::open(CTabCtrl& tabs)
+{
+    if (!Create(IDD_TAB_CONTENT, &tabs))
+        return false;
+    CheckDlgButton(IDC_CONTENT_CHECK, BST_CHECKED);
+    CheckDlgButton(IDC_CONTENT_ROUND, BST_CHECKED);
+    SetDlgItemText(IDC_CONTENT_EDIT, L"Copper beech");
+    fit();
+    ShowWindow(SW_SHOW);
+    return true;
+}
+
+void TabContent::fit()
+{
+    auto* const tabs = static_cast<CTabCtrl*>(GetParent());
+    CRect page;
+    tabs->GetClientRect(&page);
+    tabs->AdjustRect(FALSE, &page);
+    MoveWindow(&page);
+}
+
+// On an ordinary tab control this changes nothing.
+HBRUSH TabContent::OnCtlColor(CDC* dc, CWnd* control, UINT type)
+{
+    return CShadedTabCtrl::AmendCtlColor(dc, control, type, CDialog::OnCtlColor(dc, control, type));
+}
+
+ShadedTabsPage::ShadedTabsPage()
+    : GalleryPage(IDD_PAGE_SHADED_TABS)
+{
+}
+
+ShadedTabsPage::~ShadedTabsPage() = default;
+
+BOOL ShadedTabsPage::PreTranslateMessage(MSG* message)
+{
+    const bool onPlain = ::IsChild(m_plain.m_hWnd, message->hwnd) || message->hwnd == m_plain.m_hWnd;
+    const HWND tabs = onPlain ? m_plain.m_hWnd : m_shaded.m_hWnd;
+    return PreTranslateTabControl(*message, tabs) || GalleryPage::PreTranslateMessage(message);
+}
+
+void ShadedTabsPage::DoDataExchange(CDataExchange* exchange)
+{
+    GalleryPage::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_SHADED_TABS, m_shaded);
+    DDX_Control(exchange, IDC_PLAIN_TABS, m_plain);
+}
+
+BOOL ShadedTabsPage::OnInitDialog()
+{
+    GalleryPage::OnInitDialog();
+    for (CTabCtrl* const tabs : {static_cast<CTabCtrl*>(&m_shaded), &m_plain}) {
+        int index = 0;
+        for (const wchar_t* title : {L"Leaves", L"Bark"})
+            tabs->InsertItem(index++, title);
+    }
+    m_onShaded.open(m_shaded);
+    m_onPlain.open(m_plain);
+    stretch(IDC_SHADED_TABS, {.growX = 50, .growY = 100});
+    stretch(IDC_PLAIN_TABS_LABEL, {.moveX = 50});
+    stretch(IDC_PLAIN_TABS, {.moveX = 50, .growX = 50, .growY = 100});
+    return FALSE;
+}
+
+/// The tab controls have their new sizes when the base class has laid out the page.
+LRESULT ShadedTabsPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT result = GalleryPage::WindowProc(message, wParam, lParam);
+    if (message == WM_SIZE)
+        for (TabContent* const content : {&m_onShaded, &m_onPlain})
+            if (content->m_hWnd)
+                content->fit();
+    return result;
+}

@@ -1,0 +1,44 @@
+// The same controls on a shaded tab control and on an ordinary one.
+#pragma once
+
+#include "GalleryPage.h"
+#include "resource.h"
+
+#include <ovoui/colour/ShadedTabCtrl.h>
+
+/// A dialog on the page of a tab control.
+class TabContent : public CDialog
+{
+public:
+    /// Makes the dialog and puts it where the tab control has its page.
+    bool open(CTabCtrl& tabs);
+    /// Back to that place.
+    void fit();
+
+protected:
+    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
+    // It is no dialog to be closed.
+    void OnOK() override {}
+    void OnCancel() override {}
+    DECLARE_MESSAGE_MAP()
+};
+
+class ShadedTabsPage : public GalleryPage
+{
+public:
+    ShadedTabsPage();
+    ~ShadedTabsPage() override;
+
+    BOOL PreTranslateMessage(MSG* message) override;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+    BOOL OnInitDialog() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+private:
+    CShadedTabCtrl m_shaded;
+    CTabCtrl m_plain;
+    TabContent m_onShaded;
+    TabContent m_onPlain;
+};

@@ -1,0 +1,187 @@
+#include <ovoui/colour/ShadedTabCtrl.h>
+
+#include <ovoui/frame/ThemeData.h>
+
+#include <string_view>
+
+IMPLEMENT_DYNAMIC(CShadedTabCtrl, CTabCtrl)
+
+BEGIN_MESSAGE_MAP(CShadedTabCtrl, CTabCtrl)
+    ON_WM_CTLCOLOR()
+    ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+std::map<COLORREF, HBRUSH> CShadedTabCtrl::ms_brushes;
+
+namespace
+{
+
+/// Where the tab control's client area begins, in the coordinates of a window or, without one, of the screen.
+CPoint originIn(const CWnd* wnd, const CWnd& tabs)
+{
+    CPoint origin(0, 0);
+    ::MapWindowPoints(tabs.m_hWnd, wnd ? wnd->m_hWnd : nullptr, &origin, 1);
+    return origin;
+}
+
+bool isGroupBox(const CWnd& control, UINT type)
+{
+    constexpr DWORD kKind = 0x0F;
+    if (type != CTLCOLOR_STATIC || (control.GetStyle() & kKind) != BS_GROUPBOX)
+        return false;
+    wchar_t name[128]{};
+    ::GetClassNameW(control.m_hWnd, name, static_cast<int>(std::size(name)));
+    return std::wstring_view(name) == L"Button";
+}
+
+/// Null when the system has no brush left.
+HBRUSH solidBrush(COLORREF colour)
+{
+    const auto known = CShadedTabCtrl::ms_brushes.find(colour);
+    if (known != CShadedTabCtrl::ms_brushes.end())
+        return known->second;
+    const HBRUSH brush = ::CreateSolidBrush(colour);
+    if (brush)
+        CShadedTabCtrl::ms_brushes.emplace(colour, brush);
+    return brush;
+}
+
+} // namespace
+
+CShadedTabCtrl::CShadedTabCtrl() = default;
+
+CShadedTabCtrl::~CShadedTabCtrl() = default;
+
+// The picture
+
+void CShadedTabCtrl::captureBackground()
+{
+    m_captured = true;
+    m_brush.DeleteObject();
+    m_picture.DeleteObject();
+    if (!CThemeData::getThemeData().IsAppThemed())
+        return;
+
+    const HWND wnd = m_hWnd;
+    CBitmap picture;
+    // Painting is up to the host's class, too, which may take another picture or destroy this object
+    // meanwhile.
+    if (!takePicture(picture) || FromHandlePermanent(wnd) != this)
+        return;
+    m_brush.DeleteObject();
+    m_picture.DeleteObject();
+    if (m_brush.CreatePatternBrush(&picture))
+        m_picture.Attach(picture.Detach());
+}
+
+bool CShadedTabCtrl::takePicture(CBitmap& picture)
+{
+    CRect window;
+    if (!::GetWindowRect(m_hWnd, &window) || window.IsRectEmpty())
+        return false;
+    CWindowDC screen(this);
+    CDC memory;
+    if (!memory.CreateCompatibleDC(&screen) ||
+        !picture.CreateCompatibleBitmap(&screen, window.Width(), window.Height()))
+        return false;
+    const HGDIOBJ before = ::SelectObject(memory, picture);
+    // What the control does not paint, beside its tabs, has the colour of dialogs.
+    memory.FillSolidRect(0, 0, window.Width(), window.Height(), ::GetSysColor(COLOR_BTNFACE));
+    SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(memory.m_hDC),
+                PRF_NONCLIENT | PRF_CLIENT | PRF_ERASEBKGND);
+    ::SelectObject(memory, before);
+    return true;
+}
+
+/// Takes the picture at the first use. False without a brush, and when this object went while it was painted.
+bool CShadedTabCtrl::hasBackground()
+{
+    const HWND wnd = m_hWnd;
+    if (!m_captured)
+        captureBackground();
+    return FromHandlePermanent(wnd) == this && m_brush.GetSafeHandle();
+}
+
+// The brush
+
+CShadedTabCtrl* CShadedTabCtrl::above(CWnd* child)
+{
+    if (!child)
+        return nullptr;
+    for (CWnd* wnd = child->GetParent(); wnd; wnd = wnd->GetParent())
+        if (auto* const tabs = DYNAMIC_DOWNCAST(CShadedTabCtrl, wnd))
+            return tabs;
+    return nullptr;
+}
+
+bool CShadedTabCtrl::GetBackgroundBrush(CWnd* child, HBRUSH& brush, CPoint& origin)
+{
+    CShadedTabCtrl* const tabs = above(child);
+    return tabs && tabs->GetBackgroundBrush(brush, origin, child);
+}
+
+bool CShadedTabCtrl::GetBackgroundBrush(HBRUSH& brush, CPoint& origin, CWnd* relativeTo)
+{
+    if (!hasBackground())
+        return false;
+    origin = originIn(relativeTo, *this);
+    brush = m_brush;
+    return true;
+}
+
+HBRUSH CShadedTabCtrl::AmendCtlColor(CDC* dc, CWnd* control, UINT type, HBRUSH defaultBrush)
+{
+    CShadedTabCtrl* const tabs = type == CTLCOLOR_EDIT ? nullptr : above(control);
+    return tabs ? tabs->amended(dc, type, defaultBrush, control) : defaultBrush;
+}
+
+HBRUSH CShadedTabCtrl::AmendCtlColor(CDC* dc, UINT type, HBRUSH defaultBrush, CWnd* control)
+{
+    const bool keepsColours = type == CTLCOLOR_EDIT || type == CTLCOLOR_LISTBOX;
+    return keepsColours ? defaultBrush : amended(dc, type, defaultBrush, control);
+}
+
+HBRUSH CShadedTabCtrl::amended(CDC* dc, UINT type, HBRUSH defaultBrush, CWnd* control)
+{
+    if (!hasBackground())
+        return defaultBrush;
+    const CPoint origin = originIn(control, *this);
+    if (isGroupBox(*control, type)) {
+        const COLORREF colour = colourAt(CPoint(-origin.x, -origin.y));
+        const HBRUSH brush = colour == CLR_INVALID ? nullptr : solidBrush(colour);
+        return brush ? brush : defaultBrush;
+    }
+    dc->SetBkMode(TRANSPARENT);
+    dc->SetBrushOrg(origin);
+    return m_brush;
+}
+
+/// The picture's colour at a point of the client area; CLR_INVALID outside of it.
+COLORREF CShadedTabCtrl::colourAt(CPoint point)
+{
+    CDC memory;
+    if (!memory.CreateCompatibleDC(nullptr))
+        return CLR_INVALID;
+    const HGDIOBJ before = ::SelectObject(memory, m_picture);
+    const COLORREF colour = memory.GetPixel(point);
+    ::SelectObject(memory, before);
+    return colour;
+}
+
+// Messages
+
+HBRUSH CShadedTabCtrl::OnCtlColor(CDC* dc, CWnd* control, UINT type)
+{
+    const HWND child = control->m_hWnd;
+    const HBRUSH defaultBrush = CTabCtrl::OnCtlColor(dc, control, type);
+    // The control may have been asked itself, and be gone.
+    return ::IsWindow(child) ? AmendCtlColor(dc, FromHandle(child), type, defaultBrush) : defaultBrush;
+}
+
+void CShadedTabCtrl::OnSize(UINT type, int width, int height)
+{
+    const HWND wnd = m_hWnd;
+    CTabCtrl::OnSize(type, width, height);
+    if (FromHandlePermanent(wnd) == this)
+        captureBackground();
+}
