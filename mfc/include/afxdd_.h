@@ -1,4 +1,6 @@
 // Data exchange (DDX_) and validation (DDV_). In DoDataExchange, each DDV_ follows the DDX_ of its control.
+#ifndef __AFXDD_H__
+#define __AFXDD_H__
 #pragma once
 
 #include <afx/DataExchange.h>
@@ -63,3 +65,5 @@ OVOMFC_API void AFXAPI DDV_MinMaxDouble(CDataExchange* exchange, const double& v
 OVOMFC_API void AFXAPI DDV_MinMaxSlider(CDataExchange* exchange, DWORD value, DWORD min, DWORD max);
 /// Also limits what can be typed.
 OVOMFC_API void AFXAPI DDV_MaxChars(CDataExchange* exchange, const CString& value, int maxCharacters);
+
+#endif // __AFXDD_H__

@@ -1,4 +1,6 @@
 // Control bars.
+#ifndef __AFXEXT_H__
+#define __AFXEXT_H__
 #pragma once
 
 #include <afxwin.h>
@@ -6,3 +8,5 @@
 #include <afx/ControlBar.h>
 #include <afx/StatusBar.h>
 #include <afx/ToolBar.h>
+
+#endif // __AFXEXT_H__

@@ -1,5 +1,7 @@
 // The macros that fill message maps. Each takes a member function of exactly the documented signature, as
 // `&Class::Handler`; g++ also compiles the older form, the bare name.
+#ifndef __AFXMSG_H__
+#define __AFXMSG_H__
 #pragma once
 
 #include <afx/MessageMap.h>
@@ -405,3 +407,5 @@ using ThreadMessageHandler = WindowHandler<void(WPARAM, LPARAM), W<WPARAM>, L<LP
 #define ON_STN_DBLCLK(id, memberFxn) ON_CONTROL(STN_DBLCLK, id, memberFxn)
 #define ON_STN_ENABLE(id, memberFxn) ON_CONTROL(STN_ENABLE, id, memberFxn)
 #define ON_STN_DISABLE(id, memberFxn) ON_CONTROL(STN_DISABLE, id, memberFxn)
+
+#endif // __AFXMSG_H__

@@ -1,4 +1,6 @@
 // OLE: the clipboard and drag and drop.
+#ifndef __AFXOLE_H__
+#define __AFXOLE_H__
 #pragma once
 
 #include <afxwin.h>
@@ -15,3 +17,5 @@ OVOMFC_API BOOL AFXAPI AfxOleInit();
 
 /// Stops OLE for the calling thread, if AfxOleInit started it.
 OVOMFC_API void AFXAPI AfxOleTerm();
+
+#endif // __AFXOLE_H__

@@ -1,4 +1,6 @@
 // Messages that the framework's windows send each other.
+#ifndef __AFXPRIV_H__
+#define __AFXPRIV_H__
 #pragma once
 
 #include <afxwin.h>
@@ -13,12 +15,19 @@
 #define WM_EXITHELPMODE 0x0367
 #define WM_RECALCPARENT 0x0368
 #define WM_SIZECHILD 0x0369
-#define WM_KICKIDLE 0x036A         // of a modal loop: wParam MSGF_DIALOGBOX, lParam the count; 0 ends the idling
+#define WM_KICKIDLE 0x036A // of a modal loop: wParam MSGF_DIALOGBOX, lParam the count; 0 ends the idling
 #define WM_QUERYCENTERWND 0x036B
 #define WM_DISABLEMODAL 0x036C
 #define WM_FLOATSTATUS 0x036D
 #define WM_ACTIVATETOPLEVEL 0x036E
 #define WM_POPMESSAGESTRING 0x0375
+
+// Help contexts: what is added to a number, by what it is the number of
+#define HID_BASE_COMMAND 0x00010000UL  // commands
+#define HID_BASE_RESOURCE 0x00020000UL // frames and dialogs
+#define HID_BASE_PROMPT 0x00030000UL   // message boxes
+#define HID_BASE_NCAREAS 0x00040000UL  // hit tests outside the client area
+#define HID_BASE_CONTROL 0x00050000UL  // controls
 
 /// Of WM_SIZEPARENT: each control bar takes its part of `rect`.
 struct AFX_SIZEPARENTPARAMS
@@ -33,3 +42,5 @@ struct AFX_SIZEPARENTPARAMS
 OVOMFC_API void AFXAPI AfxRepositionWindow(AFX_SIZEPARENTPARAMS* layout, HWND wnd, LPCRECT rect);
 OVOMFC_API BOOL AFXAPI AfxIsDescendant(HWND ancestor, HWND wnd);
 OVOMFC_API HWND AFXAPI AfxGetParentOwner(HWND wnd);
+
+#endif // __AFXPRIV_H__

@@ -1,7 +1,16 @@
 // Standard ids, with their documented values. For resource scripts too.
+#ifndef __AFXRES_H__
+#define __AFXRES_H__
+#ifndef RC_INVOKED
 #pragma once
+#endif
 
-#include <winuser.h>
+// Resource scripts need the styles and class names of all controls.
+#ifdef RC_INVOKED
+#include <winresrc.h>
+#else
+#include <windows.h>
+#endif
 
 // Control bars and panes of a frame
 #define AFX_IDW_CONTROLBAR_FIRST 0xE800
@@ -34,6 +43,24 @@
 #define ID_FILE_UPDATE 0xE10A
 #define ID_FILE_SAVE_COPY_AS 0xE10B
 #define ID_FILE_SEND_MAIL 0xE10C
+#define ID_FILE_MRU_FIRST 0xE110
+#define ID_FILE_MRU_FILE1 0xE110
+#define ID_FILE_MRU_FILE2 0xE111
+#define ID_FILE_MRU_FILE3 0xE112
+#define ID_FILE_MRU_FILE4 0xE113
+#define ID_FILE_MRU_FILE5 0xE114
+#define ID_FILE_MRU_FILE6 0xE115
+#define ID_FILE_MRU_FILE7 0xE116
+#define ID_FILE_MRU_FILE8 0xE117
+#define ID_FILE_MRU_FILE9 0xE118
+#define ID_FILE_MRU_FILE10 0xE119
+#define ID_FILE_MRU_FILE11 0xE11A
+#define ID_FILE_MRU_FILE12 0xE11B
+#define ID_FILE_MRU_FILE13 0xE11C
+#define ID_FILE_MRU_FILE14 0xE11D
+#define ID_FILE_MRU_FILE15 0xE11E
+#define ID_FILE_MRU_FILE16 0xE11F
+#define ID_FILE_MRU_LAST 0xE11F
 #define ID_EDIT_CLEAR 0xE120
 #define ID_EDIT_CLEAR_ALL 0xE121
 #define ID_EDIT_COPY 0xE122
@@ -76,6 +103,12 @@
 #define ID_INDICATOR_REC 0xE705
 #define ID_INDICATOR_KANA 0xE706
 
+// Icons and cursors. A program that has one of these numbers in its resources has it used in place of the
+// system's.
+#define AFX_IDC_CONTEXTHELP 30977 // the pointer while the user looks for help
+#define AFX_IDI_STD_MDIFRAME 31233
+#define AFX_IDI_STD_FRAME 31234 // of frame windows that have none of their own
+
 // Strings of the framework
 #define AFX_IDS_APP_TITLE 0xE000
 #define AFX_IDS_IDLEMESSAGE 0xE001
@@ -114,3 +147,5 @@
 #ifndef IDC_STATIC
 #define IDC_STATIC (-1)
 #endif
+
+#endif // __AFXRES_H__

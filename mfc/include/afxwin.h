@@ -1,4 +1,6 @@
 // Windows, dialogs, frames, menus, drawing, standard controls, the program.
+#ifndef __AFXWIN_H__
+#define __AFXWIN_H__
 #pragma once
 
 #include <afx.h>
@@ -23,3 +25,5 @@
 #include <afx/WinThread.h>
 
 #include <afxdd_.h>
+
+#endif // __AFXWIN_H__

@@ -1,4 +1,6 @@
 // CPoint, CSize and CRect: the platform's structures with arithmetic, and nothing else in them.
+#ifndef __ATLTYPES_H__
+#define __ATLTYPES_H__
 #pragma once
 
 #include <afx/Platform.h>
@@ -234,3 +236,5 @@ inline CRect CPoint::operator-(const RECT* rect) const
 {
     return CRect(rect) - *this;
 }
+
+#endif // __ATLTYPES_H__

@@ -43,4 +43,9 @@ void TestApp::HtmlHelp(DWORD_PTR data, UINT command)
     m_helps.push_back({data, command});
 }
 
+void TestApp::WinHelp(DWORD_PTR data, UINT command)
+{
+    m_helps.push_back({data, command});
+}
+
 } // namespace ovotest

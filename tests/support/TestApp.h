@@ -50,6 +50,7 @@ public:
 
     int DoMessageBox(LPCTSTR text, UINT type, UINT helpId) override;
     void HtmlHelp(DWORD_PTR data, UINT command = HH_HELP_CONTEXT) override;
+    void WinHelp(DWORD_PTR data, UINT command = HELP_CONTEXT) override;
 
 private:
     std::vector<AskedBox> m_boxes;

@@ -109,6 +109,7 @@ protected:
     afx_msg LRESULT OnSizeParent(WPARAM, LPARAM layout);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM);
     afx_msg LRESULT OnInitialUpdate(WPARAM, LPARAM);
+    afx_msg LRESULT OnHelpHitTest(WPARAM, LPARAM point);
     // Offered to the control that they are about, then to the owner
     afx_msg void OnDrawItem(int id, LPDRAWITEMSTRUCT item);
     afx_msg void OnMeasureItem(int id, LPMEASUREITEMSTRUCT item);

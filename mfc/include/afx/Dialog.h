@@ -59,6 +59,10 @@ public:
 
     BOOL PreTranslateMessage(MSG* message) override;
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override;
+    /// Whether the dialog is centred on its owner after OnInitDialog: when its template gives 0, 0 as the
+    /// place and has none of DS_ABSALIGN, DS_CENTER and DS_CENTERMOUSE, and it is no child window. A dialog
+    /// that OnInitDialog has moved or shown is not centred.
+    BOOL CheckAutoCenter() override;
 
 protected:
     /// The button IDOK, or Enter: reads the controls with UpdateData and, if all are valid, ends with IDOK.
@@ -90,5 +94,6 @@ private:
     HGLOBAL m_templateHandle = nullptr;  ///< likewise
     const void* m_dialogInit = nullptr;  ///< DLGINIT data given with a template in memory
     bool m_shownWhenMade = false;        ///< its template says WS_VISIBLE
+    bool m_placeLeftOpen = false;        ///< its template gives no place
     HWND m_disabledTopLevel = nullptr;   ///< between PreModal and PostModal
 };

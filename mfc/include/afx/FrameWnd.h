@@ -91,7 +91,12 @@ public:
     BOOL PreTranslateMessage(MSG* message) override;
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override;
 
+    /// Shift+F1, for message maps: what CWinApp does.
+    afx_msg void OnContextHelp();
+
 protected:
+    /// While the user looks for help, shows help on the command.
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     /// Makes what fills the frame: by default the view of the context's class, if there is one. FALSE: the
     /// frame is not made.
     virtual BOOL OnCreateClient(LPCREATESTRUCT cs, CCreateContext* context);
@@ -110,6 +115,9 @@ protected:
     afx_msg void OnInitMenuPopup(CMenu* menu, UINT index, BOOL sysMenu);
     afx_msg void OnMenuSelect(UINT id, UINT flags, HMENU menu);
     afx_msg void OnEnterIdle(UINT why, CWnd* who);
+    afx_msg BOOL OnHelpInfo(HELPINFO* info);
+    afx_msg LRESULT OnCommandHelp(WPARAM, LPARAM context);
+    afx_msg LRESULT OnHelpHitTest(WPARAM, LPARAM);
     afx_msg LRESULT OnSetMessageString(WPARAM id, LPARAM text);
     afx_msg LRESULT OnPopMessageString(WPARAM id, LPARAM text);
     afx_msg LRESULT OnRecalcParent(WPARAM, LPARAM);

@@ -47,7 +47,9 @@ OVOMFC_API CWinApp* AFXAPI AfxGetApp();
 OVOMFC_API LPCTSTR AFXAPI AfxGetAppName();
 
 /// Registers a window class whose name is made from the arguments, once for equal ones, and gives the name.
-/// It stays valid until the next call. Throws CResourceException on failure.
+/// It stays valid until the next call. A style of 0 is CS_DBLCLKS; without a cursor or an icon the class gets
+/// the arrow and the system's icon for programs; without a background it does not erase. Throws
+/// CResourceException on failure.
 OVOMFC_API LPCTSTR AFXAPI AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr,
                                               HBRUSH background = nullptr, HICON icon = nullptr);
 /// Registers a window class of a name of its own, unless it is registered already. FALSE on failure.

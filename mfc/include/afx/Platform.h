@@ -46,6 +46,13 @@
 #undef DeleteBrush
 #undef DeletePen
 #undef GetNextWindow
+#undef GetCurrentTime
+
+/// The next (GW_HWNDNEXT) or previous (GW_HWNDPREV) window in the order of the screen.
+inline HWND WINAPI GetNextWindow(HWND wnd, UINT command)
+{
+    return ::GetWindow(wnd, command);
+}
 
 #include <detail/exportmacros.h>
 

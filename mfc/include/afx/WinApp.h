@@ -3,12 +3,20 @@
 
 #include <afx/WinThread.h>
 
+class CCmdUI;
 class CCommandLineInfo;
+class CDocument;
+class CRecentFileList;
 
 #ifndef HH_HELP_CONTEXT
 #define HH_HELP_CONTEXT 0x000F
 #define HH_DISPLAY_TOPIC 0x0000
+#define HH_DISPLAY_INDEX 0x0002
 #endif
+
+#define _AFX_MRU_COUNT 4      // recent files, unless the program says otherwise
+#define _AFX_MRU_MAX_COUNT 16 // as many as there are numbers for them
+#define AFX_ABBREV_FILENAME_LEN 30
 
 enum AFX_HELP_TYPE
 {
@@ -37,6 +45,7 @@ public:
     LPCTSTR m_pszProfileName = nullptr;
     LPCTSTR m_pszRegistryKey = nullptr;
     AFX_HELP_TYPE m_eHelpType = afxWinHelp;
+    BOOL m_bHelpMode = FALSE; ///< The user is choosing, after Shift+F1, what to get help on.
 
     virtual BOOL InitApplication();
     BOOL InitInstance() override;
@@ -45,6 +54,9 @@ public:
     BOOL OnIdle(LONG count) override;
     LRESULT ProcessWndProcException(CException* exception, const MSG* message) override;
     virtual BOOL SaveAllModified();
+    /// Called for a recent file that the user has chosen; opens it, and gives NULL when that fails: the file is
+    /// then taken off the list. By default there are no documents, so it does nothing and gives NULL.
+    virtual CDocument* OpenDocumentFile(LPCTSTR path);
 
     // Resources, along the resource chain
     HCURSOR LoadCursor(LPCTSTR name) const;
@@ -72,6 +84,9 @@ public:
     HKEY GetAppRegistryKey();
     HKEY GetSectionKey(LPCTSTR section);
 
+    /// Puts a file at the head of the list of recent files, if there is one.
+    virtual void AddToRecentFileList(LPCTSTR path);
+
     // Messages and help
     virtual int DoMessageBox(LPCTSTR text, UINT type, UINT helpId);
     /// 1 begins, -1 ends, 0 restores the hourglass.
@@ -85,9 +100,34 @@ public:
     void ParseCommandLine(CCommandLineInfo& info);
     void HideApplication();
 
-protected:
+    // Commands. A program that has help puts these into its message map, or those of CWnd into its frame's:
+    //
+    //     ON_COMMAND(ID_HELP_FINDER, &CWinApp::OnHelpFinder)
+    //     ON_COMMAND(ID_HELP, &CWinApp::OnHelp)
+    //     ON_COMMAND(ID_CONTEXT_HELP, &CWinApp::OnContextHelp)
+    //     ON_COMMAND(ID_DEFAULT_HELP, &CWinApp::OnHelpFinder)
     afx_msg void OnAppExit();
+    /// F1: help on the open message box, else on what answers WM_COMMANDHELP first of the active window and the
+    /// windows around it, else ID_DEFAULT_HELP.
+    afx_msg void OnHelp();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpUsing();
+    /// Shift+F1: lets the user click something, or choose a command, and shows help on it. Escape ends it.
+    afx_msg void OnContextHelp();
+
+protected:
+    /// In InitInstance, after SetRegistryKey: reads the list of recent files and the preview's number of pages.
+    /// `maxFiles` is at most 16; with 0 there is no list. ExitInstance writes them.
+    void LoadStdProfileSettings(UINT maxFiles = _AFX_MRU_COUNT);
+    void SaveStdProfileSettings();
+
+    afx_msg BOOL OnOpenRecentFile(UINT id);
+    afx_msg void OnUpdateRecentFileMenu(CCmdUI* ui);
     DECLARE_MESSAGE_MAP()
+
+    CRecentFileList* m_pRecentFileList = nullptr; ///< owned; null before LoadStdProfileSettings
+    UINT m_nNumPreviewPages = 0;
 
 private:
     bool usesRegistry() const { return m_pszRegistryKey != nullptr; }

@@ -350,6 +350,11 @@ public:
     DWORD GetWindowContextHelpId() const { return ::GetWindowContextHelpId(m_hWnd); }
     virtual void HtmlHelp(DWORD_PTR data, UINT command = 0x000F);
     virtual void WinHelp(DWORD_PTR data, UINT command = HELP_CONTEXT);
+    // Commands that the program carries out, for message maps of frames
+    afx_msg void OnHelp();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpUsing();
 
     // Data exchange
     /// TRUE reads the controls into the members, with validation; FALSE fills the controls. FALSE when a value

@@ -1,4 +1,5 @@
 // CWinApp: the program's life and resources.
+#include <afxadv.h>
 #include <afxwin.h>
 
 #include <detail/modulestate.h>
@@ -12,6 +13,8 @@ IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
     ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
+    ON_UPDATE_COMMAND_UI(ID_FILE_MRU_FILE1, &CWinApp::OnUpdateRecentFileMenu)
+    ON_COMMAND_EX_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE16, &CWinApp::OnOpenRecentFile)
 END_MESSAGE_MAP()
 
 namespace
@@ -66,6 +69,7 @@ CWinApp::~CWinApp()
     AFX_MODULE_STATE* const state = AfxGetModuleState();
     if (state->app == this)
         state->app = nullptr;
+    delete m_pRecentFileList;
     for (LPCTSTR text : {m_pszAppName, m_pszExeName, m_pszHelpFilePath, m_pszProfileName, m_pszRegistryKey})
         std::free(const_cast<LPTSTR>(text));
 }
@@ -82,6 +86,7 @@ BOOL CWinApp::InitInstance()
 
 int CWinApp::ExitInstance()
 {
+    SaveStdProfileSettings();
     return CWinThread::ExitInstance();
 }
 

@@ -1,5 +1,7 @@
 // CWinApp: help.
-#include <afxwin.h>
+#include <afxpriv.h>
+
+#include <detail/help.h>
 
 namespace
 {
@@ -63,3 +65,103 @@ void CWinApp::SetHelpMode(AFX_HELP_TYPE type)
     std::free(const_cast<LPTSTR>(m_pszHelpFilePath));
     m_pszHelpFilePath = ::_wcsdup(path);
 }
+
+// What the user asks for
+
+void CWinApp::OnHelp()
+{
+    const afxdetail::OpenMessageBox* box = afxdetail::OpenMessageBox::current();
+    if (box && afxdetail::showHelp(box->helpId() ? HID_BASE_PROMPT + box->helpId() : 0))
+        return;
+    const CWnd* main = AfxGetMainWnd();
+    HWND wnd = ::GetActiveWindow();
+    if (!wnd)
+        wnd = main->GetSafeHwnd();
+    for (; wnd; wnd = ::GetParent(wnd))
+        if (CWnd::FromHandle(wnd)->SendMessage(WM_COMMANDHELP))
+            return;
+    if ((main = AfxGetMainWnd()))
+        main->SendMessage(WM_COMMAND, ID_DEFAULT_HELP);
+}
+
+void CWinApp::OnHelpFinder()
+{
+    if (m_eHelpType == afxHTMLHelp)
+        HtmlHelp(0, HH_DISPLAY_TOPIC);
+    else
+        WinHelp(0, HELP_FINDER);
+}
+
+void CWinApp::OnHelpIndex()
+{
+    if (m_eHelpType == afxHTMLHelp)
+        HtmlHelp(0, HH_DISPLAY_INDEX);
+    else
+        WinHelp(0, HELP_INDEX);
+}
+
+void CWinApp::OnHelpUsing()
+{
+    if (m_eHelpType == afxHTMLHelp)
+        HtmlHelp(0, HH_DISPLAY_TOPIC); // this kind of help has no help on help
+    else
+        WinHelp(0, HELP_HELPONHELP);
+}
+
+void CWnd::OnHelp()
+{
+    if (CWinApp* app = AfxGetApp())
+        app->OnHelp();
+}
+
+void CWnd::OnHelpFinder()
+{
+    if (CWinApp* app = AfxGetApp())
+        app->OnHelpFinder();
+}
+
+void CWnd::OnHelpIndex()
+{
+    if (CWinApp* app = AfxGetApp())
+        app->OnHelpIndex();
+}
+
+void CWnd::OnHelpUsing()
+{
+    if (CWinApp* app = AfxGetApp())
+        app->OnHelpUsing();
+}
+
+namespace afxdetail
+{
+
+BOOL showHelp(DWORD_PTR context)
+{
+    CWinApp* app = AfxGetApp();
+    if (context == 0 || !app)
+        return FALSE;
+    if (app->GetHelpMode() == afxHTMLHelp)
+        app->HtmlHelp(context, HH_HELP_CONTEXT);
+    else
+        app->WinHelp(context, HELP_CONTEXT);
+    return TRUE;
+}
+
+BOOL askForHelp()
+{
+    CWnd* main = AfxGetMainWnd();
+    AFX_CMDHANDLERINFO handler{};
+    if (!main || !main->OnCmdMsg(ID_HELP, CN_COMMAND, nullptr, &handler))
+        return FALSE;
+    main->SendMessage(WM_COMMAND, ID_HELP);
+    return TRUE;
+}
+
+bool isHelpKey(const MSG& message)
+{
+    constexpr LPARAM kRepeated = 0x40000000;
+    return message.message == WM_KEYDOWN && message.wParam == VK_F1 && !(message.lParam & kRepeated) &&
+           ::GetKeyState(VK_SHIFT) >= 0 && ::GetKeyState(VK_CONTROL) >= 0 && ::GetKeyState(VK_MENU) >= 0;
+}
+
+} // namespace afxdetail

@@ -1,6 +1,7 @@
 // Message boxes.
 #include <afxwin.h>
 
+#include <detail/help.h>
 #include <detail/pending.h>
 
 namespace
@@ -30,8 +31,9 @@ int show(LPCTSTR text, UINT type)
 
 } // namespace
 
-int CWinApp::DoMessageBox(LPCTSTR text, UINT type, UINT)
+int CWinApp::DoMessageBox(LPCTSTR text, UINT type, UINT helpId)
 {
+    const afxdetail::OpenMessageBox open(helpId, (type & MB_HELP) != 0);
     return show(text, type);
 }
 

@@ -1,9 +1,14 @@
 target_sources(ovomfc PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/animatectrl.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/datetimectrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/headerctrl.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/hotkeyctrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/imagelist.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ipaddressctrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/listctrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/listgroups.cpp
   ${CMAKE_CURRENT_LIST_DIR}/listview.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/monthcalctrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/progressctrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/sliderctrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/spinbuttonctrl.cpp

@@ -6,6 +6,7 @@
 #include "dialoginit.h"
 #include "dialogresource.h"
 
+#include <detail/help.h>
 #include <detail/pending.h>
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -25,8 +26,6 @@ END_MESSAGE_MAP()
 
 namespace
 {
-
-constexpr UINT kHelpOfResources = 0x20000; // help ids of windows and dialogs begin here
 
 /// The system's dialog procedure: everything but the initialisation is done by the message map.
 INT_PTR CALLBACK dialogProcedure(HWND wnd, UINT message, WPARAM, LPARAM)
@@ -50,14 +49,39 @@ UINT helpIdOf(LPCTSTR templateName)
     return IS_INTRESOURCE(templateName) ? LOWORD(reinterpret_cast<UINT_PTR>(templateName)) : 0;
 }
 
-/// Whether a template asks for a dialog that is shown as soon as it is made.
-bool isVisible(LPCDLGTEMPLATE dialogTemplate)
+/// What a template says of the dialog's window.
+struct TemplateHead
 {
-    // The extended form begins with two words that no style has, and has the style further on.
-    const auto* words = reinterpret_cast<const WORD*>(dialogTemplate);
-    const bool extended = words[0] == 1 && words[1] == 0xFFFF;
-    const DWORD style = extended ? static_cast<DWORD>(MAKELONG(words[6], words[7])) : dialogTemplate->style;
-    return (style & WS_VISIBLE) != 0;
+    explicit TemplateHead(LPCDLGTEMPLATE dialogTemplate)
+    {
+        // The extended form begins with two words that no style has, and has the rest further on.
+        const auto* words = reinterpret_cast<const WORD*>(dialogTemplate);
+        const bool extended = words[0] == 1 && words[1] == 0xFFFF;
+        style = extended ? static_cast<DWORD>(MAKELONG(words[6], words[7])) : dialogTemplate->style;
+        x = extended ? static_cast<short>(words[9]) : dialogTemplate->x;
+        y = extended ? static_cast<short>(words[10]) : dialogTemplate->y;
+    }
+
+    /// Whether the dialog is shown as soon as it is made.
+    bool isVisible() const { return (style & WS_VISIBLE) != 0; }
+
+    /// Whether the place is left to the framework.
+    bool leavesPlaceOpen() const
+    {
+        constexpr DWORD kPlaced = DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE;
+        return x == 0 && y == 0 && !(style & (kPlaced | WS_CHILD));
+    }
+
+    DWORD style;
+    short x;
+    short y;
+};
+
+CPoint placeOf(HWND wnd)
+{
+    CRect rect;
+    ::GetWindowRect(wnd, &rect);
+    return rect.TopLeft();
 }
 
 bool isInput(UINT message)
@@ -132,7 +156,9 @@ bool CDialog::createModeless(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTA
 /// Null when the window is not made, or did not outlive its initialisation: this object may then be gone.
 HWND CDialog::createWindow(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE instance)
 {
-    m_shownWhenMade = isVisible(dialogTemplate);
+    const TemplateHead head(dialogTemplate);
+    m_shownWhenMade = head.isVisible();
+    m_placeLeftOpen = head.leavesPlaceOpen();
     afxdetail::CallOut creation;
     AfxHookWindowCreate(this);
     const HWND wnd = ::CreateDialogIndirectParamW(instance, dialogTemplate, owner, &dialogProcedure, 0);
@@ -150,13 +176,22 @@ HWND CDialog::createWindow(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
 {
     const HWND wnd = m_hWnd;
+    const CPoint place = placeOf(wnd);
     const LRESULT result = Default(); // reaches OnInitDialog through the dialog procedure
     if (FromHandlePermanent(wnd) != this)
         return result; // the object may be gone with the window
+    // A dialog that has moved or shown itself in OnInitDialog stays where it is.
+    if (placeOf(wnd) == place && !IsWindowVisible() && CheckAutoCenter())
+        CenterWindow();
     // Ended already: it must not be shown any more, whatever its template says.
     if (m_shownWhenMade && !(m_nFlags & afxdetail::kContinueModal))
         ::DestroyWindow(wnd);
     return result;
+}
+
+BOOL CDialog::CheckAutoCenter()
+{
+    return m_placeLeftOpen;
 }
 
 BOOL CDialog::OnInitDialog()
@@ -211,6 +246,9 @@ BOOL CDialog::PreTranslateMessage(MSG* message)
 {
     if (CWnd::PreTranslateMessage(message))
         return TRUE;
+    const CWinApp* app = AfxGetApp();
+    if (app && app->m_bHelpMode) // keys look for help now
+        return FALSE;
     return isInput(message->message) && IsDialogMessage(message);
 }
 
@@ -218,21 +256,21 @@ BOOL CDialog::PreTranslateMessage(MSG* message)
 
 BOOL CDialog::OnHelpInfo(HELPINFO* info)
 {
-    return SendMessage(WM_COMMANDHELP) ? TRUE : CWnd::OnHelpInfo(info);
+    // A key in a message box of this dialog asks about the box.
+    if (afxdetail::helpOfMessageBox() || SendMessage(WM_COMMANDHELP))
+        return TRUE;
+    return CWnd::OnHelpInfo(info);
 }
 
-LRESULT CDialog::OnCommandHelp(WPARAM, LPARAM)
+LRESULT CDialog::OnCommandHelp(WPARAM, LPARAM context)
 {
-    CWinApp* app = AfxGetApp();
-    if (m_nIDHelp == 0 || !app)
-        return FALSE;
-    app->HtmlHelp(kHelpOfResources + m_nIDHelp);
-    return TRUE;
+    const DWORD_PTR known = static_cast<DWORD_PTR>(context);
+    return afxdetail::showHelp(known ? known : static_cast<DWORD_PTR>(SendMessage(WM_HELPHITTEST)));
 }
 
 LRESULT CDialog::OnHelpHitTest(WPARAM, LPARAM)
 {
-    return m_nIDHelp ? static_cast<LRESULT>(kHelpOfResources + m_nIDHelp) : 0;
+    return m_nIDHelp ? static_cast<LRESULT>(HID_BASE_RESOURCE + m_nIDHelp) : 0;
 }
 
 // Focus, default button, units

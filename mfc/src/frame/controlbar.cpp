@@ -18,6 +18,7 @@ BEGIN_MESSAGE_MAP(CControlBar, CWnd)
     ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
     ON_MESSAGE(WM_INITIALUPDATE, &CControlBar::OnInitialUpdate)
+    ON_MESSAGE(WM_HELPHITTEST, &CControlBar::OnHelpHitTest)
     // about the bar's controls
     ON_WM_DRAWITEM()
     ON_WM_MEASUREITEM()

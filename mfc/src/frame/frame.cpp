@@ -29,6 +29,10 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
     ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnPopMessageString)
     ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, 0xFFFF, &CFrameWnd::OnToolTipText)
+    // help
+    ON_WM_HELPINFO()
+    ON_MESSAGE(WM_COMMANDHELP, &CFrameWnd::OnCommandHelp)
+    ON_MESSAGE(WM_HELPHITTEST, &CFrameWnd::OnHelpHitTest)
     // control bars
     ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CFrameWnd::OnUpdateControlBarMenu)
     ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CFrameWnd::OnBarCheck)
@@ -51,12 +55,25 @@ CFrameWnd::~CFrameWnd()
 
 // Making a frame
 
+namespace
+{
+
+HICON iconOf(UINT id)
+{
+    const LPCTSTR name = MAKEINTRESOURCEW(id);
+    return id ? ::LoadIconW(AfxFindResourceHandle(name, RT_GROUP_ICON), name) : nullptr;
+}
+
+} // namespace
+
 BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs)
 {
-    if (!cs.lpszClass)
-        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
-                                           reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1),
-                                           AfxGetApp() ? AfxGetApp()->LoadIcon(m_nIDHelp) : nullptr);
+    if (!cs.lpszClass) {
+        const HICON own = iconOf(m_nIDHelp);
+        cs.lpszClass = AfxRegisterWndClass(
+            CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW),
+            reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), own ? own : iconOf(AFX_IDI_STD_FRAME));
+    }
     return CWnd::PreCreateWindow(cs);
 }
 

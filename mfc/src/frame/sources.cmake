@@ -7,6 +7,7 @@ target_sources(ovomfc PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/core/toolbarlayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame.cpp
   ${CMAKE_CURRENT_LIST_DIR}/framebars.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/framehelp.cpp
   ${CMAKE_CURRENT_LIST_DIR}/framemessages.cpp
   ${CMAKE_CURRENT_LIST_DIR}/framemodal.cpp
   ${CMAKE_CURRENT_LIST_DIR}/statusbar.cpp

@@ -21,6 +21,11 @@ BOOL CView::PreCreateWindow(CREATESTRUCT& cs)
         cs.style &= ~WS_BORDER;
         cs.dwExStyle |= WS_EX_CLIENTEDGE;
     }
+    // What a view shows usually depends on its size: all of it is painted anew when that changes.
+    if (!cs.lpszClass)
+        cs.lpszClass =
+            AfxRegisterWndClass(CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW),
+                                reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
     return CWnd::PreCreateWindow(cs);
 }
 

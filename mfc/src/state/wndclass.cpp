@@ -28,12 +28,12 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background
                      static_cast<void*>(cursor), static_cast<void*>(background), static_cast<void*>(icon));
 
     WNDCLASSW wndClass{};
-    wndClass.style = style;
+    wndClass.style = style ? style : CS_DBLCLKS;
     wndClass.lpfnWndProc = &AfxWndProc;
     wndClass.hInstance = instance;
-    wndClass.hCursor = cursor;
+    wndClass.hCursor = cursor ? cursor : ::LoadCursorW(nullptr, IDC_ARROW);
     wndClass.hbrBackground = background;
-    wndClass.hIcon = icon;
+    wndClass.hIcon = icon ? icon : ::LoadIconW(nullptr, IDI_APPLICATION);
     wndClass.lpszClassName = name;
     if (!AfxRegisterClass(&wndClass))
         AfxThrowResourceException();

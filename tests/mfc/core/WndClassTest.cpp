@@ -41,6 +41,15 @@ TEST(WndClasses, HaveWhatWasAskedFor)
     EXPECT_EQ(wndClass.hbrBackground, brush);
 }
 
+TEST(WndClasses, HaveTheArrowAndNoBackgroundUnlessToldOtherwise)
+{
+    const WNDCLASSW wndClass = registered(AfxRegisterWndClass(0));
+    EXPECT_EQ(wndClass.style, UINT{CS_DBLCLKS});
+    EXPECT_EQ(wndClass.hCursor, ::LoadCursorW(nullptr, IDC_ARROW));
+    EXPECT_EQ(wndClass.hIcon, ::LoadIconW(nullptr, IDI_APPLICATION));
+    EXPECT_EQ(wndClass.hbrBackground, nullptr);
+}
+
 TEST(WndClasses, EqualArgumentsGiveTheSameClassAndOthersAnother)
 {
     const HCURSOR cursor = ::LoadCursorW(nullptr, IDC_ARROW);

@@ -184,6 +184,18 @@ TEST(DialogKeys, F1AsksForTheDialogsHelp)
     dialog.DoModal();
     ASSERT_EQ(TestApp::instance().helps().size(), 1u);
     EXPECT_EQ(TestApp::instance().helps()[0].data, 0x20000u + 33);
+    EXPECT_EQ(TestApp::instance().helps()[0].command, static_cast<UINT>(HELP_CONTEXT));
+}
+
+TEST(DialogKeys, F1AsksInTheProgramsKindOfHelp)
+{
+    TestDialog dialog;
+    dialog.SetHelpID(33);
+    AfxGetApp()->m_eHelpType = afxHTMLHelp;
+    auto acting = whenShown().key(VK_F1).key(VK_ESCAPE).start();
+    dialog.DoModal();
+    AfxGetApp()->m_eHelpType = afxWinHelp;
+    ASSERT_EQ(TestApp::instance().helps().size(), 1u);
     EXPECT_EQ(TestApp::instance().helps()[0].command, static_cast<UINT>(HH_HELP_CONTEXT));
 }
 

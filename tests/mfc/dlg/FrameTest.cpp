@@ -407,3 +407,53 @@ TEST(Frame, ItsOwnedWindowsAreHiddenAndShownTogether)
     EXPECT_TRUE(tool.IsWindowVisible());
     tool.DestroyWindow();
 }
+
+// Its window class
+
+TEST(FrameClass, HasTheArrowAWindowsBackgroundAndIsPaintedAnewWhenSized)
+{
+    const MainFrame frame;
+    for (const HWND wnd : {frame->m_hWnd, frame->view->m_hWnd}) {
+        EXPECT_EQ(::GetClassLongPtrW(wnd, GCL_STYLE), ULONG_PTR{CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW});
+        EXPECT_EQ(::GetClassLongPtrW(wnd, GCLP_HBRBACKGROUND), ULONG_PTR{COLOR_WINDOW + 1});
+        EXPECT_EQ(::GetClassLongPtrW(wnd, GCLP_HCURSOR),
+                  reinterpret_cast<ULONG_PTR>(::LoadCursorW(nullptr, IDC_ARROW)));
+    }
+}
+
+TEST(FrameClass, HasTheIconOfItsNumberElseTheStandardOne)
+{
+    const auto iconOf = [](UINT id) {
+        auto* frame = new TestFrame;
+        EXPECT_TRUE(frame->LoadFrame(id));
+        const auto icon = reinterpret_cast<HICON>(::GetClassLongPtrW(frame->m_hWnd, GCLP_HICON));
+        frame->DestroyWindow();
+        return icon;
+    };
+    EXPECT_EQ(iconOf(IDR_FRAME), AfxGetApp()->LoadIcon(AFX_IDI_STD_FRAME)) << "it has none of its own";
+    EXPECT_NE(iconOf(IDR_FRAME), nullptr);
+    EXPECT_EQ(iconOf(IDR_POPUP), AfxGetApp()->LoadIcon(IDR_POPUP));
+    EXPECT_NE(iconOf(IDR_POPUP), iconOf(IDR_FRAME));
+}
+
+TEST(FrameClass, ItsViewIsPaintedWholeWhenItGrows)
+{
+    class PaintedView : public TestView
+    {
+    public:
+        CRect painted;
+        using TestView::OnDraw;
+        void OnDraw(CDC* dc) override { dc->GetClipBox(&painted); }
+    };
+    const MainFrame frame(TestFrame::makeEmpty());
+    auto* view = new PaintedView;
+    view->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(), &*frame, AFX_IDW_PANE_FIRST);
+    frame->RecalcLayout();
+    present(*frame);
+    view->painted.SetRectEmpty();
+    frame->SetWindowPos(nullptr, 0, 0, 540, 440, SWP_NOMOVE | SWP_NOZORDER);
+    GuiThread::settle();
+    CRect client;
+    view->GetClientRect(&client);
+    EXPECT_EQ(view->painted, client);
+}

@@ -10,6 +10,7 @@
 #define IDR_FRAME 120
 #define IDR_POPUP 121
 #define IDR_NO_BITMAP 122
+#define IDR_HELP_KEYS 123
 #define IDR_FRAME_MISSING 129
 
 // Controls 1000-1099

@@ -1,0 +1,10 @@
+// Threads wait for each other: critical sections, mutexes, semaphores, events, and locks on them.
+#ifndef __AFXMT_H__
+#define __AFXMT_H__
+#pragma once
+
+#include <afxwin.h>
+
+#include <afx/Sync.h>
+
+#endif // __AFXMT_H__

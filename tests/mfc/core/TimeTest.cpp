@@ -1,0 +1,75 @@
+// CTime and CTimeSpan.
+#include "Texts.h"
+
+#include <afx.h>
+
+TEST(Time, KnowsItsDateAndTimeOfDay)
+{
+    const CTime time(2009, 3, 19, 22, 15, 7);
+    EXPECT_EQ(time.GetYear(), 2009);
+    EXPECT_EQ(time.GetMonth(), 3);
+    EXPECT_EQ(time.GetDay(), 19);
+    EXPECT_EQ(time.GetHour(), 22);
+    EXPECT_EQ(time.GetMinute(), 15);
+    EXPECT_EQ(time.GetSecond(), 7);
+    EXPECT_EQ(time.GetDayOfWeek(), 5) << "a Thursday; Sunday is 1";
+}
+
+TEST(Time, GoesThroughTheSystemsFormUnchanged)
+{
+    const CTime time(2012, 2, 29, 23, 59, 58);
+    SYSTEMTIME parts;
+    ASSERT_TRUE(time.GetAsSystemTime(parts));
+    EXPECT_EQ(parts.wDay, 29);
+    EXPECT_EQ(parts.wDayOfWeek, 3);
+    EXPECT_EQ(CTime(parts), time);
+}
+
+TEST(Time, OfAFileCountsFrom1970)
+{
+    const CTime begin(FILETIME{0xD53E8000, 0x019DB1DE});
+    EXPECT_EQ(begin.GetTime(), 0);
+    EXPECT_EQ(begin.FormatGmt(L"%Y-%m-%d %H:%M:%S"), L"1970-01-01 00:00:00");
+}
+
+TEST(Time, IsFormattedAtAnyLength)
+{
+    const CTime time(2009, 12, 24, 8, 5, 0);
+    EXPECT_EQ(time.Format(L"%d.%m.%Y %H:%M"), L"24.12.2009 08:05");
+    EXPECT_EQ(time.Format(L""), L"");
+    const std::wstring filler(400, L'x');
+    EXPECT_EQ(time.Format((filler + L"%Y").c_str()), (filler + L"2009").c_str());
+}
+
+TEST(Time, MovesBySpans)
+{
+    const CTime time(2009, 12, 31, 23, 59, 59);
+    EXPECT_EQ(time + CTimeSpan(0, 0, 0, 1), CTime(2010, 1, 1, 0, 0, 0));
+    EXPECT_EQ((CTime(2010, 1, 2, 0, 0, 0) - time).GetTotalSeconds(), 24 * 3600 + 1);
+    CTime moved = time;
+    moved -= CTimeSpan(1, 0, 0, 0);
+    EXPECT_EQ(moved, CTime(2009, 12, 30, 23, 59, 59));
+    EXPECT_LT(moved, time);
+}
+
+TEST(Time, IsNow)
+{
+    const auto before = ::_time64(nullptr);
+    const CTime now = CTime::GetCurrentTime();
+    EXPECT_GE(now.GetTime(), before);
+    EXPECT_LE(now.GetTime(), ::_time64(nullptr));
+}
+
+TEST(TimeSpan, IsSplitIntoItsParts)
+{
+    const CTimeSpan span(3, 4, 5, 6);
+    EXPECT_EQ(span.GetDays(), 3);
+    EXPECT_EQ(span.GetHours(), 4);
+    EXPECT_EQ(span.GetMinutes(), 5);
+    EXPECT_EQ(span.GetSeconds(), 6);
+    EXPECT_EQ(span.GetTotalHours(), 76);
+    EXPECT_EQ(span.GetTotalMinutes(), 76 * 60 + 5);
+    EXPECT_EQ(span.Format(L"%D days %H:%M:%S, 100%%"), L"3 days 04:05:06, 100%");
+    EXPECT_EQ((span - CTimeSpan(3, 0, 0, 0)).GetDays(), 0);
+    EXPECT_GT(span, CTimeSpan(3, 4, 5, 5));
+}
