@@ -5,6 +5,9 @@
 
 struct CPrintInfo;
 
+/// The styles of a view that a frame makes for itself.
+#define AFX_WS_DEFAULT_VIEW (WS_CHILD | WS_VISIBLE | WS_BORDER)
+
 /// A view is made with new, as a child of a frame, and deletes itself with its window. It becomes the active
 /// one when the user clicks into it, or by CFrameWnd::SetActiveView.
 class OVOMFC_API CView : public CWnd

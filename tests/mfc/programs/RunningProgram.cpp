@@ -1,0 +1,220 @@
+#include "RunningProgram.h"
+
+#include <filesystem>
+#include <stdexcept>
+#include <thread>
+
+using namespace std::chrono_literals;
+namespace fs = std::filesystem;
+
+namespace
+{
+
+constexpr auto kLimit = 20s;
+constexpr UINT kAnswerLimit = 5000; // milliseconds
+
+fs::path folderOfTests()
+{
+    wchar_t path[MAX_PATH];
+    ::GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return fs::path(path).parent_path();
+}
+
+std::wstring classOf(HWND wnd)
+{
+    wchar_t name[128]{};
+    ::GetClassNameW(wnd, name, static_cast<int>(std::size(name)));
+    return name;
+}
+
+} // namespace
+
+RunningProgram::RunningProgram(const std::wstring& name, const std::wstring& arguments)
+{
+    const fs::path program = folderOfTests() / (name + L".exe");
+    std::wstring commandLine = L"\"" + program.wstring() + L"\" " + arguments;
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    if (!::CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                          program.parent_path().c_str(), &startup, &m_process))
+        throw std::runtime_error("the program cannot be started");
+    waitFor("the program's main window", [this] { return !shownWindows().empty(); });
+    m_main = shownWindows().back();
+    waitFor("the program to come to the front", [this] {
+        ::SetForegroundWindow(m_main);
+        return isInFront();
+    });
+}
+
+RunningProgram::~RunningProgram()
+{
+    m_input.releaseAll();
+    if (::WaitForSingleObject(m_process.hProcess, 0) != WAIT_OBJECT_0) {
+        ::TerminateProcess(m_process.hProcess, 99);
+        ::WaitForSingleObject(m_process.hProcess, INFINITE);
+    }
+    ::CloseHandle(m_process.hThread);
+    ::CloseHandle(m_process.hProcess);
+}
+
+// Windows
+
+std::vector<HWND> RunningProgram::shownWindows() const
+{
+    std::vector<HWND> windows;
+    for (HWND wnd = ::GetTopWindow(nullptr); wnd; wnd = ::GetWindow(wnd, GW_HWNDNEXT)) {
+        DWORD process = 0;
+        ::GetWindowThreadProcessId(wnd, &process);
+        if (process == m_process.dwProcessId && ::IsWindowVisible(wnd))
+            windows.push_back(wnd);
+    }
+    return windows;
+}
+
+bool RunningProgram::shows(const std::wstring& title) const
+{
+    for (const HWND wnd : shownWindows())
+        if (textOf(wnd) == title)
+            return true;
+    return false;
+}
+
+HWND RunningProgram::window(const std::wstring& title)
+{
+    HWND found = nullptr;
+    waitFor("the window \"" + fs::path(title).string() + "\"", [&] {
+        for (const HWND wnd : shownWindows())
+            if (textOf(wnd) == title && ::IsWindowEnabled(wnd) && ::GetForegroundWindow() == wnd)
+                found = wnd;
+        return found != nullptr;
+    });
+    return found;
+}
+
+HWND RunningProgram::shown(const std::wstring& windowClass) const
+{
+    for (const HWND wnd : shownWindows())
+        if (classOf(wnd) == windowClass)
+            return wnd;
+    return nullptr;
+}
+
+HWND RunningProgram::child(HWND parent, const std::wstring& windowClass) const
+{
+    for (HWND wnd = ::GetWindow(parent, GW_CHILD); wnd; wnd = ::GetWindow(wnd, GW_HWNDNEXT)) {
+        if (classOf(wnd) == windowClass)
+            return wnd;
+        if (const HWND below = child(wnd, windowClass))
+            return below;
+    }
+    return nullptr;
+}
+
+bool RunningProgram::isInFront() const
+{
+    DWORD process = 0;
+    ::GetWindowThreadProcessId(::GetForegroundWindow(), &process);
+    return process == m_process.dwProcessId;
+}
+
+// Input
+
+void RunningProgram::clickAt(CPoint screen, ovotest::Button button)
+{
+    m_input.moveTo(screen);
+    waitFor("the pointer to move", [screen] {
+        CPoint point;
+        ::GetCursorPos(&point);
+        return point == screen;
+    });
+    m_input.press(button);
+    m_input.release(button);
+}
+
+void RunningProgram::click(HWND wnd, ovotest::Button button)
+{
+    waitFor("the window to be enabled", [wnd] { return ::IsWindowVisible(wnd) && ::IsWindowEnabled(wnd); });
+    clickAt(rectOf(wnd).CenterPoint(), button);
+}
+
+void RunningProgram::click(HWND wnd, CPoint client, ovotest::Button button)
+{
+    waitFor("the window to be shown", [wnd] { return ::IsWindowVisible(wnd) != FALSE; });
+    ::ClientToScreen(wnd, &client);
+    clickAt(client, button);
+}
+
+void RunningProgram::key(WORD virtualKey, int times)
+{
+    waitFor("the program to be in front", [this] { return isInFront(); });
+    for (int i = 0; i < times; ++i) {
+        m_input.keyDown(virtualKey);
+        m_input.keyUp(virtualKey);
+    }
+}
+
+void RunningProgram::chord(WORD held, WORD virtualKey)
+{
+    waitFor("the program to be in front", [this] { return isInFront(); });
+    m_input.keyDown(held);
+    key(virtualKey);
+    m_input.keyUp(held);
+}
+
+void RunningProgram::type(const std::wstring& text)
+{
+    waitFor("the program to be in front", [this] { return isInFront(); });
+    for (const wchar_t character : text)
+        m_input.character(character);
+}
+
+void RunningProgram::waitFor(const std::string& what, const std::function<bool()>& condition)
+{
+    const auto end = std::chrono::steady_clock::now() + kLimit;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end)
+            throw std::runtime_error("waited in vain for " + what);
+        std::this_thread::sleep_for(5ms);
+    }
+}
+
+DWORD RunningProgram::waitForEnd()
+{
+    waitFor("the program to end", [this] { return ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_OBJECT_0; });
+    DWORD code = 0;
+    ::GetExitCodeProcess(m_process.hProcess, &code);
+    return code;
+}
+
+// Looking
+
+std::wstring textOf(HWND wnd)
+{
+    wchar_t text[2048]{};
+    DWORD_PTR length = 0;
+    if (!::SendMessageTimeoutW(wnd, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text), SMTO_NORMAL,
+                               kAnswerLimit, &length))
+        return {};
+    return text;
+}
+
+std::wstring textOf(HWND dialog, int id)
+{
+    return textOf(::GetDlgItem(dialog, id));
+}
+
+CRect rectOf(HWND wnd)
+{
+    CRect rect;
+    ::GetWindowRect(wnd, &rect);
+    return rect;
+}
+
+COLORREF colourAt(HWND wnd, CPoint client)
+{
+    ::ClientToScreen(wnd, &client);
+    const HDC screen = ::GetDC(nullptr);
+    const COLORREF colour = ::GetPixel(screen, client.x, client.y);
+    ::ReleaseDC(nullptr, screen);
+    return colour;
+}

@@ -1,0 +1,59 @@
+// A program in a process of its own, and a user in front of it.
+#pragma once
+
+#include "support/Input.h"
+
+#include <afxwin.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// Starts a program, and acts as its user: with real input, looking at its windows. What is waited for in vain is thrown
+/// as std::runtime_error. The program is ended at the latest with this object.
+class RunningProgram
+{
+public:
+    /// `name`: the file beside the tests, without its ending. Waits until the program shows its main window.
+    explicit RunningProgram(const std::wstring& name, const std::wstring& arguments = L"");
+    ~RunningProgram();
+    RunningProgram(const RunningProgram&) = delete;
+    RunningProgram& operator=(const RunningProgram&) = delete;
+
+    // Windows
+    HWND main() const { return m_main; }
+    /// The shown window with this title, once there is one and it can be used.
+    HWND window(const std::wstring& title);
+    /// The shown window of this class, or null.
+    HWND shown(const std::wstring& windowClass) const;
+    bool shows(const std::wstring& title) const;
+    /// The control below `parent`, at whatever depth.
+    HWND child(HWND parent, const std::wstring& windowClass) const;
+
+    // Input
+    void click(HWND wnd, ovotest::Button button = ovotest::Button::Left);
+    void click(HWND wnd, CPoint client, ovotest::Button button = ovotest::Button::Left);
+    void key(WORD virtualKey, int times = 1);
+    void chord(WORD held, WORD virtualKey);
+    void type(const std::wstring& text);
+
+    void waitFor(const std::string& what, const std::function<bool()>& condition);
+    /// Waits until the program has ended; gives its exit code.
+    DWORD waitForEnd();
+
+private:
+    std::vector<HWND> shownWindows() const;
+    bool isInFront() const;
+    void clickAt(CPoint screen, ovotest::Button button);
+
+    PROCESS_INFORMATION m_process{};
+    HWND m_main = nullptr;
+    ovotest::Input m_input;
+};
+
+/// What a window of any program says of itself.
+std::wstring textOf(HWND wnd);
+std::wstring textOf(HWND dialog, int id);
+CRect rectOf(HWND wnd);
+/// The colour of the screen at a point of a window's client area.
+COLORREF colourAt(HWND wnd, CPoint client);

@@ -1,0 +1,25 @@
+// Used by Controls.rc
+#define IDD_CONTROLS_DIALOG 102
+#define IDR_MAINFRAME 128
+#define IDB_LEAVES 129
+
+#define IDC_PERSON 1000
+#define IDC_AGE 1001
+#define IDC_AGE_SPIN 1002
+#define IDC_MEMBER 1003
+#define IDC_MALE 1004
+#define IDC_FEMALE 1005
+#define IDC_COUNTRY 1006
+#define IDC_SPORTS 1007
+#define IDC_VOLUME 1008
+#define IDC_LEVEL 1009
+#define IDC_TREES 1010
+#define IDC_BOOKS 1011
+#define IDC_PAGES 1012
+#define IDC_BORN 1013
+#define IDC_MONTH 1014
+#define IDC_SHORTCUT 1015
+#define IDC_ADDRESS 1016
+#define IDC_CLIP 1017
+#define IDC_SHOW 1018
+#define IDC_SUMMARY 1019

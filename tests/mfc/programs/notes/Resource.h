@@ -1,0 +1,6 @@
+// Used by Notes.rc
+#define IDD_ABOUTBOX 100
+#define IDP_CANNOT_OPEN 101
+#define IDR_MAINFRAME 128
+#define IDC_VERSION 1000
+#define ID_EDIT_STAMP 32771

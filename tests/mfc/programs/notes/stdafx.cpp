@@ -1,0 +1,2 @@
+// stdafx.cpp : source of the precompiled header
+#include "stdafx.h"
