@@ -53,7 +53,8 @@ TEST_F(Finder, FindsOneAfterTheOtherAndBeginsAgain)
     const HWND dialog = openDialog();
     EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(dialog, IDC_FIND_NEXT))) << "there is nothing to find yet";
     m_program.type(L"oak");
-    m_program.waitFor("the button", [&] { return ::IsWindowEnabled(::GetDlgItem(dialog, IDC_FIND_NEXT)) != FALSE; });
+    m_program.waitFor("the button",
+                      [&] { return ::IsWindowEnabled(::GetDlgItem(dialog, IDC_FIND_NEXT)) != FALSE; });
     m_program.key(VK_RETURN);
     waitForSelection(3, 6);
     m_program.key(VK_RETURN);
@@ -83,7 +84,8 @@ TEST_F(Finder, StaysOpenWhileTheTextIsEdited)
     EXPECT_TRUE(::IsWindowEnabled(m_program.main())) << "the dialog is not modal";
     m_program.click(editor(), CPoint(300, 150));
     m_program.type(L" Elm");
-    m_program.waitFor("the longer text", [this] { return textOf(editor()) == std::wstring(kText) + L" Elm"; });
+    m_program.waitFor("the longer text",
+                      [this] { return textOf(editor()) == std::wstring(kText) + L" Elm"; });
     EXPECT_TRUE(::IsWindowVisible(dialog));
     m_program.click(::GetDlgItem(dialog, IDC_FIND_NEXT));
     waitForSelection(11, 14);

@@ -60,7 +60,10 @@ protected:
     }
 
     static HWND viewOf(RunningProgram& program) { return ::GetDlgItem(program.main(), AFX_IDW_PANE_FIRST); }
-    static bool stamped(RunningProgram& program, CPoint point) { return colourAt(viewOf(program), point) == kStamp; }
+    static bool stamped(RunningProgram& program, CPoint point)
+    {
+        return colourAt(viewOf(program), point) == kStamp;
+    }
 
     static void close(RunningProgram& program)
     {
@@ -119,7 +122,8 @@ TEST_F(Notes, HidesAndShowsItsBars)
     program.waitFor("the view to take its room", [&] { return rectOf(viewOf(program)).bottom > before; });
     choose(program, 'V', 'S');
     program.waitFor("the status bar to come back", [&] { return ::IsWindowVisible(status) != FALSE; });
-    program.waitFor("the view to give its room back", [&] { return rectOf(viewOf(program)).bottom == before; });
+    program.waitFor("the view to give its room back",
+                    [&] { return rectOf(viewOf(program)).bottom == before; });
     close(program);
 }
 
@@ -153,7 +157,8 @@ TEST_F(Notes, RemembersItsFiles)
     {
         RunningProgram program(L"mfc_program_notes", quoted(second));
         choose(program, 'F', '2');
-        program.waitFor("the first note", [&] { return textOf(program.main()) == L"first note.txt - Notes"; });
+        program.waitFor("the first note",
+                        [&] { return textOf(program.main()) == L"first note.txt - Notes"; });
         close(program);
     }
     EXPECT_EQ(recent(L"File1"), first.wstring());

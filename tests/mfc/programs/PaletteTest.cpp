@@ -37,7 +37,7 @@ protected:
     void close()
     {
         m_program.chord(VK_MENU, VK_F4);
-        EXPECT_EQ(m_program.waitForEnd(), 0u);
+        EXPECT_TRUE(m_program.endsByItself());
     }
 
     RunningProgram m_program{L"mfc_program_palette"};
@@ -60,11 +60,13 @@ TEST_F(PaletteProgram, AClickChoosesAndMarksARow)
     m_program.click(list(), CPoint(90, 70));
     m_program.waitFor("the name", [this] { return chosen() == L"Ocean"; });
     const CPoint besideTheText(150, 62);
-    m_program.waitFor("the mark", [&] { return colourAt(list(), besideTheText) == ::GetSysColor(COLOR_HIGHLIGHT); });
+    m_program.waitFor("the mark",
+                      [&] { return colourAt(list(), besideTheText) == ::GetSysColor(COLOR_HIGHLIGHT); });
     EXPECT_EQ(colourAt(list(), CPoint(20, 70)), kOcean);
     m_program.key(VK_UP);
     m_program.waitFor("the other name", [this] { return chosen() == L"Forest"; });
-    m_program.waitFor("the mark to go", [&] { return colourAt(list(), besideTheText) == ::GetSysColor(COLOR_WINDOW); });
+    m_program.waitFor("the mark to go",
+                      [&] { return colourAt(list(), besideTheText) == ::GetSysColor(COLOR_WINDOW); });
     close();
 }
 

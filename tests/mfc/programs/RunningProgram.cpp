@@ -180,7 +180,8 @@ void RunningProgram::waitFor(const std::string& what, const std::function<bool()
 
 DWORD RunningProgram::waitForEnd()
 {
-    waitFor("the program to end", [this] { return ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_OBJECT_0; });
+    waitFor("the program to end",
+            [this] { return ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_OBJECT_0; });
     DWORD code = 0;
     ::GetExitCodeProcess(m_process.hProcess, &code);
     return code;

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-/// Starts a program, and acts as its user: with real input, looking at its windows. What is waited for in vain is thrown
-/// as std::runtime_error. The program is ended at the latest with this object.
+/// Starts a program, and acts as its user: with real input, looking at its windows. What is waited for in
+/// vain is thrown as std::runtime_error. The program is ended at the latest with this object.
 class RunningProgram
 {
 public:
@@ -40,6 +40,9 @@ public:
     void waitFor(const std::string& what, const std::function<bool()>& condition);
     /// Waits until the program has ended; gives its exit code.
     DWORD waitForEnd();
+    /// Waits until the program has ended; false when it crashed. The exit code of a program whose main window
+    /// is a dialog is that of the last message, so it says no more than this.
+    bool endsByItself() { return waitForEnd() < 0x10000; }
 
 private:
     std::vector<HWND> shownWindows() const;

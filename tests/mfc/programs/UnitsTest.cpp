@@ -27,7 +27,7 @@ protected:
     static void close(RunningProgram& program)
     {
         program.key(VK_ESCAPE);
-        EXPECT_EQ(program.waitForEnd(), 0u);
+        EXPECT_TRUE(program.endsByItself());
     }
 };
 
@@ -40,15 +40,15 @@ TEST_F(Units, ShowTheDialogOfTheExtension)
     EXPECT_EQ(textOf(dialog, IDC_METRES), L"5");
     const CRect place = rectOf(dialog);
     const CRect tool = rectOf(program.main());
-    EXPECT_EQ(place.left, (tool.left + tool.right - place.Width()) / 2) << "the template leaves the place open";
+    EXPECT_EQ(place.left, (tool.left + tool.right - place.Width()) / 2)
+        << "the template leaves the place open";
     program.type(L"10"); // the number is selected
     program.key(VK_RETURN);
     program.waitFor("the result", [&] { return textOf(dialog, IDC_FEET) == L"32.81 feet"; });
     program.key(VK_ESCAPE);
     program.waitFor("the dialog to go", [&] { return !::IsWindow(dialog); });
-    program.waitFor("the tool to be told", [&] {
-        return textOf(program.main(), IDC_LAST) == L"CConvertDlg: 10.0 m are 32.8 ft";
-    });
+    program.waitFor("the tool to be told",
+                    [&] { return textOf(program.main(), IDC_LAST) == L"CConvertDlg: 10.0 m are 32.8 ft"; });
     close(program);
 }
 
