@@ -23,12 +23,12 @@ bool translatesF1(HACCEL table)
     });
 }
 
-bool menuIsOpen()
+/// Whether a request from a menu names the item that the user is at. Some systems ask a second time, with the
+/// item under the pointer.
+bool isAbout(const HELPINFO& info, UINT tracked)
 {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    constexpr DWORD kMenu = GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE;
-    return ::GetGUIThreadInfo(::GetCurrentThreadId(), &info) && (info.flags & kMenu);
+    const bool system = info.iCtrlId >= 0xF000 && info.iCtrlId <= 0xFFFF;
+    return tracked == 0 || system || static_cast<UINT>(info.iCtrlId) == tracked;
 }
 
 bool isOneOf(HWND wnd, HWND control)
@@ -49,10 +49,10 @@ BOOL CFrameWnd::OnHelpInfo(HELPINFO* info)
     if (afxdetail::helpOfMessageBox())
         return TRUE;
     const bool inMenu = info->iContextType == HELPINFO_MENUITEM;
-    // The key comes a second time here after it was translated into a command, or after the open menu has
-    // asked.
-    const bool own = !inMenu && isOneOf(m_hWnd, static_cast<HWND>(info->hItemHandle));
-    if (isModified() || (own && (translatesF1(m_hAccelTable) || menuIsOpen())))
+    if (isModified() || (inMenu && !isAbout(*info, m_nIDTracking)))
+        return TRUE;
+    // The key comes a second time here, after it was translated into a command.
+    if (!inMenu && translatesF1(m_hAccelTable) && isOneOf(m_hWnd, static_cast<HWND>(info->hItemHandle)))
         return TRUE;
     return afxdetail::askForHelp() || CWnd::OnHelpInfo(info);
 }
