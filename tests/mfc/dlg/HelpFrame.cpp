@@ -3,9 +3,9 @@
 using namespace ovotest;
 
 BEGIN_MESSAGE_MAP(HelpFrame, TestFrame)
-ON_COMMAND(ID_HELP, &HelpFrame::OnHelp)
-ON_COMMAND(ID_CONTEXT_HELP, &HelpFrame::OnContextHelp)
-ON_COMMAND(ID_DEFAULT_HELP, &CFrameWnd::OnHelpFinder)
+    ON_COMMAND(ID_HELP, &HelpFrame::OnHelp)
+    ON_COMMAND(ID_CONTEXT_HELP, &HelpFrame::OnContextHelp)
+    ON_COMMAND(ID_DEFAULT_HELP, &CFrameWnd::OnHelpFinder)
 END_MESSAGE_MAP()
 
 HelpFrame* HelpFrame::make()
