@@ -3,6 +3,7 @@
 
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/toolbar/ButtonUpdate.h>
 #include <ovoui/toolbar/FlyoutTip.h>
 #include <ovoui/toolbar/ImageStrip.h>
 #include <ovoui/toolbar/VantorToolBar.h>
@@ -211,12 +212,19 @@ bool CFlyoutToolbar::showLater()
 void CFlyoutToolbar::show()
 {
     const std::shared_ptr<CFlyoutToolbar> self = shared_from_this();
-    if (CWnd* const owner = GetOwner()) // only asked as a command target
-        OnUpdateCmdUI(static_cast<CFrameWnd*>(owner), TRUE);
+    OnUpdateCmdUI(nullptr, TRUE);
     if (!m_hWnd)
         return; // an update handler has closed it
     constexpr UINT kInPlace = SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE;
     SetWindowPos(&wndTop, 0, 0, 0, 0, kInPlace | SWP_SHOWWINDOW);
+}
+
+/// The owner need not be a frame: it is only asked as a command target.
+void CFlyoutToolbar::OnUpdateCmdUI(CFrameWnd*, BOOL disableIfNoHandler)
+{
+    const std::shared_ptr<CFlyoutToolbar> self = weak_from_this().lock();
+    if (CWnd* const owner = GetOwner())
+        updateButtons(*this, *owner, disableIfNoHandler, [this] { return m_hWnd != nullptr; });
 }
 
 BOOL CFlyoutToolbar::DestroyWindow()

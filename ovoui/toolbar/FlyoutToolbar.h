@@ -51,6 +51,8 @@ public:
     /// The pointer is at this point of the screen: makes the entry there hot.
     Entry track(CPoint screen);
 
+    /// Asks the bar's owner; `target` is ignored.
+    void OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL DestroyWindow() override;
 

@@ -33,12 +33,14 @@ ButtonChange changeBetween(const TBBUTTON& before, const TBBUTTON& after)
     return changeOf(fieldsOf(before), wanted);
 }
 
-/// While it lives the window does not redraw, and afterwards no more of it is invalid than before.
+/// While it lives the control does not redraw and tells the owner nothing, which could destroy it in the
+/// middle of the change. Afterwards no more of it is invalid than before.
 class QuietChange
 {
 public:
     explicit QuietChange(HWND wnd)
         : m_wnd(wnd)
+        , m_owner(::SendMessageW(wnd, TB_SETPARENT, 0, 0))
         , m_invalid(::CreateRectRgn(0, 0, 0, 0))
     {
         ::GetUpdateRgn(m_wnd, m_invalid, FALSE);
@@ -51,12 +53,14 @@ public:
         ::ValidateRect(m_wnd, nullptr);
         ::InvalidateRgn(m_wnd, m_invalid, TRUE);
         ::DeleteObject(m_invalid);
+        ::SendMessageW(m_wnd, TB_SETPARENT, static_cast<WPARAM>(m_owner), 0);
     }
     QuietChange(const QuietChange&) = delete;
     QuietChange& operator=(const QuietChange&) = delete;
 
 private:
     HWND m_wnd;
+    LRESULT m_owner;
     HRGN m_invalid;
 };
 
@@ -82,7 +86,7 @@ std::vector<TBBUTTON> CVantorToolBar::allButtons() const
 
 BOOL CVantorToolBar::InsertButton(int index, TBBUTTON* button)
 {
-    if (m_state->records.insert(index) && ms_pressedBar == this)
+    if (m_state->records.insert(index) && ms_activeBar == this)
         ms_dragButton = afterInsertion(ms_dragButton, index);
     if (!button)
         return 1;
@@ -93,7 +97,7 @@ BOOL CVantorToolBar::InsertButton(int index, TBBUTTON* button)
 BOOL CVantorToolBar::DeleteButton(int index)
 {
     m_state->records.erase(index);
-    if (ms_pressedBar == this && index >= 0) {
+    if (ms_activeBar == this && index >= 0) {
         if (ms_dragButton == index)
             closeFlyout();
         ms_dragButton = afterDeletion(ms_dragButton, index);
@@ -123,15 +127,11 @@ void CVantorToolBar::_setButton(int index, const TBBUTTON* button)
         text = words;
         wanted.iString = reinterpret_cast<INT_PTR>(text.c_str());
     }
-    const std::shared_ptr<State> state = m_state;
     {
         const QuietChange quiet(m_hWnd);
-        SendMessage(TB_DELETEBUTTON, static_cast<WPARAM>(index)); // tells the owner
-        if (state->usable())
-            SendMessage(TB_INSERTBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&wanted));
+        SendMessage(TB_DELETEBUTTON, static_cast<WPARAM>(index));
+        SendMessage(TB_INSERTBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&wanted));
     }
-    if (!state->usable())
-        return;
     CRect rect;
     if (change == ButtonChange::Look && SendMessage(TB_GETITEMRECT, static_cast<WPARAM>(index),
                                                     reinterpret_cast<LPARAM>(static_cast<RECT*>(&rect))))

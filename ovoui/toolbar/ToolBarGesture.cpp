@@ -28,7 +28,7 @@ Press CVantorToolBar::press()
 
 bool CVantorToolBar::isPressed() const
 {
-    return ms_dragging && ms_pressedBar == this;
+    return ms_dragging && ms_activeBar == this;
 }
 
 void CVantorToolBar::closeFlyout()
@@ -41,7 +41,7 @@ void CVantorToolBar::endPress()
 {
     ms_dragging = false;
     ms_dragButton = kNoButton;
-    ms_pressedBar = nullptr;
+    ms_activeBar = nullptr;
     closeFlyout();
 }
 
@@ -80,7 +80,7 @@ void CVantorToolBar::OnLButtonDown(UINT flags, CPoint point)
         CreatePopup(under.index, rect, 1);
         if (!state->usable())
             return;
-        ms_pressedBar = this;
+        ms_activeBar = this; // also when the flyout has no entries
         ms_dragButton = outcome.next.button;
         ms_dragging = true;
     }
@@ -102,6 +102,7 @@ void CVantorToolBar::CreatePopup(int index, const CRect& rect, int held)
     if (!flyout->create(*this, FlyoutRecord(*record), horizontal))
         return;
     ms_popupBar = flyout;
+    ms_activeBar = this;
     flyout->placeAt(rect, horizontal);
     if (!held || !flyout->showLater())
         flyout->show();

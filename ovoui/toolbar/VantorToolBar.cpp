@@ -1,6 +1,7 @@
 // CVantorToolBar: its life, updates and notifications.
 #include <ovoui/toolbar/VantorToolBar.h>
 
+#include <ovoui/toolbar/ButtonUpdate.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/ToolBarState.h>
 #include <ovoui/toolbar/core/BarRules.h>
@@ -43,7 +44,7 @@ bool CVantorToolBar::ms_dragging = false;
 int CVantorToolBar::ms_dragButton = -1;
 bool CVantorToolBar::ms_idleTimerPending = false;
 DWORD CVantorToolBar::ms_apiRestartedTickCount = 0;
-CVantorToolBar* CVantorToolBar::ms_pressedBar = nullptr;
+CVantorToolBar* CVantorToolBar::ms_activeBar = nullptr;
 
 CVantorToolBar::CVantorToolBar()
     : m_state(std::make_shared<State>(*this))
@@ -52,7 +53,7 @@ CVantorToolBar::CVantorToolBar()
 
 CVantorToolBar::~CVantorToolBar()
 {
-    if (ms_pressedBar == this)
+    if (ms_activeBar == this)
         endPress();
     DestroyWindow(); // while the handlers of this class still answer
     m_state->bar = nullptr;
@@ -60,7 +61,7 @@ CVantorToolBar::~CVantorToolBar()
 
 void CVantorToolBar::OnDestroy()
 {
-    if (ms_pressedBar == this)
+    if (ms_activeBar == this)
         endPress();
     CToolBar::OnDestroy();
 }
@@ -76,9 +77,9 @@ HWND CVantorToolBar::commandTarget() const
 
 void CVantorToolBar::OnUpdateCmdUI(CFrameWnd*, BOOL disableIfNoHandler)
 {
-    // The target need not be a frame: it is only asked as a command target.
-    if (CWnd* target = CWnd::FromHandle(commandTarget()))
-        CToolBar::OnUpdateCmdUI(static_cast<CFrameWnd*>(target), disableIfNoHandler);
+    const std::shared_ptr<State> state = m_state;
+    if (CWnd* const target = CWnd::FromHandle(commandTarget()))
+        updateButtons(*this, *target, disableIfNoHandler, [&] { return state->usable(); });
 }
 
 LRESULT CVantorToolBar::OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM lParam)
@@ -90,7 +91,12 @@ LRESULT CVantorToolBar::OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM lPar
     }
     if (std::exchange(ms_idleTimerPending, false))
         KillTimer(kIdleTimer);
-    return CToolBar::WindowProc(WM_IDLEUPDATECMDUI, disableIfNoHandler, lParam);
+    const std::shared_ptr<State> state = m_state;
+    const LRESULT result = CToolBar::WindowProc(WM_IDLEUPDATECMDUI, disableIfNoHandler, lParam);
+    // The flyout is a window of its own, which the framework's idle updates do not reach.
+    if (state->usable() && ms_activeBar == this && ms_popupBar && ms_popupBar->IsWindowVisible())
+        ms_popupBar->OnUpdateCmdUI(nullptr, static_cast<BOOL>(disableIfNoHandler));
+    return result;
 }
 
 void CVantorToolBar::OnTimer(UINT_PTR id)

@@ -172,7 +172,7 @@ private:
     HWND controlAt(const TBBUTTON& button) const;
     HWND commandTarget() const;
 
-    static CVantorToolBar* ms_pressedBar; ///< whose button is being pressed
+    static CVantorToolBar* ms_activeBar; ///< whose button is pressed, or whose flyout is open
 
     std::shared_ptr<State> m_state;
 };

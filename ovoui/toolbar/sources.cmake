@@ -16,6 +16,7 @@ endif()
 
 target_sources(ovoui PRIVATE
   ${toolbar_core}
+  ${CMAKE_CURRENT_LIST_DIR}/ButtonUpdate.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FlyoutTip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FlyoutToolbar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FlyoutTracking.cpp

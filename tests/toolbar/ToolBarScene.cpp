@@ -65,6 +65,12 @@ BOOL BarFrame::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info
     return TRUE;
 }
 
+BOOL BarFrame::PreTranslateMessage(MSG* message)
+{
+    ++pretranslated;
+    return CFrameWnd::PreTranslateMessage(message);
+}
+
 LRESULT BarFrame::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_COMMAND && HIWORD(wParam) <= 1) // of a bar, or of an accelerator

@@ -60,12 +60,14 @@ public:
     std::set<UINT> disabled;
     std::vector<std::wstring> prompts; ///< what the message line showed
     int askedFor = 0;                  ///< update requests
+    int pretranslated = 0;             ///< messages that it was asked about
     std::function<void(UINT id)> onCommand;
     std::function<void(UINT id)> onUpdate;
     std::function<LRESULT(NMHDR*)> onNotify;
 
     CStatusBar& status() { return m_status; }
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override;
+    BOOL PreTranslateMessage(MSG* message) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 protected:

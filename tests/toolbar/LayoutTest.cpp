@@ -1,0 +1,253 @@
+// Rows, sizes, and the places of embedded controls.
+#include "ToolBarScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+/// The same bar once more as the framework lays it out.
+class PlainBar : public CToolBar
+{
+public:
+    explicit PlainBar(const TestBar& model)
+    {
+        CreateEx(model.GetParentFrame(), TBSTYLE_FLAT, WS_CHILD | (model.GetBarStyle() & CBRS_ALL),
+                 CRect(0, 0, 0, 0), 99);
+        std::vector<UINT> ids;
+        const int count = static_cast<int>(::SendMessageW(model.m_hWnd, TB_BUTTONCOUNT, 0, 0));
+        for (int i = 0; i < count; ++i)
+            ids.push_back(model.GetItemID(i));
+        SetButtons(ids.data(), count);
+    }
+};
+
+CString rowsOf(const CToolBar& bar)
+{
+    CString rows;
+    const int count = static_cast<int>(::SendMessageW(bar.m_hWnd, TB_BUTTONCOUNT, 0, 0));
+    for (int i = 0; i < count; ++i) {
+        rows += L'b';
+        if (bar.GetButtonStyle(i) & TBBS_WRAPPED)
+            rows += L'/';
+    }
+    return rows;
+}
+
+class BarLayout : public ::testing::Test
+{
+protected:
+    void style(DWORD add) { scene.bar().SetBarStyle(scene.bar().GetBarStyle() | add); }
+
+    /// A separator that keeps the place of an edit, before the last button.
+    void addEdit()
+    {
+        TBBUTTON place{};
+        place.idCommand = IDC_BAR_EDIT;
+        place.iBitmap = 100;
+        place.fsStyle = TBSTYLE_SEP;
+        place.fsState = TBSTATE_ENABLED;
+        scene.bar().InsertButton(BarScene::Other, &place);
+        edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 90, 18), &scene.bar(), IDC_BAR_EDIT);
+    }
+
+    bool editShown() { return (edit.GetStyle() & WS_VISIBLE) != 0; }
+
+    BarScene scene;
+    CEdit edit;
+};
+
+constexpr DWORD kModes[] = {LM_HORZ,
+                            LM_HORZ | LM_STRETCH,
+                            0,
+                            LM_STRETCH,
+                            LM_HORZ | LM_HORZDOCK,
+                            LM_VERTDOCK,
+                            LM_HORZ | LM_HORZDOCK | LM_STRETCH,
+                            LM_VERTDOCK | LM_STRETCH,
+                            LM_HORZ | LM_MRUWIDTH,
+                            LM_HORZ | LM_COMMIT};
+
+} // namespace
+
+TEST_F(BarLayout, IsTheFrameworksForButtonsAlone)
+{
+    for (const DWORD sizing : {DWORD{0}, DWORD{CBRS_SIZE_DYNAMIC}, DWORD{CBRS_SIZE_FIXED}}) {
+        style(sizing);
+        PlainBar plain(scene.bar());
+        for (const DWORD mode : kModes)
+            for (const int length : {-1, 40, 60, 90, 200}) {
+                EXPECT_EQ(scene.bar().CalcDynamicLayout(length, mode), plain.CalcDynamicLayout(length, mode))
+                    << "mode " << mode << " length " << length << " style " << sizing;
+                EXPECT_EQ(rowsOf(scene.bar()), rowsOf(plain)) << "mode " << mode << " length " << length;
+            }
+        for (const BOOL stretch : {FALSE, TRUE})
+            for (const BOOL horizontal : {FALSE, TRUE})
+                EXPECT_EQ(scene.bar().CalcFixedLayout(stretch, horizontal),
+                          plain.CalcFixedLayout(stretch, horizontal));
+        scene.bar().SetBarStyle(scene.bar().GetBarStyle() & ~sizing);
+    }
+}
+
+TEST_F(BarLayout, ALengthAloneChangesNothing)
+{
+    style(CBRS_SIZE_DYNAMIC);
+    scene.bar().calcLayout(LM_HORZ);
+    const CString before = rowsOf(scene.bar());
+    const CSize narrow = scene.bar().calcLayout(LM_HORZ, 50);
+    EXPECT_EQ(rowsOf(scene.bar()), before);
+    EXPECT_LE(narrow.cx, 60);
+    scene.bar().calcLayout(LM_HORZ | LM_COMMIT, 50);
+    EXPECT_NE(rowsOf(scene.bar()), before);
+    EXPECT_EQ(scene.bar().calcLayout(LM_HORZ | LM_MRUWIDTH), narrow) << "the width is remembered";
+}
+
+TEST_F(BarLayout, RowsForAHeightAreNoHigher)
+{
+    style(CBRS_SIZE_DYNAMIC);
+    for (int height = 30; height < 150; height += 7)
+        EXPECT_LE(scene.bar().calcLayout(LM_HORZ | LM_LENGTHY, height).cy, height);
+}
+
+TEST_F(BarLayout, SizeAndRowsOfGivenButtons)
+{
+    std::vector<TBBUTTON> buttons(3);
+    for (int i = 0; i < 3; ++i)
+        scene.bar()._getButton(i, &buttons[static_cast<std::size_t>(i)]);
+    const CSize row = scene.bar().calcSize(buttons.data(), 3);
+    scene.bar().sizeToolBar(buttons.data(), 3, row.cx - 1);
+    EXPECT_TRUE(buttons[1].fsState & TBSTATE_WRAP);
+    EXPECT_EQ(scene.bar().calcSize(buttons.data(), 3).cy, 2 * row.cy);
+    scene.bar().sizeToolBar(buttons.data(), 3, row.cy, true);
+    EXPECT_FALSE(buttons[1].fsState & TBSTATE_WRAP) << "no higher than one row";
+    EXPECT_EQ(scene.bar().calcSize(buttons.data(), 3), row);
+    EXPECT_EQ(scene.bar().calcSize(nullptr, 0), CSize(0, 0));
+}
+
+// Embedded controls
+
+TEST_F(BarLayout, AControlLiesInTheMiddleOfItsPlace)
+{
+    addEdit();
+    scene.frame().RecalcLayout();
+    CRect place;
+    scene.bar().GetItemRect(BarScene::Other, &place);
+    EXPECT_EQ(place.Width(), 100);
+    CRect now;
+    edit.GetWindowRect(&now);
+    scene.bar().ScreenToClient(&now);
+    EXPECT_EQ(now.CenterPoint(), place.CenterPoint());
+    EXPECT_EQ(now.Size(), CSize(90, 18));
+}
+
+TEST_F(BarLayout, AVerticalBarPutsControlsAwayAndAHorizontalOneBringsThemBack)
+{
+    addEdit();
+    scene.bar().calcLayout(LM_HORZ);
+    const CSize wide = scene.bar().calcLayout(LM_HORZ);
+    const CSize upright = scene.bar().calcLayout(0);
+    EXPECT_FALSE(editShown());
+    EXPECT_LT(upright.cx, 60) << "as wide as its buttons";
+    EXPECT_EQ(scene.bar().calcLayout(LM_HORZ), wide);
+    EXPECT_TRUE(editShown());
+}
+
+TEST_F(BarLayout, AControlThatTheHostHasHiddenStaysHidden)
+{
+    addEdit();
+    edit.ShowWindow(SW_HIDE);
+    scene.bar().calcLayout(0);
+    scene.bar().calcLayout(LM_HORZ);
+    EXPECT_FALSE(editShown());
+}
+
+// Controls that draw themselves
+
+namespace
+{
+
+class SelfDrawn : public CComboBox
+{
+public:
+    int drawn = 0;
+    void DrawItem(LPDRAWITEMSTRUCT) override { ++drawn; }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = 33; }
+};
+
+} // namespace
+
+TEST_F(BarLayout, AnOwnerDrawnComboThatIsNotDrawnOtherwiseShowsItsText)
+{
+    // Without an object of the framework, which would have to draw it
+    const HWND combo = ::CreateWindowExW(
+        0, L"COMBOBOX", nullptr,
+        WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 150, 0, 110, 120,
+        scene.bar().m_hWnd, reinterpret_cast<HMENU>(IDC_BAR_COMBO), nullptr, nullptr);
+    ::SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"MMMM"));
+    ::SendMessageW(combo, CB_SETCURSEL, 0, 0);
+    EXPECT_GT(::SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0), 6);
+    CClientDC screen(nullptr);
+    CDC dc;
+    dc.CreateCompatibleDC(&screen);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&screen, 80, 20);
+    CBitmap* const before = dc.SelectObject(&bitmap);
+    DRAWITEMSTRUCT item{};
+    item.CtlType = ODT_COMBOBOX;
+    item.CtlID = IDC_BAR_COMBO;
+    item.hwndItem = combo;
+    item.hDC = dc.m_hDC;
+    item.rcItem = CRect(0, 0, 80, 20);
+    scene.bar().SendMessage(WM_DRAWITEM, IDC_BAR_COMBO, reinterpret_cast<LPARAM>(&item));
+    int letters = 0;
+    for (int x = 0; x < 80; ++x)
+        letters += dc.GetPixel(x, 10) != ::GetSysColor(COLOR_WINDOW);
+    EXPECT_GT(letters, 4);
+    EXPECT_LT(letters, 70);
+    item.itemState = ODS_SELECTED;
+    scene.bar().SendMessage(WM_DRAWITEM, IDC_BAR_COMBO, reinterpret_cast<LPARAM>(&item));
+    EXPECT_EQ(dc.GetPixel(78, 1), ::GetSysColor(COLOR_HIGHLIGHT));
+    dc.SelectObject(before);
+}
+
+TEST_F(BarLayout, AControlThatDrawsItselfIsAsked)
+{
+    SelfDrawn combo;
+    combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS,
+                 CRect(150, 0, 260, 120), &scene.bar(), IDC_BAR_COMBO);
+    DRAWITEMSTRUCT item{};
+    item.CtlType = ODT_COMBOBOX;
+    item.hwndItem = combo.m_hWnd;
+    scene.bar().SendMessage(WM_DRAWITEM, IDC_BAR_COMBO, reinterpret_cast<LPARAM>(&item));
+    EXPECT_GT(combo.drawn, 0);
+}
+
+// Gripper
+
+TEST_F(BarLayout, TheGripperIsDrawnWhileTheBarDoesNotFloat)
+{
+    class Gripping : public TestBar
+    {
+    public:
+        int drawn = 0;
+        void DrawNCGripper(CDC* dc, const CRect& rect) override
+        {
+            ++drawn;
+            TestBar::DrawNCGripper(dc, rect);
+        }
+    } bar;
+    bar.CreateEx(&scene.frame(), TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_GRIPPER);
+    static constexpr UINT kButton[] = {ID_PLAIN};
+    bar.SetButtons(kButton, 1);
+    scene.frame().RecalcLayout();
+    GuiThread::settle();
+    bar.drawn = 0;
+    bar.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_EQ(bar.drawn, 1);
+    bar.SetBarStyle(bar.GetBarStyle() | CBRS_FLOATING);
+    bar.drawn = 0;
+    bar.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_EQ(bar.drawn, 0);
+}

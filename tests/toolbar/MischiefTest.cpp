@@ -1,0 +1,248 @@
+// Hosts that change or destroy things while the toolbar calls them.
+#include "ToolBarScene.h"
+
+#include "support/GdiCounter.h"
+#include "support/WindowCounter.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+using Ids = std::vector<UINT>;
+
+constexpr char kShown[] = "the flyout";
+
+struct Misdeed
+{
+    const char* name;
+    std::function<void(BarScene&)> commit;
+};
+
+const std::vector<Misdeed>& misdeeds()
+{
+    static const std::vector<Misdeed> all{
+        {"deletes the bar", [](BarScene& scene) { scene.deleteBar(); }},
+        {"destroys the bar's window", [](BarScene& scene) { scene.bar().DestroyWindow(); }},
+        {"destroys the frame", [](BarScene& scene) { scene.frame().DestroyWindow(); }},
+        {"deactivates the application", [](BarScene&) { CVantorToolBar::ActivateApp(FALSE); }},
+        {"deletes the button", [](BarScene& scene) { scene.bar().DeleteButton(BarScene::Lines); }},
+        {"inserts a button",
+         [](BarScene& scene) {
+             TBBUTTON button{};
+             button.idCommand = ID_OTHER;
+             button.fsState = TBSTATE_ENABLED;
+             scene.bar().InsertButton(0, &button);
+         }},
+        {"attaches another flyout",
+         [](BarScene& scene) { scene.bar().AttachBar(BarScene::Lines, IDR_SHAPES, 16, {0}, false); }},
+        {"detaches all", [](BarScene& scene) { scene.bar().DetachAllBars(); }},
+        {"opens another flyout",
+         [](BarScene& scene) { scene.bar().CreatePopup(BarScene::Shapes, CRect(300, 300, 320, 320), 1); }},
+        {"takes the capture",
+         [](BarScene& scene) {
+             scene.frame().SetCapture();
+             ::ReleaseCapture();
+         }},
+        {"pumps messages",
+         [](BarScene&) {
+             MSG message;
+             while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+                 ::DispatchMessageW(&message);
+         }},
+        {"throws", [](BarScene&) { throw std::runtime_error("misdeed"); }},
+    };
+    return all;
+}
+
+/// Commits it once.
+std::function<void()> once(BarScene& scene, const Misdeed& misdeed, int& done)
+{
+    return [&scene, &misdeed, &done] {
+        if (done++ == 0)
+            misdeed.commit(scene);
+    };
+}
+
+CRect onScreen(const TestBar& bar, int index)
+{
+    CRect rect;
+    bar.GetItemRect(index, &rect);
+    bar.ClientToScreen(&rect);
+    return rect;
+}
+
+} // namespace
+
+TEST(FlyoutMischief, AnUpdateHandlerMayDoAnythingWhileTheFlyoutIsShown)
+{
+    for (const Misdeed& misdeed : misdeeds()) {
+        SCOPED_TRACE(misdeed.name);
+        BarScene scene;
+        int done = 0;
+        const std::function<void()> commit = once(scene, misdeed, done);
+        scene.frame().onUpdate = [&](UINT id) {
+            if (id == ID_CURVE) // asked for by the flyout alone
+                commit();
+        };
+        try {
+            scene.bar().CreatePopup(BarScene::Lines, onScreen(scene.bar(), BarScene::Lines), 0);
+        } catch (const std::runtime_error&) {
+        }
+        EXPECT_EQ(done > 0, true);
+        TestBar::ms_popupBar.reset();
+        if (scene.frameLives())
+            scene.frame().onUpdate = nullptr;
+        GuiThread::settle();
+    }
+}
+
+TEST(FlyoutMischief, TheOwnerMayDoAnythingInTheCommandOfAClick)
+{
+    for (const Misdeed& misdeed : misdeeds()) {
+        if (std::string(misdeed.name) == "throws")
+            continue; // it would come out of the loop that the robot runs
+        SCOPED_TRACE(misdeed.name);
+        BarScene scene;
+        int done = 0;
+        const std::function<void()> commit = once(scene, misdeed, done);
+        scene.frame().onCommand = [&](UINT) { commit(); };
+        scene.user.press(scene.button(BarScene::Lines)).waitFor(kShown, &BarScene::flyoutShown).release();
+        EXPECT_EQ(done, 1);
+        TestBar::ms_popupBar.reset();
+        if (scene.frameLives())
+            scene.frame().onCommand = nullptr;
+    }
+}
+
+TEST(FlyoutMischief, TheOwnerIsNotToldOfTheReplacement)
+{
+    BarScene scene;
+    int told = 0;
+    scene.frame().onNotify = [&](NMHDR* header) {
+        told += header->code == static_cast<UINT>(TBN_DELETINGBUTTON);
+        return 0;
+    };
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(1))
+        .release();
+    EXPECT_EQ(scene.commands(), Ids{ID_CURVE});
+    EXPECT_EQ(told, 0);
+    scene.bar().DeleteButton(0);
+    EXPECT_EQ(told, 1) << "the host's own deletion is";
+}
+
+TEST(FlyoutMischief, TheBarMayGoWhileItsFlyoutIsOpen)
+{
+    for (const bool shown : {false, true}) {
+        BarScene scene;
+        scene.user.press(scene.button(BarScene::Lines))
+            .waitFor(kShown, [&] { return !shown || BarScene::flyoutShown(); })
+            .then([&] {
+                scene.deleteBar();
+                EXPECT_TRUE(BarScene::idle());
+            })
+            .release();
+        EXPECT_EQ(scene.commands(), Ids{});
+    }
+}
+
+TEST(FlyoutMischief, TheFrameMayGoWhileTheFlyoutIsOpen)
+{
+    BarScene scene;
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .then([&] {
+            scene.frame().DestroyWindow();
+            EXPECT_TRUE(BarScene::idle());
+        })
+        .release();
+}
+
+TEST(FlyoutMischief, TheCommandMayDestroyTheOwner)
+{
+    BarScene scene;
+    scene.frame().onCommand = [&](UINT) { scene.frame().DestroyWindow(); };
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(1))
+        .release();
+    GuiThread::runUntil([&] { return !scene.frameLives(); });
+    EXPECT_FALSE(scene.frameLives());
+    EXPECT_TRUE(BarScene::idle());
+}
+
+TEST(FlyoutMischief, TheCommandMayAttachAndDelete)
+{
+    BarScene scene;
+    scene.frame().onCommand = [&](UINT) {
+        scene.bar().AttachBar(BarScene::Plain, IDR_SHAPES, 16, {0, 1}, false);
+        scene.bar().DeleteButton(BarScene::Lines);
+    };
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(1))
+        .release();
+    EXPECT_EQ(scene.commands(), Ids{ID_CURVE});
+    EXPECT_EQ(scene.bar().SendMessage(TB_BUTTONCOUNT), 4);
+    EXPECT_TRUE(scene.bar().HasFlyout(BarScene::Plain));
+    EXPECT_TRUE(scene.bar().HasFlyout(BarScene::Lines)) << "that of the next button";
+}
+
+TEST(FlyoutMischief, ButtonsMayComeAndGoDuringThePress)
+{
+    BarScene scene;
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(0)) // off the bar, whose buttons move
+        .then([&] {
+            scene.bar().DeleteButton(BarScene::Plain);
+            EXPECT_EQ(TestBar::ms_dragButton, BarScene::Lines - 1);
+        })
+        .moveTo(scene.entry(1))
+        .release();
+    EXPECT_EQ(scene.command(BarScene::Lines - 1), ID_CURVE);
+    EXPECT_EQ(scene.commands(), Ids{ID_CURVE});
+}
+
+TEST(FlyoutMischief, TheBarMayDieInTheMiddleOfTheHold)
+{
+    BarScene scene;
+    scene.bar().CreatePopup(BarScene::Lines, onScreen(scene.bar(), BarScene::Lines), 1);
+    ASSERT_NE(BarScene::flyout(), nullptr);
+    scene.deleteBar();
+    TestBar::ms_popupBar.reset();
+    GuiThread::settle();
+}
+
+TEST(FlyoutMischief, AThousandTimesOpenedAndChosenLeaveNothingBehind)
+{
+    BarScene scene;
+    const auto chooseOnce = [&](int entry) {
+        CRect button;
+        scene.bar().GetItemRect(BarScene::Lines, &button);
+        const CPoint at = button.CenterPoint();
+        scene.bar().SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+        BarScene::flyout()->show();
+        CRect target;
+        BarScene::flyout()->GetItemRect(entry, &target);
+        BarScene::flyout()->ClientToScreen(&target);
+        scene.bar().ScreenToClient(&target);
+        const CPoint to = target.CenterPoint();
+        scene.bar().SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to.x, to.y));
+        scene.bar().SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(to.x, to.y));
+    };
+    chooseOnce(0);
+    GuiThread::settle();
+    const GdiCounter objects;
+    const WindowCounter windows;
+    for (int i = 0; i < 1000; ++i)
+        chooseOnce(i % 2);
+    GuiThread::settle();
+    EXPECT_LE(objects.grown(), 0);
+    EXPECT_EQ(windows.grown(), 0);
+    EXPECT_EQ(scene.commands().size(), 1001u);
+}
