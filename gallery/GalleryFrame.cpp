@@ -5,6 +5,7 @@
 #include "resource.h"
 
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/toolbar/VantorToolBar.h>
 
 #include <algorithm>
 #include <initializer_list>
@@ -213,6 +214,13 @@ void GalleryFrame::OnPreviousPage()
 void GalleryFrame::OnSetFocus(CWnd*)
 {
     m_pageList.SetFocus();
+}
+
+// The flyout of a toolbar closes with the application's activation.
+void GalleryFrame::OnActivateApp(BOOL active, DWORD thread)
+{
+    CFrameWnd::OnActivateApp(active, thread);
+    CVantorToolBar::ActivateApp(active);
 }
 
 // Log

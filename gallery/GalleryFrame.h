@@ -42,6 +42,7 @@ protected:
     afx_msg void OnLogClear();
     afx_msg void OnUpdateLogClear(CCmdUI* ui);
     afx_msg void OnSetFocus(CWnd* old);
+    afx_msg void OnActivateApp(BOOL active, DWORD thread);
     afx_msg LRESULT OnResolutionChanged(WPARAM dots, LPARAM place);
     DECLARE_MESSAGE_MAP()
 

@@ -8,6 +8,7 @@
 #include "pages/ShadedTabsPage.h"
 #include "pages/SlidersPage.h"
 #include "pages/ThemesPage.h"
+#include "pages/ToolBarPage.h"
 #include "pages/TreePage.h"
 
 namespace
@@ -39,6 +40,9 @@ const std::vector<PageEntry>& pageTable()
         {L"tree", L"Multi-selection tree",
          L"MultiTreeCtrl: select several, drag them with either button, rename, delete, copy and paste.",
          &make<TreePage>},
+        {L"toolbars", L"Toolbars",
+         L"CVantorToolBar: hold a button and choose from its flyout; edits and combo boxes in the bar.",
+         &make<ToolBarPage>},
         {L"sliders", L"Sliders",
          L"CSliderButton drops a slider for the number beside it; CRoundSlider and CWheelSlider turn a box.",
          &make<SlidersPage>},

@@ -4,6 +4,7 @@
 #define IDR_MAIN_FRAME 101
 
 #define IDB_PROJECT_16 111
+#define IDR_SHAPES 131 // a bitmap and a toolbar
 #define IDB_PROJECT_24 112
 #define IDB_PROJECT_32 113
 #define IDB_PAGES_16 114
@@ -20,6 +21,7 @@
 #define IDD_PAGE_TREE 205
 #define IDD_PAGE_LISTS 211
 #define IDD_PAGE_COMBO 212
+#define IDD_PAGE_TOOLBARS 210
 #define IDD_PAGE_SLIDERS 214
 #define IDD_PAGE_SHADED_TABS 221
 #define IDD_TAB_CONTENT 222
@@ -88,6 +90,32 @@
 #define IDC_CONTENT_CHECK 2204
 #define IDC_CONTENT_ROUND 2205
 #define IDC_CONTENT_EDIT 2206
+#define IDC_BARS_COMMANDS 2101
+#define IDC_BARS_SHAPES 2102
+#define IDC_BARS_MIRRORED 2103
+#define IDC_BARS_HINT 2104
+#define IDC_BARS_MIRRORED_LABEL 2105
+// Commands of the bars on the page of toolbars, and the controls in them
+#define ID_BAR_FIRST 33001
+#define ID_BAR_NEW 33001
+#define ID_BAR_OPEN 33002
+#define ID_BAR_SAVE 33003
+#define ID_BAR_PRINT 33004
+#define ID_BAR_CUT 33005
+#define ID_BAR_COPY 33006
+#define ID_BAR_PASTE 33007
+#define ID_BAR_DELETE 33008
+#define ID_BAR_UNDO 33009
+#define ID_BAR_REDO 33010
+#define ID_BAR_BOX 33011
+#define ID_BAR_DISC 33012
+#define ID_BAR_TRIANGLE 33013
+#define ID_BAR_LINE 33014
+#define ID_BAR_CURVE 33015
+#define ID_BAR_ARC 33016
+#define ID_BAR_LAST 33016
+#define ID_BAR_EDIT 33021
+#define ID_BAR_COMBO 33022
 
 #define IDC_SLIDERS_BUDDY 2901  // the first of four, whose strings are the tips
 #define IDC_SLIDERS_BUTTON 2905 // the first of four

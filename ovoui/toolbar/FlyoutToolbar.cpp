@@ -27,7 +27,6 @@ namespace
 
 constexpr wchar_t kClass[] = L"OvoFlyoutToolbar";
 constexpr int kSeparatorWidth = 8;
-constexpr UINT kHoldDelay = 200; // milliseconds
 
 /// A toolbar control with a shadow, where the system has shadows.
 LPCWSTR windowClass()
@@ -68,7 +67,6 @@ CFlyoutToolbar::CFlyoutToolbar()
     : m_tipDelay(::GetDoubleClickTime()) // as the platform's tooltips have it
     , m_nextTipDelay(m_tipDelay / 5)
     , m_tipTime(m_tipDelay * 10)
-    , m_holdDelay(kHoldDelay)
 {
 }
 
@@ -146,6 +144,14 @@ void CFlyoutToolbar::addEntry(const TBBUTTON& button, int entry)
         m_entries.push_back(entry);
 }
 
+int CFlyoutToolbar::entryOf(int command) const
+{
+    const int index = CommandToIndex(static_cast<UINT>(command));
+    return index >= 0 && index < static_cast<int>(m_entries.size())
+               ? m_entries[static_cast<std::size_t>(index)]
+               : -1;
+}
+
 TBBUTTON CFlyoutToolbar::buttonAt(int index) const
 {
     TBBUTTON button{};
@@ -204,9 +210,9 @@ CSize CFlyoutToolbar::sizeOfEntries() const
 
 // Life
 
-bool CFlyoutToolbar::showLater()
+bool CFlyoutToolbar::showLater(UINT milliseconds)
 {
-    return SetTimer(kHoldTimer, m_holdDelay, nullptr) != 0;
+    return SetTimer(kHoldTimer, milliseconds, nullptr) != 0;
 }
 
 void CFlyoutToolbar::show()

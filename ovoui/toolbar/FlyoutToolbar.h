@@ -38,13 +38,15 @@ public:
 
     /// Makes the window, hidden, with the entries of a record. False on failure.
     bool create(CVantorToolBar& bar, const ovoui::toolbar::FlyoutRecord& record, bool horizontal);
+    /// The first entry with a command; -1 when there is none.
+    int entryOf(int command) const;
     /// Puts it below or beside a button, in screen pixels, inside the work area.
     void placeAt(const CRect& button, bool horizontal);
 
     /// Brings the entries up to date and shows them, without activating anything.
     void show();
-    /// The same after the hold delay. False when there is no timer.
-    bool showLater();
+    /// The same after a while. False when there is no timer.
+    bool showLater(UINT milliseconds);
 
     /// Whether it is shown and the point of the screen lies in it, its border included.
     bool covers(CPoint screen) const;
@@ -87,7 +89,6 @@ private:
 
     HWND m_frame = nullptr; ///< whose message line shows the prompts
     bool m_mirrored = false;
-    UINT m_holdDelay;
     std::vector<int> m_entries;        ///< by button: the entry in the record
     std::vector<std::wstring> m_names; ///< by entry
     int m_hot = -1;                    ///< index of the hot button

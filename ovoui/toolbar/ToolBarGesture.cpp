@@ -104,8 +104,21 @@ void CVantorToolBar::CreatePopup(int index, const CRect& rect, int held)
     ms_popupBar = flyout;
     ms_activeBar = this;
     flyout->placeAt(rect, horizontal);
-    if (!held || !flyout->showLater())
+    if (!held || !flyout->showLater(holdDelay()))
         flyout->show();
+}
+
+void CVantorToolBar::SetHoldDelay(UINT milliseconds)
+{
+    m_state->holdDelay = milliseconds;
+}
+
+UINT CVantorToolBar::holdDelay() const
+{
+    UINT menuDelay = m_state->holdDelay;
+    if (menuDelay == kMenuDelay && !::SystemParametersInfoW(SPI_GETMENUSHOWDELAY, 0, &menuDelay, 0))
+        menuDelay = State::kHoldDelay;
+    return menuDelay;
 }
 
 bool CVantorToolBar::isHorizontal() const

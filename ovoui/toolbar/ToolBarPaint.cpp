@@ -1,6 +1,10 @@
 // CVantorToolBar: painting, and controls that draw themselves.
+#include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/ThemeData.h>
 #include <ovoui/toolbar/ToolBarState.h>
+#include <ovoui/toolbar/core/FlyoutPlacement.h>
+
+using namespace ovoui::toolbar;
 
 namespace
 {
@@ -74,7 +78,33 @@ int textHeight(HWND control)
 
 void CVantorToolBar::OnPaint()
 {
-    CToolBar::OnPaint();
+    const std::shared_ptr<State> state = m_state;
+    CToolBar::OnPaint(); // asks the owner about custom drawing
+    if (state->usable() && state->marksFlyouts)
+        drawFlyoutMarks();
+}
+
+void CVantorToolBar::ShowFlyoutMarks(bool show)
+{
+    m_state->marksFlyouts = show;
+    if (m_hWnd)
+        Invalidate();
+}
+
+/// In a mirrored bar the device context is mirrored too: the corner is then the left one.
+void CVantorToolBar::drawFlyoutMarks()
+{
+    CClientDC dc(this);
+    for (int i = 0; i < buttonCount(); ++i) {
+        CRect rect;
+        if (!HasFlyout(i) || !GetToolBarCtrl().GetItemRect(i, &rect))
+            continue;
+        const CornerMark mark = cornerMark(ovoui::frame::toBox(rect));
+        const bool disabled = (GetButtonStyle(i) & TBBS_DISABLED) != 0;
+        const COLORREF colour = ::GetSysColor(disabled ? COLOR_GRAYTEXT : COLOR_BTNTEXT);
+        for (int row = 0; row < mark.size; ++row)
+            dc.FillSolidRect(mark.right - mark.size + row, mark.bottom - 1 - row, mark.size - row, 1, colour);
+    }
 }
 
 // The gripper

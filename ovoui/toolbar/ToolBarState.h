@@ -9,6 +9,8 @@
 
 struct CVantorToolBar::State
 {
+    static constexpr UINT kHoldDelay = 200; // milliseconds
+
     explicit State(CVantorToolBar& owner)
         : bar(&owner)
     {
@@ -28,6 +30,8 @@ struct CVantorToolBar::State
     ovoui::toolbar::FlyoutRecords records;
     std::map<int, int> bitmapOffsets; ///< where the images of a strip begin, by its resource
     ControlCallback callback = nullptr;
+    bool marksFlyouts = false;
+    UINT holdDelay = kHoldDelay;   ///< in milliseconds, or kMenuDelay
     int floatWidth = 0x7FFF;       ///< of the rows when the bar last floated
     std::set<int> controlsPutAway; ///< hidden because the bar is vertical
 };

@@ -1,8 +1,8 @@
 /// A toolbar whose buttons can carry flyouts, and which hosts edits and combo boxes.
 ///
 ///     bar.CreateEx(this, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_TOOLTIPS);
-///     bar.LoadToolBar(IDR_DRAW);
-///     bar.AttachBar(2, IDR_SHAPES, 16, {0, 1, 3}, false); // the third button offers three shapes
+///     bar.LoadToolBar(drawTools);
+///     bar.AttachBar(2, shapeTools, 16, {0, 1, 3}, false); // the third button offers three shapes
 ///
 /// The user presses such a button and holds it: its flyout opens, and the entry over which the mouse is
 /// released becomes the button's command and is issued. A quick click is the button's own command as ever.
@@ -74,6 +74,20 @@ public:
 
     /// Closes the open flyout when the application is deactivated.
     static void ActivateApp(BOOL active);
+
+    // What a host may ask for besides; off at first.
+
+    /// A small triangle in the lower corner of each button that has a flyout.
+    void ShowFlyoutMarks(bool show);
+
+    static constexpr UINT kMenuDelay = 0xFFFFFFFF; ///< as long as the system's menus wait
+    /// How long a button is held until its flyout appears, in milliseconds or kMenuDelay; 200 at first.
+    void SetHoldDelay(UINT milliseconds);
+
+    /// Writes into a section of the application's profile which command each button with a flyout shows.
+    void SaveChoices(LPCTSTR section) const;
+    /// Gives the buttons the commands and images of before. What is not in a flyout any more is skipped.
+    void LoadChoices(LPCTSTR section);
 
     // Buttons. The flyouts stay with theirs.
 
@@ -162,6 +176,9 @@ private:
     bool choose(CPoint point);
     void releaseQuietly(UINT flags, CPoint point);
     void showChoice(int index, int command, int image);
+    void restoreChoice(int index, int command);
+    void drawFlyoutMarks();
+    UINT holdDelay() const;
     bool isHorizontal() const;
     LRESULT onControlCommand(WPARAM wParam, LPARAM lParam);
     void postEndOfInput(HWND target);

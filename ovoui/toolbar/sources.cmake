@@ -22,6 +22,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/FlyoutTracking.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ImageStrip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarButtons.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarChoices.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarFlyouts.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarGesture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarKeys.cpp

@@ -22,4 +22,18 @@ bool isHorizontal(const BarPosition& bar);
 frame::Box flyoutPlace(const frame::Box& button, int width, int height, bool horizontal,
                        bool mirrored = false);
 
+/// A right-angled triangle of pixels: `size` rows above one another, the lowest as wide, each one pixel
+/// shorter than the one below it. All end at the right.
+struct CornerMark
+{
+    int right = 0; ///< exclusive
+    int bottom = 0;
+    int size = 0;
+
+    friend bool operator==(const CornerMark&, const CornerMark&) = default;
+};
+
+/// The mark of a flyout in the lower right corner of its button, in proportion to the button's height.
+CornerMark cornerMark(const frame::Box& button);
+
 } // namespace ovoui::toolbar

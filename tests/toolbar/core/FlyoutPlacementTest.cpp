@@ -66,3 +66,17 @@ TEST(FlyoutPlacement, PulledIntoTheWorkAreaWithItsSize)
                 EXPECT_LE(place.bottom, kArea.bottom);
             }
 }
+
+TEST(CornerMarks, LieInsideTheButtonAtEverySize)
+{
+    for (int size = 16; size < 120; ++size) {
+        const Box button{10, 20, 10 + size + 8, 20 + size};
+        const CornerMark mark = cornerMark(button);
+        EXPECT_GE(mark.size, 3) << size;
+        EXPECT_LE(mark.size, size / 4) << size;
+        EXPECT_LT(mark.right, button.right) << size;
+        EXPECT_LT(mark.bottom, button.bottom) << size;
+        EXPECT_GT(mark.right - mark.size, button.right - size / 2) << size;
+    }
+    EXPECT_GT(cornerMark({0, 0, 48, 48}).size, cornerMark({0, 0, 24, 24}).size);
+}

@@ -1,0 +1,238 @@
+#include "ToolBarPage.h"
+
+#include "resource.h"
+
+#include <ovoui/toolbar/FlyoutToolbar.h>
+
+#include <ovouires/resource.h>
+
+#include <iterator>
+#include <string>
+
+BEGIN_MESSAGE_MAP(ToolBarPage, GalleryPage)
+    ON_COMMAND_RANGE(ID_BAR_FIRST, ID_BAR_LAST, &ToolBarPage::OnCommandChosen)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_BAR_FIRST, ID_BAR_LAST, &ToolBarPage::OnUpdateCommand)
+    ON_MESSAGE(WM_OVO_TOOLBAR_DBLCLK, &ToolBarPage::OnBarDoubleClicked)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr int kImage = 16; // pixels at 96 dots per inch
+constexpr int kImages = 12;
+constexpr int kEditWidth = 90;
+constexpr int kComboWidth = 100;
+constexpr int kControlHeight = 20;
+
+// Images of the library's strip
+enum Image
+{
+    New,
+    Open,
+    Save,
+    Cut,
+    Copy,
+    Paste,
+    Delete,
+    Undo,
+    Redo,
+    Find,
+    Print,
+    Help
+};
+
+constexpr UINT kCommands[] = {ID_BAR_OPEN, ID_BAR_PASTE, ID_SEPARATOR, ID_BAR_UNDO,
+                              ID_BAR_REDO, ID_SEPARATOR, ID_BAR_EDIT,  ID_BAR_COMBO};
+constexpr int kCommandImages[] = {Image::Open, Image::Paste, 0, Image::Undo, Image::Redo};
+constexpr UINT kShapes[] = {ID_BAR_BOX, ID_BAR_LINE};
+
+enum CommandButton
+{
+    FileButton,
+    PasteButton,
+    EditPlace = 6,
+    ComboPlace = 7
+};
+
+std::vector<int> strips(std::size_t count)
+{
+    return std::vector<int>(count, IDB_TOOLBAR_32);
+}
+
+} // namespace
+
+// The bar
+
+void ShownBar::open(int button, int entry)
+{
+    CRect rect;
+    GetItemRect(button, &rect);
+    ClientToScreen(&rect);
+    CreatePopup(button, rect, 0);
+    if (!ms_popupBar)
+        return;
+    CRect target;
+    ms_popupBar->GetItemRect(entry, &target);
+    ms_popupBar->ClientToScreen(&target);
+    ms_popupBar->track(target.CenterPoint());
+}
+
+void ShownBar::showTip()
+{
+    constexpr WPARAM kTipTimer = 43;
+    if (ms_popupBar)
+        ms_popupBar->SendMessage(WM_TIMER, kTipTimer);
+}
+
+// The page
+
+ToolBarPage::ToolBarPage()
+    : GalleryPage(IDD_PAGE_TOOLBARS)
+{
+}
+
+ToolBarPage::~ToolBarPage() = default;
+
+BOOL ToolBarPage::OnInitDialog()
+{
+    GalleryPage::OnInitDialog();
+    const int size = scaled(kImage);
+    m_images.Create(size, size, kImages);
+    m_images.AddBitmap(IDB_TOOLBAR_32, false, -1, CSize(32, 32), CSize(size, size), nullptr, nullptr);
+    if (createBar(m_commands, CBRS_TOP, IDC_BARS_COMMANDS)) {
+        fillCommands(m_commands);
+        addControls();
+        m_commands.SetControlCallback(&onControl);
+        m_commands.calcLayout(LM_HORZ);
+    }
+    if (createBar(m_mirrored, CBRS_TOP, IDC_BARS_MIRRORED)) {
+        m_mirrored.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+        fillCommands(m_mirrored);
+        m_mirrored.calcLayout(LM_HORZ);
+    }
+    if (createBar(m_shapes, CBRS_LEFT, IDC_BARS_SHAPES)) {
+        fillShapes(m_shapes);
+        m_shapes.calcLayout(0);
+    }
+    return FALSE;
+}
+
+/// A bar in place of an empty control of the template.
+bool ToolBarPage::createBar(ShownBar& bar, DWORD side, int placeholder)
+{
+    const DWORD style = WS_CHILD | WS_VISIBLE | side | CBRS_TOOLTIPS | CBRS_FLYBY | CBRS_GRIPPER;
+    if (!bar.CreateEx(this, TBSTYLE_FLAT, style))
+        return false;
+    bar.SetOwner(this); // gets the commands, in place of the frame
+    replace(placeholder, bar);
+    return true;
+}
+
+void ToolBarPage::fillCommands(ShownBar& bar)
+{
+    const int size = scaled(kImage);
+    bar.SetSizes(CSize(size + scaled(8), size + scaled(8)), CSize(size, size));
+    bar.GetToolBarCtrl().SetImageList(m_images.ImageList());
+    bar.SetButtons(kCommands, static_cast<int>(std::size(kCommands)));
+    for (int i = 0; i < static_cast<int>(std::size(kCommandImages)); ++i)
+        if (kCommands[i] != ID_SEPARATOR)
+            bar.SetButtonInfo(i, kCommands[i], TBBS_BUTTON, kCommandImages[i]);
+    // Without the controls, which one bar alone has
+    bar.SetButtonInfo(EditPlace, ID_BAR_EDIT, TBBS_SEPARATOR, 1);
+    bar.SetButtonInfo(ComboPlace, ID_BAR_COMBO, TBBS_SEPARATOR, 1);
+    bar.AttachBar(FileButton, size, {ID_BAR_NEW, ID_BAR_OPEN, ID_BAR_SAVE, 0, ID_BAR_PRINT}, strips(5),
+                  {Image::New, Image::Open, Image::Save, 0, Image::Print}, {}, false, false);
+    bar.AttachBar(PasteButton, size, {ID_BAR_CUT, ID_BAR_COPY, ID_BAR_PASTE, ID_BAR_DELETE}, strips(4),
+                  {Image::Cut, Image::Copy, Image::Paste, Image::Delete}, {}, true, false);
+}
+
+void ToolBarPage::fillShapes(ShownBar& bar)
+{
+    bar.LoadToolBar(IDR_SHAPES);
+    bar.SetButtons(kShapes, static_cast<int>(std::size(kShapes)));
+    bar.SetButtonInfo(1, ID_BAR_LINE, TBBS_BUTTON, 3);
+    bar.AttachBar(0, IDR_SHAPES, 16, {0, 1, 2}, false);
+    bar.AttachBar(1, IDR_SHAPES, 16, {3, 4, 5}, true);
+}
+
+void ToolBarPage::addControls()
+{
+    m_commands.SetButtonInfo(EditPlace, ID_BAR_EDIT, TBBS_SEPARATOR, scaled(kEditWidth + 8));
+    m_commands.SetButtonInfo(ComboPlace, ID_BAR_COMBO, TBBS_SEPARATOR, scaled(kComboWidth + 8));
+    m_edit.CreateEx(WS_EX_CLIENTEDGE, L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL,
+                    CRect(0, 0, scaled(kEditWidth), scaled(kControlHeight)), &m_commands, ID_BAR_EDIT);
+    m_combo.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN,
+                   CRect(0, 0, scaled(kComboWidth), scaled(160)), &m_commands, ID_BAR_COMBO);
+    for (CWnd* const control : {static_cast<CWnd*>(&m_edit), static_cast<CWnd*>(&m_combo)})
+        control->SetFont(GetFont());
+    for (const wchar_t* const zoom : {L"50 %", L"100 %", L"200 %"})
+        m_combo.AddString(zoom);
+    m_combo.SetCurSel(1);
+}
+
+void ToolBarPage::OnDestroy()
+{
+    m_commands.DestroyWindow(); // while the images are there
+    m_mirrored.DestroyWindow();
+    GalleryPage::OnDestroy();
+}
+
+// Commands
+
+void ToolBarPage::OnCommandChosen(UINT id)
+{
+    CString text;
+    text.LoadString(id);
+    CString name;
+    AfxExtractSubString(name, text, 1);
+    log(L"Command: " + std::wstring(name.GetString()));
+}
+
+/// Deleting is not possible here, so that there is a disabled entry to see.
+void ToolBarPage::OnUpdateCommand(CCmdUI* ui)
+{
+    ui->Enable(ui->m_nID != ID_BAR_DELETE);
+}
+
+LRESULT ToolBarPage::OnBarDoubleClicked(WPARAM id, LPARAM)
+{
+    log(L"Double click on the button of command " + std::to_wstring(id));
+    return 0;
+}
+
+LRESULT ToolBarPage::onControl(CVantorToolBar* bar, UINT code, UINT id, void*)
+{
+    const auto* const page = static_cast<const ToolBarPage*>(bar->GetOwner());
+    page->log(std::wstring(L"Callback: ") +
+              (id == ID_BAR_EDIT    ? L"edit"
+               : id == ID_BAR_COMBO ? L"combo box"
+                                    : L"button") +
+              L", code " + std::to_wstring(code));
+    return 1;
+}
+
+// Pictures
+
+std::vector<std::wstring> ToolBarPage::poses() const
+{
+    return {L"flyout", L"disabled", L"tip", L"vertical", L"right-to-left"};
+}
+
+bool ToolBarPage::pose(const std::wstring& name)
+{
+    if (name == L"flyout")
+        m_commands.open(FileButton, 2);
+    else if (name == L"disabled")
+        m_commands.open(PasteButton, 3);
+    else if (name == L"tip") {
+        m_commands.open(FileButton, 0);
+        m_commands.showTip();
+    } else if (name == L"vertical")
+        m_shapes.open(0, 1);
+    else if (name == L"right-to-left")
+        m_mirrored.open(FileButton, 1);
+    else
+        return false;
+    return true;
+}

@@ -1,0 +1,148 @@
+// What hosts may ask for besides: marks, the hold delay, remembered choices.
+#include "ToolBarScene.h"
+
+#include "support/ImportPatch.h"
+#include "support/Picture.h"
+#include "support/TemporaryProfile.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+constexpr char kShown[] = "the flyout";
+constexpr wchar_t kSection[] = L"Choices";
+
+CRect itemRect(const TestBar& bar, int index)
+{
+    CRect rect;
+    bar.GetItemRect(index, &rect);
+    return rect;
+}
+
+/// The lower right quarter of a button, inside its edges.
+int darkInCorner(const TestBar& bar, int index)
+{
+    const Picture picture = Picture::ofClient(bar.m_hWnd);
+    CRect corner = itemRect(bar, index);
+    corner.left = corner.right - 6;
+    corner.top = corner.bottom - 6;
+    return picture.count(::GetSysColor(COLOR_BTNTEXT), 0, corner);
+}
+
+} // namespace
+
+// Marks
+
+TEST(FlyoutMarks, AreOffAtFirst)
+{
+    BarScene scene;
+    EXPECT_EQ(darkInCorner(scene.bar(), BarScene::Lines), 0);
+}
+
+TEST(FlyoutMarks, AreInTheCornerOfButtonsWithAFlyoutAndNoOther)
+{
+    BarScene scene;
+    scene.bar().ShowFlyoutMarks(true);
+    EXPECT_EQ(darkInCorner(scene.bar(), BarScene::Plain), 0);
+    EXPECT_GE(darkInCorner(scene.bar(), BarScene::Lines), 6);
+    EXPECT_GE(darkInCorner(scene.bar(), BarScene::Shapes), 6);
+    EXPECT_EQ(darkInCorner(scene.bar(), BarScene::Other), 0);
+    scene.bar().ShowFlyoutMarks(false);
+    EXPECT_EQ(darkInCorner(scene.bar(), BarScene::Lines), 0);
+}
+
+TEST(FlyoutMarks, OfADisabledButtonAreGrey)
+{
+    BarScene scene;
+    scene.bar().ShowFlyoutMarks(true);
+    scene.frame().disabled = {ID_LINE};
+    scene.bar().OnUpdateCmdUI(nullptr, TRUE);
+    EXPECT_EQ(darkInCorner(scene.bar(), BarScene::Lines), 0);
+    const Picture picture = Picture::ofClient(scene.bar().m_hWnd);
+    EXPECT_GE(picture.count(::GetSysColor(COLOR_GRAYTEXT), 0, itemRect(scene.bar(), BarScene::Lines)), 6);
+}
+
+TEST(FlyoutMarks, WithoutAWindowTheyMayBeAskedForToo)
+{
+    TestBar unborn;
+    unborn.ShowFlyoutMarks(true);
+    EXPECT_EQ(unborn.m_hWnd, nullptr);
+}
+
+// Hold delay
+
+namespace
+{
+
+std::vector<UINT> held;
+
+UINT_PTR WINAPI noteHold(HWND wnd, UINT_PTR id, UINT elapse, TIMERPROC procedure)
+{
+    if (id == 42)
+        held.push_back(elapse);
+    return ::SetTimer(wnd, id, elapse, procedure);
+}
+
+} // namespace
+
+TEST(FlyoutHoldDelay, IsThatOfTheBarOrOfTheSystemsMenus)
+{
+    BarScene scene;
+    held.clear();
+    const ImportPatch setTimer{L"ovoui.dll", "SetTimer", reinterpret_cast<void*>(&noteHold)};
+    UINT menuDelay = 0;
+    ::SystemParametersInfoW(SPI_GETMENUSHOWDELAY, 0, &menuDelay, 0);
+    const auto open = [&] {
+        scene.bar().CreatePopup(BarScene::Lines, CRect(300, 300, 320, 320), 1);
+        TestBar::ms_popupBar.reset();
+    };
+    open();
+    scene.bar().SetHoldDelay(750);
+    open();
+    scene.bar().SetHoldDelay(CVantorToolBar::kMenuDelay);
+    open();
+    EXPECT_EQ(held, (std::vector<UINT>{200, 750, menuDelay}));
+}
+
+// Remembered choices
+
+TEST(FlyoutChoices, ComeBackInANewBar)
+{
+    const TemporaryProfile profile;
+    {
+        BarScene scene;
+        scene.user.press(scene.button(BarScene::Lines))
+            .waitFor(kShown, &BarScene::flyoutShown)
+            .moveTo(scene.entry(1))
+            .release();
+        scene.user.press(scene.button(BarScene::Shapes))
+            .waitFor(kShown, &BarScene::flyoutShown)
+            .moveTo(scene.entry(1))
+            .release();
+        scene.bar().SaveChoices(kSection);
+    }
+    BarScene scene;
+    scene.bar().LoadChoices(kSection);
+    EXPECT_EQ(scene.command(BarScene::Lines), ID_CURVE);
+    EXPECT_EQ(scene.image(BarScene::Lines), 5);
+    EXPECT_EQ(scene.command(BarScene::Shapes), ID_DISC);
+    EXPECT_EQ(scene.image(BarScene::Shapes), 1);
+    EXPECT_EQ(scene.command(BarScene::Plain), ID_PLAIN);
+    EXPECT_TRUE(scene.commands().empty()) << "nothing is issued";
+}
+
+TEST(FlyoutChoices, ThatAreGoneOrWereNeverSavedAreSkipped)
+{
+    const TemporaryProfile profile;
+    BarScene scene;
+    scene.bar().LoadChoices(kSection);
+    EXPECT_EQ(scene.command(BarScene::Lines), ID_LINE);
+    AfxGetApp()->WriteProfileInt(kSection, L"Button1", 4711);
+    AfxGetApp()->WriteProfileInt(kSection, L"Button0", ID_CURVE); // without a flyout
+    scene.bar().LoadChoices(kSection);
+    EXPECT_EQ(scene.command(BarScene::Lines), ID_LINE);
+    EXPECT_EQ(scene.command(BarScene::Plain), ID_PLAIN);
+}
