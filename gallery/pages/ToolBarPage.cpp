@@ -100,18 +100,18 @@ BOOL ToolBarPage::OnInitDialog()
     const int size = scaled(kImage);
     m_images.Create(size, size, kImages);
     m_images.AddBitmap(IDB_TOOLBAR_32, false, -1, CSize(32, 32), CSize(size, size), nullptr, nullptr);
-    if (createBar(m_commands, CBRS_TOP, IDC_BARS_COMMANDS)) {
+    if (createBar(m_commands, CBRS_ALIGN_TOP, IDC_BARS_COMMANDS)) {
         fillCommands(m_commands);
         addControls();
         m_commands.SetControlCallback(&onControl);
         m_commands.calcLayout(LM_HORZ);
     }
-    if (createBar(m_mirrored, CBRS_TOP, IDC_BARS_MIRRORED)) {
+    if (createBar(m_mirrored, CBRS_ALIGN_TOP, IDC_BARS_MIRRORED)) {
         m_mirrored.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
         fillCommands(m_mirrored);
         m_mirrored.calcLayout(LM_HORZ);
     }
-    if (createBar(m_shapes, CBRS_LEFT, IDC_BARS_SHAPES)) {
+    if (createBar(m_shapes, CBRS_ALIGN_LEFT, IDC_BARS_SHAPES)) {
         fillShapes(m_shapes);
         m_shapes.calcLayout(0);
     }
