@@ -3,6 +3,8 @@
 
 #include <afx/Platform.h>
 
+#include <atomic>
+
 class CCmdTarget;
 
 using AFX_PMSG = void (CCmdTarget::*)();
@@ -37,10 +39,17 @@ struct AFX_MSGMAP_ENTRY
     AFX_PMSG pfn;            ///< for AFX_CMDHANDLERINFO only, never called
 };
 
+namespace afxdetail
+{
+class DispatchTable;
+}
+
 struct AFX_MSGMAP
 {
     const AFX_MSGMAP*(PASCAL* pfnGetBaseMap)();
     const AFX_MSGMAP_ENTRY* lpEntries; ///< ends with an entry without a thunk
+    /// The entries of this map and its bases, looked up by their message; made when the first one comes.
+    mutable std::atomic<const afxdetail::DispatchTable*> pTable{};
 };
 
 namespace afxdetail
@@ -52,45 +61,43 @@ OVOMFC_API const AFX_MSGMAP_ENTRY* findWindowMessage(const AFX_MSGMAP* map, UINT
 /// The first entry for a command or notification, likewise.
 OVOMFC_API const AFX_MSGMAP_ENTRY* findCommand(const AFX_MSGMAP* map, UINT message, UINT code, UINT id);
 
-/// To be called when a module with message maps goes: what was found is looked up anew, since another module may
-/// come to lie at the same addresses.
-OVOMFC_API void forgetHandlers();
-
 } // namespace afxdetail
 
-#define DECLARE_MESSAGE_MAP()                                                                                     \
-protected:                                                                                                        \
-    static const AFX_MSGMAP* PASCAL GetThisMessageMap();                                                          \
+#define DECLARE_MESSAGE_MAP()                                                                                \
+protected:                                                                                                   \
+    static const AFX_MSGMAP* PASCAL GetThisMessageMap();                                                     \
     const AFX_MSGMAP* GetMessageMap() const override;
 
-#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                                    \
-    const AFX_MSGMAP* theClass::GetMessageMap() const                                                             \
-    {                                                                                                             \
-        return GetThisMessageMap();                                                                               \
-    }                                                                                                             \
-    const AFX_MSGMAP* PASCAL theClass::GetThisMessageMap()                                                        \
-    {                                                                                                             \
-        using ThisClass [[maybe_unused]] = theClass;                                                              \
-        using TheBaseClass = baseClass;                                                                           \
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                               \
+    const AFX_MSGMAP* theClass::GetMessageMap() const                                                        \
+    {                                                                                                        \
+        return GetThisMessageMap();                                                                          \
+    }                                                                                                        \
+    const AFX_MSGMAP* PASCAL theClass::GetThisMessageMap()                                                   \
+    {                                                                                                        \
+        using ThisClass [[maybe_unused]] = theClass;                                                         \
+        using TheBaseClass = baseClass;                                                                      \
         static const AFX_MSGMAP_ENTRY entries[] = {
 
-#define BEGIN_TEMPLATE_MESSAGE_MAP(theClass, typeName, baseClass)                                                 \
-    template <typename typeName>                                                                                  \
-    const AFX_MSGMAP* theClass<typeName>::GetMessageMap() const                                                   \
-    {                                                                                                             \
-        return GetThisMessageMap();                                                                               \
-    }                                                                                                             \
-    template <typename typeName>                                                                                  \
-    const AFX_MSGMAP* PASCAL theClass<typeName>::GetThisMessageMap()                                              \
-    {                                                                                                             \
-        using ThisClass [[maybe_unused]] = theClass<typeName>;                                                    \
-        using TheBaseClass = baseClass;                                                                           \
+#define BEGIN_TEMPLATE_MESSAGE_MAP(theClass, typeName, baseClass)                                            \
+    template <typename typeName>                                                                             \
+    const AFX_MSGMAP* theClass<typeName>::GetMessageMap() const                                              \
+    {                                                                                                        \
+        return GetThisMessageMap();                                                                          \
+    }                                                                                                        \
+    template <typename typeName>                                                                             \
+    const AFX_MSGMAP* PASCAL theClass<typeName>::GetThisMessageMap()                                         \
+    {                                                                                                        \
+        using ThisClass [[maybe_unused]] = theClass<typeName>;                                               \
+        using TheBaseClass = baseClass;                                                                      \
         static const AFX_MSGMAP_ENTRY entries[] = {
 
-#define END_MESSAGE_MAP()                                                                                         \
-    {0, 0, 0, 0, nullptr, nullptr, nullptr}                                                                       \
-    }                                                                                                             \
-    ;                                                                                                             \
-    static const AFX_MSGMAP map{&TheBaseClass::GetThisMessageMap, entries};                                       \
-    return &map;                                                                                                  \
+#define END_MESSAGE_MAP()                                                                                    \
+    {                                                                                                        \
+        0, 0, 0, 0, nullptr, nullptr, nullptr                                                                \
+    }                                                                                                        \
+    }                                                                                                        \
+    ;                                                                                                        \
+    static const AFX_MSGMAP map{&TheBaseClass::GetThisMessageMap, entries};                                  \
+    return &map;                                                                                             \
     }

@@ -4,6 +4,8 @@
 #include <afx.h>
 #include <detail/threadstate.h>
 
+#include <array>
+#include <cstdint>
 #include <memory>
 #include <unordered_map>
 #include <utility>
@@ -45,17 +47,25 @@ public:
 
     Object* fromHandlePermanent(Handle handle) const
     {
-        const auto found = m_permanent.find(handle);
-        return found != m_permanent.end() ? found->second : nullptr;
+        Recent& recent = recentOf(handle);
+        if (recent.handle != handle) {
+            const auto found = m_permanent.find(handle);
+            recent = {handle, found != m_permanent.end() ? found->second : nullptr};
+        }
+        return recent.object;
     }
 
-    void setPermanent(Handle handle, Object* object) { m_permanent[handle] = object; }
+    void setPermanent(Handle handle, Object* object)
+    {
+        m_permanent[handle] = object;
+        recentOf(handle) = {};
+    }
 
-    /// Forgets a handle that no longer exists. Pointers to its temporary object stay good until the next purge;
-    /// the object has no handle any more.
+    /// Forgets a handle that no longer exists. Pointers to its temporary object stay good until the next
+    /// purge; the object has no handle any more.
     void remove(Handle handle)
     {
-        m_permanent.erase(handle);
+        removePermanent(handle);
         const auto found = m_temporary.find(handle);
         if (found == m_temporary.end())
             return;
@@ -65,7 +75,11 @@ public:
     }
 
     /// Forgets whose a handle is that goes on existing.
-    void removePermanent(Handle handle) { m_permanent.erase(handle); }
+    void removePermanent(Handle handle)
+    {
+        m_permanent.erase(handle);
+        recentOf(handle) = {};
+    }
 
     void deleteTemporary()
     {
@@ -79,6 +93,19 @@ public:
     std::size_t temporaryCount() const { return m_temporary.size(); }
 
 private:
+    /// What was asked for lately, by some bits of the handle: every message asks for its window.
+    struct Recent
+    {
+        Handle handle = nullptr;
+        Object* object = nullptr;
+    };
+
+    Recent& recentOf(Handle handle) const
+    {
+        return m_recent[(reinterpret_cast<std::uintptr_t>(handle) >> 1) % m_recent.size()];
+    }
+
+    mutable std::array<Recent, 64> m_recent{};
     std::unordered_map<Handle, Object*> m_permanent;
     std::unordered_map<Handle, std::unique_ptr<Object>> m_temporary;
     std::vector<std::unique_ptr<Object>> m_stale;
@@ -90,14 +117,15 @@ HandleMap<Traits>& handleMap()
 {
     thread_local HandleMap<Traits>* const map = [] {
         auto* made = new HandleMap<Traits>;
-        registerTemporaryPurge([](void* self) { static_cast<HandleMap<Traits>*>(self)->deleteTemporary(); }, made);
+        registerTemporaryPurge([](void* self) { static_cast<HandleMap<Traits>*>(self)->deleteTemporary(); },
+                               made);
         return made;
     }();
     return *map;
 }
 
-/// Deletes the temporary objects of all kinds, unless a message is being handled on this thread: its handler may
-/// hold pointers to them.
+/// Deletes the temporary objects of all kinds, unless a message is being handled on this thread: its handler
+/// may hold pointers to them.
 OVOMFC_API void purgeTemporaryObjects();
 
 } // namespace afxdetail

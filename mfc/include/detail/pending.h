@@ -1,8 +1,9 @@
-// Internal: exceptions on their way through callbacks into the system.
+// Internal: exceptions on their way through the system.
 //
-// The system swallows C++ exceptions that leave a window procedure in some messages (creation, sizing, painting,
-// destruction) and passes them on in others. So none leaves it: the procedure stores the exception, and the call
-// that led into the system raises it again when it returns.
+// The system swallows C++ exceptions that leave a window procedure in some messages (creation, sizing,
+// painting, destruction). So they are kept there, and the framework's call that led into the system raises
+// the kept one when the system returns. What is kept while no such call is under way (a program has called
+// the system itself, or a destructor has) waits for the next step of a message loop. No other call raises it.
 #pragma once
 
 #include <detail/threadstate.h>
@@ -13,11 +14,12 @@
 namespace afxdetail
 {
 
-/// Keeps the exception that is being handled, unless one is kept already. To be called in a catch block.
+/// Keeps the exception that is being handled. When one is kept already, this one is traced and dropped. To be
+/// called in a catch block.
 OVOMFC_API void storePendingException() noexcept;
 
-/// Raises the kept exception, if there is one and the caller is not part of an unwinding.
-OVOMFC_API void rethrowPendingException();
+/// Raises what was kept while no call was under way: the first thing in every step of a message loop.
+OVOMFC_API void raiseLeftException();
 
 /// A call into the system, from the constructor to finish().
 ///
@@ -34,8 +36,8 @@ public:
     /// Whether an exception was kept since the constructor.
     bool failed() const noexcept;
 
-    /// Raises the exception that was kept since the constructor. While the stack is unwound it stays kept, for
-    /// the next call that can raise it.
+    /// Raises the exception that was kept since the constructor. While the stack is unwound it is handed to
+    /// the call further out, or to the message loop.
     void finish();
 
 private:
@@ -56,6 +58,14 @@ auto callOut(Call&& call)
         scope.finish();
         return result;
     }
+}
+
+/// The same for a message loop's call.
+template <class Call>
+auto loopCallOut(Call&& call)
+{
+    raiseLeftException();
+    return callOut(std::forward<Call>(call));
 }
 
 } // namespace afxdetail

@@ -18,15 +18,16 @@ int show(LPCTSTR text, UINT type)
     HWND topLevel = nullptr;
     CWnd* owner = CWnd::GetSafeOwner(nullptr, &topLevel);
     const HWND ownerWnd = owner->GetSafeHwnd();
-    if (topLevel)
-        ::EnableWindow(topLevel, FALSE);
     // A task-modal box disables the thread's windows by itself; it must then have no owner.
     const HWND given = (type & MB_TASKMODAL) ? nullptr : ownerWnd;
-    const int answer = ::MessageBoxW(given, text, AfxGetAppName(), withIcon(type));
-    if (topLevel)
-        ::EnableWindow(topLevel, TRUE);
-    afxdetail::rethrowPendingException();
-    return answer;
+    return afxdetail::callOut([=] {
+        if (topLevel)
+            ::EnableWindow(topLevel, FALSE);
+        const int answer = ::MessageBoxW(given, text, AfxGetAppName(), withIcon(type));
+        if (topLevel)
+            ::EnableWindow(topLevel, TRUE);
+        return answer;
+    });
 }
 
 } // namespace

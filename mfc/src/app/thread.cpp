@@ -6,6 +6,7 @@
 #include <detail/pending.h>
 
 using afxdetail::callOut;
+using afxdetail::loopCallOut;
 using afxdetail::threadState;
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
@@ -27,7 +28,7 @@ MSG& currentMessage()
 
 bool fetch(MSG& message)
 {
-    return callOut([&] { return ::GetMessageW(&message, nullptr, 0, 0); }) != 0;
+    return loopCallOut([&] { return ::GetMessageW(&message, nullptr, 0, 0); }) != 0;
 }
 
 void dispatch(MSG& message)
@@ -93,7 +94,7 @@ int CWinThread::Run()
     LONG idleCount = 0;
     for (;;) {
         MSG next;
-        while (idle && !callOut([&] { return ::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE); }))
+        while (idle && !loopCallOut([&] { return ::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE); }))
             if (!OnIdle(idleCount++))
                 idle = false;
         if (!PumpMessage())

@@ -164,12 +164,13 @@ DROPEFFECT COleDataSource::DoDragDrop(DWORD effects, LPCRECT startRect, COleDrop
         const Reference alive(*this);
         source.prepare(startRect);
         if (source.OnBeginDrag(windowOfDrag())) {
-            source.m_dragStarted = true;
-            status = ::DoDragDrop(&m_xDataObject, &source.m_xDropSource, effects, &effect);
-            source.m_dragStarted = false;
+            afxdetail::callOut([&] {
+                source.m_dragStarted = true;
+                status = ::DoDragDrop(&m_xDataObject, &source.m_xDropSource, effects, &effect);
+                source.m_dragStarted = false;
+            });
         }
     }
-    afxdetail::rethrowPendingException();
     return status == DRAGDROP_S_DROP ? effect : DROPEFFECT_NONE;
 }
 

@@ -1,6 +1,8 @@
 // Extension modules.
 #include <afx/ExtensionModule.h>
 
+#include "../cmd/dispatchtable.h"
+
 #include <detail/modulestate.h>
 
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CCmdTarget)
@@ -63,4 +65,5 @@ void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL all)
         library = next;
     }
     dropWndClasses(state.hModule);
+    afxdetail::forgetTablesOf(state.hModule);
 }

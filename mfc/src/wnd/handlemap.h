@@ -22,9 +22,12 @@ struct WndTraits
     static void forget(CWnd& wnd) { wnd.m_hWnd = nullptr; }
 };
 
-inline HandleMap<WndTraits>& wndMap()
+/// The running thread's map of windows, which its block holds: every message looks into it.
+inline HandleMap<WndTraits>& wndMap(ThreadState& state = threadState())
 {
-    return handleMap<WndTraits>();
+    if (!state.windows)
+        state.windows = &handleMap<WndTraits>();
+    return *state.windows;
 }
 
 } // namespace afxdetail

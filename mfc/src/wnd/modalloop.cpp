@@ -31,7 +31,7 @@ private:
 bool queueIsEmpty()
 {
     MSG next;
-    return callOut([&] { return !::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE); });
+    return loopCallOut([&] { return !::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE); });
 }
 
 bool isIdleMessage()

@@ -13,6 +13,7 @@ target_sources(ovomfc PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/wndpaint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/wndplace.cpp
   ${CMAKE_CURRENT_LIST_DIR}/wndproc.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/wndprocsender.cpp
   ${CMAKE_CURRENT_LIST_DIR}/wndreflect.cpp
   ${CMAKE_CURRENT_LIST_DIR}/wndstate.cpp
   ${CMAKE_CURRENT_LIST_DIR}/wndsystem.cpp

@@ -1,6 +1,7 @@
 // From the system's call to the handler.
 #include "handlemap.h"
 #include "wndactivate.h"
+#include "wndprocsender.h"
 
 #include <afxpriv.h>
 
@@ -15,10 +16,11 @@ namespace
 class MessageScope
 {
 public:
-    MessageScope(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam)
-        : m_state(threadState())
+    MessageScope(afxdetail::ThreadState& state, HWND wnd, UINT message, WPARAM wParam, LPARAM lParam)
+        : m_state(state)
         , m_previous(m_state.lastMessage)
-        , m_unwindingBefore(std::exchange(m_state.unwindingBefore, std::uncaught_exceptions()))
+        , m_unwindingBefore(std::exchange(m_state.unwindingBefore, *m_state.unwinding))
+        , m_outer(std::exchange(m_state.procedure, this))
     {
         m_state.lastMessage.hwnd = wnd;
         m_state.lastMessage.message = message;
@@ -29,6 +31,7 @@ public:
     ~MessageScope()
     {
         --m_state.dispatchDepth;
+        m_state.procedure = m_outer;
         m_state.unwindingBefore = m_unwindingBefore;
         m_state.lastMessage = m_previous;
     }
@@ -37,10 +40,18 @@ public:
 
     MSG message() const { return m_state.lastMessage; }
 
+    /// Whether an exception reaches the sender. A destructor that sends a message while the stack is unwound
+    /// would end the program with it.
+    bool exceptionsMayLeave() const
+    {
+        return m_state.unwindingBefore == m_unwindingBefore && afxdetail::senderTakesExceptions(m_outer);
+    }
+
 private:
     afxdetail::ThreadState& m_state;
     const MSG m_previous;
     const int m_unwindingBefore;
+    const void* const m_outer;
 };
 
 LRESULT report(CException* exception, const MSG& message)
@@ -71,6 +82,21 @@ LRESULT resultOfFailure(HWND wnd, UINT message)
     return message == WM_CREATE ? -1 : 0;
 }
 
+LRESULT callObject(afxdetail::ThreadState& state, CWnd& object, HWND wnd, UINT message, WPARAM wParam,
+                   LPARAM lParam)
+{
+    const MessageScope scope(state, wnd, message, wParam, lParam);
+    try {
+        return callReporting(object, scope.message());
+    } catch (...) {
+        // What follows the last message of a window must not be left out.
+        if (message != WM_NCDESTROY && scope.exceptionsMayLeave())
+            throw;
+        afxdetail::storePendingException();
+        return resultOfFailure(wnd, message);
+    }
+}
+
 bool isColourMessage(UINT message)
 {
     return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
@@ -82,10 +108,11 @@ LRESULT CALLBACK AfxWndProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam
 {
     if (message == WM_QUERYAFXWNDPROC)
         return 1;
-    CWnd* object = CWnd::FromHandlePermanent(wnd);
+    afxdetail::ThreadState& state = threadState();
+    CWnd* object = afxdetail::wndMap(state).fromHandlePermanent(wnd);
     if (!object)
         return ::DefWindowProcW(wnd, message, wParam, lParam);
-    const LRESULT result = AfxCallWndProc(object, wnd, message, wParam, lParam);
+    const LRESULT result = callObject(state, *object, wnd, message, wParam, lParam);
     // A handler of its own may have kept this from CWnd: a window that is gone must not be found any more.
     if (message == WM_NCDESTROY)
         if (CWnd* left = CWnd::FromHandlePermanent(wnd))
@@ -95,13 +122,7 @@ LRESULT CALLBACK AfxWndProc(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam
 
 LRESULT AFXAPI AfxCallWndProc(CWnd* object, HWND wnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const MessageScope scope(wnd, message, wParam, lParam);
-    try {
-        return callReporting(*object, scope.message());
-    } catch (...) {
-        afxdetail::storePendingException();
-        return resultOfFailure(wnd, message);
-    }
+    return callObject(threadState(), *object, wnd, message, wParam, lParam);
 }
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)

@@ -1,7 +1,11 @@
-// Exceptions that handlers raise while the system is in between: where they come out, and what they leave alone.
+// Exceptions that handlers raise while the system is in between: where they come out, and what they leave
+// alone.
 #include "Windows.h"
 
+#include "support/DebugOutput.h"
+#include "support/Desktop.h"
 #include "support/GuiThread.h"
+#include "support/Robot.h"
 #include "support/TestApp.h"
 
 #include <afxcmn.h>
@@ -50,6 +54,29 @@ protected:
     }
 };
 
+/// Calls that have nothing to do with an exception that waits.
+void everyGetter(CWnd& wnd)
+{
+    CString text;
+    wnd.GetWindowText(text);
+    wnd.GetWindowTextLength();
+    wnd.GetStyle();
+    wnd.GetFont();
+    wnd.IsWindowVisible();
+    wnd.GetIcon(TRUE);
+    wnd.SendMessage(WM_NULL);
+    wnd.SetWindowText(L"ash");
+    wnd.EnableWindow();
+    wnd.UpdateWindow();
+}
+
+/// The message loop goes on, until the queue is empty.
+void goOn(CWnd& wnd)
+{
+    wnd.PostMessage(WM_NULL);
+    GuiThread::settle();
+}
+
 /// Whether any call of the framework still has an exception to raise.
 bool nothingIsLeft()
 {
@@ -57,7 +84,7 @@ bool nothingIsLeft()
     try {
         probe.create();
         probe.SendMessage(WM_NULL);
-        GuiThread::settle();
+        goOn(probe);
         return true;
     } catch (const std::exception&) {
         return false;
@@ -92,20 +119,36 @@ TEST_F(CallOuts, RaiseWhatAHandlerRaised)
         {WM_COMMAND, [](CWnd& w) { w.SendMessage(WM_COMMAND, 5); }},
         {WM_SIZE, [](CWnd& w) { w.SetWindowPos(nullptr, 0, 0, 300, 300, SWP_NOMOVE | SWP_NOZORDER); }},
         {WM_MOVE, [](CWnd& w) { w.MoveWindow(40, 50, 300, 300); }},
-        {WM_WINDOWPOSCHANGING, [](CWnd& w) { w.SetWindowPos(nullptr, 9, 9, 0, 0, SWP_NOSIZE | SWP_NOZORDER); }},
+        {WM_WINDOWPOSCHANGING,
+         [](CWnd& w) { w.SetWindowPos(nullptr, 9, 9, 0, 0, SWP_NOSIZE | SWP_NOZORDER); }},
         {WM_STYLECHANGED, [](CWnd& w) { w.ModifyStyle(WS_MAXIMIZEBOX, 0); }},
         {WM_NCCALCSIZE, [](CWnd& w) { w.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED); }},
         {WM_ENABLE, [](CWnd& w) { w.EnableWindow(FALSE); }},
         {WM_SHOWWINDOW, [](CWnd& w) { w.ShowWindow(SW_SHOWNOACTIVATE); }},
         {WM_PAINT, [](CWnd& w) { w.RedrawWindow(); }},
         {WM_PAINT, [](CWnd& w) { w.Invalidate(), w.UpdateWindow(); }},
-        {WM_ERASEBKGND, [](CWnd& w) { w.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ERASENOW); }},
+        {WM_ERASEBKGND,
+         [](CWnd& w) { w.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ERASENOW); }},
         {WM_SETFOCUS, [](CWnd& w) { w.SetFocus(); }},
         {WM_SETTEXT, [](CWnd& w) { w.SetWindowText(L"ash"); }},
-        {WM_GETTEXT, [](CWnd& w) { CString text; w.GetWindowText(text); }},
+        {WM_GETTEXT,
+         [](CWnd& w) {
+             CString text;
+             w.GetWindowText(text);
+         }},
         {WM_GETTEXTLENGTH, [](CWnd& w) { w.GetWindowTextLength(); }},
-        {WM_CAPTURECHANGED, [](CWnd& w) { w.SetCapture(); Hidden<> next; next.create(); next.SetCapture(); }},
-        {WM_PRINT, [](CWnd& w) { CClientDC dc(nullptr); w.Print(&dc, PRF_CLIENT); }},
+        {WM_CAPTURECHANGED,
+         [](CWnd& w) {
+             w.SetCapture();
+             Hidden<> next;
+             next.create();
+             next.SetCapture();
+         }},
+        {WM_PRINT,
+         [](CWnd& w) {
+             CClientDC dc(nullptr);
+             w.Print(&dc, PRF_CLIENT);
+         }},
         {WM_SETFONT, [](CWnd& w) { w.SetFont(nullptr); }},
         {WM_SETICON, [](CWnd& w) { w.SetIcon(nullptr, TRUE); }},
     };
@@ -170,8 +213,8 @@ TEST_F(CallOuts, LetAHandlerOnTheWayCatchIt)
 
 TEST_F(CallOuts, DoNotInterruptHandlersThatComeAfterTheOneThatFailed)
 {
-    // WM_SIZE follows WM_MOVE within the same call of the system. Its handler makes calls of its own, which must
-    // not raise what WM_MOVE's handler raised.
+    // WM_SIZE follows WM_MOVE within the same call of the system. Its handler makes calls of its own, which
+    // must not raise what WM_MOVE's handler raised.
     bool finished = false;
     wnd.throwOn(WM_MOVE);
     wnd.on[WM_SIZE] = [&] {
@@ -233,8 +276,31 @@ TEST_F(CallOuts, DoNotRaiseWhileAnotherExceptionUnwinds)
         EXPECT_STREQ(error.what(), "elm");
     }
     wnd.on.clear();
-    EXPECT_THROW(wnd.SendMessage(WM_NULL), Oak) << "it is not lost: the next call raises it";
-    EXPECT_NO_THROW(wnd.SendMessage(WM_NULL));
+    EXPECT_NO_THROW(everyGetter(wnd));
+    EXPECT_THROW(goOn(wnd), Oak) << "it is not lost: the message loop raises it";
+    EXPECT_NO_THROW(goOn(wnd));
+}
+
+TEST_F(CallOuts, HandOverToTheCallFurtherOutWhatADestructorHadToKeep)
+{
+    struct Moving
+    {
+        CWnd& wnd;
+        ~Moving() { wnd.MoveWindow(70, 80, 333, 222); }
+    };
+    bool finished = false;
+    wnd.throwOn(WM_SIZE);
+    wnd.on[WM_APP] = [&] {
+        try {
+            const Moving moving{wnd};
+            throw std::logic_error("elm");
+        } catch (const std::logic_error&) {
+        }
+        everyGetter(wnd);
+        finished = true;
+    };
+    EXPECT_THROW(wnd.SendMessage(WM_APP), Oak);
+    EXPECT_TRUE(finished) << "calls of the same handler do not raise it";
 }
 
 TEST_F(CallOuts, OfAHandlerThatRunsDuringUnwindingRaiseInsideIt)
@@ -271,16 +337,141 @@ TEST_F(CallOuts, RaiseWhatADestructorHadToKeep)
         wnd.throwOn(WM_PARENTNOTIFY);
     }
     wnd.on.clear();
-    EXPECT_THROW(wnd.SendMessage(WM_NULL), Oak);
-    EXPECT_NO_THROW(wnd.SendMessage(WM_NULL));
+    EXPECT_NO_THROW(everyGetter(wnd));
+    EXPECT_THROW(goOn(wnd), Oak);
+    EXPECT_NO_THROW(goOn(wnd));
 }
 
-TEST_F(CallOuts, OfTheSystemsOwnFunctionAreMadeUpForByTheNextOne)
+TEST_F(CallOuts, OfTheSystemsOwnFunctionsAreMadeUpForByTheLoop)
+{
+    wnd.throwOn(WM_SIZE);
+    EXPECT_TRUE(::SetWindowPos(wnd, nullptr, 0, 0, 333, 222, SWP_NOMOVE));
+    wnd.on.clear();
+    EXPECT_NO_THROW(everyGetter(wnd));
+    CTreeCtrl tree;
+    EXPECT_NO_THROW(tree.Create(WS_CHILD, CRect(0, 0, 90, 90), &wnd, 4));
+    EXPECT_NO_THROW(tree.InsertItem(L"oak"));
+    EXPECT_EQ(tree.GetCount(), 1u);
+    EXPECT_THROW(goOn(wnd), Oak);
+    EXPECT_NO_THROW(goOn(wnd));
+    EXPECT_EQ(tree.GetCount(), 1u);
+    tree.DestroyWindow();
+}
+
+TEST_F(CallOuts, OfTheSystemsOwnFunctionsAreMadeUpForByAModalLoop)
+{
+    wnd.throwOn(WM_SIZE);
+    ::SetWindowPos(wnd, nullptr, 0, 0, 333, 222, SWP_NOMOVE);
+    wnd.on.clear();
+    wnd.PostMessage(WM_CLOSE); // ends the loop if nothing else does
+    EXPECT_THROW(wnd.RunModalLoop(), Oak);
+    EXPECT_NO_THROW(everyGetter(wnd));
+}
+
+TEST_F(CallOuts, OfTheSystemsOwnFunctionsInAHandlerAreMadeUpForByTheCallThatLedThere)
+{
+    bool finished = false;
+    wnd.throwOn(WM_SIZE);
+    wnd.on[WM_APP] = [&] {
+        ::SetWindowPos(wnd, nullptr, 0, 0, 333, 222, SWP_NOMOVE);
+        everyGetter(wnd);
+        finished = true;
+    };
+    EXPECT_THROW(wnd.SendMessage(WM_APP), Oak);
+    EXPECT_TRUE(finished);
+}
+
+TEST_F(CallOuts, AreNotNeededWhereTheProgramItselfSendsTheMessage)
 {
     wnd.throwOn(WM_APP);
-    EXPECT_EQ(::SendMessageW(wnd, WM_APP, 0, 0), 0);
-    EXPECT_THROW(wnd.SendMessage(WM_NULL), Oak);
-    EXPECT_NO_THROW(wnd.SendMessage(WM_NULL));
+    EXPECT_THROW(::SendMessageW(wnd, WM_APP, 0, 0), Oak);
+    EXPECT_THROW(::SendMessageA(wnd, WM_APP, 0, 0), Oak);
+    EXPECT_EQ(CWnd::GetCurrentMessage()->message, 0u) << "no message is being handled any more";
+    EXPECT_NO_THROW(everyGetter(wnd));
+    EXPECT_NO_THROW(goOn(wnd));
+}
+
+TEST_F(CallOuts, LetAHandlerCatchWhatItsOwnMessageRaises)
+{
+    bool caught = false;
+    wnd.throwOn(WM_APP + 1);
+    wnd.on[WM_APP] = [&] {
+        try {
+            ::SendMessageW(wnd, WM_APP + 1, 0, 0);
+        } catch (const Oak&) {
+            caught = true;
+        }
+    };
+    EXPECT_NO_THROW(wnd.SendMessage(WM_APP));
+    EXPECT_TRUE(caught);
+    // The outer message comes from within the system, which is not to be left through.
+    caught = false;
+    wnd.on[WM_SIZE] = wnd.on[WM_APP];
+    EXPECT_NO_THROW(wnd.MoveWindow(1, 2, 320, 240));
+    EXPECT_TRUE(caught);
+}
+
+TEST_F(CallOuts, RaiseWhatAHandlerLetsPass)
+{
+    wnd.throwOn(WM_APP + 1);
+    wnd.on[WM_SIZE] = [&] { ::SendMessageW(wnd, WM_APP + 1, 0, 0); };
+    EXPECT_THROW(wnd.MoveWindow(1, 2, 320, 240), Oak);
+    EXPECT_NO_THROW(everyGetter(wnd));
+    EXPECT_NO_THROW(goOn(wnd));
+}
+
+TEST_F(CallOuts, OfADestructorThatSendsWhileTheStackIsUnwoundKeepIt)
+{
+    struct Sending
+    {
+        CWnd& wnd;
+        ~Sending() { ::SendMessageW(wnd, WM_APP, 0, 0); }
+    };
+    wnd.throwOn(WM_APP);
+    try {
+        const Sending sending{wnd};
+        throw std::logic_error("elm");
+    } catch (const std::logic_error& error) {
+        EXPECT_STREQ(error.what(), "elm");
+    }
+    EXPECT_NO_THROW(everyGetter(wnd));
+    EXPECT_THROW(goOn(wnd), Oak);
+}
+
+TEST_F(CallOuts, AreNotCutShortByAnExceptionThroughTheSystemsOwnLoops)
+{
+    // A message box runs a loop of its own. An exception that left through it would leave the box behind.
+    wnd.throwOn(WM_APP);
+    wnd.PostMessage(WM_APP);
+    Robot robot;
+    auto answering = robot.waitFor("the box", [] { return shownDialog() != nullptr; }).key(VK_RETURN).start();
+    EXPECT_EQ(::MessageBoxW(nullptr, L"oak?", L"box", MB_OK), IDOK);
+    EXPECT_EQ(shownDialog(), nullptr);
+    EXPECT_THROW(goOn(wnd), Oak);
+}
+
+TEST_F(CallOuts, DropTheSecondOfTwoThatWaitAndSaySo)
+{
+    const DebugOutput output;
+    wnd.on[WM_MOVE] = [] { throw Oak("first"); };
+    wnd.on[WM_SIZE] = [] { throw Oak("second"); };
+    EXPECT_THROW(wnd.MoveWindow(70, 80, 333, 222), Oak);
+    EXPECT_EQ(output.count(L"dropped"), 1);
+    EXPECT_EQ(output.count(L"second"), 1);
+    EXPECT_EQ(output.count(L"first"), 0);
+    EXPECT_NO_THROW(goOn(wnd));
+}
+
+TEST_F(CallOuts, SayThatOneWaitsForTheLoop)
+{
+    const DebugOutput output;
+    wnd.throwOn(WM_SIZE);
+    ::SetWindowPos(wnd, nullptr, 0, 0, 333, 222, SWP_NOMOVE);
+    EXPECT_EQ(output.count(L"oak"), 1);
+    ::SetWindowPos(wnd, nullptr, 0, 0, 320, 240, SWP_NOMOVE);
+    EXPECT_EQ(output.count(L"dropped"), 1);
+    EXPECT_THROW(goOn(wnd), Oak);
+    EXPECT_NO_THROW(goOn(wnd));
 }
 
 TEST_F(CallOuts, RaiseForAReflectedNotification)
@@ -293,7 +484,8 @@ TEST_F(CallOuts, RaiseForAReflectedNotification)
     protected:
         BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
         {
-            if (throws && message == WM_NOTIFY && reinterpret_cast<NMHDR*>(lParam)->code == static_cast<UINT>(TVN_SELCHANGED))
+            if (throws && message == WM_NOTIFY &&
+                reinterpret_cast<NMHDR*>(lParam)->code == static_cast<UINT>(TVN_SELCHANGED))
                 throw Oak();
             return CTreeCtrl::OnChildNotify(message, wParam, lParam, result);
         }
