@@ -1,16 +1,32 @@
 // Assertions and traces.
 #pragma once
 
+#include <afx/FormatArgument.h>
 #include <afx/Platform.h>
-
-#include <cstdarg>
 
 /// Called for a failed ASSERT: says where on the debugger's channel and the error output, and ends the
 /// program.
 OVOMFC_API void AFXAPI AfxAssertFailedLine(const char* file, int line);
 
-/// Writes to the debugger's channel, in the manner of wprintf (%s is wide).
-OVOMFC_API void AFX_CDECL AfxTrace(LPCTSTR format, ...);
+namespace afxdetail
+{
+OVOMFC_API void AFX_CDECL traceList(LPCWSTR format, ...);
+OVOMFC_API void AFX_CDECL traceList(LPCSTR format, ...);
+} // namespace afxdetail
+
+/// Writes to the debugger's channel, in the manner of wprintf (%s is wide). An argument for %s may be a
+/// CString.
+template <afxdetail::FormatArgument... Arguments>
+void AfxTrace(LPCWSTR format, Arguments... arguments)
+{
+    afxdetail::traceList(format, afxdetail::formatArgument(arguments)...);
+}
+/// With a narrow format: %s is narrow, and a CString goes with %S.
+template <afxdetail::FormatArgument... Arguments>
+void AfxTrace(LPCSTR format, Arguments... arguments)
+{
+    afxdetail::traceList(format, afxdetail::formatArgument(arguments)...);
+}
 
 /// Whether a block of memory can be read (and written, if asked).
 OVOMFC_API BOOL AFXAPI AfxIsValidAddress(const void* address, UINT_PTR bytes, BOOL readWrite = TRUE);

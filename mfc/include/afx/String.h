@@ -1,6 +1,7 @@
 // CString: text that is copied by sharing and changed after unsharing.
 #pragma once
 
+#include <afx/FormatArgument.h>
 #include <afx/Platform.h>
 
 #include <compare>
@@ -9,7 +10,8 @@
 
 /// Wide text. One pointer to a counted buffer: copies are cheap, and the first change makes a copy of its
 /// own. Objects that share a buffer belong to one thread. Positions and lengths count wide characters.
-/// Passing a CString through an ellipsis is not portable: write `(LPCTSTR)text`.
+/// Format and the like take a CString as it is. Functions of the C runtime with an ellipsis do not: write
+/// `(LPCTSTR)text` there.
 class OVOMFC_API CString
 {
 public:
@@ -95,16 +97,41 @@ public:
     void OemToAnsi();
     void AnsiToOem();
 
-    // Formatting: %s is wide, %S is narrow, %hs is narrow, %I64d is 64 bits
-    void AFX_CDECL Format(LPCWSTR format, ...);
-    void AFX_CDECL Format(UINT formatId, ...);
+    // Formatting: %s is wide, %S is narrow, %hs is narrow, %I64d is 64 bits. An argument for %s may be a
+    // CString.
+    template <afxdetail::FormatArgument... Arguments>
+    void Format(LPCWSTR format, Arguments... arguments)
+    {
+        formatList(format, afxdetail::formatArgument(arguments)...);
+    }
+    template <afxdetail::FormatArgument... Arguments>
+    void Format(UINT formatId, Arguments... arguments)
+    {
+        formatList(loaded(formatId), afxdetail::formatArgument(arguments)...);
+    }
     void FormatV(LPCWSTR format, va_list arguments);
-    void AFX_CDECL AppendFormat(LPCWSTR format, ...);
-    void AFX_CDECL AppendFormat(UINT formatId, ...);
+    template <afxdetail::FormatArgument... Arguments>
+    void AppendFormat(LPCWSTR format, Arguments... arguments)
+    {
+        appendFormatList(format, afxdetail::formatArgument(arguments)...);
+    }
+    template <afxdetail::FormatArgument... Arguments>
+    void AppendFormat(UINT formatId, Arguments... arguments)
+    {
+        appendFormatList(loaded(formatId), afxdetail::formatArgument(arguments)...);
+    }
     void AppendFormatV(LPCWSTR format, va_list arguments);
     /// In the manner of the system's FormatMessage (%1, %2).
-    void AFX_CDECL FormatMessage(LPCWSTR format, ...);
-    void AFX_CDECL FormatMessage(UINT formatId, ...);
+    template <afxdetail::FormatArgument... Arguments>
+    void FormatMessage(LPCWSTR format, Arguments... arguments)
+    {
+        formatMessageList(format, afxdetail::formatArgument(arguments)...);
+    }
+    template <afxdetail::FormatArgument... Arguments>
+    void FormatMessage(UINT formatId, Arguments... arguments)
+    {
+        formatMessageList(loaded(formatId), afxdetail::formatArgument(arguments)...);
+    }
     void FormatMessageV(LPCWSTR format, va_list* arguments);
 
     // Resources. FALSE and an empty text when there is no such string.
@@ -147,6 +174,10 @@ private:
     void append(std::wstring_view text);
     LPWSTR makeRoom(int length);
     void setLength(int length);
+    static CString loaded(UINT id);
+    void AFX_CDECL formatList(LPCWSTR format, ...);
+    void AFX_CDECL appendFormatList(LPCWSTR format, ...);
+    void AFX_CDECL formatMessageList(LPCWSTR format, ...);
     template <class Belongs>
     CString& trimLeftWhile(Belongs belongs);
     template <class Belongs>

@@ -1,6 +1,7 @@
 // Assertions, traces, and whether memory can be read.
 #include <afx.h>
 
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 
@@ -34,7 +35,10 @@ void AFXAPI AfxAssertFailedLine(const char* file, int line)
     AfxAbort();
 }
 
-void AFX_CDECL AfxTrace(LPCTSTR format, ...)
+namespace afxdetail
+{
+
+void AFX_CDECL traceList(LPCWSTR format, ...)
 {
     CString text;
     va_list arguments;
@@ -43,6 +47,24 @@ void AFX_CDECL AfxTrace(LPCTSTR format, ...)
     va_end(arguments);
     ::OutputDebugStringW(text);
 }
+
+void AFX_CDECL traceList(LPCSTR format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    va_list again;
+    va_copy(again, arguments);
+    const int length = ::_vscprintf(format, arguments);
+    if (length > 0) {
+        std::string text(static_cast<std::size_t>(length) + 1, '\0');
+        ::_vsnprintf(text.data(), text.size(), format, again);
+        ::OutputDebugStringA(text.c_str());
+    }
+    va_end(again);
+    va_end(arguments);
+}
+
+} // namespace afxdetail
 
 BOOL AFXAPI AfxIsValidAddress(const void* address, UINT_PTR bytes, BOOL readWrite)
 {

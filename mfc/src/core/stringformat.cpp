@@ -27,7 +27,7 @@ void CString::AppendFormatV(LPCWSTR format, va_list arguments)
     append(text.view());
 }
 
-void AFX_CDECL CString::Format(LPCWSTR format, ...)
+void AFX_CDECL CString::formatList(LPCWSTR format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
@@ -35,30 +35,10 @@ void AFX_CDECL CString::Format(LPCWSTR format, ...)
     va_end(arguments);
 }
 
-void AFX_CDECL CString::Format(UINT formatId, ...)
-{
-    CString format;
-    format.LoadString(formatId);
-    va_list arguments;
-    va_start(arguments, formatId);
-    FormatV(format, arguments);
-    va_end(arguments);
-}
-
-void AFX_CDECL CString::AppendFormat(LPCWSTR format, ...)
+void AFX_CDECL CString::appendFormatList(LPCWSTR format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
-    AppendFormatV(format, arguments);
-    va_end(arguments);
-}
-
-void AFX_CDECL CString::AppendFormat(UINT formatId, ...)
-{
-    CString format;
-    format.LoadString(formatId);
-    va_list arguments;
-    va_start(arguments, formatId);
     AppendFormatV(format, arguments);
     va_end(arguments);
 }
@@ -74,7 +54,7 @@ void CString::FormatMessageV(LPCWSTR format, va_list* arguments)
     SetString(text, static_cast<int>(length));
 }
 
-void AFX_CDECL CString::FormatMessage(LPCWSTR format, ...)
+void AFX_CDECL CString::formatMessageList(LPCWSTR format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
@@ -82,14 +62,11 @@ void AFX_CDECL CString::FormatMessage(LPCWSTR format, ...)
     va_end(arguments);
 }
 
-void AFX_CDECL CString::FormatMessage(UINT formatId, ...)
+CString CString::loaded(UINT id)
 {
-    CString format;
-    format.LoadString(formatId);
-    va_list arguments;
-    va_start(arguments, formatId);
-    FormatMessageV(format, &arguments);
-    va_end(arguments);
+    CString text;
+    text.LoadString(id);
+    return text;
 }
 
 void AFXAPI AfxFormatStrings(CString& result, LPCTSTR format, LPCTSTR const* arguments, int count)

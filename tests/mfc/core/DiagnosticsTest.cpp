@@ -1,7 +1,11 @@
 // Assertions, traces, and whether memory can be read.
+#include "support/DebugOutput.h"
+
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
+
+using ovotest::DebugOutput;
 
 namespace
 {
@@ -92,12 +96,31 @@ TEST(Ensure, ThrowsWhenItDoesNotHold)
 
 TEST(Traces, TakeFormatsAndArguments)
 {
-    // No debugger listens here: a trace of any length does no harm.
-    TRACE0("plain\n");
-    TRACE1("%d\n", 1);
-    TRACE2("%d %s\n", 1, L"two");
-    TRACE3("%d %s %.1f\n", 1, L"two", 3.0);
-    TRACE(L"%s\n", CString(L'x', 5000).GetString());
+    const DebugOutput output;
+    AfxTrace(L"plain\n");
+    AfxTrace(L"%d %s %.1f\n", 1, L"two", 3.0);
+    const CString word = L"oak";
+    AfxTrace(L"%s|%d|%s\n", word, 7, word + L"s");
+    AfxTrace("narrow %s %S\n", "ash", word);
+    AfxTrace(L"%s\n", CString(L'x', 5000));
+    EXPECT_EQ(output.lines(),
+              (std::vector<std::wstring>{L"plain\n", L"1 two 3.0\n", L"oak|7|oaks\n", L"narrow ash oak\n",
+                                         std::wstring(5000, L'x') + L"\n"}));
+}
+
+TEST(Traces, TheMacrosAreThere)
+{
+    const DebugOutput output;
+    TRACE0("plain");
+    TRACE1("%s", CString(L"one"));
+    TRACE2("%d %s", 1, L"two");
+    TRACE3("%d %s %.1f", 1, L"two", 3.0);
+    TRACE(_T("%s"), CString(L"oak"));
+#if defined(OVO_ASSERTIONS) || !defined(NDEBUG)
+    EXPECT_EQ(output.lines(), (std::vector<std::wstring>{L"plain", L"one", L"1 two", L"1 two 3.0", L"oak"}));
+#else
+    EXPECT_TRUE(output.lines().empty());
+#endif
 }
 
 #ifdef OVO_ASSERTIONS

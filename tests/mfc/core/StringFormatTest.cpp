@@ -91,6 +91,60 @@ TEST(StringFormat, TakesTheFormatFromAResource)
     EXPECT_EQ(text, L"3 of files4 of folders");
 }
 
+TEST(StringFormat, TakesTextsWithoutACast)
+{
+    class Derived : public CString
+    {
+    public:
+        using CString::CString;
+    };
+    enum class Size : unsigned char
+    {
+        Large = 200
+    };
+    CString text = L"oak";
+    const CString& same = text;
+    const Derived derived(L"ash");
+    text.Format(L"%s, %d, %s, %c, %s, %.2f, %s", text, 5, same, L'!', derived, 1.5f, text + L"s");
+    EXPECT_EQ(text, L"oak, 5, oak, !, ash, 1.50, oaks");
+    text.AppendFormat(L"; %s %I64d %d %s", same.Left(3), 1LL << 40, Size::Large, CString(L"elm"));
+    EXPECT_EQ(text, L"oak, 5, oak, !, ash, 1.50, oaks; oak 1099511627776 200 elm");
+    text.Format(L"%s|%S|%p", CString(), "narrow", nullptr);
+    EXPECT_EQ(text, L"|narrow|0000000000000000");
+}
+
+TEST(StringFormat, TakesTextsWithAFormatFromAResource)
+{
+    const CString files = L"files";
+    CString text;
+    text.Format(IDS_FORMAT, 3, files);
+    EXPECT_EQ(text, L"3 of files");
+    text.AppendFormat(IDS_FORMAT, 4, files + L"!");
+    EXPECT_EQ(text, L"3 of files4 of files!");
+    text.FormatMessage(L"%2!s! before %1!s!", files, CString(L"folders"));
+    EXPECT_EQ(text, L"folders before files");
+    text.FormatMessage(IDS_MESSAGE_FORMAT, files, 2);
+    EXPECT_EQ(text, L"2 then files");
+}
+
+namespace
+{
+/// As older programs write constants: declared in the class and defined nowhere.
+struct Limits
+{
+    static const int kLargest = 9;
+    unsigned bits : 3 = 5;
+};
+} // namespace
+
+TEST(StringFormat, TakesConstantsAndBitFieldsByValue)
+{
+    const Limits limits;
+    CString text;
+    text.Format(L"%d %u", Limits::kLargest, limits.bits);
+    EXPECT_EQ(text, L"9 5");
+}
+
 TEST(StringFormat, MessagesPutTheirArgumentsInAnyOrder)
 {
     CString text;

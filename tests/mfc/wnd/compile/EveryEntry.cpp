@@ -54,7 +54,7 @@ UINT s_registered = 0;
 }
 
 // clang-format off
-BEGIN_MESSAGE_MAP(Window, Handlers) // entries begin
+BEGIN_MESSAGE_MAP(Window, Handlers) // refused from here
     ON_MESSAGE(WM_APP, HANDLER(OnTwoEx, OnTwo))
     ON_MESSAGE_VOID(WM_APP, HANDLER(OnNothing, OnNothingEx))
     ON_REGISTERED_MESSAGE(s_registered, HANDLER(OnTwoEx, OnTwo))
@@ -118,12 +118,12 @@ BEGIN_MESSAGE_MAP(Window, Handlers) // entries begin
     ON_STN_DBLCLK(1, HANDLER(OnNothing, OnNothingEx))
     ON_STN_ENABLE(1, HANDLER(OnNothing, OnNothingEx))
     ON_STN_DISABLE(1, HANDLER(OnNothing, OnNothingEx))
-END_MESSAGE_MAP() // entries end
+END_MESSAGE_MAP() // refused to here
 
-BEGIN_MESSAGE_MAP(Thread, CWinThread) // entries begin
+BEGIN_MESSAGE_MAP(Thread, CWinThread) // refused from here
     ON_THREAD_MESSAGE(WM_APP, HANDLER(OnTwo, OnTwoEx))
     ON_REGISTERED_THREAD_MESSAGE(s_registered, HANDLER(OnTwo, OnTwoEx))
-END_MESSAGE_MAP() // entries end
+END_MESSAGE_MAP() // refused to here
 
 // A template's entries are judged when it is made into a class.
 template <class T>
@@ -135,9 +135,9 @@ class Pane : public CWnd
     DECLARE_MESSAGE_MAP()
 };
 
-BEGIN_TEMPLATE_MESSAGE_MAP(Pane, T, CWnd) // entries begin
+BEGIN_TEMPLATE_MESSAGE_MAP(Pane, T, CWnd) // refused from here
     ON_COMMAND(1, HANDLER(OnNothing, OnNothingEx))
     ON_COMMAND_RANGE(1, 2, HANDLER(OnNumber, OnNothing))
-END_MESSAGE_MAP() // entries end
+END_MESSAGE_MAP() // refused to here
 
 template class Pane<int>;
