@@ -25,6 +25,7 @@ function(ovo_install_headers folder)
     endif()
     get_filename_component(where ${header} DIRECTORY)
     install(FILES ${PROJECT_SOURCE_DIR}/${header} DESTINATION include/${where})
+    set_property(GLOBAL APPEND PROPERTY OVO_PUBLIC_HEADERS ${header}) # for the test that compiles them
   endforeach()
 endfunction()
 ovo_install_headers(ovocor)

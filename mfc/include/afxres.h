@@ -9,7 +9,7 @@
 #ifdef RC_INVOKED
 #include <winresrc.h>
 #else
-#include <windows.h>
+#include <afx/Platform.h>
 #endif
 
 // Control bars and panes of a frame

@@ -6,6 +6,8 @@
 #include <atltypes.h>
 #include <ole2.h>
 
+class CWnd;
+
 /// Decides when a drag begins, when it ends, and what the pointer looks like meanwhile.
 ///
 /// It remembers which button began the drag: releasing that one drops, pressing the other cancels.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <afx/Wnd.h>
+#include <afxres.h>
 
 class CControlBar;
 class CDocTemplate;
@@ -78,8 +79,8 @@ public:
     virtual CWnd* GetMessageBar(); ///< The status bar, or null.
 
     // Modal state: the windows that the frame owns, and the frame, are disabled. Calls nest.
-    virtual void BeginModalState();
-    virtual void EndModalState();
+    void BeginModalState() override;
+    void EndModalState() override;
     BOOL InModalState() const { return m_modalDepth > 0; }
     void ShowOwnedWindows(BOOL show);
 

@@ -1,11 +1,9 @@
 // The platform's headers as MFC wants them: Unicode, without the macros that would rename members.
 #pragma once
 
-#ifndef UNICODE
-#define UNICODE
-#endif
-#ifndef _UNICODE
-#define _UNICODE
+// For the whole program: <windows.h> may have been included before this.
+#if !defined(UNICODE) || !defined(_UNICODE)
+#error "Define UNICODE and _UNICODE when compiling (-DUNICODE -D_UNICODE): there is no narrow build of this MFC"
 #endif
 #ifndef _AFXDLL
 #define _AFXDLL
@@ -55,6 +53,10 @@ inline HWND WINAPI GetNextWindow(HWND wnd, UINT command)
 }
 
 #include <detail/exportmacros.h>
+
+// Controls declare a Create of their own beside CWnd's, and so do the classes of programs: MFC's interface is made
+// that way.
+#pragma GCC diagnostic ignored "-Woverloaded-virtual"
 
 #define AFXAPI __stdcall
 #define AFX_CDECL __cdecl
