@@ -1,6 +1,7 @@
 #include "PageTable.h"
 
 #include "pages/ComboPage.h"
+#include "pages/DockingPage.h"
 #include "pages/GeometryPage.h"
 #include "pages/ImagesPage.h"
 #include "pages/ListsPage.h"
@@ -56,6 +57,10 @@ const std::vector<PageEntry>& pageTable()
         {L"shadedtabs", L"Shaded tabs",
          L"CShadedTabCtrl: the page of a tab control shows through the controls on it.",
          &make<ShadedTabsPage>},
+        {L"docking", L"Docking",
+         L"Drag bars to the sides or beside the frame, size them, double-click grippers and captions; "
+         L"CVantorToolWnd.",
+         &make<DockingPage>},
     };
     return pages;
 }

@@ -18,12 +18,13 @@
 #include <ovoui/lists/ListCtrlEx.h>
 #include <ovoui/lists/ListLayout.h>
 #include <ovoui/lists/ListSorter.h>
-#include <ovoui/toolbar/FlyoutToolbar.h>
-#include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/sliders/RoundSlider.h>
 #include <ovoui/sliders/Separators.h>
 #include <ovoui/sliders/SliderButton.h>
 #include <ovoui/sliders/WheelSlider.h>
+#include <ovoui/toolbar/FlyoutToolbar.h>
+#include <ovoui/toolbar/VantorToolBar.h>
+#include <ovoui/toolbar/VantorToolWnd.h>
 #include <ovoui/tree/DropMenu.h>
 #include <ovoui/tree/MultiTreeCtrl.h>
 #include <ovoui/tree/PlainText.h>

@@ -6,6 +6,10 @@
 #include <afxwin.h>
 
 #include <afx/ControlBar.h>
+#include <afx/DialogBar.h>
+#include <afx/DockBar.h>
+#include <afx/DockState.h>
+#include <afx/MiniDockFrameWnd.h>
 #include <afx/StatusBar.h>
 #include <afx/ToolBar.h>
 

@@ -18,7 +18,7 @@
 #define WM_KICKIDLE 0x036A // of a modal loop: wParam MSGF_DIALOGBOX, lParam the count; 0 ends the idling
 #define WM_QUERYCENTERWND 0x036B
 #define WM_DISABLEMODAL 0x036C
-#define WM_FLOATSTATUS 0x036D
+#define WM_FLOATSTATUS 0x036D      // to a mini frame: wParam FS_ bits
 #define WM_ACTIVATETOPLEVEL 0x036E
 #define WM_POPMESSAGESTRING 0x0375
 
@@ -28,6 +28,14 @@
 #define HID_BASE_PROMPT 0x00030000UL   // message boxes
 #define HID_BASE_NCAREAS 0x00040000UL  // hit tests outside the client area
 #define HID_BASE_CONTROL 0x00050000UL  // controls
+// Of WM_FLOATSTATUS
+#define FS_SHOW 0x01
+#define FS_HIDE 0x02
+#define FS_ACTIVATE 0x04
+#define FS_DEACTIVATE 0x08
+#define FS_ENABLE 0x10
+#define FS_DISABLE 0x20
+#define FS_SYNCACTIVE 0x40
 
 /// Of WM_SIZEPARENT: each control bar takes its part of `rect`.
 struct AFX_SIZEPARENTPARAMS

@@ -20,6 +20,7 @@
 #include <afx/DataExchange.h>
 #include <afx/Dialog.h>
 #include <afx/FrameWnd.h>
+#include <afx/MiniFrameWnd.h>
 #include <afx/View.h>
 #include <afx/WinApp.h>
 #include <afx/WinThread.h>

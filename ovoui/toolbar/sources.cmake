@@ -28,4 +28,5 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarPaint.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/VantorToolBar.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/VantorToolBar.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/VantorToolWnd.cpp)

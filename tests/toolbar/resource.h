@@ -22,3 +22,10 @@
 // Controls in bars
 #define IDC_BAR_EDIT 401
 #define IDC_BAR_COMBO 402
+
+// The tool window's template, and its string
+#define IDD_PALETTE 501
+#define IDS_PALETTE 502
+#define IDC_PALETTE_EDIT 511
+#define IDC_PALETTE_CHECK 512
+#define IDC_PALETTE_SLIDER 513

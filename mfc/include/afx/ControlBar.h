@@ -3,6 +3,14 @@
 
 #include <afx/FrameWnd.h>
 
+class CDockBar;
+
+namespace afxdetail
+{
+class BarDrag;
+struct DockMemory;
+} // namespace afxdetail
+
 // Styles of control bars. They travel in one word with window styles, whose upper half they leave free but
 // for one bit that no bar needs.
 #define CBRS_ALIGN_LEFT 0x1000L // where the bar lies, or may be docked
@@ -74,9 +82,14 @@ public:
     BOOL IsFloating() const { return (m_dwStyle & CBRS_FLOATING) != 0; }
     BOOL
     IsVisible() const; ///< What is about to be shown counts as visible, what is about to be hidden does not.
-    CFrameWnd* GetDockingFrame() const { return m_pDockSite; }
-    /// The sides that it may be docked to, CBRS_ALIGN_ bits, and CBRS_FLOAT_MULTI; 0: it cannot be docked.
+    CFrameWnd* GetDockingFrame() const { return m_pDockSite; } ///< Also while it floats.
+    /// The sides that it may be docked to, CBRS_ALIGN_ bits, and CBRS_FLOAT_MULTI; 0: it only floats. The
+    /// user can drag it from now on, in a frame that takes bars.
     void EnableDocking(DWORD dockStyle);
+    /// A bar of an object that is edited in place. While a frame has one, its own bars of style
+    /// CBRS_HIDE_INPLACE are hidden. Null: it is an ordinary bar.
+    void SetInPlaceOwner(CWnd* owner);
+    CWnd* m_pInPlaceOwner = nullptr;
 
     // Layout
     /// The bar's size in pixels; 32767 along the edge when it is stretched.
@@ -106,6 +119,11 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnPaint();
     afx_msg void OnTimer(UINT_PTR id);
+    afx_msg void OnClose(); ///< Hides the bar.
+    afx_msg void OnWindowPosChanged(WINDOWPOS* place);
+    // On its gripper and background: drags the bar; makes it float or docks it again.
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg LRESULT OnSizeParent(WPARAM, LPARAM layout);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM);
     afx_msg LRESULT OnInitialUpdate(WPARAM, LPARAM);
@@ -128,9 +146,13 @@ protected:
     int m_nCount = 0;                 ///< items
     DWORD m_dwDockStyle = 0;          ///< where it may be docked
     CFrameWnd* m_pDockSite = nullptr; ///< the frame that it belongs to
+    CDockBar* m_pDockBar = nullptr; ///< what it is docked to, or floats in; null for a bar with a fixed place
 
 private:
     friend class CFrameWnd;
+    friend class CDockBar;
+    friend class CMiniDockFrameWnd;
+    friend class afxdetail::BarDrag;
 
     enum class Pending
     {
@@ -149,9 +171,18 @@ private:
     INT_PTR toolUnderPointer() const;
     void showPrompt();
     void forgetPrompt();
+    bool isDockable() const;
+    void calcFrame(NCCALCSIZE_PARAMS& sizes);
+    void paintFrame();
+
+    friend class CToolBar;
+    friend class CDialogBar;
 
     Pending m_pending = Pending::Nothing;
     INT_PTR m_promptTool = -1; ///< the tool whose prompt is shown or about to be shown
     bool m_promptShown = false;
+    bool m_dockingEnabled = false;
+    bool m_hiddenInPlace = false;
+    std::unique_ptr<afxdetail::DockMemory> m_dockMemory; ///< where it was docked and floating last
     bool m_tipsFollowed = false; ///< whether tips are on, as m_dwStyle said when it was last looked at
 };

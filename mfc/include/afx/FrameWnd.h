@@ -4,10 +4,22 @@
 #include <afx/Wnd.h>
 #include <afxres.h>
 
+#include <memory>
+#include <vector>
+
 class CControlBar;
+class CDockBar;
+class CDockState;
 class CDocTemplate;
 class CDocument;
+class CMiniDockFrameWnd;
 class CView;
+struct CControlBarInfo;
+
+namespace afxdetail
+{
+class BarDrag;
+}
 
 // Styles of frames, given along with window styles. They concern the names of documents.
 #define FWS_ADDTOTITLE 0x00008000L  // the title names the document
@@ -71,6 +83,26 @@ public:
     afx_msg BOOL OnBarCheck(UINT id); ///< A command that shows or hides the bar of the same number.
     afx_msg void OnUpdateControlBarMenu(CCmdUI* ui);
 
+    // Docking
+    /// Lets bars be docked to these sides, CBRS_ALIGN_ bits.
+    void EnableDocking(DWORD dockStyle);
+    /// Docks a bar to the side of number AFX_IDW_DOCKBAR_..., 0 for the first that frame and bar allow (top,
+    /// bottom, left, right). With a rectangle of the screen where it is dropped: into the row there, between
+    /// the bars there. Without, into a row of its own behind the others. The frame is laid out in idle time,
+    /// or by RecalcLayout.
+    void DockControlBar(CControlBar* bar, UINT dockBarId = 0, LPCRECT rect = nullptr);
+    void DockControlBar(CControlBar* bar, CDockBar* dockBar, LPCRECT rect = nullptr);
+    /// Gives a bar a window of its own with its upper left corner at a point of the screen. CBRS_ALIGN_TOP or
+    /// BOTTOM: it lies horizontally, CBRS_ALIGN_LEFT or RIGHT: vertically. A bar of dynamic size has its last
+    /// size.
+    void FloatControlBar(CControlBar* bar, CPoint point, DWORD style = 0x2000L /* CBRS_ALIGN_TOP */);
+
+    // Bars as the user has arranged them: which are shown, where they are docked, where they float
+    void GetDockState(CDockState& state) const;
+    void SetDockState(const CDockState& state);
+    void LoadBarState(LPCTSTR profileName); ///< From the profile; without a saved state nothing changes.
+    void SaveBarState(LPCTSTR profileName) const;
+
     // The message line
     /// The text that explains a command: its string up to the line feed. Empty when there is none.
     virtual void GetMessageString(UINT id, CString& message) const;
@@ -122,6 +154,8 @@ protected:
     afx_msg LRESULT OnSetMessageString(WPARAM id, LPARAM text);
     afx_msg LRESULT OnPopMessageString(WPARAM id, LPARAM text);
     afx_msg LRESULT OnRecalcParent(WPARAM, LPARAM);
+    afx_msg LRESULT OnActivateTopLevel(WPARAM state, LPARAM);
+    afx_msg void OnShowWindow(BOOL show, UINT why);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM, LPARAM);
     afx_msg BOOL OnToolTipText(UINT id, NMHDR* header, LRESULT* result);
     afx_msg void OnUpdateKeyIndicator(CCmdUI* ui);
@@ -137,15 +171,29 @@ protected:
 
 private:
     friend class CControlBar;
+    friend class CDockBar;
+    friend class CMiniDockFrameWnd;
+    friend class afxdetail::BarDrag;
 
     void addControlBar(CControlBar* bar);
     void removeControlBar(CControlBar* bar);
     void applyPendingBars();
     void scrollView(CScrollBar* bar);
+    CDockBar* dockBar(UINT id) const;
+    CDockBar* firstDockBarFor(const CControlBar& bar) const;
+    void orderDockBars();
+    void layOutFloats();
+    bool belongsToIt(const CWnd* window) const;
+    void hideBarsInPlace();
+    static void restoreMemory(CControlBar& bar, const CControlBarInfo& info);
+    CMiniDockFrameWnd* makeFloat(CControlBar& bar, CPoint point);
 
     std::vector<CControlBar*> m_bars;
+    std::vector<std::unique_ptr<CDockBar>> m_dockBars; ///< in the order in which they take their room
+    std::vector<CMiniDockFrameWnd*> m_floats;          ///< windows of floating bars; each deletes itself
     std::vector<HWND> m_disabledByModal;
     int m_modalDepth = 0;
     bool m_layingOut = false;
-    bool m_layoutPending = false; ///< at the next idle time
+    bool m_layoutPending = false;  ///< at the next idle time
+    bool m_dockOrderStale = false; ///< a bar with a fixed place has come behind the dock bars
 };

@@ -85,6 +85,8 @@ protected:
     afx_msg void OnPaint();
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg void OnSysColorChange();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
     CSize m_sizeImage{16, 15};  ///< of a picture, in pixels
@@ -93,6 +95,7 @@ protected:
 private:
     TBBUTTON button(int index) const;
     void setButton(int index, const TBBUTTON& button);
+    bool isOnButton(CPoint point) const;
     bool showPictures(HBITMAP bitmap, int count);
     bool showResource(HINSTANCE module, HRSRC resource);
     CSize layOut(int length, DWORD mode);

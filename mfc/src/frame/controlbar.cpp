@@ -2,7 +2,9 @@
 #include <afxext.h>
 #include <afxpriv.h>
 
-#include "core/barlayout.h"
+#include "bararea.h"
+#include "bardrag.h"
+#include "dockmemory.h"
 
 #include <utility>
 
@@ -16,6 +18,10 @@ BEGIN_MESSAGE_MAP(CControlBar, CWnd)
     ON_WM_PAINT()
     ON_WM_TIMER() // prompts, in controlbartips.cpp
     ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
+    ON_WM_WINDOWPOSCHANGED()
+    ON_WM_CLOSE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
     ON_MESSAGE(WM_INITIALUPDATE, &CControlBar::OnInitialUpdate)
     ON_MESSAGE(WM_HELPHITTEST, &CControlBar::OnHelpHitTest)
@@ -28,30 +34,11 @@ BEGIN_MESSAGE_MAP(CControlBar, CWnd)
     ON_WM_CHARTOITEM()
 END_MESSAGE_MAP()
 
-namespace
-{
-
 using afxdetail::Area;
 using afxdetail::Side;
 
-Side sideOf(DWORD style)
+namespace
 {
-    if (style & CBRS_ALIGN_TOP)
-        return Side::Top;
-    if (style & CBRS_ALIGN_BOTTOM)
-        return Side::Bottom;
-    return (style & CBRS_ALIGN_LEFT) ? Side::Left : Side::Right;
-}
-
-Area areaOf(const RECT& rect)
-{
-    return {rect.left, rect.top, rect.right, rect.bottom};
-}
-
-CRect rectOf(const Area& area)
-{
-    return CRect(area.left, area.top, area.right, area.bottom);
-}
 
 bool isKey(UINT message)
 {
@@ -106,6 +93,20 @@ void CControlBar::SetBorders(LPCRECT borders)
 void CControlBar::EnableDocking(DWORD dockStyle)
 {
     m_dwDockStyle = dockStyle & (CBRS_ALIGN_ANY | CBRS_FLOAT_MULTI);
+    m_dockingEnabled = true;
+}
+
+/// Whether its user can drag it: docking was enabled, and it was docked or made to float.
+bool CControlBar::isDockable() const
+{
+    return m_dockingEnabled && m_pDockBar;
+}
+
+void CControlBar::SetInPlaceOwner(CWnd* owner)
+{
+    m_pInPlaceOwner = owner;
+    if (m_pDockSite)
+        m_pDockSite->hideBarsInPlace();
 }
 
 BOOL CControlBar::IsVisible() const
@@ -154,6 +155,8 @@ int CControlBar::OnCreate(LPCREATESTRUCT cs)
 void CControlBar::OnDestroy()
 {
     forgetPrompt();
+    if (m_pDockBar)
+        m_pDockBar->release(*this);
     if (m_pDockSite)
         std::exchange(m_pDockSite, nullptr)->removeControlBar(this);
     CWnd::OnDestroy();
@@ -184,19 +187,56 @@ LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam)
     if (!IsVisible() || !(m_dwStyle & CBRS_ALIGN_ANY))
         return 0;
 
-    const Side side = sideOf(m_dwStyle);
+    const Side side = afxdetail::sideOf(m_dwStyle);
     const DWORD direction = isHorizontal(side) ? LM_HORZ | LM_HORZDOCK : LM_VERTDOCK;
     const CSize size = CalcDynamicLayout(-1, direction | (layout.bStretch ? LM_STRETCH : 0));
 
-    Area free = areaOf(layout.rect);
-    afxdetail::Extent total{layout.sizeTotal.cx, layout.sizeTotal.cy};
-    const Area place = afxdetail::takeStrip(free, {size.cx, size.cy}, side);
+    Area free = afxdetail::areaOf(layout.rect);
+    afxdetail::Extent total = afxdetail::extentOf(layout.sizeTotal);
+    const Area place = afxdetail::takeStrip(free, afxdetail::extentOf(size), side);
     afxdetail::addToTotal(total, place, side);
-    layout.rect = rectOf(free);
+    layout.rect = afxdetail::rectOf(free);
     layout.sizeTotal = CSize(total.width, total.height);
     if (layout.hDWP)
-        AfxRepositionWindow(&layout, m_hWnd, rectOf(place));
+        AfxRepositionWindow(&layout, m_hWnd, afxdetail::rectOf(place));
     return 0;
+}
+
+/// A bar that was shown or hidden in another way than by the frame: its room is taken or given back when
+/// there is time.
+void CControlBar::OnWindowPosChanged(WINDOWPOS* place)
+{
+    CWnd::OnWindowPosChanged(place);
+    if (m_pDockSite && !m_pDockSite->m_layingOut && (place->flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW)))
+        m_pDockSite->m_layoutPending = true;
+}
+
+void CControlBar::OnClose()
+{
+    if (m_pDockSite)
+        m_pDockSite->ShowControlBar(this, FALSE, FALSE);
+    else
+        ShowWindow(SW_HIDE);
+}
+
+// Dragging
+
+void CControlBar::OnLButtonDown(UINT flags, CPoint point)
+{
+    if (!isDockable()) {
+        CWnd::OnLButtonDown(flags, point);
+        return;
+    }
+    ClientToScreen(&point);
+    afxdetail::BarDrag(*this, *this, point).run();
+}
+
+void CControlBar::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    if (isDockable())
+        afxdetail::BarDrag::toggle(*this);
+    else
+        CWnd::OnLButtonDblClk(flags, point);
 }
 
 // Updates

@@ -13,9 +13,11 @@ int lineWidth(DWORD style)
     return (style & CBRS_BORDER_3D) ? 2 : 1;
 }
 
-/// How much the lines take at each side.
+/// How much the lines take at each side. A floating bar has the lines of its window.
 CRect linesOf(DWORD style)
 {
+    if (style & CBRS_FLOATING)
+        return CRect(0, 0, 0, 0);
     const int width = lineWidth(style);
     return CRect((style & CBRS_BORDER_LEFT) ? width : 0, (style & CBRS_BORDER_TOP) ? width : 0,
                  (style & CBRS_BORDER_RIGHT) ? width : 0, (style & CBRS_BORDER_BOTTOM) ? width : 0);
@@ -100,4 +102,32 @@ void CControlBar::DrawGripper(CDC* dc, const CRect& rect)
         gripper.bottom = gripper.top + kGripperWidth;
     }
     dc->Draw3dRect(gripper, light, shadow);
+}
+
+// Lines, gripper and borders around a client area that is all the control's
+
+void CControlBar::calcFrame(NCCALCSIZE_PARAMS& sizes)
+{
+    CRect client(sizes.rgrc[0]);
+    CalcInsideRect(client, (m_dwStyle & CBRS_ORIENT_HORZ) != 0);
+    sizes.rgrc[0] = client;
+}
+
+void CControlBar::paintFrame()
+{
+    CWindowDC dc(this);
+    CRect window;
+    GetWindowRect(&window);
+    CRect client;
+    GetClientRect(&client);
+    ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<POINT*>(&client), 2);
+    client.OffsetRect(-window.TopLeft());
+    window.OffsetRect(-window.TopLeft());
+    if (GetExStyle() & WS_EX_LAYOUTRTL) // the device context counts from the right
+        client = CRect(window.right - client.right, client.top, window.right - client.left, client.bottom);
+
+    dc.ExcludeClipRect(client);
+    dc.FillSolidRect(window, ::GetSysColor(COLOR_BTNFACE));
+    DrawBorders(&dc, window);
+    DrawGripper(&dc, window);
 }

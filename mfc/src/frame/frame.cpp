@@ -15,6 +15,8 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     // layout and painting
     ON_WM_SIZE()
     ON_WM_ERASEBKGND()
+    ON_WM_SHOWWINDOW()
+    ON_MESSAGE(WM_ACTIVATETOPLEVEL, &CFrameWnd::OnActivateTopLevel)
     ON_MESSAGE(WM_RECALCPARENT, &CFrameWnd::OnRecalcParent)
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWnd::OnIdleUpdateCmdUI)
     // the active view
@@ -204,6 +206,8 @@ void CFrameWnd::OnDestroy()
     const bool ownsMenu = !(GetStyle() & WS_CHILD) && ::IsMenu(m_hMenuDefault);
     if (ownsMenu && ::GetMenu(m_hWnd) != m_hMenuDefault)
         ::SetMenu(m_hWnd, m_hMenuDefault);
+    for (CMiniDockFrameWnd* window : std::vector<CMiniDockFrameWnd*>(m_floats))
+        window->DestroyWindow(); // owned by the top-level frame, which this one need not be
     CWnd::OnDestroy();
     m_pViewActive = nullptr;
 }
@@ -269,6 +273,9 @@ void CFrameWnd::OnSetFocus(CWnd* old)
 void CFrameWnd::OnActivate(UINT state, CWnd* other, BOOL minimized)
 {
     CWnd::OnActivate(state, other, minimized);
+    if (state == WA_INACTIVE &&
+        belongsToIt(other)) // the focus is in a window of its own: it still looks active
+        SendMessage(WM_NCACTIVATE, TRUE);
     CView* const view = m_pViewActive;
     if (!view)
         return;
@@ -276,6 +283,12 @@ void CFrameWnd::OnActivate(UINT state, CWnd* other, BOOL minimized)
         view->OnActivateView(TRUE, view, view);
     if (m_pViewActive == view)
         view->OnActivateFrame(state, this);
+}
+
+/// Whether a window that becomes active is a small one beside this frame, or beside a frame inside it.
+bool CFrameWnd::belongsToIt(const CWnd* window) const
+{
+    return dynamic_cast<const CMiniFrameWnd*>(window) && window->GetTopLevelParent() == this;
 }
 
 void CFrameWnd::OnHScroll(UINT, UINT, CScrollBar* bar)

@@ -2,27 +2,7 @@
 #include <afxext.h>
 #include <afxpriv.h>
 
-namespace
-{
-
-/// Sets a flag for the rest of the scope.
-class FlagScope
-{
-public:
-    explicit FlagScope(bool& flag)
-        : m_flag(flag)
-    {
-        m_flag = true;
-    }
-    ~FlagScope() { m_flag = false; }
-    FlagScope(const FlagScope&) = delete;
-    FlagScope& operator=(const FlagScope&) = delete;
-
-private:
-    bool& m_flag;
-};
-
-} // namespace
+#include "flagscope.h"
 
 // Layout
 
@@ -30,10 +10,13 @@ void CFrameWnd::RecalcLayout(BOOL)
 {
     if (m_layingOut)
         return;
-    const FlagScope layingOut(m_layingOut);
+    const afxdetail::FlagScope layingOut(m_layingOut);
     m_layoutPending = false;
     applyPendingBars();
+    if (m_dockOrderStale)
+        orderDockBars();
     RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposExtra, &m_rectBorder);
+    layOutFloats();
 }
 
 void CFrameWnd::OnSize(UINT type, int cx, int cy)
@@ -72,11 +55,13 @@ LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM)
 void CFrameWnd::addControlBar(CControlBar* bar)
 {
     m_bars.push_back(bar);
+    m_dockOrderStale = !m_dockBars.empty();
 }
 
 void CFrameWnd::removeControlBar(CControlBar* bar)
 {
     std::erase(m_bars, bar);
+    m_layoutPending = true;
 }
 
 CControlBar* CFrameWnd::GetControlBar(UINT id)
@@ -84,7 +69,7 @@ CControlBar* CFrameWnd::GetControlBar(UINT id)
     for (CControlBar* bar : m_bars)
         if (bar->m_hWnd && static_cast<UINT>(bar->GetDlgCtrlID()) == id)
             return bar;
-    return nullptr;
+    return dockBar(id);
 }
 
 void CFrameWnd::ShowControlBar(CControlBar* bar, BOOL show, BOOL delay)

@@ -1,15 +1,28 @@
 target_sources(ovomfc PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/bardrag.cpp
   ${CMAKE_CURRENT_LIST_DIR}/controlbar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/controlbarpaint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/controlbartips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/barlayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/barstate.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/dockrows.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/dragrules.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/floatrules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/panelayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/toolbarlayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/dialogbar.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/dockbar.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/dockstate.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/dragoutline.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame.cpp
   ${CMAKE_CURRENT_LIST_DIR}/framebars.cpp
   ${CMAKE_CURRENT_LIST_DIR}/framehelp.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/framebarstate.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/framedock.cpp
   ${CMAKE_CURRENT_LIST_DIR}/framemessages.cpp
   ${CMAKE_CURRENT_LIST_DIR}/framemodal.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/minidockframe.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/miniframe.cpp
   ${CMAKE_CURRENT_LIST_DIR}/statusbar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/toolbar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/toolbarimages.cpp

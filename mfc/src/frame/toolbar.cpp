@@ -13,6 +13,9 @@ BEGIN_MESSAGE_MAP(CToolBar, CControlBar)
     // the control paints itself
     ON_WM_PAINT()
     ON_WM_SYSCOLORCHANGE()
+    // beside the buttons it can be dragged
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
 namespace
@@ -262,26 +265,12 @@ INT_PTR CToolBar::OnToolHitTest(CPoint point, TOOLINFO* info) const
 
 void CToolBar::OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS* sizes)
 {
-    CRect client(sizes->rgrc[0]);
-    CalcInsideRect(client, (m_dwStyle & CBRS_ORIENT_HORZ) != 0);
-    sizes->rgrc[0] = client;
+    calcFrame(*sizes);
 }
 
 void CToolBar::OnNcPaint()
 {
-    CWindowDC dc(this);
-    CRect window;
-    GetWindowRect(&window);
-    CRect client;
-    GetClientRect(&client);
-    ClientToScreen(&client);
-    client.OffsetRect(-window.TopLeft());
-    window.OffsetRect(-window.TopLeft());
-
-    dc.ExcludeClipRect(client);
-    dc.FillSolidRect(window, ::GetSysColor(COLOR_BTNFACE));
-    DrawBorders(&dc, window);
-    DrawGripper(&dc, window);
+    paintFrame();
 }
 
 /// Lines and gripper are the bar's too: the mouse takes hold of it there.
@@ -293,4 +282,25 @@ LRESULT CToolBar::OnNcHitTest(CPoint)
 void CToolBar::OnPaint()
 {
     Default();
+}
+
+bool CToolBar::isOnButton(CPoint point) const
+{
+    return GetToolBarCtrl().HitTest(&point) >= 0;
+}
+
+void CToolBar::OnLButtonDown(UINT flags, CPoint point)
+{
+    if (isOnButton(point))
+        Default();
+    else
+        CControlBar::OnLButtonDown(flags, point);
+}
+
+void CToolBar::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    if (isOnButton(point))
+        Default();
+    else
+        CControlBar::OnLButtonDblClk(flags, point);
 }

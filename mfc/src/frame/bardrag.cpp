@@ -1,0 +1,222 @@
+#include "bardrag.h"
+
+#include "bararea.h"
+#include "core/floatrules.h"
+#include "dockmemory.h"
+
+#include <afxext.h>
+
+#include <detail/pending.h>
+
+namespace afxdetail
+{
+
+namespace
+{
+
+constexpr int kDockedThickness = 1; // of the outline
+constexpr int kFloatingThickness = 3;
+
+bool isDown(int key)
+{
+    return ::GetKeyState(key) < 0;
+}
+
+Place placeOf(const POINT& point)
+{
+    return {point.x, point.y};
+}
+
+Extent dragDistance()
+{
+    return {::GetSystemMetrics(SM_CXDRAG), ::GetSystemMetrics(SM_CYDRAG)};
+}
+
+} // namespace
+
+BarDrag::BarDrag(CControlBar& bar, CWnd& held, CPoint grab)
+    : m_bar(bar)
+    , m_frame(*bar.m_pDockSite)
+    , m_barWnd(bar.m_hWnd)
+    , m_held(held.m_hWnd)
+    , m_pointer(placeOf(grab))
+{
+    m_dragged.grab = m_pointer;
+    m_dragged.from = areaOf(screenRectOf(held));
+}
+
+bool BarDrag::isAlive() const
+{
+    return CWnd::FromHandlePermanent(m_barWnd) == &m_bar && m_bar.isDockable() &&
+           m_bar.m_pDockSite == &m_frame;
+}
+
+/// Asks the bar for its size in each state, last in the one that it is in: some bars break their rows when
+/// they are asked. A floating bar has no gripper.
+void BarDrag::measure()
+{
+    const DWORD style = m_bar.GetBarStyle();
+    const bool floats = (style & CBRS_FLOATING) != 0;
+    const bool lies = (style & CBRS_ORIENT_HORZ) != 0;
+    const auto ask = [&](bool floating, DWORD mode) {
+        m_bar.m_dwStyle = floating ? style | CBRS_FLOATING : style & ~static_cast<DWORD>(CBRS_FLOATING);
+        const CSize size = m_bar.CalcDynamicLayout(-1, mode);
+        m_bar.m_dwStyle = style;
+        return size;
+    };
+    const auto askFloating = [&](DWORD mode) {
+        return extentOf(CMiniDockFrameWnd::outerSize(ask(true, mode), style));
+    };
+    const Extent horizontally = askFloating(LM_HORZ | LM_MRUWIDTH);
+    // A bar whose rows its user breaks has no other direction.
+    const Extent vertically = (style & CBRS_SIZE_DYNAMIC) ? horizontally : askFloating(LM_VERTDOCK);
+    m_dragged.floating = floats && !lies ? vertically : horizontally;
+    m_dragged.floatingOther = floats && !lies ? horizontally : vertically;
+    m_dragged.vertical = extentOf(ask(false, LM_VERTDOCK));
+    m_dragged.horizontal = extentOf(ask(false, LM_HORZ | LM_HORZDOCK));
+    if (!lies)
+        ask(floats, LM_VERTDOCK);
+    else if (floats)
+        ask(true, LM_HORZ | LM_MRUWIDTH);
+}
+
+void BarDrag::collectSides()
+{
+    for (const auto& side : m_frame.m_dockBars) {
+        if (!(side->GetBarStyle() & m_bar.m_dwDockStyle & CBRS_ALIGN_ANY))
+            continue;
+        m_sides.push_back(side.get());
+        m_strips.push_back({sideOf(side->GetBarStyle()), areaOf(screenRectOf(*side))});
+    }
+    if (!(m_bar.m_dwDockStyle & CBRS_FLOAT_MULTI))
+        return;
+    for (CMiniDockFrameWnd* window : m_frame.m_floats) {
+        CDockBar& other = window->m_wndDockBar;
+        const std::vector<CControlBar*> bars = other.bars();
+        const bool takes = window->IsWindowVisible() && &other != m_bar.m_pDockBar &&
+                           std::all_of(bars.begin(), bars.end(), [](const CControlBar* bar) {
+                               return (bar->m_dwDockStyle & CBRS_FLOAT_MULTI) != 0;
+                           });
+        if (!takes)
+            continue;
+        m_sides.push_back(&other);
+        m_strips.push_back({sideOf(other.GetBarStyle()), areaOf(screenRectOf(other))});
+    }
+}
+
+DragTarget BarDrag::target() const
+{
+    return outlineAt(m_dragged, m_strips, m_pointer, {isDown(VK_CONTROL), isDown(VK_SHIFT)});
+}
+
+void BarDrag::run()
+{
+    ::SetCapture(m_held);
+    const End end = followMouse();
+    if (::GetCapture() == m_held)
+        ::ReleaseCapture();
+    const DragTarget where = m_moved ? target() : DragTarget{};
+    if (end == End::Dropped && m_moved && isAlive())
+        drop(where);
+}
+
+/// Whatever is no input for the drag goes its ordinary way, and may end the bar.
+BarDrag::End BarDrag::followMouse()
+{
+    while (::GetCapture() == m_held) {
+        MSG message;
+        if (!callOut([&] { return ::GetMessageW(&message, nullptr, 0, 0); })) {
+            ::PostQuitMessage(static_cast<int>(message.wParam));
+            return End::GivenUp;
+        }
+        switch (message.message) {
+        case WM_MOUSEMOVE:
+        case WM_LBUTTONUP:
+            m_pointer = placeOf(message.pt);
+            follow();
+            if (message.message == WM_LBUTTONUP)
+                return isAlive() ? End::Dropped : End::GivenUp;
+            break;
+        case WM_RBUTTONDOWN:
+            return End::GivenUp;
+        case WM_KEYDOWN:
+        case WM_KEYUP:
+        case WM_SYSKEYDOWN:
+        case WM_SYSKEYUP:
+            if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE)
+                return End::GivenUp;
+            follow(); // Ctrl and Shift count
+            break;
+        default:
+            callOut([&] { ::DispatchMessageW(&message); });
+        }
+    }
+    return End::GivenUp;
+}
+
+void BarDrag::follow()
+{
+    if (!isAlive())
+        return;
+    if (!m_moved) {
+        if (!isDrag(m_dragged.grab, m_pointer, dragDistance()))
+            return;
+        m_moved = true;
+        measure();
+        if (!isAlive())
+            return;
+        collectSides();
+    }
+    const DragTarget where = target();
+    m_outline.show(rectOf(where.area), where.strip ? kDockedThickness : kFloatingThickness);
+}
+
+void BarDrag::drop(const DragTarget& where)
+{
+    const CRect rect = rectOf(where.area);
+    if (where.strip) {
+        m_frame.DockControlBar(&m_bar, m_sides[*where.strip], rect);
+    } else {
+        const bool floats = m_bar.IsFloating() != FALSE;
+        const bool lay = !floats || (m_bar.GetBarStyle() & CBRS_ORIENT_HORZ) != 0;
+        m_frame.FloatControlBar(&m_bar, rect.TopLeft(),
+                                lay != where.turned ? CBRS_ALIGN_TOP : CBRS_ALIGN_LEFT);
+    }
+    m_frame.RecalcLayout();
+}
+
+// From one state to the other
+
+void BarDrag::toggle(CControlBar& bar)
+{
+    if (bar.IsFloating())
+        dockAgain(bar);
+    else
+        makeFloat(bar);
+}
+
+void BarDrag::makeFloat(CControlBar& bar)
+{
+    const DockMemory memory = bar.m_dockMemory ? *bar.m_dockMemory : DockMemory{};
+    CPoint point = memory.floatPoint;
+    if (!memory.floated) {
+        const Place first = firstFloatPlace(areaOf(screenRectOf(bar)), ::GetSystemMetrics(SM_CYSMCAPTION));
+        point = CPoint(first.x, first.y);
+    }
+    CFrameWnd& frame = *bar.m_pDockSite;
+    frame.FloatControlBar(&bar, point, memory.horizontal ? CBRS_ALIGN_TOP : CBRS_ALIGN_LEFT);
+    frame.RecalcLayout();
+}
+
+void BarDrag::dockAgain(CControlBar& bar)
+{
+    CFrameWnd& frame = *bar.m_pDockSite;
+    const DockMemory memory = bar.m_dockMemory ? *bar.m_dockMemory : DockMemory{};
+    if (CDockBar* before = frame.dockBar(memory.dockBar))
+        before->take(bar, memory.place, memory.start);
+    else if (CDockBar* first = frame.firstDockBarFor(bar))
+        first->take(bar, first->lastPlace(), 0);
+    frame.RecalcLayout();
+}
+
+} // namespace afxdetail

@@ -1,0 +1,201 @@
+// The arrangement of bars, saved in the profile and brought back.
+#include "DockScene.h"
+
+#include "support/TemporaryProfile.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+using namespace docktest;
+
+namespace
+{
+
+class BarStates : public ::testing::Test, protected DockScene
+{
+protected:
+    /// One hidden at the left, two and three in a row at the top behind nothing, three first.
+    void arrange()
+    {
+        frame->DockControlBar(&one, AFX_IDW_DOCKBAR_LEFT);
+        frame->DockControlBar(&three);
+        frame->RecalcLayout();
+        CRect rect = onScreen(three);
+        rect.OffsetRect(120, 0);
+        frame->DockControlBar(&two, AFX_IDW_DOCKBAR_TOP, rect);
+        frame->ShowControlBar(&one, FALSE, FALSE);
+    }
+
+    void disarrange()
+    {
+        frame->DockControlBar(&two, AFX_IDW_DOCKBAR_BOTTOM);
+        frame->DockControlBar(&three, AFX_IDW_DOCKBAR_RIGHT);
+        frame->FloatControlBar(&one, CPoint(300, 300));
+        frame->ShowControlBar(&one, TRUE, FALSE);
+        frame->RecalcLayout();
+    }
+
+    CControlBarInfo& info(CDockState& state, UINT id) const
+    {
+        for (INT_PTR i = 0; i < state.m_arrBarInfo.GetSize(); ++i)
+            if (auto* found = static_cast<CControlBarInfo*>(state.m_arrBarInfo[i]); found->id == id)
+                return *found;
+        throw std::runtime_error("no such bar");
+    }
+
+    TemporaryProfile m_profile;
+};
+
+} // namespace
+
+TEST_F(BarStates, ComeBackFromTheProfile)
+{
+    arrange();
+    const CRect second = place(two);
+    const CRect third = place(three);
+    EXPECT_EQ(second.left, 120);
+    frame->SaveBarState(L"Arrangement");
+    disarrange();
+    frame->LoadBarState(L"Arrangement");
+    EXPECT_FALSE(one.IsVisible());
+    EXPECT_FALSE(one.IsFloating());
+    EXPECT_EQ(one.GetParent(), side(AFX_IDW_DOCKBAR_LEFT));
+    EXPECT_EQ(place(two), second);
+    EXPECT_EQ(place(three), third);
+}
+
+TEST_F(BarStates, ComeBackInAnotherRunOfTheProgram)
+{
+    arrange();
+    frame->FloatControlBar(&three, CPoint(333, 222));
+    frame->RecalcLayout();
+    three.CalcDynamicLayout(30, LM_HORZ | LM_COMMIT); // two rows
+    frame->RecalcLayout();
+    const CSize size = onScreen(*floatOf(three)).Size();
+    const CRect second = place(two);
+    frame->SaveBarState(L"Arrangement");
+
+    DockScene next;
+    next.frame->LoadBarState(L"Arrangement");
+    ovotest::present(*next.frame);
+    EXPECT_FALSE(next.one.IsVisible());
+    EXPECT_EQ(next.place(next.two), second);
+    ASSERT_TRUE(next.three.IsFloating());
+    EXPECT_EQ(onScreen(*floatOf(next.three)), CRect(CPoint(333, 222), size));
+}
+
+TEST_F(BarStates, RememberWhereAFloatingBarWasDocked)
+{
+    arrange();
+    frame->ShowControlBar(&one, TRUE, FALSE);
+    const CRect second = place(two);
+    frame->FloatControlBar(&two, CPoint(333, 222));
+    frame->RecalcLayout();
+    frame->SaveBarState(L"Arrangement");
+    DockScene next;
+    next.frame->LoadBarState(L"Arrangement");
+    ovotest::present(*next.frame);
+    next.robot.doubleClick(next.caption(next.two));
+    EXPECT_FALSE(next.two.IsFloating());
+    EXPECT_EQ(next.place(next.two), second);
+}
+
+TEST_F(BarStates, WithoutASavedStateNothingChanges)
+{
+    arrange();
+    const CRect second = place(two);
+    frame->LoadBarState(L"Never saved");
+    EXPECT_EQ(place(two), second);
+    EXPECT_FALSE(one.IsVisible());
+}
+
+TEST_F(BarStates, AFloatingBarOnAMonitorThatIsGoneComesBackIntoAWorkArea)
+{
+    frame->FloatControlBar(&one, CPoint(300, 300));
+    frame->RecalcLayout();
+    ovotest::present(*frame);
+    CRect area;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    const CPoint gone[] = {CPoint(20000, 300), CPoint(-5000, -5000), CPoint(300, 9000)};
+    for (const CPoint& point : gone) {
+        CDockState state;
+        frame->GetDockState(state);
+        info(state, ID_BAR_ONE).floatPoint = point;
+        frame->SetDockState(state);
+        const CRect rect = onScreen(*floatOf(one));
+        CRect inside;
+        inside.IntersectRect(rect, area);
+        EXPECT_EQ(inside, rect) << point.x << "," << point.y;
+    }
+}
+
+TEST_F(BarStates, BarsThatAreUnknownOrMissingDoNoHarm)
+{
+    arrange();
+    frame->SaveBarState(L"Arrangement");
+    DockScene next;
+    next.two.DestroyWindow();
+    ButtonBar added;
+    added.create(*next.frame, ID_BAR_DIALOG, L"New", 2);
+    added.EnableDocking(kAnySide);
+    next.frame->DockControlBar(&added);
+    next.frame->LoadBarState(L"Arrangement");
+    ovotest::present(*next.frame);
+    EXPECT_EQ(next.place(next.three).TopLeft(), CPoint(0, 0));
+    EXPECT_EQ(next.place(added).top, next.place(next.three).bottom) << "what was not saved comes last";
+    added.DestroyWindow();
+}
+
+TEST_F(BarStates, NonsenseInTheProfileDoesNoHarm)
+{
+    arrange();
+    frame->SaveBarState(L"Arrangement");
+    CWinApp& app = *AfxGetApp();
+    for (const wchar_t* entry :
+         {L"Row", L"Position", L"Start", L"DockBar", L"MRUWidth", L"Floating", L"XPos"})
+        for (int i = 0; i < 4; ++i)
+            app.WriteProfileInt((L"Arrangement-Bar" + std::to_wstring(i)).c_str(), entry, -77777);
+    frame->LoadBarState(L"Arrangement");
+    EXPECT_TRUE(::IsWindow(two));
+    app.WriteProfileInt(L"Arrangement-Summary", L"Bars", 2000000000);
+    frame->LoadBarState(L"Arrangement");
+    app.WriteProfileInt(L"Arrangement-Summary", L"Bars", -3);
+    frame->LoadBarState(L"Arrangement");
+    EXPECT_TRUE(::IsWindow(two));
+}
+
+TEST_F(BarStates, FewerBarsLeaveNothingOfTheOldOnes)
+{
+    arrange();
+    frame->SaveBarState(L"Arrangement");
+    EXPECT_EQ(AfxGetApp()->GetProfileInt(L"Arrangement-Bar3", L"Visible", -1), 1)
+        << "three bars and the status bar";
+    two.DestroyWindow();
+    frame->SaveBarState(L"Arrangement");
+    EXPECT_EQ(AfxGetApp()->GetProfileInt(L"Arrangement-Bar3", L"Visible", -1), -1U);
+}
+
+TEST_F(BarStates, AStateIsTakenAndBroughtAboutWithoutAProfile)
+{
+    arrange();
+    CDockState state;
+    frame->GetDockState(state);
+    EXPECT_EQ(state.m_arrBarInfo.GetSize(), 4);
+    const CRect second = place(two);
+    disarrange();
+    frame->SetDockState(state);
+    EXPECT_EQ(place(two), second);
+    state.Clear();
+    EXPECT_EQ(state.m_arrBarInfo.GetSize(), 0);
+    EXPECT_GT(state.GetVersion(), 0u);
+}
+
+TEST_F(BarStates, BarsWithAFixedPlaceAreShownOrHiddenOnly)
+{
+    frame->ShowControlBar(&status, FALSE, FALSE);
+    frame->SaveBarState(L"Arrangement");
+    frame->ShowControlBar(&status, TRUE, FALSE);
+    frame->LoadBarState(L"Arrangement");
+    EXPECT_FALSE(status.IsVisible());
+    EXPECT_EQ(status.GetParent(), frame);
+}
