@@ -75,7 +75,7 @@ TEST_F(GalleryModalBox, TheSamePageMayBeOpenedAnewMeanwhile)
     });
     CString answer;
     CWnd::FromHandle(scene.control(IDC_BOX_RESULT))->GetWindowText(answer);
-    EXPECT_STREQ(answer, L"none yet") << "the answer is the page's that has gone";
+    EXPECT_STREQ(answer, L"None yet") << "the answer is the page's that has gone";
 }
 
 TEST_F(GalleryModalBox, TheResolutionMayChangeMeanwhile)
