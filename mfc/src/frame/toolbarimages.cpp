@@ -2,7 +2,6 @@
 #include <afxext.h>
 
 #include <cstring>
-#include <span>
 #include <utility>
 
 namespace
@@ -10,17 +9,36 @@ namespace
 
 const LPCTSTR kToolBarType = MAKEINTRESOURCEW(241);
 
-/// A toolbar resource: which pictures, and the command of each button.
+/// A toolbar resource: the size of the pictures, and the command of each button.
 struct ToolBarData
 {
-    WORD version;
-    WORD imageWidth;
-    WORD imageHeight;
-    WORD count;
-    // `count` words follow
-
-    std::span<const WORD> commands() const { return {reinterpret_cast<const WORD*>(this + 1), count}; }
+    CSize image;
+    std::vector<UINT> commands;
 };
+
+/// Width, height, the number of buttons and their commands, `Number` each.
+template <class Number>
+bool read(const Number* numbers, std::size_t count, ToolBarData& data)
+{
+    constexpr std::size_t kHead = 3;
+    if (count < kHead || numbers[2] > count - kHead)
+        return false;
+    data.image = CSize(static_cast<int>(numbers[0]), static_cast<int>(numbers[1]));
+    data.commands.assign(numbers + kHead, numbers + kHead + numbers[2]);
+    return true;
+}
+
+/// Resource compilers write the version 1 and then numbers of 16 bits. GNU's windres writes no version, and
+/// numbers of 32 bits, for the same script.
+bool read(const void* resource, std::size_t bytes, ToolBarData& data)
+{
+    const auto* words = static_cast<const WORD*>(resource);
+    if (!resource || bytes < 2 * sizeof(WORD))
+        return false;
+    if (words[0] == 1 && words[1] != 0)
+        return read(words + 1, bytes / sizeof(WORD) - 1, data);
+    return words[1] == 0 && read(static_cast<const DWORD*>(resource), bytes / sizeof(DWORD), data);
+}
 
 struct MappedColour
 {
@@ -90,15 +108,11 @@ BOOL CToolBar::LoadToolBar(LPCTSTR name)
     const HINSTANCE module = AfxFindResourceHandle(name, kToolBarType);
     const HRSRC found = ::FindResourceW(module, name, kToolBarType);
     const HGLOBAL loaded = found ? ::LoadResource(module, found) : nullptr;
-    const auto* data = loaded ? static_cast<const ToolBarData*>(::LockResource(loaded)) : nullptr;
-    if (!data || data->version != 1)
+    ToolBarData data;
+    if (!loaded || !read(::LockResource(loaded), ::SizeofResource(module, found), data) ||
+        !SetButtons(data.commands.data(), static_cast<int>(data.commands.size())))
         return FALSE;
-
-    const std::vector<UINT> commands(data->commands().begin(), data->commands().end());
-    if (!SetButtons(commands.data(), static_cast<int>(commands.size())))
-        return FALSE;
-    const CSize image(data->imageWidth, data->imageHeight);
-    SetSizes(image + CSize(7, 7), image);
+    SetSizes(data.image + CSize(7, 7), data.image);
     return LoadBitmap(name);
 }
 

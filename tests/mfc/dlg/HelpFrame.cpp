@@ -10,6 +10,8 @@ END_MESSAGE_MAP()
 
 HelpFrame* HelpFrame::make()
 {
+    TestView::s_log.clear();
+    TestView::s_taker = "frame";
     auto* frame = new HelpFrame;
     if (!frame->Create(nullptr, L"Frame with help", WS_OVERLAPPEDWINDOW, CRect(20, 20, 520, 420)))
         return nullptr;

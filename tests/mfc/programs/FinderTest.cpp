@@ -82,7 +82,9 @@ TEST_F(Finder, StaysOpenWhileTheTextIsEdited)
     const HWND dialog = openDialog();
     m_program.type(L"elm");
     EXPECT_TRUE(::IsWindowEnabled(m_program.main())) << "the dialog is not modal";
-    m_program.click(editor(), CPoint(300, 150));
+    m_program.click(editor(), CPoint(60, 260)); // below the dialog
+    m_program.waitFor("the frame in front", [this] { return ::GetForegroundWindow() == m_program.main(); });
+    m_program.chord(VK_CONTROL, VK_END);
     m_program.type(L" Elm");
     m_program.waitFor("the longer text",
                       [this] { return textOf(editor()) == std::wstring(kText) + L" Elm"; });

@@ -60,6 +60,14 @@ protected:
     }
 
     static HWND viewOf(RunningProgram& program) { return ::GetDlgItem(program.main(), AFX_IDW_PANE_FIRST); }
+
+    /// Until the program has nothing left to do after its start.
+    static void waitUntilReady(RunningProgram& program)
+    {
+        const HWND status = program.child(program.main(), L"msctls_statusbar32");
+        program.waitFor("the message line", [&] { return textOf(status) == L"Ready"; });
+    }
+
     static bool stamped(RunningProgram& program, CPoint point)
     {
         return colourAt(viewOf(program), point) == kStamp;
@@ -83,7 +91,7 @@ TEST_F(Notes, IsAFrameWithBarsAndAView)
     EXPECT_EQ(rectOf(program.main()), CRect(CPoint(60, 40), CSize(480, 320)));
     const HWND status = program.child(program.main(), L"msctls_statusbar32");
     const HWND toolBar = program.child(program.main(), L"ToolbarWindow32");
-    program.waitFor("the message line", [&] { return textOf(status) == L"Ready"; });
+    waitUntilReady(program);
     EXPECT_TRUE(::IsWindowVisible(toolBar));
     EXPECT_GE(rectOf(viewOf(program)).top, rectOf(toolBar).bottom);
     EXPECT_LE(rectOf(viewOf(program)).bottom, rectOf(status).top);
@@ -93,6 +101,7 @@ TEST_F(Notes, IsAFrameWithBarsAndAView)
 TEST_F(Notes, TakesClicksKeysAndButtonsAndPaintsWhatTheyDo)
 {
     RunningProgram program(L"mfc_program_notes");
+    waitUntilReady(program);
     program.click(viewOf(program), CPoint(200, 100));
     program.waitFor("a stamp under the pointer", [&] { return stamped(program, CPoint(195, 95)); });
     EXPECT_FALSE(stamped(program, CPoint(20, 20)));
@@ -116,6 +125,7 @@ TEST_F(Notes, HidesAndShowsItsBars)
 {
     RunningProgram program(L"mfc_program_notes");
     const HWND status = program.child(program.main(), L"msctls_statusbar32");
+    waitUntilReady(program);
     const LONG before = rectOf(viewOf(program)).bottom;
     choose(program, 'V', 'S');
     program.waitFor("the status bar to go", [&] { return !::IsWindowVisible(status); });

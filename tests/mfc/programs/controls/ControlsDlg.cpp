@@ -78,7 +78,7 @@ BOOL CControlsDlg::OnInitDialog()
         m_lbSports.AddString(sports[i]);
 
     m_spinAge.SetRange32(0, 120);
-    m_sliderVolume.SetRange(0, 10);
+    m_sliderVolume.SetRange(0, 10, TRUE);
     m_sliderVolume.SetPos(m_nVolume);
     m_progressLevel.SetRange(0, 10);
     m_progressLevel.SetPos(m_nVolume);
