@@ -27,7 +27,7 @@ public:
     }
     BorrowedNode& operator=(BorrowedNode&&) = delete;
 
-    /// The node has no place in the tree: it is destroyed, unless somebody else holds it.
+    /// The node has no place in the tree: it is destroyed, unless it is held elsewhere.
     void giveUp()
     {
         if (const MultiTreeCtrl::Node* node = std::exchange(m_node, nullptr))

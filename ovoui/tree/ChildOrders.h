@@ -1,52 +1,47 @@
-/// Not exported: the children of items that get many, in the order in which the tree shows them.
+/// Not exported: the children of items that get many, in the order in which the tree shows them. Kept only for
+/// hosts that promise to keep sorted children in order; see MultiTreeCtrl::setSortedInsertion.
 #pragma once
 
-#include <ovoui/tree/MultiTreeCtrl.h>
 #include <ovoui/tree/core/BlockList.h>
 
-#include <memory>
+#include <windows.h>
+#include <commctrl.h>
+
+#include <optional>
 #include <unordered_map>
 
 namespace ovoui::tree
 {
 
-struct Child
-{
-    HTREEITEM item;
-    const MultiTreeCtrl::Node* node; ///< null for an item without one
-};
+using Children = BlockList<HTREEITEM>;
 
-using Children = BlockList<Child>;
-
-/// The children of one item.
-struct ChildOrder
-{
-    Children children;
-    /// By whom the children were found to be in order; null when they were not looked at.
-    const MultiTreeCtrl::InsertionPoint* sortedBy = nullptr;
-};
-
-/// What is remembered of the children of some items, from one insertion to the next. Whoever changes the
-/// order or the number of children in another way makes it forget.
+/// What is remembered of the children of some items, from one insertion to the next. It is forgotten when their
+/// order or number changes in another way.
 class ChildOrders
 {
 public:
-    bool empty() const { return m_orders.empty(); }
-
-    /// Null when nothing is remembered of this parent.
-    std::shared_ptr<ChildOrder> find(HTREEITEM parent) const;
-    void remember(HTREEITEM parent, Children children);
+    /// Hands over what is remembered of a parent, if anything is. To be given back by remember() when it is
+    /// still right: while the host is asked, nothing of it may change.
+    std::optional<Children> take(HTREEITEM parent)
+    {
+        const auto found = m_orders.find(parent);
+        if (found == m_orders.end())
+            return std::nullopt;
+        std::optional<Children> children(std::move(found->second));
+        m_orders.erase(found);
+        return children;
+    }
+    void remember(HTREEITEM parent, Children children)
+    {
+        m_orders.insert_or_assign(parent, std::move(children));
+    }
 
     void forget(HTREEITEM parent) { m_orders.erase(parent); }
     void forgetAll() { m_orders.clear(); }
 
-    /// The children of a parent may no longer be in order, or those of all.
-    void distrust(HTREEITEM parent);
-    void distrustAll();
-
 private:
-    std::unordered_map<HTREEITEM, std::shared_ptr<ChildOrder>>
-        m_orders; ///< by parent, TVI_ROOT for the top level
+    /// By parent, TVI_ROOT for the top level.
+    std::unordered_map<HTREEITEM, Children> m_orders;
 };
 
 } // namespace ovoui::tree

@@ -1,8 +1,7 @@
 #include <ovoui/tree/DropTarget.h>
 
 #include <ovoui/tree/DropMenu.h>
-#include <ovoui/tree/NodeErrors.h>
-#include <ovoui/tree/TreeState.h>
+#include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/core/DropEffect.h>
 
 using ovoui::tree::kDropAny;
@@ -28,10 +27,19 @@ MultiTreeCtrl::DropTarget::DropTarget(MultiTreeCtrl& tree)
 
 MultiTreeCtrl::DropTarget::~DropTarget() = default;
 
+/// A drag comes in over the middle of the tree, or over an edge, where it scrolls at once. Which button it is
+/// made with can be seen only while the button is down, not at the drop.
+void MultiTreeCtrl::DropTarget::noteEntering(DWORD keys)
+{
+    if (!std::exchange(m_inside, true))
+        m_rightButton = (keys & MK_RBUTTON) != 0;
+}
+
 DROPEFFECT MultiTreeCtrl::DropTarget::OnDragEnter(CWnd* window, COleDataObject* data, DWORD keys,
                                                   CPoint point)
 {
-    m_rightButton = (keys & MK_RBUTTON) != 0;
+    m_inside = false;
+    noteEntering(keys);
     return OnDragOver(window, data, keys, point);
 }
 
@@ -41,16 +49,18 @@ DROPEFFECT MultiTreeCtrl::DropTarget::OnDragOver(CWnd*, COleDataObject* data, DW
     OVO::Handle<Node> target;
     HTREEITEM behind = nullptr;
     int zone = 0;
-    const std::shared_ptr<State> state = m_tree.m_state;
+    const HostCalls host(m_tree);
+    const bool rightButton = m_rightButton;
     const DWORD answer = m_tree.dragHitTest(*data, point, allowed, &target, behind, zone);
-    if (!state->usable())
+    if (!host.usable())
         return DROPEFFECT_NONE;
     m_tree.showDropMark(behind, target ? target->hTreeItem() : nullptr);
-    return ovoui::tree::resolveDropEffect(keys, answer, allowed, m_rightButton);
+    return ovoui::tree::resolveDropEffect(keys, answer, allowed, rightButton);
 }
 
 void MultiTreeCtrl::DropTarget::OnDragLeave(CWnd*)
 {
+    m_inside = false;
     m_scroll.stop();
     m_tree.showDropMark(nullptr, nullptr);
 }
@@ -68,6 +78,7 @@ unsigned MultiTreeCtrl::DropTarget::directionAt(CPoint point) const
 
 DROPEFFECT MultiTreeCtrl::DropTarget::OnDragScroll(CWnd* window, DWORD keys, CPoint point)
 {
+    noteEntering(keys);
     COleDataObject data;
     data.Attach(m_lpDataObject, FALSE);
     const bool wasScrolling = m_scroll.running();
@@ -90,11 +101,12 @@ DROPEFFECT MultiTreeCtrl::DropTarget::OnDragScroll(CWnd* window, DWORD keys, CPo
 DROPEFFECT MultiTreeCtrl::DropTarget::OnDropEx(CWnd*, COleDataObject* data, DROPEFFECT standard,
                                                DROPEFFECT allowed, CPoint point)
 {
+    m_inside = false;
     m_scroll.stop();
     m_tree.showDropMark(nullptr, nullptr);
     DROPEFFECT effect = standard;
     bool taken = false;
-    const bool good = ovoui::tree::reportErrors(m_tree, [&] { taken = drop(*data, effect, allowed, point); });
+    const bool good = HostCalls(m_tree).report([&] { taken = drop(*data, effect, allowed, point); });
     return good && taken ? effect : DROPEFFECT_NONE;
 }
 
@@ -102,25 +114,27 @@ DROPEFFECT MultiTreeCtrl::DropTarget::OnDropEx(CWnd*, COleDataObject* data, DROP
 bool MultiTreeCtrl::DropTarget::drop(COleDataObject& data, DROPEFFECT& effect, DROPEFFECT allowed,
                                      CPoint point)
 {
-    const std::shared_ptr<State> state = m_tree.m_state;
+    MultiTreeCtrl& tree = m_tree; // this object goes with the tree
+    const HostCalls host(tree);
+    const bool rightButton = m_rightButton;
     DWORD possible = 0;
     OVO::Handle<Node> node;
     HTREEITEM behind = nullptr;
     int zone = 0;
-    m_tree.dragHitTest(data, point, possible, &node, behind, zone);
-    if (!state->usable() || !(possible & kDropAny))
+    tree.dragHitTest(data, point, possible, &node, behind, zone);
+    if (!host.usable() || !(possible & kDropAny))
         return false;
-    if (m_rightButton)
-        effect = nondefaultDrop(m_tree, effect, allowed & possible, point, std::wstring());
-    if (effect == DROPEFFECT_NONE || !state->usable())
+    if (rightButton)
+        effect = nondefaultDrop(tree, effect, allowed & possible, point, std::wstring());
+    if (effect == DROPEFFECT_NONE || !host.usable())
         return false;
     if (node && !node->hTreeItem()) // gone while the menu was open
         return false;
-    InsertionPoint* const target = node ? node.get() : m_tree.rootInsertionPoint();
+    InsertionPoint* const target = node ? node.get() : tree.rootInsertionPoint();
     if (!target)
         return false;
-    const bool taken = target->dropInto(data, effect, m_tree, zone);
-    if (node && state->usable())
-        m_tree.updateUI(*node);
+    const bool taken = target->dropInto(data, effect, tree, zone);
+    if (node && host.usable())
+        tree.updateUI(*node);
     return taken;
 }

@@ -21,10 +21,12 @@ public:
                         CPoint point) override;
 
 private:
+    void noteEntering(DWORD keys);
     unsigned directionAt(CPoint point) const;
     bool drop(COleDataObject& data, DROPEFFECT& effect, DROPEFFECT allowed, CPoint point);
 
     MultiTreeCtrl& m_tree;
-    bool m_rightButton = false;
+    bool m_inside = false;      ///< a drag is over the tree
+    bool m_rightButton = false; ///< it is made with the right button
     ovoui::tree::EdgeScrollTimer m_scroll;
 };

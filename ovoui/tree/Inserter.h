@@ -1,44 +1,40 @@
 /// Not exported: finds the places of nodes among the children of an insertion point, and inserts them there.
 #pragma once
 
-#include <ovoui/tree/ChildSearch.h>
-#include <ovoui/tree/TreeState.h>
+#include <ovoui/tree/BorrowedNode.h>
+#include <ovoui/tree/ChildWalk.h>
 
 #include <vector>
 
+/// One insertion, or one of a batch. All that is asked of the host may change the tree, and destroy it.
 class MultiTreeCtrl::Inserter
 {
 public:
-    using Place = ovoui::tree::Children::Place;
-
     Inserter(MultiTreeCtrl& tree, InsertionPoint& where);
 
-    /// Behind `position` children; a negative or too large position appends.
-    HTREEITEM insertAt(Node& node, int position);
+    /// Whether the place takes nodes; asks the host.
+    bool accepts();
 
-    /// Before the first child that sorts behind it. If one sorts the same, that is the result, and
-    /// `duplicate` becomes true.
-    HTREEITEM insertSorted(Node& node, bool& duplicate);
+    /// Inserts where the node belongs: sorted, or behind `position` children, of which a negative or too large
+    /// number appends. If a child sorts the same, that is the result, and `unused` becomes true. It does too
+    /// when the place has gone.
+    HTREEITEM insert(Node& node, int position, bool& unused);
 
-    /// Nodes as a block behind `position` children. `items` gets the items; null nodes are left out.
-    void insertBlock(const std::vector<Node*>& nodes, int position, std::vector<HTREEITEM>& items);
-
-    /// Nodes where they sort. `items` gets what insertSorted gives for each.
-    void insertSorted(const std::vector<Node*>& nodes, std::vector<HTREEITEM>& items);
+    /// Inserts nodes; null ones are left out. `items` gets what insert() gives for each, and `unused` likewise.
+    void insert(const std::vector<Node*>& nodes, int position, std::vector<HTREEITEM>& items,
+                std::vector<bool>& unused);
 
 private:
-    struct Step;
-
-    void rememberChildren();
-    HTREEITEM firstChild() const;
-    HTREEITEM insertInOrder(Node& node, Place place);
-    HTREEITEM insertWalking(Node& node, bool& duplicate);
-    bool plan(const std::vector<Node*>& nodes, std::vector<Step>& steps);
-    void carryOut(const std::vector<Node*>& nodes, const std::vector<Step>& steps,
-                  std::vector<HTREEITEM>& items);
+    HTREEITEM insertWalking(Node& node, bool& unused);
+    HTREEITEM insertHalving(Node& node, bool& unused);
+    ovoui::tree::Children takeChildren() const;
+    HTREEITEM insertAt(Node& node, int position);
+    HTREEITEM insertBefore(Node& node, ChildWalk& walk);
 
     MultiTreeCtrl& m_tree;
-    InsertionPoint& m_where;
-    const HTREEITEM m_parent;
     const std::shared_ptr<State> m_state;
+    InsertionPoint& m_where;
+    OVO::Handle<Node> m_placeHeld; ///< the place, if it is a node
+    Tracker m_parent;
+    bool m_sorted = false;
 };

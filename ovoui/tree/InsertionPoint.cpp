@@ -1,10 +1,13 @@
-#include <ovoui/tree/MultiTreeCtrl.h>
+#include <ovoui/tree/HostCalls.h>
 
 #include <ovocor/Text.h>
 
 int MultiTreeCtrl::InsertionPoint::compareChildren(MultiTreeCtrl& tree, const Node& a, const Node& b) const
 {
-    return collateStrings(a.text(tree), b.text(tree));
+    const HostCalls host(tree);
+    const std::wstring first = a.text(tree);
+    // The text may have taken the tree with it; the answer does not matter then.
+    return host.usable() ? collateStrings(first, b.text(tree)) : 0;
 }
 
 bool MultiTreeCtrl::InsertionPoint::canCompare() const

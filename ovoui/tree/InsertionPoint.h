@@ -49,7 +49,7 @@ protected:
     InsertionPoint() = default;
     InsertionPoint(const InsertionPoint&) = default;
     InsertionPoint& operator=(const InsertionPoint&) = default;
-    // Not virtual: nobody deletes a place in a tree through this class.
+    // Not virtual: a place in a tree is not deleted through this class.
     ~InsertionPoint() = default;
 };
 

@@ -3,6 +3,7 @@
 
 #include <ovoui/tree/DropTarget.h>
 #include <ovoui/tree/EditLabelAgain.h>
+#include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/TreeState.h>
 
 #include <ovouires/resource.h>
@@ -25,7 +26,8 @@ BEGIN_MESSAGE_MAP(MultiTreeCtrl, CTreeCtrl)
     ON_NOTIFY_REFLECT(NM_RETURN, &MultiTreeCtrl::OnReturn)
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
-    // Opening, closing, deleting: TreeExpansion.cpp
+    // Opening, closing, deleting: TreeExpansion.cpp, TreeDeleting.cpp
+    ON_NOTIFY_REFLECT_EX(TVN_SELCHANGINGW, &MultiTreeCtrl::OnSelchanging)
     ON_NOTIFY_REFLECT_EX(TVN_ITEMEXPANDINGW, &MultiTreeCtrl::OnItemexpanding)
     ON_NOTIFY_REFLECT_EX(TVN_ITEMEXPANDEDW, &MultiTreeCtrl::OnItemexpanded)
     ON_NOTIFY_REFLECT(TVN_DELETEITEMW, &MultiTreeCtrl::OnDeleteitem)
@@ -145,11 +147,6 @@ bool MultiTreeCtrl::selectCaret(HTREEITEM item)
     return DefWindowProc(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item)) != 0;
 }
 
-void MultiTreeCtrl::deleteItem(HTREEITEM item)
-{
-    DefWindowProc(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(item));
-}
-
 OVO::Handle<MultiTreeCtrl::Node> MultiTreeCtrl::node(HTREEITEM item) const
 {
     TVITEM data{};
@@ -164,13 +161,15 @@ HTREEITEM MultiTreeCtrl::HitTest(CPoint point, unsigned* flags) const
 {
     TVHITTESTINFO info{};
     info.pt = point;
-    const auto item = reinterpret_cast<HTREEITEM>(ask(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&info)));
+    const auto hitItem = reinterpret_cast<HTREEITEM>(ask(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&info)));
+    const Tracker item(m_state, hitItem && isDoomed(hitItem) ? nullptr : hitItem);
     unsigned hit = info.flags;
-    if (const OVO::Handle<Node> under = node(item))
+    if (const OVO::Handle<Node> under = node(item.item()))
         under->hitTest(*this, point, hit);
+    // The node may have deleted its item.
     if (flags)
-        *flags = hit;
-    return item;
+        *flags = hitItem && !item ? TVHT_NOWHERE : hit;
+    return item.item();
 }
 
 EVSubscriptionList<int>& MultiTreeCtrl::gestureEV()

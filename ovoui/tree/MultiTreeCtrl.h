@@ -24,6 +24,7 @@
 #include <afxwin.h>
 #include <afxcmn.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -35,10 +36,12 @@ class COleDataObject;
 ///
 /// Items are those of CTreeCtrl, each with a node behind it; insert them through Node::insert or the
 /// operations here. The platform's selected item is the focus here (the caret); selected are all items with
-/// the bit TVIS_SELECTED. Every change of the selection reaches the parent window as TVN_SELCHANGED.
+/// the bit TVIS_SELECTED. What the user selects reaches the parent window as TVN_SELCHANGED, once a gesture;
+/// docs/tree.md lists the changes that are not told.
 ///
 /// Items passed in must exist in this tree, except where null is mentioned. Exceptions of nodes pass through
-/// all public operations; see TreeNode.h.
+/// all public operations. Whatever the tree calls may change the tree and destroy it, except as TreeNode.h
+/// says.
 class OVOUI_API MultiTreeCtrl : public CTreeCtrl
 {
 public:
@@ -59,25 +62,32 @@ public:
 
     // Inserting
 
-    /// Inserts a node among the children of `where`: in order if these are kept sorted (behind all that sort
-    /// before it), else behind `position` children; a negative or too large position appends.
+    /// Inserts a node among the children of `where`: if these are kept sorted, before the first child that sorts
+    /// behind it, else behind `position` children; a negative or too large position appends.
     ///
-    /// Gives the new item. If `where` is not expanded, null; if a child sorts the same, that child's item: in
-    /// both cases the node is destroyed, unless somebody holds a handle to it. Null too when the tree view
-    /// cannot insert the item, or for a null node: the node is left as it was, and likewise when a node
-    /// raises an exception.
-    ///
-    /// More than 64 sorted children are searched by halving. That relies on their order: a node whose place
-    /// may have changed must be brought up to date by updateUI or resetItemText, or be inserted anew.
+    /// Gives the new item. If `where` is not expanded, or goes while it is asked, null; if a child on the way
+    /// sorts the same, that child's item: in these cases the node is destroyed, unless it is held by a handle.
+    /// Null too when the tree view cannot insert the item, or for a null node: the node is left as it was, and
+    /// likewise when a node raises an exception.
     HTREEITEM insert(Node* node, InsertionPoint& where, int position);
 
-    /// Inserts many nodes at once, with one repaint. Gives what insert() gives for each, in the order of
-    /// `nodes`.
+    /// How insert() finds the place among sorted children.
+    enum class SortedInsertion
+    {
+        Walk, ///< compares one child after the other with the node, from the first on
+        Halve ///< compares few of them: for a host that keeps them in order at all times
+    };
+
+    /// With Halve the host promises that under every insertion point whose canCompare() is true each child
+    /// sorts before the next one; a node whose place has changed is inserted anew. Walk at first.
+    void setSortedInsertion(SortedInsertion way);
+
+    /// Inserts many nodes at once, with one repaint and one walk over the children. Gives what insert() gives
+    /// for each, in the order of `nodes`.
     ///
     /// Sorted children end as if the nodes were inserted one by one; of several nodes that sort the same, the
     /// first is inserted. Otherwise the nodes go in as one block, in their order, behind `position` children.
-    /// When a node raises an exception, nothing was inserted yet, or (from text() or an image) the nodes
-    /// before it were.
+    /// When a node raises an exception, those that sort before it may have been inserted.
     std::vector<HTREEITEM> insertBatch(const std::vector<Node*>& nodes, InsertionPoint& where, int position);
 
     /// Inserts as Node::insert or insert() do, and adds the item to the selection. `first`, true before the
@@ -92,7 +102,7 @@ public:
     OVO::Handle<Node> node(HTREEITEM item) const;
 
     /// Brings an item up to date with its node: label, images, has-children value, the cut, drop-highlighted
-    /// and bold bits. For the caret the parent gets TVN_SELCHANGED, since what it shows of the item may have
+    /// and bold bits. Nothing for a node without an item. For the caret the parent gets TVN_SELCHANGED, since what it shows of the item may have
     /// changed.
     void updateUI(Node& node);
     void updateUI(HTREEITEM item);
@@ -208,6 +218,7 @@ protected:
     afx_msg void OnInitMenuPopup(CMenu* popup, UINT index, BOOL systemMenu);
 
     // The tree view's notifications
+    afx_msg BOOL OnSelchanging(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnItemexpanding(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnItemexpanded(NMHDR* header, LRESULT* result);
     afx_msg void OnDeleteitem(NMHDR* header, LRESULT* result);
@@ -222,14 +233,19 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    class ChildWalk;
     class DropTarget;
     class ErasingDrag;
+    class HostCalls;
     class Inserter;
+    class ItemList;
+    class ItemWatcher;
     class LayoutHold;
     class NativeCall;
     struct PastePlace;
     struct Press;
     struct State;
+    class Tracker;
 
     // The tree view, without the way through the message map
     LRESULT ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
@@ -244,45 +260,68 @@ private:
 
     // Walking
     HTREEITEM nextItem(HTREEITEM item, bool intoChildren) const;
+    HTREEITEM nextShown(HTREEITEM item, bool intoChildren) const;
+    HTREEITEM firstItem() const;
+    HTREEITEM firstChild(HTREEITEM parent) const;
+    HTREEITEM nextSibling(HTREEITEM item) const;
     HTREEITEM getLastItem() const;
     HTREEITEM firstSelected() const;
     HTREEITEM nextSelected(HTREEITEM item) const;
     HTREEITEM selectedFrom(HTREEITEM item) const;
     std::vector<HTREEITEM> selectedItems() const;
-    bool orderSelected(std::vector<HTREEITEM>& items) const;
+    void orderByTree(std::vector<HTREEITEM>& items) const;
+    void orderSiblings(std::vector<HTREEITEM>& items) const;
     std::vector<OVO::Handle<Node>> selectedNodes() const;
     bool isBelow(HTREEITEM item, HTREEITEM ancestor) const;
 
     // Inserting
     HTREEITEM insertItem(const Node& node, HTREEITEM parent, HTREEITEM after);
-    void selectInserted(HTREEITEM item, bool& first);
+    HTREEITEM behindLastIfKnown(HTREEITEM parent, HTREEITEM after) const;
+    HTREEITEM sendInsert(const TVINSERTSTRUCT& insert, const Node& node);
+    void takeBack(HTREEITEM item);
+    HTREEITEM selectInserted(HTREEITEM item, bool& first);
 
-    // Opening, closing, deleting
+    // Opening and closing
     void openItem(Node& node, HTREEITEM item, LRESULT* result);
     void closeItem(Node& node, HTREEITEM item);
     void restoreState(Node& node, HTREEITEM item);
     void noticeClosing(HTREEITEM item);
-    void deleteItem(HTREEITEM item);
     void deleteChildren(HTREEITEM item);
-    bool postponesDeleting(HTREEITEM item);
-    static void deletePostponed(State& state);
-    void detachNodes(HTREEITEM item);
+    void layOutAnew(HTREEITEM rearranged);
+
+    // Deleting
+    void deleteItem(HTREEITEM item);
+    void itemGoes(HTREEITEM item, LPARAM data);
     void releaseNode(HTREEITEM item, LPARAM data);
+    static void letGo(State& state, std::size_t releasedBefore);
+    bool mayDelete(HTREEITEM item) const;
+    bool isDoomed(HTREEITEM item) const;
+    std::vector<HTREEITEM> childrenOf(HTREEITEM item) const;
+    bool postponesDeleting(HTREEITEM item);
+    bool postponesEmptying(HTREEITEM item);
+    void postpone(HTREEITEM item, bool parentClosed);
+    void detachNodes(HTREEITEM item);
+    static void deletePostponed(State& state);
+    void deleteAfterwards(HTREEITEM item, bool parentClosed);
+    void restoreButton(HTREEITEM item);
+    std::vector<OVO::Handle<Node>> nodesGoingUnreported(UINT message, WPARAM wParam, LPARAM lParam) const;
+    static void releaseUnreported(State& state, const std::vector<OVO::Handle<Node>>& nodes);
     bool eraseSelection();
     void eraseNodes(const std::vector<OVO::Handle<Node>>& nodes);
     bool confirmsErasing(const std::vector<OVO::Handle<Node>>& nodes);
-    void refreshItem(Node& node, HTREEITEM item);
+    bool refreshItem(Node& node, HTREEITEM item);
 
     // Selection
     TVITEM describe(HTREEITEM item) const;
     void notifyParent(NMHDR& header) const;
     unsigned deselectAllBut(HTREEITEM kept);
-    void deselect(const std::vector<HTREEITEM>& items);
+    void setSelected(const std::vector<HTREEITEM>& items, bool selected);
     void selectWithoutNotice(HTREEITEM item);
     bool isDisplayed(HTREEITEM item) const;
     std::vector<HTREEITEM> displayedRange(HTREEITEM a, HTREEITEM b) const;
     void selectAll(unsigned action);
     void moveCaretAlone(HTREEITEM item);
+    void keepSelection(const std::function<void()>& moveFocus);
     void invalidateSelection();
 
     // Mouse: a press, step by step
@@ -304,6 +343,7 @@ private:
 
     // Keyboard
     void moveTo(HTREEITEM target);
+    void leaveToTreeView(const std::function<void()>& handle);
     void toggleCaret();
     void runOwnCommand(unsigned id);
     void runDefaultAction();
@@ -326,13 +366,15 @@ private:
     bool routeToNodes(UINT id);
     bool routeToParent(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
     BOOL findHandler(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
-    void updateMenuItem(CMenu& popup, UINT index, const std::vector<OVO::Handle<Node>>& nodes);
+    bool updateByNodes(CCmdUI& ui, UINT id);
+    void updateMenuItem(CMenu& popup, UINT index);
     CPoint menuPlaceAtCaret();
 
     // Label editing and paths
     void editLabel(HTREEITEM item);
     bool applyTypedText(Node& node, HTREEITEM item, const std::wstring& typed, LRESULT* result);
     std::wstring labelOf(HTREEITEM item) const;
+    unsigned ordinalOf(HTREEITEM item, const std::wstring& text) const;
     HTREEITEM findChild(HTREEITEM first, const std::wstring& text, unsigned ordinal) const;
 
     HTREEITEM m_anchor = nullptr;

@@ -1,5 +1,5 @@
-/// Not exported: which items of a tree may be selected, so that nobody has to walk over all to find those
-/// that are.
+/// Not exported: which items of a tree may be selected, so that those that are can be found without a walk
+/// over all.
 #pragma once
 
 #include <afxwin.h>
@@ -13,7 +13,7 @@ namespace ovoui::tree
 {
 
 /// Every selected item is in the record, except the caret: the tree view selects and deselects that one
-/// itself. Items that were deselected may still be in it; whoever asks looks at each and drops them.
+/// itself. Items that were deselected may still be in it; the tree looks at each when it asks, and drops them.
 class SelectionRecord
 {
 public:

@@ -1,13 +1,11 @@
 // Commands: the tree's own, those of its nodes, and the way on to the parent window.
-#include <ovoui/tree/NodeErrors.h>
-#include <ovoui/tree/TreeState.h>
+#include <ovoui/tree/HostCalls.h>
 
 #include <ovouires/resource.h>
 
 #include <algorithm>
 
 using ovoui::tree::quietly;
-using ovoui::tree::reportErrors;
 
 namespace
 {
@@ -32,29 +30,58 @@ bool isCommandOrUpdate(int code)
 
 BOOL MultiTreeCtrl::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info)
 {
-    // Notifications come this way too; they are nobody else's.
+    // Notifications come this way too; they end here.
     if (!isCommandOrUpdate(code))
         return CTreeCtrl::OnCmdMsg(id, code, extra, info);
     if (info)
         return findHandler(id, code, extra, info);
-    const bool update = code != CN_COMMAND;
-    if (update && !extra)
+    auto* const ui = code == CN_COMMAND ? nullptr : static_cast<CCmdUI*>(extra);
+    if (code != CN_COMMAND && !ui)
         return CTreeCtrl::OnCmdMsg(id, code, extra, info);
-    if (isCommandDisabled(id)) {
-        if (update)
-            static_cast<CCmdUI*>(extra)->Enable(FALSE);
+    const HostCalls host(*this);
+    const bool disabled = isCommandDisabled(id);
+    if (disabled || !host.usable()) {
+        if (ui)
+            ui->Enable(FALSE);
         return TRUE;
     }
-    const std::shared_ptr<State> state = m_state;
-    if (CTreeCtrl::OnCmdMsg(id, code, extra, nullptr))
+    const bool handled = CTreeCtrl::OnCmdMsg(id, code, extra, nullptr);
+    if (handled || !host.usable())
         return TRUE;
-    return state->usable() && routeToParent(id, code, extra, nullptr);
+    // A command that a selected node offers is the node's: the parent does not disable it.
+    const bool offered = ui && offersCommand(id);
+    if (offered || !host.usable()) {
+        ui->Enable(offered && host.usable());
+        return TRUE;
+    }
+    return routeToParent(id, code, extra, nullptr);
+}
+
+/// Has the selected nodes that offer a command show how it stands. False when there are none. When that
+/// destroys the tree, the command is disabled: there is no one left to do it.
+bool MultiTreeCtrl::updateByNodes(CCmdUI& ui, UINT id)
+{
+    const HostCalls host(*this);
+    const auto nodes = selectedNodes();
+    bool taken = false;
+    quietly([&] {
+        for (const OVO::Handle<Node>& node : nodes)
+            if (host.usable() && offers(*node, id) && host.usable()) {
+                taken = true;
+                node->doUpdateCmd(&ui, nodes.size() == 1);
+            }
+    });
+    if (host.usable())
+        return taken;
+    ui.Enable(FALSE);
+    return true;
 }
 
 /// Who would handle a command. The entry for all other commands counts only if a selected node offers it, and
 /// that for Paste if there is something that can be pasted.
 BOOL MultiTreeCtrl::findHandler(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info)
 {
+    const HostCalls host(*this);
     AFX_CMDHANDLERINFO any{};
     CTreeCtrl::OnCmdMsg(0, CN_COMMAND, nullptr, &any); // no command has the number 0
     if (CTreeCtrl::OnCmdMsg(id, code, extra, info)) {
@@ -63,7 +90,7 @@ BOOL MultiTreeCtrl::findHandler(UINT id, int code, void* extra, AFX_CMDHANDLERIN
             return TRUE;
         *info = {};
     }
-    return routeToParent(id, code, extra, info);
+    return host.usable() && routeToParent(id, code, extra, info);
 }
 
 /// The parent may hand commands down to the tree: then they end here, and do not go round and round.
@@ -104,18 +131,20 @@ BOOL MultiTreeCtrl::OnUnknownCommand(UINT id)
 /// Has all selected nodes that offer the command do it, as one gesture. False when there are none.
 bool MultiTreeCtrl::routeToNodes(UINT id)
 {
+    const HostCalls host(*this);
+    const OVO::Handle<EVSubscriptionList<int>> gestures = m_gestures;
     std::vector<OVO::Handle<Node>> takers = selectedNodes();
-    const std::shared_ptr<State> state = m_state;
-    if (!reportErrors(*this,
-                      [&] { std::erase_if(takers, [id](const auto& node) { return !offers(*node, id); }); }))
+    const bool asked =
+        host.report([&] { std::erase_if(takers, [id](const auto& node) { return !offers(*node, id); }); });
+    if (!asked || !host.usable())
         return true;
     if (takers.empty())
         return false;
-    const OVO::Handle<EVSubscriptionList<int>> gestures = m_gestures;
     gestures->notify(static_cast<int>(id));
-    const std::exception_ptr foreign = ovoui::tree::keepForeign(*this, [&] {
+    std::exception_ptr foreign;
+    host.reportKeeping(foreign, [&] {
         for (const OVO::Handle<Node>& node : takers)
-            if (state->usable())
+            if (host.usable())
                 node->doCommand(*this, id);
     });
     gestures->notify(0);
@@ -142,13 +171,12 @@ void MultiTreeCtrl::OnInitMenuPopup(CMenu* popup, UINT index, BOOL systemMenu)
         CTreeCtrl::OnInitMenuPopup(popup, index, systemMenu);
         return;
     }
-    const std::shared_ptr<State> state = m_state;
-    const auto nodes = selectedNodes();
-    for (int i = popup->GetMenuItemCount() - 1; i >= 0 && state->usable(); --i)
-        updateMenuItem(*popup, static_cast<UINT>(i), nodes);
+    const HostCalls host(*this);
+    for (int i = popup->GetMenuItemCount() - 1; i >= 0 && host.usable(); --i)
+        updateMenuItem(*popup, static_cast<UINT>(i));
 }
 
-void MultiTreeCtrl::updateMenuItem(CMenu& popup, UINT index, const std::vector<OVO::Handle<Node>>& nodes)
+void MultiTreeCtrl::updateMenuItem(CMenu& popup, UINT index)
 {
     CCmdUI ui;
     ui.m_pMenu = &popup;
@@ -164,17 +192,10 @@ void MultiTreeCtrl::updateMenuItem(CMenu& popup, UINT index, const std::vector<O
         ui.DoUpdate(this, FALSE);
         return;
     }
+    const HostCalls host(*this);
     const UINT id = ui.m_nID;
-    bool taken = false;
-    const bool asked = quietly([&] {
-        for (const OVO::Handle<Node>& node : nodes)
-            if (offers(*node, id)) {
-                taken = true;
-                node->doUpdateCmd(&ui, nodes.size() == 1);
-            }
-    });
-    if (!taken && asked)
+    if (!updateByNodes(ui, id) && host.usable())
         ui.DoUpdate(this, TRUE);
-    if (isCommandDisabled(id))
+    if (host.usable() && isCommandDisabled(id))
         popup.EnableMenuItem(index, MF_BYPOSITION | MF_GRAYED);
 }

@@ -1,5 +1,7 @@
 // Where something dragged over the tree would go, and how that is shown.
-#include <ovoui/tree/TreeState.h>
+#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/ItemTracker.h>
+#include <ovoui/tree/Platform.h>
 #include <ovoui/tree/core/EdgeScroll.h>
 #include <ovoui/tree/core/HitParts.h>
 
@@ -22,14 +24,17 @@ DWORD MultiTreeCtrl::dragHitTest(COleDataObject& data, CPoint point, DWORD& effe
     item = nullptr;
     zone = -1;
     try {
+        const HostCalls host(*this);
         unsigned hit = 0;
         HTREEITEM hovered = HitTest(point, &hit);
+        if (!host.usable())
+            return DROPEFFECT_NONE;
         if (!hovered && (hit & ovoui::tree::kHitNowhere))
             hovered = getLastItem();
         return askTarget(data, hovered, effects, target, item, zone);
     } catch (const std::exception&) {
-        // A place that cannot answer takes nothing; nobody wants to hear of it at every movement of the
-        // mouse.
+        // A place that cannot answer takes nothing. That is not reported: it may happen at every movement of
+        // the mouse.
         return DROPEFFECT_NONE;
     }
 }
@@ -41,13 +46,14 @@ DWORD MultiTreeCtrl::askTarget(COleDataObject& data, HTREEITEM hovered, DWORD& e
     zone = -1;
     bool beside = false;
     InsertionPoint* const root = rootInsertionPoint();
+    const HostCalls host(*this);
     const OVO::Handle<Node> node = this->node(hovered);
     if (!node)
         return !hovered && root ? root->dragInto(data, effects, beside, zone) : DROPEFFECT_NONE;
 
     *target = node;
     const DWORD answer = node->dragInto(data, effects, beside, zone);
-    if (!beside || answer != DROPEFFECT_NONE || node->hTreeItem() != hovered)
+    if (!host.usable() || !beside || answer != DROPEFFECT_NONE || node->hTreeItem() != hovered)
         return answer;
     const HTREEITEM above = next(TVGN_PARENT, hovered);
     const OVO::Handle<Node> parent = this->node(above);
@@ -55,9 +61,10 @@ DWORD MultiTreeCtrl::askTarget(COleDataObject& data, HTREEITEM hovered, DWORD& e
     if (!place)
         return answer;
     zone = placeAmongSiblings(hovered);
+    const Tracker behind(m_state, hovered);
     const DWORD placesAnswer = place->dragInto(data, effects, beside, zone);
     *target = parent;
-    item = hovered;
+    item = behind.item();
     return placesAnswer;
 }
 
@@ -98,11 +105,11 @@ void MultiTreeCtrl::showDropMark(HTREEITEM markBehind, HTREEITEM highlighted)
 
 void MultiTreeCtrl::setInsertMark(HTREEITEM behind)
 {
-    const bool taken = SetInsertMark(behind, TRUE) != FALSE;
+    SetInsertMark(behind, TRUE);
     m_state->markShown = behind != nullptr;
-    if (taken || behind)
+    if (behind || !ovoui::tree::platform().keepsInsertMark)
         return;
-    // A platform that only moves the mark: to an item that goes at once, and takes it along.
+    // The mark moves to an item that goes at once, and takes it along.
     TVINSERTSTRUCT insert{};
     insert.hParent = TVI_ROOT;
     insert.hInsertAfter = TVI_LAST;

@@ -1,7 +1,6 @@
 // Erasing the selected nodes, as the user wants it.
-#include <ovoui/tree/NodeErrors.h>
+#include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ParentNotificationFilter.h>
-#include <ovoui/tree/TreeState.h>
 
 #include <ovoui/frame/MessageBox.h>
 #include <ovoui/frame/Module.h>
@@ -60,22 +59,22 @@ private:
 
 void MultiTreeCtrl::eraseSelectedNodes()
 {
-    const std::shared_ptr<State> state = m_state;
-    if (eraseSelection() && state->usable())
+    const HostCalls host(*this);
+    if (eraseSelection() && host.usable())
         notifyTvnSelchanged(TVC_UNKNOWN, nullptr, caret(), CPoint(0, 0));
 }
 
 /// The command: the whole is one gesture, and the parent hears of the new selection when it is over.
 void MultiTreeCtrl::OnEditDelete()
 {
-    const std::shared_ptr<State> state = m_state;
+    const HostCalls host(*this);
     const OVO::Handle<EVSubscriptionList<int>> gestures = m_gestures;
     bool erased = false;
+    std::exception_ptr foreign;
     gestures->notify(kGestureDelete);
-    const std::exception_ptr foreign =
-        ovoui::tree::keepForeign(*this, [&] { erased = state->usable() && eraseSelection(); });
+    host.reportKeeping(foreign, [&] { erased = host.usable() && eraseSelection(); });
     gestures->notify(0);
-    if (erased && state->usable())
+    if (erased && host.usable())
         notifyTvnSelchanged(TVC_UNKNOWN, nullptr, caret(), CPoint(0, 0));
     ovoui::tree::raise(foreign);
 }
@@ -83,23 +82,28 @@ void MultiTreeCtrl::OnEditDelete()
 /// Asks, and erases. False when there was nothing to erase, or the user did not want it.
 bool MultiTreeCtrl::eraseSelection()
 {
-    const std::shared_ptr<State> state = m_state;
+    const HostCalls host(*this);
     std::vector<OVO::Handle<Node>> nodes = selectedNodes();
     std::erase_if(nodes, [](const OVO::Handle<Node>& node) { return !node->canErase(); });
-    if (nodes.empty() || !confirmsErasing(nodes) || !state->usable())
+    if (nodes.empty() || !host.usable() || !confirmsErasing(nodes) || !host.usable())
         return false;
     ErasingDrag drag(*this, nodes);
     drag.start();
-    eraseNodes(nodes);
+    if (host.usable())
+        eraseNodes(nodes);
     drag.endAll();
     return true;
 }
 
 bool MultiTreeCtrl::confirmsErasing(const std::vector<OVO::Handle<Node>>& nodes)
 {
+    const HostCalls host(*this);
+    const std::wstring name = nodes.size() == 1 ? nodes.front()->text(*this) : std::wstring();
+    if (!host.usable())
+        return false;
     const std::wstring question =
         nodes.size() == 1
-            ? stringPrintf(ovoui::resourceString(IDS_DELETE_ONE).c_str(), nodes.front()->text(*this).c_str())
+            ? stringPrintf(ovoui::resourceString(IDS_DELETE_ONE).c_str(), name.c_str())
             : stringPrintf(ovoui::resourceString(IDS_DELETE_MANY).c_str(), static_cast<int>(nodes.size()));
     const std::wstring caption = ovoui::resourceString(IDS_DELETE_CAPTION);
     return OVOMessageBox(m_hWnd, question.c_str(), caption.c_str(), MB_YESNO | MB_ICONQUESTION, L"MsgWindow",
@@ -108,12 +112,12 @@ bool MultiTreeCtrl::confirmsErasing(const std::vector<OVO::Handle<Node>>& nodes)
 
 void MultiTreeCtrl::eraseNodes(const std::vector<OVO::Handle<Node>>& nodes)
 {
-    const std::shared_ptr<State> state = m_state;
+    const HostCalls host(*this);
     for (const OVO::Handle<Node>& node : nodes) {
-        if (!state->usable())
+        if (!host.usable())
             return;
         const bool agreed = node->erase(*this);
-        if (!state->usable() || !agreed || !node->hTreeItem())
+        if (!host.usable() || !agreed || !node->hTreeItem())
             continue;
         // The caret may go from one deleted item to the next; the parent is told at the end.
         const ovoui::tree::ParentNotificationFilter quiet(m_hWnd);

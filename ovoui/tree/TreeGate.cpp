@@ -1,8 +1,11 @@
-// The gate in front of the tree view's own procedure. Every message on its way there passes here, whoever
-// sent it, so that what the tree remembers of its items stays true.
-#include <ovoui/tree/TreeState.h>
+// The gate in front of the tree view's own procedure. Every message on its way there passes here, of the host
+// as of the system, so that what the tree remembers of its items stays true.
+#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/ItemTracker.h>
+#include <ovoui/tree/Platform.h>
 
-#include <algorithm>
+using ovoui::tree::keeping;
+using ovoui::tree::PlatformHolds;
 
 namespace
 {
@@ -15,7 +18,7 @@ enum class Change
     Insert,   ///< a new item, as lParam says
     Caret,    ///< the selected item
     Delete,   ///< an item and all below it
-    Order,    ///< the children of an item, as lParam says
+    Order,    ///< the children of an item
     Anything, ///< what the user's input or the system does
     Gone      ///< all of it
 };
@@ -63,20 +66,61 @@ HTREEITEM asItem(LPARAM lParam)
     return reinterpret_cast<HTREEITEM>(lParam);
 }
 
+/// The item that the tree view goes on with after it has called us.
+HTREEITEM itemGoneOnWith(UINT message, LPARAM lParam)
+{
+    switch (message) {
+    case TVM_SELECTITEM:
+    case TVM_ENSUREVISIBLE:
+    case TVM_EDITLABELW:
+    case TVM_EDITLABELA:
+        return asItem(lParam);
+    default:
+        return nullptr;
+    }
+}
+
+/// The item whose children change their places or are hidden.
+HTREEITEM itemRearranged(UINT message, LPARAM lParam)
+{
+    switch (message) {
+    case TVM_EXPAND:
+    case TVM_SORTCHILDREN:
+        return asItem(lParam);
+    case TVM_SORTCHILDRENCB:
+        return lParam ? reinterpret_cast<const TVSORTCB*>(lParam)->hParent : nullptr;
+    default:
+        return nullptr;
+    }
+}
+
 } // namespace
 
-/// A call of the tree view's procedure, from the constructor to finish().
+/// A call of the tree view's procedure: begin() before it, finish() when it came back with a result.
 class MultiTreeCtrl::NativeCall
 {
 public:
-    NativeCall(State& state, UINT message, WPARAM wParam, LPARAM lParam);
+    NativeCall(State& state, UINT message, WPARAM wParam, LPARAM lParam) noexcept
+        : m_state(state)
+        , m_message(message)
+        , m_wParam(wParam)
+        , m_lParam(lParam)
+        , m_change(changeBy(message))
+        , m_releasedBefore(state.released.size())
+        , m_heldBefore(state.holds.count())
+    {
+        ++m_state.nativeCalls;
+    }
+    void begin();
     void finish(LRESULT result);
     ~NativeCall();
+    NativeCall(const NativeCall&) = delete;
+    NativeCall& operator=(const NativeCall&) = delete;
 
 private:
     void noteItem(const TVITEM& item);
     void noteInserted(LRESULT item);
-    HTREEITEM parentOf(HTREEITEM item) const;
+    void hold();
 
     State& m_state;
     const UINT m_message;
@@ -84,76 +128,69 @@ private:
     const LPARAM m_lParam;
     const Change m_change;
     const std::size_t m_releasedBefore;
+    const std::size_t m_heldBefore;
+    bool m_finished = false;
 };
 
-MultiTreeCtrl::NativeCall::NativeCall(State& state, UINT message, WPARAM wParam, LPARAM lParam)
-    : m_state(state)
-    , m_message(message)
-    , m_wParam(wParam)
-    , m_lParam(lParam)
-    , m_change(changeBy(message))
-    , m_releasedBefore(state.released.size())
+void MultiTreeCtrl::NativeCall::begin()
 {
-    ++m_state.nativeCalls;
     switch (m_change) {
     case Change::State:
-        if (lParam)
-            noteItem(*reinterpret_cast<const TVITEM*>(lParam));
+        if (m_lParam)
+            noteItem(*reinterpret_cast<const TVITEM*>(m_lParam));
         break;
     case Change::Caret:
-        if (wParam == TVGN_CARET)
-            m_state.selection.add(asItem(lParam));
+        if (m_wParam == TVGN_CARET)
+            m_state.selection.add(asItem(m_lParam));
         break;
     case Change::Order:
-        ++m_state.structure;
+        m_state.structureChanged();
         m_state.children.forgetAll();
-        m_state.appended = nullptr;
-        m_state.selection.disturb();
         break;
     case Change::Anything:
         // The caret may leave an item, or come to one, and the platform selects and deselects with it.
         m_state.selection.add(m_state.tree->caret());
-        // A message of the system: the host has had its turn, and what it sorts by may be different now.
-        if (message < WM_USER)
-            m_state.children.distrustAll();
         break;
     default:
         break;
     }
-    if (message == WM_SETREDRAW)
-        m_state.redraws = wParam != FALSE;
+    if (m_message == WM_SETREDRAW)
+        m_state.redraws = m_wParam != FALSE;
+    hold();
+}
+
+/// What must not be deleted before the tree view has finished.
+void MultiTreeCtrl::NativeCall::hold()
+{
+    // Opens everything below the caret, from item to item.
+    if (m_message == WM_KEYDOWN && m_wParam == VK_MULTIPLY)
+        m_state.holds.add(PlatformHolds::Kind::Everything);
+    const HTREEITEM item = itemGoneOnWith(m_message, m_lParam);
+    if (!item)
+        return;
+    m_state.holds.add(PlatformHolds::Kind::Stays, item);
+    if (m_message == TVM_SELECTITEM)
+        m_state.holds.add(PlatformHolds::Kind::Stays, m_state.tree->caret());
 }
 
 void MultiTreeCtrl::NativeCall::noteItem(const TVITEM& item)
 {
     if ((item.mask & TVIF_STATE) && (item.state & item.stateMask & TVIS_SELECTED))
         m_state.selection.add(item.hItem);
-    if (item.mask & TVIF_PARAM)
-        m_state.children.forgetAll();
-    if ((item.mask & TVIF_TEXT) && !m_state.children.empty())
-        m_state.children.distrust(parentOf(item.hItem));
-}
-
-HTREEITEM MultiTreeCtrl::NativeCall::parentOf(HTREEITEM item) const
-{
-    const HTREEITEM parent = m_state.tree->next(TVGN_PARENT, item);
-    return parent ? parent : TVI_ROOT;
 }
 
 void MultiTreeCtrl::NativeCall::noteInserted(LRESULT item)
 {
     const auto& insert = *reinterpret_cast<const TVINSERTSTRUCT*>(m_lParam);
+    m_state.structureChanged();
     if ((insert.item.mask & TVIF_STATE) && (insert.item.state & insert.item.stateMask & TVIS_SELECTED))
         m_state.selection.add(asItem(item));
-    m_state.selection.disturb();
-    ++m_state.structure;
-    if (!m_state.insertsInPlace)
-        m_state.children.forget(insert.hParent ? insert.hParent : TVI_ROOT);
-    m_state.appended = nullptr;
+    m_state.children.forget(insert.hParent ? insert.hParent : TVI_ROOT);
 }
 
 void MultiTreeCtrl::NativeCall::finish(LRESULT result)
 {
+    m_finished = true;
     if (m_change == Change::Insert && result)
         noteInserted(result);
     else if (m_change == Change::Anything && m_state.usable())
@@ -163,14 +200,18 @@ void MultiTreeCtrl::NativeCall::finish(LRESULT result)
 MultiTreeCtrl::NativeCall::~NativeCall()
 {
     --m_state.nativeCalls;
+    m_state.holds.shrinkTo(m_heldBefore);
+    if (!m_finished) {
+        // An exception came in place of the result: what happened is not known.
+        m_state.structureChanged();
+        m_state.selection.setComplete(false);
+        m_state.children.forgetAll();
+    }
     if (m_change == Change::Gone)
         m_state.forgetAll();
     // The nodes of the items deleted in this call. Their destructors may do anything to the tree, which was
     // not safe before.
-    while (m_state.released.size() > m_releasedBefore) {
-        const OVO::Handle<Node> node = std::move(m_state.released.back());
-        m_state.released.pop_back();
-    }
+    letGo(m_state, m_releasedBefore);
 }
 
 LRESULT MultiTreeCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -178,49 +219,38 @@ LRESULT MultiTreeCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const std::shared_ptr<State> state = m_state;
     if (message == TVM_DELETEITEM && postponesDeleting(asItem(lParam)))
         return TRUE;
-    const State::Tracker concerned(state, message == TVM_EXPAND ? asItem(lParam) : nullptr);
+    const bool empties = message == TVM_EXPAND && (wParam & TVE_COLLAPSERESET) && asItem(lParam);
+    if (empties && postponesEmptying(asItem(lParam)))
+        wParam &= ~static_cast<WPARAM>(TVE_COLLAPSERESET);
+
+    const Tracker rearranged(state, itemRearranged(message, lParam));
+    const std::vector<OVO::Handle<Node>> unreported = nodesGoingUnreported(message, wParam, lParam);
     LRESULT result = 0;
-    {
+    std::exception_ptr foreign = keeping([&] {
         NativeCall call(*state, message, wParam, lParam);
+        call.begin();
         result = CTreeCtrl::DefWindowProc(message, wParam, lParam);
         call.finish(result);
-    }
-    if (concerned && state->usable())
-        noticeClosing(concerned.item());
-    deletePostponed(*state);
+    });
+    const auto afterwards = [&](auto&& act) {
+        const std::exception_ptr raised = keeping(act);
+        foreign = foreign ? foreign : raised;
+    };
+    if (!unreported.empty())
+        releaseUnreported(*state, unreported);
+    if (rearranged && state->usable())
+        afterwards([&] { layOutAnew(rearranged.item()); });
+    if (message == TVM_EXPAND && rearranged && state->usable())
+        afterwards([&] { noticeClosing(rearranged.item()); });
+    afterwards([&] { deletePostponed(*state); });
+    ovoui::tree::raise(foreign);
     return result;
 }
 
-void MultiTreeCtrl::deletePostponed(State& state)
+/// See Platform::losesRows. The rows of displayed items are right at all times on other platforms.
+void MultiTreeCtrl::layOutAnew(HTREEITEM rearranged)
 {
-    while (state.nativeCalls == 0 && state.opening.empty() && !state.postponed.empty() && state.usable()) {
-        const HTREEITEM item = state.postponed.back();
-        state.postponed.pop_back();
-        state.tree->deleteItem(item);
-    }
-}
-
-/// While the tree view opens or closes an item, it does not expect others to go than those below it. Such
-/// wait until it has finished; their nodes are let go at once.
-bool MultiTreeCtrl::postponesDeleting(HTREEITEM item)
-{
-    if (m_state->opening.empty() || (item != TVI_ROOT && item && isBelow(item, m_state->opening.back())))
-        return false;
-    std::vector<HTREEITEM> items;
-    if (item && item != TVI_ROOT) {
-        items.push_back(item);
-    } else {
-        for (HTREEITEM root = next(TVGN_ROOT); root; root = next(TVGN_NEXT, root))
-            items.push_back(root);
-    }
-    for (const HTREEITEM doomed : items) {
-        if (std::find(m_state->postponed.begin(), m_state->postponed.end(), doomed) !=
-            m_state->postponed.end())
-            continue;
-        m_state->postponed.push_back(doomed);
-        detachNodes(doomed);
-    }
-    m_state->children.forgetAll();
-    m_state->appended = nullptr;
-    return true;
+    if (!ovoui::tree::platform().losesRows || !m_state->redraws || isDisplayed(rearranged))
+        return;
+    ask(WM_SETREDRAW, TRUE);
 }

@@ -6,9 +6,14 @@
 
 #include <cstddef>
 #include <iterator>
+#include <memory>
 
-/// Stands at an item, or at the end. Goes depth first, parents before their children, over open and closed
-/// items alike; over the selected ones only, if so made. It stays good while its item exists.
+/// Stands at an item with a node, or at the end. Goes depth first, parents before their children, over open
+/// and closed items alike; over the selected ones only, if so made.
+///
+/// Items may be deleted during the walk, that of the iterator among them: the next step goes to the item that
+/// came behind. An iterator keeps the node that it stands at. When the tree is destroyed, the next step leads
+/// to the end.
 ///
 ///     for (auto node = tree.beginSelected(); node != tree.end(); ++node)
 ///         print(node->text(tree));
@@ -22,9 +27,13 @@ public:
     using reference = Node&;
 
     /// The end of no tree.
-    iterator() = default;
+    iterator();
+    iterator(const iterator& other);
+    iterator(iterator&& other) noexcept;
+    iterator& operator=(iterator other) noexcept;
+    ~iterator();
 
-    /// The node of the item; the reference is good while the item exists.
+    /// The node of the item; the reference is good until the next step. Not at the end.
     Node& operator*() const;
     /// A handle to the node, which keeps it alive.
     OVO::Handle<Node> operator->() const;
@@ -43,18 +52,15 @@ public:
 
 private:
     friend class MultiTreeCtrl;
+    class Place;
 
-    iterator(const MultiTreeCtrl& tree, HTREEITEM item, bool selectedOnly)
-        : m_tree(&tree)
-        , m_item(item)
-        , m_selectedOnly(selectedOnly)
-    {
-    }
+    iterator(const MultiTreeCtrl& tree, HTREEITEM item, bool selectedOnly);
 
-    bool eq(const iterator& other) const { return m_tree == other.m_tree && m_item == other.m_item; }
+    bool eq(const iterator& other) const;
+    HTREEITEM behindPlace() const;
 
     const MultiTreeCtrl* m_tree = nullptr;
-    HTREEITEM m_item = nullptr;
+    std::unique_ptr<Place> m_place; ///< null at the end
     bool m_selectedOnly = false;
 };
 

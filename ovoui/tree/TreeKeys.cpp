@@ -1,8 +1,13 @@
 // The keyboard, the focus, and the default action.
-#include <ovoui/tree/NodeErrors.h>
-#include <ovoui/tree/TreeState.h>
+#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/ItemTracker.h>
+#include <ovoui/tree/ParentNotificationFilter.h>
 
 #include <ovouires/resource.h>
+
+#include <optional>
+
+using ovoui::tree::ParentNotificationFilter;
 
 namespace
 {
@@ -43,7 +48,8 @@ void MultiTreeCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
         return;
     case 'A':
         if (ctrl) {
-            if (!isCommandDisabled(ID_EDIT_SELECT_ALL))
+            const HostCalls host(*this);
+            if (!isCommandDisabled(ID_EDIT_SELECT_ALL) && host.usable())
                 selectAll(TVC_BYKEYBOARD);
             return;
         }
@@ -55,14 +61,14 @@ void MultiTreeCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
         }
         break;
     case VK_F5: {
-        const std::shared_ptr<State> state = m_state;
+        const HostCalls host(*this);
         runOwnCommand(ID_TREE_REDRAW);
-        if (!state->usable())
+        if (!host.usable())
             return;
         break;
     }
     }
-    CTreeCtrl::OnKeyDown(key, repeat, flags);
+    leaveToTreeView([&] { CTreeCtrl::OnKeyDown(key, repeat, flags); });
 }
 
 /// With Alt held keys come this way. The tree view would activate its item at Enter.
@@ -77,7 +83,39 @@ void MultiTreeCtrl::OnChar(UINT character, UINT repeat, UINT flags)
 {
     constexpr UINT kCtrlA = 1;
     if (character != L'\r' && character != L' ' && character != kCtrlA)
-        CTreeCtrl::OnChar(character, repeat, flags);
+        leaveToTreeView([&] { CTreeCtrl::OnChar(character, repeat, flags); });
+}
+
+/// A key that the tree view handles, which knows of one selected item only. Where it moves the caret, the others
+/// are deselected, or with Shift the range from the anchor is selected, and the parent hears of it once. With
+/// Ctrl, or where no others are selected, its own way is right. The anchor stays.
+void MultiTreeCtrl::leaveToTreeView(const std::function<void()>& handle)
+{
+    const HostCalls host(*this);
+    const std::shared_ptr<State> state = m_state;
+    const Tracker oldCaret(state, caret());
+    const bool shift = isDown(VK_SHIFT);
+    const std::vector<HTREEITEM> selected = selectedItems();
+    const bool alone = selected.empty() || (selected.size() == 1 && selected.front() == oldCaret.item());
+    if (isDown(VK_CONTROL) || (alone && !shift)) {
+        handle();
+        return;
+    }
+    std::optional<ParentNotificationFilter> quiet(m_hWnd);
+    handle();
+    if (!host.usable())
+        return;
+    const Tracker target(state, caret());
+    if (!target || target.item() == oldCaret.item())
+        return;
+    doSelectItem(target.item());
+    if (!host.usable() || !target)
+        return;
+    if (shift)
+        selectRange(m_anchor, target.item());
+    quiet.reset();
+    if (host.usable() && target)
+        notifyTvnSelchanged(TVC_BYKEYBOARD, oldCaret.item(), target.item(), CPoint(0, 0));
 }
 
 /// A command of the tree's own, unless the host forbids it.
@@ -92,18 +130,20 @@ void MultiTreeCtrl::moveTo(HTREEITEM target)
 {
     if (!target)
         return;
+    const HostCalls host(*this);
     const std::shared_ptr<State> state = m_state;
-    const State::Tracker goal(state, target);
+    const Tracker goal(state, target);
     EnsureVisible(target);
-    if (!state->usable() || !goal)
+    if (!host.usable() || !goal)
         return;
     if (isDown(VK_SHIFT)) {
-        const State::Tracker oldCaret(state, caret());
+        const Tracker oldCaret(state, caret());
         selectWithoutNotice(target);
-        if (!state->usable() || !goal)
+        if (!host.usable() || !goal)
             return;
         selectRange(m_anchor, target);
-        notifyTvnSelchanged(TVC_BYKEYBOARD, oldCaret.item(), target, CPoint(0, 0));
+        if (host.usable())
+            notifyTvnSelchanged(TVC_BYKEYBOARD, oldCaret.item(), goal.item(), CPoint(0, 0));
         return;
     }
     m_anchor = target;
@@ -112,54 +152,55 @@ void MultiTreeCtrl::moveTo(HTREEITEM target)
         return;
     }
     moveCaretAlone(target);
-    if (state->usable())
+    if (host.usable())
         notifyTvnSelchanged(TVC_BYKEYBOARD, caret(), caret(), CPoint(0, 0));
 }
 
 void MultiTreeCtrl::toggleCaret()
 {
-    const HTREEITEM focus = caret();
+    const Tracker focus(m_state, caret());
     if (!focus)
         return;
-    setSelected(focus, !isSelected(focus));
-    notifyTvnSelchanged(TVC_BYKEYBOARD, focus, focus, CPoint(0, 0));
+    const HostCalls host(*this);
+    setSelected(focus.item(), !isSelected(focus.item()));
+    if (host.usable())
+        notifyTvnSelchanged(TVC_BYKEYBOARD, focus.item(), focus.item(), CPoint(0, 0));
 }
 
 // The default action
 
 void MultiTreeCtrl::defaultAction()
 {
-    if (isCommandDisabled(kGestureDefaultAction))
+    const HostCalls host(*this);
+    if (isCommandDisabled(kGestureDefaultAction) || !host.usable())
         return;
-    const std::shared_ptr<State> state = m_state;
     const OVO::Handle<EVSubscriptionList<int>> gestures = m_gestures;
     gestures->notify(kGestureDefaultAction);
-    std::exception_ptr error;
-    try {
-        if (state->usable())
+    const std::exception_ptr error = ovoui::tree::keeping([&] {
+        if (host.usable())
             activateSelection();
-    } catch (...) {
-        error = std::current_exception();
-    }
+    });
     gestures->notify(0);
     ovoui::tree::raise(error);
 }
 
 void MultiTreeCtrl::activateSelection()
 {
-    const std::shared_ptr<State> state = m_state;
+    const HostCalls host(*this);
     for (const OVO::Handle<Node>& node : selectedNodes()) {
         if (node->hTreeItem())
             setItemState(node->hTreeItem(), 0, TVIS_EXPANDEDONCE);
+        if (!host.usable())
+            return;
         node->activate(*this);
-        if (!state->usable())
+        if (!host.usable())
             return;
         const HTREEITEM item = node->hTreeItem();
         if (!item)
             continue;
         node->state = static_cast<std::uint32_t>(ask(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), ~0u));
         updateUI(*node);
-        if (!state->usable())
+        if (!host.usable())
             return;
     }
 }
@@ -167,7 +208,7 @@ void MultiTreeCtrl::activateSelection()
 /// The default action as the user wants it: what nodes raise is shown.
 void MultiTreeCtrl::runDefaultAction()
 {
-    ovoui::tree::reportErrors(*this, [this] { defaultAction(); });
+    HostCalls(*this).report([this] { defaultAction(); });
 }
 
 void MultiTreeCtrl::OnReturn(NMHDR*, LRESULT* result)

@@ -1,11 +1,12 @@
 // Renaming in place.
 #include <ovoui/tree/EditLabelAgain.h>
-#include <ovoui/tree/NodeErrors.h>
-#include <ovoui/tree/TreeState.h>
+#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/ItemTracker.h>
 
 #include <ovouires/resource.h>
 
-using ovoui::tree::keepForeign;
+using ovoui::tree::PlatformHold;
+using ovoui::tree::PlatformHolds;
 using ovoui::tree::raise;
 
 const UINT ovoui::tree::kEditLabelAgain = ::RegisterWindowMessageW(L"ovoui.MultiTreeCtrl.EditLabelAgain");
@@ -27,38 +28,47 @@ void MultiTreeCtrl::OnUpdateEditReplace(CCmdUI* ui)
 
 void MultiTreeCtrl::editLabel(HTREEITEM item)
 {
+    const HostCalls host(*this);
+    const Tracker edited(m_state, item);
     clearselection(next(TVGN_ROOT));
-    DefWindowProc(TVM_EDITLABELW, 0, reinterpret_cast<LPARAM>(item));
+    if (host.usable() && edited)
+        DefWindowProc(TVM_EDITLABELW, 0, reinterpret_cast<LPARAM>(item));
 }
 
 void MultiTreeCtrl::OnBeginlabeledit(NMHDR* header, LRESULT* result)
 {
     const std::shared_ptr<State> state = m_state;
-    const OVO::Handle<Node> node = this->node(reinterpret_cast<NMTVDISPINFO*>(header)->item.hItem);
+    const HostCalls host(*this);
+    const Tracker item(state, reinterpret_cast<NMTVDISPINFO*>(header)->item.hItem);
+    const OVO::Handle<Node> node = this->node(item.item());
     *result = TRUE; // refused, unless all goes well
     if (!node)
         return;
+    // The tree view goes on with the item.
+    const PlatformHold stays(state->holds, PlatformHolds::Kind::Stays, item.item());
     bool begun = false;
     bool ready = false;
-    std::exception_ptr foreign = keepForeign(*this, [&] {
-        if (!node->canRename() || isCommandDisabled(ID_TREE_RENAME))
+    std::exception_ptr foreign;
+    host.reportKeeping(foreign, [&] {
+        if (!node->canRename() || !host.usable() || isCommandDisabled(ID_TREE_RENAME) || !host.usable())
             return;
         begun = true;
         node->beginLabelEdit(*this);
+        if (!host.usable())
+            return;
         const std::wstring text = node->renameText(*this);
-        ready = state->usable();
+        ready = host.usable() && item;
         if (ready)
             ::SetWindowTextW(reinterpret_cast<HWND>(ask(TVM_GETEDITCONTROL)), text.c_str());
     });
     if (ready) {
         *result = FALSE;
-        state->edited = reinterpret_cast<NMTVDISPINFO*>(header)->item.hItem;
-    } else if (begun) {
-        const std::exception_ptr another = keepForeign(*this, [&] { node->endLabelEdit(*this); });
-        foreign = foreign ? foreign : another;
+        state->edited = item.item();
+    } else if (begun && host.usable()) {
+        host.reportKeeping(foreign, [&] { node->endLabelEdit(*this); });
     }
     // An exception takes the place of the refusal, so the editor has to be closed again.
-    if (foreign && state->usable())
+    if (foreign && host.usable())
         PostMessage(TVM_ENDEDITLABELNOW, TRUE, 0);
     raise(foreign);
 }
@@ -66,29 +76,28 @@ void MultiTreeCtrl::OnBeginlabeledit(NMHDR* header, LRESULT* result)
 void MultiTreeCtrl::OnEndlabeledit(NMHDR* header, LRESULT* result)
 {
     const std::shared_ptr<State> state = m_state;
+    const HostCalls host(*this);
     const TVITEM& edited = reinterpret_cast<NMTVDISPINFO*>(header)->item;
     *result = FALSE;
     // The end of one edit may be told twice; the second time there is nothing to do.
     if (!std::exchange(state->edited, nullptr))
         return;
-    // Not just its handle: a new item may get that of a deleted one.
-    const State::Tracker item(state, edited.hItem);
+    const Tracker item(state, edited.hItem);
     const OVO::Handle<Node> node = this->node(item.item());
     if (!node)
         return;
-    // The tree view's own text changes without a message when it takes the typed one.
-    state->children.distrustAll();
-    bool again = false;
     std::exception_ptr foreign;
-    if (edited.pszText) {
-        const std::wstring typed = edited.pszText;
-        foreign = keepForeign(*this, [&] { again = applyTypedText(*node, item.item(), typed, result); });
+    bool again = false;
+    {
+        const PlatformHold stays(state->holds, PlatformHolds::Kind::Stays, edited.hItem);
+        if (edited.pszText) {
+            const std::wstring typed = edited.pszText;
+            host.reportKeeping(foreign, [&] { again = applyTypedText(*node, item.item(), typed, result); });
+        }
+        if (host.usable())
+            host.reportKeeping(foreign, [&] { node->endLabelEdit(*this); });
     }
-    if (state->usable()) {
-        const std::exception_ptr another = keepForeign(*this, [&] { node->endLabelEdit(*this); });
-        foreign = foreign ? foreign : another;
-    }
-    if (again && state->usable() && item) {
+    if (again && host.usable() && item) {
         state->editAgain = item.item();
         PostMessage(ovoui::tree::kEditLabelAgain);
     }
@@ -101,21 +110,28 @@ void MultiTreeCtrl::OnEndlabeledit(NMHDR* header, LRESULT* result)
 /// typed.
 bool MultiTreeCtrl::applyTypedText(Node& node, HTREEITEM item, const std::wstring& typed, LRESULT* result)
 {
-    if (typed == node.renameText(*this))
+    const HostCalls host(*this);
+    const Tracker old(m_state, item);
+    const std::wstring offered = node.renameText(*this);
+    if (typed == offered || !host.usable())
         return false;
-    const std::shared_ptr<State> state = m_state;
-    const State::Tracker old(state, item);
     const std::wstring before = node.text(*this);
+    if (!host.usable())
+        return false;
     node.rename(*this, typed);
     const HTREEITEM now = node.hTreeItem();
-    if (!state->usable() || !now)
+    if (!host.usable() || !now)
         return false;
     if (!old || now != item) {
+        const Tracker anew(m_state, now);
         clearselection(next(TVGN_ROOT));
-        doSelectItem(now);
+        if (host.usable() && anew)
+            doSelectItem(now);
         return false;
     }
     const std::wstring after = node.text(*this);
+    if (!host.usable() || !old)
+        return false;
     if (after == before)
         return true;
     if (after == typed)

@@ -1,8 +1,9 @@
 // The mouse: clicks select, drags are reported, a second click edits the label, a double click activates.
 #include <ovoui/tree/DragDetector.h>
+#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/ParentNotificationFilter.h>
 #include <ovoui/tree/RedrawHold.h>
-#include <ovoui/tree/TreeState.h>
 #include <ovoui/tree/core/HitParts.h>
 
 using namespace ovoui::tree;
@@ -17,13 +18,14 @@ constexpr UINT_PTR kEditTimer = 2115;
 /// A press of a button, from the moment it is looked at to its release or drag.
 struct MultiTreeCtrl::Press
 {
-    Press(MultiTreeCtrl& tree, UINT pressedKeys, CPoint where, UINT code)
+    Press(const MultiTreeCtrl& tree, UINT pressedKeys, CPoint where, UINT code, HTREEITEM under, unsigned flags)
         : keys(pressedKeys)
         , point(where)
         , dragCode(code)
-        , item(tree.m_state, tree.HitTest(where, &hit))
+        , hit(flags)
+        , item(tree.m_state, under)
         , caretBefore(tree.m_state, tree.caret())
-        , onCaret(item && item.item() == caretBefore.item())
+        , onCaret(under && under == caretBefore.item())
     {
     }
 
@@ -34,10 +36,10 @@ struct MultiTreeCtrl::Press
     const UINT keys;
     const CPoint point;
     const UINT dragCode; ///< what the parent gets if this becomes a drag
-    unsigned hit = 0;
-    State::Tracker item; ///< the item under the pointer
-    State::Tracker caretBefore;
-    bool onCaret; ///< the item was the caret already
+    const unsigned hit;
+    Tracker item; ///< the item under the pointer
+    Tracker caretBefore;
+    const bool onCaret; ///< the item was the caret already
 };
 
 // Pressing
@@ -54,15 +56,19 @@ void MultiTreeCtrl::OnRButtonDown(UINT keys, CPoint point)
 
 void MultiTreeCtrl::doButtonDown(UINT keys, CPoint point, UINT dragCode)
 {
-    const std::shared_ptr<State> state = m_state;
-    Press press(*this, keys, point, dragCode);
+    const HostCalls host(*this);
+    unsigned hit = 0;
+    const HTREEITEM under = HitTest(point, &hit);
+    if (!host.usable())
+        return;
+    Press press(*this, keys, point, dragCode, under, hit);
     m_pending = false;
     stopEditTimer();
-    if (isNodesOwnPart(press.hit))
-        if (const OVO::Handle<Node> under = node(press.item.item()))
-            if (under->buttonDown(*this, keys, point, press.hit) || !state->usable())
+    if (isNodesOwnPart(hit))
+        if (const OVO::Handle<Node> owner = node(under))
+            if (owner->buttonDown(*this, keys, point, hit) || !host.usable())
                 return;
-    if (!takesPress(press.hit)) {
+    if (!takesPress(hit)) {
         Default();
         return;
     }
@@ -73,13 +79,13 @@ void MultiTreeCtrl::doButtonDown(UINT keys, CPoint point, UINT dragCode)
         pressWithCtrl(press);
     else
         pressPlain(press);
-    if (state->usable())
+    if (host.usable())
         takeFocus();
-    if (!state->usable() || press.shift())
+    if (!host.usable() || press.shift())
         return;
 
     const bool drag = detectDrag(m_hWnd, point);
-    if (!state->usable())
+    if (!host.usable())
         return;
     if (drag)
         sendBeginDrag(dragCode, point);
@@ -92,7 +98,7 @@ void MultiTreeCtrl::doButtonDown(UINT keys, CPoint point, UINT dragCode)
 /// Shift: the range from the anchor, which stays, to the item.
 void MultiTreeCtrl::pressWithShift(Press& press)
 {
-    const std::shared_ptr<State> state = m_state;
+    const HostCalls host(*this);
     if (!press.item)
         press.item.moveTo(itemBeyond(press.hit));
     if (!press.item) {
@@ -100,10 +106,11 @@ void MultiTreeCtrl::pressWithShift(Press& press)
         return;
     }
     selectWithoutNotice(press.item.item());
-    if (!state->usable() || !press.item)
+    if (!host.usable() || !press.item)
         return;
     selectRange(m_anchor, press.item.item());
-    notifyTvnSelchanged(TVC_BYMOUSE, press.caretBefore.item(), press.item.item(), press.point);
+    if (host.usable())
+        notifyTvnSelchanged(TVC_BYMOUSE, press.caretBefore.item(), press.item.item(), press.point);
 }
 
 /// Neither Shift nor Ctrl: the item alone. One that is selected with others stays so until the release, since
@@ -128,9 +135,11 @@ void MultiTreeCtrl::pressWithCtrl(Press& press)
     moveAnchor(press);
     if (!press.item || isSelected(press.item.item()))
         return;
-    setSelected(press.item.item(), true);
     m_pending = true;
-    notifyTvnSelchanged(TVC_BYMOUSE, caret(), caret(), press.point);
+    const HostCalls host(*this);
+    setSelected(press.item.item(), true);
+    if (host.usable())
+        notifyTvnSelchanged(TVC_BYMOUSE, caret(), caret(), press.point);
 }
 
 /// The anchor goes to the item of a press, or to the end of the tree beside which there is none.
@@ -161,13 +170,14 @@ void MultiTreeCtrl::takeFocus()
         SetFocus();
         return;
     }
-    // The press has just left nothing selected; the tree view selects an item whenever it gets the focus so.
-    const std::shared_ptr<State> state = m_state;
-    const ParentNotificationFilter quiet(m_hWnd);
+    // There is no caret; the tree view makes an item the caret, and selects it, whenever it gets the focus so.
+    const HostCalls host(*this);
     const RedrawHold hold(m_hWnd);
-    SetFocus();
-    if (state->usable())
-        selectCaret(nullptr);
+    keepSelection([&] {
+        SetFocus();
+        if (host.usable())
+            selectCaret(nullptr);
+    });
 }
 
 // Releasing, without a drag in between
@@ -175,23 +185,24 @@ void MultiTreeCtrl::takeFocus()
 /// Ctrl: an item that was selected before the press is not any more.
 void MultiTreeCtrl::releaseWithCtrl(const Press& press)
 {
+    const HostCalls host(*this);
     if (press.item) {
         m_anchor = press.item.item();
         if (!m_pending)
             deselectOne(press.item.item(), press.point);
     }
-    if (!press.left() && isUsable())
+    if (!press.left() && host.usable())
         sendContextMenu();
 }
 
 void MultiTreeCtrl::releasePlain(const Press& press)
 {
-    const std::shared_ptr<State> state = m_state;
+    const HostCalls host(*this);
     if (press.item)
         m_anchor = press.item.item();
     if (press.left() || m_pending)
         selectPressed(press);
-    if (!state->usable())
+    if (!host.usable())
         return;
     if (!press.left())
         sendContextMenu();
@@ -204,10 +215,10 @@ void MultiTreeCtrl::releasePlain(const Press& press)
 /// one instead.
 void MultiTreeCtrl::selectPressed(const Press& press)
 {
-    const std::shared_ptr<State> state = m_state;
+    const HostCalls host(*this);
     const HTREEITEM before = caret();
     doSelectItem(press.item.item());
-    if (!state->usable() || !press.item)
+    if (!host.usable() || !press.item)
         return;
     const HTREEITEM now = caret();
     if (now == press.item.item() || now == before)
@@ -216,8 +227,10 @@ void MultiTreeCtrl::selectPressed(const Press& press)
 
 void MultiTreeCtrl::deselectOne(HTREEITEM item, CPoint point)
 {
+    const HostCalls host(*this);
     setSelected(item, false);
-    notifyTvnSelchanged(TVC_BYMOUSE, caret(), caret(), point);
+    if (host.usable())
+        notifyTvnSelchanged(TVC_BYMOUSE, caret(), caret(), point);
 }
 
 void MultiTreeCtrl::sendBeginDrag(UINT dragCode, CPoint point) const
@@ -240,12 +253,15 @@ void MultiTreeCtrl::sendContextMenu()
 
 void MultiTreeCtrl::OnLButtonUp(UINT keys, CPoint point)
 {
+    const HostCalls host(*this);
     const std::shared_ptr<State> state = m_state;
     unsigned hit = 0;
-    const State::Tracker item(state, HitTest(point, &hit));
+    const Tracker item(state, HitTest(point, &hit));
+    if (!host.usable())
+        return;
     if (isNodesOwnPart(hit))
-        if (const OVO::Handle<Node> under = node(item.item()))
-            if (under->handleLButtonUp(*this, point, hit) || !state->usable())
+        if (const OVO::Handle<Node> owner = node(item.item()))
+            if (owner->handleLButtonUp(*this, point, hit) || !host.usable())
                 return;
     if (!takesRelease(hit)) {
         Default();
@@ -263,8 +279,11 @@ void MultiTreeCtrl::OnLButtonUp(UINT keys, CPoint point)
 
 void MultiTreeCtrl::OnRButtonUp(UINT keys, CPoint point)
 {
+    const HostCalls host(*this);
     unsigned hit = 0;
     HitTest(point, &hit);
+    if (!host.usable())
+        return;
     if (!takesRelease(hit))
         Default();
     else if (keys & MK_SHIFT)
@@ -281,8 +300,11 @@ void MultiTreeCtrl::OnRClick(NMHDR*, LRESULT* result)
 
 void MultiTreeCtrl::OnLButtonDblClk(UINT keys, CPoint point)
 {
+    const HostCalls host(*this);
     unsigned hit = 0;
     HitTest(point, &hit);
+    if (!host.usable())
+        return;
     stopEditTimer();
     if (!takesRelease(hit))
         Default();

@@ -1,5 +1,4 @@
-#include <ovoui/tree/MultiTreeCtrl.h>
-
+#include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/core/DropEffect.h>
 
 MultiTreeCtrl::Node::Node() = default;
@@ -29,8 +28,12 @@ void MultiTreeCtrl::Node::resetItemText(MultiTreeCtrl& tree)
 {
     if (!m_hTreeItem)
         return;
+    const OVO::Handle<Node> held(this);
+    const HTREEITEM item = m_hTreeItem;
+    const HostCalls host(tree);
     const std::wstring label = text(tree);
-    tree.SetItemText(m_hTreeItem, label.c_str());
+    if (host.usable() && m_hTreeItem == item) // else the question has changed the tree
+        tree.SetItemText(item, label.c_str());
 }
 
 int MultiTreeCtrl::Node::image() const

@@ -14,17 +14,25 @@ class CImageList;
 /// it what the user wants done; it does the work.
 ///
 /// Nodes are made with `new` and held by OVO::Handle. The tree holds one reference for the item from insert()
-/// on until the item is deleted, in whatever way that happens; a node that nobody else holds goes with it. A
-/// node is in one tree at a time.
+/// on until the item is deleted, in whatever way that happens; a node without another reference goes with it.
+/// A node is in one tree at a time.
 ///
 /// What these operations raise: an OvoError or a standard exception goes to the tree's reportError when the
 /// tree's user or the tree view caused the call, and to the caller when the host's code did. Other exceptions
-/// pass on. Every operation may change the tree: delete items, this node's own among them, insert, select.
+/// pass on.
+///
+/// Every operation may change the tree: delete items, this node's own among them, insert, open, close, select,
+/// run messages. An item that the tree view is still working with loses its node at once and goes a little
+/// later. Every operation may destroy the tree or its window too, except those that the tree view itself waits
+/// for: expand, collapse, rename, renameText, canRename, beginLabelEdit and endLabelEdit, and text and the
+/// images while an item opens or closes.
 class OVOUI_API MultiTreeCtrl::Node : public MultiTreeCtrl::InsertionPoint, public OVO::Handlable
 {
 public:
     Node();
-    ~Node() override;
+    /// A node stands for one item: there are no copies.
+    Node(const Node&) = delete;
+    Node& operator=(const Node&) = delete;
 
     /// Shows this node in `tree`, under `parent` behind `after`; both are items or the tree view's TVI_
     /// markers. Gives the new item, or null on failure: the node is then as it was before.
@@ -86,6 +94,9 @@ public:
     virtual void beginLabelEdit(MultiTreeCtrl& tree);
     /// The label editor has closed, whatever came of it. Does nothing unless overridden.
     virtual void endLabelEdit(MultiTreeCtrl& tree);
+
+    // Behind all operations, which stand in the order in which they are called through.
+    ~Node() override;
 
 private:
     friend class MultiTreeCtrl;

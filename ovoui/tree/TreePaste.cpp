@@ -1,6 +1,5 @@
 // Pasting: by the command that nodes offer, else as a drop of what is on the clipboard.
-#include <ovoui/tree/NodeErrors.h>
-#include <ovoui/tree/TreeState.h>
+#include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/core/DropEffect.h>
 
 #include <afxole.h>
@@ -31,7 +30,7 @@ DWORD preferredEffect(COleDataObject& data)
 /// Where what is on the clipboard would go, and how.
 struct MultiTreeCtrl::PastePlace
 {
-    InsertionPoint* place = nullptr; ///< null when nobody would take it
+    InsertionPoint* place = nullptr; ///< null when the data is not taken anywhere
     OVO::Handle<Node> node;          ///< the place, if it is a node
     DWORD effect = 0;
     int zone = -1;
@@ -45,7 +44,10 @@ MultiTreeCtrl::PastePlace MultiTreeCtrl::findPastePlace(COleDataObject& data)
     PastePlace found;
     HTREEITEM behind = nullptr;
     DWORD allowed = 0;
+    const HostCalls host(*this);
     const DWORD answer = askTarget(data, hovered, allowed, &found.node, behind, found.zone);
+    if (!host.usable())
+        return found;
     found.effect = ovoui::tree::resolvePasteEffect(preferredEffect(data), answer, allowed);
     if (found.effect)
         found.place = found.node ? found.node.get() : rootInsertionPoint();
@@ -54,20 +56,22 @@ MultiTreeCtrl::PastePlace MultiTreeCtrl::findPastePlace(COleDataObject& data)
 
 BOOL MultiTreeCtrl::OnEditPaste(UINT id)
 {
-    if (routeToNodes(id))
+    const HostCalls host(*this);
+    if (routeToNodes(id) || !host.usable())
         return TRUE;
     COleDataObject data;
     if (!data.AttachClipboard())
         return FALSE;
-    const std::shared_ptr<State> state = m_state;
     bool taken = false;
-    ovoui::tree::reportErrors(*this, [&] {
+    host.report([&] {
         const PastePlace found = findPastePlace(data);
+        if (!host.usable())
+            return;
         taken = found.place != nullptr;
         if (!taken)
             return;
         found.place->dropInto(data, found.effect, *this, found.zone);
-        if (found.node && state->usable())
+        if (found.node && host.usable())
             updateUI(*found.node);
     });
     return taken;
@@ -76,8 +80,10 @@ BOOL MultiTreeCtrl::OnEditPaste(UINT id)
 void MultiTreeCtrl::OnUpdateEditPaste(CCmdUI* ui)
 {
     const UINT id = ui->m_nID;
-    if (canPaste(id)) {
-        ui->Enable(TRUE);
+    const HostCalls host(*this);
+    const bool can = canPaste(id);
+    if (can || !host.usable()) {
+        ui->Enable(can && host.usable());
     } else if (!routeToParent(id, static_cast<int>(CN_UPDATE_COMMAND_UI), ui, nullptr)) {
         AFX_CMDHANDLERINFO info{};
         ui->Enable(routeToParent(id, CN_COMMAND, ui, &info));
@@ -88,8 +94,10 @@ bool MultiTreeCtrl::canPaste(UINT id)
 {
     bool can = false;
     ovoui::tree::quietly([&] {
+        const HostCalls host(*this);
         COleDataObject data;
-        can = offersCommand(id) || (data.AttachClipboard() && findPastePlace(data).place);
+        can = offersCommand(id) ||
+              (host.usable() && data.AttachClipboard() && findPastePlace(data).place);
     });
     return can;
 }

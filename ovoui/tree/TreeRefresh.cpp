@@ -1,7 +1,7 @@
 // Bringing items up to date with their nodes.
+#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/RedrawHold.h>
-#include <ovoui/tree/NodeErrors.h>
-#include <ovoui/tree/TreeState.h>
 
 #include <unordered_set>
 
@@ -15,6 +15,8 @@ constexpr UINT kNodesState = TVIS_CUT | TVIS_DROPHILITED | TVIS_BOLD;
 
 void MultiTreeCtrl::updateUI(Node& node)
 {
+    const OVO::Handle<Node> held(&node);
+    const HostCalls host(*this);
     const HTREEITEM item = node.hTreeItem();
     if (!item)
         return;
@@ -28,10 +30,10 @@ void MultiTreeCtrl::updateUI(Node& node)
     changes.cChildren = node.children;
     changes.iImage = node.image();
     changes.iSelectedImage = node.children == 0 ? node.openImage() : changes.iImage;
-    if (node.hTreeItem() != item) // the questions above have changed the tree
+    if (!host.usable() || node.hTreeItem() != item) // the questions above have changed the tree
         return;
     DefWindowProc(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changes));
-    if (item == caret())
+    if (host.usable() && node.hTreeItem() == item && item == caret())
         notifyTvnSelchanged(TVC_UNKNOWN, item, item, CPoint(0, 0));
 }
 
@@ -44,38 +46,37 @@ void MultiTreeCtrl::updateUI(HTREEITEM item)
 /// The redraw command: every node looks at what it stands for, and some go.
 void MultiTreeCtrl::OnRedraw()
 {
-    const std::shared_ptr<State> state = m_state;
+    const HostCalls host(*this);
     const ovoui::tree::RedrawHold hold(m_hWnd);
-    ovoui::tree::reportErrors(*this, [&] {
+    host.report([&] {
         std::unordered_set<const Node*> seen;
         std::vector<OVO::Handle<Node>> held; // so that no new node takes the place of one seen
-        State::Tracker item(state, next(TVGN_ROOT), State::Tracker::WhenDeleted::MoveOn);
-        while (state->usable() && item) {
-            const HTREEITEM current = item.item();
-            const OVO::Handle<Node> node = this->node(current);
+        Tracker item(m_state, firstItem(), Tracker::WhenDeleted::NextInTree);
+        while (host.usable() && item) {
+            const OVO::Handle<Node> node = this->node(item.item());
             // A node that inserts itself anew would never end.
             const bool known = !node || !seen.insert(node.get()).second;
-            if (known) {
-                item.moveTo(nextItem(current, true));
-                continue;
-            }
-            held.push_back(node);
-            refreshItem(*node, current);
+            const bool goesInto = known || refreshItem(*node, item.item());
+            if (node)
+                held.push_back(node);
+            if (!host.usable())
+                return;
             // Unless the tracker had to go on by itself, because the item is gone.
-            if (state->usable() && item.item() == current)
-                item.moveTo(nextItem(current, node->hTreeItem() == current));
+            item.moveTo(item.moved() ? item.item() : nextItem(item.item(), goesInto));
         }
     });
 }
 
-void MultiTreeCtrl::refreshItem(Node& node, HTREEITEM item)
+/// Whether the item is still there.
+bool MultiTreeCtrl::refreshItem(Node& node, HTREEITEM item)
 {
-    const std::shared_ptr<State> state = m_state;
+    const HostCalls host(*this);
     const bool stays = node.refresh();
-    if (!state->usable() || node.hTreeItem() != item)
-        return;
+    if (!host.usable() || node.hTreeItem() != item)
+        return false;
     if (stays)
         updateUI(node);
     else
         deleteItem(item);
+    return stays;
 }

@@ -1,11 +1,11 @@
 // What is selected: one item, a range, all, none; and how the parent is told.
+#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/ParentNotificationFilter.h>
 #include <ovoui/tree/RedrawHold.h>
-#include <ovoui/tree/TreeState.h>
 
 #include <algorithm>
 #include <optional>
-#include <unordered_set>
 
 using ovoui::tree::ParentNotificationFilter;
 using ovoui::tree::RedrawHold;
@@ -53,6 +53,13 @@ void MultiTreeCtrl::notifyParent(NMHDR& header) const
         parent->SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
 }
 
+/// With TVN_GETDISPINFO the parent may change an item's state without a message to the tree.
+BOOL MultiTreeCtrl::OnGetdispinfo(NMHDR* header, LRESULT*)
+{
+    m_state->selection.add(reinterpret_cast<const NMTVDISPINFO*>(header)->item.hItem);
+    return FALSE;
+}
+
 // One item
 
 BOOL MultiTreeCtrl::SelectItem(HTREEITEM item)
@@ -62,22 +69,23 @@ BOOL MultiTreeCtrl::SelectItem(HTREEITEM item)
 
 bool MultiTreeCtrl::doSelectItem(HTREEITEM item)
 {
-    const std::shared_ptr<State> state = m_state;
-    const State::Tracker oldCaret(state, caret());
+    const HostCalls host(*this);
+    const Tracker oldCaret(m_state, caret());
     const HTREEITEM caretBefore = oldCaret.item();
-    const State::Tracker target(state, item);
+    const Tracker target(m_state, item);
 
     // The item itself may stay selected all the while.
     const unsigned before = deselectAllBut(item);
-    const bool done = selectCaret(item);
-    if (!state->usable() || (item && !target))
+    const bool done = host.usable() && (!item || target) && selectCaret(item);
+    if (!host.usable() || (item && !target))
         return done;
     const HTREEITEM caretNow = caret();
     if (caretNow == caretBefore && before > (item ? 1u : 0u)) {
-        // The tree view has told nobody, as its selected item is the same, and yet others were deselected.
+        // The tree view tells of no change, as its selected item is the same, and yet others were deselected.
         if (item)
             setSelected(item, true);
-        notifyTvnSelchanged(TVC_UNKNOWN, oldCaret.item(), item, CPoint(0, 0));
+        if (host.usable())
+            notifyTvnSelchanged(TVC_UNKNOWN, oldCaret.item(), item, CPoint(0, 0));
     } else if (item && caretNow == item) {
         if (!isSelected(item))
             setSelected(item, true);
@@ -117,7 +125,7 @@ unsigned MultiTreeCtrl::clearselection(HTREEITEM first)
             item = next(TVGN_PREVIOUS, item);
         return !item;
     });
-    deselect(selected);
+    setSelected(selected, false);
     return static_cast<unsigned>(selected.size());
 }
 
@@ -127,29 +135,28 @@ unsigned MultiTreeCtrl::deselectAllBut(HTREEITEM kept)
     std::vector<HTREEITEM> selected = selectedItems();
     const auto count = static_cast<unsigned>(selected.size());
     std::erase(selected, kept);
-    deselect(selected);
+    setSelected(selected, false);
     return count;
 }
 
-void MultiTreeCtrl::deselect(const std::vector<HTREEITEM>& items)
+void MultiTreeCtrl::setSelected(const std::vector<HTREEITEM>& items, bool selected)
 {
+    const HostCalls host(*this);
+    ItemList list(m_state, items);
     std::optional<RedrawHold> hold;
     if (items.size() > kFewItems)
         hold.emplace(m_hWnd);
-    for (const HTREEITEM item : items)
-        setSelected(item, false);
+    list.forEach([&](HTREEITEM item) {
+        if (host.usable())
+            setSelected(item, selected);
+    });
 }
 
 // Many
 
 void MultiTreeCtrl::selectRange(HTREEITEM a, HTREEITEM b)
 {
-    const std::vector<HTREEITEM> range = displayedRange(a, b);
-    std::optional<RedrawHold> hold;
-    if (range.size() > kFewItems)
-        hold.emplace(m_hWnd);
-    for (const HTREEITEM item : range)
-        setSelected(item, true);
+    setSelected(displayedRange(a, b), true);
 }
 
 /// Whether an item stands in the list that one scrolls through: all items above it are open.
@@ -196,43 +203,46 @@ void MultiTreeCtrl::OnEditSelectAll()
 
 void MultiTreeCtrl::selectAll(unsigned action)
 {
-    const std::shared_ptr<State> state = m_state;
+    const HostCalls host(*this);
     {
         const RedrawHold hold(m_hWnd);
-        for (HTREEITEM item = next(TVGN_ROOT); item; item = next(TVGN_NEXTVISIBLE, item))
-            setSelected(item, true);
+        Tracker item(m_state, next(TVGN_ROOT));
+        while (host.usable() && item) {
+            setSelected(item.item(), true);
+            item.moveTo(host.usable() && item ? next(TVGN_NEXTVISIBLE, item.item()) : nullptr);
+        }
     }
-    if (state->usable())
+    if (host.usable())
         notifyTvnSelchanged(action, caret(), caret(), CPoint(0, 0));
 }
 
-/// Moves the focus and leaves the selection as it is: the tree view, which selects along with it, is
-/// corrected.
 void MultiTreeCtrl::moveCaretAlone(HTREEITEM item)
 {
-    const std::shared_ptr<State> state = m_state;
-    std::vector<HTREEITEM> before = selectedItems();
-    const unsigned deletions = state->deletions;
+    keepSelection([&] { selectCaret(item); });
+}
+
+/// Moves the focus and leaves the selection as it is: the tree view, which selects along with it, is
+/// corrected, and the parent hears nothing.
+void MultiTreeCtrl::keepSelection(const std::function<void()>& moveFocus)
+{
+    const HostCalls host(*this);
+    std::vector<HTREEITEM> selected = selectedItems();
+    std::sort(selected.begin(), selected.end());
+    ItemList before(m_state, std::move(selected));
     {
         const ParentNotificationFilter quiet(m_hWnd);
-        selectCaret(item);
+        moveFocus();
     }
-    if (!state->usable())
+    if (!host.usable())
         return;
-    if (state->deletions != deletions) { // by the parent, when it was told that the caret is about to move
-        std::unordered_set<HTREEITEM> all;
-        for (HTREEITEM each = next(TVGN_ROOT); each; each = nextItem(each, true))
-            all.insert(each);
-        std::erase_if(before, [&](HTREEITEM each) { return !all.contains(each); });
-    }
     std::vector<HTREEITEM> now = selectedItems();
-    std::sort(before.begin(), before.end());
     std::sort(now.begin(), now.end());
     std::vector<HTREEITEM> changed;
-    std::set_symmetric_difference(before.begin(), before.end(), now.begin(), now.end(),
+    std::set_symmetric_difference(before.items().begin(), before.items().end(), now.begin(), now.end(),
                                   std::back_inserter(changed));
     for (const HTREEITEM each : changed)
-        setSelected(each, std::binary_search(before.begin(), before.end(), each));
+        if (host.usable() && !before.isGone(each))
+            setSelected(each, std::binary_search(before.items().begin(), before.items().end(), each));
 }
 
 /// Selected items look different without the focus; the tree view repaints only the caret by itself.

@@ -1,5 +1,5 @@
 // Tooltips.
-#include <ovoui/tree/NodeErrors.h>
+#include <ovoui/tree/HostCalls.h>
 
 #include <ovocor/Text.h>
 
@@ -10,7 +10,7 @@ void MultiTreeCtrl::OnGetinfotip(NMHDR* header, LRESULT* result)
     const OVO::Handle<Node> node = this->node(request.hItem);
     if (!node)
         return;
-    ovoui::tree::reportErrors(*this, [&] {
+    HostCalls(*this).report([&] {
         const std::wstring tip = node->infotip(*this);
         if (!tip.empty() && request.cchTextMax > 0)
             packTo(request.pszText, static_cast<std::size_t>(request.cchTextMax), tip);

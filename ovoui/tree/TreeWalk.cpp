@@ -2,9 +2,19 @@
 #include <ovoui/tree/TreeState.h>
 
 #include <algorithm>
-#include <cstring>
+#include <unordered_map>
+#include <unordered_set>
 
+/// The item behind another one in the order of the tree. Those that wait for their deletion are left out.
 HTREEITEM MultiTreeCtrl::nextItem(HTREEITEM item, bool intoChildren) const
+{
+    HTREEITEM following = nextShown(item, intoChildren);
+    while (following && isDoomed(following))
+        following = nextShown(following, false);
+    return following;
+}
+
+HTREEITEM MultiTreeCtrl::nextShown(HTREEITEM item, bool intoChildren) const
 {
     if (!item)
         return nullptr;
@@ -15,6 +25,26 @@ HTREEITEM MultiTreeCtrl::nextItem(HTREEITEM item, bool intoChildren) const
         if (const HTREEITEM sibling = next(TVGN_NEXT, item))
             return sibling;
     return nullptr;
+}
+
+HTREEITEM MultiTreeCtrl::firstItem() const
+{
+    const HTREEITEM root = next(TVGN_ROOT);
+    return root && isDoomed(root) ? nextItem(root, false) : root;
+}
+
+HTREEITEM MultiTreeCtrl::firstChild(HTREEITEM parent) const
+{
+    const HTREEITEM child = parent == TVI_ROOT ? next(TVGN_ROOT) : next(TVGN_CHILD, parent);
+    return child && isDoomed(child) ? nextSibling(child) : child;
+}
+
+HTREEITEM MultiTreeCtrl::nextSibling(HTREEITEM item) const
+{
+    do
+        item = next(TVGN_NEXT, item);
+    while (item && isDoomed(item));
+    return item;
 }
 
 /// The last item that is displayed when one scrolls all the way down.
@@ -35,7 +65,7 @@ bool MultiTreeCtrl::isBelow(HTREEITEM item, HTREEITEM ancestor) const
 
 MultiTreeCtrl::iterator MultiTreeCtrl::begin(bool selectedOnly) const
 {
-    return {*this, selectedOnly ? firstSelected() : next(TVGN_ROOT), selectedOnly};
+    return {*this, selectedOnly ? firstSelected() : firstItem(), selectedOnly};
 }
 
 MultiTreeCtrl::iterator MultiTreeCtrl::beginAll() const
@@ -60,18 +90,18 @@ std::vector<HTREEITEM> MultiTreeCtrl::selectedItems() const
 {
     ovoui::tree::SelectionRecord& record = m_state->selection;
     if (!record.complete()) {
-        for (HTREEITEM item = next(TVGN_ROOT); item; item = nextItem(item, true))
+        for (HTREEITEM item = firstItem(); item; item = nextItem(item, true))
             record.add(item);
         record.setComplete(true);
     }
     std::vector<HTREEITEM> items;
-    items.reserve(record.items().size());
+    items.reserve(record.items().size() + 1);
     for (const HTREEITEM item : record.items())
         items.push_back(item);
     if (const HTREEITEM focus = caret(); focus && !record.items().contains(focus))
         items.push_back(focus);
     std::erase_if(items, [&](HTREEITEM item) {
-        const bool dropped = !isSelected(item);
+        const bool dropped = !isSelected(item) || isDoomed(item);
         if (dropped)
             record.drop(item);
         return dropped;
@@ -79,22 +109,56 @@ std::vector<HTREEITEM> MultiTreeCtrl::selectedItems() const
     return items;
 }
 
-/// Sorts items as the tree shows them. False when one of them is not displayed, being in a closed item.
-bool MultiTreeCtrl::orderSelected(std::vector<HTREEITEM>& items) const
+/// Puts siblings into their order. From one of them on in both directions, until all are met: how far they are
+/// from the first child does not matter.
+void MultiTreeCtrl::orderSiblings(std::vector<HTREEITEM>& items) const
 {
-    std::vector<std::pair<LONG, HTREEITEM>> places;
-    places.reserve(items.size());
-    for (const HTREEITEM item : items) {
-        RECT rect;
-        std::memcpy(&rect, &item, sizeof item); // the message finds the item where it puts the rectangle
-        if (!ask(TVM_GETITEMRECT, FALSE, reinterpret_cast<LPARAM>(&rect)))
-            return false;
-        places.emplace_back(rect.top, item);
+    if (items.size() < 2)
+        return;
+    std::unordered_set<HTREEITEM> missing(items.begin() + 1, items.end());
+    std::vector<HTREEITEM> before;
+    std::vector<HTREEITEM> behind{items.front()};
+    HTREEITEM up = items.front();
+    HTREEITEM down = items.front();
+    while (!missing.empty() && (up || down)) {
+        up = up ? next(TVGN_PREVIOUS, up) : nullptr;
+        if (missing.erase(up))
+            before.push_back(up);
+        down = down ? next(TVGN_NEXT, down) : nullptr;
+        if (missing.erase(down))
+            behind.push_back(down);
     }
-    std::sort(places.begin(), places.end());
-    std::transform(places.begin(), places.end(), items.begin(),
-                   [](const auto& place) { return place.second; });
-    return true;
+    items.assign(before.rbegin(), before.rend());
+    items.insert(items.end(), behind.begin(), behind.end());
+}
+
+/// Puts items into the order of the tree, by what stands beside and below what: the places of rows say nothing
+/// about items in closed ones.
+void MultiTreeCtrl::orderByTree(std::vector<HTREEITEM>& items) const
+{
+    const std::unordered_set<HTREEITEM> wanted(items.begin(), items.end());
+    // The items and all above them, by parent.
+    std::unordered_map<HTREEITEM, std::vector<HTREEITEM>> children;
+    std::unordered_set<HTREEITEM> met;
+    for (const HTREEITEM item : items)
+        for (HTREEITEM at = item; at && met.insert(at).second;) {
+            const HTREEITEM parent = next(TVGN_PARENT, at);
+            children[parent].push_back(at);
+            at = parent;
+        }
+    items.clear();
+    const auto into = [&](auto&& self, HTREEITEM parent) -> void {
+        const auto found = children.find(parent);
+        if (found == children.end())
+            return;
+        orderSiblings(found->second);
+        for (const HTREEITEM child : found->second) {
+            if (wanted.contains(child))
+                items.push_back(child);
+            self(self, child);
+        }
+    };
+    into(into, nullptr);
 }
 
 /// Few selected items among many are found by the record, and put in order; else all items are walked over.
@@ -103,12 +167,11 @@ HTREEITEM MultiTreeCtrl::firstSelected() const
     const auto all = static_cast<std::size_t>(ask(TVM_GETCOUNT));
     const ovoui::tree::SelectionRecord& record = m_state->selection;
     if (record.complete() && record.items().size() * 3 > all)
-        return selectedFrom(next(TVGN_ROOT));
+        return selectedFrom(firstItem());
     std::vector<HTREEITEM> items = selectedItems();
     if (items.empty())
         return nullptr;
-    if (!orderSelected(items))
-        return selectedFrom(next(TVGN_ROOT));
+    orderByTree(items);
     const HTREEITEM first = items.front();
     m_state->order.remember(std::move(items), record.changes());
     return first;
@@ -120,7 +183,7 @@ HTREEITEM MultiTreeCtrl::nextSelected(HTREEITEM item) const
         HTREEITEM following = nullptr;
         if (!m_state->order.following(item, following))
             break;
-        if (!following || isSelected(following))
+        if (!following || (isSelected(following) && !isDoomed(following)))
             return following;
         item = following;
     }
@@ -139,7 +202,6 @@ std::vector<OVO::Handle<MultiTreeCtrl::Node>> MultiTreeCtrl::selectedNodes() con
 {
     std::vector<OVO::Handle<Node>> nodes;
     for (iterator at = beginSelected(); at != end(); ++at)
-        if (OVO::Handle<Node> node = at)
-            nodes.push_back(std::move(node));
+        nodes.push_back(at);
     return nodes;
 }

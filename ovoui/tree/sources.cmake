@@ -13,21 +13,22 @@ endif()
 
 target_sources(ovoui PRIVATE
   ${tree_core}
-  ${CMAKE_CURRENT_LIST_DIR}/AppendPosition.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/ChildOrders.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/ChildSearch.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ChildWalk.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DragDetector.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DropMenu.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DropTarget.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Inserter.cpp
   ${CMAKE_CURRENT_LIST_DIR}/InsertionPoint.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ItemTracker.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MultiTreeCtrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ParentNotificationFilter.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PlainText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Platform.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RedrawHold.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SelectionRecord.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeCommands.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeContextMenu.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/TreeDeleting.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeDrop.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeErasing.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeExpansion.cpp

@@ -1,13 +1,16 @@
-#include <ovoui/tree/AppendPosition.h>
+#include <ovoui/tree/Platform.h>
+
+#include <windows.h>
 
 namespace ovoui::tree
 {
 
-HTREEITEM behindLast(HTREEITEM last)
+Platform& platform()
 {
     static const bool wine =
         ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    return wine ? TVI_LAST : last;
+    static Platform current{wine, wine, wine};
+    return current;
 }
 
 } // namespace ovoui::tree

@@ -1,0 +1,28 @@
+/// Not exported to hosts: where the tree view of one platform wants to be treated differently from that of
+/// another. Tests may set the switches to try both sides.
+#pragma once
+
+#include <ovoui/export.h>
+
+namespace ovoui::tree
+{
+
+struct Platform
+{
+    /// Behind the last sibling TVI_LAST is faster than that sibling's handle. Windows walks over all siblings
+    /// for TVI_LAST and takes a handle as it is; Wine keeps the last sibling at hand, but looks a handle up
+    /// among all items of the tree.
+    bool appendsFasterByMarker;
+
+    /// An item that is not displayed and whose children are hidden or sorted puts the rows of all others out
+    /// of order, until the tree view lays them out anew. So Wine.
+    bool losesRows;
+
+    /// TVM_SETINSERTMARK without an item leaves the mark where it is. So Wine.
+    bool keepsInsertMark;
+};
+
+/// The platform that the process runs on, until a test changes it.
+OVOUI_API Platform& platform();
+
+} // namespace ovoui::tree
