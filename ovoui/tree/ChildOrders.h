@@ -1,5 +1,5 @@
-/// Not exported: the children of items that get many, in the order in which the tree shows them. Kept only for
-/// hosts that promise to keep sorted children in order; see MultiTreeCtrl::setSortedInsertion.
+/// Not exported: the children of items that get many, in the order in which the tree shows them. Kept only
+/// for hosts that promise to keep sorted children in order; see MultiTreeCtrl::setSortedInsertion.
 #pragma once
 
 #include <ovoui/tree/core/BlockList.h>
@@ -15,8 +15,8 @@ namespace ovoui::tree
 
 using Children = BlockList<HTREEITEM>;
 
-/// What is remembered of the children of some items, from one insertion to the next. It is forgotten when their
-/// order or number changes in another way.
+/// What is remembered of the children of some items, from one insertion to the next. It is forgotten when
+/// their order or number changes in another way.
 class ChildOrders
 {
 public:

@@ -29,8 +29,8 @@ public:
     /// Compares the child with a node. Positive behind the last one; negative too for a child without a node.
     int compare(const InsertionPoint& where, const Node& node);
 
-    /// Goes to the first child that does not sort before a node. True when it sorts the same. When the walk is
-    /// not usable any more, false.
+    /// Goes to the first child that does not sort before a node. True when it sorts the same. When the walk
+    /// is not usable any more, false.
     bool findPlace(const InsertionPoint& where, const Node& node);
 
     /// What to insert behind, to come in front of the child.

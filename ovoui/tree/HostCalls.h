@@ -58,8 +58,8 @@ public:
     /// Whether the tree and its window are still there.
     bool usable() const { return m_state->usable(); }
 
-    /// Makes a call. An OvoError or a standard exception goes to the host's reportError; others pass on. False
-    /// when there was one to report.
+    /// Makes a call. An OvoError or a standard exception goes to the host's reportError; others pass on.
+    /// False when there was one to report.
     template <class Call>
     bool report(Call&& call) const
     {

@@ -89,7 +89,8 @@ HTREEITEM MultiTreeCtrl::Inserter::insertHalving(Node& node, bool& unused)
     };
 
     Children children = takeChildren();
-    const Children::Place place = children.partitionPoint([&](HTREEITEM child) { return compare(child) < 0; });
+    const Children::Place place =
+        children.partitionPoint([&](HTREEITEM child) { return compare(child) < 0; });
     const HTREEITEM* const behind = children.after(place);
     unused = behind && compare(*behind) == 0;
     // A comparison has changed the tree: what was found is of no use.
@@ -112,10 +113,10 @@ HTREEITEM MultiTreeCtrl::Inserter::insertHalving(Node& node, bool& unused)
 
 // Many
 
-/// Puts the nodes into order first. Then one walk over the children finds all places: a node that sorts behind
-/// another one has its place at or behind that one's.
-void MultiTreeCtrl::Inserter::insert(const std::vector<Node*>& nodes, int position, std::vector<HTREEITEM>& items,
-                                     std::vector<bool>& unused)
+/// Puts the nodes into order first. Then one walk over the children finds all places: a node that sorts
+/// behind another one has its place at or behind that one's.
+void MultiTreeCtrl::Inserter::insert(const std::vector<Node*>& nodes, int position,
+                                     std::vector<HTREEITEM>& items, std::vector<bool>& unused)
 {
     std::vector<std::size_t> order;
     for (std::size_t i = 0; i < nodes.size(); ++i)

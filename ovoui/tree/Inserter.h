@@ -15,12 +15,13 @@ public:
     /// Whether the place takes nodes; asks the host.
     bool accepts();
 
-    /// Inserts where the node belongs: sorted, or behind `position` children, of which a negative or too large
-    /// number appends. If a child sorts the same, that is the result, and `unused` becomes true. It does too
-    /// when the place has gone.
+    /// Inserts where the node belongs: sorted, or behind `position` children, of which a negative or too
+    /// large number appends. If a child sorts the same, that is the result, and `unused` becomes true. It
+    /// does too when the place has gone.
     HTREEITEM insert(Node& node, int position, bool& unused);
 
-    /// Inserts nodes; null ones are left out. `items` gets what insert() gives for each, and `unused` likewise.
+    /// Inserts nodes; null ones are left out. `items` gets what insert() gives for each, and `unused`
+    /// likewise.
     void insert(const std::vector<Node*>& nodes, int position, std::vector<HTREEITEM>& items,
                 std::vector<bool>& unused);
 

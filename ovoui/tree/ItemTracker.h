@@ -7,8 +7,8 @@
 #include <unordered_set>
 #include <vector>
 
-/// Hears of every item of a tree that is deleted, while it lives. A handle alone is not enough to know an item
-/// by: the platform gives that of a deleted item to the next one.
+/// Hears of every item of a tree that is deleted, while it lives. A handle alone is not enough to know an
+/// item by: the platform gives that of a deleted item to the next one.
 class MultiTreeCtrl::ItemWatcher
 {
 public:
@@ -38,7 +38,7 @@ public:
     enum class WhenDeleted
     {
         Forget,
-        NextInTree,     ///< in the order of the tree, but not below it
+        NextInTree, ///< in the order of the tree, but not below it
         NextSibling,
         PreviousSibling ///< TVI_FIRST when there is none
     };

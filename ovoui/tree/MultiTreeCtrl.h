@@ -62,13 +62,13 @@ public:
 
     // Inserting
 
-    /// Inserts a node among the children of `where`: if these are kept sorted, before the first child that sorts
-    /// behind it, else behind `position` children; a negative or too large position appends.
+    /// Inserts a node among the children of `where`: if these are kept sorted, before the first child that
+    /// sorts behind it, else behind `position` children; a negative or too large position appends.
     ///
     /// Gives the new item. If `where` is not expanded, or goes while it is asked, null; if a child on the way
-    /// sorts the same, that child's item: in these cases the node is destroyed, unless it is held by a handle.
-    /// Null too when the tree view cannot insert the item, or for a null node: the node is left as it was, and
-    /// likewise when a node raises an exception.
+    /// sorts the same, that child's item: in these cases the node is destroyed, unless it is held by a
+    /// handle. Null too when the tree view cannot insert the item, or for a null node: the node is left as it
+    /// was, and likewise when a node raises an exception.
     HTREEITEM insert(Node* node, InsertionPoint& where, int position);
 
     /// How insert() finds the place among sorted children.
@@ -102,8 +102,8 @@ public:
     OVO::Handle<Node> node(HTREEITEM item) const;
 
     /// Brings an item up to date with its node: label, images, has-children value, the cut, drop-highlighted
-    /// and bold bits. Nothing for a node without an item. For the caret the parent gets TVN_SELCHANGED, since what it shows of the item may have
-    /// changed.
+    /// and bold bits. Nothing for a node without an item. For the caret the parent gets TVN_SELCHANGED, since
+    /// what it shows of the item may have changed.
     void updateUI(Node& node);
     void updateUI(HTREEITEM item);
 
@@ -287,6 +287,7 @@ private:
     void restoreState(Node& node, HTREEITEM item);
     void noticeClosing(HTREEITEM item);
     void deleteChildren(HTREEITEM item);
+    void keepFirstRow(HTREEITEM emptied);
     void layOutAnew(HTREEITEM rearranged);
 
     // Deleting

@@ -18,6 +18,10 @@ struct Platform
     /// of order, until the tree view lays them out anew. So Wine.
     bool losesRows;
 
+    /// Deleting the children of an item that is being closed crashes when the first row shown is among them.
+    /// So Wine.
+    bool losesFirstRow;
+
     /// TVM_SETINSERTMARK without an item leaves the mark where it is. So Wine.
     bool keepsInsertMark;
 };

@@ -13,7 +13,8 @@ namespace ovoui::tree
 {
 
 /// Every selected item is in the record, except the caret: the tree view selects and deselects that one
-/// itself. Items that were deselected may still be in it; the tree looks at each when it asks, and drops them.
+/// itself. Items that were deselected may still be in it; the tree looks at each when it asks, and drops
+/// them.
 class SelectionRecord
 {
 public:

@@ -91,7 +91,6 @@ BOOL MultiTreeCtrl::OnSelchanging(NMHDR* header, LRESULT*)
     return FALSE; // the parent decides
 }
 
-
 bool MultiTreeCtrl::mayDelete(HTREEITEM item) const
 {
     return m_state->holds.mayGo(item, [this](HTREEITEM a, HTREEITEM b) { return isBelow(a, b); });
@@ -174,7 +173,8 @@ void MultiTreeCtrl::deletePostponed(State& state)
     while (state.nativeCalls == 0 && state.holds.empty() && !state.postponed.empty() && state.usable()) {
         const State::Postponed postponed = state.postponed.back();
         state.postponed.pop_back();
-        const std::exception_ptr raised = keeping([&] { state.tree->deleteAfterwards(postponed.item, postponed.parentClosed); });
+        const std::exception_ptr raised =
+            keeping([&] { state.tree->deleteAfterwards(postponed.item, postponed.parentClosed); });
         foreign = foreign ? foreign : raised;
     }
     ovoui::tree::raise(foreign);

@@ -162,8 +162,8 @@ void MultiTreeCtrl::NativeCall::begin()
 /// What must not be deleted before the tree view has finished.
 void MultiTreeCtrl::NativeCall::hold()
 {
-    // Opens everything below the caret, from item to item.
-    if (m_message == WM_KEYDOWN && m_wParam == VK_MULTIPLY)
+    // The one knows the neighbours of the deleted item, the other opens everything below the caret.
+    if (m_change == Change::Delete || (m_message == WM_KEYDOWN && m_wParam == VK_MULTIPLY))
         m_state.holds.add(PlatformHolds::Kind::Everything);
     const HTREEITEM item = itemGoneOnWith(m_message, m_lParam);
     if (!item)
@@ -223,6 +223,8 @@ LRESULT MultiTreeCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (empties && postponesEmptying(asItem(lParam)))
         wParam &= ~static_cast<WPARAM>(TVE_COLLAPSERESET);
 
+    if (empties)
+        keepFirstRow(asItem(lParam));
     const Tracker rearranged(state, itemRearranged(message, lParam));
     const std::vector<OVO::Handle<Node>> unreported = nodesGoingUnreported(message, wParam, lParam);
     LRESULT result = 0;
@@ -245,6 +247,16 @@ LRESULT MultiTreeCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     afterwards([&] { deletePostponed(*state); });
     ovoui::tree::raise(foreign);
     return result;
+}
+
+/// See Platform::losesFirstRow.
+void MultiTreeCtrl::keepFirstRow(HTREEITEM emptied)
+{
+    if (!ovoui::tree::platform().losesFirstRow)
+        return;
+    const HTREEITEM first = next(TVGN_FIRSTVISIBLE);
+    if (first && isBelow(first, emptied))
+        ask(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(emptied));
 }
 
 /// See Platform::losesRows. The rows of displayed items are right at all times on other platforms.

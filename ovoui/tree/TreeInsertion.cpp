@@ -14,8 +14,8 @@ constexpr UINT kInsertedState = 0xFE;
 
 } // namespace
 
-/// Node::insert's part of the tree: the item, with nothing done to the node. What the node is asked may delete
-/// the places given.
+/// Node::insert's part of the tree: the item, with nothing done to the node. What the node is asked may
+/// delete the places given.
 HTREEITEM MultiTreeCtrl::insertItem(const Node& node, HTREEITEM parent, HTREEITEM after)
 {
     const HostCalls host(*this);
@@ -60,8 +60,8 @@ HTREEITEM MultiTreeCtrl::sendInsert(const TVINSERTSTRUCT& insert, const Node& no
     const HostCalls host(*this);
     HTREEITEM item = nullptr;
     const std::exception_ptr foreign = ovoui::tree::keeping([&] {
-        item = reinterpret_cast<HTREEITEM>(
-            DefWindowProc(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
+        item =
+            reinterpret_cast<HTREEITEM>(DefWindowProc(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert)));
     });
     if (foreign && host.usable()) {
         item = insert.hParent == TVI_ROOT ? next(TVGN_ROOT) : next(TVGN_CHILD, insert.hParent);

@@ -86,9 +86,9 @@ void MultiTreeCtrl::OnChar(UINT character, UINT repeat, UINT flags)
         leaveToTreeView([&] { CTreeCtrl::OnChar(character, repeat, flags); });
 }
 
-/// A key that the tree view handles, which knows of one selected item only. Where it moves the caret, the others
-/// are deselected, or with Shift the range from the anchor is selected, and the parent hears of it once. With
-/// Ctrl, or where no others are selected, its own way is right. The anchor stays.
+/// A key that the tree view handles, which knows of one selected item only. Where it moves the caret, the
+/// others are deselected, or with Shift the range from the anchor is selected, and the parent hears of it
+/// once. With Ctrl, or where no others are selected, its own way is right. The anchor stays.
 void MultiTreeCtrl::leaveToTreeView(const std::function<void()>& handle)
 {
     const HostCalls host(*this);

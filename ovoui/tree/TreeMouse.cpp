@@ -18,7 +18,8 @@ constexpr UINT_PTR kEditTimer = 2115;
 /// A press of a button, from the moment it is looked at to its release or drag.
 struct MultiTreeCtrl::Press
 {
-    Press(const MultiTreeCtrl& tree, UINT pressedKeys, CPoint where, UINT code, HTREEITEM under, unsigned flags)
+    Press(const MultiTreeCtrl& tree, UINT pressedKeys, CPoint where, UINT code, HTREEITEM under,
+          unsigned flags)
         : keys(pressedKeys)
         , point(where)
         , dragCode(code)
@@ -170,7 +171,8 @@ void MultiTreeCtrl::takeFocus()
         SetFocus();
         return;
     }
-    // There is no caret; the tree view makes an item the caret, and selects it, whenever it gets the focus so.
+    // There is no caret; the tree view makes an item the caret, and selects it, whenever it gets the focus
+    // so.
     const HostCalls host(*this);
     const RedrawHold hold(m_hWnd);
     keepSelection([&] {

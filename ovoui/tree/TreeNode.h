@@ -21,11 +21,11 @@ class CImageList;
 /// tree's user or the tree view caused the call, and to the caller when the host's code did. Other exceptions
 /// pass on.
 ///
-/// Every operation may change the tree: delete items, this node's own among them, insert, open, close, select,
-/// run messages. An item that the tree view is still working with loses its node at once and goes a little
-/// later. Every operation may destroy the tree or its window too, except those that the tree view itself waits
-/// for: expand, collapse, rename, renameText, canRename, beginLabelEdit and endLabelEdit, and text and the
-/// images while an item opens or closes.
+/// Every operation may change the tree: delete items, this node's own among them, insert, open, close,
+/// select, run messages. An item that the tree view is still working with loses its node at once and goes a
+/// little later. Every operation may destroy the tree or its window too, except those that the tree view
+/// itself waits for: expand, collapse, rename, renameText, canRename, beginLabelEdit and endLabelEdit, and
+/// text and the images while an item opens or closes.
 class OVOUI_API MultiTreeCtrl::Node : public MultiTreeCtrl::InsertionPoint, public OVO::Handlable
 {
 public:

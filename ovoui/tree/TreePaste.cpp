@@ -96,8 +96,7 @@ bool MultiTreeCtrl::canPaste(UINT id)
     ovoui::tree::quietly([&] {
         const HostCalls host(*this);
         COleDataObject data;
-        can = offersCommand(id) ||
-              (host.usable() && data.AttachClipboard() && findPastePlace(data).place);
+        can = offersCommand(id) || (host.usable() && data.AttachClipboard() && findPastePlace(data).place);
     });
     return can;
 }

@@ -15,11 +15,11 @@ constexpr UINT kNodesState = TVIS_CUT | TVIS_DROPHILITED | TVIS_BOLD;
 
 void MultiTreeCtrl::updateUI(Node& node)
 {
-    const OVO::Handle<Node> held(&node);
-    const HostCalls host(*this);
     const HTREEITEM item = node.hTreeItem();
     if (!item)
         return;
+    const OVO::Handle<Node> held(&node); // without an item it may have no reference to share
+    const HostCalls host(*this);
     std::wstring label = node.text(*this);
     TVITEM changes{};
     changes.mask = TVIF_HANDLE | TVIF_TEXT | TVIF_STATE | TVIF_CHILDREN | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
@@ -71,8 +71,9 @@ void MultiTreeCtrl::OnRedraw()
 bool MultiTreeCtrl::refreshItem(Node& node, HTREEITEM item)
 {
     const HostCalls host(*this);
+    const Tracker refreshed(m_state, item);
     const bool stays = node.refresh();
-    if (!host.usable() || node.hTreeItem() != item)
+    if (!host.usable() || !refreshed)
         return false;
     if (stays)
         updateUI(node);

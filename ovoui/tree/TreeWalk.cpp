@@ -109,8 +109,8 @@ std::vector<HTREEITEM> MultiTreeCtrl::selectedItems() const
     return items;
 }
 
-/// Puts siblings into their order. From one of them on in both directions, until all are met: how far they are
-/// from the first child does not matter.
+/// Puts siblings into their order. From one of them on in both directions, until all are met: how far they
+/// are from the first child does not matter.
 void MultiTreeCtrl::orderSiblings(std::vector<HTREEITEM>& items) const
 {
     if (items.size() < 2)
@@ -132,8 +132,8 @@ void MultiTreeCtrl::orderSiblings(std::vector<HTREEITEM>& items) const
     items.insert(items.end(), behind.begin(), behind.end());
 }
 
-/// Puts items into the order of the tree, by what stands beside and below what: the places of rows say nothing
-/// about items in closed ones.
+/// Puts items into the order of the tree, by what stands beside and below what: the places of rows say
+/// nothing about items in closed ones.
 void MultiTreeCtrl::orderByTree(std::vector<HTREEITEM>& items) const
 {
     const std::unordered_set<HTREEITEM> wanted(items.begin(), items.end());

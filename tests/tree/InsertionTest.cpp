@@ -183,9 +183,57 @@ TEST(TreeInsertion, ManyChildrenOutOfOrderAreStillWalkedFromTheFirst)
     EXPECT_EQ(scene.childrenOf(""), expected);
 }
 
-TEST(TreeInsertion, ManyInRandomOrderEndAsTheWalkWouldPutThem)
+TEST(TreeInsertion, AChildWhoseTextHasGrownIsStillComparedWith)
 {
     Scene scene;
+    TestPlace root;
+    for (const std::string& name : sortedNumbers(200))
+        scene.tree.insert(fresh(name), root, 0);
+    scene.node("1000").name = "9999"; // the tree is not told
+    scene.tree.insert(fresh("1500"), root, 0);
+    EXPECT_EQ(scene.tree.GetItemText(scene.tree.GetRootItem()), L"1500");
+}
+
+TEST(TreeInsertion, AnEqualChildIsFoundWhereverItStands)
+{
+    // In order but for one: the walk meets "5" before anything that sorts behind it.
+    Scene scene;
+    Names names{"0005"};
+    for (const std::string& name : sortedNumbers(200))
+        names.push_back(name);
+    std::swap(names[0], names[150]);
+    for (const std::string& name : names)
+        scene.add(name);
+    TestPlace root;
+    root.comparing = [](MultiTreeCtrl&, const MultiTreeCtrl::Node& a, const MultiTreeCtrl::Node& b) {
+        const std::string& name = static_cast<const TestNode&>(a).name;
+        return name == "0005" && static_cast<const TestNode&>(b).name == name ? 0 : -1;
+    };
+    EXPECT_EQ(scene.tree.insert(fresh("0005"), root, 0), scene.item("0005"));
+    EXPECT_EQ(scene.all(), names);
+}
+
+TEST(TreeInsertion, ChildrenAreComparedWithTheNodeOnly)
+{
+    Scene scene;
+    for (const std::string& name : sortedNumbers(100))
+        scene.add(name);
+    for (const auto way : {MultiTreeCtrl::SortedInsertion::Walk, MultiTreeCtrl::SortedInsertion::Halve}) {
+        scene.tree.setSortedInsertion(way);
+        TestNode* const node = fresh(way == MultiTreeCtrl::SortedInsertion::Walk ? "1500" : "1501");
+        TestPlace root;
+        root.comparing = [&](MultiTreeCtrl&, const MultiTreeCtrl::Node& a, const MultiTreeCtrl::Node& b) {
+            EXPECT_EQ(&b, node);
+            return static_cast<const TestNode&>(a).name.compare(node->name);
+        };
+        scene.tree.insert(node, root, 0);
+    }
+}
+
+TEST(TreeInsertion, AHostThatKeepsItsChildrenInOrderGetsFewComparisons)
+{
+    Scene scene;
+    scene.tree.setSortedInsertion(MultiTreeCtrl::SortedInsertion::Halve);
     TestPlace root;
     Names names = sortedNumbers(700);
     Names shuffled = names;

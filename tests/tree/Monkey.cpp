@@ -91,8 +91,8 @@ std::string Monkey::story() const
 
 void Monkey::tell(const std::string& what)
 {
-    m_story.push_back(std::to_string(m_step) + ": " + std::string(static_cast<std::size_t>(m_depth) * 2, ' ') +
-                      what);
+    m_story.push_back(std::to_string(m_step) + ": " +
+                      std::string(static_cast<std::size_t>(m_depth) * 2, ' ') + what);
     if (m_story.size() > kStoryLength)
         m_story.pop_front();
 }

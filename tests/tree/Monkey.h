@@ -83,6 +83,7 @@ private:
 
     // What the user and the host do, step by step
     void step();
+    void catching(const std::function<void()>& act);
     void hostStep();
     void userStep();
     void click();
@@ -145,9 +146,9 @@ private:
     int m_nextId = 1;
     int m_step = 0;
     int m_misdeeds = 0;
-    int m_chance = 0;  ///< one misdeed in so many calls; 0 for none
-    int m_left = 0;    ///< misdeeds still allowed in this step
-    int m_depth = 0;   ///< misdeeds within misdeeds
+    int m_chance = 0; ///< one misdeed in so many calls; 0 for none
+    int m_left = 0;   ///< misdeeds still allowed in this step
+    int m_depth = 0;  ///< misdeeds within misdeeds
     bool m_dirty = false;
     bool m_over = false;
     BYTE m_keys[256]{};

@@ -3,31 +3,51 @@
 
 #include <ovouires/resource.h>
 
+#include <algorithm>
+
+namespace
+{
+
+constexpr UINT_PTR kEditTimer = 2115;
+
+} // namespace
+
+/// What nodes raise comes out of some operations.
+void Monkey::catching(const std::function<void()>& act)
+{
+    try {
+        act();
+    } catch (const std::exception&) {
+        tell("an exception came out");
+    } catch (int) {
+        tell("a foreign exception came out");
+    }
+}
+
 void Monkey::step()
 {
     const bool clean = pick(2) != 0;
     m_dirty = false;
     m_chance = clean ? 0 : 2 + pick(12);
     m_left = 3;
-    try {
+    catching([this] {
         if (pick(2))
             hostStep();
         else
             userStep();
-    } catch (const std::exception&) {
-        tell("an exception came out");
-    } catch (int) {
-        tell("a foreign exception came out");
-    } catch (CException* exception) {
-        exception->Delete();
-    }
+    });
     m_chance = 0;
-    if (m_tree->GetEditControl() && pick(2))
-        m_tree->SendMessage(TVM_ENDEDITLABELNOW, pick(2) != 0);
-    MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-        ::DispatchMessageW(&message);
+    catching([this] {
+        if (m_tree->GetEditControl() && pick(2))
+            m_tree->SendMessage(TVM_ENDEDITLABELNOW, pick(2) != 0);
+    });
+    catching([] {
+        MSG message;
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+            ::DispatchMessageW(&message);
+    });
     m_parent->log().clear();
+    ::KillTimer(m_tree->m_hWnd, kEditTimer); // when it runs out is not the model's business
     // Where the caret goes when its item goes, or when the tree view gets the focus without one, is the tree
     // view's choice; the item there is selected then.
     if (const int caret = idOf(m_tree->GetSelectedItem());
@@ -155,12 +175,16 @@ void Monkey::click()
     }
     if (pick(12) == 0) {
         tell("clicks a part of its own of " + names({id}));
-        alive(id)->ownPart = true;
+        const OVO::Handle<MonkeyNode> node(alive(id));
+        struct Claim
+        {
+            ~Claim() { flag = false; }
+            bool& flag;
+        } const claim{node->ownPart};
+        node->ownPart = true;
         const LPARAM where = MAKELPARAM(label.CenterPoint().x, label.CenterPoint().y);
         m_tree->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, where);
         m_tree->SendMessage(WM_LBUTTONUP, 0, where);
-        if (alive(id))
-            alive(id)->ownPart = false;
         return;
     }
     const bool shift = pick(3) == 0;
@@ -295,7 +319,8 @@ void Monkey::key()
         sendKey(VK_RETURN, false, false);
         break;
     default: {
-        constexpr UINT kKeys[] = {VK_MULTIPLY, VK_LEFT, VK_RIGHT, VK_END, VK_NEXT, VK_PRIOR, VK_ADD, VK_SUBTRACT};
+        constexpr UINT kKeys[] = {VK_MULTIPLY, VK_LEFT,  VK_RIGHT, VK_END,
+                                  VK_NEXT,     VK_PRIOR, VK_ADD,   VK_SUBTRACT};
         const UINT code = kKeys[pick(8)];
         tell("key " + std::to_string(code));
         m_dirty = true; // where these go is the tree view's choice
@@ -334,7 +359,8 @@ void Monkey::openMenu()
     tell("opens a menu");
     CMenu menu;
     menu.CreatePopupMenu();
-    for (const UINT command : {kCommand, static_cast<UINT>(ID_TREE_DELETE), static_cast<UINT>(ID_TREE_RENAME)})
+    for (const UINT command :
+         {kCommand, static_cast<UINT>(ID_TREE_DELETE), static_cast<UINT>(ID_TREE_RENAME)})
         menu.AppendMenu(MF_STRING, command, L"command");
     m_tree->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
 }

@@ -23,7 +23,10 @@ public:
     bool isAtOrBelow(int id, int ancestor) const;
 
     /// All nodes, parents before their children.
-    std::vector<int> all() const { return walk([](int) { return true; }); }
+    std::vector<int> all() const
+    {
+        return walk([](int) { return true; });
+    }
     /// Those that one scrolls through; `isOpen` tells of a node whether its children are shown.
     std::vector<int> displayed(const std::function<bool(int)>& isOpen) const { return walk(isOpen); }
     std::vector<int> below(int id) const;

@@ -118,11 +118,12 @@ bool MonkeyNode::erase(MultiTreeCtrl&)
 
 bool MonkeyNode::refresh()
 {
-    callOut("refresh");
-    const bool stays = m_monkey.pick(12) != 0;
-    if (!stays)
+    if (m_monkey.pick(12) == 0) {
         m_monkey.forget(id);
-    return stays;
+        return false;
+    }
+    callOut("refresh");
+    return true;
 }
 
 void MonkeyNode::rename(MultiTreeCtrl&, const std::wstring& newText)

@@ -44,6 +44,24 @@ TEST(TreePathParse, IsLenientWithWhatAPersonTypes)
     EXPECT_EQ(parsePath(L"/a\\x"), (Steps{{L"ax"}}));
 }
 
+TEST(TreePathParse, ABackslashAtTheEndStandsForItself)
+{
+    EXPECT_EQ(parsePath(L"/a\\"), (Steps{{L"a\\"}}));
+    EXPECT_EQ(parsePath(L"/a\\/b"), (Steps{{L"a/b"}}));
+    EXPECT_EQ(formatPath({{L"a\\"}}), L"/a\\\\");
+    EXPECT_EQ(parsePath(L"/a\\\\"), (Steps{{L"a\\"}}));
+    EXPECT_EQ(parsePath(L"\\"), (Steps{{L"\\"}}));
+}
+
+TEST(TreePathParse, WhatIsNoNumberBehindItsSignIsText)
+{
+    EXPECT_EQ(parsePath(L"/a\\#x"), (Steps{{L"a#x"}}));
+    EXPECT_EQ(parsePath(L"/a\\#2x"), (Steps{{L"a#2x"}}));
+    EXPECT_EQ(parsePath(L"/a\\#"), (Steps{{L"a#"}}));
+    EXPECT_EQ(parsePath(L"/a\\#0"), (Steps{{L"a#0"}}));
+    EXPECT_EQ(parsePath(L"/a\\#99999999999"), (Steps{{L"a#99999999999"}}));
+}
+
 TEST(TreePath, AnyTextsRoundTrip)
 {
     std::mt19937 random(2026);
