@@ -53,6 +53,7 @@ void insertPositional(BenchTree& tree, const std::vector<std::wstring>& names)
 
 void insertSorted(BenchTree& tree, const std::vector<std::wstring>& names)
 {
+    tree.setSortedInsertion(MultiTreeCtrl::SortedInsertion::Halve);
     BenchPlace place(true);
     for (const std::wstring& name : names)
         tree.insert(new BenchNode(name), place, 0);

@@ -260,7 +260,7 @@ private:
 
     // Walking
     HTREEITEM nextItem(HTREEITEM item, bool intoChildren) const;
-    HTREEITEM nextShown(HTREEITEM item, bool intoChildren) const;
+    HTREEITEM nextOfAll(HTREEITEM item, bool intoChildren) const;
     HTREEITEM firstItem() const;
     HTREEITEM firstChild(HTREEITEM parent) const;
     HTREEITEM nextSibling(HTREEITEM item) const;
@@ -344,7 +344,7 @@ private:
 
     // Keyboard
     void moveTo(HTREEITEM target);
-    void leaveToTreeView(const std::function<void()>& handle);
+    void leaveToTreeView(bool shift, const std::function<void()>& handle);
     void toggleCaret();
     void runOwnCommand(unsigned id);
     void runDefaultAction();

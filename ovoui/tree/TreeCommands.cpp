@@ -46,6 +46,8 @@ BOOL MultiTreeCtrl::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO*
         return TRUE;
     }
     const bool handled = CTreeCtrl::OnCmdMsg(id, code, extra, nullptr);
+    if (ui && !host.usable())
+        ui->Enable(FALSE); // the tree is gone, and cannot do what was asked about
     if (handled || !host.usable())
         return TRUE;
     // A command that a selected node offers is the node's: the parent does not disable it.

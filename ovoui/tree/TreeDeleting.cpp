@@ -30,7 +30,7 @@ void MultiTreeCtrl::OnDeleteitem(NMHDR* header, LRESULT* result)
         const std::shared_ptr<State> state = m_state;
         const PlatformHold everything(state->holds, PlatformHolds::Kind::Everything);
         ask(TVM_ENDEDITLABELNOW, TRUE);
-        if (!state->usable())
+        if (!state->tree)
             return;
     }
     const std::size_t releasedBefore = m_state->released.size();

@@ -12,6 +12,13 @@ using ovoui::tree::ParentNotificationFilter;
 namespace
 {
 
+/// Keys of the tree view that go to another item.
+bool movesCaret(UINT key)
+{
+    return key == VK_END || key == VK_PRIOR || key == VK_NEXT || key == VK_LEFT || key == VK_RIGHT ||
+           key == VK_BACK;
+}
+
 bool isDown(int key)
 {
     return ::GetKeyState(key) < 0;
@@ -68,7 +75,10 @@ void MultiTreeCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
         break;
     }
     }
-    leaveToTreeView([&] { CTreeCtrl::OnKeyDown(key, repeat, flags); });
+    if (movesCaret(key))
+        leaveToTreeView(isDown(VK_SHIFT), [&] { CTreeCtrl::OnKeyDown(key, repeat, flags); });
+    else
+        CTreeCtrl::OnKeyDown(key, repeat, flags);
 }
 
 /// With Alt held keys come this way. The tree view would activate its item at Enter.
@@ -83,18 +93,17 @@ void MultiTreeCtrl::OnChar(UINT character, UINT repeat, UINT flags)
 {
     constexpr UINT kCtrlA = 1;
     if (character != L'\r' && character != L' ' && character != kCtrlA)
-        leaveToTreeView([&] { CTreeCtrl::OnChar(character, repeat, flags); });
+        leaveToTreeView(false, [&] { CTreeCtrl::OnChar(character, repeat, flags); });
 }
 
 /// A key that the tree view handles, which knows of one selected item only. Where it moves the caret, the
 /// others are deselected, or with Shift the range from the anchor is selected, and the parent hears of it
 /// once. With Ctrl, or where no others are selected, its own way is right. The anchor stays.
-void MultiTreeCtrl::leaveToTreeView(const std::function<void()>& handle)
+void MultiTreeCtrl::leaveToTreeView(bool shift, const std::function<void()>& handle)
 {
     const HostCalls host(*this);
     const std::shared_ptr<State> state = m_state;
     const Tracker oldCaret(state, caret());
-    const bool shift = isDown(VK_SHIFT);
     const std::vector<HTREEITEM> selected = selectedItems();
     const bool alone = selected.empty() || (selected.size() == 1 && selected.front() == oldCaret.item());
     if (isDown(VK_CONTROL) || (alone && !shift)) {

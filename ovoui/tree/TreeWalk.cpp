@@ -8,13 +8,13 @@
 /// The item behind another one in the order of the tree. Those that wait for their deletion are left out.
 HTREEITEM MultiTreeCtrl::nextItem(HTREEITEM item, bool intoChildren) const
 {
-    HTREEITEM following = nextShown(item, intoChildren);
+    HTREEITEM following = nextOfAll(item, intoChildren);
     while (following && isDoomed(following))
-        following = nextShown(following, false);
+        following = nextOfAll(following, false);
     return following;
 }
 
-HTREEITEM MultiTreeCtrl::nextShown(HTREEITEM item, bool intoChildren) const
+HTREEITEM MultiTreeCtrl::nextOfAll(HTREEITEM item, bool intoChildren) const
 {
     if (!item)
         return nullptr;

@@ -174,6 +174,8 @@ bool TestNode::dropInto(COleDataObject& data, DWORD effect, MultiTreeCtrl& tree,
 
 void TestNode::getCommands(CommandSupported*& first, CommandSupported*& last) const
 {
+    if (askingCommands)
+        askingCommands();
     if (commands.empty()) {
         Node::getCommands(first, last);
         return;

@@ -62,7 +62,8 @@ public:
     std::function<void(MultiTreeCtrl&)> editEnds;
     std::function<void(MultiTreeCtrl&, unsigned)> commanding;
     std::function<void(CCmdUI*, bool)> updating;
-    std::function<bool()> askingErase; ///< canErase
+    std::function<bool()> askingErase;    ///< canErase
+    std::function<void()> askingCommands; ///< getCommands
     std::function<std::wstring()> tipping;
 
     std::wstring text(const MultiTreeCtrl&) const override;
