@@ -14,6 +14,7 @@
 #include <ovoui/lists/ComboBox.h>
 #include <ovoui/lists/ComboBoxDeletion.h>
 #include <ovoui/lists/ComboFunctions.h>
+#include <ovoui/lists/ListCellTips.h>
 #include <ovoui/lists/ListCopier.h>
 #include <ovoui/lists/ListCtrlEx.h>
 #include <ovoui/lists/ListLayout.h>

@@ -53,6 +53,8 @@ BOOL ComboPage::OnInitDialog()
     m_plant.SetCurSel(0);
     CheckDlgButton(IDC_COMBO_COMPLETE, BST_CHECKED);
     OnFlags();
+    stretch(IDC_COMBO_RESULT, {.growX = 100});
+    stretch(IDC_COMBO_OTHER, {.growX = 50});
     return FALSE;
 }
 

@@ -130,13 +130,15 @@ void ListsPage::createProcesses()
     replace(IDC_LISTS_PROCESSES, m_processes);
 }
 
-/// Clicks on headings sort, headings can be moved, and Ctrl+C copies.
+/// Clicks on headings sort, headings can be moved, Ctrl+C copies, and cut texts have tips.
 void ListsPage::addHelpers()
 {
     m_colourSorter.Attach(m_colours);
     m_colourSorter.SetKind(2, COVOListSorter::Kind::Number);
     m_processSorter.Attach(m_processes);
     m_processSorter.SetKind(1, COVOListSorter::Kind::Number);
+    m_colourTips.Attach(m_colours);
+    m_processTips.Attach(m_processes);
     m_colourCopier.Attach(m_colours, true);
     m_processCopier.Attach(m_processes, true);
     for (COVOListCtrlEx* const list : {&m_colours, &m_processes}) {

@@ -4,6 +4,7 @@
 #include "GalleryPage.h"
 #include "model/MillionList.h"
 
+#include <ovoui/lists/ListCellTips.h>
 #include <ovoui/lists/ListCopier.h>
 #include <ovoui/lists/ListCtrlEx.h>
 #include <ovoui/lists/ListSorter.h>
@@ -35,6 +36,8 @@ private:
     MillionList m_million;
     COVOListSorter m_colourSorter;
     COVOListSorter m_processSorter;
+    COVOListCellTips m_colourTips;
+    COVOListCellTips m_processTips;
     COVOListCopier m_colourCopier;
     COVOListCopier m_processCopier;
 };

@@ -172,16 +172,17 @@ bool COVOListCtrlEx::inReportView() const
     return (GetStyle() & LVS_TYPEMASK) == LVS_REPORT;
 }
 
-/// What is right of the last column belongs to the rows: it is painted with whatever needs painting.
+/// What is right of the last column belongs to the rows: it is painted with whatever needs painting. The
+/// header does not: it is left out, since it takes longer to paint than all the rows.
 void COVOListCtrlEx::OnPaint()
 {
     CRect bounds;
-    if (inReportView() && GetItemRect(0, &bounds, LVIR_BOUNDS) && bounds.right < m_clientWidth) {
-        CRect clip;
-        CPaintDC(this).GetClipBox(&clip);
-        clip.left = std::min(clip.left, bounds.right - 1);
-        clip.right = m_clientWidth;
-        InvalidateRect(&clip, FALSE);
+    CRect update;
+    if (inReportView() && GetItemRect(0, &bounds, LVIR_BOUNDS) && bounds.right < m_clientWidth &&
+        GetUpdateRect(&update)) {
+        update.left = std::min(update.left, bounds.right - 1);
+        update.right = m_clientWidth;
+        RedrawWindow(&update, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
     }
     CWnd::OnPaint();
 }

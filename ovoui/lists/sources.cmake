@@ -21,6 +21,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ColourEntry.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboFunctions.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListCellTips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCopier.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCtrlEx.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListLayout.cpp

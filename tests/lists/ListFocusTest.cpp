@@ -27,11 +27,20 @@ BOOL WINAPI noteInvalidated(HWND window, const RECT* rect, BOOL erase)
     return ::InvalidateRect(window, rect, erase);
 }
 
+/// Also where the header is left out.
+BOOL WINAPI noteRedrawn(HWND window, const RECT* rect, HRGN region, UINT flags)
+{
+    if (flags & RDW_INVALIDATE)
+        g_invalidated.push_back({window, rect ? CRect(*rect) : CRect(), (flags & RDW_ERASE) != 0});
+    return ::RedrawWindow(window, rect, region, flags);
+}
+
 class ListFocus : public ::testing::TestWithParam<DWORD>
 {
 protected:
     ListFocus()
         : patch(L"ovoui.dll", "InvalidateRect", reinterpret_cast<void*>(&noteInvalidated))
+        , redraws(L"ovomfc.dll", "RedrawWindow", reinterpret_cast<void*>(&noteRedrawn))
     {
         g_invalidated.clear();
     }
@@ -54,6 +63,7 @@ protected:
     }
 
     ImportPatch patch;
+    ImportPatch redraws;
 };
 
 } // namespace
@@ -187,6 +197,17 @@ TEST_F(ListFocus, PaintingReachesFromTheLastColumnToTheEdge)
     const auto widened = ofList(scene);
     ASSERT_EQ(widened.size(), 1u);
     EXPECT_EQ(widened[0].rect, CRect(179, row.top, client.right, row.bottom));
+}
+
+TEST_F(ListFocus, TheHeaderIsNotPaintedWithTheRows)
+{
+    ListScene scene;
+    scene.fill({100, 80}, 3);
+    scene.show();
+    ::RedrawWindow(scene.list, nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
+    scene.list.SendMessage(WM_PAINT);
+    EXPECT_FALSE(::GetUpdateRect(*scene.list.GetHeaderCtrl(), nullptr, FALSE));
+    EXPECT_FALSE(::GetUpdateRect(scene.list, nullptr, FALSE));
 }
 
 TEST_F(ListFocus, ColumnsThatReachTheEdgeNeedNoMore)

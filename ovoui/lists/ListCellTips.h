@@ -1,0 +1,50 @@
+/// Shows the whole text of a cell that has no room for it.
+///
+///     COVOListCellTips tips;      // a member beside the list
+///     tips.Attach(m_list);
+#pragma once
+
+#include <ovoui/export.h>
+#include <ovoui/lists/ListCtrlEx.h>
+
+#include <string>
+
+/// While the pointer rests on a cell whose text is cut, a tip with the whole text lies over the cell, in its
+/// font. It goes when the pointer leaves the cell, and with a key, a click or scrolling.
+class OVOUI_API COVOListCellTips
+{
+public:
+    COVOListCellTips();
+    ~COVOListCellTips();
+    COVOListCellTips(const COVOListCellTips&) = delete;
+    COVOListCellTips& operator=(const COVOListCellTips&) = delete;
+
+    /// The list must have its window. It may be destroyed before this object. Replaces the list of before.
+    void Attach(COVOListCtrlEx& list);
+    void Detach();
+
+    /// The tip's window: null before the first tip. Hidden while no tip is shown.
+    HWND Window() const { return m_tip; }
+
+private:
+    struct Cell
+    {
+        int item = -1;
+        int column = -1;
+        friend bool operator==(const Cell&, const Cell&) = default;
+    };
+
+    static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                          UINT_PTR id, DWORD_PTR tips);
+    void pointerAt(CPoint point);
+    void show(const Cell& cell);
+    void hide();
+    bool createTip();
+    std::wstring cutText(const Cell& cell, CRect& textPlace) const;
+
+    COVOListCtrlEx* m_list = nullptr;
+    HWND m_window = nullptr;
+    HWND m_tip = nullptr;
+    Cell m_cell; ///< under the pointer; a tip that went by a key or a click comes back in another cell only
+    std::wstring m_text;
+};

@@ -1,0 +1,104 @@
+// Tips for cells whose text was cut.
+#include "ListScene.h"
+
+#include <ovoui/lists/ListCellTips.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+class ListTips : public ::testing::Test
+{
+protected:
+    ListTips()
+    {
+        scene.addColumn(L"a", 60);
+        scene.addColumn(L"b", 60);
+        scene.list.AddItem(0, 0, L"a label with no room", 0, -1);
+        scene.list.AddItem(0, 1, L"a cell with no room", 0, -1);
+        scene.list.AddItem(1, 0, L"fits", 0, -1);
+        scene.list.AddItem(1, 1, L"fits", 0, -1);
+        scene.show();
+        tips.Attach(scene.list);
+    }
+
+    bool shows() const { return tips.Window() && ::IsWindowVisible(tips.Window()); }
+
+    std::wstring shownText() const
+    {
+        wchar_t text[100] = {};
+        TOOLINFOW tool{};
+        tool.cbSize = TTTOOLINFOW_V2_SIZE;
+        tool.hwnd = scene.list;
+        tool.uId = 1;
+        tool.lpszText = text;
+        ::SendMessageW(tips.Window(), TTM_GETTEXTW, 100, reinterpret_cast<LPARAM>(&tool));
+        return text;
+    }
+
+    Spot over(int row, int column) { return Spot{scene.list, scene.cell(row, column).CenterPoint()}; }
+
+    void rest(int row, int column, bool shown)
+    {
+        Robot().moveTo(over(row, column)).waitFor(shown ? "a tip" : "no tip", [&] {
+            return shows() == shown;
+        });
+    }
+
+    ListScene scene;
+    COVOListCellTips tips;
+};
+
+} // namespace
+
+TEST_F(ListTips, CutTextsOfEveryColumnAreShownWhole)
+{
+    rest(0, 0, true);
+    EXPECT_EQ(shownText(), L"a label with no room");
+    rest(0, 1, true);
+    EXPECT_EQ(shownText(), L"a cell with no room");
+    rest(1, 1, false);
+    rest(1, 0, false);
+}
+
+TEST_F(ListTips, TheTipLiesOverItsCell)
+{
+    rest(0, 1, true);
+    CRect tip;
+    ::GetWindowRect(tips.Window(), &tip);
+    CRect cell = scene.cell(0, 1);
+    scene.list.ClientToScreen(&cell);
+    EXPECT_LE(tip.left, cell.left + 6);
+    EXPECT_GE(tip.left, cell.left - 6);
+    EXPECT_GT(tip.right, cell.right);
+    EXPECT_LT(tip.top, cell.CenterPoint().y);
+    EXPECT_GT(tip.bottom, cell.CenterPoint().y);
+}
+
+TEST_F(ListTips, AKeyOrAClickTakesItAway)
+{
+    scene.list.SetFocus();
+    rest(0, 0, true);
+    Robot().key(VK_DOWN).waitFor("no tip", [&] { return !shows(); });
+    rest(1, 0, false);
+    rest(0, 0, true);
+    Robot().click(over(0, 0)).waitFor("no tip", [&] { return !shows(); });
+}
+
+TEST_F(ListTips, ThePointerThatLeavesTakesItAway)
+{
+    rest(0, 1, true);
+    Robot().moveTo(Spot{scene.button}).waitFor("no tip", [&] { return !shows(); });
+}
+
+TEST_F(ListTips, TheListMayBeDestroyedFirst)
+{
+    rest(0, 0, true);
+    const HWND tip = tips.Window();
+    scene.list.DestroyWindow();
+    EXPECT_FALSE(::IsWindow(tip));
+    EXPECT_FALSE(tips.Window());
+}
