@@ -4,7 +4,6 @@
 #define IDR_MAIN_FRAME 101
 
 #define IDB_PROJECT_16 111
-#define IDR_SHAPES 131 // a bitmap and a toolbar
 #define IDB_PROJECT_24 112
 #define IDB_PROJECT_32 113
 #define IDB_PAGES_16 114
@@ -13,15 +12,16 @@
 #define IDB_ADD_20 121 // six images each: add, remove, up, down, edit, refresh
 #define IDB_ADD_24 131
 #define IDB_ADD_32 141
+#define IDR_SHAPES 151 // a bitmap and a toolbar
 
 #define IDD_PAGE_GEOMETRY 201
 #define IDD_PAGE_MESSAGE_BOX 202
 #define IDD_PAGE_THEMES 203
 #define IDD_PAGE_IMAGES 204
 #define IDD_PAGE_TREE 205
+#define IDD_PAGE_TOOLBARS 210
 #define IDD_PAGE_LISTS 211
 #define IDD_PAGE_COMBO 212
-#define IDD_PAGE_TOOLBARS 210
 #define IDD_PAGE_SLIDERS 214
 #define IDD_PAGE_SHADED_TABS 221
 #define IDD_TAB_CONTENT 222

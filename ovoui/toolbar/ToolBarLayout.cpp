@@ -82,7 +82,7 @@ CSize CVantorToolBar::calcLayout(DWORD mode, int length)
     if (!(m_dwStyle & CBRS_SIZE_FIXED)) {
         const bool dynamic = (m_dwStyle & CBRS_SIZE_DYNAMIC) != 0;
         if (dynamic && (mode & LM_MRUWIDTH))
-            sizeToolBar(buttons.data(), count, m_state->floatWidth);
+            sizeToolBar(buttons.data(), count, m_nMRUWidth);
         else if (dynamic && length != -1 && (mode & LM_LENGTHY))
             sizeToolBar(buttons.data(), count, length - around.cy, true);
         else if (dynamic && length != -1)
@@ -92,7 +92,7 @@ CSize CVantorToolBar::calcLayout(DWORD mode, int length)
     }
     CSize size = calcSize(buttons.data(), count);
     if (mode & LM_COMMIT)
-        m_state->floatWidth = size.cx;
+        m_nMRUWidth = size.cx;
     if (length == -1 || (mode & LM_COMMIT))
         takeLayout(buttons, horizontal);
     size += around;

@@ -166,5 +166,6 @@ void CVantorToolBar::OnMeasureItem(int id, LPMEASUREITEMSTRUCT item)
 void CVantorToolBar::OnSettingChange(UINT flags, LPCTSTR section)
 {
     CToolBar::OnSettingChange(flags, section);
+    onResolutionChanged(0);
     Invalidate();
 }

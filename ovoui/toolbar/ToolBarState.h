@@ -1,6 +1,7 @@
 /// Not exported: what a toolbar keeps. It outlives the bar while a call into the host's code is under way.
 #pragma once
 
+#include <ovoui/images/AlphaImageList.h>
 #include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/toolbar/core/FlyoutRecords.h>
 
@@ -32,6 +33,11 @@ struct CVantorToolBar::State
     ControlCallback callback = nullptr;
     bool marksFlyouts = false;
     UINT holdDelay = kHoldDelay;   ///< in milliseconds, or kMenuDelay
-    int floatWidth = 0x7FFF;       ///< of the rows when the bar last floated
     std::set<int> controlsPutAway; ///< hidden because the bar is vertical
+
+    // Images by resolution (ToolBarStrips.cpp)
+    std::vector<Strip> strips;
+    int imageSize = 0;                       ///< at 96 dots per inch
+    int shownSize = 0;                       ///< of the images loaded; 0: none
+    std::unique_ptr<CAlphaImageList> images; ///< what the control shows
 };

@@ -35,7 +35,8 @@ namespace
 {
 
 constexpr UINT_PTR kIdleTimer = 42;
-constexpr UINT kIdleDelay = 250; // milliseconds
+constexpr UINT kIdleDelay = 250;                // milliseconds
+constexpr UINT kDpiChangedAfterParent = 0x02E3; // what child windows get on Windows 10
 
 } // namespace
 
@@ -119,9 +120,14 @@ LRESULT CVantorToolBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         return OnIdleUpdateCmdUI(wParam, lParam);
     case WM_COMMAND:
         return onControlCommand(wParam, lParam);
-    default:
-        return CToolBar::WindowProc(message, wParam, lParam);
+    case WM_DPICHANGED:
+        onResolutionChanged(LOWORD(wParam));
+        break;
+    case kDpiChangedAfterParent:
+        onResolutionChanged(0);
+        break;
     }
+    return CToolBar::WindowProc(message, wParam, lParam);
 }
 
 LRESULT CVantorToolBar::onControlCommand(WPARAM wParam, LPARAM lParam)

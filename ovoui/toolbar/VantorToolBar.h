@@ -84,6 +84,18 @@ public:
     /// How long a button is held until its flyout appears, in milliseconds or kMenuDelay; 200 at first.
     void SetHoldDelay(UINT milliseconds);
 
+    /// A bitmap resource with images of `size` by `size` pixels side by side.
+    struct Strip
+    {
+        UINT bitmapId;
+        int size;
+    };
+    /// The images of the bar, which must have its window, come from one of these strips, which must have the
+    /// same images in the same order. They are `imageSize` pixels large at 96 dots per inch, and as much
+    /// larger as the monitor's resolution is higher. The host has started GDI+; without it, or without such a
+    /// resource, the images stay what they were.
+    void UseStrips(const std::vector<Strip>& strips, int imageSize);
+
     /// Writes into a section of the application's profile which command each button with a flyout shows.
     void SaveChoices(LPCTSTR section) const;
     /// Gives the buttons the commands and images of before. What is not in a flyout any more is skipped.
@@ -179,6 +191,8 @@ private:
     void restoreChoice(int index, int command);
     void drawFlyoutMarks();
     UINT holdDelay() const;
+    void loadStrip(int dotsPerInch);
+    void onResolutionChanged(int resolution);
     bool isHorizontal() const;
     LRESULT onControlCommand(WPARAM wParam, LPARAM lParam);
     void postEndOfInput(HWND target);

@@ -5,7 +5,8 @@ set(toolbar_core
   ${CMAKE_CURRENT_LIST_DIR}/core/ControlKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutGesture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutPlacement.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutRecords.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutRecords.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/StripChoice.cpp)
 
 if(NOT WIN32)
   add_library(ovoui_toolbar_core STATIC ${toolbar_core})
@@ -28,5 +29,6 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarPaint.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarStrips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/VantorToolBar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/VantorToolWnd.cpp)

@@ -1,9 +1,12 @@
 // What hosts may ask for besides: marks, the hold delay, remembered choices.
 #include "ToolBarScene.h"
 
+#include "support/GdiPlusSession.h"
 #include "support/ImportPatch.h"
 #include "support/Picture.h"
 #include "support/TemporaryProfile.h"
+
+#include <ovouires/resource.h>
 
 #include <gtest/gtest.h>
 
@@ -145,4 +148,81 @@ TEST(FlyoutChoices, ThatAreGoneOrWereNeverSavedAreSkipped)
     scene.bar().LoadChoices(kSection);
     EXPECT_EQ(scene.command(BarScene::Lines), ID_LINE);
     EXPECT_EQ(scene.command(BarScene::Plain), ID_PLAIN);
+}
+
+// Strips by resolution
+
+namespace
+{
+
+const std::vector<CVantorToolBar::Strip> kStrips{
+    {IDB_TOOLBAR_16, 16}, {IDB_TOOLBAR_24, 24}, {IDB_TOOLBAR_32, 32}};
+
+HIMAGELIST listOf(const CToolBar& bar)
+{
+    return reinterpret_cast<HIMAGELIST>(::SendMessageW(bar.m_hWnd, TB_GETIMAGELIST, 0, 0));
+}
+
+CSize imageSize(const CToolBar& bar)
+{
+    int width = 0;
+    int height = 0;
+    ::ImageList_GetIconSize(listOf(bar), &width, &height);
+    return CSize(width, height);
+}
+
+} // namespace
+
+TEST(BarStrips, ImagesAndButtonsGrowWithTheResolution)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    scene.bar().UseStrips(kStrips, 16);
+    scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(96, 96));
+    EXPECT_EQ(imageSize(scene.bar()), CSize(16, 16));
+    EXPECT_EQ(::ImageList_GetImageCount(listOf(scene.bar())), 12);
+    const CSize before = itemRect(scene.bar(), 0).Size();
+    scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(144, 144));
+    EXPECT_EQ(imageSize(scene.bar()), CSize(24, 24));
+    EXPECT_GT(itemRect(scene.bar(), 0).Width(), before.cx);
+    scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(240, 240));
+    EXPECT_EQ(imageSize(scene.bar()), CSize(40, 40)) << "larger than any strip";
+    const HIMAGELIST list = listOf(scene.bar());
+    scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(240, 240));
+    EXPECT_EQ(listOf(scene.bar()), list) << "nothing new, nothing loaded";
+}
+
+TEST(BarStrips, FlyoutsThatShowTheBarsImagesChangeToo)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    scene.bar().UseStrips(kStrips, 16);
+    scene.bar().AttachBar(BarScene::Lines, 16, {ID_LINE, ID_ARC}, {}, {0, 1}, {}, false, false);
+    scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(144, 144));
+    scene.bar().CreatePopup(BarScene::Lines, CRect(300, 300, 320, 320), 0);
+    ASSERT_NE(BarScene::flyout(), nullptr);
+    EXPECT_EQ(listOf(*BarScene::flyout()), listOf(scene.bar()));
+    TestBar::ms_popupBar.reset();
+}
+
+TEST(BarStrips, AChangeOfSettingsAsksTheMonitorAgain)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    scene.bar().UseStrips(kStrips, 16);
+    const CSize size = imageSize(scene.bar());
+    scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(240, 240));
+    scene.bar().SendMessage(WM_SETTINGCHANGE);
+    EXPECT_EQ(imageSize(scene.bar()), size);
+}
+
+TEST(BarStrips, WithoutAStripTheImagesStay)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    const HIMAGELIST before = listOf(scene.bar());
+    scene.bar().UseStrips({}, 16);
+    scene.bar().UseStrips({{4711, 16}}, 16);
+    scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(144, 144));
+    EXPECT_EQ(listOf(scene.bar()), before);
 }
