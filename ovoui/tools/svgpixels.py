@@ -1,7 +1,10 @@
 """Pixels of drawings: SVG, drawn by rsvg-convert."""
+import signal
 import struct
 import subprocess
 import zlib
+
+signal.signal(signal.SIGINT, signal.SIG_DFL)  # an interrupted build shows no traceback
 
 
 def pixels_of(svg, size):
