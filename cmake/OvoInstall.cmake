@@ -1,4 +1,5 @@
-# The install tree: bin/ the DLLs, lib/ their import libraries and the package, include/ the public headers.
+# The install tree: bin/ the DLLs, lib/ their import libraries and the packages for CMake and pkg-config, include/ the
+# public headers, share/doc/ovoui the licences.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -41,3 +42,18 @@ write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/ovouiConfigVersion.
   COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ovouiConfig.cmake ${CMAKE_CURRENT_BINARY_DIR}/ovouiConfigVersion.cmake
         DESTINATION lib/cmake/ovoui)
+
+foreach(package ovoui ovoui-windowed)
+  configure_file(${CMAKE_CURRENT_LIST_DIR}/${package}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc DESTINATION lib/pkgconfig)
+endforeach()
+
+# The runtime's licences demand that their texts travel with the DLLs; Debian keeps them beside the compiler.
+set(documents share/doc/ovoui)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${documents})
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/runtime-notices.txt DESTINATION ${documents}/runtime RENAME NOTICES.txt)
+install(FILES /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright
+        DESTINATION ${documents}/runtime RENAME gcc-copyright.txt)
+install(FILES /usr/share/doc/mingw-w64-x86-64-dev/copyright
+        DESTINATION ${documents}/runtime RENAME mingw-w64-copyright.txt)
+install(FILES /usr/share/common-licenses/GPL-3 DESTINATION ${documents}/runtime RENAME GPL-3.txt)

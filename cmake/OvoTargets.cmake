@@ -33,6 +33,7 @@ function(ovo_library name)
   add_library(${name} SHARED ${arg_SOURCES})
   set_target_properties(${name} PROPERTIES OUTPUT_NAME ${arg_OUTPUT} PREFIX "")
   target_link_libraries(${name} PRIVATE ovo_flags)
+  target_compile_features(${name} PUBLIC cxx_std_20) # its headers need it, so hosts do
   if(arg_EXPORT)
     target_compile_definitions(${name} PRIVATE ${arg_EXPORT})
   endif()

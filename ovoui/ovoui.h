@@ -29,3 +29,4 @@
 #include <ovoui/tree/DropMenu.h>
 #include <ovoui/tree/MultiTreeCtrl.h>
 #include <ovoui/tree/PlainText.h>
+#include <ovoui/version.h>

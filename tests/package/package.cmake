@@ -1,5 +1,7 @@
-# Installs into a fresh folder, builds a small host against the installed package alone, and runs it.
+# Installs into a fresh folder, builds a small host against the installed package alone, with CMake and with what
+# pkg-config reads, and runs it.
 set(work ${BUILD}/package-test)
+set(prefix ${work}/prefix)
 file(REMOVE_RECURSE ${work})
 file(COPY ${HOST}/ DESTINATION ${work}/source)
 
@@ -10,13 +12,66 @@ function(run)
   endif()
 endfunction()
 
-run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${work}/prefix)
+function(require_text file words)
+  file(READ ${prefix}/${file} text)
+  string(FIND "${text}" "${words}" at)
+  if(at EQUAL -1)
+    message(FATAL_ERROR "${file} does not hold: ${words}")
+  endif()
+endfunction()
+
+# pkg_config(OUT PACKAGE FIELD): the words of a field, as pkg-config would give them.
+function(pkg_config out package field)
+  set(file ${prefix}/lib/pkgconfig/${package}.pc)
+  file(STRINGS ${file} lines)
+  set(pcfiledir ${prefix}/lib/pkgconfig)
+  foreach(line IN LISTS lines)
+    if(line MATCHES "^([a-z]+)=(.*)$")
+      set(name ${CMAKE_MATCH_1})
+      string(CONFIGURE "${CMAKE_MATCH_2}" ${name})
+    elseif(line MATCHES "^${field}: (.*)$")
+      string(CONFIGURE "${CMAKE_MATCH_1}" words)
+      separate_arguments(words UNIX_COMMAND "${words}")
+      set(${out} ${words} PARENT_SCOPE)
+      return()
+    endif()
+  endforeach()
+  message(FATAL_ERROR "${package}.pc has no ${field}")
+endfunction()
+
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix})
+require_text(share/doc/ovoui/LICENSE "MIT License")
+foreach(dll libstdc++-6 libgcc_s_seh-1 libwinpthread-1)
+  require_text(share/doc/ovoui/runtime/NOTICES.txt ${dll}.dll)
+endforeach()
+require_text(share/doc/ovoui/runtime/gcc-copyright.txt "GCC RUNTIME LIBRARY EXCEPTION")
+require_text(share/doc/ovoui/runtime/GPL-3.txt "GNU GENERAL PUBLIC LICENSE")
+require_text(share/doc/ovoui/runtime/mingw-w64-copyright.txt "mingw-w64-libraries/winpthreads")
+
+# With the compiler's own default for the language, which is older than what the headers need.
 run(${CMAKE_COMMAND} -S ${work}/source -B ${work}/build -G Ninja
-    -D CMAKE_TOOLCHAIN_FILE=${TOOLCHAIN} -D CMAKE_PREFIX_PATH=${work}/prefix -D CMAKE_BUILD_TYPE=Release)
+    -D CMAKE_TOOLCHAIN_FILE=${TOOLCHAIN} -D CMAKE_PREFIX_PATH=${prefix} -D CMAKE_BUILD_TYPE=Release)
 run(${CMAKE_COMMAND} --build ${work}/build)
-file(GLOB libraries ${work}/prefix/bin/*.dll)
-file(COPY ${libraries} DESTINATION ${work}/build)
+
+# By hand, as a makefile would.
+file(MAKE_DIRECTORY ${work}/by-hand)
+pkg_config(version ovoui Version)
 foreach(program host windowed)
-  run(${WINE} --home ${BUILD}/wine --apart ${work}/build/${program}.exe)
+  set(package ovoui)
+  if(program STREQUAL windowed)
+    set(package ovoui-windowed)
+  endif()
+  pkg_config(flags ${package} Cflags)
+  pkg_config(libs ${package} Libs)
+  run(${CXX} -O1 "-DPACKAGE_VERSION=\"${version}\"" ${flags} ${HOST}/${program}.cpp ${libs}
+      -o ${work}/by-hand/${program}.exe)
+endforeach()
+
+file(GLOB libraries ${prefix}/bin/*.dll)
+foreach(way build by-hand)
+  file(COPY ${libraries} DESTINATION ${work}/${way})
+  foreach(program host windowed)
+    run(${WINE} --home ${BUILD}/wine --apart ${work}/${way}/${program}.exe)
+  endforeach()
 endforeach()
 message(STATUS "the installed package builds and runs a host")
