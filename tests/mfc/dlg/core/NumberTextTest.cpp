@@ -53,6 +53,18 @@ TEST(NumberText, KnowsWhatDoesNotFit)
     EXPECT_EQ(faultOf<double>(L"-1e999"), NumberFault::OutOfRange);
 }
 
+// Neither the sign of the exponent nor the place of the point tells by itself.
+TEST(NumberText, ManyDigitsAndAnExponentGoTogether)
+{
+    const std::wstring zeros(500, L'0');
+    EXPECT_EQ(readNumber<double>(L"1" + zeros + L"e-1").fault, NumberFault::OutOfRange);
+    EXPECT_EQ(readNumber<float>(L"1" + std::wstring(60, L'0') + L"e-9").fault, NumberFault::OutOfRange);
+    EXPECT_EQ(readNumber<double>(L"0." + zeros + L"1e+9").fault, NumberFault::None);
+    EXPECT_EQ(readNumber<double>(L"0." + zeros + L"1e+9").value, 0.0);
+    EXPECT_EQ(readNumber<double>(L"1e99999999999999999999").fault, NumberFault::OutOfRange);
+    EXPECT_EQ(readNumber<double>(L"-1e-99999999999999999999").fault, NumberFault::None);
+}
+
 TEST(NumberText, ReadsWhatIsTooSmallAsZero)
 {
     for (const std::wstring& text :
