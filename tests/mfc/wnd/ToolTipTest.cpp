@@ -57,6 +57,8 @@ public:
     CButton button;
     CStatic label;
     CButton disabled;
+    std::vector<UINT_PTR> asked; ///< the tools for which a text was wanted
+    bool rested = false;         ///< the timer has run out
 
 protected:
     BOOL OnNeedText(UINT, NMHDR* header, LRESULT*)
@@ -65,13 +67,20 @@ protected:
         const UINT_PTR number = (tip->uFlags & TTF_IDISHWND)
                                     ? static_cast<UINT_PTR>(::GetDlgCtrlID(reinterpret_cast<HWND>(header->idFrom)))
                                     : header->idFrom;
+        asked.push_back(number);
         wcscpy(tip->szText, (L"tip " + std::to_wstring(number)).c_str());
         return TRUE;
+    }
+    void OnTimer(UINT_PTR timer)
+    {
+        KillTimer(timer);
+        rested = true;
     }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(Tipped, Hidden<>)
+    ON_WM_TIMER()
     ON_NOTIFY_EX(TTN_NEEDTEXT, 0, &Tipped::OnNeedText)
 END_MESSAGE_MAP()
 
@@ -110,6 +119,18 @@ protected:
         robot.moveTo(Spot{wnd, CPoint(380, 260)});
     }
 
+    /// Leaves the pointer where it is until a tip would have come: tips wait for as long as a double click may take, and
+    /// this timer is set after theirs.
+    void restForATip(Story story)
+    {
+        story
+            .then([this] {
+                wnd.rested = false;
+                wnd.SetTimer(1, ::GetDoubleClickTime(), nullptr);
+            })
+            .waitFor("the time that tips take", [this] { return wnd.rested; });
+    }
+
     Zoned wnd;
     Robot robot;
 };
@@ -137,22 +158,26 @@ TEST(ToolHitTest, FindsTheVisibleChildUnderThePoint)
 TEST_F(ToolTips, AppearOverAChild)
 {
     robot.moveTo(Spot{wnd.button}).waitFor("the tip", tipSays(L"tip 5"));
+    EXPECT_EQ(tipText(), L"tip 5");
 }
 
 TEST_F(ToolTips, AppearOverALabelWhichLetsTheMouseThrough)
 {
     robot.moveTo(Spot{wnd.label}).waitFor("the tip", tipSays(L"tip 6"));
+    EXPECT_EQ(tipText(), L"tip 6");
 }
 
 TEST_F(ToolTips, AppearOverADisabledControl)
 {
     robot.moveTo(Spot{wnd.disabled}).waitFor("the tip", tipSays(L"tip 7"));
+    EXPECT_EQ(tipText(), L"tip 7");
 }
 
 TEST_F(ToolTips, GoWhenThePointerLeavesTheTool)
 {
     robot.moveTo(Spot{wnd.button}).waitFor("the tip", tipSays(L"tip 5"));
     robot.moveTo(Spot{wnd, CPoint(130, 200)}).waitFor("the tip to go", noTip);
+    EXPECT_TRUE(noTip());
 }
 
 TEST_F(ToolTips, FollowThePointerFromToolToTool)
@@ -160,11 +185,13 @@ TEST_F(ToolTips, FollowThePointerFromToolToTool)
     robot.moveTo(Spot{wnd, wnd.left()}).waitFor("the left tip", tipSays(L"tip 30"));
     robot.moveTo(Spot{wnd, wnd.right()}).waitFor("the right tip", tipSays(L"right"));
     robot.moveTo(Spot{wnd.button}).waitFor("the button's tip", tipSays(L"tip 5"));
+    EXPECT_EQ(wnd.asked, (std::vector<UINT_PTR>{30, 5})) << "the right one has a text of its own";
 }
 
 TEST_F(ToolTips, GoWhenAKeyIsPressed)
 {
     robot.moveTo(Spot{wnd.label}).waitFor("the tip", tipSays(L"tip 6")).key(VK_SHIFT).waitFor("the tip to go", noTip);
+    EXPECT_TRUE(noTip());
 }
 
 TEST_F(ToolTips, GoWhenTheyAreCancelled)
@@ -179,9 +206,10 @@ TEST_F(ToolTips, OfAPressedButtonStayAwayUntilThePointerHasLeftIt)
 {
     robot.moveTo(Spot{wnd.button}).waitFor("the tip", tipSays(L"tip 5"));
     robot.click(Spot{wnd.button}).waitFor("the tip to go", noTip);
-    // Another tool's tip comes at once; had the button's one come back, it would have been there before.
-    robot.moveBy(3, 3).moveTo(Spot{wnd.label}).waitFor("the label's tip", tipSays(L"tip 6"));
+    restForATip(robot.moveBy(3, 3));
+    robot.moveTo(Spot{wnd.label}).waitFor("the label's tip", tipSays(L"tip 6"));
     robot.moveTo(Spot{wnd.button}).waitFor("the button's tip again", tipSays(L"tip 5"));
+    EXPECT_EQ(wnd.asked, (std::vector<UINT_PTR>{5, 6, 5})) << "none for the button after the click";
 }
 
 TEST_F(ToolTips, OfOtherToolsComeBackAfterAPress)
@@ -190,6 +218,7 @@ TEST_F(ToolTips, OfOtherToolsComeBackAfterAPress)
     robot.moveTo(Spot{wnd, wnd.left()}).waitFor("the tip", tipSays(L"tip 30"));
     robot.press(Spot{wnd, wnd.left()}).waitFor("the tip to go", noTip).release().moveBy(4, 4).waitFor(
         "the tip again", tipSays(L"tip 30"));
+    EXPECT_EQ(wnd.asked, (std::vector<UINT_PTR>{30, 30}));
 }
 
 TEST_F(ToolTips, GoWithTheirWindow)
@@ -226,5 +255,7 @@ TEST_F(ToolTips, OfAnInactiveWindowAppearOnlyIfTheyAreAlwaysToAppear)
     wnd.flags = TTF_ALWAYSTIP;
     robot.moveTo(Spot{wnd, wnd.right()}).waitFor("the right tip", tipSays(L"right"));
     wnd.flags = 0;
-    robot.moveTo(Spot{wnd, wnd.left()}).waitFor("no tip", noTip);
+    restForATip(robot.moveTo(Spot{wnd, wnd.left()}));
+    EXPECT_TRUE(noTip());
+    EXPECT_EQ(wnd.asked, std::vector<UINT_PTR>());
 }
