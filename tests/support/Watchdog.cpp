@@ -21,7 +21,7 @@ std::chrono::seconds limitFromEnvironment()
 {
     const char* text = std::getenv("OVO_TEST_LIMIT");
     const int seconds = text ? std::atoi(text) : 0;
-    return std::chrono::seconds{seconds > 0 ? seconds : 60};
+    return std::chrono::seconds{seconds > 0 ? seconds : 120};
 }
 
 DWORD WINAPI snapshotThread(void* reason)

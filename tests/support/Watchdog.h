@@ -8,8 +8,8 @@
 namespace ovotest
 {
 
-/// Ends the program when a test hangs: takes a snapshot first, then exits with failure. The limit is a
-/// minute for a test, and again for each step of its stories; the environment variable OVO_TEST_LIMIT sets
+/// Ends the program when a test hangs: takes a snapshot first, then exits with failure. The limit is two
+/// minutes for a test, and again for each step of its stories; the environment variable OVO_TEST_LIMIT sets
 /// another number of seconds.
 class Watchdog
 {
