@@ -111,16 +111,26 @@ DWORD Input::nextTime()
 
 void Input::moveTo(POINT point)
 {
-    INPUT input = mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, 0);
-    input.mi.dx = absolute(point.x, ::GetSystemMetrics(SM_CXSCREEN));
-    input.mi.dy = absolute(point.y, ::GetSystemMetrics(SM_CYSCREEN));
-    send(input);
+    m_point = point;
+    send(atThePoint(mouse(0, 0)));
+}
+
+// The same place once more changes nothing, unless a late report of the display has taken the pointer
+// elsewhere.
+INPUT Input::atThePoint(INPUT input) const
+{
+    if (!m_point)
+        return input;
+    input.mi.dwFlags |= MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    input.mi.dx = absolute(m_point->x, ::GetSystemMetrics(SM_CXSCREEN));
+    input.mi.dy = absolute(m_point->y, ::GetSystemMetrics(SM_CYSCREEN));
+    return input;
 }
 
 void Input::press(Button button)
 {
     m_buttons.push_back(button);
-    send(mouse(flagsOf(button).down, nextTime()));
+    send(atThePoint(mouse(flagsOf(button).down, nextTime())));
 }
 
 void Input::release(Button button)
@@ -133,7 +143,7 @@ void Input::doubleClick(Button button)
 {
     const DWORD time = nextTime();
     const auto [down, up] = flagsOf(button);
-    INPUT inputs[] = {mouse(down, time), mouse(up, time), mouse(down, time), mouse(up, time)};
+    INPUT inputs[] = {atThePoint(mouse(down, time)), mouse(up, time), mouse(down, time), mouse(up, time)};
     ::SendInput(static_cast<UINT>(std::size(inputs)), inputs, sizeof inputs[0]);
 }
 

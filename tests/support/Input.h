@@ -2,6 +2,7 @@
 
 #include <afxwin.h>
 
+#include <optional>
 #include <vector>
 
 namespace ovotest
@@ -27,6 +28,7 @@ public:
     /// Moves the pointer to a point of the screen, in pixels.
     void moveTo(POINT point);
 
+    /// Where the pointer was last moved to.
     void press(Button button);
     void release(Button button);
 
@@ -54,7 +56,9 @@ public:
 
 private:
     DWORD nextTime();
+    INPUT atThePoint(INPUT input) const;
 
+    std::optional<POINT> m_point; ///< where the pointer was last moved to
     std::vector<WORD> m_keys;
     std::vector<Button> m_buttons;
 };

@@ -88,6 +88,22 @@ TEST(RobotMouse, PointerLandsOnThePixelThatWasMeant)
     }
 }
 
+TEST(RobotMouse, PressLandsWhereThePointerWasMovedToThoughItWasTakenAway)
+{
+    ProbeWindow probe;
+    CPoint spot(50, 50);
+    probe.ClientToScreen(&spot);
+    Input input;
+
+    input.moveTo(spot);
+    ::SetCursorPos(spot.x + 40, spot.y + 30);
+    input.press(Button::Left);
+    input.release(Button::Left);
+    ASSERT_TRUE(GuiThread::runUntil([&] { return probe.count(WM_LBUTTONUP) == 1; }));
+
+    EXPECT_EQ(probe.all(WM_LBUTTONDOWN)[0].point, CPoint(50, 50));
+}
+
 TEST(RobotMouse, DragPassesThroughPlacesBetweenWithTheButtonDown)
 {
     ProbeWindow probe;
