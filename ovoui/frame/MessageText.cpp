@@ -11,20 +11,20 @@
 using namespace ovoui::frame;
 
 BEGIN_MESSAGE_MAP(MessageText, CEdit)
-// text
-ON_MESSAGE(WM_SETTEXT, &MessageText::OnSetText)
-ON_MESSAGE(WM_GETTEXT, &MessageText::OnGetText)
-ON_MESSAGE(WM_GETTEXTLENGTH, &MessageText::OnGetTextLength)
-// selection
-ON_MESSAGE(EM_GETSEL, &MessageText::OnGetSel)
-ON_MESSAGE(EM_SETSEL, &MessageText::OnSetSel)
-ON_MESSAGE(WM_COPY, &MessageText::OnCopy)
-// positions
-ON_MESSAGE(EM_POSFROMCHAR, &MessageText::OnPosFromChar)
-ON_MESSAGE(EM_CHARFROMPOS, &MessageText::OnCharFromPos)
-ON_MESSAGE(EM_LINEFROMCHAR, &MessageText::OnLineFromChar)
-ON_MESSAGE(EM_LINEINDEX, &MessageText::OnLineIndex)
-ON_MESSAGE(EM_LINELENGTH, &MessageText::OnLineLength)
+    // text
+    ON_MESSAGE(WM_SETTEXT, &MessageText::OnSetText)
+    ON_MESSAGE(WM_GETTEXT, &MessageText::OnGetText)
+    ON_MESSAGE(WM_GETTEXTLENGTH, &MessageText::OnGetTextLength)
+    // selection
+    ON_MESSAGE(EM_GETSEL, &MessageText::OnGetSel)
+    ON_MESSAGE(EM_SETSEL, &MessageText::OnSetSel)
+    ON_MESSAGE(WM_COPY, &MessageText::OnCopy)
+    // positions
+    ON_MESSAGE(EM_POSFROMCHAR, &MessageText::OnPosFromChar)
+    ON_MESSAGE(EM_CHARFROMPOS, &MessageText::OnCharFromPos)
+    ON_MESSAGE(EM_LINEFROMCHAR, &MessageText::OnLineFromChar)
+    ON_MESSAGE(EM_LINEINDEX, &MessageText::OnLineIndex)
+    ON_MESSAGE(EM_LINELENGTH, &MessageText::OnLineLength)
 END_MESSAGE_MAP()
 
 namespace

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <afx/Collections.h>
+#include <atltypes.h>
 
 /// One bar of an arrangement.
 struct CControlBarInfo
