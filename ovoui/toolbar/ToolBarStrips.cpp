@@ -8,7 +8,7 @@ using namespace ovoui::toolbar;
 namespace
 {
 
-constexpr CSize kAroundImage{8, 7}; // of a button, in pixels at the usual resolution
+constexpr SIZE kAroundImage{8, 7}; // of a button, in pixels at the usual resolution
 
 int resolutionOf(HWND wnd)
 {
