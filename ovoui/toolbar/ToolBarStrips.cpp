@@ -13,8 +13,8 @@ constexpr SIZE kAroundImage{8, 7}; // of a button, in pixels at the usual resolu
 int resolutionOf(HWND wnd)
 {
     using GetDpi = UINT(WINAPI*)(HWND);
-    const auto getDpi =
-        reinterpret_cast<GetDpi>(::GetProcAddress(::GetModuleHandleW(L"user32.dll"), "GetDpiForWindow"));
+    const FARPROC entry = ::GetProcAddress(::GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
+    const auto getDpi = reinterpret_cast<GetDpi>(reinterpret_cast<void*>(entry));
     if (const UINT dpi = getDpi ? getDpi(wnd) : 0)
         return static_cast<int>(dpi);
     const CClientDC screen(nullptr);
