@@ -1,9 +1,9 @@
 /// The bytes of a fuzz target's input, taken as the values that it needs.
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 class Bytes
 {
@@ -22,15 +22,13 @@ public:
     /// From `low` to `high`.
     int between(int low, int high) { return low + next() % (high - low + 1); }
 
-    template <class Value>
+    template <std::integral Value>
     Value value()
     {
-        Value result{};
-        std::uint8_t bytes[sizeof result];
-        for (std::uint8_t& byte : bytes)
-            byte = next();
-        std::memcpy(&result, bytes, sizeof result);
-        return result;
+        std::uint64_t bits = 0;
+        for (std::size_t i = 0; i < sizeof(Value); ++i)
+            bits = bits << 8 | next();
+        return static_cast<Value>(bits);
     }
 
 private:
