@@ -72,6 +72,10 @@ void Monkey::run(int steps)
         ++m_step;
         step();
     }
+}
+
+void Monkey::finish()
+{
     if (!m_failure.empty())
         return;
     m_over = true;

@@ -3,6 +3,7 @@
 ///
 ///     Monkey monkey(seed);
 ///     monkey.run(20000);                    // steps
+///     monkey.finish();
 ///     EXPECT_EQ(monkey.failure(), "");      // what went wrong, and the story of the last steps
 ///
 /// A step is an operation of the host, or input of the user. In a clean step nodes behave, and the selection
@@ -29,6 +30,8 @@ public:
 
     /// Stops at the first failure.
     void run(int steps);
+    /// Destroys the window: no node may be left.
+    void finish();
     /// Empty when all is well.
     const std::string& failure() const { return m_failure; }
     /// The last steps and misdeeds.

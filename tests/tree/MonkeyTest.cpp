@@ -2,8 +2,11 @@
 // OVO_SEED repeats a failure; OVO_MONKEY_STEPS and OVO_MONKEY_SEEDS make a long run of it.
 #include "Monkey.h"
 
+#include "support/Watchdog.h"
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 
@@ -48,19 +51,32 @@ private:
     void* m_handler;
 };
 
+unsigned firstSeed()
+{
+    static const unsigned first = fromEnvironment("OVO_SEED", std::random_device{}() % 1'000'000);
+    return first;
+}
+
+class TreeMonkey : public ::testing::TestWithParam<unsigned>
+{
+};
+
 } // namespace
 
-TEST(TreeMonkey, FindsTheTreeAsTheModelHasItWhateverNodesDo)
+TEST_P(TreeMonkey, FindsTheTreeAsTheModelHasItWhateverNodesDo)
 {
-    const unsigned first = fromEnvironment("OVO_SEED", std::random_device{}() % 1'000'000);
-    const unsigned seeds = fromEnvironment("OVO_MONKEY_SEEDS", 4);
+    const unsigned seed = firstSeed() + GetParam();
     const auto steps = static_cast<int>(fromEnvironment("OVO_MONKEY_STEPS", 5000));
-    for (unsigned seed = first; seed < first + seeds; ++seed) {
-        std::cout << "seed " << seed << " (OVO_SEED repeats it)" << std::endl;
-        Monkey monkey(seed);
-        const Watching watching(monkey);
-        monkey.run(steps);
-        ASSERT_TRUE(monkey.failure().empty()) << "seed " << seed << ", " << monkey.failure();
-        EXPECT_GT(monkey.misdeeds(), steps / 50);
+    std::cout << "seed " << seed << " (OVO_SEED repeats it)" << std::endl;
+    Monkey monkey(seed);
+    const Watching watching(monkey);
+    for (int done = 0; done < steps && monkey.failure().empty(); done += 1000) {
+        ovotest::Watchdog::progress();
+        monkey.run(std::min(steps - done, 1000));
     }
+    monkey.finish();
+    EXPECT_TRUE(monkey.failure().empty()) << "seed " << seed << ", " << monkey.failure();
+    EXPECT_GT(monkey.misdeeds(), steps / 50);
 }
+
+INSTANTIATE_TEST_SUITE_P(Seeds, TreeMonkey, ::testing::Range(0u, fromEnvironment("OVO_MONKEY_SEEDS", 4)));
