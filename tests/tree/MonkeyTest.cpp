@@ -1,5 +1,5 @@
 // Random operations, input and misdeeds of nodes in every call-out, against one tree with a model beside it.
-// OVO_SEED repeats a failure; OVO_MONKEY_STEPS and OVO_MONKEY_SEEDS make a long run of it.
+// OVO_SEED names the first seed; OVO_MONKEY_STEPS and OVO_MONKEY_SEEDS make a long run of it.
 #include "Monkey.h"
 
 #include "support/Watchdog.h"
@@ -51,11 +51,9 @@ private:
     void* m_handler;
 };
 
-unsigned firstSeed()
-{
-    static const unsigned first = fromEnvironment("OVO_SEED", std::random_device{}() % 1'000'000);
-    return first;
-}
+/// The same seeds in every run. Of 101 to 116, three do not pass yet: 107 ends with a selection that the
+/// model does not have, 109 and 113 with rows out of order under Wine.
+constexpr unsigned kFirstSeed = 101;
 
 class TreeMonkey : public ::testing::TestWithParam<unsigned>
 {
@@ -65,7 +63,7 @@ class TreeMonkey : public ::testing::TestWithParam<unsigned>
 
 TEST_P(TreeMonkey, FindsTheTreeAsTheModelHasItWhateverNodesDo)
 {
-    const unsigned seed = firstSeed() + GetParam();
+    const unsigned seed = fromEnvironment("OVO_SEED", kFirstSeed) + GetParam();
     const auto steps = static_cast<int>(fromEnvironment("OVO_MONKEY_STEPS", 5000));
     std::cout << "seed " << seed << " (OVO_SEED repeats it)" << std::endl;
     Monkey monkey(seed);
