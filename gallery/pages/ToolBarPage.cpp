@@ -115,6 +115,9 @@ BOOL ToolBarPage::OnInitDialog()
         fillShapes(m_shapes);
         m_shapes.calcLayout(0);
     }
+    stretch(IDC_BARS_HINT, {.growX = 100});
+    stretch(IDC_BARS_MIRRORED_LABEL, {.moveY = 100});
+    stretch(IDC_BARS_MIRRORED, {.moveY = 100});
     return FALSE;
 }
 

@@ -1,7 +1,9 @@
 // Hosts that change or destroy things while the toolbar calls them.
 #include "ToolBarScene.h"
 
+#include "support/Desktop.h"
 #include "support/GdiCounter.h"
+#include "support/RecordingParent.h"
 #include "support/WindowCounter.h"
 
 #include <gtest/gtest.h>
@@ -152,6 +154,8 @@ TEST(FlyoutMischief, TheBarMayGoWhileItsFlyoutIsOpen)
 
 TEST(FlyoutMischief, TheFrameMayGoWhileTheFlyoutIsOpen)
 {
+    RecordingParent bystander(CSize(1000, 800)); // takes the release when the frame has gone
+    present(bystander);
     BarScene scene;
     scene.user.press(scene.button(BarScene::Lines))
         .waitFor(kShown, &BarScene::flyoutShown)

@@ -322,10 +322,13 @@ TEST(TreeChanges, AnExceptionOfAnotherWindowLeavesTheTreeInOrder)
 {
     class Thrower : public CWnd
     {
+    public:
+        bool throws = false;
+
     protected:
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
-            if (message == WM_APP)
+            if (message == WM_SIZE && throws)
                 throw std::runtime_error("not the tree's");
             return CWnd::WindowProc(message, wParam, lParam);
         }
@@ -333,17 +336,18 @@ TEST(TreeChanges, AnExceptionOfAnotherWindowLeavesTheTreeInOrder)
     Scene scene{{"a", "b"}};
     Thrower thrower;
     thrower.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0);
+    thrower.throws = true;
+    int width = 10;
     const auto meanwhile = [&](const std::function<void()>& act) {
-        ::SendMessageW(thrower.m_hWnd, WM_APP, 0, 0); // not a call of the framework's: it cannot raise it
-        try {
-            act();
-        } catch (const std::runtime_error&) {
-        }
+        // Not a call of the framework's: what is thrown on the way waits for the message loop.
+        ::SetWindowPos(thrower.m_hWnd, nullptr, 0, 0, ++width, 10, SWP_NOMOVE | SWP_NOZORDER);
+        EXPECT_NO_THROW(act()) << "no call of the tree's raises it";
     };
     const OVO::Handle<TestNode> node(new TestNode("n"));
     meanwhile([&] { node->insert(scene.tree, TVI_ROOT, TVI_LAST); });
     EXPECT_EQ(TestNode::live(), 3);
-    EXPECT_EQ(static_cast<MultiTreeCtrl::Node&>(*node).hTreeItem() != nullptr, scene.all().size() == 3);
+    EXPECT_NE(static_cast<MultiTreeCtrl::Node&>(*node).hTreeItem(), nullptr);
+    EXPECT_EQ(scene.all().size(), 3u);
     meanwhile([&] { scene.tree.SendMessage(WM_KEYDOWN, VK_DOWN, 1); });
     // Deletions that have to wait are still carried out.
     scene.node("a").children = 1;
@@ -355,6 +359,13 @@ TEST(TreeChanges, AnExceptionOfAnotherWindowLeavesTheTreeInOrder)
     scene.tree.Expand(scene.item("a"), TVE_EXPAND);
     const Names left = scene.all();
     EXPECT_EQ(std::count(left.begin(), left.end(), "b"), 0);
+    const auto nextStep = [&] {
+        thrower.PostMessage(WM_NULL);
+        AfxGetThread()->PumpMessage();
+    };
+    EXPECT_THROW(nextStep(), std::runtime_error);
+    EXPECT_NO_THROW(nextStep());
+    thrower.throws = false;
     thrower.DestroyWindow();
 }
 

@@ -1,5 +1,6 @@
 // COleDataSource: offering data, at once or on demand.
 #include "FakeDataObject.h"
+#include "NextStep.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -412,8 +413,9 @@ TEST(DataSource, NoExceptionLeavesAMethodThatTheSystemCalls)
     STGMEDIUM medium{};
 
     EXPECT_EQ(source.object()->GetData(&format, &medium), E_UNEXPECTED);
-    EXPECT_THROW(window.SendMessage(WM_NULL), std::runtime_error) << "the next call-out raises it";
-    EXPECT_NO_THROW(window.SendMessage(WM_NULL));
+    EXPECT_NO_THROW(window.SendMessage(WM_NULL)) << "no call of another matter raises it";
+    EXPECT_THROW(nextStep(window), std::runtime_error) << "it waits for the message loop";
+    EXPECT_NO_THROW(nextStep(window));
 }
 
 TEST(DataSource, LivesAsLongAsItsReferences)

@@ -1,5 +1,6 @@
 // COleDropTarget: what a drag over a window asks, in which order, and what it is told.
 #include "FakeDataObject.h"
+#include "NextStep.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -283,7 +284,7 @@ TEST_F(DropTargetTest, NoExceptionLeavesTheMethods)
         else
             drop();
         EXPECT_EQ(status, E_UNEXPECTED);
-        EXPECT_THROW(window.SendMessage(WM_NULL), std::runtime_error) << "the next call-out raises it";
+        EXPECT_THROW(nextStep(window), std::runtime_error) << "it waits for the message loop";
         target.throwsIn = "";
         leave();
         enter();
@@ -298,7 +299,7 @@ TEST_F(DropTargetTest, AFailedQuestionHasNoEffect)
     EXPECT_EQ(enter(), static_cast<DROPEFFECT>(DROPEFFECT_NONE));
 
     target.throwsIn = "";
-    EXPECT_THROW(window.SendMessage(WM_NULL), std::runtime_error);
+    EXPECT_THROW(nextStep(window), std::runtime_error);
     leave();
 }
 

@@ -135,7 +135,7 @@ TEST_F(ContextHelp, EscapeEndsItWithoutHelp)
         .key(VK_ESCAPE)
         .waitFor("the end of the help mode", [] { return !inMode(); });
     EXPECT_THAT(asked(), IsEmpty());
-    EXPECT_EQ(during, L"Click what you want help on");
+    EXPECT_EQ(during, L"Click the item that you want help with");
     EXPECT_EQ(m_status.GetPaneText(0), L"Ready");
     EXPECT_EQ(::GetCapture(), nullptr);
 }

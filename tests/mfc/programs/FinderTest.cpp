@@ -89,6 +89,9 @@ TEST_F(Finder, StaysOpenWhileTheTextIsEdited)
     m_program.waitFor("the longer text",
                       [this] { return textOf(editor()) == std::wstring(kText) + L" Elm"; });
     EXPECT_TRUE(::IsWindowVisible(dialog));
+    // Under Wine the click may have put the frame in front of the dialog that it owns.
+    ::SetForegroundWindow(dialog);
+    m_program.waitFor("the dialog in front", [&] { return ::GetForegroundWindow() == dialog; });
     m_program.click(::GetDlgItem(dialog, IDC_FIND_NEXT));
     waitForSelection(11, 14);
     close();
