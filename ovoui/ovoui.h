@@ -19,6 +19,9 @@
 #include <ovoui/lists/ListCtrlEx.h>
 #include <ovoui/lists/ListLayout.h>
 #include <ovoui/lists/ListSorter.h>
+#include <ovoui/sysinfo/SystemInfoDlg.h>
+#include <ovoui/toolbar/FlyoutToolbar.h>
+#include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/sliders/RoundSlider.h>
 #include <ovoui/sliders/Separators.h>
 #include <ovoui/sliders/SliderButton.h>
@@ -30,3 +33,5 @@
 #include <ovoui/tree/MultiTreeCtrl.h>
 #include <ovoui/tree/PlainText.h>
 #include <ovoui/version.h>
+#include <ovoui/update/BrowseUrl.h>
+#include <ovoui/update/UpdateCheck.h>

@@ -11,6 +11,8 @@
 
 // Dialogs: 1501 to 1599
 #define IDD_MESSAGE_BOX 1505
+#define IDD_SYSTEM_INFO 1506
+#define IDD_UPDATE_AVAILABLE 1507
 
 // Bitmaps: 6001 to 6099
 #define IDB_TOOLBAR_16 6001
@@ -63,6 +65,15 @@
 // Dialogs of the controls: 20200 to 20201
 #define IDD_POPUP_SLIDER 20200
 
+// Strings of the update check: 20222 to 20223
+#define IDS_UPDATE_AVAILABLE 20222
+#define IDS_UPDATE_NONE 20223
+
+// Controls of the system information: 1001 to 1002
+#define IDC_SYSTEM_INFO_COPY 1001
+#define IDC_SYSTEM_INFO_TEXT 1002
+
 // Controls: 20501 to 20599
 #define IDC_POPUP_SLIDER 20505
 #define IDC_MESSAGE_TEXT 20507
+#define IDC_UPDATE_TEXT 20508

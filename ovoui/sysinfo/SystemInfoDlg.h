@@ -1,0 +1,43 @@
+/// A dialog that lists the modules of the process, for support reports.
+///
+///     CSystemInfoDlg(this).DoModal();
+#pragma once
+
+#include <ovoui/export.h>
+#include <ovoui/frame/ModalDialog.h>
+
+#include <afxcmn.h>
+
+#include <string>
+
+/// The text has a line for each module: name, address, size, link time, versions, type, path and description,
+/// with tabs between them. It is made anew whenever the dialog is shown. The user can copy it, and make the
+/// dialog larger.
+class OVOUI_API CSystemInfoDlg : public COVOModalDialog
+{
+    DECLARE_DYNAMIC(CSystemInfoDlg)
+
+public:
+    explicit CSystemInfoDlg(CWnd* pParent = nullptr);
+    ~CSystemInfoDlg() override;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+    BOOL OnInitDialog() override;
+
+    afx_msg void OnCopy();
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* info);
+    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
+    afx_msg void OnSize(UINT type, int width, int height);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void showModules();
+    void useFixedFont();
+
+    CEdit m_text;
+    std::wstring m_modules;
+    CFont m_fixedFont; // so that the columns line up
+    CSize m_client;    // that the controls are placed for
+    CSize m_least;     // the window as the template has it
+};

@@ -1,0 +1,18 @@
+# System information: the dialog that lists the process's modules.
+set(sysinfo_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/ModuleRecord.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/VersionWords.cpp)
+
+if(NOT WIN32)
+  add_library(ovoui_sysinfo_core STATIC ${sysinfo_core})
+  target_include_directories(ovoui_sysinfo_core PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(ovoui_sysinfo_core PRIVATE ovo_flags)
+  return()
+endif()
+
+target_sources(ovoui PRIVATE
+  ${sysinfo_core}
+  ${CMAKE_CURRENT_LIST_DIR}/ModuleReader.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SystemInfoDlg.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/VersionRecord.cpp)
+target_link_libraries(ovoui PRIVATE version dbghelp)

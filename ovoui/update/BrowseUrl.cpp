@@ -1,0 +1,64 @@
+#include <ovoui/update/BrowseUrl.h>
+
+#include <ovocor/IntCast.h>
+#include <ovocor/OvoError.h>
+#include <ovocor/Text.h>
+#include <ovocor/Url.h>
+#include <ovocor/WinError.h>
+#include <ovomsg/ovomsg.h>
+
+#include <windows.h>
+#include <shellapi.h>
+#include <wininet.h>
+
+#include <limits>
+
+namespace
+{
+
+[[noreturn]] void refuse(unsigned message, const std::wstring& address)
+{
+    throw OvoError(stringPrintf(ovoMsg(message).c_str(), address.c_str()));
+}
+
+[[noreturn]] void refuse(unsigned message, const std::wstring& address, const std::wstring& reason)
+{
+    throw OvoError(stringPrintf(ovoMsg(message).c_str(), address.c_str(), reason.c_str()));
+}
+
+INTERNET_SCHEME schemeOf(const std::wstring& canonical, const std::wstring& address)
+{
+    if (canonical.size() > std::numeric_limits<DWORD>::max())
+        throwIntCast();
+    URL_COMPONENTSW parts{};
+    parts.dwStructSize = sizeof parts;
+    if (!::InternetCrackUrlW(canonical.c_str(), static_cast<DWORD>(canonical.size()), 0, &parts))
+        refuse(OVOMSG_URL_INVALID, address,
+               formatMessage(::GetLastError(), ::GetModuleHandleW(L"wininet.dll")));
+    return parts.nScheme;
+}
+
+bool mayBeOpened(INTERNET_SCHEME scheme)
+{
+    return scheme == INTERNET_SCHEME_FTP || scheme == INTERNET_SCHEME_HTTP || scheme == INTERNET_SCHEME_HTTPS;
+}
+
+} // namespace
+
+void browseUrl(const std::wstring& address)
+{
+    // What the system is given ends at a zero: what is behind it would go unseen.
+    if (address.find(L'\0') != std::wstring::npos)
+        refuse(OVOMSG_URL_INVALID, address,
+               formatMessage(ERROR_INTERNET_INVALID_URL, ::GetModuleHandleW(L"wininet.dll")));
+    const std::wstring canonical = canonicalizeUrl(address);
+    if (!mayBeOpened(schemeOf(canonical, address)))
+        refuse(OVOMSG_URL_SCHEME, address);
+    SHELLEXECUTEINFOW execute{};
+    execute.cbSize = sizeof execute;
+    execute.lpVerb = L"open";
+    execute.lpFile = canonical.c_str();
+    execute.nShow = SW_SHOWNORMAL;
+    if (!::ShellExecuteExW(&execute))
+        refuse(OVOMSG_URL_NOT_OPENED, address, formatMessage(::GetLastError()));
+}

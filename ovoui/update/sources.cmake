@@ -1,0 +1,19 @@
+# Update check: reading the list, the dialog, opening addresses.
+set(update_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/UpdateRow.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/VersionText.cpp)
+
+if(NOT WIN32)
+  add_library(ovoui_update_core STATIC ${update_core})
+  target_include_directories(ovoui_update_core PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(ovoui_update_core PRIVATE ovo_flags)
+  return()
+endif()
+
+target_sources(ovoui PRIVATE
+  ${update_core}
+  ${CMAKE_CURRENT_LIST_DIR}/BrowseUrl.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateAvailable.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateCheck.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateList.cpp)
+target_link_libraries(ovoui PRIVATE wininet shell32)

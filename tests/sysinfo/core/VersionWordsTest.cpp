@@ -1,0 +1,104 @@
+#include <ovoui/sysinfo/core/VersionWords.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovoui::sysinfo;
+
+TEST(VersionWords, AVersionIsFourNumbers)
+{
+    EXPECT_EQ(versionText(0x000B0002, 0x000304D2), L"11.2.3.1234");
+    EXPECT_EQ(versionText(0, 0), L"0.0.0.0");
+    EXPECT_EQ(versionText(0xFFFFFFFF, 0xFFFFFFFF), L"65535.65535.65535.65535");
+}
+
+TEST(VersionWords, EveryFlagHasItsWord)
+{
+    const struct
+    {
+        std::uint32_t flag;
+        const wchar_t* word;
+    } rows[] = {{0x01, L"debug"},    {0x02, L"pre-release"},   {0x04, L"patched"}, {0x08, L"private build"},
+                {0x10, L"inferred"}, {0x20, L"special build"}, {0x40, L"40"},      {0x80000000, L"80000000"}};
+    for (const auto& [flag, word] : rows)
+        EXPECT_EQ(flagWords(flag, L", "), word);
+    EXPECT_EQ(flagWords(0, L", "), L"");
+}
+
+TEST(VersionWords, SeveralFlagsComeInTheirOrder)
+{
+    EXPECT_EQ(flagWords(0x3F, L"; "), L"debug; inferred; patched; pre-release; private build; special build");
+    EXPECT_EQ(flagWords(0xF0C1, L";"), L"debug;f0c0");
+    // All combinations: the words of each bit, in order.
+    const std::uint32_t order[] = {0x01, 0x10, 0x04, 0x02, 0x08, 0x20};
+    for (std::uint32_t flags = 0; flags < 0x80; ++flags) {
+        std::wstring expected;
+        for (const std::uint32_t bit : order)
+            if (flags & bit)
+                expected += (expected.empty() ? L"" : L"0123456789") + flagWords(bit, L"");
+        if (flags & 0x40)
+            expected += expected.empty() ? L"40" : L"012345678940";
+        EXPECT_EQ(flagWords(flags, L"0123456789"), expected) << flags;
+    }
+}
+
+TEST(VersionWords, EverySystemHasItsWord)
+{
+    const struct
+    {
+        std::uint32_t system;
+        const wchar_t* words;
+    } rows[] = {{0, L""},
+                {0x00010000, L"MS-DOS"},
+                {0x00020000, L"OS/2-16"},
+                {0x00030000, L"OS/2-32"},
+                {0x00040000, L"NT/2000"},
+                {0x00050000, L"OS:0x5"},
+                {0xFFFF0000, L"OS:0xffff"},
+                {1, L"win16"},
+                {2, L"PM16"},
+                {3, L"PM32"},
+                {4, L"win32"},
+                {5, L"API:0x5"},
+                {0xABCD, L"API:0xabcd"},
+                {0x00040004, L"NT/2000,win32"},
+                {0x000A000B, L"OS:0xa,API:0xb"}};
+    for (const auto& [system, words] : rows)
+        EXPECT_EQ(systemWords(system, L","), words);
+}
+
+TEST(VersionWords, EveryTypeHasItsWord)
+{
+    const struct
+    {
+        std::uint32_t type;
+        std::uint32_t subtype;
+        const wchar_t* words;
+    } rows[] = {{0, 0, L"unknown"},
+                {0, 7, L"unknown"},
+                {1, 0, L"application"},
+                {2, 0, L"DLL"},
+                {5, 0, L"virtual device"},
+                {7, 0, L"static library"},
+                {3, 0, L"unknown driver"},
+                {3, 1, L"printer driver"},
+                {3, 2, L"keyboard driver"},
+                {3, 3, L"language driver"},
+                {3, 4, L"display driver"},
+                {3, 5, L"mouse driver"},
+                {3, 6, L"network driver"},
+                {3, 7, L"system driver"},
+                {3, 8, L"installable driver"},
+                {3, 9, L"sound driver"},
+                {3, 10, L"communications driver"},
+                {3, 11, L"0xb device driver"},
+                {4, 0, L"unknown font"},
+                {4, 1, L"raster font"},
+                {4, 2, L"vector font"},
+                {4, 3, L"truetype font"},
+                {4, 4, L"0x4 font"},
+                {6, 0, L"0x6/0x0"},
+                {8, 0x1234, L"0x8/0x1234"},
+                {0xFFFFFFFF, 0xFFFFFFFF, L"0xffffffff/0xffffffff"}};
+    for (const auto& [type, subtype, words] : rows)
+        EXPECT_EQ(typeWords(type, subtype), words) << type << " " << subtype;
+}

@@ -1,0 +1,272 @@
+// The update check against a server on the loopback address: which row counts, what the user sees, what is
+// left.
+#include "ovocor/LoopbackServer.h"
+#include "support/Desktop.h"
+#include "support/ImportPatch.h"
+#include "support/Robot.h"
+
+#include <ovoui/update/UpdateCheck.h>
+
+#include <ovocor/OvoError.h>
+#include <ovocor/Text.h>
+#include <ovomsg/ovomsg.h>
+
+#include <gtest/gtest.h>
+
+#include <shellapi.h>
+#include <wininet.h>
+
+#include <algorithm>
+#include <vector>
+
+using namespace ovotest;
+
+namespace
+{
+
+constexpr char kHeader[] =
+    "UpdateType,Product,Options,OS,Processor,Version,UpdateVersion,UpdateInfo,UpdateDescription\r\n";
+constexpr int kInstalled[4] = {11, 5, 0, 7};
+
+std::vector<std::wstring> g_opened;
+
+BOOL WINAPI shell(SHELLEXECUTEINFOW* execute)
+{
+    g_opened.push_back(execute->lpFile);
+    return TRUE;
+}
+
+class UpdateCheck : public ::testing::Test
+{
+protected:
+    UpdateCheck() { g_opened.clear(); }
+
+    std::wstring list() { return server.address(L"/updates.csv"); }
+
+    void publish(const std::string& rows, const std::string& before = "")
+    {
+        server.answer("/updates.csv", LoopbackServer::page("200 OK", before + kHeader + rows));
+    }
+
+    std::optional<AvailableUpdate> found()
+    {
+        const auto update = findUpdate(list(), L"Board", L"Pro", kInstalled);
+        EXPECT_FALSE(isCached()) << "the copy is gone";
+        return update;
+    }
+
+    std::wstring failure()
+    {
+        std::wstring text;
+        try {
+            findUpdate(list(), L"Board", L"Pro", kInstalled);
+        } catch (const OvoError& error) {
+            text = error.wwhat();
+        }
+        EXPECT_FALSE(isCached()) << "the copy is gone";
+        return text;
+    }
+
+    bool isCached()
+    {
+        DWORD size = 0;
+        return ::GetUrlCacheEntryInfoW(list().c_str(), nullptr, &size) ||
+               ::GetLastError() != ERROR_FILE_NOT_FOUND;
+    }
+
+    /// What the dialog says, while the check is answered by a key.
+    std::wstring shownText(WORD key, bool* canAccept = nullptr)
+    {
+        std::wstring text;
+        auto answering = Robot()
+                             .waitFor("the dialog", [] { return shownDialog() != nullptr; })
+                             .then([&] {
+                                 CString shown;
+                                 CWnd::FromHandle(shownDialog())->GetDlgItemText(20508, shown);
+                                 text = shown;
+                                 if (canAccept)
+                                     *canAccept = ::IsWindowEnabled(::GetDlgItem(shownDialog(), IDOK));
+                             })
+                             .key(key)
+                             .start();
+        checkForUpdates(list(), L"Board", L"Pro", kInstalled);
+        return text;
+    }
+
+    LoopbackServer server;
+    ImportPatch patch{L"ovoui.dll", "ShellExecuteExW", reinterpret_cast<void*>(&shell)};
+};
+
+} // namespace
+
+TEST_F(UpdateCheck, TheRightRowOfManyIsFound)
+{
+    std::string rows;
+    for (int i = 0; i < 10000; ++i)
+        rows +=
+            i == 7777
+                ? "#update,Board,Pro,Windows,Intel64,11.*,12.1,http://example.org/12,\"Better, faster\"\r\n"
+                : "#update,Product" + std::to_string(i) + ",,,,,99,http://example.org/,\r\n";
+    publish(rows);
+    const auto update = found();
+    ASSERT_TRUE(update);
+    EXPECT_EQ(update->version, L"12.1");
+    EXPECT_EQ(update->description, L"Better, faster");
+    EXPECT_EQ(update->page, L"http://example.org/12");
+}
+
+TEST_F(UpdateCheck, TheLastRowThatAppliesCounts)
+{
+    publish("#update,Board,,,,,13,http://example.org/13,\r\n"
+            "#update,Board,,,,,12,http://example.org/12,\r\n"
+            "#update,Board,Home,,,,14,http://example.org/14,\r\n");
+    const auto update = found();
+    ASSERT_TRUE(update);
+    EXPECT_EQ(update->version, L"12");
+    publish("#update,Board,,,,,13,http://example.org/13,\r\n#update,Board,,,,,11,http://example.org/11,\r\n");
+    EXPECT_FALSE(found()) << "even when it is not newer";
+}
+
+TEST_F(UpdateCheck, WithoutARowThereIsNone)
+{
+    for (const char* rows : {"", "\r\n\r\n", "#note,Board,,,,,13,http://example.org/13,\r\n",
+                             "#update,board,,,,,13,http://example.org/13,\r\n",
+                             "#update,Board,,Linux,,,13,http://example.org/13,\r\n",
+                             "#update,Board,,,ARM64,,13,http://example.org/13,\r\n",
+                             "#update,Board,,,,10.*,13,http://example.org/13,\r\n",
+                             "#update,Board,,,,,next,http://example.org/13,\r\n"}) {
+        publish(rows);
+        EXPECT_FALSE(found()) << rows;
+    }
+}
+
+TEST_F(UpdateCheck, RowsNeedNoDescriptionAndNoLastLineEnd)
+{
+    publish("#update,Board,,,,,13,http://example.org/13");
+    const auto update = found();
+    ASSERT_TRUE(update);
+    EXPECT_EQ(update->description, L"13");
+}
+
+TEST_F(UpdateCheck, ListsMayBeWrittenInAnyEncoding)
+{
+    const std::string row = "#update,Board,,,,,13,http://example.org/13,Gr\xC3\xBC\xC3\x9F"
+                            "e\r\n";
+    publish(row);
+    EXPECT_EQ(found()->description, L"Gr\u00FC\u00DFe");
+    publish(row, "\xEF\xBB\xBF");
+    EXPECT_EQ(found()->description, L"Gr\u00FC\u00DFe") << "with a mark";
+    std::string wide = "\xFF\xFE";
+    for (const char c : std::string(kHeader) + "#update,Board,,,,,13,http://example.org/13,Wide\r\n")
+        wide += std::string{c, '\0'};
+    server.answer("/updates.csv", LoopbackServer::page("200 OK", wide));
+    EXPECT_EQ(found()->description, L"Wide");
+}
+
+TEST_F(UpdateCheck, QuotedFieldsMaySpanLines)
+{
+    publish("#update,Board,,,,,13,http://example.org/13,\"One\r\ntwo \"\"three\"\"\"\r\n");
+    EXPECT_EQ(found()->description, L"One\ntwo \"three\"");
+}
+
+TEST_F(UpdateCheck, ARowWithoutARequiredColumnSpoilsTheList)
+{
+    const std::wstring message = stringPrintf(ovoMsg(OVOMSG_UPDATE_LIST_INCOMPLETE).c_str(), list().c_str());
+    for (const char* row :
+         {"#other", "#update,Board,,,,", "#update,Board,,,,,13", "<html><body>Not here</body></html>"}) {
+        publish(std::string("#update,Board,,,,,13,http://example.org/13,\r\n") + row + "\r\n");
+        EXPECT_EQ(failure(), message) << row;
+    }
+}
+
+TEST_F(UpdateCheck, AnUnclosedQuoteIsAnError)
+{
+    publish("#update,Board,,,,,13,http://example.org/13,\"never closed\r\n");
+    EXPECT_NE(failure(), L"");
+}
+
+TEST_F(UpdateCheck, WhatTheServerRefusesIsReportedWithTheAddress)
+{
+    for (const char* status : {"404 Not Found", "500 Internal Server Error"}) {
+        server.answer("/updates.csv", LoopbackServer::page(status, "Sorry"));
+        EXPECT_NE(failure().find(list()), std::wstring::npos) << status;
+    }
+    server.answer("/updates.csv", "HTTP/1.1 200 OK\r\nContent-Length: 5000\r\n\r\nUpdateType");
+    EXPECT_NE(failure().find(list()), std::wstring::npos) << "cut short";
+}
+
+TEST_F(UpdateCheck, AnAnswerInPartsIsPutTogether)
+{
+    const std::string body = std::string(kHeader) + "#update,Board,,,,,13,http://example.org/13,Parts\r\n";
+    const auto part = [](const std::string& text) {
+        char size[20];
+        std::snprintf(size, sizeof size, "%zx\r\n", text.size());
+        return size + text + "\r\n";
+    };
+    server.answer("/updates.csv", "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n" +
+                                      part(body.substr(0, 50)) + part(body.substr(50)) + "0\r\n\r\n");
+    const auto update = found();
+    ASSERT_TRUE(update);
+    EXPECT_EQ(update->description, L"Parts");
+}
+
+TEST_F(UpdateCheck, ANewPlaceOfTheListIsFollowed)
+{
+    server.answer("/updates.csv", "HTTP/1.1 302 Found\r\nLocation: /moved.csv\r\nContent-Length: 0\r\n\r\n");
+    server.answer("/moved.csv",
+                  LoopbackServer::page("200 OK", std::string(kHeader) +
+                                                     "#update,Board,,,,,13,http://example.org/13,\r\n"));
+    EXPECT_TRUE(found());
+}
+
+// The dialog
+
+TEST_F(UpdateCheck, AnUpdateIsOfferedAndItsPageOpenedOnRequest)
+{
+    publish("#update,Board,,,,,13,http://example.org/new page,Faster & 100% better %s %n\r\n");
+    bool canAccept = false;
+    const std::wstring text = shownText(VK_RETURN, &canAccept);
+    EXPECT_TRUE(canAccept);
+    EXPECT_NE(text.find(L"Faster & 100% better %s %n"), std::wstring::npos) << "shown as it stands";
+    EXPECT_NE(text.find(L"Board"), std::wstring::npos);
+    EXPECT_NE(text.find(L"http://example.org/new page"), std::wstring::npos);
+    EXPECT_EQ(g_opened, (std::vector<std::wstring>{L"http://example.org/new%20page"}));
+}
+
+TEST_F(UpdateCheck, DecliningOpensNothing)
+{
+    publish("#update,Board,,,,,13,http://example.org/13,\r\n");
+    shownText(VK_ESCAPE);
+    EXPECT_TRUE(g_opened.empty());
+}
+
+TEST_F(UpdateCheck, WithoutAnUpdateThereIsNothingToAccept)
+{
+    publish("");
+    bool canAccept = true;
+    const std::wstring text = shownText(VK_ESCAPE, &canAccept);
+    EXPECT_FALSE(canAccept);
+    EXPECT_NE(text.find(L"Board"), std::wstring::npos);
+    EXPECT_TRUE(g_opened.empty());
+}
+
+TEST_F(UpdateCheck, AHostilePageIsNotOpened)
+{
+    publish("#update,Board,,,,,13,file:///C:/Windows/notepad.exe,\r\n");
+    auto answering =
+        Robot().waitFor("the dialog", [] { return shownDialog() != nullptr; }).key(VK_RETURN).start();
+    std::wstring text;
+    try {
+        checkForUpdates(list(), L"Board", L"Pro", kInstalled);
+    } catch (const OvoError& error) {
+        text = error.wwhat();
+    }
+    EXPECT_EQ(text, stringPrintf(ovoMsg(OVOMSG_URL_SCHEME).c_str(), L"file:///C:/Windows/notepad.exe"));
+    EXPECT_TRUE(g_opened.empty());
+}
+
+TEST_F(UpdateCheck, LineBreaksInADescriptionAreKept)
+{
+    publish("#update,Board,,,,,13,http://example.org/13,\"One\ntwo\"\r\n");
+    EXPECT_NE(shownText(VK_ESCAPE).find(L"One\r\ntwo"), std::wstring::npos);
+}
