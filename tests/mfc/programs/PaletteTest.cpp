@@ -84,8 +84,7 @@ TEST_F(PaletteProgram, TheMenuShowsItsColoursAndTakesAClick)
 
 TEST_F(PaletteProgram, TheMenuTakesTheKeyboard)
 {
-    const HWND menu = openMenu();
-    m_program.waitFor("the first colour", [&] { return colourAt(menu, inMenu(menu, 0)) == kCrimson; });
+    openMenu();
     m_program.key(VK_DOWN);
     m_program.key(VK_RETURN);
     m_program.waitFor("the name of a colour", [this] { return !chosen().empty(); });
