@@ -152,6 +152,9 @@ class TwoAtATime(Checkout):
 
 
 class Interruption(Checkout):
+    # The programs that stand in write their file without starting another program: a shell that waits for one
+    # would forget the interruption.
+
     def interrupted(self, process):
         os.killpg(process.pid, signal.SIGINT)
         status, said = self.outcome(process)
@@ -160,7 +163,7 @@ class Interruption(Checkout):
         self.assertEqual(said.split(), ["Interrupted."])
 
     def test_while_building(self):
-        self.program("cmake", f'touch "{self.root}/building"; exec sleep 60')
+        self.program("cmake", f': > "{self.root}/building"; exec sleep 60')
         process = self.start("test")
         self.wait_for(self.root / "building")
         self.interrupted(process)
@@ -169,7 +172,7 @@ class Interruption(Checkout):
         shutil.copy(ROOT / "cmake/run-tests", self.root / "cmake/run-tests")
         for preset in ("mingw", "native"):
             (self.root / "build" / preset).mkdir(parents=True)
-        self.program("ctest", f'touch "{self.root}/testing"; exec sleep 60')
+        self.program("ctest", f': > "{self.root}/testing"; exec sleep 60')
         process = self.start("test")
         self.wait_for(self.root / "testing")
         self.interrupted(process)
