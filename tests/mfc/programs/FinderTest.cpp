@@ -89,7 +89,7 @@ TEST_F(Finder, StaysOpenWhileTheTextIsEdited)
     m_program.waitFor("the longer text",
                       [this] { return textOf(editor()) == std::wstring(kText) + L" Elm"; });
     EXPECT_TRUE(::IsWindowVisible(dialog));
-    // Under Wine the click may have put the frame in front of the dialog that it owns.
+    // The click may have put the frame in front of the dialog that it owns; it is not known why.
     ::SetForegroundWindow(dialog);
     m_program.waitFor("the dialog in front", [&] { return ::GetForegroundWindow() == dialog; });
     m_program.click(::GetDlgItem(dialog, IDC_FIND_NEXT));
