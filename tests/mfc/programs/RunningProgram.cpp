@@ -1,5 +1,6 @@
 #include "RunningProgram.h"
 
+#include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 #include <thread>
@@ -12,12 +13,32 @@ namespace
 
 constexpr auto kLimit = 20s;
 constexpr UINT kAnswerLimit = 5000; // milliseconds
+constexpr int kStartAttempts = 5;
 
 fs::path folderOfTests()
 {
     wchar_t path[MAX_PATH];
     ::GetModuleFileNameW(nullptr, path, MAX_PATH);
     return fs::path(path).parent_path();
+}
+
+/// Starts a process. A loaded machine refuses this now and then, so it is tried a few times; the tests are
+/// not about the start of processes.
+PROCESS_INFORMATION started(std::wstring commandLine, const fs::path& folder)
+{
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    DWORD error = 0;
+    for (int attempt = 0; attempt < kStartAttempts; ++attempt) {
+        PROCESS_INFORMATION process{};
+        if (::CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
+                             &startup, &process))
+            return process;
+        error = ::GetLastError();
+        std::printf("the program was not started, error %lu\n", error);
+        std::this_thread::sleep_for(200ms);
+    }
+    throw std::runtime_error("the program cannot be started, error " + std::to_string(error));
 }
 
 std::wstring classOf(HWND wnd)
@@ -33,11 +54,7 @@ RunningProgram::RunningProgram(const std::wstring& name, const std::wstring& arg
 {
     const fs::path program = folderOfTests() / (name + L".exe");
     std::wstring commandLine = L"\"" + program.wstring() + L"\" " + arguments;
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    if (!::CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                          program.parent_path().c_str(), &startup, &m_process))
-        throw std::runtime_error("the program cannot be started");
+    m_process = started(commandLine, program.parent_path());
     waitFor("the program's main window", [this] { return !shownWindows().empty(); });
     m_main = shownWindows().back();
     waitFor("the program to come to the front", [this] {
