@@ -1,7 +1,20 @@
 # The colour picker, its dialogs, and the shaded tab control that carries them.
+set(colour_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/ColourModes.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/HueRing.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ShadeTriangle.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SwatchLayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ValueText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/WheelGeometry.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/WheelRaster.cpp)
+
 if(NOT WIN32)
+  add_library(ovoui_colour_core STATIC ${colour_core})
+  target_include_directories(ovoui_colour_core PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(ovoui_colour_core PUBLIC ovocor_core PRIVATE ovo_flags)
   return()
 endif()
 
 target_sources(ovoui PRIVATE
+  ${colour_core}
   ${CMAKE_CURRENT_LIST_DIR}/ShadedTabCtrl.cpp)
