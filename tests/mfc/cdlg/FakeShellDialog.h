@@ -1,0 +1,37 @@
+// A file dialog of the newer kind whose answers the test gives: for what no real one does on request.
+#pragma once
+
+#include "support/ImportPatch.h"
+
+#include <afxdlgs.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// While it lives, CFileDialog gets this dialog from the system. One at a time.
+class FakeShellDialog
+{
+public:
+    FakeShellDialog();
+    ~FakeShellDialog();
+    FakeShellDialog(const FakeShellDialog&) = delete;
+    FakeShellDialog& operator=(const FakeShellDialog&) = delete;
+
+    std::vector<std::wstring> results;                 ///< what the user accepts
+    HRESULT creation = S_OK;                           ///< what making the dialog gives
+    std::function<HRESULT(IFileDialogEvents&)> onShow; ///< instead of accepting the results
+
+    DWORD options = 0; ///< as they were set last
+    int references() const;
+    IFileDialog* dialog() const;
+    /// Offers the results as the user's OK does; whether they are taken.
+    HRESULT accept(IFileDialogEvents& events) const;
+
+private:
+    class Dialog;
+    static HRESULT WINAPI create(REFCLSID kind, LPUNKNOWN outer, DWORD context, REFIID iid, LPVOID* object);
+
+    Dialog* m_dialog;
+    ImportPatch m_patch;
+};

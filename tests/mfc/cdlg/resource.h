@@ -1,0 +1,5 @@
+#define IDD_CHILD 300
+#define IDD_OLD_STYLE 301
+#define IDC_CHECK 1101
+#define IDC_PUSH 1102
+#define IDC_WORDS 1103
