@@ -17,6 +17,7 @@
 #include <ovoui/lists/ListCellTips.h>
 #include <ovoui/lists/ListCopier.h>
 #include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/ListFinder.h>
 #include <ovoui/lists/ListLayout.h>
 #include <ovoui/lists/ListSorter.h>
 #include <ovoui/sysinfo/SystemInfoDlg.h>

@@ -4,11 +4,13 @@
 #include "Resolution.h"
 
 #include <ovocor/Colour.h>
+#include <ovoui/lists/ListFinder.h>
 
 #include <algorithm>
 
 BEGIN_MESSAGE_MAP(MillionList, COVOListCtrlEx)
     ON_NOTIFY_REFLECT(LVN_GETDISPINFO, &MillionList::OnGetDispInfo)
+    ON_NOTIFY_REFLECT(LVN_ODFINDITEM, &MillionList::OnFindItem)
 END_MESSAGE_MAP()
 
 namespace
@@ -62,4 +64,17 @@ void MillionList::OnGetDispInfo(NMHDR* header, LRESULT* result)
         ::lstrcpynW(item.pszText, textOf(item.iItem, item.iSubItem, rowColour(item.iItem)).c_str(),
                     item.cchTextMax);
     *result = 0;
+}
+
+/// Finds what is written in a row's first two columns.
+void MillionList::OnFindItem(NMHDR* header, LRESULT* result)
+{
+    const auto& wanted = *reinterpret_cast<NMLVFINDITEM*>(header);
+    const std::wstring part = wanted.lvfi.psz;
+    *result = -1;
+    for (int i = 0; i < kRows && *result == -1; ++i) {
+        const int row = (wanted.iStart + i) % kRows;
+        if (containsText(textOf(row, 0, 0), part) || containsText(textOf(row, 1, 0), part))
+            *result = row;
+    }
 }

@@ -16,5 +16,6 @@ public:
 protected:
     DWORD rowColour(int item) override;
     afx_msg void OnGetDispInfo(NMHDR* header, LRESULT* result);
+    afx_msg void OnFindItem(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
 };

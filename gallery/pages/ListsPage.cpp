@@ -3,16 +3,23 @@
 #include "model/ColourTable.h"
 #include "resource.h"
 
+#include <ovoui/lists/ListLayout.h>
+
 #include <array>
 
 BEGIN_MESSAGE_MAP(ListsPage, GalleryPage)
     ON_BN_CLICKED(IDC_LISTS_ROW_COLOURS, &ListsPage::OnRowColours)
+    ON_EN_CHANGE(IDC_LISTS_FILTER, &ListsPage::OnFilter)
+    ON_BN_CLICKED(IDC_LISTS_SAVE, &ListsPage::OnSaveLayout)
+    ON_BN_CLICKED(IDC_LISTS_RESTORE, &ListsPage::OnRestoreLayout)
 END_MESSAGE_MAP()
 
 namespace
 {
 
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS;
+constexpr const wchar_t* kSection = L"Lists";
+constexpr const wchar_t* kLayout = L"Colours";
 constexpr int kColumn = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT | LVCF_SUBITEM;
 
 /// "12 345 678"
@@ -72,6 +79,7 @@ BOOL ListsPage::OnInitDialog()
     if (m_million.create(*this)) {
         m_million.fill();
         replace(IDC_LISTS_MILLION, m_million);
+        m_millionFinder.Attach(m_million);
     }
     CheckDlgButton(IDC_LISTS_ROW_COLOURS, BST_CHECKED);
     arrange();
@@ -85,7 +93,10 @@ void ListsPage::arrange()
     stretch(IDC_LISTS_PROCESSES, {.moveX = 60, .growX = 40, .growY = 60});
     stretch(IDC_LISTS_MILLION_LABEL, {.moveY = 60});
     stretch(IDC_LISTS_MILLION, {.moveY = 60, .growX = 100, .growY = 40});
-    stretch(IDC_LISTS_ROW_COLOURS, {.moveY = 100});
+    stretch(IDC_LISTS_SAVE, {.moveX = 60});
+    stretch(IDC_LISTS_RESTORE, {.moveX = 60});
+    for (const int bottom : {IDC_LISTS_ROW_COLOURS, IDC_LISTS_FILTER_LABEL, IDC_LISTS_FILTER})
+        stretch(bottom, {.moveX = bottom == IDC_LISTS_ROW_COLOURS ? 0 : 100, .moveY = 100});
 }
 
 void ListsPage::createColours()
@@ -98,14 +109,28 @@ void ListsPage::createColours()
     m_colours.AddColumn(L"Opacity", 2, -1, false, kColumn, LVCFMT_RIGHT);
     m_colours.SetColumnWidth(0, scaled(110));
     m_colours.SetColumnWidth(1, scaled(110));
-    const std::vector<NamedColour> colours = namedColours();
-    for (int i = 0; i < static_cast<int>(colours.size()); ++i) {
-        const auto& [name, entry] = colours[static_cast<std::size_t>(i)];
-        m_colours.AddItem(i, 0, name, entry, -1);
-        m_colours.AddItem(i, 1, hexOf(entry), 0, -1);
-        m_colours.AddItem(i, 2, std::to_wstring((entry >> 24) * 100 / 255) + L" %", 0, -1);
-    }
+    fillColours(L"");
     replace(IDC_LISTS_COLOURS, m_colours);
+}
+
+/// The colours that have a part of a text in their names or numbers.
+void ListsPage::fillColours(const std::wstring& part)
+{
+    m_colours.SetRedraw(FALSE);
+    m_colours.DeleteAllItems();
+    int row = 0;
+    for (const auto& [name, entry] : namedColours()) {
+        const std::wstring opacity = std::to_wstring((entry >> 24) * 100 / 255) + L" %";
+        if (!containsText(name, part) && !containsText(hexOf(entry), part) && !containsText(opacity, part))
+            continue;
+        m_colours.AddItem(row, 0, name, entry, -1);
+        m_colours.AddItem(row, 1, hexOf(entry), 0, -1);
+        m_colours.AddItem(row++, 2, opacity, 0, -1);
+    }
+    m_colours.SetRedraw(TRUE);
+    if (m_colourSorter.Column() >= 0)
+        m_colourSorter.Sort(m_colourSorter.Column(), m_colourSorter.Ascending());
+    m_colours.EmphasiseText(part);
 }
 
 void ListsPage::createProcesses()
@@ -130,13 +155,15 @@ void ListsPage::createProcesses()
     replace(IDC_LISTS_PROCESSES, m_processes);
 }
 
-/// Clicks on headings sort, headings can be moved, Ctrl+C copies, and cut texts have tips.
+/// Clicks on headings sort, headings can be moved, typing finds, Ctrl+C copies, and cut texts have tips.
 void ListsPage::addHelpers()
 {
     m_colourSorter.Attach(m_colours);
     m_colourSorter.SetKind(2, COVOListSorter::Kind::Number);
     m_processSorter.Attach(m_processes);
     m_processSorter.SetKind(1, COVOListSorter::Kind::Number);
+    m_colourFinder.Attach(m_colours);
+    m_processFinder.Attach(m_processes);
     m_colourTips.Attach(m_colours);
     m_processTips.Attach(m_processes);
     m_colourCopier.Attach(m_colours, true);
@@ -177,11 +204,31 @@ void ListsPage::OnRowColours()
     m_million.Invalidate();
 }
 
+void ListsPage::OnFilter()
+{
+    CString part;
+    GetDlgItemText(IDC_LISTS_FILTER, part);
+    fillColours(part.GetString());
+}
+
+void ListsPage::OnSaveLayout()
+{
+    saveColumnLayout(m_colours, kSection, kLayout, &m_colourSorter);
+    log(L"the order, the widths and the sorting of the colours' columns are in the profile");
+}
+
+void ListsPage::OnRestoreLayout()
+{
+    log(restoreColumnLayout(m_colours, kSection, kLayout, &m_colourSorter)
+            ? L"the columns are as they were saved"
+            : L"no layout was saved");
+}
+
 // Pictures
 
 std::vector<std::wstring> ListsPage::poses() const
 {
-    return {L"selection", L"unfocused", L"shortened", L"alpha", L"sorted", L"empty"};
+    return {L"selection", L"unfocused", L"shortened", L"alpha", L"sorted", L"found", L"filtered", L"empty"};
 }
 
 bool ListsPage::pose(const std::wstring& name)
@@ -210,6 +257,14 @@ bool ListsPage::pose(const std::wstring& name)
         int order[] = {1, 0, 2};
         m_colours.SetColumnOrderArray(3, order);
         return m_colourSorter.Sort(0, true) && m_processSorter.Sort(1, false);
+    }
+    if (name == L"found") {
+        m_colours.SetFocus();
+        return m_colourFinder.Find(L"am") && m_processFinder.Find(L"pla") && m_millionFinder.Find(L"500");
+    }
+    if (name == L"filtered") {
+        SetDlgItemText(IDC_LISTS_FILTER, L"sky");
+        return true;
     }
     return name == L"empty" && m_colours.DeleteAllItems() && m_processes.DeleteAllItems();
 }

@@ -7,6 +7,7 @@
 #include <ovoui/lists/ListCellTips.h>
 #include <ovoui/lists/ListCopier.h>
 #include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/ListFinder.h>
 #include <ovoui/lists/ListSorter.h>
 
 class ListsPage : public GalleryPage
@@ -21,10 +22,14 @@ public:
 protected:
     BOOL OnInitDialog() override;
     afx_msg void OnRowColours();
+    afx_msg void OnFilter();
+    afx_msg void OnSaveLayout();
+    afx_msg void OnRestoreLayout();
     DECLARE_MESSAGE_MAP()
 
 private:
     void createColours();
+    void fillColours(const std::wstring& part);
     void createProcesses();
     void createStates();
     void addHelpers();
@@ -36,6 +41,9 @@ private:
     MillionList m_million;
     COVOListSorter m_colourSorter;
     COVOListSorter m_processSorter;
+    COVOListFinder m_colourFinder;
+    COVOListFinder m_processFinder;
+    COVOListFinder m_millionFinder;
     COVOListCellTips m_colourTips;
     COVOListCellTips m_processTips;
     COVOListCopier m_colourCopier;

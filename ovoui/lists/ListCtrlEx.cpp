@@ -1,6 +1,7 @@
 #include <ovoui/lists/ListCtrlEx.h>
 
 #include <ovoui/lists/Alive.h>
+#include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListRowPainter.h>
 #include <ovoui/lists/TextExtents.h>
 #include <ovoui/lists/core/ShortText.h>
@@ -147,7 +148,8 @@ LPCWSTR COVOListCtrlEx::MakeShortString(CDC* pDC, LPCWSTR text, int width, int o
 void COVOListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
     const int item = static_cast<int>(lpDrawItemStruct->itemID);
-    RowLook look{m_clientWidth, m_stateImageWidth, m_colourColumns, m_followsOrder, std::nullopt};
+    RowLook look{m_clientWidth,  m_stateImageWidth, m_colourColumns,
+                 m_followsOrder, m_emphasised,      std::nullopt};
     const HWND window = m_hWnd;
     if (m_useRowColours)
         look.colour = rowColour(item);
@@ -163,6 +165,13 @@ DWORD COVOListCtrlEx::rowColour(int item)
 void COVOListCtrlEx::FollowColumnOrder(bool follow)
 {
     m_followsOrder = follow;
+    if (m_hWnd)
+        Invalidate();
+}
+
+void COVOListCtrlEx::EmphasiseText(const std::wstring& text)
+{
+    m_emphasised = folded(text);
     if (m_hWnd)
         Invalidate();
 }

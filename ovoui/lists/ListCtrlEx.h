@@ -78,6 +78,10 @@ public:
     /// the list.
     void FollowColumnOrder(bool follow);
 
+    /// Every place where a cell shows this text, capitals and small letters alike, stands out from then on;
+    /// dots stand out when the text is in what was cut off. An empty text ends it. Repaints the list.
+    void EmphasiseText(const std::wstring& text);
+
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
@@ -109,4 +113,5 @@ private:
     std::vector<bool> m_colourColumns;
     std::map<int, DWORD> m_rowColours; ///< by item data
     bool m_followsOrder = false;
+    std::wstring m_emphasised; ///< in lower case
 };

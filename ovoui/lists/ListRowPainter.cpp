@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/lists/Alive.h>
+#include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListCtrlEx.h>
 #include <ovoui/lists/core/RowLayout.h>
 
@@ -188,9 +189,20 @@ void ListRowPainter::paintLabel(const frame::Box& label)
     paintStateImage();
     paintIcon();
     const frame::Box area = labelTextBox(label, m_look.stateImageWidth);
-    const LPCWSTR text = COVOListCtrlEx::MakeShortString(&m_dc, textOf(m_item), area.width(), kLabelOffset);
-    CRect place = toRect(textBox(area, kLabelInset));
-    m_dc.DrawText(text, -1, &place, kTextFormat);
+    const LPCWSTR text = textOf(m_item);
+    const LPCWSTR shown = COVOListCtrlEx::MakeShortString(&m_dc, text, area.width(), kLabelOffset);
+    drawText(text, shown, textBox(area, kLabelInset), DT_LEFT);
+}
+
+void ListRowPainter::drawText(LPCWSTR text, LPCWSTR shown, const frame::Box& box, UINT alignment)
+{
+    CRect place = toRect(box);
+    const std::vector<TextRange> places =
+        m_look.emphasised.empty() ? std::vector<TextRange>() : placesShown(m_look.emphasised, text, shown);
+    if (places.empty())
+        m_dc.DrawText(shown, -1, &place, kTextFormat | alignment);
+    else
+        drawEmphasised(m_dc, shown, place, alignment, places, EmphasisColours(looksSelected()));
 }
 
 void ListRowPainter::paintStateImage()
@@ -257,8 +269,7 @@ void ListRowPainter::paintSubItem(LPCWSTR text, const frame::Box& box, int forma
         readable.emplace(m_dc, m_colours.text);
         paintSwatch(box);
     }
-    CRect place = toRect(textBox(box, kCellInset));
-    m_dc.DrawText(shown, -1, &place, kTextFormat | alignment);
+    drawText(text, shown, textBox(box, kCellInset), alignment);
 }
 
 } // namespace ovoui::lists

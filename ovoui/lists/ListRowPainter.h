@@ -7,6 +7,7 @@
 #include <afxcmn.h>
 
 #include <optional>
+#include <string>
 #include <vector>
 
 class COVOListCtrlEx;
@@ -21,6 +22,7 @@ struct RowLook
     int stateImageWidth;
     const std::vector<bool>& colourColumns;
     bool followsOrder;                 ///< cells lie under their headings
+    const std::wstring& emphasised;    ///< folded; empty for none
     std::optional<ColourEntry> colour; ///< none when rows have no colours of their own
 };
 
@@ -48,6 +50,7 @@ private:
     void paintLabel(const frame::Box& label);
     void paintSubItems(const frame::Box& label);
     void paintSubItem(LPCWSTR text, const frame::Box& box, int format, bool isColour);
+    void drawText(LPCWSTR text, LPCWSTR shown, const frame::Box& box, UINT alignment);
 
     COVOListCtrlEx& m_list;
     const DRAWITEMSTRUCT& m_draw;

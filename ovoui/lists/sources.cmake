@@ -4,10 +4,12 @@ set(lists_core
   ${CMAKE_CURRENT_LIST_DIR}/core/ColumnLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ComboRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/EntryColours.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/FindRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/NumberText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/RowLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ShortText.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/core/TableText.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/core/TableText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/TextSearch.cpp)
 
 if(NOT WIN32)
   add_library(ovoui_lists_core STATIC ${lists_core})
@@ -21,9 +23,11 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ColourEntry.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboFunctions.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/EmphasisedText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCellTips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCopier.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCtrlEx.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListFinder.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListRowPainter.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListSorter.cpp

@@ -97,7 +97,7 @@ ModuleRecord recordOf(const MODULEENTRY32W& entry, const std::wstring& separator
     return record;
 }
 
-std::wstring without(const char* call)
+std::wstring without([[maybe_unused]] const char* call)
 {
     TRACE(L"%S failed: %s\n", call, formatMessage(::GetLastError()).c_str());
     return kNoList;

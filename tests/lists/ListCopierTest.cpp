@@ -96,8 +96,16 @@ TEST_F(ListCopying, ByKeysInAListThatIsAttached)
 
 TEST_F(ListCopying, TheListMayBeDestroyedBeforeTheCopier)
 {
+    scene.show();
     COVOListCopier copier;
     copier.Attach(scene.list, false);
     scene.list.DestroyWindow();
-    copier.Detach();
+    ListScene other;
+    other.fill({60}, 1);
+    other.show();
+    other.list.SetFocus();
+    other.list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+    copier.Attach(other.list, false); // leaves the list of before, which is gone
+    Robot().holding(VK_CONTROL).key('C');
+    EXPECT_EQ(clipboardText(), L"0.0\r\n");
 }

@@ -1,0 +1,236 @@
+#include <ovoui/lists/ListFinder.h>
+
+#include <ovoui/lists/Alive.h>
+#include <ovoui/lists/EmphasisedText.h>
+#include <ovoui/lists/RowData.h>
+#include <ovoui/lists/core/FindRules.h>
+
+#include <commctrl.h>
+
+using namespace ovoui::lists;
+
+namespace
+{
+
+constexpr wchar_t kBackspaceCharacter = 8;
+
+/// What else the user may do in a list that is being searched.
+bool goesElsewhere(UINT message, WPARAM wParam)
+{
+    switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_KILLFOCUS:
+        return true;
+    case WM_KEYDOWN:
+        return wParam >= VK_PRIOR && wParam <= VK_DOWN;
+    default:
+        return false;
+    }
+}
+
+bool asksForEscape(LPARAM lParam)
+{
+    const auto* const asked = reinterpret_cast<const MSG*>(lParam);
+    return asked && asked->message == WM_KEYDOWN && asked->wParam == VK_ESCAPE;
+}
+
+bool hasText(const COVOListCtrlEx& list, int row, int columns, const std::wstring& foldedText)
+{
+    CellText reader;
+    for (int column = 0; column < columns; ++column)
+        if (folded(reader(list, row, column)).find(foldedText) != std::wstring::npos)
+            return true;
+    return false;
+}
+
+/// Asks the parent, since the list knows none of its rows.
+int askedRow(const COVOListCtrlEx& list, const std::wstring& text, int focused, Search how)
+{
+    if (how == Search::Previous)
+        return -1;
+    const int count = list.GetItemCount();
+    NMLVFINDITEM wanted{};
+    wanted.hdr = {list.m_hWnd, static_cast<UINT_PTR>(list.GetDlgCtrlID()), static_cast<UINT>(LVN_ODFINDITEM)};
+    wanted.iStart = how == Search::Next && focused + 1 < count ? focused + 1 : 0;
+    if (how == Search::FromHere && focused > 0)
+        wanted.iStart = focused;
+    wanted.lvfi.flags = LVFI_STRING | LVFI_PARTIAL | LVFI_WRAP;
+    wanted.lvfi.psz = text.c_str();
+    const HWND parent = ::GetParent(list);
+    const auto row = static_cast<int>(
+        ::SendMessageW(parent, WM_NOTIFY, wanted.hdr.idFrom, reinterpret_cast<LPARAM>(&wanted)));
+    return row < count ? row : -1;
+}
+
+} // namespace
+
+bool containsText(const std::wstring& text, const std::wstring& part)
+{
+    return folded(text).find(folded(part)) != std::wstring::npos;
+}
+
+COVOListFinder::COVOListFinder()
+    : m_state(std::make_unique<FindState>())
+{
+}
+
+COVOListFinder::~COVOListFinder()
+{
+    Detach();
+}
+
+void COVOListFinder::Attach(COVOListCtrlEx& list)
+{
+    Detach();
+    m_list = &list;
+    m_window = list.m_hWnd;
+    ::SetWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this),
+                        reinterpret_cast<DWORD_PTR>(this));
+}
+
+void COVOListFinder::Detach()
+{
+    if (m_window) {
+        ::RemoveWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this));
+        if (isAlive(m_list, m_window))
+            keep({});
+    }
+    *m_state = {};
+    m_list = nullptr;
+    m_window = nullptr;
+}
+
+const std::wstring& COVOListFinder::Text() const
+{
+    return m_state->text;
+}
+
+// Keys
+
+LRESULT CALLBACK COVOListFinder::listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                               UINT_PTR, DWORD_PTR finder)
+{
+    auto* const self = reinterpret_cast<COVOListFinder*>(finder);
+    if (message == WM_NCDESTROY) {
+        self->Detach();
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    }
+    if (message == WM_GETDLGCODE && !self->Text().empty() && asksForEscape(lParam))
+        return DLGC_WANTALLKEYS;
+    if (self->takes(message, wParam))
+        return 0;
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+bool COVOListFinder::takes(UINT message, WPARAM wParam)
+{
+    if (message == WM_KEYDOWN && wParam == VK_SPACE) // what the list does with it happens here
+        return spaceIsText();
+    if (message == WM_CHAR && wParam == L' ' && ::GetKeyState(VK_CONTROL) < 0)
+        return false;
+    if (message == WM_CHAR)
+        return wParam == kBackspaceCharacter ? key(FindKey::Backspace, 0)
+                                             : key(FindKey::Character, static_cast<wchar_t>(wParam));
+    if (message == WM_KEYDOWN && wParam == VK_ESCAPE)
+        return key(FindKey::Escape, 0);
+    if (message == WM_KEYDOWN && wParam == VK_F3)
+        return key(::GetKeyState(VK_SHIFT) < 0 ? FindKey::Previous : FindKey::Next, 0);
+    return goesElsewhere(message, wParam) && key(FindKey::Elsewhere, 0);
+}
+
+bool COVOListFinder::spaceIsText() const
+{
+    return ::GetKeyState(VK_CONTROL) >= 0 && afterFindKey(*m_state, FindKey::Character, L' ').taken;
+}
+
+/// Whether the key is taken.
+bool COVOListFinder::key(FindKey key, wchar_t character)
+{
+    const FindEffect effect = afterFindKey(*m_state, key, character);
+    if (effect.search == Search::None) {
+        keep(effect.state);
+        return effect.taken;
+    }
+    const std::weak_ptr<const bool> alive = m_alive;
+    const HWND window = m_window;
+    if (!search(effect.state, effect.search) && !alive.expired() && m_window == window)
+        ::MessageBeep(MB_OK);
+    return effect.taken;
+}
+
+// Searching
+
+bool COVOListFinder::Find(const std::wstring& text)
+{
+    if (!text.empty())
+        return m_list && search({text, false}, Search::FromHere);
+    if (m_list)
+        keep({});
+    return m_list != nullptr;
+}
+
+bool COVOListFinder::FindNext(bool forward)
+{
+    return m_list && !m_state->text.empty() &&
+           search(FindState(*m_state), forward ? Search::Next : Search::Previous);
+}
+
+/// The host may be asked for texts and for the row, and hears of the selection: list and finder may be gone
+/// after each of these.
+bool COVOListFinder::search(const FindState& state, Search how)
+{
+    const std::weak_ptr<const bool> alive = m_alive;
+    COVOListCtrlEx& list = *m_list;
+    const HWND window = m_window;
+    const int row = rowWith(state.text, how);
+    if (row < 0 || alive.expired() || m_window != window || !isAlive(&list, window))
+        return false;
+    keep(state);
+    return goTo(row);
+}
+
+int COVOListFinder::rowWith(const std::wstring& text, Search how) const
+{
+    COVOListCtrlEx& list = *m_list;
+    const int focused = list.GetNextItem(-1, LVNI_FOCUSED);
+    if (list.GetStyle() & LVS_OWNERDATA)
+        return askedRow(list, text, focused, how);
+    const HWND window = m_window;
+    const std::wstring part = folded(text);
+    const CHeaderCtrl* const header = list.GetHeaderCtrl();
+    const int columns = header ? header->GetItemCount() : 1;
+    const int count = list.GetItemCount();
+    return findRow(count, focused, how, [&](int row) {
+        const bool found = hasText(list, row, columns, part);
+        if (!isAlive(&list, window) || list.GetItemCount() != count)
+            return Look::Stop;
+        return found ? Look::Yes : Look::No;
+    });
+}
+
+void COVOListFinder::keep(const FindState& state)
+{
+    const bool otherText = state.text != m_state->text;
+    *m_state = state;
+    if (otherText)
+        m_list->EmphasiseText(state.text);
+}
+
+/// Makes the row the only selected one.
+bool COVOListFinder::goTo(int row)
+{
+    COVOListCtrlEx& list = *m_list;
+    const HWND window = m_window;
+    for (int item = -1; (item = list.GetNextItem(item, LVNI_SELECTED)) != -1;) {
+        if (item != row)
+            list.SetItemState(item, 0, LVIS_SELECTED);
+        if (!isAlive(&list, window))
+            return false;
+    }
+    list.SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    if (!isAlive(&list, window))
+        return false;
+    list.SetSelectionMark(row);
+    return list.EnsureVisible(row, FALSE) != FALSE;
+}

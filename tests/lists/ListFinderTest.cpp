@@ -1,0 +1,326 @@
+// Finding rows by typing.
+#include "ListScene.h"
+
+#include <ovoui/lists/ListFinder.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
+
+using namespace ovotest;
+
+namespace
+{
+
+using Rows = std::vector<int>;
+
+class ListFinding : public ::testing::Test
+{
+protected:
+    ListFinding()
+    {
+        scene.addColumn(L"name", 120);
+        scene.addColumn(L"place", 120);
+        add(L"Apple", L"garden");
+        add(L"Banana", L"kitchen");
+        add(L"Carrot", L"Garage");
+        add(L"Date", L"desert");
+        add(L"Grape", L"hill");
+        scene.show();
+        scene.list.SetFocus();
+        finder.Attach(scene.list);
+    }
+
+    void add(const wchar_t* name, const wchar_t* place)
+    {
+        const int row = scene.list.GetItemCount();
+        scene.list.AddItem(row, 0, name, 0, -1);
+        scene.list.AddItem(row, 1, place, 0, -1);
+    }
+
+    Rows selected()
+    {
+        Rows rows;
+        for (int row = -1; (row = scene.list.GetNextItem(row, LVNI_SELECTED)) != -1;)
+            rows.push_back(row);
+        return rows;
+    }
+
+    int focused() { return scene.list.GetNextItem(-1, LVNI_FOCUSED); }
+
+    bool emphasises()
+    {
+        scene.list.RedrawWindow();
+        const CRect row = scene.itemRect(selected() == Rows{0} ? 2 : 0);
+        return Picture::ofClient(scene.list).count(::GetSysColor(COLOR_HIGHLIGHT), 0, row) > 0;
+    }
+
+    ListScene scene;
+    COVOListFinder finder;
+    Robot robot;
+};
+
+} // namespace
+
+TEST_F(ListFinding, InAnyColumnWhateverTheCase)
+{
+    robot.type(L"gar");
+    EXPECT_EQ(finder.Text(), L"gar");
+    EXPECT_EQ(selected(), Rows{0}) << "the first row has it";
+    robot.type(L"a");
+    EXPECT_EQ(selected(), Rows{2}) << "Garage";
+    EXPECT_EQ(focused(), 2);
+    EXPECT_EQ(scene.list.GetSelectionMark(), 2);
+}
+
+TEST_F(ListFinding, WhatIsFoundStandsOut)
+{
+    EXPECT_FALSE(emphasises());
+    robot.type(L"gar");
+    EXPECT_TRUE(emphasises());
+    robot.key(VK_ESCAPE);
+    EXPECT_FALSE(emphasises());
+    EXPECT_EQ(finder.Text(), L"");
+    EXPECT_EQ(selected(), Rows{0}) << "the row stays selected";
+}
+
+TEST_F(ListFinding, FromTheFocusedRowOnAndRound)
+{
+    scene.list.SetItemState(3, LVIS_FOCUSED | LVIS_SELECTED, LVIS_FOCUSED | LVIS_SELECTED);
+    robot.type(L"ap");
+    EXPECT_EQ(selected(), Rows{4}) << "Grape comes before Apple";
+    robot.key(VK_F3);
+    EXPECT_EQ(selected(), Rows{0});
+    robot.key(VK_F3);
+    EXPECT_EQ(selected(), Rows{4});
+    robot.holding(VK_SHIFT).key(VK_F3);
+    EXPECT_EQ(selected(), Rows{0});
+}
+
+TEST_F(ListFinding, ACharacterWithWhichNothingIsFoundIsLeftOut)
+{
+    robot.type(L"gax");
+    EXPECT_EQ(finder.Text(), L"ga");
+    EXPECT_EQ(selected(), Rows{0});
+    robot.type(L"rag");
+    EXPECT_EQ(finder.Text(), L"garag");
+    EXPECT_EQ(selected(), Rows{2});
+}
+
+TEST_F(ListFinding, BackspaceTakesTheLastCharacterBack)
+{
+    robot.type(L"ban").key(VK_BACK);
+    EXPECT_EQ(finder.Text(), L"ba");
+    EXPECT_EQ(selected(), Rows{1});
+    robot.key(VK_BACK, 2);
+    EXPECT_EQ(finder.Text(), L"");
+    EXPECT_FALSE(emphasises());
+}
+
+TEST_F(ListFinding, AStepElsewhereBeginsAnotherText)
+{
+    robot.type(L"gar").key(VK_DOWN);
+    EXPECT_EQ(finder.Text(), L"gar") << "what was found still stands out";
+    robot.type(L"d");
+    EXPECT_EQ(finder.Text(), L"d");
+    robot.click(Spot{scene.list, scene.cell(0, 1).CenterPoint()}).type(L"h");
+    EXPECT_EQ(finder.Text(), L"h");
+    scene.button.SetFocus();
+    scene.list.SetFocus();
+    robot.type(L"k");
+    EXPECT_EQ(finder.Text(), L"k");
+    EXPECT_EQ(selected(), Rows{1});
+}
+
+TEST_F(ListFinding, ASpaceBelongsToATextThatHasBegun)
+{
+    add(L"Fig tree", L"yard");
+    robot.type(L"fig tr");
+    EXPECT_EQ(finder.Text(), L"fig tr");
+    EXPECT_EQ(selected(), Rows{5});
+}
+
+TEST_F(ListFinding, ASpaceThatBeginsATextSelects)
+{
+    scene.list.SetItemState(2, LVIS_FOCUSED, LVIS_FOCUSED);
+    robot.key(VK_SPACE);
+    EXPECT_EQ(finder.Text(), L"");
+    EXPECT_EQ(selected(), Rows{2});
+    robot.type(L"gar").holding(VK_CONTROL).key(VK_SPACE);
+    EXPECT_EQ(finder.Text(), L"gar");
+    EXPECT_EQ(selected(), Rows{}) << "the platform deselects the row";
+}
+
+TEST_F(ListFinding, OneRowIsSelectedAfterwards)
+{
+    for (const int row : {0, 1, 3})
+        scene.list.SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+    robot.type(L"hill");
+    EXPECT_EQ(selected(), Rows{4});
+}
+
+TEST_F(ListFinding, TheRowIsScrolledIntoView)
+{
+    for (int i = 0; i < 60; ++i)
+        add(L"row", L"far");
+    add(L"the last one", L"");
+    robot.type(L"last");
+    EXPECT_EQ(selected(), Rows{65});
+    CRect client;
+    scene.list.GetClientRect(&client);
+    EXPECT_LE(scene.itemRect(65).bottom, client.bottom);
+}
+
+TEST_F(ListFinding, ByCallsOfTheHost)
+{
+    EXPECT_FALSE(finder.FindNext(true)) << "nothing is looked for";
+    EXPECT_TRUE(finder.Find(L"GAR"));
+    EXPECT_EQ(selected(), Rows{0});
+    EXPECT_TRUE(finder.FindNext(true));
+    EXPECT_EQ(selected(), Rows{2});
+    EXPECT_TRUE(finder.FindNext(false));
+    EXPECT_EQ(selected(), Rows{0});
+    EXPECT_FALSE(finder.Find(L"nowhere"));
+    EXPECT_EQ(finder.Text(), L"GAR") << "the search of before goes on";
+    EXPECT_TRUE(finder.Find(L""));
+    EXPECT_EQ(finder.Text(), L"");
+    EXPECT_FALSE(emphasises());
+}
+
+TEST_F(ListFinding, WithoutTheHelperLettersGoToThePlatform)
+{
+    finder.Detach();
+    robot.type(L"hill");
+    EXPECT_EQ(selected(), Rows{}) << "no row's label begins so";
+    EXPECT_FALSE(finder.Find(L"hill"));
+}
+
+TEST_F(ListFinding, DetachingEndsTheSearch)
+{
+    robot.type(L"gar");
+    finder.Detach();
+    EXPECT_FALSE(emphasises());
+    EXPECT_EQ(finder.Text(), L"");
+}
+
+TEST_F(ListFinding, EscapeIsWantedWhileSearchingOnly)
+{
+    MSG escape{scene.list, WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
+    const auto wants = [&] {
+        return (scene.list.SendMessage(WM_GETDLGCODE, VK_ESCAPE, reinterpret_cast<LPARAM>(&escape)) &
+                DLGC_WANTALLKEYS) != 0;
+    };
+    EXPECT_FALSE(wants());
+    robot.type(L"gar");
+    EXPECT_TRUE(wants());
+    robot.key(VK_ESCAPE);
+    EXPECT_FALSE(wants());
+}
+
+TEST_F(ListFinding, AListWithoutStorageAsksItsParent)
+{
+    List stored;
+    stored.Create(WS_CHILD | WS_VISIBLE | LVS_OWNERDATA, CRect(0, 0, 90, 90), &scene.parent, 40);
+    stored.AddColumn(L"c", 0, -1, false, LVCF_TEXT | LVCF_WIDTH, 0);
+    stored.SetItemCountEx(1000);
+    std::wstring asked;
+    int start = -1;
+    scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), [&](NMHDR* header) -> LRESULT {
+        const auto& find = *reinterpret_cast<NMLVFINDITEM*>(header);
+        asked = find.lvfi.psz;
+        start = find.iStart;
+        return 700;
+    });
+    finder.Attach(stored);
+    EXPECT_TRUE(finder.Find(L"seven"));
+    EXPECT_EQ(asked, L"seven");
+    EXPECT_EQ(start, 0);
+    EXPECT_EQ(stored.GetCurSel(), 700);
+    EXPECT_TRUE(finder.FindNext(true));
+    EXPECT_EQ(start, 701);
+    scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), 5000);
+    EXPECT_FALSE(finder.FindNext(true)) << "no such row";
+    EXPECT_FALSE(finder.FindNext(false)) << "the platform has no search backwards";
+    scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), -1);
+    EXPECT_FALSE(finder.Find(L"eight"));
+}
+
+TEST_F(ListFinding, TheListMayBeDestroyedFirst)
+{
+    robot.type(L"gar");
+    scene.list.DestroyWindow();
+    EXPECT_EQ(finder.Text(), L"");
+    EXPECT_FALSE(finder.Find(L"gar"));
+    EXPECT_FALSE(finder.FindNext(true));
+}
+
+// What hosts may do when they are asked for a text, or hear of the selection.
+
+struct Misdeed
+{
+    const char* name;
+    std::function<void(ListScene&, std::unique_ptr<COVOListFinder>&)> deed;
+};
+
+class ListFindingWithAHost : public ::testing::TestWithParam<Misdeed>
+{
+};
+
+TEST_P(ListFindingWithAHost, ThatDoesAnythingInACall)
+{
+    for (const UINT code : {static_cast<UINT>(LVN_GETDISPINFO), static_cast<UINT>(LVN_ITEMCHANGED)}) {
+        ListScene scene;
+        scene.addColumn(L"c", 100);
+        for (int row = 0; row < 4; ++row) {
+            LVITEM item{};
+            item.mask = LVIF_TEXT;
+            item.iItem = row;
+            item.pszText = LPSTR_TEXTCALLBACK;
+            scene.list.InsertItem(&item);
+        }
+        for (const int row : {0, 1, 3})
+            scene.list.SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+        scene.list.SetItemState(0, LVIS_FOCUSED, LVIS_FOCUSED);
+        auto finder = std::make_unique<COVOListFinder>();
+        finder->Attach(scene.list);
+        const auto give = [](NMHDR* header) -> LRESULT {
+            LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(header)->item;
+            if (item.mask & LVIF_TEXT)
+                ::lstrcpynW(item.pszText, item.iItem == 2 ? L"wanted" : L"other", item.cchTextMax);
+            return 0;
+        };
+        bool done = false;
+        scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), give);
+        scene.parent.answer(code, [&](NMHDR* header) -> LRESULT {
+            if (header->code == static_cast<UINT>(LVN_GETDISPINFO))
+                give(header);
+            if (!std::exchange(done, true))
+                GetParam().deed(scene, finder);
+            return 0;
+        });
+        try {
+            COVOListFinder& called = *finder;
+            called.Find(L"want");
+        } catch (const std::runtime_error&) {
+        }
+        EXPECT_TRUE(done) << "the host was called";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Misdeeds, ListFindingWithAHost,
+    ::testing::Values(
+        Misdeed{"nothing", [](ListScene&, auto&) {}},
+        Misdeed{"deletes a row", [](ListScene& scene, auto&) { scene.list.DeleteItem(0); }},
+        Misdeed{"empties the list", [](ListScene& scene, auto&) { scene.list.DeleteAllItems(); }},
+        Misdeed{"detaches", [](ListScene&, auto& finder) { finder->Detach(); }},
+        Misdeed{"destroys the finder", [](ListScene&, auto& finder) { finder.reset(); }},
+        Misdeed{"destroys the list", [](ListScene& scene, auto&) { scene.list.DestroyWindow(); }},
+        Misdeed{"destroys both",
+                [](ListScene& scene, auto& finder) {
+                    finder.reset();
+                    scene.list.DestroyWindow();
+                }},
+        Misdeed{"finds something else", [](ListScene&, auto& finder) { finder->Find(L"other"); }},
+        Misdeed{"throws", [](ListScene&, auto&) { throw std::runtime_error("host"); }}));
