@@ -1,6 +1,7 @@
 #include <ovocor/Download.h>
 
 #include <ovocor/CacheFile.h>
+#include <ovocor/ControlledRequest.h>
 #include <ovocor/Text.h>
 #include <ovocor/Url.h>
 #include <ovocor/WinError.h>
@@ -59,8 +60,9 @@ const wchar_t* orNull(const std::wstring& text)
 
 } // namespace
 
-Download::Download(const std::wstring& url)
+Download::Download(const std::wstring& url, DownloadControl& control)
     : m_inet(WinInet::get())
+    , m_control(control)
     , m_url(url)
     , m_canonical(canonicalizeUrl(url))
 {
@@ -101,8 +103,9 @@ std::wstring Download::run()
     const InternetHandle connection(
         checked(m_inet.connect(session.get(), m_host.c_str(), m_port, orNull(m_user), orNull(m_password),
                                INTERNET_SERVICE_HTTP, 0, 0)));
-    const InternetHandle request(checked(m_inet.openRequest(connection.get(), nullptr, m_object.c_str(),
-                                                            nullptr, nullptr, nullptr, requestFlags(), 0)));
+    ControlledRequest request(checked(m_inet.openRequest(connection.get(), nullptr, m_object.c_str(), nullptr,
+                                                         nullptr, nullptr, requestFlags(), 0)),
+                              m_control);
     limitWaiting(request.get());
     if (!m_inet.sendRequest(request.get(), nullptr, 0, nullptr, 0))
         failWith(::GetLastError());
@@ -110,9 +113,11 @@ std::wstring Download::run()
 
     const std::optional<std::uint64_t> announced = announcedSize(request.get());
     CacheFile file(m_url);
-    const std::uint64_t size = copy(request.get(), file);
+    request.expect(announced.value_or(0));
+    const std::uint64_t size = copy(request, file);
     if (announced && size != *announced)
-        fail(stringPrintf(L"the connection was closed after %I64u of %I64u bytes. Try again.", size, *announced));
+        fail(stringPrintf(L"the connection was closed after %I64u of %I64u bytes. Try again.", size,
+                          *announced));
     file.commit();
     return file.path();
 }
@@ -162,18 +167,21 @@ std::optional<std::uint64_t> Download::announcedSize(HINTERNET request) const
     return std::wcstoull(digits, nullptr, 10);
 }
 
-std::uint64_t Download::copy(HINTERNET request, CacheFile& file) const
+std::uint64_t Download::copy(ControlledRequest& request, CacheFile& file) const
 {
     std::vector<char> piece(kPiece);
     std::uint64_t total = 0;
     while (true) {
         DWORD got = 0;
-        if (!m_inet.readFile(request, piece.data(), static_cast<DWORD>(piece.size()), &got))
+        if (!m_inet.readFile(request.get(), piece.data(), static_cast<DWORD>(piece.size()), &got))
             failWith(::GetLastError());
+        if (got == 0 && m_control.cancelled())
+            throw DownloadCancelled();
         if (got == 0)
             return total;
         file.write(piece.data(), got);
         total += got;
+        request.receive(total);
     }
 }
 
@@ -191,6 +199,8 @@ void Download::fail(const std::wstring& cause) const
 
 void Download::failWith(DWORD code) const
 {
+    if (m_control.cancelled())
+        throw DownloadCancelled();
     fail(causeOf(code));
 }
 

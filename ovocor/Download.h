@@ -1,6 +1,7 @@
 /// Not exported. One download into the system's URL cache.
 #pragma once
 
+#include <ovocor/DownloadControl.h>
 #include <ovocor/WinInet.h>
 
 #include <cstdint>
@@ -11,12 +12,15 @@ namespace OVO
 {
 
 class CacheFile;
+class ControlledRequest;
 
-/// Fetches one address. Every failure is an OvoError that names the address, the cause and a remedy.
+/// Fetches one address. Every failure is an OvoError that names the address, the cause and a remedy, or
+/// DownloadCancelled.
 class Download
 {
 public:
-    explicit Download(const std::wstring& url);
+    /// The control is borrowed.
+    Download(const std::wstring& url, DownloadControl& control);
 
     /// Gives the full name of the local file.
     std::wstring run();
@@ -27,7 +31,7 @@ private:
     void limitWaiting(HINTERNET request) const;
     void checkAnswer(HINTERNET request) const;
     std::optional<std::uint64_t> announcedSize(HINTERNET request) const;
-    std::uint64_t copy(HINTERNET request, CacheFile& file) const;
+    std::uint64_t copy(ControlledRequest& request, CacheFile& file) const;
 
     HINTERNET checked(HINTERNET handle) const;
     [[noreturn]] void fail(const std::wstring& cause) const;
@@ -35,6 +39,7 @@ private:
     std::wstring causeOf(DWORD code) const;
 
     const WinInet& m_inet;
+    DownloadControl& m_control;
     std::wstring m_url;
     std::wstring m_canonical;
     bool m_secure = false;

@@ -26,5 +26,11 @@ std::wstring canonicalizeUrl(const std::wstring& url)
 
 std::wstring downloadUrlToCache(const std::wstring& url)
 {
-    return OVO::Download(url).run();
+    DownloadControl alone;
+    return downloadUrlToCache(url, alone);
+}
+
+std::wstring downloadUrlToCache(const std::wstring& url, DownloadControl& control)
+{
+    return OVO::Download(url, control).run();
 }

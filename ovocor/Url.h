@@ -1,6 +1,7 @@
 /// Web addresses and downloads.
 #pragma once
 
+#include <ovocor/DownloadControl.h>
 #include <ovocor/export.h>
 
 #include <string>
@@ -18,3 +19,7 @@ OVOCOR_API std::wstring canonicalizeUrl(const std::wstring& url);
 /// (30 seconds for each step), it answers with an error, the connection ends before all of the announced size
 /// has come, the disk is full. Then nothing new is kept; a file of an earlier download stays.
 OVOCOR_API std::wstring downloadUrlToCache(const std::wstring& url);
+
+/// The same on a thread of the caller's choice, watched and ended with `control`. Throws DownloadCancelled
+/// when that ends it.
+OVOCOR_API std::wstring downloadUrlToCache(const std::wstring& url, DownloadControl& control);

@@ -4,6 +4,7 @@
 #include <ovocor/Angle.h>
 #include <ovocor/Colour.h>
 #include <ovocor/CsvParser.h>
+#include <ovocor/DownloadControl.h>
 #include <ovocor/EventList.h>
 #include <ovocor/Handle.h>
 #include <ovocor/IntCast.h>

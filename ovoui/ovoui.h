@@ -20,6 +20,9 @@
 #include <ovoui/lists/ListFinder.h>
 #include <ovoui/lists/ListLayout.h>
 #include <ovoui/lists/ListSorter.h>
+#include <ovoui/sysinfo/LoadedModules.h>
+#include <ovoui/sysinfo/MachineInfo.h>
+#include <ovoui/sysinfo/ModuleListDlg.h>
 #include <ovoui/sysinfo/SystemInfoDlg.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/VantorToolBar.h>
@@ -35,4 +38,8 @@
 #include <ovoui/tree/PlainText.h>
 #include <ovoui/version.h>
 #include <ovoui/update/BrowseUrl.h>
+#include <ovoui/update/PoliteCheck.h>
 #include <ovoui/update/UpdateCheck.h>
+#include <ovoui/update/UpdateJob.h>
+#include <ovoui/update/UpdateMemory.h>
+#include <ovoui/update/UpdateTrust.h>

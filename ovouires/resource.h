@@ -1,9 +1,13 @@
-// Every number in the resource module, sorted within its block. Hosts know these numbers: none is ever changed.
+// Every number in the resource module, sorted within its block. Hosts know these numbers: none is ever
+// changed.
 #pragma once
 
-// Commands of the tree: 1001 to 5999
+// Commands of the tree and of the module list: 1001 to 5999
 #define ID_DROP_COPY 1191
 #define ID_DROP_LINK 1194
+#define ID_MODULES_COPY_TEXT 1521
+#define ID_MODULES_COPY_MARKDOWN 1522
+#define ID_MODULES_COPY_JSON 1523
 #define ID_TREE_DELETE 5146
 #define ID_TREE_REDRAW 5234
 #define ID_TREE_RENAME 5598
@@ -13,6 +17,8 @@
 #define IDD_MESSAGE_BOX 1505
 #define IDD_SYSTEM_INFO 1506
 #define IDD_UPDATE_AVAILABLE 1507
+#define IDD_MODULE_LIST 1531
+#define IDD_UPDATE_OFFER 1532
 
 // Bitmaps: 6001 to 6099
 #define IDB_TOOLBAR_16 6001
@@ -39,6 +45,7 @@
 // Menus and accelerator tables: 7401 to 7499
 #define IDR_TREE_ACCELERATORS 7471
 #define IDR_DROP_MENU 7472
+#define IDR_MODULES_COPY_MENU 7481
 
 // Strings: 20100 to 20199
 #define IDS_BUTTON_ABORT 20100
@@ -77,3 +84,10 @@
 #define IDC_POPUP_SLIDER 20505
 #define IDC_MESSAGE_TEXT 20507
 #define IDC_UPDATE_TEXT 20508
+#define IDC_UPDATE_LATER 20531
+#define IDC_UPDATE_SKIP 20532
+#define IDC_MODULES_FILTER 20541
+#define IDC_MODULES_LIST 20542
+#define IDC_MODULES_COUNT 20543
+#define IDC_MODULES_REFRESH 20544
+#define IDC_MODULES_COPY 20545

@@ -1,9 +1,12 @@
 #include <ovoui/sysinfo/ModuleReader.h>
 
+#include <ovoui/sysinfo/LoadedModules.h>
 #include <ovoui/sysinfo/VersionRecord.h>
-#include <ovoui/sysinfo/core/ModuleRecord.h>
+#include <ovoui/sysinfo/core/ModuleText.h>
+#include <ovoui/sysinfo/core/ModuleView.h>
 #include <ovoui/sysinfo/core/VersionWords.h>
 
+#include <ovocor/Text.h>
 #include <ovocor/WinError.h>
 
 #include <afx.h>
@@ -21,7 +24,6 @@ namespace
 {
 
 constexpr wchar_t kNoList[] = L"Cannot get loaded module list";
-constexpr wchar_t kLineEnd[] = L"\r\n";
 
 /// The modules of this process at one moment.
 class ModuleSnapshot
@@ -31,19 +33,19 @@ public:
         : m_handle(
               ::CreateToolhelp32Snapshot(TH32CS_SNAPMODULE | TH32CS_SNAPMODULE32, ::GetCurrentProcessId()))
     {
+        if (m_handle == INVALID_HANDLE_VALUE)
+            throw WinError(L"CreateToolhelp32Snapshot failed", ::GetLastError());
     }
-    ~ModuleSnapshot()
-    {
-        if (valid())
-            ::CloseHandle(m_handle);
-    }
+    ~ModuleSnapshot() { ::CloseHandle(m_handle); }
     ModuleSnapshot(const ModuleSnapshot&) = delete;
     ModuleSnapshot& operator=(const ModuleSnapshot&) = delete;
 
-    bool valid() const { return m_handle != INVALID_HANDLE_VALUE; }
-
     /// Puts the first or next module into `entry`.
-    bool first(MODULEENTRY32W& entry) const { return ::Module32FirstW(m_handle, &entry) != FALSE; }
+    void first(MODULEENTRY32W& entry) const
+    {
+        if (!::Module32FirstW(m_handle, &entry))
+            throw WinError(L"Module32First failed", ::GetLastError());
+    }
     bool next(MODULEENTRY32W& entry) const { return ::Module32NextW(m_handle, &entry) != FALSE; }
 
 private:
@@ -69,58 +71,102 @@ std::wstring linkTimeOf(HMODULE module)
     return text;
 }
 
-void readVersion(ModuleRecord& record, const std::wstring& separator)
+std::wstring folderFrom(UINT(WINAPI* get)(LPWSTR, UINT))
 {
-    const VersionRecord version(record.path.c_str());
-    if (version.empty())
-        return;
-    if (const VS_FIXEDFILEINFO* const info = version.fixedInfo()) {
-        record.fileVersion = versionText(info->dwFileVersionMS, info->dwFileVersionLS);
-        record.productVersion = versionText(info->dwProductVersionMS, info->dwProductVersionLS);
-        record.flags = flagWords(info->dwFileFlags & info->dwFileFlagsMask, separator);
-        record.system = systemWords(info->dwFileOS, separator);
-        record.type = typeWords(info->dwFileType, info->dwFileSubtype);
+    wchar_t path[MAX_PATH]{};
+    return get(path, MAX_PATH) < MAX_PATH ? path : L"";
+}
+
+/// What all modules of one list are described with.
+class ModuleDescriber
+{
+public:
+    LoadedModule describe(const MODULEENTRY32W& entry) const
+    {
+        LoadedModule module;
+        module.name = entry.szModule;
+        module.path = entry.szExePath;
+        module.hasAddress = true;
+        module.baseAddress = reinterpret_cast<std::uintptr_t>(entry.modBaseAddr);
+        module.size = entry.modBaseSize;
+        module.linkTime = linkTimeOf(entry.hModule);
+        module.place = placeOf(module.path, m_programFolder, m_systemFolders);
+        readVersion(module);
+        return module;
     }
-    record.fileDescription = version.descriptions();
-}
 
-ModuleRecord recordOf(const MODULEENTRY32W& entry, const std::wstring& separator)
-{
-    ModuleRecord record;
-    record.name = entry.szModule;
-    record.path = entry.szExePath;
-    record.hasAddress = true;
-    record.baseAddress = reinterpret_cast<std::uintptr_t>(entry.modBaseAddr);
-    record.size = entry.modBaseSize;
-    record.linkTime = linkTimeOf(entry.hModule);
-    readVersion(record, separator);
-    return record;
-}
+private:
+    void readVersion(LoadedModule& module) const
+    {
+        const VersionRecord version(module.path.c_str());
+        if (version.empty())
+            return;
+        module.hasVersionRecord = true;
+        if (const VS_FIXEDFILEINFO* const info = version.fixedInfo()) {
+            module.fileVersion = versionText(info->dwFileVersionMS, info->dwFileVersionLS);
+            module.productVersion = versionText(info->dwProductVersionMS, info->dwProductVersionLS);
+            module.flags = flagWords(info->dwFileFlags & info->dwFileFlagsMask, m_separator);
+            module.system = systemWords(info->dwFileOS, m_separator);
+            module.type = typeWords(info->dwFileType, info->dwFileSubtype);
+        }
+        module.fileDescription = version.descriptions();
+    }
 
-std::wstring without([[maybe_unused]] const char* call)
-{
-    TRACE(L"%S failed: %s\n", call, formatMessage(::GetLastError()).c_str());
-    return kNoList;
-}
+    static std::wstring programFolder()
+    {
+        wchar_t path[MAX_PATH]{};
+        ::GetModuleFileNameW(nullptr, path, MAX_PATH);
+        return getDirectory(path);
+    }
+
+    const std::wstring m_separator = listSeparator();
+    const std::wstring m_programFolder = programFolder();
+    const std::vector<std::wstring> m_systemFolders{folderFrom(&::GetSystemDirectoryW),
+                                                    folderFrom(&::GetSystemWow64DirectoryW),
+                                                    folderFrom(&::GetWindowsDirectoryW) + L"\\WinSxS"};
+};
 
 } // namespace
 
 std::wstring loadedModulesText()
 {
-    const ModuleSnapshot snapshot;
-    if (!snapshot.valid())
-        return without("CreateToolhelp32Snapshot");
-    MODULEENTRY32W entry{};
-    entry.dwSize = sizeof entry;
-    if (!snapshot.first(entry))
-        return without("Module32First");
-
-    const std::wstring separator = listSeparator();
-    std::wstring text = std::wstring(kModuleColumns) + kLineEnd;
-    do {
-        text += moduleLine(recordOf(entry, separator)) + kLineEnd;
-    } while (snapshot.next(entry));
-    return text;
+    try {
+        return textOf(loadedModules());
+    } catch ([[maybe_unused]] const WinError& error) {
+        TRACE(L"%s\n", error.wwhat());
+        return kNoList;
+    }
 }
 
 } // namespace ovoui::sysinfo
+
+using namespace ovoui::sysinfo;
+
+std::vector<LoadedModule> loadedModules()
+{
+    const ModuleSnapshot snapshot;
+    MODULEENTRY32W entry{};
+    entry.dwSize = sizeof entry;
+    snapshot.first(entry);
+    const ModuleDescriber describer;
+    std::vector<LoadedModule> modules;
+    do {
+        modules.push_back(describer.describe(entry));
+    } while (snapshot.next(entry));
+    return modules;
+}
+
+std::wstring modulesAsText(const std::vector<LoadedModule>& modules)
+{
+    return textOf(modules);
+}
+
+std::wstring modulesAsMarkdown(const std::vector<LoadedModule>& modules)
+{
+    return markdownOf(modules);
+}
+
+std::wstring modulesAsJson(const std::vector<LoadedModule>& modules)
+{
+    return jsonOf(modules);
+}

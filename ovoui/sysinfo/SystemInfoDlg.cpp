@@ -1,17 +1,15 @@
 #include <ovoui/sysinfo/SystemInfoDlg.h>
 
+#include <ovoui/sysinfo/ClipboardText.h>
+#include <ovoui/sysinfo/MachineInfo.h>
 #include <ovoui/sysinfo/ModuleReader.h>
-#include <ovoui/tree/PlainText.h>
+#include <ovoui/sysinfo/StretchedControls.h>
 
 #include <ovouires/resource.h>
 
-#include <ovocor/OvoError.h>
+using namespace ovoui::sysinfo;
 
-#include <afxole.h>
-
-#include <memory>
-
-IMPLEMENT_DYNAMIC(CSystemInfoDlg, COVOModalDialog)
+IMPLEMENT_DYNCREATE(CSystemInfoDlg, COVOModalDialog)
 
 BEGIN_MESSAGE_MAP(CSystemInfoDlg, COVOModalDialog)
     ON_WM_SHOWWINDOW()
@@ -24,29 +22,21 @@ namespace
 {
 
 constexpr int kTabStop = 92; // dialog units
-constexpr int kTries = 5;    // while another program has the clipboard open
-constexpr DWORD kPause = 50; // milliseconds between two of them
-
-/// Moves a child window and makes it larger.
-void stretch(const CWnd& parent, CWnd* child, CSize move, CSize grow)
-{
-    if (!child)
-        return;
-    CRect place;
-    child->GetWindowRect(&place);
-    parent.ScreenToClient(&place);
-    child->SetWindowPos(nullptr, place.left + move.cx, place.top + move.cy, place.Width() + grow.cx,
-                        place.Height() + grow.cy, SWP_NOZORDER | SWP_NOACTIVATE);
-}
 
 } // namespace
 
 CSystemInfoDlg::CSystemInfoDlg(CWnd* pParent)
     : COVOModalDialog(IDD_SYSTEM_INFO, pParent)
+    , m_controls(std::make_unique<StretchedControls>())
 {
 }
 
 CSystemInfoDlg::~CSystemInfoDlg() = default;
+
+void CSystemInfoDlg::ShowMachine(bool show)
+{
+    m_aboutMachine = show;
+}
 
 void CSystemInfoDlg::DoDataExchange(CDataExchange* exchange)
 {
@@ -57,11 +47,10 @@ void CSystemInfoDlg::DoDataExchange(CDataExchange* exchange)
 BOOL CSystemInfoDlg::OnInitDialog()
 {
     COVOModalDialog::OnInitDialog();
-    CRect rect;
-    GetWindowRect(&rect);
-    m_least = rect.Size();
-    GetClientRect(&rect);
-    m_client = rect.Size();
+    m_controls->begin(*this);
+    m_controls->add(IDC_SYSTEM_INFO_TEXT, StretchedControls::How::Grow);
+    m_controls->add(IDC_SYSTEM_INFO_COPY, StretchedControls::How::MoveBoth);
+    m_controls->add(IDCANCEL, StretchedControls::How::MoveBoth);
     useFixedFont();
     m_text.SetTabStops(kTabStop);
     m_text.SetLimitText(0); // as much as there is
@@ -82,7 +71,8 @@ void CSystemInfoDlg::useFixedFont()
 
 void CSystemInfoDlg::showModules()
 {
-    m_modules = ovoui::sysinfo::loadedModulesText();
+    m_modules = m_aboutMachine ? machineAsText(machineInfo()) + L"\r\n" : std::wstring();
+    m_modules += loadedModulesText();
     m_text.SetWindowText(m_modules.c_str());
 }
 
@@ -93,25 +83,9 @@ void CSystemInfoDlg::OnShowWindow(BOOL bShow, UINT nStatus)
     COVOModalDialog::OnShowWindow(bShow, nStatus);
 }
 
-/// Another program may have the clipboard open for a moment.
 void CSystemInfoDlg::OnCopy()
 {
-    for (int attempt = 1;; ++attempt) {
-        auto source = std::make_unique<COleDataSource>();
-        cachePlaintext(*source, m_modules);
-        try {
-            source->SetClipboard();
-            source.release(); // the clipboard owns it now
-            return;
-        } catch (COleException* error) {
-            error->Delete();
-        }
-        source.release()->InternalRelease();
-        if (attempt == kTries)
-            throw OvoError(
-                L"The text could not be copied because another program is using the clipboard. Try again.");
-        ::Sleep(kPause);
-    }
+    copyToClipboard(m_modules);
 }
 
 // Size
@@ -119,18 +93,11 @@ void CSystemInfoDlg::OnCopy()
 void CSystemInfoDlg::OnSize(UINT type, int width, int height)
 {
     COVOModalDialog::OnSize(type, width, height);
-    if (type == SIZE_MINIMIZED || !m_text.m_hWnd || m_client == CSize())
-        return;
-    const CSize grown = CSize(width, height) - m_client;
-    m_client = CSize(width, height);
-    stretch(*this, &m_text, CSize(), grown);
-    stretch(*this, GetDlgItem(IDC_SYSTEM_INFO_COPY), grown, CSize());
-    stretch(*this, GetDlgItem(IDCANCEL), grown, CSize());
-    Invalidate();
+    m_controls->apply(type, CSize(width, height));
 }
 
 void CSystemInfoDlg::OnGetMinMaxInfo(MINMAXINFO* info)
 {
     COVOModalDialog::OnGetMinMaxInfo(info);
-    info->ptMinTrackSize = {m_least.cx, m_least.cy};
+    m_controls->limit(*info);
 }

@@ -8,18 +8,28 @@
 
 #include <afxcmn.h>
 
+#include <memory>
 #include <string>
+
+namespace ovoui::sysinfo
+{
+class StretchedControls;
+}
 
 /// The text has a line for each module: name, address, size, link time, versions, type, path and description,
 /// with tabs between them. It is made anew whenever the dialog is shown. The user can copy it, and make the
 /// dialog larger.
 class OVOUI_API CSystemInfoDlg : public COVOModalDialog
 {
-    DECLARE_DYNAMIC(CSystemInfoDlg)
+    DECLARE_DYNCREATE(CSystemInfoDlg)
 
 public:
     explicit CSystemInfoDlg(CWnd* pParent = nullptr);
     ~CSystemInfoDlg() override;
+
+    /// Whether the text begins with what is known about the machine, from the next time on that it is made.
+    /// Off at first.
+    void ShowMachine(bool show);
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
@@ -37,7 +47,7 @@ private:
 
     CEdit m_text;
     std::wstring m_modules;
+    bool m_aboutMachine = false;
     CFont m_fixedFont; // so that the columns line up
-    CSize m_client;    // that the controls are placed for
-    CSize m_least;     // the window as the template has it
+    std::unique_ptr<ovoui::sysinfo::StretchedControls> m_controls;
 };

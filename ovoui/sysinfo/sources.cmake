@@ -1,6 +1,8 @@
 # System information: the dialog that lists the process's modules.
 set(sysinfo_core
-  ${CMAKE_CURRENT_LIST_DIR}/core/ModuleRecord.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/MachineText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ModuleText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ModuleView.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/VersionWords.cpp)
 
 if(NOT WIN32)
@@ -12,7 +14,11 @@ endif()
 
 target_sources(ovoui PRIVATE
   ${sysinfo_core}
+  ${CMAKE_CURRENT_LIST_DIR}/ClipboardText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MachineInfo.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ModuleListDlg.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ModuleReader.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/StretchedControls.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SystemInfoDlg.cpp
   ${CMAKE_CURRENT_LIST_DIR}/VersionRecord.cpp)
 target_link_libraries(ovoui PRIVATE version dbghelp)

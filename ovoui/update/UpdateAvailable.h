@@ -19,8 +19,6 @@ protected:
     BOOL OnInitDialog() override;
 
 private:
-    std::wstring text() const;
-
     const bool m_available;
     const std::wstring m_product;
     const std::wstring m_description;

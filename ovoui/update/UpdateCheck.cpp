@@ -3,22 +3,23 @@
 #include <ovoui/update/BrowseUrl.h>
 #include <ovoui/update/UpdateAvailable.h>
 #include <ovoui/update/UpdateList.h>
-
-#include <algorithm>
+#include <ovoui/update/UpdateTrust.h>
 
 using namespace ovoui::update;
 
 std::optional<AvailableUpdate> findUpdate(const std::wstring& address, const std::wstring& product,
                                           const std::wstring& options, const int version[4])
 {
-    RunningProduct running;
-    running.product = product;
-    running.options = options;
-    std::copy_n(version, running.version.size(), running.version.begin());
-    const std::optional<Offer> offer = lastOffer(address, running);
-    if (!offer || !isNewer(*offer, running))
-        return std::nullopt;
-    return AvailableUpdate{offer->version, offer->description, offer->page};
+    DownloadControl alone;
+    return newerVersion(address, runningProduct(product, options, version), nullptr, alone);
+}
+
+std::optional<AvailableUpdate> findTrustedUpdate(const std::wstring& address, const std::wstring& product,
+                                                 const std::wstring& options, const int version[4],
+                                                 UpdateTrust& trust)
+{
+    DownloadControl alone;
+    return newerVersion(address, runningProduct(product, options, version), &trust, alone);
 }
 
 void checkForUpdates(const std::wstring& address, const std::wstring& product, const std::wstring& options,

@@ -1,103 +1,121 @@
 #include <ovoui/update/UpdateList.h>
 
-#include <ovocor/CsvParser.h>
+#include <ovoui/update/CachedCopy.h>
+#include <ovoui/update/SignedFile.h>
+#include <ovoui/update/core/ListSearch.h>
+
 #include <ovocor/OvoError.h>
 #include <ovocor/Text.h>
 #include <ovocor/TextReader.h>
 #include <ovocor/Url.h>
 #include <ovomsg/ovomsg.h>
 
-#include <windows.h>
-#include <wininet.h>
+#include <algorithm>
+#include <stdexcept>
 
 namespace ovoui::update
 {
 namespace
 {
 
-/// A copy in the system's cache, deleted at the end of the scope.
-class CachedCopy
+constexpr std::size_t kSignatureLimit = 1024; // bytes; a signature has about 70
+
+[[noreturn]] void refuse(unsigned message, const std::wstring& address)
 {
-public:
-    explicit CachedCopy(const std::wstring& address)
-        : m_address(address)
-        , m_path(downloadUrlToCache(address))
-    {
-    }
-    ~CachedCopy() { ::DeleteUrlCacheEntryW(m_address.c_str()); }
-    CachedCopy(const CachedCopy&) = delete;
-    CachedCopy& operator=(const CachedCopy&) = delete;
-
-    const std::wstring& path() const { return m_path; }
-
-private:
-    const std::wstring m_address;
-    const std::wstring m_path;
-};
-
-UpdateRow rowOf(const OVO::CSVRecord& record)
-{
-    UpdateRow row;
-    for (std::size_t column = 0; column < row.fields.size(); ++column)
-        if (record[column].supplied)
-            row.fields[column] = record[column].text;
-    return row;
+    throw OvoError(stringPrintf(ovoMsg(message).c_str(), address.c_str()));
 }
 
-/// The rows of a list, as far as they have been fed.
-class ListSearch
+void readInto(ListSearch& search, const std::wstring& path, const std::wstring& address)
 {
-public:
-    ListSearch(const std::wstring& address, const RunningProduct& running)
-        : m_address(address)
-        , m_running(running)
-    {
+    OVO::TextReader reader(path);
+    std::wstring line;
+    try {
+        while (reader.readLine(line))
+            search.feedLine(line);
+        search.finish();
+    } catch (const IncompleteRow&) {
+        refuse(OVOMSG_UPDATE_LIST_INCOMPLETE, address);
     }
+}
 
-    void feedLine(const std::wstring& line)
-    {
-        m_parser.feed(line);
-        m_parser.feed(L"\n");
-        examineRows();
+// Trust
+
+NumberPair keyOf(const UpdateTrust& trust)
+{
+    const std::optional<NumberPair> key = keyFromPem(trust.publicKey);
+    if (!key)
+        throw std::invalid_argument("not a public key on the curve P-256");
+    return *key;
+}
+
+NumberPair fetchSignature(const std::wstring& address, DownloadControl& control)
+{
+    std::optional<NumberPair> signature;
+    try {
+        const CachedCopy copy(address + L".sig", control);
+        signature = signatureFromDer(bytesOf(copy.path(), kSignatureLimit));
+    } catch (const DownloadCancelled&) {
+        throw;
+    } catch (const OvoError&) {
+        // A signature that cannot be fetched is none.
     }
+    if (!signature)
+        refuse(OVOMSG_UPDATE_LIST_UNSIGNED, address);
+    return *signature;
+}
 
-    std::optional<Offer> finish()
-    {
-        m_parser.finish();
-        examineRows();
-        return std::move(m_offer);
-    }
-
-private:
-    void examineRows()
-    {
-        while (const OVO::CSVRecord* const record = m_parser.next()) {
-            const UpdateRow row = rowOf(*record);
-            if (!isComplete(row))
-                throw OvoError(
-                    stringPrintf(ovoMsg(OVOMSG_UPDATE_LIST_INCOMPLETE).c_str(), m_address.c_str()));
-            if (isFor(row, m_running))
-                m_offer = offerOf(row);
-        }
-    }
-
-    const std::wstring& m_address;
-    const RunningProduct& m_running;
-    OVO::CSVParser m_parser{kUpdateColumns};
-    std::optional<Offer> m_offer;
-};
+/// Whether one list was issued before another; what is no number was issued before all that have one.
+bool isOlder(const std::wstring& issue, const std::wstring& seen)
+{
+    Version zero{};
+    const Version last = parseVersion(seen).value_or(zero);
+    Version own = parseVersion(issue).value_or(zero);
+    std::ranges::replace(own, -1, 0);
+    return isNewer(last, own);
+}
 
 } // namespace
 
-std::optional<Offer> lastOffer(const std::wstring& address, const RunningProduct& running)
+std::optional<Offer> lastOffer(const std::wstring& address, const RunningProduct& running, UpdateTrust* trust,
+                               DownloadControl& control)
 {
-    const CachedCopy copy(address);
-    OVO::TextReader reader(copy.path()); // closed before the copy is deleted
-    ListSearch search(address, running);
-    std::wstring line;
-    while (reader.readLine(line))
-        search.feedLine(line);
-    return search.finish();
+    ListSearch search(running);
+    if (!trust) {
+        const CachedCopy copy(address, control);
+        readInto(search, copy.path(), address);
+        return search.offer();
+    }
+
+    const NumberPair key = keyOf(*trust);
+    if (!lowercase(canonicalizeUrl(address)).starts_with(L"https:"))
+        refuse(OVOMSG_UPDATE_LIST_NOT_SECURE, address);
+    const CachedCopy copy(address, control);
+    const SignedFile file(copy.path()); // closed before the copy is deleted
+    if (!file.isSignedBy(key, fetchSignature(address, control)))
+        refuse(OVOMSG_UPDATE_LIST_ALTERED, address);
+    readInto(search, copy.path(), address);
+    if (isOlder(search.issue(), trust->issue))
+        refuse(OVOMSG_UPDATE_LIST_OLD, address);
+    trust->issue = search.issue();
+    return search.offer();
+}
+
+std::optional<AvailableUpdate> newerVersion(const std::wstring& address, const RunningProduct& running,
+                                            UpdateTrust* trust, DownloadControl& control)
+{
+    const std::optional<Offer> offer = lastOffer(address, running, trust, control);
+    if (!offer || !isNewer(*offer, running))
+        return std::nullopt;
+    return AvailableUpdate{offer->version, offer->description, offer->page};
+}
+
+RunningProduct runningProduct(const std::wstring& product, const std::wstring& options, const int version[4])
+{
+    RunningProduct running;
+    running.product = product;
+    running.options = options;
+    std::copy_n(version, running.version.size(), running.version.begin());
+    return running;
 }
 
 } // namespace ovoui::update

@@ -1,19 +1,30 @@
 # Update check: reading the list, the dialog, opening addresses.
 set(update_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/ListLint.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ListSearch.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/PoliteSchedule.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SignatureText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/UpdateRow.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/VersionText.cpp)
 
 if(NOT WIN32)
   add_library(ovoui_update_core STATIC ${update_core})
   target_include_directories(ovoui_update_core PUBLIC ${PROJECT_SOURCE_DIR})
-  target_link_libraries(ovoui_update_core PRIVATE ovo_flags)
+  target_link_libraries(ovoui_update_core PRIVATE ovo_flags PUBLIC ovocor_core)
   return()
 endif()
 
 target_sources(ovoui PRIVATE
   ${update_core}
   ${CMAKE_CURRENT_LIST_DIR}/BrowseUrl.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/CachedCopy.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/PoliteCheck.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SignedFile.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UpdateAvailable.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UpdateCheck.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/UpdateList.cpp)
-target_link_libraries(ovoui PRIVATE wininet shell32)
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateJob.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateList.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateMemory.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateOffer.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateText.cpp)
+target_link_libraries(ovoui PRIVATE bcrypt wininet shell32)

@@ -103,6 +103,12 @@ void LoopbackServer::answer(const std::string& path, const std::string& bytes)
     m_answers[path] = bytes;
 }
 
+void LoopbackServer::stream(const std::string& path, std::function<std::string()> next)
+{
+    const std::lock_guard lock(m_mutex);
+    m_streams[path] = std::move(next);
+}
+
 std::string LoopbackServer::page(const std::string& status, const std::string& body)
 {
     return "HTTP/1.1 " + status + "\r\nContent-Type: text/plain\r\nConnection: close\r\nContent-Length: " +
@@ -135,11 +141,17 @@ void LoopbackServer::serve()
 void LoopbackServer::handle(SocketHandle client, const std::string& head)
 {
     std::string bytes = page("404 Not Found", "nothing here");
+    std::function<std::string()> next;
     {
         const std::lock_guard lock(m_mutex);
         m_requests.push_back(head);
+        if (const auto found = m_streams.find(pathOf(head)); found != m_streams.end())
+            next = found->second;
         if (const auto found = m_answers.find(pathOf(head)); found != m_answers.end())
             bytes = found->second;
     }
-    sendAll(client, bytes);
+    if (!next)
+        return sendAll(client, bytes);
+    while (bytes = next(), !bytes.empty())
+        sendAll(client, bytes);
 }

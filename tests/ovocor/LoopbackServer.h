@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <mutex>
 #include <string>
@@ -56,6 +57,10 @@ public:
     /// The bytes to send, status line and headers included, whatever they are.
     void answer(const std::string& path, const std::string& bytes);
 
+    /// What `next` gives, piece by piece, until it gives an empty one. It is called on the server's thread,
+    /// and may wait: then the server is silent.
+    void stream(const std::string& path, std::function<std::string()> next);
+
     /// A complete answer with a Content-Length.
     static std::string page(const std::string& status, const std::string& body);
 
@@ -68,6 +73,7 @@ private:
 
     mutable std::mutex m_mutex;
     std::map<std::string, std::string> m_answers;
+    std::map<std::string, std::function<std::string()>> m_streams;
     std::vector<std::string> m_requests;
     std::thread m_thread;
 };

@@ -258,6 +258,8 @@ TEST_F(SystemInfo, RecordsOfEveryKind)
         {L"sysinfo_printer_driver.dll", L"printer driver", L"", L"MS-DOS" + listSeparator() + L"win16", L""},
         {L"sysinfo_truetype_font.dll", L"truetype font", L"", L"OS/2-16" + listSeparator() + L"PM16", L""},
         {L"sysinfo_odd_type.dll", L"0x6/0x0", L"c0", L"", L""},
+        {L"sysinfo_unknown_type.dll", L"unknown", L"c0", L"", L""},
+        {L"sysinfo_static_library.dll", L"static library", L"c0", L"", L""},
         {L"sysinfo_broken.dll", L"", L"", L"", L""}};
     for (const auto& row : rows) {
         const Library module(row.name);
@@ -449,4 +451,26 @@ TEST_F(SystemInfo, RunsModallyAndClosesByKeyboard)
         Robot().waitFor("the dialog", [] { return shownDialog() != nullptr; }).key(VK_ESCAPE).start();
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     EXPECT_TRUE(dialog.IsKindOf(RUNTIME_CLASS(CSystemInfoDlg)));
+}
+
+TEST_F(SystemInfo, TheMachineComesFirstOnRequest)
+{
+    class Dialog : public CSystemInfoDlg
+    {
+    public:
+        void create() { Create(1506); }
+    } dialog;
+    dialog.ShowMachine(true);
+    dialog.create();
+    dialog.ShowWindow(SW_SHOW);
+    CString text;
+    dialog.GetDlgItemText(kText, text);
+    EXPECT_EQ(text.Find(L"System: "), 0);
+    EXPECT_NE(text.Find(L"\r\n\r\nName\tbase address"), -1);
+}
+
+TEST_F(SystemInfo, IsMadeByItsClass)
+{
+    const std::unique_ptr<CObject> dialog(RUNTIME_CLASS(CSystemInfoDlg)->CreateObject());
+    EXPECT_TRUE(dialog && dialog->IsKindOf(RUNTIME_CLASS(CSystemInfoDlg)));
 }

@@ -13,10 +13,13 @@
 
 #include <gtest/gtest.h>
 
+#include <psapi.h>
 #include <shellapi.h>
 #include <wininet.h>
 
 #include <algorithm>
+#include <cstring>
+#include <future>
 #include <vector>
 
 using namespace ovotest;
@@ -219,6 +222,54 @@ TEST_F(UpdateCheck, ANewPlaceOfTheListIsFollowed)
     EXPECT_TRUE(found());
 }
 
+TEST_F(UpdateCheck, AListThatIsPackedIsNoList)
+{
+    server.answer("/updates.csv",
+                  "HTTP/1.1 200 OK\r\nContent-Encoding: gzip\r\nContent-Length: 24\r\n\r\n" +
+                      std::string("\x1F\x8B\x08\x00\x00\x00\x00\x00\x00\x03packed-bytes\n\n", 24));
+    EXPECT_NE(failure(), L"");
+    EXPECT_EQ(server.requests().back().find("Accept-Encoding"), std::string::npos) << "it is not asked for";
+}
+
+TEST_F(UpdateCheck, AHugeListTakesLittleMemory)
+{
+    publish("#update,Board,,,,,13,http://example.org/13,\r\n");
+    found(); // what is loaded for the first check stays
+    constexpr std::size_t kPieces = 800;
+    std::string rows;
+    while (rows.size() < 64 * 1024)
+        rows +=
+            "#update,Other product,,,,,13,http://example.org/13,A description of some length for a row\r\n";
+    std::size_t sent = 0;
+    server.stream("/updates.csv", [&]() -> std::string {
+        if (sent++ == 0)
+            return "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: " +
+                   std::to_string(kPieces * rows.size() + std::strlen(kHeader)) + "\r\n\r\n" + kHeader;
+        return sent <= kPieces + 1 ? rows : std::string();
+    });
+    const auto peak = [] {
+        PROCESS_MEMORY_COUNTERS memory{};
+        ::GetProcessMemoryInfo(::GetCurrentProcess(), &memory, sizeof memory);
+        return memory.PeakWorkingSetSize;
+    };
+    const std::size_t before = peak();
+    EXPECT_FALSE(found());
+    EXPECT_GT(sent, kPieces) << "more than 50 MB went over the wire";
+    EXPECT_LT(peak() - before, 8u * 1024 * 1024);
+}
+
+TEST_F(UpdateCheck, AServerThatNeverAnswersIsGivenUp)
+{
+    std::promise<void> over;
+    const auto waiting = over.get_future().share();
+    server.stream("/updates.csv", [waiting] {
+        waiting.wait();
+        return std::string();
+    });
+    EXPECT_NE(failure().find(list()), std::wstring::npos);
+    over.set_value();
+}
+
 // The dialog
 
 TEST_F(UpdateCheck, AnUpdateIsOfferedAndItsPageOpenedOnRequest)
@@ -269,4 +320,33 @@ TEST_F(UpdateCheck, LineBreaksInADescriptionAreKept)
 {
     publish("#update,Board,,,,,13,http://example.org/13,\"One\ntwo\"\r\n");
     EXPECT_NE(shownText(VK_ESCAPE).find(L"One\r\ntwo"), std::wstring::npos);
+}
+
+TEST_F(UpdateCheck, ALongDescriptionCanBeScrolledTo)
+{
+    std::string description;
+    for (int i = 0; i < 60; ++i)
+        description += "Line " + std::to_string(i) + " & 100% %s\n";
+    int lines = 0;
+    bool scrolls = false;
+    publish("#update,Board & Co 100% %n,,,,,13,http://example.org/13,\"" + description + "\"\r\n");
+    auto answering =
+        Robot()
+            .waitFor("the dialog", [] { return shownDialog() != nullptr; })
+            .then([&] {
+                const HWND text = ::GetDlgItem(shownDialog(), 20508);
+                CString shown;
+                CWnd::FromHandle(text)->GetWindowText(shown);
+                EXPECT_NE(shown.Find(L"Board & Co 100% %n"), -1);
+                lines = static_cast<int>(::SendMessageW(text, EM_GETLINECOUNT, 0, 0));
+                SCROLLINFO bar{};
+                bar.cbSize = sizeof bar;
+                bar.fMask = SIF_RANGE | SIF_PAGE;
+                scrolls = ::GetScrollInfo(text, SB_VERT, &bar) && bar.nMax > static_cast<int>(bar.nPage);
+            })
+            .key(VK_ESCAPE)
+            .start();
+    checkForUpdates(list(), L"Board & Co 100% %n", L"Pro", kInstalled);
+    EXPECT_GT(lines, 60);
+    EXPECT_TRUE(scrolls);
 }

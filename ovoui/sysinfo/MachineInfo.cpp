@@ -1,0 +1,105 @@
+#include <ovoui/sysinfo/MachineInfo.h>
+
+#include <ovoui/frame/ThemeData.h>
+#include <ovoui/sysinfo/core/MachineText.h>
+
+#include <ovocor/Library.h>
+#include <ovocor/Text.h>
+
+#include <windows.h>
+
+using namespace ovoui::sysinfo;
+
+namespace
+{
+
+/// An entry point of a library that is loaded anyway; null when it has none of this name.
+template <class Function>
+Function entryPoint(const wchar_t* library, const char* name)
+{
+    const HMODULE module = ::GetModuleHandleW(library);
+    return module ? reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(module, name)))
+                  : nullptr;
+}
+
+/// GetVersionEx tells a program only of systems that its manifest names.
+std::wstring systemOf()
+{
+    OSVERSIONINFOW version{};
+    version.dwOSVersionInfoSize = sizeof version;
+    if (const auto get = entryPoint<LONG(WINAPI*)(OSVERSIONINFOW*)>(L"ntdll.dll", "RtlGetVersion"))
+        get(&version);
+    const auto wine = entryPoint<const char*(__cdecl*)()>(L"ntdll.dll", "wine_get_version");
+    return systemText(version.dwMajorVersion, version.dwMinorVersion, version.dwBuildNumber,
+                      wine ? wine() : "");
+}
+
+using DpiForMonitor = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
+
+unsigned dotsPerInch(HMONITOR monitor)
+{
+    // Present from Windows 8.1 on; the library stays loaded, which costs nothing more at the next call.
+    static const HMODULE library = OVO::LoadSystemLibrary(L"shcore.dll");
+    const auto get = library ? entryPoint<DpiForMonitor>(L"shcore.dll", "GetDpiForMonitor") : nullptr;
+    constexpr int kEffective = 0;
+    UINT x = 0;
+    UINT y = 0;
+    if (get && get(monitor, kEffective, &x, &y) == S_OK)
+        return x;
+    const HDC screen = ::GetDC(nullptr);
+    const int dots = ::GetDeviceCaps(screen, LOGPIXELSX);
+    ::ReleaseDC(nullptr, screen);
+    return static_cast<unsigned>(dots);
+}
+
+BOOL CALLBACK addMonitor(HMONITOR monitor, HDC, RECT*, LPARAM monitors)
+{
+    MONITORINFO info{};
+    info.cbSize = sizeof info;
+    if (::GetMonitorInfoW(monitor, &info)) {
+        const RECT& place = info.rcMonitor;
+        reinterpret_cast<std::vector<MachineMonitor>*>(monitors)->push_back(
+            {place.left, place.top, place.right - place.left, place.bottom - place.top, dotsPerInch(monitor),
+             (info.dwFlags & MONITORINFOF_PRIMARY) != 0});
+    }
+    return TRUE;
+}
+
+std::wstring monitorText(const MachineMonitor& monitor)
+{
+    return stringPrintf(L"Monitor: %d x %d at %d, %d, %u dots per inch%s\r\n", monitor.width, monitor.height,
+                        monitor.left, monitor.top, monitor.dotsPerInch, monitor.primary ? L", primary" : L"");
+}
+
+} // namespace
+
+MachineInfo machineInfo()
+{
+    MachineInfo machine;
+    machine.system = systemOf();
+    SYSTEM_INFO system{};
+    ::GetNativeSystemInfo(&system);
+    machine.processors = system.dwNumberOfProcessors;
+    machine.themed = CThemeData::getThemeData().IsAppThemed();
+    ::EnumDisplayMonitors(nullptr, nullptr, &addMonitor, reinterpret_cast<LPARAM>(&machine.monitors));
+    MEMORYSTATUSEX memory{};
+    memory.dwLength = sizeof memory;
+    if (::GlobalMemoryStatusEx(&memory)) {
+        machine.memory = memory.ullTotalPhys;
+        machine.freeMemory = memory.ullAvailPhys;
+    }
+    machine.gdiObjects = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS);
+    machine.userObjects = ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS);
+    return machine;
+}
+
+std::wstring machineAsText(const MachineInfo& machine)
+{
+    std::wstring text = L"System: " + machine.system + L", " + std::to_wstring(machine.processors) +
+                        L" processors\r\nVisual styles: " + (machine.themed ? L"on" : L"off") + L"\r\n";
+    for (const MachineMonitor& monitor : machine.monitors)
+        text += monitorText(monitor);
+    return text + L"Memory: " + memoryText(machine.memory) + L", " + memoryText(machine.freeMemory) +
+           L" free\r\n" +
+           stringPrintf(L"GDI objects: %u, USER objects: %u\r\n", machine.gdiObjects, machine.userObjects);
+}

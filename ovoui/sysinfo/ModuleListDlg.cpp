@@ -1,0 +1,223 @@
+#include <ovoui/sysinfo/ModuleListDlg.h>
+
+#include <ovoui/sysinfo/ClipboardText.h>
+#include <ovoui/sysinfo/LoadedModules.h>
+#include <ovoui/sysinfo/StretchedControls.h>
+#include <ovoui/sysinfo/core/ModuleView.h>
+
+#include <ovouires/resource.h>
+
+#include <ovocor/Text.h>
+
+#include <iterator>
+
+using namespace ovoui::sysinfo;
+
+IMPLEMENT_DYNAMIC(CModuleListDlg, COVOModalDialog)
+
+BEGIN_MESSAGE_MAP(CModuleListDlg, COVOModalDialog)
+    ON_EN_CHANGE(IDC_MODULES_FILTER, &CModuleListDlg::OnFilterChange)
+    ON_NOTIFY(LVN_COLUMNCLICK, IDC_MODULES_LIST, &CModuleListDlg::OnColumnClick)
+    ON_NOTIFY(LVN_GETDISPINFO, IDC_MODULES_LIST, &CModuleListDlg::OnGetDispInfo)
+    ON_NOTIFY(NM_CUSTOMDRAW, IDC_MODULES_LIST, &CModuleListDlg::OnCustomDraw)
+    ON_BN_CLICKED(IDC_MODULES_COPY, &CModuleListDlg::OnCopyAs)
+    ON_BN_CLICKED(IDC_MODULES_REFRESH, &CModuleListDlg::OnRefresh)
+    ON_COMMAND_RANGE(ID_MODULES_COPY_TEXT, ID_MODULES_COPY_JSON, &CModuleListDlg::OnCopyAsFormat)
+    ON_WM_SIZE()
+    ON_WM_GETMINMAXINFO()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+struct Heading
+{
+    ModuleColumn column;
+    const wchar_t* text;
+    int width; // in dialog units
+};
+
+constexpr Heading kHeadings[] = {
+    {ModuleColumn::Name, L"Name", 70},
+    {ModuleColumn::Remark, L"Remark", 68},
+    {ModuleColumn::FileVersion, L"File version", 56},
+    {ModuleColumn::ProductVersion, L"Product version", 56},
+    {ModuleColumn::Description, L"Description", 100},
+    {ModuleColumn::Path, L"Path", 140},
+    {ModuleColumn::LinkTime, L"Linked", 90},
+    {ModuleColumn::Address, L"Address", 72},
+    {ModuleColumn::Size, L"Size", 40},
+    {ModuleColumn::Type, L"Type", 40},
+    {ModuleColumn::Flags, L"Flags", 40},
+    {ModuleColumn::System, L"System", 60},
+};
+static_assert(std::size(kHeadings) == static_cast<std::size_t>(ModuleColumn::Count));
+
+/// Dark red on a light window, light red on a dark one.
+COLORREF remarkColour()
+{
+    const COLORREF window = ::GetSysColor(COLOR_WINDOW);
+    const bool light = GetRValue(window) + GetGValue(window) + GetBValue(window) > 3 * 128;
+    return light ? RGB(160, 0, 0) : RGB(255, 140, 140);
+}
+
+} // namespace
+
+CModuleListDlg::CModuleListDlg(CWnd* pParent)
+    : COVOModalDialog(IDD_MODULE_LIST, pParent)
+    , m_controls(std::make_unique<StretchedControls>())
+{
+}
+
+CModuleListDlg::~CModuleListDlg() = default;
+
+void CModuleListDlg::DoDataExchange(CDataExchange* exchange)
+{
+    COVOModalDialog::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_MODULES_LIST, m_list);
+    DDX_Control(exchange, IDC_MODULES_FILTER, m_filter);
+}
+
+BOOL CModuleListDlg::OnInitDialog()
+{
+    COVOModalDialog::OnInitDialog();
+    m_controls->begin(*this);
+    m_controls->add(IDC_MODULES_FILTER, StretchedControls::How::GrowWide);
+    m_controls->add(IDC_MODULES_LIST, StretchedControls::How::Grow);
+    m_controls->add(IDC_MODULES_COUNT, StretchedControls::How::MoveDown);
+    for (const int id : {IDC_MODULES_REFRESH, IDC_MODULES_COPY, IDCANCEL})
+        m_controls->add(id, StretchedControls::How::MoveBoth);
+    m_list.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP | LVS_EX_LABELTIP);
+    addColumns();
+    OnRefresh();
+    return TRUE;
+}
+
+void CModuleListDlg::addColumns()
+{
+    for (const Heading& heading : kHeadings) {
+        CRect width(0, 0, heading.width, 0);
+        MapDialogRect(&width);
+        m_list.InsertColumn(static_cast<int>(heading.column), heading.text, LVCFMT_LEFT, width.Width());
+    }
+}
+
+// What is shown
+
+void CModuleListDlg::OnRefresh()
+{
+    m_modules = loadedModules();
+    showVisible();
+}
+
+void CModuleListDlg::OnFilterChange()
+{
+    showVisible();
+}
+
+void CModuleListDlg::OnColumnClick(NMHDR* header, LRESULT* result)
+{
+    const int column = reinterpret_cast<const NMLISTVIEW*>(header)->iSubItem;
+    m_descending = column == m_sortColumn && !m_descending;
+    m_sortColumn = column;
+    showVisible();
+    *result = 0;
+}
+
+void CModuleListDlg::showVisible()
+{
+    CString filter;
+    m_filter.GetWindowText(filter);
+    m_visible = visibleModules(m_modules, filter.GetString(),
+                               {static_cast<ModuleColumn>(m_sortColumn), m_descending});
+    m_list.SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED); // rows are other modules now
+    m_list.SetItemCountEx(static_cast<int>(m_visible.size()));
+    m_list.Invalidate();
+    showOrder();
+    SetDlgItemText(IDC_MODULES_COUNT,
+                   stringPrintf(L"%Iu of %Iu modules", m_visible.size(), m_modules.size()).c_str());
+}
+
+void CModuleListDlg::showOrder()
+{
+    CHeaderCtrl* const header = m_list.GetHeaderCtrl();
+    for (int column = 0; column < static_cast<int>(ModuleColumn::Count); ++column) {
+        HDITEM item{};
+        item.mask = HDI_FORMAT;
+        header->GetItem(column, &item);
+        item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
+        if (column == m_sortColumn)
+            item.fmt |= m_descending ? HDF_SORTDOWN : HDF_SORTUP;
+        header->SetItem(column, &item);
+    }
+}
+
+void CModuleListDlg::OnGetDispInfo(NMHDR* header, LRESULT* result)
+{
+    LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(header)->item;
+    const auto row = static_cast<std::size_t>(item.iItem);
+    if ((item.mask & LVIF_TEXT) && row < m_visible.size())
+        packTo(item.pszText, static_cast<std::size_t>(item.cchTextMax),
+               columnText(m_modules[m_visible[row]], static_cast<ModuleColumn>(item.iSubItem)));
+    *result = 0;
+}
+
+void CModuleListDlg::OnCustomDraw(NMHDR* header, LRESULT* result)
+{
+    auto& draw = *reinterpret_cast<NMLVCUSTOMDRAW*>(header);
+    *result = CDRF_DODEFAULT;
+    if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) {
+        *result = CDRF_NOTIFYITEMDRAW;
+    } else if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT) {
+        const std::size_t row = draw.nmcd.dwItemSpec;
+        if (row < m_visible.size() && !remarkOn(m_modules[m_visible[row]]).empty())
+            draw.clrText = remarkColour();
+    }
+}
+
+// Copying
+
+std::vector<LoadedModule> CModuleListDlg::chosen() const
+{
+    const bool all = m_list.GetSelectedCount() == 0;
+    std::vector<LoadedModule> modules;
+    for (std::size_t row = 0; row < m_visible.size(); ++row)
+        if (all || m_list.GetItemState(static_cast<int>(row), LVIS_SELECTED))
+            modules.push_back(m_modules[m_visible[row]]);
+    return modules;
+}
+
+void CModuleListDlg::OnCopyAs()
+{
+    CMenu menu;
+    if (!menu.LoadMenu(IDR_MODULES_COPY_MENU))
+        return;
+    CRect button;
+    GetDlgItem(IDC_MODULES_COPY)->GetWindowRect(&button);
+    menu.GetSubMenu(0)->TrackPopupMenu(TPM_LEFTALIGN | TPM_LEFTBUTTON, button.left, button.bottom, this);
+}
+
+void CModuleListDlg::OnCopyAsFormat(UINT id)
+{
+    const std::vector<LoadedModule> modules = chosen();
+    if (id == ID_MODULES_COPY_TEXT)
+        copyToClipboard(modulesAsText(modules));
+    else if (id == ID_MODULES_COPY_MARKDOWN)
+        copyToClipboard(modulesAsMarkdown(modules));
+    else
+        copyToClipboard(modulesAsJson(modules));
+}
+
+// Size
+
+void CModuleListDlg::OnSize(UINT type, int width, int height)
+{
+    COVOModalDialog::OnSize(type, width, height);
+    m_controls->apply(type, CSize(width, height));
+}
+
+void CModuleListDlg::OnGetMinMaxInfo(MINMAXINFO* info)
+{
+    COVOModalDialog::OnGetMinMaxInfo(info);
+    m_controls->limit(*info);
+}

@@ -1,0 +1,46 @@
+/// Not exported. The controls of a dialog that the user can make larger.
+#pragma once
+
+#include <afxwin.h>
+
+#include <vector>
+
+namespace ovoui::sysinfo
+{
+
+/// Gives the room that a dialog gains to its controls. The dialog is never smaller than it was first.
+class StretchedControls
+{
+public:
+    enum class How
+    {
+        Grow,      ///< both ways
+        GrowWide,  ///< to the right
+        MoveRight, ///< keeps its distance from the right edge
+        MoveDown,  ///< from the bottom edge
+        MoveBoth   ///< from both
+    };
+
+    /// The dialog has the size of its template now.
+    void begin(CWnd& dialog);
+    void add(int id, How how) { m_controls.push_back({id, how}); }
+
+    /// For WM_SIZE.
+    void apply(UINT type, CSize client);
+    /// For WM_GETMINMAXINFO.
+    void limit(MINMAXINFO& info) const;
+
+private:
+    struct Control
+    {
+        int id;
+        How how;
+    };
+
+    CWnd* m_dialog = nullptr;
+    CSize m_client; // that the controls are placed for
+    CSize m_least;  // of the window
+    std::vector<Control> m_controls;
+};
+
+} // namespace ovoui::sysinfo

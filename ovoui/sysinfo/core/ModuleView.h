@@ -1,0 +1,54 @@
+/// Which modules a list shows, in what order, and what is worth a look. Plain values, no windows.
+#pragma once
+
+#include <ovoui/sysinfo/LoadedModule.h>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ovoui::sysinfo
+{
+
+/// The columns of the list, in order.
+enum class ModuleColumn : int
+{
+    Name,
+    Remark,
+    FileVersion,
+    ProductVersion,
+    Description,
+    Path,
+    LinkTime,
+    Address,
+    Size,
+    Type,
+    Flags,
+    System,
+    Count
+};
+
+/// What a column shows; texts of several languages stand in one line.
+std::wstring columnText(const LoadedModule& module, ModuleColumn column);
+
+/// What is unusual about a module: no version record, a file outside the program's and the system's folders.
+/// Empty when nothing is.
+std::wstring remarkOn(const LoadedModule& module);
+
+/// Where a file lies. Folders count with all that is below them; letters in any case.
+ModulePlace placeOf(std::wstring_view path, std::wstring_view programFolder,
+                    const std::vector<std::wstring>& systemFolders);
+
+struct ModuleOrder
+{
+    ModuleColumn column = ModuleColumn::Name;
+    bool descending = false;
+};
+
+/// The indices of the modules that hold every word of `filter` in some column, letters in any case, in order:
+/// addresses, sizes and versions by their numbers, the rest by letters. Equal ones stay as they stand.
+std::vector<std::size_t> visibleModules(const std::vector<LoadedModule>& modules, std::wstring_view filter,
+                                        const ModuleOrder& order);
+
+} // namespace ovoui::sysinfo

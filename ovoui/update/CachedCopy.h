@@ -1,0 +1,28 @@
+/// Not exported. A file fetched from the web into the system's cache, for the time of a scope.
+#pragma once
+
+#include <ovocor/DownloadControl.h>
+
+#include <string>
+
+namespace ovoui::update
+{
+
+/// The copy is deleted at the end of the scope.
+class CachedCopy
+{
+public:
+    /// Throws what `downloadUrlToCache` throws.
+    CachedCopy(const std::wstring& address, DownloadControl& control);
+    ~CachedCopy();
+    CachedCopy(const CachedCopy&) = delete;
+    CachedCopy& operator=(const CachedCopy&) = delete;
+
+    const std::wstring& path() const { return m_path; }
+
+private:
+    const std::wstring m_address;
+    const std::wstring m_path;
+};
+
+} // namespace ovoui::update

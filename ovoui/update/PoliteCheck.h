@@ -1,0 +1,32 @@
+/// A look for updates that the user did not ask for: seldom, and silent unless there is something to say.
+///
+///     checkPolitely(address, L"Drawing Board", L"Professional", version);      // at every start
+#pragma once
+
+#include <ovoui/export.h>
+#include <ovoui/update/UpdateCheck.h>
+#include <ovoui/update/UpdateMemory.h>
+
+#include <string>
+
+class CWnd;
+
+/// In days.
+struct UpdatePoliteness
+{
+    int checkEvery = 7;
+    int remindAfter = 3;
+};
+
+/// Shows the newer version with the choices to open its page, to be reminded later, or to skip it; `memory`
+/// keeps the choice. Closing the dialog puts it off too. Errors of `browseUrl` come out of here.
+OVOUI_API void offerUpdate(const std::wstring& product, const AvailableUpdate& update, UpdateMemory& memory,
+                           const UpdatePoliteness& politeness = {}, CWnd* parent = nullptr);
+
+/// Looks for a newer version when that is due, and offers it unless the user skips it. Silent when there is
+/// nothing new, and when the list cannot be fetched or used: then the next call tries again. Waits for the
+/// server; a host that does not want that asks `UpdateMemory::isDue`, starts an `UpdateJob`, and calls
+/// `offerUpdate` with its answer.
+OVOUI_API void checkPolitely(const std::wstring& address, const std::wstring& product,
+                             const std::wstring& options, const int version[4],
+                             const UpdatePoliteness& politeness = {});

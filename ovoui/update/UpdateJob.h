@@ -1,0 +1,113 @@
+/// An update check that does not keep the user waiting.
+///
+///     m_job = UpdateJob::start(question, *this, WM_APP + 7, [](auto work) { std::thread(work).detach(); });
+///
+///     LRESULT Frame::OnUpdateJob(WPARAM event, LPARAM)     // the message WM_APP + 7
+///     {
+///         if (event == UpdateJob::Answered && m_job->state() == UpdateJob::State::Found)
+///             offer(*m_job->update());
+///         return 0;
+///     }
+#pragma once
+
+#include <ovoui/export.h>
+#include <ovoui/update/UpdateCheck.h>
+#include <ovoui/update/UpdateTrust.h>
+
+#include <windows.h>
+
+#include <array>
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+/// What a check asks.
+struct UpdateQuestion
+{
+    std::wstring address;
+    std::wstring product;
+    std::wstring options;
+    std::array<int, 4> version{};
+    /// Given for a list that must be signed.
+    std::optional<UpdateTrust> trust;
+};
+
+/// The check runs where the host lets it run: the library starts no thread. What happens is told by a message
+/// that is posted to a window; the job itself, which the host keeps, holds the answer. The window and the
+/// handle to the job may go while the check runs: then it ends without a trace.
+class OVOUI_API UpdateJob
+{
+    struct Private
+    {
+    };
+
+public:
+    /// Runs a function once, on another thread or later on this one.
+    using Runner = std::function<void(std::function<void()> work)>;
+
+    /// wParam of the posted message; lParam is number().
+    enum Event : WPARAM
+    {
+        Progress = 1, ///< more of the list has come; posted again only after progress() was asked for
+        Answered = 2  ///< the last message: state() says more
+    };
+
+    enum class State
+    {
+        Running,
+        Found, ///< update() is the newer version
+        NothingNew,
+        Failed, ///< error() says why
+        Cancelled
+    };
+
+    struct Bytes
+    {
+        std::uint64_t received = 0;
+        std::uint64_t expected = 0; ///< 0 while it is not known
+    };
+
+    /// Hands the check to `run`, whose exceptions come out of here.
+    static std::shared_ptr<UpdateJob> start(UpdateQuestion question, HWND window, UINT message,
+                                            const Runner& run);
+
+    UpdateJob(Private, UpdateQuestion question, HWND window, UINT message);
+    UpdateJob(const UpdateJob&) = delete;
+    UpdateJob& operator=(const UpdateJob&) = delete;
+    ~UpdateJob();
+
+    /// Tells jobs of one window apart.
+    LPARAM number() const { return m_number; }
+
+    /// Ends the check, however long the server is silent. The answer still comes: Cancelled, unless it was
+    /// ready before.
+    void cancel() noexcept;
+
+    Bytes progress() noexcept;
+    State state() const noexcept { return m_state; }
+
+    // To be asked for after the answer.
+    const std::optional<AvailableUpdate>& update() const { return m_update; }
+    const std::wstring& error() const { return m_error; }
+    /// With the number of the list that was accepted.
+    const std::optional<UpdateTrust>& trust() const { return m_question.trust; }
+
+private:
+    class Control;
+
+    void run() noexcept;
+    State answer();
+    void post(Event event) const noexcept;
+
+    UpdateQuestion m_question;
+    const HWND m_window;
+    const UINT m_message;
+    const LPARAM m_number;
+    const std::unique_ptr<Control> m_control;
+    std::atomic<State> m_state = State::Running;
+    std::optional<AvailableUpdate> m_update;
+    std::wstring m_error;
+};

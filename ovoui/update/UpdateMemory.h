@@ -1,0 +1,36 @@
+/// What the user has said about updates, and when they were looked for.
+#pragma once
+
+#include <ovoui/export.h>
+
+#include <string>
+
+struct AvailableUpdate;
+
+/// Kept in the application's profile, in the section "updates", by product.
+class OVOUI_API UpdateMemory
+{
+public:
+    explicit UpdateMemory(const std::wstring& product);
+
+    /// Whether the last check is `days` days or more ago, and no reminder is put off.
+    bool isDue(int days) const;
+    /// A check has been made now.
+    void noteCheck();
+
+    /// Whether the user has said that this version is to be skipped.
+    bool isSkipped(const AvailableUpdate& update) const;
+    void skip(const AvailableUpdate& update);
+    /// No check is due for so many days.
+    void remindLater(int days);
+
+    /// The highest number of a signed list that was seen, for `UpdateTrust`.
+    std::wstring issue() const;
+    void keepIssue(const std::wstring& issue);
+
+private:
+    std::wstring read(const wchar_t* what) const;
+    void write(const wchar_t* what, const std::wstring& value);
+
+    const std::wstring m_product;
+};

@@ -1,0 +1,184 @@
+// The dialog with the list of modules: filter, order, marks, copying.
+#include "support/Desktop.h"
+#include "support/ImportPatch.h"
+#include "support/Robot.h"
+#include "support/TestApp.h"
+
+#include <ovoui/sysinfo/LoadedModules.h>
+#include <ovoui/sysinfo/ModuleListDlg.h>
+
+#include <ovouires/resource.h>
+
+#include <ovocor/Text.h>
+
+#include <gtest/gtest.h>
+
+#include <afxole.h>
+
+#include <algorithm>
+
+using namespace ovotest;
+
+namespace
+{
+
+/// The dialog as a host shows it, modeless so that a test can look at it.
+class ModuleList : public ::testing::Test
+{
+protected:
+    ModuleList()
+    {
+        dialog.create();
+        present(dialog);
+        list = static_cast<CListCtrl*>(dialog.GetDlgItem(IDC_MODULES_LIST));
+    }
+
+    std::vector<std::wstring> column(int index) const
+    {
+        std::vector<std::wstring> texts;
+        for (int row = 0; row < list->GetItemCount(); ++row)
+            texts.emplace_back(list->GetItemText(row, index));
+        return texts;
+    }
+    void filter(const std::wstring& text)
+    {
+        Robot().click(Spot{dialog.GetDlgItem(IDC_MODULES_FILTER)->m_hWnd}).type(text);
+    }
+    void clickHeading(int index)
+    {
+        CHeaderCtrl* const header = list->GetHeaderCtrl();
+        CRect rect;
+        header->GetItemRect(index, &rect);
+        Robot().click(Spot{*header, CPoint(rect.left + 12, rect.CenterPoint().y)});
+    }
+    std::wstring copied(UINT command)
+    {
+        dialog.SendMessage(WM_COMMAND, command, 0);
+        EXPECT_TRUE(::OpenClipboard(dialog));
+        const HANDLE data = ::GetClipboardData(CF_UNICODETEXT);
+        const std::wstring text = static_cast<const wchar_t*>(::GlobalLock(data));
+        ::GlobalUnlock(data);
+        ::CloseClipboard();
+        ::OleFlushClipboard();
+        return text;
+    }
+
+    struct Dialog : CModuleListDlg
+    {
+        void create() { Create(IDD_MODULE_LIST); }
+    } dialog;
+    CListCtrl* list = nullptr;
+};
+
+} // namespace
+
+TEST_F(ModuleList, ShowsEveryModuleByName)
+{
+    const std::vector<std::wstring> names = column(0);
+    EXPECT_EQ(names.size(), loadedModules().size());
+    EXPECT_TRUE(std::ranges::is_sorted(
+        names, [](const std::wstring& a, const std::wstring& b) { return lowercase(a) < lowercase(b); }));
+}
+
+TEST_F(ModuleList, TypingLeavesTheModulesThatFit)
+{
+    const int all = list->GetItemCount();
+    filter(L"OVO dll");
+    EXPECT_LT(list->GetItemCount(), all);
+    EXPECT_GE(list->GetItemCount(), 3);
+    for (const std::wstring& name : column(0))
+        EXPECT_NE(lowercase(name).find(L"ovo"), std::wstring::npos) << testing::PrintToString(name);
+    CString count;
+    dialog.GetDlgItemText(IDC_MODULES_COUNT, count);
+    EXPECT_EQ(count, stringPrintf(L"%d of %d modules", list->GetItemCount(), all).c_str());
+    filter(L"no such module");
+    EXPECT_EQ(list->GetItemCount(), 0);
+}
+
+TEST_F(ModuleList, AHeadingSortsAndTurnsTheOrderRound)
+{
+    const std::vector<std::wstring> up = column(0);
+    clickHeading(0);
+    EXPECT_TRUE(std::ranges::equal(column(0), std::vector(up.rbegin(), up.rend())));
+    HDITEM item{};
+    item.mask = HDI_FORMAT;
+    list->GetHeaderCtrl()->GetItem(0, &item);
+    EXPECT_TRUE(item.fmt & HDF_SORTDOWN);
+    clickHeading(1);
+    const std::vector<std::wstring> remarks = column(1);
+    EXPECT_TRUE(std::ranges::is_sorted(remarks));
+    list->GetHeaderCtrl()->GetItem(1, &item);
+    EXPECT_TRUE(item.fmt & HDF_SORTUP);
+    list->GetHeaderCtrl()->GetItem(0, &item);
+    EXPECT_FALSE(item.fmt & (HDF_SORTUP | HDF_SORTDOWN));
+}
+
+TEST_F(ModuleList, UnusualModulesAreMarked)
+{
+    const HMODULE plain = ::LoadLibraryW(L"sysinfo_plain.dll");
+    Robot().click(Spot{dialog.GetDlgItem(IDC_MODULES_REFRESH)->m_hWnd});
+    filter(L"sysinfo_plain");
+    ASSERT_EQ(list->GetItemCount(), 1);
+    EXPECT_EQ(list->GetItemText(0, 1), L"no version record");
+    NMLVCUSTOMDRAW draw{};
+    draw.nmcd.hdr = {list->m_hWnd, IDC_MODULES_LIST, static_cast<UINT>(NM_CUSTOMDRAW)};
+    draw.nmcd.dwDrawStage = CDDS_ITEMPREPAINT;
+    draw.clrText = RGB(1, 2, 3);
+    dialog.SendMessage(WM_NOTIFY, IDC_MODULES_LIST, reinterpret_cast<LPARAM>(&draw));
+    EXPECT_NE(draw.clrText, RGB(1, 2, 3));
+    ::FreeLibrary(plain);
+}
+
+TEST_F(ModuleList, CopiesWhatIsShownOrSelected)
+{
+    filter(L"ovoui.dll");
+    ASSERT_EQ(list->GetItemCount(), 1);
+    std::vector<LoadedModule> one = loadedModules();
+    std::erase_if(one, [](const LoadedModule& module) { return lowercase(module.name) != L"ovoui.dll"; });
+    EXPECT_EQ(copied(ID_MODULES_COPY_TEXT), modulesAsText(one));
+    EXPECT_EQ(copied(ID_MODULES_COPY_MARKDOWN), modulesAsMarkdown(one));
+    EXPECT_EQ(copied(ID_MODULES_COPY_JSON), modulesAsJson(one));
+    dialog.SetDlgItemText(IDC_MODULES_FILTER, L"");
+    list->SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);
+    const std::wstring text = copied(ID_MODULES_COPY_TEXT);
+    EXPECT_EQ(std::ranges::count(text, L'\n'), 2);
+    EXPECT_NE(text.find(column(0)[2] + L"\t"), std::wstring::npos);
+}
+
+TEST_F(ModuleList, TheButtonOpensTheMenuOfForms)
+{
+    int items = 0;
+    Robot()
+        .click(Spot{dialog.GetDlgItem(IDC_MODULES_COPY)->m_hWnd})
+        .waitFor("the menu", [] { return shownMenu() != nullptr; })
+        .then([&] {
+            items =
+                ::GetMenuItemCount(reinterpret_cast<HMENU>(::SendMessageW(shownMenu(), MN_GETHMENU, 0, 0)));
+        })
+        .key(VK_ESCAPE)
+        .waitFor("no menu", [] { return shownMenu() == nullptr; });
+    EXPECT_EQ(items, 3);
+}
+
+TEST_F(ModuleList, AFailureIsShownAndTheListStays)
+{
+    const ImportPatch patch(
+        L"ovoui.dll", "CreateToolhelp32Snapshot",
+        reinterpret_cast<void*>(+[](DWORD, DWORD) -> HANDLE { return INVALID_HANDLE_VALUE; }));
+    const int rows = list->GetItemCount();
+    dialog.SendMessage(WM_COMMAND, IDC_MODULES_REFRESH, 0);
+    ASSERT_EQ(TestApp::instance().boxes().size(), 1u);
+    EXPECT_EQ(list->GetItemCount(), rows);
+}
+
+TEST_F(ModuleList, TheListGrowsWithTheDialog)
+{
+    CRect before;
+    list->GetWindowRect(&before);
+    CRect window;
+    dialog.GetWindowRect(&window);
+    dialog.SetWindowPos(nullptr, 0, 0, window.Width() + 80, window.Height() + 60, SWP_NOMOVE | SWP_NOZORDER);
+    CRect after;
+    list->GetWindowRect(&after);
+    EXPECT_EQ(after.Size(), before.Size() + CSize(80, 60));
+}

@@ -1,0 +1,112 @@
+#include <ovoui/sysinfo/core/ModuleView.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovoui::sysinfo;
+
+namespace
+{
+
+LoadedModule module(const std::wstring& name, const std::wstring& version = L"", std::uint64_t size = 0)
+{
+    LoadedModule result;
+    result.name = name;
+    result.path = L"C:\\Program\\" + name;
+    result.fileVersion = version;
+    result.hasAddress = true;
+    result.size = size;
+    result.hasVersionRecord = !version.empty();
+    result.place = ModulePlace::Program;
+    return result;
+}
+
+std::vector<std::wstring> names(const std::vector<LoadedModule>& modules, std::wstring_view filter,
+                                const ModuleOrder& order = {})
+{
+    std::vector<std::wstring> result;
+    for (const std::size_t index : visibleModules(modules, filter, order))
+        result.push_back(modules[index].name);
+    return result;
+}
+
+const std::vector<LoadedModule> kModules{module(L"Beta.dll", L"10.0.0.0", 0x20),
+                                         module(L"alpha.dll", L"9.1.0.0", 0x100),
+                                         module(L"gamma.exe", L"", 0x3)};
+using Names = std::vector<std::wstring>;
+
+} // namespace
+
+TEST(ModuleView, IsSortedByNameAtFirst)
+{
+    EXPECT_EQ(names(kModules, L""), (Names{L"alpha.dll", L"Beta.dll", L"gamma.exe"}));
+    EXPECT_EQ(names(kModules, L"", {ModuleColumn::Name, true}),
+              (Names{L"gamma.exe", L"Beta.dll", L"alpha.dll"}));
+}
+
+TEST(ModuleView, NumbersAreSortedByTheirSize)
+{
+    EXPECT_EQ(names(kModules, L"", {ModuleColumn::FileVersion}),
+              (Names{L"gamma.exe", L"alpha.dll", L"Beta.dll"}));
+    EXPECT_EQ(names(kModules, L"", {ModuleColumn::Size}), (Names{L"gamma.exe", L"Beta.dll", L"alpha.dll"}));
+}
+
+TEST(ModuleView, EqualOnesStayAsTheyStand)
+{
+    EXPECT_EQ(names(kModules, L"", {ModuleColumn::Type}), (Names{L"Beta.dll", L"alpha.dll", L"gamma.exe"}));
+    EXPECT_EQ(names(kModules, L"", {ModuleColumn::Type, true}),
+              (Names{L"Beta.dll", L"alpha.dll", L"gamma.exe"}));
+}
+
+TEST(ModuleView, EveryWordOfTheFilterMustBeInSomeColumn)
+{
+    EXPECT_EQ(names(kModules, L"DLL"), (Names{L"alpha.dll", L"Beta.dll"}));
+    EXPECT_EQ(names(kModules, L"  dll   10.0 "), (Names{L"Beta.dll"}));
+    EXPECT_EQ(names(kModules, L"dll 7.7"), Names{});
+    EXPECT_EQ(names(kModules, L"no version"), (Names{L"gamma.exe"})) << "remarks count";
+    EXPECT_EQ(names({}, L"x"), Names{});
+}
+
+TEST(ModuleView, RemarksNameWhatIsUnusual)
+{
+    LoadedModule one = module(L"a", L"1.0.0.0");
+    EXPECT_EQ(remarkOn(one), L"");
+    one.place = ModulePlace::System;
+    EXPECT_EQ(remarkOn(one), L"");
+    one.place = ModulePlace::Elsewhere;
+    EXPECT_EQ(remarkOn(one), L"other folder");
+    one.hasVersionRecord = false;
+    EXPECT_EQ(remarkOn(one), L"no version record, other folder");
+    one.place = ModulePlace::Program;
+    EXPECT_EQ(remarkOn(one), L"no version record");
+}
+
+TEST(ModuleView, FoldersCountWithAllBelowThem)
+{
+    const struct
+    {
+        const wchar_t* path;
+        ModulePlace place;
+    } rows[] = {{L"C:\\Prog\\a.dll", ModulePlace::Program},
+                {L"c:\\PROG\\plug\\a.dll", ModulePlace::Program},
+                {L"C:\\Program\\a.dll", ModulePlace::Elsewhere},
+                {L"C:\\Prog", ModulePlace::Elsewhere},
+                {L"C:\\Windows\\System32\\a.dll", ModulePlace::System},
+                {L"C:\\Windows\\Temp\\a.dll", ModulePlace::Elsewhere},
+                {L"D:\\a.dll", ModulePlace::Elsewhere},
+                {L"", ModulePlace::Elsewhere}};
+    for (const auto& [path, place] : rows)
+        EXPECT_EQ(placeOf(path, L"C:\\Prog", {L"C:\\windows\\system32", L""}), place)
+            << testing::PrintToString(path);
+    EXPECT_EQ(placeOf(L"C:\\a.dll", L"C:\\", {}), ModulePlace::Program) << "a root";
+    EXPECT_EQ(placeOf(L"C:\\a.dll", L"", {}), ModulePlace::Elsewhere) << "no folder holds nothing";
+}
+
+TEST(ModuleView, ColumnsShowOneLine)
+{
+    LoadedModule one = module(L"a");
+    one.fileDescription = L"A\tB\tC";
+    EXPECT_EQ(columnText(one, ModuleColumn::Description), L"A / B / C");
+    one.hasAddress = false;
+    EXPECT_EQ(columnText(one, ModuleColumn::Address), L"");
+    EXPECT_EQ(columnText(one, ModuleColumn::Size), L"");
+}
