@@ -166,8 +166,8 @@ TEST_F(UpdateJobs, CancellingEndsTheWaitForASilentServer)
 
 TEST_F(UpdateJobs, CancellingEndsAListThatStopsInTheMiddle)
 {
-    const auto over =
-        silence("HTTP/1.1 200 OK\r\nContent-Length: 1000000\r\n\r\n" + kList + std::string(100'000, '\n'));
+    const auto over = silence(std::string("HTTP/1.1 200 OK\r\nContent-Length: 1000000\r\n\r\n") + kList +
+                              std::string(100'000, '\n'));
     const auto job = start(question());
     Robot().waitFor("the first part", [&] { return !host.events.empty(); });
     EXPECT_GT(job->progress().received, 0u);
