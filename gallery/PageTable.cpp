@@ -8,9 +8,11 @@
 #include "pages/MessageBoxPage.h"
 #include "pages/ShadedTabsPage.h"
 #include "pages/SlidersPage.h"
+#include "pages/SystemInfoPage.h"
 #include "pages/ThemesPage.h"
 #include "pages/ToolBarPage.h"
 #include "pages/TreePage.h"
+#include "pages/UpdatesPage.h"
 
 namespace
 {
@@ -61,6 +63,12 @@ const std::vector<PageEntry>& pageTable()
          L"Drag bars to the sides or beside the frame, size them, double-click grippers and captions; "
          L"CVantorToolWnd.",
          &make<DockingPage>},
+        {L"sysinfo", L"System information",
+         L"CSystemInfoDlg, CModuleListDlg: the loaded modules and the machine, to be copied for a support case.",
+         &make<SystemInfoPage>},
+        {L"updates", L"Updates",
+         L"checkForUpdates reads a list on the web; here a server inside the gallery offers every outcome.",
+         &make<UpdatesPage>},
     };
     return pages;
 }

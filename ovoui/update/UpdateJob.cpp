@@ -21,7 +21,7 @@ LPARAM nextNumber()
 
 } // namespace
 
-/// Tells the job of progress. One message at a time is on its way.
+/// Tells the window of progress. One message at a time is on its way.
 class UpdateJob::Control : public DownloadControl
 {
 public:
@@ -63,6 +63,10 @@ UpdateJob::~UpdateJob() = default;
 void UpdateJob::cancel() noexcept
 {
     m_control->cancel();
+    if (m_decided.exchange(true))
+        return;
+    m_state = State::Cancelled;
+    post(Answered);
 }
 
 UpdateJob::Bytes UpdateJob::progress() noexcept
@@ -71,29 +75,51 @@ UpdateJob::Bytes UpdateJob::progress() noexcept
     return {m_control->received(), m_control->expected()};
 }
 
-void UpdateJob::run() noexcept
+struct UpdateJob::Answer
 {
     State state = State::Failed;
-    try {
-        state = answer();
-    } catch (const DownloadCancelled&) {
-        state = State::Cancelled;
-    } catch (const OvoError& error) {
-        m_error = error.wwhat();
-    } catch (const std::exception& error) {
-        m_error = getWCS(error.what());
-    }
-    m_state = state; // what the answer consists of is written before
+    std::optional<AvailableUpdate> update;
+    std::wstring error;
+    std::optional<UpdateTrust> trust;
+};
+
+/// An answer that comes after cancel() is dropped.
+void UpdateJob::run() noexcept
+{
+    Answer found = answer();
+    if (m_decided.exchange(true))
+        return;
+    m_update = std::move(found.update);
+    m_error = std::move(found.error);
+    m_question.trust = std::move(found.trust);
+    m_state = found.state; // last: who sees it may read the rest
     post(Answered);
 }
 
-UpdateJob::State UpdateJob::answer()
+UpdateJob::Answer UpdateJob::answer() const noexcept
 {
+    Answer failed;
+    failed.trust = m_question.trust;
+    try {
+        return ask();
+    } catch (const OvoError& error) {
+        failed.error = error.wwhat();
+    } catch (const std::exception& error) {
+        failed.error = getWCS(error.what());
+    }
+    return failed;
+}
+
+UpdateJob::Answer UpdateJob::ask() const
+{
+    Answer found;
+    found.trust = m_question.trust;
     const RunningProduct running =
         runningProduct(m_question.product, m_question.options, m_question.version.data());
-    UpdateTrust* const trust = m_question.trust ? &*m_question.trust : nullptr;
-    m_update = newerVersion(m_question.address, running, trust, *m_control);
-    return m_update ? State::Found : State::NothingNew;
+    found.update =
+        newerVersion(m_question.address, running, found.trust ? &*found.trust : nullptr, *m_control);
+    found.state = found.update ? State::Found : State::NothingNew;
+    return found;
 }
 
 void UpdateJob::post(Event event) const noexcept

@@ -82,8 +82,8 @@ public:
     /// Tells jobs of one window apart.
     LPARAM number() const { return m_number; }
 
-    /// Ends the check, however long the server is silent. The answer still comes: Cancelled, unless it was
-    /// ready before.
+    /// Ends the check. Unless another answer was there before, it is Cancelled now, and posted at once; the work
+    /// itself may wait a moment longer for a silent server.
     void cancel() noexcept;
 
     Bytes progress() noexcept;
@@ -97,9 +97,11 @@ public:
 
 private:
     class Control;
+    struct Answer;
 
     void run() noexcept;
-    State answer();
+    Answer answer() const noexcept;
+    Answer ask() const;
     void post(Event event) const noexcept;
 
     UpdateQuestion m_question;
@@ -107,6 +109,7 @@ private:
     const UINT m_message;
     const LPARAM m_number;
     const std::unique_ptr<Control> m_control;
+    std::atomic<bool> m_decided = false; ///< by the first of the work and cancel()
     std::atomic<State> m_state = State::Running;
     std::optional<AvailableUpdate> m_update;
     std::wstring m_error;
