@@ -64,7 +64,8 @@ const std::vector<PageEntry>& pageTable()
          L"CVantorToolWnd.",
          &make<DockingPage>},
         {L"sysinfo", L"System information",
-         L"CSystemInfoDlg, CModuleListDlg: the loaded modules and the machine, to be copied for a support case.",
+         L"CSystemInfoDlg, CModuleListDlg: the loaded modules and the machine, to be copied for a support "
+         L"case.",
          &make<SystemInfoPage>},
         {L"updates", L"Updates",
          L"checkForUpdates reads a list on the web; here a server inside the gallery offers every outcome.",

@@ -30,7 +30,7 @@ bool readable(SOCKET socket)
     fd_set sockets;
     FD_ZERO(&sockets);
     FD_SET(socket, &sockets);
-    const timeval pause{0, kPause * 1000};
+    timeval pause{0, kPause * 1000};
     return ::select(0, &sockets, nullptr, nullptr, &pause) > 0;
 }
 
@@ -120,8 +120,9 @@ void ListServer::send(Socket client, const Answer& answer)
         if (!waitALittle(client))
             return;
     const std::size_t announced = answer.body.size() * (answer.manner == Manner::CutShort ? 2 : 1);
-    const std::string all = "HTTP/1.1 " + answer.status + "\r\nConnection: close\r\nContent-Length: " +
-                            std::to_string(announced) + "\r\n\r\n" + answer.body;
+    const std::string all = "HTTP/1.1 " + answer.status +
+                            "\r\nConnection: close\r\nContent-Length: " + std::to_string(announced) +
+                            "\r\n\r\n" + answer.body;
     if (answer.manner != Manner::Slowly) {
         sendAll(client, all.data(), all.size());
         return;

@@ -20,9 +20,8 @@ struct Form
     std::wstring (*make)(const std::vector<LoadedModule>& modules);
 };
 
-constexpr Form kForms[] = {{L"Text with tabs", &modulesAsText},
-                           {L"Markdown table", &modulesAsMarkdown},
-                           {L"JSON", &modulesAsJson}};
+constexpr Form kForms[] = {
+    {L"Text with tabs", &modulesAsText}, {L"Markdown table", &modulesAsMarkdown}, {L"JSON", &modulesAsJson}};
 
 /// With the line ends of edit controls.
 CString forEdit(const std::wstring& text)

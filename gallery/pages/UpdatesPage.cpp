@@ -36,9 +36,9 @@ std::wstring shownText(const UpdateOutcome& outcome)
 }
 
 /// What moves down when the list gets more room.
-constexpr int kBelowList[] = {IDC_UPDATES_CHECK,      IDC_UPDATES_FIND,     IDC_UPDATES_SIGNED,
-                              IDC_UPDATES_POLITELY,   IDC_UPDATES_FORGET,   IDC_UPDATES_BACKGROUND,
-                              IDC_UPDATES_CANCEL,     IDC_UPDATES_PROGRESS, IDC_UPDATES_RESULT_LABEL,
+constexpr int kBelowList[] = {IDC_UPDATES_CHECK,    IDC_UPDATES_FIND,     IDC_UPDATES_SIGNED,
+                              IDC_UPDATES_POLITELY, IDC_UPDATES_FORGET,   IDC_UPDATES_BACKGROUND,
+                              IDC_UPDATES_CANCEL,   IDC_UPDATES_PROGRESS, IDC_UPDATES_RESULT_LABEL,
                               IDC_UPDATES_RESULT};
 
 } // namespace
@@ -170,9 +170,8 @@ void UpdatesPage::OnBackground()
     question.address = m_server.address();
     question.product = kProduct;
     std::ranges::copy(kVersion, question.version.begin());
-    m_job = UpdateJob::start(question, m_hWnd, kJobMessage, [](std::function<void()> work) {
-        std::thread(std::move(work)).detach();
-    });
+    m_job = UpdateJob::start(question, m_hWnd, kJobMessage,
+                             [](std::function<void()> work) { std::thread(std::move(work)).detach(); });
     showRunning(true);
     tell(L"The check runs");
 }

@@ -82,8 +82,8 @@ public:
     /// Tells jobs of one window apart.
     LPARAM number() const { return m_number; }
 
-    /// Ends the check. Unless another answer was there before, it is Cancelled now, and posted at once; the work
-    /// itself may wait a moment longer for a silent server.
+    /// Ends the check. Unless another answer was there before, it is Cancelled now, and posted at once; the
+    /// work itself may wait a moment longer for a silent server.
     void cancel() noexcept;
 
     Bytes progress() noexcept;
