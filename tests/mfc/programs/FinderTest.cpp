@@ -39,7 +39,7 @@ protected:
     void close()
     {
         ::SetForegroundWindow(m_program.main());
-        m_program.chord(VK_MENU, VK_F4);
+        m_program.closeByKeys();
         EXPECT_EQ(m_program.waitForEnd(), 0u);
     }
 
@@ -89,7 +89,7 @@ TEST_F(Finder, StaysOpenWhileTheTextIsEdited)
     m_program.waitFor("the longer text",
                       [this] { return textOf(editor()) == std::wstring(kText) + L" Elm"; });
     EXPECT_TRUE(::IsWindowVisible(dialog));
-    // The click may have put the frame in front of the dialog that it owns; it is not known why.
+    // Wine puts a frame that is clicked in front of the dialog that it owns.
     ::SetForegroundWindow(dialog);
     m_program.waitFor("the dialog in front", [&] { return ::GetForegroundWindow() == dialog; });
     m_program.click(::GetDlgItem(dialog, IDC_FIND_NEXT));

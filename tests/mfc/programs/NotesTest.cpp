@@ -75,7 +75,7 @@ protected:
 
     static void close(RunningProgram& program)
     {
-        program.chord(VK_MENU, VK_F4);
+        program.closeByKeys();
         EXPECT_EQ(program.waitForEnd(), 0u);
     }
 

@@ -13,7 +13,9 @@ namespace
 
 constexpr auto kLimit = 20s;
 constexpr UINT kAnswerLimit = 5000; // milliseconds
+constexpr auto kPatience = 1s;      // of a user who tries again
 constexpr int kStartAttempts = 5;
+constexpr COLORREF kBareScreen = RGB(0, 0, 0); // the display's, where no window is
 
 fs::path folderOfTests()
 {
@@ -57,10 +59,7 @@ RunningProgram::RunningProgram(const std::wstring& name, const std::wstring& arg
     m_process = started(commandLine, program.parent_path());
     waitFor("the program's main window", [this] { return !shownWindows().empty(); });
     m_main = shownWindows().back();
-    waitFor("the program to come to the front", [this] {
-        ::SetForegroundWindow(m_main);
-        return isInFront();
-    });
+    comeToTheFront();
 }
 
 RunningProgram::~RunningProgram()
@@ -72,6 +71,32 @@ RunningProgram::~RunningProgram()
     }
     ::CloseHandle(m_process.hThread);
     ::CloseHandle(m_process.hProcess);
+    leaveABareScreen();
+}
+
+/// The display takes the windows of an ended program away in its own time; the next program must not be taken
+/// for shown because of them.
+void RunningProgram::leaveABareScreen() const
+{
+    const auto end = std::chrono::steady_clock::now() + kLimit;
+    while (colourAt(m_place) != kBareScreen && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(5ms);
+}
+
+/// Waits until the program is in front, seen on the screen, and has dealt with what the display told it about
+/// that. Wine raises a window once it learns that it is shown: above a menu, should one have been opened
+/// before.
+void RunningProgram::comeToTheFront()
+{
+    if (!isInFront())
+        ::SetForegroundWindow(m_main);
+    waitFor("the program to come to the front", [this] { return isInFront() && isActive(); });
+    m_place = rectOf(m_main).TopLeft() + CSize(5, 5);
+    waitFor("the window to be seen", [this] { return colourAt(m_place) != kBareScreen; });
+    for (int i = 0; i < 2; ++i) {
+        DWORD_PTR ignored = 0;
+        ::SendMessageTimeoutW(m_main, WM_NULL, 0, 0, SMTO_NORMAL, kAnswerLimit, &ignored);
+    }
 }
 
 // Windows
@@ -132,6 +157,14 @@ bool RunningProgram::isInFront() const
     DWORD process = 0;
     ::GetWindowThreadProcessId(::GetForegroundWindow(), &process);
     return process == m_process.dwProcessId;
+}
+
+/// Whether its own thread knows that it is active.
+bool RunningProgram::isActive() const
+{
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return ::GetGUIThreadInfo(::GetWindowThreadProcessId(m_main, nullptr), &info) && info.hwndActive;
 }
 
 // Input
@@ -195,6 +228,34 @@ void RunningProgram::waitFor(const std::string& what, const std::function<bool()
     }
 }
 
+void RunningProgram::tryUntil(const std::string& what, const std::function<void()>& act,
+                              const std::function<bool()>& condition)
+{
+    auto next = std::chrono::steady_clock::now();
+    waitFor(what, [&] {
+        if (condition())
+            return true;
+        if (std::chrono::steady_clock::now() >= next) {
+            act();
+            next = std::chrono::steady_clock::now() + kPatience;
+        }
+        return false;
+    });
+}
+
+void RunningProgram::closeByKeys()
+{
+    const auto ended = [this] { return ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_OBJECT_0; };
+    const auto press = [this] {
+        m_input.keyDown(VK_MENU);
+        m_input.keyDown(VK_F4);
+        m_input.keyUp(VK_F4);
+        m_input.keyUp(VK_MENU);
+    };
+    tryUntil(
+        "the program to end", [&] { isInFront() ? press() : comeToTheFront(); }, ended);
+}
+
 DWORD RunningProgram::waitForEnd()
 {
     waitFor("the program to end",
@@ -231,8 +292,13 @@ CRect rectOf(HWND wnd)
 COLORREF colourAt(HWND wnd, CPoint client)
 {
     ::ClientToScreen(wnd, &client);
+    return colourAt(client);
+}
+
+COLORREF colourAt(CPoint point)
+{
     const HDC screen = ::GetDC(nullptr);
-    const COLORREF colour = ::GetPixel(screen, client.x, client.y);
+    const COLORREF colour = ::GetPixel(screen, point.x, point.y);
     ::ReleaseDC(nullptr, screen);
     return colour;
 }

@@ -38,6 +38,12 @@ public:
     void type(const std::wstring& text);
 
     void waitFor(const std::string& what, const std::function<bool()>& condition);
+    /// Does something, and again as long as nothing comes of it. For what a late movement of the pointer,
+    /// which the display reports in its own time, can undo.
+    void tryUntil(const std::string& what, const std::function<void()>& act,
+                  const std::function<bool()>& condition);
+    /// Alt+F4 until the program has ended.
+    void closeByKeys();
     /// Waits until the program has ended; gives its exit code.
     DWORD waitForEnd();
     /// Waits until the program has ended; false when it crashed. The exit code of a program whose main window
@@ -46,11 +52,15 @@ public:
 
 private:
     std::vector<HWND> shownWindows() const;
+    void comeToTheFront();
+    void leaveABareScreen() const;
     bool isInFront() const;
+    bool isActive() const;
     void clickAt(CPoint screen, ovotest::Button button);
 
     PROCESS_INFORMATION m_process{};
     HWND m_main = nullptr;
+    CPoint m_place; ///< within the main window as it was first shown, in screen coordinates
     ovotest::Input m_input;
 };
 
@@ -60,3 +70,4 @@ std::wstring textOf(HWND dialog, int id);
 CRect rectOf(HWND wnd);
 /// The colour of the screen at a point of a window's client area.
 COLORREF colourAt(HWND wnd, CPoint client);
+COLORREF colourAt(CPoint screen);
