@@ -23,10 +23,23 @@ namespace
 
 constexpr int kSeparatorWidth = 8;
 
-/// Shows a command as a button.
+/// Shows a command as a button. A handler may have destroyed the bar, or deleted the button.
 class ToolCmdUI : public CCmdUI
 {
 public:
+    explicit ToolCmdUI(CToolBar& bar)
+        : m_bar(bar.m_hWnd)
+    {
+        m_pOther = &bar;
+    }
+
+    bool isBarThere() const { return CWnd::FromHandlePermanent(m_bar) == m_pOther; }
+    /// False when there is no such button.
+    bool readButton(TBBUTTON& button) const
+    {
+        return ::SendMessageW(m_bar, TB_GETBUTTON, m_nIndex, reinterpret_cast<LPARAM>(&button)) != 0;
+    }
+
     void Enable(BOOL on) override
     {
         m_bEnableChanged = TRUE;
@@ -42,10 +55,15 @@ public:
 private:
     void setStyle(UINT bits, UINT among)
     {
+        TBBUTTON present{};
+        if (!isBarThere() || !readButton(present))
+            return;
         auto& bar = *static_cast<CToolBar*>(m_pOther);
         const int index = static_cast<int>(m_nIndex);
         bar.SetButtonStyle(index, (bar.GetButtonStyle(index) & ~among) | bits);
     }
+
+    const HWND m_bar;
 };
 
 bool isSeparator(UINT style)
@@ -229,16 +247,20 @@ void CToolBar::GetButtonText(int index, CString& text) const
 
 void CToolBar::OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler)
 {
-    ToolCmdUI ui;
-    ui.m_pOther = this;
+    ToolCmdUI ui(*this);
     ui.m_nIndexMax = static_cast<UINT>(SendMessage(TB_BUTTONCOUNT));
     for (ui.m_nIndex = 0; ui.m_nIndex < ui.m_nIndexMax; ++ui.m_nIndex) {
-        const TBBUTTON shown = button(static_cast<int>(ui.m_nIndex));
+        TBBUTTON shown{};
+        if (!ui.readButton(shown))
+            break; // a handler has deleted buttons
         if (isSeparator(shown.fsStyle))
             continue;
         ui.m_nID = static_cast<UINT>(shown.idCommand);
-        if (!CWnd::OnCmdMsg(ui.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &ui, nullptr))
+        const BOOL done = CWnd::OnCmdMsg(ui.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &ui, nullptr);
+        if (!done && ui.isBarThere())
             ui.DoUpdate(target, disableIfNoHandler);
+        if (!ui.isBarThere())
+            return;
     }
     UpdateDialogControls(target, disableIfNoHandler); // controls that lie in the bar
 }

@@ -229,6 +229,39 @@ TEST_F(ToolBar, AHandlerSeesTheBarAndThePosition)
     EXPECT_EQ(separators, 0);
 }
 
+TEST_F(ToolBar, AnUpdateHandlerMayDeleteButtonsTheWindowAndTheBar)
+{
+    const auto makeBar = [this] {
+        auto bar = std::make_unique<CToolBar>();
+        bar->CreateEx(&*m_frame, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP, CRect(0, 0, 0, 0), 99);
+        bar->LoadToolBar(IDR_FRAME);
+        return bar;
+    };
+    using Misdeed = std::function<void(std::unique_ptr<CToolBar>&)>;
+    const Misdeed misdeeds[] = {
+        [](auto& bar) { bar->SendMessage(TB_DELETEBUTTON, 0); },
+        [](auto& bar) {
+            while (bar->SendMessage(TB_DELETEBUTTON, 0)) {
+            }
+        },
+        [](auto& bar) { bar->DestroyWindow(); },
+        [](auto& bar) { bar.reset(); },
+    };
+    for (const Misdeed& misdeed : misdeeds) {
+        std::unique_ptr<CToolBar> bar = makeBar();
+        int asked = 0;
+        m_frame->updates[ID_TEST_ACT] = [&](CCmdUI& ui) {
+            ++asked;
+            misdeed(bar);
+            ui.Enable(FALSE); // of what is left
+            ui.SetCheck();
+        };
+        bar->OnUpdateCmdUI(&*m_frame, TRUE);
+        EXPECT_EQ(asked, 1);
+    }
+    m_frame->updates.clear();
+}
+
 TEST_F(ToolBar, AClickSendsTheCommandToTheFrame)
 {
     present(*m_frame);
