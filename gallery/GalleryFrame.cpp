@@ -245,8 +245,11 @@ void GalleryFrame::OnUpdateLogClear(CCmdUI* ui)
 void GalleryFrame::settle()
 {
     MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
-        AfxPumpMessage();
+    LONG idle = 0;
+    do {
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE))
+            AfxPumpMessage();
+    } while (AfxGetThread()->OnIdle(idle++)); // bars and boxes are brought up to date in idle time
     RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
