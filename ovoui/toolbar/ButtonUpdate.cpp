@@ -6,6 +6,12 @@ namespace ovoui::toolbar
 namespace
 {
 
+/// False when there is no such button.
+bool readButton(const CToolBar& bar, UINT index, TBBUTTON& button)
+{
+    return ::SendMessageW(bar.m_hWnd, TB_GETBUTTON, index, reinterpret_cast<LPARAM>(&button)) != 0;
+}
+
 /// Shows a command as a button.
 class ButtonUI : public CCmdUI
 {
@@ -30,13 +36,16 @@ public:
     void SetText(LPCTSTR) override {}
 
 private:
+    /// Asks for the button anew: the handler may have changed the bar.
     void show(UINT bits, UINT among)
     {
-        const int index = static_cast<int>(m_nIndex);
-        if (!m_usable() || index >= static_cast<int>(m_bar.SendMessage(TB_BUTTONCOUNT)))
+        TBBUTTON button{};
+        if (!m_usable() || !readButton(m_bar, m_nIndex, button))
             return;
-        const UINT style = m_bar.GetButtonStyle(index);
-        m_bar.SetButtonStyle(index, (style & ~among) | bits);
+        const UINT style = static_cast<UINT>(MAKELONG(button.fsStyle, button.fsState ^ TBSTATE_ENABLED));
+        const UINT wanted = (style & ~among) | bits;
+        if (wanted != style)
+            m_bar.SetButtonStyle(static_cast<int>(m_nIndex), wanted);
     }
 
     CToolBar& m_bar;
@@ -49,10 +58,10 @@ void updateButtons(CToolBar& bar, CCmdTarget& target, bool disableIfNoHandler,
                    const std::function<bool()>& usable)
 {
     ButtonUI ui(bar, usable);
+    ui.m_nIndexMax = static_cast<UINT>(bar.SendMessage(TB_BUTTONCOUNT));
     for (ui.m_nIndex = 0; usable(); ++ui.m_nIndex) {
-        ui.m_nIndexMax = static_cast<UINT>(bar.SendMessage(TB_BUTTONCOUNT));
         TBBUTTON button{};
-        if (!bar.SendMessage(TB_GETBUTTON, ui.m_nIndex, reinterpret_cast<LPARAM>(&button)))
+        if (!readButton(bar, ui.m_nIndex, button))
             break; // behind the last one
         if (button.fsStyle & TBSTYLE_SEP)
             continue;

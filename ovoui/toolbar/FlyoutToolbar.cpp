@@ -3,6 +3,7 @@
 
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/toolbar/AccessibleBar.h>
 #include <ovoui/toolbar/ButtonUpdate.h>
 #include <ovoui/toolbar/FlyoutTip.h>
 #include <ovoui/toolbar/ImageStrip.h>
@@ -18,6 +19,7 @@ using namespace ovoui::toolbar;
 IMPLEMENT_DYNAMIC(CFlyoutToolbar, CToolBar)
 
 BEGIN_MESSAGE_MAP(CFlyoutToolbar, CToolBar)
+    ON_WM_CREATE()
     ON_WM_TIMER()
     ON_WM_MOUSEACTIVATE()
 END_MESSAGE_MAP()
@@ -88,8 +90,7 @@ bool CFlyoutToolbar::create(CVantorToolBar& bar, const FlyoutRecord& record, boo
     if (!CWnd::CreateEx(exStyle, windowClass(), nullptr, kStyle, 0, 0, 0, 0, owner, nullptr))
         return false;
     SetOwner(CWnd::FromHandle(owner));
-    CFrameWnd* const frame = bar.GetDockingFrame();
-    m_frame = frame ? frame->m_hWnd : bar.GetTopLevelFrame()->GetSafeHwnd();
+    m_frame = bar.promptFrame();
 
     SendMessage(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
     SendMessage(TB_SETPARENT, reinterpret_cast<WPARAM>(m_hWnd)); // the owner knows nothing of this control
@@ -110,11 +111,15 @@ bool CFlyoutToolbar::fillFromResource(const FlyoutRecord& record)
         all.push_back(buttonAt(0));
         SendMessage(TB_DELETEBUTTON, 0);
     }
+    std::vector<TBBUTTON> entries;
     for (std::size_t i = 0; i < record.buttonIndices.size(); ++i) {
         const auto index = static_cast<std::size_t>(record.buttonIndices[i]);
-        if (index < all.size())
-            addEntry(all[index], static_cast<int>(i));
+        if (index >= all.size())
+            continue;
+        entries.push_back(all[index]);
+        m_entries.push_back(static_cast<int>(i));
     }
+    addEntries(entries);
     return true;
 }
 
@@ -129,19 +134,25 @@ bool CFlyoutToolbar::fillFromCommands(const FlyoutRecord& record)
             if (added.insert(bitmap).second)
                 addStrip(m_hWnd, bitmap, record.bitmapSize);
     }
+    std::vector<TBBUTTON> entries;
     for (std::size_t i = 0; i < record.commands.size(); ++i) {
         const int image = i < record.images.size() ? record.images[i] : I_IMAGENONE;
         const int command = record.commands[i];
-        addEntry(command == ID_SEPARATOR ? separator() : commandButton(command, image), static_cast<int>(i));
+        entries.push_back(command == ID_SEPARATOR ? separator() : commandButton(command, image));
+        m_entries.push_back(static_cast<int>(i));
         m_names.push_back(i < record.names.size() ? record.names[i].value() : std::wstring());
     }
+    addEntries(entries);
     return true;
 }
 
-void CFlyoutToolbar::addEntry(const TBBUTTON& button, int entry)
+/// All at once: the control lays itself out after each message.
+void CFlyoutToolbar::addEntries(const std::vector<TBBUTTON>& buttons)
 {
-    if (SendMessage(TB_ADDBUTTONS, 1, reinterpret_cast<LPARAM>(&button)))
-        m_entries.push_back(entry);
+    const bool added = !buttons.empty() &&
+                       SendMessage(TB_ADDBUTTONS, buttons.size(), reinterpret_cast<LPARAM>(buttons.data()));
+    if (!added)
+        m_entries.clear();
 }
 
 int CFlyoutToolbar::entryOf(int command) const
@@ -179,6 +190,8 @@ void CFlyoutToolbar::placeAt(const CRect& button, bool horizontal)
 /// A flyout that is longer than the work area gets several rows, or columns.
 void CFlyoutToolbar::breakRowsFor(const CSize& room, bool horizontal)
 {
+    if (horizontal && sizeOfEntries().cx <= room.cx)
+        return; // one row, as it is
     std::vector<RowItem> items;
     for (int i = 0; i < static_cast<int>(m_entries.size()); ++i) {
         CRect rect;
@@ -209,6 +222,12 @@ CSize CFlyoutToolbar::sizeOfEntries() const
 }
 
 // Life
+
+/// The frame does not count it among its bars: a flyout takes no room and must cause no layout.
+int CFlyoutToolbar::OnCreate(LPCREATESTRUCT cs)
+{
+    return CWnd::OnCreate(cs);
+}
 
 bool CFlyoutToolbar::showLater(UINT milliseconds)
 {
@@ -247,9 +266,28 @@ BOOL CFlyoutToolbar::DestroyWindow()
 LRESULT CFlyoutToolbar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const std::shared_ptr<CFlyoutToolbar> self = weak_from_this().lock();
-    if (message == WM_NOTIFY)
-        return 0; // of this control itself
+    if (message == pressMessage()) {
+        onPressed(static_cast<int>(wParam));
+        return 0;
+    }
+    switch (message) {
+    case WM_NOTIFY:
+        return 0;    // of this control itself
+    case WM_COMMAND: // the control tells itself of a click, and must not be destroyed in the middle
+        PostMessage(pressMessage(), static_cast<WPARAM>(CommandToIndex(LOWORD(wParam))));
+        return 0;
+    case WM_GETOBJECT:
+        if (const LRESULT object = onGetObject(wParam, lParam))
+            return object;
+        break;
+    }
     return CToolBar::WindowProc(message, wParam, lParam);
+}
+
+void CFlyoutToolbar::onPressed(int index)
+{
+    if (index >= 0 && index < static_cast<int>(m_entries.size()) && whenChosen)
+        whenChosen(entryAt(index));
 }
 
 int CFlyoutToolbar::OnMouseActivate(CWnd*, UINT, UINT)

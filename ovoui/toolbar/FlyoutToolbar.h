@@ -6,6 +6,7 @@
 
 #include <afxext.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,22 +17,25 @@ class CVantorToolBar;
 namespace ovoui::toolbar
 {
 struct FlyoutRecord;
-}
+struct Stop;
+
+/// An entry of a flyout; none of them by itself.
+struct FlyoutEntry
+{
+    int index = -1; ///< in the order in which the entries were attached; -1 for none
+    int command = 0;
+    bool enabled = false;
+
+    bool isHot() const { return index >= 0; }
+};
+} // namespace ovoui::toolbar
 
 class OVOUI_API CFlyoutToolbar : public CToolBar, public std::enable_shared_from_this<CFlyoutToolbar>
 {
     DECLARE_DYNAMIC(CFlyoutToolbar)
 
 public:
-    /// What is under the pointer.
-    struct Entry
-    {
-        int index = -1; ///< in the order in which the entries were attached; -1 for none
-        int command = 0;
-        bool enabled = false;
-
-        bool isHot() const { return index >= 0; }
-    };
+    using Entry = ovoui::toolbar::FlyoutEntry;
 
     CFlyoutToolbar();
     ~CFlyoutToolbar() override;
@@ -53,6 +57,23 @@ public:
     /// The pointer is at this point of the screen: makes the entry there hot.
     Entry track(CPoint screen);
 
+    // By button: separators count.
+    std::vector<ovoui::toolbar::Stop> stops() const;
+    int hotIndex() const { return m_hot; }
+    Entry hotEntry() const;
+    Entry entryAt(int index) const;
+    /// Shows a button pressed, with its prompt and, after a while, its tip; -1 for none.
+    void makeHot(int index);
+    /// The text of its tip: what its command's string has behind its line feed, else its name.
+    std::wstring nameOf(int index) const;
+    void announceFocus(int index) const;
+
+    /// Called for an entry that was clicked, which happens when the flyout was opened by the keyboard, or
+    /// chosen by accessibility.
+    std::function<void(const Entry&)> whenChosen;
+    /// Whether it answers IAccessible itself; `name` is that of the button that it belongs to.
+    void useAccessibleNames(const std::wstring& name);
+
     /// Asks the bar's owner; `target` is ignored.
     void OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -63,6 +84,7 @@ protected:
     UINT m_nextTipDelay; ///< until one is shown after it
     UINT m_tipTime;      ///< how long a tip stays
 
+    afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg int OnMouseActivate(CWnd* top, UINT hitTest, UINT message);
     DECLARE_MESSAGE_MAP()
@@ -74,21 +96,22 @@ private:
 
     bool fillFromResource(const ovoui::toolbar::FlyoutRecord& record);
     bool fillFromCommands(const ovoui::toolbar::FlyoutRecord& record);
-    void addEntry(const TBBUTTON& button, int entry);
+    void addEntries(const std::vector<TBBUTTON>& buttons);
     void breakRowsFor(const CSize& room, bool horizontal);
     CSize sizeOfEntries() const;
 
     TBBUTTON buttonAt(int index) const;
     int buttonUnder(CPoint screen) const;
-    void makeHot(int index);
     void showPressed(int index, bool pressed);
     void showPrompt(UINT id) const;
-    std::wstring tipText() const;
+    LRESULT onGetObject(WPARAM wParam, LPARAM lParam);
+    void onPressed(int index);
     void showTip();
     void hideTip();
 
     HWND m_frame = nullptr; ///< whose message line shows the prompts
     bool m_mirrored = false;
+    bool m_accessible = false;
     std::vector<int> m_entries;        ///< by button: the entry in the record
     std::vector<std::wstring> m_names; ///< by entry
     int m_hot = -1;                    ///< index of the hot button

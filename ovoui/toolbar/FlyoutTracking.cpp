@@ -1,9 +1,14 @@
 // CFlyoutToolbar: the hot entry, its prompt and its tip.
 #include <ovoui/toolbar/FlyoutToolbar.h>
 
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/toolbar/ButtonNames.h>
 #include <ovoui/toolbar/FlyoutTip.h>
+#include <ovoui/toolbar/core/BarWalk.h>
 
 #include <afxpriv.h>
+
+using namespace ovoui::toolbar;
 
 namespace
 {
@@ -39,11 +44,30 @@ int CFlyoutToolbar::buttonUnder(CPoint screen) const
 CFlyoutToolbar::Entry CFlyoutToolbar::track(CPoint screen)
 {
     makeHot(buttonUnder(screen));
-    if (m_hot == kNone)
-        return {};
-    const TBBUTTON button = buttonAt(m_hot);
-    return {m_entries[static_cast<std::size_t>(m_hot)], button.idCommand,
+    return hotEntry();
+}
+
+CFlyoutToolbar::Entry CFlyoutToolbar::hotEntry() const
+{
+    return m_hot == kNone ? Entry{} : entryAt(m_hot);
+}
+
+CFlyoutToolbar::Entry CFlyoutToolbar::entryAt(int index) const
+{
+    const TBBUTTON button = buttonAt(index);
+    return {m_entries[static_cast<std::size_t>(index)], button.idCommand,
             (button.fsState & TBSTATE_ENABLED) != 0};
+}
+
+std::vector<Stop> CFlyoutToolbar::stops() const
+{
+    std::vector<Stop> all;
+    for (int i = 0; i < static_cast<int>(m_entries.size()); ++i) {
+        CRect place;
+        GetItemRect(i, &place);
+        all.push_back({ovoui::frame::toBox(place), !(buttonAt(i).fsStyle & TBSTYLE_SEP)});
+    }
+    return all;
 }
 
 void CFlyoutToolbar::makeHot(int index)
@@ -107,20 +131,18 @@ void CFlyoutToolbar::OnTimer(UINT_PTR id)
     }
 }
 
-/// What the command's string has behind its line feed, else the name that it was attached with.
-std::wstring CFlyoutToolbar::tipText() const
+std::wstring CFlyoutToolbar::nameOf(int index) const
 {
-    CString full;
-    CString tip;
-    if (full.LoadString(static_cast<UINT>(buttonAt(m_hot).idCommand)) && AfxExtractSubString(tip, full, 1))
-        return tip.GetString();
-    const auto entry = static_cast<std::size_t>(m_entries[static_cast<std::size_t>(m_hot)]);
+    const std::wstring tip = tipOfCommand(buttonAt(index).idCommand);
+    if (!tip.empty())
+        return tip;
+    const auto entry = static_cast<std::size_t>(m_entries[static_cast<std::size_t>(index)]);
     return entry < m_names.size() ? m_names[entry] : std::wstring();
 }
 
 void CFlyoutToolbar::showTip()
 {
-    const std::wstring text = m_hot == kNone ? std::wstring() : tipText();
+    const std::wstring text = m_hot == kNone ? std::wstring() : nameOf(m_hot);
     if (text.empty())
         return;
     if (!m_tip) {

@@ -90,8 +90,13 @@ BOOL CVantorToolBar::InsertButton(int index, TBBUTTON* button)
         ms_dragButton = afterInsertion(ms_dragButton, index);
     if (!button)
         return 1;
-    return static_cast<BOOL>(
+    const std::shared_ptr<State> state = m_state;
+    state->keyboard.button = afterInsertion(state->keyboard.button, index);
+    const auto inserted = static_cast<BOOL>(
         SendMessage(TB_INSERTBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(button)));
+    if (state->usable())
+        m_nCount = buttonCount();
+    return inserted;
 }
 
 BOOL CVantorToolBar::DeleteButton(int index)
@@ -102,7 +107,13 @@ BOOL CVantorToolBar::DeleteButton(int index)
             closeFlyout();
         ms_dragButton = afterDeletion(ms_dragButton, index);
     }
-    return static_cast<BOOL>(SendMessage(TB_DELETEBUTTON, static_cast<WPARAM>(index)));
+    const std::shared_ptr<State> state = m_state;
+    if (hasButton(index))
+        state->keyboard.button = afterDeletion(state->keyboard.button, index);
+    const auto deleted = static_cast<BOOL>(SendMessage(TB_DELETEBUTTON, static_cast<WPARAM>(index)));
+    if (state->usable()) // the owner is told of the deletion
+        m_nCount = buttonCount();
+    return deleted;
 }
 
 void CVantorToolBar::_getButton(int index, TBBUTTON* button) const

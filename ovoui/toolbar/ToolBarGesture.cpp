@@ -1,5 +1,6 @@
 // CVantorToolBar: press a button, hold it, slide to an entry of its flyout, release.
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/toolbar/ButtonNames.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/ToolBarState.h>
 #include <ovoui/toolbar/core/FlyoutGesture.h>
@@ -12,7 +13,7 @@ using namespace ovoui::toolbar;
 namespace
 {
 
-EntryState stateOf(const CFlyoutToolbar::Entry& entry)
+EntryState stateOf(const FlyoutEntry& entry)
 {
     if (!entry.isHot())
         return EntryState::None;
@@ -72,6 +73,11 @@ bool CVantorToolBar::ButtonHitTest(CPoint point, int& index, CRect& rect, bool& 
 void CVantorToolBar::OnLButtonDown(UINT flags, CPoint point)
 {
     const std::shared_ptr<State> state = m_state;
+    if (state->keyboard.on) {
+        giveFocusBack();
+        if (!state->usable())
+            return;
+    }
     ButtonUnderPointer under;
     CRect rect;
     ButtonHitTest(point, under.index, rect, under.hasFlyout);
@@ -103,6 +109,12 @@ void CVantorToolBar::CreatePopup(int index, const CRect& rect, int held)
         return;
     ms_popupBar = flyout;
     ms_activeBar = this;
+    flyout->whenChosen = [state](const FlyoutEntry& entry) {
+        if (state->usable())
+            state->bar->chooseEntry(entry);
+    };
+    if (state->accessible)
+        flyout->useAccessibleNames(nameOfButton(*this, index));
     flyout->placeAt(rect, horizontal);
     if (!held || !flyout->showLater(holdDelay()))
         flyout->show();
@@ -187,8 +199,13 @@ bool CVantorToolBar::choose(CPoint point)
 {
     const std::shared_ptr<CFlyoutToolbar> flyout = ms_popupBar;
     ClientToScreen(&point);
-    const CFlyoutToolbar::Entry entry = flyout ? flyout->track(point) : CFlyoutToolbar::Entry{};
-    const ReleaseOutcome outcome = onRelease(press(), stateOf(entry));
+    return takeEntry(press(), flyout ? flyout->track(point) : FlyoutEntry{});
+}
+
+/// The same for an entry, at the end of a press.
+bool CVantorToolBar::takeEntry(const Press& press, const FlyoutEntry& entry)
+{
+    const ReleaseOutcome outcome = onRelease(press, stateOf(entry));
     const FlyoutRecord* const record = m_state->records.find(ms_dragButton);
     if (!outcome.chooses || !record || !hasButton(ms_dragButton))
         return false;

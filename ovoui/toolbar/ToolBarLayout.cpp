@@ -66,6 +66,12 @@ void CVantorToolBar::sizeToolBar(TBBUTTON* buttons, int count, int length, bool 
         setState(buttons[i], TBSTATE_WRAP, items[static_cast<std::size_t>(i)].endsRow);
 }
 
+void CVantorToolBar::SetHeight(int height)
+{
+    CToolBar::SetHeight(height);
+    m_state->height = height;
+}
+
 CSize CVantorToolBar::calcLayout(DWORD mode, int length)
 {
     const bool horizontal = (mode & LM_HORZ) != 0;
@@ -96,6 +102,8 @@ CSize CVantorToolBar::calcLayout(DWORD mode, int length)
     if (length == -1 || (mode & LM_COMMIT))
         takeLayout(buttons, horizontal);
     size += around;
+    if (horizontal && m_state->height > 0)
+        size.cy = m_state->height;
     if (mode & LM_STRETCH)
         (horizontal ? size.cx : size.cy) = kLong;
     return size;

@@ -12,6 +12,7 @@ namespace
 constexpr int kDot = 2;     // pixels of a dot of the gripper, its shadow included
 constexpr int kDotStep = 4; // from dot to dot
 constexpr int kDotMargin = 3;
+constexpr int kFocusMargin = 2; // pixels from a button's edge to the mark of the keyboard
 
 /// A dot with a light edge at its lower right.
 void drawDot(CDC& dc, int x, int y)
@@ -82,6 +83,19 @@ void CVantorToolBar::OnPaint()
     CToolBar::OnPaint(); // asks the owner about custom drawing
     if (state->usable() && state->marksFlyouts)
         drawFlyoutMarks();
+    if (state->usable() && state->keyboard.on)
+        drawFocus();
+}
+
+/// The button that the keyboard is at.
+void CVantorToolBar::drawFocus()
+{
+    CRect rect;
+    if (!GetToolBarCtrl().GetItemRect(m_state->keyboard.button, &rect))
+        return;
+    CClientDC dc(this);
+    rect.DeflateRect(kFocusMargin, kFocusMargin);
+    dc.DrawFocusRect(&rect);
 }
 
 void CVantorToolBar::ShowFlyoutMarks(bool show)

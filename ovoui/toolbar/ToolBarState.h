@@ -32,8 +32,18 @@ struct CVantorToolBar::State
     std::map<int, int> bitmapOffsets; ///< where the images of a strip begin, by its resource
     ControlCallback callback = nullptr;
     bool marksFlyouts = false;
+    int height = 0;                ///< SetHeight; 0 follows the buttons
     UINT holdDelay = kHoldDelay;   ///< in milliseconds, or kMenuDelay
     std::set<int> controlsPutAway; ///< hidden because the bar is vertical
+    bool accessible = false;       ///< answers IAccessible itself
+
+    /// FocusButtons
+    struct Keyboard
+    {
+        bool on = false;
+        int button = -1;       ///< where it is; -1 for none
+        HWND before = nullptr; ///< had the focus before
+    } keyboard;
 
     // Images by resolution (ToolBarStrips.cpp)
     std::vector<Strip> strips;

@@ -1,6 +1,7 @@
 // CVantorToolBar: its life, updates and notifications.
 #include <ovoui/toolbar/VantorToolBar.h>
 
+#include <ovoui/toolbar/AccessibleBar.h>
 #include <ovoui/toolbar/ButtonUpdate.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/ToolBarState.h>
@@ -21,6 +22,11 @@ BEGIN_MESSAGE_MAP(CVantorToolBar, CToolBar)
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONDBLCLK()
     ON_WM_CAPTURECHANGED()
+    // keyboard in the bar itself
+    ON_WM_GETDLGCODE()
+    ON_WM_KEYDOWN()
+    ON_WM_SYSKEYDOWN()
+    ON_WM_KILLFOCUS()
     // painting, controls that draw themselves
     ON_WM_PAINT()
     ON_WM_DRAWITEM()
@@ -115,11 +121,19 @@ void CVantorToolBar::OnTimer(UINT_PTR id)
 
 LRESULT CVantorToolBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == pressMessage()) {
+        clickButton(static_cast<int>(wParam));
+        return 0;
+    }
     switch (message) {
     case WM_IDLEUPDATECMDUI:
         return OnIdleUpdateCmdUI(wParam, lParam);
     case WM_COMMAND:
         return onControlCommand(wParam, lParam);
+    case WM_GETOBJECT:
+        if (const LRESULT object = onGetObject(wParam, lParam))
+            return object;
+        break;
     case WM_DPICHANGED:
         onResolutionChanged(LOWORD(wParam));
         break;

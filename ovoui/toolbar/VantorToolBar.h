@@ -24,8 +24,12 @@ class CFlyoutToolbar;
 
 namespace ovoui::toolbar
 {
+enum class WalkKey;
+struct FlyoutEntry;
 struct FlyoutRecord;
+struct KeyView;
 struct Press;
+struct Stop;
 } // namespace ovoui::toolbar
 
 /// Posted to the thread's main window when a button of a bar is double-clicked; wParam: its command.
@@ -96,6 +100,15 @@ public:
     /// resource, the images stay what they were.
     void UseStrips(const std::vector<Strip>& strips, int imageSize);
 
+    /// Gives the bar the focus, so that keys operate it: arrows walk over the buttons, Enter and Space press
+    /// one, Down or Alt+Down opens its flyout, Tab goes to the bar's controls, Escape gives the focus back to
+    /// where it was. FALSE when there is no button to press, or the focus cannot be had.
+    BOOL FocusButtons();
+
+    /// Bar and flyouts answer IAccessible themselves, with names, roles, states and default actions of their
+    /// buttons. The thread has initialised COM.
+    void UseAccessibleNames(bool use);
+
     /// Writes into a section of the application's profile which command each button with a flyout shows.
     void SaveChoices(LPCTSTR section) const;
     /// Gives the buttons the commands and images of before. What is not in a flyout any more is skipped.
@@ -119,6 +132,9 @@ public:
     static DWORD ms_apiRestartedTickCount;
 
     // Layout, in pixels
+
+    /// The bar's height while it is horizontal, borders included; 0 follows the buttons.
+    void SetHeight(int height);
 
     /// The size of rows that are broken where TBSTATE_WRAP says.
     CSize calcSize(const TBBUTTON* buttons, int count) const;
@@ -166,6 +182,11 @@ protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* now);
+    // keyboard in the bar itself
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnSysKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnKillFocus(CWnd* now);
     // painting, controls that draw themselves
     afx_msg void OnPaint();
     afx_msg void OnDrawItem(int id, LPDRAWITEMSTRUCT item);
@@ -186,11 +207,34 @@ private:
     bool isPressed() const;
     void slide(CPoint point);
     bool choose(CPoint point);
+    bool takeEntry(const ovoui::toolbar::Press& press, const ovoui::toolbar::FlyoutEntry& entry);
     void releaseQuietly(UINT flags, CPoint point);
     void showChoice(int index, int command, int image);
     void restoreChoice(int index, int command);
     void drawFlyoutMarks();
+    void drawFocus();
     UINT holdDelay() const;
+    // keyboard
+    std::vector<ovoui::toolbar::Stop> stops() const;
+    ovoui::toolbar::KeyView keyView() const;
+    int reachableCount() const;
+    HWND promptFrame() const;
+    void goToButton(int index);
+    void redrawButton(int index);
+    bool onOperatingKey(UINT key, bool alt);
+    void walkBar(ovoui::toolbar::WalkKey key);
+    void walkFlyout(ovoui::toolbar::WalkKey key);
+    void openByKey();
+    void pressByKey();
+    void clickButton(int index);
+    void chooseEntry(const ovoui::toolbar::FlyoutEntry& entry);
+    void goToControl(bool previous);
+    void giveFocusBack();
+    void leaveKeyboard();
+    // accessibility
+    void announceFocus(int index) const;
+    LRESULT onGetObject(WPARAM wParam, LPARAM lParam);
+    // images, layout, commands
     void loadStrip(int dotsPerInch);
     void onResolutionChanged(int resolution);
     bool isHorizontal() const;

@@ -1,6 +1,7 @@
 # Toolbars whose buttons carry flyouts.
 set(toolbar_core
   ${CMAKE_CURRENT_LIST_DIR}/core/BarRules.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/BarWalk.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ButtonRows.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ControlKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutGesture.cpp
@@ -17,18 +18,23 @@ endif()
 
 target_sources(ovoui PRIVATE
   ${toolbar_core}
+  ${CMAKE_CURRENT_LIST_DIR}/AccessibleBar.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ButtonNames.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ButtonUpdate.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FlyoutTip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FlyoutToolbar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FlyoutTracking.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ImageStrip.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarAccess.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarButtons.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarChoices.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarFlyouts.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarGesture.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarKeyboard.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarPaint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarStrips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/VantorToolBar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/VantorToolWnd.cpp)
+target_link_libraries(ovoui PRIVATE oleacc)

@@ -132,6 +132,23 @@ TEST(FlyoutWindow, AnotherOneDestroysIt)
     EXPECT_TRUE(BarScene::flyoutShown());
 }
 
+TEST(FlyoutWindow, TheFrameLaysNothingOutForIt)
+{
+    BarScene scene;
+    scene.bar().SetButtonStyle(BarScene::Lines, TBBS_BUTTON | TBBS_WRAPPED); // a layout would undo it
+    GuiThread::settle();
+    int layouts = 0;
+    scene.bar().seeing = [&](UINT message, WPARAM) { layouts += message == WM_SIZEPARENT; };
+    {
+        const OpenFlyout flyout(scene);
+        EXPECT_EQ(flyout->GetDockingFrame(), nullptr) << "no bar of the frame's";
+        GuiThread::settle();
+    }
+    GuiThread::settle();
+    EXPECT_EQ(layouts, 0);
+    EXPECT_TRUE(scene.bar().GetButtonStyle(BarScene::Lines) & TBBS_WRAPPED);
+}
+
 TEST(FlyoutWindow, WithoutAFlyoutOrEntriesNothingOpens)
 {
     BarScene scene;

@@ -194,8 +194,6 @@ TEST(FlyoutChoice, OnAnotherWindowNothingIsChosen)
 TEST(FlyoutChoice, OnlyTheEndOfTheRowStaysOfWhatTheButtonWas)
 {
     BarScene scene;
-    // A bar of fixed size keeps the rows that the host has made; others are broken anew by a layout.
-    scene.bar().SetBarStyle(scene.bar().GetBarStyle() | CBRS_SIZE_FIXED);
     scene.bar().SetButtonStyle(BarScene::Lines, TBBS_CHECKBOX | TBBS_CHECKED | TBBS_WRAPPED);
     scene.user.press(scene.button(BarScene::Lines))
         .waitFor(kShown, &BarScene::flyoutShown)

@@ -91,6 +91,22 @@ TEST_F(BarLayout, IsTheFrameworksForButtonsAlone)
     }
 }
 
+TEST_F(BarLayout, TheHeightThatWasSetIsThatOfTheHorizontalBar)
+{
+    PlainBar plain(scene.bar());
+    plain.SetHeight(47);
+    scene.bar().SetHeight(47);
+    for (const DWORD mode : kModes)
+        for (const int length : {-1, 60, 200})
+            EXPECT_EQ(scene.bar().CalcDynamicLayout(length, mode), plain.CalcDynamicLayout(length, mode))
+                << "mode " << mode << " length " << length;
+    EXPECT_EQ(scene.bar().CalcFixedLayout(FALSE, TRUE).cy, 47);
+    EXPECT_NE(scene.bar().CalcFixedLayout(FALSE, FALSE).cy, 47);
+    scene.bar().SetHeight(0);
+    plain.SetHeight(0);
+    EXPECT_EQ(scene.bar().CalcFixedLayout(FALSE, TRUE), plain.CalcFixedLayout(FALSE, TRUE));
+}
+
 TEST_F(BarLayout, ALengthAloneChangesNothing)
 {
     style(CBRS_SIZE_DYNAMIC);

@@ -150,6 +150,21 @@ TEST_F(FlyoutAttach, AnInsertedButtonMovesTheFlyouts)
     EXPECT_EQ(flyouts(), "--f---");
 }
 
+TEST_F(FlyoutAttach, ButtonsThatComeAndGoAreCounted)
+{
+    TBBUTTON button{};
+    button.idCommand = 9;
+    const int before = bar.GetCount();
+    bar.InsertButton(0, &button);
+    bar.InsertButton(2, &button);
+    EXPECT_EQ(bar.GetCount(), before + 2);
+    bar.InsertButton(0, nullptr);
+    EXPECT_EQ(bar.GetCount(), before + 2) << "only the records move";
+    bar.DeleteButton(0);
+    bar.DeleteButton(77);
+    EXPECT_EQ(bar.GetCount(), before + 1);
+}
+
 TEST_F(FlyoutAttach, WithoutAButtonOnlyTheRecordsMove)
 {
     attachCommands(bar, 1, {10});

@@ -1,0 +1,41 @@
+#include <ovoui/toolbar/ButtonNames.h>
+
+namespace ovoui::toolbar
+{
+
+namespace
+{
+
+std::wstring partOfString(int command, int part)
+{
+    CString full;
+    CString text;
+    if (command == 0 || !full.LoadString(static_cast<UINT>(command)) ||
+        !AfxExtractSubString(text, full, part))
+        return {};
+    return text.GetString();
+}
+
+} // namespace
+
+std::wstring tipOfCommand(int command)
+{
+    return partOfString(command, 1);
+}
+
+std::wstring promptOfCommand(int command)
+{
+    return partOfString(command, 0);
+}
+
+std::wstring nameOfButton(const CToolBar& bar, int index)
+{
+    TBBUTTON button{};
+    if (!::SendMessageW(bar.m_hWnd, TB_GETBUTTON, static_cast<WPARAM>(index),
+                        reinterpret_cast<LPARAM>(&button)))
+        return {};
+    const CString text = bar.GetButtonText(index);
+    return text.IsEmpty() ? tipOfCommand(button.idCommand) : text.GetString();
+}
+
+} // namespace ovoui::toolbar

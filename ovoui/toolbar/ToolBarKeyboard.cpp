@@ -1,0 +1,274 @@
+// CVantorToolBar: the keyboard in the bar itself.
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/toolbar/FlyoutToolbar.h>
+#include <ovoui/toolbar/ToolBarState.h>
+#include <ovoui/toolbar/core/BarWalk.h>
+#include <ovoui/toolbar/core/FlyoutGesture.h>
+
+#include <afxpriv.h>
+
+#include <utility>
+
+using namespace ovoui::toolbar;
+
+namespace
+{
+
+bool isDown(int key)
+{
+    return ::GetKeyState(key) < 0;
+}
+
+/// Whether a window can be given the focus.
+bool takesFocus(HWND wnd)
+{
+    return ::IsWindow(wnd) && ::IsWindowVisible(wnd) && ::IsWindowEnabled(wnd);
+}
+
+} // namespace
+
+BOOL CVantorToolBar::FocusButtons()
+{
+    if (!m_hWnd || !IsWindowVisible())
+        return FALSE;
+    const int first = nextStop(stops(), kNoStop, WalkKey::First, false);
+    if (first == kNoStop)
+        return FALSE;
+    const std::shared_ptr<State> state = m_state;
+    if (::GetFocus() != m_hWnd)
+        state->keyboard.before = ::GetFocus();
+    state->keyboard.on = true;
+    SetFocus();
+    if (!state->usable())
+        return FALSE;
+    state->keyboard.on = ::GetFocus() == m_hWnd;
+    if (state->keyboard.on)
+        goToButton(first);
+    return state->keyboard.on;
+}
+
+/// The buttons as stops: those that can be pressed or that open a flyout.
+std::vector<Stop> CVantorToolBar::stops() const
+{
+    std::vector<Stop> all;
+    const std::vector<TBBUTTON> buttons = allButtons();
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        const int index = static_cast<int>(i);
+        CRect place;
+        const bool shown = GetToolBarCtrl().GetItemRect(index, &place) != FALSE;
+        const bool works = (buttons[i].fsState & TBSTATE_ENABLED) || HasFlyout(index);
+        all.push_back({ovoui::frame::toBox(place), shown && works && !(buttons[i].fsStyle & TBSTYLE_SEP)});
+    }
+    return all;
+}
+
+HWND CVantorToolBar::promptFrame() const
+{
+    const CFrameWnd* const frame = GetDockingFrame();
+    return frame ? frame->m_hWnd : GetTopLevelFrame()->GetSafeHwnd();
+}
+
+/// The keyboard is at this button now, or at none. The owner hears of the hot button.
+void CVantorToolBar::goToButton(int index)
+{
+    const std::shared_ptr<State> state = m_state;
+    redrawButton(std::exchange(state->keyboard.button, index));
+    redrawButton(index);
+    const UINT prompt = hasButton(index) ? GetItemID(index) : AFX_IDS_IDLEMESSAGE;
+    ::PostMessageW(promptFrame(), WM_SETMESSAGESTRING, prompt, 0);
+    SendMessage(TB_SETHOTITEM, static_cast<WPARAM>(index));
+    if (state->usable() && index != kNoButton)
+        announceFocus(index);
+}
+
+void CVantorToolBar::redrawButton(int index)
+{
+    CRect rect;
+    if (hasButton(index) && GetToolBarCtrl().GetItemRect(index, &rect))
+        InvalidateRect(&rect);
+}
+
+// Keys
+
+KeyView CVantorToolBar::keyView() const
+{
+    const int button = m_state->keyboard.button;
+    KeyView view;
+    view.flyoutOpen = ms_popupBar && ms_activeBar == this;
+    view.hasFlyout = HasFlyout(button);
+    view.horizontal = isHorizontal();
+    view.oneColumn = GetToolBarCtrl().GetRows() >= reachableCount();
+    view.mirrored = (GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+    return view;
+}
+
+/// Buttons that are no separators and not hidden.
+int CVantorToolBar::reachableCount() const
+{
+    int count = 0;
+    for (const TBBUTTON& button : allButtons())
+        count += !(button.fsStyle & TBSTYLE_SEP) && !(button.fsState & TBSTATE_HIDDEN);
+    return count;
+}
+
+/// False when the bar has not got the keyboard.
+bool CVantorToolBar::onOperatingKey(UINT key, bool alt)
+{
+    if (!m_state->keyboard.on)
+        return false;
+    const BarKeyOutcome outcome = onBarKey({key, alt, isDown(VK_SHIFT)}, keyView());
+    switch (outcome.action) {
+    case BarKeyAction::None:
+        return !alt; // with Alt it may be one of the system's
+    case BarKeyAction::WalkBar:
+        walkBar(outcome.walk);
+        break;
+    case BarKeyAction::WalkFlyout:
+        walkFlyout(outcome.walk);
+        break;
+    case BarKeyAction::Open:
+        openByKey();
+        break;
+    case BarKeyAction::Close:
+        endPress();
+        break;
+    case BarKeyAction::Press:
+        pressByKey();
+        break;
+    case BarKeyAction::Choose:
+        chooseEntry(ms_popupBar->hotEntry());
+        break;
+    case BarKeyAction::Leave:
+        giveFocusBack();
+        break;
+    case BarKeyAction::NextControl:
+    case BarKeyAction::PreviousControl:
+        goToControl(outcome.action == BarKeyAction::PreviousControl);
+        break;
+    }
+    return true;
+}
+
+void CVantorToolBar::walkBar(WalkKey key)
+{
+    const int next = nextStop(stops(), m_state->keyboard.button, key, keyView().mirrored);
+    if (next != kNoStop)
+        goToButton(next);
+}
+
+void CVantorToolBar::walkFlyout(WalkKey key)
+{
+    const std::shared_ptr<CFlyoutToolbar> flyout = ms_popupBar;
+    const int next = nextStop(flyout->stops(), flyout->hotIndex(), key, keyView().mirrored);
+    if (next != kNoStop)
+        flyout->makeHot(next);
+    if (next != kNoStop && m_state->accessible)
+        flyout->announceFocus(next);
+}
+
+/// The first entry is hot at once, as in a menu.
+void CVantorToolBar::openByKey()
+{
+    const std::shared_ptr<State> state = m_state;
+    const int button = state->keyboard.button;
+    CRect rect;
+    GetItemRect(button, &rect);
+    ClientToScreen(&rect);
+    CreatePopup(button, rect, 0); // asks the host how the entries stand
+    if (!state->usable() || ms_activeBar != this || !ms_popupBar)
+        return;
+    ms_dragButton = button;
+    walkFlyout(WalkKey::First);
+}
+
+void CVantorToolBar::pressByKey()
+{
+    const std::shared_ptr<State> state = m_state;
+    const int button = state->keyboard.button;
+    if (!hasButton(button) || (GetButtonStyle(button) & TBBS_DISABLED))
+        return;
+    giveFocusBack();
+    if (state->usable())
+        clickButton(button);
+}
+
+/// As the mouse does it: the control presses the button, checks it if it is one to be checked, and tells the
+/// owner.
+void CVantorToolBar::clickButton(int index)
+{
+    const std::shared_ptr<State> state = m_state;
+    CRect rect;
+    if (!hasButton(index) || !GetToolBarCtrl().GetItemRect(index, &rect))
+        return;
+    const LPARAM middle = MAKELPARAM(rect.CenterPoint().x, rect.CenterPoint().y);
+    DefWindowProc(WM_LBUTTONDOWN, MK_LBUTTON, middle);
+    if (state->usable())
+        DefWindowProc(WM_LBUTTONUP, 0, middle);
+}
+
+void CVantorToolBar::chooseEntry(const CFlyoutToolbar::Entry& entry)
+{
+    const std::shared_ptr<State> state = m_state;
+    const bool chosen = takeEntry(Press{true, ms_dragButton, ms_popupBar != nullptr}, entry);
+    if (!state->usable())
+        return;
+    endPress();
+    if (chosen && state->keyboard.on)
+        giveFocusBack();
+}
+
+void CVantorToolBar::goToControl(bool previous)
+{
+    if (CWnd* const control = GetNextDlgTabItem(nullptr, previous))
+        control->SetFocus();
+}
+
+// The end
+
+void CVantorToolBar::giveFocusBack()
+{
+    const HWND before = m_state->keyboard.before;
+    leaveKeyboard();
+    if (takesFocus(before))
+        ::SetFocus(before);
+    else if (CFrameWnd* const frame = GetTopLevelFrame())
+        frame->SetFocus();
+}
+
+void CVantorToolBar::leaveKeyboard()
+{
+    const std::shared_ptr<State> state = m_state;
+    if (!std::exchange(state->keyboard.on, false))
+        return;
+    state->keyboard.before = nullptr;
+    if (ms_activeBar == this && !ms_dragging)
+        endPress();
+    goToButton(kNoButton);
+}
+
+// Messages
+
+UINT CVantorToolBar::OnGetDlgCode()
+{
+    return m_state->keyboard.on ? DLGC_WANTALLKEYS : CToolBar::OnGetDlgCode();
+}
+
+void CVantorToolBar::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (!onOperatingKey(key, false))
+        CToolBar::OnKeyDown(key, repeat, flags);
+}
+
+void CVantorToolBar::OnSysKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (!onOperatingKey(key, (flags & KF_ALTDOWN) != 0))
+        CToolBar::OnSysKeyDown(key, repeat, flags);
+}
+
+void CVantorToolBar::OnKillFocus(CWnd* now)
+{
+    const std::shared_ptr<State> state = m_state;
+    leaveKeyboard();
+    if (state->usable())
+        CToolBar::OnKillFocus(now);
+}

@@ -1,0 +1,334 @@
+// The keyboard in the bar itself: walking, opening flyouts, choosing, and where the focus goes.
+#include "ToolBarScene.h"
+
+#include "support/Picture.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+using Ids = std::vector<UINT>;
+
+/// Has the focus at first, as a view would.
+class Pane : public CWnd
+{
+public:
+    explicit Pane(CWnd& frame)
+    {
+        Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 100, 200, 200), &frame,
+               AFX_IDW_PANE_FIRST);
+        SetFocus();
+    }
+};
+
+class BarKeyboard : public ::testing::Test
+{
+protected:
+    BarKeyboard()
+        : pane(scene.frame())
+    {
+    }
+
+    /// The button with the mark of the keyboard; -1 for none.
+    int hot() const { return hasKeyboard() ? static_cast<int>(scene.bar().SendMessage(TB_GETHOTITEM)) : -1; }
+    bool hasKeyboard() const { return ::GetFocus() == scene.bar().m_hWnd; }
+    bool paneHasFocus() const { return ::GetFocus() == pane.m_hWnd; }
+
+    BarScene scene;
+    Pane pane;
+};
+
+} // namespace
+
+TEST_F(BarKeyboard, IsOffUntilTheHostAsks)
+{
+    scene.bar().SetFocus(); // the platform's own keys, which know no flyouts
+    EXPECT_FALSE(scene.bar().SendMessage(WM_GETDLGCODE) & DLGC_WANTALLKEYS);
+    scene.user.key(VK_RIGHT).key(VK_DOWN);
+    EXPECT_EQ(BarScene::flyout(), nullptr);
+    scene.user.key(VK_ESCAPE);
+    EXPECT_FALSE(paneHasFocus());
+}
+
+TEST_F(BarKeyboard, ArrowsWalkTheButtonsWithTheirPrompts)
+{
+    ASSERT_TRUE(scene.bar().FocusButtons());
+    EXPECT_TRUE(hasKeyboard());
+    EXPECT_EQ(hot(), BarScene::Plain);
+    std::vector<int> seen;
+    const auto note = [&] { seen.push_back(hot()); };
+    scene.user.waitFor("the prompt", [&] { return scene.prompt() == L"Does something plain"; })
+        .key(VK_RIGHT)
+        .then(note)
+        .waitFor("the next prompt", [&] { return scene.prompt() == L"Draws a line"; })
+        .key(VK_RIGHT)
+        .then(note)
+        .key(VK_RIGHT)
+        .then(note)
+        .key(VK_RIGHT)
+        .then(note)
+        .key(VK_LEFT)
+        .then(note)
+        .key(VK_HOME)
+        .then(note)
+        .key(VK_END)
+        .then(note);
+    EXPECT_EQ(seen, (std::vector<int>{BarScene::Lines, BarScene::Shapes, BarScene::Other, BarScene::Plain,
+                                      BarScene::Other, BarScene::Plain, BarScene::Other}))
+        << "past the separator, and round the end";
+    EXPECT_EQ(scene.commands(), Ids{});
+}
+
+TEST_F(BarKeyboard, TheButtonIsMarked)
+{
+    // The dots of the mark alternate along its upper edge.
+    const auto coloursAcross = [&](int index) {
+        CRect rect;
+        scene.bar().GetItemRect(index, &rect);
+        scene.bar().UpdateWindow();
+        const Picture picture = Picture::ofClient(scene.bar().m_hWnd);
+        std::set<COLORREF> colours;
+        for (int x = rect.left + 4; x < rect.right - 4; ++x)
+            colours.insert(picture.at(CPoint(x, rect.top + 2)));
+        return colours.size();
+    };
+    EXPECT_EQ(coloursAcross(BarScene::Other), 1u);
+    scene.bar().FocusButtons();
+    scene.user.key(VK_END);
+    EXPECT_EQ(coloursAcross(BarScene::Other), 2u);
+    scene.user.key(VK_ESCAPE);
+    EXPECT_EQ(coloursAcross(BarScene::Other), 1u);
+}
+
+TEST_F(BarKeyboard, EscapeGivesTheFocusBack)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT).key(VK_ESCAPE);
+    EXPECT_TRUE(paneHasFocus());
+    GuiThread::runUntil([&] { return scene.prompt() == L"Ready"; });
+    EXPECT_EQ(scene.prompt(), L"Ready");
+    scene.bar().FocusButtons();
+    pane.DestroyWindow();
+    scene.user.key(VK_ESCAPE);
+    EXPECT_EQ(::GetFocus(), scene.frame().m_hWnd) << "what had it is gone";
+}
+
+TEST_F(BarKeyboard, EnterAndSpacePressTheButton)
+{
+    for (const UINT key : {VK_RETURN, VK_SPACE}) {
+        scene.frame().issued.clear();
+        scene.bar().FocusButtons();
+        scene.user.key(VK_END).key(key);
+        EXPECT_EQ(scene.frame().issued, (std::vector<Issued>{{ID_OTHER, scene.bar().m_hWnd}}));
+        EXPECT_TRUE(paneHasFocus());
+    }
+}
+
+TEST_F(BarKeyboard, ADisabledButtonIsLeftOutUnlessItHasAFlyout)
+{
+    scene.frame().disabled = {ID_PLAIN, ID_LINE};
+    GuiThread::settle();
+    scene.bar().OnUpdateCmdUI(nullptr, TRUE);
+    scene.bar().FocusButtons();
+    EXPECT_EQ(::GetFocus(), scene.bar().m_hWnd);
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.commands(), Ids{}) << "its own command is disabled";
+    scene.user.key(VK_DOWN).waitFor("the flyout", &BarScene::flyoutShown).key(VK_ESCAPE).key(VK_ESCAPE);
+    EXPECT_TRUE(paneHasFocus());
+}
+
+TEST_F(BarKeyboard, DownOpensTheFlyoutAndArrowsWalkItsEntries)
+{
+    scene.bar().FocusButtons();
+    std::vector<int> seen;
+    const auto note = [&] { seen.push_back(BarScene::hotEntry()); };
+    scene.user.key(VK_RIGHT)
+        .key(VK_DOWN)
+        .waitFor("the flyout", &BarScene::flyoutShown)
+        .then(note)
+        .waitFor("the prompt", [&] { return scene.prompt() == L"Draws a line"; })
+        .key(VK_RIGHT)
+        .then(note)
+        .waitFor("the next prompt", [&] { return scene.prompt() == L"Draws a curve"; })
+        .key(VK_DOWN)
+        .then(note)
+        .key(VK_END)
+        .then(note)
+        .key(VK_RIGHT)
+        .then(note)
+        .key(VK_ESCAPE);
+    EXPECT_EQ(seen, (std::vector{0, 1, 3, 4, 0}));
+    EXPECT_TRUE(BarScene::idle());
+    EXPECT_TRUE(hasKeyboard()) << "Escape closes the flyout alone";
+    EXPECT_EQ(scene.command(BarScene::Lines), ID_LINE);
+    EXPECT_EQ(scene.commands(), Ids{});
+}
+
+TEST_F(BarKeyboard, AltDownOpensAndAltUpCloses)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT)
+        .holding(VK_MENU)
+        .key(VK_DOWN)
+        .waitFor("the flyout", &BarScene::flyoutShown)
+        .key(VK_UP)
+        .waitFor("it to close", [] { return !BarScene::flyout(); })
+        .letGo(VK_MENU);
+    EXPECT_EQ(scene.command(BarScene::Lines), ID_LINE);
+}
+
+TEST_F(BarKeyboard, EnterChoosesAsAReleaseDoes)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT)
+        .key(VK_DOWN)
+        .waitFor("the flyout", &BarScene::flyoutShown)
+        .key(VK_RIGHT)
+        .key(VK_RETURN);
+    EXPECT_EQ(scene.frame().issued, (std::vector<Issued>{{ID_CURVE, scene.bar().m_hWnd}}));
+    EXPECT_EQ(scene.command(BarScene::Lines), ID_CURVE);
+    EXPECT_EQ(scene.image(BarScene::Lines), 5);
+    EXPECT_TRUE(BarScene::idle());
+    EXPECT_TRUE(paneHasFocus());
+}
+
+TEST_F(BarKeyboard, ADisabledEntryIsChosenWithoutACommand)
+{
+    scene.frame().disabled = {ID_CURVE};
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT)
+        .key(VK_DOWN)
+        .waitFor("the flyout", &BarScene::flyoutShown)
+        .key(VK_RIGHT)
+        .key(VK_RETURN);
+    EXPECT_EQ(scene.commands(), Ids{});
+    EXPECT_EQ(scene.command(BarScene::Lines), ID_CURVE);
+}
+
+TEST_F(BarKeyboard, AFlyoutOpenedByKeyCanBeClicked)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT)
+        .key(VK_DOWN)
+        .waitFor("the flyout", &BarScene::flyoutShown)
+        .click(scene.entry(3))
+        .waitFor("the command", [&] { return !scene.commands().empty(); });
+    EXPECT_EQ(scene.commands(), Ids{ID_ARC});
+    EXPECT_EQ(scene.command(BarScene::Lines), ID_ARC);
+    EXPECT_TRUE(BarScene::idle());
+}
+
+TEST_F(BarKeyboard, TheTipOfAnEntryShowsAsWithTheMouse)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT)
+        .key(VK_DOWN)
+        .waitFor("the tip", [] { return shownWindow(L"OVO_FLYOUT_TOOLTIP") != nullptr; })
+        .key(VK_RIGHT)
+        .waitFor("the next tip", [] { return shownWindow(L"OVO_FLYOUT_TOOLTIP") != nullptr; })
+        .key(VK_ESCAPE)
+        .then([] { EXPECT_EQ(shownWindow(L"OVO_FLYOUT_TOOLTIP"), nullptr); });
+}
+
+TEST_F(BarKeyboard, TheFocusThatGoesElsewhereEndsIt)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT).key(VK_DOWN).waitFor("the flyout", &BarScene::flyoutShown).then([&] {
+        pane.SetFocus();
+    });
+    EXPECT_TRUE(BarScene::idle());
+    EXPECT_TRUE(paneHasFocus());
+    EXPECT_EQ(scene.bar().SendMessage(WM_GETDLGCODE) & DLGC_WANTALLKEYS, 0);
+}
+
+TEST_F(BarKeyboard, AClickOnTheBarEndsItAndIsAClick)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT)
+        .key(VK_DOWN)
+        .waitFor("the flyout", &BarScene::flyoutShown)
+        .click(scene.button(BarScene::Other));
+    EXPECT_EQ(scene.commands(), Ids{ID_OTHER});
+    EXPECT_TRUE(BarScene::idle());
+    EXPECT_TRUE(paneHasFocus());
+}
+
+TEST_F(BarKeyboard, TabGoesToTheBarsControls)
+{
+    CEdit edit;
+    edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(200, 0, 260, 18), &scene.bar(), IDC_BAR_EDIT);
+    scene.bar().FocusButtons();
+    scene.user.key(VK_TAB);
+    EXPECT_EQ(::GetFocus(), edit.m_hWnd);
+}
+
+TEST(BarKeyboardVertical, RightOpensAndDownWalks)
+{
+    BarScene scene(CBRS_LEFT);
+    scene.bar().FocusButtons();
+    scene.user.key(VK_DOWN)
+        .then([&] { EXPECT_EQ(scene.bar().SendMessage(TB_GETHOTITEM), BarScene::Lines); })
+        .key(VK_RIGHT)
+        .waitFor("the flyout", &BarScene::flyoutShown)
+        .key(VK_DOWN)
+        .then([] { EXPECT_EQ(BarScene::hotEntry(), 1); })
+        .key(VK_RETURN);
+    EXPECT_EQ(scene.commands(), Ids{ID_CURVE});
+}
+
+TEST_F(BarKeyboard, WithoutAButtonOrAWindowThereIsNoFocus)
+{
+    TestBar unborn;
+    EXPECT_FALSE(unborn.FocusButtons());
+    while (scene.bar().DeleteButton(0)) {
+    }
+    EXPECT_FALSE(scene.bar().FocusButtons());
+    EXPECT_TRUE(paneHasFocus());
+}
+
+TEST_F(BarKeyboard, HostsMayDestroyTheBarOnTheWay)
+{
+    scene.bar().FocusButtons();
+    scene.frame().onNotify = [&](NMHDR* header) {
+        if (header->code == static_cast<UINT>(TBN_HOTITEMCHANGE))
+            scene.deleteBar();
+        return 0;
+    };
+    scene.user.key(VK_RIGHT);
+    scene.frame().onNotify = nullptr;
+
+    TestBar& second = scene.addBar();
+    second.FocusButtons();
+    scene.frame().onUpdate = [&](UINT id) {
+        if (id == ID_CURVE) // asked for by the flyout alone
+            second.DestroyWindow();
+    };
+    scene.user.key(VK_DOWN);
+    scene.frame().onUpdate = nullptr;
+    EXPECT_TRUE(BarScene::idle());
+}
+
+TEST_F(BarKeyboard, TheCommandOfAKeyMayDestroyTheBarOrTheFrame)
+{
+    scene.frame().onCommand = [&](UINT) { scene.deleteBar(); };
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RETURN);
+    TestBar& second = scene.addBar();
+    scene.frame().onCommand = [&](UINT) { scene.frame().DestroyWindow(); };
+    second.FocusButtons();
+    scene.user.key(VK_END).key(VK_RETURN);
+    GuiThread::runUntil([&] { return !scene.frameLives(); });
+    EXPECT_FALSE(scene.frameLives());
+}
+
+TEST_F(BarKeyboard, ButtonsThatComeAndGoKeepItsPlace)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_END);
+    scene.bar().DeleteButton(BarScene::Plain);
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.commands(), Ids{ID_OTHER});
+}
