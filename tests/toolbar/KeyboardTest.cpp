@@ -174,9 +174,12 @@ TEST_F(BarKeyboard, AltDownOpensAndAltUpCloses)
         .holding(VK_MENU)
         .key(VK_DOWN)
         .waitFor("the flyout", &BarScene::flyoutShown)
-        .key(VK_UP)
-        .waitFor("it to close", [] { return !BarScene::flyout(); })
         .letGo(VK_MENU);
+    // A window that appears can make the system forget a key that is held, so this one comes as a message.
+    constexpr LPARAM kWithAlt = 1 | KF_ALTDOWN << 16;
+    scene.bar().SendMessage(WM_SYSKEYDOWN, VK_UP, kWithAlt);
+    EXPECT_TRUE(BarScene::idle());
+    EXPECT_TRUE(hasKeyboard());
     EXPECT_EQ(scene.command(BarScene::Lines), ID_LINE);
 }
 
