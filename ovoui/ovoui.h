@@ -1,6 +1,8 @@
 /// Umbrella header: everything that the library offers to a host.
 #pragma once
 
+#include <ovoui/colour/ColPickerDlg.h>
+#include <ovoui/colour/ColPickerDlgBase.h>
 #include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/MessageBox.h>

@@ -2,6 +2,9 @@
 // changed.
 #pragma once
 
+// Cursors: 701 to 799
+#define IDC_DRAG_COLOUR 742
+
 // Commands of the tree and of the module list: 1001 to 5999
 #define ID_DROP_COPY 1191
 #define ID_DROP_LINK 1194
@@ -19,6 +22,22 @@
 #define IDD_UPDATE_AVAILABLE 1507
 #define IDD_MODULE_LIST 1531
 #define IDD_UPDATE_OFFER 1532
+
+// Controls of the colour picker: 3432 to 3445
+#define IDC_COLOUR_SLIDER_1 3432
+#define IDC_COLOUR_SLIDER_2 3433
+#define IDC_COLOUR_SLIDER_3 3434
+#define IDC_WHEEL 3435
+#define IDC_PATCH 3436
+#define IDC_COLOUR_VALUE_1 3437
+#define IDC_COLOUR_VALUE_2 3438
+#define IDC_COLOUR_VALUE_3 3439
+#define IDC_COLOUR_CAPTION_1 3440
+#define IDC_COLOUR_CAPTION_2 3441
+#define IDC_COLOUR_CAPTION_3 3442
+#define IDC_COLOUR_SLIDER_ALPHA 3443
+#define IDC_COLOUR_VALUE_ALPHA 3444
+#define IDC_COLOUR_CAPTION_ALPHA 3445
 
 // Bitmaps: 6001 to 6099
 #define IDB_TOOLBAR_16 6001
@@ -71,6 +90,19 @@
 
 // Dialogs of the controls: 20200 to 20201
 #define IDD_POPUP_SLIDER 20200
+#define IDD_COLOUR_PICKER 20201
+
+// Strings of the colour picker: 20212 to 20221
+#define IDS_COLOUR_RED 20212
+#define IDS_COLOUR_GREEN 20213
+#define IDS_COLOUR_BLUE 20214
+#define IDS_COLOUR_HUE 20215
+#define IDS_COLOUR_SATURATION 20216
+#define IDS_COLOUR_VALUE 20217
+#define IDS_COLOUR_LIGHTNESS 20218
+#define IDS_COLOUR_SPACE_RGB 20219
+#define IDS_COLOUR_SPACE_HSV 20220
+#define IDS_COLOUR_SPACE_HLS 20221
 
 // Strings of the update check: 20222 to 20223
 #define IDS_UPDATE_AVAILABLE 20222
@@ -82,6 +114,7 @@
 
 // Controls: 20501 to 20599
 #define IDC_POPUP_SLIDER 20505
+#define IDC_COLOUR_SPACE 20506
 #define IDC_MESSAGE_TEXT 20507
 #define IDC_UPDATE_TEXT 20508
 #define IDC_UPDATE_LATER 20531

@@ -17,4 +17,10 @@ endif()
 
 target_sources(ovoui PRIVATE
   ${colour_core}
+  ${CMAKE_CURRENT_LIST_DIR}/ColPicker.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ColPickerDlg.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ColPickerDlgBase.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ColPickerMouse.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ColPickerPaint.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ColourWheelImage.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ShadedTabCtrl.cpp)

@@ -1,0 +1,207 @@
+/// The engine of colour-picking dialogs.
+///
+/// A dialog derives from it, beside its dialog base, and hands it its messages. ColPickerDlgBase is such a
+/// dialog; hosts rarely need to write another one.
+#pragma once
+
+#include <ovoui/colour/ColPickerMode.h>
+#include <ovoui/export.h>
+#include <ovoui/frame/Lifeline.h>
+
+#include <ovocor/Colour.h>
+
+#include <afxcmn.h>
+#include <afxwin.h>
+
+#include <array>
+#include <memory>
+
+class CShadedTabCtrl;
+class ColourWheelImage;
+
+/// Shows a colour as numbers in edits and sliders, as a ring of hues with a triangle of their shades, and as
+/// a patch, and lets the user change it in each of them. The patch can be dragged onto swatches of the user's
+/// own colours, where the dialog has room for these.
+///
+/// The picker takes what it finds: of the controls, those that the dialog has attached to the members; for
+/// the patch and the wheel, the places of the dialog items IDC_PATCH and IDC_WHEEL.
+class OVOUI_API ColPicker
+{
+public:
+    ColPicker(const ColPicker&) = delete;
+    ColPicker& operator=(const ColPicker&) = delete;
+
+    virtual ~ColPicker();
+
+protected:
+    // What a derived class may override. An override may close or delete the dialog.
+
+    /// The shaded tab control that the picker lies on, or null: the base.
+    virtual CShadedTabCtrl* tabCtrl();
+    /// Called after each change of the colour by the user; `final` is false while a drag goes on. Does
+    /// nothing in the base.
+    virtual void UpdateExternalColours(bool final);
+    /// Where the custom colour of this number, 0 to 17, is kept.
+    virtual COLORREF& customCols(int index) = 0;
+    /// Called before the picker reads its members, and after each change of the mode: for a derived class
+    /// that remembers them. They do nothing in the base.
+    virtual void LoadSettings();
+    virtual void SaveSettings();
+
+    ColPicker(CWinApp& app, ColPickerModeType mode);
+
+    // What the dialog calls. `wnd` is the dialog.
+
+    /// To be called once for each window, after the controls have been attached.
+    void DoInit(CWnd* wnd, CComboBox& spaceCombo);
+    /// To be called when the window is destroyed.
+    void doOnDestroy();
+
+    void DoPaint(CWnd* wnd, CPaintDC* dc);
+    /// Fills the patch, and shows the colour in the edits.
+    void DrawPatch(CPaintDC* dc);
+    void DrawCustomColours(CWnd* wnd, CDC* dc);
+
+    // True when the picker has dealt with the message; else it is the window's.
+    bool DoLButtonDown(CWnd* wnd, UINT flags, CPoint point);
+    bool DoLButtonUp(CWnd* wnd, UINT flags, CPoint point);
+    bool DoLButtonDblClk(CWnd* wnd, UINT flags, CPoint point);
+    bool DoMouseMove(CWnd* wnd, UINT flags, CPoint point);
+    /// Ends a drag that another window interrupts by taking the capture.
+    void DoCaptureChanged(CWnd* wnd, CWnd* gaining);
+    /// Ends a drag that goes on, for Escape. False when there is none.
+    bool cancelDrag(CWnd* wnd);
+
+    void DoHScroll(CWnd* wnd, UINT code, CScrollBar* bar);
+    /// Takes over what is in the edits; to be called when one loses the focus.
+    void DoKillfocusColpickerValues(CWnd* wnd);
+
+    /// Changes the colour and shows it; the host hears nothing. A colour that looks the same as the present
+    /// one is ignored; with `force` only if its hue is the same, too, which greys may have.
+    void SetColour(CWnd* wnd, const Colour& colour, bool force);
+    /// Changes what the edits and sliders stand for. What is not a mode is ignored.
+    void SetSliderMode(CWnd* wnd, ColPickerModeType mode);
+    /// Sets the sliders from the colour.
+    void UpdateSlider();
+    /// The colour that the sliders stand for.
+    void GetSliderColour(Colour& out) const;
+
+    // Markers are drawn by inverting. With a point, the one shown before is taken away first; without, the
+    // point is that of the present colour.
+    void draw_hue_marker(CDC* dc);
+    void draw_hue_marker(CDC* dc, CPoint& point);
+    void draw_tri_marker(CDC* dc);
+    void draw_tri_marker(CDC* dc, CPoint& point);
+
+    /// The number of the swatch at a client point; false, with `index` left alone, where there is none.
+    bool PtInCustomColour(const CPoint& point, int& index);
+    /// Does nothing: the wheel writes its own pixels.
+    void set_bitmap_pixel(int x, int y, const unsigned char* rgb);
+
+    /// What the left button is held down for.
+    enum class Drag : int
+    {
+        None,
+        Triangle,
+        Ring,
+        Patch,
+    };
+
+    // To be attached by the dialog
+    CEdit m_value1;
+    CEdit m_value2;
+    CEdit m_value3;
+    CEdit m_valueAlpha;
+    CSliderCtrl m_slider1;
+    CSliderCtrl m_slider2;
+    CSliderCtrl m_slider3;
+    CSliderCtrl m_sliderAlpha;
+    CString m_caption1;
+    CString m_caption2;
+    CString m_caption3;
+
+    CRect m_patchRect; ///< client coordinates of the dialog, as all others
+    CRect m_wheelRect;
+    Colour m_colour;
+
+private:
+    std::unique_ptr<ColourWheelImage> m_wheel;
+    double m_innerRadius = 0;
+    double m_outerRadius = 0;
+    double m_centreX = 0;
+    double m_centreY = 0;
+    bool m_hueMarkerDrawn = false;
+    CPoint m_hueMarker;
+    CRect m_hueMarkerRect;
+
+protected:
+    CRect m_customRect; ///< the place of the item `m_customAreaId`
+
+private:
+    bool m_triMarkerDrawn = false;
+    CPoint m_triMarker;
+
+protected:
+    ColPickerModeType m_mode;
+    Drag m_drag = Drag::None;
+    std::array<CRect, 18> m_swatches; ///< where the user hits them; known once they have been drawn
+    /// The dialog item in whose place the swatches are shown; 0 for none. To be set before the dialog is
+    /// made.
+    int m_customAreaId = 0;
+
+private:
+    HCURSOR m_cursorBefore = nullptr; // shared, of the time before the patch is dragged
+
+protected:
+    /// Whether the fourth edit and slider are used. To be set before the dialog is made.
+    bool m_alphaEnabled = false;
+
+private:
+    bool m_initialised = false;
+
+protected:
+    CWinApp& m_app; ///< for settings in its profile
+
+private:
+    using Values = std::array<int, 3>;
+
+    // Making
+    CRect takePlace(CWnd* wnd, int id);
+    void prepareEdits();
+    void fillSpaces(CComboBox& combo);
+
+    // Numbers
+    Values shownValues() const;
+    void showValues();
+    static void showValue(CEdit& edit, int value);
+    static int sliderOr(const CSliderCtrl& slider, int value);
+    static int typedOr(CEdit& edit, int value, int maximum);
+    void invalidatePatch(CWnd* wnd);
+    bool change(CWnd* wnd, const Colour& colour, bool force, bool final);
+
+    // Mouse
+    Drag partAt(CPoint point) const;
+    Colour colourAt(Drag part, CPoint point) const;
+    void beginDrag(CWnd* wnd, Drag drag);
+    void showDragCursor(CPoint point);
+    void dropPatch(CWnd* wnd, CPoint point);
+    void pickSwatch(CWnd* wnd, CPoint point);
+    bool isDragging(CWnd* wnd);
+    void endDrag();
+
+    // Drawing
+    CPoint hueMarkerPoint() const;
+    CPoint triMarkerPoint() const;
+    CRect triMarkerRect() const;
+    CRect wheelArea() const;
+    bool hasWheel() const;
+    int markerRadius() const;
+    bool fillMarkerAreas(CWnd* wnd, CDC* dc);
+    void drawWheel(CWnd* wnd, CPaintDC* dc);
+    void drawCircle(CDC* dc, CPoint centre) const;
+    void drawCross(CDC* dc, CPoint centre) const;
+    void makeCheckerboard();
+
+    CBrush m_checkerboard; ///< of the patch: the colour over black and white
+    Lifeline m_lifeline;
+};

@@ -1,0 +1,212 @@
+// The picker's mouse: ring, triangle, patch and swatches.
+#include <ovoui/colour/ColPicker.h>
+
+#include <ovoui/colour/ColourWheelImage.h>
+#include <ovouires/resource.h>
+
+#include <utility>
+
+using namespace ovoui::colour;
+
+namespace
+{
+
+/// How far from ring and triangle, in pixels, the user may press.
+constexpr double kReach = 3;
+
+Vector<2> vectorOf(CPoint point)
+{
+    return {point.x, point.y};
+}
+
+HCURSOR dragCursor()
+{
+    const LPCTSTR name = MAKEINTRESOURCE(IDC_DRAG_COLOUR);
+    return ::LoadCursorW(AfxFindResourceHandle(name, RT_GROUP_CURSOR), name);
+}
+
+bool isButtonDown()
+{
+    return ::GetKeyState(VK_LBUTTON) < 0;
+}
+
+} // namespace
+
+/// None, too, where the swatches are.
+ColPicker::Drag ColPicker::partAt(CPoint point) const
+{
+    if (hasWheel() && m_wheel->triangle().test(vectorOf(point), kReach).inTriangle)
+        return Drag::Triangle;
+    if (hasWheel() && m_wheel->ring().test(vectorOf(point), kReach).onRing)
+        return Drag::Ring;
+    return m_patchRect.PtInRect(point) ? Drag::Patch : Drag::None;
+}
+
+/// The colour to which a drag in the triangle or on the ring leads.
+Colour ColPicker::colourAt(Drag part, CPoint point) const
+{
+    if (part == Drag::Triangle) {
+        const ShadeTriangle::Hit hit = m_wheel->triangle().test(vectorOf(point), kReach);
+        return Colour::hlsa(m_colour.h_hls(), hit.lightness, hit.saturation, m_colour.a());
+    }
+    const HueRing::Hit hit = m_wheel->ring().test(vectorOf(point), kReach);
+    return Colour::hlsa(hit.hue, m_colour.l_hls(), m_colour.s_hls(), m_colour.a());
+}
+
+bool ColPicker::DoLButtonDown(CWnd* wnd, UINT, CPoint point)
+{
+    const Drag part = partAt(point);
+    switch (part) {
+    case Drag::Triangle:
+    case Drag::Ring: {
+        const bool byHand = isButtonDown();
+        const bool stillThere = change(wnd, colourAt(part, point), part == Drag::Ring, false);
+        // The host may have shown a message, over which the button was released.
+        if (stillThere && isButtonDown() == byHand)
+            beginDrag(wnd, part);
+        return true;
+    }
+    case Drag::Patch:
+        m_cursorBefore = ::GetCursor();
+        if (const HCURSOR cursor = dragCursor())
+            ::SetCursor(cursor);
+        beginDrag(wnd, part);
+        return true;
+    case Drag::None:
+        break;
+    }
+    if (m_customAreaId == 0 || !m_customRect.PtInRect(point))
+        return false;
+    pickSwatch(wnd, point);
+    return true;
+}
+
+void ColPicker::beginDrag(CWnd* wnd, Drag drag)
+{
+    m_drag = drag;
+    wnd->SetCapture();
+}
+
+void ColPicker::pickSwatch(CWnd* wnd, CPoint point)
+{
+    const Lifeline::Watch watch(m_lifeline);
+    int swatch = 0;
+    if (!PtInCustomColour(point, swatch))
+        return;
+    const Colour colour = Colour::colorref(customCols(swatch));
+    if (watch.alive() && wnd->m_hWnd)
+        change(wnd, colour, false, true);
+}
+
+bool ColPicker::DoMouseMove(CWnd* wnd, UINT, CPoint point)
+{
+    if (!isDragging(wnd))
+        return false;
+    if (m_drag == Drag::Patch)
+        showDragCursor(point);
+    else
+        change(wnd, colourAt(m_drag, point), m_drag == Drag::Ring, false);
+    return true;
+}
+
+void ColPicker::showDragCursor(CPoint point)
+{
+    int swatch = 0;
+    const bool accepted = m_patchRect.PtInRect(point) || PtInCustomColour(point, swatch);
+    const HCURSOR cursor = accepted ? dragCursor() : ::LoadCursorW(nullptr, IDC_NO);
+    ::SetCursor(cursor ? cursor : m_cursorBefore);
+}
+
+bool ColPicker::DoLButtonUp(CWnd* wnd, UINT, CPoint point)
+{
+    if (!isDragging(wnd))
+        return false;
+    // However the host's code ends that is called here, the drag is over.
+    const struct End
+    {
+        ~End()
+        {
+            if (!watch.alive())
+                return;
+            picker.m_drag = Drag::None; // so that losing the capture is no interruption
+            if (wnd->m_hWnd && ::GetCapture() == wnd->m_hWnd)
+                ::ReleaseCapture();
+        }
+        ColPicker& picker;
+        CWnd* wnd;
+        Lifeline::Watch watch;
+    } end{*this, wnd, Lifeline::Watch(m_lifeline)};
+    if (m_drag == Drag::Patch)
+        dropPatch(wnd, point);
+    else
+        change(wnd, colourAt(m_drag, point), m_drag == Drag::Ring, true);
+    return true;
+}
+
+void ColPicker::dropPatch(CWnd* wnd, CPoint point)
+{
+    ::SetCursor(m_cursorBefore);
+    int swatch = 0;
+    if (!PtInCustomColour(point, swatch))
+        return;
+    const Lifeline::Watch watch(m_lifeline);
+    const COLORREF colour = m_colour.colorref();
+    COLORREF& custom = customCols(swatch);
+    if (!watch.alive() || !wnd->m_hWnd)
+        return;
+    custom = colour;
+    wnd->InvalidateRect(&m_swatches[static_cast<std::size_t>(swatch)], FALSE);
+}
+
+bool ColPicker::DoLButtonDblClk(CWnd* wnd, UINT, CPoint point)
+{
+    const Drag part = partAt(point);
+    if (part == Drag::Ring) {
+        change(wnd, Colour::hls(m_wheel->ring().test(vectorOf(point), kReach).hue, 0.5, 1), true, true);
+        return true;
+    }
+    return part != Drag::None || (m_customAreaId != 0 && m_customRect.PtInRect(point));
+}
+
+bool ColPicker::PtInCustomColour(const CPoint& point, int& index)
+{
+    if (m_customAreaId == 0)
+        return false;
+    for (std::size_t i = 0; i < m_swatches.size(); ++i)
+        if (m_swatches[i].PtInRect(point)) {
+            index = static_cast<int>(i);
+            return true;
+        }
+    return false;
+}
+
+// The end of a drag
+
+/// Whether one goes on. One that has lost the capture without a word does not any more.
+bool ColPicker::isDragging(CWnd* wnd)
+{
+    if (m_drag != Drag::None && ::GetCapture() != wnd->m_hWnd)
+        endDrag();
+    return m_drag != Drag::None;
+}
+
+void ColPicker::endDrag()
+{
+    if (std::exchange(m_drag, Drag::None) == Drag::Patch)
+        ::SetCursor(m_cursorBefore);
+}
+
+void ColPicker::DoCaptureChanged(CWnd* wnd, CWnd* gaining)
+{
+    if (gaining->GetSafeHwnd() != wnd->GetSafeHwnd())
+        endDrag();
+}
+
+bool ColPicker::cancelDrag(CWnd* wnd)
+{
+    if (!isDragging(wnd))
+        return false;
+    endDrag();
+    ::ReleaseCapture();
+    return true;
+}
