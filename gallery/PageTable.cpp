@@ -1,5 +1,6 @@
 #include "PageTable.h"
 
+#include "pages/ColourPickerPage.h"
 #include "pages/ComboPage.h"
 #include "pages/DockingPage.h"
 #include "pages/GeometryPage.h"
@@ -56,6 +57,9 @@ const std::vector<PageEntry>& pageTable()
         {L"combo", L"Combo box",
          L"COVOComboBox completes what is typed, and accepts it or brings back what was there before.",
          &make<ComboPage>},
+        {L"colourpicker", L"Colour picker",
+         L"ColPickerDlg: a ring of hues, a triangle of shades, and the numbers of three colour models.",
+         &make<ColourPickerPage>},
         {L"shadedtabs", L"Shaded tabs",
          L"CShadedTabCtrl: the page of a tab control shows through the controls on it.",
          &make<ShadedTabsPage>},

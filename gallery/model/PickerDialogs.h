@@ -1,0 +1,83 @@
+// Colour dialogs as a host derives them.
+#pragma once
+
+#include <ovoui/colour/ColPickerDlg.h>
+#include <ovoui/colour/ShadedTabCtrl.h>
+
+#include <array>
+#include <functional>
+
+/// What the gallery wants to hear of a picker.
+struct PickerHost
+{
+    std::function<void(const Colour& colour, bool final)> changed = [](const Colour&, bool) {};
+};
+
+/// The library's own dialog; it reports every change.
+class LivePicker : public ColPickerDlg
+{
+public:
+    LivePicker(const PickerHost& host, ColPickerModeType mode, const Colour& colour, CWnd* parent);
+
+    /// Presses on the ring as soon as the dialog is open and moves on to this hue, in degrees.
+    void dragTo(double hue) { m_dragTo = hue; }
+
+protected:
+    void UpdateExternalColours(bool final) override;
+    BOOL OnInitDialog() override;
+
+private:
+    CPoint onRing(double hue) const;
+
+    const PickerHost& m_host;
+    double m_dragTo = -1;
+};
+
+/// A template of its own, with swatches for custom colours, which the process keeps.
+class SwatchPicker : public ColPickerDlgBase
+{
+public:
+    SwatchPicker(const PickerHost& host, const Colour& colour, CWnd* parent);
+
+protected:
+    SwatchPicker(int dialogTemplate, const PickerHost& host, const Colour& colour, CWnd* parent);
+    COLORREF& customCols(int index) override;
+    void UpdateExternalColours(bool final) override;
+
+private:
+    const PickerHost& m_host;
+};
+
+/// The page of a shaded tab control.
+class PickerPage : public SwatchPicker
+{
+public:
+    PickerPage(const PickerHost& host, const Colour& colour, CShadedTabCtrl& tabs);
+
+    void open();
+
+protected:
+    CShadedTabCtrl* tabCtrl() override { return &m_tabs; }
+    void OnOK() override {}
+    void OnCancel() override {}
+
+private:
+    CShadedTabCtrl& m_tabs;
+};
+
+/// A dialog with such a page.
+class TabbedPicker : public CDialog
+{
+public:
+    TabbedPicker(const PickerHost& host, const Colour& colour, CWnd* parent);
+
+    Colour colour() { return m_page.GetColour(); }
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+    BOOL OnInitDialog() override;
+
+private:
+    CShadedTabCtrl m_tabs;
+    PickerPage m_page;
+};

@@ -1,0 +1,149 @@
+#include "ColourPickerPage.h"
+
+#include "resource.h"
+
+#include <ovocor/Text.h>
+
+BEGIN_MESSAGE_MAP(ColourPickerPage, GalleryPage)
+    ON_BN_CLICKED(IDC_PICK, &ColourPickerPage::OnPick)
+    ON_BN_CLICKED(IDC_PICK_CUSTOM, &ColourPickerPage::OnCustomColours)
+    ON_BN_CLICKED(IDC_PICK_ON_TAB, &ColourPickerPage::OnOnTab)
+    ON_BN_CLICKED(IDC_PICK_MODELESS, &ColourPickerPage::OnModeless)
+    ON_BN_CLICKED(IDC_PICK_ALPHA, &ColourPickerPage::OnAlpha)
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr double kHalf = 0.5;
+
+std::wstring describe(const Colour& colour)
+{
+    const COLORREF value = colour.colorref();
+    std::wstring text = stringPrintf(L"#%02X%02X%02X", GetRValue(value), GetGValue(value), GetBValue(value));
+    if (colour.a() >= 0)
+        text += stringPrintf(L", alpha %.2f", colour.a());
+    return text;
+}
+
+Colour withAlpha(const Colour& colour, double alpha)
+{
+    return Colour::hlsa(colour.h_hls(), colour.l_hls(), colour.s_hls(), alpha);
+}
+
+} // namespace
+
+ColourPickerPage::ColourPickerPage()
+    : GalleryPage(IDD_PAGE_COLOUR_PICKER)
+{
+    m_host.changed = [this](const Colour& colour, bool final) {
+        show(colour);
+        if (final)
+            log(L"UpdateExternalColours(true): " + describe(colour));
+    };
+}
+
+ColourPickerPage::~ColourPickerPage() = default;
+
+BOOL ColourPickerPage::OnInitDialog()
+{
+    GalleryPage::OnInitDialog();
+    m_sample.create(*this);
+    replace(IDC_PICK_SAMPLE, m_sample);
+    CheckRadioButton(IDC_PICK_RGB, IDC_PICK_HSV, IDC_PICK_HLS);
+    stretch(IDC_PICK_SAMPLE, {.growX = 100, .growY = 100});
+    show(m_colour);
+    return FALSE;
+}
+
+ColPickerModeType ColourPickerPage::chosenMode() const
+{
+    for (const auto& [id, mode] :
+         {std::pair{IDC_PICK_RGB, ColPickerModeRGB}, std::pair{IDC_PICK_HLS, ColPickerModeHLS}})
+        if (IsDlgButtonChecked(id))
+            return mode;
+    return ColPickerModeHSV;
+}
+
+void ColourPickerPage::show(const Colour& colour)
+{
+    m_sample.show(colour);
+    SetDlgItemText(IDC_PICK_RESULT, describe(colour).c_str());
+}
+
+/// After a dialog: what was cancelled goes back.
+void ColourPickerPage::picked(INT_PTR answer, const Colour& colour)
+{
+    if (!m_hWnd)
+        return; // another page was opened while the dialog was
+    if (answer == IDOK)
+        m_colour = colour;
+    show(m_colour);
+    log(answer == IDOK ? L"Picked " + describe(colour) : std::wstring(L"Cancelled"));
+}
+
+void ColourPickerPage::OnPick()
+{
+    LivePicker dialog(m_host, chosenMode(), m_colour, this);
+    const INT_PTR answer = dialog.DoModal();
+    picked(answer, dialog.GetColour());
+}
+
+void ColourPickerPage::OnCustomColours()
+{
+    SwatchPicker dialog(m_host, m_colour, this);
+    const INT_PTR answer = dialog.DoModal();
+    picked(answer, dialog.GetColour());
+}
+
+void ColourPickerPage::OnOnTab()
+{
+    TabbedPicker dialog(m_host, m_colour, this);
+    const INT_PTR answer = dialog.DoModal();
+    picked(answer, dialog.colour());
+}
+
+/// Stays open beside the page, and closes with it.
+void ColourPickerPage::OnModeless()
+{
+    if (m_modeless && m_modeless->m_hWnd) {
+        m_modeless->SetFocus();
+        return;
+    }
+    m_modeless = std::make_unique<LivePicker>(m_host, chosenMode(), m_colour, this);
+    m_modeless->createColPickerDlgBase();
+}
+
+void ColourPickerPage::OnAlpha()
+{
+    m_colour = withAlpha(m_colour, IsDlgButtonChecked(IDC_PICK_ALPHA) ? kHalf : -1);
+    show(m_colour);
+}
+
+std::vector<std::wstring> ColourPickerPage::poses() const
+{
+    return {L"rgb", L"hls", L"hsv", L"alpha", L"mid-drag", L"custom", L"on-tab"};
+}
+
+bool ColourPickerPage::pose(const std::wstring& name)
+{
+    if (name == L"custom") {
+        SwatchPicker(m_host, m_colour, this).DoModal();
+        return true;
+    }
+    if (name == L"on-tab") {
+        TabbedPicker(m_host, m_colour, this).DoModal();
+        return true;
+    }
+    const bool alpha = name == L"alpha";
+    const ColPickerModeType mode = name == L"rgb"   ? ColPickerModeRGB
+                                   : name == L"hsv" ? ColPickerModeHSV
+                                                    : ColPickerModeHLS;
+    LivePicker dialog(m_host, mode, alpha ? withAlpha(m_colour, kHalf) : m_colour, this);
+    if (name == L"mid-drag")
+        dialog.dragTo(200);
+    else if (!alpha && name != L"rgb" && name != L"hls" && name != L"hsv")
+        return false;
+    dialog.DoModal();
+    return true;
+}

@@ -1,0 +1,36 @@
+// The colour picker's dialogs, and a preview that follows them.
+#pragma once
+
+#include "ColourSample.h"
+#include "GalleryPage.h"
+#include "model/PickerDialogs.h"
+
+class ColourPickerPage : public GalleryPage
+{
+public:
+    ColourPickerPage();
+    ~ColourPickerPage() override;
+
+    std::vector<std::wstring> poses() const override;
+    bool pose(const std::wstring& name) override;
+
+protected:
+    BOOL OnInitDialog() override;
+
+    afx_msg void OnPick();
+    afx_msg void OnCustomColours();
+    afx_msg void OnOnTab();
+    afx_msg void OnModeless();
+    afx_msg void OnAlpha();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    ColPickerModeType chosenMode() const;
+    void show(const Colour& colour);
+    void picked(INT_PTR answer, const Colour& colour);
+
+    PickerHost m_host;
+    Colour m_colour = Colour::rgba(0.85, 0.36, 0.12, -1);
+    ColourSample m_sample;
+    std::unique_ptr<LivePicker> m_modeless;
+};
