@@ -12,7 +12,7 @@ set_target_properties(ovomfcmain PROPERTIES EXPORT_NAME mfcmain)
 
 install(TARGETS ${targets} ovomfcmain EXPORT ovouiTargets
         RUNTIME DESTINATION bin ARCHIVE DESTINATION lib LIBRARY DESTINATION lib)
-install(TARGETS ovouires RUNTIME DESTINATION bin)
+install(TARGETS ovouires ovo-update-lint RUNTIME DESTINATION bin)
 install(FILES ${OVO_RUNTIME_DLLS} DESTINATION bin)
 
 # What sits in core/ or says "Not exported" in its first lines stays private.

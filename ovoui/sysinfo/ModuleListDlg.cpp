@@ -40,8 +40,8 @@ struct Heading
 constexpr Heading kHeadings[] = {
     {ModuleColumn::Name, L"Name", 70},
     {ModuleColumn::Remark, L"Remark", 68},
-    {ModuleColumn::FileVersion, L"File version", 56},
-    {ModuleColumn::ProductVersion, L"Product version", 56},
+    {ModuleColumn::FileVersion, L"File version", 66},
+    {ModuleColumn::ProductVersion, L"Product version", 66},
     {ModuleColumn::Description, L"Description", 100},
     {ModuleColumn::Path, L"Path", 140},
     {ModuleColumn::LinkTime, L"Linked", 90},

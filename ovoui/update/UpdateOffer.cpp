@@ -20,9 +20,7 @@ CUpdateOffer::~CUpdateOffer() = default;
 BOOL CUpdateOffer::OnInitDialog()
 {
     SetDlgItemText(IDC_UPDATE_TEXT, availableText(m_product, m_update.description, m_update.page).c_str());
-    COVOModalDialog::OnInitDialog();
-    GetDlgItem(IDOK)->SetFocus(); // not the text, which would be selected
-    return FALSE;
+    return COVOModalDialog::OnInitDialog();
 }
 
 void CUpdateOffer::OnEnd(UINT id)

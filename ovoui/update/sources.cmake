@@ -28,3 +28,8 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/UpdateOffer.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UpdateText.cpp)
 target_link_libraries(ovoui PRIVATE bcrypt wininet shell32)
+
+# The examination of lists for those who publish one.
+add_executable(ovo-update-lint ${CMAKE_CURRENT_LIST_DIR}/lint/Main.cpp ${update_core})
+target_link_libraries(ovo-update-lint PRIVATE ovo_flags ovocor)
+target_link_options(ovo-update-lint PRIVATE -municode)
