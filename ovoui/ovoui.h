@@ -4,6 +4,8 @@
 #include <ovoui/colour/ColPickerDlg.h>
 #include <ovoui/colour/ColPickerDlgBase.h>
 #include <ovoui/colour/ShadedTabCtrl.h>
+#include <ovoui/files/Browse.h>
+#include <ovoui/files/FileDialog.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/MessageBox.h>
 #include <ovoui/frame/ModalDialog.h>

@@ -11,6 +11,8 @@ using namespace ovotest;
 namespace
 {
 
+constexpr int kLongerThanNames = 15; ///< strokes that empty the name's box
+
 class FileDialog : public testing::TestWithParam<Kind>
 {
 protected:
@@ -179,9 +181,8 @@ TEST_P(FileDialog, StaysOpenWhileTheFileIsRefused)
                          .type(L"a.txt")
                          .key(VK_RETURN)
                          .waitFor("the refusal", [&] { return offered.size() == 1; })
-                         .holding(VK_CONTROL)
-                         .key('A')
-                         .letGo(VK_CONTROL)
+                         .key(VK_END)
+                         .key(VK_BACK, kLongerThanNames)
                          .type(L"b.txt")
                          .key(VK_RETURN)
                          .start();
@@ -335,7 +336,7 @@ TEST_P(FileDialog, CanBeShownAgain)
         dialog.startIn(files.folder());
         dialog.m_ofn.lpstrFile[0] = L'\0';
         auto answering =
-            whenAsked().holding(VK_CONTROL).key('A').letGo(VK_CONTROL).type(name).key(VK_RETURN).start();
+            whenAsked().key(VK_END).key(VK_BACK, kLongerThanNames).type(name).key(VK_RETURN).start();
         ASSERT_EQ(dialog.DoModal(), IDOK);
         EXPECT_EQ(text(dialog.GetPathName()), files.path(name));
     }

@@ -1,0 +1,215 @@
+#include <ovoui/files/FileDialogImp.h>
+
+#include <ovocor/IntCast.h>
+
+#include <limits>
+#include <utility>
+
+#pragma GCC diagnostic ignored "-Winvalid-offsetof" // the parts of a class are found by their offset
+
+namespace
+{
+
+constexpr UINT kPostInit = 0x0E18; ///< also the number of the timer that sends it again
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(COVOFileDialogImp, CFileDialog)
+    ON_WM_HELPINFO()
+    ON_WM_SIZE()
+    ON_MESSAGE(kPostInit, &COVOFileDialogImp::OnPostInit)
+END_MESSAGE_MAP()
+
+BEGIN_INTERFACE_MAP(COVOFileDialogImp, CFileDialog)
+INTERFACE_PART(COVOFileDialogImp, IID_IFileDialogControlEvents, ControlEvents)
+END_INTERFACE_MAP()
+
+COVOFileDialogImp::COVOFileDialogImp(BOOL open, LPCWSTR defaultExtension, LPCWSTR fileName, DWORD flags,
+                                     LPCWSTR filter, CWnd* parent, BOOL vistaStyle)
+    : CFileDialog(open, defaultExtension, fileName, flags, filter, parent, 0, vistaStyle)
+{
+}
+
+IFileDialogCustomize* COVOFileDialogImp::customize([[maybe_unused]] const char* operation) const
+{
+    if (!m_pIFileDialogCustomize)
+        TRACE("COVOFileDialog::%s is for the new-style dialog alone: ask IsVistaStyle first\n", operation);
+    ASSERT(m_pIFileDialogCustomize);
+    return m_pIFileDialogCustomize;
+}
+
+INT_PTR COVOFileDialogImp::ask()
+{
+    m_kept = nullptr;
+    const INT_PTR result = DoModal();
+    if (m_kept)
+        std::rethrow_exception(std::exchange(m_kept, nullptr));
+    return result;
+}
+
+// The child dialog of the classic path
+
+BOOL COVOFileDialogImp::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    const BOOL result = m_owner->OnInitDialog();
+    PostMessage(kPostInit);
+    return result;
+}
+
+/// The system may let messages through before it shows the dialog; then this waits.
+LRESULT COVOFileDialogImp::OnPostInit(WPARAM wParam, LPARAM lParam)
+{
+    if (!IsWindowVisible()) {
+        ::SetTimer(m_hWnd, kPostInit, USER_TIMER_MINIMUM, &postAgain);
+        return 0;
+    }
+    return m_owner->OnPostInit(wParam, lParam);
+}
+
+void CALLBACK COVOFileDialogImp::postAgain(HWND child, UINT, UINT_PTR timer, DWORD)
+{
+    ::KillTimer(child, timer);
+    ::PostMessageW(child, kPostInit, 0, 0);
+}
+
+LRESULT COVOFileDialogImp::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_COMMAND && !m_bVistaStyle) {
+        tellOfCommand(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
+        if (!m_hWnd)
+            return 0; // the owner has destroyed the dialog
+    }
+    return CFileDialog::WindowProc(message, wParam, lParam);
+}
+
+void COVOFileDialogImp::tellOfCommand(WORD id, WORD code, HWND control)
+{
+    switch (code) {
+    case BN_CLICKED:
+        m_owner->OnCheckButtonToggled(id, IsDlgButtonChecked(id) != 0);
+        break;
+    case CBN_SELCHANGE: {
+        if (!control)
+            break; // an accelerator
+        const LRESULT selection = ::SendMessageW(control, CB_GETCURSEL, 0, 0);
+        if (selection < 0 || selection > std::numeric_limits<DWORD>::max())
+            throwIntCast();
+        m_owner->OnItemSelected(id, static_cast<DWORD>(selection));
+        break;
+    }
+    case EN_CHANGE:
+        m_owner->OnEnChange(id);
+        break;
+    }
+}
+
+BOOL COVOFileDialogImp::OnHelpInfo(HELPINFO* info)
+{
+    return m_owner->OnHelpInfo(info, CCommonDialog::OnHelpInfo(info));
+}
+
+void COVOFileDialogImp::OnSize(UINT type, int cx, int cy)
+{
+    m_owner->OnSize(type, cx, cy);
+    if (m_hWnd)
+        CFileDialog::OnSize(type, cx, cy);
+}
+
+// Both paths
+
+BOOL COVOFileDialogImp::OnFileNameOK()
+{
+    return m_owner->OnFileNameOK(CFileDialog::OnFileNameOK());
+}
+
+void COVOFileDialogImp::OnLBSelChangedNotify(UINT box, UINT selection, UINT code)
+{
+    m_owner->OnLBSelChangedNotify(box, selection, code);
+}
+
+void COVOFileDialogImp::OnInitDone()
+{
+    m_owner->OnInitDone();
+}
+
+void COVOFileDialogImp::OnFileNameChange()
+{
+    m_owner->OnFileNameChange();
+}
+
+void COVOFileDialogImp::OnFolderChange()
+{
+    m_owner->OnFolderChange();
+}
+
+void COVOFileDialogImp::OnTypeChange()
+{
+    m_owner->OnTypeChange();
+}
+
+// The new-style path
+
+/// Nothing may leave a method that the system calls: a CException is reported, anything else waits for the
+/// end of DoModal, which comes at once.
+template <class Handler>
+HRESULT COVOFileDialogImp::tell(Handler&& handler)
+{
+    try {
+        handler(*m_owner);
+    } catch (CException* exception) {
+        MSG message{};
+        message.message = WM_COMMAND;
+        AfxGetThread()->ProcessWndProcException(exception, &message);
+        exception->Delete();
+    } catch (...) {
+        if (!m_kept)
+            m_kept = std::current_exception();
+        m_pIFileDialog->Close(HRESULT_FROM_WIN32(ERROR_CANCELLED));
+    }
+    return S_OK;
+}
+
+STDMETHODIMP_(ULONG) COVOFileDialogImp::XControlEvents::AddRef()
+{
+    METHOD_PROLOGUE_EX_(COVOFileDialogImp, ControlEvents)
+    return pThis->ExternalAddRef();
+}
+
+STDMETHODIMP_(ULONG) COVOFileDialogImp::XControlEvents::Release()
+{
+    METHOD_PROLOGUE_EX_(COVOFileDialogImp, ControlEvents)
+    return pThis->ExternalRelease();
+}
+
+STDMETHODIMP COVOFileDialogImp::XControlEvents::QueryInterface(REFIID iid, LPVOID* object)
+{
+    METHOD_PROLOGUE_EX_(COVOFileDialogImp, ControlEvents)
+    return static_cast<HRESULT>(pThis->ExternalQueryInterface(&iid, object));
+}
+
+STDMETHODIMP COVOFileDialogImp::XControlEvents::OnItemSelected(IFileDialogCustomize*, DWORD control,
+                                                               DWORD item)
+{
+    METHOD_PROLOGUE(COVOFileDialogImp, ControlEvents)
+    return pThis->tell([=](COVOFileDialog& owner) { owner.OnItemSelected(control, item); });
+}
+
+STDMETHODIMP COVOFileDialogImp::XControlEvents::OnButtonClicked(IFileDialogCustomize*, DWORD control)
+{
+    METHOD_PROLOGUE(COVOFileDialogImp, ControlEvents)
+    return pThis->tell([=](COVOFileDialog& owner) { owner.OnButtonClicked(control); });
+}
+
+STDMETHODIMP COVOFileDialogImp::XControlEvents::OnCheckButtonToggled(IFileDialogCustomize*, DWORD control,
+                                                                     BOOL checked)
+{
+    METHOD_PROLOGUE(COVOFileDialogImp, ControlEvents)
+    return pThis->tell([=](COVOFileDialog& owner) { owner.OnCheckButtonToggled(control, checked); });
+}
+
+STDMETHODIMP COVOFileDialogImp::XControlEvents::OnControlActivating(IFileDialogCustomize*, DWORD control)
+{
+    METHOD_PROLOGUE(COVOFileDialogImp, ControlEvents)
+    return pThis->tell([=](COVOFileDialog& owner) { owner.OnControlActivating(control); });
+}

@@ -1,0 +1,61 @@
+/// Not exported: the framework's file dialog behind COVOFileDialog.
+#pragma once
+
+#include <ovoui/files/FileDialog.h>
+
+#include <afxdlgs.h>
+
+#include <exception>
+
+/// Passes on to its owner what happens in either dialog.
+class COVOFileDialogImp : public CFileDialog
+{
+public:
+    COVOFileDialogImp(BOOL open, LPCWSTR defaultExtension, LPCWSTR fileName, DWORD flags, LPCWSTR filter,
+                      CWnd* parent, BOOL vistaStyle);
+
+    bool isNewStyle() const { return m_bVistaStyle != FALSE; }
+    IFileDialog* fileDialog() const { return m_pIFileDialog; }
+
+    /// The interface for the host's controls. `operation` is named when there is none, which is an error of
+    /// the host.
+    IFileDialogCustomize* customize(const char* operation) const;
+
+    /// DoModal, which raises what a handler of a control has thrown meanwhile.
+    INT_PTR ask();
+
+protected:
+    BOOL OnInitDialog() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    BOOL OnFileNameOK() override;
+    void OnLBSelChangedNotify(UINT box, UINT selection, UINT code) override;
+    void OnInitDone() override;
+    void OnFileNameChange() override;
+    void OnFolderChange() override;
+    void OnTypeChange() override;
+    virtual LRESULT OnPostInit(WPARAM wParam, LPARAM lParam);
+
+    afx_msg BOOL OnHelpInfo(HELPINFO* info);
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    DECLARE_MESSAGE_MAP()
+    DECLARE_INTERFACE_MAP()
+
+private:
+    BEGIN_INTERFACE_PART(ControlEvents, IFileDialogControlEvents)
+    STDMETHOD(OnItemSelected)(IFileDialogCustomize*, DWORD control, DWORD item) override;
+    STDMETHOD(OnButtonClicked)(IFileDialogCustomize*, DWORD control) override;
+    STDMETHOD(OnCheckButtonToggled)(IFileDialogCustomize*, DWORD control, BOOL checked) override;
+    STDMETHOD(OnControlActivating)(IFileDialogCustomize*, DWORD control) override;
+    END_INTERFACE_PART(ControlEvents)
+
+public:
+    COVOFileDialog* m_owner = nullptr; ///< set by the owner's constructor
+
+private:
+    template <class Handler>
+    HRESULT tell(Handler&& handler);
+    void tellOfCommand(WORD id, WORD code, HWND control);
+    static void CALLBACK postAgain(HWND child, UINT, UINT_PTR timer, DWORD);
+
+    std::exception_ptr m_kept; ///< what a handler has thrown on the new-style path
+};

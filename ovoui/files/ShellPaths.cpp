@@ -1,0 +1,88 @@
+#include <ovoui/files/ShellPaths.h>
+
+#include <ovoui/files/core/NearestFolder.h>
+#include <ovoui/frame/Module.h>
+
+#include <shlwapi.h>
+
+namespace ovoui
+{
+
+namespace
+{
+
+bool isFolder(const std::wstring& path)
+{
+    return ::PathIsDirectoryW(path.c_str()) != FALSE;
+}
+
+/// Makes the activation context that this library was loaded with the current one.
+class LibraryContext
+{
+public:
+    LibraryContext()
+    {
+        ACTIVATION_CONTEXT_BASIC_INFORMATION information{};
+        constexpr DWORD kOfAddress = QUERY_ACTCTX_FLAG_ACTCTX_IS_ADDRESS | QUERY_ACTCTX_FLAG_NO_ADDREF;
+        const bool known =
+            ::QueryActCtxW(kOfAddress, reinterpret_cast<void*>(&isFolder), nullptr,
+                           ActivationContextBasicInformation, &information, sizeof information, nullptr);
+        m_active = ::ActivateActCtx(known ? information.hActCtx : nullptr, &m_cookie);
+    }
+    ~LibraryContext()
+    {
+        if (m_active)
+            ::DeactivateActCtx(0, m_cookie);
+    }
+    LibraryContext(const LibraryContext&) = delete;
+    LibraryContext& operator=(const LibraryContext&) = delete;
+
+private:
+    ULONG_PTR m_cookie = 0;
+    bool m_active = false;
+};
+
+/// Loaded when it is first asked for, and kept.
+HMODULE shell()
+{
+    static HMODULE s_shell = nullptr;
+    if (s_shell)
+        return s_shell;
+    DWORD error = 0;
+    {
+        const LibraryContext context;
+        s_shell = ::LoadLibraryW(L"Shell32.dll");
+        error = ::GetLastError();
+    }
+    if (!s_shell)
+        ::SetLastError(error);
+    return s_shell;
+}
+
+} // namespace
+
+std::wstring existingFolderNear(const std::wstring& path)
+{
+    return nearestFolder(path, &isFolder);
+}
+
+std::wstring folderToBeginIn(const std::wstring& path)
+{
+    return climbToFolder(path, &isFolder);
+}
+
+IShellItem* shellItemOf(const std::wstring& path)
+{
+    const HMODULE library = shell();
+    if (!library)
+        return nullptr;
+    using Create = HRESULT(WINAPI*)(PCWSTR, IBindCtx*, REFIID, void**);
+    const auto create = reinterpret_cast<Create>(
+        reinterpret_cast<void*>(::GetProcAddress(library, "SHCreateItemFromParsingName")));
+    void* item = nullptr;
+    return create && SUCCEEDED(create(path.c_str(), nullptr, IID_IShellItem, &item))
+               ? static_cast<IShellItem*>(item)
+               : nullptr;
+}
+
+} // namespace ovoui

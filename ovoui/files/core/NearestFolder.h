@@ -1,0 +1,19 @@
+/// Not exported: the folder to begin in when the wanted one may be gone.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace ovoui
+{
+
+using IsFolder = std::function<bool(const std::wstring&)>;
+
+/// Climbs from a path to the first folder that there is; to the last one that can be climbed to, when there
+/// is none.
+std::wstring climbToFolder(std::wstring path, const IsFolder& isFolder);
+
+/// The same, but empty when there is no such folder.
+std::wstring nearestFolder(std::wstring path, const IsFolder& isFolder);
+
+} // namespace ovoui

@@ -1,0 +1,410 @@
+// The browse functions, with the system's dialogs.
+#include "HostDialog.h"
+
+#include "support/ImportPatch.h"
+
+#include <ovoui/files/Browse.h>
+
+#include <gtest/gtest.h>
+
+#include <afxdlgs.h>
+#include <shlobj.h>
+
+#include <cwctype>
+
+using namespace ovotest;
+
+namespace
+{
+
+constexpr wchar_t kFilter[] = L"Text|*.txt|Pictures|*.png;*.jpg|All|*.*|";
+
+std::wstring workingFolder()
+{
+    wchar_t folder[MAX_PATH]{};
+    ::GetCurrentDirectoryW(MAX_PATH, folder);
+    return folder;
+}
+
+std::wstring textOf(HWND wnd)
+{
+    wchar_t text[512]{};
+    ::GetWindowTextW(wnd, text, 512);
+    return text;
+}
+
+/// The arguments of BrowseForFile, with defaults for what a test does not care about.
+struct File
+{
+    std::wstring title = {};
+    std::wstring folder = {};
+    const wchar_t* extension = nullptr;
+    std::wstring filter = kFilter;
+    std::wstring path = {};
+    int mustExist = 0;
+    int save = 0;
+
+    bool ask() { return BrowseForFile(nullptr, title, folder, extension, filter, path, mustExist, save); }
+};
+
+class BrowseTest : public testing::Test
+{
+protected:
+    BrowseTest() { m_workingFolder = workingFolder(); }
+    ~BrowseTest() override { EXPECT_EQ(workingFolder(), m_workingFolder); }
+
+    TemporaryFiles files{L"a.txt", L"b.txt", L"p.png", L"below\\deep.txt"};
+
+private:
+    std::wstring m_workingFolder;
+};
+
+} // namespace
+
+// One file
+
+TEST_F(BrowseTest, OneFileGivesItsFullPath)
+{
+    File file{.folder = files.folder(), .path = L"b.txt"};
+    auto answering = whenAsked().key(VK_RETURN).start();
+    EXPECT_TRUE(file.ask());
+    EXPECT_EQ(file.path, files.path(L"b.txt"));
+}
+
+TEST_F(BrowseTest, CancelledLeavesEverythingAsItIs)
+{
+    File file{.folder = files.folder(), .path = L"b.txt"};
+    auto answering = whenAsked().key(VK_ESCAPE).start();
+    EXPECT_FALSE(file.ask());
+    EXPECT_EQ(file.path, L"b.txt");
+
+    std::vector<std::wstring> paths{L"as before"};
+    auto cancelling = whenAsked().key(VK_ESCAPE).start();
+    EXPECT_FALSE(BrowseForFiles(nullptr, nullptr, files.folder(), L"", kFilter, paths));
+    EXPECT_EQ(paths, std::vector<std::wstring>{L"as before"});
+}
+
+TEST_F(BrowseTest, BeginsInTheNearestFolder)
+{
+    struct Case
+    {
+        std::wstring start;
+        std::wstring found;
+    };
+    const std::wstring folder = files.folder();
+    for (const Case& c :
+         {Case{folder, folder}, Case{folder + L"\\", folder}, Case{folder + L"\\gone\\deeper", folder},
+          Case{files.path(L"a.txt"), folder}, Case{files.path(L"below"), files.path(L"below")}}) {
+        SCOPED_TRACE(testing::PrintToString(c.start));
+        File file{.folder = c.start};
+        auto answering = whenAsked().type(L"new.txt").key(VK_RETURN).start();
+        ASSERT_TRUE(file.ask());
+        EXPECT_EQ(file.path, c.found + L"\\new.txt");
+
+        std::vector<std::wstring> paths;
+        const std::wstring name = c.found == folder ? L"a.txt" : L"deep.txt";
+        auto choosing = whenAsked().type(name).key(VK_RETURN).start();
+        ASSERT_TRUE(BrowseForFiles(nullptr, nullptr, c.start, L"", kFilter, paths));
+        EXPECT_EQ(paths, std::vector<std::wstring>{c.found + L"\\" + name});
+    }
+}
+
+TEST_F(BrowseTest, BeginsSomewhereWhenThereIsNoSuchFolder)
+{
+    for (const std::wstring start : {L"", L"Q:\\gone", L"\\\\no-such-server\\share\\folder", L"gone"}) {
+        SCOPED_TRACE(testing::PrintToString(start));
+        File file{.folder = start};
+        auto answering = whenAsked().type(files.path(L"a.txt")).key(VK_RETURN).start();
+        ASSERT_TRUE(file.ask());
+        EXPECT_EQ(file.path, files.path(L"a.txt"));
+    }
+}
+
+TEST_F(BrowseTest, ChoosesTheEntryOfTheExtension)
+{
+    struct Case
+    {
+        const wchar_t* extension;
+        const wchar_t* shown;
+    };
+    for (const Case& c : {Case{L".jpg", L"Pictures"}, Case{L".*", L"All"}, Case{L".JPG", L"Text"},
+                          Case{L".gif", L"Text"}, Case{nullptr, L"Text"}}) {
+        SCOPED_TRACE(testing::PrintToString(c.extension));
+        File file{.folder = files.folder(), .extension = c.extension};
+        bool shown = false;
+        auto answering =
+            whenAsked().then([&] { shown = controlWithText(c.shown) != nullptr; }).key(VK_ESCAPE).start();
+        file.ask();
+        EXPECT_TRUE(shown);
+    }
+}
+
+TEST_F(BrowseTest, FilesChooseTheEntryInAnyCase)
+{
+    struct Case
+    {
+        const wchar_t* extension;
+        const wchar_t* filter;
+        const wchar_t* shown;
+    };
+    for (const Case& c : {Case{L".JPG", kFilter, L"Pictures"}, Case{L".txt", L"All|*.*|Text|*.txt", L"All"},
+                          Case{L".txt", L"All|*.*|Text|*.txt|", L"Text"}}) {
+        bool shown = false;
+        std::vector<std::wstring> paths;
+        auto answering =
+            whenAsked().then([&] { shown = controlWithText(c.shown) != nullptr; }).key(VK_ESCAPE).start();
+        BrowseForFiles(nullptr, nullptr, files.folder(), c.extension, c.filter, paths);
+        EXPECT_TRUE(shown) << testing::PrintToString(c.extension);
+    }
+}
+
+TEST_F(BrowseTest, AtTheEndOfTheFilterOneFileChoosesTheEntry)
+{
+    File file{.folder = files.folder(), .extension = L".txt", .filter = L"All|*.*|Text|*.txt"};
+    bool shown = false;
+    auto answering =
+        whenAsked().then([&] { shown = controlWithText(L"Text") != nullptr; }).key(VK_ESCAPE).start();
+    file.ask();
+    EXPECT_TRUE(shown);
+}
+
+TEST_F(BrowseTest, ShowsTheTitle)
+{
+    File titled{.title = L"Which picture?", .folder = files.folder()};
+    std::wstring title;
+    auto first = whenAsked().then([&] { title = textOf(asked()); }).key(VK_ESCAPE).start();
+    titled.ask();
+    EXPECT_EQ(title, L"Which picture?");
+
+    std::wstring usual;
+    File untitled{.folder = files.folder()};
+    auto second = whenAsked().then([&] { usual = textOf(asked()); }).key(VK_ESCAPE).start();
+    untitled.ask();
+    EXPECT_FALSE(usual.empty());
+
+    std::vector<std::wstring> paths;
+    for (const wchar_t* text : {static_cast<const wchar_t*>(nullptr), L"", L"Which pictures?"}) {
+        auto third = whenAsked().then([&] { title = textOf(asked()); }).key(VK_ESCAPE).start();
+        BrowseForFiles(nullptr, text, files.folder(), L"", kFilter, paths);
+        EXPECT_EQ(title, text && *text ? std::wstring(text) : usual);
+    }
+}
+
+TEST_F(BrowseTest, TakesNamesOf259Characters)
+{
+    const std::size_t room = 259 - files.folder().size() - 1;
+    const std::wstring longest(room, L'n');
+    files.addFile(longest);
+    File file{.folder = files.folder(), .path = files.path(longest)};
+    auto answering = whenAsked().key(VK_RETURN).start();
+    ASSERT_TRUE(file.ask());
+    EXPECT_EQ(file.path, files.path(longest));
+}
+
+TEST_F(BrowseTest, CutsANameOf260Characters)
+{
+    const std::size_t room = 259 - files.folder().size() - 1;
+    const std::wstring longest(room, L'n');
+    File file{.folder = files.folder(), .path = files.path(longest) + L"X"};
+    std::wstring shown;
+    auto answering = whenAsked().then([&] { shown = textOf(nameBox()); }).key(VK_ESCAPE).start();
+    EXPECT_FALSE(file.ask());
+    EXPECT_EQ(shown, longest);
+}
+
+TEST_F(BrowseTest, AsksForAFileThatExists)
+{
+    File file{.folder = files.folder(), .mustExist = 1};
+    HWND dialog = nullptr;
+    auto answering = whenAsked()
+                         .then([&] { dialog = asked(); })
+                         .type(L"gone.txt")
+                         .key(VK_RETURN)
+                         .waitFor("the complaint", [&] { return asked() && asked() != dialog; })
+                         .key(VK_RETURN)
+                         .waitFor("the dialog", [&] { return asked() == dialog; })
+                         .key(VK_ESCAPE)
+                         .start();
+    EXPECT_FALSE(file.ask());
+    EXPECT_EQ(file.path, L"");
+}
+
+TEST_F(BrowseTest, AsksBeforeItReplaces)
+{
+    File file{.folder = files.folder(), .path = L"a.txt", .save = 1};
+    HWND dialog = nullptr;
+    auto answering = whenAsked()
+                         .then([&] { dialog = asked(); })
+                         .key(VK_RETURN)
+                         .waitFor("the question", [&] { return asked() && asked() != dialog; })
+                         .click([] { return ::GetDlgItem(asked(), IDYES); })
+                         .start();
+    EXPECT_TRUE(file.ask());
+    EXPECT_EQ(file.path, files.path(L"a.txt"));
+}
+
+TEST_F(BrowseTest, DisablesTheParentMeanwhile)
+{
+    CWnd parent;
+    parent.CreateEx(0, AfxRegisterWndClass(0), L"Parent", WS_POPUP | WS_VISIBLE, 0, 0, 300, 200, nullptr,
+                    nullptr);
+    bool disabled = false;
+    std::wstring path;
+    auto answering = whenAsked().then([&] { disabled = !parent.IsWindowEnabled(); }).key(VK_ESCAPE).start();
+    BrowseForFile(&parent, L"", L"", nullptr, kFilter, path, 0, 0);
+    EXPECT_TRUE(disabled);
+    EXPECT_TRUE(parent.IsWindowEnabled());
+    parent.DestroyWindow();
+}
+
+// Several files
+
+TEST_F(BrowseTest, SeveralFilesComeInOrder)
+{
+    std::vector<std::wstring> paths{L"as before"};
+    auto answering = whenAsked().type(L"\"b.txt\" \"a.txt\"").key(VK_RETURN).start();
+    ASSERT_TRUE(BrowseForFiles(nullptr, nullptr, files.folder(), L".txt", kFilter, paths));
+    EXPECT_EQ(paths, (std::vector{files.path(L"b.txt"), files.path(L"a.txt")}));
+}
+
+TEST_F(BrowseTest, FiveHundredFiles)
+{
+    std::vector<std::wstring> expected;
+    std::wstring typed;
+    for (int i = 100; i < 600; ++i) {
+        const std::wstring name = L"f " + std::to_wstring(i) + L".txt";
+        files.addFile(name);
+        expected.push_back(files.path(name));
+        typed += L'"' + name + L"\" ";
+    }
+    std::vector<std::wstring> paths;
+    // Set at once: so many strokes would take minutes.
+    auto answering =
+        whenAsked().then([&] { ::SetWindowTextW(nameBox(), typed.c_str()); }).key(VK_RETURN).start();
+    ASSERT_TRUE(BrowseForFiles(nullptr, nullptr, files.folder(), L".txt", kFilter, paths));
+    EXPECT_EQ(paths, expected);
+}
+
+// A folder
+
+namespace
+{
+
+/// What BrowseForDir asks of the system, which the test answers.
+struct AskedFolder
+{
+    static inline UINT flags = 0;
+    static inline HWND owner = nullptr;
+    static inline std::wstring title;
+    static inline std::wstring start;
+    static inline LPITEMIDLIST answer = nullptr;
+    static inline std::vector<LRESULT> results;
+
+    static LPITEMIDLIST WINAPI ask(LPBROWSEINFOW question)
+    {
+        flags = question->ulFlags;
+        owner = question->hwndOwner;
+        title = question->lpszTitle;
+        start = reinterpret_cast<const wchar_t*>(question->lParam);
+        EXPECT_EQ(question->pidlRoot, nullptr);
+        EXPECT_NE(question->pszDisplayName, nullptr);
+        results = {question->lpfn(nullptr, BFFM_SELCHANGED, 0, question->lParam),
+                   question->lpfn(nullptr, BFFM_VALIDATEFAILED, 0, question->lParam),
+                   question->lpfn(nullptr, BFFM_INITIALIZED, 0, 0)};
+        return std::exchange(answer, nullptr);
+    }
+};
+
+/// The tree's chosen item, in the dialog that waits.
+std::wstring chosenFolder()
+{
+    const HWND tree = ::FindWindowExW(asked(), nullptr, L"SysTreeView32", nullptr);
+    const HWND host = tree ? tree : asked();
+    TVITEMW item{};
+    wchar_t text[MAX_PATH]{};
+    item.mask = TVIF_TEXT | TVIF_HANDLE;
+    item.hItem = reinterpret_cast<HTREEITEM>(::SendMessageW(host, TVM_GETNEXTITEM, TVGN_CARET, 0));
+    item.pszText = text;
+    item.cchTextMax = MAX_PATH;
+    return item.hItem && ::SendMessageW(host, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)) ? text : L"";
+}
+
+std::wstring nameOfPath(const std::wstring& path)
+{
+    return path.substr(path.find_last_of(L'\\') + 1);
+}
+
+} // namespace
+
+TEST_F(BrowseTest, AFolderIsAskedForAsAgreed)
+{
+    const ImportPatch patch(L"ovoui.dll", "SHBrowseForFolderW", reinterpret_cast<void*>(&AskedFolder::ask));
+    wchar_t path[MAX_PATH];
+    ::lstrcpynW(path, files.path(L"gone\\deeper").c_str(), MAX_PATH);
+    const std::wstring before = path;
+    EXPECT_EQ(BrowseForDir(nullptr, L"Where to?", path), 0);
+    EXPECT_EQ(path, before);
+    EXPECT_EQ(AskedFolder::flags, 0x41u);
+    EXPECT_EQ(AskedFolder::owner, nullptr);
+    EXPECT_EQ(AskedFolder::title, L"Where to?");
+    EXPECT_EQ(AskedFolder::start, files.folder());
+    EXPECT_EQ(AskedFolder::results, (std::vector<LRESULT>{0, 0, 0}));
+}
+
+TEST_F(BrowseTest, AFolderBeginsWhereTheClimbStops)
+{
+    const ImportPatch patch(L"ovoui.dll", "SHBrowseForFolderW", reinterpret_cast<void*>(&AskedFolder::ask));
+    struct Case
+    {
+        const wchar_t* path;
+        const wchar_t* start;
+    };
+    for (const Case& c : {Case{L"Q:\\gone", L"Q:\\"}, Case{L"", L""}, Case{L"gone", L"gone"}}) {
+        wchar_t path[MAX_PATH]{};
+        ::lstrcpynW(path, c.path, MAX_PATH);
+        BrowseForDir(nullptr, L"", path);
+        EXPECT_EQ(AskedFolder::start, c.start);
+    }
+}
+
+TEST_F(BrowseTest, AFolderOutsideOfTheFileSystemIsNone)
+{
+    const ImportPatch patch(L"ovoui.dll", "SHBrowseForFolderW", reinterpret_cast<void*>(&AskedFolder::ask));
+    ASSERT_HRESULT_SUCCEEDED(::SHGetSpecialFolderLocation(nullptr, CSIDL_CONTROLS, &AskedFolder::answer));
+    wchar_t path[MAX_PATH] = L"C:\\";
+    EXPECT_EQ(BrowseForDir(nullptr, L"", path), 0);
+    EXPECT_STREQ(path, L"C:\\");
+}
+
+TEST_F(BrowseTest, AFolderIsChosenByTheUser)
+{
+    wchar_t path[MAX_PATH];
+    ::lstrcpynW(path, files.path(L"below\\gone").c_str(), MAX_PATH);
+    auto answering = whenAsked()
+                         .waitFor("the folder to begin in", [] { return chosenFolder() == L"below"; })
+                         .click([] { return ::GetDlgItem(asked(), IDOK); })
+                         .start();
+    EXPECT_EQ(BrowseForDir(nullptr, L"Where to?", path), 1);
+    EXPECT_EQ(path, files.path(L"below"));
+}
+
+TEST_F(BrowseTest, AFolderCanBeLeftUnchosen)
+{
+    CWnd parent;
+    parent.CreateEx(0, AfxRegisterWndClass(0), L"Parent", WS_POPUP | WS_VISIBLE, 0, 0, 300, 200, nullptr,
+                    nullptr);
+    wchar_t path[MAX_PATH];
+    ::lstrcpynW(path, files.folder().c_str(), MAX_PATH);
+    bool disabled = false;
+    auto answering =
+        whenAsked()
+            .waitFor("the folder to begin in", [&] { return chosenFolder() == nameOfPath(files.folder()); })
+            .then([&] { disabled = !parent.IsWindowEnabled(); })
+            .key(VK_ESCAPE)
+            .start();
+    EXPECT_EQ(BrowseForDir(&parent, L"Where to?", path), 0);
+    EXPECT_EQ(path, files.folder());
+    EXPECT_TRUE(disabled);
+    EXPECT_TRUE(parent.IsWindowEnabled());
+    parent.DestroyWindow();
+}

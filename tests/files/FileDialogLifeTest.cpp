@@ -1,0 +1,80 @@
+// COVOFileDialog: its end, and what it leaves behind.
+#include "HostDialog.h"
+#include "resource.h"
+
+#include "support/GdiCounter.h"
+#include "support/ImportPatch.h"
+#include "support/WindowCounter.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+TEST(FileDialogLife, LeavesNothingBehind)
+{
+    const TemporaryFiles files{L"a.txt"};
+    for (const Kind kind : {Kind::Classic, Kind::NewStyle}) {
+        SCOPED_TRACE(nameOf(kind));
+        const auto show = [&] {
+            HostDialog dialog(kind);
+            dialog.startIn(files.folder());
+            auto answering = whenAsked().key(VK_ESCAPE).start();
+            dialog.DoModal();
+        };
+        for (int i = 0; i < 3; ++i)
+            show(); // what the system keeps for good
+        const WindowCounter windows;
+        const GdiCounter gdi;
+        for (int i = 0; i < 100; ++i)
+            show();
+        EXPECT_EQ(windows.grown(), 0);
+        EXPECT_LE(gdi.grown(), 5);
+    }
+}
+
+TEST(FileDialogLife, EndsWithoutHavingBeenShown)
+{
+    for (const Kind kind : {Kind::Classic, Kind::NewStyle}) {
+        HostDialog dialog(kind);
+        EXPECT_TRUE(dialog.events.empty());
+    }
+}
+
+namespace
+{
+
+int s_loads = 0;
+bool s_fails = false;
+
+HMODULE WINAPI load(LPCWSTR name)
+{
+    ++s_loads;
+    EXPECT_STREQ(name, L"Shell32.dll");
+    if (!s_fails)
+        return ::LoadLibraryW(name);
+    ::SetLastError(ERROR_BAD_EXE_FORMAT);
+    return nullptr;
+}
+
+} // namespace
+
+// In a process of its own, since the library keeps the shell for good.
+TEST(FileDialogShellDeathTest, IsLoadedOnceAndItsAbsenceIsSilent)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto run = [] {
+        const ImportPatch patch(L"ovoui.dll", "LoadLibraryW", reinterpret_cast<void*>(&load));
+        HostDialog dialog(Kind::NewStyle);
+        s_loads = 0;
+        s_fails = true;
+        dialog.SetFolder(L"C:\\");
+        bool right = s_loads == 1 && ::GetLastError() == ERROR_BAD_EXE_FORMAT;
+        s_fails = false;
+        dialog.SetFolder(L"C:\\");
+        dialog.SetFolder(L"C:\\");
+        right = right && s_loads == 2;
+        std::fprintf(stderr, right ? "as expected" : "otherwise");
+        std::_Exit(1);
+    };
+    EXPECT_DEATH(run(), "as expected");
+}

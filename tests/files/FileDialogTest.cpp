@@ -1,0 +1,525 @@
+// COVOFileDialog: one host's class in both of the system's dialogs.
+#include "HostDialog.h"
+#include "resource.h"
+
+#include "support/ImportPatch.h"
+#include "support/TestApp.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+class FileDialogTest : public testing::TestWithParam<Kind>
+{
+protected:
+    Kind kind() const { return GetParam(); }
+    bool newStyle() const { return kind() == Kind::NewStyle; }
+
+    TemporaryFiles files{L"a.txt", L"b.txt", L"below\\deep.txt"};
+};
+
+std::string idOf(int id)
+{
+    return std::to_string(id);
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Both, FileDialogTest, testing::Values(Kind::Classic, Kind::NewStyle),
+                         [](const auto& info) { return nameOf(info.param); });
+
+TEST(FileDialogLayout, IsAVirtualTableAndTwoPointers)
+{
+    EXPECT_EQ(sizeof(COVOFileDialog), 3 * sizeof(void*));
+    HostDialog dialog(Kind::Classic);
+    EXPECT_EQ(reinterpret_cast<char*>(&dialog.ofn) -
+                  reinterpret_cast<char*>(static_cast<COVOFileDialog*>(&dialog)),
+              static_cast<std::ptrdiff_t>(2 * sizeof(void*)));
+    static_assert(std::is_copy_constructible_v<COVOFileDialog>);
+}
+
+TEST_P(FileDialogTest, CanBeSizedByTheUser)
+{
+    HostDialog dialog(kind());
+    EXPECT_NE(dialog.ofn->Flags & OFN_ENABLESIZING, 0u);
+    EXPECT_NE(dialog.ofn->Flags & OFN_NOCHANGEDIR, 0u);
+    EXPECT_NE(dialog.DialogWnd(), nullptr);
+}
+
+TEST_P(FileDialogTest, GivesTheFile)
+{
+    HostDialog dialog(kind());
+    dialog.startIn(files.folder());
+    auto answering = whenAsked().type(L"b.txt").key(VK_RETURN).start();
+    ASSERT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.GetPathName().GetString(), files.path(L"b.txt"));
+    EXPECT_EQ(dialog.GetFileTitle().GetString(), std::wstring(L"b"));
+    POSITION position = dialog.GetStartPosition();
+    EXPECT_EQ(position, reinterpret_cast<POSITION>(dialog.ofn->lpstrFile));
+    EXPECT_EQ(dialog.GetNextPathName(position).GetString(), files.path(L"b.txt"));
+    EXPECT_EQ(position, nullptr);
+}
+
+TEST_P(FileDialogTest, GivesSeveralFiles)
+{
+    HostDialog dialog(kind(), TRUE, nullptr, L"Text|*.txt||", OFN_ALLOWMULTISELECT | OFN_NOCHANGEDIR);
+    dialog.startIn(files.folder());
+    std::vector<wchar_t> buffer(2000);
+    dialog.ofn->lpstrFile = buffer.data();
+    dialog.ofn->nMaxFile = 2000;
+    auto answering = whenAsked().type(L"\"b.txt\" \"a.txt\"").key(VK_RETURN).start();
+    ASSERT_EQ(dialog.DoModal(), IDOK);
+    std::vector<std::wstring> paths;
+    for (POSITION position = dialog.GetStartPosition(); position;)
+        paths.emplace_back(dialog.GetNextPathName(position).GetString());
+    EXPECT_EQ(paths, (std::vector{files.path(L"b.txt"), files.path(L"a.txt")}));
+}
+
+TEST_P(FileDialogTest, TellsWhatTheUserDoesWithTheControls)
+{
+    HostDialog dialog(kind());
+    dialog.startIn(files.folder());
+    std::vector<std::string> events;
+    auto answering =
+        whenAsked()
+            .then([&] { dialog.forgetEvents(); })
+            .click([&] { return controlOf(dialog, IDC_BACKUP); })
+            .waitFor("the check", [&] { return !dialog.events.empty(); })
+            .key(VK_SPACE)
+            .waitFor("the other check", [&] { return dialog.events.size() == 2; })
+            .click([&] { return controlOf(dialog, IDC_FORMAT); })
+            .key(VK_DOWN)
+            .key(VK_DOWN)
+            .key(VK_RETURN)
+            .waitFor("the choice",
+                     [&] { return dialog.count("ItemSelected " + idOf(IDC_FORMAT) + " 2") == 1; })
+            .then([&] { events = dialog.events; })
+            .key(VK_ESCAPE)
+            .start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    std::erase(events, "ControlActivating " + idOf(IDC_FORMAT));
+    std::erase(events, "ItemSelected " + idOf(IDC_FORMAT) + " 1"); // on the way, where the list tells of it
+    EXPECT_EQ(events, (std::vector<std::string>{"CheckButtonToggled " + idOf(IDC_BACKUP) + " 1",
+                                                "CheckButtonToggled " + idOf(IDC_BACKUP) + " 0",
+                                                "ItemSelected " + idOf(IDC_FORMAT) + " 2"}));
+}
+
+TEST_P(FileDialogTest, GivesTheValuesWhenTheFileIsAccepted)
+{
+    HostDialog dialog(kind());
+    dialog.startIn(files.folder());
+    bool backup = false;
+    LONG_PTR format = -2;
+    std::wstring text;
+    int number = -1;
+    dialog.onFileNameOK = [&](BOOL result) {
+        backup = dialog.GetCheckButtonState(IDC_BACKUP);
+        format = dialog.GetSelectedControlItem(IDC_FORMAT);
+        text = dialog.GetEditBoxText(IDC_QUALITY);
+        number = dialog.GetEditBoxInt(IDC_QUALITY);
+        return result;
+    };
+    auto answering = whenAsked()
+                         .click([&] { return controlOf(dialog, IDC_BACKUP); })
+                         .click([&] { return controlOf(dialog, IDC_FORMAT); })
+                         .key(VK_DOWN)
+                         .key(VK_RETURN)
+                         .then([&] { dialog.SetEditBoxInt(IDC_QUALITY, -85); })
+                         .click(&nameBox)
+                         .type(L"a.txt")
+                         .key(VK_RETURN)
+                         .start();
+    ASSERT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_TRUE(backup);
+    EXPECT_EQ(format, 1); // an index and an item's number, which the host has made the same
+    EXPECT_EQ(text, L"-85");
+    EXPECT_EQ(number, -85);
+}
+
+TEST_P(FileDialogTest, ShowsAndEnablesControls)
+{
+    HostDialog dialog(kind());
+    struct State
+    {
+        bool visible;
+        bool told;
+        bool enabled;
+    };
+    std::vector<State> states;
+    const auto set = [&](bool enabled, bool visible) {
+        return [&, enabled, visible] {
+            const HWND control = controlOf(dialog, IDC_BACKUP);
+            dialog.SetControlState(IDC_BACKUP, enabled, visible);
+            const auto style = ::GetWindowLongW(control, GWL_STYLE);
+            states.push_back({(style & WS_VISIBLE) != 0, dialog.GetControlStateVisible(IDC_BACKUP),
+                              (style & WS_DISABLED) == 0});
+        };
+    };
+    auto answering = whenAsked()
+                         .then(set(false, true))
+                         .then(set(true, false))
+                         .then(set(false, false))
+                         .then(set(true, true))
+                         .key(VK_ESCAPE)
+                         .start();
+    dialog.DoModal();
+    ASSERT_EQ(states.size(), 4u);
+    const bool enabled[] = {false, true, false, true};
+    const bool visible[] = {true, false, false, true};
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(states[static_cast<std::size_t>(i)].enabled, enabled[i]) << i;
+        EXPECT_EQ(states[static_cast<std::size_t>(i)].visible, visible[i]) << i;
+        EXPECT_EQ(states[static_cast<std::size_t>(i)].told, visible[i]) << i;
+    }
+}
+
+TEST_P(FileDialogTest, RefusesTheFileOnceAndThenTakesIt)
+{
+    HostDialog dialog(kind());
+    dialog.startIn(files.folder());
+    int asks = 0;
+    dialog.onFileNameOK = [&](BOOL) { return ++asks == 1; };
+    auto answering = whenAsked()
+                         .type(L"a.txt")
+                         .key(VK_RETURN)
+                         .waitFor("the refusal", [&] { return asks == 1; })
+                         .key(VK_RETURN)
+                         .start();
+    ASSERT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.count("FileNameOK 0"), 2);
+}
+
+TEST_P(FileDialogTest, TellsOfFolderAndType)
+{
+    HostDialog dialog(kind());
+    dialog.startIn(files.folder());
+    std::wstring folder;
+    auto answering = whenAsked()
+                         .then([&] { dialog.forgetEvents(); })
+                         .type(L"below")
+                         .key(VK_RETURN)
+                         .waitFor("the folder", [&] { return dialog.count("FolderChange") > 0; })
+                         .then([&] { folder = dialog.GetFolderPath().GetString(); })
+                         .click([] { return controlWithText(L"Text"); })
+                         .key(VK_DOWN)
+                         .key(VK_RETURN)
+                         .waitFor("the type", [&] { return dialog.count("TypeChange") == 1; })
+                         .key(VK_ESCAPE)
+                         .start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(folder, files.path(L"below"));
+}
+
+TEST_P(FileDialogTest, DisablesItsParentMeanwhile)
+{
+    CWnd parent;
+    parent.CreateEx(0, AfxRegisterWndClass(0), L"Parent", WS_POPUP | WS_VISIBLE, 0, 0, 300, 200, nullptr,
+                    nullptr);
+    {
+        HostDialog dialog(kind(), TRUE, &parent);
+        bool disabled = false;
+        auto answering =
+            whenAsked().then([&] { disabled = !parent.IsWindowEnabled(); }).key(VK_ESCAPE).start();
+        EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+        EXPECT_TRUE(disabled);
+    }
+    EXPECT_TRUE(parent.IsWindowEnabled());
+    parent.DestroyWindow();
+}
+
+TEST_P(FileDialogTest, BeginsInOrder)
+{
+    HostDialog dialog(kind());
+    dialog.startIn(files.folder());
+    auto answering = whenAsked()
+                         .waitFor("the beginning",
+                                  [&] {
+                                      return newStyle() ? dialog.count("FolderChange") > 0
+                                                        : dialog.count("PostInit 0 0") > 0;
+                                  })
+                         .key(VK_ESCAPE)
+                         .start();
+    dialog.DoModal();
+    for (const char* free :
+         {"Size", "FileNameChange", "TypeChange"}) // when these come is the system's affair
+        std::erase(dialog.events, free);
+    EXPECT_EQ(dialog.events, newStyle() ? (std::vector<std::string>{"InitDone", "FolderChange"})
+                                        : (std::vector<std::string>{"InitDialog", "InitDone", "FolderChange",
+                                                                    "PostInit 0 0"}));
+}
+
+// The classic path
+
+TEST(ClassicHost, TellsAPushButtonAsACheckBox)
+{
+    HostDialog dialog(Kind::Classic);
+    auto answering =
+        whenAsked()
+            .click([&] { return controlOf(dialog, IDC_DETAILS); })
+            .waitFor("the push",
+                     [&] { return dialog.count("CheckButtonToggled " + idOf(IDC_DETAILS) + " 0") == 1; })
+            .key(VK_ESCAPE)
+            .start();
+    dialog.DoModal();
+    EXPECT_EQ(dialog.count("ButtonClicked " + idOf(IDC_DETAILS)), 0);
+}
+
+TEST(ClassicHost, TellsOfEditedTexts)
+{
+    HostDialog dialog(Kind::Classic);
+    auto answering =
+        whenAsked()
+            .click([&] { return controlOf(dialog, IDC_QUALITY); })
+            .type(L"123")
+            .waitFor("the text", [&] { return dialog.count("EnChange " + idOf(IDC_QUALITY)) == 3; })
+            .key(VK_ESCAPE)
+            .start();
+    dialog.DoModal();
+}
+
+TEST(ClassicHost, IsToldOnceThatTheDialogIsShown)
+{
+    HostDialog dialog(Kind::Classic);
+    bool shown = false;
+    bool afterInit = false;
+    dialog.on["PostInit"] = [&] {
+        shown = ::IsWindowVisible(dialog.DialogWnd()->GetParent()->m_hWnd) != FALSE;
+        afterInit = dialog.count("InitDialog") == 1;
+    };
+    for (int i = 1; i <= 2; ++i) {
+        auto answering = Robot()
+                             .waitFor("the message", [&] { return dialog.count("PostInit 0 0") == i; })
+                             .key(VK_ESCAPE)
+                             .start();
+        dialog.DoModal();
+        EXPECT_EQ(dialog.count("PostInit 0 0"), i);
+        dialog.events.erase(std::find(dialog.events.begin(), dialog.events.end(), "InitDialog"));
+    }
+    EXPECT_TRUE(shown);
+    EXPECT_TRUE(afterInit);
+}
+
+TEST(ClassicHost, TellsOfSizesAndHelp)
+{
+    HostDialog dialog(Kind::Classic);
+    int sizes = 0;
+    auto answering =
+        whenAsked()
+            .then([&] { sizes = dialog.count("Size"); })
+            .then([&] {
+                CRect rect;
+                ::GetWindowRect(asked(), &rect);
+                ::MoveWindow(asked(), rect.left, rect.top, rect.Width() + 40, rect.Height() + 30, TRUE);
+            })
+            .waitFor("the size", [&] { return dialog.count("Size") > sizes; })
+            .click([&] { return controlOf(dialog, IDC_QUALITY); })
+            .key(VK_F1)
+            .waitFor("the help", [&] { return dialog.count("HelpInfo 0") + dialog.count("HelpInfo 1") == 1; })
+            .key(VK_ESCAPE)
+            .start();
+    dialog.DoModal();
+    // The framework has shown its help first, and said so.
+    EXPECT_EQ(dialog.count("HelpInfo 1"), static_cast<int>(TestApp::instance().helps().size()));
+}
+
+TEST(ClassicHost, IgnoresAccelerators)
+{
+    HostDialog dialog(Kind::Classic);
+    auto answering = whenAsked()
+                         .then([&] {
+                             dialog.forgetEvents();
+                             dialog.DialogWnd()->SendMessage(WM_COMMAND, MAKEWPARAM(IDC_FORMAT, 1), 0);
+                         })
+                         .key(VK_ESCAPE)
+                         .start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(dialog.count("ItemSelected " + idOf(IDC_FORMAT) + " 0"), 0);
+}
+
+TEST(ClassicHost, TellsAMenuCommandAsACheckBox)
+{
+    HostDialog dialog(Kind::Classic);
+    auto answering = whenAsked()
+                         .then([&] { dialog.DialogWnd()->SendMessage(WM_COMMAND, MAKEWPARAM(900, 0), 0); })
+                         .key(VK_ESCAPE)
+                         .start();
+    dialog.DoModal();
+    EXPECT_EQ(dialog.count("CheckButtonToggled 900 0"), 1);
+}
+
+TEST(ClassicHost, GivesWhatTheControlsOfAWindowGive)
+{
+    HostDialog dialog(Kind::Classic);
+    struct
+    {
+        UINT number;
+        BOOL understood;
+        wchar_t buffer[8];
+        CString text;
+        UINT checked;
+        LONG_PTR nothingChosen;
+        int noNumber;
+        int systemNumber;
+    } seen{};
+    auto answering =
+        whenAsked()
+            .then([&] {
+                dialog.SetEditBoxInt(IDC_QUALITY, -7);
+                seen.number = dialog.GetDlgItemInt(IDC_QUALITY, &seen.understood, TRUE);
+                dialog.GetDlgItemText(IDC_QUALITY, seen.buffer, 8);
+                dialog.GetDlgItemText(IDC_QUALITY, seen.text);
+                dialog.CheckDlgButton(IDC_BACKUP, BST_CHECKED);
+                seen.checked = dialog.GetCheckButtonState(IDC_BACKUP);
+                ::SendMessageW(controlOf(dialog, IDC_FORMAT), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+                seen.nothingChosen = dialog.GetSelectedControlItem(IDC_FORMAT);
+                dialog.GetDlgItem(IDC_QUALITY)->SetWindowText(L"12abc");
+                seen.noNumber = dialog.GetEditBoxInt(IDC_QUALITY);
+                seen.systemNumber = static_cast<int>(
+                    ::GetDlgItemInt(dialog.DialogWnd()->m_hWnd, IDC_QUALITY, nullptr, TRUE));
+            })
+            .key(VK_ESCAPE)
+            .start();
+    dialog.DoModal();
+    EXPECT_EQ(static_cast<int>(seen.number), -7);
+    EXPECT_TRUE(seen.understood);
+    EXPECT_STREQ(seen.buffer, L"-7");
+    EXPECT_EQ(seen.text.GetString(), std::wstring(L"-7"));
+    EXPECT_TRUE(seen.checked);
+    EXPECT_EQ(seen.nothingChosen, CB_ERR);
+    EXPECT_EQ(seen.noNumber, seen.systemNumber); // 0 on Windows, 12 under Wine
+}
+
+TEST(ClassicHost, DoesNotGoToAFolder)
+{
+    TemporaryFiles files{L"a.txt", L"below\\deep.txt"};
+    HostDialog dialog(Kind::Classic);
+    dialog.startIn(files.folder());
+    dialog.SetFolder(files.path(L"below"));
+    std::wstring folder;
+    auto answering =
+        whenAsked().then([&] { folder = dialog.GetFolderPath().GetString(); }).key(VK_ESCAPE).start();
+    dialog.DoModal();
+    EXPECT_EQ(folder, files.folder());
+}
+
+TEST(ClassicHostDeathTest, AssertsWhenAnOperationOfTheNewStyleIsCalled)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    HostDialog dialog(Kind::Classic);
+    EXPECT_DEATH(dialog.AddComboBox(7), "assertion failed");
+    EXPECT_DEATH(dialog.AddControlItem(7, 1, L"x"), "assertion failed");
+    EXPECT_DEATH(dialog.StartVisualGroup(7, L"x"), "assertion failed");
+    EXPECT_DEATH(dialog.EndVisualGroup(), "assertion failed");
+    EXPECT_DEATH(dialog.SetSelectedControlItem(7, 1), "assertion failed");
+}
+
+// The new-style path
+
+TEST(NewStyleHost, ReadsNumbersAsFarAsTheyGo)
+{
+    HostDialog dialog(Kind::NewStyle);
+    std::vector<int> numbers;
+    std::vector<std::wstring> texts;
+    const auto look = [&] {
+        texts.push_back(dialog.GetEditBoxText(IDC_QUALITY));
+        numbers.push_back(dialog.GetEditBoxInt(IDC_QUALITY));
+    };
+    auto answering = whenAsked()
+                         .then(look)
+                         .click([&] { return controlOf(dialog, IDC_QUALITY); })
+                         .key(VK_END)
+                         .key(VK_BACK, 5)
+                         .then(look)
+                         .type(L"x1")
+                         .then(look)
+                         .then([&] { dialog.SetEditBoxInt(IDC_QUALITY, -40); })
+                         .then(look)
+                         .key(VK_ESCAPE)
+                         .start();
+    dialog.DoModal();
+    EXPECT_EQ(texts,
+              (std::vector<std::wstring>{L"12abc", L"", L"x1", L"-40"})); // the first from the template
+    EXPECT_EQ(numbers, (std::vector<int>{12, 0, 0, -40}));
+}
+
+TEST(NewStyleHost, GivesNothingForControlsThatAreNotThere)
+{
+    HostDialog dialog(Kind::NewStyle);
+    EXPECT_EQ(dialog.GetSelectedControlItem(99), 0);
+    EXPECT_FALSE(dialog.GetCheckButtonState(99));
+    EXPECT_FALSE(dialog.GetControlStateVisible(99));
+    EXPECT_EQ(dialog.GetEditBoxText(99), L"");
+    EXPECT_EQ(dialog.GetEditBoxInt(99), 0);
+    dialog.SetControlState(99, true, true);
+    dialog.SetEditBoxInt(99, 5);
+    dialog.SetSelectedControlItem(99, 1);
+}
+
+TEST(NewStyleHost, TakesStatesBeforeTheDialogIsShown)
+{
+    HostDialog dialog(Kind::NewStyle);
+    dialog.SetControlState(IDC_BACKUP, true, false);
+    dialog.SetSelectedControlItem(IDC_FORMAT, 2);
+    dialog.SetEditBoxInt(IDC_QUALITY, 70);
+    bool visible = true;
+    auto answering = whenAsked()
+                         .then([&] { visible = ::IsWindowVisible(controlOf(dialog, IDC_BACKUP)) != FALSE; })
+                         .key(VK_ESCAPE)
+                         .start();
+    dialog.DoModal();
+    EXPECT_FALSE(visible);
+    EXPECT_EQ(dialog.GetSelectedControlItem(IDC_FORMAT), 2); // after the dialog too
+    EXPECT_EQ(dialog.GetEditBoxInt(IDC_QUALITY), 70);
+}
+
+TEST(NewStyleHost, PutsTheLabelInFrontOfTheComboBox)
+{
+    HostDialog dialog(Kind::NewStyle);
+    bool shown = false;
+    auto answering =
+        whenAsked().then([&] { shown = controlWithText(L"&Format:") != nullptr; }).key(VK_ESCAPE).start();
+    dialog.DoModal();
+    EXPECT_TRUE(shown);
+}
+
+TEST(NewStyleHost, BeginsInTheFolderThatWasSet)
+{
+    TemporaryFiles files{L"below\\deep.txt"};
+    struct Case
+    {
+        std::wstring set;
+        std::wstring found;
+    };
+    for (const Case& c : {Case{files.path(L"below"), files.path(L"below")},
+                          Case{files.path(L"gone"), files.folder()}, Case{L"", files.folder()}}) {
+        HostDialog dialog(Kind::NewStyle);
+        dialog.SetFolder(files.folder());
+        dialog.SetFolder(c.set);
+        std::wstring folder;
+        auto answering =
+            whenAsked().then([&] { folder = dialog.GetFolderPath().GetString(); }).key(VK_ESCAPE).start();
+        dialog.DoModal();
+        EXPECT_EQ(folder, c.found);
+    }
+}
+
+TEST(NewStyleHost, IsNotToldOfAChildDialog)
+{
+    HostDialog dialog(Kind::NewStyle);
+    auto answering =
+        whenAsked()
+            .then([] {
+                CRect rect;
+                ::GetWindowRect(asked(), &rect);
+                ::MoveWindow(asked(), rect.left, rect.top, rect.Width() + 40, rect.Height(), TRUE);
+            })
+            .key(VK_F1)
+            .key(VK_ESCAPE)
+            .start();
+    dialog.DoModal();
+    for (const char* event : {"InitDialog", "PostInit 0 0", "Size", "HelpInfo 0", "HelpInfo 1"})
+        EXPECT_EQ(dialog.count(event), 0) << event;
+}
