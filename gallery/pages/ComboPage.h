@@ -23,5 +23,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void fillColours();
+
     COVOComboBox m_plant;
+    COVOComboBox m_used;
+    COVOComboBox m_colour;
 };

@@ -1,9 +1,13 @@
 #include <ovoui/lists/ComboBox.h>
 
 #include <ovoui/lists/Alive.h>
+#include <ovoui/lists/ComboCommands.h>
+#include <ovoui/lists/ComboHistory.h>
+#include <ovoui/lists/ComboItems.h>
+#include <ovoui/lists/ComboSearch.h>
+#include <ovoui/lists/OwnChange.h>
 #include <ovoui/lists/core/ComboRules.h>
 
-#include <memory>
 #include <utility>
 
 using namespace ovoui::lists;
@@ -14,43 +18,19 @@ BEGIN_MESSAGE_MAP(COVOComboBox, CComboBox)
     ON_CONTROL_REFLECT_EX(CBN_KILLFOCUS, &COVOComboBox::OnKillFocus)
     ON_CONTROL_REFLECT_EX(CBN_SELENDOK, &COVOComboBox::OnSelEndOk)
     ON_CONTROL_REFLECT_EX(CBN_CLOSEUP, &COVOComboBox::OnCloseup)
+
+    // What is off unless asked for
+    ON_CONTROL_REFLECT_EX(CBN_DROPDOWN, &COVOComboBox::OnDropdown)
+    ON_MESSAGE(CB_ADDSTRING, &COVOComboBox::OnAddItem)
+    ON_MESSAGE(CB_INSERTSTRING, &COVOComboBox::OnAddItem)
+    ON_MESSAGE(CB_DELETESTRING, &COVOComboBox::OnDeleteItem)
+    ON_MESSAGE(CB_RESETCONTENT, &COVOComboBox::OnResetItems)
 END_MESSAGE_MAP()
 
 namespace
 {
 
-// Commands that the control posts to itself, so that the messages before a key are handled first.
-constexpr WPARAM kReturn = 0x0400;
-constexpr WPARAM kEscape = 0x0401;
-constexpr WPARAM kUp = 0x0402;
-constexpr WPARAM kDown = 0x0403;
-
 constexpr DWORD kNoEditField = static_cast<DWORD>(-1);
-
-/// Sets a flag of a combo box until the end of the scope, which the combo box may not live to see.
-class OwnChange
-{
-public:
-    OwnChange(const CWnd& combo, bool& flag)
-        : m_combo(combo)
-        , m_window(combo.m_hWnd)
-        , m_flag(flag)
-    {
-        m_flag = true;
-    }
-    ~OwnChange()
-    {
-        if (isAlive(&m_combo, m_window))
-            m_flag = false;
-    }
-    OwnChange(const OwnChange&) = delete;
-    OwnChange& operator=(const OwnChange&) = delete;
-
-private:
-    const CWnd& m_combo;
-    const HWND m_window;
-    bool& m_flag;
-};
 
 ComboKey keyOf(WPARAM virtualKey)
 {
@@ -107,7 +87,10 @@ UINT codeOf(Told told)
 
 } // namespace
 
-COVOComboBox::COVOComboBox() = default;
+COVOComboBox::COVOComboBox()
+    : m_items(std::make_unique<ComboItems>())
+{
+}
 
 COVOComboBox::~COVOComboBox()
 {
@@ -183,10 +166,13 @@ bool COVOComboBox::changed() const
 
 BOOL COVOComboBox::PreTranslateMessage(MSG* pMsg)
 {
+    m_keyed = pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST;
     if (pMsg->message != WM_KEYDOWN)
         return CWnd::PreTranslateMessage(pMsg);
     if (m_autoComplete)
         m_completionAllowed = pMsg->wParam != VK_BACK && pMsg->wParam != VK_DELETE;
+    if (helperTakes(pMsg->wParam))
+        return TRUE;
     const ComboKey key = keyOf(pMsg->wParam);
     const bool isChanged = key == ComboKey::Escape && changed();
     const bool isDropped = (key == ComboKey::Up || key == ComboKey::Down) && GetDroppedState();
@@ -213,6 +199,12 @@ BOOL COVOComboBox::OnCommand(WPARAM wParam, LPARAM lParam)
             break;
         case kDown:
             onArrow(Told::Down);
+            break;
+        case kRemember:
+            onRemember();
+            break;
+        case kHit:
+            onHit();
             break;
         }
     }
@@ -254,6 +246,7 @@ bool COVOComboBox::matches(const Taking& taking, int listSelection)
 
 void COVOComboBox::restore()
 {
+    const OwnChange change(*this, m_completing);
     SetCurSel(m_savedSelection);
     if (m_savedSelection == -1)
         SetWindowText(m_savedText.c_str());
@@ -281,8 +274,15 @@ bool COVOComboBox::tell(UINT code)
 
 void COVOComboBox::OnEditUpdate()
 {
-    if (m_autoComplete && m_completionAllowed && !m_completing)
+    if (m_completing)
+        return;
+    const HWND window = m_hWnd;
+    const std::wstring typed = m_search ? editText() : std::wstring();
+    m_editedInList = true;
+    if (m_autoComplete && m_completionAllowed)
         complete();
+    if (isAlive(this, window) && m_search && m_keyed && !GetDroppedState())
+        m_search->typed(typed);
 }
 
 void COVOComboBox::complete()
@@ -327,6 +327,8 @@ BOOL COVOComboBox::OnSetFocus()
 
 BOOL COVOComboBox::OnKillFocus()
 {
+    if (m_search)
+        m_search->end();
     const HWND window = m_hWnd;
     const bool dropped = GetDroppedState();
     const int selection = dropped ? GetCurSel() : -1;
@@ -345,6 +347,7 @@ BOOL COVOComboBox::OnSelEndOk()
     } else {
         m_savedText = editText();
     }
+    rememberAccepted();
     return FALSE;
 }
 
@@ -366,6 +369,9 @@ BOOL COVOComboBox::OnCloseup()
 void COVOComboBox::PostNcDestroy()
 {
     CWnd::PostNcDestroy();
+    m_items->looks.clear();
+    if (m_search)
+        m_search->end();
     if (!m_autoDelete)
         return;
     const std::unique_ptr<COVOComboBox> gone(this); // also when the observer throws

@@ -12,9 +12,12 @@
 #include <ovoui/lists/ComboBoxDeletion.h>
 #include <ovoui/lists/ComboFunctions.h>
 
+#include <afxcmn.h>
 #include <afxwin.h>
 
+#include <memory>
 #include <string>
+#include <vector>
 
 // Notifications beside those of any combo box; only with NotifyEditReturn.
 constexpr UINT OVOCBN_RETURN = 0x40; ///< Enter was pressed while the list was closed
@@ -23,6 +26,10 @@ constexpr UINT OVOCBN_DOWN = 0x42;   ///< the down arrow, while the list was clo
 
 namespace ovoui::lists
 {
+class ComboHistory;
+class ComboHits;
+class ComboItems;
+class ComboSearch;
 struct ComboSettings;
 struct Taking;
 struct Verdict;
@@ -64,6 +71,33 @@ public:
     /// Selects the item that is exactly the edit field's text. False when there is none.
     bool SelectListboxFromText();
 
+    // Off unless asked for
+
+    /// Whether typing also shows the items that have the text anywhere in theirs, below the field, with the
+    /// text emphasised. The arrow and page keys choose among them; a click accepts one. While they are shown
+    /// Enter judges the text as always, and the first Escape takes them away.
+    void SearchInside(bool search);
+
+    /// Keeps the texts that were accepted last at the top of the list, the last one first, and in the
+    /// application's profile under `entry` with a number, from 1 on; at most `limit`. Items with these texts
+    /// move, other texts become items. Del in the open list removes a text from the history, and from the
+    /// list if it was no item before. To be called when the list is filled.
+    void KeepHistory(LPCWSTR section, LPCWSTR entry, int limit);
+
+    /// A grey text in the field while it is empty, with and without the focus. Needs visual styles; false
+    /// without them.
+    bool CueText(const std::wstring& text);
+
+    // With the styles CBS_OWNERDRAWFIXED and CBS_HASSTRINGS the items of the list can have colours and
+    // images. These stay with their items while others come and go, and are gone with the item.
+
+    /// A COLORREF with the alpha in its highest byte, 255 for opaque.
+    void SetItemColour(int item, DWORD colour);
+    /// An image of the list of images, or -1 for none.
+    void SetItemImage(int item, int image);
+    /// The host's, which keeps it alive; null for none.
+    void SetImageList(CImageList* images);
+
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
@@ -75,6 +109,13 @@ protected:
     afx_msg BOOL OnKillFocus();
     afx_msg BOOL OnSelEndOk();
     afx_msg BOOL OnCloseup();
+
+    void DrawItem(LPDRAWITEMSTRUCT item) override;
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override;
+    afx_msg BOOL OnDropdown();
+    afx_msg LRESULT OnAddItem(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDeleteItem(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnResetItems(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -92,6 +133,27 @@ private:
     void carryOut(const ovoui::lists::Verdict& verdict);
     bool tell(UINT code);
 
+    // What is off unless asked for
+    friend class ovoui::lists::ComboHistory;
+    friend class ovoui::lists::ComboHits;
+    friend class ovoui::lists::ComboSearch;
+
+    bool helperTakes(WPARAM virtualKey);
+    bool forgetsItem(WPARAM virtualKey);
+    void rememberAccepted();
+    void onRemember();
+    void takeHit(int item);
+    void onHit();
+    void showTyped(const std::wstring& text);
+    int itemWith(const std::wstring& text) const;
+    void insertItem(int place, const std::wstring& text);
+    void moveItem(int from, int to);
+    void removeItem(int item);
+    template <class Change, class IndexAfter>
+    void changeItems(const Change& change, const IndexAfter& indexAfter);
+    int listItemHeight();
+    void drawListItem(const DRAWITEMSTRUCT& draw, int item, const std::wstring& foldedFound);
+
     COVOComboBoxDeletion* m_deletionObserver = nullptr;
     bool m_autoDelete = false;
     bool m_autoComplete = true;
@@ -102,4 +164,12 @@ private:
     bool m_confirmAnyText = false;
     bool m_notifyEditReturn = false;
     bool m_completing = false; ///< the control itself is changing the text
+
+    std::unique_ptr<ovoui::lists::ComboItems> m_items;
+    std::unique_ptr<ovoui::lists::ComboSearch> m_search;
+    std::unique_ptr<ovoui::lists::ComboHistory> m_history;
+    std::vector<std::wstring> m_accepted; ///< texts that the history will be told of
+    int m_clickedHit = -1;
+    bool m_keyed = false;        ///< the last message to the field was one of the keyboard
+    bool m_editedInList = false; ///< the text was edited after the list had been opened, or a key used in it
 };

@@ -2,13 +2,16 @@
 set(lists_core
   ${CMAKE_CURRENT_LIST_DIR}/core/Checkerboard.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ColumnLayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ComboItemLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ComboRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/EntryColours.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FindRules.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/HitRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/NumberText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/RowLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ShortText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TableText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/TextHistory.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TextSearch.cpp)
 
 if(NOT WIN32)
@@ -22,7 +25,12 @@ target_sources(ovoui PRIVATE
   ${lists_core}
   ${CMAKE_CURRENT_LIST_DIR}/ColourEntry.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboBox.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ComboBoxExtras.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboFunctions.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ComboHistory.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ComboHits.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ComboItems.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ComboSearch.cpp
   ${CMAKE_CURRENT_LIST_DIR}/EmphasisedText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCellTips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCopier.cpp

@@ -58,6 +58,11 @@ Verdict afterEscape()
     return {true, kRejected};
 }
 
+Verdict afterChoice()
+{
+    return {false, kAccepted};
+}
+
 Verdict afterArrow(bool match, Told arrow, const ComboSettings& settings)
 {
     Verdict verdict = acceptIf(match, settings);

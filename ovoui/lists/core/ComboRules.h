@@ -77,6 +77,8 @@ struct Verdict
 /// `wasDropped`: the list was open when the key was handled.
 Verdict afterReturn(bool match, bool wasDropped, const ComboSettings& settings);
 Verdict afterEscape();
+/// An item was chosen.
+Verdict afterChoice();
 /// `arrow` is Told::Up or Told::Down.
 Verdict afterArrow(bool match, Told arrow, const ComboSettings& settings);
 /// `changed`: selection or text are others than those of before.

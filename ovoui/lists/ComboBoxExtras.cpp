@@ -1,0 +1,261 @@
+// What a completing combo box does when the host asks for it: search inside, history, cue, looks of items.
+#include <ovoui/lists/Alive.h>
+#include <ovoui/lists/ComboBox.h>
+#include <ovoui/lists/ComboCommands.h>
+#include <ovoui/lists/ComboHistory.h>
+#include <ovoui/lists/ComboItems.h>
+#include <ovoui/lists/ComboSearch.h>
+#include <ovoui/lists/OwnChange.h>
+#include <ovoui/lists/core/ComboRules.h>
+
+#include <utility>
+
+using namespace ovoui::lists;
+
+namespace
+{
+
+constexpr UINT kWithFocusToo = TRUE;
+
+bool stepsThroughList(WPARAM virtualKey)
+{
+    return virtualKey == VK_UP || virtualKey == VK_DOWN || virtualKey == VK_PRIOR || virtualKey == VK_NEXT;
+}
+
+} // namespace
+
+// Keys
+
+/// True when a key is done with before the control sees it.
+bool COVOComboBox::helperTakes(WPARAM virtualKey)
+{
+    if (m_search && m_search->takesKey(virtualKey))
+        return true;
+    if (stepsThroughList(virtualKey))
+        m_editedInList = false;
+    return forgetsItem(virtualKey);
+}
+
+BOOL COVOComboBox::OnDropdown()
+{
+    m_editedInList = false;
+    if (m_search)
+        m_search->end();
+    return FALSE;
+}
+
+// Search inside
+
+void COVOComboBox::SearchInside(bool search)
+{
+    m_search = search ? std::make_unique<ComboSearch>(*this) : nullptr;
+}
+
+/// The list of the hits is in the middle of a click, and the host is to be told.
+void COVOComboBox::takeHit(int item)
+{
+    m_clickedHit = item;
+    PostMessage(WM_COMMAND, kHit, 0);
+}
+
+void COVOComboBox::onHit()
+{
+    const int item = std::exchange(m_clickedHit, -1);
+    if (m_search)
+        m_search->end();
+    if (item < 0 || item >= GetCount())
+        return;
+    SetCurSel(item);
+    carryOut(afterChoice());
+}
+
+void COVOComboBox::showTyped(const std::wstring& text)
+{
+    const OwnChange change(*this, m_completing);
+    SetCurSel(-1);
+    SetWindowText(text.c_str());
+    SetEditSel(static_cast<int>(text.size()), static_cast<int>(text.size()));
+}
+
+// History
+
+void COVOComboBox::KeepHistory(LPCWSTR section, LPCWSTR entry, int limit)
+{
+    m_history = std::make_unique<ComboHistory>(*this, section, entry, limit);
+}
+
+/// The list is about to close, and the host is to be told first.
+void COVOComboBox::rememberAccepted()
+{
+    if (!m_history)
+        return;
+    m_accepted.push_back(editText());
+    PostMessage(WM_COMMAND, kRemember, 0);
+}
+
+void COVOComboBox::onRemember()
+{
+    const HWND window = m_hWnd;
+    for (const std::wstring& text : std::exchange(m_accepted, {}))
+        if (isAlive(this, window) && m_history)
+            m_history->use(text);
+}
+
+/// Del removes the selected text of the history, while the list is open and the text is not being edited.
+bool COVOComboBox::forgetsItem(WPARAM virtualKey)
+{
+    if (virtualKey != VK_DELETE || !m_history || m_editedInList || !GetDroppedState())
+        return false;
+    const int item = GetCurSel();
+    const HWND window = m_hWnd;
+    if (item == -1 || !m_history->forget(item))
+        return false;
+    if (isAlive(this, window))
+        SetCurSel(std::min(item, GetCount() - 1));
+    return true;
+}
+
+int COVOComboBox::itemWith(const std::wstring& text) const
+{
+    int item = -1;
+    for (int next; (next = FindStringExact(item, text.c_str())) > item; item = next)
+        if (itemText(next) == text)
+            return next;
+    return -1;
+}
+
+/// Changes the list under a text and selections that stay. The parent of an owner-drawn list is called, and
+/// may destroy the combo box.
+template <class Change, class IndexAfter>
+void COVOComboBox::changeItems(const Change& change, const IndexAfter& indexAfter)
+{
+    const OwnChange own(*this, m_completing);
+    const HWND window = m_hWnd;
+    const int selection = GetCurSel();
+    const std::wstring text = editText();
+    const DWORD marked = GetEditSel();
+    const std::wstring saved = m_savedSelection == -1 ? m_savedText : itemText(m_savedSelection);
+    change();
+    if (!isAlive(this, window))
+        return;
+    m_savedSelection = indexAfter(m_savedSelection);
+    m_savedText = m_savedSelection == -1 ? saved : std::wstring();
+    SetCurSel(indexAfter(selection));
+    SetWindowText(text.c_str());
+    SetEditSel(LOWORD(marked), HIWORD(marked));
+}
+
+void COVOComboBox::insertItem(int place, const std::wstring& text)
+{
+    changeItems([&] { InsertString(place, text.c_str()); },
+                [place](int index) { return indexAfterInsertion(index, place); });
+}
+
+void COVOComboBox::moveItem(int from, int to)
+{
+    if (from == to)
+        return;
+    const std::wstring text = itemText(from);
+    const DWORD_PTR data = GetItemData(from);
+    const ItemLook look = m_items->looks.at(from);
+    const HWND window = m_hWnd;
+    changeItems(
+        [&] {
+            DeleteString(static_cast<UINT>(from));
+            if (!isAlive(this, window))
+                return;
+            InsertString(to, text.c_str());
+            SetItemData(to, data);
+            m_items->looks.set(to, look);
+        },
+        [=](int index) { return indexAfterMove(index, from, to); });
+}
+
+void COVOComboBox::removeItem(int item)
+{
+    changeItems([&] { DeleteString(static_cast<UINT>(item)); },
+                [item](int index) { return indexAfterRemoval(index, item); });
+}
+
+// Cue
+
+bool COVOComboBox::CueText(const std::wstring& text)
+{
+    CWnd* const edit = GetWindow(GW_CHILD);
+    return edit && edit->SendMessage(EM_SETCUEBANNER, kWithFocusToo, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+// Looks of items
+
+void COVOComboBox::SetItemColour(int item, DWORD colour)
+{
+    ItemLook look = m_items->looks.at(item);
+    look.colour = colour;
+    m_items->looks.set(item, look);
+}
+
+void COVOComboBox::SetItemImage(int item, int image)
+{
+    ItemLook look = m_items->looks.at(item);
+    look.image = image;
+    m_items->looks.set(item, look);
+}
+
+void COVOComboBox::SetImageList(CImageList* images)
+{
+    m_items->images = images;
+    if (m_hWnd && (GetStyle() & CBS_OWNERDRAWFIXED))
+        SetItemHeight(0, static_cast<UINT>(listItemHeight()));
+}
+
+LRESULT COVOComboBox::OnAddItem(WPARAM, LPARAM)
+{
+    const HWND window = m_hWnd;
+    const LRESULT item = Default();
+    if (isAlive(this, window))
+        m_items->looks.inserted(static_cast<int>(item));
+    return item;
+}
+
+LRESULT COVOComboBox::OnDeleteItem(WPARAM wParam, LPARAM)
+{
+    const HWND window = m_hWnd;
+    const LRESULT left = Default();
+    if (left != CB_ERR && isAlive(this, window))
+        m_items->looks.deleted(static_cast<int>(wParam));
+    return left;
+}
+
+LRESULT COVOComboBox::OnResetItems(WPARAM, LPARAM)
+{
+    m_items->looks.clear();
+    return Default();
+}
+
+int COVOComboBox::listItemHeight()
+{
+    CClientDC dc(this);
+    CFont* const font = GetFont();
+    CFont* const old = font ? dc.SelectObject(font) : nullptr;
+    const int height = m_items->heightFor(dc);
+    if (old)
+        dc.SelectObject(old);
+    return height;
+}
+
+void COVOComboBox::MeasureItem(LPMEASUREITEMSTRUCT item)
+{
+    item->itemHeight = static_cast<UINT>(listItemHeight());
+}
+
+void COVOComboBox::DrawItem(LPDRAWITEMSTRUCT item)
+{
+    drawListItem(*item, static_cast<int>(item->itemID), {});
+}
+
+void COVOComboBox::drawListItem(const DRAWITEMSTRUCT& draw, int item, const std::wstring& foldedFound)
+{
+    if (item >= 0 && item < GetCount())
+        m_items->draw(*CDC::FromHandle(draw.hDC),
+                      {draw.rcItem, itemText(item), m_items->looks.at(item), draw.itemState, foldedFound});
+}

@@ -1,0 +1,91 @@
+#include <ovoui/lists/ComboHistory.h>
+
+#include <ovoui/lists/ComboBox.h>
+
+namespace ovoui::lists
+{
+
+ComboHistory::ComboHistory(COVOComboBox& combo, LPCWSTR section, LPCWSTR entry, int limit)
+    : m_combo(combo)
+    , m_section(section)
+    , m_entry(entry)
+    , m_limit(limit)
+    , m_texts(limit)
+{
+    m_texts.restore(read());
+    int place = 0;
+    for (const std::wstring& text : m_texts.texts())
+        bringToTop(text, place++);
+}
+
+void ComboHistory::use(const std::wstring& text)
+{
+    if (text.empty() || m_limit < 1)
+        return;
+    const std::vector<std::wstring> gone = m_texts.use(text);
+    bringToTop(text, 0);
+    for (const std::wstring& old : gone)
+        drop(old);
+    write();
+}
+
+bool ComboHistory::forget(int item)
+{
+    const std::wstring text = m_combo.itemText(item);
+    if (!m_texts.forget(text))
+        return false;
+    drop(text);
+    write();
+    return true;
+}
+
+void ComboHistory::bringToTop(const std::wstring& text, int place)
+{
+    const int item = m_combo.itemWith(text);
+    if (item == -1) {
+        m_combo.insertItem(place, text);
+        m_added.insert(text);
+        return;
+    }
+    m_combo.moveItem(item, place);
+}
+
+/// Items of the host's stay, behind those of the history.
+void ComboHistory::drop(const std::wstring& text)
+{
+    const int item = m_combo.itemWith(text);
+    if (item == -1)
+        return;
+    if (m_added.erase(text))
+        m_combo.removeItem(item);
+    else
+        m_combo.moveItem(item, static_cast<int>(m_texts.texts().size()));
+}
+
+// The profile has an entry for each text: the name with a number, from 1 on.
+
+std::vector<std::wstring> ComboHistory::read() const
+{
+    std::vector<std::wstring> texts;
+    for (int number = 1; number <= m_limit; ++number) {
+        const CString text =
+            AfxGetApp()->GetProfileString(m_section.c_str(), (m_entry + std::to_wstring(number)).c_str());
+        if (text.IsEmpty())
+            break;
+        texts.emplace_back(text.GetString());
+    }
+    return texts;
+}
+
+void ComboHistory::write() const
+{
+    int number = 1;
+    for (const std::wstring& text : m_texts.texts())
+        AfxGetApp()->WriteProfileString(m_section.c_str(), (m_entry + std::to_wstring(number++)).c_str(),
+                                        text.c_str());
+    for (; number <= m_limit; ++number)
+        AfxGetApp()->WriteProfileString(m_section.c_str(), (m_entry + std::to_wstring(number)).c_str(),
+                                        nullptr);
+}
+
+} // namespace ovoui::lists

@@ -1,0 +1,43 @@
+/// Not exported: the texts that were accepted last, first in the list of a combo box and in the profile.
+#pragma once
+
+#include <ovoui/lists/core/TextHistory.h>
+
+#include <afxwin.h>
+
+#include <set>
+#include <string>
+
+class COVOComboBox;
+
+namespace ovoui::lists
+{
+
+class ComboHistory
+{
+public:
+    /// Brings what the profile has to the top of the list.
+    ComboHistory(COVOComboBox& combo, LPCWSTR section, LPCWSTR entry, int limit);
+
+    /// Brings a text to the top, and keeps it.
+    void use(const std::wstring& text);
+
+    /// Removes the item if its text is one of the history's: from the list too, unless it is an item of the
+    /// host's. False for any other item.
+    bool forget(int item);
+
+private:
+    void bringToTop(const std::wstring& text, int place);
+    void drop(const std::wstring& text);
+    std::vector<std::wstring> read() const;
+    void write() const;
+
+    COVOComboBox& m_combo;
+    const std::wstring m_section;
+    const std::wstring m_entry;
+    const int m_limit;
+    TextHistory m_texts;
+    std::set<std::wstring> m_added; ///< texts that were no items before
+};
+
+} // namespace ovoui::lists

@@ -1,0 +1,78 @@
+#include <ovoui/lists/ComboItems.h>
+
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/lists/ColourEntry.h>
+#include <ovoui/lists/EmphasisedText.h>
+#include <ovoui/lists/core/ComboItemLayout.h>
+#include <ovoui/lists/core/EntryColours.h>
+
+using ovoui::frame::toBox;
+using ovoui::frame::toRect;
+
+namespace ovoui::lists
+{
+
+namespace
+{
+
+COLORREF textColourOf(UINT state)
+{
+    if (state & ODS_DISABLED)
+        return ::GetSysColor(COLOR_GRAYTEXT);
+    return ::GetSysColor(state & ODS_SELECTED ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT);
+}
+
+void drawSwatch(CDC& dc, const frame::Box& box, ColourEntry entry)
+{
+    const EntryColours colours = coloursOf(entry);
+    CRect rect = toRect(box);
+    dc.FillSolidRect(&rect, ::GetSysColor(COLOR_GRAYTEXT)); // the frame
+    rect.DeflateRect(1, 1);
+    if (!rect.IsRectEmpty())
+        fillColourEntryBgd(dc, colours.solid, colours.overBlack, colours.overWhite, rect);
+}
+
+} // namespace
+
+CSize ComboItems::imageSize() const
+{
+    int width = 0;
+    int height = 0;
+    if (images)
+        ::ImageList_GetIconSize(*images, &width, &height);
+    return {width, height};
+}
+
+int ComboItems::heightFor(CDC& dc) const
+{
+    TEXTMETRIC metrics{};
+    dc.GetTextMetrics(&metrics);
+    return comboItemHeight(metrics.tmHeight, imageSize().cy);
+}
+
+void ComboItems::draw(CDC& dc, const ComboItem& item) const
+{
+    const CSize size = imageSize();
+    const ComboItemLayout layout = layOutComboItem(toBox(item.place), looks.haveColours(), size.cx, size.cy);
+    const bool selected = (item.state & ODS_SELECTED) != 0;
+    const int saved = dc.SaveDC();
+    dc.FillSolidRect(&item.place, ::GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    if (item.look.colour)
+        drawSwatch(dc, layout.swatch, *item.look.colour);
+    if (images && item.look.image >= 0)
+        images->Draw(&dc, item.look.image, CPoint(layout.image.left, layout.image.top), ILD_TRANSPARENT);
+    dc.SetTextColor(textColourOf(item.state));
+    dc.SetBkMode(TRANSPARENT);
+    CRect text = toRect(layout.text);
+    dc.IntersectClipRect(&item.place);
+    const std::vector<TextRange> places = placesOf(item.foldedFound, folded(item.text));
+    if (places.empty())
+        dc.DrawText(item.text.c_str(), -1, &text, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+    else
+        drawEmphasised(dc, item.text, text, DT_LEFT, places, EmphasisColours(selected));
+    if ((item.state & ODS_FOCUS) && !(item.state & ODS_NOFOCUSRECT))
+        dc.DrawFocusRect(&item.place);
+    dc.RestoreDC(saved);
+}
+
+} // namespace ovoui::lists

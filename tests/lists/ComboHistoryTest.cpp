@@ -1,0 +1,231 @@
+// The texts that were used last.
+#include "ComboScene.h"
+
+#include "support/TemporaryProfile.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+using Texts = std::vector<std::wstring>;
+
+class ComboRemembering : public ::testing::Test
+{
+protected:
+    void keep(ComboScene& scene, int limit = 3) { scene.combo.KeepHistory(L"Combo", L"Plant", limit); }
+
+    static Texts items(const ComboScene& scene)
+    {
+        Texts texts;
+        for (int i = 0; i < scene.combo.GetCount(); ++i) {
+            CString text;
+            scene.combo.GetLBText(i, text);
+            texts.emplace_back(text.GetString());
+        }
+        return texts;
+    }
+
+    /// Types a text in place of what is there, and accepts it.
+    static void accept(ComboScene& scene, const std::wstring& text)
+    {
+        scene.robot.key(VK_HOME).holding(VK_SHIFT).key(VK_END).letGo(VK_SHIFT).type(text).key(VK_DELETE).key(
+            VK_RETURN);
+    }
+
+    static Texts inProfile()
+    {
+        Texts texts;
+        for (int number = 1; number < 10; ++number) {
+            const CString text =
+                AfxGetApp()->GetProfileString(L"Combo", (L"Plant" + std::to_wstring(number)).c_str());
+            if (!text.IsEmpty())
+                texts.emplace_back(text.GetString());
+        }
+        return texts;
+    }
+
+    TemporaryProfile profile;
+};
+
+} // namespace
+
+TEST_F(ComboRemembering, OffAtFirst)
+{
+    ComboScene scene{L"fir"};
+    scene.combo.ConfirmAnyText(true);
+    scene.enter();
+    accept(scene, L"oak");
+    EXPECT_EQ(items(scene), Texts{L"fir"});
+    EXPECT_EQ(inProfile(), Texts{});
+}
+
+TEST_F(ComboRemembering, TheLastAcceptedTextComesFirst)
+{
+    ComboScene scene{L"fir"};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene);
+    scene.enter();
+    accept(scene, L"oak");
+    accept(scene, L"elm");
+    EXPECT_EQ(items(scene), (Texts{L"elm", L"oak", L"fir"}));
+    accept(scene, L"oak");
+    EXPECT_EQ(items(scene), (Texts{L"oak", L"elm", L"fir"}));
+    EXPECT_EQ(inProfile(), (Texts{L"oak", L"elm"}));
+    EXPECT_EQ(scene.text(), L"oak");
+}
+
+TEST_F(ComboRemembering, ItemsOfTheHostMove)
+{
+    ComboScene scene{L"fir", L"ash", L"yew"};
+    keep(scene);
+    scene.combo.SetItemData(2, 77);
+    scene.enter();
+    accept(scene, L"yew");
+    EXPECT_EQ(items(scene), (Texts{L"yew", L"fir", L"ash"}));
+    EXPECT_EQ(scene.combo.GetItemData(0), 77u);
+    EXPECT_EQ(scene.combo.GetCurSel(), 0);
+    scene.robot.key(VK_ESCAPE);
+    EXPECT_EQ(scene.text(), L"yew") << "nothing has changed since it was accepted";
+}
+
+TEST_F(ComboRemembering, ASelectionInTheListCounts)
+{
+    ComboScene scene{L"fir", L"ash", L"yew"};
+    keep(scene);
+    scene.enter();
+    scene.robot.moveTo(Spot{scene.button}).key(VK_F4).key(VK_DOWN, 2).key(VK_RETURN);
+    EXPECT_EQ(scene.text(), L"ash");
+    EXPECT_EQ(items(scene), (Texts{L"ash", L"fir", L"yew"}));
+    EXPECT_EQ(scene.combo.GetCurSel(), 0);
+}
+
+TEST_F(ComboRemembering, RejectedTextsDoNotCount)
+{
+    ComboScene scene{L"fir"};
+    keep(scene);
+    scene.enter();
+    accept(scene, L"oak");
+    scene.button.SetFocus();
+    GuiThread::settle();
+    EXPECT_EQ(items(scene), Texts{L"fir"});
+    EXPECT_EQ(inProfile(), Texts{});
+}
+
+TEST_F(ComboRemembering, WhatHasNoRoomGoes)
+{
+    ComboScene scene{L"fir", L"ash"};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene, 2);
+    scene.enter();
+    accept(scene, L"ash");
+    accept(scene, L"oak");
+    accept(scene, L"elm");
+    EXPECT_EQ(items(scene), (Texts{L"elm", L"oak", L"ash", L"fir"})) << "an item of the host's stays";
+    accept(scene, L"yew");
+    EXPECT_EQ(items(scene), (Texts{L"yew", L"elm", L"ash", L"fir"})) << "other texts go";
+    EXPECT_EQ(inProfile(), (Texts{L"yew", L"elm"}));
+}
+
+TEST_F(ComboRemembering, ItComesBackFromTheProfile)
+{
+    {
+        ComboScene scene{L"fir"};
+        scene.combo.ConfirmAnyText(true);
+        keep(scene);
+        scene.enter();
+        for (const wchar_t* text : {L"oak", L"fir", L"elm"})
+            accept(scene, text);
+    }
+    ComboScene scene{L"ash", L"fir"};
+    scene.combo.SetCurSel(1);
+    keep(scene);
+    EXPECT_EQ(items(scene), (Texts{L"elm", L"fir", L"oak", L"ash"}));
+    EXPECT_EQ(scene.combo.GetCurSel(), 1);
+    EXPECT_EQ(scene.text(), L"fir");
+    ComboScene shorter{};
+    keep(shorter, 2);
+    EXPECT_EQ(items(shorter), (Texts{L"elm", L"fir"}));
+}
+
+TEST_F(ComboRemembering, DelInTheOpenListForgets)
+{
+    ComboScene scene{L"fir"};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene);
+    scene.enter();
+    for (const wchar_t* text : {L"oak", L"elm", L"yew"})
+        accept(scene, text);
+    scene.robot.moveTo(Spot{scene.button}).key(VK_F4).key(VK_DOWN);
+    ASSERT_EQ(scene.text(), L"elm");
+    scene.robot.key(VK_DELETE);
+    EXPECT_EQ(items(scene), (Texts{L"yew", L"oak", L"fir"}));
+    EXPECT_EQ(inProfile(), (Texts{L"yew", L"oak"}));
+    EXPECT_TRUE(scene.combo.GetDroppedState());
+    EXPECT_EQ(scene.text(), L"oak") << "the next one is selected";
+    scene.robot.key(VK_DELETE).key(VK_DELETE);
+    EXPECT_EQ(items(scene), (Texts{L"yew", L"fir"})) << "an item of the host's is not removed";
+}
+
+TEST_F(ComboRemembering, DelForgetsNoTextThatIsBeingEdited)
+{
+    ComboScene scene{};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene);
+    scene.enter();
+    accept(scene, L"oak");
+    scene.robot.key(VK_HOME).key(VK_DELETE);
+    EXPECT_EQ(scene.text(), L"ak") << "the list is closed";
+    EXPECT_EQ(items(scene), Texts{L"oak"});
+    scene.robot.key(VK_ESCAPE)
+        .moveTo(Spot{scene.button})
+        .key(VK_F4)
+        .key(VK_END)
+        .type(L"s")
+        .key(VK_HOME)
+        .key(VK_DELETE);
+    EXPECT_EQ(scene.text(), L"aks");
+    EXPECT_EQ(items(scene), Texts{L"oak"});
+}
+
+TEST_F(ComboRemembering, ATextOfTheHostsThatIsForgottenStaysInTheList)
+{
+    ComboScene scene{L"fir", L"ash"};
+    keep(scene);
+    scene.enter();
+    accept(scene, L"ash");
+    ASSERT_EQ(items(scene), (Texts{L"ash", L"fir"}));
+    scene.robot.moveTo(Spot{scene.button}).key(VK_F4).key(VK_DELETE);
+    EXPECT_EQ(items(scene), (Texts{L"ash", L"fir"}));
+    EXPECT_EQ(inProfile(), Texts{});
+}
+
+TEST_F(ComboRemembering, TheParentMayDestroyItWhenATextIsAccepted)
+{
+    ComboScene scene{L"fir"};
+    keep(scene);
+    scene.enter();
+    scene.parent.hearing = [&](const std::string& heard) {
+        if (heard == "SELENDOK")
+            scene.combo.DestroyWindow();
+    };
+    accept(scene, L"fir");
+    EXPECT_FALSE(scene.combo.m_hWnd);
+}
+
+TEST_F(ComboRemembering, TheHostMayEmptyTheListMeanwhile)
+{
+    ComboScene scene{L"fir", L"ash"};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene, 2);
+    scene.enter();
+    accept(scene, L"oak");
+    scene.combo.ResetContent();
+    accept(scene, L"elm");
+    EXPECT_EQ(items(scene), Texts{L"elm"});
+    accept(scene, L"yew");
+    EXPECT_EQ(items(scene), (Texts{L"yew", L"elm"}));
+    EXPECT_EQ(inProfile(), (Texts{L"yew", L"elm"}));
+}

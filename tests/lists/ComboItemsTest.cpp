@@ -1,0 +1,136 @@
+// Colours and images of items, and the cue in the empty field.
+#include "ComboScene.h"
+#include "ListScene.h"
+
+#include "support/Picture.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+constexpr DWORD kOwnerDrawn = CBS_DROPDOWN | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
+constexpr COLORREF kGreen = RGB(0, 200, 0);
+constexpr COLORREF kRed = RGB(220, 0, 0);
+constexpr DWORD kOpaque = 0xFF000000;
+
+/// The open list's pixels.
+Picture openList(ComboScene& scene)
+{
+    scene.combo.ShowDropDown();
+    GuiThread::settle();
+    ::RedrawWindow(scene.listBox(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    return Picture::ofClient(scene.listBox());
+}
+
+CRect itemRect(ComboScene& scene, int item)
+{
+    CRect rect;
+    ::SendMessageW(scene.listBox(), LB_GETITEMRECT, static_cast<WPARAM>(item),
+                   reinterpret_cast<LPARAM>(static_cast<RECT*>(&rect)));
+    return rect;
+}
+
+} // namespace
+
+TEST(ComboItemLooks, AColourForEachItem)
+{
+    ComboScene scene({L"leaf", L"rose", L"none"}, kOwnerDrawn);
+    scene.combo.SetItemColour(0, kOpaque | kGreen);
+    scene.combo.SetItemColour(1, kOpaque | kRed);
+    scene.enter();
+    const Picture list = openList(scene);
+    EXPECT_GT(list.count(kGreen, 0, itemRect(scene, 0)), 50);
+    EXPECT_GT(list.count(kRed, 0, itemRect(scene, 1)), 50);
+    for (const COLORREF colour : {kGreen, kRed})
+        EXPECT_EQ(list.count(colour, 0, itemRect(scene, 2)), 0);
+    EXPECT_EQ(list.count(kRed, 0, itemRect(scene, 0)), 0);
+}
+
+TEST(ComboItemLooks, TransparencyOverSquares)
+{
+    ComboScene scene({L"glass"}, kOwnerDrawn);
+    scene.combo.SetItemColour(0, 0x80000000 | kGreen);
+    scene.enter();
+    const Picture list = openList(scene);
+    EXPECT_GT(list.count(kGreen, 0, itemRect(scene, 0)), 20);
+    EXPECT_GT(list.count(RGB(0, 200 * 128 / 255, 0), 1, itemRect(scene, 0)), 10);
+    EXPECT_GT(list.count(RGB(127, 227, 127), 2, itemRect(scene, 0)), 10);
+}
+
+TEST(ComboItemLooks, AnImageForEachItem)
+{
+    CImageList images;
+    fillImages(images, 16, {kGreen, kRed});
+    ComboScene scene({L"leaf", L"rose", L"none"}, kOwnerDrawn);
+    scene.combo.SetImageList(&images);
+    scene.combo.SetItemImage(0, 1);
+    scene.combo.SetItemImage(1, 0);
+    scene.enter();
+    const Picture list = openList(scene);
+    EXPECT_EQ(list.count(kRed, 0, itemRect(scene, 0)), 12 * 12);
+    EXPECT_EQ(list.count(kGreen, 0, itemRect(scene, 1)), 12 * 12);
+    EXPECT_EQ(list.count(kRed, 0, itemRect(scene, 2)), 0);
+    EXPECT_GE(itemRect(scene, 0).Height(), 16);
+}
+
+TEST(ComboItemLooks, StayWithTheirItems)
+{
+    ComboScene scene({L"leaf", L"rose"}, kOwnerDrawn);
+    scene.combo.SetItemColour(1, kOpaque | kRed);
+    scene.combo.InsertString(0, L"first");
+    scene.combo.DeleteString(1);
+    scene.enter();
+    EXPECT_GT(openList(scene).count(kRed, 0, itemRect(scene, 1)), 50);
+    scene.combo.ShowDropDown(FALSE);
+    scene.combo.ResetContent();
+    scene.combo.AddString(L"a");
+    scene.combo.AddString(L"b");
+    EXPECT_EQ(openList(scene).count(kRed), 0);
+}
+
+TEST(ComboItemLooks, SortedItemsHaveTheirOwn)
+{
+    ComboScene scene({L"b"}, kOwnerDrawn | CBS_SORT);
+    scene.combo.SetItemColour(0, kOpaque | kRed);
+    EXPECT_EQ(scene.combo.AddString(L"a"), 0);
+    scene.enter();
+    const Picture list = openList(scene);
+    EXPECT_EQ(list.count(kRed, 0, itemRect(scene, 0)), 0);
+    EXPECT_GT(list.count(kRed, 0, itemRect(scene, 1)), 50);
+}
+
+TEST(ComboItemLooks, TheSelectedItemIsHighlighted)
+{
+    ComboScene scene({L"leaf", L"rose"}, kOwnerDrawn);
+    scene.combo.SetItemColour(0, kOpaque | kGreen);
+    scene.enterWith(1);
+    scene.robot.moveTo(Spot{scene.button});
+    const Picture list = openList(scene);
+    EXPECT_GT(list.count(::GetSysColor(COLOR_HIGHLIGHT), 0, itemRect(scene, 1)), 100);
+    EXPECT_EQ(list.count(::GetSysColor(COLOR_HIGHLIGHT), 0, itemRect(scene, 0)), 0);
+}
+
+TEST(ComboCue, ShowsWhileTheFieldIsEmpty)
+{
+    ComboScene scene{L"fir"};
+    const COLORREF grey = ::GetSysColor(COLOR_GRAYTEXT);
+    const auto greyPixels = [&] {
+        ::RedrawWindow(scene.edit(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        return Picture::ofClient(scene.edit()).count(grey);
+    };
+    scene.show();
+    EXPECT_EQ(greyPixels(), 0) << "off at first";
+    EXPECT_TRUE(scene.combo.CueText(L"A plant"));
+    EXPECT_GT(greyPixels(), 10) << "without the focus";
+    scene.combo.SetFocus();
+    GuiThread::settle();
+    EXPECT_GT(greyPixels(), 10) << "with the focus";
+    scene.robot.type(L"f");
+    EXPECT_EQ(greyPixels(), 0);
+    EXPECT_TRUE(scene.combo.CueText(L""));
+    scene.setText(L"");
+    EXPECT_EQ(greyPixels(), 0);
+}

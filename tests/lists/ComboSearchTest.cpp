@@ -1,0 +1,295 @@
+// Completion by any part of the text.
+#include "ComboScene.h"
+
+#include "support/Picture.h"
+#include "support/WindowCounter.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+BOOL CALLBACK findHits(HWND window, LPARAM found)
+{
+    const bool isHits = ::IsWindowVisible(window) && ::FindWindowExW(window, nullptr, L"ListBox", nullptr) &&
+                        (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_NOACTIVATE);
+    if (isHits)
+        *reinterpret_cast<HWND*>(found) = window;
+    return !isHits;
+}
+
+/// The window with the hits; null when none are shown.
+HWND hitsWindow()
+{
+    HWND found = nullptr;
+    ::EnumThreadWindows(::GetCurrentThreadId(), &findHits, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+HWND hitsList()
+{
+    return ::FindWindowExW(hitsWindow(), nullptr, L"ListBox", nullptr);
+}
+
+/// 0 when none are shown.
+int hitCount()
+{
+    return hitsWindow() ? static_cast<int>(::SendMessageW(hitsList(), LB_GETCOUNT, 0, 0)) : 0;
+}
+
+int chosenHit()
+{
+    return static_cast<int>(::SendMessageW(hitsList(), LB_GETCURSEL, 0, 0));
+}
+
+Spot overHit(int index)
+{
+    CRect place;
+    ::SendMessageW(hitsList(), LB_GETITEMRECT, static_cast<WPARAM>(index),
+                   reinterpret_cast<LPARAM>(static_cast<RECT*>(&place)));
+    CPoint middle = place.CenterPoint();
+    ::ClientToScreen(hitsList(), &middle);
+    return Spot{middle};
+}
+
+class ComboSearching : public ::testing::Test
+{
+protected:
+    ComboSearching()
+    {
+        scene.combo.SearchInside(true);
+        scene.enter();
+    }
+
+    ComboScene scene{L"berry", L"apple", L"blackberry", L"Cherry"};
+};
+
+} // namespace
+
+TEST(ComboSearch, OffAtFirstAndOffAgain)
+{
+    ComboScene scene{L"berry", L"blackberry"};
+    scene.enter();
+    scene.robot.type(L"r");
+    EXPECT_FALSE(hitsWindow());
+    scene.combo.SearchInside(true);
+    scene.robot.type(L"r");
+    EXPECT_TRUE(hitsWindow());
+    scene.combo.SearchInside(false);
+    EXPECT_FALSE(hitsWindow());
+    scene.robot.key(VK_BACK);
+    EXPECT_FALSE(hitsWindow());
+}
+
+TEST_F(ComboSearching, ShowsTheItemsThatHaveTheTextAnywhere)
+{
+    scene.robot.type(L"ERR");
+    EXPECT_EQ(hitCount(), 3);
+    EXPECT_EQ(scene.text(), L"ERR") << "no item begins so";
+    EXPECT_EQ(chosenHit(), -1);
+    scene.robot.type(L"Yx");
+    EXPECT_EQ(hitCount(), 0);
+    scene.robot.key(VK_BACK);
+    EXPECT_EQ(hitCount(), 3);
+}
+
+TEST_F(ComboSearching, BesideTheCompletionByTheBeginning)
+{
+    scene.robot.type(L"be");
+    EXPECT_EQ(scene.text(), L"berry");
+    EXPECT_EQ(scene.marked(), std::make_pair(2, 5));
+    EXPECT_EQ(hitCount(), 2) << "of what was typed";
+}
+
+TEST_F(ComboSearching, WithoutThatTheHitsAreShownAllTheSame)
+{
+    scene.combo.AutoComplete(false);
+    scene.robot.type(L"be");
+    EXPECT_EQ(scene.text(), L"be");
+    EXPECT_EQ(hitCount(), 2);
+}
+
+TEST_F(ComboSearching, TheTextItselfIsNoChoice)
+{
+    scene.robot.type(L"apple");
+    EXPECT_EQ(hitCount(), 0);
+}
+
+TEST_F(ComboSearching, LiesBelowTheFieldAndLeavesItTheFocus)
+{
+    scene.robot.type(L"err");
+    CRect hits;
+    CRect field;
+    ::GetWindowRect(hitsWindow(), &hits);
+    scene.combo.GetWindowRect(&field);
+    EXPECT_EQ(hits.left, field.left);
+    EXPECT_EQ(hits.right, field.right);
+    EXPECT_EQ(hits.top, field.bottom);
+    EXPECT_EQ(::GetFocus(), scene.edit());
+    EXPECT_EQ(::GetActiveWindow(), scene.parent.m_hWnd);
+}
+
+TEST_F(ComboSearching, TheHitPartStandsOut)
+{
+    scene.robot.type(L"err");
+    const COLORREF highlight = ::GetSysColor(COLOR_HIGHLIGHT);
+    const Picture shown = Picture::ofClient(hitsList());
+    CRect row;
+    ::SendMessageW(hitsList(), LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(static_cast<RECT*>(&row)));
+    EXPECT_GT(shown.count(highlight, 0, row), 30);
+    EXPECT_LT(shown.count(highlight, 0, row), row.Width() * row.Height() / 2) << "and the rest does not";
+    int first = 0;
+    while (first < row.right && shown.at(first, row.top + 1) != highlight)
+        ++first;
+    CClientDC dc(&scene.combo);
+    CFont* const old = dc.SelectObject(scene.combo.GetFont());
+    EXPECT_NEAR(first, dc.GetTextExtent(L"blackb", 6).cx, 6);
+    dc.SelectObject(old);
+}
+
+TEST_F(ComboSearching, ArrowsChooseAndComeBackToWhatWasTyped)
+{
+    scene.robot.type(L"err").key(VK_DOWN);
+    EXPECT_EQ(chosenHit(), 0);
+    EXPECT_EQ(scene.text(), L"berry");
+    scene.robot.key(VK_DOWN);
+    EXPECT_EQ(scene.text(), L"blackberry");
+    scene.robot.key(VK_UP, 2);
+    EXPECT_EQ(chosenHit(), -1);
+    EXPECT_EQ(scene.text(), L"err");
+    EXPECT_EQ(scene.marked(), std::make_pair(3, 3));
+    scene.robot.key(VK_UP);
+    EXPECT_EQ(scene.text(), L"Cherry");
+    scene.robot.key(VK_PRIOR);
+    EXPECT_EQ(scene.text(), L"berry");
+    scene.robot.key(VK_NEXT);
+    EXPECT_EQ(scene.text(), L"Cherry");
+    EXPECT_EQ(scene.take(), (Heard{"EDITCHANGE", "EDITCHANGE", "EDITCHANGE"})) << "choosing tells nothing";
+}
+
+TEST_F(ComboSearching, EnterAcceptsTheChosenOne)
+{
+    scene.robot.type(L"err").key(VK_DOWN, 2);
+    scene.take();
+    scene.robot.key(VK_RETURN);
+    EXPECT_FALSE(hitsWindow());
+    EXPECT_EQ(scene.text(), L"blackberry");
+    EXPECT_EQ(scene.combo.GetCurSel(), 2);
+    EXPECT_EQ(scene.take(), (Heard{"SELCHANGE", "SELENDOK"}));
+}
+
+TEST_F(ComboSearching, EnterJudgesTheTextWhenNoneIsChosen)
+{
+    scene.robot.type(L"err");
+    scene.take();
+    scene.robot.key(VK_RETURN);
+    EXPECT_FALSE(hitsWindow());
+    EXPECT_EQ(scene.take(), Heard{});
+    EXPECT_EQ(scene.text(), L"err");
+}
+
+TEST_F(ComboSearching, EscapeFirstTakesTheHitsAwayAndThenRestores)
+{
+    scene.robot.type(L"err").key(VK_ESCAPE);
+    EXPECT_FALSE(hitsWindow());
+    EXPECT_EQ(scene.text(), L"err");
+    scene.take();
+    scene.robot.key(VK_ESCAPE);
+    EXPECT_EQ(scene.text(), L"");
+    EXPECT_EQ(scene.take(), (Heard{"SELCHANGE", "SELENDCANCEL"}));
+    EXPECT_FALSE(hitsWindow()) << "what comes back is not typed";
+}
+
+TEST_F(ComboSearching, AClickAccepts)
+{
+    scene.robot.type(L"err");
+    scene.take();
+    scene.robot.click(overHit(2));
+    EXPECT_FALSE(hitsWindow());
+    EXPECT_EQ(scene.text(), L"Cherry");
+    EXPECT_EQ(::GetFocus(), scene.edit());
+    EXPECT_EQ(scene.take(), (Heard{"SELCHANGE", "SELENDOK"}));
+}
+
+TEST_F(ComboSearching, ThePointerShowsWhereAClickWouldGo)
+{
+    scene.robot.type(L"err");
+    scene.robot.moveTo(overHit(1));
+    EXPECT_EQ(chosenHit(), 1);
+    EXPECT_EQ(scene.text(), L"err") << "until it is clicked";
+}
+
+TEST_F(ComboSearching, TheHitsGoWithTheFocusTheListAndAMove)
+{
+    scene.robot.type(L"err");
+    ASSERT_TRUE(hitsWindow());
+    scene.button.SetFocus();
+    EXPECT_FALSE(hitsWindow());
+    scene.combo.SetFocus();
+    scene.robot.type(L"err");
+    ASSERT_TRUE(hitsWindow());
+    scene.robot.moveTo(Spot{scene.button}).key(VK_F4); // a pointer over the opening list would select
+    EXPECT_FALSE(hitsWindow());
+    EXPECT_TRUE(scene.combo.GetDroppedState());
+    scene.robot.key(VK_F4).key(VK_BACK);
+    ASSERT_TRUE(hitsWindow());
+    scene.parent.SetWindowPos(nullptr, 80, 80, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_FALSE(hitsWindow());
+}
+
+TEST_F(ComboSearching, WhatAHostWritesShowsNone)
+{
+    scene.setText(L"err");
+    GuiThread::settle();
+    EXPECT_FALSE(hitsWindow());
+}
+
+TEST_F(ComboSearching, ItMayBeDestroyedWhileTheyAreShown)
+{
+    const WindowCounter windows;
+    scene.robot.type(L"err");
+    ASSERT_TRUE(hitsWindow());
+    scene.combo.DestroyWindow();
+    EXPECT_FALSE(hitsWindow());
+}
+
+TEST_F(ComboSearching, TheParentMayDestroyItWhenAHitIsAccepted)
+{
+    for (const std::string when : {"SELCHANGE", "SELENDOK"}) {
+        ComboScene another{L"berry", L"blackberry"};
+        another.combo.SearchInside(true);
+        another.enter();
+        another.robot.type(L"err");
+        another.parent.hearing = [&](const std::string& heard) {
+            if (heard == when)
+                another.combo.DestroyWindow();
+        };
+        another.robot.click(overHit(1));
+        EXPECT_FALSE(another.combo.m_hWnd) << when;
+        EXPECT_FALSE(hitsWindow());
+    }
+}
+
+TEST(ComboSearch, TheParentMayDeleteTheComboBoxWhenAHitIsAccepted)
+{
+    ComboParent parent;
+    auto combo = std::make_unique<COVOComboBox>();
+    combo->Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWN, CRect(10, 10, 210, 160), &parent, 21);
+    combo->AddString(L"berry");
+    combo->AddString(L"blackberry");
+    combo->SearchInside(true);
+    present(parent);
+    combo->SetFocus();
+    Robot robot;
+    robot.type(L"err");
+    parent.hearing = [&](const std::string& heard) {
+        if (heard == "SELENDOK")
+            combo.reset();
+    };
+    robot.click(overHit(0));
+    EXPECT_FALSE(combo);
+    EXPECT_FALSE(hitsWindow());
+    parent.hearing = nullptr;
+}
