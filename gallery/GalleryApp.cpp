@@ -66,6 +66,8 @@ BOOL GalleryApp::show(const CommandLine& line, const PageEntry& first)
     if (!m_frame->LoadFrame(IDR_MAIN_FRAME))
         return end(1);
     m_pMainWnd = m_frame;
+    if (!line.wantsPictures()) // these look the same every time
+        m_frame->restoreBars();
     m_frame->openPage(first);
     m_frame->ShowWindow(m_nCmdShow);
     m_frame->UpdateWindow();

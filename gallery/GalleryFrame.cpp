@@ -5,8 +5,6 @@
 #include "resource.h"
 
 #include <ovoui/frame/Geometry.h>
-#include <ovoui/toolbar/VantorToolBar.h>
-
 #include <algorithm>
 #include <initializer_list>
 #include <iterator>
@@ -20,8 +18,6 @@ constexpr int kFontSize = 8;        // points
 constexpr int kPointsPerInch = 72;
 
 // Pixels at 96 dots per inch.
-constexpr int kListWidth = 170;
-constexpr int kLogHeight = 104;
 constexpr int kLabelHeight = 16;
 constexpr int kGap = 8;
 constexpr UINT_PTR kPoseTimer = 1;
@@ -36,6 +32,21 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_COMMAND(ID_PAGE_PREVIOUS, &GalleryFrame::OnPreviousPage)
     ON_WM_SETFOCUS()
     ON_MESSAGE(WM_DPICHANGED, &GalleryFrame::OnResolutionChanged)
+    // toolbar
+    ON_COMMAND(ID_BAR_KEYBOARD, &GalleryFrame::OnBarKeyboard)
+    ON_COMMAND_RANGE(ID_GROUP_ALL, ID_GROUP_DIALOGS, &GalleryFrame::OnGroup)
+    ON_COMMAND_RANGE(ID_THEME_STYLED, ID_THEME_CLASSIC, &GalleryFrame::OnTheme)
+    ON_EN_CHANGE(IDC_FRAME_FILTER, &GalleryFrame::OnFilterChanged)
+    ON_COMMAND(IDC_FRAME_FILTER, &GalleryFrame::OnFilterEnded)
+    ON_CBN_SELCHANGE(IDC_FRAME_POSES, &GalleryFrame::OnPoseChosen)
+    ON_COMMAND(ID_POSE_SHOW, &GalleryFrame::OnPoseShow)
+    // palette
+    ON_UPDATE_COMMAND_UI(ID_VIEW_PALETTE, &GalleryFrame::OnUpdateControlBarMenu)
+    ON_COMMAND_EX(ID_VIEW_PALETTE, &GalleryFrame::OnBarCheck)
+    ON_WM_HSCROLL()
+    ON_EN_CHANGE(IDC_FRAME_LIST_WIDTH, &GalleryFrame::OnPaletteChanged)
+    ON_EN_CHANGE(IDC_FRAME_LOG_HEIGHT, &GalleryFrame::OnPaletteChanged)
+    ON_WM_CLOSE()
     // log
     ON_COMMAND(ID_LOG_CLEAR, &GalleryFrame::OnLogClear)
     ON_UPDATE_COMMAND_UI(ID_LOG_CLEAR, &GalleryFrame::OnUpdateLogClear)
@@ -75,7 +86,7 @@ bool GalleryFrame::createParts()
     return m_pageList.create(*this, IDC_PAGE_LIST) && m_header.create(*this) &&
            m_logLabel.Create(L"Notifica&tions:", WS_CHILD | WS_VISIBLE, CRect(), this) &&
            m_log.CWnd::CreateEx(WS_EX_CLIENTEDGE, L"LISTBOX", nullptr, kLog, CRect(), this, IDC_LOG) &&
-           m_statusBar.Create(this);
+           m_statusBar.Create(this) && createBars();
 }
 
 // Fonts and images for the monitor that the window is on.
@@ -90,6 +101,7 @@ void GalleryFrame::useResolution()
     font->CreateFontIndirect(&face);
     for (CWnd* wnd : std::initializer_list<CWnd*>{&m_pageList, &m_logLabel, &m_log})
         wnd->SetFont(font.get());
+    m_bar.useFont(*font);
     m_font = std::move(font);
     m_header.useFont(face);
     m_pageList.loadImages();
@@ -117,10 +129,11 @@ GalleryFrame::Places GalleryFrame::places()
     RepositionBars(0, 0xFFFF, 0, reposQuery, &area);
     area.DeflateRect(gap, gap);
     Places places;
-    places.log = CRect(area.left, area.bottom - scaled(m_hWnd, kLogHeight), area.right, area.bottom);
+    places.log = CRect(area.left, area.bottom - scaled(m_hWnd, m_sizes.logHeight), area.right, area.bottom);
     places.label =
         CRect(area.left, places.log.top - scaled(m_hWnd, kLabelHeight), area.right, places.log.top);
-    places.list = CRect(area.left, area.top, area.left + scaled(m_hWnd, kListWidth), places.label.top - gap);
+    places.list =
+        CRect(area.left, area.top, area.left + scaled(m_hWnd, m_sizes.listWidth), places.label.top - gap);
     const CRect right(places.list.right + gap, area.top, area.right, places.list.bottom);
     places.header = CRect(right.left, right.top, right.right, right.top + m_header.height());
     places.page = CRect(right.left, places.header.bottom, right.right, right.bottom);
@@ -179,6 +192,7 @@ void GalleryFrame::openPage(const PageEntry& entry)
     // Behind the list, so that Tab goes from the list to the page and on to the log.
     m_page->SetWindowPos(&m_pageList, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     m_header.show(entry.title, entry.summary);
+    m_bar.showPoses(m_page->poses());
     RecalcLayout();
     m_page->ShowWindow(SW_SHOW);
 

@@ -1,6 +1,8 @@
 // The gallery's window: pages at the left, the open page, a log of notifications at the bottom.
 #pragma once
 
+#include "FrameBar.h"
+#include "FramePalette.h"
 #include "GalleryPage.h"
 #include "PageHeader.h"
 #include "PageTable.h"
@@ -27,6 +29,17 @@ public:
     /// Writes one picture: of a page, or of what one of its poses shows. False when that cannot be done.
     bool shoot(const PageEntry& entry, const std::wstring& pose, const std::wstring& path);
 
+    /// Brings back what the profile knows of bars, palette and choices.
+    void restoreBars();
+    /// The same is saved when the window is closed.
+    void saveBars();
+
+    FrameBar& bar() { return m_bar; }
+    FramePalette& palette() { return m_palette; }
+    const PageEntry* openedPage() const { return m_entry; }
+    PageTree& pageList() { return m_pageList; }
+
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override;
     void RecalcLayout(BOOL notify = TRUE) override;
     BOOL PreTranslateMessage(MSG* message) override;
 
@@ -39,6 +52,18 @@ protected:
     afx_msg void OnPageChosen(NMHDR* header, LRESULT* result);
     afx_msg void OnNextPage();
     afx_msg void OnPreviousPage();
+    // toolbar
+    afx_msg void OnBarKeyboard();
+    afx_msg void OnGroup(UINT command);
+    afx_msg void OnTheme(UINT command);
+    afx_msg void OnFilterChanged();
+    afx_msg void OnFilterEnded();
+    afx_msg void OnPoseChosen();
+    afx_msg void OnPoseShow();
+    // palette
+    afx_msg void OnHScroll(UINT code, UINT pos, CScrollBar* bar);
+    afx_msg void OnPaletteChanged();
+    afx_msg void OnClose();
     afx_msg void OnLogClear();
     afx_msg void OnUpdateLogClear(CCmdUI* ui);
     afx_msg void OnSetFocus(CWnd* old);
@@ -58,6 +83,10 @@ private:
     };
 
     bool createParts();
+    bool createBars();
+    void filterPages();
+    void applyPalette();
+    bool offerToPage(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
     void useResolution();
     void makeRoomForPages();
     Places places();
@@ -70,6 +99,11 @@ private:
     CStatic m_logLabel;
     CListBox m_log;
     CStatusBar m_statusBar;
+    FrameBar m_bar;
+    FramePalette m_palette;
+    FramePalette::Values m_sizes; ///< of list and log, and the band's colour
+    PageGroup m_group = PageGroup::All;
+    bool m_offering = false; ///< a command is offered to the page
     std::shared_ptr<GalleryPage> m_page;
     const PageEntry* m_entry = nullptr;
     HWND m_posing = nullptr; ///< the modal box whose picture is due

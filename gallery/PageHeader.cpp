@@ -8,6 +8,7 @@ namespace
 // Pixels at 96 dots per inch.
 constexpr int kMargin = 10;
 constexpr int kGap = 2;
+constexpr int kAccent = 5; // height of the coloured line
 
 int lineHeight(CDC& dc, CFont& font)
 {
@@ -56,12 +57,20 @@ void PageHeader::show(const wchar_t* title, const wchar_t* summary)
     Invalidate();
 }
 
+void PageHeader::setAccent(COLORREF colour)
+{
+    m_accent = colour;
+    Invalidate();
+}
+
 void PageHeader::OnPaint()
 {
     CPaintDC dc(this);
     CRect place;
     GetClientRect(&place);
-    dc.FillSolidRect(place.left, place.bottom - 1, place.Width(), 1, ::GetSysColor(COLOR_BTNSHADOW));
+    const int line = m_accent ? scaled(m_hWnd, kAccent) : 1;
+    dc.FillSolidRect(place.left, place.bottom - line, place.Width(), line,
+                     m_accent.value_or(::GetSysColor(COLOR_BTNSHADOW)));
 
     place.DeflateRect(m_margin, m_margin);
     dc.SetBkMode(TRANSPARENT);

@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <optional>
+
 class PageHeader : public CWnd
 {
 public:
@@ -14,6 +16,9 @@ public:
     /// The texts must live as long as they are shown.
     void show(const wchar_t* title, const wchar_t* summary);
 
+    /// The colour of the line below it.
+    void setAccent(COLORREF colour);
+
     /// In pixels, for the font in use.
     int height() const { return m_height; }
 
@@ -24,6 +29,7 @@ protected:
 private:
     CFont m_font;
     CFont m_titleFont;
+    std::optional<COLORREF> m_accent;
     int m_height = 0;
     int m_margin = 0;
     int m_gap = 0;

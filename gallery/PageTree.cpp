@@ -28,6 +28,13 @@ private:
     const PageEntry& m_page;
 };
 
+bool contains(std::wstring where, std::wstring what)
+{
+    ::CharLowerBuffW(where.data(), static_cast<DWORD>(where.size()));
+    ::CharLowerBuffW(what.data(), static_cast<DWORD>(what.size()));
+    return where.find(what) != std::wstring::npos;
+}
+
 constexpr ImageStrip kStrip{IDB_PAGES_16, IDB_PAGES_24, IDB_PAGES_32};
 
 } // namespace
@@ -43,9 +50,32 @@ bool PageTree::create(CWnd& parent, UINT id)
     if (!CreateEx(WS_EX_CLIENTEDGE, kStyle, CRect(), &parent, id))
         return false;
     loadImages();
-    for (const PageEntry& page : pageTable())
-        (new PageNode(page))->insert(*this, TVI_ROOT, TVI_LAST);
+    list(PageGroup::All, {});
     return true;
+}
+
+void PageTree::list(PageGroup group, const std::wstring& text)
+{
+    DeleteAllItems();
+    for (const PageEntry& page : pageTable()) {
+        const bool inGroup = group == PageGroup::All || page.group == group;
+        if (inGroup && (contains(page.title, text) || contains(page.name, text)))
+            (new PageNode(page))->insert(*this, TVI_ROOT, TVI_LAST);
+    }
+}
+
+const PageEntry* PageTree::firstPage()
+{
+    const auto first = beginAll();
+    return first == end() ? nullptr : &static_cast<PageNode&>(*first).page();
+}
+
+bool PageTree::lists(const PageEntry& page)
+{
+    for (auto at = beginAll(); at != end(); ++at)
+        if (&static_cast<PageNode&>(*at).page() == &page)
+            return true;
+    return false;
 }
 
 void PageTree::loadImages()

@@ -20,7 +20,13 @@ public:
     /// Loads the images for the resolution of the monitor that the tree is on.
     void loadImages();
 
-    /// Marks a page.
+    /// Lists the pages of a group whose title or name has the text in it, whatever its case.
+    void list(PageGroup group, const std::wstring& text);
+    /// Null when none is listed.
+    const PageEntry* firstPage();
+    bool lists(const PageEntry& page);
+
+    /// Marks a page, if it is listed.
     void show(const PageEntry& page);
     /// The page behind an item; null for none.
     const PageEntry* pageAt(HTREEITEM item) const;

@@ -9,6 +9,9 @@
 #define IDB_PAGES_16 114
 #define IDB_PAGES_24 115
 #define IDB_PAGES_32 116
+#define IDB_FRAME_BAR_16 117
+#define IDB_FRAME_BAR_24 118
+#define IDB_FRAME_BAR_32 119
 #define IDB_ADD_20 121 // six images each: add, remove, up, down, edit, refresh
 #define IDB_ADD_24 131
 #define IDB_ADD_32 141
@@ -28,6 +31,11 @@
 #define IDD_PAGE_DOCKING 231
 #define IDD_PALETTE 232
 #define IDS_PALETTE 233
+#define IDD_FRAME_PALETTE 234
+#define IDS_FRAME_PALETTE 235
+#define IDS_FRAME_BAR 236
+#define IDS_FRAME_FILTER_HINT 237
+#define IDS_FRAME_AS_IT_OPENS 238
 #define IDD_PAGE_SYSTEM_INFO 241
 #define IDD_PAGE_UPDATES 242
 #define IDD_PAGE_COLOUR_PICKER 251
@@ -37,6 +45,11 @@
 
 #define IDC_PAGE_LIST 1001
 #define IDC_LOG 1002
+#define IDC_FRAME_FILTER 1003 // in the toolbar
+#define IDC_FRAME_POSES 1004
+#define IDC_FRAME_HUE 1011 // in the palette
+#define IDC_FRAME_LIST_WIDTH 1012
+#define IDC_FRAME_LOG_HEIGHT 1013
 
 #define IDC_BOX_TEXT 1101
 #define IDC_BOX_CAPTION 1102
@@ -192,6 +205,17 @@
 #define ID_LOG_CLEAR 32801
 #define ID_PAGE_NEXT 32802
 #define ID_PAGE_PREVIOUS 32803
+#define ID_GROUP_ALL 32811 // in the order of the groups
+#define ID_GROUP_FRAME 32812
+#define ID_GROUP_BARS 32813
+#define ID_GROUP_LISTS 32814
+#define ID_GROUP_VALUES 32815
+#define ID_GROUP_DIALOGS 32816
+#define ID_THEME_STYLED 32821
+#define ID_THEME_CLASSIC 32822
+#define ID_BAR_KEYBOARD 32831
+#define ID_POSE_SHOW 32832
+#define ID_VIEW_PALETTE 59440 // the bar's number too
 
 #define ID_DOCK_FIRST 32901 // commands of the docking page's toolbars
 #define ID_DOCK_LAST 32912
