@@ -6,6 +6,7 @@
 #include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/files/Browse.h>
 #include <ovoui/files/FileDialog.h>
+#include <ovoui/files/FilePicker.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/MessageBox.h>
 #include <ovoui/frame/ModalDialog.h>

@@ -24,6 +24,7 @@
 #include <commdlg.h>
 
 #include <string>
+#include <vector>
 
 class COVOFileDialogImp;
 
@@ -69,7 +70,7 @@ protected:
     virtual void OnItemSelected(DWORD dwIDCtl, DWORD dwIDItem);
     virtual void OnButtonClicked(DWORD dwIDCtl);
     virtual void OnCheckButtonToggled(DWORD dwIDCtl, BOOL bChecked);
-    virtual void OnControlActivating(DWORD dwIDCtl); ///< New style only.
+    virtual void OnControlActivating(DWORD dwIDCtl); ///< New style, and menus of AddMenu.
     virtual void OnEnChange(DWORD dwIDCtl);          ///< Classic only.
 
 private:
@@ -120,6 +121,31 @@ public:
     std::wstring GetEditBoxText(DWORD id) const;
     int GetEditBoxInt(DWORD id) const; ///< The number at the beginning of the text; 0 without one.
     void SetEditBoxInt(DWORD id, int value);
+    // Further controls, for both. The classic dialog has them in its template; there these operations say
+    // what they are, so that the handlers are the same.
+    /// Told by OnButtonClicked.
+    void AddPushButton(const CDialog& dlg, DWORD id);
+    /// A button that opens a menu; OnControlActivating comes before, and OnItemSelected tells the choice. In
+    /// the template it is a push button.
+    void AddMenu(const CDialog& dlg, DWORD id);
+    void AddMenuItem(DWORD id, DWORD itemId, const std::wstring& label);
+    /// Radio buttons of the template; OnItemSelected tells the group's `id` and the button's.
+    void AddRadioGroup(const CDialog& dlg, DWORD id, const std::vector<DWORD>& buttonIds);
+    void AddSeparator(DWORD id);
+    void AddText(const CDialog& dlg, DWORD id);
+    DWORD GetSelectedRadioButton(DWORD id) const; ///< 0 for none.
+    void SetSelectedRadioButton(DWORD id, DWORD buttonId);
+
+    // Folders, to be called before DoModal
+    /// Offers a folder beside those of the system; new style only, nothing on the classic path.
+    void AddPlace(const std::wstring& path, bool top = false);
+    /// Where to begin when nothing is remembered and no folder is given otherwise.
+    void SetDefaultFolder(const std::wstring& path);
+    /// Begins where the user took a file last for this purpose: remembered by the system for the new-style
+    /// dialog, in the application's profile, section "settings", for the classic one. `lpstrInitialDir` goes
+    /// before it.
+    void RememberFolder(const GUID& purpose);
+
     /// Where the new-style dialog goes; nothing happens on the classic path, and for a folder that does not
     /// exist.
     void SetFolder(const std::wstring& path);

@@ -41,9 +41,13 @@ IFileDialogCustomize* COVOFileDialogImp::customize([[maybe_unused]] const char* 
 INT_PTR COVOFileDialogImp::ask()
 {
     m_kept = nullptr;
+    if (!m_bVistaStyle)
+        beginInFolder();
     const INT_PTR result = DoModal();
     if (m_kept)
         std::rethrow_exception(std::exchange(m_kept, nullptr));
+    if (result == IDOK && !m_bVistaStyle)
+        keepFolder();
     return result;
 }
 
@@ -87,7 +91,7 @@ void COVOFileDialogImp::tellOfCommand(WORD id, WORD code, HWND control)
 {
     switch (code) {
     case BN_CLICKED:
-        m_owner->OnCheckButtonToggled(id, IsDlgButtonChecked(id) != 0);
+        tellOfClick(id);
         break;
     case CBN_SELCHANGE: {
         if (!control)
@@ -102,6 +106,42 @@ void COVOFileDialogImp::tellOfCommand(WORD id, WORD code, HWND control)
         m_owner->OnEnChange(id);
         break;
     }
+}
+
+void COVOFileDialogImp::tellOfClick(WORD id)
+{
+    const ovoui::Click click = m_declared.clickOn(id);
+    switch (click.meaning) {
+    case ovoui::Click::Meaning::CheckButton:
+        m_owner->OnCheckButtonToggled(id, IsDlgButtonChecked(id) != 0);
+        break;
+    case ovoui::Click::Meaning::PushButton:
+        m_owner->OnButtonClicked(id);
+        break;
+    case ovoui::Click::Meaning::Menu:
+        openMenu(id);
+        break;
+    case ovoui::Click::Meaning::RadioButton:
+        m_owner->OnItemSelected(click.group, id);
+        break;
+    }
+}
+
+/// Below its button, as in the new-style dialog.
+void COVOFileDialogImp::openMenu(WORD id)
+{
+    m_owner->OnControlActivating(id);
+    if (!m_hWnd)
+        return; // the owner has destroyed the dialog
+    CMenu menu;
+    menu.CreatePopupMenu();
+    for (const ovoui::MenuItem& item : m_declared.menuItems(id))
+        menu.AppendMenu(MF_STRING, item.id, item.label.c_str());
+    CRect button;
+    ::GetWindowRect(::GetDlgItem(m_hWnd, id), &button);
+    const int chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY, button.left, button.bottom, this);
+    if (chosen && m_hWnd)
+        m_owner->OnItemSelected(id, static_cast<DWORD>(chosen));
 }
 
 BOOL COVOFileDialogImp::OnHelpInfo(HELPINFO* info)

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <ovoui/files/FileDialog.h>
+#include <ovoui/files/core/DeclaredControls.h>
 
 #include <afxdlgs.h>
 
 #include <exception>
+#include <string>
 
 /// Passes on to its owner what happens in either dialog.
 class COVOFileDialogImp : public CFileDialog
@@ -20,6 +22,13 @@ public:
     /// The interface for the host's controls. `operation` is named when there is none, which is an error of
     /// the host.
     IFileDialogCustomize* customize(const char* operation) const;
+
+    /// What the host has said of the controls in its template.
+    ovoui::DeclaredControls& declared() { return m_declared; }
+
+    // The classic dialog's folder to begin in
+    void useDefaultFolder(const std::wstring& path) { m_defaultFolder = path; }
+    void rememberFolder(const GUID& purpose);
 
     /// DoModal, which raises what a handler of a control has thrown meanwhile.
     INT_PTR ask();
@@ -55,7 +64,15 @@ private:
     template <class Handler>
     HRESULT tell(Handler&& handler);
     void tellOfCommand(WORD id, WORD code, HWND control);
+    void tellOfClick(WORD id);
+    void openMenu(WORD id);
+    void beginInFolder();
+    void keepFolder() const;
     static void CALLBACK postAgain(HWND child, UINT, UINT_PTR timer, DWORD);
 
-    std::exception_ptr m_kept; ///< what a handler has thrown on the new-style path
+    ovoui::DeclaredControls m_declared;
+    std::wstring m_defaultFolder;
+    std::wstring m_rememberedAs; ///< the profile's entry; empty: nothing is remembered
+    std::wstring m_beginning;    ///< stands for lpstrInitialDir while the dialog is shown
+    std::exception_ptr m_kept;   ///< what a handler has thrown on the new-style path
 };

@@ -1,5 +1,7 @@
 # File and folder dialogs: the file dialog with the host's controls, browse functions.
 set(files_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/DeclaredControls.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/FileTypes.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FilterChoice.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/NearestFolder.cpp)
 
@@ -16,6 +18,9 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/BrowseForFile.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FileDialog.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FileDialogControls.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FileDialogExtras.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FileDialogFolders.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FileDialogImp.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FilePicker.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ShellPaths.cpp)
 target_link_libraries(ovoui PRIVATE shlwapi)

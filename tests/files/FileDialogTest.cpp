@@ -377,8 +377,8 @@ TEST(ClassicHost, GivesWhatTheControlsOfAWindowGive)
                 seen.nothingChosen = dialog.GetSelectedControlItem(IDC_FORMAT);
                 dialog.GetDlgItem(IDC_QUALITY)->SetWindowText(L"12abc");
                 seen.noNumber = dialog.GetEditBoxInt(IDC_QUALITY);
-                seen.systemNumber = static_cast<int>(
-                    ::GetDlgItemInt(dialog.DialogWnd()->m_hWnd, IDC_QUALITY, nullptr, TRUE));
+                seen.systemNumber =
+                    static_cast<int>(::GetDlgItemInt(dialog.DialogWnd()->m_hWnd, IDC_QUALITY, nullptr, TRUE));
             })
             .key(VK_ESCAPE)
             .start();

@@ -19,12 +19,12 @@ std::string nameOf(Kind kind)
     return kind == Kind::Classic ? "classic" : "newStyle";
 }
 
-Labels::Labels()
+Labels::Labels(UINT templateId)
 {
     static CWnd s_owner;
     if (!s_owner.m_hWnd)
         s_owner.CreateEx(0, AfxRegisterWndClass(0), L"Labels", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
-    Create(IDD_CONTROLS, &s_owner);
+    Create(templateId, &s_owner);
 }
 
 Labels::~Labels()
@@ -50,7 +50,7 @@ HostDialog::~HostDialog() = default;
 
 void HostDialog::addControls()
 {
-    const Labels labels;
+    const Labels labels(IDD_CONTROLS);
     AddCheckButton(labels, IDC_BACKUP, false);
     AddComboBox(labels, IDC_FORMAT_LABEL, IDC_FORMAT);
     for (DWORD item = 0; item < std::size(kFormats); ++item)
@@ -199,4 +199,14 @@ HWND nameBox()
 {
     const HWND combo = ::GetDlgItem(asked(), cmb13);
     return combo ? combo : ::GetDlgItem(asked(), edt1);
+}
+
+HWND controlOfClass(const wchar_t* windowClass, const wchar_t* text)
+{
+    return below(asked(), [=](HWND wnd) {
+        wchar_t buffer[260]{};
+        ::GetWindowTextW(wnd, buffer, 260);
+        return ::IsWindowVisible(wnd) && classOf(wnd) == windowClass &&
+               (!text || std::wstring(buffer) == text);
+    });
 }

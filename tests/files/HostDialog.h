@@ -68,7 +68,7 @@ private:
 class Labels : public CDialog
 {
 public:
-    Labels();
+    explicit Labels(UINT templateId);
     ~Labels() override;
 };
 
@@ -79,3 +79,5 @@ HWND controlWithText(const wchar_t* text);
 /// The window of one of the host's controls in either dialog.
 HWND controlOf(const HostDialog& dialog, DWORD id);
 HWND nameBox();
+/// A control below the dialog that waits, by its class and, if given, its text.
+HWND controlOfClass(const wchar_t* windowClass, const wchar_t* text = nullptr);

@@ -1,0 +1,127 @@
+// The forms for std::filesystem, and folders in the new-style dialog.
+#include "HostDialog.h"
+
+#include "mfc/cdlg/FakeShellDialog.h"
+
+#include <ovoui/files/FilePicker.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+namespace fs = std::filesystem;
+
+namespace
+{
+
+class FilePicker : public testing::Test
+{
+protected:
+    TemporaryFiles files{L"a.txt", L"b.txt", L"p.png", L"below\\deep.txt"};
+    const std::vector<FileType> types{{L"Text", {L"*.txt"}}, {L"Pictures", {L"*.png", L"*.jpg"}}};
+};
+
+std::wstring titleOf(HWND wnd)
+{
+    wchar_t text[200]{};
+    ::GetWindowTextW(wnd, text, 200);
+    return text;
+}
+
+} // namespace
+
+TEST_F(FilePicker, GivesAFile)
+{
+    std::wstring title;
+    bool type = false;
+    auto answering = whenAsked()
+                         .then([&] {
+                             title = titleOf(asked());
+                             type = controlWithText(L"Pictures") != nullptr;
+                         })
+                         .key(VK_RETURN)
+                         .start();
+    const auto file = pickFile({.title = L"Which one?",
+                                .folder = files.path(L"gone"),
+                                .name = L"p.png",
+                                .types = types,
+                                .extension = L".png"});
+    ASSERT_TRUE(file);
+    EXPECT_EQ(*file, fs::path(files.path(L"p.png")));
+    EXPECT_EQ(title, L"Which one?");
+    EXPECT_TRUE(type);
+}
+
+TEST_F(FilePicker, CancelledGivesNothing)
+{
+    for (int i = 0; i < 5; ++i) {
+        auto answering = whenAsked().key(VK_ESCAPE).start();
+        const FileQuestion question{.folder = files.folder(), .types = types};
+        const FolderQuestion folder{.folder = files.folder()};
+        const bool nothing = i == 0   ? !pickFile(question)
+                             : i == 1 ? pickFiles(question).empty()
+                             : i == 2 ? !pickFileToSave(question)
+                             : i == 3 ? !pickFolder(folder)
+                                      : pickFolders(folder).empty();
+        EXPECT_TRUE(nothing) << i;
+    }
+}
+
+TEST_F(FilePicker, GivesSeveralFiles)
+{
+    auto answering = whenAsked().type(L"\"b.txt\" \"a.txt\"").key(VK_RETURN).start();
+    EXPECT_EQ(pickFiles({.folder = files.folder(), .types = types}),
+              (std::vector<fs::path>{files.path(L"b.txt"), files.path(L"a.txt")}));
+}
+
+TEST_F(FilePicker, GivesWhereToSave)
+{
+    auto answering = whenAsked().type(L"new").key(VK_RETURN).start();
+    const auto file = pickFileToSave({.folder = files.folder(), .types = types, .extension = L".txt"});
+    ASSERT_TRUE(file);
+    EXPECT_EQ(*file, fs::path(files.path(L"new.txt")));
+}
+
+TEST_F(FilePicker, TakesTypesWithBarsInTheirNames)
+{
+    bool shown = false;
+    auto answering =
+        whenAsked().then([&] { shown = controlWithText(L"A|B") != nullptr; }).key(VK_ESCAPE).start();
+    pickFile({.folder = files.folder(), .types = {{L"A|B", {L"*.txt"}}}});
+    EXPECT_TRUE(shown);
+}
+
+TEST_F(FilePicker, GivesAFolder)
+{
+    auto answering = whenAsked().type(L"below").key(VK_RETURN).start();
+    const auto folder = pickFolder({.title = L"Where to?", .folder = files.path(L"gone\\deeper")});
+    ASSERT_TRUE(folder);
+    EXPECT_EQ(*folder, fs::path(files.path(L"below")));
+}
+
+TEST_F(FilePicker, GivesPathsOfAnyLength)
+{
+    FakeShellDialog fake;
+    const std::wstring longPath = L"C:\\" + std::wstring(5000, L'x');
+    fake.results = {longPath};
+    EXPECT_EQ(pickFile({}), fs::path(longPath));
+    EXPECT_EQ(pickFolder({}), fs::path(longPath));
+    fake.results = {longPath + L"\\a", longPath + L"\\b", L"D:\\elsewhere"};
+    const std::vector<fs::path> all(fake.results.begin(), fake.results.end());
+    EXPECT_EQ(pickFiles({}), all);
+    EXPECT_EQ(pickFolders({}), all);
+    EXPECT_NE(fake.options & FOS_PICKFOLDERS, 0u);
+    EXPECT_NE(fake.options & FOS_ALLOWMULTISELECT, 0u);
+}
+
+TEST_F(FilePicker, AsksInTheClassicDialogsWhereThereAreNoOthers)
+{
+    FakeShellDialog fake;
+    fake.creation = REGDB_E_CLASSNOTREG;
+    {
+        auto answering = whenAsked().type(L"\"b.txt\" \"a.txt\"").key(VK_RETURN).start();
+        EXPECT_EQ(pickFiles({.folder = files.folder(), .types = types}),
+                  (std::vector<fs::path>{files.path(L"b.txt"), files.path(L"a.txt")}));
+    }
+    auto cancelling = whenAsked().key(VK_ESCAPE).start();
+    EXPECT_EQ(pickFolder({.folder = files.folder()}), std::nullopt);
+}
