@@ -116,6 +116,19 @@ TEST_F(MessageBoxPosition, APlaceOffTheScreenIsPulledIntoView)
     });
 }
 
+TEST_F(MessageBoxPosition, APlaceThatIsThatOfTheTemplateIsNotTakenForNone)
+{
+    CSize fromCorner;
+    inspect({.settingsKey = L"first"}, [&fromCorner](HWND box) {
+        fromCorner = defaultButtonPlace(box, IDOK) - screenRect(box).TopLeft();
+    });
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    save(L"corner", asText(work.TopLeft() + fromCorner).c_str());
+    inspect({.settingsKey = L"corner"},
+            [&work](HWND box) { EXPECT_EQ(screenRect(box).TopLeft(), work.TopLeft()); });
+}
+
 TEST_F(MessageBoxPosition, WhatCannotBeReadOrHoldsMinusOneIsNotRemembered)
 {
     const CPoint centred = okPlace({.settingsKey = L"fresh"});

@@ -25,7 +25,9 @@ protected:
 
     HWND openDialog()
     {
-        m_program.chord(VK_CONTROL, 'F');
+        const auto inFront = [] { return textOf(::GetForegroundWindow()) == L"Find"; };
+        m_program.tryUntil(
+            "the dialog", [this] { m_program.chord(VK_CONTROL, 'F'); }, inFront);
         return m_program.window(L"Find");
     }
 
@@ -90,10 +92,15 @@ TEST_F(Finder, StaysOpenWhileTheTextIsEdited)
                       [this] { return textOf(editor()) == std::wstring(kText) + L" Elm"; });
     EXPECT_TRUE(::IsWindowVisible(dialog));
     // Wine puts a frame that is clicked in front of the dialog that it owns.
-    ::SetForegroundWindow(dialog);
-    m_program.waitFor("the dialog in front", [&] { return ::GetForegroundWindow() == dialog; });
-    m_program.click(::GetDlgItem(dialog, IDC_FIND_NEXT));
-    waitForSelection(11, 14);
+    const auto findNext = [&] {
+        ::SetForegroundWindow(dialog);
+        m_program.waitFor("the dialog in front", [&] { return ::GetForegroundWindow() == dialog; });
+        m_program.click(::GetDlgItem(dialog, IDC_FIND_NEXT));
+    };
+    m_program.tryUntil("the elm", findNext, [this] {
+        const LRESULT selection = ::SendMessageW(editor(), EM_GETSEL, 0, 0);
+        return selection == MAKELONG(11, 14);
+    });
     close();
 }
 
