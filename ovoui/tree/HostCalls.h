@@ -24,6 +24,15 @@ std::exception_ptr keeping(Call&& call)
     }
 }
 
+/// The same where calls go on after an exception: the first one is kept.
+template <class Call>
+void keepFirst(std::exception_ptr& kept, Call&& call)
+{
+    const std::exception_ptr raised = keeping(std::forward<Call>(call));
+    if (!kept)
+        kept = raised;
+}
+
 /// Asks the host's code something only to show how things stand, maybe at every movement of the mouse. An
 /// OvoError or a standard exception counts as no answer: false.
 template <class Call>
@@ -82,9 +91,7 @@ public:
     template <class Call>
     void reportKeeping(std::exception_ptr& kept, Call&& call) const
     {
-        const std::exception_ptr raised = ovoui::tree::keeping([&] { report(std::forward<Call>(call)); });
-        if (!kept)
-            kept = raised;
+        ovoui::tree::keepFirst(kept, [&] { report(std::forward<Call>(call)); });
     }
 
 private:

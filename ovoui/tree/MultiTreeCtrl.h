@@ -236,6 +236,7 @@ private:
     class ChildWalk;
     class DropTarget;
     class ErasingDrag;
+    class HiddenItemNote;
     class HostCalls;
     class Inserter;
     class ItemList;
@@ -244,6 +245,7 @@ private:
     class NativeCall;
     struct PastePlace;
     struct Press;
+    class RowKeeper;
     struct State;
     class Tracker;
 
@@ -287,14 +289,15 @@ private:
     void restoreState(Node& node, HTREEITEM item);
     void noticeClosing(HTREEITEM item);
     void deleteChildren(HTREEITEM item);
-    void keepFirstRow(HTREEITEM emptied);
-    void layOutAnew(HTREEITEM rearranged);
+    void deleteChildrenOneByOne(HTREEITEM item);
 
     // Deleting
     void deleteItem(HTREEITEM item);
     void itemGoes(HTREEITEM item, LPARAM data);
     void releaseNode(HTREEITEM item, LPARAM data);
     static void letGo(State& state, std::size_t releasedBefore);
+    static HTREEITEM itemDeletedBy(UINT message, WPARAM wParam, LPARAM lParam, bool& itselfToo);
+    bool endEditOfDeleted(UINT message, WPARAM wParam, LPARAM lParam);
     bool mayDelete(HTREEITEM item) const;
     bool isDoomed(HTREEITEM item) const;
     std::vector<HTREEITEM> childrenOf(HTREEITEM item) const;
@@ -318,7 +321,11 @@ private:
     unsigned deselectAllBut(HTREEITEM kept);
     void setSelected(const std::vector<HTREEITEM>& items, bool selected);
     void selectWithoutNotice(HTREEITEM item);
+    bool isOpen(HTREEITEM item) const;
     bool isDisplayed(HTREEITEM item) const;
+    HTREEITEM lastDisplayedOnTheWayTo(HTREEITEM item) const;
+    HTREEITEM displayedAbove(HTREEITEM item) const;
+    HTREEITEM displayedBelow(HTREEITEM item) const;
     std::vector<HTREEITEM> displayedRange(HTREEITEM a, HTREEITEM b) const;
     void selectAll(unsigned action);
     void moveCaretAlone(HTREEITEM item);

@@ -14,15 +14,15 @@ struct Platform
     /// among all items of the tree.
     bool appendsFasterByMarker;
 
-    /// An item that is not displayed and whose children are hidden or sorted puts the rows of all others out
-    /// of order, until the tree view lays them out anew. So Wine.
+    /// Changes in a closed item put the rows of all others out of order, until the tree view lays them out
+    /// anew. Wine does this.
     bool losesRows;
 
     /// Deleting the children of an item that is being closed crashes when the first row shown is among them.
-    /// So Wine.
+    /// Wine does this.
     bool losesFirstRow;
 
-    /// TVM_SETINSERTMARK without an item leaves the mark where it is. So Wine.
+    /// TVM_SETINSERTMARK without an item leaves the mark where it is. Wine does this.
     bool keepsInsertMark;
 };
 

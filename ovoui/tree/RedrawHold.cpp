@@ -4,7 +4,7 @@ namespace ovoui::tree
 {
 
 RedrawHold::RedrawHold(HWND window)
-    : m_window((::GetWindowLongPtrW(window, GWL_STYLE) & WS_VISIBLE) ? window : nullptr)
+    : m_window(::IsWindowVisible(window) ? window : nullptr)
 {
     if (m_window)
         ::DefWindowProcW(m_window, WM_SETREDRAW, FALSE, 0);

@@ -4,16 +4,22 @@
 
 #include <algorithm>
 
+using ovoui::tree::keepFirst;
 using ovoui::tree::keeping;
-using ovoui::tree::PlatformHold;
 using ovoui::tree::PlatformHolds;
 
 BOOL MultiTreeCtrl::DeleteAllItems()
 {
     const HostCalls host(*this);
+    std::exception_ptr foreign;
+    bool done = false;
     if (ask(TVM_GETEDITCONTROL))
-        DefWindowProc(TVM_ENDEDITLABELNOW, FALSE, 0);
-    return host.usable() && DefWindowProc(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT)) != 0;
+        keepFirst(foreign, [this] { DefWindowProc(TVM_ENDEDITLABELNOW, FALSE, 0); });
+    if (host.usable())
+        keepFirst(foreign,
+                  [&] { done = DefWindowProc(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT)) != 0; });
+    ovoui::tree::raise(foreign);
+    return done;
 }
 
 void MultiTreeCtrl::deleteItem(HTREEITEM item)
@@ -25,14 +31,6 @@ void MultiTreeCtrl::OnDeleteitem(NMHDR* header, LRESULT* result)
 {
     const TVITEM& item = reinterpret_cast<const NMTREEVIEW*>(header)->itemOld;
     *result = 0;
-    if (m_state->edited == item.hItem) {
-        // An editor must not outlive its item. The tree view is in the middle of its children meanwhile.
-        const std::shared_ptr<State> state = m_state;
-        const PlatformHold everything(state->holds, PlatformHolds::Kind::Everything);
-        ask(TVM_ENDEDITLABELNOW, TRUE);
-        if (!state->tree)
-            return;
-    }
     const std::size_t releasedBefore = m_state->released.size();
     itemGoes(item.hItem, item.lParam);
     if (m_state->nativeCalls == 0)
@@ -76,6 +74,42 @@ void MultiTreeCtrl::letGo(State& state, std::size_t releasedBefore)
         const OVO::Handle<Node> node = std::move(state.released.back());
         state.released.pop_back();
     }
+}
+
+// Before
+
+/// The item that a message to the tree view deletes with all below it, TVI_ROOT for all; null for none. When
+/// the item itself stays, `itselfToo` becomes false.
+HTREEITEM MultiTreeCtrl::itemDeletedBy(UINT message, WPARAM wParam, LPARAM lParam, bool& itselfToo)
+{
+    auto* const item = reinterpret_cast<HTREEITEM>(lParam);
+    itselfToo = message != TVM_EXPAND;
+    switch (message) {
+    case WM_DESTROY:
+        return TVI_ROOT;
+    case TVM_DELETEITEM:
+        return item ? item : TVI_ROOT;
+    case TVM_EXPAND:
+        return (wParam & TVE_COLLAPSERESET) ? item : nullptr;
+    default:
+        return nullptr;
+    }
+}
+
+/// An editor must not outlive its item. It is closed before the tree view begins to delete, since the node
+/// hears of it, and the tree view in the middle of a deletion could not stand what the node may do. False
+/// when there is nothing left to delete.
+bool MultiTreeCtrl::endEditOfDeleted(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const HTREEITEM edited = m_state->edited;
+    bool itselfToo = false;
+    const HTREEITEM top = edited ? itemDeletedBy(message, wParam, lParam, itselfToo) : nullptr;
+    if (!top || (top != TVI_ROOT && !(itselfToo && edited == top) && !isBelow(edited, top)))
+        return true;
+    const std::shared_ptr<State> state = m_state;
+    const Tracker going(state, top);
+    DefWindowProc(TVM_ENDEDITLABELNOW, TRUE, 0);
+    return state->tree && m_hWnd && going;
 }
 
 // Postponed
@@ -173,9 +207,7 @@ void MultiTreeCtrl::deletePostponed(State& state)
     while (state.nativeCalls == 0 && state.holds.empty() && !state.postponed.empty() && state.usable()) {
         const State::Postponed postponed = state.postponed.back();
         state.postponed.pop_back();
-        const std::exception_ptr raised =
-            keeping([&] { state.tree->deleteAfterwards(postponed.item, postponed.parentClosed); });
-        foreign = foreign ? foreign : raised;
+        keepFirst(foreign, [&] { state.tree->deleteAfterwards(postponed.item, postponed.parentClosed); });
     }
     ovoui::tree::raise(foreign);
 }

@@ -1,9 +1,11 @@
 // Opening and closing items.
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
+#include <ovoui/tree/LayoutHold.h>
 #include <ovoui/tree/RedrawHold.h>
+#include <ovoui/tree/RowKeeper.h>
 
-using ovoui::tree::keeping;
+using ovoui::tree::keepFirst;
 using ovoui::tree::PlatformHold;
 using ovoui::tree::PlatformHolds;
 using ovoui::tree::raise;
@@ -82,6 +84,7 @@ BOOL MultiTreeCtrl::OnItemexpanded(NMHDR* header, LRESULT* result)
     const auto& notification = *reinterpret_cast<const NMTREEVIEW*>(header);
     const TVITEM& item = notification.itemNew;
     *result = 0;
+    const HiddenItemNote note(*this, item.hItem);
     const OVO::Handle<Node> node = this->node(item.hItem);
     if (!node)
         return FALSE;
@@ -136,21 +139,35 @@ void MultiTreeCtrl::deleteChildren(HTREEITEM item)
 {
     const HostCalls host(*this);
     const Tracker parent(m_state, item);
-    // Or the caret would go from child to child, always one ahead of the deletion.
+    // Or the caret would go from child to child, always one ahead of the deletion. Whatever the parent window
+    // makes of the change, the children go.
+    std::exception_ptr foreign;
     const HTREEITEM focus = caret();
     if (focus && isBelow(focus, item))
-        selectCaret(item);
-    if (!host.usable() || !parent)
-        return;
+        keepFirst(foreign, [&] { selectCaret(item); });
     const RedrawHold hold(m_hWnd);
-    DefWindowProc(TVM_EXPAND, kCollapseReset, reinterpret_cast<LPARAM>(item));
-    // Should the tree view keep the children of an item that is closed already:
+    if (host.usable() && parent)
+        keepFirst(foreign,
+                  [&] { DefWindowProc(TVM_EXPAND, kCollapseReset, reinterpret_cast<LPARAM>(item)); });
+    // The tree view may keep the children of an item that is closed already.
+    if (host.usable() && parent && firstChild(item))
+        keepFirst(foreign, [&] { deleteChildrenOneByOne(item); });
+    raise(foreign);
+}
+
+void MultiTreeCtrl::deleteChildrenOneByOne(HTREEITEM item)
+{
+    const HostCalls host(*this);
+    const Tracker parent(m_state, item);
+    const LayoutHold hold(*this);
+    std::exception_ptr foreign;
     HTREEITEM former = nullptr;
     while (host.usable() && parent) {
         const HTREEITEM child = firstChild(item);
         if (!child || child == former)
-            return;
-        deleteItem(child);
+            break;
+        keepFirst(foreign, [&] { deleteItem(child); });
         former = child;
     }
+    raise(foreign);
 }

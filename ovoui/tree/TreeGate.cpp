@@ -2,10 +2,13 @@
 // as of the system, so that what the tree remembers of its items stays true.
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
-#include <ovoui/tree/Platform.h>
+#include <ovoui/tree/RowKeeper.h>
 
-using ovoui::tree::keeping;
+#include <optional>
+
+using ovoui::tree::keepFirst;
 using ovoui::tree::PlatformHolds;
+using ovoui::tree::raise;
 
 namespace
 {
@@ -75,20 +78,6 @@ HTREEITEM itemGoneOnWith(UINT message, LPARAM lParam)
     case TVM_EDITLABELW:
     case TVM_EDITLABELA:
         return asItem(lParam);
-    default:
-        return nullptr;
-    }
-}
-
-/// The item whose children change their places or are hidden.
-HTREEITEM itemRearranged(UINT message, LPARAM lParam)
-{
-    switch (message) {
-    case TVM_EXPAND:
-    case TVM_SORTCHILDREN:
-        return asItem(lParam);
-    case TVM_SORTCHILDRENCB:
-        return lParam ? reinterpret_cast<const TVSORTCB*>(lParam)->hParent : nullptr;
     default:
         return nullptr;
     }
@@ -217,52 +206,36 @@ MultiTreeCtrl::NativeCall::~NativeCall()
 LRESULT MultiTreeCtrl::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const std::shared_ptr<State> state = m_state;
-    if (message == TVM_DELETEITEM && postponesDeleting(asItem(lParam)))
+    std::exception_ptr foreign;
+    bool goesOn = true;
+    keepFirst(foreign, [&] { goesOn = endEditOfDeleted(message, wParam, lParam); });
+    if (!goesOn || !state->tree || (message == TVM_DELETEITEM && postponesDeleting(asItem(lParam)))) {
+        raise(foreign);
         return TRUE;
+    }
     const bool empties = message == TVM_EXPAND && (wParam & TVE_COLLAPSERESET) && asItem(lParam);
     if (empties && postponesEmptying(asItem(lParam)))
         wParam &= ~static_cast<WPARAM>(TVE_COLLAPSERESET);
 
-    if (empties)
-        keepFirstRow(asItem(lParam));
-    const Tracker rearranged(state, itemRearranged(message, lParam));
+    const RowKeeper rows(*this, message, wParam, lParam);
+    std::optional<Tracker> expanded;
+    if (message == TVM_EXPAND)
+        expanded.emplace(state, asItem(lParam));
     const std::vector<OVO::Handle<Node>> unreported = nodesGoingUnreported(message, wParam, lParam);
     LRESULT result = 0;
-    std::exception_ptr foreign = keeping([&] {
+    keepFirst(foreign, [&] {
         NativeCall call(*state, message, wParam, lParam);
         call.begin();
         result = CTreeCtrl::DefWindowProc(message, wParam, lParam);
         call.finish(result);
     });
-    const auto afterwards = [&](auto&& act) {
-        const std::exception_ptr raised = keeping(act);
-        foreign = foreign ? foreign : raised;
-    };
     if (!unreported.empty())
         releaseUnreported(*state, unreported);
-    if (rearranged && state->usable())
-        afterwards([&] { layOutAnew(rearranged.item()); });
-    if (message == TVM_EXPAND && rearranged && state->usable())
-        afterwards([&] { noticeClosing(rearranged.item()); });
-    afterwards([&] { deletePostponed(*state); });
-    ovoui::tree::raise(foreign);
+    if (state->usable())
+        keepFirst(foreign, [&] { rows.restore(); });
+    if (expanded && *expanded && state->usable())
+        keepFirst(foreign, [&] { noticeClosing(expanded->item()); });
+    keepFirst(foreign, [&] { deletePostponed(*state); });
+    raise(foreign);
     return result;
-}
-
-/// See Platform::losesFirstRow.
-void MultiTreeCtrl::keepFirstRow(HTREEITEM emptied)
-{
-    if (!ovoui::tree::platform().losesFirstRow)
-        return;
-    const HTREEITEM first = next(TVGN_FIRSTVISIBLE);
-    if (first && isBelow(first, emptied))
-        ask(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(emptied));
-}
-
-/// See Platform::losesRows. The rows of displayed items are right at all times on other platforms.
-void MultiTreeCtrl::layOutAnew(HTREEITEM rearranged)
-{
-    if (!ovoui::tree::platform().losesRows || !m_state->redraws || isDisplayed(rearranged))
-        return;
-    ask(WM_SETREDRAW, TRUE);
 }

@@ -45,10 +45,10 @@ void MultiTreeCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
         moveTo(next(TVGN_ROOT));
         return;
     case VK_UP:
-        moveTo(focus ? next(TVGN_PREVIOUSVISIBLE, focus) : nullptr);
+        moveTo(focus ? displayedAbove(focus) : nullptr);
         return;
     case VK_DOWN:
-        moveTo(focus ? next(TVGN_NEXTVISIBLE, focus) : nullptr);
+        moveTo(focus ? displayedBelow(focus) : nullptr);
         return;
     case VK_DELETE:
         runOwnCommand(ID_TREE_DELETE);

@@ -13,7 +13,7 @@ using ovoui::tree::RedrawHold;
 namespace
 {
 
-/// So many items are changed one by one, each repainting its row; more with one repaint of the whole.
+/// Up to this number, items are changed one by one, each repainting its row; more with one repaint of the whole.
 constexpr std::size_t kFewItems = 8;
 
 } // namespace
@@ -157,17 +157,6 @@ void MultiTreeCtrl::setSelected(const std::vector<HTREEITEM>& items, bool select
 void MultiTreeCtrl::selectRange(HTREEITEM a, HTREEITEM b)
 {
     setSelected(displayedRange(a, b), true);
-}
-
-/// Whether an item stands in the list that one scrolls through: all items above it are open.
-bool MultiTreeCtrl::isDisplayed(HTREEITEM item) const
-{
-    if (!item)
-        return false;
-    for (HTREEITEM above = next(TVGN_PARENT, item); above; above = next(TVGN_PARENT, above))
-        if (!(ask(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(above), TVIS_EXPANDED) & TVIS_EXPANDED))
-            return false;
-    return true;
 }
 
 /// The displayed items from one to the other. Both ends go on downwards in turn until one meets the other:

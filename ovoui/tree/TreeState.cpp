@@ -15,6 +15,8 @@ void MultiTreeCtrl::State::forgetItem(HTREEITEM item)
     selection.drop(item);
     children.forgetAll();
     std::erase_if(postponed, [item](const Postponed& each) { return each.item == item; });
+    if (edited == item)
+        edited = nullptr;
     if (editAgain == item)
         editAgain = nullptr;
     if (countedItem == item)
@@ -32,6 +34,7 @@ void MultiTreeCtrl::State::forgetAll()
     edited = nullptr;
     editAgain = nullptr;
     redraws = true;
+    rowsLost = false;
     markShown = false;
     countedItem = nullptr;
     for (ItemWatcher* watcher : watchers)

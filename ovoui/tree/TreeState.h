@@ -45,6 +45,7 @@ struct MultiTreeCtrl::State
     std::vector<OVO::Handle<Node>> released; ///< nodes of deleted items, to be let go when the call is over
     ovoui::tree::PlatformHolds holds;        ///< what the tree view goes on working with
     bool redraws = true;                     ///< as WM_SETREDRAW was last told
+    bool rowsLost = false;                   ///< the rows are out of order (RowKeeper)
 
     // Items whose nodes were let go already, to be deleted when the tree view has finished (TreeDeleting.cpp)
     struct Postponed

@@ -61,6 +61,41 @@ bool MultiTreeCtrl::isBelow(HTREEITEM item, HTREEITEM ancestor) const
     return item != nullptr;
 }
 
+// Displayed items: those in the list that one scrolls through
+
+bool MultiTreeCtrl::isOpen(HTREEITEM item) const
+{
+    return (ask(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), TVIS_EXPANDED) & TVIS_EXPANDED) != 0;
+}
+
+bool MultiTreeCtrl::isDisplayed(HTREEITEM item) const
+{
+    return item && lastDisplayedOnTheWayTo(item) == item;
+}
+
+/// The item itself, or the outermost closed one that it is in.
+HTREEITEM MultiTreeCtrl::lastDisplayedOnTheWayTo(HTREEITEM item) const
+{
+    HTREEITEM displayed = item;
+    for (HTREEITEM above = next(TVGN_PARENT, item); above; above = next(TVGN_PARENT, above))
+        if (!isOpen(above))
+            displayed = above;
+    return displayed;
+}
+
+/// What stands in the row above an item. The tree view answers for displayed items only; above one in a
+/// closed item stands this.
+HTREEITEM MultiTreeCtrl::displayedAbove(HTREEITEM item) const
+{
+    const HTREEITEM displayed = lastDisplayedOnTheWayTo(item);
+    return displayed == item ? next(TVGN_PREVIOUSVISIBLE, item) : displayed;
+}
+
+HTREEITEM MultiTreeCtrl::displayedBelow(HTREEITEM item) const
+{
+    return next(TVGN_NEXTVISIBLE, lastDisplayedOnTheWayTo(item));
+}
+
 // Iterators
 
 MultiTreeCtrl::iterator MultiTreeCtrl::begin(bool selectedOnly) const

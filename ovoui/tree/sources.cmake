@@ -25,6 +25,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/PlainText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Platform.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RedrawHold.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/RowKeeper.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SelectionRecord.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeCommands.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeContextMenu.cpp

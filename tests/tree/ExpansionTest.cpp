@@ -110,7 +110,7 @@ TEST(TreeExpansion, BothWaysOfClosingAskTheNode)
     EXPECT_EQ(scene.journal, (Journal{"expand a", "collapse a", "expand a", "collapse a"}));
 }
 
-TEST(TreeExpansion, OpeningAnOpenItemAsksNobody)
+TEST(TreeExpansion, OpeningAnOpenItemAsksNoNode)
 {
     Scene scene{{"a"}};
     folder(scene, "a", {"x"});
@@ -257,4 +257,17 @@ TEST(TreeExpansion, ClosingALargeFolderRepaintsOnce)
     scene.tree.UpdateWindow();
     EXPECT_EQ(scene.tree.paints, 1);
     EXPECT_EQ(scene.all(), Names{"a"});
+}
+
+TEST(TreeExpansion, AParentThatRaisesAnExceptionWhenTheCaretLeavesKeepsNoChildren)
+{
+    Scene scene{{"a"}};
+    folder(scene, "a", {"x", "y"});
+    scene.open("a");
+    scene.tree.SelectItem(scene.item("x"));
+    scene.parent().answer(static_cast<UINT>(TVN_SELCHANGEDW), [](NMHDR*) -> LRESULT { throw 7; });
+    EXPECT_THROW(scene.tree.Expand(scene.item("a"), TVE_COLLAPSE | TVE_COLLAPSERESET), int);
+    scene.parent().answer(static_cast<UINT>(TVN_SELCHANGEDW), 0);
+    EXPECT_EQ(scene.all(), Names{"a"});
+    EXPECT_EQ(TestNode::live(), 1);
 }

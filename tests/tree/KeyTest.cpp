@@ -46,6 +46,20 @@ TEST(TreeKeys, ArrowsGoThroughOpenItemsOnly)
     EXPECT_EQ(scene.selected(), Names{"b"});
 }
 
+TEST(TreeKeys, ArrowsLeaveAClosedItemFromWhereItStands)
+{
+    for (const auto& [key, expected] : {std::pair<UINT, const char*>{VK_UP, "b"}, {VK_DOWN, "c"}}) {
+        KeyScene scene({"a", "b", "c"}, "a");
+        scene.add("hidden", "b"); // which refuses to open
+        scene.tree.SelectItem(scene.item("hidden"));
+        ASSERT_EQ(scene.caret(), "hidden");
+        ASSERT_FALSE(scene.isExpanded("b"));
+        scene.user.key(key);
+        EXPECT_EQ(scene.caret(), expected);
+        EXPECT_EQ(scene.selected(), Names{expected});
+    }
+}
+
 TEST(TreeKeys, AnArrowLeavesAMultipleSelection)
 {
     KeyScene scene({"a", "b", "c"}, "a");
@@ -147,7 +161,7 @@ TEST(TreeKeys, CtrlASelectsAllDisplayedItems)
     EXPECT_EQ(scene.changes(), (Changes{{TVC_BYKEYBOARD, "b", "b"}}));
 }
 
-TEST(TreeKeys, TheSelectAllCommandSaysThatNobodyKnowsHow)
+TEST(TreeKeys, TheSelectAllCommandGivesNoWayOfTheChange)
 {
     KeyScene scene({"a", "b"}, "b");
     scene.tree.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL);

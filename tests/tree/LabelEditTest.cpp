@@ -285,6 +285,19 @@ TEST(TreeLabelEdit, DeletingTheItemMeanwhileDoesNoHarm)
     EXPECT_FALSE(scene.isEditing());
 }
 
+TEST(TreeLabelEdit, AForeignExceptionAtTheEndOfADeletedItemsEditLosesNoNode)
+{
+    for (const bool all : {false, true}) {
+        EditScene scene({"a", "b"});
+        scene.node("a").editEnds = [](MultiTreeCtrl&) { throw 7; };
+        ASSERT_NE(scene.tree.EditLabel(scene.item("a")), nullptr);
+        EXPECT_THROW(all ? scene.tree.DeleteAllItems() : scene.tree.DeleteItem(scene.item("a")), int);
+        EXPECT_EQ(scene.all(), all ? Names{} : Names{"b"});
+        EXPECT_EQ(TestNode::live(), all ? 0 : 1);
+        EXPECT_FALSE(scene.isEditing());
+    }
+}
+
 // Tooltips
 
 TEST(TreeTips, TheTipIsTheNodesCutToTheBuffer)

@@ -14,6 +14,7 @@
 
 #include "MonkeyModel.h"
 #include "MonkeyNode.h"
+#include "MonkeyTree.h"
 #include "TreeScene.h"
 
 #include <deque>
@@ -25,13 +26,16 @@ class Monkey
 public:
     static constexpr UINT kCommand = 4001;
 
-    explicit Monkey(unsigned seed);
+    /// All of the tree is looked at after each step with misdeeds, and every so many steps; in between, at
+    /// the number of items, the caret and the selection.
+    explicit Monkey(unsigned seed, int every = 16);
     ~Monkey();
 
     /// Stops at the first failure.
     void run(int steps);
     /// Destroys the window: no node may be left.
     void finish();
+    void noteCrash() { fail("a crash"); }
     /// Empty when all is well.
     const std::string& failure() const { return m_failure; }
     /// The last steps and misdeeds.
@@ -49,7 +53,8 @@ public:
     /// The node's item is about to go: the model has it no longer.
     void forget(int id);
 
-    /// The children of a node go when this does.
+    /// The children of a node go when this does; those that it gets afterwards, by opening again before the
+    /// tree has finished closing it, go as well.
     class ChildrenGo
     {
     public:
@@ -57,6 +62,7 @@ public:
             : m_monkey(monkey)
             , m_id(id)
         {
+            m_monkey.m_closed.insert(id);
         }
         ~ChildrenGo();
 
@@ -66,8 +72,6 @@ public:
     };
 
 private:
-    class Tree;
-
     // What the host does, alone or as a misdeed
     void insertPlain(int parent);
     void insertInPlace(int parent);
@@ -112,12 +116,16 @@ private:
     void expectClick(int id, bool shift, bool ctrl);
     void expectMoveTo(int id, bool shift, bool ctrl);
     void verify();
+    void verifyAtAGlance();
     void verifyStructure();
     void verifySelection();
     void verifyRows();
     void takeOverSelection();
 
+    LRESULT ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     MonkeyNode* alive(int id);
+    bool isSelected(int id);
+    int caretNow();
     int idOf(HTREEITEM item);
     HTREEITEM itemOf(int id);
     bool isOpen(int id);
@@ -140,10 +148,12 @@ private:
     };
 
     std::mt19937 m_random;
+    const int m_every;   ///< steps from one look at all to the next
     const bool m_halves; ///< the tree searches sorted children by halving
     MonkeyModel m_model;
     std::map<int, MonkeyNode*> m_alive;
     std::map<int, Insertion> m_inserting;
+    std::set<int> m_closed; ///< nodes that were told to close in this step
     std::deque<std::string> m_story;
     std::string m_failure;
     int m_nextId = 1;
@@ -153,10 +163,13 @@ private:
     int m_left = 0;   ///< misdeeds still allowed in this step
     int m_depth = 0;  ///< misdeeds within misdeeds
     bool m_dirty = false;
+    bool m_clicked = false; ///< in this step, so that a label edit may begin later
+    bool m_posted = false;  ///< messages may be waiting
     bool m_over = false;
     BYTE m_keys[256]{};
 
     std::unique_ptr<ovotest::RecordingParent> m_parent;
-    std::unique_ptr<MultiTreeCtrl> m_tree;
+    std::unique_ptr<MonkeyTree> m_tree;
+    std::unique_ptr<StillWindows> m_still;
     EVSubscription m_gestures;
 };

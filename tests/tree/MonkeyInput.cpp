@@ -4,6 +4,7 @@
 #include <ovouires/resource.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -28,6 +29,7 @@ void Monkey::step()
 {
     const bool clean = pick(2) != 0;
     m_dirty = false;
+    m_closed.clear();
     m_chance = clean ? 0 : 2 + pick(12);
     m_left = 3;
     catching([this] {
@@ -38,20 +40,22 @@ void Monkey::step()
     });
     m_chance = 0;
     catching([this] {
-        if (m_tree->GetEditControl() && pick(2))
+        m_posted = m_posted || ask(TVM_GETEDITCONTROL);
+        if (ask(TVM_GETEDITCONTROL) && pick(2))
             m_tree->SendMessage(TVM_ENDEDITLABELNOW, pick(2) != 0);
     });
-    catching([] {
-        MSG message;
-        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-            ::DispatchMessageW(&message);
-    });
+    if (std::exchange(m_posted, false) || m_dirty || m_step % 8 == 0)
+        catching([] {
+            MSG message;
+            while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+                ::DispatchMessageW(&message);
+        });
     m_parent->log().clear();
-    ::KillTimer(m_tree->m_hWnd, kEditTimer); // when it runs out is not the model's business
+    if (std::exchange(m_clicked, false))
+        ::KillTimer(m_tree->m_hWnd, kEditTimer); // when it runs out is not the model's business
     // Where the caret goes when its item goes, or when the tree view gets the focus without one, is the tree
     // view's choice; the item there is selected then.
-    if (const int caret = idOf(m_tree->GetSelectedItem());
-        m_model.caret == MonkeyModel::kNone && caret != MonkeyModel::kNone) {
+    if (const int caret = caretNow(); m_model.caret == MonkeyModel::kNone && caret != MonkeyModel::kNone) {
         m_model.caret = caret;
         m_model.selected.insert(caret);
     }
@@ -155,6 +159,7 @@ void Monkey::userStep()
 /// The release waits in the queue already when the press is handled.
 void Monkey::pressAt(CPoint point, WPARAM keys, bool right)
 {
+    m_clicked = m_posted = true;
     const LPARAM where = MAKELPARAM(point.x, point.y);
     m_tree->PostMessage(right ? WM_RBUTTONUP : WM_LBUTTONUP, keys, where);
     m_tree->SendMessage(right ? WM_RBUTTONDOWN : WM_LBUTTONDOWN, keys | (right ? MK_RBUTTON : MK_LBUTTON),
@@ -170,7 +175,11 @@ void Monkey::click()
     CRect label;
     m_tree->GetItemRect(itemOf(id), &label, TRUE);
     if (const HTREEITEM hit = m_tree->CTreeCtrl::HitTest(label.CenterPoint()); hit != itemOf(id)) {
-        fail("in the row of " + names({id}) + " stands " + names({idOf(hit)}));
+        CRect client;
+        m_tree->GetClientRect(&client);
+        fail("at " + std::to_string(label.CenterPoint().x) + ", " + std::to_string(label.CenterPoint().y) +
+             " of " + std::to_string(client.right) + ", " + std::to_string(client.bottom) +
+             ", in the row of " + names({id}) + ", stands " + names({idOf(hit)}));
         return;
     }
     if (pick(12) == 0) {
@@ -246,19 +255,25 @@ void Monkey::clickButton()
 
 void Monkey::sendKey(UINT code, bool shift, bool ctrl)
 {
-    const auto hold = [this](int key, bool down) { m_keys[key] = down ? 0x80 : 0; };
-    hold(VK_SHIFT, shift);
-    hold(VK_CONTROL, ctrl);
-    ::SetKeyboardState(m_keys);
-    struct Release
+    struct Held
     {
-        ~Release()
+        Held(BYTE* all, int which)
+            : keys(which ? all : nullptr)
+            , key(which)
         {
-            keys[VK_SHIFT] = keys[VK_CONTROL] = 0;
+            set(0x80);
+        }
+        ~Held() { set(0); }
+        void set(BYTE state) const
+        {
+            if (!keys)
+                return;
+            keys[key] = state;
             ::SetKeyboardState(keys);
         }
-        BYTE* keys;
-    } const release{m_keys};
+        BYTE* const keys;
+        const int key;
+    } const held{m_keys, shift ? VK_SHIFT : ctrl ? VK_CONTROL : 0};
     m_tree->SendMessage(WM_KEYDOWN, code, 1);
 }
 
@@ -281,7 +296,9 @@ void Monkey::key()
     const bool shift = pick(3) == 0;
     const bool ctrl = !shift && pick(3) == 0;
     const std::vector<int> rows = displayed();
-    const auto at = std::find(rows.begin(), rows.end(), m_model.caret);
+    // A caret in a closed node counts as standing just below it.
+    const int shown = m_model.lastDisplayedOnTheWayTo(m_model.caret, [this](int id) { return isOpen(id); });
+    const auto at = std::find(rows.begin(), rows.end(), shown);
     const bool none = at == rows.end();
     switch (pick(9)) {
     case 0:
@@ -299,7 +316,9 @@ void Monkey::key()
         break;
     case 3:
         tell(std::string("Up") + (shift ? " with Shift" : ctrl ? " with Ctrl" : ""));
-        if (!none && at != rows.begin())
+        if (!none && shown != m_model.caret)
+            expectMoveTo(shown, shift, ctrl);
+        else if (!none && at != rows.begin())
             expectMoveTo(*(at - 1), shift, ctrl);
         sendKey(VK_UP, shift, ctrl);
         break;
@@ -337,6 +356,7 @@ void Monkey::editLabel()
     if (id == MonkeyModel::kNone)
         return;
     tell("edits the label of " + names({id}));
+    m_posted = true;
     CEdit* const edit = m_tree->EditLabel(itemOf(id));
     if (!edit)
         return;

@@ -31,6 +31,16 @@ std::vector<int> MonkeyModel::walk(const std::function<bool(int)>& goesInto) con
     return found;
 }
 
+int MonkeyModel::lastDisplayedOnTheWayTo(int id, const std::function<bool(int)>& isOpen) const
+{
+    int displayed = id;
+    if (id != kNone)
+        for (int above = parentOf(id); above != kRoot; above = parentOf(above))
+            if (!isOpen(above))
+                displayed = above;
+    return displayed;
+}
+
 std::vector<int> MonkeyModel::below(int id) const
 {
     std::vector<int> found;

@@ -29,6 +29,8 @@ public:
     }
     /// Those that one scrolls through; `isOpen` tells of a node whether its children are shown.
     std::vector<int> displayed(const std::function<bool(int)>& isOpen) const { return walk(isOpen); }
+    /// The node itself, or the outermost closed one that it is in; kNone for kNone.
+    int lastDisplayedOnTheWayTo(int id, const std::function<bool(int)>& isOpen) const;
     std::vector<int> below(int id) const;
 
     /// Inserts behind `previous`; kNone for the first place.

@@ -152,6 +152,9 @@ void Monkey::deleteNode(int id)
 
 void Monkey::deleteAll()
 {
+    // What nodes insert while an open editor is closed would go with the others.
+    if (ask(TVM_GETEDITCONTROL))
+        m_tree->SendMessage(TVM_ENDEDITLABELNOW, pick(2) != 0);
     tell("deletes all");
     m_model.removeChildren(MonkeyModel::kRoot);
     m_tree->DeleteAllItems();

@@ -1,0 +1,61 @@
+/// Not exported: the rows of a tree view that loses them. See Platform::losesRows and losesFirstRow; on other
+/// platforms there is nothing to do.
+#pragma once
+
+#include <ovoui/tree/ItemTracker.h>
+#include <ovoui/tree/TreeState.h>
+
+#include <optional>
+
+/// Stands around a message to the tree view's procedure: prepares it, and has the rows laid out anew when the
+/// message has put them out of order.
+class MultiTreeCtrl::RowKeeper
+{
+public:
+    RowKeeper(MultiTreeCtrl& tree, UINT message, WPARAM wParam, LPARAM lParam);
+
+    /// To be called after the message while the tree is usable.
+    void restore() const;
+
+private:
+    enum class Change
+    {
+        None,
+        Rearranged, ///< children change their places, or are shown or hidden
+        State,      ///< children may be shown or hidden without the tree view noticing
+        Inserted,
+        Deleted,
+        Scrolled, ///< an item is brought into view
+        LaidOut   ///< after redrawing was held
+    };
+
+    static Change changeBy(UINT message, LPARAM lParam);
+    static HTREEITEM parentOf(const MultiTreeCtrl& tree, UINT message, LPARAM lParam);
+    void keepFirstRow(MultiTreeCtrl& tree, HTREEITEM emptied);
+    bool disordersRows() const;
+    bool repairsFirstRow() const;
+
+    const std::shared_ptr<State> m_state;
+    const Change m_change;
+    bool m_wasOpen = false;
+    std::optional<Tracker> m_parent; ///< whose children the message is about; none for the top level
+};
+
+/// Notes in the end that an item is hidden which the tree view is opening or closing: it takes the item for a
+/// displayed one.
+class MultiTreeCtrl::HiddenItemNote
+{
+public:
+    HiddenItemNote(MultiTreeCtrl& tree, HTREEITEM item)
+        : m_item(tree.m_state, item)
+        , m_state(tree.m_state)
+    {
+    }
+    ~HiddenItemNote();
+    HiddenItemNote(const HiddenItemNote&) = delete;
+    HiddenItemNote& operator=(const HiddenItemNote&) = delete;
+
+private:
+    const Tracker m_item;
+    const std::shared_ptr<State> m_state;
+};

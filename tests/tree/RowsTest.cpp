@@ -1,0 +1,141 @@
+// Every displayed item has a row of its own, in the order of the tree, whatever happens to hidden ones.
+#include "TreeScene.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+/// "p", open, with "c" below it, open, with "x" and "y"; "q" and "r" stand behind "p".
+class RowScene : public Scene
+{
+public:
+    RowScene()
+        : Scene({"p", "q", "r"})
+    {
+        grow("p", {"c"});
+        grow("c", {"x", "y"});
+    }
+
+    /// Hides what is below an item as a host may, without a word to the tree view.
+    void closeByState(const std::string& name) { tree.SetItemState(item(name), 0, TVIS_EXPANDED); }
+
+    /// Which item a user finds in each row.
+    Names rows()
+    {
+        Names found;
+        CRect first;
+        tree.GetItemRect(tree.GetFirstVisibleItem(), &first, FALSE);
+        for (CPoint at(100, first.CenterPoint().y);; at.y += first.Height()) {
+            const HTREEITEM hit = tree.CTreeCtrl::HitTest(at);
+            if (!hit)
+                return found;
+            CRect rect;
+            tree.GetItemRect(hit, &rect, FALSE);
+            found.push_back(nameOf(hit) + (rect.PtInRect(at) ? "" : " elsewhere"));
+        }
+    }
+
+private:
+    void grow(const std::string& name, const Names& children)
+    {
+        node(name).children = 1;
+        node(name).childNames = children;
+        tree.updateUI(item(name));
+        open(name);
+    }
+};
+
+} // namespace
+
+TEST(TreeRows, AnItemClosedByItsStateHidesItsChildren)
+{
+    RowScene scene;
+    ASSERT_EQ(scene.rows(), (Names{"p", "c", "x", "y", "q", "r"}));
+    scene.closeByState("p");
+    EXPECT_EQ(scene.rows(), (Names{"p", "q", "r"}));
+}
+
+TEST(TreeRows, DeletingHiddenItemsLeavesTheOthersWhereTheyAre)
+{
+    RowScene scene;
+    scene.closeByState("p");
+    scene.tree.DeleteItem(scene.item("y"));
+    EXPECT_EQ(scene.rows(), (Names{"p", "q", "r"}));
+    scene.tree.DeleteItem(scene.item("c"));
+    EXPECT_EQ(scene.rows(), (Names{"p", "q", "r"}));
+}
+
+TEST(TreeRows, InsertingIntoAHiddenItemLeavesTheOthersWhereTheyAre)
+{
+    RowScene scene;
+    scene.closeByState("p");
+    scene.add("z", "c");
+    EXPECT_EQ(scene.rows(), (Names{"p", "q", "r"}));
+}
+
+TEST(TreeRows, ClosingAHiddenItemLeavesTheOthersWhereTheyAre)
+{
+    RowScene scene;
+    scene.closeByState("p");
+    scene.tree.Expand(scene.item("c"), TVE_COLLAPSE);
+    EXPECT_EQ(scene.rows(), (Names{"p", "q", "r"}));
+}
+
+TEST(TreeRows, AnItemThatHidesItselfWhileItIsClosedLeavesTheOthersWhereTheyAre)
+{
+    for (const UINT key : {VK_SUBTRACT, VK_LEFT}) {
+        RowScene scene;
+        scene.node("c").collapsing = [&](MultiTreeCtrl&) { scene.closeByState("p"); };
+        scene.tree.SelectItem(scene.item("c"));
+        scene.tree.SendMessage(WM_KEYDOWN, key, 1);
+        EXPECT_EQ(scene.rows(), (Names{"p", "q", "r"})) << key;
+    }
+}
+
+TEST(TreeRows, AnItemThatHidesItselfWhileItIsOpenedLeavesTheOthersWhereTheyAre)
+{
+    RowScene scene;
+    scene.tree.Expand(scene.item("c"), TVE_COLLAPSE);
+    scene.node("c").expanding = [&](MultiTreeCtrl&) {
+        scene.add("x", "c");
+        scene.closeByState("p");
+        return true;
+    };
+    scene.tree.SelectItem(scene.item("c"));
+    scene.tree.SendMessage(WM_KEYDOWN, VK_ADD, 1);
+    EXPECT_EQ(scene.rows(), (Names{"p", "q", "r"}));
+}
+
+TEST(TreeRows, WhileRedrawingIsHeldTheLayoutWaits)
+{
+    RowScene scene;
+    scene.tree.SetRedraw(FALSE);
+    scene.closeByState("p");
+    scene.tree.DeleteItem(scene.item("y"));
+    scene.tree.SetRedraw(TRUE);
+    EXPECT_EQ(scene.rows(), (Names{"p", "q", "r"}));
+}
+
+TEST(TreeRows, BringingAnItemIntoViewThatStaysHiddenScrollsToWhatIsDisplayed)
+{
+    Scene scene;
+    for (int i = 0; i < 60; ++i)
+        scene.add("n" + std::to_string(i));
+    scene.add("hidden", "n5"); // which refuses to open
+    scene.tree.EnsureVisible(scene.item("n59"));
+    for (const bool selects : {false, true}) {
+        if (selects)
+            scene.tree.SelectItem(scene.item("hidden"));
+        else
+            scene.tree.EnsureVisible(scene.item("hidden"));
+        EXPECT_EQ(scene.nameOf(scene.tree.GetFirstVisibleItem()), "n5");
+        scene.tree.EnsureVisible(scene.item("n20"));
+        CRect rect;
+        scene.tree.GetItemRect(scene.item("n20"), &rect, FALSE);
+        EXPECT_EQ(scene.nameOf(scene.tree.CTreeCtrl::HitTest(rect.CenterPoint())), "n20");
+        scene.tree.EnsureVisible(scene.item("n59"));
+    }
+}
