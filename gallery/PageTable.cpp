@@ -3,6 +3,7 @@
 #include "pages/ColourPickerPage.h"
 #include "pages/ComboPage.h"
 #include "pages/DockingPage.h"
+#include "pages/FilesPage.h"
 #include "pages/GeometryPage.h"
 #include "pages/ImagesPage.h"
 #include "pages/ListsPage.h"
@@ -57,6 +58,9 @@ const std::vector<PageEntry>& pageTable()
         {L"combo", L"Combo box",
          L"COVOComboBox completes what is typed, and accepts it or brings back what was there before.",
          &make<ComboPage>, PageGroup::Lists},
+        {L"files", L"Files",
+         L"COVOFileDialog: one class for both of the system's file dialogs; functions that ask for files and folders.",
+         &make<FilesPage>},
         {L"colourpicker", L"Colour picker",
          L"ColPickerDlg: a ring of hues, a triangle of shades, and the numbers of three colour models.",
          &make<ColourPickerPage>},

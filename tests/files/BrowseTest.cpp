@@ -120,6 +120,18 @@ TEST_F(BrowseTest, BeginsSomewhereWhenThereIsNoSuchFolder)
     }
 }
 
+TEST_F(BrowseTest, BeginsInAFolderOfTheWorkingFolder)
+{
+    const std::wstring before = workingFolder();
+    ::SetCurrentDirectoryW(files.folder().c_str());
+    File file{.folder = L"below\\gone"};
+    auto answering = whenAsked().type(L"deep.txt").key(VK_RETURN).start();
+    EXPECT_TRUE(file.ask());
+    EXPECT_EQ(file.path, files.path(L"below\\deep.txt"));
+    EXPECT_EQ(workingFolder(), files.folder());
+    ::SetCurrentDirectoryW(before.c_str());
+}
+
 TEST_F(BrowseTest, ChoosesTheEntryOfTheExtension)
 {
     struct Case

@@ -2,6 +2,7 @@
 #include "HostDialog.h"
 #include "resource.h"
 
+#include "mfc/cdlg/FakeShellDialog.h"
 #include "support/TestApp.h"
 
 #include <ovocor/IntCast.h>
@@ -84,9 +85,9 @@ INSTANTIATE_TEST_SUITE_P(
     Handlers, MisdeedTest,
     testing::Values(
         Misdeed{Kind::Classic, "InitDialog", nullptr}, Misdeed{Kind::Classic, "InitDone", nullptr},
-        Misdeed{Kind::Classic, "FolderChange", nullptr}, Misdeed{Kind::Classic, "PostInit", nullptr},
-        Misdeed{Kind::Classic, "Size", nullptr}, Misdeed{Kind::Classic, "FileNameOK", &takeFile},
-        Misdeed{Kind::Classic, "TypeChange", &changeType},
+        Misdeed{Kind::Classic, "FolderChange", nullptr}, Misdeed{Kind::Classic, "FileNameChange", nullptr},
+        Misdeed{Kind::Classic, "PostInit", nullptr}, Misdeed{Kind::Classic, "Size", nullptr},
+        Misdeed{Kind::Classic, "FileNameOK", &takeFile}, Misdeed{Kind::Classic, "TypeChange", &changeType},
         Misdeed{Kind::Classic, "CheckButtonToggled", &check}, Misdeed{Kind::Classic, "ItemSelected", &choose},
         Misdeed{Kind::Classic, "EnChange", &edit}, Misdeed{Kind::Classic, "HelpInfo", &help},
         Misdeed{Kind::NewStyle, "InitDone", nullptr}, Misdeed{Kind::NewStyle, "FolderChange", nullptr},
@@ -135,6 +136,51 @@ TEST(ReportedException, OfTheFrameworkLeavesTheDialogOpen)
                              .key(VK_ESCAPE)
                              .start();
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    }
+}
+
+TEST(NewStyleEvents, EachCarriesAnExceptionToTheCaller)
+{
+    /// Without controls, which the dialog made by the test does not take.
+    class Failing : public COVOFileDialog
+    {
+    public:
+        Failing()
+            : COVOFileDialog(TRUE, nullptr, nullptr, 0, nullptr, nullptr, TRUE)
+        {
+        }
+
+    protected:
+        BOOL OnFileNameOK(BOOL) override { fail(); }
+        void OnFileNameChange() override { fail(); }
+        void OnItemSelected(DWORD, DWORD) override { fail(); }
+        void OnButtonClicked(DWORD) override { fail(); }
+        void OnCheckButtonToggled(DWORD, BOOL) override { fail(); }
+        void OnControlActivating(DWORD) override { fail(); }
+    };
+    using Event = void (*)(IFileDialogEvents&, IFileDialogControlEvents&, IFileDialog&);
+    const Event events[] = {
+        [](auto& e, auto&, auto& d) { EXPECT_EQ(e.OnFileOk(&d), S_FALSE); },
+        [](auto& e, auto&, auto& d) { e.OnSelectionChange(&d); },
+        [](auto&, auto& c, auto&) { EXPECT_EQ(c.OnItemSelected(nullptr, 1, 2), S_OK); },
+        [](auto&, auto& c, auto&) { EXPECT_EQ(c.OnButtonClicked(nullptr, 1), S_OK); },
+        [](auto&, auto& c, auto&) { EXPECT_EQ(c.OnCheckButtonToggled(nullptr, 1, TRUE), S_OK); },
+        [](auto&, auto& c, auto&) { EXPECT_EQ(c.OnControlActivating(nullptr, 1), S_OK); },
+    };
+    for (const Event event : events) {
+        FakeShellDialog fake;
+        fake.results = {L"C:\\a"};
+        fake.onShow = [&](IFileDialogEvents& fileEvents) {
+            IFileDialogControlEvents* controls = nullptr;
+            fileEvents.QueryInterface(IID_IFileDialogControlEvents, reinterpret_cast<void**>(&controls));
+            event(fileEvents, *controls, *fake.dialog());
+            controls->Release();
+            return HRESULT_FROM_WIN32(ERROR_CANCELLED);
+        };
+        const Failing dialog;
+        EXPECT_THROW(dialog.DoModal(), std::runtime_error) << &event - events;
+        EXPECT_THROW(dialog.DoModal(), std::runtime_error)
+            << &event - events; // once a time, and no other is left
     }
 }
 

@@ -405,15 +405,42 @@ TEST(ClassicHost, DoesNotGoToAFolder)
     EXPECT_EQ(folder, files.folder());
 }
 
-TEST(ClassicHostDeathTest, AssertsWhenAnOperationOfTheNewStyleIsCalled)
+namespace
+{
+
+/// What the program says to the debugger, on the error output.
+LONG CALLBACK echo(EXCEPTION_POINTERS* exception)
+{
+    constexpr DWORD kNarrow = 0x40010006; // DBG_PRINTEXCEPTION_C: length and text
+    const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
+    if (record.ExceptionCode == kNarrow)
+        std::fputs(reinterpret_cast<const char*>(record.ExceptionInformation[1]), stderr);
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
+} // namespace
+
+TEST(ClassicHostDeathTest, NamesAnOperationOfTheNewStyleThatIsCalled)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     HostDialog dialog(Kind::Classic);
-    EXPECT_DEATH(dialog.AddComboBox(7), "assertion failed");
-    EXPECT_DEATH(dialog.AddControlItem(7, 1, L"x"), "assertion failed");
-    EXPECT_DEATH(dialog.StartVisualGroup(7, L"x"), "assertion failed");
-    EXPECT_DEATH(dialog.EndVisualGroup(), "assertion failed");
-    EXPECT_DEATH(dialog.SetSelectedControlItem(7, 1), "assertion failed");
+    const Labels labels(IDD_CONTROLS);
+    const std::pair<const char*, std::function<void()>> operations[] = {
+        {"AddCheckButton", [&] { dialog.AddCheckButton(labels, IDC_BACKUP, true); }},
+        {"AddComboBox", [&] { dialog.AddComboBox(labels, IDC_FORMAT_LABEL, 7); }},
+        {"AddEditBox", [&] { dialog.AddEditBox(labels, 0, 7); }},
+        {"AddControlItem", [&] { dialog.AddControlItem(7, 1, L"x"); }},
+        {"StartVisualGroup", [&] { dialog.StartVisualGroup(7, L"x"); }},
+        {"EndVisualGroup", [&] { dialog.EndVisualGroup(); }},
+        {"SetSelectedControlItem", [&] { dialog.SetSelectedControlItem(7, 1); }},
+    };
+    for (const auto& [name, call] : operations)
+        EXPECT_DEATH(
+            {
+                ::AddVectoredExceptionHandler(1, &echo);
+                call();
+            },
+            std::string("COVOFileDialog::") + name);
 }
 
 // The new-style path
