@@ -34,6 +34,7 @@
 #include <ovoui/sliders/RoundSlider.h>
 #include <ovoui/sliders/Separators.h>
 #include <ovoui/sliders/SliderButton.h>
+#include <ovoui/sliders/UnitNumbers.h>
 #include <ovoui/sliders/WheelSlider.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/VantorToolBar.h>

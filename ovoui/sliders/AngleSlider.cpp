@@ -1,6 +1,8 @@
 #include <ovoui/sliders/AngleSlider.h>
 
 #include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/sliders/AccessibleSlider.h>
+#include <ovoui/sliders/AngleSliderOptions.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
 #include <ovoui/sliders/core/CylinderPicture.h>
 
@@ -12,10 +14,18 @@ BEGIN_MESSAGE_MAP(CAngleSlider, CWnd)
     ON_WM_LBUTTONDBLCLK()
     ON_WM_LBUTTONUP()
     ON_WM_CAPTURECHANGED()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_GETDLGCODE() // keyboard
+    ON_WM_KEYDOWN()
+    ON_WM_CHAR()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
     ON_WM_PAINT() // painting
     ON_WM_ERASEBKGND()
     ON_WM_SIZE()
     ON_WM_ENABLE()
+    ON_WM_DESTROY()
+    ON_MESSAGE(WM_GETOBJECT, &CAngleSlider::OnGetObject)
 END_MESSAGE_MAP()
 
 namespace
@@ -47,10 +57,15 @@ CAngleSlider::CAngleSlider(Axis axis, Turn turn, bool reversed)
     : m_drag(std::make_unique<CylinderDrag>(turn))
     , m_axis(axis)
     , m_reversed(reversed)
+    , m_options(std::make_unique<Options>())
+    , m_identity(std::make_shared<SliderIdentity>())
 {
 }
 
-CAngleSlider::~CAngleSlider() = default;
+CAngleSlider::~CAngleSlider()
+{
+    m_identity->window = nullptr;
+}
 
 BOOL CAngleSlider::createNamed(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
@@ -67,8 +82,10 @@ double CAngleSlider::GetPos() const
 void CAngleSlider::SetPos(double degrees)
 {
     m_drag->setPosition(degrees);
-    if (m_hWnd)
-        Invalidate();
+    if (!m_hWnd)
+        return;
+    Invalidate();
+    announceValue(m_hWnd);
 }
 
 // Mouse
@@ -80,17 +97,23 @@ void CAngleSlider::OnLButtonDown(UINT flags, CPoint point)
 
 void CAngleSlider::OnLButtonDblClk(UINT, CPoint point)
 {
+    const Lifeline::Watch watch(m_lifeline);
+    if (m_options->keyboard)
+        SetFocus();
+    if (!watch.alive() || !m_hWnd)
+        return;
     m_drag->press(DegreesFromCentre(along(point)));
     SetCapture();
 }
 
 void CAngleSlider::OnMouseMove(UINT, CPoint point)
 {
-    const auto angle = m_drag->move(DegreesFromCentre(along(point)));
+    const auto angle = m_drag->move(DegreesFromCentre(along(point)), snapNow());
     if (!angle || !tellParent(SB_THUMBTRACK, *angle))
         return;
     m_drag->track(*angle);
     Invalidate(FALSE);
+    announceValue(m_hWnd);
 }
 
 void CAngleSlider::OnLButtonUp(UINT, CPoint point)
@@ -99,7 +122,7 @@ void CAngleSlider::OnLButtonUp(UINT, CPoint point)
     m_drag->cancel(); // so that losing the capture does not count as an interruption
     ::ReleaseCapture();
     if (dragging)
-        tellParent(SB_THUMBPOSITION, m_drag->release(DegreesFromCentre(along(point))));
+        tellParent(SB_THUMBPOSITION, m_drag->release(DegreesFromCentre(along(point)), snapNow()));
 }
 
 void CAngleSlider::OnCaptureChanged(CWnd* wnd)
@@ -159,6 +182,10 @@ void CAngleSlider::OnPaint()
     ShadeRect(rect, &dc);
     if (IsWindowEnabled())
         drawOnCylinder(dc, rect, m_drag->shown());
+    if (showsFocus()) {
+        rect.DeflateRect(1, 1);
+        dc.DrawFocusRect(&rect);
+    }
 }
 
 void CAngleSlider::drawOnCylinder(CDC&, const CRect&, double) {}

@@ -11,6 +11,7 @@
 namespace ovoui::sliders
 {
 class CylinderDrag;
+struct SliderIdentity;
 enum class Turn;
 } // namespace ovoui::sliders
 
@@ -30,6 +31,17 @@ public:
     /// Sets the angle in degrees and paints it; the parent hears nothing. Any number will do.
     void SetPos(double degrees);
 
+    // Off unless asked for
+
+    /// Whether keyboard and wheel turn the slider: the arrow keys and the wheel by 1 degree, with Ctrl by 5,
+    /// Page Up and Page Down by 15, Home to 0; a number that is typed opens a small edit control. A click
+    /// gives the slider the focus, which it marks. The parent gets SB_THUMBPOSITION with the new angle, which
+    /// shows at once.
+    void UseKeyboard(bool use);
+
+    /// While Shift is held, the mouse turns to multiples of so many degrees; 0 for any angle.
+    void SetSnap(double degrees);
+
 protected:
     enum class Axis
     {
@@ -46,13 +58,21 @@ protected:
     virtual void drawOnCylinder(CDC& dc, const CRect& cylinder, double shown);
 
     afx_msg void OnCaptureChanged(CWnd* wnd);
+    afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
+    afx_msg void OnDestroy();
     afx_msg void OnEnable(BOOL enable);
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnKillFocus(CWnd* other);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnPaint();
+    afx_msg void OnSetFocus(CWnd* other);
     afx_msg void OnSize(UINT type, int width, int height);
     DECLARE_MESSAGE_MAP()
 
@@ -63,9 +83,16 @@ private:
     void ShadeRect(const CRect& rect, CDC* dc);
     void DrawLine(CDC* dc, const CRect& rect, int coordinate);
     bool tellParent(UINT code, double degrees);
+    void turnTo(double degrees);
+    double snapNow() const;
+    bool showsFocus() const;
+
+    struct Options;
 
     std::unique_ptr<ovoui::sliders::CylinderDrag> m_drag;
     const Axis m_axis;
     const bool m_reversed;
+    std::unique_ptr<Options> m_options;
+    std::shared_ptr<ovoui::sliders::SliderIdentity> m_identity;
     Lifeline m_lifeline;
 };

@@ -1,15 +1,11 @@
 #include <ovoui/sliders/SliderButton.h>
 
 #include <ovoui/frame/BufferedPaint.h>
-#include <ovoui/frame/Geometry.h>
-#include <ovoui/frame/ThemeData.h>
+#include <ovoui/sliders/AccessibleSlider.h>
 #include <ovoui/sliders/PopupWatcher.h>
-#include <ovoui/sliders/core/NumberText.h>
+#include <ovoui/sliders/SliderButtonFace.h>
+#include <ovoui/sliders/SliderButtonOptions.h>
 #include <ovoui/sliders/core/SliderDrag.h>
-
-#include <vssym32.h>
-
-#include <algorithm>
 
 using namespace ovoui::sliders;
 
@@ -21,6 +17,7 @@ BEGIN_MESSAGE_MAP(CSliderButton, CStatic)
     ON_WM_LBUTTONUP()
     ON_WM_MOUSELEAVE()
     ON_WM_CAPTURECHANGED()
+    ON_WM_MOUSEWHEEL()
     ON_WM_KEYDOWN() // keyboard
     ON_WM_GETDLGCODE()
     ON_WM_SETFOCUS()
@@ -30,29 +27,13 @@ BEGIN_MESSAGE_MAP(CSliderButton, CStatic)
     ON_WM_ENABLE()
     ON_WM_DESTROY()
     ON_MESSAGE(CPopupSlider::kDeactivated, &CSliderButton::OnUnpress)
+    ON_MESSAGE(WM_GETOBJECT, &CSliderButton::OnGetObject)
 END_MESSAGE_MAP()
 
 namespace
 {
 
-constexpr int kBuddyText = 100; // characters that are read of it
-
-Positions stepsOf(CSliderButton::SliderType type, int low, int high)
-{
-    return type == CSliderButton::SliderInteger ? Positions{low, high} : Positions{0, 100};
-}
-
-Mapping mappingOf(CSliderButton::SliderType type)
-{
-    switch (type) {
-    case CSliderButton::SliderLogarithmic:
-        return Mapping::Logarithmic;
-    case CSliderButton::SliderSquareRoot:
-        return Mapping::SquareRoot;
-    default:
-        return Mapping::Linear;
-    }
-}
+constexpr double kFineStep = 0.1; // of a position
 
 /// Keys that the open slider takes though the button has the focus.
 bool movesSlider(WPARAM key)
@@ -72,18 +53,32 @@ bool movesSlider(WPARAM key)
     }
 }
 
+/// 1 for an arrow key that makes the number greater, -1 for one that makes it smaller, 0 for other keys.
+int arrowStep(WPARAM key)
+{
+    if (key == VK_RIGHT || key == VK_DOWN)
+        return 1;
+    return key == VK_LEFT || key == VK_UP ? -1 : 0;
+}
+
 } // namespace
 
 CSliderButton::CSliderButton(SliderButtonUtils& utils)
     : m_utils(utils)
+    , m_options(std::make_unique<Options>())
+    , m_identity(std::make_shared<SliderIdentity>())
 {
 }
 
-CSliderButton::~CSliderButton() = default;
+CSliderButton::~CSliderButton()
+{
+    m_identity->window = nullptr;
+}
 
 void CSliderButton::SetBuddy(HWND buddy)
 {
     m_buddy = buddy;
+    hearBuddyWheel();
 }
 
 void CSliderButton::SetType(SliderType type)
@@ -110,164 +105,47 @@ void CSliderButton::SetPages(int pages)
     m_pages = pages;
 }
 
+bool CSliderButton::SetMapping(std::function<double(double)> shareOf, std::function<double(double)> numberAt)
+{
+    HostMapping mapping{std::move(shareOf), std::move(numberAt)};
+    const bool none = !mapping.shareOf && !mapping.numberAt;
+    if (!none && !isUsable(mapping, {0, 100}))
+        return false;
+    m_options->mapping = std::move(mapping);
+    return true;
+}
+
+void CSliderButton::SetTicks(std::vector<double> numbers)
+{
+    m_options->ticks = std::move(numbers);
+}
+
+void CSliderButton::ShowBubble(bool show)
+{
+    m_options->showsBubble = show;
+    updateBubble();
+}
+
+void CSliderButton::StepByWheel(bool step)
+{
+    m_options->stepsByWheel = step;
+    hearBuddyWheel();
+}
+
+void CSliderButton::StepFinelyByShift(bool finely)
+{
+    m_options->finelyByShift = finely;
+}
+
 void CSliderButton::OnDestroy()
 {
     m_pressed = m_tracking = m_dragging = false;
+    m_identity->window = nullptr;
     m_watcher.reset();
+    m_options->bubble.DestroyWindow();
     if (m_popup.m_hWnd)
         m_popup.DestroyWindow();
     CStatic::OnDestroy();
-}
-
-// The popup
-
-void CSliderButton::ShowPopup(const CPoint& at)
-{
-    if (!m_popup.m_hWnd && !m_popup.Create(this))
-        return;
-    const Positions steps = stepsOf(m_type, m_low, m_high);
-    m_minimum = steps.minimum;
-    m_maximum = steps.maximum;
-    CPopupSliderCtrl& slider = m_popup.slider();
-    slider.SetRange(m_minimum, m_maximum);
-    slider.SetPageSize(pageSize(steps, m_pages));
-
-    const Lifeline::Watch watch(m_lifeline);
-    SetSliderPos();
-    if (!watch.alive() || !m_popup.m_hWnd || !m_pressed)
-        return;
-    m_textBefore = buddyText();
-    placePopup(at);
-    m_watcher = std::make_unique<PopupWatcher>(PopupWatcher::Calls{
-        .pressed = [this](HWND under) { dismissFor(under); }, .escape = [this] { cancelPopup(); }});
-}
-
-/// A press of the mouse on another window than the popup and the button ends the popup.
-void CSliderButton::dismissFor(HWND pressed)
-{
-    if (pressed != m_hWnd && pressed != m_popup.m_hWnd && !::IsChild(m_popup.m_hWnd, pressed))
-        dismiss();
-}
-
-/// Below the button, with the thumb under the pointer as far as the screen allows, and without the
-/// activation.
-void CSliderButton::placePopup(const CPoint& at)
-{
-    CPopupSliderCtrl& slider = m_popup.slider();
-    CRect channel;
-    slider.GetChannelRect(&channel);
-    slider.MapWindowPoints(&m_popup, &channel);
-    const int thumb = thumbOffset({channel.left, channel.right}, slider.GetPos(), {m_minimum, m_maximum});
-
-    CPoint pointer = at;
-    ClientToScreen(&pointer);
-    CRect button;
-    GetWindowRect(&button);
-    CRect popup;
-    m_popup.GetWindowRect(&popup);
-    popup.MoveToXY(pointer.x - (channel.left + thumb), button.bottom);
-    EnsureRectVisible(popup);
-    m_popup.SetWindowPos(&wndTop, popup.left, popup.top, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
-
-    m_popup.MapWindowPoints(this, &channel);
-    m_channelLeft = channel.left;
-    m_channelRight = channel.right;
-    m_thumbOffset = channel.left + thumb - at.x;
-    m_popup.GetClientRect(&m_popupRect);
-    m_popup.MapWindowPoints(this, &m_popupRect);
-}
-
-void CSliderButton::HidePopup()
-{
-    m_watcher.reset();
-    if (m_popup.m_hWnd)
-        m_popup.ShowWindow(SW_HIDE);
-}
-
-/// The popup goes, and the button comes up.
-void CSliderButton::dismiss()
-{
-    if (!m_pressed)
-        return;
-    const Lifeline::Watch watch(m_lifeline);
-    HidePopup();
-    if (watch.alive())
-        SetPressed(false);
-}
-
-void CSliderButton::cancelPopup()
-{
-    const Lifeline::Watch watch(m_lifeline);
-    if (::IsWindow(m_buddy) && buddyText() != m_textBefore) {
-        setBuddyText(m_textBefore);
-        if (!watch.alive() || !tellParent(kValueChanged))
-            return;
-    }
-    dismiss();
-}
-
-// The number
-
-CString CSliderButton::buddyText() const
-{
-    CString text;
-    const int length = ::GetWindowTextLengthW(m_buddy);
-    ::GetWindowTextW(m_buddy, text.GetBuffer(length), length + 1);
-    text.ReleaseBuffer();
-    return text;
-}
-
-void CSliderButton::setBuddyText(LPCTSTR text)
-{
-    ::SetWindowTextW(m_buddy, text);
-}
-
-void CSliderButton::SetSliderPos()
-{
-    const Positions steps{m_minimum, m_maximum};
-    const std::wstring shown(buddyText().Left(kBuddyText));
-    int position = 0;
-    if (m_type == SliderInteger) {
-        position = parseWhole(shown).value_or(m_minimum);
-    } else {
-        const Lifeline::Watch watch(m_lifeline);
-        std::wstring number;
-        m_utils.fromDisplay(number, shown);
-        if (!watch.alive() || !m_popup.m_hWnd)
-            return;
-        position = positionOf(parseReal(number).value_or(m_realLow), mappingOf(m_type),
-                              {m_realLow, m_realHigh}, steps);
-    }
-    m_popup.slider().SetPos(position);
-    m_popup.slider().Invalidate();
-}
-
-void CSliderButton::SetValue()
-{
-    if (!m_buddy || !m_popup.m_hWnd)
-        return;
-    const Lifeline::Watch watch(m_lifeline);
-    const int position = m_popup.slider().GetPos();
-    std::wstring text = std::to_wstring(position);
-    if (m_type != SliderInteger) {
-        const double value =
-            valueAt(position, mappingOf(m_type), {m_realLow, m_realHigh}, {m_minimum, m_maximum});
-        text.clear();
-        m_utils.toDisplay(text, formatReal(value, m_decimals));
-        if (!watch.alive())
-            return;
-    }
-    setBuddyText(text.c_str());
-    if (watch.alive())
-        tellParent(kValueChanged);
-}
-
-/// Whether the button still has its window afterwards.
-bool CSliderButton::tellParent(UINT message)
-{
-    const Lifeline::Watch watch(m_lifeline);
-    ::SendMessageW(::GetParent(m_buddy), message, reinterpret_cast<WPARAM>(m_buddy), 0);
-    return watch.alive() && m_hWnd;
 }
 
 // Pressed and released
@@ -279,6 +157,7 @@ void CSliderButton::SetPressed(bool pressed)
     m_pressed = pressed;
     if (!pressed) {
         m_watcher.reset();
+        m_options->bubble.hide();
         if (m_tracking)
             ::ReleaseCapture();
         m_tracking = m_dragging = false;
@@ -388,6 +267,35 @@ void CSliderButton::OnCaptureChanged(CWnd* wnd)
     CStatic::OnCaptureChanged(wnd);
 }
 
+BOOL CSliderButton::OnMouseWheel(UINT flags, short delta, CPoint point)
+{
+    if (!m_options->stepsByWheel)
+        return CStatic::OnMouseWheel(flags, delta, point);
+    turnWheel(delta);
+    return TRUE;
+}
+
+/// Away from the user is more. Wheels without notches tell of parts of one.
+void CSliderButton::turnWheel(int delta)
+{
+    if (!IsWindowEnabled())
+        return;
+    m_options->wheelRest += delta;
+    const int notches = m_options->wheelRest / WHEEL_DELTA;
+    m_options->wheelRest %= WHEEL_DELTA;
+    const bool fine = m_options->finelyByShift && ::GetKeyState(VK_SHIFT) < 0;
+    if (notches != 0)
+        stepBy(notches * (fine ? kFineStep : 1.0));
+}
+
+void CSliderButton::hearBuddyWheel()
+{
+    m_options->buddyWheel.reset();
+    if (m_options->stepsByWheel && ::IsWindow(m_buddy))
+        m_options->buddyWheel =
+            std::make_unique<BuddyWheel>(m_buddy, [this](int delta) { turnWheel(delta); });
+}
+
 // The tip
 
 void CSliderButton::enterTip()
@@ -456,6 +364,9 @@ bool CSliderButton::takesKey(const MSG& message)
     }
     if (message.wParam == VK_ESCAPE)
         cancelPopup();
+    else if (const int arrow = arrowStep(message.wParam);
+             arrow != 0 && m_options->finelyByShift && ::GetKeyState(VK_SHIFT) < 0)
+        stepBy(arrow * kFineStep);
     else if (movesSlider(message.wParam) && m_popup.m_hWnd)
         m_popup.slider().SendMessage(WM_KEYDOWN, message.wParam, message.lParam);
     else
@@ -493,46 +404,19 @@ BOOL CSliderButton::OnEraseBkgnd(CDC*)
 void CSliderButton::OnPaint()
 {
     BufferedPaint paint(*this);
-    CDC& dc = paint.dc();
     CRect client;
     GetClientRect(&client);
-    dc.FillSolidRect(&client, ::GetSysColor(COLOR_BTNFACE));
-    paintFace(dc, client);
-    paintArrow(dc, client);
-    if (::GetFocus() == m_hWnd) {
-        client.DeflateRect(1, 1);
-        dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
-        dc.SetBkColor(::GetSysColor(COLOR_WINDOW));
-        dc.DrawFocusRect(&client);
-    }
+    SliderButtonFace(m_hWnd, m_pressed).paint(paint.dc(), client);
 }
 
-void CSliderButton::paintFace(CDC& dc, const CRect& client)
-{
-    CThemeData& themes = CThemeData::getThemeData();
-    if (themes.IsAppThemed()) {
-        const int idle = IsWindowEnabled() ? PBS_NORMAL : PBS_DISABLED;
-        themes.drawBackground(dc, &client, m_hWnd, L"Button", m_pressed ? PBS_PRESSED : idle);
-        return;
-    }
-    const COLORREF highlight = ::GetSysColor(COLOR_BTNHIGHLIGHT);
-    const COLORREF shadow = ::GetSysColor(COLOR_BTNSHADOW);
-    dc.Draw3dRect(&client, m_pressed ? shadow : highlight, m_pressed ? highlight : shadow);
-}
+// Accessibility
 
-void CSliderButton::paintArrow(CDC& dc, const CRect& client)
+LRESULT CSliderButton::OnGetObject(WPARAM wParam, LPARAM lParam)
 {
-    const int width = client.Width();
-    const int middle = client.Height() / 2;
-    const int size = std::min(width - 5, middle - 2);
-    if (size <= 0)
-        return;
-    POINT arrow[] = {
-        {width - 3, middle}, {width - 3 - size, middle - size}, {width - 3 - size, middle + size}};
-    CBrush brush(::GetSysColor(IsWindowEnabled() ? COLOR_3DDKSHADOW : COLOR_GRAYTEXT));
-    CBrush* const oldBrush = dc.SelectObject(&brush);
-    CGdiObject* const oldPen = dc.SelectStockObject(NULL_PEN);
-    dc.Polygon(arrow, 3);
-    dc.SelectObject(static_cast<CPen*>(oldPen));
-    dc.SelectObject(oldBrush);
+    if (static_cast<LONG>(lParam) != OBJID_CLIENT)
+        return Default();
+    m_identity->window = m_hWnd;
+    m_identity->name = [this] { return labelBefore(m_buddy); };
+    m_identity->value = [this] { return std::wstring(buddyText()); };
+    return accessibleSlider(wParam, m_identity);
 }

@@ -7,7 +7,8 @@
 ///
 /// The user clicks the button and moves the slider, or presses, drags straight onto the thumb and lets go.
 /// The popup never takes the activation by itself: the arrow keys, Page Up and Down, Home and End of the
-/// button move the slider while it is open; Escape puts back the text from before.
+/// button move the slider while it is open; Escape puts back the text from before. Accessibility sees a
+/// slider with the name of the buddy's label and the buddy's text for its value.
 #pragma once
 
 #include <ovoui/export.h>
@@ -17,10 +18,18 @@
 
 #include <afxwin.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 class PopupWatcher;
+
+namespace ovoui::sliders
+{
+struct SliderIdentity;
+struct SliderNumbers;
+} // namespace ovoui::sliders
 
 /// The buddy's parent is sent kValueChanged whenever the slider has rewritten the buddy's text, and kReleased
 /// when the button is released, after the buddy got the focus; wParam is the buddy, lParam 0. It may destroy
@@ -62,9 +71,33 @@ public:
     /// Closes the popup and puts back the text that the buddy had when it opened.
     void cancelPopup();
 
+    // Off unless asked for
+
+    /// Maps numbers by functions of the host in place of the type's: how far a number lies from the low end
+    /// (0) to the high end (1), and the way back. Counts for every type but SliderInteger. False, and nothing
+    /// changes, when the numbers of the hundred steps neither rise nor fall throughout, or do not lead back
+    /// to their steps. Two empty functions bring the type's mapping back.
+    bool SetMapping(std::function<double(double number)> shareOf,
+                    std::function<double(double share)> numberAt);
+
+    /// Marks below the slider, from the next time on that the popup opens. Numbers beyond the ends have none.
+    void SetTicks(std::vector<double> numbers);
+
+    /// Whether the buddy's text is shown above the thumb while the popup is open.
+    void ShowBubble(bool show);
+
+    /// Whether the mouse wheel over the button or the buddy moves the number by a step of the slider.
+    void StepByWheel(bool step);
+
+    /// Whether Shift makes steps of the wheel and of the arrow keys ten times finer, though never finer than
+    /// the decimals.
+    void StepFinelyByShift(bool finely);
+
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     afx_msg void OnCaptureChanged(CWnd* wnd);
     afx_msg void OnDestroy();
     afx_msg void OnEnable(BOOL enable);
@@ -99,8 +132,16 @@ private:
     CString buddyText() const;
     void setBuddyText(LPCTSTR text);
     bool tellParent(UINT message);
-    void paintFace(CDC& dc, const CRect& client);
-    void paintArrow(CDC& dc, const CRect& client);
+    ovoui::sliders::SliderNumbers numbers() const;
+    bool machineText(std::wstring& text) const;
+    bool showText(const std::wstring& machine);
+    void stepBy(double steps);
+    void turnWheel(int delta);
+    void hearBuddyWheel();
+    void showTicks(const ovoui::sliders::SliderNumbers& numbers);
+    void updateBubble();
+
+    struct Options;
 
     CPopupSlider m_popup;
     HWND m_buddy = nullptr;
@@ -127,5 +168,7 @@ private:
     SliderButtonUtils& m_utils;
     CString m_textBefore;                    // what the buddy showed when the popup opened
     std::unique_ptr<PopupWatcher> m_watcher; // while the popup is open
+    std::unique_ptr<Options> m_options;
+    std::shared_ptr<ovoui::sliders::SliderIdentity> m_identity;
     Lifeline m_lifeline;
 };

@@ -1,11 +1,14 @@
 # Sliders: the slider button with its popup, the round and the wheel slider, decimal signs and list separators.
 set(sliders_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/AngleKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/CylinderDrag.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/CylinderPicture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/NumberText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SeparatorText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SliderDrag.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/core/SliderMapping.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/core/SliderMapping.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SliderNumbers.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/UnitText.cpp)
 
 if(NOT WIN32)
   add_library(ovoui_sliders_core STATIC ${sliders_core})
@@ -16,11 +19,20 @@ endif()
 
 target_sources(ovoui PRIVATE
   ${sliders_core}
+  ${CMAKE_CURRENT_LIST_DIR}/AccessibleSlider.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/AngleEdit.cpp
   ${CMAKE_CURRENT_LIST_DIR}/AngleSlider.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/AngleSliderKeys.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/BuddyWheel.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PopupSlider.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PopupSliderCtrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PopupWatcher.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RoundSlider.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Separators.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SliderBubble.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SliderButton.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SliderButtonFace.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SliderButtonPopup.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UnitNumbers.cpp
   ${CMAKE_CURRENT_LIST_DIR}/WheelSlider.cpp)
+target_link_libraries(ovoui PRIVATE oleacc)

@@ -1,5 +1,7 @@
 #include <ovoui/sliders/core/CylinderDrag.h>
 
+#include <ovoui/sliders/core/AngleKeys.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -47,22 +49,22 @@ void CylinderDrag::press(double under)
     m_grabOffset = under - m_position;
 }
 
-std::optional<double> CylinderDrag::move(double under)
+std::optional<double> CylinderDrag::move(double under, double snap)
 {
     if (!m_dragging)
         return std::nullopt;
-    const double angle = accepted(under - m_grabOffset);
+    const double angle = accepted(snapped(under - m_grabOffset, snap));
     if (angle == m_dragPosition)
         return std::nullopt;
     m_moved = true;
     return angle;
 }
 
-double CylinderDrag::release(double under)
+double CylinderDrag::release(double under, double snap)
 {
     m_dragging = false;
     const double nudge = m_moved ? 0.0 : under / kNudge;
-    m_position = accepted(under - m_grabOffset + nudge);
+    m_position = accepted(snapped(under - m_grabOffset + nudge, snap));
     return m_position;
 }
 

@@ -42,12 +42,16 @@ public:
 
     /// The angle to tell the parent when the pointer has come to the angle `under`, if that changes anything.
     /// It is shown when `track` is called with it afterwards.
-    std::optional<double> move(double under);
+    /// With a `snap` above 0 the angle is a multiple of it, here and in `release`.
+    std::optional<double> move(double under, double snap = 0);
     void track(double degrees) { m_dragPosition = degrees; }
 
     /// The button has gone up above `under`: commits the angle. A press without a move nudges it by a third
     /// of the angle pressed. Gives the angle to tell the parent.
-    double release(double under);
+    double release(double under, double snap = 0);
+
+    /// The user has chosen an angle in one step: commits it, as far as the turn allows.
+    void turnTo(double degrees) { m_position = accepted(degrees); }
 
     /// The drag is over without a word.
     void cancel() { m_dragging = false; }

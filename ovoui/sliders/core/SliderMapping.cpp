@@ -10,22 +10,6 @@ namespace ovoui::sliders
 namespace
 {
 
-/// How far `value` lies from the low end to the high end; 0 and 1 at the ends, NaN where there is no answer.
-double fractionOf(double value, Mapping mapping, const RealRange& range)
-{
-    if (mapping != Mapping::Linear && value <= 0)
-        value = range.low;
-    switch (mapping) {
-    case Mapping::Linear:
-        return (value - range.low) / (range.high - range.low);
-    case Mapping::Logarithmic:
-        return std::log(value / range.low) / std::log(range.high / range.low);
-    case Mapping::SquareRoot:
-        return (std::sqrt(value) - std::sqrt(range.low)) / (std::sqrt(range.high) - std::sqrt(range.low));
-    }
-    return std::numeric_limits<double>::quiet_NaN();
-}
-
 double mapped(double fraction, Mapping mapping, const RealRange& range)
 {
     switch (mapping) {
@@ -52,6 +36,27 @@ int saturated(std::int64_t number)
 
 } // namespace
 
+double fractionOf(double value, Mapping mapping, const RealRange& range)
+{
+    if (mapping != Mapping::Linear && value <= 0)
+        value = range.low;
+    switch (mapping) {
+    case Mapping::Linear:
+        return (value - range.low) / (range.high - range.low);
+    case Mapping::Logarithmic:
+        return std::log(value / range.low) / std::log(range.high / range.low);
+    case Mapping::SquareRoot:
+        return (std::sqrt(value) - std::sqrt(range.low)) / (std::sqrt(range.high) - std::sqrt(range.low));
+    }
+    return std::numeric_limits<double>::quiet_NaN();
+}
+
+double valueAtShare(double share, Mapping mapping, const RealRange& range)
+{
+    const double value = mapped(share, mapping, range);
+    return std::isfinite(value) ? value : range.low;
+}
+
 int positionOf(double value, Mapping mapping, const RealRange& range, const Positions& positions)
 {
     const double fraction = fractionOf(value, mapping, range);
@@ -68,8 +73,7 @@ double valueAt(int position, Mapping mapping, const RealRange& range, const Posi
         return range.low;
     const double fraction =
         (static_cast<double>(position) - positions.minimum) / static_cast<double>(extent(positions));
-    const double value = mapped(fraction, mapping, range);
-    return std::isfinite(value) ? value : range.low;
+    return valueAtShare(fraction, mapping, range);
 }
 
 int pageSize(const Positions& positions, int pages)

@@ -34,6 +34,12 @@ int positionOf(double value, Mapping mapping, const RealRange& range, const Posi
 /// lo + (hi - lo) t^2, which undoes `positionOf` only where lo is 0. What cannot be mapped gives the low end.
 double valueAt(int position, Mapping mapping, const RealRange& range, const Positions& positions);
 
+/// How far `value` lies from the low end to the high end: 0 and 1 at the ends, NaN where there is no answer.
+double fractionOf(double value, Mapping mapping, const RealRange& range);
+
+/// The number at a share of the way, as `valueAt` has it.
+double valueAtShare(double share, Mapping mapping, const RealRange& range);
+
 /// What one page of the slider is when `pages` of them make the whole: the whole-number quotient. Without
 /// pages it is the whole.
 int pageSize(const Positions& positions, int pages);

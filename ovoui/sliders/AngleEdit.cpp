@@ -1,0 +1,77 @@
+#include <ovoui/sliders/AngleEdit.h>
+
+#include <ovoui/sliders/core/NumberText.h>
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace ovoui::sliders
+{
+
+BEGIN_MESSAGE_MAP(AngleEdit, CEdit)
+    ON_WM_GETDLGCODE()
+    ON_WM_KEYDOWN()
+    ON_WM_KILLFOCUS()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr int kCharacters = 7; // room for "-360.25"
+
+} // namespace
+
+void AngleEdit::open(CWnd& over, wchar_t first, Done done)
+{
+    CRect client;
+    over.GetClientRect(&client);
+    CClientDC dc(&over);
+    CGdiObject* const old = dc.SelectStockObject(DEFAULT_GUI_FONT);
+    const CSize digit = dc.GetTextExtent(L"0", 1);
+    dc.SelectObject(static_cast<CFont*>(old));
+    const CSize size(std::min<int>(digit.cx * kCharacters, client.Width()),
+                     std::min<int>(digit.cy + 4, client.Height()));
+    const CPoint corner((client.Width() - size.cx) / 2, (client.Height() - size.cy) / 2);
+    if (!Create(WS_CHILD | WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL | ES_CENTER, CRect(corner, size), &over,
+                1))
+        return;
+    m_done = std::move(done);
+    SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))), FALSE);
+    SetWindowText(std::wstring(1, first).c_str());
+    SetSel(1, 1);
+    SetFocus();
+}
+
+UINT AngleEdit::OnGetDlgCode()
+{
+    return CEdit::OnGetDlgCode() | DLGC_WANTALLKEYS;
+}
+
+void AngleEdit::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (key == VK_RETURN || key == VK_ESCAPE)
+        finish(key == VK_RETURN);
+    else
+        CEdit::OnKeyDown(key, repeat, flags);
+}
+
+void AngleEdit::OnKillFocus(CWnd* other)
+{
+    CEdit::OnKillFocus(other);
+    finish(true);
+}
+
+/// Destroying the window takes the focus from it: the second time there is nothing left to do.
+void AngleEdit::finish(bool accept)
+{
+    const Done done = std::exchange(m_done, nullptr);
+    if (!done)
+        return;
+    CString text;
+    GetWindowText(text);
+    DestroyWindow();
+    done(accept ? parseReal(std::wstring(text)) : std::nullopt);
+}
+
+} // namespace ovoui::sliders

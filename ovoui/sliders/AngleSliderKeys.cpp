@@ -1,0 +1,157 @@
+// Keyboard, wheel and accessibility of the angle sliders.
+#include <ovoui/sliders/AngleSlider.h>
+
+#include <ovoui/sliders/AccessibleSlider.h>
+#include <ovoui/sliders/AngleSliderOptions.h>
+#include <ovoui/sliders/core/AngleKeys.h>
+#include <ovoui/sliders/core/CylinderDrag.h>
+
+#include <oleacc.h>
+
+#include <cmath>
+#include <optional>
+#include <string>
+
+using namespace ovoui::sliders;
+
+namespace
+{
+
+std::optional<AngleKey> angleKey(UINT key)
+{
+    switch (key) {
+    case VK_LEFT:
+    case VK_DOWN:
+        return AngleKey::Less;
+    case VK_RIGHT:
+    case VK_UP:
+        return AngleKey::More;
+    case VK_NEXT:
+        return AngleKey::PageLess;
+    case VK_PRIOR:
+        return AngleKey::PageMore;
+    case VK_HOME:
+        return AngleKey::Zero;
+    default:
+        return std::nullopt;
+    }
+}
+
+bool beginsNumber(UINT character)
+{
+    return (character >= L'0' && character <= L'9') || character == L'-' || character == L'.';
+}
+
+bool isHeld(int key)
+{
+    return ::GetKeyState(key) < 0;
+}
+
+} // namespace
+
+void CAngleSlider::UseKeyboard(bool use)
+{
+    m_options->keyboard = use;
+    if (m_hWnd)
+        Invalidate(FALSE);
+}
+
+void CAngleSlider::SetSnap(double degrees)
+{
+    m_options->snap = degrees;
+}
+
+double CAngleSlider::snapNow() const
+{
+    return m_options->snap > 0 && isHeld(VK_SHIFT) ? m_options->snap : 0;
+}
+
+bool CAngleSlider::showsFocus() const
+{
+    return m_options->keyboard && ::GetFocus() == m_hWnd;
+}
+
+/// The user has chosen an angle in one step: commits it, paints it and tells the parent.
+void CAngleSlider::turnTo(double degrees)
+{
+    const double before = m_drag->position();
+    m_drag->turnTo(degrees);
+    if (m_drag->position() == before)
+        return;
+    Invalidate(FALSE);
+    announceValue(m_hWnd);
+    tellParent(SB_THUMBPOSITION, m_drag->position());
+}
+
+UINT CAngleSlider::OnGetDlgCode()
+{
+    const UINT code = CWnd::OnGetDlgCode();
+    return m_options->keyboard ? code | DLGC_WANTARROWS | DLGC_WANTCHARS : code;
+}
+
+void CAngleSlider::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    const std::optional<AngleKey> meaning = m_options->keyboard ? angleKey(key) : std::nullopt;
+    if (!meaning || m_drag->dragging())
+        CWnd::OnKeyDown(key, repeat, flags);
+    else
+        turnTo(angleAfter(*meaning, isHeld(VK_CONTROL), m_drag->position()));
+}
+
+void CAngleSlider::OnChar(UINT character, UINT repeat, UINT flags)
+{
+    if (!m_options->keyboard || !beginsNumber(character) || m_drag->dragging()) {
+        CWnd::OnChar(character, repeat, flags);
+        return;
+    }
+    m_options->edit.open(*this, static_cast<wchar_t>(character), [this](std::optional<double> typed) {
+        const Lifeline::Watch watch(m_lifeline);
+        if (::GetFocus() == nullptr)
+            SetFocus(); // the edit control had it
+        if (watch.alive() && m_hWnd && typed && std::isfinite(*typed))
+            turnTo(*typed);
+    });
+}
+
+BOOL CAngleSlider::OnMouseWheel(UINT flags, short delta, CPoint point)
+{
+    if (!m_options->keyboard || m_drag->dragging())
+        return CWnd::OnMouseWheel(flags, delta, point);
+    m_options->wheelRest += delta;
+    const int notches = m_options->wheelRest / WHEEL_DELTA;
+    m_options->wheelRest %= WHEEL_DELTA;
+    const double step = angleAfter(AngleKey::More, isHeld(VK_CONTROL), 0);
+    if (notches != 0)
+        turnTo(m_drag->position() + notches * step);
+    return TRUE;
+}
+
+void CAngleSlider::OnSetFocus(CWnd* other)
+{
+    CWnd::OnSetFocus(other);
+    if (m_options->keyboard)
+        Invalidate(FALSE);
+}
+
+void CAngleSlider::OnKillFocus(CWnd* other)
+{
+    CWnd::OnKillFocus(other);
+    if (m_options->keyboard)
+        Invalidate(FALSE);
+}
+
+void CAngleSlider::OnDestroy()
+{
+    m_identity->window = nullptr;
+    CWnd::OnDestroy();
+}
+
+LRESULT CAngleSlider::OnGetObject(WPARAM wParam, LPARAM lParam)
+{
+    if (static_cast<LONG>(lParam) != OBJID_CLIENT)
+        return Default();
+    m_identity->window = m_hWnd;
+    m_identity->name = [this] { return labelBefore(m_hWnd); };
+    m_identity->value = [this] { return std::to_wstring(std::lround(m_drag->shown())); };
+    return accessibleSlider(wParam, m_identity);
+}

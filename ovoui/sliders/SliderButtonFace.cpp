@@ -1,0 +1,66 @@
+#include <ovoui/sliders/SliderButtonFace.h>
+
+#include <ovoui/frame/ThemeData.h>
+
+#include <vssym32.h>
+
+#include <algorithm>
+
+namespace ovoui::sliders
+{
+
+SliderButtonFace::SliderButtonFace(HWND wnd, bool pressed)
+    : m_wnd(wnd)
+    , m_pressed(pressed)
+    , m_enabled(::IsWindowEnabled(wnd) != FALSE)
+{
+}
+
+void SliderButtonFace::paint(CDC& dc, const CRect& client) const
+{
+    dc.FillSolidRect(&client, ::GetSysColor(COLOR_BTNFACE));
+    paintBack(dc, client);
+    paintArrow(dc, client);
+    if (::GetFocus() == m_wnd)
+        paintFocus(dc, client);
+}
+
+void SliderButtonFace::paintBack(CDC& dc, const CRect& client) const
+{
+    CThemeData& themes = CThemeData::getThemeData();
+    if (themes.IsAppThemed()) {
+        const int idle = m_enabled ? PBS_NORMAL : PBS_DISABLED;
+        themes.drawBackground(dc, &client, m_wnd, L"Button", m_pressed ? PBS_PRESSED : idle);
+        return;
+    }
+    const COLORREF highlight = ::GetSysColor(COLOR_BTNHIGHLIGHT);
+    const COLORREF shadow = ::GetSysColor(COLOR_BTNSHADOW);
+    dc.Draw3dRect(&client, m_pressed ? shadow : highlight, m_pressed ? highlight : shadow);
+}
+
+void SliderButtonFace::paintArrow(CDC& dc, const CRect& client) const
+{
+    const int width = client.Width();
+    const int middle = client.Height() / 2;
+    const int size = std::min(width - 5, middle - 2);
+    if (size <= 0)
+        return;
+    POINT arrow[] = {
+        {width - 3, middle}, {width - 3 - size, middle - size}, {width - 3 - size, middle + size}};
+    CBrush brush(::GetSysColor(m_enabled ? COLOR_3DDKSHADOW : COLOR_GRAYTEXT));
+    CBrush* const oldBrush = dc.SelectObject(&brush);
+    CGdiObject* const oldPen = dc.SelectStockObject(NULL_PEN);
+    dc.Polygon(arrow, 3);
+    dc.SelectObject(static_cast<CPen*>(oldPen));
+    dc.SelectObject(oldBrush);
+}
+
+void SliderButtonFace::paintFocus(CDC& dc, CRect client)
+{
+    client.DeflateRect(1, 1);
+    dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+    dc.SetBkColor(::GetSysColor(COLOR_WINDOW));
+    dc.DrawFocusRect(&client);
+}
+
+} // namespace ovoui::sliders

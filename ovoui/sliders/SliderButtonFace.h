@@ -1,0 +1,28 @@
+/// Not exported. What a slider button looks like.
+#pragma once
+
+#include <afxwin.h>
+
+namespace ovoui::sliders
+{
+
+/// Paints the button of a window with the visual styles of that window, or without them.
+class SliderButtonFace
+{
+public:
+    SliderButtonFace(HWND wnd, bool pressed);
+
+    /// All of `client`, with a focus mark when the window has the focus.
+    void paint(CDC& dc, const CRect& client) const;
+
+private:
+    void paintBack(CDC& dc, const CRect& client) const;
+    void paintArrow(CDC& dc, const CRect& client) const;
+    static void paintFocus(CDC& dc, CRect client);
+
+    const HWND m_wnd;
+    const bool m_pressed;
+    const bool m_enabled;
+};
+
+} // namespace ovoui::sliders
