@@ -74,21 +74,27 @@ LRESULT CALLBACK COVOListCellTips::listProcedure(HWND window, UINT message, WPAR
     auto* const self = reinterpret_cast<COVOListCellTips*>(tips);
     if (message == WM_NCDESTROY)
         self->Detach();
-    else if (message == WM_MOUSEMOVE)
-        self->pointerAt(CPoint(lParam));
     else if (endsTip(message))
         self->hide();
     if (message == WM_MOUSELEAVE)
         self->m_cell = {};
-    return ::IsWindow(window) ? ::DefSubclassProc(window, message, wParam, lParam) : 0;
+    const std::weak_ptr<const bool> alive = self->m_alive;
+    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+    // Last, since the host is called, who may take subclasses away.
+    if (message == WM_MOUSEMOVE && !alive.expired() && self->m_window == window)
+        self->pointerAt(CPoint(lParam));
+    return result;
 }
 
 void COVOListCellTips::pointerAt(CPoint point)
 {
     LVHITTESTINFO hit{};
     hit.pt = point;
+    const std::weak_ptr<const bool> alive = m_alive;
+    const HWND window = m_window;
+    // The platform may ask the host for the label's text, who may destroy list and tips.
     const Cell cell = m_list->SubItemHitTest(&hit) == -1 ? Cell{} : Cell{hit.iItem, hit.iSubItem};
-    if (cell == m_cell)
+    if (alive.expired() || m_window != window || cell == m_cell)
         return;
     hide();
     m_cell = cell;
@@ -98,14 +104,17 @@ void COVOListCellTips::pointerAt(CPoint point)
         show(cell);
 }
 
-/// Empty when the cell has room for its text. The host may be asked for the text and destroy the list then.
+/// Empty when the cell has room for its text. The host may be asked for the text, and change or destroy the
+/// list then.
 std::wstring COVOListCellTips::cutText(const Cell& cell, CRect& textPlace) const
 {
     COVOListCtrlEx& list = *m_list;
     const HWND window = m_window;
     CellText reader;
     const std::wstring text = reader(list, cell.item, cell.column);
-    if (!isAlive(&list, window))
+    LVCOLUMN known{};
+    known.mask = LVCF_WIDTH;
+    if (!isAlive(&list, window) || cell.item >= list.GetItemCount() || !list.GetColumn(cell.column, &known))
         return {};
     const bool isLabel = cell.column == 0;
     if (isLabel)
@@ -125,7 +134,11 @@ std::wstring COVOListCellTips::cutText(const Cell& cell, CRect& textPlace) const
 void COVOListCellTips::show(const Cell& cell)
 {
     CRect place;
-    m_text = cutText(cell, place);
+    const std::weak_ptr<const bool> alive = m_alive;
+    const std::wstring text = cutText(cell, place);
+    if (alive.expired())
+        return;
+    m_text = text;
     if (m_text.empty() || !m_list || !createTip())
         return;
     TOOLINFOW tool = toolOf(m_window);

@@ -130,7 +130,10 @@ LRESULT CALLBACK COVOListCopier::listProcedure(HWND window, UINT message, WPARAM
     const bool wantsCopy = message == WM_KEYDOWN && (wParam == L'C' || wParam == VK_INSERT) &&
                            ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_SHIFT) >= 0 &&
                            ::GetKeyState(VK_MENU) >= 0;
-    if (wantsCopy)
+    const std::weak_ptr<const bool> alive = self->m_alive;
+    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+    // Last, since the host is called, who may take subclasses away.
+    if (wantsCopy && !alive.expired() && self->m_window == window)
         copySelectedRows(*self->m_list, self->m_headings);
-    return ::IsWindow(window) ? ::DefSubclassProc(window, message, wParam, lParam) : 0;
+    return result;
 }

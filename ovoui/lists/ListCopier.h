@@ -8,6 +8,8 @@
 
 #include <afxcmn.h>
 
+#include <memory>
+
 /// Copies the selected rows as text with tabs and as an HTML table, the columns in the order in which they
 /// are shown, with the headings above them if `headings`. False when no row is selected or the clipboard
 /// cannot be had: then the clipboard keeps what it has. Works with any list in report view.
@@ -33,4 +35,5 @@ private:
     CListCtrl* m_list = nullptr;
     HWND m_window = nullptr;
     bool m_headings = false;
+    std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true);
 };

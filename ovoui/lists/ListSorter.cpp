@@ -4,6 +4,7 @@
 #include <ovoui/lists/RowData.h>
 #include <ovoui/lists/core/NumberText.h>
 #include <ovoui/lists/core/RowOrder.h>
+#include <ovoui/lists/core/SortKeys.h>
 
 #include <commctrl.h>
 #include <oleauto.h>
@@ -24,33 +25,68 @@ wchar_t localeSign(LCTYPE what, wchar_t otherwise)
                                                                                                 : otherwise;
 }
 
+/// Calls `take(text)` with the text of each row, until the host, who may be asked for it, destroys the list.
+template <class Take>
+void eachText(const COVOListCtrlEx& list, int column, const Take& take)
+{
+    CellText reader;
+    const HWND window = list.m_hWnd;
+    const int count = list.GetItemCount();
+    for (int row = 0; row < count; ++row) {
+        const LPCWSTR text = reader(list, row, column);
+        if (!isAlive(&list, window))
+            return;
+        take(text);
+    }
+}
+
 /// What rows are compared by, made once for each row.
 template <class Key, class Make>
 std::vector<Key> keysOf(const COVOListCtrlEx& list, int column, Make make)
 {
-    CellText text;
-    const int count = list.GetItemCount();
     std::vector<Key> keys;
-    keys.reserve(static_cast<std::size_t>(count));
-    for (int row = 0; row < count; ++row)
-        keys.push_back(make(text(list, row, column)));
+    keys.reserve(static_cast<std::size_t>(list.GetItemCount()));
+    eachText(list, column, [&](LPCWSTR text) { keys.push_back(make(text)); });
     return keys;
 }
 
-/// Bytes that sort as the text does in the user's locale.
-std::string sortKeyOf(LPCWSTR text)
+/// Bytes that sort as texts do in the user's locale.
+class LocaleKeys
 {
-    constexpr int kUsual = 512;
-    char usual[kUsual];
-    const auto map = [text](char* room, int size) {
+public:
+    /// Until the next call.
+    std::string_view operator()(LPCWSTR text)
+    {
+        int size = map(text);
+        if (size == 0) {
+            m_room.resize(static_cast<std::size_t>(
+                std::max(1, ::LCMapStringW(LOCALE_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, text, -1,
+                                           nullptr, 0))));
+            size = map(text);
+        }
+        return {m_room.data(), static_cast<std::size_t>(size)};
+    }
+
+private:
+    /// 0 when there is not room enough.
+    int map(LPCWSTR text)
+    {
         return ::LCMapStringW(LOCALE_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, text, -1,
-                              reinterpret_cast<LPWSTR>(room), size);
-    };
-    if (const int size = map(usual, kUsual))
-        return {usual, static_cast<std::size_t>(size)};
-    std::string key(static_cast<std::size_t>(map(nullptr, 0)), '\0');
-    map(key.data(), static_cast<int>(key.size()));
-    return key;
+                              reinterpret_cast<LPWSTR>(m_room.data()), static_cast<int>(m_room.size()));
+    }
+
+    std::vector<char> m_room = std::vector<char>(512);
+};
+
+std::vector<int> orderByLocale(const COVOListCtrlEx& list, int column, bool ascending)
+{
+    constexpr std::size_t kUsualKey = 32; // bytes
+    LocaleKeys keyOf;
+    SortKeys keys;
+    const auto count = static_cast<std::size_t>(list.GetItemCount());
+    keys.reserve(count, count * kUsualKey);
+    eachText(list, column, [&](LPCWSTR text) { keys.add(keyOf(text)); });
+    return keys.order(ascending);
 }
 
 double dateIn(LPCWSTR text)
@@ -149,8 +185,9 @@ bool COVOListSorter::Sort(int column, bool ascending)
     COVOListCtrlEx& list = *m_list;
     const HWND window = m_window;
     const int count = list.GetItemCount();
+    const std::weak_ptr<const bool> alive = m_alive;
     const std::vector<int> order = orderOf(column, ascending);
-    if (!isAlive(&list, window) || list.GetItemCount() != count || m_list != &list)
+    if (alive.expired() || !isAlive(&list, window) || list.GetItemCount() != count || m_list != &list)
         return false;
     reorderRows(list, order);
     m_column = column;
@@ -177,7 +214,7 @@ std::vector<int> COVOListSorter::orderOf(int column, bool ascending) const
     case Kind::Text:
         break;
     }
-    return orderBy(keysOf<std::string>(*m_list, column, &sortKeyOf), ascending);
+    return orderByLocale(*m_list, column, ascending);
 }
 
 /// The host's comparison may empty or destroy the list: from then on all rows are equal.
@@ -196,19 +233,20 @@ std::vector<int> COVOListSorter::orderByHost(int column, bool ascending) const
     });
 }
 
+/// The parent hears of each change, and may destroy list and sorter.
 void COVOListSorter::showArrow()
 {
-    CHeaderCtrl* const header = m_list->GetHeaderCtrl();
-    if (!header)
-        return;
-    for (int i = 0; i < header->GetItemCount(); ++i) {
+    const HWND header = ListView_GetHeader(m_window);
+    const int sorted = m_column;
+    const int arrow = m_ascending ? HDF_SORTUP : HDF_SORTDOWN;
+    for (int i = 0; i < Header_GetItemCount(header); ++i) {
         HDITEM item{};
         item.mask = HDI_FORMAT;
-        if (!header->GetItem(i, &item))
+        if (!Header_GetItem(header, i, &item))
             continue;
-        item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
-        if (i == m_column)
-            item.fmt |= m_ascending ? HDF_SORTUP : HDF_SORTDOWN;
-        header->SetItem(i, &item);
+        const int before = item.fmt;
+        item.fmt = (before & ~(HDF_SORTUP | HDF_SORTDOWN)) | (i == sorted ? arrow : 0);
+        if (item.fmt != before)
+            Header_SetItem(header, i, &item);
     }
 }

@@ -31,8 +31,7 @@ public:
     };
 
     /// Negative when the first row comes first, 0 when both are equal. Rows are given by their present
-    /// indices. It may throw, or empty or destroy the list: then nothing is sorted. It must not destroy the
-    /// sorter.
+    /// indices. It may throw, or empty or destroy the list: then nothing is sorted.
     using Compare = std::function<int(COVOListCtrlEx& list, int row, int other)>;
 
     COVOListSorter();

@@ -10,6 +10,7 @@ set(lists_core
   ${CMAKE_CURRENT_LIST_DIR}/core/NumberText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/RowLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ShortText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SortKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TableText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TextHistory.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TextSearch.cpp)
