@@ -50,14 +50,14 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Target, CWnd)
-    ON_COMMAND(100, OnOne)
-    ON_COMMAND_RANGE(200, 205, OnRange)
-    ON_COMMAND_EX(300, OnEx)
-    ON_COMMAND_EX_RANGE(400, 65535, OnEx)
-    ON_UPDATE_COMMAND_UI(100, OnUpdateOne)
-    ON_BN_CLICKED(50, OnClicked)
-    ON_NOTIFY(NM_CLICK, 60, OnNotifyOne)
-    ON_NOTIFY_EX_RANGE(NM_RCLICK, 60, 70, OnNotifyMany)
+    ON_COMMAND(100, &Target::OnOne)
+    ON_COMMAND_RANGE(200, 205, &Target::OnRange)
+    ON_COMMAND_EX(300, &Target::OnEx)
+    ON_COMMAND_EX_RANGE(400, 65535, &Target::OnEx)
+    ON_UPDATE_COMMAND_UI(100, &Target::OnUpdateOne)
+    ON_BN_CLICKED(50, &Target::OnClicked)
+    ON_NOTIFY(NM_CLICK, 60, &Target::OnNotifyOne)
+    ON_NOTIFY_EX_RANGE(NM_RCLICK, 60, 70, &Target::OnNotifyMany)
 END_MESSAGE_MAP()
 
 LRESULT menuCommand(CWnd& wnd, UINT id)

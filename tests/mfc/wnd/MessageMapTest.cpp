@@ -41,9 +41,9 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Base, CWnd)
-    ON_MESSAGE(kFirst, OnFirst)
-    ON_MESSAGE(kShared, OnShared)
-    ON_MESSAGE(kShared, OnSharedAgain)
+    ON_MESSAGE(kFirst, &Base::OnFirst)
+    ON_MESSAGE(kShared, &Base::OnShared)
+    ON_MESSAGE(kShared, &Base::OnSharedAgain)
 END_MESSAGE_MAP()
 
 class Derived : public Base
@@ -89,9 +89,9 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Derived, Base)
-    ON_MESSAGE(kShared, OnShared)
-    ON_MESSAGE(kThrows, OnThrows)
-    ON_REGISTERED_MESSAGE(s_registered, OnRegistered)
+    ON_MESSAGE(kShared, &Derived::OnShared)
+    ON_MESSAGE(kThrows, &Derived::OnThrows)
+    ON_REGISTERED_MESSAGE(s_registered, &Derived::OnRegistered)
     ON_WM_MOVE()
     ON_WM_SIZE()
     ON_WM_MOUSEMOVE()

@@ -38,8 +38,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Child, CButton)
-    ON_CONTROL_REFLECT_EX(BN_CLICKED, OnClickedHere)
-    ON_NOTIFY_REFLECT_EX(NM_CLICK, OnNotifyHere)
+    ON_CONTROL_REFLECT_EX(BN_CLICKED, &Child::OnClickedHere)
+    ON_NOTIFY_REFLECT_EX(NM_CLICK, &Child::OnNotifyHere)
     ON_WM_CTLCOLOR_REFLECT()
 END_MESSAGE_MAP()
 
@@ -69,8 +69,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(Parent, CWnd)
-    ON_BN_CLICKED(7, OnClicked)
-    ON_NOTIFY(NM_CLICK, 7, OnNotifyClick)
+    ON_BN_CLICKED(7, &Parent::OnClicked)
+    ON_NOTIFY(NM_CLICK, 7, &Parent::OnNotifyClick)
 END_MESSAGE_MAP()
 
 class ColouringParent : public Parent
