@@ -64,11 +64,8 @@ TEST(MessageBoxText, CtrlCCopiesTheWholeMessageWhenNothingIsSelected)
 {
     emptyClipboard();
     auto copying = whenOpen()
-                       .holding(VK_CONTROL)
-                       .key('C')
-                       .letGo(VK_CONTROL)
-                       .waitFor("the text on the clipboard",
-                                [] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE; })
+                       .chordUntil("the text on the clipboard", VK_CONTROL, 'C',
+                                   [] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE; })
                        .key(VK_ESCAPE)
                        .start();
     show({.text = L"oak\nelm"});
@@ -86,11 +83,8 @@ TEST(MessageBoxText, CtrlCCopiesTheSelectionWhereverTheFocusIs)
                                    ::SetFocus(textControl(openBox()));
                                ::SendMessageW(textControl(openBox()), EM_SETSEL, 4, 7);
                            })
-                           .holding(VK_CONTROL)
-                           .key('C')
-                           .letGo(VK_CONTROL)
-                           .waitFor("the text on the clipboard",
-                                    [] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE; })
+                           .chordUntil("the text on the clipboard", VK_CONTROL, 'C',
+                                       [] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE; })
                            .key(VK_ESCAPE)
                            .start();
         show({.text = L"oak elm ash"});

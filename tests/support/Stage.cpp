@@ -15,7 +15,11 @@ namespace
 constexpr int kGlideStep = 6; // pixels; more than a drag needs to begin takes a few of them
 constexpr int kGlideStepsMost = 12;
 constexpr Stage::Limit kInputLimit{30000};
+constexpr Stage::Limit kPressAgain = 3s;
+constexpr int kChordAttempts = 10;
 constexpr Stage::Limit kMoveAgain{250};
+constexpr Stage::Limit kPressAgain{3000};
+constexpr int kChordAttempts = 10;
 
 CPoint pointer()
 {
@@ -59,6 +63,20 @@ void Stage::waitFor(const std::string& what, const std::function<bool()>& condit
 {
     if (!holdsWithin(condition, limit))
         throw std::runtime_error("waited in vain for " + what);
+}
+
+void Stage::chordUntil(const std::string& what, WORD held, WORD virtualKey,
+                       const std::function<bool()>& condition)
+{
+    for (int attempt = 0; attempt < kChordAttempts; ++attempt) {
+        keyDown(held);
+        keyDown(virtualKey);
+        keyUp(virtualKey);
+        keyUp(held);
+        if (holdsWithin(condition, kPressAgain))
+            return;
+    }
+    throw std::runtime_error("waited in vain for " + what);
 }
 
 // Input counts as taken when the thread with the windows looks for messages and none of it is left in its

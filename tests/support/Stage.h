@@ -29,6 +29,10 @@ public:
     void keyUp(WORD virtualKey);
     void type(const std::wstring& text);
 
+    /// Presses a key while another is held, until the condition holds.
+    void chordUntil(const std::string& what, WORD held, WORD virtualKey,
+                    const std::function<bool()>& condition);
+
     /// Waits until the condition holds; it is evaluated on the thread with the windows. Throws
     /// std::runtime_error with the words of `what` when it does not in time.
     void waitFor(const std::string& what, const std::function<bool()>& condition, Limit limit);

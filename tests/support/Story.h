@@ -96,6 +96,13 @@ public:
         return tell("type", [=](Stage& stage) { stage.type(text); });
     }
 
+    /// Presses a key while another is held, and again as long as nothing comes of it: on a busy machine the
+    /// display can report late that nothing is held.
+    auto chordUntil(std::string what, WORD held, WORD virtualKey, std::function<bool()> condition)
+    {
+        return tell(what, [=](Stage& stage) { stage.chordUntil(what, held, virtualKey, condition); });
+    }
+
     // Looking.
     /// Waits until the condition holds. When it does not in time, the test fails with the words of `what`,
     /// and the rest of the story is not acted.
