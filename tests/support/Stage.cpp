@@ -15,8 +15,6 @@ namespace
 constexpr int kGlideStep = 6; // pixels; more than a drag needs to begin takes a few of them
 constexpr int kGlideStepsMost = 12;
 constexpr Stage::Limit kInputLimit{30000};
-constexpr Stage::Limit kPressAgain = 3s;
-constexpr int kChordAttempts = 10;
 constexpr Stage::Limit kMoveAgain{250};
 constexpr Stage::Limit kPressAgain{3000};
 constexpr int kChordAttempts = 10;
