@@ -337,6 +337,52 @@ TEST_F(PickerPaint, OnAShadedTabTheMarkersGiveBackItsPattern)
     frame.DestroyWindow();
 }
 
+// What a drag costs
+
+namespace
+{
+
+int g_allocations = 0;
+
+void* countedNew(std::size_t size)
+{
+    ++g_allocations;
+    return ::operator new(size);
+}
+
+} // namespace
+
+TEST_F(PickerPaint, ADragOfAThousandMovesAllocatesNothingAndLosesNothing)
+{
+    open();
+    const CPoint centre = picker->centre();
+    const double radius = picker->outer() * 0.9;
+    const auto moveTo = [&](int step) {
+        const Angle angle = Angle::degrees(step * 7.3);
+        const int x = centre.x + static_cast<int>(std::lround(radius * angle.cos()));
+        const int y = centre.y + static_cast<int>(std::lround(radius * angle.sin()));
+        picker->SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(x, y));
+        picker->UpdateWindow();
+    };
+    picker->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON,
+                        MAKELPARAM(centre.x, centre.y - static_cast<int>(radius)));
+    picker->told.reserve(2000);
+    moveTo(0);
+
+    const ImportPatch counting(L"ovoui.dll", "_Znwy", reinterpret_cast<void*>(&countedNew));
+    const GdiCounter gdi;
+    g_allocations = 0;
+    for (int step = 1; step <= 1000; ++step)
+        moveTo(step);
+    EXPECT_EQ(g_allocations, 0);
+    EXPECT_LE(gdi.grown(), 0);
+    EXPECT_GT(picker->told.size(), 1000u);
+    picker->DestroyWindow();
+    g_allocations = 0;
+    picker->createColPickerDlgBase();
+    EXPECT_GT(g_allocations, 0) << "it does count";
+}
+
 // Leaks
 
 TEST_F(PickerPaint, NothingIsLost)

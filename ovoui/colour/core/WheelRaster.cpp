@@ -43,16 +43,12 @@ constexpr std::array<EdgeColours, 6> kEdges{{{0xFFFF0000, 0, true},
 /// Bytes with a fraction, as whole numbers: fast, and exact enough to tell when they are in doubt.
 constexpr int kFractionBits = 20;
 constexpr std::int32_t kOne = 1 << kFractionBits;
+/// The sums made of them are off by less than a step; these many steps from the next byte they are in doubt.
+constexpr std::int32_t kDoubtfulSteps = 4;
 
 std::int32_t fixedPoint(double value)
 {
-    return static_cast<std::int32_t>(std::lround(value * kOne));
-}
-
-/// Whether cutting the fraction off could go either way.
-std::uint32_t inDoubt(std::int32_t value)
-{
-    return ((static_cast<std::uint32_t>(value) + 2) & (kOne - 1)) <= 4;
+    return static_cast<std::int32_t>(value * kOne + (value < 0 ? -0.5 : 0.5));
 }
 
 struct Components
@@ -62,20 +58,24 @@ struct Components
     std::int32_t blue;
 };
 
-/// The pixels of a row from the lightness of each column. True when one is in doubt.
+/// The pixels of a row from the lightness of each column, which is kDoubtfulSteps too high, so that what is
+/// in doubt has the smallest fractions. True when one is.
 inline bool shade(std::uint32_t* pixels, const std::int32_t* lightness, int count, const Components& add)
 {
-    std::uint32_t doubt = 0;
+    constexpr std::int32_t kFraction = kOne - 1;
+    std::int32_t doubt = 0; // becomes negative
     for (int i = 0; i < count; ++i) {
         const std::int32_t red = lightness[i] + add.red;
         const std::int32_t green = lightness[i] + add.green;
         const std::int32_t blue = lightness[i] + add.blue;
-        pixels[i] = kOpaque | static_cast<std::uint32_t>(red >> kFractionBits) << 16 |
-                    static_cast<std::uint32_t>(green >> kFractionBits) << 8 |
-                    static_cast<std::uint32_t>(blue >> kFractionBits);
-        doubt |= inDoubt(red) | inDoubt(green) | inDoubt(blue);
+        pixels[i] = kOpaque | static_cast<std::uint32_t>((red >> (kFractionBits - 16) & 0xFF0000) |
+                                                         (green >> (kFractionBits - 8) & 0xFF00) |
+                                                         blue >> kFractionBits);
+        doubt |= (red & kFraction) - 2 * kDoubtfulSteps;
+        doubt |= (green & kFraction) - 2 * kDoubtfulSteps;
+        doubt |= (blue & kFraction) - 2 * kDoubtfulSteps;
     }
-    return doubt != 0;
+    return doubt < 0;
 }
 
 } // namespace
@@ -88,7 +88,7 @@ WheelRaster::WheelRaster(const PixelRect& wheel)
     const int columns = std::max(0, m_triangle.rect().width());
     m_lightness.reserve(static_cast<std::size_t>(columns));
     for (int i = 0; i < columns; ++i)
-        m_lightness.push_back(fixedPoint(255.0 * i / columns));
+        m_lightness.push_back(fixedPoint(255.0 * i / columns) + kDoubtfulSteps);
 }
 
 // The ring
@@ -152,14 +152,15 @@ void WheelRaster::drawRun(std::uint32_t* row, const Run& run) const
         const double distance = outside * outside + beyond * beyond;
         if (distance > furthest + doubt)
             continue;
-        const double part = nearest / length;
+        const double part = length > 0 ? nearest / length : 0;
         const double level = 255 * (colours.rising ? part : 1 - part) + 0.5;
-        const double fraction = level - std::floor(level);
+        const auto byte = static_cast<std::uint32_t>(level);
+        const double fraction = level - byte;
         std::uint32_t& pixel = row[x - m_wheel.left];
         if (outside < kDoubt || distance > furthest - doubt || fraction < kDoubt || fraction > 1 - kDoubt)
             askRing(pixel, x, run.y);
         else
-            pixel = colours.fixed | static_cast<std::uint32_t>(level) << colours.shift;
+            pixel = colours.fixed | byte << colours.shift;
     }
 }
 
@@ -179,50 +180,51 @@ void WheelRaster::drawTriangle(std::uint32_t* pixels, Angle hue) const
     if (rect.width() <= 0 || rect.height() <= 0)
         return;
     const Colour pure = Colour::hls(hue, 0.5, 1);
-    const double halfWidth = rect.width() / 2.0;
     for (int y = rect.top; y < rect.bottom; ++y) {
         // A component is the lightness and, the more the higher up, what the hue has of it more than a grey.
         const double chroma = static_cast<double>(rect.bottom - y) / rect.height();
         const auto add = [=](double share) { return fixedPoint(255 * chroma * (share - 0.5) + 0.5); };
         const Components components{add(pure.r()), add(pure.g()), add(pure.b())};
-        const int first = firstInTriangle(rect.left + halfWidth * chroma, y);
-        const int end = std::min(rect.right, endOfTriangle(rect.right - halfWidth * chroma, y));
-        std::uint32_t* const row = pixels + static_cast<std::ptrdiff_t>(y - m_wheel.top) * m_wheel.width();
+        const double leftSide = rect.width() / 2.0 * chroma;
+        const int end = endOfTriangle(rect.width() - leftSide, y);
+        std::uint32_t* const row = pixels + static_cast<std::ptrdiff_t>(y - m_wheel.top) * m_wheel.width() +
+                                   (rect.left - m_wheel.left);
         constexpr int kBlock = 16;
-        for (int x = first; x < end; x += kBlock) {
-            const int count = std::min(kBlock, end - x);
-            const std::int32_t* const lightness = m_lightness.data() + (x - rect.left);
+        for (int i = firstInTriangle(leftSide, y); i < end; i += kBlock) {
+            const int count = std::min(kBlock, end - i);
+            const std::int32_t* const lightness = m_lightness.data() + i;
             // The usual count as a constant makes the loop one of machine vectors.
-            std::uint32_t* const block = row + (x - m_wheel.left);
-            const bool doubt = count == kBlock ? shade(block, lightness, kBlock, components)
-                                               : shade(block, lightness, count, components);
-            for (int i = 0; doubt && i < count; ++i)
-                askTriangle(block[i], x + i, y, hue);
+            const bool doubt = count == kBlock ? shade(row + i, lightness, kBlock, components)
+                                               : shade(row + i, lightness, count, components);
+            for (int j = i; doubt && j < i + count; ++j)
+                askTriangle(row[j], rect.left + j, y, hue);
         }
     }
 }
 
-bool WheelRaster::isInTriangle(int x, int y) const
+/// `column` counts from the left of the triangle's rectangle, as all columns below.
+bool WheelRaster::isInTriangle(int column, int y) const
 {
-    return m_triangle.test({x, y}, 0).inTriangle;
+    return m_triangle.test({m_triangle.rect().left + column, y}, 0).inTriangle;
 }
 
 /// The first column at or right of the left side.
-int WheelRaster::firstInTriangle(double edge, int y) const
+int WheelRaster::firstInTriangle(double side, int y) const
 {
-    const int nearest = static_cast<int>(std::nearbyint(edge));
-    if (std::fabs(nearest - edge) < kDoubt)
+    const int nearest = static_cast<int>(side + 0.5);
+    if (std::fabs(nearest - side) < kDoubt)
         return isInTriangle(nearest, y) ? nearest : nearest + 1;
-    return static_cast<int>(std::ceil(edge));
+    return nearest + (nearest < side);
 }
 
 /// The first column right of the right side.
-int WheelRaster::endOfTriangle(double edge, int y) const
+int WheelRaster::endOfTriangle(double side, int y) const
 {
-    const int nearest = static_cast<int>(std::nearbyint(edge));
-    if (std::fabs(nearest - edge) < kDoubt)
-        return isInTriangle(nearest, y) ? nearest + 1 : nearest;
-    return static_cast<int>(std::ceil(edge));
+    const int nearest = static_cast<int>(side + 0.5);
+    int end = nearest + (nearest < side);
+    if (std::fabs(nearest - side) < kDoubt)
+        end = isInTriangle(nearest, y) ? nearest + 1 : nearest;
+    return std::min(end, m_triangle.rect().width());
 }
 
 void WheelRaster::askTriangle(std::uint32_t& pixel, int x, int y, Angle hue) const

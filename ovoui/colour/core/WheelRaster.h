@@ -35,9 +35,9 @@ private:
     void drawRun(std::uint32_t* row, const Run& run) const;
     void askRing(std::uint32_t& pixel, int x, int y) const;
     void askTriangle(std::uint32_t& pixel, int x, int y, Angle hue) const;
-    int firstInTriangle(double edge, int y) const;
-    int endOfTriangle(double edge, int y) const;
-    bool isInTriangle(int x, int y) const;
+    int firstInTriangle(double side, int y) const;
+    int endOfTriangle(double side, int y) const;
+    bool isInTriangle(int column, int y) const;
 
     PixelRect m_wheel;
     HueRing m_ring;
