@@ -9,6 +9,7 @@ IMPLEMENT_DYNAMIC(CShadedTabCtrl, CTabCtrl)
 BEGIN_MESSAGE_MAP(CShadedTabCtrl, CTabCtrl)
     ON_WM_CTLCOLOR()
     ON_WM_SIZE()
+    ON_WM_THEMECHANGED()
 END_MESSAGE_MAP()
 
 std::map<COLORREF, HBRUSH> CShadedTabCtrl::ms_brushes;
@@ -152,7 +153,9 @@ HBRUSH CShadedTabCtrl::amended(CDC* dc, UINT type, HBRUSH defaultBrush, CWnd* co
         return brush ? brush : defaultBrush;
     }
     dc->SetBkMode(TRANSPARENT);
-    dc->SetBrushOrg(origin);
+    // The origin is in device units. They differ from the window's when a child lets its parent paint the
+    // background into the child's DC.
+    dc->SetBrushOrg(origin + dc->GetViewportOrg());
     return m_brush;
 }
 
@@ -184,4 +187,11 @@ void CShadedTabCtrl::OnSize(UINT type, int width, int height)
     CTabCtrl::OnSize(type, width, height);
     if (FromHandlePermanent(wnd) == this)
         captureBackground();
+}
+
+/// The next use takes the picture in the new theme, or finds that there are no themes any more.
+LRESULT CShadedTabCtrl::OnThemeChanged()
+{
+    m_captured = false;
+    return Default();
 }

@@ -18,7 +18,8 @@
 /// makes a pattern brush of it, and hands the brush to the controls, aligned with what lies under them.
 /// Without visual styles there is no brush, and every control keeps what it has.
 ///
-/// The picture is taken when the brush is first asked for and after each change of the size.
+/// The picture is taken when the brush is first asked for, after each change of the size, and anew after a
+/// change of the theme.
 class OVOUI_API CShadedTabCtrl : public CTabCtrl
 {
     DECLARE_DYNAMIC(CShadedTabCtrl)
@@ -53,6 +54,7 @@ protected:
 
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg LRESULT OnThemeChanged();
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -136,6 +136,20 @@ TEST_F(ShadedTabCtrl, AChangeOfTheSizeTakesANewPictureOfThatSize)
     EXPECT_EQ(picture.at(5, 90), pixelOf(5, 0));
 }
 
+TEST_F(ShadedTabCtrl, AChangeOfTheThemeTakesANewPictureAtTheNextUse)
+{
+    NEEDS_THEMES();
+    HBRUSH brush = nullptr;
+    CPoint origin;
+    ASSERT_TRUE(tabs->GetBackgroundBrush(brush, origin, nullptr));
+    tabs->pictures = 0;
+    tabs->SendMessage(WM_THEMECHANGED);
+    EXPECT_EQ(tabs->pictures, 0);
+    ASSERT_TRUE(tabs->GetBackgroundBrush(brush, origin, nullptr));
+    ASSERT_TRUE(tabs->GetBackgroundBrush(brush, origin, nullptr));
+    EXPECT_EQ(tabs->pictures, 1);
+}
+
 TEST_F(ShadedTabCtrl, AMoveTakesNoPicture)
 {
     NEEDS_THEMES();
