@@ -46,7 +46,12 @@ ColPickerDlgBase::ColPickerDlgBase(int templateId, CWinApp& app, const Colour& c
     m_colour = colour;
 }
 
-ColPickerDlgBase::~ColPickerDlgBase() = default;
+/// The window goes first: its messages lead to the picker, which is destroyed before the dialog's base.
+ColPickerDlgBase::~ColPickerDlgBase()
+{
+    if (m_hWnd)
+        DestroyWindow();
+}
 
 // Opening and closing
 

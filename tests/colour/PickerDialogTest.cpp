@@ -184,14 +184,14 @@ TEST_F(PickerDialog, ModelessOnTheHeapItMayDeleteItself)
 
 TEST_F(PickerDialog, AnObjectThatGoesTakesItsWindowAlong)
 {
-    HWND wnd = nullptr;
-    {
-        Picker dialog(TestApp::instance(), ColPickerModeRGB, kOrange, nullptr, nullptr);
-        dialog.createColPickerDlgBase();
-        wnd = dialog.m_hWnd;
-        dialog.DestroyWindow();
+    for (int i = 0; i < 20; ++i) {
+        open();
+        const HWND wnd = picker->m_hWnd;
+        picker->m_value2.SetFocus();
+        picker->m_value2.SetWindowText(L"3"); // which losing the focus would take over
+        picker.reset();
+        EXPECT_FALSE(::IsWindow(wnd));
     }
-    EXPECT_FALSE(::IsWindow(wnd));
 }
 
 TEST_F(PickerDialog, ModelessItMayBeOpenedAgain)
