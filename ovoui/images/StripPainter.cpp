@@ -31,7 +31,7 @@ HBITMAP loadBitmap(HINSTANCE module, UINT id)
     return static_cast<HBITMAP>(::LoadImageW(module, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, kFlags));
 }
 
-/// Whether the platform shares this bitmap, which then must not be freed. Not every platform does, although
+/// Whether the platform shares this bitmap, which then must not be freed. Some platforms do not, although
 /// it is asked to: each call then loads another bitmap, and each of them is the caller's.
 bool isShared(HBITMAP bitmap, HINSTANCE module, UINT id)
 {

@@ -93,7 +93,7 @@ ParentNotificationFilter::~ParentNotificationFilter()
         return;
     FilteredParent& parent = found->second;
     parent.quietTrees.erase(std::find(parent.quietTrees.begin(), parent.quietTrees.end(), m_tree));
-    // Somebody else may have come in front of the filter: then it stays, and passes everything on.
+    // Another procedure may have been set in front of the filter: then it stays, and passes everything on.
     if (!parent.quietTrees.empty() || currentProcedure(m_parent, parent.unicode) != &filterProcedure)
         return;
     setProcedure(m_parent, parent.procedure, parent.unicode);

@@ -60,7 +60,7 @@ BOOL MultiTreeCtrl::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO*
 }
 
 /// Has the selected nodes that offer a command show how it stands. False when there are none. When that
-/// destroys the tree, the command is disabled: there is no one left to do it.
+/// destroys the tree, the command is disabled: nothing is left to do it.
 bool MultiTreeCtrl::updateByNodes(CCmdUI& ui, UINT id)
 {
     const HostCalls host(*this);

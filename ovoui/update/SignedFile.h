@@ -10,7 +10,7 @@
 namespace ovoui::update
 {
 
-/// While the object lives, nobody can write to the file: what was checked is what is read afterwards.
+/// While the object lives, no program can write to the file: what was checked is what is read afterwards.
 class SignedFile
 {
 public:

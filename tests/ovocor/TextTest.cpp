@@ -109,7 +109,7 @@ TEST(CodePage, SaysWhatItCannotHold)
     EXPECT_TRUE(lossy);
     EXPECT_EQ(narrow.front(), 'a');
     EXPECT_EQ(narrow.back(), 'z');
-    EXPECT_FALSE(getMBS(outside).empty()) << "nobody has to ask";
+    EXPECT_FALSE(getMBS(outside).empty()) << "the caller need not ask whether the text fits";
 }
 
 TEST(CodePage, TakesNoLookAlikes)

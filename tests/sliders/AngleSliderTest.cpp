@@ -124,7 +124,7 @@ TEST_F(AngleSlider, TheyAreUpToThreeInchesLong)
     EXPECT_EQ(CWheelSlider::MaxHeight(&dc), 3 * dc.GetDeviceCaps(LOGPIXELSY));
 }
 
-TEST_F(AngleSlider, SettingThePositionTellsNobody)
+TEST_F(AngleSlider, SettingThePositionSendsNoNotification)
 {
     round->SetPos(123.5);
     wheel->SetPos(-500);

@@ -125,7 +125,7 @@ public:
 
 } // namespace
 
-TEST_F(BarUpdate, AsksTheOwnerWhoeverIsNamed)
+TEST_F(BarUpdate, AsksTheOwnerAndNotTheWindowNamed)
 {
     Answering owner;
     scene.bar().SetOwner(&owner);

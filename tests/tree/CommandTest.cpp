@@ -130,7 +130,7 @@ TEST(TreeCommands, GoOnToTheParentInTheRoutingItself)
     CommandScene scene({"a"});
     EXPECT_TRUE(scene.tree.OnCmdMsg(kPrint, CN_COMMAND, nullptr, nullptr));
     EXPECT_EQ(scene.printed(), 1);
-    EXPECT_FALSE(scene.tree.OnCmdMsg(4003, CN_COMMAND, nullptr, nullptr)) << "nobody knows it";
+    EXPECT_FALSE(scene.tree.OnCmdMsg(4003, CN_COMMAND, nullptr, nullptr)) << "no node and no handler knows it";
     AFX_CMDHANDLERINFO info{};
     EXPECT_TRUE(scene.tree.OnCmdMsg(kPrint, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &scene.parent());
@@ -217,7 +217,7 @@ TEST(TreeMenus, ShowWhatTheSelectedNodesOffer)
     EXPECT_FALSE(menu.isGrey(kPaint));
     EXPECT_TRUE(menu.isChecked(kPaint));
     EXPECT_FALSE(menu.isGrey(kPrint)) << "the parent does it";
-    EXPECT_TRUE(menu.isGrey(4003)) << "nobody does it";
+    EXPECT_TRUE(menu.isGrey(4003)) << "it has no handler";
     EXPECT_EQ(scene.journal, (Journal{"doUpdateCmd 4001 single a"}));
 }
 

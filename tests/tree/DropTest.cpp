@@ -446,7 +446,7 @@ TEST(TreePaste, GoesToTheSelectedNodeThatWouldTakeTheData)
     COleDataSource::FlushClipboard();
 }
 
-TEST(TreePaste, IsGreyWhereNobodyTakesTheData)
+TEST(TreePaste, IsGreyWhereTheDataIsNotTaken)
 {
     DropScene scene({"a", "target"});
     scene.take("target");

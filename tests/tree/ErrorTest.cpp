@@ -1,6 +1,6 @@
-// What nodes raise: reported where the user or the tree view caused the call, passed on where nobody knows
-// it. Each operation is tried with an error of the library, one of the standard library, and one of somebody
-// else.
+// What nodes raise: the tree reports it where the user or the tree view caused the call, and passes on exceptions
+// of unknown types. Each operation is tried with an error of the library, one of the standard library, and one of
+// another type.
 #include "TreeOperations.h"
 
 #include <ovocor/OvoError.h>
@@ -66,7 +66,7 @@ TEST_P(TreeErrors, OfTheStandardLibraryAreReported)
     expectSound();
 }
 
-TEST_P(TreeErrors, OfSomebodyElsePassOn)
+TEST_P(TreeErrors, OfAnotherTypePassOn)
 {
     arm([] { throw 42; });
     EXPECT_THROW(GetParam().act(scene), int);

@@ -144,7 +144,7 @@ TEST(TreeInsertion, AnEqualChildStaysAndTheNewNodeIsDestroyed)
     EXPECT_EQ(scene.tree.GetCount(), 1u);
 }
 
-TEST(TreeInsertion, ADuplicateThatSomebodyHoldsStaysWithHim)
+TEST(TreeInsertion, ADuplicateHeldByTheHostIsNotDestroyed)
 {
     Scene scene;
     TestPlace root;

@@ -84,7 +84,7 @@ TEST(TreeNode, ThePreviewIsTheColourOfButtonFaces)
     EXPECT_EQ(picture.at(20, 15), RGB(255, 255, 255));
 }
 
-TEST(TreeNode, GoesWithItsItemWhenNobodyHoldsIt)
+TEST(TreeNode, GoesWithItsItemWithoutAnotherHandle)
 {
     Scene scene{{"a", "b"}};
     const int before = TestNode::live();

@@ -203,7 +203,7 @@ TEST_F(UpdateTrusting, AlteredByOneByteItIsRefused)
     EXPECT_EQ(refusal(), message(OVOMSG_UPDATE_LIST_ALTERED));
 }
 
-TEST_F(UpdateTrusting, SignedBySomebodyElseItIsRefused)
+TEST_F(UpdateTrusting, SignedWithAnotherKeyItIsRefused)
 {
     const Maker other;
     publish(kRow, other.sign(kRow));

@@ -182,7 +182,7 @@ TEST_F(UpdateJobs, CancellingEndsAListThatStopsInTheMiddle)
     over->set_value();
 }
 
-TEST_F(UpdateJobs, CancelledBeforeItBeginsItAsksNobody)
+TEST_F(UpdateJobs, CancelledBeforeItBeginsItSendsNoRequest)
 {
     std::function<void()> later;
     const auto job =

@@ -10,7 +10,7 @@ using afxdetail::writeNumber;
 template <class Number>
 bool isRefused(const CDataExchange* exchange, Number value, Number min, Number max)
 {
-    // Not a number is refused as well: it compares as neither less nor greater.
+    // A value that is not a number is refused as well: it compares as neither less nor greater.
     return exchange->m_bSaveAndValidate && !(value >= min && value <= max);
 }
 

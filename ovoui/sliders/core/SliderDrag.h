@@ -35,7 +35,7 @@ struct PendingDrag
     int dragHeight = 4; ///< and this far above and below
 };
 
-/// Whether the pointer takes the thumb along from now on. Never before it has left the drag rectangle; then
+/// Whether the pointer takes the thumb along from now on. It does not before it has left the drag rectangle; then
 /// at once when the thumb is at the press, otherwise when the pointer has come as far as the thumb is, or is
 /// inside the popup.
 bool dragStarts(const PendingDrag& pending, const Point& pointer, bool inPopup);

@@ -372,7 +372,7 @@ TEST(Idle, UpdatesTheVisibleMainWindowAndAllInIt)
     const MainWindow role(main);
 
     AfxGetThread()->OnIdle(0);
-    EXPECT_EQ(journal, L"") << "nobody sees it";
+    EXPECT_EQ(journal, L"") << "no window is shown";
     main.ShowWindow(SW_SHOWNA);
     stranger.ShowWindow(SW_SHOWNA);
     journal.Empty();

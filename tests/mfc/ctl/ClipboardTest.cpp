@@ -99,7 +99,7 @@ TEST_F(ClipboardTest, SettingTheSameSourceTwiceKeepsItAlive)
     EXPECT_TRUE(gone);
 }
 
-TEST_F(ClipboardTest, DelayedDataIsMadeWhenSomebodyPastes)
+TEST_F(ClipboardTest, DelayedDataIsMadeWhenItIsPasted)
 {
     source->DelayRenderData(CF_UNICODETEXT);
     source->SetClipboard();

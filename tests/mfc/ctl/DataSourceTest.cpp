@@ -178,7 +178,7 @@ TEST(DataSource, AStreamIsShared)
     ::ReleaseStgMedium(&got);
     EXPECT_EQ(data.GetGlobalData(CF_TEXT), nullptr) << "it is no memory";
     source.Empty();
-    EXPECT_EQ(stream->Release(), 0u) << "nobody else holds the stream";
+    EXPECT_EQ(stream->Release(), 0u) << "no other reference to the stream is left";
 }
 
 TEST(DataSource, APictureIsCopied)
@@ -375,7 +375,7 @@ TEST(DataSource, DataIsTakenOnlyInFormatsThatWereAnnounced)
         << "the medium is still the caller's after a failure";
 }
 
-TEST(DataSource, NobodyIsAdvisedAndFormatsAreTheirOwnCanonicalForm)
+TEST(DataSource, AdvisingIsRefusedAndFormatsAreTheirOwnCanonicalForm)
 {
     Source source;
     FORMATETC format = textFormat();

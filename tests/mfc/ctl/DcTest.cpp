@@ -341,7 +341,7 @@ TEST(Dc, AMemoryContextDrawsOnNoWindowAndDoesNotPrint)
 
     EXPECT_EQ(canvas.dc.GetWindow(), nullptr);
     EXPECT_FALSE(canvas.dc.IsPrinting());
-    EXPECT_TRUE(canvas.dc.QueryAbort()) << "nobody asked to be asked";
+    EXPECT_TRUE(canvas.dc.QueryAbort()) << "no abort procedure is set";
 }
 
 TEST(Dc, ADisplayContextCanBeMadeByName)

@@ -200,7 +200,7 @@ TEST_F(DragDropTest, EscapeCancels)
     EXPECT_EQ(target.left, 1);
 }
 
-TEST_F(DragDropTest, ADropWhereNobodyTakesItHasNoEffect)
+TEST_F(DragDropTest, ADropOnAWindowThatIsNoTargetHasNoEffect)
 {
     Robot()
         .press(Spot(draggable))

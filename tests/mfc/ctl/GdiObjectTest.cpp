@@ -125,7 +125,7 @@ TEST(GdiObject, AnAttachedObjectTakesThePlaceOfTheTemporaryOne)
     EXPECT_NE(CBrush::FromHandle(handle), temporary);
     EXPECT_EQ(CBrush::FromHandle(handle), &brush);
     brush.DeleteObject();
-    EXPECT_EQ(temporary->m_hObject, nullptr) << "nobody may draw with a handle that is gone";
+    EXPECT_EQ(temporary->m_hObject, nullptr) << "a handle that is gone must not be drawn with";
     CGdiObject::DeleteTempMap();
 }
 

@@ -15,7 +15,7 @@ public:
     std::function<void(CCmdUI&)> update;
 
 protected:
-    afx_msg void OnCommand() { FAIL() << "nobody has given this command"; }
+    afx_msg void OnCommand() { FAIL() << "this command was not given"; }
     afx_msg void OnUpdate(CCmdUI* ui) { update(*ui); }
     DECLARE_MESSAGE_MAP()
 };
@@ -47,12 +47,12 @@ TEST(CmdUI, WithoutAnUpdateHandlerTheCommandHandlerDecides)
     EXPECT_FALSE(ui.DoUpdate(&target, TRUE));
     EXPECT_EQ(ui.enabled, std::vector<BOOL>{TRUE});
     ui.enabled.clear();
-    ui.m_nID = ID_TEST_NOBODY;
+    ui.m_nID = ID_TEST_UNHANDLED;
     EXPECT_FALSE(ui.DoUpdate(&target, TRUE));
     EXPECT_EQ(ui.enabled, std::vector<BOOL>{FALSE});
     ui.enabled.clear();
     EXPECT_FALSE(ui.DoUpdate(&target, FALSE));
-    EXPECT_TRUE(ui.enabled.empty()) << "nobody wants it to be disabled";
+    EXPECT_TRUE(ui.enabled.empty()) << "it is not to be disabled";
 }
 
 TEST(CmdUI, AnUpdateHandlerDecidesAlone)

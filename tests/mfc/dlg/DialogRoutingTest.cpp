@@ -161,5 +161,5 @@ TEST(DialogRouting, WhoWouldHandleACommandIsToldWithoutACall)
     EXPECT_TRUE(dialog.OnCmdMsg(ID_TEST_OTHER, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &owner);
     EXPECT_TRUE(Routing::log.empty());
-    EXPECT_FALSE(dialog.OnCmdMsg(ID_TEST_NOBODY, CN_COMMAND, nullptr, &info));
+    EXPECT_FALSE(dialog.OnCmdMsg(ID_TEST_UNHANDLED, CN_COMMAND, nullptr, &info));
 }

@@ -126,7 +126,7 @@ TEST(Frame, MakesTheViewOfItsContext)
     auto* view = dynamic_cast<TestView*>(frame->GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE));
     ASSERT_NE(view, nullptr);
     EXPECT_EQ(frame->GetActiveView(), nullptr) << "not active yet";
-    EXPECT_TRUE(TestView::s_log.empty()) << "whoever gives a context tells the views when they are ready";
+    EXPECT_TRUE(TestView::s_log.empty()) << "a caller that gives a context tells the views when they are ready";
     EXPECT_TRUE(view->GetExStyle() & WS_EX_CLIENTEDGE);
 
     frame->InitialUpdateFrame(nullptr, FALSE);

@@ -34,7 +34,7 @@ protected:
         Act,
         Separator,
         Other,
-        Nobody,
+        Unhandled,
         More
     };
 
@@ -50,14 +50,14 @@ TEST_F(MenuUpdate, ItemsWithoutAHandlerAreDisabled)
     open();
     EXPECT_FALSE(greyed(Act)) << "the view and the frame handle the command";
     EXPECT_FALSE(greyed(Other));
-    EXPECT_TRUE(greyed(Nobody));
+    EXPECT_TRUE(greyed(Unhandled));
 }
 
 TEST_F(MenuUpdate, UnlessTheFrameSaysOtherwise)
 {
     m_frame->m_bAutoMenuEnable = FALSE;
     open();
-    EXPECT_FALSE(greyed(Nobody));
+    EXPECT_FALSE(greyed(Unhandled));
 }
 
 TEST_F(MenuUpdate, AnItemIsEnabledAgainOnceThereIsAHandler)
@@ -70,26 +70,26 @@ TEST_F(MenuUpdate, AnItemIsEnabledAgainOnceThereIsAHandler)
 TEST_F(MenuUpdate, AnUpdateHandlersWordCounts)
 {
     updates()[ID_TEST_ACT] = [](CCmdUI& ui) { ui.Enable(FALSE); };
-    updates()[ID_TEST_NOBODY] = [](CCmdUI& ui) { ui.Enable(); };
+    updates()[ID_TEST_UNHANDLED] = [](CCmdUI& ui) { ui.Enable(); };
     open();
     EXPECT_TRUE(greyed(Act)) << "though there is a command handler";
-    EXPECT_FALSE(greyed(Nobody)) << "though there is none";
+    EXPECT_FALSE(greyed(Unhandled)) << "though there is none";
 }
 
 TEST_F(MenuUpdate, AnUpdateHandlerThatDoesNotEnableLeavesTheItemAsItIs)
 {
-    updates()[ID_TEST_NOBODY] = [](CCmdUI& ui) { ui.SetCheck(); };
+    updates()[ID_TEST_UNHANDLED] = [](CCmdUI& ui) { ui.SetCheck(); };
     open();
-    EXPECT_FALSE(greyed(Nobody));
-    EXPECT_TRUE(state(Nobody) & MF_CHECKED);
+    EXPECT_FALSE(greyed(Unhandled));
+    EXPECT_TRUE(state(Unhandled) & MF_CHECKED);
 }
 
 TEST_F(MenuUpdate, AHandlerThatContinuesTheRoutingIsAsIfItWereNotThere)
 {
-    updates()[ID_TEST_NOBODY] = [](CCmdUI& ui) { ui.ContinueRouting(); };
+    updates()[ID_TEST_UNHANDLED] = [](CCmdUI& ui) { ui.ContinueRouting(); };
     updates()[ID_TEST_OTHER] = [](CCmdUI& ui) { ui.ContinueRouting(); };
     open();
-    EXPECT_TRUE(greyed(Nobody));
+    EXPECT_TRUE(greyed(Unhandled));
     EXPECT_FALSE(greyed(Other));
 }
 
@@ -151,7 +151,7 @@ TEST_F(MenuUpdate, AHandlerMayDisableAPopupItself)
 TEST_F(MenuUpdate, APopupIsNotDisabledForAnItemWithoutAHandler)
 {
     ::DeleteMenu(::GetSubMenu(m_popup, More), 0,
-                 MF_BYPOSITION); // ID_TEST_SECOND is first now; nobody handles it
+                 MF_BYPOSITION); // ID_TEST_SECOND is first now; it has no handler
     open();
     EXPECT_FALSE(greyed(More));
 }
@@ -176,14 +176,14 @@ TEST_F(MenuUpdate, TheMenuAboveIsKnown)
 TEST_F(MenuUpdate, TheSystemMenuIsLeftAlone)
 {
     open(m_popup, true);
-    EXPECT_FALSE(greyed(Nobody));
+    EXPECT_FALSE(greyed(Unhandled));
 }
 
 TEST_F(MenuUpdate, ItemsThatAHandlerInsertsAreUpdatedToo)
 {
     updates()[ID_TEST_ACT] = [](CCmdUI& ui) {
         if (ui.m_pMenu->GetMenuItemCount() == 5)
-            ui.m_pMenu->InsertMenu(ui.m_nIndex + 1, MF_BYPOSITION | MF_STRING, ID_TEST_NOBODY, L"New");
+            ui.m_pMenu->InsertMenu(ui.m_nIndex + 1, MF_BYPOSITION | MF_STRING, ID_TEST_UNHANDLED, L"New");
         ui.Enable();
     };
     open();

@@ -52,7 +52,7 @@ TEST_F(MessageLine, ShowsTextsAndStringsOfTheProgram)
     EXPECT_EQ(textIn(m_bar), L"Planting");
     m_frame->SetMessageText(ID_TEST_ACT);
     EXPECT_EQ(line(), L"Does the act") << "what follows the line feed is the tooltip";
-    m_frame->SetMessageText(ID_TEST_NOBODY);
+    m_frame->SetMessageText(ID_TEST_UNHANDLED);
     EXPECT_EQ(line(), L"") << "there is no such string";
 }
 

@@ -100,7 +100,7 @@ TEST(ModalDialog, AQuitEndsItAndTheLoopOutside)
     OwnerWindow owner;
     TestDialog dialog(&owner);
     auto story = whenShown().then([] { ::PostQuitMessage(3); }).start();
-    EXPECT_EQ(dialog.DoModal(), IDABORT) << "nobody has ended it";
+    EXPECT_EQ(dialog.DoModal(), IDABORT) << "no button has ended it";
     EXPECT_TRUE(owner.IsWindowEnabled());
     MSG message{};
     while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) && message.message != WM_QUIT)

@@ -59,7 +59,7 @@ protected:
         Act,
         Other,
         Separator,
-        Nobody
+        Unhandled
     };
 
     CToolBar m_bar;
@@ -77,15 +77,15 @@ TEST_F(ToolBar, IsLoadedFromItsResource)
     EXPECT_EQ(m_bar.GetCount(), 4);
     EXPECT_EQ(m_bar.GetItemID(Act), static_cast<UINT>(ID_TEST_ACT));
     EXPECT_EQ(m_bar.GetItemID(Separator), static_cast<UINT>(ID_SEPARATOR));
-    EXPECT_EQ(m_bar.CommandToIndex(ID_TEST_NOBODY), Nobody);
+    EXPECT_EQ(m_bar.CommandToIndex(ID_TEST_UNHANDLED), Unhandled);
     EXPECT_EQ(m_bar.CommandToIndex(4711), -1);
     EXPECT_TRUE(style(Separator) & TBBS_SEPARATOR);
 
     UINT id = 0;
     UINT buttonStyle = 0;
     int image = -1;
-    m_bar.GetButtonInfo(Nobody, id, buttonStyle, image);
-    EXPECT_EQ(id, static_cast<UINT>(ID_TEST_NOBODY));
+    m_bar.GetButtonInfo(Unhandled, id, buttonStyle, image);
+    EXPECT_EQ(id, static_cast<UINT>(ID_TEST_UNHANDLED));
     EXPECT_EQ(image, 2) << "separators have no picture";
     m_bar.GetButtonInfo(Separator, id, buttonStyle, image);
     EXPECT_GT(image, 0) << "its width";
@@ -106,12 +106,12 @@ TEST_F(ToolBar, WithoutItsResourcesIsNotLoaded)
 TEST_F(ToolBar, ShowsItsPicturesInTheSystemsColours)
 {
     // Not disabled, so that the pictures are in their own colours.
-    m_frame->updates[ID_TEST_NOBODY] = [](CCmdUI& ui) { ui.Enable(); };
+    m_frame->updates[ID_TEST_UNHANDLED] = [](CCmdUI& ui) { ui.Enable(); };
     present(*m_frame);
     const Picture picture = Picture::ofClient(m_bar);
     EXPECT_THAT(picture.at(button(Act).CenterPoint()), IsColour(RGB(255, 0, 0)));
     EXPECT_THAT(picture.at(button(Other).CenterPoint()), IsColour(RGB(0, 255, 0)));
-    EXPECT_THAT(picture.at(button(Nobody).CenterPoint()), IsColour(RGB(0, 0, 255)));
+    EXPECT_THAT(picture.at(button(Unhandled).CenterPoint()), IsColour(RGB(0, 0, 255)));
     EXPECT_EQ(picture.count(RGB(192, 192, 192)), 0) << "the grey of the pictures is the colour of the bar";
 }
 
@@ -152,7 +152,7 @@ TEST_F(ToolBar, ASeparatorHasAWidth)
 {
     m_bar.SetButtonInfo(Separator, 0, TBBS_SEPARATOR, 100);
     EXPECT_EQ(button(Separator).Width(), 100);
-    EXPECT_EQ(button(Nobody).left, button(Separator).right);
+    EXPECT_EQ(button(Unhandled).left, button(Separator).right);
 }
 
 TEST_F(ToolBar, StylesAreKeptWithTheStates)
@@ -198,10 +198,10 @@ TEST_F(ToolBar, ItsButtonsFollowTheUpdateHandlers)
 {
     settleShown();
     EXPECT_FALSE(style(Act) & TBBS_DISABLED) << "there is a command handler";
-    EXPECT_TRUE(style(Nobody) & TBBS_DISABLED) << "nobody handles it";
+    EXPECT_TRUE(style(Unhandled) & TBBS_DISABLED) << "it has no handler";
     m_frame->updates[ID_TEST_ACT] = [](CCmdUI& ui) { ui.Enable(FALSE); };
     m_frame->updates[ID_TEST_OTHER] = [](CCmdUI& ui) { ui.SetCheck(); };
-    m_frame->updates[ID_TEST_NOBODY] = [](CCmdUI& ui) {
+    m_frame->updates[ID_TEST_UNHANDLED] = [](CCmdUI& ui) {
         ui.Enable();
         ui.SetCheck(2);
     };
@@ -209,7 +209,7 @@ TEST_F(ToolBar, ItsButtonsFollowTheUpdateHandlers)
     EXPECT_TRUE(style(Act) & TBBS_DISABLED);
     EXPECT_EQ(style(Other), static_cast<UINT>(TBBS_CHECKBOX | TBBS_CHECKED))
         << "a button becomes a check box";
-    EXPECT_EQ(style(Nobody), static_cast<UINT>(TBBS_CHECKBOX | TBBS_INDETERMINATE));
+    EXPECT_EQ(style(Unhandled), static_cast<UINT>(TBBS_CHECKBOX | TBBS_INDETERMINATE));
     m_frame->updates[ID_TEST_OTHER] = [](CCmdUI& ui) { ui.SetRadio(FALSE); };
     settleShown();
     EXPECT_EQ(style(Other), static_cast<UINT>(TBBS_CHECKBOX));
@@ -267,7 +267,7 @@ TEST_F(ToolBar, AClickSendsTheCommandToTheFrame)
     present(*m_frame);
     Robot().click(spot(Act));
     EXPECT_EQ(m_frame->acted, 1);
-    Robot().click(spot(Nobody));
+    Robot().click(spot(Unhandled));
     EXPECT_EQ(m_frame->acted, 1) << "a disabled button does nothing";
 }
 
@@ -357,7 +357,7 @@ TEST_F(ToolBar, AtTheSideItIsOneColumn)
     EXPECT_LT(place.Width(), 2 * button(Act).Width());
     EXPECT_EQ(button(Other).left, button(Act).left);
     EXPECT_GE(button(Other).top, button(Act).bottom);
-    EXPECT_GE(button(Nobody).top, button(Other).bottom);
+    EXPECT_GE(button(Unhandled).top, button(Other).bottom);
 }
 
 TEST_F(ToolBar, ADynamicOneIsBrokenIntoRowsForAWidth)
@@ -373,15 +373,15 @@ TEST_F(ToolBar, ADynamicOneIsBrokenIntoRowsForAWidth)
     const CSize twoRows = m_bar.CalcDynamicLayout(2 * width + 4, LM_HORZ);
     EXPECT_LT(twoRows.cx, oneRow.cx);
     EXPECT_GE(twoRows.cy, 2 * height);
-    EXPECT_EQ(button(Nobody).top, button(Act).top) << "only asked, nothing is broken yet";
+    EXPECT_EQ(button(Unhandled).top, button(Act).top) << "only asked, nothing is broken yet";
 
     m_bar.CalcDynamicLayout(2 * width + 4, LM_HORZ | LM_COMMIT);
-    EXPECT_GT(button(Nobody).top, button(Act).top);
+    EXPECT_GT(button(Unhandled).top, button(Act).top);
     EXPECT_EQ(m_bar.CalcDynamicLayout(-1, LM_HORZ | LM_MRUWIDTH), twoRows) << "the width is remembered";
     EXPECT_EQ(m_bar.CalcDynamicLayout(twoRows.cy, LM_HORZ | LM_LENGTHY), twoRows) << "the same by its height";
 
     EXPECT_EQ(m_bar.CalcDynamicLayout(-1, LM_HORZ | LM_HORZDOCK), oneRow);
-    EXPECT_EQ(button(Nobody).top, button(Act).top) << "docked, it is one row again";
+    EXPECT_EQ(button(Unhandled).top, button(Act).top) << "docked, it is one row again";
 }
 
 TEST_F(ToolBar, HiddenButtonsTakeNoRoom)

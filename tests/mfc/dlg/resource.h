@@ -22,7 +22,7 @@
 // Commands 0x8001-0x80FF, with prompts of the same number
 #define ID_TEST_ACT 0x8001
 #define ID_TEST_OTHER 0x8002
-#define ID_TEST_NOBODY 0x8003
+#define ID_TEST_UNHANDLED 0x8003
 #define ID_TEST_FIRST 0x8010
 #define ID_TEST_SECOND 0x8011
 

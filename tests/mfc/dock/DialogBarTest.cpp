@@ -81,7 +81,7 @@ TEST_F(DialogBar, ItsControlsNotifyTheFrame)
 TEST_F(DialogBar, ItsButtonsAreUpdatedWhenThereIsTime)
 {
     create();
-    m_bar.GetDlgItem(ID_ACT)->SetDlgCtrlID(0x9000); // a command that nobody handles
+    m_bar.GetDlgItem(ID_ACT)->SetDlgCtrlID(0x9000); // a command without a handler
     ovotest::present(*frame);
     GuiThread::settle();
     EXPECT_FALSE(m_bar.GetDlgItem(0x9000)->IsWindowEnabled());

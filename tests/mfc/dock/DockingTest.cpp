@@ -149,7 +149,7 @@ TEST_F(Docking, ButtonsSendTheirCommandsToTheFrame)
 
 TEST_F(Docking, ButtonsAreDisabledWithoutAHandlerWhenThereIsTime)
 {
-    one.SetButtonInfo(0, 0x9000, TBBS_BUTTON, 0); // a command that nobody handles
+    one.SetButtonInfo(0, 0x9000, TBBS_BUTTON, 0); // a command without a handler
     dockInOneRow();
     GuiThread::settle();
     EXPECT_TRUE(one.GetButtonStyle(0) & TBBS_DISABLED);

@@ -62,7 +62,7 @@ TEST_F(Floating, StillBelongsToTheFrame)
 
 TEST_F(Floating, ItsButtonsAreUpToDateWhenThereIsTime)
 {
-    one.SetButtonInfo(0, 0x9000, TBBS_BUTTON, 0); // a command that nobody handles
+    one.SetButtonInfo(0, 0x9000, TBBS_BUTTON, 0); // a command without a handler
     GuiThread::settle();
     EXPECT_TRUE(one.GetButtonStyle(0) & TBBS_DISABLED);
 }

@@ -67,7 +67,7 @@ TEST(ResourceChain, TheFrameworksOwnStringsAreFoundLast)
     EXPECT_FALSE(text(AFX_IDS_IDLEMESSAGE).IsEmpty());
 }
 
-TEST(ResourceChain, WhatNobodyHasIsLookedForInTheCurrentModule)
+TEST(ResourceChain, WhatNoModuleHasIsLookedForInTheCurrentOne)
 {
     EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCEW(4711), RT_DIALOG), AfxGetResourceHandle());
     EXPECT_STREQ(text(4711), L"");

@@ -139,7 +139,7 @@ TEST(CommandRouting, UpdatingWithoutAHandlerFollowsTheCommandHandler)
     EXPECT_EQ(ui.enabled, 0);
     ui.enabled = -1;
     ui.DoUpdate(&wnd, FALSE);
-    EXPECT_EQ(ui.enabled, -1) << "nobody asked for that";
+    EXPECT_EQ(ui.enabled, -1) << "disabling was not asked for";
 }
 
 TEST(CommandRouting, AnUpdateHandlerDecides)

@@ -67,7 +67,7 @@ TEST(DefaultHandling, GivesTheDefaultProceduresResult)
     Passing wnd;
     wnd.create();
     EXPECT_EQ(wnd.SendMessage(WM_APP + 2, 5, 6), 10);
-    EXPECT_EQ(wnd.SendMessage(WM_APP + 3, 5, 6), 9) << "nobody handles it";
+    EXPECT_EQ(wnd.SendMessage(WM_APP + 3, 5, 6), 9) << "it has no handler";
 }
 
 TEST(DefaultHandling, TheCurrentMessageIsTheInnermostOne)

@@ -130,7 +130,7 @@ TEST(InterfaceMap, TheLastReferenceDeletesTheObject)
     EXPECT_EQ(Persisting::s_deleted, 1);
 }
 
-TEST(InterfaceMap, WhatNobodyImplementsIsRefused)
+TEST(InterfaceMap, AnInterfaceThatIsNotImplementedIsRefused)
 {
     Persisting object;
     void* part = &object;

@@ -140,7 +140,7 @@ TEST(WindowLife, AnUnknownClassFailsAndTellsTheObject)
     s_log.clear();
     EXPECT_FALSE(wnd.CreateEx(0, L"there is no such class", L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
     EXPECT_EQ(s_log, (std::vector<std::string>{"precreate", "postncdestroy"}));
-    EXPECT_TRUE(wnd.create()) << "the hook waits for nobody now";
+    EXPECT_TRUE(wnd.create()) << "the hook waits for no object now";
 }
 
 TEST(WindowLife, AWindowMayBeDestroyedInItsOwnHandler)
