@@ -36,7 +36,22 @@ public:
 
     void press() { button.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5)); }
     void release() { button.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5)); }
-    HWND popup() const { return ::GetWindow(parent, GW_ENABLEDPOPUP); }
+    /// The shown dialog of this thread.
+    HWND popup() const
+    {
+        HWND found = nullptr;
+        ::EnumThreadWindows(
+            ::GetCurrentThreadId(),
+            [](HWND window, LPARAM result) -> BOOL {
+                wchar_t name[16]{};
+                ::GetClassNameW(window, name, 16);
+                if (::IsWindowVisible(window) && ::lstrcmpW(name, L"#32770") == 0)
+                    *reinterpret_cast<HWND*>(result) = window;
+                return TRUE;
+            },
+            reinterpret_cast<LPARAM>(&found));
+        return found;
+    }
     HWND slider() const { return ::FindWindowExW(popup(), nullptr, TRACKBAR_CLASSW, nullptr); }
 
     Plain utils;
