@@ -31,9 +31,11 @@
 #include <ovoui/sysinfo/SystemInfoDlg.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/VantorToolBar.h>
+#include <ovoui/sliders/DialSlider.h>
 #include <ovoui/sliders/RoundSlider.h>
 #include <ovoui/sliders/Separators.h>
 #include <ovoui/sliders/SliderButton.h>
+#include <ovoui/sliders/SliderData.h>
 #include <ovoui/sliders/UnitNumbers.h>
 #include <ovoui/sliders/WheelSlider.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>

@@ -31,7 +31,8 @@ END_MESSAGE_MAP()
 namespace
 {
 
-constexpr int kEdge = 2; // the etched edge and the gap outside it
+constexpr int kEdge = 2;  // the etched edge and the gap outside it
+constexpr int kFocus = 3; // the focus mark from the window's edge
 
 Shade shadeOf(int systemColour)
 {
@@ -60,6 +61,7 @@ CAngleSlider::CAngleSlider(Axis axis, Turn turn, bool reversed)
     , m_options(std::make_unique<Options>())
     , m_identity(std::make_shared<SliderIdentity>())
 {
+    m_drag->limitBy([this](double degrees) { return limited(degrees); });
 }
 
 CAngleSlider::~CAngleSlider()
@@ -102,13 +104,13 @@ void CAngleSlider::OnLButtonDblClk(UINT, CPoint point)
         SetFocus();
     if (!watch.alive() || !m_hWnd)
         return;
-    m_drag->press(DegreesFromCentre(along(point)));
+    m_drag->press(angleAt(point, true));
     SetCapture();
 }
 
 void CAngleSlider::OnMouseMove(UINT, CPoint point)
 {
-    const auto angle = m_drag->move(DegreesFromCentre(along(point)), snapNow());
+    const auto angle = m_drag->move(angleAt(point, false), snapNow());
     if (!angle || !tellParent(SB_THUMBTRACK, *angle))
         return;
     m_drag->track(*angle);
@@ -122,7 +124,7 @@ void CAngleSlider::OnLButtonUp(UINT, CPoint point)
     m_drag->cancel(); // so that losing the capture does not count as an interruption
     ::ReleaseCapture();
     if (dragging)
-        tellParent(SB_THUMBPOSITION, m_drag->release(DegreesFromCentre(along(point)), snapNow()));
+        tellParent(SB_THUMBPOSITION, m_drag->release(angleAt(point, false), snapNow()));
 }
 
 void CAngleSlider::OnCaptureChanged(CWnd* wnd)
@@ -165,6 +167,21 @@ double CAngleSlider::DegreesFromCentre(int coordinate) const
     return m_reversed ? -degrees : degrees;
 }
 
+double CAngleSlider::angleAt(CPoint point, bool)
+{
+    return DegreesFromCentre(along(point));
+}
+
+double CAngleSlider::limited(double degrees) const
+{
+    return degrees;
+}
+
+void CAngleSlider::useClicks(bool nudge)
+{
+    m_drag->nudgeByClicks(nudge);
+}
+
 // Painting
 
 void CAngleSlider::OnPaint()
@@ -173,6 +190,16 @@ void CAngleSlider::OnPaint()
     CDC& dc = paint.dc();
     CRect rect;
     GetClientRect(&rect);
+    paintBody(dc, rect, m_drag->shown());
+    if (showsFocus()) {
+        rect.DeflateRect(kFocus, kFocus);
+        dc.DrawFocusRect(&rect);
+    }
+}
+
+void CAngleSlider::paintBody(CDC& dc, const CRect& client, double shown)
+{
+    CRect rect = client;
     dc.FillSolidRect(&rect, ::GetSysColor(COLOR_BTNFACE));
     rect.DeflateRect(1, 1);
     if (rect.IsRectEmpty())
@@ -181,11 +208,7 @@ void CAngleSlider::OnPaint()
     rect.DeflateRect(1, 1);
     ShadeRect(rect, &dc);
     if (IsWindowEnabled())
-        drawOnCylinder(dc, rect, m_drag->shown());
-    if (showsFocus()) {
-        rect.DeflateRect(1, 1);
-        dc.DrawFocusRect(&rect);
-    }
+        drawOnCylinder(dc, rect, shown);
 }
 
 void CAngleSlider::drawOnCylinder(CDC&, const CRect&, double) {}

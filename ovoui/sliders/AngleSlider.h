@@ -54,6 +54,17 @@ protected:
     /// Makes a child window of a class with double clicks, an arrow and the background of buttons.
     BOOL createNamed(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
+    // What makes a slider another one than a cylinder
+
+    /// The angle under the pointer. `pressed` when a drag begins with it.
+    virtual double angleAt(CPoint point, bool pressed);
+    /// What the user's angle is limited to: nothing but the turn.
+    virtual double limited(double degrees) const;
+    /// Paints all of the client area; `shown` is the angle to be seen.
+    virtual void paintBody(CDC& dc, const CRect& client, double shown);
+    /// Whether a click without a movement nudges the slider. It does at first.
+    void useClicks(bool nudge);
+
     /// Draws over the cylinder of an enabled slider: nothing. `shown` is the angle to be seen.
     virtual void drawOnCylinder(CDC& dc, const CRect& cylinder, double shown);
 

@@ -20,7 +20,9 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 class PopupWatcher;
@@ -64,6 +66,15 @@ public:
 
     /// The slider's range in pages, which is what a click beside the thumb moves it by; 10 at first, never 0.
     void SetPages(int pages);
+
+    HWND Buddy() const { return m_buddy; }
+
+    /// The number that the buddy shows; none when its text does not begin with one.
+    std::optional<double> Number() const;
+    /// Shows a number in the buddy, and tells nobody.
+    void ShowNumber(double number);
+    /// The lesser and the greater end of the range.
+    std::pair<double, double> Limits() const;
 
     /// Writes the slider's number into the buddy and tells the buddy's parent.
     void SetValue();

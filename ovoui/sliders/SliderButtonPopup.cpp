@@ -5,8 +5,11 @@
 #include <ovoui/sliders/AccessibleSlider.h>
 #include <ovoui/sliders/PopupWatcher.h>
 #include <ovoui/sliders/SliderButtonOptions.h>
+#include <ovoui/sliders/core/NumberText.h>
 #include <ovoui/sliders/core/SliderDrag.h>
 #include <ovoui/sliders/core/SliderNumbers.h>
+
+#include <utility>
 
 using namespace ovoui::sliders;
 
@@ -194,6 +197,31 @@ void CSliderButton::SetValue()
 {
     if (m_buddy && m_popup.m_hWnd)
         showText(numbers().textAt(m_popup.slider().GetPos()));
+}
+
+std::optional<double> CSliderButton::Number() const
+{
+    std::wstring text;
+    if (!::IsWindow(m_buddy) || !machineText(text))
+        return std::nullopt;
+    return parseReal(text);
+}
+
+void CSliderButton::ShowNumber(double number)
+{
+    const Lifeline::Watch watch(m_lifeline);
+    std::wstring text = formatReal(number, m_type == SliderInteger ? 0 : m_decimals);
+    if (m_type != SliderInteger) {
+        const std::wstring machine = std::exchange(text, {});
+        m_utils.toDisplay(text, machine);
+    }
+    if (watch.alive() && ::IsWindow(m_buddy))
+        setBuddyText(text.c_str());
+}
+
+std::pair<double, double> CSliderButton::Limits() const
+{
+    return numbers().limits();
 }
 
 /// Moves the number by positions, or parts of one, whether the popup is open or not.

@@ -3,6 +3,8 @@ set(sliders_core
   ${CMAKE_CURRENT_LIST_DIR}/core/AngleKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/CylinderDrag.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/CylinderPicture.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/DialPicture.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/DialTurn.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/NumberText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SeparatorText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SliderDrag.cpp
@@ -33,6 +35,8 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/SliderButton.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SliderButtonFace.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SliderButtonPopup.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SliderData.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/DialSlider.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UnitNumbers.cpp
   ${CMAKE_CURRENT_LIST_DIR}/WheelSlider.cpp)
 target_link_libraries(ovoui PRIVATE oleacc)

@@ -63,14 +63,15 @@ std::optional<double> CylinderDrag::move(double under, double snap)
 double CylinderDrag::release(double under, double snap)
 {
     m_dragging = false;
-    const double nudge = m_moved ? 0.0 : under / kNudge;
+    const double nudge = m_moved || !m_nudges ? 0.0 : under / kNudge;
     m_position = accepted(snapped(under - m_grabOffset + nudge, snap));
     return m_position;
 }
 
 double CylinderDrag::accepted(double degrees) const
 {
-    return m_turn == Turn::Half ? std::clamp(degrees, -kRightAngle, kRightAngle) : degrees;
+    const double free = m_limit ? m_limit(degrees) : degrees;
+    return m_turn == Turn::Half ? std::clamp(free, -kRightAngle, kRightAngle) : free;
 }
 
 int printedAngle(double degrees)

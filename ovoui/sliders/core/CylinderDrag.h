@@ -2,7 +2,9 @@
 /// in degrees. Plain values, no windows.
 #pragma once
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace ovoui::sliders
 {
@@ -27,6 +29,11 @@ public:
         : m_turn(turn)
     {
     }
+
+    /// Limits further what the user does; none at first.
+    void limitBy(std::function<double(double)> limit) { m_limit = std::move(limit); }
+    /// Whether a press without a move nudges the angle; it does at first.
+    void nudgeByClicks(bool nudge) { m_nudges = nudge; }
 
     /// The committed angle. It can be any; what the user does is what the turn limits.
     double position() const { return m_position; }
@@ -65,6 +72,8 @@ private:
     bool m_moved = false;    // the pointer has changed the angle since the press
     double m_grabOffset = 0; // the angle under the pointer less the position, at the press
     Turn m_turn;
+    std::function<double(double)> m_limit;
+    bool m_nudges = true;
 };
 
 /// The angle as the round slider prints it: rounded half away from zero, and brought towards 0 to 359 by one

@@ -67,6 +67,12 @@ Positions SliderNumbers::positions() const
     return whole ? Positions{low, high} : kHundred;
 }
 
+std::pair<double, double> SliderNumbers::limits() const
+{
+    return whole ? std::minmax({static_cast<double>(low), static_cast<double>(high)})
+                 : std::minmax({numberAt(0.0), numberAt(1.0)});
+}
+
 int SliderNumbers::positionOf(std::wstring_view text) const
 {
     return whole ? parseWhole(text).value_or(low) : positionOf(numberIn(text));
@@ -115,7 +121,7 @@ std::wstring SliderNumbers::stepped(std::wstring_view text, double steps) const
     const double to = std::clamp(from + steps / extent(positions()), 0.0, 1.0);
     double moved =
         mapping == Mapping::SquareRoot && !host ? number + numberAt(to) - numberAt(from) : numberAt(to);
-    const auto [least, most] = std::minmax({numberAt(0.0), numberAt(1.0)});
+    const auto [least, most] = limits();
     const std::wstring before = formatReal(number, decimals);
     if (formatReal(moved, decimals) == before) {
         const bool rises = (steps > 0) == (numberAt(1.0) >= numberAt(0.0));

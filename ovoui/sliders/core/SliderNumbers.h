@@ -7,6 +7,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace ovoui::sliders
@@ -37,6 +38,8 @@ struct SliderNumbers
     HostMapping host; ///< in place of `mapping`, when it is given
 
     Positions positions() const;
+    /// The lesser and the greater of the numbers at the ends.
+    std::pair<double, double> limits() const;
 
     /// The position that shows the number at the start of a text. Without a number it is that of the low end.
     int positionOf(std::wstring_view text) const;

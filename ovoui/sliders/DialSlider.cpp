@@ -1,0 +1,133 @@
+#include <ovoui/sliders/DialSlider.h>
+
+#include <ovoui/sliders/core/CylinderDrag.h>
+#include <ovoui/sliders/core/DialPicture.h>
+#include <ovoui/sliders/core/DialTurn.h>
+
+#include <algorithm>
+
+using namespace ovoui::sliders;
+
+struct CDialSlider::Turning
+{
+    DialTurn turn;
+    DialRange range;
+    double tickStep = 0;
+};
+
+namespace
+{
+
+constexpr double kFullTurn = 360;
+constexpr double kLeastTickStep = 0.5; // degrees: closer ones cannot be seen
+
+Shade shadeOf(int systemColour)
+{
+    const COLORREF colour = ::GetSysColor(systemColour);
+    return {GetRValue(colour), GetGValue(colour), GetBValue(colour)};
+}
+
+DialColours systemColours(bool enabled)
+{
+    return {.back = shadeOf(COLOR_BTNFACE),
+            .light = shadeOf(COLOR_BTNHIGHLIGHT),
+            .dark = shadeOf(enabled ? COLOR_3DDKSHADOW : COLOR_GRAYTEXT),
+            .face = shadeOf(enabled ? COLOR_3DLIGHT : COLOR_BTNFACE),
+            .pointer = shadeOf(enabled ? COLOR_BTNTEXT : COLOR_GRAYTEXT)};
+}
+
+void putPixels(CDC& dc, const CRect& place, const std::vector<Shade>& pixels)
+{
+    std::vector<DWORD> bits;
+    bits.reserve(pixels.size());
+    for (const Shade& shade : pixels)
+        bits.push_back(static_cast<DWORD>(shade.red << 16 | shade.green << 8 | shade.blue));
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = place.Width();
+    info.bmiHeader.biHeight = -place.Height(); // rows from the top
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    ::SetDIBitsToDevice(dc, place.left, place.top, static_cast<DWORD>(place.Width()),
+                        static_cast<DWORD>(place.Height()), 0, 0, 0, static_cast<UINT>(place.Height()),
+                        bits.data(), &info, DIB_RGB_COLORS);
+}
+
+} // namespace
+
+CDialSlider::CDialSlider()
+    : CAngleSlider(Axis::Vertical, Turn::Endless, false)
+    , m_turning(std::make_unique<Turning>())
+{
+    useClicks(false);
+}
+
+CDialSlider::~CDialSlider() = default;
+
+BOOL CDialSlider::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
+{
+    return createNamed(L"DialSlider", style, rect, parent, id);
+}
+
+void CDialSlider::SetStops(double low, double high)
+{
+    m_turning->range = {low, high, true};
+    if (m_hWnd)
+        Invalidate(FALSE);
+}
+
+void CDialSlider::RemoveStops()
+{
+    m_turning->range.stops = false;
+    if (m_hWnd)
+        Invalidate(FALSE);
+}
+
+void CDialSlider::SetTicks(double degrees)
+{
+    m_turning->tickStep = degrees;
+    if (m_hWnd)
+        Invalidate(FALSE);
+}
+
+double CDialSlider::angleAt(CPoint point, bool pressed)
+{
+    CRect client;
+    GetClientRect(&client);
+    const double direction =
+        directionOf(point.x + 0.5 - client.Width() / 2.0, point.y + 0.5 - client.Height() / 2.0);
+    if (pressed)
+        m_turning->turn.begin(direction);
+    return m_turning->turn.follow(direction);
+}
+
+double CDialSlider::limited(double degrees) const
+{
+    return m_turning->range.accepted(degrees);
+}
+
+std::vector<double> CDialSlider::ticks() const
+{
+    const DialRange& range = m_turning->range;
+    const double step = m_turning->tickStep;
+    std::vector<double> found;
+    if (step < kLeastTickStep)
+        return found;
+    const double low = range.stops ? std::min(range.low, range.high) : 0;
+    const double high =
+        range.stops ? std::min(std::max(range.low, range.high), low + kFullTurn) : kFullTurn - step / 2;
+    for (double tick = low; tick <= high; tick += step)
+        found.push_back(tick);
+    return found;
+}
+
+void CDialSlider::paintBody(CDC& dc, const CRect& client, double shown)
+{
+    dc.FillSolidRect(&client, ::GetSysColor(COLOR_BTNFACE));
+    const int size = std::min(client.Width(), client.Height());
+    const CRect place(CPoint((client.Width() - size) / 2, (client.Height() - size) / 2), CSize(size, size));
+    const std::vector<Shade> pixels =
+        dialPicture(size, shown, ticks(), systemColours(IsWindowEnabled() != FALSE));
+    if (!pixels.empty())
+        putPixels(dc, place, pixels);
+}

@@ -1,0 +1,42 @@
+/// A knob with a pointer that the user turns, with stops or without end.
+///
+///     m_volume.SetStops(-135, 135);
+///     m_volume.SetTicks(15);
+///     m_volume.Create(WS_CHILD | WS_VISIBLE, rect, this, IDC_VOLUME);
+///     // in OnHScroll: m_volume.SetPos(static_cast<short>(position));
+#pragma once
+
+#include <ovoui/sliders/AngleSlider.h>
+
+#include <vector>
+
+/// The pointer is at the top at 0 degrees and goes clockwise as the angle grows. Tells its parent by
+/// WM_HSCROLL, as CRoundSlider does; a drag turns the knob by the angle that the pointer goes round its
+/// middle, any number of turns. A click without a movement turns nothing.
+class OVOUI_API CDialSlider : public CAngleSlider
+{
+public:
+    CDialSlider();
+    ~CDialSlider() override;
+
+    /// Makes the window as a child of `parent`. FALSE when the system refuses.
+    BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+
+    /// The user cannot turn it beyond these angles; SetPos takes any. Without stops at first.
+    void SetStops(double low, double high);
+    void RemoveStops();
+
+    /// A tick every so many degrees, between the stops or all round; 0 for none, as at first.
+    void SetTicks(double degrees);
+
+protected:
+    double angleAt(CPoint point, bool pressed) override;
+    double limited(double degrees) const override;
+    void paintBody(CDC& dc, const CRect& client, double shown) override;
+
+private:
+    std::vector<double> ticks() const;
+
+    struct Turning;
+    std::unique_ptr<Turning> m_turning;
+};

@@ -1,0 +1,199 @@
+// The dial with real input, and the exchange of data with dialogs.
+#include "support/Desktop.h"
+#include "support/Picture.h"
+#include "support/RecordingParent.h"
+#include "support/Robot.h"
+#include "support/TestApp.h"
+
+#include <ovoui/sliders/DialSlider.h>
+#include <ovoui/sliders/SliderData.h>
+#include <ovoui/sliders/UnitNumbers.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace ovotest;
+
+namespace
+{
+
+class ScrollParent : public RecordingParent
+{
+public:
+    ScrollParent()
+        : RecordingParent(CSize(340, 200))
+    {
+    }
+    std::vector<std::pair<UINT, int>> told; ///< code and angle
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_HSCROLL)
+            told.emplace_back(LOWORD(wParam), static_cast<short>(HIWORD(wParam)));
+        return RecordingParent::WindowProc(message, wParam, lParam);
+    }
+};
+
+/// 101 pixels wide and high, so that it has a middle.
+class DialSlider : public ::testing::Test
+{
+protected:
+    DialSlider()
+    {
+        dial.Create(WS_CHILD | WS_VISIBLE, CRect(20, 20, 121, 121), &parent, 5);
+        present(parent);
+    }
+    Spot at(int x, int y) const { return Spot{dial, CPoint(x, y)}; }
+
+    ScrollParent parent;
+    CDialSlider dial;
+    Robot user;
+};
+
+} // namespace
+
+TEST_F(DialSlider, ADragTurnsByTheAngleRoundItsMiddle)
+{
+    user.press(at(50, 10)).moveTo(at(90, 50)).release();
+    ASSERT_FALSE(parent.told.empty());
+    EXPECT_EQ(parent.told.back(), (std::pair<UINT, int>{SB_THUMBPOSITION, 90}));
+    EXPECT_EQ(parent.told.front().first, UINT{SB_THUMBTRACK});
+    EXPECT_NEAR(dial.GetPos(), 90, 0.01);
+}
+
+TEST_F(DialSlider, ItTurnsWithoutEnd)
+{
+    user.press(at(50, 10))
+        .moveTo(at(90, 50))
+        .moveTo(at(50, 90))
+        .moveTo(at(10, 50))
+        .moveTo(at(50, 10))
+        .moveTo(at(90, 50))
+        .release();
+    EXPECT_NEAR(dial.GetPos(), 450, 0.01);
+}
+
+TEST_F(DialSlider, StopsHoldIt)
+{
+    dial.SetStops(-45, 45);
+    user.press(at(50, 10)).moveTo(at(90, 50)).release();
+    EXPECT_EQ(parent.told.back(), (std::pair<UINT, int>{SB_THUMBPOSITION, 45}));
+    dial.RemoveStops();
+    user.press(at(50, 10)).moveTo(at(90, 50)).release();
+    EXPECT_NEAR(dial.GetPos(), 135, 0.01);
+}
+
+TEST_F(DialSlider, AClickTurnsNothing)
+{
+    user.click(at(80, 80));
+    EXPECT_EQ(dial.GetPos(), 0);
+}
+
+TEST_F(DialSlider, KeysStopAtTheStops)
+{
+    dial.UseKeyboard(true);
+    dial.SetStops(-10, 10);
+    dial.SetFocus();
+    user.key(VK_PRIOR);
+    EXPECT_EQ(dial.GetPos(), 10);
+}
+
+TEST_F(DialSlider, ThePointerShowsTheAngle)
+{
+    const Picture up = Picture::ofClient(dial);
+    dial.SetPos(90);
+    const Picture right = Picture::ofClient(dial);
+    EXPECT_GT(up.differences(right), 50);
+    EXPECT_EQ(right.at(70, 50), ::GetSysColor(COLOR_BTNTEXT));
+    EXPECT_EQ(right.at(0, 0), ::GetSysColor(COLOR_BTNFACE));
+    dial.SetTicks(30);
+    EXPECT_GT(right.differences(Picture::ofClient(dial)), 20);
+    dial.EnableWindow(FALSE);
+    EXPECT_EQ(Picture::ofClient(dial).at(70, 50), ::GetSysColor(COLOR_GRAYTEXT));
+}
+
+// Data exchange
+
+namespace
+{
+
+class SliderExchange : public ::testing::Test
+{
+protected:
+    SliderExchange()
+    {
+        buddy.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(10, 10, 100, 32), &parent, 7);
+        CStatic plain;
+        plain.Create(L"", WS_CHILD | WS_VISIBLE, CRect(102, 10, 118, 32), &parent, 9);
+        button.SubclassWindow(plain.Detach());
+        button.SetBuddy(buddy);
+        button.SetType(CSliderButton::SliderLinear);
+        button.SetRange(0.0, 50.0, 1);
+        present(parent);
+    }
+    std::wstring text() const
+    {
+        CString text;
+        buddy.GetWindowText(text);
+        return std::wstring(text);
+    }
+
+    CUnitNumbers plainNumbers{L"mm", false};
+    RecordingParent parent;
+    CEdit buddy;
+    CSliderButton button{plainNumbers};
+};
+
+} // namespace
+
+TEST_F(SliderExchange, NumbersGoThroughTheButtonsConversions)
+{
+    CDataExchange showing(&parent, FALSE);
+    double number = 12.5;
+    DDX_SliderNumber(&showing, button, number);
+    EXPECT_EQ(text(), L"12.5 mm");
+    buddy.SetWindowText(L"33.25mm");
+    CDataExchange reading(&parent, TRUE);
+    DDX_SliderNumber(&reading, button, number);
+    EXPECT_EQ(number, 33.25);
+    int whole = 0;
+    DDX_SliderNumber(&reading, button, whole);
+    EXPECT_EQ(whole, 33);
+}
+
+TEST_F(SliderExchange, WhatIsNoNumberOfTheRangeIsRefused)
+{
+    for (const wchar_t* wrong : {L"", L"many", L"51", L"-1", L"nan"}) {
+        TestApp::instance().forget();
+        buddy.SetWindowText(wrong);
+        CDataExchange reading(&parent, TRUE);
+        double number = 7;
+        bool failed = false;
+        try {
+            DDX_SliderNumber(&reading, button, number);
+        } catch (CUserException* error) {
+            failed = true;
+            error->Delete();
+        }
+        EXPECT_TRUE(failed) << testing::PrintToString(wrong);
+        EXPECT_EQ(number, 7) << "the member stays";
+        ASSERT_EQ(TestApp::instance().boxes().size(), 1u);
+        EXPECT_EQ(TestApp::instance().boxes()[0].text, L"Enter a number from 0 to 50.");
+    }
+}
+
+TEST_F(SliderExchange, AnglesGoBothWays)
+{
+    CDialSlider dial;
+    dial.Create(WS_CHILD | WS_VISIBLE, CRect(150, 10, 200, 60), &parent, 8);
+    double degrees = 33;
+    CDataExchange showing(&parent, FALSE);
+    DDX_Angle(&showing, dial, degrees);
+    EXPECT_EQ(dial.GetPos(), 33);
+    dial.SetPos(-4.5);
+    CDataExchange reading(&parent, TRUE);
+    DDX_Angle(&reading, dial, degrees);
+    EXPECT_EQ(degrees, -4.5);
+}
