@@ -14,17 +14,24 @@ constexpr DWORD kFlags = OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST 
 constexpr std::size_t kLongestName = 259;
 constexpr DWORD kRoomForFiles = 32767;
 
-bool sameCharacters(std::wstring_view a, std::wstring_view b)
+bool caseCounts(wchar_t, wchar_t)
 {
-    return a == b;
+    return false;
 }
 
-bool sameButForCase(std::wstring_view a, std::wstring_view b)
+bool isAscii(wchar_t character)
 {
-    return ::_wcsnicmp(a.data(), b.data(), b.size()) == 0;
+    return character < 0x80;
 }
 
-constexpr ovoui::FilterRules kForOneFile{true, &sameCharacters};
+bool sameButForCase(wchar_t a, wchar_t b)
+{
+    if (isAscii(a) && isAscii(b)) // the C runtime takes a hundred times as long
+        return (a | 0x20) == (b | 0x20) && (a | 0x20) >= L'a' && (a | 0x20) <= L'z';
+    return ::_wcsnicmp(&a, &b, 1) == 0;
+}
+
+constexpr ovoui::FilterRules kForOneFile{true, &caseCounts};
 constexpr ovoui::FilterRules kForFiles{false, &sameButForCase};
 
 /// Sets what is not null and not empty. The texts must stay while the dialog is shown.

@@ -55,15 +55,15 @@ protected:
     virtual BOOL OnInitDialog(); ///< FALSE when it has set the focus.
 
     // Both
-    virtual BOOL
-    OnFileNameOK(BOOL bResult); ///< TRUE refuses the file; `bResult` is what would be given otherwise.
+    /// TRUE refuses the file; `bResult` is what would be given otherwise.
+    virtual BOOL OnFileNameOK(BOOL bResult);
     virtual void OnFileNameChange();
     virtual void OnFolderChange();
     virtual void OnInitDone();
     virtual void OnLBSelChangedNotify(UINT nIDBox, UINT iCurSel, UINT nCode);
     virtual void OnTypeChange();
-    virtual LRESULT OnPostInit(WPARAM wParam,
-                               LPARAM lParam); ///< Classic only: once, when the dialog is shown.
+    /// Classic only: once, when the dialog is shown.
+    virtual LRESULT OnPostInit(WPARAM wParam, LPARAM lParam);
 
     // The host's controls. On the classic path the item is the index; a push button is told as a check
     // button, unless AddPushButton has named it.

@@ -1,6 +1,7 @@
 // The browse functions, with the system's dialogs.
 #include "HostDialog.h"
 
+#include "mfc/cdlg/FakeShellDialog.h"
 #include "support/ImportPatch.h"
 
 #include <ovoui/files/Browse.h>
@@ -297,10 +298,75 @@ TEST_F(BrowseTest, FiveHundredFiles)
     EXPECT_EQ(paths, expected);
 }
 
+TEST_F(BrowseTest, MoreFilesThanThereIsRoomForCountAsCancelled)
+{
+    FakeShellDialog fake;
+    for (int i = 0; i < 200; ++i)
+        fake.results.push_back(L"C:\\" + std::wstring(200, L'x') + std::to_wstring(i));
+    std::vector<std::wstring> paths{L"as before"};
+    EXPECT_FALSE(BrowseForFiles(nullptr, nullptr, L"", L"", kFilter, paths));
+    EXPECT_EQ(paths, std::vector<std::wstring>{L"as before"});
+    fake.results.resize(150);
+    EXPECT_TRUE(BrowseForFiles(nullptr, nullptr, L"", L"", kFilter, paths));
+    EXPECT_EQ(paths, fake.results);
+}
+
+TEST_F(BrowseTest, AsksWithTheAgreedFlags)
+{
+    constexpr DWORD kAlways = FOS_NOCHANGEDIR | FOS_PATHMUSTEXIST | FOS_SHAREAWARE | FOS_FORCEFILESYSTEM;
+    FakeShellDialog fake;
+    fake.results = {L"C:\\a"};
+    struct Case
+    {
+        int mustExist;
+        int save;
+        DWORD flags;
+    };
+    for (const Case& c : {Case{0, 0, 0}, Case{1, 0, FOS_FILEMUSTEXIST}, Case{0, 1, FOS_OVERWRITEPROMPT},
+                          Case{7, 7, FOS_FILEMUSTEXIST | FOS_OVERWRITEPROMPT}}) {
+        fake.options = 0;
+        File file{.mustExist = c.mustExist, .save = c.save};
+        EXPECT_TRUE(file.ask());
+        EXPECT_EQ(fake.options, kAlways | c.flags);
+    }
+    fake.options = 0;
+    std::vector<std::wstring> paths;
+    BrowseForFiles(nullptr, nullptr, L"", L"", kFilter, paths);
+    EXPECT_EQ(fake.options, kAlways | FOS_FILEMUSTEXIST | FOS_ALLOWMULTISELECT);
+}
+
 // A folder
 
 namespace
 {
+
+/// Takes down the messages to a folder dialog.
+class FolderDialog : public CWnd
+{
+public:
+    FolderDialog()
+    {
+        CreateEx(0, AfxRegisterWndClass(0), L"Folder", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
+    }
+    ~FolderDialog() override { DestroyWindow(); }
+
+    struct Told
+    {
+        UINT message;
+        WPARAM isPath;
+        std::wstring path;
+        bool operator==(const Told&) const = default;
+    };
+    std::vector<Told> told;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == BFFM_SETEXPANDED || message == BFFM_SETSELECTIONW)
+            told.push_back({message, wParam, reinterpret_cast<const wchar_t*>(lParam)});
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
 
 /// What BrowseForDir asks of the system, which the test answers.
 struct AskedFolder
@@ -311,6 +377,7 @@ struct AskedFolder
     static inline std::wstring start;
     static inline LPITEMIDLIST answer = nullptr;
     static inline std::vector<LRESULT> results;
+    static inline std::vector<FolderDialog::Told> told;
 
     static LPITEMIDLIST WINAPI ask(LPBROWSEINFOW question)
     {
@@ -323,6 +390,9 @@ struct AskedFolder
         results = {question->lpfn(nullptr, BFFM_SELCHANGED, 0, question->lParam),
                    question->lpfn(nullptr, BFFM_VALIDATEFAILED, 0, question->lParam),
                    question->lpfn(nullptr, BFFM_INITIALIZED, 0, 0)};
+        FolderDialog dialog;
+        results.push_back(question->lpfn(dialog.m_hWnd, BFFM_INITIALIZED, 0, question->lParam));
+        told = dialog.told;
         return std::exchange(answer, nullptr);
     }
 };
@@ -360,7 +430,10 @@ TEST_F(BrowseTest, AFolderIsAskedForAsAgreed)
     EXPECT_EQ(AskedFolder::owner, nullptr);
     EXPECT_EQ(AskedFolder::title, L"Where to?");
     EXPECT_EQ(AskedFolder::start, files.folder());
-    EXPECT_EQ(AskedFolder::results, (std::vector<LRESULT>{0, 0, 0}));
+    EXPECT_EQ(AskedFolder::results, (std::vector<LRESULT>{0, 0, 0, 0}));
+    EXPECT_EQ(AskedFolder::told,
+              (std::vector<FolderDialog::Told>{{BFFM_SETEXPANDED, TRUE, files.folder()},
+                                               {BFFM_SETSELECTIONW, TRUE, files.folder()}}));
 }
 
 TEST_F(BrowseTest, AFolderBeginsWhereTheClimbStops)

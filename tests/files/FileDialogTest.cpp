@@ -80,31 +80,30 @@ TEST_P(FileDialogTest, GivesSeveralFiles)
 
 TEST_P(FileDialogTest, TellsWhatTheUserDoesWithTheControls)
 {
+    const std::string checked = "CheckButtonToggled " + idOf(IDC_BACKUP) + " 1";
+    const std::string unchecked = "CheckButtonToggled " + idOf(IDC_BACKUP) + " 0";
+    const std::string chosen = "ItemSelected " + idOf(IDC_FORMAT) + " 2";
     HostDialog dialog(kind());
     dialog.startIn(files.folder());
     std::vector<std::string> events;
-    auto answering =
-        whenAsked()
-            .then([&] { dialog.forgetEvents(); })
-            .click([&] { return controlOf(dialog, IDC_BACKUP); })
-            .waitFor("the check", [&] { return !dialog.events.empty(); })
-            .key(VK_SPACE)
-            .waitFor("the other check", [&] { return dialog.events.size() == 2; })
-            .click([&] { return controlOf(dialog, IDC_FORMAT); })
-            .key(VK_DOWN)
-            .key(VK_DOWN)
-            .key(VK_RETURN)
-            .waitFor("the choice",
-                     [&] { return dialog.count("ItemSelected " + idOf(IDC_FORMAT) + " 2") == 1; })
-            .then([&] { events = dialog.events; })
-            .key(VK_ESCAPE)
-            .start();
+    auto answering = whenAsked()
+                         .then([&] { dialog.forgetEvents(); })
+                         .click([&] { return controlOf(dialog, IDC_BACKUP); })
+                         .waitFor("the check", [&] { return dialog.count(checked) == 1; })
+                         .key(VK_SPACE)
+                         .waitFor("the other check", [&] { return dialog.count(unchecked) == 1; })
+                         .click([&] { return controlOf(dialog, IDC_FORMAT); })
+                         .key(VK_DOWN)
+                         .key(VK_DOWN)
+                         .key(VK_RETURN)
+                         .waitFor("the choice", [&] { return dialog.count(chosen) == 1; })
+                         .then([&] { events = dialog.events; })
+                         .key(VK_ESCAPE)
+                         .start();
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-    std::erase(events, "ControlActivating " + idOf(IDC_FORMAT));
-    std::erase(events, "ItemSelected " + idOf(IDC_FORMAT) + " 1"); // on the way, where the list tells of it
-    EXPECT_EQ(events, (std::vector<std::string>{"CheckButtonToggled " + idOf(IDC_BACKUP) + " 1",
-                                                "CheckButtonToggled " + idOf(IDC_BACKUP) + " 0",
-                                                "ItemSelected " + idOf(IDC_FORMAT) + " 2"}));
+    // What else is told meanwhile is the system's affair, a choice passed on the way included.
+    std::erase_if(events, [&](const auto& e) { return e != checked && e != unchecked && e != chosen; });
+    EXPECT_EQ(events, (std::vector<std::string>{checked, unchecked, chosen}));
 }
 
 TEST_P(FileDialogTest, GivesTheValuesWhenTheFileIsAccepted)

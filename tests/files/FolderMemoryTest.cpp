@@ -1,6 +1,7 @@
 // Where a dialog begins: default folders, remembered ones, places.
 #include "HostDialog.h"
 
+#include "mfc/cdlg/FakeShellDialog.h"
 #include "support/TemporaryProfile.h"
 
 #include <gtest/gtest.h>
@@ -96,4 +97,19 @@ TEST_F(FolderMemory, PlacesAreTakenSilently)
         auto answering = whenAsked().key(VK_ESCAPE).start();
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     }
+}
+
+TEST_F(FolderMemory, TheNewStyleDialogIsToldPurposeAndPlaces)
+{
+    FakeShellDialog fake;
+    COVOFileDialog dialog(TRUE, nullptr, nullptr, 0, nullptr, nullptr, TRUE);
+    dialog.RememberFolder(kPictures);
+    dialog.AddPlace(files.folder(), true);
+    dialog.AddPlace(files.path(L"below"));
+    dialog.AddPlace(files.path(L"gone"));
+    dialog.SetDefaultFolder(files.folder());
+    EXPECT_EQ(fake.client, kPictures);
+    EXPECT_EQ(fake.topPlaces, 1);
+    EXPECT_EQ(fake.bottomPlaces, 1);
+    EXPECT_EQ(fake.defaultFolders, 1);
 }

@@ -25,7 +25,9 @@ bool standsAt(std::size_t place, std::wstring_view filter, std::wstring_view ext
         if (next != L'|' && next != L';')
             return false;
     }
-    return rules.same(filter.substr(place, extension.size()), extension);
+    const auto same = [&](wchar_t a, wchar_t b) { return a == b || rules.same(a, b); };
+    return std::equal(extension.begin(), extension.end(), filter.begin() + static_cast<std::ptrdiff_t>(place),
+                      same);
 }
 
 } // namespace

@@ -9,8 +9,8 @@ namespace ovoui
 /// How the extension is compared with what follows the asterisk of a pattern.
 struct FilterRules
 {
-    bool patternMayEndTheText;                              ///< whether a pattern counts that nothing follows
-    bool (*same)(std::wstring_view a, std::wstring_view b); ///< of texts of the same length
+    bool patternMayEndTheText;          ///< whether a pattern counts that nothing follows
+    bool (*same)(wchar_t a, wchar_t b); ///< asked for characters that are not equal
 };
 
 /// The number, from 1, of the first entry of a filter ("Text|*.txt|Pictures|*.png;*.jpg|") that has "*" and

@@ -11,9 +11,9 @@ using ovoui::FilterRules;
 namespace
 {
 
-bool same(std::wstring_view a, std::wstring_view b)
+bool caseCounts(wchar_t, wchar_t)
 {
-    return a == b;
+    return false;
 }
 
 wchar_t lower(wchar_t c)
@@ -21,13 +21,12 @@ wchar_t lower(wchar_t c)
     return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
 }
 
-bool sameButForCase(std::wstring_view a, std::wstring_view b)
+bool sameButForCase(wchar_t a, wchar_t b)
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](wchar_t x, wchar_t y) { return lower(x) == lower(y); });
+    return lower(a) == lower(b);
 }
 
-constexpr FilterRules kOneFile{true, &same};
+constexpr FilterRules kOneFile{true, &caseCounts};
 constexpr FilterRules kFiles{false, &sameButForCase};
 
 /// Character by character, with nothing remembered but the bars.
@@ -46,7 +45,10 @@ int plainEntryOf(const std::wstring& filter, const std::wstring& extension, cons
         const std::size_t end = p + extension.size();
         const bool ends =
             end == filter.size() ? rules.patternMayEndTheText : filter[end] == L'|' || filter[end] == L';';
-        if (ends && rules.same(std::wstring_view(filter).substr(p, extension.size()), extension))
+        bool same = true;
+        for (std::size_t i = 0; i < extension.size(); ++i)
+            same = same && (filter[p + i] == extension[i] || rules.same(filter[p + i], extension[i]));
+        if (ends && same)
             return bars / 2 + 1;
     }
     return 0;

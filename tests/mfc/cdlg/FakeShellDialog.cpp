@@ -120,7 +120,11 @@ public:
         *options = static_cast<FILEOPENDIALOGOPTIONS>(s_current->options);
         return S_OK;
     }
-    STDMETHODIMP SetDefaultFolder(IShellItem*) override { return S_OK; }
+    STDMETHODIMP SetDefaultFolder(IShellItem*) override
+    {
+        ++s_current->defaultFolders;
+        return S_OK;
+    }
     STDMETHODIMP SetFolder(IShellItem*) override { return S_OK; }
     STDMETHODIMP GetFolder(IShellItem**) override { return E_FAIL; }
     STDMETHODIMP GetCurrentSelection(IShellItem**) override { return E_FAIL; }
@@ -134,10 +138,18 @@ public:
         *item = new Item(s_current->results.front());
         return S_OK;
     }
-    STDMETHODIMP AddPlace(IShellItem*, FDAP) override { return S_OK; }
+    STDMETHODIMP AddPlace(IShellItem*, FDAP where) override
+    {
+        ++(where == FDAP_TOP ? s_current->topPlaces : s_current->bottomPlaces);
+        return S_OK;
+    }
     STDMETHODIMP SetDefaultExtension(LPCWSTR) override { return S_OK; }
     STDMETHODIMP Close(HRESULT) override { return S_OK; }
-    STDMETHODIMP SetClientGuid(REFGUID) override { return S_OK; }
+    STDMETHODIMP SetClientGuid(REFGUID client) override
+    {
+        s_current->client = client;
+        return S_OK;
+    }
     STDMETHODIMP ClearClientData() override { return S_OK; }
     STDMETHODIMP SetFilter(IShellItemFilter*) override { return S_OK; }
     STDMETHODIMP GetResults(IShellItemArray** items) override

@@ -23,6 +23,10 @@ public:
     std::function<HRESULT(IFileDialogEvents&)> onShow; ///< instead of accepting the results
 
     DWORD options = 0; ///< as they were set last
+    GUID client{};     ///< likewise
+    int topPlaces = 0;
+    int bottomPlaces = 0;
+    int defaultFolders = 0;
     int references() const;
     IFileDialog* dialog() const;
     /// Offers the results as the user's OK does; whether they are taken.

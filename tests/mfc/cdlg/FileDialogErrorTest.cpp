@@ -188,6 +188,14 @@ TEST(ShellFileDialogError, OfEachEventComesOut)
         {"FolderChange", [](auto& e, auto&, auto& d) { EXPECT_TRUE(FAILED(e.OnFolderChange(&d))); }},
         {"TypeChange", [](auto& e, auto&, auto& d) { EXPECT_TRUE(FAILED(e.OnTypeChange(&d))); }},
         {"FileNameOK", [](auto& e, auto&, auto& d) { EXPECT_EQ(e.OnFileOk(&d), S_FALSE); }},
+        {"ShareViolation",
+         [](auto& e, auto&, auto& d) {
+             IShellItem* item = nullptr;
+             d.GetResult(&item);
+             FDE_SHAREVIOLATION_RESPONSE response{};
+             EXPECT_TRUE(FAILED(e.OnShareViolation(&d, item, &response)));
+             item->Release();
+         }},
         {"ItemSelected", [](auto&, auto& c, auto&) { EXPECT_TRUE(FAILED(c.OnItemSelected(nullptr, 1, 2))); }},
         {"ButtonClicked", [](auto&, auto& c, auto&) { EXPECT_TRUE(FAILED(c.OnButtonClicked(nullptr, 1))); }},
         {"CheckButtonToggled",
@@ -211,4 +219,15 @@ TEST(ShellFileDialogError, OfEachEventComesOut)
         EXPECT_TRUE(comesOut(dialog));
         EXPECT_EQ(dialog.m_dwRef, 1);
     }
+}
+
+TEST_P(FileDialogError, OfShowingADialogThatIsShown)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto showTwice = [this] {
+        RecordingFileDialog dialog(kind());
+        dialog.on["InitDone"] = [&] { dialog.DoModal(); };
+        dialog.DoModal();
+    };
+    EXPECT_DEATH(showTwice(), "assertion failed");
 }
