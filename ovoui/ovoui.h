@@ -3,6 +3,7 @@
 
 #include <ovoui/colour/ColPickerDlg.h>
 #include <ovoui/colour/ColPickerDlgBase.h>
+#include <ovoui/colour/ColPickerPaletteDlg.h>
 #include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/files/Browse.h>
 #include <ovoui/files/FileDialog.h>

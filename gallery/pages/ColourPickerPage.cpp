@@ -2,6 +2,8 @@
 
 #include "resource.h"
 
+#include <ovoui/colour/ColPickerPaletteDlg.h>
+
 #include <ovocor/Text.h>
 
 BEGIN_MESSAGE_MAP(ColourPickerPage, GalleryPage)
@@ -9,6 +11,7 @@ BEGIN_MESSAGE_MAP(ColourPickerPage, GalleryPage)
     ON_BN_CLICKED(IDC_PICK_CUSTOM, &ColourPickerPage::OnCustomColours)
     ON_BN_CLICKED(IDC_PICK_ON_TAB, &ColourPickerPage::OnOnTab)
     ON_BN_CLICKED(IDC_PICK_MODELESS, &ColourPickerPage::OnModeless)
+    ON_BN_CLICKED(IDC_PICK_PALETTE, &ColourPickerPage::OnPalette)
     ON_BN_CLICKED(IDC_PICK_ALPHA, &ColourPickerPage::OnAlpha)
 END_MESSAGE_MAP()
 
@@ -103,6 +106,13 @@ void ColourPickerPage::OnOnTab()
     picked(answer, dialog.colour());
 }
 
+void ColourPickerPage::OnPalette()
+{
+    ColPickerPaletteDlg dialog(*AfxGetApp(), chosenMode(), m_colour, this, this);
+    const INT_PTR answer = dialog.DoModal();
+    picked(answer, dialog.GetColour());
+}
+
 /// Stays open beside the page, and closes with it.
 void ColourPickerPage::OnModeless()
 {
@@ -122,7 +132,7 @@ void ColourPickerPage::OnAlpha()
 
 std::vector<std::wstring> ColourPickerPage::poses() const
 {
-    return {L"rgb", L"hls", L"hsv", L"alpha", L"mid-drag", L"custom", L"on-tab"};
+    return {L"rgb", L"hls", L"hsv", L"alpha", L"mid-drag", L"custom", L"on-tab", L"palette"};
 }
 
 bool ColourPickerPage::pose(const std::wstring& name)
@@ -133,6 +143,10 @@ bool ColourPickerPage::pose(const std::wstring& name)
     }
     if (name == L"on-tab") {
         TabbedPicker(m_host, m_colour, this).DoModal();
+        return true;
+    }
+    if (name == L"palette") {
+        ColPickerPaletteDlg(*AfxGetApp(), ColPickerModeHLS, m_colour, this, this).DoModal();
         return true;
     }
     const bool alpha = name == L"alpha";

@@ -21,6 +21,7 @@ protected:
     afx_msg void OnCustomColours();
     afx_msg void OnOnTab();
     afx_msg void OnModeless();
+    afx_msg void OnPalette();
     afx_msg void OnAlpha();
     DECLARE_MESSAGE_MAP()
 

@@ -1,6 +1,9 @@
 # The colour picker, its dialogs, and the shaded tab control that carries them.
 set(colour_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/ColourHistory.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ColourModes.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ColourText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/Contrast.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/HueRing.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ShadeTriangle.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SwatchLayout.cpp
@@ -22,5 +25,6 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ColPickerDlgBase.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ColPickerMouse.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ColPickerPaint.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ColPickerPaletteDlg.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ColourWheelImage.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ShadedTabCtrl.cpp)

@@ -1,0 +1,210 @@
+#include <ovoui/colour/ColPickerPaletteDlg.h>
+
+#include <ovoui/colour/core/ColourHistory.h>
+#include <ovoui/colour/core/ColourText.h>
+#include <ovoui/colour/core/Contrast.h>
+#include <ovouires/resource.h>
+
+#include <string>
+
+using namespace ovoui::colour;
+
+IMPLEMENT_DYNAMIC(ColPickerPaletteDlg, ColPickerDlgBase)
+
+BEGIN_MESSAGE_MAP(ColPickerPaletteDlg, ColPickerDlgBase)
+    ON_EN_KILLFOCUS(IDC_COLOUR_VALUE_ALPHA, &ColPickerPaletteDlg::OnKillfocusColpickerValues)
+    ON_EN_KILLFOCUS(IDC_COLOUR_TEXT, &ColPickerPaletteDlg::OnKillfocusText)
+    ON_STN_CLICKED(IDC_COLOUR_BEFORE, &ColPickerPaletteDlg::OnBefore)
+    ON_WM_DESTROY()
+    ON_WM_DRAWITEM()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+constexpr wchar_t kSection[] = L"settings";
+constexpr wchar_t kModeEntry[] = L"ColourModel";
+constexpr wchar_t kCustomEntry[] = L"CustomColours";
+
+constexpr std::array<COLORREF, 18> kFirstColours{
+    RGB(0, 0, 0),       RGB(127, 127, 127), RGB(136, 0, 21),    RGB(237, 28, 36),  RGB(255, 127, 39),
+    RGB(255, 242, 0),   RGB(34, 177, 76),   RGB(0, 162, 232),   RGB(63, 72, 204),  RGB(255, 255, 255),
+    RGB(195, 195, 195), RGB(185, 122, 87),  RGB(255, 174, 201), RGB(255, 201, 14), RGB(239, 228, 176),
+    RGB(181, 230, 29),  RGB(153, 217, 234), RGB(163, 73, 164)};
+
+/// Texts of colours with blanks between them. Those that cannot be read stay as they are.
+void readColours(std::wstring_view text, std::array<COLORREF, 18>& colours)
+{
+    for (COLORREF& colour : colours) {
+        const std::size_t end = std::min(text.find(L' '), text.size());
+        if (const auto read = colourFromText(text.substr(0, end)))
+            colour = read->colorref();
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+}
+
+std::wstring textOf(const std::array<COLORREF, 18>& colours)
+{
+    std::wstring text;
+    for (const COLORREF colour : colours)
+        text += (text.empty() ? L"" : L" ") + textOfColour(Colour::colorref(colour));
+    return text;
+}
+
+} // namespace
+
+ColPickerPaletteDlg::ColPickerPaletteDlg(CWinApp& app, ColPickerModeType mode, const Colour& colour,
+                                         CWnd* centreOn, CWnd* parent)
+    : ColPickerDlgBase(IDD_COLOUR_PALETTE, app, colour, centreOn, parent)
+    , m_before(colour)
+    , m_custom(kFirstColours)
+    , m_history(std::make_unique<ColourHistory>(colour))
+{
+    m_mode = mode;
+    m_alphaEnabled = colour.a() >= 0;
+    m_customAreaId = IDC_COLOUR_SWATCHES;
+}
+
+ColPickerPaletteDlg::~ColPickerPaletteDlg()
+{
+    if (m_hWnd)
+        DestroyWindow(); // while its colours can still be kept
+}
+
+// Settings
+
+void ColPickerPaletteDlg::LoadSettings()
+{
+    m_mode = static_cast<ColPickerModeType>(m_app.GetProfileInt(kSection, kModeEntry, m_mode));
+    readColours(std::wstring(m_app.GetProfileString(kSection, kCustomEntry)), m_custom);
+}
+
+void ColPickerPaletteDlg::SaveSettings()
+{
+    m_app.WriteProfileInt(kSection, kModeEntry, m_mode);
+}
+
+COLORREF& ColPickerPaletteDlg::customCols(int index)
+{
+    return m_custom[static_cast<std::size_t>(index)];
+}
+
+void ColPickerPaletteDlg::OnDestroy()
+{
+    m_app.WriteProfileString(kSection, kCustomEntry, textOf(m_custom).c_str());
+    ColPickerDlgBase::OnDestroy();
+}
+
+// The dialog
+
+void ColPickerPaletteDlg::DoDataExchange(CDataExchange* exchange)
+{
+    ColPickerDlgBase::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_COLOUR_VALUE_ALPHA, m_valueAlpha);
+    DDX_Control(exchange, IDC_COLOUR_SLIDER_ALPHA, m_sliderAlpha);
+    DDX_Control(exchange, IDC_COLOUR_TEXT, m_text);
+}
+
+BOOL ColPickerPaletteDlg::OnInitDialog()
+{
+    const Lifeline::Watch watch(m_paletteLifeline);
+    const BOOL result = ColPickerDlgBase::OnInitDialog();
+    if (!watch.alive() || !m_hWnd)
+        return result;
+    *m_history = ColourHistory(m_colour);
+    showColour();
+    return result;
+}
+
+/// A colour that is being typed counts, as numbers do.
+void ColPickerPaletteDlg::OnOK()
+{
+    const Lifeline::Watch watch(m_paletteLifeline);
+    if (::GetFocus() == m_text.m_hWnd)
+        OnKillfocusText();
+    if (watch.alive() && m_hWnd)
+        ColPickerDlgBase::OnOK();
+}
+
+// The colour
+
+void ColPickerPaletteDlg::UpdateExternalColours(bool final)
+{
+    if (final)
+        m_history->add(m_colour);
+    showColour();
+}
+
+/// A change by the user.
+void ColPickerPaletteDlg::use(const Colour& colour)
+{
+    const Lifeline::Watch watch(m_paletteLifeline);
+    SetColour(this, colour, true);
+    UpdateWindow(); // the numbers must not be of the colour before when an edit is left
+    if (watch.alive() && m_hWnd)
+        UpdateExternalColours(true);
+}
+
+void ColPickerPaletteDlg::showColour()
+{
+    const std::wstring name = nameOfColour(m_colour);
+    m_text.SetWindowText(name.empty() ? textOfColour(m_colour).c_str() : name.c_str());
+    const double onWhite = contrast(m_colour, Colour::rgb(1, 1, 1));
+    const double onBlack = contrast(m_colour, Colour::rgb(0, 0, 0));
+    CString text;
+    text.Format(IDS_COLOUR_CONTRAST, onWhite, gradeOf(onWhite).data(), onBlack, gradeOf(onBlack).data());
+    SetDlgItemText(IDC_COLOUR_CONTRAST, text);
+}
+
+/// What is no colour goes.
+void ColPickerPaletteDlg::OnKillfocusText()
+{
+    CString typed;
+    m_text.GetWindowText(typed);
+    const auto read = colourFromText(std::wstring_view(typed.GetString()));
+    if (!read) {
+        showColour();
+        return;
+    }
+    // The text has alpha only where it says so; else what the dialog has stays.
+    const bool saysAlpha = m_alphaEnabled && read->a() >= 0;
+    const Colour colour = Colour::rgba(read->r(), read->g(), read->b(), saysAlpha ? read->a() : m_colour.a());
+    if (colour.colorref() == m_colour.colorref() && !saysAlpha)
+        showColour();
+    else
+        use(colour);
+}
+
+void ColPickerPaletteDlg::OnBefore()
+{
+    use(m_before);
+}
+
+void ColPickerPaletteDlg::OnDrawItem(int id, DRAWITEMSTRUCT* item)
+{
+    if (id != IDC_COLOUR_BEFORE) {
+        ColPickerDlgBase::OnDrawItem(id, item);
+        return;
+    }
+    CBrush brush(m_before.colorref());
+    ::FillRect(item->hDC, &item->rcItem, brush);
+}
+
+BOOL ColPickerPaletteDlg::PreTranslateMessage(MSG* message)
+{
+    if (message->message == WM_KEYDOWN && ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_MENU) >= 0 &&
+        goBackOrForward(message->wParam))
+        return TRUE;
+    return ColPickerDlgBase::PreTranslateMessage(message);
+}
+
+/// Whether the key was one of the two. Typing that can be undone goes first, where it is done.
+bool ColPickerPaletteDlg::goBackOrForward(WPARAM key)
+{
+    if ((key != 'Z' && key != 'Y') || ::SendMessageW(::GetFocus(), EM_CANUNDO, 0, 0))
+        return false;
+    const Colour* const colour = key == 'Z' ? m_history->back() : m_history->forward();
+    if (colour)
+        use(Colour(*colour));
+    return true;
+}

@@ -1,0 +1,19 @@
+/// How well a text can be read. Plain values, no windows.
+#pragma once
+
+#include <ovocor/Colour.h>
+
+#include <string_view>
+
+namespace ovoui::colour
+{
+
+/// The contrast ratio of two colours, 1 to 21, after the Web Content Accessibility Guidelines 2. Alpha is
+/// left out.
+double contrast(const Colour& one, const Colour& other);
+
+/// What the guidelines say of a text of ordinary size: "AAA" from 7, "AA" from 4.5, and for large text "AA
+/// large" from 3; below that "-".
+std::wstring_view gradeOf(double contrast);
+
+} // namespace ovoui::colour

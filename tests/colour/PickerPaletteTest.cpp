@@ -1,0 +1,188 @@
+// The picker with a palette of the user's own.
+#include "support/Desktop.h"
+#include "support/GdiPlusSession.h"
+#include "support/Picture.h"
+#include "support/Robot.h"
+#include "support/TemporaryProfile.h"
+#include "support/TestApp.h"
+
+#include <ovoui/colour/ColPickerPaletteDlg.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+constexpr int kText = 20561;
+constexpr int kBefore = 20562;
+constexpr int kContrast = 20563;
+constexpr int kValue1 = 3437;
+
+class Palette : public ColPickerPaletteDlg
+{
+public:
+    using ColPickerPaletteDlg::ColPickerPaletteDlg;
+    using ColPickerPaletteDlg::m_mode;
+    using ColPickerPaletteDlg::m_patchRect;
+    using ColPickerPaletteDlg::m_swatches;
+    using ColPickerPaletteDlg::m_wheelRect;
+    using ColPickerPaletteDlg::SetSliderMode;
+};
+
+class PickerPalette : public ::testing::Test
+{
+protected:
+    ~PickerPalette() override { dialog.reset(); }
+
+    void open(const Colour& colour = Colour::rgb(1, 0, 0))
+    {
+        dialog = std::make_unique<Palette>(TestApp::instance(), ColPickerModeRGB, colour, nullptr, nullptr);
+        dialog->Create(1545, nullptr);
+        ASSERT_TRUE(dialog->m_hWnd);
+        dialog->SetWindowPos(&CWnd::wndTop, 120, 90, 0, 0, SWP_NOSIZE);
+        present(*dialog);
+    }
+
+    std::wstring text(int id) const
+    {
+        CString text;
+        dialog->GetDlgItemText(id, text);
+        return std::wstring(text);
+    }
+    COLORREF now() { return dialog->GetColour().colorref(); }
+
+    /// Types into the field and leaves it.
+    void enter(const wchar_t* colour)
+    {
+        dialog->GetDlgItem(kText)->SetFocus();
+        dialog->SetDlgItemText(kText, colour);
+        dialog->GetDlgItem(IDOK)->SetFocus();
+    }
+
+    const GdiPlusSession gdiPlus;
+    const TemporaryProfile profile;
+    std::unique_ptr<Palette> dialog;
+    Robot user;
+};
+
+} // namespace
+
+TEST_F(PickerPalette, TheFieldTakesCodesAndNames)
+{
+    open();
+    EXPECT_EQ(text(kText), L"red");
+    enter(L"#336699");
+    EXPECT_EQ(now(), RGB(0x33, 0x66, 0x99));
+    EXPECT_EQ(text(kText), L"#336699");
+    EXPECT_EQ(text(kValue1), L"51") << "at once";
+    enter(L" Teal ");
+    EXPECT_EQ(now(), RGB(0, 128, 128));
+    EXPECT_EQ(text(kText), L"teal");
+    enter(L"no colour");
+    EXPECT_EQ(now(), RGB(0, 128, 128));
+    EXPECT_EQ(text(kText), L"teal") << "what is no colour goes";
+    EXPECT_EQ(dialog->GetColour().a(), -1);
+}
+
+TEST_F(PickerPalette, TheFieldTakesAlphaWhereTheDialogHasIt)
+{
+    open(Colour::rgba(1, 0, 0, 0.2));
+    EXPECT_EQ(text(kText), L"#FF000033");
+    enter(L"#00FF00");
+    EXPECT_NEAR(dialog->GetColour().a(), 0.2, 1e-9);
+    enter(L"0000FF80");
+    EXPECT_EQ(now(), RGB(0, 0, 255));
+    EXPECT_NEAR(dialog->GetColour().a(), 128 / 255.0, 1e-9);
+}
+
+TEST_F(PickerPalette, EnterTakesOverWhatIsInTheField)
+{
+    dialog = std::make_unique<Palette>(TestApp::instance(), ColPickerModeHLS, Colour::rgb(1, 0, 0), nullptr,
+                                       nullptr);
+    auto acting = user.waitFor("the dialog", [this] { return dialog->m_hWnd && dialog->IsWindowVisible(); })
+                      .then([this] {
+                          dialog->GetDlgItem(kText)->SetFocus();
+                          dialog->SetDlgItemText(kText, L"navy");
+                      })
+                      .key(VK_RETURN)
+                      .start();
+    EXPECT_EQ(dialog->DoModal(), IDOK);
+    EXPECT_EQ(now(), RGB(0, 0, 128));
+}
+
+TEST_F(PickerPalette, AClickOnTheColourAsItWasBringsItBack)
+{
+    open(Colour::rgb(0.2, 0.4, 0.6));
+    CWnd* const before = dialog->GetDlgItem(kBefore);
+    enter(L"yellow");
+    dialog->UpdateWindow();
+    EXPECT_EQ(Picture::ofClient(before->m_hWnd).at(3, 3), RGB(51, 102, 153));
+    user.click(Spot{*before});
+    EXPECT_EQ(now(), RGB(51, 102, 153));
+    EXPECT_EQ(text(kText), L"#336699");
+}
+
+TEST_F(PickerPalette, ChangesAreUndoneAndRedone)
+{
+    open();
+    enter(L"lime");
+    enter(L"blue");
+    user.holding(VK_CONTROL).key('Z');
+    EXPECT_EQ(now(), RGB(0, 255, 0));
+    user.holding(VK_CONTROL).key('Z', 2); // once more than there is
+    EXPECT_EQ(now(), RGB(255, 0, 0));
+    user.holding(VK_CONTROL).key('Y', 2);
+    EXPECT_EQ(now(), RGB(0, 0, 255));
+    user.holding(VK_CONTROL).key('Z');
+    user.click(Spot{*dialog, dialog->m_swatches[0].CenterPoint()});
+    const COLORREF swatch = now();
+    user.holding(VK_CONTROL).key('Y');
+    EXPECT_EQ(now(), swatch) << "what was undone is forgotten";
+    user.holding(VK_CONTROL).key('Z');
+    EXPECT_EQ(now(), RGB(0, 255, 0));
+}
+
+TEST_F(PickerPalette, ADragIsUndoneAsOne)
+{
+    open();
+    const CPoint centre = dialog->m_wheelRect.CenterPoint();
+    user.drag(Spot{*dialog, centre}, Spot{*dialog, centre + CPoint(12, 10)});
+    EXPECT_NE(now(), RGB(255, 0, 0));
+    user.holding(VK_CONTROL).key('Z');
+    EXPECT_EQ(now(), RGB(255, 0, 0));
+}
+
+TEST_F(PickerPalette, CustomColoursAndTheModeAreKept)
+{
+    open(Colour::rgb(0.2, 0.4, 0.6));
+    user.drag(Spot{*dialog, dialog->m_patchRect.CenterPoint()},
+              Spot{*dialog, dialog->m_swatches[7].CenterPoint()});
+    dialog->SetSliderMode(dialog.get(), ColPickerModeHSV);
+    dialog->DestroyWindow();
+    open();
+    EXPECT_EQ(dialog->m_mode, ColPickerModeHSV);
+    user.click(Spot{*dialog, dialog->m_swatches[7].CenterPoint()});
+    EXPECT_EQ(now(), RGB(51, 102, 153));
+}
+
+TEST_F(PickerPalette, SpoiltSettingsLeaveTheFirstColours)
+{
+    TestApp::instance().WriteProfileString(L"settings", L"CustomColours", L"#102030 rubbish");
+    TestApp::instance().WriteProfileInt(L"settings", L"ColourModel", 99);
+    open();
+    EXPECT_EQ(dialog->m_mode, ColPickerModeRGB);
+    user.click(Spot{*dialog, dialog->m_swatches[0].CenterPoint()});
+    EXPECT_EQ(now(), RGB(0x10, 0x20, 0x30));
+    user.click(Spot{*dialog, dialog->m_swatches[1].CenterPoint()});
+    EXPECT_EQ(now(), RGB(127, 127, 127));
+}
+
+TEST_F(PickerPalette, TheContrastIsTold)
+{
+    open(Colour::rgb(0, 0, 0));
+    EXPECT_EQ(text(kContrast), L"Contrast as text: on white 21.0 (AAA), on black 1.0 (-)");
+    enter(L"red");
+    EXPECT_EQ(text(kContrast), L"Contrast as text: on white 4.0 (AA large), on black 5.3 (AA)");
+}
