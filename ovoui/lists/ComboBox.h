@@ -152,6 +152,7 @@ private:
     void removeItem(int item);
     template <class Change, class IndexAfter>
     void changeItems(const Change& change, const IndexAfter& indexAfter);
+    void drawItems();
     int listItemHeight();
     void drawListItem(const DRAWITEMSTRUCT& draw, int item, const std::wstring& foldedFound);
 

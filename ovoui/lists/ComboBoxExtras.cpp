@@ -192,6 +192,7 @@ void COVOComboBox::SetItemColour(int item, DWORD colour)
     ItemLook look = m_items->looks.at(item);
     look.colour = colour;
     m_items->looks.set(item, look);
+    drawItems();
 }
 
 void COVOComboBox::SetItemImage(int item, int image)
@@ -199,12 +200,22 @@ void COVOComboBox::SetItemImage(int item, int image)
     ItemLook look = m_items->looks.at(item);
     look.image = image;
     m_items->looks.set(item, look);
+    drawItems();
 }
 
 void COVOComboBox::SetImageList(CImageList* images)
 {
     m_items->images = images;
-    if (m_hWnd && (GetStyle() & CBS_OWNERDRAWFIXED))
+    m_items->asked = false; // the height is another one now
+    drawItems();
+}
+
+/// From now on the control draws the items, and not the host.
+void COVOComboBox::drawItems()
+{
+    if (std::exchange(m_items->asked, true) || !m_hWnd)
+        return;
+    if (GetStyle() & CBS_OWNERDRAWFIXED)
         SetItemHeight(0, static_cast<UINT>(listItemHeight()));
 }
 
@@ -245,12 +256,14 @@ int COVOComboBox::listItemHeight()
 
 void COVOComboBox::MeasureItem(LPMEASUREITEMSTRUCT item)
 {
-    item->itemHeight = static_cast<UINT>(listItemHeight());
+    if (m_items->asked)
+        item->itemHeight = static_cast<UINT>(listItemHeight());
 }
 
 void COVOComboBox::DrawItem(LPDRAWITEMSTRUCT item)
 {
-    drawListItem(*item, static_cast<int>(item->itemID), {});
+    if (m_items->asked && (GetStyle() & CBS_HASSTRINGS))
+        drawListItem(*item, static_cast<int>(item->itemID), {});
 }
 
 void COVOComboBox::drawListItem(const DRAWITEMSTRUCT& draw, int item, const std::wstring& foldedFound)

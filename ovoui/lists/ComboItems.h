@@ -25,6 +25,7 @@ class ComboItems
 public:
     ItemLooks looks;
     CImageList* images = nullptr; ///< the host's
+    bool asked = false;           ///< the host has asked for colours or images; else it draws itself
 
     /// Fills the place, and draws swatch, image and text into it.
     void draw(CDC& dc, const ComboItem& item) const;

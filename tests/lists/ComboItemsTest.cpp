@@ -91,6 +91,16 @@ TEST(ComboItemLooks, StayWithTheirItems)
     EXPECT_EQ(openList(scene).count(kRed), 0);
 }
 
+TEST(ComboItemLooks, WithoutThemTheHostDraws)
+{
+    ComboScene scene({L"leaf", L"rose"}, kOwnerDrawn);
+    scene.enter();
+    EXPECT_EQ(openList(scene).count(::GetSysColor(COLOR_WINDOWTEXT)), 0) << "this host draws nothing";
+    scene.combo.ShowDropDown(FALSE);
+    scene.combo.SetItemImage(0, -1);
+    EXPECT_GT(openList(scene).count(::GetSysColor(COLOR_WINDOWTEXT)), 20);
+}
+
 TEST(ComboItemLooks, SortedItemsHaveTheirOwn)
 {
     ComboScene scene({L"b"}, kOwnerDrawn | CBS_SORT);

@@ -160,6 +160,18 @@ TEST(ComboEscape, BringsTheTextOfBeforeBack)
     EXPECT_EQ(scene.combo.GetCurSel(), -1);
 }
 
+TEST(ComboEscape, WhatComesBackIsNotCompleted)
+{
+    ComboScene scene{L"berry"};
+    scene.enter();
+    scene.combo.ConfirmAnyText(true);
+    scene.combo.AutoComplete(false);
+    scene.robot.type(L"be").key(VK_RETURN);
+    scene.combo.AutoComplete(true);
+    scene.robot.type(L"x").key(VK_ESCAPE);
+    EXPECT_EQ(scene.text(), L"be");
+}
+
 TEST(ComboEscape, BringsTheSelectionOfBeforeBack)
 {
     ComboScene scene{L"apple", L"berry"};
