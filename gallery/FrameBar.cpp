@@ -6,6 +6,7 @@
 #include <commctrl.h>
 
 #include <iterator>
+#include <set>
 
 namespace
 {
@@ -91,6 +92,19 @@ void FrameBar::useFont(CFont& font)
     };
     place(FilterPlace, IDC_FRAME_FILTER, m_filter, kFilterWidth, kControlHeight);
     place(PosesPlace, IDC_FRAME_POSES, m_poses, kPosesWidth, kDropHeight);
+}
+
+int FrameBar::rowsShown() const
+{
+    std::set<int> tops;
+    const int count = static_cast<int>(::SendMessageW(m_hWnd, TB_BUTTONCOUNT, 0, 0));
+    for (int i = 0; i < count; ++i) {
+        CRect rect;
+        GetItemRect(i, &rect);
+        if (GetItemID(i) != ID_SEPARATOR || rect.Width() > kControlHeight) // or a control's place
+            tops.insert(rect.top);
+    }
+    return static_cast<int>(tops.size());
 }
 
 // Controls

@@ -26,6 +26,9 @@ public:
     /// The pose that is chosen; empty for the page as it opens.
     std::wstring pose() const;
 
+    /// Rows with buttons in them.
+    int rowsShown() const;
+
     /// The command that the button with the groups of pages shows.
     UINT group() const { return GetItemID(Groups); }
     UINT theme() const { return GetItemID(Themes); }

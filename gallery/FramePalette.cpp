@@ -19,7 +19,7 @@ constexpr int kMostLog = 300;
 
 } // namespace
 
-bool FramePalette::create(CFrameWnd& frame, const Values& values)
+bool FramePalette::create(CFrameWnd& frame, Values values)
 {
     constexpr UINT kStyle = WS_CHILD | WS_VISIBLE | CBRS_ALIGN_RIGHT | CBRS_GRIPPER;
     if (!Create(&frame, IDD_FRAME_PALETTE, kStyle, IDS_FRAME_PALETTE, ID_VIEW_PALETTE))
@@ -32,7 +32,8 @@ bool FramePalette::create(CFrameWnd& frame, const Values& values)
     return true;
 }
 
-void FramePalette::show(const Values& values)
+/// By value: the edits tell the frame of their changes, which looks at the other ones then.
+void FramePalette::show(Values values)
 {
     SendDlgItemMessage(IDC_FRAME_HUE, TBM_SETPOS, TRUE, values.hue);
     SetDlgItemInt(IDC_FRAME_LIST_WIDTH, static_cast<UINT>(values.listWidth));

@@ -15,9 +15,9 @@ public:
         int logHeight = 104;
     };
 
-    bool create(CFrameWnd& frame, const Values& values);
+    bool create(CFrameWnd& frame, Values values);
 
-    void show(const Values& values);
+    void show(Values values);
     /// What the controls show, within sensible limits.
     Values values() const;
 };

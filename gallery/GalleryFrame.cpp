@@ -66,6 +66,7 @@ BOOL GalleryFrame::PreCreateWindow(CREATESTRUCT& cs)
     cs.lpszClass =
         AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1),
                             AfxGetApp()->LoadIcon(IDR_MAIN_FRAME));
+    cs.style |= WS_CLIPCHILDREN; // what moves when a bar leaves its place is not erased again
     return CFrameWnd::PreCreateWindow(cs);
 }
 
@@ -270,6 +271,7 @@ void GalleryFrame::settle()
 bool GalleryFrame::shoot(const PageEntry& entry, const std::wstring& pose, const std::wstring& path)
 {
     OnLogClear();
+    arrangeBars(); // whatever a pose before has done
     openPage(entry);
     settle();
     if (pose.empty())

@@ -34,6 +34,10 @@ public:
     /// The same is saved when the window is closed.
     void saveBars();
 
+    /// Makes the toolbar float over the page, in so many rows of buttons.
+    void floatBar(int rows);
+    void floatPalette();
+
     FrameBar& bar() { return m_bar; }
     FramePalette& palette() { return m_palette; }
     const PageEntry* openedPage() const { return m_entry; }
@@ -84,6 +88,7 @@ private:
 
     bool createParts();
     bool createBars();
+    void arrangeBars();
     void filterPages();
     void applyPalette();
     bool offerToPage(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);

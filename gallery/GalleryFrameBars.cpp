@@ -1,6 +1,7 @@
 // The gallery's window: its toolbar and its palette.
 #include "GalleryFrame.h"
 
+#include "Resolution.h"
 #include "VisualStyles.h"
 #include "resource.h"
 
@@ -41,16 +42,41 @@ FramePalette::Values valuesInProfile()
 
 } // namespace
 
-/// The palette floats beside the frame when it is shown for the first time.
 bool GalleryFrame::createBars()
 {
     EnableDocking(CBRS_ALIGN_ANY);
     if (!m_bar.create(*this) || !m_palette.create(*this, m_sizes))
         return false;
+    arrangeBars();
+    return true;
+}
+
+/// As at the first start.
+void GalleryFrame::arrangeBars()
+{
     DockControlBar(&m_bar, AFX_IDW_DOCKBAR_TOP);
     DockControlBar(&m_palette, AFX_IDW_DOCKBAR_RIGHT);
     ShowControlBar(&m_palette, FALSE, TRUE);
-    return true;
+}
+
+void GalleryFrame::floatBar(int rows)
+{
+    CRect page;
+    m_page->GetWindowRect(&page);
+    const int step = scaled(m_hWnd, 8);
+    FloatControlBar(&m_bar, page.CenterPoint());
+    RecalcLayout();
+    for (int width = page.Width(); m_bar.rowsShown() < rows && width > 0; width -= step)
+        m_bar.CalcDynamicLayout(width, LM_HORZ | LM_COMMIT);
+    RecalcLayout();
+}
+
+void GalleryFrame::floatPalette()
+{
+    CRect page;
+    m_page->GetWindowRect(&page);
+    FloatControlBar(&m_palette, page.CenterPoint());
+    ShowControlBar(&m_palette, TRUE, FALSE);
 }
 
 // From one run to the next

@@ -139,6 +139,14 @@
 #define IDC_BARS_MIRRORED 2103
 #define IDC_BARS_HINT 2104
 #define IDC_BARS_MIRRORED_LABEL 2105
+#define IDC_BARS_EXTRAS_LABEL 2106
+#define IDC_BARS_MARKS 2107
+#define IDC_BARS_HOLD 2108
+#define IDC_BARS_NAMES 2109
+#define IDC_BARS_KEYBOARD 2110
+#define IDC_BARS_SAVE 2111
+#define IDC_BARS_LOAD 2112
+
 // Commands of the bars on the page of toolbars, and the controls in them
 #define ID_BAR_FIRST 33001
 #define ID_BAR_NEW 33001

@@ -1,7 +1,9 @@
 #include "ToolBarPage.h"
 
+#include "GalleryFrame.h"
 #include "resource.h"
 
+#include <ovoui/frame/Geometry.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 
 #include <ovouires/resource.h>
@@ -13,17 +15,27 @@ BEGIN_MESSAGE_MAP(ToolBarPage, GalleryPage)
     ON_COMMAND_RANGE(ID_BAR_FIRST, ID_BAR_LAST, &ToolBarPage::OnCommandChosen)
     ON_UPDATE_COMMAND_UI_RANGE(ID_BAR_FIRST, ID_BAR_LAST, &ToolBarPage::OnUpdateCommand)
     ON_MESSAGE(WM_OVO_TOOLBAR_DBLCLK, &ToolBarPage::OnBarDoubleClicked)
-    ON_WM_DESTROY()
+    // what bars do besides
+    ON_BN_CLICKED(IDC_BARS_MARKS, &ToolBarPage::OnMarks)
+    ON_BN_CLICKED(IDC_BARS_HOLD, &ToolBarPage::OnHold)
+    ON_BN_CLICKED(IDC_BARS_NAMES, &ToolBarPage::OnNames)
+    ON_BN_CLICKED(IDC_BARS_KEYBOARD, &ToolBarPage::OnKeyboard)
+    ON_BN_CLICKED(IDC_BARS_SAVE, &ToolBarPage::OnSave)
+    ON_BN_CLICKED(IDC_BARS_LOAD, &ToolBarPage::OnLoad)
 END_MESSAGE_MAP()
 
 namespace
 {
 
+constexpr wchar_t kChoices[] = L"ToolBarPage"; // section of the profile
+
 constexpr int kImage = 16; // pixels at 96 dots per inch
-constexpr int kImages = 12;
 constexpr int kEditWidth = 90;
 constexpr int kComboWidth = 100;
 constexpr int kControlHeight = 20;
+constexpr int kTag = 14; // a number beside a part
+constexpr int kTagGap = 4;
+constexpr int kBesideFlyout = 120;
 
 // Images of the library's strip
 enum Image
@@ -97,9 +109,6 @@ ToolBarPage::~ToolBarPage() = default;
 BOOL ToolBarPage::OnInitDialog()
 {
     GalleryPage::OnInitDialog();
-    const int size = scaled(kImage);
-    m_images.Create(size, size, kImages);
-    m_images.AddBitmap(IDB_TOOLBAR_32, false, -1, CSize(32, 32), CSize(size, size), nullptr, nullptr);
     if (createBar(m_commands, CBRS_ALIGN_TOP, IDC_BARS_COMMANDS)) {
         fillCommands(m_commands);
         addControls();
@@ -115,6 +124,8 @@ BOOL ToolBarPage::OnInitDialog()
         fillShapes(m_shapes);
         m_shapes.calcLayout(0);
     }
+    CheckDlgButton(IDC_BARS_MARKS, BST_CHECKED);
+    OnMarks();
     stretch(IDC_BARS_HINT, {.growX = 100});
     stretch(IDC_BARS_MIRRORED_LABEL, {.moveY = 100});
     stretch(IDC_BARS_MIRRORED, {.moveY = 100});
@@ -135,12 +146,11 @@ bool ToolBarPage::createBar(ShownBar& bar, DWORD side, int placeholder)
 void ToolBarPage::fillCommands(ShownBar& bar)
 {
     const int size = scaled(kImage);
-    bar.SetSizes(CSize(size + scaled(8), size + scaled(8)), CSize(size, size));
-    bar.GetToolBarCtrl().SetImageList(m_images.ImageList());
     bar.SetButtons(kCommands, static_cast<int>(std::size(kCommands)));
     for (int i = 0; i < static_cast<int>(std::size(kCommandImages)); ++i)
         if (kCommands[i] != ID_SEPARATOR)
             bar.SetButtonInfo(i, kCommands[i], TBBS_BUTTON, kCommandImages[i]);
+    bar.UseStrips({{IDB_TOOLBAR_16, 16}, {IDB_TOOLBAR_24, 24}, {IDB_TOOLBAR_32, 32}}, kImage);
     // Without the controls, which one bar alone has
     bar.SetButtonInfo(EditPlace, ID_BAR_EDIT, TBBS_SEPARATOR, 1);
     bar.SetButtonInfo(ComboPlace, ID_BAR_COMBO, TBBS_SEPARATOR, 1);
@@ -161,8 +171,8 @@ void ToolBarPage::fillShapes(ShownBar& bar)
 
 void ToolBarPage::addControls()
 {
-    m_commands.SetButtonInfo(EditPlace, ID_BAR_EDIT, TBBS_SEPARATOR, scaled(kEditWidth + 8));
-    m_commands.SetButtonInfo(ComboPlace, ID_BAR_COMBO, TBBS_SEPARATOR, scaled(kComboWidth + 8));
+    m_commands.SetButtonInfo(EditPlace, ID_BAR_EDIT, TBBS_SEPARATOR, scaled(kEditWidth));
+    m_commands.SetButtonInfo(ComboPlace, ID_BAR_COMBO, TBBS_SEPARATOR, scaled(kComboWidth));
     m_edit.CreateEx(WS_EX_CLIENTEDGE, L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL,
                     CRect(0, 0, scaled(kEditWidth), scaled(kControlHeight)), &m_commands, ID_BAR_EDIT);
     m_combo.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN,
@@ -174,11 +184,49 @@ void ToolBarPage::addControls()
     m_combo.SetCurSel(1);
 }
 
-void ToolBarPage::OnDestroy()
+// What bars do besides
+
+/// For both bars of commands and the one of shapes, as the check box says.
+template <class Do>
+void ToolBarPage::forEachBar(UINT box, Do change)
 {
-    m_commands.DestroyWindow(); // while the images are there
-    m_mirrored.DestroyWindow();
-    GalleryPage::OnDestroy();
+    const bool on = IsDlgButtonChecked(static_cast<int>(box)) == BST_CHECKED;
+    for (ShownBar* const bar : {&m_commands, &m_shapes, &m_mirrored})
+        change(*bar, on);
+}
+
+void ToolBarPage::OnMarks()
+{
+    forEachBar(IDC_BARS_MARKS, [](ShownBar& bar, bool on) { bar.ShowFlyoutMarks(on); });
+}
+
+void ToolBarPage::OnHold()
+{
+    constexpr UINT kUsual = 200; // milliseconds
+    forEachBar(IDC_BARS_HOLD,
+               [](ShownBar& bar, bool on) { bar.SetHoldDelay(on ? CVantorToolBar::kMenuDelay : kUsual); });
+}
+
+void ToolBarPage::OnNames()
+{
+    forEachBar(IDC_BARS_NAMES, [](ShownBar& bar, bool on) { bar.UseAccessibleNames(on); });
+}
+
+void ToolBarPage::OnKeyboard()
+{
+    m_commands.FocusButtons();
+}
+
+void ToolBarPage::OnSave()
+{
+    m_commands.SaveChoices(kChoices);
+    log(L"SaveChoices");
+}
+
+void ToolBarPage::OnLoad()
+{
+    m_commands.LoadChoices(kChoices);
+    log(L"LoadChoices");
 }
 
 // Commands
@@ -219,11 +267,13 @@ LRESULT ToolBarPage::onControl(CVantorToolBar* bar, UINT code, UINT id, void*)
 
 std::vector<std::wstring> ToolBarPage::poses() const
 {
-    return {L"flyout", L"disabled", L"tip", L"vertical", L"right-to-left"};
+    return {L"flyout",   L"disabled", L"tip",   L"vertical", L"right-to-left",
+            L"keyboard", L"edge",     L"parts", L"floating", L"palette"};
 }
 
 bool ToolBarPage::pose(const std::wstring& name)
 {
+    auto* const frame = dynamic_cast<GalleryFrame*>(AfxGetMainWnd());
     if (name == L"flyout")
         m_commands.open(FileButton, 2);
     else if (name == L"disabled")
@@ -235,7 +285,70 @@ bool ToolBarPage::pose(const std::wstring& name)
         m_shapes.open(0, 1);
     else if (name == L"right-to-left")
         m_mirrored.open(FileButton, 1);
+    else if (name == L"keyboard") {
+        m_commands.FocusButtons();
+        m_commands.SendMessage(WM_KEYDOWN, VK_DOWN);
+        m_commands.SendMessage(WM_KEYDOWN, VK_RIGHT);
+    } else if (name == L"edge")
+        showAtScreenEdge();
+    else if (name == L"parts")
+        nameParts();
+    else if (name == L"floating" && frame)
+        frame->floatBar(3);
+    else if (name == L"palette" && frame)
+        frame->floatPalette();
     else
         return false;
     return true;
+}
+
+/// The gallery at the right edge of the work area, and the bar at its right edge, where a flyout has no room.
+void ToolBarPage::showAtScreenEdge()
+{
+    CWnd& frame = *GetTopLevelParent();
+    CRect place;
+    frame.GetWindowRect(&place);
+    const CRect area(GetWorkArea(place));
+    frame.SetWindowPos(nullptr, area.right - place.Width(), place.top, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    CRect room;
+    GetClientRect(&room);
+    const CRect bar = placeOf(IDC_BARS_COMMANDS);
+    m_commands.SetWindowPos(nullptr, room.right - scaled(70), bar.top, 0, 0,
+                            SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    UpdateWindow();
+    m_commands.open(PasteButton, 1);
+}
+
+/// Numbers beside the parts of the first bar, which moves down to make room for them.
+void ToolBarPage::nameParts()
+{
+    CRect bar = placeOf(IDC_BARS_COMMANDS);
+    bar.OffsetRect(0, scaled(kTag + kTagGap));
+    m_commands.SetWindowPos(nullptr, bar.left, bar.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    m_commands.open(FileButton, 2);
+    const auto above = [&](int x) { return CPoint(x, bar.top - scaled(kTag)); };
+    const auto overButton = [&](int index) {
+        CRect rect;
+        m_commands.GetItemRect(index, &rect);
+        m_commands.ClientToScreen(&rect);
+        ScreenToClient(&rect);
+        return above(rect.left + scaled(kTagGap));
+    };
+    addTag(1, above(bar.left));
+    addTag(2, overButton(FileButton));
+    addTag(3, overButton(EditPlace));
+    addTag(4, overButton(ComboPlace));
+    addTag(5, CPoint(bar.left + scaled(kBesideFlyout), bar.bottom + scaled(kTagGap)));
+}
+
+void ToolBarPage::addTag(int number, CPoint place)
+{
+    auto tag = std::make_unique<CStatic>();
+    const CSize size(scaled(kTag), scaled(kTag));
+    tag->Create(std::to_wstring(number).c_str(), WS_CHILD | WS_VISIBLE | SS_CENTER | SS_CENTERIMAGE,
+                CRect(place, size), this);
+    tag->SetFont(GetFont());
+    tag->SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    m_tags.push_back(std::move(tag));
 }

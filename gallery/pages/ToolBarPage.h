@@ -3,7 +3,6 @@
 
 #include "GalleryPage.h"
 
-#include <ovoui/images/AlphaImageList.h>
 #include <ovoui/toolbar/VantorToolBar.h>
 
 /// A bar that can show its flyouts without the mouse, for pictures.
@@ -30,7 +29,13 @@ protected:
     afx_msg void OnCommandChosen(UINT id);
     afx_msg void OnUpdateCommand(CCmdUI* ui);
     afx_msg LRESULT OnBarDoubleClicked(WPARAM id, LPARAM);
-    afx_msg void OnDestroy();
+    // what bars do besides
+    afx_msg void OnMarks();
+    afx_msg void OnHold();
+    afx_msg void OnNames();
+    afx_msg void OnKeyboard();
+    afx_msg void OnSave();
+    afx_msg void OnLoad();
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -38,12 +43,17 @@ private:
     void fillCommands(ShownBar& bar);
     void fillShapes(ShownBar& bar);
     void addControls();
+    template <class Do>
+    void forEachBar(UINT box, Do change);
+    void showAtScreenEdge();
+    void nameParts();
+    void addTag(int number, CPoint place);
     static LRESULT onControl(CVantorToolBar* bar, UINT code, UINT id, void*);
 
-    CAlphaImageList m_images;
     ShownBar m_commands; ///< above: lists of commands, an edit and a combo box
     ShownBar m_shapes;   ///< at the left: buttons of a toolbar resource
     ShownBar m_mirrored; ///< right to left
     CEdit m_edit;
     CComboBox m_combo;
+    std::vector<std::unique_ptr<CStatic>> m_tags; ///< numbers of parts, for a picture
 };

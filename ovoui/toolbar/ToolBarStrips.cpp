@@ -3,6 +3,8 @@
 #include <ovoui/toolbar/ToolBarState.h>
 #include <ovoui/toolbar/core/StripChoice.h>
 
+#include <afxpriv.h>
+
 using namespace ovoui::toolbar;
 
 namespace
@@ -57,8 +59,16 @@ void CVantorToolBar::loadStrip(int dotsPerInch)
     UpdateBarBitmapSize(size);
     m_state->images = std::move(images);
     m_state->shownSize = size;
-    if (CFrameWnd* const frame = GetDockingFrame())
+    CFrameWnd* const frame = GetDockingFrame();
+    if (frame && isPlacedBy(*frame))
         frame->RecalcLayout();
+}
+
+/// A bar in a dialog belongs to a frame too, but does not take room of it.
+bool CVantorToolBar::isPlacedBy(const CFrameWnd& frame) const
+{
+    const CWnd* const parent = GetParent();
+    return parent == &frame || dynamic_cast<const CDockBar*>(parent);
 }
 
 /// `resolution` is 0 when the message does not tell it.

@@ -236,6 +236,7 @@ private:
     LRESULT onGetObject(WPARAM wParam, LPARAM lParam);
     // images, layout, commands
     void loadStrip(int dotsPerInch);
+    bool isPlacedBy(const CFrameWnd& frame) const;
     void onResolutionChanged(int resolution);
     bool isHorizontal() const;
     LRESULT onControlCommand(WPARAM wParam, LPARAM lParam);

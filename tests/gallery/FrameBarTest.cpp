@@ -147,7 +147,28 @@ TEST_F(GalleryBar, CtrlF6GivesItTheKeyboard)
     EXPECT_EQ(openPage(), L"toolbars") << "the button for the next page";
 }
 
+TEST_F(GalleryBar, WhatMovesWhenItFloatsIsPaintedWhole)
+{
+    scene.open(L"toolbars");
+    GuiThread::settle();
+    scene.frame().FloatControlBar(&bar(), CPoint(500, 400));
+    scene.frame().RecalcLayout();
+    GuiThread::settle();
+    const Picture asItIs = Picture::ofClient(scene.frame());
+    scene.frame().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    EXPECT_EQ(asItIs.differences(Picture::ofClient(scene.frame())), 0);
+}
+
 // The palette
+
+TEST_F(GalleryBar, ThePaletteShowsTheSizesAsTheyAre)
+{
+    const FramePalette::Values usual;
+    EXPECT_EQ(palette().values().hue, usual.hue);
+    EXPECT_EQ(palette().values().listWidth, usual.listWidth);
+    EXPECT_EQ(palette().values().logHeight, usual.logHeight);
+    EXPECT_EQ(onScreen(scene.frame().pageList()).Width(), scaled(scene.frame(), usual.listWidth));
+}
 
 TEST_F(GalleryBar, ThePaletteChangesWhatIsAroundThePages)
 {

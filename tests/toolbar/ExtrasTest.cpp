@@ -68,6 +68,24 @@ TEST(FlyoutMarks, OfADisabledButtonAreGrey)
     EXPECT_GE(picture.count(::GetSysColor(COLOR_GRAYTEXT), 0, itemRect(scene.bar(), BarScene::Lines)), 6);
 }
 
+TEST(FlyoutMarks, InAMirroredBarTheyAreInTheLeftCorner)
+{
+    BarScene scene;
+    scene.bar().ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    scene.bar().ShowFlyoutMarks(true);
+    scene.bar().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    CRect button = itemRect(scene.bar(), BarScene::Lines);
+    scene.bar().ClientToScreen(&button);
+    button.NormalizeRect();
+    const Picture screen = Picture::ofScreen();
+    const auto darkIn = [&](int left) {
+        const CRect corner(CPoint(left, button.bottom - 6), CSize(6, 6));
+        return screen.count(::GetSysColor(COLOR_BTNTEXT), 0, corner);
+    };
+    EXPECT_GE(darkIn(button.left), 6);
+    EXPECT_EQ(darkIn(button.right - 6), 0);
+}
+
 TEST(FlyoutMarks, WithoutAWindowTheyMayBeAskedForToo)
 {
     TestBar unborn;
@@ -214,6 +232,29 @@ TEST(BarStrips, AChangeOfSettingsAsksTheMonitorAgain)
     scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(240, 240));
     scene.bar().SendMessage(WM_SETTINGCHANGE);
     EXPECT_EQ(imageSize(scene.bar()), size);
+}
+
+TEST(BarStrips, TheFrameMakesRoomForABarOfItsOwnAlone)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    CRect before;
+    scene.bar().GetWindowRect(&before);
+    scene.bar().UseStrips(kStrips, 32);
+    CRect after;
+    scene.bar().GetWindowRect(&after);
+    EXPECT_GT(after.Height(), before.Height());
+
+    CWnd panel;
+    panel.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 100, 300, 200), &scene.frame(),
+                 77);
+    TestBar inside;
+    inside.CreateEx(&panel, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP);
+    GuiThread::settle();
+    int layouts = 0;
+    scene.bar().seeing = [&](UINT message, WPARAM) { layouts += message == WM_SIZEPARENT; };
+    inside.UseStrips(kStrips, 24);
+    EXPECT_EQ(layouts, 0);
 }
 
 TEST(BarStrips, WithoutAStripTheImagesStay)

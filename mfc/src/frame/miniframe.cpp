@@ -45,8 +45,11 @@ BOOL CMiniFrameWnd::CreateEx(DWORD exStyle, LPCTSTR className, LPCTSTR title, DW
     m_strTitle = title;
     const DWORD wndStyle = style & ~kMiniStyles;
     const bool sizable = (m_mfs & (MFS_THICKFRAME | MFS_4THICKFRAME)) != 0;
-    return CWnd::CreateEx(exStyle, className, title, sizable ? wndStyle | WS_THICKFRAME : wndStyle, rect,
-                          parent, id);
+    if (!CWnd::CreateEx(exStyle, className, title, sizable ? wndStyle | WS_THICKFRAME : wndStyle, rect,
+                        parent, id))
+        return FALSE;
+    SendMessage(WM_FLOATSTATUS, IsTopParentActive() ? FS_ACTIVATE : FS_DEACTIVATE);
+    return TRUE;
 }
 
 BOOL CMiniFrameWnd::PreCreateWindow(CREATESTRUCT& cs)

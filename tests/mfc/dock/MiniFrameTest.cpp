@@ -1,6 +1,8 @@
 // Small frames beside a program's frame.
 #include "DockScene.h"
 
+#include "support/Picture.h"
+
 #include <gtest/gtest.h>
 
 using namespace ovotest;
@@ -54,6 +56,23 @@ TEST_F(MiniFrame, HasALowCaptionAndBelongsToTheFrame)
     CString text;
     mini->GetWindowText(text);
     EXPECT_STREQ(text, L"Mini");
+}
+
+TEST_F(MiniFrame, LooksAsActiveAsTheFrameFromTheStart)
+{
+    ASSERT_EQ(::GetActiveWindow(), frame->m_hWnd);
+    frame->FloatControlBar(&one, CPoint(300, 300));
+    frame->RecalcLayout();
+    const auto caption = [&] {
+        const CRect whole = onScreen(*floatOf(one));
+        const Picture picture = Picture::ofWindow(*floatOf(one));
+        return picture.at(whole.Width() / 2, ::GetSystemMetrics(SM_CYSIZEFRAME) + 4);
+    };
+    const COLORREF atFirst = caption();
+    floatOf(one)->SendMessage(WM_FLOATSTATUS, FS_DEACTIVATE);
+    EXPECT_NE(caption(), atFirst);
+    floatOf(one)->SendMessage(WM_FLOATSTATUS, FS_ACTIVATE);
+    EXPECT_EQ(caption(), atFirst);
 }
 
 TEST_F(MiniFrame, CanBeMadeAsSmallAsItsContents)
