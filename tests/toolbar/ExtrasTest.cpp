@@ -8,6 +8,8 @@
 
 #include <ovouires/resource.h>
 
+#include <afxpriv.h>
+
 #include <gtest/gtest.h>
 
 using namespace ovotest;
@@ -66,24 +68,6 @@ TEST(FlyoutMarks, OfADisabledButtonAreGrey)
     EXPECT_EQ(darkInCorner(scene.bar(), BarScene::Lines), 0);
     const Picture picture = Picture::ofClient(scene.bar().m_hWnd);
     EXPECT_GE(picture.count(::GetSysColor(COLOR_GRAYTEXT), 0, itemRect(scene.bar(), BarScene::Lines)), 6);
-}
-
-TEST(FlyoutMarks, InAMirroredBarTheyAreInTheLeftCorner)
-{
-    BarScene scene;
-    scene.bar().ModifyStyleEx(0, WS_EX_LAYOUTRTL);
-    scene.bar().ShowFlyoutMarks(true);
-    scene.bar().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-    CRect button = itemRect(scene.bar(), BarScene::Lines);
-    scene.bar().ClientToScreen(&button);
-    button.NormalizeRect();
-    const Picture screen = Picture::ofScreen();
-    const auto darkIn = [&](int left) {
-        const CRect corner(CPoint(left, button.bottom - 6), CSize(6, 6));
-        return screen.count(::GetSysColor(COLOR_BTNTEXT), 0, corner);
-    };
-    EXPECT_GE(darkIn(button.left), 6);
-    EXPECT_EQ(darkIn(button.right - 6), 0);
 }
 
 TEST(FlyoutMarks, WithoutAWindowTheyMayBeAskedForToo)
