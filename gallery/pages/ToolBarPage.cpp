@@ -323,6 +323,8 @@ void ToolBarPage::showAtScreenEdge()
 /// Numbers beside the parts of the first bar, which moves down to make room for them.
 void ToolBarPage::nameParts()
 {
+    GetDlgItem(IDC_BARS_HINT)->ShowWindow(SW_HIDE); // what lies where the flyout opens
+    m_shapes.ShowWindow(SW_HIDE);
     CRect bar = placeOf(IDC_BARS_COMMANDS);
     bar.OffsetRect(0, scaled(kTag + kTagGap));
     m_commands.SetWindowPos(nullptr, bar.left, bar.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
