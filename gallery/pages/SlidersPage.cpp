@@ -3,10 +3,13 @@
 #include "resource.h"
 
 #include <cstdlib>
+#include <map>
+#include <vector>
 
 BEGIN_MESSAGE_MAP(SlidersPage, GalleryPage)
     ON_CBN_SELCHANGE(IDC_SLIDERS_CONVENTION, &SlidersPage::OnConvention)
     ON_BN_CLICKED(IDC_SLIDERS_ENABLED, &SlidersPage::OnEnable)
+    ON_BN_CLICKED(IDC_SLIDERS_EXTRAS, &SlidersPage::OnExtras)
     ON_MESSAGE(CSliderButton::kValueChanged, &SlidersPage::OnValueChanged)
     ON_MESSAGE(CSliderButton::kReleased, &SlidersPage::OnReleased)
     ON_WM_HSCROLL()
@@ -47,6 +50,8 @@ constexpr Convention kConventions[] = {
     {L"1\u066B5\u061B 2 (Arabic signs)", L'\u066B', L"\u061B"},
 };
 
+constexpr double kDialTicks = 30;
+constexpr double kSnap = 15;
 constexpr double kStartHeading = 30;
 constexpr double kStartTilt = 25;
 
@@ -92,9 +97,14 @@ BOOL SlidersPage::OnInitDialog()
     replace(IDC_SLIDERS_HEADING, m_heading);
     m_tilt.Create(WS_CHILD | WS_VISIBLE, CRect(), this, 1);
     replace(IDC_SLIDERS_TILT, m_tilt);
+    m_dial.SetTicks(kDialTicks);
+    m_dial.Create(WS_CHILD | WS_VISIBLE, CRect(), this, 1);
+    replace(IDC_SLIDERS_DIAL, m_dial);
     stretch(IDC_SLIDERS_PLOT, {.growX = 100});
     stretch(IDC_SLIDERS_BOX, {.growX = 100, .growY = 100});
     stretch(IDC_SLIDERS_TILT, {.moveX = 100, .growY = 100});
+    stretch(IDC_SLIDERS_DIAL, {.moveX = 100, .moveY = 50});
+    stretch(IDC_SLIDERS_EXTRAS, {.moveY = 100});
     stretch(IDC_SLIDERS_HEADING, {.moveY = 100});
     stretch(IDC_SLIDERS_ENABLED, {.moveY = 100});
 
@@ -126,6 +136,7 @@ void SlidersPage::OnEnable()
     for (CSliderButton& button : m_buttons)
         button.EnableWindow(enable);
     m_heading.EnableWindow(enable);
+    m_dial.EnableWindow(enable);
     m_tilt.EnableWindow(enable);
 }
 
@@ -164,11 +175,29 @@ LRESULT SlidersPage::OnReleased(WPARAM buddy, LPARAM)
     return 0;
 }
 
+void SlidersPage::OnExtras()
+{
+    const bool use = IsDlgButtonChecked(IDC_SLIDERS_EXTRAS) == BST_CHECKED;
+    for (CSliderButton& button : m_buttons) {
+        button.StepByWheel(use);
+        button.StepFinelyByShift(use);
+        button.ShowBubble(use);
+    }
+    m_buttons[2].SetTicks(use ? std::vector<double>{1, 10, 100} : std::vector<double>());
+    for (CAngleSlider* slider : {static_cast<CAngleSlider*>(&m_heading), static_cast<CAngleSlider*>(&m_tilt),
+                                 static_cast<CAngleSlider*>(&m_dial)}) {
+        slider->UseKeyboard(use);
+        slider->SetSnap(use ? kSnap : 0);
+        slider->ModifyStyle(use ? 0 : WS_TABSTOP, use ? WS_TABSTOP : 0);
+    }
+}
+
 // Angles
 
 void SlidersPage::turn(double heading, double tilt)
 {
     m_heading.SetPos(heading);
+    m_dial.SetPos(heading);
     m_tilt.SetPos(tilt);
     m_box.turn(heading, tilt);
 }
@@ -176,8 +205,10 @@ void SlidersPage::turn(double heading, double tilt)
 void SlidersPage::OnHScroll(UINT code, UINT position, CScrollBar*)
 {
     const int angle = static_cast<short>(position);
-    if (code == SB_THUMBPOSITION)
+    if (code == SB_THUMBPOSITION) {
         m_heading.SetPos(angle);
+        m_dial.SetPos(angle);
+    }
     m_box.turn(angle, m_tilt.GetPos());
     log(L"WM_HSCROLL " + std::wstring(code == SB_THUMBTRACK ? L"SB_THUMBTRACK " : L"SB_THUMBPOSITION ") +
         std::to_wstring(angle));
@@ -197,7 +228,8 @@ void SlidersPage::OnVScroll(UINT code, UINT position, CScrollBar*)
 
 std::vector<std::wstring> SlidersPage::poses() const
 {
-    return {L"integer", L"linear", L"logarithmic", L"square-root", L"turned", L"disabled"};
+    return {L"integer", L"linear", L"logarithmic", L"square-root", L"turned",      L"disabled",
+            L"pressed", L"at-0",   L"at-45",       L"at-90",       L"at-minus-30", L"extras"};
 }
 
 bool SlidersPage::pose(const std::wstring& name)
@@ -216,8 +248,32 @@ bool SlidersPage::pose(const std::wstring& name)
         turn(-50, -60);
     else if (name == L"disabled")
         CheckDlgButton(IDC_SLIDERS_ENABLED, BST_UNCHECKED);
+    else if (name == L"pressed")
+        m_buttons[0].SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(4, 4));
+    else if (name == L"extras")
+        openWithExtras();
     else
-        return false;
+        return poseAngle(name);
     OnEnable();
     return true;
+}
+
+bool SlidersPage::poseAngle(const std::wstring& name)
+{
+    static const std::map<std::wstring, double> angles{
+        {L"at-0", 0}, {L"at-45", 45}, {L"at-90", 90}, {L"at-minus-30", -30}};
+    const auto found = angles.find(name);
+    if (found == angles.end())
+        return false;
+    turn(found->second, found->second);
+    return true;
+}
+
+void SlidersPage::openWithExtras()
+{
+    CheckDlgButton(IDC_SLIDERS_EXTRAS, BST_CHECKED);
+    OnExtras();
+    showCurve(2);
+    m_buttons[2].SetFocus();
+    m_buttons[2].SendMessage(WM_KEYDOWN, VK_SPACE);
 }

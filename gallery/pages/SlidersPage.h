@@ -6,6 +6,7 @@
 #include "pages/CurvePlot.h"
 #include "pages/TurnedBox.h"
 
+#include <ovoui/sliders/DialSlider.h>
 #include <ovoui/sliders/RoundSlider.h>
 #include <ovoui/sliders/SliderButton.h>
 #include <ovoui/sliders/WheelSlider.h>
@@ -26,6 +27,7 @@ protected:
 
     afx_msg void OnConvention();
     afx_msg void OnEnable();
+    afx_msg void OnExtras();
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg LRESULT OnValueChanged(WPARAM buddy, LPARAM lParam);
@@ -37,6 +39,8 @@ private:
     void showCurve(std::size_t row);
     double valueIn(std::size_t row);
     void turn(double heading, double tilt);
+    bool poseAngle(const std::wstring& name);
+    void openWithExtras();
 
     DisplayedNumbers m_numbers;
     std::array<CSliderButton, 4> m_buttons;
@@ -44,4 +48,5 @@ private:
     TurnedBox m_box;
     CRoundSlider m_heading{false};
     CWheelSlider m_tilt{true};
+    CDialSlider m_dial; // turns with the heading
 };

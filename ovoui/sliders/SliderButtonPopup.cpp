@@ -243,8 +243,13 @@ void CSliderButton::showTicks(const SliderNumbers& numbers)
 {
     CPopupSliderCtrl& slider = m_popup.slider();
     slider.ClearTics();
-    if (!m_options->ticks.empty())
-        slider.ModifyStyle(TBS_NOTICKS, 0);
+    if (!m_options->ticks.empty()) {
+        // The thumb of a slider this low leaves no room for ticks by itself.
+        CRect client;
+        slider.GetClientRect(&client);
+        slider.ModifyStyle(TBS_NOTICKS, TBS_FIXEDLENGTH);
+        slider.SendMessage(TBM_SETTHUMBLENGTH, static_cast<WPARAM>(client.Height() * 3 / 5));
+    }
     for (const int position : numbers.positionsOf(m_options->ticks))
         slider.SetTic(position);
 }
