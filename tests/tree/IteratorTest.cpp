@@ -143,3 +143,19 @@ TEST(TreeIterator, SeesItemsInsertedAsSelected)
     scene.tree.InsertItem(&insert);
     EXPECT_EQ(walk(scene.tree.beginSelected(), scene.tree), Names{"b"});
 }
+
+TEST(TreeIterator, FewSelectedAmongManyComeInTheOrderOfTheTree)
+{
+    Scene scene;
+    Names expected;
+    for (int i = 0; i < 60; ++i)
+        scene.add(std::to_string(100 + i));
+    for (int i = 55; i >= 0; i -= 5) {
+        expected.insert(expected.begin(), std::to_string(100 + i));
+        scene.tree.SetItemState(scene.item(expected.front()), TVIS_SELECTED, TVIS_SELECTED);
+    }
+    Names walked;
+    for (auto at = scene.tree.beginSelected(); at != scene.tree.end(); ++at)
+        walked.push_back(static_cast<TestNode&>(*at).name);
+    EXPECT_EQ(walked, expected);
+}
