@@ -3,7 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <iostream>
+#include <random>
 #include <set>
+#include <string>
+#include <vector>
 
 namespace
 {
@@ -20,6 +25,67 @@ struct Case
     const wchar_t* path;
     const wchar_t* climbed;
     const wchar_t* nearest;
+};
+
+/// Another seed can be given in the environment, to repeat a failure.
+unsigned firstSeed()
+{
+    const char* const given = std::getenv("OVO_SEED");
+    return given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : std::random_device()();
+}
+
+/// A path put together from its parts, so that all of its ancestors are known without taking it apart.
+struct RandomPath
+{
+    std::wstring text; ///< with separators at its end, perhaps
+    std::vector<std::wstring>
+        ancestors; ///< from the root, or from the first name where there is none, to itself
+};
+
+class RandomPaths
+{
+public:
+    explicit RandomPaths(unsigned seed)
+        : m_random(seed)
+    {
+    }
+
+    bool chance(unsigned in) { return m_random() % in == 0; }
+
+    RandomPath next()
+    {
+        RandomPath path;
+        path.text = one({L"C:\\", L"q:/", L"\\", L"", L"C:", L"\\\\server\\share", L"\\\\?\\C:\\",
+                         L"\\\\?\\UNC\\server\\share"});
+        if (!path.text.empty())
+            path.ancestors.push_back(path.text);
+        const bool share = path.text.ends_with(L"share");
+        for (unsigned names = m_random() % 6; names > 0; --names) {
+            if (!path.ancestors.empty() && (share || path.ancestors.size() > 1 || isBare(path)))
+                path.text += separators();
+            path.text += one({L"a", L"b.txt", L"with blank", L"\u00fc\u6587", L"..", L".", L"a;b"});
+            path.ancestors.push_back(path.text);
+        }
+        if (!path.ancestors.empty() && path.ancestors.size() > 1 && chance(4))
+            path.text += separators();
+        return path;
+    }
+
+private:
+    /// Whether the path begins with a name instead of a root.
+    static bool isBare(const RandomPath& path)
+    {
+        const std::wstring& first = path.ancestors.front();
+        return first.find_first_of(L"\\/:") == std::wstring::npos;
+    }
+
+    std::wstring separators() { return one({L"\\", L"\\", L"\\", L"/", L"\\\\", L"\\/"}); }
+    std::wstring one(std::initializer_list<const wchar_t*> texts)
+    {
+        return texts.begin()[m_random() % texts.size()];
+    }
+
+    std::mt19937 m_random;
 };
 
 } // namespace
@@ -54,4 +120,33 @@ TEST(NearestFolder, EndsForAnyPath)
                                 L"..\\..\\a", L"a|b*?", L"////a////b"})
         EXPECT_EQ(ovoui::nearestFolder(path, never), L"") << testing::PrintToString(path);
     EXPECT_EQ(ovoui::nearestFolder(std::wstring(20000, L'x') + L"\\a", never), L"");
+}
+
+TEST(NearestFolder, AgreesWithThePlainListOfAncestorsForRandomPaths)
+{
+    const unsigned seed = firstSeed();
+    std::cout << "seed " << seed << " (OVO_SEED repeats it)\n";
+    RandomPaths paths(seed);
+    int found = 0;
+    int none = 0;
+    for (int i = 0; i < 100000; ++i) {
+        const RandomPath path = paths.next();
+        std::set<std::wstring> folders{L"C:\\elsewhere"};
+        std::wstring nearest;
+        for (const std::wstring& ancestor : path.ancestors)
+            if (paths.chance(4)) {
+                folders.insert(ancestor);
+                nearest = ancestor;
+            }
+        const bool any = !nearest.empty();
+        const std::wstring last = path.ancestors.empty() ? L"" : path.ancestors.front();
+        const auto isFolder = [&](const std::wstring& tried) { return folders.count(tried) > 0; };
+        ASSERT_EQ(ovoui::nearestFolder(path.text, isFolder), nearest)
+            << "seed " << seed << ", " << testing::PrintToString(path.text);
+        ASSERT_EQ(ovoui::climbToFolder(path.text, isFolder), any ? nearest : last)
+            << "seed " << seed << ", " << testing::PrintToString(path.text);
+        (any ? found : none) += 1;
+    }
+    EXPECT_GT(found, 1000);
+    EXPECT_GT(none, 1000);
 }
