@@ -10,6 +10,7 @@
 
 #include <afxdlgs.h>
 #include <shlobj.h>
+#include <shlwapi.h>
 
 #include <cwctype>
 
@@ -459,6 +460,142 @@ TEST_F(BrowseTest, AFolderOutsideOfTheFileSystemIsNone)
     wchar_t path[MAX_PATH] = L"C:\\";
     EXPECT_EQ(BrowseForDir(nullptr, L"", path), 0);
     EXPECT_STREQ(path, L"C:\\");
+}
+
+// Folders that are not to be read, and folders of other machines
+
+namespace
+{
+
+/// Stands between the library or the shell and the disk: a folder is refused, or there is a share.
+struct Disk
+{
+    static inline std::wstring refused; ///< the folder, without a separator at its end
+    static inline int refusals = 0;
+    static inline std::wstring share;     ///< the only folder
+    static inline std::wstring askedItem; ///< the path that the system was asked to make an item of
+
+    static BOOL WINAPI isFolderUnlessRefused(LPCWSTR path)
+    {
+        if (path != refused)
+            return ::PathIsDirectoryW(path);
+        ++refusals;
+        ::SetLastError(ERROR_ACCESS_DENIED);
+        return FALSE;
+    }
+
+    static HANDLE WINAPI findUnlessRefused(LPCWSTR pattern, LPWIN32_FIND_DATAW data)
+    {
+        const std::wstring_view asked(pattern);
+        if (!asked.starts_with(refused + L'\\') || asked.find(L'*') == asked.npos)
+            return ::FindFirstFileW(pattern, data);
+        ++refusals;
+        ::SetLastError(ERROR_ACCESS_DENIED);
+        return INVALID_HANDLE_VALUE;
+    }
+
+    static BOOL WINAPI isShare(LPCWSTR path) { return path == share ? FILE_ATTRIBUTE_DIRECTORY : FALSE; }
+
+    static HRESULT WINAPI makeItem(PCWSTR path, IBindCtx* context, REFIID iid, void** item)
+    {
+        askedItem = path;
+        return ::SHCreateItemFromParsingName(path, context, iid, item);
+    }
+};
+
+} // namespace
+
+TEST_F(BrowseTest, AFolderThatMayNotBeAskedAboutIsLeftForTheOneAbove)
+{
+    const ImportPatch patch(L"ovoui.dll", "PathIsDirectoryW",
+                            reinterpret_cast<void*>(&Disk::isFolderUnlessRefused));
+    Disk::refused = files.path(L"below");
+    Disk::refusals = 0;
+    File file{.folder = files.path(L"below")};
+    auto answering = whenAsked().type(L"new.txt").key(VK_RETURN).start();
+    ASSERT_TRUE(file.ask());
+    EXPECT_EQ(file.path, files.path(L"new.txt"));
+
+    std::vector<std::wstring> paths;
+    auto choosing = whenAsked().type(L"a.txt").key(VK_RETURN).start();
+    ASSERT_TRUE(BrowseForFiles(nullptr, nullptr, files.path(L"below"), L"", kFilter, paths));
+    EXPECT_EQ(paths, std::vector<std::wstring>{files.path(L"a.txt")});
+
+    const ImportPatch asking(L"ovoui.dll", "SHBrowseForFolderW", reinterpret_cast<void*>(&AskedFolder::ask));
+    wchar_t path[MAX_PATH]{};
+    ::lstrcpynW(path, files.path(L"below").c_str(), MAX_PATH);
+    BrowseForDir(nullptr, L"", path);
+    EXPECT_EQ(AskedFolder::start, files.folder());
+    EXPECT_EQ(Disk::refusals, 3);
+}
+
+TEST_F(BrowseTest, AFolderThatMayNotBeReadIsBegunInWithoutItsFiles)
+{
+    const ImportPatch patch(L"shell32.dll", "FindFirstFileW",
+                            reinterpret_cast<void*>(&Disk::findUnlessRefused));
+    Disk::refused = files.path(L"below");
+    Disk::refusals = 0;
+    File file{.folder = files.path(L"below")};
+    auto answering = whenAsked().type(L"new.txt").key(VK_RETURN).start();
+    ASSERT_TRUE(file.ask());
+    EXPECT_EQ(file.path, files.path(L"below\\new.txt"));
+    EXPECT_GT(Disk::refusals, 0);
+
+    Disk::refusals = 0;
+    std::vector<std::wstring> paths{L"as before"};
+    auto cancelling = whenAsked().key(VK_ESCAPE).start();
+    EXPECT_FALSE(BrowseForFiles(nullptr, nullptr, files.path(L"below"), L"", kFilter, paths));
+    EXPECT_EQ(paths, std::vector<std::wstring>{L"as before"});
+    EXPECT_GT(Disk::refusals, 0);
+
+    Disk::refusals = 0;
+    wchar_t path[MAX_PATH]{};
+    ::lstrcpynW(path, files.path(L"below").c_str(), MAX_PATH);
+    auto confirming = whenAsked()
+                          .waitFor("the folder to begin in", [] { return chosenFolder() == L"below"; })
+                          .click([] { return ::GetDlgItem(asked(), IDOK); })
+                          .start();
+    EXPECT_EQ(BrowseForDir(nullptr, L"", path), 1);
+    EXPECT_EQ(path, files.path(L"below"));
+}
+
+TEST_F(BrowseTest, AFolderOfAShareIsBegunIn)
+{
+    // The shell is told of the share; that it then shows what is there is its own affair.
+    const ImportPatch disk(L"ovoui.dll", "PathIsDirectoryW", reinterpret_cast<void*>(&Disk::isShare));
+    const ImportPatch items(L"ovomfc.dll", "SHCreateItemFromParsingName",
+                            reinterpret_cast<void*>(&Disk::makeItem));
+    const ImportPatch asking(L"ovoui.dll", "SHBrowseForFolderW", reinterpret_cast<void*>(&AskedFolder::ask));
+    FakeShellDialog fake;
+    struct Case
+    {
+        const wchar_t* exists;
+        const wchar_t* wanted;
+    };
+    for (const Case& c : {Case{L"\\\\server\\share", L"\\\\server\\share"},
+                          Case{L"\\\\server\\share", L"\\\\server\\share\\gone\\deeper"},
+                          Case{L"\\\\server\\share\\plans", L"\\\\server\\share\\plans\\gone"}}) {
+        SCOPED_TRACE(testing::PrintToString(c.wanted));
+        Disk::share = c.exists;
+        Disk::askedItem.clear();
+        fake.results = {std::wstring(c.exists) + L"\\a.txt"};
+        File file{.folder = c.wanted};
+        EXPECT_TRUE(file.ask());
+        EXPECT_EQ(Disk::askedItem, c.exists);
+        EXPECT_EQ(file.path, fake.results.front());
+
+        Disk::askedItem.clear();
+        fake.results.push_back(std::wstring(c.exists) + L"\\b.txt");
+        std::vector<std::wstring> paths;
+        EXPECT_TRUE(BrowseForFiles(nullptr, nullptr, c.wanted, L"", kFilter, paths));
+        EXPECT_EQ(Disk::askedItem, c.exists);
+        EXPECT_EQ(paths, fake.results);
+
+        wchar_t path[MAX_PATH]{};
+        ::lstrcpynW(path, c.wanted, MAX_PATH);
+        BrowseForDir(nullptr, L"", path);
+        EXPECT_EQ(AskedFolder::start, c.exists);
+    }
 }
 
 TEST_F(BrowseTest, AFolderIsChosenByTheUser)

@@ -28,9 +28,25 @@ CString askedText(HWND dialog, UINT question)
     return text;
 }
 
+afxdetail::ListStyle listStyleOf(DWORD flags, BOOL vistaStyle)
+{
+    if (!(flags & OFN_ALLOWMULTISELECT))
+        return afxdetail::ListStyle::OneFile;
+    return vistaStyle || (flags & OFN_EXPLORER) ? afxdetail::ListStyle::Zeros : afxdetail::ListStyle::Blanks;
+}
+
 CString textOf(std::wstring_view text)
 {
     return CString(text.data(), static_cast<int>(text.size()));
+}
+
+/// Of several files of the old style the first one's name; empty for another kind of answer.
+CString firstNameOfBlanks(const OPENFILENAME& ofn)
+{
+    if (ofn.nFileOffset == 0 || ofn.lpstrFile[ofn.nFileOffset - 1] != L' ')
+        return CString();
+    const std::wstring_view names(ofn.lpstrFile + ofn.nFileOffset);
+    return textOf(names.substr(0, names.find(L' ')));
 }
 
 /// The focus goes back to the control that had it, which the system does not do for every kind of owner.
@@ -168,6 +184,9 @@ LPCTSTR CFileDialog::nameInBuffer() const
 
 CString CFileDialog::GetFileName() const
 {
+    if (listStyleOf(m_ofn.Flags, m_bVistaStyle) == afxdetail::ListStyle::Blanks)
+        if (const CString first = firstNameOfBlanks(m_ofn); !first.IsEmpty())
+            return first;
     if (!isAsking())
         return nameInBuffer();
     if (!m_bVistaStyle)
@@ -216,7 +235,7 @@ CString CFileDialog::GetNextPathName(POSITION& position) const
     if (!place)
         return CString();
     const std::wstring path =
-        afxdetail::nextPath(m_ofn.lpstrFile, place, (m_ofn.Flags & OFN_ALLOWMULTISELECT) != 0);
+        afxdetail::nextPath(m_ofn.lpstrFile, place, listStyleOf(m_ofn.Flags, m_bVistaStyle));
     position = reinterpret_cast<POSITION>(const_cast<wchar_t*>(place));
     return textOf(path);
 }

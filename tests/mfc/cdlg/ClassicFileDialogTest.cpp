@@ -171,6 +171,23 @@ TEST(ClassicFileDialog, OfTheOldStyleTellsItsSelections)
     EXPECT_EQ(refused, TRUE);
 }
 
+TEST(ClassicFileDialog, OfTheOldStyleGivesSeveralFiles)
+{
+    // The answer of such a dialog, put where it puts it: not every system still has these dialogs.
+    wchar_t answer[] = L"C:\\docs MYLETT~1.TXT b.txt";
+    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT, nullptr, nullptr, 0, FALSE);
+    dialog.m_ofn.Flags &= ~OFN_EXPLORER;
+    dialog.m_ofn.lpstrFile = answer;
+    dialog.m_ofn.nFileOffset = 8;
+    EXPECT_EQ(dialog.GetFileName().GetString(), std::wstring(L"MYLETT~1.TXT"));
+    EXPECT_EQ(dialog.GetFileTitle().GetString(), std::wstring(L"MYLETT~1"));
+    EXPECT_EQ(dialog.GetFileExt().GetString(), std::wstring(L"TXT"));
+    std::vector<std::wstring> paths;
+    for (POSITION position = dialog.GetStartPosition(); position;)
+        paths.emplace_back(dialog.GetNextPathName(position).GetString());
+    EXPECT_EQ(paths, (std::vector<std::wstring>{L"C:\\docs\\MYLETT~1.TXT", L"C:\\docs\\b.txt"}));
+}
+
 TEST(ClassicFileDialog, WithoutItsTemplateIsCancelled)
 {
     RecordingFileDialog dialog(Kind::Classic);

@@ -23,6 +23,24 @@ bool isDriveRoot(std::wstring_view folder)
     return folder.size() == 2 && folder[1] == L':';
 }
 
+std::wstring_view entryAt(const wchar_t* place, ListStyle style)
+{
+    const std::wstring_view text(place);
+    return style == ListStyle::Blanks ? text.substr(0, text.find(L' ')) : text;
+}
+
+/// The entry behind the one that ends here, or null.
+const wchar_t* entryBehind(const wchar_t* end, ListStyle style)
+{
+    if (style == ListStyle::OneFile)
+        return nullptr;
+    if (style == ListStyle::Zeros)
+        return end[1] ? end + 1 : nullptr;
+    while (*end == L' ')
+        ++end;
+    return *end ? end : nullptr;
+}
+
 } // namespace
 
 PathParts splitPath(std::wstring_view path)
@@ -75,20 +93,17 @@ FileList packPaths(const std::vector<std::wstring>& paths)
     return list;
 }
 
-std::wstring nextPath(const wchar_t* begin, const wchar_t*& place, bool several)
+std::wstring nextPath(const wchar_t* begin, const wchar_t*& place, ListStyle style)
 {
-    const std::wstring_view at(place);
-    const wchar_t* next = several ? place + at.size() + 1 : nullptr;
+    const std::wstring_view at = entryAt(place, style);
+    const wchar_t* next = entryBehind(place + at.size(), style);
     if (place != begin) {
-        place = *next ? next : nullptr;
-        return joinPath(begin, at);
+        place = next;
+        return joinPath(entryAt(begin, style), at);
     }
-    if (!next || !*next) { // one file
-        place = nullptr;
-        return std::wstring(at);
-    }
-    place = next; // the folder stands first
-    return nextPath(begin, place, true);
+    place = next;
+    return next ? nextPath(begin, place, style)
+                : std::wstring(at); // the folder stands first, or it is one file
 }
 
 } // namespace afxdetail

@@ -34,8 +34,16 @@ struct FileList
 /// another folder than the first one keeps its full path.
 FileList packPaths(const std::vector<std::wstring>& paths);
 
-/// The path at a place of such a text, or null; the place moves on, and becomes null behind the last file.
-/// `begin` is where the text begins; `several` says that it may be a list.
-std::wstring nextPath(const wchar_t* begin, const wchar_t*& place, bool several);
+/// What stands between the folder and the names of several files.
+enum class ListStyle
+{
+    OneFile, ///< nothing: the text is one path
+    Zeros,   ///< as packPaths makes it
+    Blanks   ///< of the dialogs without OFN_EXPLORER, which write names with blanks in their short form
+};
+
+/// The path at a place of such a text; the place moves on, and becomes null behind the last file. `begin` is
+/// where the text begins.
+std::wstring nextPath(const wchar_t* begin, const wchar_t*& place, ListStyle style);
 
 } // namespace afxdetail

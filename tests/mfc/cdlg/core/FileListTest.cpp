@@ -8,12 +8,12 @@ using namespace afxdetail;
 namespace
 {
 
-std::vector<std::wstring> unpacked(const FileList& list, bool several)
+std::vector<std::wstring> unpacked(const std::wstring& text, ListStyle style)
 {
     std::vector<std::wstring> paths;
-    const wchar_t* place = list.text.c_str();
+    const wchar_t* place = text.c_str();
     while (place)
-        paths.push_back(nextPath(list.text.c_str(), place, several));
+        paths.push_back(nextPath(text.c_str(), place, style));
     return paths;
 }
 
@@ -25,7 +25,8 @@ TEST(FileList, OnePathStaysAsItIs)
     EXPECT_EQ(list.text, std::wstring(L"C:\\docs\\My letter.old.txt\0", 26));
     EXPECT_EQ(list.nameOffset, 8u);
     EXPECT_EQ(list.text.c_str() + list.extensionOffset, std::wstring(L"txt"));
-    EXPECT_EQ(unpacked(list, false), std::vector<std::wstring>{L"C:\\docs\\My letter.old.txt"});
+    EXPECT_EQ(unpacked(list.text, ListStyle::OneFile),
+              std::vector<std::wstring>{L"C:\\docs\\My letter.old.txt"});
 }
 
 TEST(FileList, SeveralStandBehindTheirFolder)
@@ -48,12 +49,37 @@ TEST(FileList, WhatWasPackedComesBack)
         {L"C:\\" + std::wstring(300, L'x') + L"\\a", L"C:\\" + std::wstring(300, L'x') + L"\\b"},
     };
     for (const auto& paths : cases)
-        EXPECT_EQ(unpacked(packPaths(paths), true), paths);
+        EXPECT_EQ(unpacked(packPaths(paths).text, ListStyle::Zeros), paths);
 }
 
 TEST(FileList, OnePathOfADialogForSeveral)
 {
-    EXPECT_EQ(unpacked(packPaths({L"C:\\docs\\a.txt"}), true), std::vector<std::wstring>{L"C:\\docs\\a.txt"});
+    EXPECT_EQ(unpacked(packPaths({L"C:\\docs\\a.txt"}).text, ListStyle::Zeros),
+              std::vector<std::wstring>{L"C:\\docs\\a.txt"});
+}
+
+TEST(FileList, OfTheOldStyleHasBlanks)
+{
+    struct Case
+    {
+        const wchar_t* text;
+        std::vector<std::wstring> paths;
+    };
+    for (const Case& c : {
+             Case{L"C:\\docs a.txt b.txt", {L"C:\\docs\\a.txt", L"C:\\docs\\b.txt"}},
+             Case{L"C:\\ MYLETT~1.TXT b c", {L"C:\\MYLETT~1.TXT", L"C:\\b", L"C:\\c"}},
+             Case{L"\\\\server\\share a b", {L"\\\\server\\share\\a", L"\\\\server\\share\\b"}},
+             Case{L"C:\\docs  a   b  ", {L"C:\\docs\\a", L"C:\\docs\\b"}},
+             Case{L"C:\\docs a D:\\other\\b", {L"C:\\docs\\a", L"D:\\other\\b"}},
+             Case{L"C:\\docs\\a.txt", {L"C:\\docs\\a.txt"}},
+         })
+        EXPECT_EQ(unpacked(c.text, ListStyle::Blanks), c.paths) << testing::PrintToString(c.text);
+}
+
+TEST(FileList, OnePathMayHaveBlanksWhereThereAreNoOthers)
+{
+    EXPECT_EQ(unpacked(L"C:\\my docs\\my letter", ListStyle::OneFile),
+              std::vector<std::wstring>{L"C:\\my docs\\my letter"});
 }
 
 TEST(FileList, WithoutPathsThereIsNothing)
