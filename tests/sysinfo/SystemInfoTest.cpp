@@ -1,17 +1,15 @@
 // The system information dialog over modules made for it.
+#include "ShownModules.h"
 #include "support/Desktop.h"
 #include "support/ImportPatch.h"
-#include "support/RecordingParent.h"
 #include "support/Robot.h"
-#include "support/TestApp.h"
 
-#include <ovoui/sysinfo/SystemInfoDlg.h>
+#include <ovoui/sysinfo/LoadedModules.h>
 
 #include <ovocor/Text.h>
 
 #include <gtest/gtest.h>
 
-#include <dbghelp.h>
 #include <tlhelp32.h>
 
 #include <algorithm>
@@ -23,9 +21,6 @@ using namespace ovotest;
 namespace
 {
 
-constexpr UINT kCopy = 1001;
-constexpr int kText = 1002;
-
 /// Calls in order, and failures to answer with, for the functions below that stand in for the system's.
 struct System
 {
@@ -35,8 +30,6 @@ struct System
     bool failFirst = false;
     bool failVersion = false;
     std::function<void()> afterSnapshot;
-    DWORD linkTime = 0;
-    bool ownLinkTime = false;
 };
 System g_system;
 
@@ -69,11 +62,6 @@ BOOL WINAPI versionInfo(LPCWSTR path, DWORD ignored, DWORD size, LPVOID data)
     return !g_system.failVersion && ::GetFileVersionInfoW(path, ignored, size, data);
 }
 
-DWORD WINAPI linkTime(HMODULE module)
-{
-    return g_system.ownLinkTime ? g_system.linkTime : ::GetTimestampForLoadedLibrary(module);
-}
-
 /// The functions above in place of the library's imports.
 struct Patches
 {
@@ -82,110 +70,6 @@ struct Patches
     ImportPatch closes{L"ovoui.dll", "CloseHandle", reinterpret_cast<void*>(&close)};
     ImportPatch firsts{L"ovoui.dll", "Module32FirstW", reinterpret_cast<void*>(&first)};
     ImportPatch versions{L"ovoui.dll", "GetFileVersionInfoW", reinterpret_cast<void*>(&versionInfo)};
-    ImportPatch times{L"ovoui.dll", "GetTimestampForLoadedLibrary", reinterpret_cast<void*>(&linkTime)};
-};
-
-class Library
-{
-public:
-    explicit Library(const std::wstring& path)
-        : m_module(::LoadLibraryW(path.c_str()))
-    {
-        EXPECT_NE(m_module, nullptr) << testing::PrintToString(path);
-    }
-    ~Library() { release(); }
-    Library(const Library&) = delete;
-    Library& operator=(const Library&) = delete;
-
-    void release()
-    {
-        if (m_module)
-            ::FreeLibrary(std::exchange(m_module, nullptr));
-    }
-    HMODULE get() const { return m_module; }
-
-    std::wstring path() const
-    {
-        wchar_t text[1000]{};
-        ::GetModuleFileNameW(m_module, text, 1000);
-        return text;
-    }
-    std::wstring address() const
-    {
-        return stringPrintf(L"%016I64X", reinterpret_cast<std::uint64_t>(m_module));
-    }
-
-private:
-    HMODULE m_module;
-};
-
-std::vector<std::wstring> split(const std::wstring& text, const std::wstring& at)
-{
-    std::vector<std::wstring> parts;
-    std::size_t begin = 0;
-    for (std::size_t end; (end = text.find(at, begin)) != std::wstring::npos; begin = end + at.size())
-        parts.push_back(text.substr(begin, end - begin));
-    parts.push_back(text.substr(begin));
-    return parts;
-}
-
-/// The dialog as a host shows it, modeless so that a test can look at it.
-class Shown
-{
-public:
-    Shown()
-    {
-        m_dialog.create();
-        m_dialog.ShowWindow(SW_SHOW);
-    }
-
-    std::wstring text()
-    {
-        CString text;
-        m_dialog.GetDlgItem(kText)->GetWindowText(text);
-        return std::wstring(text);
-    }
-    std::vector<std::wstring> lines() { return split(text(), L"\r\n"); }
-
-    /// The columns of the module with this name; empty without one.
-    std::vector<std::wstring> columns(const std::wstring& name)
-    {
-        for (const std::wstring& line : lines())
-            if (lowercase(line).starts_with(lowercase(name) + L"\t"))
-                return split(line, L"\t");
-        return {};
-    }
-    CDialog& dialog() { return m_dialog; }
-
-private:
-    class Dialog : public CSystemInfoDlg
-    {
-    public:
-        void create() { Create(1506); }
-    };
-    Dialog m_dialog;
-};
-
-std::wstring listSeparator()
-{
-    wchar_t text[20]{};
-    ::GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SLIST, text, 20);
-    return text;
-}
-
-enum
-{
-    kName,
-    kAddress,
-    kSize,
-    kLinkTime,
-    kFileVersion,
-    kProductVersion,
-    kType,
-    kFlags,
-    kOs,
-    kPath,
-    kDescription
 };
 
 class SystemInfo : public ::testing::Test
@@ -292,30 +176,6 @@ TEST_F(SystemInfo, LongPathsAndForeignLettersAreShownWhole)
     ::DeleteFileW(path.c_str());
 }
 
-TEST_F(SystemInfo, LinkTimesAreLocalTimes)
-{
-    for (const DWORD time :
-         {DWORD{0}, DWORD{1}, DWORD{1234567890}, DWORD{0x7FFFFFFF}, DWORD{0x80000000}, DWORD{0xFFFFFFFF}}) {
-        g_system.ownLinkTime = true;
-        g_system.linkTime = time;
-        const Library module(L"sysinfo_plain.dll");
-        Shown shown;
-        // By the system's own calendar: from 1601 in steps of 100 nanoseconds.
-        const ULONGLONG ticks = (ULONGLONG{time} + 11644473600ull) * 10000000ull;
-        const FILETIME utc{static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
-        SYSTEMTIME universal{};
-        SYSTEMTIME local{};
-        ::FileTimeToSystemTime(&utc, &universal);
-        ::SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local);
-        static const wchar_t* const kMonths[] = {L"January",   L"February", L"March",    L"April",
-                                                 L"May",       L"June",     L"July",     L"August",
-                                                 L"September", L"October",  L"November", L"December"};
-        EXPECT_EQ(shown.columns(L"sysinfo_plain.dll")[kLinkTime],
-                  stringPrintf(L"%d %s %d %02d:%02d:%02d", local.wDay, kMonths[local.wMonth - 1], local.wYear,
-                               local.wHour, local.wMinute, local.wSecond));
-    }
-}
-
 // Failures
 
 TEST_F(SystemInfo, WithoutASnapshotThereIsASentence)
@@ -336,11 +196,18 @@ TEST_F(SystemInfo, WithoutAFirstModuleThereIsTheSameSentence)
 
 TEST_F(SystemInfo, AModuleThatIsUnloadedMeanwhileIsStillListed)
 {
-    Library module(L"sysinfo_plain.dll");
+    Library module(L"sysinfo_two_languages.dll");
     g_system.afterSnapshot = [&] { module.release(); };
+    const std::vector<LoadedModule> modules = loadedModules();
+    const auto gone = std::ranges::find(modules, std::wstring(L"sysinfo_two_languages.dll"),
+                                        [](const LoadedModule& listed) { return lowercase(listed.name); });
+    ASSERT_NE(gone, modules.end());
+    EXPECT_EQ(gone->fileVersion, L"1.2.3.4") << "the file is still there";
+    EXPECT_EQ(g_system.closed, g_system.snapshots);
+
     Shown shown;
-    EXPECT_FALSE(shown.text().empty());
     EXPECT_EQ(shown.lines().front().substr(0, 4), L"Name");
+    EXPECT_TRUE(shown.columns(L"sysinfo_two_languages.dll").empty());
 }
 
 TEST_F(SystemInfo, ARecordThatCannotBeReadIsLeftOut)
@@ -352,6 +219,7 @@ TEST_F(SystemInfo, ARecordThatCannotBeReadIsLeftOut)
     ASSERT_EQ(columns.size(), 11u);
     EXPECT_EQ(columns[kFileVersion], L"");
     EXPECT_EQ(columns[kDescription], L"");
+    EXPECT_EQ(g_system.closed, g_system.snapshots);
 }
 
 // The dialog
@@ -382,6 +250,48 @@ TEST_F(SystemInfo, TheTextIsReadOnlyAndMonospaced)
     dc.SelectObject(old);
 }
 
+TEST_F(SystemInfo, TheColumnsLineUpAtTheTabStop)
+{
+    Shown shown;
+    auto* const text = dynamic_cast<CEdit*>(CWnd::FromHandlePermanent(*shown.dialog().GetDlgItem(kText)));
+    ASSERT_NE(text, nullptr) << "the dialog's own control";
+    // The same text in a control with the stop that is asked for.
+    CEdit other;
+    other.Create(WS_CHILD | ES_MULTILINE | ES_AUTOHSCROLL, CRect(0, 0, 100, 100), &shown.dialog(), 9000);
+    other.SetFont(text->GetFont());
+    other.SetTabStops(92);
+    other.SetWindowText(shown.text().c_str());
+    const auto secondColumn = [&](CEdit& edit, int line) {
+        const int begin = edit.LineIndex(line);
+        const auto tab = shown.text().find(L'\t', static_cast<std::size_t>(begin));
+        return edit.PosFromChar(static_cast<UINT>(tab + 1)).x - edit.PosFromChar(static_cast<UINT>(begin)).x;
+    };
+    const int column = secondColumn(*text, 0);
+    EXPECT_EQ(column, secondColumn(other, 0));
+    const std::vector<std::wstring> lines = shown.lines();
+    for (std::size_t line = 1; line + 1 < lines.size(); ++line)
+        if (lines[line].find(L'\t') < 20) {
+            EXPECT_EQ(secondColumn(*text, static_cast<int>(line)), column)
+                << testing::PrintToString(lines[line]);
+        }
+}
+
+TEST_F(SystemInfo, TheKeyboardReachesEverything)
+{
+    Shown shown;
+    CDialog& dialog = shown.dialog();
+    present(dialog);
+    const HWND copy = ::GetDlgItem(dialog, kCopy);
+    ::SetFocus(copy);
+    Robot().holding(VK_MENU).key('L');
+    EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog, kText));
+    Robot().key(VK_TAB);
+    EXPECT_EQ(::GetFocus(), copy);
+    Robot().key(VK_TAB);
+    EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog, IDCANCEL));
+    Robot().key(VK_RETURN).waitFor("the end of the dialog", [&] { return !::IsWindowVisible(dialog); });
+}
+
 TEST_F(SystemInfo, TheTextGrowsWithTheDialogAndTheButtonsFollow)
 {
     Shown shown;
@@ -404,44 +314,6 @@ TEST_F(SystemInfo, TheTextGrowsWithTheDialogAndTheButtonsFollow)
     dialog.GetWindowRect(&least);
     EXPECT_EQ(least.Size(), window.Size()) << "never smaller than it opens";
     EXPECT_EQ(place(kText), text);
-}
-
-TEST_F(SystemInfo, CopyPutsTheTextOnTheClipboard)
-{
-    Shown shown;
-    present(shown.dialog());
-    Robot().click(Spot{shown.dialog().GetDlgItem(kCopy)->m_hWnd}).waitFor("the text on the clipboard", [] {
-        return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE;
-    });
-    ASSERT_TRUE(::OpenClipboard(shown.dialog()));
-    const HANDLE data = ::GetClipboardData(CF_UNICODETEXT);
-    const std::wstring copied = static_cast<const wchar_t*>(::GlobalLock(data));
-    ::GlobalUnlock(data);
-    ::CloseClipboard();
-    EXPECT_EQ(copied, shown.text());
-    ::OleFlushClipboard();
-}
-
-namespace
-{
-
-HRESULT WINAPI busyClipboard(IDataObject*)
-{
-    return CLIPBRD_E_CANT_OPEN;
-}
-
-} // namespace
-
-TEST_F(SystemInfo, AClipboardInUseIsSaidClearly)
-{
-    const ImportPatch patch(L"ovomfc.dll", "OleSetClipboard", reinterpret_cast<void*>(&busyClipboard));
-    Shown shown;
-    const std::wstring before = shown.text();
-    shown.dialog().SendMessage(WM_COMMAND, kCopy, 0);
-    ASSERT_EQ(TestApp::instance().boxes().size(), 1u);
-    EXPECT_NE(TestApp::instance().boxes()[0].text.find(L"clipboard"), std::wstring::npos);
-    EXPECT_TRUE(shown.dialog().IsWindowVisible());
-    EXPECT_EQ(shown.text(), before);
 }
 
 TEST_F(SystemInfo, RunsModallyAndClosesByKeyboard)
