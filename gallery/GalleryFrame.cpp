@@ -304,7 +304,7 @@ void GalleryFrame::OnTimer(UINT_PTR id)
         return;
     }
     KillTimer(kPoseTimer);
-    m_poseSaved = saveScreenshot(m_posing, m_posePath);
+    m_poseSaved = saveScreenshotOfDialog(m_posing, m_posePath);
     m_posePath.clear();
     ::PostMessageW(std::exchange(m_posing, nullptr), WM_COMMAND, IDCANCEL, 0);
 }

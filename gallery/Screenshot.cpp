@@ -36,15 +36,56 @@ UniqueBitmap copyOfScreen(const RECT& rect)
     return bitmap;
 }
 
+RECT placeOf(HWND window)
+{
+    RECT rect{};
+    ::GetWindowRect(window, &rect);
+    return rect;
+}
+
+RECT placeWithOwned(HWND dialog)
+{
+    struct Place
+    {
+        HWND owner;
+        RECT rect;
+    } all{dialog, placeOf(dialog)};
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM parameter) -> BOOL {
+            auto& place = *reinterpret_cast<Place*>(parameter);
+            const RECT rect = placeOf(window);
+            if (::GetWindow(window, GW_OWNER) == place.owner && ::IsWindowVisible(window))
+                ::UnionRect(&place.rect, &place.rect, &rect);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&all));
+    return all.rect;
+}
+
+bool save(const RECT& place, const std::wstring& path)
+{
+    const UniqueBitmap bitmap = copyOfScreen(place);
+    Gdiplus::Bitmap image(bitmap.get(), nullptr);
+    return image.Save(path.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+}
+
+void finishPainting(HWND window)
+{
+    ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    ::GdiFlush();
+}
+
 } // namespace
 
 bool saveScreenshot(HWND window, const std::wstring& path)
 {
-    ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    ::GdiFlush();
-    RECT rect{};
-    ::GetWindowRect(window, &rect);
-    const UniqueBitmap bitmap = copyOfScreen(rect);
-    Gdiplus::Bitmap image(bitmap.get(), nullptr);
-    return image.Save(path.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+    finishPainting(window);
+    return save(placeOf(window), path);
+}
+
+bool saveScreenshotOfDialog(HWND dialog, const std::wstring& path)
+{
+    finishPainting(dialog);
+    return save(placeWithOwned(dialog), path);
 }

@@ -2,6 +2,8 @@
 
 #include "Resolution.h"
 
+#include <ovoui/frame/Geometry.h>
+
 #include <gdiplus.h>
 
 #include <algorithm>
@@ -19,8 +21,24 @@ CRect fitted(CSize picture, const CRect& pane)
 {
     const double scale =
         std::min({1.0, double(pane.Width()) / picture.cx, double(pane.Height()) / picture.cy});
-    const CSize size(static_cast<int>(picture.cx * scale), static_cast<int>(picture.cy * scale));
+    const CSize size(std::max(1, static_cast<int>(picture.cx * scale)),
+                     std::max(1, static_cast<int>(picture.cy * scale)));
     return {CPoint(pane.CenterPoint().x - size.cx / 2, pane.CenterPoint().y - size.cy / 2), size};
+}
+
+/// A copy: GDI+ holds a file as long as there is an image of it. Null when the file holds no picture.
+std::unique_ptr<Gdiplus::Bitmap> copyOf(const std::wstring& path)
+{
+    Gdiplus::Bitmap file(path.c_str());
+    if (file.GetLastStatus() != Gdiplus::Ok || file.GetWidth() == 0 || file.GetHeight() == 0)
+        return nullptr;
+    const auto width = static_cast<INT>(file.GetWidth());
+    const auto height = static_cast<INT>(file.GetHeight());
+    auto copy = std::make_unique<Gdiplus::Bitmap>(width, height, PixelFormat32bppPARGB);
+    if (copy->GetLastStatus() != Gdiplus::Ok ||
+        Gdiplus::Graphics(copy.get()).DrawImage(&file, 0, 0, width, height) != Gdiplus::Ok)
+        return nullptr;
+    return copy;
 }
 
 } // namespace
@@ -55,15 +73,17 @@ void PicturePreview::goBeside()
 {
     CRect dialog;
     ::GetWindowRect(m_beside, &dialog);
-    SetWindowPos(nullptr, dialog.right + scaled(m_hWnd, kGap), dialog.top, scaled(m_hWnd, kWidth),
-                 dialog.Height(), SWP_NOZORDER | SWP_NOACTIVATE);
+    const int gap = scaled(m_hWnd, kGap);
+    const int width = scaled(m_hWnd, kWidth);
+    const CRect room = GetWorkArea(dialog);
+    const bool fits = dialog.right + gap + width <= room.right || dialog.left - gap - width < room.left;
+    const int left = fits ? dialog.right + gap : dialog.left - gap - width;
+    SetWindowPos(nullptr, left, dialog.top, width, dialog.Height(), SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void PicturePreview::show(const std::wstring& path)
 {
-    m_picture = std::make_unique<Gdiplus::Image>(path.c_str());
-    if (m_picture->GetLastStatus() != Gdiplus::Ok || m_picture->GetWidth() == 0)
-        m_picture.reset();
+    m_picture = copyOf(path);
     if (m_hWnd)
         Invalidate(FALSE);
 }
@@ -84,6 +104,7 @@ void PicturePreview::OnPaint()
     pane.DeflateRect(scaled(m_hWnd, kGap), scaled(m_hWnd, kGap));
     const CRect place =
         fitted({static_cast<int>(m_picture->GetWidth()), static_cast<int>(m_picture->GetHeight())}, pane);
-    Gdiplus::Graphics(dc.m_hDC).DrawImage(m_picture.get(), place.left, place.top, place.Width(),
-                                          place.Height());
+    Gdiplus::Graphics graphics(dc.m_hDC);
+    graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
+    graphics.DrawImage(m_picture.get(), place.left, place.top, place.Width(), place.Height());
 }

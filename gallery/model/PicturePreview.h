@@ -8,7 +8,7 @@
 
 namespace Gdiplus
 {
-class Image;
+class Bitmap;
 }
 
 /// Either a child in a dialog, or a window beside one, which it follows.
@@ -32,6 +32,6 @@ protected:
 private:
     void goBeside();
 
-    std::unique_ptr<Gdiplus::Image> m_picture;
+    std::unique_ptr<Gdiplus::Bitmap> m_picture;
     HWND m_beside = nullptr; ///< the dialog that it follows, if it does
 };

@@ -2,8 +2,8 @@
 
 #include "resource.h"
 
-PreviewDialog::PreviewDialog(CWnd* parent, bool newStyle)
-    : COVOFileDialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_FILEMUSTEXIST,
+PreviewDialog::PreviewDialog(CWnd* parent, bool newStyle, const std::wstring& path)
+    : COVOFileDialog(TRUE, nullptr, path.c_str(), OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_FILEMUSTEXIST,
                      L"Pictures|*.png;*.jpg;*.bmp;*.gif|All files|*.*||", parent, newStyle)
 {
     if (IsVistaStyle())
@@ -29,16 +29,27 @@ void PreviewDialog::OnInitDone()
 {
     if (IsVistaStyle()) {
         m_preview.createBeside(*DialogWnd());
-        return;
+    } else {
+        // The system has moved its own controls meanwhile, and the pane with them.
+        CRect place;
+        GetDlgItem(IDC_PREVIEW_AREA)->GetWindowRect(&place);
+        DialogWnd()->ScreenToClient(&place);
+        m_preview.MoveWindow(&place);
     }
-    // The system has moved its own controls meanwhile, and the pane with them.
-    CRect place;
-    GetDlgItem(IDC_PREVIEW_AREA)->GetWindowRect(&place);
-    DialogWnd()->ScreenToClient(&place);
-    m_preview.MoveWindow(&place);
+    showSelected();
+}
+
+void PreviewDialog::OnFolderChange()
+{
+    showSelected();
 }
 
 void PreviewDialog::OnFileNameChange()
+{
+    showSelected();
+}
+
+void PreviewDialog::showSelected()
 {
     m_preview.show(GetPathName().GetString());
 }

@@ -8,13 +8,17 @@
 class PreviewDialog : public COVOFileDialog
 {
 public:
-    PreviewDialog(CWnd* parent, bool newStyle);
+    /// Begins with the file of this path, or with none.
+    PreviewDialog(CWnd* parent, bool newStyle, const std::wstring& path = {});
 
 protected:
     BOOL OnInitDialog() override;
     void OnInitDone() override;
+    void OnFolderChange() override;
     void OnFileNameChange() override;
 
 private:
+    void showSelected();
+
     PicturePreview m_preview;
 };

@@ -1,5 +1,6 @@
 #include "FilesPage.h"
 
+#include "Screenshot.h"
 #include "model/DemoFileDialog.h"
 #include "model/PreviewDialog.h"
 #include "resource.h"
@@ -85,9 +86,13 @@ void FilesPage::showDialog(bool newStyle)
     tell(L"COVOFileDialog", paths);
 }
 
-void FilesPage::showPreview(bool newStyle)
+void FilesPage::showPreview(bool newStyle, const std::wstring& path)
 {
-    PreviewDialog dialog(AfxGetMainWnd(), newStyle);
+    if (!UpdateData())
+        return;
+    PreviewDialog dialog(AfxGetMainWnd(), newStyle, path);
+    const std::wstring folder = m_folder.GetString();
+    dialog.SetDefaultFolder(folder);
     Paths paths;
     if (dialog.DoModal() == IDOK)
         paths = {dialog.GetPathName().GetString()};
@@ -194,9 +199,19 @@ void FilesPage::tell(const std::wstring& function, const Paths& paths)
     log(paths.empty() ? function + L": cancelled" : function + L": " + paths.front());
 }
 
+/// A picture to choose, in the folder of temporary files.
+std::wstring FilesPage::pictureOfItself() const
+{
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / L"ovoui gallery";
+    std::filesystem::create_directories(folder);
+    const std::wstring path = (folder / L"Files page.png").wstring();
+    saveScreenshot(m_hWnd, path);
+    return path;
+}
+
 std::vector<std::wstring> FilesPage::poses() const
 {
-    return {L"classic", L"new-style", L"preview", L"folder"};
+    return {L"classic", L"new-style", L"preview", L"preview-new-style", L"folder"};
 }
 
 bool FilesPage::pose(const std::wstring& name)
@@ -206,7 +221,9 @@ bool FilesPage::pose(const std::wstring& name)
     else if (name == L"new-style")
         showDialog(true);
     else if (name == L"preview")
-        showPreview(false);
+        showPreview(false, pictureOfItself());
+    else if (name == L"preview-new-style")
+        showPreview(true, pictureOfItself());
     else if (name == L"folder")
         OnPickFolder();
     else

@@ -36,9 +36,10 @@ private:
     using Paths = std::vector<std::wstring>;
 
     void showDialog(bool newStyle);
-    void showPreview(bool newStyle);
+    void showPreview(bool newStyle, const std::wstring& path = {});
     FileQuestion question();
     FolderQuestion folderQuestion();
+    std::wstring pictureOfItself() const;
     void tell(const std::wstring& function, const Paths& paths);
     void tell(const std::wstring& function, const std::vector<std::filesystem::path>& paths);
 
