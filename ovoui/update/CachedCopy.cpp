@@ -8,15 +8,15 @@
 namespace ovoui::update
 {
 
-CachedCopy::CachedCopy(const std::wstring& address, DownloadControl& control)
-    : m_address(address)
-    , m_path(downloadUrlToCache(address, control))
+CachedCopy::Entry::~Entry()
 {
+    ::DeleteUrlCacheEntryW(address.c_str());
 }
 
-CachedCopy::~CachedCopy()
+CachedCopy::CachedCopy(const std::wstring& address, DownloadControl& control)
+    : m_entry{address}
+    , m_path(downloadUrlToCache(address, control))
 {
-    ::DeleteUrlCacheEntryW(m_address.c_str());
 }
 
 } // namespace ovoui::update

@@ -8,20 +8,26 @@
 namespace ovoui::update
 {
 
-/// The copy is deleted at the end of the scope.
+/// The copy is deleted at the end of the scope. An older copy goes too, also when the download fails.
 class CachedCopy
 {
 public:
     /// Throws what `downloadUrlToCache` throws.
     CachedCopy(const std::wstring& address, DownloadControl& control);
-    ~CachedCopy();
     CachedCopy(const CachedCopy&) = delete;
     CachedCopy& operator=(const CachedCopy&) = delete;
 
     const std::wstring& path() const { return m_path; }
 
 private:
-    const std::wstring m_address;
+    /// Deletes what the cache has for an address.
+    struct Entry
+    {
+        const std::wstring address;
+        ~Entry();
+    };
+
+    const Entry m_entry; // goes also when the download throws
     const std::wstring m_path;
 };
 

@@ -43,9 +43,17 @@ TEST(Catalogue, SaysWhyAnAddressCannotBeOpened)
 {
     const wchar_t* const address = L"oak";
     EXPECT_EQ(stringPrintf(ovoMsg(OVOMSG_URL_SCHEME).c_str(), address),
-              L"The address \"oak\" cannot be opened because it does not start with http:, https: or ftp:.");
+              L"The address \"oak\" cannot be opened because it does not start with http:, https: or ftp:. "
+              L"Check its spelling, "
+              L"or look for the page on the maker's website.");
     EXPECT_EQ(stringPrintf(ovoMsg(OVOMSG_URL_INVALID).c_str(), address, L"No name."),
-              L"The address \"oak\" is not valid: No name.");
+              L"The address \"oak\" is not valid. Check its spelling. The system says: No name.");
+    EXPECT_EQ(stringPrintf(ovoMsg(OVOMSG_URL_NOT_OPENED).c_str(), address, L"No browser."),
+              L"The address \"oak\" cannot be opened. Copy it into your web browser, or choose a default "
+              L"browser in the "
+              L"settings of Windows. The system says: No browser.");
+    EXPECT_TRUE(ovoMsg(OVOMSG_UPDATE_LIST_INCOMPLETE)
+                    .ends_with(L"Try again later, or look for updates on the maker's website."));
 }
 
 TEST(Catalogue, NamesANumberThatItDoesNotHave)

@@ -9,6 +9,8 @@
 
 #include <ovocor/OvoError.h>
 #include <ovocor/Text.h>
+#include <ovocor/Url.h>
+#include <ovocor/WinError.h>
 #include <ovomsg/ovomsg.h>
 
 #include <gtest/gtest.h>
@@ -20,6 +22,7 @@
 #include <algorithm>
 #include <cstring>
 #include <future>
+#include <utility>
 #include <vector>
 
 using namespace ovotest;
@@ -93,6 +96,7 @@ protected:
                              .key(key)
                              .start();
         checkForUpdates(list(), L"Board", L"Pro", kInstalled);
+        EXPECT_FALSE(isCached()) << "the copy is gone";
         return text;
     }
 
@@ -164,6 +168,27 @@ TEST_F(UpdateCheck, ListsMayBeWrittenInAnyEncoding)
         wide += std::string{c, '\0'};
     server.answer("/updates.csv", LoopbackServer::page("200 OK", wide));
     EXPECT_EQ(found()->description, L"Wide");
+    for (std::size_t i = 0; i < wide.size(); i += 2)
+        std::swap(wide[i], wide[i + 1]);
+    server.answer("/updates.csv", LoopbackServer::page("200 OK", wide));
+    EXPECT_EQ(found()->description, L"Wide") << "the other order of bytes";
+}
+
+TEST_F(UpdateCheck, WideTextWithoutAMarkIsNoList)
+{
+    std::string wide;
+    for (const char c : std::string(kHeader) + "#update,Board,,,,,13,http://example.org/13,Wide\r\n")
+        wide += std::string{c, '\0'};
+    server.answer("/updates.csv", LoopbackServer::page("200 OK", wide));
+    EXPECT_NE(failure(), L"");
+}
+
+TEST_F(UpdateCheck, APageInsteadOfAListIsRefused)
+{
+    server.answer("/updates.csv",
+                  LoopbackServer::page("200 OK", "<!DOCTYPE html>\n<html>\n<body>\n<p>Log in, "
+                                                 "please</p>\n</body>\n</html>\n"));
+    EXPECT_EQ(failure(), stringPrintf(ovoMsg(OVOMSG_UPDATE_LIST_INCOMPLETE).c_str(), list().c_str()));
 }
 
 TEST_F(UpdateCheck, QuotedFieldsMaySpanLines)
@@ -182,10 +207,34 @@ TEST_F(UpdateCheck, ARowWithoutARequiredColumnSpoilsTheList)
     }
 }
 
+namespace
+{
+
+BOOL WINAPI readNothing(HANDLE, LPVOID, DWORD, LPDWORD, LPOVERLAPPED)
+{
+    ::SetLastError(ERROR_CRC);
+    return FALSE;
+}
+
+} // namespace
+
+TEST_F(UpdateCheck, ACopyThatCannotBeReadIsReportedAsTheReaderDoes)
+{
+    publish("#update,Board,,,,,13,http://example.org/13,\r\n");
+    const ImportPatch reading(L"ovocor11.dll", "ReadFile", reinterpret_cast<void*>(&readNothing));
+    try {
+        findUpdate(list(), L"Board", L"Pro", kInstalled);
+        ADD_FAILURE() << "no error";
+    } catch (const WinError& error) {
+        EXPECT_EQ(error.code(), DWORD{ERROR_CRC});
+    }
+    EXPECT_FALSE(isCached()) << "the copy is gone";
+}
+
 TEST_F(UpdateCheck, AnUnclosedQuoteIsAnError)
 {
     publish("#update,Board,,,,,13,http://example.org/13,\"never closed\r\n");
-    EXPECT_NE(failure(), L"");
+    EXPECT_TRUE(failure().starts_with(L"Line 2 "));
 }
 
 TEST_F(UpdateCheck, WhatTheServerRefusesIsReportedWithTheAddress)
@@ -215,11 +264,24 @@ TEST_F(UpdateCheck, AnAnswerInPartsIsPutTogether)
 
 TEST_F(UpdateCheck, ANewPlaceOfTheListIsFollowed)
 {
-    server.answer("/updates.csv", "HTTP/1.1 302 Found\r\nLocation: /moved.csv\r\nContent-Length: 0\r\n\r\n");
     server.answer("/moved.csv",
                   LoopbackServer::page("200 OK", std::string(kHeader) +
                                                      "#update,Board,,,,,13,http://example.org/13,\r\n"));
-    EXPECT_TRUE(found());
+    for (const char* status : {"301 Moved Permanently", "302 Found", "307 Temporary Redirect"})
+        for (const std::wstring& place : {std::wstring(L"/moved.csv"), server.address(L"/moved.csv")}) {
+            server.answer("/updates.csv", std::string("HTTP/1.1 ") + status + "\r\nLocation: " +
+                                              getMBS(place) + "\r\nContent-Length: 0\r\n\r\n");
+            EXPECT_TRUE(found()) << status;
+        }
+}
+
+TEST_F(UpdateCheck, AnOlderCopyGoesAlsoWhenTheListCannotBeFetched)
+{
+    publish("");
+    downloadUrlToCache(list());
+    ASSERT_TRUE(isCached());
+    server.answer("/updates.csv", LoopbackServer::page("404 Not Found", ""));
+    EXPECT_NE(failure(), L"");
 }
 
 TEST_F(UpdateCheck, AListThatIsPackedIsNoList)
@@ -313,6 +375,7 @@ TEST_F(UpdateCheck, AHostilePageIsNotOpened)
         text = error.wwhat();
     }
     EXPECT_EQ(text, stringPrintf(ovoMsg(OVOMSG_URL_SCHEME).c_str(), L"file:///C:/Windows/notepad.exe"));
+    EXPECT_FALSE(isCached());
     EXPECT_TRUE(g_opened.empty());
 }
 

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <wininet.h>
+
 #include <future>
 #include <stdexcept>
 #include <thread>
@@ -49,7 +51,13 @@ protected:
 class UpdateJobs : public ::testing::Test
 {
 protected:
-    ~UpdateJobs() override { endThreads(); }
+    ~UpdateJobs() override
+    {
+        endThreads();
+        DWORD size = 0;
+        EXPECT_FALSE(::GetUrlCacheEntryInfoW(server.address(L"/updates.csv").c_str(), nullptr, &size));
+        EXPECT_EQ(::GetLastError(), DWORD{ERROR_FILE_NOT_FOUND}) << "no copy is left, whatever the outcome";
+    }
 
     void endThreads()
     {
