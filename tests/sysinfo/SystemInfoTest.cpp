@@ -160,12 +160,40 @@ TEST_F(SystemInfo, RecordsOfEveryKind)
     }
 }
 
+namespace
+{
+
+std::wstring g_separator;
+
+int WINAPI localeInfo(LCID locale, LCTYPE type, LPWSTR text, int size)
+{
+    if (type != LOCALE_SLIST)
+        return ::GetLocaleInfoW(locale, type, text, size);
+    EXPECT_GT(size, 10) << "there is room for ten characters";
+    ::lstrcpynW(text, g_separator.c_str(), size);
+    return static_cast<int>(g_separator.size()) + 1;
+}
+
+} // namespace
+
+TEST_F(SystemInfo, TheUsersListSeparatorStandsBetweenTheWords)
+{
+    const ImportPatch patch(L"ovoui.dll", "GetLocaleInfoW", reinterpret_cast<void*>(&localeInfo));
+    const Library module(L"sysinfo_two_languages.dll");
+    for (std::size_t length = 1; length <= 10; ++length) {
+        g_separator = std::wstring(L" and then ").substr(0, length);
+        Shown shown;
+        EXPECT_EQ(shown.columns(L"sysinfo_two_languages.dll")[kOs], L"NT/2000" + g_separator + L"win32");
+    }
+}
+
 TEST_F(SystemInfo, LongPathsAndForeignLettersAreShownWhole)
 {
     wchar_t folder[MAX_PATH]{};
     ::GetTempPathW(MAX_PATH, folder);
     std::wstring path = std::wstring(folder) + L"\u6A21\u584A";
-    path += std::wstring(245 - path.size(), L'x') + L".dll";
+    path += std::wstring(246 - path.size(), L'x') + L".dll";
+    ASSERT_EQ(path.size(), 250u);
     const Library original(L"sysinfo_plain.dll");
     ASSERT_TRUE(::CopyFileW(original.path().c_str(), path.c_str(), FALSE));
     {

@@ -41,6 +41,33 @@ TEST(VersionWords, SeveralFlagsComeInTheirOrder)
     }
 }
 
+TEST(VersionWords, AnySeparatorStandsBetweenTheWords)
+{
+    for (std::size_t length = 1; length <= 10; ++length) {
+        const std::wstring separator = std::wstring(L"; 0x\t,|%\u00B7.").substr(0, length);
+        ASSERT_EQ(separator.size(), length);
+        EXPECT_EQ(flagWords(0x41 | 0x10, separator), L"debug" + separator + L"inferred" + separator + L"40");
+        EXPECT_EQ(systemWords(0x00040004, separator), L"NT/2000" + separator + L"win32");
+    }
+}
+
+TEST(VersionWords, WhateverHasNoNameIsANumber)
+{
+    const auto number = [](std::uint32_t value) {
+        std::wstring text;
+        for (; value != 0 || text.empty(); value /= 16)
+            text.insert(text.begin(), L"0123456789abcdef"[value % 16]);
+        return L"0x" + text;
+    };
+    for (std::uint32_t value = 5; value <= 0xFFFF; ++value) {
+        ASSERT_EQ(systemWords(value << 16, L","), L"OS:" + number(value));
+        ASSERT_EQ(systemWords(value, L","), L"API:" + number(value));
+        ASSERT_EQ(typeWords(4, value), number(value) + L" font");
+        ASSERT_EQ(typeWords(3, value + 6), number(value + 6) + L" device driver");
+        ASSERT_EQ(typeWords(value + 3, value), number(value + 3) + L"/" + number(value));
+    }
+}
+
 TEST(VersionWords, EverySystemHasItsWord)
 {
     const struct
