@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 using namespace ovotest;
 
 namespace
@@ -171,6 +173,23 @@ TEST_P(ExtraControls, ATextIsShown)
         whenAsked().then([&] { shown = controlWithText(L"A note") != nullptr; }).key(VK_ESCAPE).start();
     dialog.DoModal();
     EXPECT_TRUE(shown);
+}
+
+TEST_P(ExtraControls, AnExceptionClosesTheDialogAndComesOut)
+{
+    const auto comesOut = [&](Spot place) {
+        WithExtras dialog(kind());
+        dialog.onEvent = [] { throw std::runtime_error("of the handler"); };
+        auto answering = whenAsked().click(place).start();
+        EXPECT_THROW(dialog.DoModal(), std::runtime_error);
+        EXPECT_EQ(dialog.events.size(), 1u);
+    };
+    comesOut([] { return controlWithText(L"Deta&ils"); });
+    comesOut([] { return controlWithText(L"&Large"); });
+    // In the new style the system opens its menu all the same, which then waits for the user;
+    // NewStyleEvents has the exception of that event.
+    if (kind() == Kind::Classic)
+        comesOut(&onMenuButton);
 }
 
 TEST(ExtraControlsOfTheClassicDialog, MayDestroyTheOwnerBeforeTheirMenuOpens)

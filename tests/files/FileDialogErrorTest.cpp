@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <commdlg.h>
+
 #include <stdexcept>
 
 using namespace ovotest;
@@ -75,6 +77,17 @@ void help(HostDialog& dialog, std::vector<Performance>& acts)
     acts.push_back(whenAsked().click([&] { return controlOf(dialog, IDC_QUALITY); }).key(VK_F1).start());
 }
 
+void selectInTheOldStyle(HostDialog& dialog, std::vector<Performance>& acts)
+{
+    acts.push_back(whenAsked()
+                       .then([&] {
+                           ::PostMessageW(dialog.DialogWnd()->m_hWnd,
+                                          ::RegisterWindowMessageW(LBSELCHSTRINGW), 1120,
+                                          MAKELPARAM(3, CD_LBSELCHANGE));
+                       })
+                       .start());
+}
+
 class MisdeedTest : public testing::TestWithParam<Misdeed>
 {
 };
@@ -89,10 +102,11 @@ INSTANTIATE_TEST_SUITE_P(
         Misdeed{Kind::Classic, "PostInit", nullptr}, Misdeed{Kind::Classic, "Size", nullptr},
         Misdeed{Kind::Classic, "FileNameOK", &takeFile}, Misdeed{Kind::Classic, "TypeChange", &changeType},
         Misdeed{Kind::Classic, "CheckButtonToggled", &check}, Misdeed{Kind::Classic, "ItemSelected", &choose},
-        Misdeed{Kind::Classic, "EnChange", &edit}, Misdeed{Kind::Classic, "HelpInfo", &help},
-        Misdeed{Kind::NewStyle, "InitDone", nullptr}, Misdeed{Kind::NewStyle, "FolderChange", nullptr},
-        Misdeed{Kind::NewStyle, "FileNameOK", &takeFile}, Misdeed{Kind::NewStyle, "TypeChange", nullptr},
-        Misdeed{Kind::NewStyle, "CheckButtonToggled", &check},
+        Misdeed{Kind::Classic, "EnChange", &edit},
+        Misdeed{Kind::Classic, "LBSelChanged", &selectInTheOldStyle},
+        Misdeed{Kind::Classic, "HelpInfo", &help}, Misdeed{Kind::NewStyle, "InitDone", nullptr},
+        Misdeed{Kind::NewStyle, "FolderChange", nullptr}, Misdeed{Kind::NewStyle, "FileNameOK", &takeFile},
+        Misdeed{Kind::NewStyle, "TypeChange", nullptr}, Misdeed{Kind::NewStyle, "CheckButtonToggled", &check},
         Misdeed{Kind::NewStyle, "ItemSelected", &choose}),
     [](const auto& info) { return nameOf(info.param.kind) + "_" + info.param.handler; });
 

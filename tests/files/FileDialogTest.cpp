@@ -7,6 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#include <commdlg.h>
+
+#include <cstring>
+
 using namespace ovotest;
 
 namespace
@@ -39,6 +43,71 @@ TEST(FileDialogLayout, IsAVirtualTableAndTwoPointers)
                   reinterpret_cast<char*>(static_cast<COVOFileDialog*>(&dialog)),
               static_cast<std::ptrdiff_t>(2 * sizeof(void*)));
     static_assert(std::is_copy_constructible_v<COVOFileDialog>);
+}
+
+namespace
+{
+
+/// The place of a virtual operation in its table, counted from 1, where the destructor takes two.
+template <class Operation>
+std::size_t slotOf(Operation operation)
+{
+    std::size_t offset = 0; // one more than it, says the ABI
+    std::memcpy(&offset, &operation, sizeof offset);
+    return (offset - 1) / sizeof(void*) + 1;
+}
+
+/// Reaches what is for derived classes.
+struct Operations : COVOFileDialog
+{
+    static std::vector<std::size_t> slots()
+    {
+        return {slotOf(&Operations::DoModal),
+                slotOf(&Operations::OnHelpInfo),
+                slotOf(&Operations::OnSize),
+                slotOf(&Operations::OnInitDialog),
+                slotOf(&Operations::OnFileNameOK),
+                slotOf(&Operations::OnFileNameChange),
+                slotOf(&Operations::OnFolderChange),
+                slotOf(&Operations::OnInitDone),
+                slotOf(&Operations::OnLBSelChangedNotify),
+                slotOf(&Operations::OnTypeChange),
+                slotOf(&Operations::OnPostInit),
+                slotOf(&Operations::OnItemSelected),
+                slotOf(&Operations::OnButtonClicked),
+                slotOf(&Operations::OnCheckButtonToggled),
+                slotOf(&Operations::OnControlActivating),
+                slotOf(&Operations::OnEnChange)};
+    }
+};
+
+/// A copy that is not destroyed, since it shares what its original deletes.
+union Copy {
+    explicit Copy(const COVOFileDialog& original)
+        : dialog(original)
+    {
+    }
+    ~Copy() {}
+    COVOFileDialog dialog;
+};
+
+} // namespace
+
+TEST(FileDialogLayout, OperationsAreCalledThroughInTheOrderOfTheirTable)
+{
+    std::size_t expected = 2;
+    for (const std::size_t slot : Operations::slots())
+        EXPECT_EQ(slot, ++expected);
+}
+
+TEST(FileDialogLayout, ACopySharesEverything)
+{
+    for (const Kind kind : {Kind::Classic, Kind::NewStyle}) {
+        HostDialog dialog(kind);
+        const Copy copy(dialog);
+        EXPECT_EQ(copy.dialog.ofn, dialog.ofn);
+        EXPECT_EQ(copy.dialog.DialogWnd(), dialog.DialogWnd());
+    }
 }
 
 TEST_P(FileDialogTest, CanBeSizedByTheUser)
@@ -336,6 +405,21 @@ TEST(ClassicHost, IgnoresAccelerators)
                          .start();
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     EXPECT_EQ(dialog.count("ItemSelected " + idOf(IDC_FORMAT) + " 0"), 0);
+}
+
+TEST(ClassicHost, TellsASelectionOfTheOldStyle)
+{
+    // What dialogs without OFN_EXPLORER send, sent by hand: not every system still has them.
+    HostDialog dialog(Kind::Classic);
+    auto answering = whenAsked()
+                         .then([&] {
+                             dialog.DialogWnd()->SendMessage(::RegisterWindowMessageW(LBSELCHSTRINGW), 1120,
+                                                             MAKELPARAM(3, CD_LBSELSUB));
+                         })
+                         .key(VK_ESCAPE)
+                         .start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(dialog.count("LBSelChanged 1120 3 1"), 1);
 }
 
 TEST(ClassicHost, TellsAMenuCommandAsACheckBox)

@@ -122,6 +122,22 @@ TEST(ClassicFileDialog, ShowsHelpOnItself)
     EXPECT_EQ(TestApp::instance().helps()[0].data, static_cast<DWORD_PTR>(0x20000 + 77));
 }
 
+TEST(ClassicFileDialog, ShowsHelpForItsHelpButton)
+{
+    RecordingFileDialog dialog(Kind::Classic);
+    dialog.m_nIDHelp = 78;
+    dialog.on["InitDone"] = [&] {
+        OFNOTIFY notification{};
+        notification.hdr.code = CDN_HELP;
+        notification.lpOFN = &dialog.m_ofn;
+        dialog.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notification));
+    };
+    auto answering = whenAsked().key(VK_ESCAPE).start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    ASSERT_EQ(TestApp::instance().helps().size(), 1u);
+    EXPECT_EQ(TestApp::instance().helps()[0].data, static_cast<DWORD_PTR>(0x20000 + 78));
+}
+
 TEST(ClassicFileDialog, TellsOfAFileInUse)
 {
     RecordingFileDialog dialog(Kind::Classic);

@@ -79,6 +79,17 @@ TEST_P(FileDialog, GivesTheLongestNameThatThePathHasRoomFor)
     EXPECT_EQ(dialog.GetPathName().GetLength(), 259);
 }
 
+TEST_P(FileDialog, GivesANameOf255Characters)
+{
+    const std::wstring name(255, L'n');
+    RecordingFileDialog dialog(kind(), FALSE, OFN_HIDEREADONLY | OFN_NOCHANGEDIR);
+    dialog.startIn(L"C:\\");
+    auto answering = whenAsked().type(name).key(VK_RETURN).start();
+    ASSERT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(text(dialog.GetPathName()), L"C:\\" + name);
+    EXPECT_EQ(text(dialog.GetFileName()), name);
+}
+
 TEST_P(FileDialog, CancelledGivesNothing)
 {
     RecordingFileDialog dialog(kind());
