@@ -294,7 +294,7 @@ void Monkey::forget(int id)
 
 Monkey::ChildrenGo::~ChildrenGo()
 {
-    if (m_monkey.m_model.contains(m_id))
+    if (m_monkey.m_model.contains(m_id) && m_monkey.itemOf(m_id) == m_item)
         m_monkey.m_model.removeChildren(m_id);
 }
 

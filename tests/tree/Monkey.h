@@ -61,6 +61,7 @@ public:
         ChildrenGo(Monkey& monkey, int id)
             : m_monkey(monkey)
             , m_id(id)
+            , m_item(monkey.itemOf(id))
         {
             m_monkey.m_closed.insert(id);
         }
@@ -69,6 +70,7 @@ public:
     private:
         Monkey& m_monkey;
         const int m_id;
+        const HTREEITEM m_item; ///< a node may have been inserted anew, and its new item keeps its children
     };
 
 private:
