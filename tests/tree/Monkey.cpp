@@ -336,9 +336,21 @@ void Monkey::addToModel(int id, int parent, int expectedPrevious, bool sure)
         previous = m_model.contains(idOf(at)) ? idOf(at) : MonkeyModel::kNone;
     if (sure && previous != expectedPrevious)
         fail("node " + names({id}) + " stands behind " + names({previous}) + " instead of " +
-             names({expectedPrevious}));
+             names({expectedPrevious}) + "; the model has " + names(m_model.childrenOf(parent)) +
+             ", the tree " + names(shownChildren(item)));
     else
         m_model.insert(id, parent, previous);
+}
+
+/// The item and its siblings, in order, those that are about to go included.
+std::vector<int> Monkey::shownChildren(HTREEITEM item)
+{
+    while (const HTREEITEM previous = m_tree->GetPrevSiblingItem(item))
+        item = previous;
+    std::vector<int> shown;
+    for (; item; item = m_tree->GetNextSiblingItem(item))
+        shown.push_back(idOf(item));
+    return shown;
 }
 
 void Monkey::takeOverSelection()

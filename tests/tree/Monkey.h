@@ -130,6 +130,7 @@ private:
     int caretNow();
     int idOf(HTREEITEM item);
     HTREEITEM itemOf(int id);
+    std::vector<int> shownChildren(HTREEITEM item);
     bool isOpen(int id);
     std::vector<int> displayed();
     int anyNode();
@@ -161,9 +162,10 @@ private:
     int m_nextId = 1;
     int m_step = 0;
     int m_misdeeds = 0;
-    int m_chance = 0; ///< one misdeed in so many calls; 0 for none
-    int m_left = 0;   ///< misdeeds still allowed in this step
-    int m_depth = 0;  ///< misdeeds within misdeeds
+    int m_deletionsWithEditor = 0; ///< under way that began with an open editor
+    int m_chance = 0;              ///< one misdeed in so many calls; 0 for none
+    int m_left = 0;                ///< misdeeds still allowed in this step
+    int m_depth = 0;               ///< misdeeds within misdeeds
     bool m_dirty = false;
     bool m_clicked = false; ///< in this step, so that a label edit may begin later
     bool m_posted = false;  ///< messages may be waiting

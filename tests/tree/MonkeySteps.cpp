@@ -79,7 +79,9 @@ void Monkey::insertInPlace(int parent)
         ++passed;
     }
     // Halving finds the place among children that are in order; that is what the host promises.
-    const bool sure = !m_halves || !sorted || std::is_sorted(order.begin(), order.end());
+    // While an editor ends before a deletion, the item that goes still counts.
+    const bool sure =
+        (!m_halves || !sorted || std::is_sorted(order.begin(), order.end())) && m_deletionsWithEditor == 0;
     const bool refused = place && !(place->state & TVIS_EXPANDED);
     const bool deep = m_model.depthOf(parent) >= kDeepest;
 
@@ -144,6 +146,13 @@ void Monkey::deleteNode(int id)
     doomed.push_back(id);
     m_model.remove(id);
     const int misdeeds = m_misdeeds;
+    struct WithEditor
+    {
+        ~WithEditor() { deletions -= open; }
+        int& deletions;
+        const int open;
+    } const withEditor{m_deletionsWithEditor, ask(TVM_GETEDITCONTROL) != 0};
+    m_deletionsWithEditor += withEditor.open;
     m_tree->DeleteItem(item);
     for (const int each : doomed)
         if (itemOf(each) && misdeeds == m_misdeeds)
