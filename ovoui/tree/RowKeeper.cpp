@@ -8,7 +8,7 @@ MultiTreeCtrl::RowKeeper::RowKeeper(MultiTreeCtrl& tree, UINT message, WPARAM wP
     : m_state(tree.m_state)
     , m_change(message == WM_SETREDRAW && wParam ? Change::LaidOut : changeBy(message, lParam))
 {
-    if (m_change == Change::None || m_change == Change::LaidOut ||
+    if (m_change == Change::None || m_change == Change::LaidOut || m_change == Change::Input ||
         !(platform().losesRows || platform().losesFirstRow))
         return;
     if (const HTREEITEM parent = parentOf(tree, message, lParam))
@@ -30,6 +30,12 @@ MultiTreeCtrl::RowKeeper::Change MultiTreeCtrl::RowKeeper::changeBy(UINT message
     if (!lParam)
         return Change::None;
     switch (message) {
+    case WM_KEYDOWN:
+    case WM_CHAR:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDOWN:
+        return Change::Input;
     case TVM_EXPAND:
     case TVM_SORTCHILDREN:
     case TVM_SORTCHILDRENCB:
@@ -93,6 +99,7 @@ bool MultiTreeCtrl::RowKeeper::disordersRows() const
     const MultiTreeCtrl& tree = *m_state->tree;
     switch (m_change) {
     case Change::Scrolled:
+    case Change::Input:
     case Change::LaidOut:
         return false;
     case Change::Inserted:
@@ -103,6 +110,23 @@ bool MultiTreeCtrl::RowKeeper::disordersRows() const
         return tree.isOpen(parent) != m_wasOpen && tree.next(TVGN_CHILD, parent);
     default:
         return !tree.isDisplayed(parent);
+    }
+}
+
+/// For the caret the tree view does not do what TVGN_FIRSTVISIBLE asks for.
+void MultiTreeCtrl::RowKeeper::showFirst(const MultiTreeCtrl& tree, HTREEITEM item)
+{
+    const auto begin = [&](HTREEITEM row) {
+        tree.ask(TVM_SELECTITEM, TVGN_FIRSTVISIBLE, reinterpret_cast<LPARAM>(row));
+    };
+    if (item != tree.caret()) {
+        begin(item);
+    } else if (const HTREEITEM before = tree.next(TVGN_PREVIOUSVISIBLE, item)) {
+        begin(before);
+        tree.ask(WM_VSCROLL, SB_LINEDOWN);
+    } else {
+        tree.ask(WM_VSCROLL, SB_TOP);
+        tree.ask(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item));
     }
 }
 
@@ -117,7 +141,7 @@ bool MultiTreeCtrl::RowKeeper::repairsFirstRow() const
     const HTREEITEM displayed = first ? tree.lastDisplayedOnTheWayTo(first) : tree.next(TVGN_ROOT);
     if (displayed == first)
         return false;
-    tree.ask(TVM_SELECTITEM, TVGN_FIRSTVISIBLE, reinterpret_cast<LPARAM>(displayed));
+    showFirst(tree, displayed);
     return true;
 }
 

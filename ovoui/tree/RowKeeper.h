@@ -26,6 +26,7 @@ private:
         Inserted,
         Deleted,
         Scrolled, ///< an item is brought into view
+        Input,    ///< so may a key or a click do, after its notifications
         LaidOut   ///< after redrawing was held
     };
 
@@ -34,6 +35,7 @@ private:
     void keepFirstRow(MultiTreeCtrl& tree, HTREEITEM emptied);
     bool disordersRows() const;
     bool repairsFirstRow() const;
+    static void showFirst(const MultiTreeCtrl& tree, HTREEITEM item);
 
     const std::shared_ptr<State> m_state;
     const Change m_change;

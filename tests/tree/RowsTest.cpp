@@ -139,3 +139,36 @@ TEST(TreeRows, BringingAnItemIntoViewThatStaysHiddenScrollsToWhatIsDisplayed)
         scene.tree.EnsureVisible(scene.item("n59"));
     }
 }
+
+// What is typed leads to "b", whose host closes the item that it is in; the tree view then brings the hidden
+// "b" into view, and after its end the item behind it.
+TEST(TreeRows, TypingTheNameOfAnItemThatItsHostHidesScrollsToWhatIsDisplayed)
+{
+    for (const bool another : {false, true}) {
+        SCOPED_TRACE(another);
+        Scene scene;
+        for (int i = 0; i < 60; ++i)
+            scene.add("n" + std::to_string(i));
+        scene.node("n5").children = 1;
+        scene.node("n5").childNames = {"a", "b"};
+        scene.tree.updateUI(scene.item("n5"));
+        scene.open("n5");
+        scene.node("n5").expanding = [](MultiTreeCtrl&) { return false; };
+        scene.tree.SelectItem(scene.item("n15"));
+        scene.tree.Select(scene.item("n10"), TVGN_FIRSTVISIBLE);
+        scene.parent().answer(static_cast<UINT>(TVN_SELCHANGEDW),
+                              [&, told = false](NMHDR*) mutable -> LRESULT {
+                                  if (std::exchange(told, true))
+                                      return 0;
+                                  scene.tree.Expand(scene.item("n5"), TVE_COLLAPSE);
+                                  if (another)
+                                      scene.add("hidden", "n5");
+                                  return 0;
+                              });
+        scene.tree.SendMessage(WM_CHAR, L'b', 1);
+        EXPECT_EQ(scene.nameOf(scene.tree.GetFirstVisibleItem()), "n5");
+        CRect rect;
+        EXPECT_TRUE(scene.tree.GetItemRect(scene.item("n5"), &rect, FALSE));
+        EXPECT_EQ(rect.top, 0);
+    }
+}
