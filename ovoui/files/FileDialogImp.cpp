@@ -11,6 +11,7 @@ namespace
 {
 
 constexpr UINT kPostInit = 0x0E18; ///< also the number of the timer that sends it again
+constexpr UINT_PTR kCancel = 0x0E19;
 
 } // namespace
 
@@ -94,8 +95,6 @@ void COVOFileDialogImp::tellOfCommand(WORD id, WORD code, HWND control)
         tellOfClick(id);
         break;
     case CBN_SELCHANGE: {
-        if (!control)
-            break; // an accelerator
         const LRESULT selection = ::SendMessageW(control, CB_GETCURSEL, 0, 0);
         if (selection < 0 || selection > std::numeric_limits<DWORD>::max())
             throwIntCast();
@@ -205,9 +204,30 @@ HRESULT COVOFileDialogImp::tell(Handler&& handler)
     } catch (...) {
         if (!m_kept)
             m_kept = std::current_exception();
-        m_pIFileDialog->Close(HRESULT_FROM_WIN32(ERROR_CANCELLED));
+        cancelNewStyle();
     }
     return S_OK;
+}
+
+/// A menu opens after its event whatever the handler has done, and its loop goes on without the dialog. So the
+/// dialog is cancelled by a timer, which that loop lets through.
+void COVOFileDialogImp::cancelNewStyle() const
+{
+    HWND dialog = nullptr;
+    IOleWindow* window = nullptr;
+    if (SUCCEEDED(m_pIFileDialog->QueryInterface(IID_IOleWindow, reinterpret_cast<void**>(&window)))) {
+        window->GetWindow(&dialog);
+        window->Release();
+    }
+    if (!dialog || !::SetTimer(dialog, kCancel, USER_TIMER_MINIMUM, &cancelMenuAndDialog))
+        m_pIFileDialog->Close(HRESULT_FROM_WIN32(ERROR_CANCELLED));
+}
+
+void CALLBACK COVOFileDialogImp::cancelMenuAndDialog(HWND dialog, UINT, UINT_PTR timer, DWORD)
+{
+    ::KillTimer(dialog, timer);
+    ::EndMenu();
+    ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
 }
 
 STDMETHODIMP_(ULONG) COVOFileDialogImp::XControlEvents::AddRef()

@@ -68,6 +68,8 @@ private:
     void openMenu(WORD id);
     void beginInFolder();
     void keepFolder() const;
+    void cancelNewStyle() const;
+    static void CALLBACK cancelMenuAndDialog(HWND dialog, UINT, UINT_PTR timer, DWORD);
     static void CALLBACK postAgain(HWND child, UINT, UINT_PTR timer, DWORD);
 
     ovoui::DeclaredControls m_declared;

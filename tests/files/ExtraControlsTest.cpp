@@ -186,10 +186,7 @@ TEST_P(ExtraControls, AnExceptionClosesTheDialogAndComesOut)
     };
     comesOut([] { return controlWithText(L"Deta&ils"); });
     comesOut([] { return controlWithText(L"&Large"); });
-    // In the new style the system opens its menu all the same, which then waits for the user;
-    // NewStyleEvents has the exception of that event.
-    if (kind() == Kind::Classic)
-        comesOut(&onMenuButton);
+    comesOut(&onMenuButton);
 }
 
 TEST(ExtraControlsOfTheClassicDialog, MayDestroyTheOwnerBeforeTheirMenuOpens)

@@ -43,6 +43,57 @@ TEST(FileDialogLife, EndsWithoutHavingBeenShown)
 namespace
 {
 
+int s_told = 0;
+
+/// Counts what reaches the handlers of the derived class, its end included.
+class Told : public COVOFileDialog
+{
+public:
+    Told()
+        : COVOFileDialog(TRUE, nullptr, nullptr, 0, nullptr, nullptr, FALSE)
+    {
+    }
+
+protected:
+    void OnSize(UINT, int, int) override { ++s_told; }
+    void OnEnChange(DWORD) override { ++s_told; }
+};
+
+/// Tells its parent of a changed text when it goes.
+LRESULT CALLBACK tellAtTheEnd(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_DESTROY)
+        ::SendMessageW(::GetParent(wnd), WM_COMMAND, MAKEWPARAM(1, EN_CHANGE), reinterpret_cast<LPARAM>(wnd));
+    return ::DefWindowProcW(wnd, message, wParam, lParam);
+}
+
+} // namespace
+
+TEST(FileDialogLife, TellsNothingToADerivedClassWhileItEnds)
+{
+    s_told = 0;
+    HWND child = nullptr;
+    HWND edit = nullptr;
+    {
+        const Told dialog;
+        CWnd& wnd = *dialog.DialogWnd();
+        ASSERT_TRUE(
+            wnd.CreateEx(0, AfxRegisterWndClass(0), L"Child", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr));
+        child = wnd.m_hWnd;
+        edit = ::CreateWindowW(L"EDIT", L"", WS_CHILD, 0, 0, 10, 10, child, nullptr, nullptr, nullptr);
+        ::SetWindowLongPtrW(edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&tellAtTheEnd));
+        s_told = 0;
+        ::SendMessageW(child, WM_COMMAND, MAKEWPARAM(1, EN_CHANGE), reinterpret_cast<LPARAM>(edit));
+        EXPECT_EQ(s_told, 1); // as long as it lives
+    }
+    EXPECT_FALSE(::IsWindow(edit));
+    EXPECT_FALSE(::IsWindow(child));
+    EXPECT_EQ(s_told, 1);
+}
+
+namespace
+{
+
 int s_loads = 0;
 bool s_fails = false;
 

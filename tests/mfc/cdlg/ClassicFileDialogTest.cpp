@@ -88,6 +88,27 @@ TEST(ClassicFileDialog, SetsTextsAndHidesControlsOfItsOwn)
     EXPECT_TRUE(seen);
 }
 
+// Wine's dialog takes no notice of the message, so what reaches it is looked at.
+TEST(ClassicFileDialog, TellsTheDialogTheExtensionToAdd)
+{
+    RecordingFileDialog dialog(Kind::Classic, FALSE, OFN_HIDEREADONLY | OFN_NOCHANGEDIR);
+    std::vector<std::wstring> extensions;
+    const auto listen = [](HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                           DWORD_PTR heard) -> LRESULT {
+        if (message == CDM_SETDEFEXT)
+            reinterpret_cast<std::vector<std::wstring>*>(heard)->push_back(
+                reinterpret_cast<const wchar_t*>(lParam));
+        return ::DefSubclassProc(wnd, message, wParam, lParam);
+    };
+    dialog.on["InitDone"] = [&] {
+        ::SetWindowSubclass(dialog.GetParent()->m_hWnd, listen, 1, reinterpret_cast<DWORD_PTR>(&extensions));
+        dialog.SetDefExt("dat");
+    };
+    auto answering = whenAsked().key(VK_ESCAPE).start();
+    dialog.DoModal();
+    EXPECT_EQ(extensions, std::vector<std::wstring>{L"dat"});
+}
+
 TEST(ClassicFileDialog, KnowsWhetherReadOnlyIsWanted)
 {
     TemporaryFiles files{L"a.txt"};

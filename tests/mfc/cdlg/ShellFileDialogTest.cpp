@@ -254,6 +254,17 @@ TEST(ShellFileDialog, SetsTheTextsThatItCan)
     EXPECT_TRUE(seen);
 }
 
+TEST(ShellFileDialog, SetsTheExtensionOfANameThatHasNone)
+{
+    const TemporaryFiles files;
+    RecordingFileDialog dialog(Kind::Newer, FALSE, OFN_HIDEREADONLY | OFN_NOCHANGEDIR);
+    dialog.startIn(files.folder());
+    dialog.SetDefExt("dat");
+    auto answering = whenAsked().type(L"fresh").key(VK_RETURN).start();
+    ASSERT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(std::wstring(dialog.GetPathName().GetString()), files.path(L"fresh.dat"));
+}
+
 TEST(ShellFileDialog, TakesAndGivesItsRecordOnRequest)
 {
     TemporaryFiles files{L"a.txt", L"b.txt"};
