@@ -13,6 +13,12 @@ ListParent::~ListParent()
     DestroyWindow();
 }
 
+void ListParent::bringForward()
+{
+    SetWindowPos(&wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
 std::wstring cellText(int row, int column)
 {
     wchar_t text[32];

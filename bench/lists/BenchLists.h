@@ -13,6 +13,9 @@ class ListParent : public CWnd
 public:
     ListParent();
     ~ListParent() override;
+
+    /// In front of all others and painted.
+    void bringForward();
 };
 
 /// "cell 000012 03"

@@ -1,6 +1,8 @@
 // A keystroke in a combo box of 20,000 items.
 #include "BenchLists.h"
 
+#include "support/InTurns.h"
+
 #include <ovoui/lists/ComboBox.h>
 
 #include <catch2/catch.hpp>
@@ -24,13 +26,14 @@ public:
         SetFocus();
     }
 
-    void keystroke(bool completes)
+    void prepare(bool completes)
     {
         AutoComplete(completes);
         SetWindowText(L"t");
         SetEditSel(1, 1);
-        GetWindow(GW_CHILD)->SendMessage(WM_CHAR, L'h', 1);
     }
+
+    void keystroke() { GetWindow(GW_CHILD)->SendMessage(WM_CHAR, L'h', 1); }
 };
 
 } // namespace
@@ -39,18 +42,14 @@ TEST_CASE("a keystroke with completion in a list of 20000 items")
 {
     ListParent parent;
     BenchCombo combo(parent);
-    BENCHMARK("CB_FINDSTRING that finds the last item [baseline]")
-    {
-        return combo.FindString(-1, L"th");
-    };
-    BENCHMARK("a keystroke without completion")
-    {
-        combo.keystroke(false);
-    };
-    BENCHMARK("a keystroke with completion [at most 1.5, less that without]")
-    {
-        combo.keystroke(true);
-    };
+    InTurns turns;
+    turns.add("CB_FINDSTRING that finds the last item [baseline]", [&] { combo.FindString(-1, L"th"); });
+    turns.add(
+        "a keystroke without completion", [&] { combo.keystroke(); }, [&] { combo.prepare(false); });
+    turns.add(
+        "a keystroke with completion [at most 1.5]", [&] { combo.keystroke(); },
+        [&] { combo.prepare(true); });
+    turns.run("a keystroke with completion in a list of 20000 items", 101);
     CString text;
     combo.GetWindowText(text);
     REQUIRE(text == L"the last item");

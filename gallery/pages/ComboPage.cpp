@@ -1,5 +1,6 @@
 #include "ComboPage.h"
 
+#include "ImageStrip.h"
 #include "model/ColourTable.h"
 #include "resource.h"
 
@@ -57,6 +58,7 @@ void ComboPage::DoDataExchange(CDataExchange* exchange)
     DDX_Control(exchange, IDC_COMBO_PLANT, m_plant);
     DDX_Control(exchange, IDC_COMBO_USED, m_used);
     DDX_Control(exchange, IDC_COMBO_COLOUR, m_colour);
+    DDX_Control(exchange, IDC_COMBO_PART, m_part);
 }
 
 BOOL ComboPage::OnInitDialog()
@@ -71,6 +73,7 @@ BOOL ComboPage::OnInitDialog()
     m_used.KeepHistory(L"Combo", L"Used", kUsed);
     m_used.CueText(L"Something to be kept");
     fillColours();
+    fillParts();
     CheckDlgButton(IDC_COMBO_COMPLETE, BST_CHECKED);
     OnFlags();
     stretch(IDC_COMBO_RESULT, {.growX = 100});
@@ -87,6 +90,17 @@ void ComboPage::fillColours()
         m_colour.SetItemColour(m_colour.AddString(name.c_str()), entry);
     resizeCombo(m_colour, kLines);
     m_colour.SetMinVisibleItems(kLines);
+}
+
+/// In the order of the strip.
+void ComboPage::fillParts()
+{
+    createImages(m_images, {IDB_PROJECT_16, IDB_PROJECT_24, IDB_PROJECT_32}, m_hWnd);
+    m_part.SetImageList(m_images.ImageList());
+    int image = 0;
+    for (const wchar_t* part : {L"Folder", L"Open folder", L"Plan", L"Locked plan", L"Damaged plan", L"Link"})
+        m_part.SetItemImage(m_part.AddString(part), image++);
+    m_part.CueText(L"A part of a project");
 }
 
 void ComboPage::OnFlags()
@@ -115,11 +129,17 @@ void ComboPage::OnRejected()
 
 std::vector<std::wstring> ComboPage::poses() const
 {
-    return {L"completion", L"open", L"inside", L"colours"};
+    return {L"completion", L"open", L"inside", L"colours", L"images"};
 }
 
 bool ComboPage::pose(const std::wstring& name)
 {
+    if (name == L"images") {
+        m_part.SetFocus();
+        m_part.SetCurSel(1);
+        m_part.ShowDropDown();
+        return true;
+    }
     if (name == L"inside" || name == L"colours") {
         COVOComboBox& combo = name == L"inside" ? m_plant : m_colour;
         combo.SetFocus();

@@ -3,6 +3,7 @@
 
 #include "GalleryPage.h"
 
+#include <ovoui/images/AlphaImageList.h>
 #include <ovoui/lists/ComboBox.h>
 
 class ComboPage : public GalleryPage
@@ -24,8 +25,11 @@ protected:
 
 private:
     void fillColours();
+    void fillParts();
 
+    CAlphaImageList m_images; // shown by the last combo box until its end
     COVOComboBox m_plant;
     COVOComboBox m_used;
     COVOComboBox m_colour;
+    COVOComboBox m_part;
 };

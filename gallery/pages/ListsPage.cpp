@@ -1,5 +1,6 @@
 #include "ListsPage.h"
 
+#include "ImageStrip.h"
 #include "model/ColourTable.h"
 #include "resource.h"
 
@@ -37,17 +38,25 @@ struct Process
     unsigned long memory; ///< bytes
     const wchar_t* owner;
     int state; ///< 1 runs, 2 waits, 3 has ended
+    bool isLocked;
+    bool isLink; ///< started by another program
 };
 
 constexpr Process kProcesses[] = {
-    {L"indexer", 184320000, L"system", 1},
-    {L"mail", 73400320, L"gardener", 2},
-    {L"a program with a name that is longer than its column", 912384, L"gardener", 1},
-    {L"spooler", 5242880, L"system", 2},
-    {L"plan editor", 268435456, L"gardener", 1},
-    {L"updater", 0, L"system", 3},
-    {L"weather", 1048576, L"someone with a long name", 2},
+    {L"indexer", 184320000, L"system", 1, true, false},
+    {L"mail", 73400320, L"gardener", 2, false, false},
+    {L"a program with a name that is longer than its column", 912384, L"gardener", 1, false, true},
+    {L"spooler", 5242880, L"system", 2, true, false},
+    {L"plan editor", 268435456, L"gardener", 1, false, false},
+    {L"updater", 0, L"system", 3, true, true},
+    {L"weather", 1048576, L"someone with a long name", 2, false, false},
 };
+
+// Images of the strip, and the overlay that one of them is made.
+constexpr int kPlain = 2;
+constexpr int kLocked = 3;
+constexpr int kLink = 5;
+constexpr int kLinkOverlay = 1;
 
 /// A disc with a dark edge.
 void drawState(CDC& dc, const CRect& place, COLORREF colour)
@@ -138,19 +147,22 @@ void ListsPage::createProcesses()
     if (!m_processes.CreateEx(WS_EX_CLIENTEDGE, kStyle, CRect(), this, 1))
         return;
     createStates();
+    createIcons();
     m_processes.AddColumn(L"Process", 0, -1, false, kColumn, LVCFMT_LEFT);
     m_processes.AddColumn(L"Memory", 1, -1, false, kColumn, LVCFMT_RIGHT);
     m_processes.AddColumn(L"Owner", 2, -1, false, kColumn, LVCFMT_CENTER);
-    m_processes.SetColumnWidth(0, scaled(110));
-    m_processes.SetColumnWidth(1, scaled(80));
+    m_processes.SetColumnWidth(0, scaled(130));
+    m_processes.SetColumnWidth(1, scaled(75));
     m_processes.SetColumnWidth(2, scaled(70));
     int row = 0;
     for (const Process& process : kProcesses) {
-        m_processes.AddItem(row, 0, process.name, 0, -1);
+        m_processes.AddItem(row, 0, process.name, 0, process.isLocked ? kLocked : kPlain);
         m_processes.AddItem(row, 1, process.memory ? grouped(process.memory) : L"", 0, -1);
         m_processes.AddItem(row, 2, process.owner, 0, -1);
-        m_processes.SetItemState(row++, static_cast<UINT>(INDEXTOSTATEIMAGEMASK(process.state)),
-                                 LVIS_STATEIMAGEMASK);
+        const int overlay = process.isLink ? kLinkOverlay : 0;
+        m_processes.SetItemState(
+            row++, static_cast<UINT>(INDEXTOSTATEIMAGEMASK(process.state) | INDEXTOOVERLAYMASK(overlay)),
+            LVIS_STATEIMAGEMASK | LVIS_OVERLAYMASK);
     }
     replace(IDC_LISTS_PROCESSES, m_processes);
 }
@@ -193,6 +205,13 @@ void ListsPage::createStates()
         m_states.Add(&bitmap, kMask);
     }
     m_processes.SetImageList(&m_states, LVSIL_STATE);
+}
+
+void ListsPage::createIcons()
+{
+    createImages(m_icons, {IDB_PROJECT_16, IDB_PROJECT_24, IDB_PROJECT_32}, m_hWnd);
+    m_icons.ImageList()->SetOverlayImage(kLink, kLinkOverlay);
+    m_processes.SetImageList(m_icons.ImageList(), LVSIL_SMALL);
 }
 
 void ListsPage::OnRowColours()

@@ -4,6 +4,7 @@
 #include "GalleryPage.h"
 #include "model/MillionList.h"
 
+#include <ovoui/images/AlphaImageList.h>
 #include <ovoui/lists/ListCellTips.h>
 #include <ovoui/lists/ListCopier.h>
 #include <ovoui/lists/ListCtrlEx.h>
@@ -32,11 +33,13 @@ private:
     void fillColours(const std::wstring& part);
     void createProcesses();
     void createStates();
+    void createIcons();
     void addHelpers();
     void arrange();
 
     COVOListCtrlEx m_colours;
-    CImageList m_states; // shown by the next list until its end
+    CImageList m_states; // shown by the next list until its end, as are the icons
+    CAlphaImageList m_icons;
     COVOListCtrlEx m_processes;
     MillionList m_million;
     COVOListSorter m_colourSorter;

@@ -65,8 +65,8 @@ public:
     /// Whether the object, which must have been made with new then, deletes itself when its window has gone.
     void AutoDelete(bool autoDelete);
 
-    /// Sets the observer that is told before the object deletes itself. The host owns it and keeps it alive until
-    /// then. Null for none.
+    /// Sets the observer that is told before the object deletes itself. The host owns it and keeps it alive
+    /// until then. Null for none.
     void AutoDeleteNotify(COVOComboBoxDeletion* observer);
 
     /// Selects the item that is exactly the edit field's text. False when there is none.

@@ -177,14 +177,15 @@ bool COVOListFinder::FindNext(bool forward)
 }
 
 /// The host may be asked for texts and for the row, and hears of the selection: list and finder may be gone
-/// after each of these.
+/// after each of these. A search that the host begins meanwhile is the one that counts.
 bool COVOListFinder::search(const FindState& state, Search how)
 {
     const std::weak_ptr<const bool> alive = m_alive;
     COVOListCtrlEx& list = *m_list;
     const HWND window = m_window;
+    const FindState before = *m_state;
     const int row = rowWith(state.text, how);
-    if (row < 0 || alive.expired() || m_window != window || !isAlive(&list, window))
+    if (row < 0 || alive.expired() || m_window != window || *m_state != before || !isAlive(&list, window))
         return false;
     keep(state);
     return goTo(row);
@@ -217,19 +218,26 @@ void COVOListFinder::keep(const FindState& state)
         m_list->EmphasiseText(state.text);
 }
 
-/// Makes the row the only selected one.
+/// Makes the row the only selected one, unless rows come or go meanwhile.
 bool COVOListFinder::goTo(int row)
 {
     COVOListCtrlEx& list = *m_list;
     const HWND window = m_window;
+    const int count = list.GetItemCount();
+    const std::weak_ptr<const bool> alive = m_alive;
+    const FindState state = *m_state;
+    const auto isAsBefore = [&] {
+        return !alive.expired() && m_window == window && *m_state == state && isAlive(&list, window) &&
+               list.GetItemCount() == count;
+    };
     for (int item = -1; (item = list.GetNextItem(item, LVNI_SELECTED)) != -1;) {
         if (item != row)
             list.SetItemState(item, 0, LVIS_SELECTED);
-        if (!isAlive(&list, window))
+        if (!isAsBefore())
             return false;
     }
     list.SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-    if (!isAlive(&list, window))
+    if (!isAsBefore())
         return false;
     list.SetSelectionMark(row);
     return list.EnsureVisible(row, FALSE) != FALSE;

@@ -4,6 +4,7 @@
 #include <ovoui/lists/Alive.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/SolidFill.h>
 #include <ovoui/lists/core/RowLayout.h>
 
 using ovoui::frame::toBox;
@@ -115,14 +116,25 @@ void ListRowPainter::paint()
         return;
     chooseColours();
     const frame::Box label = itemBox(m_list, m_index, LVIR_LABEL);
-    const CRect row = toRect(rowBoxOf(label));
+    const frame::Box row = rowBoxOf(label);
 
     const TextLook kept(m_dc, m_text, m_background);
-    m_dc.FillSolidRect(&row, m_background);
+    fillRow(row);
     paintLabel(label);
     paintSubItems(label);
-    if ((m_item.state & LVIS_FOCUSED) && m_focused)
-        m_dc.DrawFocusRect(&row);
+    if ((m_item.state & LVIS_FOCUSED) && m_focused) {
+        const RECT edge = toRect(row);
+        m_dc.DrawFocusRect(&edge);
+    }
+}
+
+/// By a brush: filling with a text's background leaves out a column of pixels in mirrored lists of some
+/// platforms.
+void ListRowPainter::fillRow(const frame::Box& row)
+{
+    SolidFill fill(m_dc);
+    fill.setColour(m_background);
+    fill(row);
 }
 
 /// Where other cells lie before or behind the label, the row reaches from the first to the last one shown.

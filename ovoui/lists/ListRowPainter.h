@@ -44,6 +44,7 @@ private:
 
     frame::Box rowBoxOf(const frame::Box& label) const;
     frame::Box cellBox(int column, int width, const frame::Box& before) const;
+    void fillRow(const frame::Box& row);
     void paintSwatch(const frame::Box& box);
     void paintStateImage();
     void paintIcon();

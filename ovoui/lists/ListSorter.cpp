@@ -189,7 +189,8 @@ bool COVOListSorter::Sort(int column, bool ascending)
     const std::vector<int> order = orderOf(column, ascending);
     if (alive.expired() || !isAlive(&list, window) || list.GetItemCount() != count || m_list != &list)
         return false;
-    reorderRows(list, order);
+    if (!reorderRows(list, order) || alive.expired() || m_list != &list)
+        return false;
     m_column = column;
     m_ascending = ascending;
     showArrow();

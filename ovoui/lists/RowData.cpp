@@ -1,5 +1,10 @@
 #include <ovoui/lists/RowData.h>
 
+#include <ovoui/lists/Alive.h>
+
+#include <functional>
+#include <unordered_map>
+
 namespace ovoui::lists
 {
 
@@ -12,11 +17,14 @@ class Hold
 public:
     explicit Hold(CListCtrl& list)
         : m_list(list)
+        , m_window(list.m_hWnd)
     {
         m_list.SetRedraw(FALSE);
     }
     ~Hold()
     {
+        if (!isAlive(&m_list, m_window))
+            return;
         m_list.SetRedraw(TRUE);
         m_list.Invalidate();
     }
@@ -25,75 +33,134 @@ public:
 
 private:
     CListCtrl& m_list;
+    const HWND m_window;
 };
 
-std::vector<LPARAM> dataOf(const CListCtrl& list, std::size_t count)
+/// What the platform sorts by.
+struct SortRow
 {
-    std::vector<LPARAM> data(count);
-    for (std::size_t row = 0; row < count; ++row)
-        data[row] = static_cast<LPARAM>(list.GetItemData(static_cast<int>(row)));
-    return data;
+    LPARAM data; ///< the host's
+    int place;   ///< where the row goes
+};
+
+/// By row.
+std::vector<SortRow> sortRowsOf(const CListCtrl& list, const std::vector<int>& order)
+{
+    std::vector<SortRow> rows(order.size());
+    for (std::size_t place = 0; place < order.size(); ++place)
+        rows[static_cast<std::size_t>(order[place])].place = static_cast<int>(place);
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        rows[row].data = static_cast<LPARAM>(list.GetItemData(static_cast<int>(row)));
+    return rows;
 }
 
-/// Where each row goes.
-std::vector<LPARAM> placesOf(const std::vector<int>& order)
+using Places = std::unordered_map<LPARAM, int>;
+
+/// The places by item data; empty when rows have the same data.
+Places placesByData(const std::vector<SortRow>& rows)
 {
-    std::vector<LPARAM> places(order.size());
-    for (std::size_t place = 0; place < order.size(); ++place)
-        places[static_cast<std::size_t>(order[place])] = static_cast<LPARAM>(place);
+    Places places;
+    places.reserve(rows.size());
+    for (const SortRow& row : rows)
+        if (!places.emplace(row.data, row.place).second)
+            return {};
     return places;
 }
 
-int CALLBACK comparePlaces(LPARAM one, LPARAM other, LPARAM)
-{
-    return one < other ? -1 : one > other;
-}
-
-struct ByData
-{
-    std::vector<LPARAM> places; ///< at the item data
-};
-
-int CALLBACK compareData(LPARAM one, LPARAM other, LPARAM context)
-{
-    const auto& places = reinterpret_cast<const ByData*>(context)->places;
-    return comparePlaces(places[static_cast<std::size_t>(one)], places[static_cast<std::size_t>(other)], 0);
-}
-
-/// The places by item data, when the data are the numbers from 0 on, each once, as AddItem makes them; else
+/// The places at the item data, when these are the numbers from 0 on, each once, as AddItem makes them; else
 /// empty.
-std::vector<LPARAM> placesByData(const std::vector<LPARAM>& data, const std::vector<LPARAM>& places)
+std::vector<int> placesByNumber(const std::vector<SortRow>& rows)
 {
-    constexpr LPARAM kNone = -1;
-    std::vector<LPARAM> result(data.size(), kNone);
-    for (std::size_t row = 0; row < data.size(); ++row) {
-        const auto at = static_cast<std::size_t>(data[row]);
-        if (data[row] < 0 || at >= result.size() || result[at] != kNone)
+    constexpr int kNone = -1;
+    std::vector<int> places(rows.size(), kNone);
+    for (const SortRow& row : rows) {
+        const auto at = static_cast<std::size_t>(row.data);
+        if (row.data < 0 || at >= places.size() || places[at] != kNone)
             return {};
-        result[at] = places[row];
+        places[at] = row.place;
     }
-    return result;
+    return places;
 }
+
+int CALLBACK compareByNumber(LPARAM one, LPARAM other, LPARAM context)
+{
+    const auto* const places = reinterpret_cast<const int*>(context);
+    return places[one] - places[other];
+}
+
+int CALLBACK compareByData(LPARAM one, LPARAM other, LPARAM context)
+{
+    const auto& places = *reinterpret_cast<const Places*>(context);
+    return places.at(one) - places.at(other);
+}
+
+/// While it lives, the data of each row is the address of its SortRow. The host hears of these changes, and
+/// may do anything: each row that is still there gets its own data back.
+class StandIns
+{
+public:
+    StandIns(CListCtrl& list, const std::vector<SortRow>& rows)
+        : m_list(list)
+        , m_window(list.m_hWnd)
+        , m_rows(rows)
+    {
+    }
+    ~StandIns()
+    {
+        try {
+            giveBack();
+        } catch (...) { // the host's, from a notification; an exception may be on its way already
+        }
+    }
+    StandIns(const StandIns&) = delete;
+    StandIns& operator=(const StandIns&) = delete;
+
+    /// False when rows came or went, or the list was destroyed.
+    bool set()
+    {
+        for (std::size_t row = 0; row < m_rows.size(); ++row) {
+            m_list.SetItemData(static_cast<int>(row), reinterpret_cast<DWORD_PTR>(&m_rows[row]));
+            if (!isAlive(&m_list, m_window) || m_list.GetItemCount() != static_cast<int>(m_rows.size()))
+                return false;
+        }
+        return true;
+    }
+
+    static int CALLBACK compare(LPARAM one, LPARAM other, LPARAM)
+    {
+        return reinterpret_cast<const SortRow*>(one)->place - reinterpret_cast<const SortRow*>(other)->place;
+    }
+
+private:
+    void giveBack() const
+    {
+        for (int item = 0; isAlive(&m_list, m_window) && item < m_list.GetItemCount(); ++item) {
+            const auto* const row = reinterpret_cast<const SortRow*>(m_list.GetItemData(item));
+            if (!std::less<>()(row, m_rows.data()) && std::less<>()(row, m_rows.data() + m_rows.size()))
+                m_list.SetItemData(item, static_cast<DWORD_PTR>(row->data));
+        }
+    }
+
+    CListCtrl& m_list;
+    const HWND m_window;
+    const std::vector<SortRow>& m_rows;
+};
 
 } // namespace
 
-// The platform sorts by item data only. Where these are not unique, the places stand in for them meanwhile.
-void reorderRows(CListCtrl& list, const std::vector<int>& order)
+// The platform sorts by item data only. Where rows have the same, others stand in for them meanwhile.
+bool reorderRows(CListCtrl& list, const std::vector<int>& order)
 {
+    if (order.size() < 2)
+        return true;
     const Hold hold(list);
-    const std::vector<LPARAM> data = dataOf(list, order.size());
-    const std::vector<LPARAM> places = placesOf(order);
-    const ByData byData{placesByData(data, places)};
-    if (!byData.places.empty()) {
-        list.SortItems(&compareData, reinterpret_cast<DWORD_PTR>(&byData));
-        return;
-    }
-    for (std::size_t row = 0; row < order.size(); ++row)
-        list.SetItemData(static_cast<int>(row), static_cast<DWORD_PTR>(places[row]));
-    list.SortItems(&comparePlaces, 0);
-    for (std::size_t place = 0; place < order.size(); ++place)
-        list.SetItemData(static_cast<int>(place),
-                         static_cast<DWORD_PTR>(data[static_cast<std::size_t>(order[place])]));
+    const std::vector<SortRow> rows = sortRowsOf(list, order);
+    if (const std::vector<int> numbers = placesByNumber(rows); !numbers.empty())
+        return list.SortItems(&compareByNumber, reinterpret_cast<DWORD_PTR>(numbers.data())) != FALSE;
+    if (const Places places = placesByData(rows); !places.empty())
+        return list.SortItems(&compareByData, reinterpret_cast<DWORD_PTR>(&places)) != FALSE;
+    StandIns standIns(list, rows);
+    return standIns.set() && list.SortItems(&StandIns::compare, 0);
 }
 
 LPCWSTR CellText::operator()(const CListCtrl& list, int row, int column)

@@ -9,8 +9,9 @@ namespace ovoui::lists
 {
 
 /// `order` holds every present index once, in the order wanted. Selection, focus and item data go with the
-/// rows.
-void reorderRows(CListCtrl& list, const std::vector<int>& order);
+/// rows. The host may hear of changes to item data: false when rows came or went then, which leaves the order
+/// as it was, or when the list was destroyed.
+bool reorderRows(CListCtrl& list, const std::vector<int>& order);
 
 /// A row's text in a column, of at most 259 characters, into a buffer that the caller keeps for the next one.
 class CellText

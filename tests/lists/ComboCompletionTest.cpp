@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <imm.h>
+
 using namespace ovotest;
 
 TEST(ComboTyping, CompletesAndSelectsTheTail)
@@ -119,12 +121,54 @@ TEST(ComboTyping, PastedTextIsCompleted)
 
 TEST(ComboTyping, UndoneTextIsCompletedLikeTypedText)
 {
+    for (const bool completes : {true, false}) {
+        ComboScene scene{L"berry"};
+        scene.enter();
+        scene.combo.AutoComplete(false);
+        scene.robot.type(L"b");
+        ::SendMessageW(scene.edit(), EM_EMPTYUNDOBUFFER, 0, 0);
+        ::SendMessageW(scene.edit(), EM_SETSEL, 0, -1);
+        scene.combo.AutoComplete(completes);
+        scene.robot.type(L"x"); // in place of the b
+        ASSERT_EQ(scene.text(), L"x");
+        ASSERT_TRUE(::SendMessageW(scene.edit(), EM_UNDO, 0, 0));
+        EXPECT_EQ(scene.text(), completes ? L"berry" : L"b");
+    }
+}
+
+TEST(ComboTyping, UndoingWhatReplacedTheAddedPartBringsItBack)
+{
     ComboScene scene{L"berry"};
     scene.enter();
-    scene.robot.type(L"xb");
-    ASSERT_EQ(scene.text(), L"xb");
-    ::SendMessageW(scene.edit(), EM_UNDO, 0, 0);
-    EXPECT_NE(scene.text(), L"xb");
+    scene.robot.type(L"b");
+    ASSERT_EQ(scene.text(), L"berry");
+    scene.robot.type(L"x"); // in place of the added part
+    ASSERT_EQ(scene.text(), L"bx");
+    ASSERT_TRUE(::SendMessageW(scene.edit(), EM_UNDO, 0, 0));
+    EXPECT_EQ(scene.text(), L"berry");
+}
+
+TEST(ComboTyping, TextThatIsCutToNothingStaysEmpty)
+{
+    ComboScene scene{L"berry"};
+    scene.enter();
+    scene.robot.type(L"x");
+    ::SendMessageW(scene.edit(), EM_SETSEL, 0, -1);
+    scene.robot.holding(VK_CONTROL).key('X');
+    EXPECT_EQ(scene.text(), L"");
+}
+
+TEST(ComboTyping, ItemsThatDifferInCaseOnlyAreToldApart)
+{
+    for (const wchar_t* text : {L"Berry", L"berry", L"BERRY"}) {
+        ComboScene scene{L"Berry", L"berry"};
+        scene.enter();
+        scene.robot.type(text);
+        const std::wstring expected = text == std::wstring(L"BERRY") ? L"Berry" : text;
+        EXPECT_EQ(scene.text(), expected);
+        scene.robot.key(VK_RETURN);
+        EXPECT_EQ(scene.combo.GetCurSel(), expected == L"berry" ? 1 : 0);
+    }
 }
 
 TEST(ComboTyping, TextsOfAnInputMethodAreCompleted)
@@ -138,6 +182,64 @@ TEST(ComboTyping, TextsOfAnInputMethodAreCompleted)
     GuiThread::settle();
     EXPECT_EQ(scene.text(), L"\x6F22\x5B57 table");
     EXPECT_EQ(scene.marked(), std::make_pair(1, 8));
+}
+
+namespace
+{
+
+/// What an input method does to the window with the focus.
+class Composition
+{
+public:
+    explicit Composition(HWND window)
+        : m_window(window)
+        , m_context(::ImmGetContext(window))
+    {
+    }
+    ~Composition() { ::ImmReleaseContext(m_window, m_context); }
+    Composition(const Composition&) = delete;
+    Composition& operator=(const Composition&) = delete;
+
+    /// False where the platform's input method takes no text.
+    bool set(std::wstring text) const
+    {
+        return ::ImmSetCompositionStringW(m_context, SCS_SETSTR, text.data(),
+                                          static_cast<DWORD>(text.size() * sizeof(wchar_t)), nullptr, 0);
+    }
+    void complete() const { ::ImmNotifyIME(m_context, NI_COMPOSITIONSTR, CPS_COMPLETE, 0); }
+    void cancel() const { ::ImmNotifyIME(m_context, NI_COMPOSITIONSTR, CPS_CANCEL, 0); }
+
+private:
+    const HWND m_window;
+    const HIMC m_context;
+};
+
+} // namespace
+
+TEST(ComboTyping, ACompositionIsCompletedWhenItIsOver)
+{
+    ComboScene scene{L"\x6F22\x5B57 table", L"\x6F22\x8A9E table"};
+    scene.enter();
+    const Composition composition(scene.edit());
+    if (!composition.set(L"\x6F22"))
+        GTEST_SKIP() << "the platform's input method takes no text";
+    composition.set(L"\x6F22\x8A9E"); // what is composed is another text now
+    composition.complete();
+    GuiThread::settle();
+    EXPECT_EQ(scene.text(), L"\x6F22\x8A9E table");
+    EXPECT_EQ(scene.marked(), std::make_pair(2, 8));
+}
+
+TEST(ComboTyping, ACompositionThatIsGivenUpLeavesNothing)
+{
+    ComboScene scene{L"berry"};
+    scene.enter();
+    const Composition composition(scene.edit());
+    if (!composition.set(L"\x6F22"))
+        GTEST_SKIP() << "the platform's input method takes no text";
+    composition.cancel();
+    GuiThread::settle();
+    EXPECT_EQ(scene.text(), L"");
 }
 
 TEST(ComboTyping, AmongTwentyThousandItems)

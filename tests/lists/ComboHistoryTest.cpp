@@ -1,6 +1,7 @@
 // The texts that were used last.
 #include "ComboScene.h"
 
+#include "support/Picture.h"
 #include "support/TemporaryProfile.h"
 
 #include <gtest/gtest.h>
@@ -89,6 +90,51 @@ TEST_F(ComboRemembering, ItemsOfTheHostMove)
     EXPECT_EQ(scene.combo.GetCurSel(), 0);
     scene.robot.key(VK_ESCAPE);
     EXPECT_EQ(scene.text(), L"yew") << "nothing has changed since it was accepted";
+}
+
+TEST_F(ComboRemembering, ItemsMoveWithTheirColours)
+{
+    ComboScene scene({L"fir", L"yew"}, CBS_DROPDOWN | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
+    keep(scene);
+    scene.combo.SetItemColour(1, 0xFF000000 | RGB(0, 200, 0));
+    scene.enter();
+    accept(scene, L"yew");
+    ASSERT_EQ(items(scene), (Texts{L"yew", L"fir"}));
+    scene.robot.moveTo(Spot{scene.button});
+    scene.combo.ShowDropDown();
+    GuiThread::settle();
+    const Picture list = Picture::ofClient(scene.listBox());
+    const int height = scene.combo.GetItemHeight(0);
+    EXPECT_GT(list.count(RGB(0, 200, 0), 0, CRect(0, 0, list.width(), height)), 50);
+    EXPECT_EQ(list.count(RGB(0, 200, 0), 0, CRect(0, height, list.width(), 2 * height)), 0);
+}
+
+TEST_F(ComboRemembering, WhatIsMarkedInTheFieldStaysMarked)
+{
+    ComboScene scene{L"fir"};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene);
+    scene.enter();
+    scene.robot.type(L"oak").key(VK_HOME).holding(VK_SHIFT).key(VK_RIGHT).letGo(VK_SHIFT).key(VK_RETURN);
+    EXPECT_EQ(items(scene), (Texts{L"oak", L"fir"}));
+    EXPECT_EQ(scene.marked(), std::make_pair(0, 1));
+}
+
+TEST_F(ComboRemembering, WhatEscapeBringsBackIsTheSameItemInAnotherPlace)
+{
+    ComboScene scene{L"fir", L"ash", L"yew"};
+    keep(scene);
+    scene.enterWith(0);
+    scene.combo.KeepHistory(L"Combo", L"Plant", 3);
+    // Texts of the history come before the item that was there when the focus came.
+    AfxGetApp()->WriteProfileString(L"Combo", L"Plant1", L"yew");
+    scene.combo.KeepHistory(L"Combo", L"Plant", 3);
+    ASSERT_EQ(items(scene), (Texts{L"yew", L"fir", L"ash"}));
+    ASSERT_EQ(scene.combo.GetCurSel(), 1);
+    scene.combo.SetCurSel(2);
+    scene.robot.key(VK_ESCAPE);
+    EXPECT_EQ(scene.text(), L"fir");
+    EXPECT_EQ(scene.combo.GetCurSel(), 1);
 }
 
 TEST_F(ComboRemembering, ASelectionInTheListCounts)

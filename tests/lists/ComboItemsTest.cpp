@@ -123,6 +123,60 @@ TEST(ComboItemLooks, TheSelectedItemIsHighlighted)
     EXPECT_EQ(list.count(::GetSysColor(COLOR_HIGHLIGHT), 0, itemRect(scene, 0)), 0);
 }
 
+TEST(ComboItemLooks, TheTextStandsBehindSwatchAndImage)
+{
+    CImageList images;
+    fillImages(images, 16, {kGreen, kRed});
+    ComboScene scene({L"MMM"}, kOwnerDrawn);
+    const auto firstInk = [&] {
+        const Picture list = openList(scene);
+        scene.combo.ShowDropDown(FALSE);
+        const CRect row = CRect(0, 0, list.width(), scene.combo.GetItemHeight(0));
+        for (int x = row.left; x < row.right; ++x)
+            if (list.count(::GetSysColor(COLOR_WINDOWTEXT), 0, CRect(x, row.top, x + 1, row.bottom)))
+                return x;
+        return -1;
+    };
+    scene.enter();
+    scene.combo.SetItemImage(0, -1);
+    const int alone = firstInk();
+    scene.combo.SetItemColour(0, kOpaque | kGreen);
+    const int behindSwatch = firstInk();
+    scene.combo.SetImageList(&images);
+    scene.combo.SetItemImage(0, 1);
+    const int behindBoth = firstInk();
+    EXPECT_GE(alone, 0);
+    EXPECT_LT(alone, 8);
+    EXPECT_GE(behindSwatch, alone + 15);
+    EXPECT_GE(behindBoth, behindSwatch + 16);
+}
+
+TEST(ComboItemLooks, TextsOfADisabledListAreGrey)
+{
+    ComboScene scene({L"MMM"}, kOwnerDrawn);
+    scene.combo.SetItemColour(0, kOpaque | kGreen);
+    for (const UINT state : {0u, UINT{ODS_SELECTED}, UINT{ODS_DISABLED}}) {
+        Picture picture(120, 20);
+        DRAWITEMSTRUCT draw{};
+        draw.CtlType = ODT_COMBOBOX;
+        draw.itemState = state;
+        draw.hDC = picture.dc();
+        draw.hwndItem = scene.combo;
+        draw.rcItem = {0, 0, 120, 20};
+        const HGDIOBJ old = ::SelectObject(picture.dc(), scene.combo.GetFont()->GetSafeHandle());
+        scene.parent.SendMessage(WM_DRAWITEM, 21, reinterpret_cast<LPARAM>(&draw));
+        ::SelectObject(picture.dc(), old);
+        const CRect text(45, 0, 120, 20);
+        const int colour = state == ODS_DISABLED   ? COLOR_GRAYTEXT
+                           : state == ODS_SELECTED ? COLOR_HIGHLIGHTTEXT
+                                                   : COLOR_WINDOWTEXT;
+        EXPECT_GT(picture.count(::GetSysColor(colour), 0, text), 10) << "state " << state;
+        EXPECT_EQ(
+            picture.count(::GetSysColor(state == ODS_SELECTED ? COLOR_HIGHLIGHT : COLOR_WINDOW), 0, text) > 0,
+            true);
+    }
+}
+
 TEST(ComboCue, ShowsWhileTheFieldIsEmpty)
 {
     ComboScene scene{L"fir"};

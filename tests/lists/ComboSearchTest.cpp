@@ -239,6 +239,43 @@ TEST_F(ComboSearching, TheHitsGoWithTheFocusTheListAndAMove)
     EXPECT_FALSE(hitsWindow());
 }
 
+TEST_F(ComboSearching, WhileTheListIsOpenTypingShowsNone)
+{
+    scene.robot.moveTo(Spot{scene.button}).key(VK_F4); // a pointer over the opening list would select
+    ASSERT_TRUE(scene.combo.GetDroppedState());
+    scene.robot.type(L"err");
+    EXPECT_FALSE(hitsWindow());
+}
+
+TEST_F(ComboSearching, AWindowThatIsSizedTakesThemAway)
+{
+    scene.robot.type(L"err");
+    ASSERT_TRUE(hitsWindow());
+    scene.parent.SetWindowPos(nullptr, 0, 0, 420, 380, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_FALSE(hitsWindow());
+}
+
+TEST_F(ComboSearching, NoMoreThanTwelveRowsAreShownAtOnce)
+{
+    for (int i = 0; i < 40; ++i)
+        scene.combo.AddString((L"xerr" + std::to_wstring(i)).c_str());
+    scene.robot.type(L"err");
+    EXPECT_EQ(hitCount(), 43);
+    CRect client;
+    ::GetClientRect(hitsList(), &client);
+    EXPECT_EQ(client.Height(), 12 * ::SendMessageW(hitsList(), LB_GETITEMHEIGHT, 0, 0));
+}
+
+TEST_F(ComboSearching, InTheFontOfTheComboBox)
+{
+    CFont font;
+    font.CreatePointFont(140, L"Courier New");
+    scene.combo.SetFont(&font);
+    scene.robot.type(L"err");
+    EXPECT_EQ(::SendMessageW(hitsList(), WM_GETFONT, 0, 0), reinterpret_cast<LRESULT>(font.GetSafeHandle()));
+    scene.combo.SetFont(nullptr);
+}
+
 TEST_F(ComboSearching, WhatAHostWritesShowsNone)
 {
     scene.setText(L"err");

@@ -92,6 +92,48 @@ TEST_F(ListTips, ThePointerThatLeavesTakesItAway)
 {
     rest(0, 1, true);
     Robot().moveTo(Spot{scene.button}).waitFor("no tip", [&] { return !shows(); });
+    rest(0, 1, true); // and brings it back
+}
+
+TEST_F(ListTips, SoDoScrollingAndALossOfTheFocus)
+{
+    const std::pair<UINT, WPARAM> messages[] = {{WM_MOUSEWHEEL, MAKEWPARAM(0, 120)},
+                                                {WM_VSCROLL, SB_LINEDOWN},
+                                                {WM_HSCROLL, SB_LINEDOWN},
+                                                {WM_RBUTTONDOWN, 0},
+                                                {WM_LBUTTONDOWN, 0},
+                                                {WM_KILLFOCUS, 0}};
+    for (const auto& [message, wParam] : messages) {
+        rest(1, 0, false);
+        rest(0, 1, true);
+        scene.list.PostMessage(message, wParam, 0);
+        if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN) // the list waits for the button
+            scene.list.PostMessage(message + 1, 0, 0);
+        EXPECT_TRUE(GuiThread::runUntil([&] { return !shows(); })) << "message " << message;
+    }
+}
+
+TEST_F(ListTips, TheTipHasTheListsFont)
+{
+    CFont font;
+    font.CreatePointFont(140, L"Courier New");
+    scene.list.SetFont(&font);
+    rest(0, 1, true);
+    LOGFONT wanted{};
+    LOGFONT has{};
+    font.GetLogFont(&wanted);
+    CFont::FromHandle(reinterpret_cast<HFONT>(::SendMessageW(tips.Window(), WM_GETFONT, 0, 0)))
+        ->GetLogFont(&has);
+    EXPECT_STREQ(has.lfFaceName, wanted.lfFaceName);
+    EXPECT_EQ(has.lfHeight, wanted.lfHeight);
+    CClientDC dc(&scene.list);
+    CFont* const old = dc.SelectObject(&font);
+    const int width = dc.GetTextExtent(L"a cell with no room", 19).cx;
+    dc.SelectObject(old);
+    CRect tip;
+    ::GetWindowRect(tips.Window(), &tip);
+    EXPECT_GE(tip.Width(), width);
+    scene.list.SetFont(nullptr);
 }
 
 TEST_F(ListTips, TheListMayBeDestroyedFirst)

@@ -94,6 +94,22 @@ TEST_F(ListCopying, ByKeysInAListThatIsAttached)
     EXPECT_EQ(clipboardText(), L"c\tc\tc\r\n2.0\t2.1\t2.2\r\n");
 }
 
+TEST_F(ListCopying, OtherKeysCopyNothing)
+{
+    scene.show();
+    scene.list.SetFocus();
+    select({2});
+    COVOListCopier copier;
+    copier.Attach(scene.list, false);
+    Robot().key('C').key(VK_INSERT).holding(VK_CONTROL).key('D');
+    Robot().holding(VK_CONTROL).holding(VK_SHIFT).key('C');
+    Robot().holding(VK_CONTROL).holding(VK_SHIFT).key(VK_INSERT);
+    EXPECT_EQ(clipboardText(), L"");
+    copier.Detach();
+    Robot().holding(VK_CONTROL).key('C');
+    EXPECT_EQ(clipboardText(), L"");
+}
+
 TEST_F(ListCopying, TheListMayBeDestroyedBeforeTheCopier)
 {
     scene.show();

@@ -348,6 +348,125 @@ TEST(ListDraw, ScrolledHorizontally)
     scene.expectRow(0, facts);
 }
 
+TEST(ListDraw, TextsLongerThanTheBuffersAreDrawnAsFarAsTheyReach)
+{
+    // What the platform gives has at most 259 characters; of that MakeShortString may keep 260.
+    for (const std::size_t length : {258u, 259u, 260u, 300u, 5000u}) {
+        ListScene scene;
+        scene.addColumn(L"a", 120);
+        scene.addColumn(L"b", 120);
+        const std::wstring text(length, L'M');
+        scene.list.AddItem(0, 0, text, 0, -1);
+        scene.list.AddItem(0, 1, text, 0, -1);
+        scene.show();
+        scene.expectRow(0, known(scene)); // cut
+        scene.list.SetColumnWidth(0, 3000);
+        scene.list.SetColumnWidth(1, 3000);
+        Picture drawn(3100, 40);
+        Picture expected(3100, 40);
+        for (Picture* const picture : {&drawn, &expected}) {
+            const HGDIOBJ font = ::SelectObject(picture->dc(), scene.list.GetFont()->GetSafeHandle());
+            if (picture == &drawn) {
+                DRAWITEMSTRUCT draw{};
+                draw.hDC = picture->dc();
+                draw.rcItem = scene.itemRect(0);
+                scene.list.DrawItem(&draw);
+            } else {
+                CRect place = scene.rect(0, LVIR_LABEL);
+                place.DeflateRect(2, 0);
+                ::DrawTextW(picture->dc(), text.c_str(), static_cast<int>(std::min<std::size_t>(length, 259)),
+                            &place, 0x0924);
+            }
+            ::SelectObject(picture->dc(), font);
+        }
+        const CRect label = scene.rect(0, LVIR_LABEL);
+        EXPECT_EQ(drawn.count(::GetSysColor(COLOR_WINDOWTEXT), 0, label),
+                  expected.count(::GetSysColor(COLOR_WINDOWTEXT), 0, label))
+            << length;
+    }
+}
+
+TEST(ListDraw, AmpersandsAndTabsAreCharacters)
+{
+    ListScene scene;
+    scene.fill({120, 120}, 1);
+    scene.list.SetItemText(0, 0, L"salt & pepper");
+    scene.list.SetItemText(0, 1, L"a\tb && c");
+    scene.show();
+    scene.expectRow(0, known(scene));
+}
+
+TEST(ListDraw, FontsHigherThanTheRowAreNotClipped)
+{
+    ListScene scene;
+    scene.fill({120, 120}, 2);
+    scene.show();
+    const int height = scene.itemRect(0).Height();
+    CFont font;
+    font.CreateFont(-3 * height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
+                    CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, L"Tahoma");
+    Picture drawn(300, 120);
+    const HGDIOBJ old = ::SelectObject(drawn.dc(), font.GetSafeHandle());
+    DRAWITEMSTRUCT draw{};
+    draw.hDC = drawn.dc();
+    draw.rcItem = scene.itemRect(0);
+    scene.list.DrawItem(&draw);
+    ::SelectObject(drawn.dc(), old);
+    const CRect below(0, scene.itemRect(0).bottom, 300, 120);
+    EXPECT_GT(drawn.count(::GetSysColor(COLOR_WINDOWTEXT), 0, below), 0);
+}
+
+TEST(ListDraw, StateImageIconOverlayAndColourInOneLabel)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    CImageList states;
+    fillImages(states, 16, {RGB(200, 0, 0), RGB(0, 0, 200)});
+    CImageList icons;
+    fillImages(icons, 16, {RGB(0, 150, 0), RGB(90, 0, 90)});
+    icons.SetOverlayImage(1, 1);
+    scene.list.SetImageList(&states, LVSIL_STATE);
+    scene.list.SetImageList(&icons, LVSIL_SMALL);
+    scene.addColumn(L"a", 150, true);
+    scene.addColumn(L"b", 80);
+    scene.list.AddItem(0, 0, L"a label that is cut by all of them", 0x80000000 | RGB(250, 200, 0), 0);
+    scene.list.AddItem(0, 1, L"more", 0, -1);
+    scene.list.SetItemState(0, static_cast<UINT>(INDEXTOSTATEIMAGEMASK(2) | INDEXTOOVERLAYMASK(1)),
+                            LVIS_STATEIMAGEMASK | LVIS_OVERLAYMASK);
+    scene.show();
+    Knowledge facts = known(scene);
+    facts.stateImageWidth = 16;
+    facts.colourColumns = {0};
+    facts.entry = 0x80000000 | RGB(250, 200, 0);
+    for (const UINT state : {0u, UINT{LVIS_SELECTED}, UINT{LVIS_SELECTED | LVIS_FOCUSED}}) {
+        scene.list.SetFocus();
+        scene.list.SetItemState(0, state, LVIS_SELECTED | LVIS_FOCUSED);
+        scene.expectRow(0, facts);
+    }
+    scene.list.SetImageList(nullptr, LVSIL_STATE);
+    scene.list.SetImageList(nullptr, LVSIL_SMALL);
+}
+
+TEST(ListDraw, RowsWithoutAnEntryKeepTheOneThatLookingMade)
+{
+    ListScene scene;
+    scene.addColumn(L"a", 100);
+    scene.addColumn(L"b", 90, true);
+    scene.list.AddItem(0, 0, L"name", 0xFF0000C8, -1); // before row colours are in use
+    scene.list.AddItem(0, 1, L".", 0, -1);
+    scene.list.UseRowColours(TRUE);
+    scene.show();
+    Knowledge facts = known(scene);
+    facts.colourColumns = {1};
+    facts.entry = 0;
+    scene.expectRow(0, facts);
+    // The data is another now: the row shows the entry of that number, and none is there either.
+    scene.list.SetItemData(0, 99);
+    scene.expectRow(0, facts);
+    scene.list.SetItemData(0, 0);
+    scene.expectRow(0, facts);
+}
+
 TEST(ListDraw, RightToLeft)
 {
     ListScene scene(0, WS_EX_LAYOUTRTL);
@@ -361,6 +480,12 @@ TEST(ListDraw, RightToLeft)
     scene.list.SetItemState(1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     scene.show();
     scene.list.SetFocus();
+    Knowledge facts = known(scene);
+    facts.colourColumns = {1};
+    facts.entry = kOpaque | RGB(200, 0, 0);
+    scene.expectRowInMemory(0, facts);
+    facts.entry = 0x80000000 | RGB(0, 0, 200);
+    scene.expectRowInMemory(1, facts);
     // The first column is at the right, the swatch left of it, and the selection reaches the left edge.
     CRect window;
     scene.list.GetWindowRect(&window);
@@ -415,6 +540,18 @@ TEST(ListDraw, CellsFollowTheirHeadingsWhenTheHostAsksForIt)
     EXPECT_THAT(shown.at(78, y), IsColour(RGB(200, 0, 0)));
     for (const int x : {82, 138, 238, 300})
         EXPECT_THAT(shown.at(x, y), IsColour(::GetSysColor(COLOR_HIGHLIGHT))) << x;
+    // So does the focus rectangle, which is drawn by inverting, and what the focus repaints.
+    scene.list.SetItemState(0, LVIS_FOCUSED, LVIS_FOCUSED);
+    scene.list.RedrawWindow();
+    const Picture focused = Picture::ofClient(scene.list);
+    int edge = 0;
+    for (int line = scene.itemRect(0).top; line < scene.itemRect(0).bottom; ++line)
+        edge += focused.at(0, line) != shown.at(0, line);
+    EXPECT_GT(edge, 3);
+    scene.button.SetFocus();
+    EXPECT_EQ(Picture::ofClient(scene.list).count(::GetSysColor(COLOR_HIGHLIGHT), 0, scene.itemRect(0)), 0);
+    scene.list.SetFocus();
+    scene.list.SetItemState(0, 0, LVIS_FOCUSED);
     // In the usual order nothing differs from a list that was not asked to.
     int usual[] = {0, 1, 2};
     scene.list.SetColumnOrderArray(3, usual);

@@ -1,6 +1,8 @@
 // Finding rows by typing.
 #include "ListScene.h"
 
+#include "support/ImportPatch.h"
+
 #include <ovoui/lists/ListFinder.h>
 
 #include <gtest/gtest.h>
@@ -106,6 +108,32 @@ TEST_F(ListFinding, ACharacterWithWhichNothingIsFoundIsLeftOut)
     robot.type(L"rag");
     EXPECT_EQ(finder.Text(), L"garag");
     EXPECT_EQ(selected(), Rows{2});
+}
+
+TEST_F(ListFinding, ABeepSaysThatNothingIsFound)
+{
+    static int beeps;
+    beeps = 0;
+    using Beep = BOOL(WINAPI*)(UINT);
+    const ImportPatch patch(L"ovoui.dll", "MessageBeep",
+                            reinterpret_cast<void*>(Beep([](UINT) -> BOOL { return ++beeps; })));
+    robot.type(L"ga");
+    EXPECT_EQ(beeps, 0);
+    robot.type(L"x");
+    EXPECT_EQ(beeps, 1);
+    EXPECT_FALSE(finder.Find(L"nowhere"));
+    EXPECT_EQ(beeps, 1) << "a host sees it from the result";
+}
+
+TEST_F(ListFinding, EveryKeyAndClickThatLeadsElsewhereBeginsAnotherText)
+{
+    for (const WORD key : {VK_PRIOR, VK_NEXT, VK_END, VK_HOME, VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN}) {
+        robot.type(L"gar").key(key).type(L"e");
+        EXPECT_EQ(finder.Text(), L"e") << "key " << key;
+        robot.key(VK_ESCAPE);
+    }
+    robot.type(L"gar").rightClick(Spot{scene.list, scene.cell(1, 1).CenterPoint()}).type(L"e");
+    EXPECT_EQ(finder.Text(), L"e");
 }
 
 TEST_F(ListFinding, BackspaceTakesTheLastCharacterBack)
@@ -261,7 +289,14 @@ struct Misdeed
 {
     const char* name;
     std::function<void(ListScene&, std::unique_ptr<COVOListFinder>&)> deed;
+    Rows selectedWhenAsked; ///< afterwards, by their data, when it is done while a text is asked for
+    Rows selectedWhenTold;  ///< when it is done while the first row is deselected
 };
+
+void PrintTo(const Misdeed& misdeed, std::ostream* out)
+{
+    *out << misdeed.name;
+}
 
 class ListFindingWithAHost : public ::testing::TestWithParam<Misdeed>
 {
@@ -278,6 +313,7 @@ TEST_P(ListFindingWithAHost, ThatDoesAnythingInACall)
             item.iItem = row;
             item.pszText = LPSTR_TEXTCALLBACK;
             scene.list.InsertItem(&item);
+            scene.list.SetItemData(row, static_cast<DWORD_PTR>(row));
         }
         for (const int row : {0, 1, 3})
             scene.list.SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
@@ -305,22 +341,30 @@ TEST_P(ListFindingWithAHost, ThatDoesAnythingInACall)
         } catch (const std::runtime_error&) {
         }
         EXPECT_TRUE(done) << "the host was called";
+        Rows selected;
+        for (int row = -1; scene.list.m_hWnd && (row = scene.list.GetNextItem(row, LVNI_SELECTED)) != -1;)
+            selected.push_back(static_cast<int>(scene.list.GetItemData(row)));
+        const bool asked = code == static_cast<UINT>(LVN_GETDISPINFO);
+        EXPECT_EQ(selected, asked ? GetParam().selectedWhenAsked : GetParam().selectedWhenTold)
+            << (asked ? "asked" : "told");
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Misdeeds, ListFindingWithAHost,
     ::testing::Values(
-        Misdeed{"nothing", [](ListScene&, auto&) {}},
-        Misdeed{"deletes a row", [](ListScene& scene, auto&) { scene.list.DeleteItem(0); }},
-        Misdeed{"empties the list", [](ListScene& scene, auto&) { scene.list.DeleteAllItems(); }},
-        Misdeed{"detaches", [](ListScene&, auto& finder) { finder->Detach(); }},
-        Misdeed{"destroys the finder", [](ListScene&, auto& finder) { finder.reset(); }},
-        Misdeed{"destroys the list", [](ListScene& scene, auto&) { scene.list.DestroyWindow(); }},
+        Misdeed{"nothing", [](ListScene&, auto&) {}, {2}, {2}},
+        Misdeed{"deletes a row", [](ListScene& scene, auto&) { scene.list.DeleteItem(0); }, {1, 3}, {1, 3}},
+        Misdeed{"empties the list", [](ListScene& scene, auto&) { scene.list.DeleteAllItems(); }, {}, {}},
+        Misdeed{"detaches", [](ListScene&, auto& finder) { finder->Detach(); }, {0, 1, 3}, {1, 3}},
+        Misdeed{"destroys the finder", [](ListScene&, auto& finder) { finder.reset(); }, {0, 1, 3}, {1, 3}},
+        Misdeed{"destroys the list", [](ListScene& scene, auto&) { scene.list.DestroyWindow(); }, {}, {}},
         Misdeed{"destroys both",
                 [](ListScene& scene, auto& finder) {
                     finder.reset();
                     scene.list.DestroyWindow();
-                }},
-        Misdeed{"finds something else", [](ListScene&, auto& finder) { finder->Find(L"other"); }},
-        Misdeed{"throws", [](ListScene&, auto&) { throw std::runtime_error("host"); }}));
+                },
+                {},
+                {}},
+        Misdeed{"finds something else", [](ListScene&, auto& finder) { finder->Find(L"other"); }, {0}, {0}},
+        Misdeed{"throws", [](ListScene&, auto&) { throw std::runtime_error("host"); }, {0, 1, 3}, {1, 3}}));

@@ -10,8 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 
 using namespace ovotest;
@@ -19,7 +21,19 @@ using namespace ovotest;
 namespace
 {
 
-/// A list whose texts the host gives, but for the labels, and all its helpers.
+using Texts = std::vector<std::wstring>;
+
+/// What the host gives as a cell's text: a number that falls from row to row, too long for its column.
+void giveText(NMHDR* header)
+{
+    LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(header)->item;
+    if (item.mask & LVIF_TEXT)
+        ::lstrcpynW(item.pszText, (std::to_wstring(9 - item.iItem) + L" is a long text").c_str(),
+                    item.cchTextMax);
+}
+
+/// Four rows "row 0" to "row 3", the second and the third selected, with their numbers as data. The host
+/// gives the texts of the other columns.
 struct Helped
 {
     Helped()
@@ -27,8 +41,7 @@ struct Helped
         for (int column = 0; column < 3; ++column)
             scene.addColumn(L"c" + std::to_wstring(column), 40);
         for (int row = 0; row < 4; ++row)
-            for (int column = 0; column < 3; ++column)
-                addCell(row, column);
+            addRow(row);
         scene.list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
         scene.list.SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);
         sorter = std::make_unique<COVOListSorter>();
@@ -39,21 +52,24 @@ struct Helped
         copier->Attach(scene.list, true);
         scene.show();
         middle = scene.cell(1, 1).CenterPoint();
+        answerWithTexts();
     }
 
-    void addCell(int row, int column)
+    // Labels are asked for within the platform's hit test, which does not stand everything: they are stored.
+    void addRow(int row)
     {
-        LVITEM item{};
-        item.mask = LVIF_TEXT;
-        item.iItem = row;
-        item.iSubItem = column;
-        // Labels are asked for within the platform's hit test, which does not stand everything.
-        wchar_t label[] = L"label";
-        item.pszText = column ? LPSTR_TEXTCALLBACK : label;
-        if (column)
-            scene.list.SetItem(&item);
-        else
-            scene.list.InsertItem(&item);
+        scene.list.InsertItem(row, (L"row " + std::to_wstring(row)).c_str());
+        scene.list.SetItemData(row, static_cast<DWORD_PTR>(row));
+        for (int column = 1; column < 3; ++column)
+            scene.list.SetItemText(row, column, LPSTR_TEXTCALLBACK);
+    }
+
+    void answerWithTexts()
+    {
+        scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), [](NMHDR* header) -> LRESULT {
+            giveText(header);
+            return 0;
+        });
     }
 
     ListScene scene;
@@ -61,63 +77,141 @@ struct Helped
     std::unique_ptr<COVOListSorter> sorter;
     std::unique_ptr<COVOListCellTips> tips;
     std::unique_ptr<COVOListCopier> copier;
+    bool result = false; ///< what the call gave
 };
 
-struct Deed
+using Rows = std::vector<int>;
+
+struct Call
 {
     const char* name;
+    bool sorts; ///< by a text that falls from row to row
     std::function<void(Helped&)> act;
+    std::optional<DWORD_PTR> data = {}; ///< of all rows; else their numbers
 };
 
-void PrintTo(const Deed& deed, std::ostream* out)
+/// When the host does its misdeed.
+enum class When
 {
-    *out << deed.name;
+    AskedForText,
+    ToldOfItem,   ///< while the rows' data are changed for the sorting
+    ToldOfHeading ///< after the sorting
+};
+
+struct Misdeed
+{
+    const char* name;
+    bool endsSorting; ///< when it is done before all texts are known
+    std::function<void(Helped&)> act;
+    std::function<void(Rows&)> leaves; ///< takes out the rows that it takes out of the list
+};
+
+void PrintTo(const Call& call, std::ostream* out)
+{
+    *out << call.name;
 }
 
-const std::vector<Deed> kCalls{
-    {"sorting by text", [](Helped& helped) { helped.sorter->Sort(1, true); }},
-    {"sorting by number",
+void PrintTo(const Misdeed& misdeed, std::ostream* out)
+{
+    *out << misdeed.name;
+}
+
+const std::vector<Call> kCalls{
+    {"sorting by text", true, [](Helped& helped) { helped.result = helped.sorter->Sort(1, true); }},
+    {"sorting by number", true,
      [](Helped& helped) {
          helped.sorter->SetKind(1, COVOListSorter::Kind::Number);
-         helped.sorter->Sort(1, false);
+         helped.result = helped.sorter->Sort(1, true);
      }},
-    {"copying", [](Helped& helped) { copySelectedRows(helped.scene.list, true); }},
-    {"pointing at a cell",
+    {"sorting rows with the same data", true,
+     [](Helped& helped) { helped.result = helped.sorter->Sort(1, true); }, 7},
+    {"copying", false, [](Helped& helped) { helped.result = copySelectedRows(helped.scene.list, true); }},
+    {"pointing at a cell", false,
      [](Helped& helped) {
          helped.scene.list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(helped.middle.x, helped.middle.y));
+         helped.result = helped.tips && helped.tips->Window() && ::IsWindowVisible(helped.tips->Window());
      }},
-    {"restoring the layout",
+    {"restoring the layout", false,
      [](Helped& helped) {
          AfxGetApp()->WriteProfileString(L"Lists", L"test", L"+c1/c2=70/c0=60/c1=50");
-         restoreColumnLayout(helped.scene.list, L"Lists", L"test", nullptr);
+         helped.result = restoreColumnLayout(helped.scene.list, L"Lists", L"test", nullptr);
      }},
 };
 
-const std::vector<Deed> kMisdeeds{
-    {"nothing", [](Helped&) {}},
-    {"deletes a row", [](Helped& helped) { helped.scene.list.DeleteItem(3); }},
-    {"empties the list", [](Helped& helped) { helped.scene.list.DeleteAllItems(); }},
-    {"deletes a column", [](Helped& helped) { helped.scene.list.DeleteColumn(2); }},
-    {"destroys the helpers",
-     [](Helped& helped) {
-         helped.sorter.reset();
-         helped.tips.reset();
-         helped.copier.reset();
-     }},
-    {"destroys the list", [](Helped& helped) { helped.scene.list.DestroyWindow(); }},
-    {"destroys all",
+void destroyHelpers(Helped& helped)
+{
+    helped.sorter.reset();
+    helped.tips.reset();
+    helped.copier.reset();
+}
+
+void keepAll(Rows&) {}
+
+void keepNone(Rows& rows)
+{
+    rows.clear();
+}
+
+const std::vector<Misdeed> kMisdeeds{
+    {"nothing", false, [](Helped&) {}, &keepAll},
+    {"deletes a row", true, [](Helped& helped) { helped.scene.list.DeleteItem(3); },
+     [](Rows& rows) { rows.pop_back(); }},
+    {"empties the list", true, [](Helped& helped) { helped.scene.list.DeleteAllItems(); }, &keepNone},
+    {"deletes a column", false, [](Helped& helped) { helped.scene.list.DeleteColumn(2); }, &keepAll},
+    {"destroys the helpers", true, &destroyHelpers, &keepAll},
+    {"destroys the list", true, [](Helped& helped) { helped.scene.list.DestroyWindow(); }, &keepNone},
+    {"destroys all", true,
      [](Helped& helped) {
          helped.scene.list.DestroyWindow();
-         helped.sorter.reset();
-         helped.tips.reset();
-         helped.copier.reset();
-     }},
-    {"throws", [](Helped&) { throw std::runtime_error("host"); }},
+         destroyHelpers(helped);
+     },
+     &keepNone},
+    {"throws", true, [](Helped&) { throw std::runtime_error("host"); }, &keepAll},
 };
+
+/// The sorter is not needed any more when the rows are brought into their order.
+bool endsSorting(const Misdeed& misdeed, When when)
+{
+    return misdeed.endsSorting && when != When::ToldOfHeading &&
+           !(when == When::ToldOfItem && misdeed.name == std::string("destroys the helpers"));
+}
+
+/// `done` is null when the host was not called.
+Rows expectedRows(const Call& call, const Misdeed* done, When when)
+{
+    Rows rows{0, 1, 2, 3};
+    if (done && when != When::ToldOfHeading)
+        done->leaves(rows);
+    if (call.sorts && !(done && endsSorting(*done, when)))
+        std::reverse(rows.begin(), rows.end());
+    if (done && when == When::ToldOfHeading)
+        done->leaves(rows);
+    return rows;
+}
+
+/// Each row has still its own label, data and selection, and is drawn.
+void expectRows(Helped& helped, const Rows& expected, std::optional<DWORD_PTR> data)
+{
+    List& list = helped.scene.list;
+    if (!list.m_hWnd) {
+        EXPECT_TRUE(expected.empty());
+        return;
+    }
+    ASSERT_EQ(list.GetItemCount(), static_cast<int>(expected.size()));
+    list.drawn.clear();
+    list.RedrawWindow();
+    EXPECT_EQ(list.drawn.size(), expected.size()) << "redrawing is not held any more";
+    for (int place = 0; place < list.GetItemCount(); ++place) {
+        const int row = expected[static_cast<std::size_t>(place)];
+        EXPECT_EQ(list.GetItemText(place, 0), (L"row " + std::to_wstring(row)).c_str());
+        EXPECT_EQ(list.GetItemData(place), data.value_or(static_cast<DWORD_PTR>(row)));
+        EXPECT_EQ(list.GetItemState(place, LVIS_SELECTED) != 0, row == 1 || row == 2) << row;
+    }
+}
 
 } // namespace
 
-class ListHelpers : public ::testing::TestWithParam<std::tuple<Deed, Deed>>
+class ListHelpers : public ::testing::TestWithParam<std::tuple<Call, Misdeed>>
 {
 };
 
@@ -129,20 +223,20 @@ TEST_P(ListHelpers, StandAHostThatDoesAnything)
         (deed == "empties the list" || deed == "destroys the list" || deed == "destroys all"))
         GTEST_SKIP() << "the platform's own hit test, which asks for the text first, does not stand it";
     const TemporaryProfile profile;
-    for (const int code : {static_cast<int>(LVN_GETDISPINFO), static_cast<int>(HDN_ITEMCHANGED),
-                           static_cast<int>(HDN_ITEMCHANGING)}) {
+    constexpr std::pair<int, When> kCodes[] = {{LVN_GETDISPINFO, When::AskedForText},
+                                               {LVN_ITEMCHANGING, When::ToldOfItem},
+                                               {LVN_ITEMCHANGED, When::ToldOfItem},
+                                               {HDN_ITEMCHANGING, When::ToldOfHeading},
+                                               {HDN_ITEMCHANGED, When::ToldOfHeading}};
+    for (const auto& [code, when] : kCodes) {
+        SCOPED_TRACE(code);
         Helped helped;
-        helped.scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), [](NMHDR* header) -> LRESULT {
-            LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(header)->item;
-            if (item.mask & LVIF_TEXT)
-                ::lstrcpynW(item.pszText, (L"a long text " + std::to_wstring(9 - item.iItem)).c_str(),
-                            item.cchTextMax);
-            return 0;
-        });
+        for (int row = 0; call.data && row < 4; ++row)
+            helped.scene.list.SetItemData(row, *call.data);
         bool done = false;
         helped.scene.parent.answer(static_cast<UINT>(code), [&](NMHDR* header) -> LRESULT {
             if (header->code == static_cast<UINT>(LVN_GETDISPINFO))
-                ::lstrcpynW(reinterpret_cast<NMLVDISPINFO*>(header)->item.pszText, L"a long text", 9);
+                giveText(header);
             if (!std::exchange(done, true))
                 misdeed.act(helped);
             return 0;
@@ -150,11 +244,17 @@ TEST_P(ListHelpers, StandAHostThatDoesAnything)
         try {
             call.act(helped);
         } catch (const std::runtime_error&) {
+            EXPECT_EQ(deed, "throws");
         }
         helped.scene.parent.answer(static_cast<UINT>(code), 0);
-        if (helped.scene.list.m_hWnd) {
-            helped.scene.list.RedrawWindow();
+        helped.answerWithTexts();
+        if (!done || deed == "nothing") {
+            EXPECT_TRUE(helped.result);
         }
+        if (done && call.sorts && misdeed.endsSorting && when != When::ToldOfHeading) {
+            EXPECT_FALSE(helped.result);
+        }
+        expectRows(helped, expectedRows(call, done ? &misdeed : nullptr, when), call.data);
     }
 }
 
@@ -167,7 +267,7 @@ TEST(ListHelpersCalls, AskForTextsInAllButTheLast)
         Helped helped;
         int texts = 0;
         helped.scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), [&](NMHDR* header) -> LRESULT {
-            ::lstrcpynW(reinterpret_cast<NMLVDISPINFO*>(header)->item.pszText, L"a long text", 12);
+            giveText(header);
             ++texts;
             return 0;
         });

@@ -1,6 +1,7 @@
 // The layout of columns in the profile.
 #include "ListScene.h"
 
+#include "support/ImportPatch.h"
 #include "support/TemporaryProfile.h"
 
 #include <ovoui/lists/ListLayout.h>
@@ -59,6 +60,69 @@ TEST(ListLayout, OrderWidthsAndSortingComeBack)
     EXPECT_EQ(sorter.Column(), 2);
     EXPECT_FALSE(sorter.Ascending());
     EXPECT_EQ(scene.list.GetItemText(0, 2), L"r");
+}
+
+namespace
+{
+
+int WINAPI finer(HDC dc, int what)
+{
+    return what == LOGPIXELSX ? 144 : ::GetDeviceCaps(dc, what);
+}
+
+} // namespace
+
+TEST(ListLayout, WidthsAreKeptForAnyResolution)
+{
+    const TemporaryProfile profile;
+    ListScene scene;
+    addColumns(scene, {L"a", L"b"});
+    scene.list.SetColumnWidth(0, 150);
+    {
+        const ImportPatch patch(L"ovomfc.dll", "GetDeviceCaps", reinterpret_cast<void*>(&finer));
+        EXPECT_TRUE(saveColumnLayout(scene.list, L"Lists", L"test", nullptr));
+        scene.list.SetColumnWidth(0, 10);
+        EXPECT_TRUE(restoreColumnLayout(scene.list, L"Lists", L"test", nullptr));
+        EXPECT_EQ(scene.list.GetColumnWidth(0), 150);
+    }
+    EXPECT_TRUE(restoreColumnLayout(scene.list, L"Lists", L"test", nullptr));
+    EXPECT_EQ(scene.list.GetColumnWidth(0), 100);
+}
+
+TEST(ListLayout, TheListIsPaintedAnew)
+{
+    const TemporaryProfile profile;
+    ListScene scene;
+    addColumns(scene, {L"a", L"b"});
+    scene.list.AddItem(0, 0, L"x", 0, -1);
+    scene.show();
+    EXPECT_TRUE(saveColumnLayout(scene.list, L"Lists", L"test", nullptr));
+    scene.list.ValidateRect(nullptr);
+    EXPECT_TRUE(restoreColumnLayout(scene.list, L"Lists", L"test", nullptr));
+    CRect client;
+    CRect update;
+    scene.list.GetClientRect(&client);
+    scene.list.GetUpdateRect(&update);
+    EXPECT_EQ(update, client);
+}
+
+TEST(ListLayout, BothDirectionsOfSortingComeBack)
+{
+    const TemporaryProfile profile;
+    for (const bool ascending : {true, false}) {
+        ListScene scene;
+        addColumns(scene, {L"a"});
+        for (const wchar_t* text : {L"x", L"z", L"y"})
+            scene.list.AddItem(scene.list.GetItemCount(), 0, text, 0, -1);
+        COVOListSorter sorter;
+        sorter.Attach(scene.list);
+        sorter.Sort(0, ascending);
+        saveColumnLayout(scene.list, L"Lists", L"test", &sorter);
+        sorter.Sort(0, !ascending);
+        EXPECT_TRUE(restoreColumnLayout(scene.list, L"Lists", L"test", &sorter));
+        EXPECT_EQ(sorter.Ascending(), ascending);
+        EXPECT_EQ(scene.list.GetItemText(0, 0), ascending ? L"x" : L"z");
+    }
 }
 
 TEST(ListLayout, WithoutSavedLayoutNothingChanges)

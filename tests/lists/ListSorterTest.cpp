@@ -1,6 +1,8 @@
 // Sorting by headings: order, arrows, and what goes with the rows.
 #include "ListScene.h"
 
+#include "support/ImportPatch.h"
+
 #include <ovoui/lists/ListSorter.h>
 
 #include <gtest/gtest.h>
@@ -120,23 +122,28 @@ TEST_F(ListSorting, ClicksOnHeadings)
 TEST_F(ListSorting, SelectionFocusDataAndColoursGoWithTheRows)
 {
     scene.list.UseRowColours(TRUE);
-    for (const bool unique : {true, false}) {
+    // Item data as AddItem sets it; of the host's own; of the host's own, two of them the same.
+    const DWORD_PTR kData[][4] = {{0, 1, 2, 3}, {900, static_cast<DWORD_PTR>(-4), 2, 70000}, {5, 5, 2, 3}};
+    for (const auto& data : kData) {
         scene.list.DeleteAllItems();
         add({L"d", L"b", L"a", L"c"});
-        if (!unique) // item data of the host's own, two of them the same
-            for (int row = 0; row < 4; ++row)
-                scene.list.SetItemData(row, row < 2 ? 5u : static_cast<DWORD_PTR>(row));
+        for (int row = 0; row < 4; ++row)
+            scene.list.SetItemData(row, data[row]);
         scene.list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
         scene.list.SetItemState(2, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-        const auto dataOfD = scene.list.GetItemData(0);
-        sorter.Sort(1, true); // a b c d
+        scene.parent.log().clear();
+        EXPECT_TRUE(sorter.Sort(1, true)); // a b c d
+        if (data[0] != data[1]) {
+            EXPECT_EQ(scene.parent.log().count(static_cast<UINT>(LVN_ITEMCHANGED)), 0);
+        }
         int rows[4] = {};
         ASSERT_EQ(scene.list.GetSelItems(4, rows), 2);
         EXPECT_EQ(rows[0], 0);
         EXPECT_EQ(rows[1], 3);
         EXPECT_EQ(scene.list.GetNextItem(-1, LVNI_FOCUSED), 0);
-        EXPECT_EQ(scene.list.GetItemData(3), dataOfD);
-        EXPECT_EQ(scene.list.GetItemData(0), 2u);
+        constexpr int kRows[] = {2, 1, 3, 0};
+        for (int place = 0; place < 4; ++place)
+            EXPECT_EQ(scene.list.GetItemData(place), data[kRows[place]]);
         EXPECT_EQ(column(0), (Texts{L"row 2", L"row 1", L"row 3", L"row 0"}));
     }
 }
@@ -154,6 +161,47 @@ TEST_F(ListSorting, ManyRows)
     sorter.Sort(1, true);
     const Texts texts = column(1);
     EXPECT_TRUE(std::ranges::is_sorted(texts, {}, [](const std::wstring& text) { return std::stol(text); }));
+}
+
+TEST_F(ListSorting, LongTexts)
+{
+    const std::wstring same(240, L'x');
+    for (const wchar_t* end : {L"c", L"a", L"b"})
+        add({(same + end).c_str()});
+    sorter.Sort(1, true);
+    EXPECT_EQ(column(0), (Texts{L"row 1", L"row 2", L"row 0"}));
+}
+
+TEST_F(ListSorting, TheListIsPaintedAnew)
+{
+    add({L"b", L"a"});
+    scene.show();
+    for (const bool ascending : {true, false}) {
+        scene.list.drawn.clear();
+        sorter.Sort(1, ascending);
+        EXPECT_TRUE(GuiThread::runUntil([&] { return scene.list.drawn.size() >= 2; }));
+        scene.list.drawn.clear();
+        scene.list.SetItemText(0, 0, L"other"); // drawing is not held any more
+        EXPECT_TRUE(GuiThread::runUntil([&] { return !scene.list.drawn.empty(); }));
+    }
+}
+
+TEST_F(ListSorting, TheSignsOfNumbersAreTheLocales)
+{
+    static wchar_t decimal[] = L",";
+    static wchar_t group[] = L".";
+    const auto answer = [](LCID locale, LCTYPE type, LPWSTR data, int room) {
+        if (type != LOCALE_SDECIMAL && type != LOCALE_STHOUSAND)
+            return ::GetLocaleInfoW(locale, type, data, room);
+        ::lstrcpynW(data, type == LOCALE_SDECIMAL ? decimal : group, room);
+        return 2;
+    };
+    using Answer = int(WINAPI*)(LCID, LCTYPE, LPWSTR, int);
+    const ImportPatch patch(L"ovoui.dll", "GetLocaleInfoW", reinterpret_cast<void*>(Answer(answer)));
+    add({L"1.000", L"2,5", L"2,25", L"10"});
+    sorter.SetKind(1, Kind::Number);
+    sorter.Sort(1, true);
+    EXPECT_EQ(column(1), (Texts{L"2,25", L"2,5", L"10", L"1.000"}));
 }
 
 TEST_F(ListSorting, WhatCannotBeSortedStays)

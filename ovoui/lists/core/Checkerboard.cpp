@@ -16,7 +16,8 @@ Checkerboard::Checkerboard(const Box& area)
 
 Box Checkerboard::board() const
 {
-    return m_cell > 0 ? Box{m_middle, m_area.top, m_area.right, m_area.bottom} : Box{};
+    return m_cell > 0 ? Box{m_middle, std::max(m_area.top, m_firstRow * m_cell), m_area.right, m_area.bottom}
+                      : Box{};
 }
 
 Box Checkerboard::square(int column, int row) const

@@ -18,7 +18,8 @@ public:
     /// The left half, which shows the colour.
     Box plain() const { return {m_area.left, m_area.top, m_middle, m_area.bottom}; }
 
-    /// The right half. Empty when the area is too small for squares: less than 3 pixels high or 2 wide.
+    /// The right half. Empty when the area is too small for squares: less than 3 pixels high or 2 wide. Above
+    /// the drawing surface it begins with the first whole row of squares.
     Box board() const;
 
     /// Side of a square in pixels; 0 when there are none.

@@ -20,30 +20,56 @@ std::uint64_t headOf(std::string_view key)
 
 void SortKeys::reserve(std::size_t rows, std::size_t bytes)
 {
-    m_keys.reserve(rows);
+    m_places.reserve(rows);
     m_bytes.reserve(bytes);
 }
 
 void SortKeys::add(std::string_view key)
 {
-    m_keys.push_back({headOf(key), m_bytes.size(), key.size(), static_cast<int>(m_keys.size())});
+    m_places.push_back({m_bytes.size(), key.size()});
     m_bytes.insert(m_bytes.end(), key.begin(), key.end());
 }
 
-bool SortKeys::isBefore(const Key& one, const Key& other) const
+std::string_view SortKeys::keyOf(int row) const
 {
-    if (one.head != other.head)
-        return one.head < other.head;
-    const auto text = [this](const Key& key) {
-        return std::string_view(m_bytes.data() + key.begin, key.size);
-    };
-    return text(one) < text(other);
+    const Place& place = m_places[static_cast<std::size_t>(row)];
+    return {m_bytes.data() + place.begin, place.size};
+}
+
+/// Of what all keys begin with.
+std::size_t SortKeys::commonLength() const
+{
+    if (m_places.empty())
+        return 0;
+    const std::string_view first = keyOf(0);
+    std::size_t common = first.size();
+    for (int row = 1; common > 0 && row < static_cast<int>(m_places.size()); ++row) {
+        const std::string_view key = keyOf(row).substr(0, common);
+        common = static_cast<std::size_t>(std::mismatch(key.begin(), key.end(), first.begin()).first -
+                                          key.begin());
+    }
+    return common;
+}
+
+std::vector<SortKeys::Key> SortKeys::keysBehind(std::size_t common) const
+{
+    std::vector<Key> keys;
+    keys.reserve(m_places.size());
+    for (int row = 0; row < static_cast<int>(m_places.size()); ++row)
+        keys.push_back({headOf(keyOf(row).substr(common)), row});
+    return keys;
 }
 
 std::vector<int> SortKeys::order(bool ascending) const
 {
-    std::vector<Key> sorted = m_keys;
-    std::stable_sort(sorted.begin(), sorted.end(), [this, ascending](const Key& one, const Key& other) {
+    const std::size_t common = commonLength();
+    const auto isBefore = [this, common](const Key& one, const Key& other) {
+        if (one.head != other.head)
+            return one.head < other.head;
+        return keyOf(one.row).substr(common) < keyOf(other.row).substr(common);
+    };
+    std::vector<Key> sorted = keysBehind(common);
+    std::stable_sort(sorted.begin(), sorted.end(), [&](const Key& one, const Key& other) {
         return ascending ? isBefore(one, other) : isBefore(other, one);
     });
     std::vector<int> rows(sorted.size());

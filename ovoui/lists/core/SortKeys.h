@@ -9,8 +9,9 @@
 namespace ovoui::lists
 {
 
-/// One key for each row, in the order of the rows. The bytes lie in one block, and the first of each key are
-/// compared as a number: most comparisons need no more.
+/// One key for each row, in the order of the rows. The bytes lie in one block. What all keys begin with is
+/// left out of account, and the first bytes behind it are compared as a number: most comparisons need no
+/// more.
 class SortKeys
 {
 public:
@@ -21,18 +22,23 @@ public:
     std::vector<int> order(bool ascending) const;
 
 private:
-    struct Key
+    struct Place
     {
-        std::uint64_t head; ///< the first eight bytes, zeros behind a shorter key
         std::size_t begin;
         std::size_t size;
+    };
+    struct Key
+    {
+        std::uint64_t head; ///< the first bytes that may differ, zeros behind a shorter key
         int row;
     };
 
-    bool isBefore(const Key& one, const Key& other) const;
+    std::string_view keyOf(int row) const;
+    std::size_t commonLength() const;
+    std::vector<Key> keysBehind(std::size_t common) const;
 
     std::vector<char> m_bytes;
-    std::vector<Key> m_keys;
+    std::vector<Place> m_places; ///< by row
 };
 
 } // namespace ovoui::lists

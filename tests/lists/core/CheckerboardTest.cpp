@@ -75,6 +75,17 @@ TEST(Checkerboard, IsExactForEverySizeUpTo40AtEveryOffsetUpTo7)
                 }
 }
 
+TEST(Checkerboard, AboveTheDrawingSurfaceBeginsWithAWholeRow)
+{
+    const auto firstRow = [](int top) { return Checkerboard({0, top, 30, top + 15}).board().top; };
+    ASSERT_EQ(Checkerboard({0, -5, 30, 10}).cell(), 4);
+    EXPECT_EQ(firstRow(-5), -4);
+    EXPECT_EQ(firstRow(-4), -4);
+    EXPECT_EQ(firstRow(-3), 0);
+    EXPECT_EQ(firstRow(1), 1);
+    Checkerboard({0, -5, 30, 10}).eachSecond([](const Box& square) { EXPECT_GE(square.top, -4); });
+}
+
 TEST(Checkerboard, HasNoSquaresInAnAreaTooSmallForThem)
 {
     for (const Box& area :

@@ -1,5 +1,4 @@
 #include <ovoui/lists/core/EntryColours.h>
-#include <ovoui/lists/core/RowLayout.h>
 
 #include <gtest/gtest.h>
 
@@ -65,23 +64,4 @@ TEST(EntryColours, TextIsWhiteOnDarkAndBlackOnBrightColours)
     EXPECT_EQ(coloursOf(entry(255, 84, 4, 0)).text, kBlack);  // 1189
     EXPECT_EQ(coloursOf(entry(0, 0, 255, 255)).text, kWhite);
     EXPECT_EQ(coloursOf(entry(0, 255, 0, 255)).text, kBlack);
-}
-
-TEST(RowLayout, ARowReachesTheWindowsEdgeOrItsLastColumn)
-{
-    EXPECT_EQ(rowBox({0, 10, 100, 25}, {20, 10, 60, 25}, 300), (Box{20, 10, 300, 25}));
-    EXPECT_EQ(rowBox({-50, 10, 400, 25}, {-30, 10, 60, 25}, 300), (Box{-30, 10, 400, 25}));
-    EXPECT_EQ(rowBox({0, 10, 100, 25}, {20, 10, 60, 25}, 0), (Box{20, 10, 100, 25}));
-}
-
-TEST(RowLayout, TheStateImageTakesItsWidthFromTheLabelsRight)
-{
-    EXPECT_EQ(labelTextBox({20, 10, 60, 25}, 16), (Box{20, 10, 44, 25}));
-    EXPECT_EQ(textBox({20, 10, 44, 25}, kLabelInset), (Box{22, 10, 42, 25}));
-}
-
-TEST(RowLayout, CellsFollowEachOther)
-{
-    EXPECT_EQ(cellAfter({20, 10, 60, 25}, 45), (Box{60, 10, 105, 25}));
-    EXPECT_EQ(cellAfter({20, 10, 60, 25}, 0), (Box{60, 10, 60, 25}));
 }

@@ -1,5 +1,4 @@
-// Sorting rows, and the numbers in texts.
-#include <ovoui/lists/core/NumberText.h>
+// Sorting rows.
 #include <ovoui/lists/core/RowOrder.h>
 
 #include <gtest/gtest.h>
@@ -35,24 +34,4 @@ TEST(RowOrder, AComparisonThatContradictsItselfDoesNoHarm)
         for (int i = 0; i < count; ++i)
             EXPECT_EQ(rows[static_cast<std::size_t>(i)], i);
     }
-}
-
-TEST(NumberText, TheNumberThatATextBeginsWith)
-{
-    EXPECT_EQ(numberIn(L"12", L'.', L','), 12);
-    EXPECT_EQ(numberIn(L"-12.5 KB", L'.', L','), -12.5);
-    EXPECT_EQ(numberIn(L"  1,234,567", L'.', L','), 1234567);
-    EXPECT_EQ(numberIn(L"1.234.567,25", L',', L'.'), 1234567.25);
-    EXPECT_EQ(numberIn(L"12\u00A0345", L',', L'.'), 12345);
-    EXPECT_EQ(numberIn(L"12'345", L'.', L','), 12345);
-    EXPECT_EQ(numberIn(L"96 %", L'.', L','), 96);
-    EXPECT_EQ(numberIn(L".5", L'.', L','), 0.5);
-    EXPECT_EQ(numberIn(L"5.", L'.', L','), 5);
-    EXPECT_EQ(numberIn(L"\u22127", L'.', L','), -7);
-}
-
-TEST(NumberText, TextsWithoutANumber)
-{
-    for (const wchar_t* text : {L"", L" ", L"-", L".", L"KB 12", L"-.x", L",5"})
-        EXPECT_EQ(numberIn(text, L'.', L','), std::nullopt) << text;
 }

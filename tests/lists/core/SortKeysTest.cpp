@@ -63,15 +63,25 @@ TEST(SortKeys, EqualKeysKeepTheirOrderBothWays)
     EXPECT_EQ(order({"b", "a", "b", "a"}, false), (Rows{0, 2, 1, 3}));
 }
 
+TEST(SortKeys, BehindWhatAllBeginWith)
+{
+    EXPECT_EQ(order({"the same c", "the same a", "the same b"}, true), (Rows{1, 2, 0}));
+    EXPECT_EQ(order({"the same c", "the same", "the same b"}, true), (Rows{1, 2, 0}));
+    EXPECT_EQ(order({"the same", "the same", "the same"}, false), (Rows{0, 1, 2}));
+    EXPECT_EQ(order({"the same c", "the same a", "other"}, true), (Rows{2, 1, 0}));
+}
+
 TEST(SortKeys, AnyKeys)
 {
     std::mt19937 random(5);
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 600; ++round) {
+        const std::string beginning(random() % 3 * 5, 'b');
         std::vector<std::string> keys(random() % 40);
         for (std::string& key : keys) {
             key.resize(random() % 12);
             for (char& c : key)
                 c = static_cast<char>("\0\1a\x80\xFF"[random() % 5]);
+            key.insert(0, beginning);
         }
         for (const bool ascending : {true, false})
             ASSERT_EQ(order(keys, ascending), expected(keys, ascending));
