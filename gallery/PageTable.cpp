@@ -52,8 +52,8 @@ const std::vector<PageEntry>& pageTable()
          L"CSliderButton drops a slider for the number beside it; CRoundSlider and CWheelSlider turn a box.",
          &make<SlidersPage>, PageGroup::Values},
         {L"lists", L"Lists",
-         L"COVOListCtrlEx: rows that draw themselves, with colours, cut texts and a selection to the "
-         L"window's edge.",
+         L"COVOListCtrlEx: rows with colours and cut texts. Headings sort and can be moved, typing finds, "
+         L"Ctrl+C copies.",
          &make<ListsPage>, PageGroup::Lists},
         {L"combo", L"Combo box",
          L"COVOComboBox completes what is typed, and accepts it or brings back what was there before.",
