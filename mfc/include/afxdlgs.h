@@ -1,4 +1,4 @@
-// The system's dialogs.
+// The system's dialogs, property sheets.
 #ifndef __AFXDLGS_H__
 #define __AFXDLGS_H__
 #pragma once
@@ -8,8 +8,11 @@
 #include <commdlg.h>
 #include <cderr.h>
 #include <dlgs.h>
+#include <prsht.h>
 
 #include <afx/CommonDialog.h>
 #include <afx/FileDialog.h>
+#include <afx/PropertyPage.h>
+#include <afx/PropertySheet.h>
 
 #endif // __AFXDLGS_H__

@@ -12,6 +12,9 @@ namespace afxdetail
 /// program.
 BOOL showHelp(DWORD_PTR context);
 
+/// Whether the main window or the program handles ID_HELP.
+bool programHasHelp();
+
 /// Sends ID_HELP to the main window, as the F1 key does. FALSE when there is no handler for it.
 BOOL askForHelp();
 

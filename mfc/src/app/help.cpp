@@ -147,13 +147,18 @@ BOOL showHelp(DWORD_PTR context)
     return TRUE;
 }
 
-BOOL askForHelp()
+bool programHasHelp()
 {
     CWnd* main = AfxGetMainWnd();
     AFX_CMDHANDLERINFO handler{};
-    if (!main || !main->OnCmdMsg(ID_HELP, CN_COMMAND, nullptr, &handler))
+    return main && main->OnCmdMsg(ID_HELP, CN_COMMAND, nullptr, &handler);
+}
+
+BOOL askForHelp()
+{
+    if (!programHasHelp())
         return FALSE;
-    main->SendMessage(WM_COMMAND, ID_HELP);
+    AfxGetMainWnd()->SendMessage(WM_COMMAND, ID_HELP);
     return TRUE;
 }
 

@@ -3,6 +3,8 @@
 
 #include <afxdlgs.h>
 
+#include "../dlg/reportsexception.h"
+
 #include <string>
 #include <vector>
 
@@ -34,21 +36,5 @@ namespace afxdetail
 
 /// Whether an exception waits for the call into the system that has this depth.
 bool failedDuring(int callDepth);
-
-/// Calls a handler whose CException is reported like those of window messages. True when there was one.
-template <class Handler>
-bool reportsException(Handler&& handler)
-{
-    try {
-        handler();
-        return false;
-    } catch (CException* exception) {
-        MSG message{};
-        message.message = WM_NOTIFY;
-        AfxGetThread()->ProcessWndProcException(exception, &message);
-        exception->Delete();
-        return true;
-    }
-}
 
 } // namespace afxdetail

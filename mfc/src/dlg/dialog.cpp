@@ -4,6 +4,7 @@
 
 #include "../wnd/wndflags.h"
 #include "dialoginit.h"
+#include "dialogmessages.h"
 #include "dialogresource.h"
 
 #include <detail/help.h>
@@ -24,11 +25,7 @@ BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_MESSAGE(WM_HELPHITTEST, &CDialog::OnHelpHitTest)
 END_MESSAGE_MAP()
 
-namespace
-{
-
-/// The system's dialog procedure: everything but the initialisation is done by the message map.
-INT_PTR CALLBACK dialogProcedure(HWND wnd, UINT message, WPARAM, LPARAM)
+INT_PTR CALLBACK afxdetail::dialogProcedure(HWND wnd, UINT message, WPARAM, LPARAM)
 {
     if (message != WM_INITDIALOG)
         return FALSE;
@@ -39,10 +36,13 @@ INT_PTR CALLBACK dialogProcedure(HWND wnd, UINT message, WPARAM, LPARAM)
         return dialog->OnInitDialog();
     } catch (...) {
         // Raised again by HandleInitDialog, inside the dialog's own message dispatch.
-        afxdetail::storePendingException();
+        storePendingException();
         return FALSE;
     }
 }
+
+namespace
+{
 
 UINT helpIdOf(LPCTSTR templateName)
 {
@@ -161,7 +161,8 @@ HWND CDialog::createWindow(LPCDLGTEMPLATE dialogTemplate, HWND owner, HINSTANCE 
     m_placeLeftOpen = head.leavesPlaceOpen();
     afxdetail::CallOut creation;
     AfxHookWindowCreate(this);
-    const HWND wnd = ::CreateDialogIndirectParamW(instance, dialogTemplate, owner, &dialogProcedure, 0);
+    const HWND wnd =
+        ::CreateDialogIndirectParamW(instance, dialogTemplate, owner, &afxdetail::dialogProcedure, 0);
     if (AfxUnhookWindowCreate())
         PostNcDestroy(); // no window came to be, so no message ended it
     const bool complete = ::IsWindow(wnd) && !creation.failed();
@@ -229,15 +230,18 @@ void CDialog::OnCancel()
 
 BOOL CDialog::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info)
 {
-    if (CWnd::OnCmdMsg(id, code, extra, info))
-        return TRUE;
+    return CWnd::OnCmdMsg(id, code, extra, info) || afxdetail::routeFromDialog(*this, id, code, extra, info);
+}
+
+bool afxdetail::routeFromDialog(const CWnd& dialog, UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info)
+{
     // Only commands that a whole program may know go further, not the notifications of the dialog's controls.
     const bool routed = code == CN_COMMAND || static_cast<UINT>(code) == CN_UPDATE_COMMAND_UI;
     if (!routed || id < 0x8000 || id >= 0xF000)
-        return FALSE;
-    CWnd* owner = GetParent();
+        return false;
+    CWnd* owner = dialog.GetParent();
     if (owner && owner->OnCmdMsg(id, code, extra, info))
-        return TRUE;
+        return true;
     CWinThread* thread = AfxGetThread();
     return thread && thread->OnCmdMsg(id, code, extra, info);
 }

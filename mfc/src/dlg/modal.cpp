@@ -3,57 +3,11 @@
 
 #include "../wnd/wndflags.h"
 #include "dialogresource.h"
+#include "lockedowner.h"
 
 #include <detail/pending.h>
 
-#include <utility>
-
-namespace
-{
-
-/// What a modal dialog locks while it lives: its owner, and, if that belongs to a frame, the frame and its
-/// windows.
-class LockedOwner
-{
-public:
-    explicit LockedOwner(HWND owner)
-        : m_frame(frameOf(owner))
-    {
-        if (m_frame)
-            m_frame->BeginModalState();
-        if (owner && owner != ::GetDesktopWindow() && ::IsWindowEnabled(owner)) {
-            ::EnableWindow(owner, FALSE);
-            m_owner = owner;
-        }
-    }
-    ~LockedOwner() { unlock(); }
-    LockedOwner(const LockedOwner&) = delete;
-    LockedOwner& operator=(const LockedOwner&) = delete;
-
-    void unlock()
-    {
-        if (m_owner)
-            ::EnableWindow(std::exchange(m_owner, nullptr), TRUE);
-        // The frame may have been destroyed meanwhile, by a command of the dialog.
-        if (m_frame && CWnd::FromHandlePermanent(m_frameWnd) == m_frame)
-            m_frame->EndModalState();
-        m_frame = nullptr;
-    }
-
-private:
-    CFrameWnd* frameOf(HWND owner)
-    {
-        CFrameWnd* frame = owner ? CWnd::FromHandle(owner)->GetTopLevelFrame() : nullptr;
-        m_frameWnd = frame->GetSafeHwnd();
-        return frame;
-    }
-
-    HWND m_owner = nullptr;
-    HWND m_frameWnd = nullptr;
-    CFrameWnd* m_frame;
-};
-
-} // namespace
+using afxdetail::LockedOwner;
 
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* dialogInit)
 {

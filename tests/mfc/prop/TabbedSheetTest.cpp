@@ -1,0 +1,503 @@
+// A property sheet with tabs: its pages, its buttons, its results.
+#include "SheetScene.h"
+
+#include "support/GdiCounter.h"
+#include "support/TestApp.h"
+#include "support/WindowCounter.h"
+
+using namespace ovotest;
+
+namespace
+{
+
+class TabbedSheet : public SheetScene
+{
+protected:
+    std::wstring tabText(int index)
+    {
+        wchar_t text[80]{};
+        TCITEM item{};
+        item.mask = TCIF_TEXT;
+        item.pszText = text;
+        item.cchTextMax = 80;
+        sheet.GetTabControl()->GetItem(index, &item);
+        return text;
+    }
+
+    static std::wstring titleOf(const CWnd& wnd)
+    {
+        CString text;
+        wnd.GetWindowText(text);
+        return std::wstring(text);
+    }
+};
+
+} // namespace
+
+// Pages
+
+TEST_F(TabbedSheet, ShowsATabForEachPageAndTheFirstPage)
+{
+    show([this](Story story) {
+        return story
+            .then([this] {
+                EXPECT_EQ(titleOf(sheet), L"Trees");
+                ASSERT_EQ(sheet.GetTabControl()->GetItemCount(), 3);
+                EXPECT_EQ(tabText(0), L"General") << "the template's title";
+                EXPECT_EQ(tabText(1), L"Colours") << "the caption given";
+                EXPECT_EQ(tabText(2), L"Lists");
+                EXPECT_TRUE(general.IsWindowVisible());
+                EXPECT_FALSE(colours.m_hWnd) << "made when the user comes to it";
+                EXPECT_EQ(general.GetParent(), &sheet);
+                EXPECT_EQ(sheet.GetActivePage(), &general);
+                EXPECT_EQ(general.GetDlgItemInt(IDC_NUMBER), 7u);
+            })
+            .key(VK_ESCAPE);
+    });
+    EXPECT_FALSE(general.m_hWnd);
+}
+
+TEST_F(TabbedSheet, AClickOnATabExchangesDataAndGoesThere)
+{
+    show([this](Story story) {
+        return story.then([this] { general.SetDlgItemInt(IDC_NUMBER, 42); })
+            .click(tab(1))
+            .waitFor("the second page", [this] { return colours.m_hWnd && colours.IsWindowVisible(); })
+            .then([this] {
+                EXPECT_EQ(general.number, 42);
+                EXPECT_FALSE(general.IsWindowVisible());
+                EXPECT_EQ(sheet.GetActiveIndex(), 1);
+                EXPECT_EQ(taken(), (Calls{"general init", "general active", "general left", "colours init",
+                                          "colours active"}));
+                general.number = 55;
+            })
+            .click(tab(0))
+            .waitFor("the first page", [this] { return general.IsWindowVisible() != FALSE; })
+            .then([this] {
+                EXPECT_EQ(general.GetDlgItemInt(IDC_NUMBER), 55u) << "shown anew";
+                EXPECT_EQ(taken(), (Calls{"colours left", "general active"}));
+            })
+            .key(VK_ESCAPE);
+    });
+}
+
+TEST_F(TabbedSheet, KeysGoFromPageToPage)
+{
+    show([this](Story story) {
+        return story
+            .chordUntil("the second page", VK_CONTROL, VK_TAB,
+                        [this] { return sheet.GetActivePage() == &colours; })
+            .chordUntil("the third page", VK_CONTROL, VK_NEXT,
+                        [this] { return sheet.GetActivePage() == &lists; })
+            .chordUntil("the second page again", VK_CONTROL, VK_PRIOR,
+                        [this] { return sheet.GetActivePage() == &colours; })
+            .key(VK_ESCAPE);
+    });
+}
+
+TEST_F(TabbedSheet, TabMovesThroughPageAndButtons)
+{
+    std::vector<int> met;
+    show([&](Story story) {
+        return story.then([this] { general.GetDlgItem(IDC_NUMBER)->SetFocus(); })
+            .then([&] { met.push_back(::GetDlgCtrlID(::GetFocus())); })
+            .key(VK_TAB)
+            .then([&] { met.push_back(::GetDlgCtrlID(::GetFocus())); })
+            .key(VK_TAB)
+            .then([&] { met.push_back(::GetDlgCtrlID(::GetFocus())); })
+            .key(VK_ESCAPE);
+    });
+    EXPECT_EQ(met, (std::vector<int>{IDC_NUMBER, ID_TEST_ACT, IDOK}));
+}
+
+TEST_F(TabbedSheet, APageThatDoesNotLetGoStays)
+{
+    show([this](Story story) {
+        return story.then([this] { general.SetDlgItemInt(IDC_NUMBER, 4711); })
+            .click(tab(1))
+            .waitFor("the refusal", [] { return TestApp::instance().boxes().size() == 1; })
+            .then([this] {
+                EXPECT_EQ(sheet.GetActivePage(), &general);
+                EXPECT_TRUE(general.IsWindowVisible());
+                EXPECT_FALSE(sheet.SetActivePage(1)) << "nor by code";
+            })
+            .key(VK_ESCAPE);
+    });
+}
+
+TEST_F(TabbedSheet, ThePageShownFirstMayBeChosen)
+{
+    EXPECT_TRUE(sheet.SetActivePage(&colours));
+    EXPECT_EQ(sheet.GetActiveIndex(), 1);
+    EXPECT_EQ(sheet.GetActivePage(), &colours);
+    show([this](Story story) {
+        return story
+            .then([this] {
+                EXPECT_EQ(sheet.GetActivePage(), &colours);
+                EXPECT_FALSE(general.m_hWnd);
+                EXPECT_TRUE(sheet.SetActivePage(2));
+                EXPECT_EQ(sheet.GetActivePage(), &lists);
+                EXPECT_FALSE(sheet.SetActivePage(3));
+                EXPECT_FALSE(sheet.SetActivePage(-1));
+                EXPECT_EQ(sheet.GetActivePage(), &lists);
+            })
+            .key(VK_ESCAPE);
+    });
+}
+
+TEST_F(TabbedSheet, ThePageThatTheConstructorNamesIsShownFirst)
+{
+    TestSheet other(IDS_SHEET, &owner, 1);
+    other.AddPage(&general);
+    other.AddPage(&colours);
+    auto acting = Robot()
+                      .waitFor("the sheet", [&] { return other.m_hWnd && shownDialog() == other.m_hWnd; })
+                      .then([&] {
+                          EXPECT_EQ(titleOf(other), L"Options") << "a string's number";
+                          EXPECT_EQ(other.GetActivePage(), &colours);
+                      })
+                      .key(VK_ESCAPE)
+                      .start();
+    EXPECT_EQ(other.DoModal(), IDCANCEL);
+}
+
+TEST_F(TabbedSheet, APageThatRefusesIsSkipped)
+{
+    colours.answers["active"] = FALSE;
+    show([this](Story story) {
+        return story.click(tab(1))
+            .waitFor("the page behind it", [this] { return sheet.GetActivePage() == &lists; })
+            .key(VK_ESCAPE);
+    });
+}
+
+TEST_F(TabbedSheet, PagesAreAddedAndRemovedWhileItIsShown)
+{
+    TestPage late("late", calls, IDD_GENERAL, IDS_COLOURS);
+    show([&](Story story) {
+        return story
+            .then([&] {
+                sheet.AddPage(&late);
+                EXPECT_EQ(sheet.GetPageCount(), 4);
+                EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 4);
+                EXPECT_EQ(sheet.GetPageIndex(&late), 3);
+                sheet.SetActivePage(&late);
+                EXPECT_TRUE(late.IsWindowVisible());
+                sheet.RemovePage(&late);
+                EXPECT_FALSE(late.m_hWnd) << "its window is destroyed";
+                EXPECT_EQ(sheet.GetPageCount(), 3);
+                EXPECT_EQ(sheet.GetPageIndex(&late), -1);
+                EXPECT_EQ(sheet.GetActivePage(), &lists);
+                sheet.RemovePage(0);
+                EXPECT_EQ(sheet.GetPage(0), &colours);
+                EXPECT_EQ(sheet.GetActivePage(), &lists);
+            })
+            .key(VK_ESCAPE);
+    });
+    EXPECT_EQ(sheet.GetPage(2), nullptr);
+    EXPECT_EQ(sheet.GetPage(-1), nullptr);
+}
+
+TEST_F(TabbedSheet, APageWithoutATemplateIsNoPage)
+{
+    TestPage missing("missing", calls, IDD_MISSING);
+    show([&](Story story) {
+        return story
+            .then([&] {
+                EXPECT_THROW(sheet.AddPage(&missing), CResourceException*);
+                EXPECT_EQ(sheet.GetPageCount(), 3);
+            })
+            .key(VK_ESCAPE);
+    });
+    sheet.AddPage(&missing);
+    EXPECT_EQ(sheet.DoModal(), -1);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_FALSE(sheet.Create(&owner));
+}
+
+// Buttons
+
+TEST_F(TabbedSheet, OkAppliesThePagesThatWereSeen)
+{
+    const INT_PTR answer = show([this](Story story) {
+        return story
+            .then([this] {
+                sheet.SetActivePage(1);
+                colours.SetDlgItemInt(IDC_NUMBER, 33);
+                taken();
+            })
+            .click(button(IDOK));
+    });
+    EXPECT_EQ(answer, IDOK);
+    EXPECT_EQ(taken(), (Calls{"colours left", "general apply", "general ok", "colours apply", "colours ok"}));
+    EXPECT_EQ(colours.number, 33);
+    EXPECT_FALSE(sheet.m_hWnd);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST_F(TabbedSheet, EnterIsOk)
+{
+    EXPECT_EQ(show([this](Story story) {
+                  return story.then([this] { general.GetDlgItem(IDC_NUMBER)->SetFocus(); }).key(VK_RETURN);
+              }),
+              IDOK);
+}
+
+TEST_F(TabbedSheet, ApplyLeavesItOpen)
+{
+    const INT_PTR answer = show([this](Story story) {
+        return story
+            .then([this] {
+                EXPECT_FALSE(isEnabled(ID_APPLY_NOW));
+                general.SetModified();
+                EXPECT_TRUE(isEnabled(ID_APPLY_NOW));
+                general.SetModified(FALSE);
+                EXPECT_FALSE(isEnabled(ID_APPLY_NOW));
+                general.SetModified();
+                general.SetDlgItemInt(IDC_NUMBER, 12);
+                taken();
+            })
+            .click(button(ID_APPLY_NOW))
+            .waitFor("the end of it", [this] { return !isEnabled(ID_APPLY_NOW); })
+            .then([this] {
+                EXPECT_EQ(general.number, 12);
+                const Calls all = taken();
+                EXPECT_EQ(Calls(all.begin(), all.begin() + 3),
+                          (Calls{"general left", "general apply", "general ok"}));
+            })
+            .key(VK_ESCAPE);
+    });
+    EXPECT_EQ(answer, IDCANCEL);
+    EXPECT_EQ(general.number, 12);
+}
+
+TEST_F(TabbedSheet, ApplyStaysEnabledWhileOnePageHasChanges)
+{
+    show([this](Story story) {
+        return story
+            .then([this] {
+                sheet.SetActivePage(1);
+                general.SetModified();
+                colours.SetModified();
+                colours.SetModified(FALSE);
+                EXPECT_TRUE(isEnabled(ID_APPLY_NOW));
+                general.SetModified(FALSE);
+                EXPECT_FALSE(isEnabled(ID_APPLY_NOW));
+            })
+            .key(VK_ESCAPE);
+    });
+}
+
+TEST_F(TabbedSheet, APageMayRefuseOkAndIsShown)
+{
+    general.answers["apply"] = FALSE;
+    const INT_PTR answer = show([this](Story story) {
+        return story.then([this] { sheet.SetActivePage(1); })
+            .click(button(IDOK))
+            .waitFor("the page that refuses", [this] { return sheet.GetActivePage() == &general; })
+            .then([this] { general.answers.clear(); })
+            .click(button(IDOK));
+    });
+    EXPECT_EQ(answer, IDOK);
+}
+
+TEST_F(TabbedSheet, CancelEscapeAndTheCloseBoxResetThePages)
+{
+    const std::vector<std::function<void()>> ways{[this] { sheet.PressButton(PSBTN_CANCEL); },
+                                                  [this] { sheet.PostMessage(WM_CLOSE); },
+                                                  [this] { sheet.PostMessage(WM_SYSCOMMAND, SC_CLOSE); },
+                                                  [this] { sheet.PostMessage(WM_COMMAND, IDCANCEL); }};
+    for (std::size_t i = 0; i < ways.size(); ++i) {
+        const INT_PTR answer = show([&](Story story) {
+            return story.then([&] {
+                sheet.SetActivePage(1);
+                taken();
+                ways[i]();
+            });
+        });
+        EXPECT_EQ(answer, IDCANCEL) << i;
+        EXPECT_EQ(taken(), (Calls{"colours query cancel", "general reset", "general cancel", "colours reset",
+                                  "colours cancel"}))
+            << i;
+    }
+    EXPECT_EQ(show([](Story story) { return story.key(VK_ESCAPE); }), IDCANCEL);
+}
+
+TEST_F(TabbedSheet, CancelMayBeRefused)
+{
+    general.answers["query cancel"] = FALSE;
+    show([this](Story story) {
+        return story.then([this] { taken(); })
+            .key(VK_ESCAPE)
+            .waitFor("the question", [this] { return !calls.empty(); })
+            .then([this] {
+                EXPECT_EQ(taken(), Calls{"general query cancel"});
+                EXPECT_TRUE(sheet.m_hWnd && sheet.IsWindowVisible());
+                general.answers.clear();
+            })
+            .key(VK_ESCAPE);
+    });
+}
+
+TEST_F(TabbedSheet, ButtonsArePressedByCode)
+{
+    EXPECT_EQ(show([this](Story story) {
+                  return story
+                      .then([this] {
+                          general.SetModified();
+                          sheet.PressButton(PSBTN_APPLYNOW);
+                      })
+                      .waitFor("the end of it", [this] { return !isEnabled(ID_APPLY_NOW); })
+                      .then([this] { sheet.PressButton(PSBTN_OK); });
+              }),
+              IDOK);
+}
+
+TEST_F(TabbedSheet, CancelBecomesClose)
+{
+    show([this](Story story) {
+        return story
+            .then([this] {
+                const std::wstring ok = textOf(IDOK);
+                general.CancelToClose();
+                EXPECT_FALSE(isEnabled(IDCANCEL));
+                EXPECT_NE(textOf(IDOK), ok);
+            })
+            .click(button(IDOK));
+    });
+}
+
+TEST_F(TabbedSheet, EndDialogGivesItsResult)
+{
+    general.onAct = [this] {
+        sheet.EndDialog(77);
+        EXPECT_TRUE(sheet.m_hWnd) << "the window outlives the handler";
+    };
+    EXPECT_EQ(show([this](Story story) {
+                  return story.click(Spot{[this] { return general.GetDlgItem(ID_TEST_ACT)->m_hWnd; }});
+              }),
+              77);
+}
+
+TEST_F(TabbedSheet, EndedInItsInitialisationIsNeverShown)
+{
+    sheet.onInit = [](TestSheet& s) { s.EndDialog(78); };
+    EXPECT_EQ(sheet.DoModal(), 78);
+    EXPECT_EQ(sheet.shown, 0);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST_F(TabbedSheet, DestroyedInsteadOfClosedGivesMinusOne)
+{
+    general.onAct = [this] { sheet.DestroyWindow(); };
+    EXPECT_EQ(show([this](Story story) {
+                  return story.then([this] { general.PostMessage(WM_COMMAND, ID_TEST_ACT); });
+              }),
+              -1);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+// The sheet as a whole
+
+TEST_F(TabbedSheet, DisablesItsOwnerAndIsCentredOnIt)
+{
+    show([this](Story story) {
+        return story
+            .then([this] {
+                EXPECT_FALSE(owner.IsWindowEnabled());
+                EXPECT_EQ(::GetWindow(sheet, GW_OWNER), owner.m_hWnd);
+                CRect place;
+                sheet.GetWindowRect(&place);
+                EXPECT_NEAR(place.CenterPoint().x, 40 + 350, 1);
+                EXPECT_NEAR(place.CenterPoint().y, 30 + 250, 1);
+            })
+            .key(VK_ESCAPE);
+    });
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(sheet.shown, 1);
+}
+
+TEST_F(TabbedSheet, WithoutAParentTheMainWindowOwnsIt)
+{
+    AfxGetApp()->m_pMainWnd = &owner;
+    TestSheet other(L"Other");
+    other.AddPage(&general);
+    HWND itsOwner = nullptr;
+    auto acting = Robot()
+                      .waitFor("the sheet", [&] { return other.m_hWnd && shownDialog() == other.m_hWnd; })
+                      .then([&] { itsOwner = ::GetWindow(other, GW_OWNER); })
+                      .key(VK_ESCAPE)
+                      .start();
+    other.DoModal();
+    AfxGetApp()->m_pMainWnd = nullptr;
+    EXPECT_EQ(itsOwner, owner.m_hWnd);
+}
+
+TEST_F(TabbedSheet, TheTitleMayChange)
+{
+    sheet.SetTitle(L"Oaks");
+    show([this](Story story) {
+        return story
+            .then([this] {
+                EXPECT_EQ(titleOf(sheet), L"Oaks");
+                sheet.SetTitle(L"Elms");
+                EXPECT_EQ(titleOf(sheet), L"Elms");
+                sheet.SetTitle(L"Elms", PSH_PROPTITLE);
+                const std::wstring title = titleOf(sheet);
+                EXPECT_NE(title.find(L"Elms"), std::wstring::npos);
+                EXPECT_GT(title.size(), 4u) << "with the system's word for properties";
+            })
+            .key(VK_ESCAPE);
+    });
+}
+
+TEST_F(TabbedSheet, TabsAreStackedUnlessTheHostWantsOtherwise)
+{
+    for (const BOOL stacked : {TRUE, FALSE}) {
+        sheet.EnableStackedTabs(stacked);
+        show([&](Story story) {
+            return story
+                .then([&] {
+                    EXPECT_EQ((sheet.GetTabControl()->GetStyle() & TCS_MULTILINE) != 0, stacked != FALSE);
+                })
+                .key(VK_ESCAPE);
+        });
+    }
+}
+
+TEST_F(TabbedSheet, DialogUnitsAreThoseOfTheSheet)
+{
+    show([this](Story story) {
+        return story
+            .then([this] {
+                CRect mine(4, 8, 40, 80);
+                CRect systems = mine;
+                sheet.MapDialogRect(&mine);
+                ::MapDialogRect(sheet, &systems);
+                EXPECT_EQ(mine, systems);
+                EXPECT_GT(mine.right, 40);
+            })
+            .key(VK_ESCAPE);
+    });
+}
+
+TEST_F(TabbedSheet, MayBeShownAgainAndLosesNothing)
+{
+    const auto cycle = [this] {
+        show([this](Story story) {
+            return story.then([this] {
+                sheet.SetActivePage(1);
+                sheet.SetActivePage(2);
+                sheet.PressButton(PSBTN_OK);
+            });
+        });
+    };
+    cycle(); // what the platform keeps for itself
+    cycle();
+    const WindowCounter windows;
+    const GdiCounter gdi;
+    for (int i = 0; i < 20; ++i)
+        cycle();
+    EXPECT_EQ(windows.grown(), 0);
+    EXPECT_LE(gdi.grown(), 0);
+}
