@@ -17,6 +17,7 @@ endif()
 
 target_sources(ovoui PRIVATE
   ${frame_core}
+  ${CMAKE_CURRENT_LIST_DIR}/Accessible.cpp
   ${CMAKE_CURRENT_LIST_DIR}/BufferedPaint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ClipboardText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Geometry.cpp
@@ -30,3 +31,4 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/TabKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ThemeData.cpp)
 include(${CMAKE_CURRENT_LIST_DIR}/icons.cmake)
+target_link_libraries(ovoui PRIVATE oleacc oleaut32)

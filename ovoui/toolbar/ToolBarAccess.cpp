@@ -6,23 +6,6 @@
 
 using namespace ovoui::toolbar;
 
-namespace
-{
-
-std::wstring titleOf(const CWnd& wnd)
-{
-    CString title;
-    wnd.GetWindowText(title);
-    return title.GetString();
-}
-
-bool asksForContents(LPARAM lParam)
-{
-    return static_cast<LONG>(static_cast<DWORD>(lParam)) == OBJID_CLIENT;
-}
-
-} // namespace
-
 // The bar
 
 void CVantorToolBar::UseAccessibleNames(bool use)
@@ -39,7 +22,7 @@ void CVantorToolBar::announceFocus(int index) const
 /// 0 when the platform answers.
 LRESULT CVantorToolBar::onGetObject(WPARAM wParam, LPARAM lParam)
 {
-    if (!m_state->accessible || !asksForContents(lParam))
+    if (!m_state->accessible || !ovoui::frame::asksForContents(lParam))
         return 0;
 
     class Bar : public AccessibleBar
@@ -49,16 +32,23 @@ LRESULT CVantorToolBar::onGetObject(WPARAM wParam, LPARAM lParam)
             : m_state(std::move(state))
         {
         }
-        CToolBar* bar() const override { return m_state->usable() ? m_state->bar : nullptr; }
-        std::wstring name() const override { return titleOf(*m_state->bar); }
-        std::wstring nameOf(int index) const override { return nameOfButton(*m_state->bar, index); }
-        bool opensFlyout(int index) const override { return m_state->bar->HasFlyout(index); }
-        int focused() const override { return m_state->keyboard.on ? m_state->keyboard.button : -1; }
 
     private:
+        CToolBar* bar() const override { return m_state->usable() ? m_state->bar : nullptr; }
+        std::wstring nameOfButton(int index) const override
+        {
+            return ovoui::toolbar::nameOfButton(*m_state->bar, index);
+        }
+        bool opensFlyout(int index) const override { return m_state->bar->HasFlyout(index); }
+        int focusedButton() const override
+        {
+            const bool at = m_state->keyboard.on && m_state->keyboard.button >= 0;
+            return at ? m_state->keyboard.button : kNone;
+        }
+
         std::shared_ptr<State> m_state;
     };
-    return accessibleObject(wParam, std::make_shared<Bar>(m_state));
+    return ovoui::frame::accessibleAnswer(wParam, std::make_shared<Bar>(m_state));
 }
 
 // The flyout
@@ -77,7 +67,7 @@ void CFlyoutToolbar::announceFocus(int index) const
 
 LRESULT CFlyoutToolbar::onGetObject(WPARAM wParam, LPARAM lParam)
 {
-    if (!m_accessible || !asksForContents(lParam))
+    if (!m_accessible || !ovoui::frame::asksForContents(lParam))
         return 0;
 
     class Flyout : public AccessibleBar
@@ -87,18 +77,22 @@ LRESULT CFlyoutToolbar::onGetObject(WPARAM wParam, LPARAM lParam)
             : m_flyout(flyout)
         {
         }
+
+    private:
         CToolBar* bar() const override
         {
             const std::shared_ptr<CFlyoutToolbar> flyout = m_flyout.lock();
             return flyout && flyout->m_hWnd ? flyout.get() : nullptr;
         }
-        std::wstring name() const override { return titleOf(*bar()); }
-        std::wstring nameOf(int index) const override { return m_flyout.lock()->nameOf(index); }
+        std::wstring nameOfButton(int index) const override { return m_flyout.lock()->nameOf(index); }
         bool opensFlyout(int) const override { return false; }
-        int focused() const override { return m_flyout.lock()->hotIndex(); }
+        int focusedButton() const override
+        {
+            const int hot = m_flyout.lock()->hotIndex();
+            return hot >= 0 ? hot : kNone;
+        }
 
-    private:
         std::weak_ptr<CFlyoutToolbar> m_flyout;
     };
-    return accessibleObject(wParam, std::make_shared<Flyout>(shared_from_this()));
+    return ovoui::frame::accessibleAnswer(wParam, std::make_shared<Flyout>(shared_from_this()));
 }

@@ -37,4 +37,3 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarStrips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/VantorToolBar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/VantorToolWnd.cpp)
-target_link_libraries(ovoui PRIVATE oleacc)
