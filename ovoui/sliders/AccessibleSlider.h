@@ -1,28 +1,35 @@
 /// Not exported. Sliders as accessibility sees them.
 #pragma once
 
-#include <windows.h>
+#include <ovoui/frame/Accessible.h>
+#include <ovoui/frame/Lifeline.h>
 
 #include <functional>
-#include <memory>
 #include <string>
 
 namespace ovoui::sliders
 {
 
-/// What is to be told about a slider. The slider empties `window` when it goes; nothing else is asked then.
-struct SliderIdentity
+/// A control with the role of a slider, without parts.
+class AccessibleSlider : public frame::Accessible
 {
-    HWND window = nullptr;
-    std::function<std::wstring()> name;
-    std::function<std::wstring()> value;
+public:
+    using Text = std::function<std::wstring()>;
+
+    /// `life` is that of `slider`. The texts are asked for while the slider has a window.
+    AccessibleSlider(const CWnd& slider, const Lifeline& life, Text name, Text value);
+
+    HWND window() const override;
+    LONG role(int part) const override;
+    std::wstring name(int part) const override;
+    std::wstring value(int part) const override;
+
+private:
+    const CWnd& m_slider;
+    const Lifeline::Watch m_watch;
+    const Text m_name;
+    const Text m_value;
 };
-
-/// The answer to WM_GETOBJECT for the client area: an object with the role of a slider, which outlives it.
-LRESULT accessibleSlider(WPARAM wParam, std::shared_ptr<SliderIdentity> slider);
-
-/// Tells accessibility that the value has changed.
-void announceValue(HWND slider);
 
 /// The text of the label in front of a control, without its mnemonic and colon; empty without one.
 std::wstring labelBefore(HWND control);

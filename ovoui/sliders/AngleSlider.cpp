@@ -1,7 +1,6 @@
 #include <ovoui/sliders/AngleSlider.h>
 
 #include <ovoui/frame/BufferedPaint.h>
-#include <ovoui/sliders/AccessibleSlider.h>
 #include <ovoui/sliders/AngleSliderOptions.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
 #include <ovoui/sliders/core/CylinderPicture.h>
@@ -24,7 +23,6 @@ BEGIN_MESSAGE_MAP(CAngleSlider, CWnd)
     ON_WM_ERASEBKGND()
     ON_WM_SIZE()
     ON_WM_ENABLE()
-    ON_WM_DESTROY()
     ON_MESSAGE(WM_GETOBJECT, &CAngleSlider::OnGetObject)
 END_MESSAGE_MAP()
 
@@ -59,15 +57,11 @@ CAngleSlider::CAngleSlider(Axis axis, Turn turn, bool reversed)
     , m_axis(axis)
     , m_reversed(reversed)
     , m_options(std::make_unique<Options>())
-    , m_identity(std::make_shared<SliderIdentity>())
 {
     m_drag->limitBy([this](double degrees) { return limited(degrees); });
 }
 
-CAngleSlider::~CAngleSlider()
-{
-    m_identity->window = nullptr;
-}
+CAngleSlider::~CAngleSlider() = default;
 
 BOOL CAngleSlider::createNamed(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
@@ -84,10 +78,9 @@ double CAngleSlider::GetPos() const
 void CAngleSlider::SetPos(double degrees)
 {
     m_drag->setPosition(degrees);
-    if (!m_hWnd)
-        return;
-    Invalidate();
-    announceValue(m_hWnd);
+    if (m_hWnd)
+        Invalidate();
+    announceValue();
 }
 
 // Mouse
@@ -115,7 +108,7 @@ void CAngleSlider::OnMouseMove(UINT, CPoint point)
         return;
     m_drag->track(*angle);
     Invalidate(FALSE);
-    announceValue(m_hWnd);
+    announceValue();
 }
 
 void CAngleSlider::OnLButtonUp(UINT, CPoint point)
@@ -123,8 +116,8 @@ void CAngleSlider::OnLButtonUp(UINT, CPoint point)
     const bool dragging = m_drag->dragging();
     m_drag->cancel(); // so that losing the capture does not count as an interruption
     ::ReleaseCapture();
-    if (dragging)
-        tellParent(SB_THUMBPOSITION, m_drag->release(angleAt(point, false), snapNow()));
+    if (dragging && tellParent(SB_THUMBPOSITION, m_drag->release(angleAt(point, false), snapNow())))
+        announceValue();
 }
 
 void CAngleSlider::OnCaptureChanged(CWnd* wnd)
@@ -132,6 +125,7 @@ void CAngleSlider::OnCaptureChanged(CWnd* wnd)
     if (m_drag->dragging()) {
         m_drag->cancel();
         Invalidate(FALSE); // the committed angle shows again
+        announceValue();
     }
     CWnd::OnCaptureChanged(wnd);
 }

@@ -11,7 +11,6 @@
 namespace ovoui::sliders
 {
 class CylinderDrag;
-struct SliderIdentity;
 enum class Turn;
 } // namespace ovoui::sliders
 
@@ -70,7 +69,6 @@ protected:
 
     afx_msg void OnCaptureChanged(CWnd* wnd);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
-    afx_msg void OnDestroy();
     afx_msg void OnEnable(BOOL enable);
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg UINT OnGetDlgCode();
@@ -96,6 +94,8 @@ private:
     bool tellParent(UINT code, double degrees);
     void turnTo(double degrees);
     double snapNow() const;
+    void announceValue();
+    long roundedAngle() const;
     bool showsFocus() const;
 
     struct Options;
@@ -104,6 +104,5 @@ private:
     const Axis m_axis;
     const bool m_reversed;
     std::unique_ptr<Options> m_options;
-    std::shared_ptr<ovoui::sliders::SliderIdentity> m_identity;
     Lifeline m_lifeline;
 };

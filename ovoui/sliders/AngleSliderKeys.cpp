@@ -6,11 +6,10 @@
 #include <ovoui/sliders/core/AngleKeys.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
 
-#include <oleacc.h>
-
 #include <cmath>
 #include <optional>
 #include <string>
+#include <utility>
 
 using namespace ovoui::sliders;
 
@@ -79,7 +78,7 @@ void CAngleSlider::turnTo(double degrees)
     if (m_drag->position() == before)
         return;
     Invalidate(FALSE);
-    announceValue(m_hWnd);
+    announceValue();
     tellParent(SB_THUMBPOSITION, m_drag->position());
 }
 
@@ -117,11 +116,8 @@ BOOL CAngleSlider::OnMouseWheel(UINT flags, short delta, CPoint point)
 {
     if (!m_options->keyboard || m_drag->dragging())
         return CWnd::OnMouseWheel(flags, delta, point);
-    m_options->wheelRest += delta;
-    const int notches = m_options->wheelRest / WHEEL_DELTA;
-    m_options->wheelRest %= WHEEL_DELTA;
     const double step = angleAfter(AngleKey::More, isHeld(VK_CONTROL), 0);
-    if (notches != 0)
+    if (const int notches = m_options->wheel.turned(delta); notches != 0)
         turnTo(m_drag->position() + notches * step);
     return TRUE;
 }
@@ -140,18 +136,27 @@ void CAngleSlider::OnKillFocus(CWnd* other)
         Invalidate(FALSE);
 }
 
-void CAngleSlider::OnDestroy()
-{
-    m_identity->window = nullptr;
-    CWnd::OnDestroy();
-}
+// Accessibility
 
 LRESULT CAngleSlider::OnGetObject(WPARAM wParam, LPARAM lParam)
 {
-    if (static_cast<LONG>(lParam) != OBJID_CLIENT)
+    if (!ovoui::frame::asksForContents(lParam))
         return Default();
-    m_identity->window = m_hWnd;
-    m_identity->name = [this] { return labelBefore(m_hWnd); };
-    m_identity->value = [this] { return std::to_wstring(std::lround(m_drag->shown())); };
-    return accessibleSlider(wParam, m_identity);
+    const auto name = [this] { return labelBefore(m_hWnd); };
+    const auto value = [this] { return std::to_wstring(roundedAngle()); };
+    return ovoui::frame::accessibleAnswer(wParam,
+                                          std::make_shared<AccessibleSlider>(*this, m_lifeline, name, value));
+}
+
+long CAngleSlider::roundedAngle() const
+{
+    return std::lround(m_drag->shown());
+}
+
+/// Tells accessibility when the value that it would read has changed since it was told last.
+void CAngleSlider::announceValue()
+{
+    const long before = std::exchange(m_options->announced, roundedAngle());
+    if (m_hWnd && m_options->announced != before)
+        ovoui::frame::announce(EVENT_OBJECT_VALUECHANGE, m_hWnd);
 }

@@ -3,11 +3,13 @@
 
 #include <ovoui/sliders/AngleEdit.h>
 #include <ovoui/sliders/AngleSlider.h>
+#include <ovoui/sliders/core/WheelNotches.h>
 
 struct CAngleSlider::Options
 {
     bool keyboard = false;
     double snap = 0; ///< degrees; while Shift is held
-    int wheelRest = 0;
+    ovoui::sliders::WheelNotches wheel;
     ovoui::sliders::AngleEdit edit;
+    long announced = 0; ///< the angle that accessibility was told of last
 };

@@ -25,14 +25,6 @@
 #include <utility>
 #include <vector>
 
-class PopupWatcher;
-
-namespace ovoui::sliders
-{
-struct SliderIdentity;
-struct SliderNumbers;
-} // namespace ovoui::sliders
-
 /// The buddy's parent is sent kValueChanged whenever the slider has rewritten the buddy's text, and kReleased
 /// when the button is released, after the buddy got the focus; wParam is the buddy, lParam 0. It may destroy
 /// the button or the buddy in both, and so may the operations of SliderButtonUtils.
@@ -67,7 +59,7 @@ public:
     /// The slider's range in pages, which is what a click beside the thumb moves it by; 10 at first, never 0.
     void SetPages(int pages);
 
-    HWND Buddy() const { return m_buddy; }
+    HWND Buddy() const;
 
     /// The number that the buddy shows; none when its text does not begin with one.
     std::optional<double> Number() const;
@@ -124,62 +116,44 @@ protected:
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg void OnPaint();
     afx_msg void OnSetFocus(CWnd* other);
+    afx_msg void OnSize(UINT type, int width, int height);
     afx_msg LRESULT OnUnpress(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
+    struct Parts;
+
+    // popup
     void ShowPopup(const CPoint& at);
     void HidePopup();
-    void SetSliderPos();
     void placePopup(const CPoint& at);
-    void SetPressed(bool pressed);
-    bool press(const CPoint& at);
     void dismiss();
-    void dragTo(int x);
-    void enterTip();
-    bool takesKey(const MSG& message);
-    CPoint middle() const;
     void dismissFor(HWND pressed);
-    CString buddyText() const;
-    void setBuddyText(LPCTSTR text);
-    bool tellParent(UINT message);
-    ovoui::sliders::SliderNumbers numbers() const;
-    bool machineText(std::wstring& text) const;
-    bool showText(const std::wstring& machine);
-    void stepBy(double steps);
-    void turnWheel(int delta);
-    void hearBuddyWheel();
-    void showTicks(const ovoui::sliders::SliderNumbers& numbers);
+    void showTicks();
     void updateBubble();
 
-    struct Options;
+    // pressed and released
+    void SetPressed(bool pressed);
+    bool press(const CPoint& at);
+    CPoint middle() const;
+
+    // number
+    void SetSliderPos();
+    const std::wstring& readBuddy() const;
+    bool machineText(std::wstring& text) const;
+    std::optional<std::wstring> displayed(const std::wstring& machine) const;
+    bool showText(const std::wstring& machine);
+    void setBuddyText(const std::wstring& text);
+    void stepBy(double steps);
+    bool tellParent(UINT message);
+
+    // input
+    void enterTip();
+    bool takesKey(const MSG& message);
+    void turnWheel(int delta);
+    void hearBuddyWheel();
 
     CPopupSlider m_popup;
-    HWND m_buddy = nullptr;
-    bool m_pressed = false;
-    CRect m_popupRect; // the popup's client area, in client coordinates of the button
-    bool m_dragging = false;
-    bool m_tracking = false;
-    CPoint m_pressPoint;
-    int m_thumbOffset = 0; // from the press to the thumb
-    int m_channelLeft = 0; // in client coordinates of the button
-    int m_channelRight = 0;
-    int m_minimum = 0;
-    int m_maximum = 0;
-    SliderType m_type = SliderInteger;
-    int m_low = 0;
-    int m_high = 100;
-    double m_realLow = 1.0;
-    double m_realHigh = 100.0;
-    int m_decimals = 2;
-    int m_pages = 10;
-    bool m_tipShown = false;
-    bool m_noTip = false;
-    CString m_tip;
-    SliderButtonUtils& m_utils;
-    CString m_textBefore;                    // what the buddy showed when the popup opened
-    std::unique_ptr<PopupWatcher> m_watcher; // while the popup is open
-    std::unique_ptr<Options> m_options;
-    std::shared_ptr<ovoui::sliders::SliderIdentity> m_identity;
+    std::unique_ptr<Parts> m_parts;
     Lifeline m_lifeline;
 };

@@ -1,6 +1,7 @@
 # Sliders: the slider button with its popup, the round and the wheel slider, decimal signs and list separators.
 set(sliders_core
   ${CMAKE_CURRENT_LIST_DIR}/core/AngleKeys.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ButtonKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/CylinderDrag.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/CylinderPicture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/DialPicture.cpp
@@ -25,7 +26,9 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/AngleEdit.cpp
   ${CMAKE_CURRENT_LIST_DIR}/AngleSlider.cpp
   ${CMAKE_CURRENT_LIST_DIR}/AngleSliderKeys.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Buddy.cpp
   ${CMAKE_CURRENT_LIST_DIR}/BuddyWheel.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/DialSlider.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PopupSlider.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PopupSliderCtrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PopupWatcher.cpp
@@ -34,9 +37,10 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/SliderBubble.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SliderButton.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SliderButtonFace.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SliderButtonInput.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SliderButtonNumber.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SliderButtonPopup.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SliderData.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/DialSlider.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SliderTip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UnitNumbers.cpp
   ${CMAKE_CURRENT_LIST_DIR}/WheelSlider.cpp)
-target_link_libraries(ovoui PRIVATE oleacc)

@@ -1,15 +1,16 @@
 // The angle sliders by keyboard and wheel, snapping, typing, and what accessibility sees.
+#include "support/AccessibleView.h"
 #include "support/Desktop.h"
 #include "support/Picture.h"
 #include "support/RecordingParent.h"
 #include "support/Robot.h"
+#include "support/WinEvents.h"
 
+#include <ovoui/sliders/DialSlider.h>
 #include <ovoui/sliders/RoundSlider.h>
 #include <ovoui/sliders/WheelSlider.h>
 
 #include <gtest/gtest.h>
-
-#include <oleacc.h>
 
 #include <memory>
 
@@ -174,20 +175,61 @@ TEST_F(AngleSliderKeys, TheParentMayDestroyItInEveryMessage)
 TEST_F(AngleSliderKeys, AccessibilitySeesASliderWithItsAngle)
 {
     round->SetPos(33);
-    IAccessible* object = nullptr;
-    ASSERT_EQ(::AccessibleObjectFromWindow(*round, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
-                                           reinterpret_cast<void**>(&object)),
-              S_OK);
-    VARIANT self{};
-    self.vt = VT_I4;
-    VARIANT role{};
-    EXPECT_EQ(object->get_accRole(self, &role), S_OK);
-    EXPECT_EQ(role.lVal, ROLE_SYSTEM_SLIDER);
-    BSTR text = nullptr;
-    EXPECT_EQ(object->get_accValue(self, &text), S_OK);
-    EXPECT_STREQ(text, L"33");
-    ::SysFreeString(text);
+    const AccessibleView seen(*round);
+    EXPECT_EQ(seen.role(), ROLE_SYSTEM_SLIDER);
+    EXPECT_EQ(seen.value(), L"33");
     round->DestroyWindow();
-    EXPECT_EQ(object->get_accValue(self, &text), CO_E_OBJNOTCONNECTED);
-    object->Release();
+    BSTR text = nullptr;
+    EXPECT_EQ(seen->get_accValue(AccessibleView::numbered(CHILDID_SELF), &text), CO_E_OBJNOTCONNECTED);
+}
+
+TEST_F(AngleSliderKeys, TheLabelInFrontIsTheName)
+{
+    CStatic label;
+    label.Create(L"&Heading:", WS_CHILD | WS_VISIBLE, CRect(10, 60, 60, 80), &parent, 7);
+    CRoundSlider labelled(false);
+    labelled.Create(WS_CHILD | WS_VISIBLE, CRect(70, 60, 200, 80), &parent, 8);
+    labelled.SetWindowPos(&label, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    EXPECT_EQ(AccessibleView(labelled).name(), L"Heading");
+    EXPECT_EQ(AccessibleView(*wheel).name(), L"") << "behind another slider";
+}
+
+TEST_F(AngleSliderKeys, AccessibilityHearsOfEveryChangeOfTheAngle)
+{
+    const auto dial = std::make_unique<CDialSlider>();
+    dial->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(10, 60, 111, 161), &parent, 7);
+    dial->UseKeyboard(true);
+    for (CAngleSlider* slider :
+         {static_cast<CAngleSlider*>(round.get()), static_cast<CAngleSlider*>(wheel.get()),
+          static_cast<CAngleSlider*>(dial.get())}) {
+        parent.react = nullptr;
+        WinEvents changes(EVENT_OBJECT_VALUECHANGE);
+        slider->SetPos(0);
+        EXPECT_EQ(changes.of(*slider), 0) << "nothing has changed";
+        slider->SetPos(20);
+        EXPECT_EQ(changes.of(*slider), 1);
+        slider->SetPos(20.4);
+        EXPECT_EQ(changes.of(*slider), 1) << "it is still read as 20";
+        slider->SetFocus();
+        user.key(VK_RIGHT);
+        EXPECT_EQ(changes.of(*slider), 2);
+        user.key(VK_HOME).key(VK_HOME);
+        EXPECT_EQ(changes.of(*slider), 3) << "the second time nothing changes";
+
+        changes.forget();
+        CRect client;
+        slider->GetClientRect(&client);
+        const CPoint from(client.Width() / 2, client.Height() / 4);
+        const auto send = [&](UINT message, CPoint at) {
+            slider->SendMessage(message, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+        };
+        send(WM_LBUTTONDOWN, from);
+        EXPECT_EQ(changes.of(*slider), 0) << "a press turns nothing";
+        send(WM_MOUSEMOVE, from - CPoint(8, 8));
+        EXPECT_EQ(changes.of(*slider), 1);
+        send(WM_MOUSEMOVE, from - CPoint(8, 8));
+        EXPECT_EQ(changes.of(*slider), 1) << "the pointer is where it was";
+        ::ReleaseCapture();
+        EXPECT_EQ(changes.of(*slider), 2) << "the angle from before shows again";
+    }
 }

@@ -246,10 +246,35 @@ TEST_F(AngleSlider, LosingTheCaptureEndsTheDragWithoutAWord)
 TEST_F(AngleSlider, SetPosDuringADragShowsWhenTheDragIsOver)
 {
     user.press(onRound(100)).moveBy(-50, 0).then([&] {
+        const Picture dragged = Picture::ofClient(*round);
         round->SetPos(200);
+        EXPECT_EQ(Picture::ofClient(*round).differences(dragged), 0) << "the drag's angle is shown";
+        EXPECT_EQ(round->GetPos(), 200);
         ::ReleaseCapture();
+        EXPECT_GT(Picture::ofClient(*round).differences(dragged), 0);
     });
     EXPECT_EQ(round->GetPos(), 200);
+
+    user.press(onRound(100)).then([&] { round->SetPos(10); }).moveBy(-50, 0).release();
+    EXPECT_NEAR(round->GetPos(), 230, 1e-9) << "the drag goes on from where it began";
+}
+
+TEST_F(AngleSlider, DisabledTheyHearNothing)
+{
+    round->EnableWindow(FALSE);
+    wheel->EnableWindow(FALSE);
+    user.drag(onRound(100), onRound(50)).click(onRound(50)).drag(onWheel(100), onWheel(50));
+    EXPECT_TRUE(parent.told.empty());
+    EXPECT_EQ(round->GetPos(), 0);
+    EXPECT_EQ(wheel->GetPos(), 0);
+}
+
+TEST_F(AngleSlider, AParentThatSetsNothingKeepsWhatTheUserTurned)
+{
+    user.drag(onRound(100), onRound(50));
+    EXPECT_NEAR(round->GetPos(), 30, 1e-9);
+    user.drag(onRound(100), onRound(50));
+    EXPECT_NEAR(round->GetPos(), 60, 1e-9) << "the next drag goes on from there";
 }
 
 TEST_F(AngleSlider, TheParentSetsWhatItAccepts)
@@ -358,6 +383,7 @@ TEST_F(AngleSlider, ADisabledOneIsGreyWithoutANumber)
     round->SetPos(12);
     round->EnableWindow(FALSE);
     const Picture picture = Picture::ofClient(round->m_hWnd);
+    EXPECT_EQ(picture.count(::GetSysColor(COLOR_WINDOW), 0, CRect(3, 3, 201, 37)), 0) << "no bright bands";
     EXPECT_EQ(picture.count(::GetSysColor(COLOR_WINDOWTEXT), 0, CRect(80, 8, 124, 32)), 0);
     round->EnableWindow();
     EXPECT_GT(Picture::ofClient(round->m_hWnd).differences(picture), 0);
@@ -392,6 +418,56 @@ TEST_F(AngleSlider, ItIsLightInTheMiddleAndDarkAtTheEdges)
     EXPECT_GT(brightness(144), brightness(192));
     for (int y = 2; y < 202; ++y)
         EXPECT_EQ(picture.at(3, y), picture.at(36, y)) << "level lines";
+}
+
+TEST_F(AngleSlider, AnEtchedEdgeGoesRoundTheCylinder)
+{
+    CRect client;
+    round->GetClientRect(&client);
+    const Picture seen = Picture::ofClient(*round);
+    Picture expected(client.Width(), client.Height(), ::GetSysColor(COLOR_BTNFACE));
+    CRect edge = client;
+    edge.DeflateRect(1, 1);
+    ::DrawEdge(expected.dc(), &edge, EDGE_ETCHED, BF_RECT);
+    for (int x = 0; x < client.Width(); ++x)
+        for (const int y : {0, 1, client.Height() - 2, client.Height() - 1})
+            EXPECT_EQ(seen.at(x, y), expected.at(x, y)) << x << ", " << y;
+}
+
+TEST_F(AngleSlider, QuartersAreBrightBands)
+{
+    wheel->SetPos(0); // a quarter in the middle, at 101
+    const Picture picture = Picture::ofClient(*wheel);
+    const COLORREF face = ::GetSysColor(COLOR_WINDOW);
+    EXPECT_GT(picture.count(face, 0, CRect(5, 94, 36, 110)), 0);
+    EXPECT_EQ(picture.count(face, 0, CRect(5, 40, 36, 80)), 0) << "between the quarters";
+    wheel->SetPos(30); // which goes down by half the way
+    EXPECT_GT(Picture::ofClient(*wheel).count(face, 8, CRect(5, 44, 36, 60)) +
+                  Picture::ofClient(*wheel).count(face, 8, CRect(5, 144, 36, 160)),
+              0);
+}
+
+TEST_F(AngleSlider, SystemColoursAreFollowedLightOrDark)
+{
+    constexpr int kColours[] = {COLOR_3DDKSHADOW, COLOR_3DLIGHT, COLOR_WINDOW, COLOR_WINDOWTEXT,
+                                COLOR_BTNFACE};
+    COLORREF before[std::size(kColours)];
+    std::transform(std::begin(kColours), std::end(kColours), before, &::GetSysColor);
+    constexpr COLORREF kDark[] = {RGB(10, 12, 14), RGB(90, 96, 110), RGB(30, 30, 34), RGB(240, 240, 230),
+                                  RGB(50, 52, 56)};
+    ::SetSysColors(std::size(kColours), kColours, kDark);
+    round->SetPos(45);
+    const Picture picture = Picture::ofClient(*round);
+    ::SetSysColors(std::size(kColours), kColours, before);
+    EXPECT_EQ(picture.at(0, 0), kDark[4]);
+    EXPECT_GT(picture.count(kDark[3]), 3) << "the number";
+    EXPECT_GT(picture.count(kDark[2]), 20) << "on its ground";
+    for (int x = 4; x < 200; ++x) {
+        const COLORREF colour = picture.at(x, 5);
+        EXPECT_LE(GetRValue(colour), 90);
+        EXPECT_LE(GetBValue(colour), 110) << "nothing is lighter than the light that was set";
+    }
+    EXPECT_GT(Picture::ofClient(*round).differences(picture), 1000);
 }
 
 TEST_F(AngleSlider, TurningMovesTheRibs)

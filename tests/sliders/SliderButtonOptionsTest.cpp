@@ -2,12 +2,12 @@
 // and what accessibility sees.
 #include "SliderButtonScene.h"
 
+#include "support/AccessibleView.h"
 #include "support/TestApp.h"
+#include "support/WinEvents.h"
 
 #include <ovoui/frame/ModalDialog.h>
 #include <ovoui/sliders/UnitNumbers.h>
-
-#include <oleacc.h>
 
 #include <cmath>
 #include <stdexcept>
@@ -263,25 +263,49 @@ TEST_F(SliderButtonOptions, AccessibilitySeesASliderWithTheBuddysText)
     buddy.SetWindowPos(&label, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     setBuddyText(L"12");
     show();
-    IAccessible* object = nullptr;
-    ASSERT_EQ(::AccessibleObjectFromWindow(*button, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
-                                           reinterpret_cast<void**>(&object)),
-              S_OK);
-    VARIANT self{};
-    self.vt = VT_I4;
-    VARIANT role{};
-    EXPECT_EQ(object->get_accRole(self, &role), S_OK);
-    EXPECT_EQ(role.lVal, ROLE_SYSTEM_SLIDER);
-    BSTR text = nullptr;
-    EXPECT_EQ(object->get_accName(self, &text), S_OK);
-    EXPECT_STREQ(text, L"Width");
-    ::SysFreeString(text);
-    EXPECT_EQ(object->get_accValue(self, &text), S_OK);
-    EXPECT_STREQ(text, L"12");
-    ::SysFreeString(text);
+    const AccessibleView seen(*button);
+    EXPECT_EQ(seen.role(), ROLE_SYSTEM_SLIDER);
+    EXPECT_EQ(seen.name(), L"Width");
+    EXPECT_EQ(seen.value(), L"12");
+    EXPECT_EQ(seen.childCount(), 0);
     button.reset();
-    EXPECT_EQ(object->get_accValue(self, &text), CO_E_OBJNOTCONNECTED);
-    object->Release();
+    BSTR text = nullptr;
+    EXPECT_EQ(seen->get_accValue(AccessibleView::numbered(CHILDID_SELF), &text), CO_E_OBJNOTCONNECTED);
+}
+
+TEST_F(SliderButtonOptions, AccessibilityHearsOfEveryChangeOfTheValue)
+{
+    useLinear(0, 100, 0);
+    setBuddyText(L"50");
+    show();
+    WinEvents changes(EVENT_OBJECT_VALUECHANGE);
+    open();
+    EXPECT_EQ(changes.of(*button), 0) << "opening changes nothing";
+
+    ::SendMessageW(slider(), TBM_SETPOS, TRUE, 60);
+    button->SetValue();
+    EXPECT_EQ(changes.of(*button), 1);
+    button->SetValue();
+    EXPECT_EQ(changes.of(*button), 1) << "the same number again";
+    user.key(VK_ESCAPE).waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(changes.of(*button), 2) << "the text from before";
+    open();
+    user.key(VK_ESCAPE).waitFor("the popup to go", &isClosed);
+    EXPECT_EQ(changes.of(*button), 2) << "there was nothing to put back";
+
+    changes.forget();
+    button->StepByWheel(true);
+    button->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
+    EXPECT_EQ(buddyText(), L"51 mm");
+    EXPECT_EQ(changes.of(*button), 1);
+    button->ShowNumber(7);
+    EXPECT_EQ(changes.of(*button), 2);
+    button->ShowNumber(7);
+    EXPECT_EQ(changes.of(*button), 2);
+    button->SetBuddy(nullptr);
+    button->ShowNumber(8);
+    button->SetValue();
+    EXPECT_EQ(changes.of(*button), 2) << "without a buddy there is no value";
 }
 
 // In a dialog

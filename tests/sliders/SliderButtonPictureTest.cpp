@@ -3,6 +3,9 @@
 
 #include <ovoui/frame/ThemeData.h>
 
+#include <uxtheme.h>
+#include <vssym32.h>
+
 #include <algorithm>
 
 using namespace ovotest;
@@ -27,11 +30,15 @@ COLORREF arrowColour(bool enabled)
 
 TEST_F(SliderButtonPicture, TheArrowPointsRightAndFillsWhatTheFaceLeaves)
 {
-    for (const CSize size : {CSize(8, 8), CSize(12, 20), CSize(16, 22), CSize(40, 30), CSize(30, 10)})
+    show();
+    std::vector<CSize> sizes;
+    for (const int width : {8, 9, 12, 16, 24, 40})
+        for (const int height : {8, 9, 13, 20, 22, 30})
+            sizes.emplace_back(width, height);
+    for (const CSize& size : sizes)
         for (const bool enabled : {true, false}) {
             button->MoveWindow(102, 10, size.cx, size.cy);
             button->EnableWindow(enabled);
-            show();
             const Picture picture = shown();
             const int middle = size.cy / 2;
             const int length = std::min(static_cast<int>(size.cx) - 5, middle - 2);
@@ -69,6 +76,32 @@ TEST_F(SliderButtonPicture, PressedAndDisabledLookDifferent)
     user.key(VK_ESCAPE).waitFor("the popup to go", &isClosed);
     user.moveTo(Spot{other});
     EXPECT_EQ(shown().differences(idle), 0) << "released";
+}
+
+TEST_F(SliderButtonPicture, TheThemedFaceIsThatOfAPushButton)
+{
+    if (!themed())
+        return SUCCEED() << "without visual styles it is a frame";
+    show();
+    HTHEME theme = ::OpenThemeData(button->m_hWnd, L"Button");
+    const auto expectFace = [&](int state) {
+        const Picture picture = shown();
+        Picture face(picture.width(), picture.height(), ::GetSysColor(COLOR_BTNFACE));
+        CRect all(0, 0, picture.width(), picture.height());
+        ::DrawThemeBackground(theme, face.dc(), BP_PUSHBUTTON, state, &all, nullptr);
+        for (int y = 0; y < picture.height(); ++y)
+            for (const int x : {0, 1, 2, 3}) // left of the arrow
+                EXPECT_THAT(picture.at(x, y), IsColour(face.at(x, y), 1))
+                    << "state " << state << " at " << x << ", " << y;
+    };
+    expectFace(PBS_NORMAL);
+    button->EnableWindow(FALSE);
+    expectFace(PBS_DISABLED);
+    button->EnableWindow();
+    button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    expectFace(PBS_PRESSED);
+    button->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    ::CloseThemeData(theme);
 }
 
 TEST_F(SliderButtonPicture, TheClassicFaceIsAFrameThatIsReversedWhenPressed)

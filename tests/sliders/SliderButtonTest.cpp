@@ -3,11 +3,14 @@
 #include "SliderButtonScene.h"
 
 #include "support/GdiCounter.h"
+#include "support/GuiThread.h"
 #include "support/WindowCounter.h"
 
 #include <ovoui/frame/Geometry.h>
 
+#include <atomic>
 #include <stdexcept>
+#include <thread>
 
 using namespace ovotest;
 
@@ -114,6 +117,30 @@ TEST_F(SliderButton, LosingTheProgramsActivationClosesIt)
     EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
 }
 
+TEST_F(SliderButton, AnotherThreadsWindowThatIsActivatedClosesIt)
+{
+    show();
+    open();
+    std::atomic<bool> done = false;
+    std::thread elsewhere([&] { // as another program does that the user goes to with Alt+Tab
+        const HWND window = ::CreateWindowExW(0, L"Static", L"elsewhere", WS_POPUP | WS_VISIBLE, 10, 10, 80,
+                                              40, nullptr, nullptr, ::GetModuleHandleW(nullptr), nullptr);
+        ::SetForegroundWindow(window);
+        while (!done) {
+            MSG message;
+            while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+                ::DispatchMessageW(&message);
+            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+        }
+        ::DestroyWindow(window);
+    });
+    user.waitFor("the release", [&] { return !told().empty(); });
+    done = true;
+    elsewhere.join();
+    EXPECT_TRUE(isClosed());
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+}
+
 TEST_F(SliderButton, AnActivePopupClosesWhenAnotherWindowIsActivated)
 {
     show();
@@ -125,6 +152,38 @@ TEST_F(SliderButton, AnActivePopupClosesWhenAnotherWindowIsActivated)
     parent.SetActiveWindow();
     user.waitFor("the release", [&] { return !told().empty() && told().back() == kReleased; });
     EXPECT_TRUE(isClosed());
+    GuiThread::settle();
+    const std::vector<UINT> messages = told();
+    EXPECT_EQ(std::count(messages.begin(), messages.end(), kReleased), 1)
+        << "hiding does not count once more";
+}
+
+TEST_F(SliderButton, EveryChangeIsPaintedAtOnce)
+{
+    show();
+    const Picture released = Picture::ofClient(*button);
+    for (const WORD key : {VK_SPACE, VK_SPACE}) {
+        button->SendMessage(WM_KEYDOWN, key);
+        EXPECT_FALSE(button->GetUpdateRect(nullptr));
+        EXPECT_EQ(Picture::ofClient(*button).differences(released) > 0, isOpen());
+    }
+}
+
+TEST_F(SliderButton, SettingsCountFromTheNextTimeOn)
+{
+    setBuddyText(L"50");
+    show();
+    open();
+    button->SetRange(40, 60);
+    button->SetPages(4);
+    EXPECT_EQ(::SendMessageW(slider(), TBM_GETRANGEMAX, 0, 0), 100);
+    EXPECT_EQ(::SendMessageW(slider(), TBM_GETPAGESIZE, 0, 0), 10);
+    user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+    open();
+    EXPECT_EQ(::SendMessageW(slider(), TBM_GETRANGEMIN, 0, 0), 40);
+    EXPECT_EQ(::SendMessageW(slider(), TBM_GETRANGEMAX, 0, 0), 60);
+    EXPECT_EQ(::SendMessageW(slider(), TBM_GETPAGESIZE, 0, 0), 5);
+    EXPECT_TRUE(told().empty()) << "and tell nobody";
 }
 
 TEST_F(SliderButton, ThePostedMessageReleasesIt)
@@ -151,23 +210,31 @@ TEST_F(SliderButton, ThePopupOpensBelowWithTheThumbUnderThePointer)
     button->GetWindowRect(&under);
     EXPECT_EQ(place.top, under.bottom);
     EXPECT_NEAR(thumbX(), pointer.x, 4);
+    EXPECT_EQ(::GetAncestor(::WindowFromPoint(place.CenterPoint()), GA_ROOT), popup()) << "in front";
 }
 
 TEST_F(SliderButton, ThePopupStaysOnTheScreen)
 {
-    setBuddyText(L"0");
-    CRect work(GetWorkArea(CRect(0, 0, 10, 10)));
-    for (const CPoint at :
-         {CPoint(work.right - 140, 100), CPoint(work.left - 90, 100), CPoint(200, work.bottom - 60)}) {
-        show(at);
-        open();
-        CRect place;
-        ::GetWindowRect(popup(), &place);
-        CRect common;
-        common.IntersectRect(place, work);
-        EXPECT_EQ(common, place);
-        user.key(VK_ESCAPE).waitFor("the popup to go", &isClosed);
-    }
+    const CRect work(GetWorkArea(CRect(0, 0, 10, 10)));
+    const int right = work.right - 115; // with the button at the edge, or half beyond it
+    const int left = work.left - 105;
+    const int bottom = work.bottom - 25;
+    const int top = work.top - 120;
+    for (const wchar_t* number : {L"0", L"50", L"100"}) // where the thumb is decides which way it reaches
+        for (const CPoint at :
+             {CPoint(right, 100), CPoint(left, 100), CPoint(300, bottom), CPoint(300, top),
+              CPoint(right, bottom), CPoint(left, bottom), CPoint(right, top), CPoint(left, top)}) {
+            setBuddyText(number);
+            show(at);
+            button->SetFocus();
+            button->SendMessage(WM_KEYDOWN, VK_SPACE);
+            ASSERT_TRUE(isOpen());
+            CRect place;
+            ::GetWindowRect(popup(), &place);
+            EXPECT_EQ(CRect(place & work), place) << at.x << ", " << at.y;
+            button->SendMessage(WM_KEYDOWN, VK_SPACE);
+            ASSERT_TRUE(isClosed());
+        }
 }
 
 TEST_F(SliderButton, ThePopupIsASmallWindowWithoutACaption)
@@ -178,7 +245,16 @@ TEST_F(SliderButton, ThePopupIsASmallWindowWithoutACaption)
     EXPECT_TRUE(style & WS_POPUP);
     EXPECT_NE(style & WS_CAPTION, WS_CAPTION);
     EXPECT_EQ(::GetWindow(popup(), GW_OWNER), parent.m_hWnd) << "so it is not in the task bar";
+    EXPECT_FALSE(::GetWindowLongPtrW(popup(), GWL_EXSTYLE) & WS_EX_APPWINDOW);
     EXPECT_EQ(::GetDlgCtrlID(slider()), 20505);
+    CRect outside;
+    ::GetWindowRect(popup(), &outside);
+    CRect inside;
+    ::GetClientRect(popup(), &inside);
+    EXPECT_EQ(outside.Size(), inside.Size() + CSize(2, 2)) << "a thin border";
+    CRect channel;
+    ::SendMessageW(slider(), TBM_GETCHANNELRECT, 0, reinterpret_cast<LPARAM>(static_cast<RECT*>(&channel)));
+    EXPECT_GT(channel.Width(), 100) << "a pixel for each of a hundred steps at least";
 }
 
 // The drag in one movement
@@ -225,6 +301,19 @@ TEST_F(SliderButton, ASmallMovementIsAClick)
     EXPECT_TRUE(isOpen());
     EXPECT_EQ(buddyText(), L"50");
     EXPECT_TRUE(told().empty());
+}
+
+TEST_F(SliderButton, ADragThatNeverReachesTheThumbIsAClick)
+{
+    setBuddyText(L"90");
+    show({-60, 200});
+    user.press(Spot{*button}).waitFor("the popup", &isOpen).moveBy(8, -8).moveBy(0, -20).release();
+    EXPECT_TRUE(isOpen());
+    EXPECT_EQ(buddyText(), L"90");
+    EXPECT_TRUE(told().empty());
+    EXPECT_NE(::GetCapture(), button->m_hWnd);
+    user.moveBy(60, 20);
+    EXPECT_EQ(buddyText(), L"90") << "let go, the pointer takes nothing along";
 }
 
 TEST_F(SliderButton, AThumbToTheRightWaitsUntilThePointerIsThere)
@@ -309,6 +398,41 @@ TEST_F(SliderButton, LosingTheCaptureEndsTheDragOnly)
 TEST_F(SliderButton, ItTakesPartInTabbingLikeAButton)
 {
     EXPECT_EQ(button->SendMessage(WM_GETDLGCODE) & DLGC_STATIC, 0);
+}
+
+TEST_F(SliderButton, TabGoesThroughItInADialog)
+{
+    class Form : public CDialog
+    {
+    public:
+        void create()
+        {
+            struct
+            {
+                DLGTEMPLATE head{WS_POPUP | WS_VISIBLE | WS_CAPTION, WS_EX_CONTROLPARENT, 0, 20, 20, 120, 60};
+                WORD menu = 0;
+                WORD windowClass = 0;
+                WORD title = 0;
+            } empty;
+            CreateIndirect(&empty.head, nullptr);
+        }
+    } form;
+    form.create();
+    buddy.SetParent(&form);
+    button->SetParent(&form);
+    other.SetParent(&form);
+    button->SetWindowPos(&buddy, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    other.SetWindowPos(button.get(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    present(form);
+    buddy.SetFocus();
+    user.key(VK_TAB).waitFor("the focus", [&] { return ::GetFocus() == button->m_hWnd; });
+    user.key(VK_TAB).waitFor("the next one", [&] { return ::GetFocus() == other.m_hWnd; });
+    user.holding(VK_SHIFT).key(VK_TAB).waitFor("the focus", [&] { return ::GetFocus() == button->m_hWnd; });
+    user.key(VK_DOWN).waitFor("the popup", [] { return slider() && isOpen(); });
+    EXPECT_EQ(::GetFocus(), button->m_hWnd) << "the dialog did not take the key";
+    user.key(VK_RIGHT).waitFor("the value", [&] { return buddyText() == L"1"; });
+    user.key(VK_ESCAPE).waitFor("the old text", [&] { return buddyText().empty(); });
+    EXPECT_TRUE(form.IsWindowVisible()) << "Escape closed the popup alone";
 }
 
 TEST_F(SliderButton, SpaceOpensAndCloses)
@@ -451,14 +575,35 @@ TEST_F(SliderButton, EveryTypePlacesTheSliderByItsMapping)
     }
 }
 
-TEST_F(SliderButton, ATextWithoutANumberIsTheLowEnd)
+TEST_F(SliderButton, ASquareRootSliderThatIsNotMovedMayChangeTheNumber)
 {
-    setBuddyText(L"none");
-    button->SetRange(3, 9);
+    button->SetType(CSliderButton::SliderSquareRoot);
+    button->SetRange(1.0, 100.0, 2);
+    setBuddyText(L"30,25");
     show();
     open();
-    EXPECT_EQ(sliderPos(), 3);
-    user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+    button->SetValue();
+    EXPECT_EQ(buddyText(), L"25,75 mm") << "the two directions undo each other only where the low end is 0";
+    button->SetRange(0.0, 100.0, 2);
+    setBuddyText(L"25");
+    user.key(VK_ESCAPE).waitFor("the popup to go", &isClosed);
+    setBuddyText(L"25");
+    open();
+    button->SetValue();
+    EXPECT_EQ(buddyText(), L"25,00 mm");
+}
+
+TEST_F(SliderButton, ATextWithoutANumberIsTheLowEnd)
+{
+    button->SetRange(3, 9);
+    show();
+    for (const wchar_t* text : {L"none", L""}) {
+        setBuddyText(text);
+        open();
+        EXPECT_EQ(sliderPos(), 3);
+        user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+        EXPECT_EQ(buddyText(), text);
+    }
     button->SetType(CSliderButton::SliderLinear);
     button->SetRange(5.0, 1.0, 0);
     open();
@@ -515,6 +660,10 @@ TEST_F(SliderButton, TheTipIsTheStringOfTheBuddysNumberUpToTheLineFeed)
     EXPECT_EQ(utils.calls[1], L"hide");
     user.moveTo(Spot{*button}).waitFor("the tip again", [&] { return utils.calls.size() == 3; });
     EXPECT_EQ(utils.calls[2], L"show Width of the pen");
+    user.moveTo(Spot{other}).waitFor("the end of the tip", [&] { return utils.calls.size() == 4; });
+    button->SetBuddy(other);
+    user.moveTo(Spot{*button}).waitFor("the tip again", [&] { return utils.calls.size() == 5; });
+    EXPECT_EQ(utils.calls[4], L"show Width of the pen") << "it is loaded once";
 }
 
 TEST_F(SliderButton, WithoutATextThereIsNoTipForGood)

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <utility>
 
 namespace ovoui::sliders
 {
@@ -34,16 +35,44 @@ int positionUnder(int x, const Channel& channel, const Positions& positions)
     return static_cast<int>(scaled(along, run, whole) + positions.minimum);
 }
 
-bool dragStarts(const PendingDrag& pending, const Point& pointer, bool inPopup)
+bool PopupPlace::contains(const Point& point) const
 {
-    const int dx = pointer.x - pending.press.x;
-    const int dy = pointer.y - pending.press.y;
-    if (std::abs(dx) <= pending.dragWidth && std::abs(dy) <= pending.dragHeight)
+    return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
+}
+
+void PressDrag::begin(const Point& press, const PopupPlace& popup, const DragLimits& limits)
+{
+    m_dragging = false;
+    m_tracking = true;
+    m_press = press;
+    m_popup = popup;
+    m_limits = limits;
+}
+
+std::optional<int> PressDrag::move(const Point& pointer, const Positions& positions)
+{
+    m_dragging = m_tracking && (m_dragging || starts(pointer));
+    if (!m_dragging)
+        return std::nullopt;
+    return positionUnder(pointer.x, m_popup.channel, positions);
+}
+
+bool PressDrag::starts(const Point& pointer) const
+{
+    const int dx = pointer.x - m_press.x;
+    const int dy = pointer.y - m_press.y;
+    if (std::abs(dx) <= m_limits.width && std::abs(dy) <= m_limits.height)
         return false;
-    if (std::abs(pending.thumb) <= pending.dragWidth)
+    if (std::abs(m_popup.thumb) <= m_limits.width)
         return true;
-    const bool reached = pending.thumb > 0 ? dx >= pending.thumb : dx <= pending.thumb;
-    return reached || inPopup;
+    const bool reached = m_popup.thumb > 0 ? dx >= m_popup.thumb : dx <= m_popup.thumb;
+    return reached || m_popup.contains(pointer);
+}
+
+bool PressDrag::end()
+{
+    m_tracking = false;
+    return std::exchange(m_dragging, false);
 }
 
 } // namespace ovoui::sliders

@@ -4,6 +4,8 @@
 
 #include <ovoui/sliders/core/SliderMapping.h>
 
+#include <optional>
+
 namespace ovoui::sliders
 {
 
@@ -26,18 +28,51 @@ int thumbOffset(const Channel& channel, int position, const Positions& positions
 /// The position for a pointer at `x`: a pointer beyond the channel counts as at its end.
 int positionUnder(int x, const Channel& channel, const Positions& positions);
 
-/// A press on the button, while it is not yet a drag.
-struct PendingDrag
+/// Where the open popup is, seen from the press on the button that opened it.
+struct PopupPlace
 {
-    Point press;
-    int thumb = 0;      ///< how far the thumb is to the right of the press; negative when it is to the left
-    int dragWidth = 4;  ///< the system's drag rectangle: this far to the left and right of the press
-    int dragHeight = 4; ///< and this far above and below
+    int thumb = 0;   ///< how far the thumb is to the right of the press; negative when it is to the left
+    Channel channel; ///< in the button's coordinates, as the popup's client area is
+    int left = 0;
+    int top = 0;
+    int right = 0;  ///< the first pixel outside
+    int bottom = 0; ///< the same
+
+    bool contains(const Point& point) const;
 };
 
-/// Whether the pointer takes the thumb along from now on. It does not before it has left the drag rectangle; then
-/// at once when the thumb is at the press, otherwise when the pointer has come as far as the thumb is, or is
-/// inside the popup.
-bool dragStarts(const PendingDrag& pending, const Point& pointer, bool inPopup);
+/// How far the pointer may stray from a press without dragging.
+struct DragLimits
+{
+    int width = 4;  ///< to the left and to the right
+    int height = 4; ///< above and below
+};
+
+/// What a press on the button, moves and the release lead to.
+class PressDrag
+{
+public:
+    /// The button is held from now on, pressed at `press`.
+    void begin(const Point& press, const PopupPlace& popup, const DragLimits& limits);
+
+    bool tracking() const { return m_tracking; }
+
+    /// Where the thumb is to go when the pointer has come to `pointer`: none while it does not follow. It
+    /// does not before the pointer has left the drag limits; then at once when the thumb is at the press,
+    /// otherwise when the pointer has come as far as the thumb is, or is inside the popup.
+    std::optional<int> move(const Point& pointer, const Positions& positions);
+
+    /// The button is let go, or something else has the mouse. Whether the thumb followed the pointer.
+    bool end();
+
+private:
+    bool starts(const Point& pointer) const;
+
+    bool m_dragging = false;
+    bool m_tracking = false;
+    Point m_press;
+    PopupPlace m_popup;
+    DragLimits m_limits;
+};
 
 } // namespace ovoui::sliders

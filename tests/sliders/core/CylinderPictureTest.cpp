@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 using namespace ovoui::sliders;
@@ -58,6 +59,33 @@ TEST(CylinderPicture, StripsDarkenTowardsTheEdges)
     EXPECT_EQ(lightest->colour, kColours.light) << "the one in the middle";
     EXPECT_TRUE(std::is_sorted(strips.begin(), lightest, darker));
     EXPECT_TRUE(std::is_sorted(strips.rbegin(), std::make_reverse_iterator(lightest), darker));
+}
+
+TEST(CylinderPicture, TheShadingFollowsTheCosineEverywhere)
+{
+    // A strip is 5 degrees wide, and its ends are whole pixels: that makes a tenth of the range at most.
+    const double range = kColours.light.red - kColours.dark.red;
+    for (const double rotation : {0.0, 1.3, 2.5, 44.9})
+        for (const int width : {150, 200, 288, 300})
+            for (const Strip& strip : cylinderPicture(0, width, rotation, kColours, false).strips)
+                for (int x = std::max(strip.from, 2); x < std::min(strip.to, width - 2); ++x) {
+                    const double sine = (x + 0.5) * 2 / width - 1;
+                    const double exact = kColours.dark.red + range * std::sqrt(1 - sine * sine);
+                    EXPECT_NEAR(strip.colour.red, exact, range / 10) << width << " at " << x;
+                }
+}
+
+TEST(CylinderPicture, ARibIsADarkLineAndALightOneBesideIt)
+{
+    // From both sides the light line is the one towards the viewer.
+    const std::vector<RibLine> lines = cylinderPicture(0, 300, 2.5, kColours, false).lines;
+    for (std::size_t i = 0; i + 1 < lines.size(); i += 2) {
+        const RibLine& first = lines[i];
+        const RibLine& second = lines[i + 1];
+        EXPECT_EQ(second.at, first.at + 1);
+        const bool left = second.at < 150;
+        EXPECT_LE((left ? first : second).colour.red, (left ? second : first).colour.red);
+    }
 }
 
 TEST(CylinderPicture, ThereIsARibEveryFiveDegrees)

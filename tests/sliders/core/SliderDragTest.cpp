@@ -31,40 +31,104 @@ TEST(SliderDrag, ThePositionUnderThePointerStaysInTheChannel)
     EXPECT_EQ(positionUnder(10, {10, 110}, {kMin, kMax}), kMin);
 }
 
-TEST(SliderDrag, NothingStartsWithinTheDragRectangle)
+namespace
+{
+
+constexpr Point kPress{20, 30};
+constexpr DragLimits kLimits{4, 3};
+constexpr Positions kHundred{0, 100};
+
+/// The popup below the press, 100 pixels of channel and the thumb so far from the press.
+PopupPlace popup(int thumb)
+{
+    return {thumb, {-40, 60}, -50, 40, 70, 64};
+}
+
+/// A press with the pointer then at `pointer`.
+std::optional<int> moved(int thumb, const Point& pointer)
+{
+    PressDrag drag;
+    drag.begin(kPress, popup(thumb), kLimits);
+    return drag.move(pointer, kHundred);
+}
+
+} // namespace
+
+TEST(PressDrag, NothingStartsWithinTheDragRectangle)
 {
     for (const int thumb : {-50, -4, 0, 4, 50})
         for (int dx = -4; dx <= 4; ++dx)
-            for (int dy = -3; dy <= 3; ++dy)
-                for (const bool inPopup : {false, true})
-                    EXPECT_FALSE(dragStarts({{20, 30}, thumb, 4, 3}, {20 + dx, 30 + dy}, inPopup));
+            for (int dy = -3; dy <= 3; ++dy) {
+                PressDrag drag;
+                PopupPlace everywhere = popup(thumb);
+                everywhere.top = 0;
+                drag.begin(kPress, everywhere, kLimits);
+                EXPECT_FALSE(drag.move({20 + dx, 30 + dy}, kHundred)) << "though it is inside the popup";
+            }
 }
 
-TEST(SliderDrag, AThumbUnderThePointerIsTakenAtOnce)
+TEST(PressDrag, AThumbUnderThePointerIsTakenAtOnce)
 {
     for (const int thumb : {-4, 0, 4}) {
-        EXPECT_TRUE(dragStarts({{20, 30}, thumb, 4, 3}, {25, 30}, false));
-        EXPECT_TRUE(dragStarts({{20, 30}, thumb, 4, 3}, {15, 30}, false));
-        EXPECT_TRUE(dragStarts({{20, 30}, thumb, 4, 3}, {20, 34}, false));
-        EXPECT_TRUE(dragStarts({{20, 30}, thumb, 4, 3}, {20, 26}, false));
+        EXPECT_EQ(moved(thumb, {25, 30}), 65);
+        EXPECT_EQ(moved(thumb, {15, 30}), 55);
+        EXPECT_EQ(moved(thumb, {20, 34}), 60);
+        EXPECT_EQ(moved(thumb, {20, 26}), 60);
     }
 }
 
-TEST(SliderDrag, AThumbFurtherOffIsTakenWhenThePointerHasComeThatFar)
+TEST(PressDrag, AThumbFurtherOffIsTakenWhenThePointerHasComeThatFar)
 {
-    const PendingDrag right{{20, 30}, 50, 4, 3};
-    EXPECT_FALSE(dragStarts(right, {69, 30}, false));
-    EXPECT_TRUE(dragStarts(right, {70, 30}, false));
-    EXPECT_FALSE(dragStarts(right, {-80, 30}, false)) << "the other way";
+    EXPECT_FALSE(moved(5, {20, 26})) << "just outside the drag rectangle";
+    EXPECT_TRUE(moved(5, {25, 26}));
+    EXPECT_FALSE(moved(50, {69, 30}));
+    EXPECT_EQ(moved(50, {70, 30}), 100);
+    EXPECT_FALSE(moved(50, {-80, 30})) << "the other way";
 
-    const PendingDrag left{{20, 30}, -50, 4, 3};
-    EXPECT_FALSE(dragStarts(left, {-29, 30}, false));
-    EXPECT_TRUE(dragStarts(left, {-30, 30}, false));
-    EXPECT_FALSE(dragStarts(left, {120, 30}, false));
+    EXPECT_FALSE(moved(-50, {-29, 30}));
+    EXPECT_EQ(moved(-50, {-30, 30}), 10);
+    EXPECT_FALSE(moved(-50, {120, 30}));
 }
 
-TEST(SliderDrag, InsideThePopupTheThumbIsTakenWhereverItIs)
+TEST(PressDrag, InsideThePopupTheThumbIsTakenWhereverItIs)
 {
-    EXPECT_TRUE(dragStarts({{20, 30}, 50, 4, 3}, {22, 40}, true));
-    EXPECT_TRUE(dragStarts({{20, 30}, -50, 4, 3}, {22, 40}, true));
+    for (const int thumb : {-50, 50}) {
+        EXPECT_EQ(moved(thumb, {22, 40}), 62);
+        EXPECT_EQ(moved(thumb, {-50, 63}), 0) << "its corner";
+        EXPECT_FALSE(moved(thumb, {22, 39})) << "above it";
+        EXPECT_FALSE(moved(thumb, {22, 64})) << "below it";
+    }
+    EXPECT_FALSE(moved(-500, {70, 50})) << "the first column to its right";
+    EXPECT_FALSE(moved(500, {-51, 50})) << "the last one to its left";
+}
+
+TEST(PressDrag, OnceTakenTheThumbFollowsEverywhere)
+{
+    PressDrag drag;
+    drag.begin(kPress, popup(0), kLimits);
+    EXPECT_EQ(drag.move({30, 30}, kHundred), 70);
+    EXPECT_EQ(drag.move({20, 30}, kHundred), 60) << "back at the press";
+    EXPECT_EQ(drag.move({500, -500}, kHundred), 100);
+    EXPECT_EQ(drag.move({-500, -500}, kHundred), 0);
+    EXPECT_EQ(drag.move({10, 0}, {3, 5}), 4) << "the whole-number quotient";
+    EXPECT_TRUE(drag.end());
+    EXPECT_FALSE(drag.tracking());
+    EXPECT_FALSE(drag.move({30, 30}, kHundred)) << "let go";
+    EXPECT_FALSE(drag.end());
+}
+
+TEST(PressDrag, APressThatNeverBecameADragEndsAsAClick)
+{
+    PressDrag drag;
+    EXPECT_FALSE(drag.tracking());
+    EXPECT_FALSE(drag.move({500, 500}, kHundred)) << "not pressed";
+    drag.begin(kPress, popup(50), kLimits);
+    EXPECT_TRUE(drag.tracking());
+    EXPECT_FALSE(drag.move({30, 30}, kHundred));
+    EXPECT_FALSE(drag.end());
+
+    drag.begin(kPress, popup(0), kLimits);
+    EXPECT_TRUE(drag.move({30, 30}, kHundred));
+    drag.begin(kPress, popup(50), kLimits);
+    EXPECT_FALSE(drag.move({30, 30}, kHundred)) << "a new press begins anew";
 }

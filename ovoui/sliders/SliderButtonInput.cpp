@@ -1,0 +1,187 @@
+// Mouse, wheel, tip and keyboard of a slider button.
+#include <ovoui/sliders/SliderButtonParts.h>
+#include <ovoui/sliders/core/ButtonKeys.h>
+
+using namespace ovoui::sliders;
+
+namespace
+{
+
+constexpr double kFineStep = 0.1; // of a position
+
+ButtonKey buttonKey(WPARAM key)
+{
+    switch (key) {
+    case VK_LEFT:
+        return ButtonKey::Left;
+    case VK_RIGHT:
+        return ButtonKey::Right;
+    case VK_UP:
+        return ButtonKey::Up;
+    case VK_DOWN:
+        return ButtonKey::Down;
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_HOME:
+    case VK_END:
+        return ButtonKey::Travel;
+    case VK_ESCAPE:
+        return ButtonKey::Escape;
+    default:
+        return ButtonKey::Other;
+    }
+}
+
+} // namespace
+
+// Mouse
+
+/// A static control lets the mouse through to its parent otherwise.
+LRESULT CSliderButton::OnNcHitTest(CPoint)
+{
+    return HTCLIENT;
+}
+
+void CSliderButton::OnLButtonDown(UINT, CPoint point)
+{
+    if (m_parts->pressed) {
+        dismiss();
+        return;
+    }
+    if (!press(point))
+        return;
+    SetCapture();
+    m_parts->drag.begin({point.x, point.y}, m_parts->place,
+                        {::GetSystemMetrics(SM_CXDRAG), ::GetSystemMetrics(SM_CYDRAG)});
+}
+
+/// A quick second click is one like the first.
+void CSliderButton::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    OnLButtonDown(flags, point);
+}
+
+void CSliderButton::OnMouseMove(UINT, CPoint point)
+{
+    if (!m_parts->drag.tracking()) {
+        enterTip();
+        return;
+    }
+    const auto position = m_parts->drag.move({point.x, point.y}, m_parts->positions);
+    if (!position || !m_popup.m_hWnd)
+        return;
+    m_popup.slider().SetPos(*position);
+    SetValue();
+}
+
+void CSliderButton::OnLButtonUp(UINT, CPoint)
+{
+    if (!m_parts->drag.tracking())
+        return;
+    const bool dragged = m_parts->drag.end();
+    ::ReleaseCapture();
+    if (dragged)
+        dismiss();
+}
+
+/// Something else has the mouse now. The popup stays open.
+void CSliderButton::OnCaptureChanged(CWnd* wnd)
+{
+    m_parts->drag.end();
+    CStatic::OnCaptureChanged(wnd);
+}
+
+// The wheel
+
+BOOL CSliderButton::OnMouseWheel(UINT flags, short delta, CPoint point)
+{
+    if (!m_parts->stepsByWheel)
+        return CStatic::OnMouseWheel(flags, delta, point);
+    turnWheel(delta);
+    return TRUE;
+}
+
+/// Away from the user is more.
+void CSliderButton::turnWheel(int delta)
+{
+    if (!IsWindowEnabled())
+        return;
+    if (const int notches = m_parts->wheel.turned(delta); notches != 0)
+        stepBy(notches * (m_parts->fine() ? kFineStep : 1.0));
+}
+
+void CSliderButton::hearBuddyWheel()
+{
+    m_parts->buddyWheel.reset();
+    if (m_parts->stepsByWheel && m_parts->buddy.exists())
+        m_parts->buddyWheel =
+            std::make_unique<BuddyWheel>(m_parts->buddy.window(), [this](int delta) { turnWheel(delta); });
+}
+
+// The tip
+
+void CSliderButton::enterTip()
+{
+    const auto text = m_parts->tip.enter(static_cast<UINT>(::GetDlgCtrlID(m_parts->buddy.window())));
+    if (!text)
+        return;
+    TRACKMOUSEEVENT leaving{sizeof leaving, TME_LEAVE, m_hWnd, 0};
+    ::TrackMouseEvent(&leaving);
+    m_parts->utils.showTip(*text);
+}
+
+void CSliderButton::OnMouseLeave()
+{
+    m_parts->tip.leave();
+    m_parts->utils.hideTip();
+}
+
+// Keyboard
+
+UINT CSliderButton::OnGetDlgCode()
+{
+    return CStatic::OnGetDlgCode() & ~static_cast<UINT>(DLGC_STATIC);
+}
+
+void CSliderButton::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (key != VK_SPACE)
+        CStatic::OnKeyDown(key, repeat, flags);
+    else if (m_parts->pressed)
+        dismiss();
+    else
+        press(middle());
+}
+
+BOOL CSliderButton::PreTranslateMessage(MSG* message)
+{
+    if (message->message == WM_KEYDOWN && message->hwnd == m_hWnd && takesKey(*message))
+        return TRUE;
+    return CStatic::PreTranslateMessage(message);
+}
+
+/// Takes keys that must not reach the dialog, which would go to another control or close.
+bool CSliderButton::takesKey(const MSG& message)
+{
+    switch (meaningOf(buttonKey(message.wParam), m_parts->pressed, m_parts->fine())) {
+    case KeyMeaning::Open:
+        press(middle());
+        return true;
+    case KeyMeaning::Cancel:
+        cancelPopup();
+        return true;
+    case KeyMeaning::Slider:
+        if (m_popup.m_hWnd)
+            m_popup.slider().SendMessage(WM_KEYDOWN, message.wParam, message.lParam);
+        return m_popup.m_hWnd != nullptr;
+    case KeyMeaning::FineMore:
+        stepBy(kFineStep);
+        return true;
+    case KeyMeaning::FineLess:
+        stepBy(-kFineStep);
+        return true;
+    case KeyMeaning::Nothing:
+        break;
+    }
+    return false;
+}

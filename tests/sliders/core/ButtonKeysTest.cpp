@@ -1,0 +1,34 @@
+#include <ovoui/sliders/core/ButtonKeys.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovoui::sliders;
+
+TEST(ButtonKeys, WhileThePopupIsClosedDownAloneMeansSomething)
+{
+    for (const ButtonKey key : {ButtonKey::Left, ButtonKey::Right, ButtonKey::Up, ButtonKey::Down,
+                                ButtonKey::Travel, ButtonKey::Escape, ButtonKey::Other})
+        for (const bool fine : {false, true})
+            EXPECT_EQ(meaningOf(key, false, fine),
+                      key == ButtonKey::Down ? KeyMeaning::Open : KeyMeaning::Nothing);
+}
+
+TEST(ButtonKeys, WhileItIsOpenTheyMoveTheSlider)
+{
+    const struct
+    {
+        ButtonKey key;
+        KeyMeaning plain;
+        KeyMeaning fine;
+    } rows[] = {{ButtonKey::Left, KeyMeaning::Slider, KeyMeaning::FineLess},
+                {ButtonKey::Up, KeyMeaning::Slider, KeyMeaning::FineLess},
+                {ButtonKey::Right, KeyMeaning::Slider, KeyMeaning::FineMore},
+                {ButtonKey::Down, KeyMeaning::Slider, KeyMeaning::FineMore},
+                {ButtonKey::Travel, KeyMeaning::Slider, KeyMeaning::Slider},
+                {ButtonKey::Escape, KeyMeaning::Cancel, KeyMeaning::Cancel},
+                {ButtonKey::Other, KeyMeaning::Nothing, KeyMeaning::Nothing}};
+    for (const auto& [key, plain, fine] : rows) {
+        EXPECT_EQ(meaningOf(key, true, false), plain);
+        EXPECT_EQ(meaningOf(key, true, true), fine);
+    }
+}
