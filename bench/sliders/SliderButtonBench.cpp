@@ -32,6 +32,15 @@ public:
         button.SetBuddy(buddy);
         parent.ShowWindow(SW_SHOW);
         parent.UpdateWindow();
+        pump();
+    }
+
+    /// A program with these windows has a message loop, which tells its thread what hooks there are.
+    static void pump()
+    {
+        MSG message;
+        while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+            ::DispatchMessageW(&message);
     }
 
     void press() { button.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5)); }
