@@ -1,5 +1,6 @@
 #include "ColourPickerPage.h"
 
+#include "model/ColourSheet.h"
 #include "resource.h"
 
 #include <ovoui/colour/ColPickerPaletteDlg.h>
@@ -10,6 +11,7 @@ BEGIN_MESSAGE_MAP(ColourPickerPage, GalleryPage)
     ON_BN_CLICKED(IDC_PICK, &ColourPickerPage::OnPick)
     ON_BN_CLICKED(IDC_PICK_CUSTOM, &ColourPickerPage::OnCustomColours)
     ON_BN_CLICKED(IDC_PICK_ON_TAB, &ColourPickerPage::OnOnTab)
+    ON_BN_CLICKED(IDC_PICK_IN_SHEET, &ColourPickerPage::OnInSheet)
     ON_BN_CLICKED(IDC_PICK_MODELESS, &ColourPickerPage::OnModeless)
     ON_BN_CLICKED(IDC_PICK_PALETTE, &ColourPickerPage::OnPalette)
     ON_BN_CLICKED(IDC_PICK_ALPHA, &ColourPickerPage::OnAlpha)
@@ -106,6 +108,13 @@ void ColourPickerPage::OnOnTab()
     picked(answer, dialog.colour());
 }
 
+void ColourPickerPage::OnInSheet()
+{
+    ColourSheet sheet(m_host, m_colour, this);
+    const INT_PTR answer = sheet.DoModal();
+    picked(answer, sheet.colour());
+}
+
 void ColourPickerPage::OnPalette()
 {
     ColPickerPaletteDlg dialog(*AfxGetApp(), chosenMode(), m_colour, this, this);
@@ -132,7 +141,8 @@ void ColourPickerPage::OnAlpha()
 
 std::vector<std::wstring> ColourPickerPage::poses() const
 {
-    return {L"rgb", L"hls", L"hsv", L"alpha", L"mid-drag", L"custom", L"on-tab", L"palette"};
+    return {L"rgb",    L"hls", L"hsv", L"alpha", L"mid-drag", L"custom", L"on-tab", L"property-sheet",
+            L"palette"};
 }
 
 bool ColourPickerPage::pose(const std::wstring& name)
@@ -143,6 +153,10 @@ bool ColourPickerPage::pose(const std::wstring& name)
     }
     if (name == L"on-tab") {
         TabbedPicker(m_host, m_colour, this).DoModal();
+        return true;
+    }
+    if (name == L"property-sheet") {
+        ColourSheet(m_host, m_colour, this).DoModal();
         return true;
     }
     if (name == L"palette") {

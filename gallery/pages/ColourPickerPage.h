@@ -20,6 +20,7 @@ protected:
     afx_msg void OnPick();
     afx_msg void OnCustomColours();
     afx_msg void OnOnTab();
+    afx_msg void OnInSheet();
     afx_msg void OnModeless();
     afx_msg void OnPalette();
     afx_msg void OnAlpha();

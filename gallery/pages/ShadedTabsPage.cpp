@@ -1,21 +1,63 @@
 #include "ShadedTabsPage.h"
 
+#include "Resolution.h"
+
 #include <ovoui/frame/TabKeys.h>
+
+#include <array>
 
 BEGIN_MESSAGE_MAP(TabContent, CDialog)
     ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
+namespace
+{
+
+constexpr int kColumnWidth = 80;
+constexpr int kPercentDone = 60;
+constexpr int kYearsOld = 42;
+
+} // namespace
+
 bool TabContent::open(CTabCtrl& tabs)
 {
     if (!Create(IDD_TAB_CONTENT, &tabs))
         return false;
-    CheckDlgButton(IDC_CONTENT_CHECK, BST_CHECKED);
-    CheckDlgButton(IDC_CONTENT_ROUND, BST_CHECKED);
-    SetDlgItemText(IDC_CONTENT_EDIT, L"Copper beech");
+    fill();
     fit();
     ShowWindow(SW_SHOW);
     return true;
+}
+
+void TabContent::fill()
+{
+    static constexpr std::array kTrees{L"Ash", L"Beech", L"Elm", L"Oak"};
+    CheckDlgButton(IDC_CONTENT_CHECK, BST_CHECKED);
+    CheckDlgButton(IDC_CONTENT_ROUND, BST_CHECKED);
+    SetDlgItemText(IDC_CONTENT_EDIT, L"Copper beech");
+    SetDlgItemText(IDC_CONTENT_READ_ONLY, L"Fagus sylvatica");
+    SendDlgItemMessage(IDC_CONTENT_ICON, STM_SETICON,
+                       reinterpret_cast<WPARAM>(::LoadIconW(nullptr, IDI_INFORMATION)));
+    CListCtrl rows;
+    rows.Attach(*GetDlgItem(IDC_CONTENT_ROWS));
+    rows.InsertColumn(0, L"Tree", LVCFMT_LEFT, scaled(m_hWnd, kColumnWidth));
+    CTreeCtrl tree;
+    tree.Attach(*GetDlgItem(IDC_CONTENT_TREE));
+    const HTREEITEM root = tree.InsertItem(L"Broad-leaved");
+    int row = 0;
+    for (const wchar_t* const name : kTrees) {
+        SendDlgItemMessage(IDC_CONTENT_LIST, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
+        SendDlgItemMessage(IDC_CONTENT_KIND, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
+        SendDlgItemMessage(IDC_CONTENT_PLACE, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name));
+        rows.InsertItem(row++, name);
+        tree.InsertItem(name, root);
+    }
+    rows.Detach();
+    tree.Detach();
+    SendDlgItemMessage(IDC_CONTENT_KIND, CB_SETCURSEL, 1);
+    SendDlgItemMessage(IDC_CONTENT_PLACE, CB_SETCURSEL, 2);
+    SendDlgItemMessage(IDC_CONTENT_PROGRESS, PBM_SETPOS, kPercentDone);
+    SendDlgItemMessage(IDC_CONTENT_SPIN, UDM_SETPOS, 0, kYearsOld);
 }
 
 void TabContent::fit()

@@ -21,6 +21,9 @@ protected:
     void OnOK() override {}
     void OnCancel() override {}
     DECLARE_MESSAGE_MAP()
+
+private:
+    void fill();
 };
 
 class ShadedTabsPage : public GalleryPage

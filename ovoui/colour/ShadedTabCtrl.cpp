@@ -25,6 +25,39 @@ CPoint originIn(const CWnd* wnd, const CWnd& tabs)
     return origin;
 }
 
+bool isMirrored(const CWnd& wnd)
+{
+    return (wnd.GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+}
+
+/// A DC with a picture of a tab control in it, in the tab control's own coordinates.
+class PictureDc
+{
+public:
+    PictureDc(CDC* compatibleWith, const CBitmap& picture)
+    {
+        if (!m_dc.CreateCompatibleDC(compatibleWith))
+            return;
+        m_before = ::SelectObject(m_dc, picture);
+        m_dc.SetLayout(0); // it may have got that of the screen's DC
+    }
+    ~PictureDc()
+    {
+        if (m_before)
+            ::SelectObject(m_dc, m_before);
+    }
+    PictureDc(const PictureDc&) = delete;
+    PictureDc& operator=(const PictureDc&) = delete;
+
+    explicit operator bool() const { return m_before != nullptr; }
+    CDC* operator->() { return &m_dc; }
+    operator CDC*() { return &m_dc; }
+
+private:
+    CDC m_dc;
+    HGDIOBJ m_before = nullptr;
+};
+
 bool isGroupBox(const CWnd& control, UINT type)
 {
     constexpr DWORD kKind = 0x0F;
@@ -58,6 +91,7 @@ CShadedTabCtrl::~CShadedTabCtrl() = default;
 void CShadedTabCtrl::captureBackground()
 {
     m_captured = true;
+    m_flippedBrush.DeleteObject();
     m_brush.DeleteObject();
     m_picture.DeleteObject();
     if (!CThemeData::getThemeData().IsAppThemed())
@@ -81,16 +115,15 @@ bool CShadedTabCtrl::takePicture(CBitmap& picture)
     if (!::GetWindowRect(m_hWnd, &window) || window.IsRectEmpty())
         return false;
     CWindowDC screen(this);
-    CDC memory;
-    if (!memory.CreateCompatibleDC(&screen) ||
-        !picture.CreateCompatibleBitmap(&screen, window.Width(), window.Height()))
+    if (!picture.CreateCompatibleBitmap(&screen, window.Width(), window.Height()))
         return false;
-    const HGDIOBJ before = ::SelectObject(memory, picture);
+    PictureDc memory(&screen, picture);
+    if (!memory)
+        return false;
     // What the control does not paint, beside its tabs, has the colour of dialogs.
-    memory.FillSolidRect(0, 0, window.Width(), window.Height(), ::GetSysColor(COLOR_BTNFACE));
-    SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(memory.m_hDC),
+    memory->FillSolidRect(0, 0, window.Width(), window.Height(), ::GetSysColor(COLOR_BTNFACE));
+    SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(memory->m_hDC),
                 PRF_NONCLIENT | PRF_CLIENT | PRF_ERASEBKGND);
-    ::SelectObject(memory, before);
     return true;
 }
 
@@ -146,29 +179,62 @@ HBRUSH CShadedTabCtrl::amended(CDC* dc, UINT type, HBRUSH defaultBrush, CWnd* co
 {
     if (!hasBackground())
         return defaultBrush;
-    const CPoint origin = originIn(control, *this);
     if (isGroupBox(*control, type)) {
+        const CPoint origin = originIn(control, *this);
         const COLORREF colour = colourAt(CPoint(-origin.x, -origin.y));
         const HBRUSH brush = colour == CLR_INVALID ? nullptr : solidBrush(colour);
         return brush ? brush : defaultBrush;
     }
     dc->SetBkMode(TRANSPARENT);
-    // The origin is in device units. They differ from the window's when a child lets its parent paint the
-    // background into the child's DC.
-    dc->SetBrushOrg(origin + dc->GetViewportOrg());
-    return m_brush;
+    return alignedBrush(*dc, *control);
+}
+
+/// The brush for a DC with the coordinates of a control, with its origin set. Brushes are laid out in device
+/// units, from the left. So where the DC or a window is laid out from right to left, what the picture has at
+/// its left may have to be at the right.
+HBRUSH CShadedTabCtrl::alignedBrush(CDC& dc, const CWnd& control)
+{
+    const bool mirroredDc = (dc.GetLayout() & LAYOUT_RTL) != 0;
+    const bool againstTheScreen = !mirroredDc && isMirrored(control); // as a DC in memory is
+    const bool flipped = isMirrored(*this) != againstTheScreen;
+    CRect window;
+    if (flipped)
+        GetWindowRect(&window);
+    CPoint origin(window.Width(), 0);
+    ::MapWindowPoints(m_hWnd, control.m_hWnd, &origin, 1);
+    // The control's coordinates may be moved: some let their parent paint into their own DC.
+    dc.LPtoDP(&origin);
+    // The origin is an edge between pixels. Of the two beside it the other one is at its right in a mirrored
+    // DC.
+    dc.SetBrushOrg(mirroredDc ? origin + CSize(1, 0) : origin);
+    return flipped ? flippedBrush() : m_brush;
+}
+
+HBRUSH CShadedTabCtrl::flippedBrush()
+{
+    if (m_flippedBrush.GetSafeHandle())
+        return m_flippedBrush;
+    BITMAP size{};
+    m_picture.GetBitmap(&size);
+    CBitmap picture;
+    {
+        CClientDC screen(this);
+        PictureDc from(&screen, m_picture);
+        if (!picture.CreateCompatibleBitmap(&screen, size.bmWidth, size.bmHeight))
+            return m_brush;
+        PictureDc to(&screen, picture);
+        to->StretchBlt(0, 0, size.bmWidth, size.bmHeight, from, size.bmWidth - 1, 0, -size.bmWidth,
+                       size.bmHeight, SRCCOPY);
+    }
+    m_flippedBrush.CreatePatternBrush(&picture);
+    return m_flippedBrush;
 }
 
 /// The picture's colour at a point of the client area; CLR_INVALID outside of it.
 COLORREF CShadedTabCtrl::colourAt(CPoint point)
 {
-    CDC memory;
-    if (!memory.CreateCompatibleDC(nullptr))
-        return CLR_INVALID;
-    const HGDIOBJ before = ::SelectObject(memory, m_picture);
-    const COLORREF colour = memory.GetPixel(point);
-    ::SelectObject(memory, before);
-    return colour;
+    PictureDc memory(nullptr, m_picture);
+    return memory ? memory->GetPixel(point) : CLR_INVALID;
 }
 
 // Messages

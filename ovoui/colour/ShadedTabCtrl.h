@@ -62,9 +62,12 @@ private:
     bool hasBackground();
     bool takePicture(CBitmap& picture);
     HBRUSH amended(CDC* dc, UINT type, HBRUSH defaultBrush, CWnd* control);
+    HBRUSH alignedBrush(CDC& dc, const CWnd& control);
+    HBRUSH flippedBrush();
     COLORREF colourAt(CPoint point);
 
     bool m_captured = false; ///< the picture has been taken, or tried to
     CBitmap m_picture;       ///< of the whole window
     CBrush m_brush;          ///< that picture as a pattern
+    CBrush m_flippedBrush;   ///< the same from right to left; made when it is needed
 };

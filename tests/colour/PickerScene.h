@@ -47,6 +47,8 @@ constexpr int kNarrowSwatchTemplate = 7102;
 constexpr int kBareTemplate = 7103;
 constexpr int kPageTemplate = 7104;
 constexpr int kEmptyPageTemplate = 7105;
+constexpr int kPickerPageTemplate = 7106;
+constexpr int kPickerTabs = 3600;
 constexpr int kSwatchArea = 3500;
 
 /// Makes what deriving hosts reach reachable for the tests, and takes down the calls.

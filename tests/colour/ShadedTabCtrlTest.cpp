@@ -52,6 +52,22 @@ BEGIN_MESSAGE_MAP(PatternTabs, CShadedTabCtrl)
     ON_MESSAGE(WM_PRINTCLIENT, &PatternTabs::OnPrintClient)
 END_MESSAGE_MAP()
 
+/// A system without UxTheme, as the library sees it while this object lives.
+class NoThemes
+{
+public:
+    NoThemes()
+        : m_real(CThemeData::getThemeData())
+    {
+        ::LoadLibraryW(L"uxtheme.dll"); // the copy releases it once more
+        CThemeData::getThemeData() = CThemeData([](const wchar_t*) -> HMODULE { return nullptr; });
+    }
+    ~NoThemes() { CThemeData::getThemeData() = m_real; }
+
+private:
+    CThemeData m_real;
+};
+
 class ShadedTabCtrl : public ::testing::Test
 {
 protected:
@@ -118,6 +134,39 @@ TEST_F(ShadedTabCtrl, ThePictureIsTakenOnceWhenItIsNeeded)
     fresh.DestroyWindow();
 }
 
+TEST_F(ShadedTabCtrl, WhateverNeedsItFirstTakesThePicture)
+{
+    NEEDS_THEMES();
+    HBRUSH brush = nullptr;
+    CPoint origin;
+    const std::function<void(PatternTabs&, CWnd&)> uses[] = {
+        [&](PatternTabs& fresh, CWnd&) { EXPECT_TRUE(fresh.GetBackgroundBrush(brush, origin, nullptr)); },
+        [&](PatternTabs&, CWnd& text) {
+            EXPECT_TRUE(CShadedTabCtrl::GetBackgroundBrush(&text, brush, origin));
+        },
+        [&](PatternTabs&, CWnd& text) { EXPECT_NE(amend(text, CTLCOLOR_STATIC), white()); },
+        [&](PatternTabs& fresh, CWnd& text) {
+            CClientDC dc(&text);
+            EXPECT_NE(fresh.AmendCtlColor(&dc, CTLCOLOR_STATIC, white(), &text), white());
+        },
+    };
+    for (const auto& use : uses) {
+        // One of a dialog is taken over when it has its size.
+        const HWND wnd = ::CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD, 0, 0, 50, 40, frame.m_hWnd,
+                                           nullptr, nullptr, nullptr);
+        PatternTabs fresh;
+        fresh.SubclassWindow(wnd);
+        CWnd text;
+        text.CreateEx(0, L"STATIC", L"", WS_CHILD, CRect(3, 4, 20, 20), &fresh, 6);
+        EXPECT_EQ(fresh.pictures, 0);
+        use(fresh, text);
+        EXPECT_EQ(fresh.pictures, 1);
+        use(fresh, text);
+        EXPECT_EQ(fresh.pictures, 1);
+        fresh.DestroyWindow();
+    }
+}
+
 TEST_F(ShadedTabCtrl, AChangeOfTheSizeTakesANewPictureOfThatSize)
 {
     NEEDS_THEMES();
@@ -170,6 +219,62 @@ TEST_F(ShadedTabCtrl, WithoutVisualStylesThereIsNone)
     EXPECT_EQ(amend(child, CTLCOLOR_STATIC), white());
     EXPECT_EQ(amendAsMember(child, CTLCOLOR_STATIC), white());
     EXPECT_EQ(tabs->pictures, 0);
+}
+
+TEST_F(ShadedTabCtrl, WithoutUxThemeThereIsNone)
+{
+    const NoThemes missing;
+    PatternTabs fresh;
+    fresh.Create(WS_CHILD, CRect(0, 0, 50, 40), &frame, 5);
+    CWnd text;
+    text.CreateEx(0, L"STATIC", L"text", WS_CHILD, CRect(3, 4, 20, 20), &fresh, 6);
+    HBRUSH brush = white();
+    CPoint origin(7, 8);
+    EXPECT_FALSE(fresh.GetBackgroundBrush(brush, origin, &text));
+    EXPECT_FALSE(CShadedTabCtrl::GetBackgroundBrush(&text, brush, origin));
+    EXPECT_EQ(brush, white());
+    EXPECT_EQ(origin, CPoint(7, 8));
+    EXPECT_EQ(amend(text, CTLCOLOR_STATIC), white());
+    EXPECT_EQ(fresh.pictures, 0);
+    fresh.DestroyWindow();
+}
+
+TEST_F(ShadedTabCtrl, ThemesMayGoAndComeWhileItIsShown)
+{
+    NEEDS_THEMES();
+    child.SetWindowText(L"");
+    present(frame);
+    EXPECT_EQ(Picture::ofClient(child.m_hWnd).at(2, 3), pixelOf(32, 43));
+    const auto changed = [this] {
+        tabs->SendMessage(WM_THEMECHANGED);
+        frame.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    };
+    {
+        const NoThemes off;
+        changed();
+        HBRUSH brush = white();
+        CPoint origin;
+        EXPECT_FALSE(CShadedTabCtrl::GetBackgroundBrush(&child, brush, origin));
+        EXPECT_EQ(amend(child, CTLCOLOR_STATIC), white());
+        EXPECT_EQ(Picture::ofClient(child.m_hWnd).at(2, 3), ::GetSysColor(COLOR_BTNFACE));
+        tabs->SetWindowPos(nullptr, 0, 0, 190, 150, SWP_NOMOVE | SWP_NOZORDER);
+        EXPECT_FALSE(CShadedTabCtrl::GetBackgroundBrush(&child, brush, origin))
+            << "nor after a change of the size";
+    }
+    changed();
+    EXPECT_EQ(Picture::ofClient(child.m_hWnd).at(2, 3), pixelOf(32, 43));
+}
+
+TEST_F(ShadedTabCtrl, ThemesThatGoWithoutAWordLeaveThePictureUntilTheNextChange)
+{
+    NEEDS_THEMES();
+    HBRUSH brush = nullptr;
+    CPoint origin;
+    ASSERT_TRUE(CShadedTabCtrl::GetBackgroundBrush(&child, brush, origin));
+    const NoThemes off;
+    EXPECT_TRUE(CShadedTabCtrl::GetBackgroundBrush(&child, brush, origin)) << "taken once";
+    tabs->SetWindowPos(nullptr, 0, 0, 190, 150, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_FALSE(CShadedTabCtrl::GetBackgroundBrush(&child, brush, origin)) << "taken anew with the size";
 }
 
 TEST_F(ShadedTabCtrl, WithoutAWindowThereIsNone)
@@ -237,6 +342,31 @@ TEST_F(ShadedTabCtrl, WindowsWithinWindowsOnThePageFindIt)
     ASSERT_TRUE(CShadedTabCtrl::GetBackgroundBrush(&inner, brush, origin));
     EXPECT_EQ(origin, CPoint(-12, -34));
     EXPECT_EQ(amend(*page, CTLCOLOR_DLG), brush) << "a dialog on the page";
+}
+
+TEST_F(ShadedTabCtrl, TemporaryObjectsFindItToo)
+{
+    NEEDS_THEMES();
+    const HWND page = ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD | WS_VISIBLE, 5, 25, 190, 130,
+                                        tabs->m_hWnd, nullptr, nullptr, nullptr);
+    const HWND inner =
+        ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 7, 9, 33, 11, page, nullptr, nullptr, nullptr);
+    ASSERT_FALSE(CWnd::FromHandlePermanent(inner));
+    HBRUSH brush = nullptr;
+    CPoint origin;
+    ASSERT_TRUE(CShadedTabCtrl::GetBackgroundBrush(CWnd::FromHandle(inner), brush, origin));
+    EXPECT_EQ(origin, CPoint(-12, -34));
+    EXPECT_EQ(amend(*CWnd::FromHandle(inner), CTLCOLOR_STATIC), brush);
+    const HWND box = ::CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | BS_GROUPBOX, 7, 9, 33, 11, page, nullptr,
+                                       nullptr, nullptr);
+    const HBRUSH solid = amend(*CWnd::FromHandle(box), CTLCOLOR_STATIC);
+    EXPECT_EQ(solid, CShadedTabCtrl::ms_brushes.at(pixelOf(12, 34)));
+    // A tab control without an object of the class is none.
+    const HWND plain = ::CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD, 0, 0, 50, 50, frame.m_hWnd,
+                                         nullptr, nullptr, nullptr);
+    const HWND onPlain =
+        ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 7, 9, 33, 11, plain, nullptr, nullptr, nullptr);
+    EXPECT_FALSE(CShadedTabCtrl::GetBackgroundBrush(CWnd::FromHandle(onPlain), brush, origin));
 }
 
 TEST_F(ShadedTabCtrl, OfSeveralTheNearestCounts)
@@ -353,6 +483,61 @@ TEST_F(ShadedTabCtrl, OnlyAGroupBoxIsOne)
     EXPECT_EQ(amend(*frameOnly, CTLCOLOR_STATIC), pattern);
     const auto groupBox = control(L"BUTTON", BS_GROUPBOX, CRect(50, 60, 90, 90));
     EXPECT_EQ(amend(*groupBox, CTLCOLOR_BTN), pattern);
+}
+
+TEST_F(ShadedTabCtrl, OfTheStyleOnlyTheKindOfButtonCounts)
+{
+    NEEDS_THEMES();
+    HBRUSH pattern = nullptr;
+    CPoint origin;
+    ASSERT_TRUE(CShadedTabCtrl::GetBackgroundBrush(&child, pattern, origin));
+    for (DWORD kind = 0; kind < 16; ++kind) {
+        const auto button = control(L"BUTTON", 0, CRect(50, 60, 90, 90));
+        ::SetWindowLongPtrW(button->m_hWnd, GWL_STYLE, WS_CHILD | BS_LEFTTEXT | BS_CENTER | kind);
+        const HBRUSH brush = amend(*button, CTLCOLOR_STATIC);
+        EXPECT_EQ(brush, kind == BS_GROUPBOX ? CShadedTabCtrl::ms_brushes.at(pixelOf(50, 60)) : pattern)
+            << kind;
+        EXPECT_EQ(amendAsMember(*button, CTLCOLOR_STATIC), brush) << kind;
+    }
+    // A class of another name is no group box, whatever it is derived from.
+    WNDCLASS derived{};
+    ::GetClassInfoW(nullptr, L"BUTTON", &derived);
+    derived.lpszClassName = L"DerivedButton";
+    derived.hInstance = ::GetModuleHandleW(nullptr);
+    ::RegisterClassW(&derived);
+    const auto other = control(L"DerivedButton", BS_GROUPBOX, CRect(50, 60, 90, 90));
+    EXPECT_EQ(amend(*other, CTLCOLOR_STATIC), pattern);
+    other->DestroyWindow();
+    ::UnregisterClassW(L"DerivedButton", derived.hInstance);
+}
+
+TEST_F(ShadedTabCtrl, TheCaptionOfAGroupBoxHasTheColourUnderItsCorner)
+{
+    NEEDS_THEMES();
+    const auto box = control(L"BUTTON", WS_VISIBLE | BS_GROUPBOX, CRect(33, 44, 150, 110));
+    present(frame);
+    EXPECT_GT(Picture::ofClient(box->m_hWnd).count(pixelOf(33, 44)), 20);
+}
+
+TEST_F(ShadedTabCtrl, MirroredThePictureIsInItsOwnCoordinates)
+{
+    NEEDS_THEMES();
+    PatternTabs mirrored;
+    mirrored.CreateEx(WS_EX_LAYOUTRTL, WS_CHILD, CRect(0, 0, 150, 90), &frame, 5);
+    HBRUSH brush = nullptr;
+    CPoint origin;
+    ASSERT_TRUE(mirrored.GetBackgroundBrush(brush, origin, &mirrored));
+    const Picture picture(150, 90);
+    const RECT all{0, 0, 150, 90};
+    ::SetBrushOrgEx(picture.dc(), 0, 0, nullptr);
+    ::FillRect(picture.dc(), &all, brush);
+    EXPECT_EQ(picture.at(0, 5), pixelOf(0, 5));
+    EXPECT_EQ(picture.at(149, 5), pixelOf(149, 5));
+    CWnd box;
+    box.CreateEx(0, L"BUTTON", L"x", WS_CHILD | BS_GROUPBOX, CRect(33, 44, 90, 80), &mirrored, 6);
+    const HBRUSH solid = amend(box, CTLCOLOR_STATIC);
+    EXPECT_EQ(solid, CShadedTabCtrl::ms_brushes.at(pixelOf(33, 44)));
+    mirrored.DestroyWindow();
 }
 
 TEST_F(ShadedTabCtrl, AGroupBoxBesideThePictureKeepsItsBrush)
