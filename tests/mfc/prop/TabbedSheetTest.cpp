@@ -481,6 +481,70 @@ TEST_F(TabbedSheet, DialogUnitsAreThoseOfTheSheet)
     });
 }
 
+TEST_F(TabbedSheet, TheHostsCallbackIsCalledToo)
+{
+    static std::vector<UINT> s_told;
+    s_told.clear();
+    sheet.m_psh.dwFlags |= PSH_USECALLBACK;
+    sheet.m_psh.pfnCallback = [](HWND, UINT message, LPARAM) {
+        s_told.push_back(message);
+        return 0;
+    };
+    show([](Story story) { return story.key(VK_ESCAPE); });
+    ASSERT_GE(s_told.size(), 2u);
+    EXPECT_EQ(s_told[0], UINT{PSCB_PRECREATE});
+    EXPECT_EQ(s_told[1], UINT{PSCB_INITIALIZED});
+}
+
+TEST_F(TabbedSheet, ItsRecordSaysWhatItStartsWith)
+{
+    const HBITMAP watermark = ::CreateBitmap(8, 8, 1, 1, nullptr);
+    const HBITMAP header = ::CreateBitmap(8, 8, 1, 1, nullptr);
+    const auto palette = static_cast<HPALETTE>(::GetStockObject(DEFAULT_PALETTE));
+    const CPropertySheet pictures(IDS_SHEET, &owner, 2, watermark, palette, header);
+    EXPECT_STREQ(pictures.m_psh.pszCaption, L"Options");
+    EXPECT_EQ(pictures.m_psh.nStartPage, 2u);
+    EXPECT_EQ(pictures.m_psh.hbmWatermark, watermark);
+    EXPECT_EQ(pictures.m_psh.hplWatermark, palette);
+    EXPECT_EQ(pictures.m_psh.hbmHeader, header);
+    EXPECT_EQ(pictures.m_psh.dwFlags, DWORD{PSH_WATERMARK | PSH_USEHBMWATERMARK | PSH_USEHPLWATERMARK |
+                                            PSH_HEADER | PSH_USEHBMHEADER});
+    const CPropertySheet plain(L"Plain");
+    EXPECT_STREQ(plain.m_psh.pszCaption, L"Plain");
+    EXPECT_EQ(plain.m_psh.dwFlags, 0u);
+    EXPECT_EQ(plain.m_psh.dwSize, sizeof(PROPSHEETHEADER));
+    ::DeleteObject(watermark);
+    ::DeleteObject(header);
+}
+
+TEST_F(TabbedSheet, WithoutApplyThereIsNoSuchButton)
+{
+    sheet.m_psh.dwFlags |= PSH_NOAPPLYNOW;
+    show([this](Story story) {
+        return story.then([this] { EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(sheet, ID_APPLY_NOW))); })
+            .key(VK_ESCAPE);
+    });
+}
+
+TEST_F(TabbedSheet, MayOpenAnother)
+{
+    CPropertySheet inner(L"Inner", &sheet);
+    TestPage page("inner", calls);
+    inner.AddPage(&page);
+    INT_PTR answer = 0;
+    general.onAct = [&] { answer = inner.DoModal(); };
+    const INT_PTR outer = show([&](Story story) {
+        return story.click(Spot{[this] { return general.GetDlgItem(ID_TEST_ACT)->m_hWnd; }})
+            .waitFor("the inner one", [&] { return inner.m_hWnd && shownDialog() == inner.m_hWnd; })
+            .then([this] { EXPECT_FALSE(sheet.IsWindowEnabled()); })
+            .key(VK_RETURN)
+            .waitFor("the outer one", [this] { return shownDialog() == sheet.m_hWnd; })
+            .key(VK_ESCAPE);
+    });
+    EXPECT_EQ(answer, IDOK);
+    EXPECT_EQ(outer, IDCANCEL);
+}
+
 TEST_F(TabbedSheet, MayBeShownAgainAndLosesNothing)
 {
     const auto cycle = [this] {
