@@ -3,6 +3,7 @@
 #include "bararea.h"
 #include "core/floatrules.h"
 #include "dockmemory.h"
+#include "floatplace.h"
 
 #include <afxext.h>
 
@@ -198,11 +199,16 @@ void BarDrag::toggle(CControlBar& bar)
 void BarDrag::makeFloat(CControlBar& bar)
 {
     const DockMemory memory = bar.m_dockMemory ? *bar.m_dockMemory : DockMemory{};
-    CPoint point = memory.floatPoint;
-    if (!memory.floated) {
+    const HWND wnd = bar.m_hWnd;
+    CPoint point;
+    if (memory.floated) {
+        point = placeToFloatAgain(bar, memory.floatPoint, memory.horizontal);
+    } else {
         const Place first = firstFloatPlace(areaOf(screenRectOf(bar)), ::GetSystemMetrics(SM_CYSMCAPTION));
         point = CPoint(first.x, first.y);
     }
+    if (CWnd::FromHandlePermanent(wnd) != &bar || !bar.isDockable())
+        return; // the bar that was asked for its size has gone
     CFrameWnd& frame = *bar.m_pDockSite;
     frame.FloatControlBar(&bar, point, memory.horizontal ? CBRS_ALIGN_TOP : CBRS_ALIGN_LEFT);
     frame.RecalcLayout();

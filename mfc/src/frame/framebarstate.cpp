@@ -3,8 +3,8 @@
 
 #include "bararea.h"
 #include "core/barstate.h"
-#include "core/floatrules.h"
 #include "dockmemory.h"
+#include "floatplace.h"
 
 namespace
 {
@@ -16,30 +16,6 @@ DockMemory& memoryOf(std::unique_ptr<DockMemory>& memory)
     if (!memory)
         memory = std::make_unique<DockMemory>();
     return *memory;
-}
-
-BOOL CALLBACK collectWorkArea(HMONITOR monitor, HDC, LPRECT, LPARAM found)
-{
-    MONITORINFO info{};
-    info.cbSize = sizeof info;
-    if (::GetMonitorInfoW(monitor, &info))
-        reinterpret_cast<std::vector<afxdetail::Area>*>(found)->push_back(afxdetail::areaOf(info.rcWork));
-    return TRUE;
-}
-
-std::vector<afxdetail::Area> workAreas()
-{
-    std::vector<afxdetail::Area> areas;
-    ::EnumDisplayMonitors(nullptr, nullptr, &collectWorkArea, reinterpret_cast<LPARAM>(&areas));
-    return areas;
-}
-
-/// Where a window of this size comes back that was there when the state was saved.
-CPoint broughtBack(CPoint topLeft, CSize size)
-{
-    const afxdetail::Place place =
-        afxdetail::bringBack({topLeft.x, topLeft.y}, afxdetail::extentOf(size), workAreas());
-    return CPoint(place.x, place.y);
 }
 
 std::vector<const CControlBarInfo*> infosOf(const CDockState& state)
@@ -126,12 +102,9 @@ void CFrameWnd::SetDockState(const CDockState& state)
         if (!bar)
             continue;
         if (info->floating && bar->m_dockingEnabled) {
-            const DWORD style = info->horizontal ? CBRS_ALIGN_TOP : CBRS_ALIGN_LEFT;
-            const CSize size =
-                bar->CalcDynamicLayout(-1, info->horizontal ? LM_HORZ | LM_MRUWIDTH : LM_VERTDOCK);
-            FloatControlBar(
-                bar, broughtBack(info->floatPoint, CMiniDockFrameWnd::outerSize(size, bar->GetBarStyle())),
-                style);
+            const bool lies = info->horizontal != FALSE;
+            FloatControlBar(bar, afxdetail::placeToFloatAgain(*bar, info->floatPoint, lies),
+                            lies ? CBRS_ALIGN_TOP : CBRS_ALIGN_LEFT);
         }
         restoreMemory(*bar, *info);
         bar->delayShow(info->visible != FALSE);

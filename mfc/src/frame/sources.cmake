@@ -14,6 +14,7 @@ target_sources(ovomfc PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/dockbar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dockstate.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dragoutline.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/floatplace.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame.cpp
   ${CMAKE_CURRENT_LIST_DIR}/framebars.cpp
   ${CMAKE_CURRENT_LIST_DIR}/framehelp.cpp

@@ -43,6 +43,16 @@ protected:
         throw std::runtime_error("no such bar");
     }
 
+    /// Wholly.
+    static bool isInsideWorkArea(const CRect& rect)
+    {
+        CRect area;
+        ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+        CRect both;
+        both.UnionRect(area, rect);
+        return !rect.IsRectEmpty() && both == area;
+    }
+
     TemporaryProfile m_profile;
 };
 
@@ -114,19 +124,71 @@ TEST_F(BarStates, AFloatingBarOnAMonitorThatIsGoneComesBackIntoAWorkArea)
     frame->FloatControlBar(&one, CPoint(300, 300));
     frame->RecalcLayout();
     ovotest::present(*frame);
-    CRect area;
-    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
     const CPoint gone[] = {CPoint(20000, 300), CPoint(-5000, -5000), CPoint(300, 9000)};
     for (const CPoint& point : gone) {
         CDockState state;
         frame->GetDockState(state);
         info(state, ID_BAR_ONE).floatPoint = point;
         frame->SetDockState(state);
-        const CRect rect = onScreen(*floatOf(one));
-        CRect inside;
-        inside.IntersectRect(rect, area);
-        EXPECT_EQ(inside, rect) << point.x << "," << point.y;
+        EXPECT_TRUE(isInsideWorkArea(onScreen(*floatOf(one)))) << point.x << "," << point.y;
     }
+}
+
+TEST_F(BarStates, AMonitorThatIsGoneIsNoticedWhenTheProfileIsRead)
+{
+    ovotest::present(*frame);
+    frame->FloatControlBar(&one, CPoint(300, 300));
+    frame->RecalcLayout();
+    frame->SaveBarState(L"Arrangement");
+    for (int i = 0; i < 4; ++i)
+        AfxGetApp()->WriteProfileInt((L"Arrangement-Bar" + std::to_wstring(i)).c_str(), L"XPos", 30000);
+    frame->LoadBarState(L"Arrangement");
+    EXPECT_TRUE(isInsideWorkArea(onScreen(*floatOf(one))));
+}
+
+TEST_F(BarStates, ADockedBarThatFloatedOnAMonitorThatIsGoneFloatsInsideAWorkArea)
+{
+    dockInOneRow();
+    for (const CPoint point : {CPoint(20000, 300), CPoint(-5000, -5000)}) {
+        CDockState state;
+        frame->GetDockState(state);
+        info(state, ID_BAR_TWO).floating = FALSE;
+        info(state, ID_BAR_TWO).floated = TRUE;
+        info(state, ID_BAR_TWO).floatPoint = point;
+        frame->SetDockState(state);
+        ASSERT_FALSE(two.IsFloating());
+        robot.doubleClick(gripper(two));
+        ASSERT_TRUE(two.IsFloating());
+        EXPECT_TRUE(isInsideWorkArea(onScreen(*floatOf(two)))) << point.x << "," << point.y;
+    }
+}
+
+TEST_F(BarStates, ABarMayGoWhenItIsAskedForItsSizeToFloatAgain)
+{
+    class Vanishing : public ButtonBar
+    {
+    public:
+        bool vanishes = false;
+        CSize CalcDynamicLayout(int length, DWORD mode) override
+        {
+            if (std::exchange(vanishes, false)) {
+                DestroyWindow();
+                return CSize(10, 10);
+            }
+            return ButtonBar::CalcDynamicLayout(length, mode);
+        }
+    } bar;
+    ASSERT_TRUE(bar.create(*frame, ID_BAR_DIALOG, L"Vanishing", 2));
+    bar.EnableDocking(kAnySide);
+    frame->DockControlBar(&bar);
+    frame->FloatControlBar(&bar, CPoint(300, 300));
+    frame->DockControlBar(&bar);
+    frame->RecalcLayout();
+    ovotest::present(*frame);
+    bar.vanishes = true;
+    bar.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(-4, 5)); // on its gripper
+    EXPECT_EQ(bar.m_hWnd, nullptr);
+    EXPECT_EQ(frame->GetControlBar(ID_BAR_DIALOG), nullptr);
 }
 
 TEST_F(BarStates, BarsThatAreUnknownOrMissingDoNoHarm)
@@ -198,4 +260,31 @@ TEST_F(BarStates, BarsWithAFixedPlaceAreShownOrHiddenOnly)
     frame->LoadBarState(L"Arrangement");
     EXPECT_FALSE(status.IsVisible());
     EXPECT_EQ(status.GetParent(), frame);
+}
+
+TEST(BarStatesMirrored, ComeBackInAFrameFromRightToLeft)
+{
+    const TemporaryProfile profile;
+    CRect second;
+    CPoint floating;
+    {
+        DockScene scene({.exStyle = WS_EX_LAYOUTRTL});
+        scene.dockInOneRow();
+        scene.robot.press(scene.gripper(scene.two)).moveBy(-40, 0).release();
+        scene.frame->FloatControlBar(&scene.three, CPoint(333, 222));
+        scene.frame->DockControlBar(&scene.one, AFX_IDW_DOCKBAR_LEFT);
+        scene.frame->RecalcLayout();
+        second = scene.place(scene.two);
+        floating = DockScene::onScreen(*DockScene::floatOf(scene.three)).TopLeft();
+        scene.frame->SaveBarState(L"Arrangement");
+    }
+    DockScene next({.exStyle = WS_EX_LAYOUTRTL});
+    next.frame->LoadBarState(L"Arrangement");
+    EXPECT_EQ(next.place(next.two), second);
+    EXPECT_GT(second.left, 0);
+    EXPECT_EQ(next.one.GetParent(), next.side(AFX_IDW_DOCKBAR_LEFT));
+    EXPECT_EQ(DockScene::onScreen(next.one).right,
+              DockScene::onScreen(*next.side(AFX_IDW_DOCKBAR_TOP)).right);
+    ASSERT_TRUE(next.three.IsFloating());
+    EXPECT_EQ(DockScene::onScreen(*DockScene::floatOf(next.three)).TopLeft(), floating);
 }
