@@ -37,8 +37,10 @@ int CFlyoutToolbar::buttonUnder(CPoint screen) const
     ScreenToClient(&point);
     if (!client.PtInRect(point))
         return kNone;
-    const int index = GetToolBarCtrl().HitTest(&point); // negative for separators too
-    return index >= 0 && index < static_cast<int>(m_entries.size()) ? index : kNone;
+    // Negative for separators, except for one that is the first entry.
+    const int index = GetToolBarCtrl().HitTest(&point);
+    const bool isEntry = index >= 0 && index < static_cast<int>(m_entries.size());
+    return isEntry && !(buttonAt(index).fsStyle & TBSTYLE_SEP) ? index : kNone;
 }
 
 CFlyoutToolbar::Entry CFlyoutToolbar::track(CPoint screen)

@@ -71,6 +71,19 @@ bool isSeparator(UINT style)
     return (style & TBSTYLE_SEP) != 0;
 }
 
+/// The button at a client point; -1 where there is none. The control answers 0 for a separator that is the
+/// first item, and where the first item is the nearest.
+int buttonAt(const CToolBar& bar, CPoint point)
+{
+    CPoint asked(point);
+    const int index = bar.GetToolBarCtrl().HitTest(&asked);
+    if (index < 0)
+        return -1;
+    CRect rect;
+    bar.GetItemRect(index, &rect);
+    return rect.PtInRect(point) && !isSeparator(bar.GetButtonStyle(index)) ? index : -1;
+}
+
 } // namespace
 
 CToolBar::CToolBar() = default;
@@ -270,7 +283,7 @@ INT_PTR CToolBar::OnToolHitTest(CPoint point, TOOLINFO* info) const
     const INT_PTR child = CControlBar::OnToolHitTest(point, info);
     if (child != -1)
         return child;
-    const int index = GetToolBarCtrl().HitTest(&point);
+    const int index = buttonAt(*this, point);
     if (index < 0)
         return -1;
     const UINT id = GetItemID(index);
@@ -308,7 +321,7 @@ void CToolBar::OnPaint()
 
 bool CToolBar::isOnButton(CPoint point) const
 {
-    return GetToolBarCtrl().HitTest(&point) >= 0;
+    return buttonAt(*this, point) >= 0;
 }
 
 void CToolBar::OnLButtonDown(UINT flags, CPoint point)

@@ -311,6 +311,8 @@ TEST_F(ToolBar, KnowsTheToolUnderAPoint)
     EXPECT_EQ(CRect(info.rect), button(Other));
     EXPECT_EQ(m_bar.OnToolHitTest(button(Separator).CenterPoint(), nullptr), -1);
     EXPECT_EQ(m_bar.OnToolHitTest(CPoint(-5, -5), nullptr), -1);
+    m_bar.SetButtonInfo(0, ID_SEPARATOR, TBBS_SEPARATOR, 8);
+    EXPECT_EQ(m_bar.OnToolHitTest(button(0).CenterPoint(), nullptr), -1) << "a separator at the beginning";
 }
 
 // Sizes and rows

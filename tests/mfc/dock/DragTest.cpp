@@ -112,6 +112,12 @@ TEST_F(Drag, ControlKeepsItFloating)
     EXPECT_LE(onScreen(*floatOf(one)).left, onScreen(*frame).left + 10);
 }
 
+TEST_F(Drag, ControlTakesADockedBarOffItsSide)
+{
+    robot.holding(VK_CONTROL).press(gripper(one)).moveBy(40, 6).release();
+    EXPECT_TRUE(one.IsFloating()) << "although it lies over the side that it was at";
+}
+
 TEST_F(Drag, EscapeGivesUp)
 {
     const CRect before = place(one);
@@ -181,6 +187,17 @@ TEST_F(Drag, AButtonIsNoHandle)
     robot.press(button(one, 1)).moveTo(middle()).release();
     EXPECT_FALSE(one.IsFloating());
     EXPECT_TRUE(frame->commands.empty()) << "released beside it, the button is not chosen";
+}
+
+TEST_F(Drag, ASeparatorIsAHandleWhereverItIs)
+{
+    for (const int index : {1, 0}) {
+        two.SetButtonInfo(index, ID_SEPARATOR, TBBS_SEPARATOR, 12);
+        frame->DockControlBar(&two);
+        frame->RecalcLayout();
+        robot.press(button(two, index)).moveTo(middle()).release();
+        EXPECT_TRUE(two.IsFloating()) << index;
+    }
 }
 
 TEST_F(Drag, ABarThatCannotBeDockedIsNotDragged)
@@ -276,6 +293,33 @@ TEST_F(Drag, SizingTheLowerBorderTriesForThatHeight)
     EXPECT_GT(after.Height(), before.Height());
 }
 
+TEST_F(Drag, SizingTheLeftAndTheUpperBorderKeepsTheOtherEdges)
+{
+    robot.drag(gripper(one), middle());
+    const CRect before = onScreen(*floatOf(one));
+    CRect first;
+    one.GetItemRect(0, &first);
+    const auto leftBorder = [&] {
+        const CRect rect = onScreen(*floatOf(one));
+        return CPoint(rect.left + 1, rect.bottom - 10);
+    };
+    robot.press(Spot{leftBorder}).moveBy(2 * first.Width() - 4, 0).release(); // two buttons are left
+    const CRect narrow = onScreen(*floatOf(one));
+    EXPECT_LT(narrow.Width(), before.Width());
+    EXPECT_EQ(CPoint(narrow.right, narrow.top), CPoint(before.right, before.top));
+
+    const auto upperBorder = [&] {
+        const CRect rect = onScreen(*floatOf(one));
+        return CPoint(rect.CenterPoint().x, rect.top + 1);
+    };
+    robot.press(Spot{upperBorder}).moveBy(0, first.Height()).release(); // as low as one row
+    const CRect low = onScreen(*floatOf(one));
+    EXPECT_LT(low.Height(), narrow.Height());
+    EXPECT_GT(low.Width(), narrow.Width());
+    EXPECT_EQ(low.bottom, narrow.bottom);
+    EXPECT_EQ(low.left, narrow.left);
+}
+
 TEST_F(Drag, ABarOfFixedSizeHasNoBorderToSizeIt)
 {
     two.SetBarStyle(two.GetBarStyle() & ~CBRS_SIZE_DYNAMIC);
@@ -316,6 +360,15 @@ TEST_F(Drag, BarsThatMayFloatTogetherShareAWindow)
     EXPECT_EQ(floatOf(two), floatOf(one));
     robot.drag(gripper(three), Spot{one});
     EXPECT_NE(floatOf(three), floatOf(one)) << "this one may not";
+
+    const HWND window = *floatOf(one);
+    ::SendMessageW(window, WM_CLOSE, 0, 0);
+    EXPECT_FALSE(one.IsVisible());
+    EXPECT_FALSE(two.IsVisible());
+    EXPECT_FALSE(::IsWindowVisible(window));
+    frame->ShowControlBar(&two, TRUE, FALSE);
+    EXPECT_TRUE(::IsWindowVisible(window)) << "the window comes back with one of its bars";
+    EXPECT_FALSE(one.IsVisible());
 }
 
 TEST(DragMirrored, TheLeftSideIsAtTheRight)
