@@ -77,6 +77,8 @@ void CVantorToolBar::goToButton(int index)
     const UINT prompt = hasButton(index) ? GetItemID(index) : AFX_IDS_IDLEMESSAGE;
     ::PostMessageW(promptFrame(), WM_SETMESSAGESTRING, prompt, 0);
     SendMessage(TB_SETHOTITEM, static_cast<WPARAM>(index));
+    if (state->usable())
+        awaitTip();
     if (state->usable() && index != kNoButton)
         announceFocus(index);
 }
@@ -174,6 +176,7 @@ void CVantorToolBar::openByKey()
     CRect rect;
     GetItemRect(button, &rect);
     ClientToScreen(&rect);
+    hideTip();
     CreatePopup(button, rect, 0); // asks the host how the entries stand
     if (!state->usable() || ms_activeBar != this || !ms_popupBar)
         return;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <ovoui/images/AlphaImageList.h>
+#include <ovoui/toolbar/ButtonTip.h>
 #include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/toolbar/core/FlyoutRecords.h>
 
@@ -43,6 +44,7 @@ struct CVantorToolBar::State
         bool on = false;
         int button = -1;       ///< where it is; -1 for none
         HWND before = nullptr; ///< had the focus before
+        std::unique_ptr<ovoui::toolbar::ButtonTip> tip;
     } keyboard;
 
     // Images by resolution (ToolBarStrips.cpp)

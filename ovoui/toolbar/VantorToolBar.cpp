@@ -70,6 +70,7 @@ void CVantorToolBar::OnDestroy()
 {
     if (ms_activeBar == this)
         endPress();
+    m_state->keyboard.tip.reset();
     CToolBar::OnDestroy();
 }
 
@@ -109,7 +110,8 @@ LRESULT CVantorToolBar::OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM lPar
 void CVantorToolBar::OnTimer(UINT_PTR id)
 {
     if (id != kIdleTimer) {
-        CToolBar::OnTimer(id);
+        if (!onTipTimer(id))
+            CToolBar::OnTimer(id);
         return;
     }
     KillTimer(kIdleTimer);

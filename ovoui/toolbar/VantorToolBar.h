@@ -18,6 +18,7 @@
 #include <afxext.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 class CFlyoutToolbar;
@@ -102,7 +103,8 @@ public:
 
     /// Gives the bar the focus, so that keys operate it: arrows walk over the buttons, Enter and Space press
     /// one, Down or Alt+Down opens its flyout, Tab goes to the bar's controls, Escape gives the focus back to
-    /// where it was. FALSE when there is no button to press, or the focus cannot be had.
+    /// where it was. With CBRS_TOOLTIPS the tips of the buttons show as with the mouse. FALSE when there is
+    /// no button to press, or the focus cannot be had.
     BOOL FocusButtons();
 
     /// Bar and flyouts answer IAccessible themselves, with names, roles, states and default actions of their
@@ -231,6 +233,11 @@ private:
     void goToControl(bool previous);
     void giveFocusBack();
     void leaveKeyboard();
+    void awaitTip();
+    void showTip();
+    void hideTip();
+    bool onTipTimer(UINT_PTR id);
+    std::wstring tipOfButton(int index) const;
     // accessibility
     void announceFocus(int index) const;
     LRESULT onGetObject(WPARAM wParam, LPARAM lParam);

@@ -20,6 +20,7 @@ target_sources(ovoui PRIVATE
   ${toolbar_core}
   ${CMAKE_CURRENT_LIST_DIR}/AccessibleBar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ButtonNames.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ButtonTip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ButtonUpdate.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FlyoutTip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FlyoutToolbar.cpp
@@ -35,5 +36,6 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarPaint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarStrips.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarTips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/VantorToolBar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/VantorToolWnd.cpp)
