@@ -239,11 +239,20 @@ void CVantorToolBar::releaseQuietly(UINT flags, CPoint point)
     CPoint hit = point;
     const int index = GetToolBarCtrl().HitTest(&hit);
     const bool quiet = index >= 0 && index < buttonCount() && !(GetButtonStyle(index) & TBBS_DISABLED);
-    if (quiet)
-        SetButtonStyle(index, GetButtonStyle(index) | TBBS_DISABLED);
-    CToolBar::OnLButtonUp(flags, point);
-    if (quiet && state->usable() && index < buttonCount())
-        SetButtonStyle(index, GetButtonStyle(index) & ~static_cast<UINT>(TBBS_DISABLED));
+    const auto setDisabled = [&](bool disabled) {
+        if (!quiet || !state->usable() || index >= buttonCount())
+            return;
+        const UINT style = GetButtonStyle(index);
+        SetButtonStyle(index, disabled ? style | TBBS_DISABLED : style & ~static_cast<UINT>(TBBS_DISABLED));
+    };
+    setDisabled(true);
+    try {
+        CToolBar::OnLButtonUp(flags, point); // tells the owner of the capture
+    } catch (...) {
+        setDisabled(false);
+        throw;
+    }
+    setDisabled(false);
 }
 
 void CVantorToolBar::OnCaptureChanged(CWnd* now)

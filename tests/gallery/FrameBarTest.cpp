@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <afxcmn.h>
+#include <uxtheme.h>
 
 using namespace ovotest;
 
@@ -109,13 +110,55 @@ TEST_F(GalleryBar, EveryPageIsInAGroup)
 
 TEST_F(GalleryBar, TheThemeChangesWithItsFlyout)
 {
-    scene.open(L"tree");
+    scene.open(L"toolbars"); // has check boxes, which look different
+    const auto controlsAreStyled = [] { return (::GetThemeAppProperties() & STAP_ALLOW_CONTROLS) != 0; };
+    const auto look = [&] {
+        GuiThread::settle();
+        return Picture::ofWindow(::GetDlgItem(scene.page(), IDC_BARS_MARKS));
+    };
+    const auto imageOf = [&](UINT command) {
+        UINT id = 0;
+        UINT style = 0;
+        int image = -1;
+        bar().GetButtonInfo(indexOf(command), id, style, image);
+        return image;
+    };
+    ASSERT_TRUE(controlsAreStyled());
+    const Picture styled = look();
     const HWND before = scene.page();
-    choose(indexOf(ID_THEME_STYLED), 1);
+    const int place = indexOf(ID_THEME_STYLED);
+    const int image = imageOf(ID_THEME_STYLED);
+
+    choose(place, 1);
+    EXPECT_EQ(bar().theme(), static_cast<UINT>(ID_THEME_CLASSIC)) << "the button shows what was chosen";
+    EXPECT_EQ(indexOf(ID_THEME_CLASSIC), place);
+    EXPECT_NE(imageOf(ID_THEME_CLASSIC), image);
+    EXPECT_FALSE(controlsAreStyled());
     EXPECT_NE(scene.page().m_hWnd, before) << "the page is made anew";
-    EXPECT_EQ(openPage(), L"tree");
-    choose(indexOf(ID_THEME_CLASSIC), 0);
-    EXPECT_GE(indexOf(ID_THEME_STYLED), 0);
+    EXPECT_EQ(openPage(), L"toolbars");
+    EXPECT_GT(look().differences(styled), 0);
+
+    robot.click(itemOf(bar(), place)); // once more the same
+    EXPECT_FALSE(controlsAreStyled());
+    choose(place, 0);
+    EXPECT_EQ(bar().theme(), static_cast<UINT>(ID_THEME_STYLED));
+    EXPECT_EQ(imageOf(ID_THEME_STYLED), image);
+    EXPECT_TRUE(controlsAreStyled());
+    EXPECT_EQ(look().differences(styled), 0) << "as before";
+}
+
+TEST_F(GalleryBar, AFlyoutClosesWhenAnotherApplicationIsChosen)
+{
+    robot.press(itemOf(bar(), indexOf(ID_THEME_STYLED)))
+        .waitFor("the flyout", [] { return flyout() != nullptr; })
+        .then([&] {
+            scene.frame().SendMessage(WM_ACTIVATEAPP, FALSE, 0);
+            EXPECT_EQ(flyout(), nullptr);
+            scene.frame().SendMessage(WM_ACTIVATEAPP, TRUE, 0);
+        })
+        .moveTo(Spot{scene.page()})
+        .release();
+    EXPECT_EQ(bar().theme(), static_cast<UINT>(ID_THEME_STYLED));
 }
 
 TEST_F(GalleryBar, TheComboBoxShowsWhatThePageCanShow)

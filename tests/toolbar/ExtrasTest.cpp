@@ -59,6 +59,70 @@ TEST(FlyoutMarks, AreInTheCornerOfButtonsWithAFlyoutAndNoOther)
     EXPECT_EQ(darkInCorner(scene.bar(), BarScene::Lines), 0);
 }
 
+namespace
+{
+
+/// Pixels in the colour of text in the lower left and in the lower right quarter of a button, as they are
+/// seen on the screen, inside the button's edges.
+std::pair<int, int> darkOnScreen(const TestBar& bar, int index)
+{
+    RECT rect = itemRect(bar, index);
+    ::MapWindowPoints(bar.m_hWnd, nullptr, reinterpret_cast<POINT*>(&rect), 2);
+    CRect button(rect);
+    button.NormalizeRect();
+    const CWnd& frame = *bar.GetTopLevelFrame();
+    CRect whole;
+    frame.GetWindowRect(&whole);
+    button.OffsetRect(-whole.TopLeft());
+    const CPoint middle = button.CenterPoint();
+    button.DeflateRect(1, 1);
+    ::InvalidateRect(bar.m_hWnd, nullptr, TRUE);
+    const Picture picture = Picture::ofWindow(frame.m_hWnd);
+    const COLORREF text = ::GetSysColor(COLOR_BTNTEXT);
+    return {picture.count(text, 0, CRect(button.left, middle.y, middle.x, button.bottom)),
+            picture.count(text, 0, CRect(middle.x, middle.y, button.right, button.bottom))};
+}
+
+int trianglePixels(int size)
+{
+    return size * (size + 1) / 2;
+}
+
+} // namespace
+
+TEST(FlyoutMarks, InABarFromRightToLeftAreInTheOtherCorner)
+{
+    BarScene scene;
+    scene.bar().SendMessage(TB_SETIMAGELIST, 0, 0); // images could have the colour too
+    const auto before = darkOnScreen(scene.bar(), BarScene::Lines);
+    EXPECT_EQ(before, std::pair(0, 0));
+    scene.bar().ShowFlyoutMarks(true);
+    const auto [left, right] = darkOnScreen(scene.bar(), BarScene::Lines);
+    EXPECT_EQ(left, 0);
+    EXPECT_EQ(right, trianglePixels(3));
+    scene.bar().ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    EXPECT_EQ(darkOnScreen(scene.bar(), BarScene::Lines), std::pair(right, left));
+    EXPECT_EQ(darkOnScreen(scene.bar(), BarScene::Plain), std::pair(0, 0));
+}
+
+TEST(FlyoutMarks, GrowWithTheButtonAtEveryImageSize)
+{
+    BarScene scene;
+    scene.bar().SendMessage(TB_SETIMAGELIST, 0, 0);
+    scene.bar().ShowFlyoutMarks(true);
+    for (const DWORD layout : {DWORD{0}, DWORD{WS_EX_LAYOUTRTL}}) {
+        scene.bar().ModifyStyleEx(WS_EX_LAYOUTRTL, layout);
+        for (const int image : {16, 20, 24, 32, 48}) {
+            scene.bar().SetSizes(CSize(image + 8, image + 7), CSize(image, image));
+            scene.frame().RecalcLayout();
+            const int size = itemRect(scene.bar(), BarScene::Lines).Height() / 6;
+            const auto [left, right] = darkOnScreen(scene.bar(), BarScene::Lines);
+            EXPECT_EQ(layout ? left : right, trianglePixels(size)) << image;
+            EXPECT_EQ(layout ? right : left, 0) << image;
+        }
+    }
+}
+
 TEST(FlyoutMarks, OfADisabledButtonAreGrey)
 {
     BarScene scene;

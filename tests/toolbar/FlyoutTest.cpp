@@ -1,7 +1,6 @@
-// The flyout's window: where it goes, how large it is, how it looks, tips and prompts.
+// The flyout's window: where it goes, how large it is, how it looks, what is in it.
 #include "ToolBarScene.h"
 
-#include "support/ImportPatch.h"
 #include "support/Picture.h"
 
 #include <ovoui/frame/Geometry.h>
@@ -10,22 +9,10 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 using namespace ovotest;
 
 namespace
 {
-
-constexpr char kShown[] = "the flyout";
-
-CRect onScreen(const TestBar& bar, int index)
-{
-    CRect rect;
-    bar.GetItemRect(index, &rect);
-    bar.ClientToScreen(&rect);
-    return rect;
-}
 
 /// Opens the flyout of a button without the mouse; it is closed at the end of the scope.
 class OpenFlyout
@@ -65,13 +52,9 @@ private:
     }
 };
 
-void attachMany(BarScene& scene, int count, bool styleFlag = false)
+HIMAGELIST listOf(const CWnd& bar)
 {
-    std::vector<int> commands;
-    for (int i = 0; i < count; ++i)
-        commands.push_back(1000 + i);
-    scene.bar().AttachBar(BarScene::Lines, 16, commands, std::vector<int>(commands.size(), IDR_SHAPES),
-                          std::vector<int>(commands.size(), 4), {}, styleFlag, false);
+    return reinterpret_cast<HIMAGELIST>(bar.SendMessage(TB_GETIMAGELIST));
 }
 
 struct SideCase
@@ -105,6 +88,28 @@ TEST(FlyoutWindow, IsASmallFlatToolbarThatTakesNothing)
     EXPECT_EQ(::GetFocus(), focus);
     EXPECT_EQ(::GetActiveWindow(), active);
     EXPECT_EQ(flyout->SendMessage(WM_MOUSEACTIVATE), MA_NOACTIVATE);
+}
+
+TEST(FlyoutWindow, IsAlignedAsItsBarLies)
+{
+    for (const SideCase& side : kSides) {
+        BarScene scene(side.side);
+        for (const int index : {BarScene::Lines, BarScene::Shapes}) {
+            const OpenFlyout flyout(scene, index);
+            EXPECT_EQ(flyout->GetBarStyle() & CBRS_ALIGN_ANY,
+                      static_cast<DWORD>(side.horizontal ? CBRS_ALIGN_TOP : CBRS_ALIGN_LEFT))
+                << side.name;
+        }
+    }
+}
+
+TEST(FlyoutWindow, GoesWithTheBarsHoldOnIt)
+{
+    BarScene scene;
+    scene.bar().CreatePopup(BarScene::Lines, onScreen(scene.bar(), BarScene::Lines), 0);
+    const HWND window = BarScene::flyout()->m_hWnd;
+    TestBar::ms_popupBar.reset();
+    EXPECT_FALSE(::IsWindow(window));
 }
 
 TEST(FlyoutWindow, BelongsToTheBarsOwner)
@@ -236,6 +241,64 @@ TEST(FlyoutEntries, ABarWithoutImagesLendsItsStrips)
     TestBar::ms_popupBar.reset();
 }
 
+TEST(FlyoutEntries, KeepTheImageListOfWhenTheyWereAttached)
+{
+    BarScene scene;
+    const HIMAGELIST before = listOf(scene.bar());
+    const HIMAGELIST later = ::ImageList_Create(16, 16, ILC_COLOR24 | ILC_MASK, 8, 8);
+    scene.bar().SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(later));
+    {
+        const OpenFlyout flyout(scene);
+        EXPECT_EQ(listOf(*flyout), before);
+    }
+    scene.bar().SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(before));
+    ::ImageList_Destroy(later);
+}
+
+TEST(FlyoutEntries, OfACommandListHaveTheSizeThatUpdateBarBitmapSizeSays)
+{
+    BarScene scene;
+    TestBar bare;
+    bare.CreateEx(&scene.frame(), TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP);
+    static constexpr UINT kButtons[] = {ID_LINE, ID_BOX};
+    bare.SetButtons(kButtons, 2);
+    bare.AttachBar(0, 16, {ID_LINE, ID_ARC}, {IDR_SHAPES, IDR_SHAPES}, {1, 2}, {}, false, false);
+    bare.AttachBar(1, IDR_SHAPES, 16, {0, 1}, false);
+    scene.frame().RecalcLayout();
+    bare.UpdateBarBitmapSize(8);
+    const auto imageWidth = [&](int button) {
+        bare.CreatePopup(button, onScreen(bare, button), 0);
+        int width = 0;
+        int height = 0;
+        ::ImageList_GetIconSize(listOf(*BarScene::flyout()), &width, &height);
+        TestBar::ms_popupBar.reset();
+        return width;
+    };
+    EXPECT_EQ(imageWidth(0), 8);
+    EXPECT_EQ(imageWidth(1), 16) << "the resource's own";
+}
+
+TEST(FlyoutEntries, ACopiedFlyoutIsTheSame)
+{
+    BarScene scene;
+    TestBar& second = scene.addBar();
+    const auto commandsAt = [&](int button) {
+        std::vector<UINT> ids;
+        second.CreatePopup(button, onScreen(second, button), 0);
+        for (int i = 0; i < static_cast<int>(BarScene::flyout()->SendMessage(TB_BUTTONCOUNT)); ++i)
+            ids.push_back(BarScene::flyout()->GetItemID(i));
+        const bool captioned = (BarScene::flyout()->GetBarStyle() & CBRS_GRIPPER) != 0;
+        ids.push_back(captioned);
+        TestBar::ms_popupBar.reset();
+        return ids;
+    };
+    scene.bar().AttachBar(BarScene::Shapes, IDR_SHAPES, 16, {4, 0}, true);
+    second.CopyBar(1, &scene.bar(), BarScene::Shapes);
+    EXPECT_EQ(commandsAt(1), (std::vector<UINT>{ID_RING, ID_BOX, true}));
+    second.CopyBar(1, &scene.bar(), BarScene::Lines);
+    EXPECT_EQ(commandsAt(1), (std::vector<UINT>{ID_LINE, ID_CURVE, 0, ID_ARC, ID_NAMELESS, false}));
+}
+
 TEST(FlyoutEntries, AreEnabledAsTheUpdateHandlersSay)
 {
     BarScene scene;
@@ -337,164 +400,16 @@ TEST(FlyoutPlace, TheStyleFlagGivesItAGrip)
         const CSize more = flyout.rect().Size() - plain;
         EXPECT_EQ(more.cx > 0, side.horizontal) << side.name;
         EXPECT_EQ(more.cy > 0, !side.horizontal) << side.name;
+        EXPECT_TRUE(flyout->GetBarStyle() & CBRS_GRIPPER);
     }
 }
 
-// Prompts
-
-TEST(FlyoutPrompt, OfTheHotEntryIsInTheMessageLineAndGoesAgain)
+TEST(FlyoutPlace, TheStyleFlagHoldsForFlyoutsOfAResourceToo)
 {
     BarScene scene;
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(scene.entry(0))
-        .waitFor("the prompt", [&] { return scene.prompt() == L"Draws a line"; })
-        .moveTo(scene.entry(1))
-        .waitFor("the next one", [&] { return scene.prompt() == L"Draws a curve"; })
-        .moveTo(scene.outside())
-        .waitFor("none", [&] { return scene.prompt() == L"Ready"; })
-        .moveTo(scene.entry(0))
-        .waitFor("the prompt again", [&] { return scene.prompt() == L"Draws a line"; })
-        .release();
-    GuiThread::runUntil([&] { return scene.prompt() == L"Ready"; });
-    EXPECT_EQ(scene.prompt(), L"Ready");
-}
-
-// Tips
-
-namespace
-{
-
-HWND shownTip()
-{
-    return shownWindow(L"OVO_FLYOUT_TOOLTIP");
-}
-
-/// Timers that ovoui sets, by their number; what they are set to in turn.
-std::map<UINT_PTR, std::vector<UINT>> timers;
-UINT fastest = 0; ///< when not zero, timers 43 and 44 are this fast
-
-UINT_PTR WINAPI noteTimer(HWND wnd, UINT_PTR id, UINT elapse, TIMERPROC procedure)
-{
-    timers[id].push_back(elapse);
-    return ::SetTimer(wnd, id, fastest && id != 42 ? fastest : elapse, procedure);
-}
-
-class FlyoutTips : public ::testing::Test
-{
-protected:
-    FlyoutTips()
-    {
-        timers.clear();
-        fastest = 0;
+    for (const bool flag : {false, true}) {
+        scene.bar().AttachBar(BarScene::Shapes, IDR_SHAPES, 16, {0, 1}, flag);
+        const OpenFlyout flyout(scene, BarScene::Shapes);
+        EXPECT_EQ((flyout->GetBarStyle() & CBRS_GRIPPER) != 0, flag);
     }
-
-    BarScene scene;
-    const ImportPatch setTimer{L"ovoui.dll", "SetTimer", reinterpret_cast<void*>(&noteTimer)};
-};
-
-} // namespace
-
-TEST_F(FlyoutTips, AppearBesideTheHotEntry)
-{
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(scene.entry(0))
-        .waitFor("the tip", [] { return shownTip() != nullptr; })
-        .then([&] {
-            const CWnd& tip = *CWnd::FromHandle(shownTip());
-            EXPECT_EQ(tip.GetExStyle(), static_cast<DWORD>(WS_EX_TOOLWINDOW));
-            EXPECT_EQ(tip.GetStyle() & (WS_POPUP | WS_CHILD | WS_CAPTION), static_cast<DWORD>(WS_POPUP));
-            CRect place;
-            tip.GetWindowRect(&place);
-            CRect entry;
-            BarScene::flyout()->GetItemRect(0, &entry);
-            BarScene::flyout()->ClientToScreen(&entry);
-            EXPECT_GE(place.top, entry.bottom);
-            EXPECT_EQ(place.left, entry.left);
-            const Picture picture = Picture::ofWindow(tip.m_hWnd);
-            EXPECT_GT(picture.count(::GetSysColor(COLOR_INFOBK)), picture.width() * picture.height() / 2);
-            EXPECT_GT(picture.count(::GetSysColor(COLOR_INFOTEXT)), 2 * picture.width())
-                << "border and letters";
-        })
-        .moveTo(scene.outside())
-        .then([] { EXPECT_EQ(shownTip(), nullptr); })
-        .release();
-}
-
-TEST_F(FlyoutTips, TheFirstWaitsLongerThanTheNext)
-{
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(scene.entry(0))
-        .moveTo(scene.entry(1))
-        .then([] {
-            EXPECT_EQ(timers[43], (std::vector<UINT>{::GetDoubleClickTime(), ::GetDoubleClickTime()}))
-                << "none was shown yet";
-            timers.clear();
-        })
-        .waitFor("the tip", [] { return shownTip() != nullptr; })
-        .moveTo(scene.entry(0))
-        .then([] {
-            EXPECT_EQ(shownTip(), nullptr) << "hidden at once";
-            EXPECT_EQ(timers[43], std::vector<UINT>{::GetDoubleClickTime() / 5});
-            EXPECT_EQ(timers[44], std::vector<UINT>{::GetDoubleClickTime() * 10});
-        })
-        .waitFor("the next tip", [] { return shownTip() != nullptr; })
-        .moveTo(scene.outside())
-        .release();
-    EXPECT_EQ(timers[42], std::vector<UINT>{});
-}
-
-TEST_F(FlyoutTips, GoByThemselves)
-{
-    fastest = 10;
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .then([] { EXPECT_EQ(timers[42], std::vector<UINT>{200}); })
-        .moveTo(scene.entry(0))
-        .waitFor("the end timer", [] { return timers[44].size() == 1; })
-        .waitFor("the tip to go", [] { return shownTip() == nullptr; })
-        .then([] { EXPECT_TRUE(BarScene::flyoutShown()); })
-        .moveTo(scene.outside())
-        .release();
-}
-
-TEST_F(FlyoutTips, NamesServeCommandsWithoutAString)
-{
-    // The wider tip has the longer text: "nameless" and "Line" have no width in common.
-    const auto widthOver = [&](int index) {
-        int width = 0;
-        scene.user.press(scene.button(BarScene::Lines))
-            .waitFor(kShown, &BarScene::flyoutShown)
-            .moveTo(scene.entry(0))
-            .moveTo(scene.entry(index))
-            .waitFor("the tip", [] { return shownTip() != nullptr; })
-            .then([&] {
-                CRect place;
-                ::GetWindowRect(shownTip(), &place);
-                width = place.Width();
-            })
-            .moveTo(scene.outside())
-            .release();
-        return width;
-    };
-    EXPECT_GT(widthOver(4), widthOver(0));
-}
-
-TEST_F(FlyoutTips, WithoutStringOrNameThereIsNone)
-{
-    fastest = 1;
-    attachMany(scene, 2);
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(scene.entry(1))
-        .waitFor("the tip's timer", [] { return timers[43].size() > 0; })
-        .then([] {
-            GuiThread::settle();
-            EXPECT_TRUE(timers[44].empty());
-            EXPECT_EQ(shownTip(), nullptr);
-        })
-        .moveTo(scene.outside())
-        .release();
 }

@@ -1,6 +1,7 @@
 // Press, hold, slide, release: with the real mouse.
 #include "ToolBarScene.h"
 
+#include "support/ImportPatch.h"
 #include "support/RecordingParent.h"
 
 #include <gtest/gtest.h>
@@ -24,6 +25,16 @@ void clickAtOnce(TestBar& bar, int index)
     const LPARAM where = MAKELPARAM(middle.x, middle.y);
     bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, where);
     bar.SendMessage(WM_LBUTTONUP, 0, where);
+}
+
+} // namespace
+
+namespace
+{
+
+UINT_PTR WINAPI noTimer(HWND, UINT_PTR, UINT, TIMERPROC)
+{
+    return 0;
 }
 
 } // namespace
@@ -83,145 +94,22 @@ TEST(FlyoutPress, AtFirstTheFlyoutIsThereButHidden)
     EXPECT_TRUE(BarScene::idle());
 }
 
+TEST(FlyoutPress, WithoutATimerTheFlyoutShowsAtOnce)
+{
+    BarScene scene;
+    const ImportPatch setTimer{L"ovoui.dll", "SetTimer", reinterpret_cast<void*>(&noTimer)};
+    pressAtOnce(scene.bar(), BarScene::Lines);
+    EXPECT_TRUE(BarScene::flyoutShown());
+    releaseAtOnce(scene.bar(), scene.outside().find());
+    EXPECT_TRUE(BarScene::idle());
+}
+
 TEST(FlyoutPress, HeldAndReleasedOnTheButtonItIsStillAClick)
 {
     BarScene scene;
     scene.user.press(scene.button(BarScene::Lines)).waitFor(kShown, &BarScene::flyoutShown).release();
     EXPECT_EQ(scene.commands(), Ids{ID_LINE});
     EXPECT_EQ(scene.command(BarScene::Lines), ID_LINE);
-}
-
-// Choosing
-
-TEST(FlyoutChoice, AnEntryOfAListBecomesTheButtonAndIsIssued)
-{
-    BarScene scene;
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(scene.entry(1))
-        .then([&] { EXPECT_EQ(BarScene::hotEntry(), 1); })
-        .release();
-    EXPECT_EQ(scene.frame().issued, (std::vector<Issued>{{ID_CURVE, scene.bar().m_hWnd}}));
-    EXPECT_EQ(scene.command(BarScene::Lines), ID_CURVE);
-    EXPECT_EQ(scene.image(BarScene::Lines), 5);
-    EXPECT_TRUE(BarScene::idle());
-}
-
-TEST(FlyoutChoice, AnEntryOfAResourceGivesItsIndexAsTheImage)
-{
-    BarScene scene;
-    scene.user.press(scene.button(BarScene::Shapes))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(scene.entry(0)) // down first: other buttons are beside the straight way
-        .moveTo(scene.entry(2))
-        .release();
-    EXPECT_EQ(scene.commands(), Ids{ID_STAR});
-    EXPECT_EQ(scene.command(BarScene::Shapes), ID_STAR);
-    EXPECT_EQ(scene.image(BarScene::Shapes), 3) << "separators are counted";
-}
-
-TEST(FlyoutChoice, TheNextClickIssuesWhatWasChosen)
-{
-    BarScene scene;
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(scene.entry(0)) // down first: other buttons are beside the straight way
-        .moveTo(scene.entry(3))
-        .release();
-    clickAtOnce(scene.bar(), BarScene::Lines);
-    GuiThread::settle();
-    EXPECT_EQ(scene.commands(), (Ids{ID_ARC, ID_ARC}));
-}
-
-TEST(FlyoutChoice, ADisabledEntryBecomesTheButtonAndIssuesNothing)
-{
-    BarScene scene;
-    scene.frame().disabled = {ID_CURVE};
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(scene.entry(1))
-        .then([&] { EXPECT_EQ(BarScene::hotEntry(), 1); })
-        .release();
-    EXPECT_EQ(scene.commands(), Ids{});
-    EXPECT_EQ(scene.command(BarScene::Lines), ID_CURVE);
-    EXPECT_EQ(scene.image(BarScene::Lines), 5);
-}
-
-TEST(FlyoutChoice, ASeparatorChoosesNothing)
-{
-    BarScene scene;
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(scene.entry(1))
-        .moveTo(scene.entry(2))
-        .then([&] { EXPECT_EQ(BarScene::hotEntry(), -1); })
-        .release();
-    EXPECT_EQ(scene.commands(), Ids{});
-    EXPECT_EQ(scene.command(BarScene::Lines), ID_LINE);
-    EXPECT_TRUE(BarScene::idle());
-}
-
-TEST(FlyoutChoice, OutsideNothingIsChosen)
-{
-    BarScene scene;
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(scene.entry(1))
-        .moveTo(scene.outside())
-        .then([&] {
-            EXPECT_EQ(BarScene::hotEntry(), -1);
-            EXPECT_TRUE(BarScene::flyoutShown());
-        })
-        .release();
-    EXPECT_EQ(scene.commands(), Ids{});
-    EXPECT_EQ(scene.command(BarScene::Lines), ID_LINE);
-    EXPECT_TRUE(BarScene::idle());
-}
-
-TEST(FlyoutChoice, OnAnotherWindowNothingIsChosen)
-{
-    BarScene scene;
-    RecordingParent other({200, 100}, L"Another window");
-    other.SetWindowPos(&CWnd::wndTop, 850, 300, 0, 0, SWP_NOSIZE | SWP_SHOWWINDOW | SWP_NOACTIVATE);
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(Spot{other})
-        .release();
-    EXPECT_EQ(scene.commands(), Ids{});
-    EXPECT_TRUE(BarScene::idle());
-}
-
-TEST(FlyoutChoice, OnlyTheEndOfTheRowStaysOfWhatTheButtonWas)
-{
-    BarScene scene;
-    scene.bar().SetButtonStyle(BarScene::Lines, TBBS_CHECKBOX | TBBS_CHECKED | TBBS_WRAPPED);
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .moveTo(scene.entry(1))
-        .release();
-    EXPECT_EQ(scene.bar().GetButtonStyle(BarScene::Lines), static_cast<UINT>(TBBS_BUTTON | TBBS_WRAPPED));
-}
-
-TEST(FlyoutChoice, WhereTheFlyoutCoversTheBarTheButtonBelowDoesNotFire)
-{
-    BarScene scene;
-    scene.user.press(scene.button(BarScene::Lines))
-        .waitFor(kShown, &BarScene::flyoutShown)
-        .then([&] {
-            CRect bar;
-            scene.bar().GetWindowRect(&bar);
-            BarScene::flyout()->SetWindowPos(nullptr, bar.left, bar.top, 0, 0,
-                                             SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-        })
-        .moveTo(scene.entry(1))
-        .then([&] {
-            EXPECT_TRUE(BarScene::flyoutShown()) << "what it covers is not under the pointer";
-            EXPECT_EQ(BarScene::hotEntry(), 1);
-        })
-        .release();
-    EXPECT_EQ(scene.commands(), Ids{ID_CURVE});
-    for (const int index : {BarScene::Plain, BarScene::Lines, BarScene::Shapes})
-        EXPECT_FALSE(scene.bar().GetButtonStyle(index) & TBBS_DISABLED) << index;
 }
 
 // Sliding
@@ -397,6 +285,24 @@ TEST(FlyoutInterrupted, DeactivationEndsItInEveryState)
     EXPECT_TRUE(BarScene::idle());
 }
 
+TEST(FlyoutInterrupted, AFrameThatPassesTheDeactivationOnEndsIt)
+{
+    BarScene scene;
+    scene.frame().passesActivation = true;
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(1))
+        .then([&] {
+            scene.frame().SendMessage(WM_ACTIVATEAPP, FALSE, 0);
+            EXPECT_TRUE(BarScene::idle());
+            scene.frame().SendMessage(WM_ACTIVATEAPP, TRUE, 0);
+        })
+        .moveTo(scene.outside())
+        .release();
+    EXPECT_EQ(scene.commands(), Ids{});
+    EXPECT_EQ(scene.command(BarScene::Lines), ID_LINE);
+}
+
 TEST(FlyoutInterrupted, TheLostCaptureEndsIt)
 {
     BarScene scene;
@@ -439,6 +345,23 @@ TEST(FlyoutDoubleClick, TellsTheMainWindowTheCommand)
     EXPECT_EQ(mainWnd.log().all()[0].message, 3586u);
     EXPECT_EQ(mainWnd.log().all()[0].code, static_cast<UINT>(ID_PLAIN));
     EXPECT_EQ(scene.commands(), (Ids{ID_PLAIN, ID_PLAIN})) << "the framework's handling follows";
+}
+
+TEST(FlyoutDoubleClick, IsPosted)
+{
+    BarScene scene;
+    RecordingParent mainWnd;
+    mainWnd.log().record(WM_OVO_TOOLBAR_DBLCLK);
+    CWnd* const before = std::exchange(AfxGetThread()->m_pMainWnd, &mainWnd);
+    CRect rect;
+    scene.bar().GetItemRect(BarScene::Plain, &rect);
+    const LPARAM middle = MAKELPARAM(rect.CenterPoint().x, rect.CenterPoint().y);
+    scene.bar().SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, middle);
+    EXPECT_TRUE(mainWnd.log().empty());
+    scene.bar().SendMessage(WM_LBUTTONUP, 0, middle);
+    GuiThread::settle();
+    EXPECT_EQ(mainWnd.log().size(), 1u);
+    AfxGetThread()->m_pMainWnd = before;
 }
 
 TEST(FlyoutDoubleClick, OnADisabledButtonOrASeparatorTellsNothing)

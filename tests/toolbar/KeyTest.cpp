@@ -76,14 +76,24 @@ protected:
         return made;
     }
 
-    /// Whether the bar dispatched the key without asking the frame.
-    bool dispatched(HWND to, UINT message, UINT key)
+    /// Where a key goes.
+    enum class Way
+    {
+        Control,   ///< to it at once
+        Framework, ///< to what the framework asks before it, without reaching the control
+        Other
+    };
+
+    Way wayOf(HWND to, UINT message, UINT key)
     {
         probe.keys.clear();
         scene.frame().pretranslated = 0;
         MSG made = keyMessage(to, message, key);
         const BOOL taken = scene.bar().PreTranslateMessage(&made);
-        return taken && scene.frame().pretranslated == 0 && probe.keys == std::vector<UINT>{key};
+        const bool asked = scene.frame().pretranslated > 0;
+        if (taken && !asked && probe.keys == std::vector<UINT>{key})
+            return Way::Control;
+        return asked ? Way::Framework : Way::Other;
     }
 
     /// WM_COMMAND that waits for the bar.
@@ -126,7 +136,7 @@ TEST_F(BarKeys, EveryKeyWithAndWithoutCtrlForEveryDialogCode)
             for (UINT key = 1; key < 0xFF; ++key)
                 for (const UINT message : kMessages) {
                     const bool expected = wants && (ctrl ? goesWithCtrl(key) : !isHostsFunctionKey(key));
-                    EXPECT_EQ(dispatched(probe.m_hWnd, message, key), expected)
+                    EXPECT_EQ(wayOf(probe.m_hWnd, message, key), expected ? Way::Control : Way::Framework)
                         << "code " << code << " ctrl " << ctrl << " key " << key << " message " << message;
                 }
         }
@@ -138,13 +148,13 @@ TEST_F(BarKeys, EnterEscapeAndTabPostTheControlsNumber)
 {
     for (const UINT key : {VK_RETURN, VK_ESCAPE, VK_TAB}) {
         for (const UINT message : kMessages)
-            dispatched(probe.m_hWnd, message, key);
+            wayOf(probe.m_hWnd, message, key);
         const std::vector<MSG> posted = postedCommands();
         ASSERT_EQ(posted.size(), 1u) << "on WM_KEYDOWN alone";
         EXPECT_EQ(posted[0].wParam, 99u);
         EXPECT_EQ(posted[0].lParam, reinterpret_cast<LPARAM>(probe.m_hWnd));
     }
-    dispatched(probe.m_hWnd, WM_KEYDOWN, 'A');
+    wayOf(probe.m_hWnd, WM_KEYDOWN, 'A');
     EXPECT_TRUE(postedCommands().empty());
 }
 
@@ -238,6 +248,23 @@ TEST_F(BarEdit, FunctionKeysReachTheAccelerators)
     scene.user.key(VK_F5);
     const std::vector<UINT> ids = scene.commands();
     EXPECT_EQ(std::count(ids.begin(), ids.end(), static_cast<UINT>(ID_OTHER)), 1);
+}
+
+TEST_F(BarEdit, EnterIsPostedToTheBarAndReachesTheOwnerAsTheEditsCommand)
+{
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.frame().issued, (std::vector<Issued>{{IDC_BAR_EDIT, edit.m_hWnd}}));
+}
+
+TEST_F(BarEdit, F4OpensTheListOfACombo)
+{
+    CComboBox combo;
+    combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWN, CRect(230, 0, 330, 100), &scene.bar(),
+                 IDC_BAR_COMBO);
+    combo.AddString(L"one");
+    combo.SetFocus();
+    scene.user.key(VK_F4).waitFor("the list", [&] { return combo.GetDroppedState(); }).key(VK_F4);
+    EXPECT_FALSE(combo.GetDroppedState());
 }
 
 TEST_F(BarEdit, ItsEditingKeysWork)

@@ -1,6 +1,9 @@
 // Rows, sizes, and the places of embedded controls.
 #include "ToolBarScene.h"
 
+#include "support/Picture.h"
+#include "support/RecordingParent.h"
+
 #include <gtest/gtest.h>
 
 using namespace ovotest;
@@ -240,7 +243,52 @@ TEST_F(BarLayout, AControlThatDrawsItselfIsAsked)
     EXPECT_GT(combo.drawn, 0);
 }
 
-// Gripper
+TEST_F(BarLayout, TheOwnerDrawsAndMeasuresWhereTheControlDoesNot)
+{
+    class Drawing : public RecordingParent
+    {
+    public:
+        int drawn = 0;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_DRAWITEM)
+                return ++drawn;
+            if (message != WM_MEASUREITEM)
+                return RecordingParent::WindowProc(message, wParam, lParam);
+            reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = 31;
+            return TRUE;
+        }
+    } owner;
+    scene.bar().SetOwner(&owner);
+    const HWND combo = ::CreateWindowExW(
+        0, L"COMBOBOX", nullptr, WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 150, 0,
+        110, 120, scene.bar().m_hWnd, reinterpret_cast<HMENU>(IDC_BAR_COMBO), nullptr, nullptr);
+    EXPECT_EQ(::SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0), 31);
+    const Picture picture(80, 20, RGB(1, 2, 3));
+    DRAWITEMSTRUCT item{};
+    item.CtlType = ODT_COMBOBOX;
+    item.hwndItem = combo;
+    item.hDC = picture.dc();
+    item.rcItem = CRect(0, 0, 80, 20);
+    scene.bar().SendMessage(WM_DRAWITEM, IDC_BAR_COMBO, reinterpret_cast<LPARAM>(&item));
+    EXPECT_EQ(owner.drawn, 1);
+    EXPECT_EQ(picture.count(RGB(1, 2, 3)), 80 * 20) << "the bar draws nothing over it";
+    scene.bar().SetOwner(&scene.frame());
+}
+
+// Settings, gripper
+
+TEST_F(BarLayout, AChangeOfTheSystemsSettingsPaintsTheBarAnew)
+{
+    GuiThread::settle();
+    scene.bar().UpdateWindow();
+    scene.bar().SendMessage(WM_SETTINGCHANGE);
+    CRect invalid;
+    scene.bar().GetUpdateRect(&invalid);
+    CRect client;
+    scene.bar().GetClientRect(&client);
+    EXPECT_EQ(invalid, client);
+}
 
 TEST_F(BarLayout, TheGripperIsDrawnWhileTheBarDoesNotFloat)
 {

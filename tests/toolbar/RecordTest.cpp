@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 using namespace ovotest;
 
 namespace
@@ -203,6 +205,24 @@ TEST_F(FlyoutAttach, ABarWithoutImagesGetsTheStripOnce)
     EXPECT_EQ(::ImageList_GetImageCount(listOf(bar)), 8);
 }
 
+TEST_F(FlyoutAttach, AResourcesStripIsAddedToTheBarsImages)
+{
+    ASSERT_EQ(listOf(bar), nullptr);
+    bar.AttachBar(1, IDR_SHAPES, 16, {0}, false);
+    ASSERT_NE(listOf(bar), nullptr);
+    EXPECT_EQ(::ImageList_GetImageCount(listOf(bar)), 8);
+}
+
+TEST_F(FlyoutAttach, ABarWithImagesGetsNoStripForCommands)
+{
+    bar.LoadBitmap(IDR_SHAPES);
+    const HIMAGELIST list = listOf(bar);
+    const int before = ::ImageList_GetImageCount(list);
+    attachCommands(bar, 0, {1, 2, 3});
+    EXPECT_EQ(listOf(bar), list);
+    EXPECT_EQ(::ImageList_GetImageCount(list), before);
+}
+
 TEST_F(FlyoutAttach, AStripThatDoesNotExistIsNotAdded)
 {
     EXPECT_EQ(bar.AddBitmap(4711, 16), -1);
@@ -244,6 +264,15 @@ TEST(FlyoutImages, AreShiftedToWhereTheirStripWasNoted)
     EXPECT_EQ(imageOfSecondChoice(scene), 7);
 }
 
+TEST(FlyoutImages, AreShiftedWhenTheyAreAttachedAndNotLater)
+{
+    BarScene scene;
+    scene.bar().noteBitmap(IDR_SHAPES, 4);
+    scene.bar().AttachBar(0, 16, {ID_LINE, ID_ARC}, {IDR_SHAPES, IDR_SHAPES}, {1, 2}, {}, false, true);
+    scene.bar().noteBitmap(IDR_SHAPES, 5);
+    EXPECT_EQ(imageOfSecondChoice(scene), 6);
+}
+
 TEST(FlyoutImages, StayAsTheyWereWhereNoneIsNamed)
 {
     BarScene scene;
@@ -252,3 +281,26 @@ TEST(FlyoutImages, StayAsTheyWereWhereNoneIsNamed)
     EXPECT_EQ(imageOfSecondChoice(scene), before);
     EXPECT_EQ(scene.command(0), ID_ARC);
 }
+
+// What hosts compile against
+
+namespace
+{
+
+class Exposed : public CVantorToolBar
+{
+public:
+    using Dragging = decltype(CVantorToolBar::ms_dragging);
+    using DragButton = decltype(CVantorToolBar::ms_dragButton);
+    using IdleTimerPending = decltype(CVantorToolBar::ms_idleTimerPending);
+};
+
+} // namespace
+
+static_assert(std::is_base_of_v<CToolBar, CVantorToolBar> && std::is_base_of_v<CControlBar, CVantorToolBar>);
+static_assert(
+    std::is_same_v<CVantorToolBar::ControlCallback, LRESULT (*)(CVantorToolBar*, UINT, UINT, void*)>);
+static_assert(std::is_same_v<decltype(CVantorToolBar::ms_apiRestartedTickCount), DWORD>);
+static_assert(std::is_same_v<Exposed::Dragging, bool> && std::is_same_v<Exposed::DragButton, int> &&
+              std::is_same_v<Exposed::IdleTimerPending, bool>);
+static_assert(std::is_same_v<decltype(&CVantorToolBar::ActivateApp), void (*)(BOOL)>);

@@ -75,6 +75,8 @@ LRESULT BarFrame::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_COMMAND && HIWORD(wParam) <= 1) // of a bar, or of an accelerator
         issued.push_back({LOWORD(wParam), reinterpret_cast<HWND>(lParam)});
+    if (message == WM_ACTIVATEAPP && passesActivation)
+        CVantorToolBar::ActivateApp(wParam != 0);
     if (message == WM_NOTIFY && onNotify)
         if (const LRESULT result = onNotify(reinterpret_cast<NMHDR*>(lParam)))
             return result;
@@ -224,6 +226,40 @@ std::wstring BarScene::prompt() const
     CString text;
     m_frame->status().GetWindowText(text);
     return text.GetString();
+}
+
+// Hands
+
+CRect onScreen(const TestBar& bar, int index)
+{
+    CRect rect;
+    bar.GetItemRect(index, &rect);
+    bar.ClientToScreen(&rect);
+    return rect;
+}
+
+void attachMany(BarScene& scene, int count, bool styleFlag)
+{
+    std::vector<int> commands;
+    for (int i = 0; i < count; ++i)
+        commands.push_back(1000 + i);
+    scene.bar().AttachBar(BarScene::Lines, 16, commands, std::vector<int>(commands.size(), IDR_SHAPES),
+                          std::vector<int>(commands.size(), 4), {}, styleFlag, false);
+}
+
+void pressAtOnce(TestBar& bar, int index)
+{
+    CRect rect;
+    bar.GetItemRect(index, &rect);
+    bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(rect.CenterPoint().x, rect.CenterPoint().y));
+}
+
+void releaseAtOnce(TestBar& bar, CPoint screen)
+{
+    bar.ScreenToClient(&screen);
+    const LPARAM where = MAKELPARAM(screen.x, screen.y);
+    bar.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, where);
+    bar.SendMessage(WM_LBUTTONUP, 0, where);
 }
 
 // Counting messages

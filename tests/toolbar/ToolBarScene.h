@@ -61,6 +61,7 @@ public:
     std::vector<std::wstring> prompts; ///< what the message line showed
     int askedFor = 0;                  ///< update requests
     int pretranslated = 0;             ///< messages that it was asked about
+    bool passesActivation = false;     ///< WM_ACTIVATEAPP on to the bars
     std::function<void(UINT id)> onCommand;
     std::function<void(UINT id)> onUpdate;
     std::function<LRESULT(NMHDR*)> onNotify;
@@ -134,6 +135,19 @@ private:
     std::unique_ptr<TestBar> m_bar;
     std::vector<std::unique_ptr<TestBar>> m_more;
 };
+
+/// A button's rectangle on the screen.
+CRect onScreen(const TestBar& bar, int index);
+
+/// Makes the flyout at Lines one of so many commands without names or strings.
+void attachMany(BarScene& scene, int count, bool styleFlag = false);
+
+// Single messages, between which no timer can come
+
+/// Presses a button.
+void pressAtOnce(TestBar& bar, int index);
+/// Moves to a point of the screen and lets go there.
+void releaseAtOnce(TestBar& bar, CPoint screen);
 
 /// Counts the messages of this number and wParam that the message loop takes for windows of a class.
 class MessageCounter

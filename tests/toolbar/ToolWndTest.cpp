@@ -36,10 +36,12 @@ public:
         bool operator==(const Scroll&) const = default;
     };
     std::vector<Scroll> scrolls;
+    int contextMenus = 0;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
+        contextMenus += message == WM_CONTEXTMENU;
         if (message != WM_HSCROLL && message != WM_VSCROLL)
             return CFrameWnd::WindowProc(message, wParam, lParam);
         scrolls.push_back({message, wParam, lParam});
@@ -188,6 +190,13 @@ TEST(ToolWndCreate, TheBarsNumberIsTheTemplatesUnlessThereIsOne)
     EXPECT_EQ(TestApp::instance().helps()[0].data, DWORD_PTR{IDD_PALETTE});
 }
 
+TEST(ToolWndCreate, AMissingTitleIsAnEmptyOne)
+{
+    Scene scene;
+    EXPECT_TRUE(scene.palette.Create(scene.frame, IDD_PALETTE, kStyle, 4711, kBarId));
+    EXPECT_EQ(scene.palette.GetWindowTextLength(), 0);
+}
+
 TEST(ToolWndCreate, AMissingTemplateLeavesEverythingAsItWas)
 {
     Scene scene;
@@ -316,6 +325,16 @@ TEST_F(ToolWnd, HandlesOneMessageByItself)
     const AFX_MSGMAP_ENTRY* const entries = bar.map()->lpEntries;
     EXPECT_EQ(entries[0].nMessage, UINT{WM_CONTEXTMENU});
     EXPECT_EQ(entries[1].pfnThunk, nullptr) << "the end";
+}
+
+TEST_F(ToolWnd, AContextMenuIsAskedOfTheFrameByTheSystemAlone)
+{
+    dock();
+    frame->contextMenus = 0;
+    const auto edit = reinterpret_cast<WPARAM>(item(IDC_PALETTE_EDIT).m_hWnd);
+    palette.SendMessage(WM_CONTEXTMENU, edit, MAKELPARAM(70, 90));
+    // The window's default processing asks its parent, a side of the frame, which asks the frame.
+    EXPECT_EQ(frame->contextMenus, 1);
 }
 
 // Docking

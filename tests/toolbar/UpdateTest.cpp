@@ -22,6 +22,15 @@ DWORD WINAPI toldNow()
 
 constexpr UINT_PTR kTimer = 42;
 
+std::vector<UINT> waits; ///< that the bar's timer was set to
+
+UINT_PTR WINAPI noteWait(HWND wnd, UINT_PTR id, UINT elapse, TIMERPROC procedure)
+{
+    if (id == kTimer)
+        waits.push_back(elapse);
+    return ::SetTimer(wnd, id, elapse, procedure);
+}
+
 /// The tick count is what a test says.
 class BarUpdate : public ::testing::Test
 {
@@ -56,6 +65,15 @@ TEST_F(BarUpdate, RestsFor250MillisecondsAfterTheRestart)
     }
     for (DWORD passed : {251u, 252u, 100000u})
         EXPECT_TRUE(runsAfter(passed)) << passed;
+}
+
+TEST_F(BarUpdate, TheTimerWaitsFor250Milliseconds)
+{
+    waits.clear();
+    const ImportPatch setTimer{L"ovoui.dll", "SetTimer", reinterpret_cast<void*>(&noteWait)};
+    runsAfter(10);
+    runsAfter(251);
+    EXPECT_EQ(waits, std::vector<UINT>{250});
 }
 
 TEST_F(BarUpdate, TheTickCountMayWrapRoundMeanwhile)
