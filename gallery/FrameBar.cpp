@@ -72,7 +72,8 @@ bool FrameBar::create(CFrameWnd& frame)
 void FrameBar::attachFlyouts()
 {
     const auto attach = [this](int button, const std::vector<int>& commands, const std::vector<int>& images) {
-        AttachBar(button, scaled(m_hWnd, kImage), commands, {}, images, {}, false, false);
+        const std::vector<int> strips(commands.size(), IDB_FRAME_BAR_32); // whose images the bar has
+        AttachBar(button, scaled(m_hWnd, kImage), commands, strips, images, {}, false, false);
     };
     attach(
         Groups,

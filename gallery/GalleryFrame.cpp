@@ -2,6 +2,7 @@
 
 #include "Resolution.h"
 #include "Screenshot.h"
+#include "VisualStyles.h"
 #include "resource.h"
 
 #include <ovoui/frame/Geometry.h>
@@ -33,6 +34,7 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_WM_SETFOCUS()
     ON_MESSAGE(WM_DPICHANGED, &GalleryFrame::OnResolutionChanged)
     // toolbar
+    ON_WM_ACTIVATEAPP() // an open flyout closes
     ON_COMMAND(ID_BAR_KEYBOARD, &GalleryFrame::OnBarKeyboard)
     ON_COMMAND_RANGE(ID_GROUP_ALL, ID_GROUP_DIALOGS, &GalleryFrame::OnGroup)
     ON_COMMAND_RANGE(ID_THEME_STYLED, ID_THEME_CLASSIC, &GalleryFrame::OnTheme)
@@ -190,6 +192,7 @@ void GalleryFrame::openPage(const PageEntry& entry)
         m_page->DestroyWindow(); // a handler under way keeps the object itself
     m_page = entry.make();
     m_page->open(*this, [this](const std::wstring& line) { logLine(line); });
+    followVisualStyles(*m_page);
     // Behind the list, so that Tab goes from the list to the page and on to the log.
     m_page->SetWindowPos(&m_pageList, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     m_header.show(entry.title, entry.summary);

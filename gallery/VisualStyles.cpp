@@ -6,9 +6,16 @@
 namespace
 {
 
+bool areOn()
+{
+    return (::GetThemeAppProperties() & STAP_ALLOW_CONTROLS) != 0;
+}
+
+/// Without a theme of its own the window would look as the program's choice says; not everywhere, though.
 BOOL CALLBACK tell(HWND window, LPARAM)
 {
-    ::SendMessageW(window, WM_THEMECHANGED, 0, 0);
+    const wchar_t* const none = areOn() ? nullptr : L" ";
+    ::SetWindowTheme(window, none, none); // sends WM_THEMECHANGED
     ::InvalidateRect(window, nullptr, TRUE);
     return TRUE;
 }
@@ -27,4 +34,10 @@ void setVisualStyles(bool on)
     constexpr DWORD kAll = STAP_ALLOW_NONCLIENT | STAP_ALLOW_CONTROLS | STAP_ALLOW_WEBCONTENT;
     ::SetThemeAppProperties(on ? kAll : STAP_ALLOW_NONCLIENT);
     ::EnumThreadWindows(::GetCurrentThreadId(), &tellAll, 0);
+}
+
+void followVisualStyles(HWND window)
+{
+    if (!areOn())
+        tellAll(window, 0);
 }

@@ -60,9 +60,10 @@ public:
 
     /// A list of commands; 0 makes a separator. `images` are indices among the bar's images, and the flyout
     /// shows the same; with `shiftImages` each is counted from where the strip `bitmapIds[i]` begins
-    /// (noteBitmap). In a bar without an image list the strips `bitmapIds` are added, to the bar and to the
-    /// flyout. `names` serve as tips for commands that have no string. The image list stays the bar's; it
-    /// must live as long as the record, or be replaced by AttachBar.
+    /// (noteBitmap). An entry beyond `bitmapIds` leaves the button its image. In a bar without an image list
+    /// the strips `bitmapIds` are added, to the bar and to the flyout. `names` serve as tips for commands
+    /// that have no string. The image list stays the bar's; it must live as long as the record, or be
+    /// replaced by AttachBar.
     void AttachBar(int button, int bitmapSize, const std::vector<int>& commands,
                    const std::vector<int>& bitmapIds, const std::vector<int>& images,
                    const std::vector<Quark>& names, bool styleFlag, bool shiftImages);
