@@ -4,6 +4,13 @@
 #include <ovoui/colour/ColPickerDlg.h>
 #include <ovoui/colour/ColPickerDlgBase.h>
 #include <ovoui/colour/ColPickerPaletteDlg.h>
+#include <ovoui/colour/ColourButton.h>
+#include <ovoui/colour/ColourDropper.h>
+#include <ovoui/colour/ColourGrid.h>
+#include <ovoui/colour/ColourHistory.h>
+#include <ovoui/colour/ColourText.h>
+#include <ovoui/colour/Contrast.h>
+#include <ovoui/colour/RecentColours.h>
 #include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/files/Browse.h>
 #include <ovoui/files/FileDialog.h>

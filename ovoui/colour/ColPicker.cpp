@@ -1,5 +1,6 @@
 #include <ovoui/colour/ColPicker.h>
 
+#include <ovoui/colour/ColPickerStops.h>
 #include <ovoui/colour/ColourWheelImage.h>
 #include <ovoui/colour/core/ColourModes.h>
 #include <ovoui/colour/core/ValueText.h>
@@ -109,6 +110,7 @@ void ColPicker::DoInit(CWnd* wnd, CComboBox& spaceCombo)
     SetSliderMode(wnd, m_mode);
     if (!watch.alive() || !wnd->m_hWnd)
         return;
+    makeStops(wnd);
     prepareEdits();
     wnd->EnableToolTips(TRUE);
     fillSpaces(spaceCombo);
@@ -117,6 +119,7 @@ void ColPicker::DoInit(CWnd* wnd, CComboBox& spaceCombo)
 
 void ColPicker::doOnDestroy()
 {
+    m_stops.reset();
     m_wheel.reset();
     m_drag = Drag::None;
     m_initialised = false;
@@ -222,6 +225,8 @@ void ColPicker::GetSliderColour(Colour& out) const
 void ColPicker::DoHScroll(CWnd* wnd, UINT code, CScrollBar* bar)
 {
     const HWND slider = bar->GetSafeHwnd();
+    if (carryOutKey(wnd, slider))
+        return;
     const bool ours = slider && (slider == m_slider1.m_hWnd || slider == m_slider2.m_hWnd ||
                                  slider == m_slider3.m_hWnd || slider == m_sliderAlpha.m_hWnd);
     if (!ours || code > SB_ENDSCROLL)
@@ -229,6 +234,14 @@ void ColPicker::DoHScroll(CWnd* wnd, UINT code, CScrollBar* bar)
     Colour colour;
     GetSliderColour(colour);
     change(wnd, colour, m_mode != ColPickerModeRGB, true);
+}
+
+bool ColPicker::hasTyped() const
+{
+    for (const CEdit* const edit : {&m_value1, &m_value2, &m_value3, &m_valueAlpha})
+        if (edit->m_hWnd && edit->GetModify())
+            return true;
+    return false;
 }
 
 int ColPicker::typedOr(CEdit& edit, int value, int maximum)
@@ -242,7 +255,7 @@ int ColPicker::typedOr(CEdit& edit, int value, int maximum)
 
 void ColPicker::DoKillfocusColpickerValues(CWnd* wnd)
 {
-    if (!m_initialised)
+    if (!m_initialised || (m_onlyTypedNumbers && !hasTyped()))
         return;
     const auto [first, second, third] = shownValues();
     const auto [firstMost, secondMost, thirdMost] = maxima(m_mode);
@@ -308,6 +321,7 @@ void ColPicker::SetColour(CWnd* wnd, const Colour& colour, bool force)
     CClientDC dc(wnd);
     draw_hue_marker(&dc);
     draw_tri_marker(&dc);
+    announceColour();
 }
 
 /// The edits show the colour when the patch is painted; without a patch they do so at once.

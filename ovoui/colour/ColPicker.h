@@ -15,9 +15,16 @@
 
 #include <array>
 #include <memory>
+#include <string>
 
 class CShadedTabCtrl;
 class ColourWheelImage;
+
+namespace ovoui::colour
+{
+class PickerStop;
+enum class WheelKey;
+} // namespace ovoui::colour
 
 /// Shows a colour as numbers in edits and sliders, as a ring of hues with a triangle of their shades, and as
 /// a patch, and lets the user change it in each of them. The patch can be dragged onto swatches of the user's
@@ -155,6 +162,12 @@ private:
 protected:
     /// Whether the fourth edit and slider are used. To be set before the dialog is made.
     bool m_alphaEnabled = false;
+    /// Whether ring, triangle and swatches can have the keyboard focus, by Tab and by a press of the mouse.
+    /// To be set before the dialog is made.
+    bool m_keysEnabled = false;
+    /// Whether the edits are read only after the user has typed something. Else leaving one of them, Enter
+    /// and OK round the colour to the numbers that they show.
+    bool m_onlyTypedNumbers = false;
 
 private:
     bool m_initialised = false;
@@ -175,6 +188,7 @@ private:
     void showValues();
     static void showValue(CEdit& edit, int value);
     static int sliderOr(const CSliderCtrl& slider, int value);
+    bool hasTyped() const;
     static int typedOr(CEdit& edit, int value, int maximum);
     void invalidatePatch(CWnd* wnd);
     bool change(CWnd* wnd, const Colour& colour, bool force, bool final);
@@ -186,8 +200,27 @@ private:
     void showDragCursor(CPoint point);
     void dropPatch(CWnd* wnd, CPoint point);
     void pickSwatch(CWnd* wnd, CPoint point);
+    void takeSwatch(CWnd* wnd, int swatch);
+    void keepInSwatch(CWnd* wnd, int swatch);
     bool isDragging(CWnd* wnd);
     void endDrag();
+
+    // Keyboard
+    struct Stops;
+    void makeStops(CWnd* wnd);
+    void makeSwatchStop(CWnd* wnd);
+    bool focusPart(CWnd* wnd, Drag part);
+    bool focusSwatch(CWnd* wnd, int swatch);
+    bool carryOutKey(CWnd* wnd, HWND from);
+    void carryOutKey(CWnd* wnd, const ovoui::colour::PickerStop& stop);
+    void moveHue(CWnd* wnd, ovoui::colour::WheelKey key);
+    void moveShade(CWnd* wnd, ovoui::colour::WheelKey key);
+    void moveToSwatch(CWnd* wnd, ovoui::colour::WheelKey key);
+    void changeByKey(CWnd* wnd, const Colour& colour);
+    void drawFocusMark(CDC* dc) const;
+    void drawSwatchMark(CDC* dc) const;
+    std::wstring shadeText() const;
+    void announceColour();
 
     // Drawing
     CPoint hueMarkerPoint() const;
@@ -202,6 +235,7 @@ private:
     void drawCross(CDC* dc, CPoint centre) const;
     void makeCheckerboard();
 
-    CBrush m_checkerboard; ///< of the patch: the colour over black and white
+    CBrush m_checkerboard;          ///< of the patch: the colour over black and white
+    std::unique_ptr<Stops> m_stops; ///< null unless the keyboard is asked for
     Lifeline m_lifeline;
 };

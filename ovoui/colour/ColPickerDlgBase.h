@@ -33,6 +33,10 @@ public:
     /// been closed, whichever way.
     Colour GetColour();
 
+    /// Whether ring, triangle and swatches take the keyboard focus, by Tab and by a press of the mouse; they
+    /// do not at first. Counts for the next window.
+    void useKeyboard(bool use) { m_keysEnabled = use; }
+
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:

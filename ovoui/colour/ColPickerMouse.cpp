@@ -56,6 +56,8 @@ Colour ColPicker::colourAt(Drag part, CPoint point) const
 bool ColPicker::DoLButtonDown(CWnd* wnd, UINT, CPoint point)
 {
     const Drag part = partAt(point);
+    if (!focusPart(wnd, part))
+        return true;
     switch (part) {
     case Drag::Triangle:
     case Drag::Ring: {
@@ -89,10 +91,14 @@ void ColPicker::beginDrag(CWnd* wnd, Drag drag)
 
 void ColPicker::pickSwatch(CWnd* wnd, CPoint point)
 {
-    const Lifeline::Watch watch(m_lifeline);
     int swatch = 0;
-    if (!PtInCustomColour(point, swatch))
-        return;
+    if (PtInCustomColour(point, swatch) && focusSwatch(wnd, swatch))
+        takeSwatch(wnd, swatch);
+}
+
+void ColPicker::takeSwatch(CWnd* wnd, int swatch)
+{
+    const Lifeline::Watch watch(m_lifeline);
     const Colour colour = Colour::colorref(customCols(swatch));
     if (watch.alive() && wnd->m_hWnd)
         change(wnd, colour, false, true);
@@ -147,8 +153,12 @@ void ColPicker::dropPatch(CWnd* wnd, CPoint point)
 {
     ::SetCursor(m_cursorBefore);
     int swatch = 0;
-    if (!PtInCustomColour(point, swatch))
-        return;
+    if (PtInCustomColour(point, swatch))
+        keepInSwatch(wnd, swatch);
+}
+
+void ColPicker::keepInSwatch(CWnd* wnd, int swatch)
+{
     const Lifeline::Watch watch(m_lifeline);
     const COLORREF colour = m_colour.colorref();
     COLORREF& custom = customCols(swatch);

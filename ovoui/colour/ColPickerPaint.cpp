@@ -169,6 +169,7 @@ void ColPicker::drawWheel(CWnd* wnd, CPaintDC* dc)
         return;
     m_wheel->setHue(m_colour.h_hls());
     m_wheel->draw(dc->m_hDC);
+    drawFocusMark(dc);
     // They are gone from what was painted anew, and nothing else is drawn to.
     if (std::exchange(m_hueMarkerDrawn, false))
         draw_hue_marker(dc, m_hueMarker);
@@ -301,4 +302,5 @@ void ColPicker::DrawCustomColours(CWnd* wnd, CDC* dc)
         drawSunkenEdge(*dc, m_swatches[i]);
         dc->FillSolidRect(rectOf(places[i].inset(2)), colours[i]);
     }
+    drawSwatchMark(dc);
 }

@@ -1,11 +1,12 @@
 #include <ovoui/colour/ColPickerPaletteDlg.h>
 
-#include <ovoui/colour/core/ColourHistory.h>
-#include <ovoui/colour/core/ColourText.h>
-#include <ovoui/colour/core/Contrast.h>
+#include <ovoui/colour/ColourText.h>
+#include <ovoui/colour/Contrast.h>
 #include <ovouires/resource.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 using namespace ovoui::colour;
 
@@ -14,7 +15,9 @@ IMPLEMENT_DYNAMIC(ColPickerPaletteDlg, ColPickerDlgBase)
 BEGIN_MESSAGE_MAP(ColPickerPaletteDlg, ColPickerDlgBase)
     ON_EN_KILLFOCUS(IDC_COLOUR_VALUE_ALPHA, &ColPickerPaletteDlg::OnKillfocusColpickerValues)
     ON_EN_KILLFOCUS(IDC_COLOUR_TEXT, &ColPickerPaletteDlg::OnKillfocusText)
-    ON_STN_CLICKED(IDC_COLOUR_BEFORE, &ColPickerPaletteDlg::OnBefore)
+    ON_BN_CLICKED(IDC_COLOUR_BEFORE, &ColPickerPaletteDlg::OnBefore)
+    ON_CONTROL(CColourGrid::kChosen, IDC_COLOUR_RECENT, &ColPickerPaletteDlg::OnRecent)
+    ON_CONTROL(CColourDropper::kTaken, IDC_COLOUR_DROPPER, &ColPickerPaletteDlg::OnColourOfScreen)
     ON_WM_DESTROY()
     ON_WM_DRAWITEM()
 END_MESSAGE_MAP()
@@ -25,6 +28,10 @@ namespace
 constexpr wchar_t kSection[] = L"settings";
 constexpr wchar_t kModeEntry[] = L"ColourModel";
 constexpr wchar_t kCustomEntry[] = L"CustomColours";
+constexpr wchar_t kRecentEntry[] = L"RecentColours";
+
+/// As many as there are columns of custom colours.
+constexpr int kRecentColours = 9;
 
 constexpr std::array<COLORREF, 18> kFirstColours{
     RGB(0, 0, 0),       RGB(127, 127, 127), RGB(136, 0, 21),    RGB(237, 28, 36),  RGB(255, 127, 39),
@@ -32,23 +39,21 @@ constexpr std::array<COLORREF, 18> kFirstColours{
     RGB(195, 195, 195), RGB(185, 122, 87),  RGB(255, 174, 201), RGB(255, 201, 14), RGB(239, 228, 176),
     RGB(181, 230, 29),  RGB(153, 217, 234), RGB(163, 73, 164)};
 
-/// Texts of colours with blanks between them. Those that cannot be read stay as they are.
-void readColours(std::wstring_view text, std::array<COLORREF, 18>& colours)
+/// Those that cannot be read stay as they are.
+void readColours(const CString& text, std::array<COLORREF, 18>& colours)
 {
-    for (COLORREF& colour : colours) {
-        const std::size_t end = std::min(text.find(L' '), text.size());
-        if (const auto read = colourFromText(text.substr(0, end)))
-            colour = read->colorref();
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
+    const auto read = coloursFromText(std::wstring_view(text.GetString()));
+    for (std::size_t i = 0; i < std::min(read.size(), colours.size()); ++i)
+        if (read[i])
+            colours[i] = read[i]->colorref();
 }
 
-std::wstring textOf(const std::array<COLORREF, 18>& colours)
+std::vector<Colour> coloursOf(const std::array<COLORREF, 18>& codes)
 {
-    std::wstring text;
-    for (const COLORREF colour : colours)
-        text += (text.empty() ? L"" : L" ") + textOfColour(Colour::colorref(colour));
-    return text;
+    std::vector<Colour> colours;
+    for (const COLORREF code : codes)
+        colours.push_back(Colour::colorref(code));
+    return colours;
 }
 
 } // namespace
@@ -57,12 +62,16 @@ ColPickerPaletteDlg::ColPickerPaletteDlg(CWinApp& app, ColPickerModeType mode, c
                                          CWnd* centreOn, CWnd* parent)
     : ColPickerDlgBase(IDD_COLOUR_PALETTE, app, colour, centreOn, parent)
     , m_before(colour)
+    , m_alpha(colour.a())
     , m_custom(kFirstColours)
-    , m_history(std::make_unique<ColourHistory>(colour))
+    , m_recent(kRecentColours)
+    , m_history(colour)
 {
     m_mode = mode;
     m_alphaEnabled = colour.a() >= 0;
     m_customAreaId = IDC_COLOUR_SWATCHES;
+    m_keysEnabled = true;
+    m_onlyTypedNumbers = true; // a typed code stays what it is
 }
 
 ColPickerPaletteDlg::~ColPickerPaletteDlg()
@@ -76,12 +85,15 @@ ColPickerPaletteDlg::~ColPickerPaletteDlg()
 void ColPickerPaletteDlg::LoadSettings()
 {
     m_mode = static_cast<ColPickerModeType>(m_app.GetProfileInt(kSection, kModeEntry, m_mode));
-    readColours(std::wstring(m_app.GetProfileString(kSection, kCustomEntry)), m_custom);
+    readColours(m_app.GetProfileString(kSection, kCustomEntry), m_custom);
+    m_recent.setText(std::wstring_view(m_app.GetProfileString(kSection, kRecentEntry).GetString()));
 }
 
 void ColPickerPaletteDlg::SaveSettings()
 {
     m_app.WriteProfileInt(kSection, kModeEntry, m_mode);
+    m_app.WriteProfileString(kSection, kCustomEntry, textOfColours(coloursOf(m_custom)).c_str());
+    m_app.WriteProfileString(kSection, kRecentEntry, m_recent.text().c_str());
 }
 
 COLORREF& ColPickerPaletteDlg::customCols(int index)
@@ -91,7 +103,7 @@ COLORREF& ColPickerPaletteDlg::customCols(int index)
 
 void ColPickerPaletteDlg::OnDestroy()
 {
-    m_app.WriteProfileString(kSection, kCustomEntry, textOf(m_custom).c_str());
+    SaveSettings();
     ColPickerDlgBase::OnDestroy();
 }
 
@@ -103,6 +115,7 @@ void ColPickerPaletteDlg::DoDataExchange(CDataExchange* exchange)
     DDX_Control(exchange, IDC_COLOUR_VALUE_ALPHA, m_valueAlpha);
     DDX_Control(exchange, IDC_COLOUR_SLIDER_ALPHA, m_sliderAlpha);
     DDX_Control(exchange, IDC_COLOUR_TEXT, m_text);
+    DDX_Control(exchange, IDC_COLOUR_DROPPER, m_dropper);
 }
 
 BOOL ColPickerPaletteDlg::OnInitDialog()
@@ -111,28 +124,55 @@ BOOL ColPickerPaletteDlg::OnInitDialog()
     const BOOL result = ColPickerDlgBase::OnInitDialog();
     if (!watch.alive() || !m_hWnd)
         return result;
-    *m_history = ColourHistory(m_colour);
+    m_history = ColourHistory(m_colour);
+    m_recentGrid.createInPlace(*this, IDC_COLOUR_RECENT);
+    showRecent();
     showColour();
     return result;
 }
 
-/// A colour that is being typed counts, as numbers do.
+/// A colour or number that is being typed counts.
 void ColPickerPaletteDlg::OnOK()
 {
     const Lifeline::Watch watch(m_paletteLifeline);
     if (::GetFocus() == m_text.m_hWnd)
         OnKillfocusText();
     if (watch.alive() && m_hWnd)
-        ColPickerDlgBase::OnOK();
+        DoKillfocusColpickerValues(this);
+    if (!watch.alive() || !m_hWnd)
+        return;
+    m_recent.use(m_colour); // kept when the window goes
+    ColPickerDlgBase::OnOK();
+}
+
+void ColPickerPaletteDlg::showRecent()
+{
+    std::vector<COLORREF> codes;
+    for (const Colour& colour : m_recent.colours())
+        codes.push_back(colour.colorref());
+    m_recentGrid.EnableWindow(!codes.empty());
+    m_recentGrid.SetColours(std::move(codes), kRecentColours);
 }
 
 // The colour
 
 void ColPickerPaletteDlg::UpdateExternalColours(bool final)
 {
+    keepAlpha();
     if (final)
-        m_history->add(m_colour);
+        m_history.add(m_colour);
     showColour();
+}
+
+/// A swatch, and the pure hue of a double-click, come without alpha.
+void ColPickerPaletteDlg::keepAlpha()
+{
+    if (!m_alphaEnabled)
+        return;
+    if (m_colour.a() >= 0)
+        m_alpha = m_colour.a();
+    else
+        SetColour(this, Colour::hlsa(m_colour.h_hls(), m_colour.l_hls(), m_colour.s_hls(), m_alpha), false);
 }
 
 /// A change by the user.
@@ -180,6 +220,25 @@ void ColPickerPaletteDlg::OnBefore()
     use(m_before);
 }
 
+void ColPickerPaletteDlg::OnRecent()
+{
+    const int index = m_recentGrid.Current();
+    if (index >= 0)
+        useOpaque(m_recentGrid.Colours()[static_cast<std::size_t>(index)]);
+}
+
+void ColPickerPaletteDlg::OnColourOfScreen()
+{
+    useOpaque(m_dropper.TakenColour());
+}
+
+/// The alpha stays.
+void ColPickerPaletteDlg::useOpaque(COLORREF colour)
+{
+    const Colour opaque = Colour::colorref(colour);
+    use(Colour::rgba(opaque.r(), opaque.g(), opaque.b(), m_colour.a()));
+}
+
 void ColPickerPaletteDlg::OnDrawItem(int id, DRAWITEMSTRUCT* item)
 {
     if (id != IDC_COLOUR_BEFORE) {
@@ -188,6 +247,13 @@ void ColPickerPaletteDlg::OnDrawItem(int id, DRAWITEMSTRUCT* item)
     }
     CBrush brush(m_before.colorref());
     ::FillRect(item->hDC, &item->rcItem, brush);
+    if (item->itemState & ODS_FOCUS) {
+        CRect frame(item->rcItem);
+        for (const int mark : {BLACK_BRUSH, WHITE_BRUSH}) { // one of them shows on every colour
+            frame.DeflateRect(1, 1);
+            ::FrameRect(item->hDC, &frame, static_cast<HBRUSH>(::GetStockObject(mark)));
+        }
+    }
 }
 
 BOOL ColPickerPaletteDlg::PreTranslateMessage(MSG* message)
@@ -203,7 +269,7 @@ bool ColPickerPaletteDlg::goBackOrForward(WPARAM key)
 {
     if ((key != 'Z' && key != 'Y') || ::SendMessageW(::GetFocus(), EM_CANUNDO, 0, 0))
         return false;
-    const Colour* const colour = key == 'Z' ? m_history->back() : m_history->forward();
+    const Colour* const colour = key == 'Z' ? m_history.back() : m_history.forward();
     if (colour)
         use(Colour(*colour));
     return true;

@@ -2,18 +2,20 @@
 #pragma once
 
 #include <ovoui/colour/ColPickerDlgBase.h>
+#include <ovoui/colour/ColourDropper.h>
+#include <ovoui/colour/ColourGrid.h>
+#include <ovoui/colour/ColourHistory.h>
+#include <ovoui/colour/RecentColours.h>
 
 #include <array>
-#include <memory>
 
-namespace ovoui::colour
-{
-class ColourHistory;
-}
-
-/// Beside what ColPickerDlg has: 18 custom colours, which the application's profile keeps with the last mode;
-/// a field that shows and takes `#RRGGBB`, `#RRGGBBAA` and the names of CSS; the colour as it was, which a
-/// click brings back; the contrast to white and black; and undo and redo by Ctrl+Z and Ctrl+Y.
+/// Beside what ColPickerDlg has: 18 custom colours and those that were last closed with OK, which the
+/// application's profile keeps with the last mode; a button that picks a colour from the screen; a field that
+/// shows and takes `#RRGGBB`, `#RRGGBBAA` and the names of CSS; the colour as it was, which a click brings
+/// back; the contrast to white and black; undo and redo by Ctrl+Z and Ctrl+Y. All of it can be reached by the
+/// keyboard.
+///
+/// It is made of what the library offers to every host; its sources show how.
 class OVOUI_API ColPickerPaletteDlg : public ColPickerDlgBase
 {
     DECLARE_DYNAMIC(ColPickerPaletteDlg)
@@ -37,19 +39,28 @@ protected:
     void OnOK() override;
 
     afx_msg void OnBefore();
+    afx_msg void OnColourOfScreen();
     afx_msg void OnDestroy();
     afx_msg void OnDrawItem(int id, DRAWITEMSTRUCT* item);
     afx_msg void OnKillfocusText();
+    afx_msg void OnRecent();
     DECLARE_MESSAGE_MAP()
 
 private:
     void use(const Colour& colour);
+    void useOpaque(COLORREF colour);
+    void keepAlpha();
     void showColour();
+    void showRecent();
     bool goBackOrForward(WPARAM key);
 
     const Colour m_before;
+    double m_alpha; ///< of the last colour that had one
     std::array<COLORREF, 18> m_custom;
-    std::unique_ptr<ovoui::colour::ColourHistory> m_history;
+    ovoui::colour::RecentColours m_recent;
+    ovoui::colour::ColourHistory m_history;
     CEdit m_text;
+    CColourGrid m_recentGrid;
+    CColourDropper m_dropper;
     Lifeline m_paletteLifeline;
 };

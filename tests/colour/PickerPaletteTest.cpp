@@ -7,6 +7,7 @@
 #include "support/TestApp.h"
 
 #include <ovoui/colour/ColPickerPaletteDlg.h>
+#include <ovoui/colour/ColourText.h>
 
 #include <gtest/gtest.h>
 
@@ -18,6 +19,8 @@ namespace
 constexpr int kText = 20561;
 constexpr int kBefore = 20562;
 constexpr int kContrast = 20563;
+constexpr int kRecent = 20568;
+constexpr int kDropper = 20569;
 constexpr int kValue1 = 3437;
 
 class Palette : public ColPickerPaletteDlg
@@ -112,6 +115,33 @@ TEST_F(PickerPalette, EnterTakesOverWhatIsInTheField)
     EXPECT_EQ(now(), RGB(0, 0, 128));
 }
 
+TEST_F(PickerPalette, ATypedCodeIsKeptToTheLastDigit)
+{
+    for (const wchar_t* const code : {L"#5A96DC", L"#010203", L"#FEFDFC"}) {
+        dialog = std::make_unique<Palette>(TestApp::instance(), ColPickerModeHLS, Colour::rgb(0.3, 0.2, 0.7),
+                                           nullptr, nullptr);
+        auto acting =
+            user.waitFor("the dialog", [this] { return dialog->m_hWnd && dialog->IsWindowVisible(); })
+                .then([&] {
+                    dialog->GetDlgItem(kText)->SetFocus();
+                    dialog->SetDlgItemText(kText, code);
+                })
+                .key(VK_RETURN)
+                .start();
+        EXPECT_EQ(dialog->DoModal(), IDOK);
+        EXPECT_EQ(ovoui::colour::textOfColour(dialog->GetColour()), code)
+            << "not rounded to what the numbers show";
+    }
+}
+
+TEST_F(PickerPalette, TypedNumbersCount)
+{
+    open(Colour::rgb(0.3, 0.2, 0.7));
+    dialog->GetDlgItem(kValue1)->SetFocus();
+    user.type(L"7").key(VK_TAB);
+    EXPECT_EQ(now(), RGB(7, 51, 179));
+}
+
 TEST_F(PickerPalette, AClickOnTheColourAsItWasBringsItBack)
 {
     open(Colour::rgb(0.2, 0.4, 0.6));
@@ -122,6 +152,101 @@ TEST_F(PickerPalette, AClickOnTheColourAsItWasBringsItBack)
     user.click(Spot{*before});
     EXPECT_EQ(now(), RGB(51, 102, 153));
     EXPECT_EQ(text(kText), L"#336699");
+}
+
+TEST_F(PickerPalette, TheColourAsItWasIsReachedByTheKeyboard)
+{
+    open(Colour::rgb(0.2, 0.4, 0.6));
+    enter(L"yellow");
+    const HWND before = ::GetDlgItem(*dialog, kBefore);
+    const Picture without = Picture::ofClient(before);
+    dialog->GetDlgItem(20506)->SetFocus(); // the models, which come first
+    user.key(VK_TAB);
+    EXPECT_EQ(::GetFocus(), before);
+    const Picture with = Picture::ofClient(before);
+    EXPECT_GT(without.differences(with), 50) << "the focus mark";
+    user.key(VK_SPACE);
+    EXPECT_EQ(now(), RGB(51, 102, 153));
+    user.holding(VK_CONTROL).key('Z');
+    EXPECT_EQ(now(), RGB(255, 255, 0));
+}
+
+TEST_F(PickerPalette, AllOfItIsReachedByTab)
+{
+    open();
+    std::vector<int> order;
+    const HWND first = ::GetDlgItem(*dialog, IDCANCEL);
+    ::SetFocus(first);
+    do {
+        user.key(VK_TAB);
+        order.push_back(::GetDlgCtrlID(::GetFocus()));
+    } while (::GetFocus() != first && order.size() < 30);
+    EXPECT_EQ(order, (std::vector<int>{20565, 20566, 20506, kBefore, 3432, kValue1, 3433, 3438, 3434, 3439,
+                                       kDropper, kText, 20567, IDOK, IDCANCEL}))
+        << "no recent colours yet";
+}
+
+TEST_F(PickerPalette, ColoursClosedWithOkAreRecentOnes)
+{
+    open();
+    EXPECT_FALSE(dialog->GetDlgItem(kRecent)->IsWindowEnabled()) << "there are none yet";
+    for (const wchar_t* const colour : {L"teal", L"yellow", L"teal"}) {
+        dialog->DestroyWindow();
+        dialog = std::make_unique<Palette>(TestApp::instance(), ColPickerModeRGB, Colour::rgb(1, 0, 0),
+                                           nullptr, nullptr);
+        auto acting =
+            user.waitFor("the dialog", [this] { return dialog->m_hWnd && dialog->IsWindowVisible(); })
+                .then([&] { enter(colour); })
+                .key(VK_RETURN)
+                .start();
+        EXPECT_EQ(dialog->DoModal(), IDOK);
+    }
+    open();
+    enter(L"lime");
+    dialog->SendMessage(WM_COMMAND, IDCANCEL);
+    open();
+    auto& recent = static_cast<CColourGrid&>(*dialog->GetDlgItem(kRecent));
+    EXPECT_EQ(recent.Colours(), (std::vector<COLORREF>{RGB(0, 128, 128), RGB(255, 255, 0)}));
+    EXPECT_TRUE(recent.IsWindowEnabled());
+    user.click(Spot{recent, recent.CellRect(1).CenterPoint()});
+    EXPECT_EQ(now(), RGB(255, 255, 0));
+    user.key(VK_LEFT).key(VK_SPACE);
+    EXPECT_EQ(now(), RGB(0, 128, 128));
+    user.holding(VK_CONTROL).key('Z');
+    EXPECT_EQ(now(), RGB(255, 255, 0));
+}
+
+TEST_F(PickerPalette, AColourIsTakenFromTheScreen)
+{
+    open(Colour::rgba(1, 0, 0, 0.2));
+    const CPoint swatch = dialog->m_swatches[6].CenterPoint();
+    dialog->UpdateWindow();
+    user.drag(Spot{*dialog->GetDlgItem(kDropper)}, Spot{*dialog, swatch});
+    EXPECT_EQ(now(), RGB(34, 177, 76));
+    EXPECT_NEAR(dialog->GetColour().a(), 0.2, 1e-9);
+    user.holding(VK_CONTROL).key('Z');
+    EXPECT_EQ(now(), RGB(255, 0, 0));
+}
+
+TEST_F(PickerPalette, EscapeWhilePickingFromTheScreenLeavesTheDialogOpen)
+{
+    open();
+    user.press(Spot{*dialog->GetDlgItem(kDropper)}).moveBy(0, -60).key(VK_ESCAPE).release();
+    EXPECT_TRUE(dialog->m_hWnd);
+    EXPECT_EQ(now(), RGB(255, 0, 0));
+}
+
+TEST_F(PickerPalette, AlphaSurvivesSwatchesRecentColoursAndTheRing)
+{
+    TestApp::instance().WriteProfileString(L"settings", L"RecentColours", L"#102030");
+    open(Colour::rgba(1, 0, 0, 0.2));
+    user.click(Spot{*dialog, dialog->m_swatches[6].CenterPoint()});
+    EXPECT_EQ(now(), RGB(34, 177, 76));
+    EXPECT_NEAR(dialog->GetColour().a(), 0.2, 1e-9);
+    EXPECT_EQ(text(3444), L"51");
+    user.click(Spot{*dialog->GetDlgItem(kRecent), CPoint(3, 3)});
+    EXPECT_EQ(now(), RGB(0x10, 0x20, 0x30));
+    EXPECT_NEAR(dialog->GetColour().a(), 0.2, 1e-9);
 }
 
 TEST_F(PickerPalette, ChangesAreUndoneAndRedone)

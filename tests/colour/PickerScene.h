@@ -183,6 +183,7 @@ protected:
     void open(ColPickerModeType mode = ColPickerModeRGB, const Colour& colour = kOrange)
     {
         picker = std::make_unique<Picker>(TestApp::instance(), mode, colour, nullptr, nullptr);
+        picker->useKeyboard(keyboard);
         picker->createColPickerDlgBase();
         ready(*picker);
     }
@@ -192,6 +193,7 @@ protected:
     {
         host = std::make_unique<HostPicker>(dialogTemplate, TestApp::instance(), colour, nullptr, nullptr);
         host->m_customAreaId = kSwatchArea;
+        host->useKeyboard(keyboard);
         for (std::size_t i = 0; i < host->custom.size(); ++i)
             host->custom[i] = RGB(10 * i, 255 - 10 * i, 77);
         host->Create(static_cast<UINT>(dialogTemplate), nullptr);
@@ -218,6 +220,7 @@ protected:
     }
 
     const GdiPlusSession gdiPlus;
+    bool keyboard = false; ///< whether the pickers to be opened take it in ring, triangle and swatches
     std::unique_ptr<Picker> picker;
     std::unique_ptr<HostPicker> host;
     Robot user;

@@ -1,4 +1,4 @@
-#include <ovoui/colour/core/ColourHistory.h>
+#include <ovoui/colour/ColourHistory.h>
 
 #include <ovoui/colour/core/ColourModes.h>
 

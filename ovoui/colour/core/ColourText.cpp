@@ -1,4 +1,4 @@
-#include <ovoui/colour/core/ColourText.h>
+#include <ovoui/colour/ColourText.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -257,6 +257,32 @@ std::wstring nameOfColour(const Colour& colour)
         return {};
     const auto* const named = std::ranges::find(kNames, valueOf(colour), &Named::value);
     return named == std::end(kNames) ? std::wstring() : std::wstring(named->name);
+}
+
+std::wstring nameOrCodeOfColour(const Colour& colour)
+{
+    const std::wstring name = nameOfColour(colour);
+    return name.empty() ? textOfColour(colour) : name;
+}
+
+std::wstring textOfColours(const std::vector<Colour>& colours)
+{
+    std::wstring text;
+    for (const Colour& colour : colours)
+        text += (text.empty() ? L"" : L" ") + textOfColour(colour);
+    return text;
+}
+
+std::vector<std::optional<Colour>> coloursFromText(std::wstring_view text)
+{
+    std::vector<std::optional<Colour>> colours;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(L' '), text.size());
+        if (end > 0)
+            colours.push_back(colourFromText(text.substr(0, end)));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return colours;
 }
 
 } // namespace ovoui::colour

@@ -1,4 +1,4 @@
-#include <ovoui/colour/core/Contrast.h>
+#include <ovoui/colour/Contrast.h>
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,8 @@
 // Colours as texts, and how well they can be read.
-#include <ovoui/colour/core/ColourHistory.h>
-#include <ovoui/colour/core/ColourText.h>
-#include <ovoui/colour/core/Contrast.h>
+#include <ovoui/colour/ColourHistory.h>
+#include <ovoui/colour/ColourText.h>
+#include <ovoui/colour/Contrast.h>
+#include <ovoui/colour/RecentColours.h>
 
 #include <gtest/gtest.h>
 
@@ -113,4 +114,56 @@ TEST(ColourHistory, TheHueOfAGreyCounts)
     ColourHistory history(Colour::hls(Angle::degrees(10), 0.5, 0));
     history.add(Colour::hls(Angle::degrees(200), 0.5, 0));
     ASSERT_NE(history.back(), nullptr);
+}
+
+// Lists of colours
+
+TEST(ColourText, ANameOrElseTheCode)
+{
+    EXPECT_EQ(nameOrCodeOfColour(Colour::rgb(1, 0, 0)), L"red");
+    EXPECT_EQ(nameOrCodeOfColour(Colour::rgb(1, 0, 1.0 / 255)), L"#FF0001");
+    EXPECT_EQ(nameOrCodeOfColour(Colour::rgba(1, 0, 0, 0)), L"#FF000000");
+}
+
+TEST(ColourText, ListsOfColoursComeBack)
+{
+    EXPECT_EQ(textOfColours({}), L"");
+    EXPECT_EQ(textOfColours({Colour::rgb(1, 0, 0), Colour::rgba(0, 0, 1, 1)}), L"#FF0000 #0000FFFF");
+    const auto read = coloursFromText(L" #FF0000  rubbish #0000FFFF ");
+    ASSERT_EQ(read.size(), 3u);
+    ASSERT_TRUE(read[0]);
+    EXPECT_EQ(read[0]->colorref(), 0x0000FFu);
+    EXPECT_FALSE(read[1]) << "the others keep their places";
+    ASSERT_TRUE(read[2]);
+    EXPECT_EQ(read[2]->a(), 1);
+    EXPECT_TRUE(coloursFromText(L"").empty());
+    EXPECT_TRUE(coloursFromText(L"   ").empty());
+}
+
+TEST(RecentColours, TheLastOneUsedIsFirstAndEachIsThereOnce)
+{
+    RecentColours recent(3);
+    recent.use(Colour::rgb(1, 0, 0));
+    recent.use(Colour::rgb(0, 1, 0));
+    recent.use(Colour::rgba(1, 0, 0, 0.5));
+    EXPECT_EQ(recent.text(), L"#FF0000 #00FF00") << "without alpha";
+    recent.use(Colour::rgb(0, 0, 1));
+    recent.use(Colour::rgb(1, 1, 1));
+    EXPECT_EQ(recent.text(), L"#FFFFFF #0000FF #FF0000") << "as many as there is room for";
+}
+
+TEST(RecentColours, ComeBackFromTheirText)
+{
+    RecentColours recent(3);
+    recent.setText(L"#FFFFFF rubbish #0000FF #FFFFFF #FF0000 #00FF00");
+    EXPECT_EQ(recent.text(), L"#FFFFFF #0000FF #FF0000");
+    recent.setText(L"");
+    EXPECT_TRUE(recent.colours().empty());
+}
+
+TEST(RecentColours, WithoutRoomNoneIsKept)
+{
+    RecentColours recent(0);
+    recent.use(Colour::rgb(1, 0, 0));
+    EXPECT_TRUE(recent.colours().empty());
 }

@@ -1,5 +1,7 @@
-/// How well a text can be read. Plain values, no windows.
+/// How well a text can be read.
 #pragma once
+
+#include <ovoui/colour/UnitExport.h>
 
 #include <ovocor/Colour.h>
 
@@ -10,10 +12,10 @@ namespace ovoui::colour
 
 /// The contrast ratio of two colours, 1 to 21, after the Web Content Accessibility Guidelines 2. Alpha is
 /// left out.
-double contrast(const Colour& one, const Colour& other);
+OVOUI_UNIT_API double contrast(const Colour& one, const Colour& other);
 
 /// What the guidelines say of a text of ordinary size: "AAA" from 7, "AA" from 4.5, and for large text "AA
-/// large" from 3; below that "-".
-std::wstring_view gradeOf(double contrast);
+/// large" from 3; below that "-". Ends with a zero.
+OVOUI_UNIT_API std::wstring_view gradeOf(double contrast);
 
 } // namespace ovoui::colour

@@ -1,5 +1,7 @@
-/// The colours that a dialog has shown, to go back and forward. Plain values, no windows.
+/// The colours that a dialog has shown, to go back and forward.
 #pragma once
+
+#include <ovoui/colour/UnitExport.h>
 
 #include <ovocor/Colour.h>
 
@@ -9,7 +11,7 @@
 namespace ovoui::colour
 {
 
-class ColourHistory
+class OVOUI_UNIT_API ColourHistory
 {
 public:
     explicit ColourHistory(const Colour& first);
@@ -18,7 +20,8 @@ public:
     /// colour, its hue included, is not added.
     void add(const Colour& colour);
 
-    /// The colour before the present one, or after it, which becomes the present one; null at the end.
+    /// The colour before the present one, or after it, which becomes the present one; null at the end. Good
+    /// until the next call.
     const Colour* back();
     const Colour* forward();
 

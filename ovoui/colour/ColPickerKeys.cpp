@@ -1,0 +1,256 @@
+// The picker's keyboard: ring, triangle and swatches.
+#include <ovoui/colour/ColPickerStops.h>
+#include <ovoui/colour/ColourWheelImage.h>
+#include <ovoui/colour/core/ColourModes.h>
+#include <ovoui/colour/ColourText.h>
+#include <ovoui/colour/core/FocusMark.h>
+#include <ovouires/resource.h>
+
+#include <oleacc.h>
+
+#include <utility>
+
+using namespace ovoui::colour;
+
+namespace
+{
+
+std::wstring resourceText(UINT id)
+{
+    CString text;
+    text.LoadString(id);
+    return std::wstring(text);
+}
+
+int hueOf(const Colour& colour)
+{
+    return valuesOf(colour, ColPickerModeHLS)[0] % 360;
+}
+
+Shade shadeOf(const Colour& colour)
+{
+    const Values values = valuesOf(colour, ColPickerModeHLS);
+    return {values[1], values[2]};
+}
+
+Colour colourOf(const Shade& shade, const Colour& like)
+{
+    return Colour::hlsa(like.h_hls(), shade.lightness / 100.0, shade.saturation / 100.0, like.a());
+}
+
+/// Where the dialog is mirrored, what is drawn to the right is seen to the left.
+WheelKey asSeen(WheelKey key, const CWnd& dialog)
+{
+    if (!(dialog.GetExStyle() & WS_EX_LAYOUTRTL))
+        return key;
+    return key == WheelKey::Left ? WheelKey::Right : key == WheelKey::Right ? WheelKey::Left : key;
+}
+
+/// Dots in the colour of texts, the same ones each time: drawing them again changes nothing.
+template <std::size_t Points>
+void drawDots(CDC& dc, const std::array<Vector<2>, Points>& outline)
+{
+    const LOGBRUSH ink{BS_SOLID, ::GetSysColor(COLOR_BTNTEXT), 0};
+    CPen pen(PS_COSMETIC | PS_ALTERNATE, 1, &ink);
+    CPen* const before = dc.SelectObject(&pen);
+    const int mode = dc.SetBkMode(TRANSPARENT);
+    POINT points[Points];
+    for (std::size_t i = 0; i < Points; ++i)
+        points[i] = {std::lround(outline[i].x()), std::lround(outline[i].y())};
+    dc.Polyline(points, static_cast<int>(Points));
+    dc.SetBkMode(mode);
+    dc.SelectObject(before);
+}
+
+} // namespace
+
+// Making
+
+void ColPicker::makeStops(CWnd* wnd)
+{
+    m_stops.reset();
+    if (!m_keysEnabled || !hasWheel())
+        return;
+    m_stops = std::make_unique<Stops>();
+    const auto make = [&](UINT name, std::function<std::wstring()> value) {
+        auto identity = std::make_shared<ColourIdentity>();
+        identity->role = ROLE_SYSTEM_SLIDER;
+        identity->name = [name] { return resourceText(name); };
+        identity->value = std::move(value);
+        return std::make_unique<PickerStop>(
+            PickerStop::Calls{[](UINT key) { return wheelKeyOf(key).has_value(); },
+                              [this, wnd] { wnd->InvalidateRect(&m_wheelRect, TRUE); }},
+            std::move(identity));
+    };
+    m_stops->ring = make(IDS_COLOUR_RING, [this] { return std::to_wstring(hueOf(m_colour)); });
+    m_stops->ring->create(*wnd, m_wheelRect, IDC_COLOUR_RING, wnd->GetDlgItem(IDC_WHEEL));
+    m_stops->triangle = make(IDS_COLOUR_TRIANGLE, [this] { return shadeText(); });
+    const PixelRect& inner = m_wheel->triangle().rect();
+    m_stops->triangle->create(*wnd, {inner.left, inner.top, inner.right, inner.bottom}, IDC_COLOUR_TRIANGLE,
+                              m_stops->ring.get());
+    m_stops->toldHue = hueOf(m_colour);
+    m_stops->toldShade = shadeOf(m_colour);
+    if (m_customAreaId != 0)
+        makeSwatchStop(wnd);
+}
+
+void ColPicker::makeSwatchStop(CWnd* wnd)
+{
+    auto identity = std::make_shared<ColourIdentity>();
+    identity->role = ROLE_SYSTEM_LIST;
+    identity->name = [] { return resourceText(IDS_COLOUR_CUSTOM); };
+    identity->cells = static_cast<int>(m_swatches.size());
+    identity->cellName = [this](int cell) { return nameOrCodeOfColour(Colour::colorref(customCols(cell))); };
+    identity->cellPlace = [this, wnd](int cell) {
+        CRect place = m_swatches[static_cast<std::size_t>(cell)];
+        wnd->ClientToScreen(&place);
+        return place;
+    };
+    identity->current = [this] { return m_stops->swatch; };
+    identity->cellAction = [] { return resourceText(IDS_COLOUR_TAKE); };
+    identity->pressCell = [this, wnd](int cell) { takeSwatch(wnd, cell); };
+    m_stops->swatches = std::make_unique<PickerStop>(
+        PickerStop::Calls{[](UINT key) { return key == VK_SPACE || key == VK_INSERT || wheelKeyOf(key); },
+                          [this, wnd] { wnd->InvalidateRect(&m_customRect, FALSE); }},
+        identity);
+    m_stops->swatches->create(*wnd, m_customRect, IDC_COLOUR_SWATCH_STOP, wnd->GetDlgItem(m_customAreaId));
+}
+
+/// The part that was pressed takes the focus, where it can. Whether picker and window still exist.
+bool ColPicker::focusPart(CWnd* wnd, Drag part)
+{
+    if (!m_stops)
+        return true;
+    const Lifeline::Watch watch(m_lifeline);
+    if (part == Drag::Triangle)
+        m_stops->triangle->SetFocus();
+    else if (part == Drag::Ring)
+        m_stops->ring->SetFocus();
+    return watch.alive() && wnd->m_hWnd;
+}
+
+bool ColPicker::focusSwatch(CWnd* wnd, int swatch)
+{
+    if (!m_stops || !m_stops->swatches)
+        return true;
+    const Lifeline::Watch watch(m_lifeline);
+    m_stops->swatch = swatch;
+    wnd->InvalidateRect(&m_customRect, FALSE);
+    m_stops->swatches->SetFocus();
+    return watch.alive() && wnd->m_hWnd;
+}
+
+// Keys
+
+/// What a stop tells the dialog. Whether it was one.
+bool ColPicker::carryOutKey(CWnd* wnd, HWND from)
+{
+    if (!m_stops || !from)
+        return false;
+    for (PickerStop* const stop : {m_stops->ring.get(), m_stops->triangle.get(), m_stops->swatches.get()})
+        if (stop && stop->m_hWnd == from) {
+            if (stop->key() != 0 && !isDragging(wnd))
+                carryOutKey(wnd, *stop);
+            return true;
+        }
+    return false;
+}
+
+void ColPicker::carryOutKey(CWnd* wnd, const PickerStop& stop)
+{
+    const UINT key = stop.key();
+    if (&stop == m_stops->swatches.get() && key == VK_SPACE) {
+        takeSwatch(wnd, m_stops->swatch);
+    } else if (&stop == m_stops->swatches.get() && key == VK_INSERT) {
+        keepInSwatch(wnd, m_stops->swatch);
+    } else if (const auto move = wheelKeyOf(key)) {
+        const WheelKey seen = asSeen(*move, *wnd);
+        if (&stop == m_stops->ring.get())
+            moveHue(wnd, seen);
+        else if (&stop == m_stops->triangle.get())
+            moveShade(wnd, seen);
+        else
+            moveToSwatch(wnd, seen);
+    }
+}
+
+void ColPicker::moveHue(CWnd* wnd, WheelKey key)
+{
+    const int hue = hueAfter(hueOf(m_colour), key, heldKeys());
+    changeByKey(wnd, Colour::hlsa(Angle::degrees(hue), m_colour.l_hls(), m_colour.s_hls(), m_colour.a()));
+}
+
+void ColPicker::moveShade(CWnd* wnd, WheelKey key)
+{
+    const bool goesOn = !differ(m_colour, m_stops->shadeColour, true);
+    const Shade from = goesOn ? m_stops->shade : shadeOf(m_colour);
+    m_stops->shade = shadeAfter(from, key, heldKeys());
+    m_stops->shadeColour = colourOf(m_stops->shade, m_colour);
+    changeByKey(wnd, m_stops->shadeColour);
+}
+
+void ColPicker::moveToSwatch(CWnd* wnd, WheelKey key)
+{
+    const int count = static_cast<int>(m_swatches.size());
+    const int next = cellAfter(m_stops->swatch, count, count / 2, key);
+    if (std::exchange(m_stops->swatch, next) == next)
+        return;
+    wnd->InvalidateRect(&m_customRect, FALSE);
+    m_stops->swatches->announceCell(next);
+}
+
+/// A key that goes on being held leaves no time for painting, and the edits show the colour when it is
+/// painted.
+void ColPicker::changeByKey(CWnd* wnd, const Colour& colour)
+{
+    const Lifeline::Watch watch(m_lifeline);
+    SetColour(wnd, colour, true);
+    if (watch.alive() && wnd->m_hWnd)
+        wnd->UpdateWindow();
+    if (watch.alive() && wnd->m_hWnd)
+        UpdateExternalColours(true);
+}
+
+// What is shown and told
+
+/// Behind the markers, which invert what is under them.
+void ColPicker::drawFocusMark(CDC* dc) const
+{
+    if (!m_stops)
+        return;
+    if (m_stops->ring->hasFocus())
+        drawDots(*dc, focusMark(m_wheel->ring()));
+    else if (m_stops->triangle->hasFocus())
+        drawDots(*dc, focusMark(m_wheel->triangle()));
+}
+
+/// A frame in black and one in white, which show on every colour.
+void ColPicker::drawSwatchMark(CDC* dc) const
+{
+    if (!m_stops || !m_stops->swatches || !m_stops->swatches->hasFocus())
+        return;
+    CRect frame = m_swatches[static_cast<std::size_t>(m_stops->swatch)];
+    frame.DeflateRect(1, 1);
+    ::FrameRect(dc->m_hDC, &frame, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)));
+    frame.DeflateRect(1, 1);
+    ::FrameRect(dc->m_hDC, &frame, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
+}
+
+std::wstring ColPicker::shadeText() const
+{
+    const bool byKeys = !differ(m_colour, m_stops->shadeColour, true);
+    const Shade shade = byKeys ? m_stops->shade : shadeOf(m_colour);
+    CString text;
+    text.Format(IDS_COLOUR_SHADE, shade.lightness, shade.saturation);
+    return std::wstring(text);
+}
+
+void ColPicker::announceColour()
+{
+    if (!m_stops || !m_stops->ring)
+        return;
+    if (std::exchange(m_stops->toldHue, hueOf(m_colour)) != m_stops->toldHue)
+        m_stops->ring->announceValue();
+    if (std::exchange(m_stops->toldShade, shadeOf(m_colour)) != m_stops->toldShade)
+        m_stops->triangle->announceValue();
+}

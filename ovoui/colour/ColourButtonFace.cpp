@@ -1,0 +1,111 @@
+#include <ovoui/colour/ColourButtonFace.h>
+
+#include <ovoui/colour/ColourCells.h>
+#include <ovoui/frame/ThemeData.h>
+
+#include <vssym32.h>
+
+#include <algorithm>
+
+namespace ovoui::colour
+{
+
+namespace
+{
+
+// Pixels at 96 dots per inch
+constexpr int kMargin = 4;
+constexpr int kArrow = 4; // half of its width
+
+int scaled(CDC& dc, int length)
+{
+    return ::MulDiv(length, dc.GetDeviceCaps(LOGPIXELSX), USER_DEFAULT_SCREEN_DPI);
+}
+
+COLORREF over(const Colour& colour, double ground)
+{
+    const double part = colour.a();
+    const auto mixed = [&](double component) { return component * part + ground * (1 - part); };
+    return Colour::rgb(mixed(colour.r()), mixed(colour.g()), mixed(colour.b())).colorref();
+}
+
+} // namespace
+
+ColourButtonFace::ColourButtonFace(CWnd& button, const Colour& colour, const Look& look)
+    : m_button(button)
+    , m_colour(colour)
+    , m_look(look)
+{
+}
+
+void ColourButtonFace::paint(CDC& dc, const CRect& rect, UINT state) const
+{
+    const bool enabled = !(state & ODS_DISABLED);
+    paintBack(dc, rect, state);
+    const int margin = scaled(dc, kMargin);
+    const int arrow = scaled(dc, kArrow);
+    CRect field = rect;
+    field.DeflateRect(margin, margin);
+    CRect room = field;
+    room.left = std::max(field.left, field.right - 2 * arrow);
+    field.right = room.left - margin;
+    if (field.Width() > 2 && field.Height() > 2)
+        paintColour(dc, field, enabled);
+    paintArrow(dc, room, enabled);
+    if ((state & ODS_FOCUS) && !(state & ODS_NOFOCUSRECT)) {
+        CRect focus = rect;
+        focus.DeflateRect(margin - 2, margin - 2);
+        dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));
+        dc.SetBkColor(::GetSysColor(COLOR_BTNFACE));
+        dc.DrawFocusRect(&focus);
+    }
+}
+
+void ColourButtonFace::paintBack(CDC& dc, CRect rect, UINT state) const
+{
+    const bool enabled = !(state & ODS_DISABLED);
+    const bool pressed = m_look.dropped || (state & ODS_SELECTED);
+    CThemeData& themes = CThemeData::getThemeData();
+    if (themes.IsAppThemed()) {
+        // The corners of a themed button show what is behind it.
+        const auto behind = reinterpret_cast<HBRUSH>(
+            ::SendMessageW(::GetParent(m_button), WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC),
+                           reinterpret_cast<LPARAM>(m_button.m_hWnd)));
+        ::FillRect(dc, &rect, behind ? behind : ::GetSysColorBrush(COLOR_BTNFACE));
+        const int up = m_look.hot ? PBS_HOT : PBS_NORMAL;
+        themes.drawBackground(dc, &rect, m_button, L"Button",
+                              !enabled  ? PBS_DISABLED
+                              : pressed ? PBS_PRESSED
+                                        : up);
+        return;
+    }
+    ::DrawFrameControl(dc, &rect, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0));
+}
+
+/// A colour with alpha is opaque on the left, and over white and black on the right.
+void ColourButtonFace::paintColour(CDC& dc, const CRect& field, bool enabled) const
+{
+    const auto shown = [&](COLORREF colour) { return enabled ? colour : paleColour(colour); };
+    dc.FillSolidRect(&field, shown(m_colour.colorref()));
+    if (m_colour.a() >= 0 && m_colour.a() < 1) {
+        const CPoint middle = field.CenterPoint();
+        dc.FillSolidRect(CRect(middle.x, field.top, field.right, middle.y), shown(over(m_colour, 1)));
+        dc.FillSolidRect(CRect(middle.x, middle.y, field.right, field.bottom), shown(over(m_colour, 0)));
+    }
+    ::FrameRect(dc, &field, ::GetSysColorBrush(enabled ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
+}
+
+void ColourButtonFace::paintArrow(CDC& dc, const CRect& room, bool enabled) const
+{
+    const int half = room.Width() / 2;
+    const CPoint tip(room.CenterPoint().x, room.CenterPoint().y + (half + 1) / 2);
+    POINT arrow[] = {{tip.x - half, tip.y - half}, {tip.x + half, tip.y - half}, tip};
+    CBrush brush(::GetSysColor(enabled ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
+    CBrush* const brushBefore = dc.SelectObject(&brush);
+    CGdiObject* const penBefore = dc.SelectStockObject(NULL_PEN);
+    dc.Polygon(arrow, 3);
+    dc.SelectObject(static_cast<CPen*>(penBefore));
+    dc.SelectObject(brushBefore);
+}
+
+} // namespace ovoui::colour

@@ -1,0 +1,35 @@
+/// Not exported. How a colour button looks.
+#pragma once
+
+#include <ovocor/Colour.h>
+
+#include <afxwin.h>
+
+namespace ovoui::colour
+{
+
+class ColourButtonFace
+{
+public:
+    struct Look
+    {
+        bool dropped = false;
+        bool hot = false; ///< the pointer is over it
+    };
+
+    ColourButtonFace(CWnd& button, const Colour& colour, const Look& look);
+
+    /// `state` has flags ODS_...
+    void paint(CDC& dc, const CRect& rect, UINT state) const;
+
+private:
+    void paintBack(CDC& dc, CRect rect, UINT state) const;
+    void paintColour(CDC& dc, const CRect& field, bool enabled) const;
+    void paintArrow(CDC& dc, const CRect& room, bool enabled) const;
+
+    CWnd& m_button;
+    Colour m_colour;
+    Look m_look;
+};
+
+} // namespace ovoui::colour

@@ -1,0 +1,251 @@
+#include <ovoui/colour/ColourDrop.h>
+
+#include <ovoui/colour/AccessibleColours.h>
+#include <ovoui/colour/ColourCells.h>
+#include <ovoui/colour/ColourText.h>
+#include <ovoui/colour/PickerStop.h>
+#include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/frame/Geometry.h>
+#include <ovouires/resource.h>
+
+#include <oleacc.h>
+
+#include <utility>
+
+namespace ovoui::colour
+{
+
+BEGIN_MESSAGE_MAP(ColourDrop, CWnd)
+    ON_WM_MOUSEMOVE() // mouse
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEACTIVATE()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_PAINT() // painting
+    ON_WM_ERASEBKGND()
+    ON_WM_DESTROY()
+    ON_MESSAGE(WM_GETOBJECT, &ColourDrop::OnGetObject)
+END_MESSAGE_MAP()
+
+namespace
+{
+
+// Pixels at 96 dots per inch
+constexpr int kCell = 18;
+constexpr int kMargin = 6;
+constexpr int kLineMargin = 4; // above and below the line's text
+
+PixelRect pixelRect(const RECT& rect)
+{
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
+
+CRect rectOf(const PixelRect& rect)
+{
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
+
+} // namespace
+
+ColourDrop::ColourDrop(Content content, Calls calls)
+    : m_content(std::move(content))
+    , m_calls(std::move(calls))
+    , m_identity(std::make_shared<ColourIdentity>())
+{
+    m_identity->role = ROLE_SYSTEM_LIST;
+    m_identity->cells = static_cast<int>(m_content.colours.size()) + !m_content.line.empty();
+    m_identity->cellName = [this](int cell) { return nameOf(cell); };
+    m_identity->cellPlace = [this](int cell) { return cellRect(cell); };
+    m_identity->current = [this] { return current(); };
+    m_identity->cellAction = [] {
+        CString text;
+        text.LoadString(IDS_COLOUR_TAKE);
+        return std::wstring(text);
+    };
+    m_identity->pressCell = m_calls.chosen;
+}
+
+ColourDrop::~ColourDrop()
+{
+    m_identity->window = nullptr;
+    DestroyWindow();
+}
+
+bool ColourDrop::open(CWnd& button)
+{
+    m_button = &button;
+    const LPCTSTR windowClass =
+        AfxRegisterWndClass(CS_DROPSHADOW | CS_SAVEBITS, ::LoadCursorW(nullptr, IDC_ARROW));
+    if (!CreateEx(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TOPMOST, windowClass, L"", WS_POPUP, CRect(),
+                  &button, 0))
+        return false;
+    m_identity->window = m_hWnd;
+    CClientDC dc(this);
+    const auto scaled = [&](int length) {
+        return ::MulDiv(length, dc.GetDeviceCaps(LOGPIXELSX), USER_DEFAULT_SCREEN_DPI);
+    };
+    CFont* const before = dc.SelectObject(font());
+    const int lineHeight = dc.GetTextExtent(L"M", 1).cy + 2 * scaled(kLineMargin);
+    dc.SelectObject(before);
+    m_layout = std::make_unique<DropLayout>(
+        static_cast<int>(m_content.colours.size()), m_content.columns, !m_content.line.empty(),
+        DropLayout::Lengths{.cell = scaled(kCell), .margin = scaled(kMargin), .line = lineHeight});
+
+    CRect under;
+    button.GetWindowRect(&under);
+    const PixelRect place =
+        dropPlace(pixelRect(under), m_layout->width, m_layout->height, pixelRect(GetWorkArea(under)));
+    SetWindowPos(&wndTopMost, place.left, place.top, place.width(), place.height(),
+                 SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    ::GetCursorPos(&m_pointer);
+    SetCapture();
+    return true;
+}
+
+CFont* ColourDrop::font() const
+{
+    CFont* const own = m_button->GetFont();
+    return own ? own : CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT)));
+}
+
+CRect ColourDrop::cellRect(int cell) const
+{
+    CRect place = rectOf(m_layout->place(cell));
+    ClientToScreen(&place);
+    return place;
+}
+
+std::wstring ColourDrop::nameOf(int cell) const
+{
+    if (cell < static_cast<int>(m_content.colours.size()))
+        return nameOrCodeOfColour(Colour::colorref(m_content.colours[static_cast<std::size_t>(cell)]));
+    std::wstring name = m_content.line;
+    std::erase(name, L'&');
+    return name;
+}
+
+// What the user does. The calls come last: there may be no popup afterwards.
+
+void ColourDrop::point(int cell)
+{
+    if (cell == m_content.current)
+        return;
+    m_content.current = cell;
+    Invalidate(FALSE);
+    if (cell < 0)
+        return;
+    frame::announce(EVENT_OBJECT_FOCUS, m_hWnd, cell);
+    const auto tell = m_calls.pointed;
+    tell(cell);
+}
+
+bool ColourDrop::takesKey(UINT key) const
+{
+    return key == VK_RETURN || key == VK_SPACE || wheelKeyOf(key);
+}
+
+void ColourDrop::press(UINT key)
+{
+    if (const auto move = wheelKeyOf(key)) {
+        if (m_layout->last() >= 0)
+            point(m_layout->after(m_content.current, *move));
+        return;
+    }
+    const auto tell = m_calls.chosen;
+    const auto close = m_calls.closed;
+    m_content.current >= 0 ? tell(m_content.current) : close();
+}
+
+/// A window that opens under a pointer at rest is told that it moves, which would take the mark from the
+/// keys.
+void ColourDrop::OnMouseMove(UINT, CPoint where)
+{
+    CPoint pointer = where;
+    ClientToScreen(&pointer);
+    if (std::exchange(m_pointer, pointer) == pointer)
+        return;
+    const int cell = m_layout->at(where.x, where.y);
+    if (cell >= 0) // beside the cells the mark stays for the keys
+        point(cell);
+}
+
+/// A press beside the popup closes it, on its button too.
+void ColourDrop::OnLButtonDown(UINT, CPoint where)
+{
+    CRect client;
+    GetClientRect(&client);
+    if (client.PtInRect(where))
+        return;
+    const auto tell = m_calls.closed;
+    tell();
+}
+
+/// Of a click, or of a drag from the button.
+void ColourDrop::OnLButtonUp(UINT, CPoint where)
+{
+    const int cell = m_layout->at(where.x, where.y);
+    if (cell < 0)
+        return;
+    const auto tell = m_calls.chosen;
+    tell(cell);
+}
+
+void ColourDrop::OnCaptureChanged(CWnd* wnd)
+{
+    if (wnd->GetSafeHwnd() == m_hWnd)
+        return;
+    const auto tell = m_calls.closed;
+    tell();
+}
+
+int ColourDrop::OnMouseActivate(CWnd*, UINT, UINT)
+{
+    return MA_NOACTIVATE;
+}
+
+void ColourDrop::OnDestroy()
+{
+    m_identity->window = nullptr;
+    Default();
+}
+
+LRESULT ColourDrop::OnGetObject(WPARAM wParam, LPARAM lParam)
+{
+    if (!frame::asksForContents(lParam))
+        return Default();
+    return frame::accessibleAnswer(wParam, accessibleColours(m_identity));
+}
+
+// Painting
+
+void ColourDrop::OnPaint()
+{
+    BufferedPaint paint(*this);
+    CDC& dc = paint.dc();
+    CRect client;
+    GetClientRect(&client);
+    dc.FillSolidRect(&client, ::GetSysColor(COLOR_MENU));
+    ::FrameRect(dc, &client, ::GetSysColorBrush(COLOR_BTNSHADOW));
+    for (int i = 0; i < m_layout->cells.count; ++i)
+        drawColourCell(dc, rectOf(m_layout->place(i)), m_content.colours[static_cast<std::size_t>(i)], true);
+    if (!m_content.line.empty())
+        drawLine(dc);
+    if (m_content.current >= 0 && m_content.current < m_layout->cells.count)
+        drawCellMark(dc, rectOf(m_layout->place(m_content.current)));
+}
+
+void ColourDrop::drawLine(CDC& dc) const
+{
+    CRect line = rectOf(m_layout->line);
+    const bool marked = m_content.current == m_layout->cells.count;
+    if (marked)
+        dc.FillSolidRect(&line, ::GetSysColor(COLOR_HIGHLIGHT));
+    CFont* const before = dc.SelectObject(font());
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(::GetSysColor(marked ? COLOR_HIGHLIGHTTEXT : COLOR_MENUTEXT));
+    dc.DrawText(m_content.line.c_str(), static_cast<int>(m_content.line.size()), &line,
+                DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_HIDEPREFIX);
+    dc.SelectObject(before);
+}
+
+} // namespace ovoui::colour

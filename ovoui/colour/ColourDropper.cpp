@@ -1,0 +1,227 @@
+#include <ovoui/colour/ColourDropper.h>
+
+#include <ovoui/colour/Magnifier.h>
+#include <ovoui/colour/core/ScreenPick.h>
+
+using namespace ovoui::colour;
+
+IMPLEMENT_DYNAMIC(CColourDropper, CButton)
+
+BEGIN_MESSAGE_MAP(CColourDropper, CButton)
+    ON_WM_LBUTTONDOWN() // mouse
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_KEYDOWN() // keyboard
+    ON_WM_KEYUP()
+    ON_WM_GETDLGCODE()
+    ON_MESSAGE(BM_CLICK, &CColourDropper::OnClick)
+    ON_WM_CAPTURECHANGED() // interruptions
+    ON_WM_CANCELMODE()
+    ON_WM_KILLFOCUS()
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+namespace
+{
+
+CPoint pointer()
+{
+    CPoint point;
+    ::GetCursorPos(&point);
+    return point;
+}
+
+bool isArrow(UINT key)
+{
+    return key == VK_LEFT || key == VK_RIGHT || key == VK_UP || key == VK_DOWN;
+}
+
+} // namespace
+
+CColourDropper::CColourDropper()
+    : m_pick(std::make_unique<ScreenPick>())
+    , m_magnifier(std::make_unique<Magnifier>())
+{
+}
+
+CColourDropper::~CColourDropper()
+{
+    DestroyWindow();
+}
+
+bool CColourDropper::IsPicking() const
+{
+    return m_pick->goesOn();
+}
+
+// What the rules lead to
+
+void CColourDropper::begin()
+{
+    SetState(TRUE);
+    SetCapture();
+}
+
+void CColourDropper::follow()
+{
+    ::SetCursor(::LoadCursorW(nullptr, IDC_CROSS));
+    m_magnifier->show(*this, pointer());
+}
+
+void CColourDropper::take()
+{
+    m_taken = screenColour(pointer());
+    const Lifeline::Watch watch(m_lifeline);
+    end();
+    if (watch.alive() && m_hWnd)
+        ::SendMessageW(::GetParent(m_hWnd), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), kTaken),
+                       reinterpret_cast<LPARAM>(m_hWnd));
+}
+
+void CColourDropper::giveUp()
+{
+    if (m_pick->interrupt() == ScreenPick::Act::GiveUp)
+        end();
+}
+
+/// The rules are at rest by now, so losing the capture is no interruption.
+void CColourDropper::end()
+{
+    m_magnifier->hide();
+    if (::GetCapture() == m_hWnd)
+        ::ReleaseCapture();
+    if (m_hWnd)
+        SetState(FALSE);
+}
+
+// Mouse
+
+bool CColourDropper::isOnButton(CPoint client) const
+{
+    CRect rect;
+    GetClientRect(&rect);
+    return rect.PtInRect(client) != FALSE;
+}
+
+void CColourDropper::OnLButtonDown(UINT, CPoint)
+{
+    const Lifeline::Watch watch(m_lifeline);
+    SetFocus(); // the window that loses it may do anything
+    if (!watch.alive() || !m_hWnd)
+        return;
+    const ScreenPick::Act act = m_pick->press();
+    if (act == ScreenPick::Act::Begin)
+        begin();
+    else if (act == ScreenPick::Act::Take)
+        take();
+}
+
+void CColourDropper::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    OnLButtonDown(flags, point);
+}
+
+void CColourDropper::OnMouseMove(UINT, CPoint point)
+{
+    if (m_pick->move(isOnButton(point)) == ScreenPick::Act::Follow)
+        follow();
+    else
+        Default();
+}
+
+void CColourDropper::OnLButtonUp(UINT, CPoint)
+{
+    const ScreenPick::Act act = m_pick->release();
+    if (act == ScreenPick::Act::Take)
+        take();
+    else if (act == ScreenPick::Act::GiveUp)
+        end();
+}
+
+// Keyboard
+
+/// While picking goes on every key is the button's; Enter is at any time.
+UINT CColourDropper::OnGetDlgCode()
+{
+    const MSG* const message = CWnd::GetCurrentMessage();
+    const auto* const asked = message ? reinterpret_cast<const MSG*>(message->lParam) : nullptr;
+    const bool enter = asked && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
+    const auto usual = static_cast<UINT>(Default());
+    return IsPicking() || enter ? usual | DLGC_WANTALLKEYS : usual;
+}
+
+void CColourDropper::OnKeyDown(UINT key, UINT, UINT)
+{
+    const bool press = key == VK_SPACE || key == VK_RETURN;
+    const bool again = (CWnd::GetCurrentMessage()->lParam & 0x40000000) != 0; // the key is being held
+    if (!IsPicking() && !press) {
+        Default();
+        return;
+    }
+    if (key == VK_ESCAPE)
+        giveUp();
+    else if (press && !again && m_pick->accept() == ScreenPick::Act::Take)
+        take();
+    else if (press && !again)
+        OnClick(0, 0);
+    else if (isArrow(key) && m_pick->arrow() == ScreenPick::Act::Follow)
+        movePointer(key);
+}
+
+/// Space has done all when it went down.
+void CColourDropper::OnKeyUp(UINT key, UINT, UINT)
+{
+    if (key != VK_SPACE)
+        Default();
+}
+
+void CColourDropper::movePointer(UINT key)
+{
+    constexpr int kLargeStep = 10;
+    const int step = ::GetKeyState(VK_SHIFT) < 0 ? kLargeStep : 1;
+    CPoint point = pointer();
+    point.x += key == VK_LEFT ? -step : key == VK_RIGHT ? step : 0;
+    point.y += key == VK_UP ? -step : key == VK_DOWN ? step : 0;
+    ::SetCursorPos(point.x, point.y);
+    follow();
+}
+
+/// As a key or accessibility presses the button.
+LRESULT CColourDropper::OnClick(WPARAM, LPARAM)
+{
+    const Lifeline::Watch watch(m_lifeline);
+    SetFocus();
+    if (!watch.alive() || !m_hWnd || m_pick->start() != ScreenPick::Act::Begin)
+        return 0;
+    begin();
+    follow();
+    return 0;
+}
+
+// Interruptions
+
+void CColourDropper::OnCaptureChanged(CWnd* wnd)
+{
+    if (wnd->GetSafeHwnd() != m_hWnd)
+        giveUp();
+    Default();
+}
+
+void CColourDropper::OnCancelMode()
+{
+    giveUp();
+    Default();
+}
+
+void CColourDropper::OnKillFocus(CWnd*)
+{
+    giveUp();
+    Default();
+}
+
+void CColourDropper::OnDestroy()
+{
+    giveUp();
+    Default();
+}

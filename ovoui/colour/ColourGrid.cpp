@@ -1,0 +1,267 @@
+#include <ovoui/colour/ColourGrid.h>
+
+#include <ovoui/colour/AccessibleColours.h>
+#include <ovoui/colour/ColourCells.h>
+#include <ovoui/colour/ColourText.h>
+#include <ovoui/colour/PickerStop.h>
+#include <ovoui/colour/core/CellLayout.h>
+#include <ovoui/frame/BufferedPaint.h>
+#include <ovouires/resource.h>
+
+#include <oleacc.h>
+
+#include <algorithm>
+#include <utility>
+
+using namespace ovoui::colour;
+
+IMPLEMENT_DYNAMIC(CColourGrid, CWnd)
+
+BEGIN_MESSAGE_MAP(CColourGrid, CWnd)
+    ON_WM_LBUTTONDOWN() // mouse
+    ON_WM_LBUTTONUP()
+    ON_WM_KEYDOWN() // keyboard
+    ON_WM_GETDLGCODE()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_WM_PAINT() // painting
+    ON_WM_ERASEBKGND()
+    ON_WM_SIZE()
+    ON_WM_ENABLE()
+    ON_WM_DESTROY()
+    ON_MESSAGE(WM_GETOBJECT, &CColourGrid::OnGetObject)
+END_MESSAGE_MAP()
+
+CColourGrid::CColourGrid()
+    : m_identity(std::make_shared<ColourIdentity>())
+{
+    m_identity->role = ROLE_SYSTEM_LIST;
+    m_identity->name = [this] {
+        CString text;
+        GetWindowText(text);
+        return std::wstring(text);
+    };
+    m_identity->cellName = [this](int cell) {
+        return nameOrCodeOfColour(Colour::colorref(m_colours[static_cast<std::size_t>(cell)]));
+    };
+    m_identity->cellPlace = [this](int cell) {
+        CRect place = CellRect(cell);
+        ClientToScreen(&place);
+        return place;
+    };
+    m_identity->current = [this] { return Current(); };
+    m_identity->cellAction = [] {
+        CString text;
+        text.LoadString(IDS_COLOUR_TAKE);
+        return std::wstring(text);
+    };
+    m_identity->pressCell = [this](int cell) { choose(cell); };
+}
+
+CColourGrid::~CColourGrid()
+{
+    m_identity->window = nullptr;
+    DestroyWindow();
+}
+
+BOOL CColourGrid::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
+{
+    const LPCTSTR windowClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
+    if (!CWnd::Create(windowClass, L"", style | WS_CHILD, rect, parent, id))
+        return FALSE;
+    m_identity->window = m_hWnd;
+    return TRUE;
+}
+
+bool CColourGrid::createInPlace(CWnd& dialog, UINT id)
+{
+    CWnd* const place = dialog.GetDlgItem(static_cast<int>(id));
+    if (!place)
+        return false;
+    CRect rect;
+    place->GetWindowRect(&rect);
+    dialog.ScreenToClient(&rect);
+    CString text;
+    place->GetWindowText(text);
+    const DWORD shown = place->GetStyle() & (WS_VISIBLE | WS_DISABLED);
+    if (!Create(shown | WS_TABSTOP, rect, &dialog, id))
+        return false;
+    SetWindowText(text);
+    SetWindowPos(place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    ::DestroyWindow(place->m_hWnd);
+    return true;
+}
+
+// Colours
+
+void CColourGrid::SetColours(std::vector<COLORREF> colours, int columns)
+{
+    m_colours = std::move(colours);
+    m_columns = std::max(1, columns);
+    m_current = 0;
+    m_pressed = -1;
+    m_identity->cells = static_cast<int>(m_colours.size());
+    if (m_hWnd)
+        Invalidate(FALSE);
+}
+
+void CColourGrid::SetCurrent(int index)
+{
+    if (index < 0 || index >= static_cast<int>(m_colours.size()) || index == m_current)
+        return;
+    m_current = index;
+    if (m_hWnd)
+        Invalidate(FALSE);
+}
+
+CellLayout CColourGrid::layout() const
+{
+    CRect client;
+    GetClientRect(&client);
+    // Rows that are not full leave room for what may come.
+    return {.area = {client.left, client.top, client.right, client.bottom},
+            .count = static_cast<int>(m_colours.size()),
+            .columns = m_columns};
+}
+
+CRect CColourGrid::CellRect(int index) const
+{
+    const PixelRect cell = layout().cell(index);
+    return {cell.left, cell.top, cell.right, cell.bottom};
+}
+
+int CColourGrid::cellAt(CPoint point) const
+{
+    return layout().at(point.x, point.y);
+}
+
+// What the user does. There may be no grid after a notification.
+
+/// Whether the grid still has its window afterwards.
+bool CColourGrid::point(int index)
+{
+    if (index == m_current)
+        return true;
+    SetCurrent(index);
+    ovoui::frame::announce(EVENT_OBJECT_FOCUS, m_hWnd, index);
+    return tell(kPointed);
+}
+
+void CColourGrid::choose(int index)
+{
+    if (point(index))
+        tell(kChosen);
+}
+
+bool CColourGrid::tell(UINT code)
+{
+    const Lifeline::Watch watch(m_lifeline);
+    ::SendMessageW(::GetParent(m_hWnd), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), code),
+                   reinterpret_cast<LPARAM>(m_hWnd));
+    return watch.alive() && m_hWnd;
+}
+
+void CColourGrid::OnLButtonDown(UINT, CPoint where)
+{
+    const Lifeline::Watch watch(m_lifeline);
+    SetFocus();
+    if (!watch.alive() || !m_hWnd)
+        return;
+    m_pressed = cellAt(where);
+    if (m_pressed >= 0)
+        point(m_pressed);
+}
+
+void CColourGrid::OnLButtonUp(UINT, CPoint where)
+{
+    const int pressed = std::exchange(m_pressed, -1);
+    if (pressed >= 0 && pressed < m_identity->cells && cellAt(where) == pressed)
+        choose(pressed);
+}
+
+void CColourGrid::OnKeyDown(UINT key, UINT, UINT)
+{
+    const auto move = wheelKeyOf(key);
+    if (m_colours.empty() || (!move && key != VK_SPACE && key != VK_RETURN)) {
+        Default();
+        return;
+    }
+    if (move)
+        point(cellAfter(m_current, m_identity->cells, m_columns, *move));
+    else
+        choose(m_current);
+}
+
+/// Enter is the grid's while it has the focus and something to choose.
+UINT CColourGrid::OnGetDlgCode()
+{
+    const MSG* const message = CWnd::GetCurrentMessage();
+    const auto* const asked = message ? reinterpret_cast<const MSG*>(message->lParam) : nullptr;
+    const bool enter = asked && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
+    return DLGC_WANTARROWS | (enter && !m_colours.empty() ? DLGC_WANTMESSAGE : 0);
+}
+
+// Painting
+
+void CColourGrid::OnPaint()
+{
+    BufferedPaint paint(*this);
+    CDC& dc = paint.dc();
+    CRect client;
+    GetClientRect(&client);
+    const Lifeline::Watch watch(m_lifeline);
+    const auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(::GetParent(m_hWnd), WM_CTLCOLORSTATIC,
+                                                               reinterpret_cast<WPARAM>(dc.m_hDC),
+                                                               reinterpret_cast<LPARAM>(m_hWnd)));
+    if (!watch.alive() || !m_hWnd)
+        return;
+    ::FillRect(dc, &client, brush ? brush : ::GetSysColorBrush(COLOR_BTNFACE));
+    for (int i = 0; i < m_identity->cells; ++i)
+        drawColourCell(dc, CellRect(i), m_colours[static_cast<std::size_t>(i)], IsWindowEnabled() != FALSE);
+    if (m_identity->cells > 0 && ::GetFocus() == m_hWnd)
+        drawCellMark(dc, CellRect(m_current));
+}
+
+BOOL CColourGrid::OnEraseBkgnd(CDC*)
+{
+    return TRUE;
+}
+
+void CColourGrid::OnSetFocus(CWnd*)
+{
+    Default();
+    Invalidate(FALSE);
+    if (m_identity->cells > 0)
+        ovoui::frame::announce(EVENT_OBJECT_FOCUS, m_hWnd, m_current);
+}
+
+void CColourGrid::OnKillFocus(CWnd*)
+{
+    Default();
+    Invalidate(FALSE);
+}
+
+void CColourGrid::OnSize(UINT, int, int)
+{
+    Default();
+    Invalidate(FALSE);
+}
+
+void CColourGrid::OnEnable(BOOL)
+{
+    Default();
+    Invalidate(FALSE);
+}
+
+void CColourGrid::OnDestroy()
+{
+    m_identity->window = nullptr;
+    Default();
+}
+
+LRESULT CColourGrid::OnGetObject(WPARAM wParam, LPARAM lParam)
+{
+    if (!ovoui::frame::asksForContents(lParam))
+        return Default();
+    return ovoui::frame::accessibleAnswer(wParam, accessibleColours(m_identity));
+}
