@@ -15,6 +15,10 @@ BEGIN_MESSAGE_MAP(ColourPickerPage, GalleryPage)
     ON_BN_CLICKED(IDC_PICK_MODELESS, &ColourPickerPage::OnModeless)
     ON_BN_CLICKED(IDC_PICK_PALETTE, &ColourPickerPage::OnPalette)
     ON_BN_CLICKED(IDC_PICK_ALPHA, &ColourPickerPage::OnAlpha)
+    ON_CONTROL(CColourButton::kChosen, IDC_PICK_BUTTON, &ColourPickerPage::OnButtonChosen)
+    ON_CONTROL(CColourButton::kPointed, IDC_PICK_BUTTON, &ColourPickerPage::OnButtonPointed)
+    ON_CONTROL(CColourButton::kClosed, IDC_PICK_BUTTON, &ColourPickerPage::OnButtonClosed)
+    ON_CONTROL(CColourDropper::kTaken, IDC_PICK_DROPPER, &ColourPickerPage::OnTaken)
 END_MESSAGE_MAP()
 
 namespace
@@ -50,6 +54,14 @@ ColourPickerPage::ColourPickerPage()
 
 ColourPickerPage::~ColourPickerPage() = default;
 
+void ColourPickerPage::DoDataExchange(CDataExchange* exchange)
+{
+    GalleryPage::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_PICK_BUTTON, m_button);
+    DDX_Control(exchange, IDC_PICK_DROPPER, m_dropper);
+    DDX_Colour(exchange, m_button, m_colour);
+}
+
 BOOL ColourPickerPage::OnInitDialog()
 {
     GalleryPage::OnInitDialog();
@@ -81,15 +93,21 @@ void ColourPickerPage::picked(INT_PTR answer, const Colour& colour)
 {
     if (!m_hWnd)
         return; // another page was opened while the dialog was
-    if (answer == IDOK)
-        m_colour = colour;
-    show(m_colour);
+    use(answer == IDOK ? colour : m_colour);
     log(answer == IDOK ? L"Picked " + describe(colour) : std::wstring(L"Cancelled"));
+}
+
+void ColourPickerPage::use(const Colour& colour)
+{
+    m_colour = colour;
+    m_button.SetColour(colour);
+    show(colour);
 }
 
 void ColourPickerPage::OnPick()
 {
     LivePicker dialog(m_host, chosenMode(), m_colour, this);
+    dialog.useKeyboard(byKeyboard());
     const INT_PTR answer = dialog.DoModal();
     picked(answer, dialog.GetColour());
 }
@@ -97,6 +115,7 @@ void ColourPickerPage::OnPick()
 void ColourPickerPage::OnCustomColours()
 {
     SwatchPicker dialog(m_host, m_colour, this);
+    dialog.useKeyboard(byKeyboard());
     const INT_PTR answer = dialog.DoModal();
     picked(answer, dialog.GetColour());
 }
@@ -130,23 +149,67 @@ void ColourPickerPage::OnModeless()
         return;
     }
     m_modeless = std::make_unique<LivePicker>(m_host, chosenMode(), m_colour, this);
+    m_modeless->useKeyboard(byKeyboard());
     m_modeless->createColPickerDlgBase();
 }
 
 void ColourPickerPage::OnAlpha()
 {
-    m_colour = withAlpha(m_colour, IsDlgButtonChecked(IDC_PICK_ALPHA) ? kHalf : -1);
+    use(withAlpha(m_colour, IsDlgButtonChecked(IDC_PICK_ALPHA) ? kHalf : -1));
+}
+
+// The colour button, whose palette is previewed, and the eyedropper
+
+void ColourPickerPage::OnButtonChosen()
+{
+    use(m_button.GetColour());
+    log(L"Chosen " + describe(m_colour));
+}
+
+void ColourPickerPage::OnButtonPointed()
+{
+    show(m_button.PointedColour().value_or(m_colour));
+}
+
+void ColourPickerPage::OnButtonClosed()
+{
     show(m_colour);
+}
+
+void ColourPickerPage::OnTaken()
+{
+    use(withAlpha(Colour::colorref(m_dropper.TakenColour()), m_colour.a()));
+    log(L"Taken from the screen: " + describe(m_colour));
 }
 
 std::vector<std::wstring> ColourPickerPage::poses() const
 {
-    return {L"rgb",    L"hls", L"hsv", L"alpha", L"mid-drag", L"custom", L"on-tab", L"property-sheet",
-            L"palette"};
+    return {L"rgb",      L"hls",      L"hsv",    L"alpha",
+            L"mid-drag", L"custom",   L"on-tab", L"property-sheet",
+            L"palette",  L"keyboard", L"button", L"dropper"};
+}
+
+/// What the page itself shows, without a dialog.
+bool ColourPickerPage::posePage(const std::wstring& name)
+{
+    if (name == L"button") {
+        m_button.SetFocus();
+        m_button.DropDown();
+    } else if (name == L"dropper") {
+        CRect sample;
+        m_sample.GetWindowRect(&sample);
+        ::SetCursorPos(sample.left + sample.Width() * 3 / 4, sample.top + sample.Height() / 4); // the text
+        m_dropper.SendMessage(BM_CLICK);
+    } else {
+        return false;
+    }
+    return true;
 }
 
 bool ColourPickerPage::pose(const std::wstring& name)
 {
+    if (posePage(name))
+        return true;
     if (name == L"custom") {
         SwatchPicker(m_host, m_colour, this).DoModal();
         return true;
@@ -160,6 +223,9 @@ bool ColourPickerPage::pose(const std::wstring& name)
         return true;
     }
     if (name == L"palette") {
+        if (AfxGetApp()->GetProfileString(L"settings", L"RecentColours").IsEmpty())
+            AfxGetApp()->WriteProfileString(L"settings", L"RecentColours",
+                                            L"#D95C1F #548235 #226440 teal gold");
         ColPickerPaletteDlg(*AfxGetApp(), ColPickerModeHLS, m_colour, this, this).DoModal();
         return true;
     }
@@ -170,6 +236,8 @@ bool ColourPickerPage::pose(const std::wstring& name)
     LivePicker dialog(m_host, mode, alpha ? withAlpha(m_colour, kHalf) : m_colour, this);
     if (name == L"mid-drag")
         dialog.dragTo(200);
+    else if (name == L"keyboard")
+        dialog.useKeyboard(true);
     else if (!alpha && name != L"rgb" && name != L"hls" && name != L"hsv")
         return false;
     dialog.DoModal();
