@@ -298,3 +298,81 @@ TEST_F(PickerDialog, TheListOfModelsShowsThreeItems)
     picker->m_space.ShowDropDown(FALSE);
     EXPECT_EQ(list.Height() / picker->m_space.GetItemHeight(0), 3);
 }
+
+// The library's own template
+
+namespace
+{
+
+struct Item
+{
+    int id;
+    CRect place; // in dialog units
+};
+
+/// What is shown of a dialog, in dialog units.
+std::vector<Item> itemsOf(CDialog& dialog)
+{
+    std::vector<Item> items;
+    CRect unit(0, 0, 4, 8);
+    dialog.MapDialogRect(&unit);
+    for (HWND item = ::GetWindow(dialog, GW_CHILD); item; item = ::GetWindow(item, GW_HWNDNEXT)) {
+        const int id = ::GetDlgCtrlID(item);
+        if (!::IsWindowVisible(item) && id != kWheel && id != kPatch)
+            continue;
+        CRect place;
+        ::GetWindowRect(item, &place);
+        dialog.ScreenToClient(&place);
+        // Half a pixel is lost in each rounding.
+        items.push_back(
+            {id, CRect(::MulDiv(place.left, 4, unit.right), ::MulDiv(place.top, 8, unit.bottom),
+                       ::MulDiv(place.right, 4, unit.right), ::MulDiv(place.bottom, 8, unit.bottom))});
+    }
+    return items;
+}
+
+} // namespace
+
+TEST_F(PickerDialog, ItsControlsKeepTheMarginsAndNeverOverlap)
+{
+    open(ColPickerModeHLS, Colour::rgba(1, 0.5, 0, 0.5));
+    const std::vector<Item> items = itemsOf(*picker);
+    CRect unit(0, 0, 4, 8);
+    picker->MapDialogRect(&unit);
+    CRect client;
+    picker->GetClientRect(&client);
+    const CRect room(6, 6, ::MulDiv(client.right, 4, unit.right) - 6,
+                     ::MulDiv(client.bottom, 8, unit.bottom) - 6);
+    EXPECT_GE(items.size(), 17u) << "with alpha all of them are shown";
+    for (const Item& item : items) {
+        CRect inside;
+        inside.IntersectRect(&item.place, &room);
+        EXPECT_EQ(inside, item.place) << item.id << ": the margin is 7 units";
+        for (const Item& other : items) {
+            CRect common;
+            EXPECT_TRUE(item.id == other.id || !common.IntersectRect(&item.place, &other.place))
+                << item.id << " and " << other.id;
+        }
+    }
+}
+
+TEST_F(PickerDialog, CaptionsHaveRoomForTextsHalfAsLongAgain)
+{
+    open();
+    CClientDC dc(picker.get());
+    CFont* const before = dc.SelectObject(picker->GetFont());
+    CRect caption;
+    picker->GetDlgItem(kCaption1)->GetClientRect(&caption);
+    for (UINT id = 20212; id <= 20218; ++id) {
+        CString text;
+        ASSERT_TRUE(text.LoadString(id)) << id;
+        EXPECT_FALSE(text.IsEmpty());
+        text.Remove(L'&');
+        EXPECT_LE(dc.GetTextExtent(text).cx * 3 / 2, caption.Width()) << id;
+    }
+    for (UINT id = 20219; id <= 20221; ++id) {
+        CString text;
+        EXPECT_TRUE(text.LoadString(id) && !text.IsEmpty()) << id;
+    }
+    dc.SelectObject(before);
+}
