@@ -1,5 +1,7 @@
 #include "NotificationNames.h"
 
+#include <ovoui/colour/ColourButton.h>
+#include <ovoui/colour/ColourDropper.h>
 #include <ovoui/lists/ComboBox.h>
 
 #include <commctrl.h>
@@ -22,7 +24,10 @@ using Names = std::map<UINT, const wchar_t*>;
 const std::map<std::wstring, Names>& commandNames()
 {
     static const std::map<std::wstring, Names> names{
-        {L"Button", {NAMED(BN_CLICKED), NAMED(BN_DOUBLECLICKED), NAMED(BN_SETFOCUS), NAMED(BN_KILLFOCUS)}},
+        {L"Button",
+         {NAMED(BN_CLICKED), NAMED(BN_DOUBLECLICKED), NAMED(BN_SETFOCUS), NAMED(BN_KILLFOCUS),
+          NAMED(CColourButton::kChosen), NAMED(CColourButton::kPointed), NAMED(CColourButton::kDropped),
+          NAMED(CColourButton::kClosed), NAMED(CColourDropper::kTaken)}},
         {L"Edit",
          {NAMED(EN_SETFOCUS), NAMED(EN_KILLFOCUS), NAMED(EN_CHANGE), NAMED(EN_UPDATE), NAMED(EN_MAXTEXT),
           NAMED(EN_HSCROLL), NAMED(EN_VSCROLL)}},
