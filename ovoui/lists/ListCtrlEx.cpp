@@ -3,6 +3,7 @@
 #include <ovoui/lists/Alive.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListRowPainter.h>
+#include <ovoui/lists/OwnChange.h>
 #include <ovoui/lists/TextExtents.h>
 #include <ovoui/lists/core/ShortText.h>
 
@@ -148,8 +149,8 @@ LPCWSTR COVOListCtrlEx::MakeShortString(CDC* pDC, LPCWSTR text, int width, int o
 void COVOListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
     const int item = static_cast<int>(lpDrawItemStruct->itemID);
-    RowLook look{m_clientWidth,  m_stateImageWidth, m_colourColumns,
-                 m_followsOrder, m_emphasised,      std::nullopt};
+    RowLook look{m_clientWidth, m_stateImageWidth, m_colourColumns, m_followsOrder,
+                 hasFocus(),    m_emphasised,      std::nullopt};
     const HWND window = m_hWnd;
     if (m_useRowColours)
         look.colour = rowColour(item);
@@ -193,7 +194,16 @@ void COVOListCtrlEx::OnPaint()
         update.right = m_clientWidth;
         RedrawWindow(&update, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
     }
+    m_paintsFocused = hasFocus();
+    const OwnChange painting(*this, m_painting);
     CWnd::OnPaint();
+}
+
+/// Asked once for all rows that are painted together: it takes as long as drawing one where another process
+/// keeps the focus.
+bool COVOListCtrlEx::hasFocus() const
+{
+    return m_painting ? m_paintsFocused : ::GetFocus() == m_hWnd;
 }
 
 void COVOListCtrlEx::OnSize(UINT nType, int cx, int cy)

@@ -102,6 +102,7 @@ protected:
 
 private:
     bool inReportView() const;
+    bool hasFocus() const;
     bool isOurs(const CWnd* window) const;
     void repaintRow(int item);
     void repaintSelectionUnless(bool inOurChild);
@@ -114,4 +115,6 @@ private:
     std::map<int, DWORD> m_rowColours; ///< by item data
     bool m_followsOrder = false;
     std::wstring m_emphasised; ///< in lower case
+    bool m_painting = false;   ///< within OnPaint
+    bool m_paintsFocused = false;
 };

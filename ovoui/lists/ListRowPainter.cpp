@@ -106,7 +106,6 @@ ListRowPainter::ListRowPainter(COVOListCtrlEx& list, const DRAWITEMSTRUCT& draw,
     , m_look(look)
     , m_dc(*CDC::FromHandle(draw.hDC))
     , m_index(static_cast<int>(draw.itemID))
-    , m_focused(::GetFocus() == list.m_hWnd)
 {
 }
 
@@ -122,7 +121,7 @@ void ListRowPainter::paint()
     fillRow(row);
     paintLabel(label);
     paintSubItems(label);
-    if ((m_item.state & LVIS_FOCUSED) && m_focused) {
+    if ((m_item.state & LVIS_FOCUSED) && m_look.focused) {
         const RECT edge = toRect(row);
         m_dc.DrawFocusRect(&edge);
     }
@@ -175,7 +174,7 @@ bool ListRowPainter::looksSelected() const
 {
     if (m_item.state & LVIS_DROPHILITED)
         return true;
-    return (m_item.state & LVIS_SELECTED) && (m_focused || (m_list.GetStyle() & LVS_SHOWSELALWAYS));
+    return (m_item.state & LVIS_SELECTED) && (m_look.focused || (m_list.GetStyle() & LVS_SHOWSELALWAYS));
 }
 
 bool ListRowPainter::isColourColumn(int column) const

@@ -22,6 +22,7 @@ struct RowLook
     int stateImageWidth;
     const std::vector<bool>& colourColumns;
     bool followsOrder;                 ///< cells lie under their headings
+    bool focused;                      ///< the list has the keyboard focus
     const std::wstring& emphasised;    ///< folded; empty for none
     std::optional<ColourEntry> colour; ///< none when rows have no colours of their own
 };
@@ -58,7 +59,6 @@ private:
     const RowLook& m_look;
     CDC& m_dc;
     const int m_index;
-    const bool m_focused; ///< the list has the keyboard focus
     LVITEM m_item{};
     COLORREF m_text = 0;
     COLORREF m_background = 0;

@@ -8,27 +8,27 @@
 namespace ovoui::lists
 {
 
-/// Sets a flag of a combo box until the end of the scope, which the combo box may not live to see.
+/// Sets a flag of a control until the end of the scope, which the control may not live to see.
 class OwnChange
 {
 public:
-    OwnChange(const CWnd& combo, bool& flag)
-        : m_combo(combo)
-        , m_window(combo.m_hWnd)
+    OwnChange(const CWnd& control, bool& flag)
+        : m_control(control)
+        , m_window(control.m_hWnd)
         , m_flag(flag)
     {
         m_flag = true;
     }
     ~OwnChange()
     {
-        if (isAlive(&m_combo, m_window))
+        if (isAlive(&m_control, m_window))
             m_flag = false;
     }
     OwnChange(const OwnChange&) = delete;
     OwnChange& operator=(const OwnChange&) = delete;
 
 private:
-    const CWnd& m_combo;
+    const CWnd& m_control;
     const HWND m_window;
     bool& m_flag;
 };
