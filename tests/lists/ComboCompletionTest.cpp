@@ -254,6 +254,17 @@ TEST(ComboTyping, AmongTwentyThousandItems)
     EXPECT_EQ(scene.text(), L"item 119999 in small letters");
 }
 
+TEST(ComboTyping, KeysCountOnlyWhileCompletionIsOn)
+{
+    ComboScene scene{L"berry"};
+    scene.combo.AutoComplete(false);
+    scene.enter();
+    scene.robot.key(VK_BACK);
+    scene.combo.AutoComplete(true);
+    ::SendMessageW(scene.edit(), WM_CHAR, L'b', 1); // a character without a key
+    EXPECT_EQ(scene.text(), L"berry");
+}
+
 TEST(ComboTyping, TheKeyBeforeDecides)
 {
     // Completion is off for whatever changes the text until the next key, which is any but these two.
