@@ -210,24 +210,31 @@ HBRUSH CShadedTabCtrl::alignedBrush(CDC& dc, const CWnd& control)
     return flipped ? flippedBrush() : m_brush;
 }
 
+/// The plain brush when the system has no room for another picture.
 HBRUSH CShadedTabCtrl::flippedBrush()
 {
-    if (m_flippedBrush.GetSafeHandle())
-        return m_flippedBrush;
+    if (!m_flippedBrush.GetSafeHandle())
+        makeFlippedBrush();
+    return m_flippedBrush.GetSafeHandle() ? m_flippedBrush : m_brush;
+}
+
+void CShadedTabCtrl::makeFlippedBrush()
+{
+    CClientDC screen(this);
     BITMAP size{};
     m_picture.GetBitmap(&size);
     CBitmap picture;
+    if (!picture.CreateCompatibleBitmap(&screen, size.bmWidth, size.bmHeight))
+        return;
     {
-        CClientDC screen(this);
         PictureDc from(&screen, m_picture);
-        if (!picture.CreateCompatibleBitmap(&screen, size.bmWidth, size.bmHeight))
-            return m_brush;
         PictureDc to(&screen, picture);
-        to->StretchBlt(0, 0, size.bmWidth, size.bmHeight, from, size.bmWidth - 1, 0, -size.bmWidth,
-                       size.bmHeight, SRCCOPY);
+        if (!from || !to ||
+            !to->StretchBlt(0, 0, size.bmWidth, size.bmHeight, from, size.bmWidth - 1, 0, -size.bmWidth,
+                            size.bmHeight, SRCCOPY))
+            return;
     }
     m_flippedBrush.CreatePatternBrush(&picture);
-    return m_flippedBrush;
 }
 
 /// The picture's colour at a point of the client area; CLR_INVALID outside of it.

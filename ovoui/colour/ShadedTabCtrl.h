@@ -64,6 +64,7 @@ private:
     HBRUSH amended(CDC* dc, UINT type, HBRUSH defaultBrush, CWnd* control);
     HBRUSH alignedBrush(CDC& dc, const CWnd& control);
     HBRUSH flippedBrush();
+    void makeFlippedBrush();
     COLORREF colourAt(CPoint point);
 
     bool m_captured = false; ///< the picture has been taken, or tried to

@@ -2,6 +2,7 @@
 // each pixel of the window has a colour that tells where it is.
 #include "support/Desktop.h"
 #include "support/GdiCounter.h"
+#include "support/ImportPatch.h"
 #include "support/Picture.h"
 
 #include <ovoui/colour/ShadedTabCtrl.h>
@@ -468,6 +469,48 @@ TEST_F(ShadedTabCtrl, GroupBoxesOverTheSameColourShareTheirBrush)
     EXPECT_EQ(CShadedTabCtrl::ms_brushes.at(pixelOf(50, 60)), brush);
     EXPECT_NE(amend(*other, CTLCOLOR_STATIC), brush);
     EXPECT_EQ(CShadedTabCtrl::ms_brushes.size(), known + 1);
+}
+
+TEST_F(ShadedTabCtrl, ManyGroupBoxesCostOneBrushAColour)
+{
+    NEEDS_THEMES();
+    const auto box = control(L"BUTTON", BS_GROUPBOX, CRect(60, 70, 90, 90));
+    amend(*box, CTLCOLOR_STATIC); // what the platform keeps for itself
+    const GdiCounter gdi;
+    const std::size_t known = CShadedTabCtrl::ms_brushes.size();
+    for (int i = 0; i < 300; ++i) {
+        box->SetWindowPos(nullptr, 61 + i % 3, 72, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        amend(*box, CTLCOLOR_STATIC);
+    }
+    EXPECT_EQ(CShadedTabCtrl::ms_brushes.size(), known + 3);
+    EXPECT_EQ(gdi.grown(), 3);
+}
+
+TEST_F(ShadedTabCtrl, WithoutRoomForThePictureEveryControlKeepsItsBrush)
+{
+    NEEDS_THEMES();
+    const auto failing = [](HDC, int, int) -> HBITMAP { return nullptr; };
+    const auto noBrush = [](HBITMAP) -> HBRUSH { return nullptr; };
+    const auto expectNothing = [this] {
+        tabs->captureBackground();
+        HBRUSH brush = white();
+        CPoint origin(7, 8);
+        EXPECT_FALSE(CShadedTabCtrl::GetBackgroundBrush(&child, brush, origin));
+        EXPECT_EQ(brush, white());
+        EXPECT_EQ(amend(child, CTLCOLOR_STATIC), white());
+    };
+    {
+        const ImportPatch patch(L"ovomfc.dll", "CreateCompatibleBitmap",
+                                reinterpret_cast<void*>(static_cast<HBITMAP (*)(HDC, int, int)>(failing)));
+        expectNothing();
+    }
+    {
+        const ImportPatch patch(L"ovomfc.dll", "CreatePatternBrush",
+                                reinterpret_cast<void*>(static_cast<HBRUSH (*)(HBITMAP)>(noBrush)));
+        expectNothing();
+    }
+    tabs->captureBackground();
+    EXPECT_NE(amend(child, CTLCOLOR_STATIC), white());
 }
 
 TEST_F(ShadedTabCtrl, OnlyAGroupBoxIsOne)
