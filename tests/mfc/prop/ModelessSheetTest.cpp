@@ -79,6 +79,20 @@ TEST_F(ModelessSheet, TheUserMovesThroughItInTheHostsLoop)
     EXPECT_EQ(colours.number, 42);
 }
 
+TEST_F(ModelessSheet, EnterPressesNoHiddenButton)
+{
+    ASSERT_TRUE(sheet.Create(&owner));
+    present(sheet);
+    taken();
+    Robot()
+        .then([this] { general.GetDlgItem(IDC_NUMBER)->SetFocus(); })
+        .key(VK_RETURN)
+        .type(L"1")
+        .waitFor("what was typed", [this] { return general.GetDlgItemInt(IDC_NUMBER) != 7; });
+    EXPECT_TRUE(sheet.m_hWnd);
+    EXPECT_EQ(taken(), Calls{});
+}
+
 TEST_F(ModelessSheet, TheCloseBoxDestroysItUnlessAPageRefuses)
 {
     ASSERT_TRUE(sheet.Create(&owner));
