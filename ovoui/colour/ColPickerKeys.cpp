@@ -83,10 +83,10 @@ void ColPicker::makeStops(CWnd* wnd)
             std::move(identity));
     };
     m_stops->ring = make(IDS_COLOUR_RING, [this] { return std::to_wstring(hueOf(m_colour)); });
-    m_stops->ring->create(*wnd, m_wheelRect, IDC_COLOUR_RING, wnd->GetDlgItem(IDC_WHEEL));
+    m_stops->ring->create(*wnd, m_wheelRect, Stops::kRingId, wnd->GetDlgItem(IDC_WHEEL));
     m_stops->triangle = make(IDS_COLOUR_TRIANGLE, [this] { return shadeText(); });
     const PixelRect& inner = m_wheel->triangle().rect();
-    m_stops->triangle->create(*wnd, {inner.left, inner.top, inner.right, inner.bottom}, IDC_COLOUR_TRIANGLE,
+    m_stops->triangle->create(*wnd, {inner.left, inner.top, inner.right, inner.bottom}, Stops::kTriangleId,
                               m_stops->ring.get());
     m_stops->toldHue = hueOf(m_colour);
     m_stops->toldShade = shadeOf(m_colour);
@@ -113,7 +113,7 @@ void ColPicker::makeSwatchStop(CWnd* wnd)
         PickerStop::Calls{[](UINT key) { return key == VK_SPACE || key == VK_INSERT || wheelKeyOf(key); },
                           [this, wnd] { wnd->InvalidateRect(&m_customRect, FALSE); }},
         identity);
-    m_stops->swatches->create(*wnd, m_customRect, IDC_COLOUR_SWATCH_STOP, wnd->GetDlgItem(m_customAreaId));
+    m_stops->swatches->create(*wnd, m_customRect, Stops::kSwatchesId, wnd->GetDlgItem(m_customAreaId));
 }
 
 /// The part that was pressed takes the focus, where it can. Whether picker and window still exist.

@@ -6,6 +6,11 @@
 
 struct ColPicker::Stops
 {
+    // Their numbers in the dialog; those of the library's dialog items lie around them
+    static constexpr UINT kRingId = 20565;
+    static constexpr UINT kTriangleId = 20566;
+    static constexpr UINT kSwatchesId = 20567;
+
     std::unique_ptr<ovoui::colour::PickerStop> ring;
     std::unique_ptr<ovoui::colour::PickerStop> triangle;
     std::unique_ptr<ovoui::colour::PickerStop> swatches; ///< null without custom colours
