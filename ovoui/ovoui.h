@@ -17,8 +17,10 @@
 #include <ovoui/files/FilePicker.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/MessageBox.h>
+#include <ovoui/frame/MessageDialog.h>
 #include <ovoui/frame/ModalDialog.h>
 #include <ovoui/frame/NonClientMetrics.h>
+#include <ovoui/frame/ProgressBox.h>
 #include <ovoui/frame/TabKeys.h>
 #include <ovoui/frame/ThemeData.h>
 #include <ovoui/images/AlphaImageButton.h>

@@ -2,6 +2,8 @@
 
 #include "resource.h"
 
+#include <ovoui/frame/MessageDialog.h>
+
 #include <algorithm>
 #include <iterator>
 #include <span>
@@ -88,8 +90,10 @@ constexpr Pose kPoses[] = {
     {L"paragraph", MB_OK | MB_ICONASTERISK, nullptr, &paragraph},
     {L"help-default", MB_YESNO | MB_HELP | MB_DEFBUTTON3, L"Start without the plug-in?"},
     {L"wide-line", MB_OKCANCEL | MB_ICONEXCLAMATION,
-     L"A message that is much longer than the screen is wide is wrapped between its words at two thirds of the "
-     L"width of the screen, so that the box stays readable and its buttons stay in reach of the pointer, however "
+     L"A message that is much longer than the screen is wide is wrapped between its words at two thirds of "
+     L"the "
+     L"width of the screen, so that the box stays readable and its buttons stay in reach of the pointer, "
+     L"however "
      L"much the program has to say."},
     {L"stop", MB_ABORTRETRYIGNORE, L"The file could not be read."},
 };
@@ -158,7 +162,7 @@ constexpr int kBelowText[] = {
     IDC_BOX_CAPTION_LABEL,    IDC_BOX_BUTTONS_LABEL, IDC_BOX_BUTTONS, IDC_BOX_ICON_LABEL,   IDC_BOX_ICON,
     IDC_BOX_DEFAULT_LABEL,    IDC_BOX_DEFAULT,       IDC_BOX_HELP,    IDC_BOX_KEY_LABEL,    IDC_BOX_KEY,
     IDC_BOX_HELP_ID_LABEL,    IDC_BOX_HELP_ID,       IDC_BOX_SHOW,    IDC_BOX_RESULT_LABEL, IDC_BOX_RESULT,
-    IDC_BOX_REMEMBERED_LABEL, IDC_BOX_REMEMBERED};
+    IDC_BOX_REMEMBERED_LABEL, IDC_BOX_REMEMBERED,    IDC_BOX_OWN,     IDC_BOX_FORGET,       IDC_BOX_PROGRESS};
 
 const UINT s_helpMessage = ::RegisterWindowMessageW(L"commdlg_help");
 
@@ -166,6 +170,9 @@ const UINT s_helpMessage = ::RegisterWindowMessageW(L"commdlg_help");
 
 BEGIN_MESSAGE_MAP(MessageBoxPage, GalleryPage)
     ON_BN_CLICKED(IDC_BOX_SHOW, &MessageBoxPage::OnShow)
+    ON_BN_CLICKED(IDC_BOX_OWN, &MessageBoxPage::OnOwnButtons)
+    ON_BN_CLICKED(IDC_BOX_FORGET, &MessageBoxPage::OnForget)
+    ON_BN_CLICKED(IDC_BOX_PROGRESS, &MessageBoxPage::OnProgress)
     ON_REGISTERED_MESSAGE(s_helpMessage, &MessageBoxPage::OnHelpAsked)
 END_MESSAGE_MAP()
 
@@ -218,12 +225,58 @@ void MessageBoxPage::OnShow()
     if (!UpdateData())
         return;
     const int answer = OVOMessageBox(m_hWnd, m_text, m_caption, chosenType(), m_key, m_helpId);
+    showAnswer(L"OVOMessageBox", answer);
+}
+
+void MessageBoxPage::showAnswer(const wchar_t* function, int answer)
+{
     if (!m_hWnd)
         return; // another page was opened while the box was
     const std::wstring result = answerName(answer);
     SetDlgItemText(IDC_BOX_RESULT, result.c_str());
-    log(L"OVOMessageBox answered " + result);
+    log(function + (L" answered " + result));
     showRemembered();
+}
+
+void MessageBoxPage::OnOwnButtons()
+{
+    showAnswer(L"COVOMessageDialog", askAboutFonts(m_hWnd));
+}
+
+int MessageBoxPage::askAboutFonts(HWND owner) const
+{
+    COVOMessageDialog box(
+        owner, L"The document uses three fonts that are not installed.\nDo you want to replace them?",
+        L"ovoui gallery", MB_ICONQUESTION);
+    box.AddButton(IDYES, L"&Replace");
+    box.AddButton(IDNO, L"Open &without them");
+    box.AddButton(IDCANCEL, L"Cancel");
+    box.SetDetails(
+        L"Garden Sans, used in 12 places\nHedge Serif, used in 3 places\nTrellis Mono, used in 1 place");
+    box.OfferNotToAsk(L"MissingFonts");
+    box.PressDefaultAfter(60);
+    return box.DoModal();
+}
+
+void MessageBoxPage::OnForget()
+{
+    COVOMessageDialog::ForgetAnswers();
+    log(L"All answers are forgotten");
+}
+
+void MessageBoxPage::OnProgress()
+{
+    constexpr ULONGLONG kSteps = 300;
+    COVOProgressBox progress(GetParent()->m_hWnd, L"Watering the beds\u2026", L"ovoui gallery");
+    ULONGLONG done = 0;
+    while (done < kSteps && progress.Advance(done, kSteps)) {
+        ::Sleep(10); // the work
+        ++done;
+    }
+    if (m_hWnd)
+        log(progress.IsCancelled()
+                ? L"COVOProgressBox was cancelled after " + std::to_wstring(done) + L" steps"
+                : L"COVOProgressBox came to its end");
 }
 
 void MessageBoxPage::showRemembered()
@@ -243,11 +296,23 @@ std::vector<std::wstring> MessageBoxPage::poses() const
     std::vector<std::wstring> names;
     for (const Pose& pose : kPoses)
         names.emplace_back(pose.name);
+    names.emplace_back(L"own-buttons");
+    names.emplace_back(L"progress");
     return names;
 }
 
 bool MessageBoxPage::pose(const std::wstring& name)
 {
+    if (name == L"own-buttons") {
+        askAboutFonts(GetParent()->m_hWnd);
+        return true;
+    }
+    if (name == L"progress") {
+        m_posed = std::make_unique<COVOProgressBox>(GetParent()->m_hWnd, L"Watering the beds\u2026",
+                                                    L"ovoui gallery");
+        m_posed->Advance(5, 8);
+        return true;
+    }
     const auto* const pose = std::ranges::find(kPoses, name, &Pose::name);
     if (pose == std::end(kPoses))
         return false;

@@ -27,6 +27,11 @@ BEGIN_MESSAGE_MAP(COVOMsgBoxDlg, CDialog)
 END_MESSAGE_MAP()
 
 COVOMsgBoxDlg::COVOMsgBoxDlg(const Request& request)
+    : COVOMsgBoxDlg(request, messageBoxButtons(request.type))
+{
+}
+
+COVOMsgBoxDlg::COVOMsgBoxDlg(const Request& request, MessageBoxButtons buttons)
     : CDialog(IDD_MESSAGE_BOX, CWnd::FromHandle(request.owner))
     , m_owner(request.owner)
     , m_message(request.text ? request.text : L"")
@@ -34,11 +39,16 @@ COVOMsgBoxDlg::COVOMsgBoxDlg(const Request& request)
     , m_type(request.type)
     , m_settingsKey(request.settingsKey)
     , m_helpId(request.helpId)
-    , m_buttons(messageBoxButtons(request.type))
+    , m_buttons(std::move(buttons))
 {
 }
 
 COVOMsgBoxDlg::~COVOMsgBoxDlg() = default;
+
+MessageBoxButton& COVOMsgBoxDlg::defaultButton()
+{
+    return m_buttons.buttons[static_cast<std::size_t>(m_buttons.defaultPosition)];
+}
 
 void COVOMsgBoxDlg::DoDataExchange(CDataExchange* exchange)
 {

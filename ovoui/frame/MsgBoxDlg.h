@@ -25,11 +25,26 @@ public:
     };
 
     explicit COVOMsgBoxDlg(const Request& request);
+    COVOMsgBoxDlg(const Request& request, ovoui::frame::MessageBoxButtons buttons);
     ~COVOMsgBoxDlg() override;
 
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
+    /// The room that a derived box takes beside text and buttons; asked for once, when the box opens.
+    virtual ovoui::frame::BoxExtras extras() { return {}; }
+
+    static ovoui::frame::BoxMetrics systemMetrics();
+    static std::wstring labelOf(const ovoui::frame::MessageBoxButton& button);
+    static std::wstring withWindowsLineEnds(const std::wstring& text);
+    const ovoui::frame::MessageBoxButtons& buttons() const { return m_buttons; }
+    ovoui::frame::MessageBoxButton& defaultButton();
+    ovoui::frame::Extent buttonSize() const { return {m_buttonWidth, m_buttonHeight}; }
+    MessageText& text() { return m_text; }
+
+    /// Sets the size of the open box, which stays on the screen. That is no move by the user.
+    void resize(const ovoui::frame::Extent& size);
+
     void DoDataExchange(CDataExchange* exchange) override;
     BOOL OnInitDialog() override;
     void OnCancel() override;
@@ -84,6 +99,7 @@ private:
     bool m_focusSet = false;
     HWND m_anchor = nullptr; // the default button
 
+    ovoui::frame::BoxExtras m_extras;
     ovoui::frame::MessageBoxButtons m_buttons;
     ovoui::frame::SavedPosition m_saved;
 };

@@ -22,40 +22,23 @@ int dotsPerInch()
     return screen.GetDeviceCaps(LOGPIXELSX);
 }
 
-BoxMetrics systemMetrics()
+/// Of all labels that there are, and of the box's own.
+std::vector<int> labelWidths(CDC& dc, const MessageBoxButtons& buttons)
 {
-    BoxMetrics metrics;
-    metrics.dotsPerInch = dotsPerInch();
-    metrics.edgeWidth = ::GetSystemMetrics(SM_CXEDGE);
-    metrics.borderWidth = ::GetSystemMetrics(SM_CXBORDER);
-    metrics.borderHeight = ::GetSystemMetrics(SM_CYBORDER);
-    metrics.frameWidth = ::GetSystemMetrics(SM_CXDLGFRAME);
-    metrics.frameHeight = ::GetSystemMetrics(SM_CYDLGFRAME);
-    metrics.captionHeight = ::GetSystemMetrics(SM_CYCAPTION);
-    metrics.scrollBarWidth = ::GetSystemMetrics(SM_CXVSCROLL);
-    metrics.scrollBarHeight = ::GetSystemMetrics(SM_CYHSCROLL);
-    return metrics;
-}
+    std::vector<std::wstring> labels;
+    for (const MessageBoxButton& button : allMessageBoxButtons())
+        labels.push_back(ovoui::resourceString(button.label));
+    for (const MessageBoxButton& button : buttons.buttons)
+        labels.push_back(button.text);
 
-std::vector<int> labelWidths(CDC& dc)
-{
     std::vector<int> widths;
-    for (const MessageBoxButton& button : allMessageBoxButtons()) {
-        const std::wstring label = ovoui::resourceString(button.label);
+    for (const std::wstring& label : labels) {
         SIZE extent{};
         if (!label.empty() &&
             ::GetTextExtentPoint32W(dc, label.data(), static_cast<int>(label.size()), &extent))
             widths.push_back(extent.cx);
     }
     return widths;
-}
-
-std::wstring withWindowsLineEnds(const std::wstring& text)
-{
-    std::vector<std::wstring> lines;
-    for (TextLineIterator line(text); line; ++line)
-        lines.emplace_back(*line);
-    return joinLines(lines);
 }
 
 /// Sets the formatting rectangle. Some systems take the control's margins and edge off it, which the
@@ -82,6 +65,37 @@ Extent clientExtent(const CWnd& wnd)
 
 } // namespace
 
+BoxMetrics COVOMsgBoxDlg::systemMetrics()
+{
+    BoxMetrics metrics;
+    metrics.dotsPerInch = dotsPerInch();
+    metrics.edgeWidth = ::GetSystemMetrics(SM_CXEDGE);
+    metrics.borderWidth = ::GetSystemMetrics(SM_CXBORDER);
+    metrics.borderHeight = ::GetSystemMetrics(SM_CYBORDER);
+    metrics.frameWidth = ::GetSystemMetrics(SM_CXDLGFRAME);
+    metrics.frameHeight = ::GetSystemMetrics(SM_CYDLGFRAME);
+    metrics.captionHeight = ::GetSystemMetrics(SM_CYCAPTION);
+    metrics.scrollBarWidth = ::GetSystemMetrics(SM_CXVSCROLL);
+    metrics.scrollBarHeight = ::GetSystemMetrics(SM_CYHSCROLL);
+    return metrics;
+}
+
+std::wstring COVOMsgBoxDlg::labelOf(const MessageBoxButton& button)
+{
+    if (!button.text.empty())
+        return button.text;
+    const std::wstring label = ovoui::resourceString(button.label);
+    return label.empty() ? button.fallback : label;
+}
+
+std::wstring COVOMsgBoxDlg::withWindowsLineEnds(const std::wstring& text)
+{
+    std::vector<std::wstring> lines;
+    for (TextLineIterator line(text); line; ++line)
+        lines.emplace_back(*line);
+    return joinLines(lines);
+}
+
 BOOL COVOMsgBoxDlg::OnInitDialog()
 {
     m_moved = false;
@@ -92,7 +106,9 @@ BOOL COVOMsgBoxDlg::OnInitDialog()
 
     readSavedPosition();
     useGuiFont();
-    placeDialog(fitText());
+    const Extent size = fitText();
+    m_extras = extras();
+    placeDialog(withExtras(size, m_extras, systemMetrics()));
     const Point text = textPlace(systemMetrics());
     m_text.SetWindowPos(nullptr, text.x, text.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     createButtons();
@@ -165,7 +181,8 @@ COVOMsgBoxDlg::Measured COVOMsgBoxDlg::measure(CPoint place)
 
 void COVOMsgBoxDlg::measureButtons(CDC& dc, const TEXTMETRICW& font)
 {
-    const Extent size = buttonSize(font.tmHeight, font.tmAveCharWidth, labelWidths(dc), systemMetrics());
+    const Extent size = ovoui::frame::buttonSize(font.tmHeight, font.tmAveCharWidth,
+                                                 labelWidths(dc, m_buttons), systemMetrics());
     m_buttonWidth = size.width;
     m_buttonHeight = size.height;
 }
@@ -212,6 +229,16 @@ void COVOMsgBoxDlg::placeDialog(const Extent& size)
     MoveWindow(&place, FALSE);
 }
 
+void COVOMsgBoxDlg::resize(const Extent& size)
+{
+    const UncountedMoves uncounted(m_moved);
+    CRect place;
+    GetWindowRect(&place);
+    place = CRect(place.TopLeft(), CSize(size.width, size.height));
+    EnsureRectVisible(place);
+    MoveWindow(&place);
+}
+
 /// The parent's client rectangle as it stands, with its corner at the screen's origin; without a parent, or
 /// when that is empty, the work area.
 RECT COVOMsgBoxDlg::areaToCentreIn() const
@@ -237,11 +264,11 @@ void COVOMsgBoxDlg::createButtons()
 void COVOMsgBoxDlg::createButton(const MessageBoxButton& button, int position)
 {
     const bool isDefault = position == m_buttons.defaultPosition;
-    const std::wstring label = ovoui::resourceString(button.label);
-    const Box place = buttonBox(position, m_buttons.count(), {m_buttonWidth, m_buttonHeight},
-                                clientExtent(*this), systemMetrics());
+    const Extent client = clientExtent(*this);
+    const Box place = buttonBox(position, m_buttons.count(), buttonSize(),
+                                {client.width, client.height - m_extras.below}, systemMetrics());
     const HWND wnd = ::CreateWindowExW(
-        0, L"BUTTON", label.empty() ? button.fallback : label.c_str(),
+        0, L"BUTTON", labelOf(button).c_str(),
         WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_NOTIFY | (isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON),
         place.left, place.top, place.width(), place.height(), m_hWnd,
         reinterpret_cast<HMENU>(static_cast<INT_PTR>(button.id)), ovoui::ownInstance(), nullptr);

@@ -1,5 +1,7 @@
 # Library frame: module start and stop, theme data, geometry, keys, the modal dialog base, the message box.
 set(frame_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/BoxExtras.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/Countdown.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/LineBreaker.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/MessageBoxLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/MessageBoxStyle.cpp
@@ -22,12 +24,16 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ClipboardText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Geometry.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBox.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MessageDialog.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MessageDialogBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ModalDialog.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Module.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MsgBoxDlg.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MsgBoxDlgInit.cpp
   ${CMAKE_CURRENT_LIST_DIR}/NonClientMetrics.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ProgressBox.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ProgressBoxDlg.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TabKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ThemeData.cpp)
 include(${CMAKE_CURRENT_LIST_DIR}/icons.cmake)

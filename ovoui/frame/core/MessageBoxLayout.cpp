@@ -18,18 +18,17 @@ constexpr int kBesideText = 62;  // icon and margins beside the text control
 constexpr int kAroundText = 24;  // above the text, between text and buttons, below the buttons
 constexpr int kIconRow = 56;     // the least height that the icon and the margins take
 
-/// Pixels at the system's resolution.
-int scaled(int pixels, const BoxMetrics& metrics)
-{
-    return (pixels * metrics.dotsPerInch + 48) / 96;
-}
-
 Point scaled(const Point& point, const BoxMetrics& metrics)
 {
     return {scaled(point.x, metrics), scaled(point.y, metrics)};
 }
 
 } // namespace
+
+int scaled(int pixels, const BoxMetrics& metrics)
+{
+    return (pixels * metrics.dotsPerInch + 48) / 96;
+}
 
 Extent buttonSize(int fontHeight, int averageCharWidth, const std::vector<int>& labelWidths,
                   const BoxMetrics& metrics)
@@ -72,6 +71,12 @@ Extent dialogSize(int textControlWidth, int textHeight, const Extent& button, in
     const int frame = metrics.captionHeight + 2 * metrics.frameHeight;
     const int aboveButtons = std::max(scaled(kAroundText, metrics) + textHeight, scaled(kIconRow, metrics));
     return {std::max(forText, forButtons), frame + button.height + aboveButtons};
+}
+
+Extent withExtras(const Extent& dialog, const BoxExtras& extras, const BoxMetrics& metrics)
+{
+    return {std::max(dialog.width, extras.width + 2 * metrics.frameWidth),
+            dialog.height + extras.above + extras.below};
 }
 
 Point iconPlace(const BoxMetrics& metrics)

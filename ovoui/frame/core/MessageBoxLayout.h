@@ -39,6 +39,17 @@ struct BoxMetrics
     int scrollBarHeight = 0; ///< of a horizontal scroll bar
 };
 
+/// `pixels` at 96 dots per inch, at the system's resolution.
+int scaled(int pixels, const BoxMetrics& metrics);
+
+/// Room that a box takes beside text and buttons.
+struct BoxExtras
+{
+    int width = 0; ///< at least, of the client area
+    int above = 0; ///< between text and buttons
+    int below = 0; ///< below the buttons
+};
+
 /// Size common to all buttons, for a font of the given height and average character width, wide enough for
 /// the widest label.
 Extent buttonSize(int fontHeight, int averageCharWidth, const std::vector<int>& labelWidths,
@@ -65,13 +76,17 @@ Box grownTextControl(const Box& window, const Extent& from, const TextArea& to, 
 Extent dialogSize(int textControlWidth, int textHeight, const Extent& button, int buttonCount,
                   const BoxMetrics& metrics);
 
+/// The dialog's size with room for more.
+Extent withExtras(const Extent& dialog, const BoxExtras& extras, const BoxMetrics& metrics);
+
 /// Where the icon's top left corner lies in the dialog's client area.
 Point iconPlace(const BoxMetrics& metrics);
 
 /// Where the text control's top left corner lies in the dialog's client area.
 Point textPlace(const BoxMetrics& metrics);
 
-/// Where the button at `position` of `count` lies in the dialog's client area.
+/// Where the button at `position` of `count` lies in the dialog's client area, or in what is above the
+/// extras.
 Box buttonBox(int position, int count, const Extent& button, const Extent& client, const BoxMetrics& metrics);
 
 /// The lines joined by CR LF.

@@ -4,6 +4,7 @@
 #include <ovouires/resource.h>
 
 #include <array>
+#include <utility>
 
 namespace ovoui::frame
 {
@@ -101,9 +102,15 @@ const std::vector<MessageBoxButton>& allMessageBoxButtons()
 
 MessageBoxButtons messageBoxButtons(unsigned type)
 {
-    MessageBoxButtons result;
+    std::vector<MessageBoxButton> buttons;
     for (const int id : buttonSet(type).ids)
-        result.buttons.push_back(buttonWithId(id));
+        buttons.push_back(buttonWithId(id));
+    return messageBoxButtons(type, std::move(buttons));
+}
+
+MessageBoxButtons messageBoxButtons(unsigned type, std::vector<MessageBoxButton> buttons)
+{
+    MessageBoxButtons result{std::move(buttons)};
     if (type & kHelp)
         result.buttons.push_back(buttonWithId(kHelpButton));
 

@@ -3,18 +3,20 @@
 
 #include <ovoui/frame/MessageBoxFlags.h>
 
+#include <string>
 #include <vector>
 
 namespace ovoui::frame
 {
 
 /// A button of the message box: its control id, which is also the box's result, its label's string id, and
-/// the label shown when that string is missing.
+/// the label shown when that string is missing. A text of the caller's goes before both.
 struct MessageBoxButton
 {
     int id;
     unsigned label;
     const wchar_t* fallback;
+    std::wstring text{};
 };
 
 /// Every button there is, in the order of the label strings.
@@ -31,6 +33,8 @@ struct MessageBoxButtons
 };
 
 MessageBoxButtons messageBoxButtons(unsigned type);
+/// With these buttons in place of the type's set.
+MessageBoxButtons messageBoxButtons(unsigned type, std::vector<MessageBoxButton> buttons);
 
 /// Name of the icon resource.
 const wchar_t* messageBoxIcon(unsigned type);

@@ -1,0 +1,73 @@
+#include <ovoui/frame/MessageDialog.h>
+
+#include <ovocor/ovocor.h>
+#include <ovoui/frame/MessageDialogBox.h>
+#include <ovoui/frame/Module.h>
+#include <ovouires/resource.h>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr wchar_t kSection[] = L"answers";
+constexpr unsigned kLongestCount = 24 * 60 * 60;
+
+} // namespace
+
+COVOMessageDialog::COVOMessageDialog(HWND owner, std::wstring text, std::wstring caption, UINT type)
+    : m_owner(owner)
+    , m_text(std::move(text))
+    , m_caption(std::move(caption))
+    , m_type(type)
+{
+}
+
+void COVOMessageDialog::AddButton(int id, std::wstring label)
+{
+    m_buttons.push_back({id, std::move(label)});
+}
+
+void COVOMessageDialog::SetDetails(std::wstring text)
+{
+    m_details = std::move(text);
+}
+
+void COVOMessageDialog::OfferNotToAsk(std::wstring entry, std::wstring label)
+{
+    m_entry = std::move(entry);
+    m_checkLabel = label.empty() ? ovoui::resourceString(IDS_MESSAGE_NOT_AGAIN) : std::move(label);
+}
+
+void COVOMessageDialog::PressDefaultAfter(unsigned seconds)
+{
+    m_seconds = std::min(seconds, kLongestCount);
+}
+
+int COVOMessageDialog::DoModal() const
+{
+    const std::wstring caption = m_caption.empty() ? ovoui::resourceString(IDS_MESSAGE_CAPTION) : m_caption;
+    COVOMessageDialogBox box(*this, caption);
+    CWinApp* const app = m_entry.empty() ? nullptr : AfxGetApp();
+    if (app) {
+        const int known = static_cast<int>(app->GetProfileInt(kSection, m_entry.c_str(), 0));
+        if (known != 0 && known != IDCANCEL && known != IDHELP && box.hasButton(known))
+            return known;
+    }
+    const int answer = static_cast<int>(box.DoModal());
+    if (app && box.keepsAnswer() && answer != IDCANCEL && box.hasButton(answer))
+        app->WriteProfileInt(kSection, m_entry.c_str(), answer);
+    return answer;
+}
+
+void COVOMessageDialog::ForgetAnswer(const std::wstring& entry)
+{
+    if (CWinApp* const app = AfxGetApp())
+        app->WriteProfileString(kSection, entry.c_str(), nullptr);
+}
+
+void COVOMessageDialog::ForgetAnswers()
+{
+    if (CWinApp* const app = AfxGetApp())
+        app->WriteProfileString(kSection, nullptr, nullptr);
+}

@@ -1,0 +1,177 @@
+#include <ovoui/frame/ProgressBoxDlg.h>
+
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/Module.h>
+#include <ovouires/resource.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+using namespace ovoui::frame;
+
+namespace
+{
+
+constexpr int kSteps = 1000;            ///< of the bar
+constexpr int kBarHeight = 16;          ///< pixels at 96 dots per inch
+constexpr ULONGLONG kMessagePause = 20; ///< milliseconds for which the work is left alone
+
+MessageBoxButtons cancelAlone()
+{
+    return {{messageBoxButtons(MB_OKCANCEL).buttons.back()}};
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(COVOProgressBoxDlg, COVOMsgBoxDlg)
+    ON_COMMAND_EX(IDCANCEL, &COVOProgressBoxDlg::OnCancelButton)
+    ON_COMMAND(IDOK, &COVOProgressBoxDlg::OnEnter)
+    ON_WM_CLOSE()
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+COVOProgressBoxDlg::COVOProgressBoxDlg(HWND owner, const std::wstring& text, const std::wstring& caption)
+    : COVOMsgBoxDlg({owner, text.c_str(),
+                     (caption.empty() ? ovoui::resourceString(IDS_MESSAGE_CAPTION) : caption).c_str(),
+                     MB_ICONASTERISK, L"", 0},
+                    cancelAlone())
+    , m_owner(owner)
+{
+}
+
+COVOProgressBoxDlg::~COVOProgressBoxDlg() = default;
+
+void COVOProgressBoxDlg::open()
+{
+    m_disablesOwner = m_owner && ::IsWindowEnabled(m_owner);
+    if (m_disablesOwner)
+        ::EnableWindow(m_owner, FALSE);
+    m_opened = Create(IDD_MESSAGE_BOX, FromHandle(m_owner)) != FALSE;
+    if (m_opened)
+        ShowWindow(SW_SHOW);
+    else if (m_disablesOwner)
+        ::EnableWindow(m_owner, TRUE);
+}
+
+void COVOProgressBoxDlg::close()
+{
+    if (m_hWnd)
+        DestroyWindow();
+}
+
+/// The owner is enabled before the box goes, or another program's window would be activated.
+void COVOProgressBoxDlg::OnDestroy()
+{
+    if (m_disablesOwner && ::IsWindow(m_owner))
+        ::EnableWindow(m_owner, TRUE);
+    COVOMsgBoxDlg::OnDestroy();
+}
+
+BOOL COVOProgressBoxDlg::OnInitDialog()
+{
+    const BOOL focus = COVOMsgBoxDlg::OnInitDialog();
+    CRect client;
+    GetClientRect(&client);
+    const Box place =
+        extraPlaces(m_controls, {client.Width(), client.Height()}, buttonSize().height, systemMetrics()).bar;
+    m_bar = ::CreateWindowExW(0, PROGRESS_CLASSW, L"", WS_CHILD | WS_VISIBLE, place.left, place.top,
+                              place.width(), place.height(), m_hWnd,
+                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(IDC_MESSAGE_PROGRESS)),
+                              ovoui::ownInstance(), nullptr);
+    ::SendMessageW(m_bar, PBM_SETRANGE32, 0, kSteps);
+    return focus;
+}
+
+BoxExtras COVOProgressBoxDlg::extras()
+{
+    m_controls.barHeight = scaled(kBarHeight, systemMetrics());
+    return boxExtras(m_controls, systemMetrics());
+}
+
+// Cancelling
+
+BOOL COVOProgressBoxDlg::OnCancelButton(UINT)
+{
+    OnCancel();
+    return TRUE;
+}
+
+void COVOProgressBoxDlg::OnClose()
+{
+    OnCancel();
+}
+
+/// The box stays until the work has stopped.
+void COVOProgressBoxDlg::OnCancel()
+{
+    m_cancelled = true;
+    if (CWnd* const button = GetDlgItem(IDCANCEL))
+        button->EnableWindow(FALSE);
+}
+
+// Progress
+
+void COVOProgressBoxDlg::show(ULONGLONG done, ULONGLONG total)
+{
+    if (!m_hWnd)
+        return;
+    if (total == 0) {
+        showUnknown();
+        return;
+    }
+    if (::GetWindowLongPtrW(m_bar, GWL_STYLE) & PBS_MARQUEE) {
+        ::SendMessageW(m_bar, PBM_SETMARQUEE, FALSE, 0);
+        ::SetWindowLongPtrW(m_bar, GWL_STYLE, ::GetWindowLongPtrW(m_bar, GWL_STYLE) & ~PBS_MARQUEE);
+    }
+    const double share = static_cast<double>(std::min(done, total)) / static_cast<double>(total);
+    const auto position = static_cast<WPARAM>(share * kSteps);
+    if (static_cast<WPARAM>(::SendMessageW(m_bar, PBM_GETPOS, 0, 0)) != position)
+        ::SendMessageW(m_bar, PBM_SETPOS, position, 0);
+}
+
+void COVOProgressBoxDlg::showUnknown()
+{
+    const LONG_PTR style = ::GetWindowLongPtrW(m_bar, GWL_STYLE);
+    if (style & PBS_MARQUEE)
+        return;
+    ::SetWindowLongPtrW(m_bar, GWL_STYLE, style | PBS_MARQUEE);
+    ::SendMessageW(m_bar, PBM_SETMARQUEE, TRUE, 0);
+}
+
+void COVOProgressBoxDlg::setText(const std::wstring& newText)
+{
+    if (m_hWnd)
+        text().SetWindowText(withWindowsLineEnds(newText).c_str());
+}
+
+bool COVOProgressBoxDlg::letMessagesThrough()
+{
+    const ULONGLONG now = ::GetTickCount64();
+    if (!m_opened || now - m_lastMessages < kMessagePause)
+        return true;
+    const Lifeline::Watch watch(m_lifeline);
+    MSG message;
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) {
+        const bool goesOn = dispatchOne();
+        if (!watch.alive())
+            return false;
+        if (!goesOn) {
+            m_cancelled = true;
+            break;
+        }
+    }
+    m_cancelled = m_cancelled || !m_hWnd;
+    m_lastMessages = ::GetTickCount64();
+    return true;
+}
+
+/// False when the program is to end, which its own loop is to learn as well.
+bool COVOProgressBoxDlg::dispatchOne()
+{
+    CWinThread& thread = *AfxGetThread();
+    if (thread.PumpMessage())
+        return true;
+    ::PostQuitMessage(static_cast<int>(thread.m_msgCur.wParam));
+    return false;
+}

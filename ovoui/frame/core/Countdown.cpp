@@ -1,0 +1,36 @@
+#include <ovoui/frame/core/Countdown.h>
+
+namespace ovoui::frame
+{
+namespace
+{
+
+constexpr std::uint64_t kSecond = 1000;
+
+} // namespace
+
+Countdown::Countdown(unsigned seconds, std::uint64_t now)
+    : m_running(true)
+    , m_end(now + seconds * kSecond)
+{
+}
+
+unsigned Countdown::left(std::uint64_t now) const
+{
+    return m_running && now < m_end ? static_cast<unsigned>((m_end - now + kSecond - 1) / kSecond) : 0;
+}
+
+bool Countdown::isOver(std::uint64_t now)
+{
+    if (!m_running || now < m_end)
+        return false;
+    m_running = false;
+    return true;
+}
+
+std::wstring countedLabel(const std::wstring& label, unsigned left)
+{
+    return label + L" (" + std::to_wstring(left) + L")";
+}
+
+} // namespace ovoui::frame

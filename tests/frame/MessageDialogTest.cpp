@@ -1,0 +1,331 @@
+// COVOMessageDialog: the host's buttons, details, answers that are kept, the count.
+#include "MessageBoxScene.h"
+
+#include "support/GdiCounter.h"
+#include "support/TemporaryProfile.h"
+#include "support/WindowCounter.h"
+
+#include <ovoui/frame/MessageDialog.h>
+#include <ovouires/resource.h>
+
+#include <gtest/gtest.h>
+
+using namespace ovotest;
+
+namespace
+{
+
+constexpr int kReplace = 1001;
+constexpr int kKeep = 1002;
+
+COVOMessageDialog withOwnButtons(UINT type = MB_OK)
+{
+    COVOMessageDialog box(nullptr, L"The message.", L"Box", type);
+    box.AddButton(kReplace, L"&Replace them all");
+    box.AddButton(kKeep, L"&Keep");
+    box.AddButton(IDCANCEL, L"Cancel");
+    return box;
+}
+
+HWND control(int id)
+{
+    return ::GetDlgItem(openBox(), id);
+}
+
+HWND details()
+{
+    return control(IDC_MESSAGE_DETAILS);
+}
+
+bool detailsShown()
+{
+    return details() && ::IsWindowVisible(details());
+}
+
+std::function<bool()> focusOn(int id)
+{
+    return [id] { return ::GetFocus() == control(id); };
+}
+
+CRect workArea()
+{
+    CRect area;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    return area;
+}
+
+Story clicking(int id)
+{
+    return whenOpen().click([id] { return control(id); });
+}
+
+int answerBy(const COVOMessageDialog& box, Story story)
+{
+    auto answering = std::move(story).start();
+    return box.DoModal();
+}
+
+class MessageDialogTest : public testing::Test
+{
+protected:
+    static int kept(const wchar_t* entry)
+    {
+        return static_cast<int>(AfxGetApp()->GetProfileInt(L"answers", entry, -1));
+    }
+    static void keep(const wchar_t* entry, int answer)
+    {
+        AfxGetApp()->WriteProfileInt(L"answers", entry, answer);
+    }
+
+    TemporaryProfile m_profile;
+};
+
+} // namespace
+
+TEST_F(MessageDialogTest, WithoutMoreIsTheMessageBox)
+{
+    std::vector<int> plain;
+    std::vector<int> dialog;
+    CRect plainPlace;
+    CRect dialogPlace;
+    inspect({.type = MB_YESNOCANCEL}, [&](HWND box) {
+        plain = buttonsFromTheLeft(box);
+        plainPlace = screenRect(box);
+    });
+    const COVOMessageDialog box(nullptr, L"The message.", L"Box", MB_YESNOCANCEL);
+    const int answer = answerBy(box, whenOpen()
+                                         .then([&] {
+                                             dialog = buttonsFromTheLeft(openBox());
+                                             dialogPlace = screenRect(openBox());
+                                         })
+                                         .key(VK_ESCAPE));
+    EXPECT_EQ(answer, IDCANCEL);
+    EXPECT_EQ(dialog, plain);
+    EXPECT_EQ(dialogPlace, plainPlace);
+}
+
+TEST_F(MessageDialogTest, ButtonsOfTheHostAnswerWithTheirIds)
+{
+    for (const int id : {kReplace, kKeep, int{IDCANCEL}})
+        EXPECT_EQ(answerBy(withOwnButtons(), clicking(id)), id);
+    EXPECT_EQ(answerBy(withOwnButtons(), whenOpen().key(VK_RETURN)), kReplace);
+    EXPECT_EQ(answerBy(withOwnButtons(MB_DEFBUTTON2), whenOpen().key(VK_RETURN)), kKeep);
+    EXPECT_EQ(answerBy(withOwnButtons(), whenOpen().holding(VK_MENU).key('K').letGo(VK_MENU)), kKeep);
+    EXPECT_EQ(answerBy(withOwnButtons(), whenOpen().key(VK_ESCAPE)), IDCANCEL);
+}
+
+TEST_F(MessageDialogTest, ButtonsOfTheHostStandInOrderAndHoldTheirLabels)
+{
+    std::vector<int> ids;
+    int width = 0;
+    int needed = 0;
+    answerBy(withOwnButtons(), whenOpen()
+                                   .then([&] {
+                                       ids = buttonsFromTheLeft(openBox());
+                                       CWnd* const button = CWnd::FromHandle(control(kReplace));
+                                       width = screenRect(*button).Width();
+                                       CClientDC dc(button);
+                                       CFont* const before = dc.SelectObject(button->GetFont());
+                                       needed = dc.GetTextExtent(L"Replace them all", 16).cx;
+                                       dc.SelectObject(before);
+                                   })
+                                   .key(VK_ESCAPE));
+    EXPECT_EQ(ids, (std::vector<int>{kReplace, kKeep, IDCANCEL}));
+    EXPECT_GT(needed, 0);
+    EXPECT_GE(width, needed);
+}
+
+TEST_F(MessageDialogTest, HelpStandsBesideButtonsOfTheHostAndLeavesTheBoxOpen)
+{
+    std::vector<int> ids;
+    bool open = false;
+    const int answer = answerBy(withOwnButtons(MB_HELP), clicking(IDHELP)
+                                                             .then([&] {
+                                                                 ids = buttonsFromTheLeft(openBox());
+                                                                 open = openBox() != nullptr;
+                                                             })
+                                                             .key(VK_ESCAPE));
+    EXPECT_EQ(ids, (std::vector<int>{kReplace, kKeep, IDCANCEL, IDHELP}));
+    EXPECT_TRUE(open);
+    EXPECT_EQ(answer, IDCANCEL);
+}
+
+TEST_F(MessageDialogTest, DetailsAreShownAndHiddenByTheirButton)
+{
+    COVOMessageDialog box(nullptr, L"The message.", L"Box", MB_OKCANCEL);
+    box.SetDetails(L"First line\nSecond line");
+    CRect closed;
+    CRect open;
+    CRect again;
+    CRect button;
+    CRect buttonWhileOpen;
+    std::wstring text;
+    const int answer =
+        answerBy(box, whenOpen()
+                          .then([&] {
+                              closed = screenRect(openBox());
+                              button = screenRect(control(IDOK));
+                          })
+                          .click([] { return control(IDC_MESSAGE_DETAILS_BUTTON); })
+                          .waitFor("the details", &detailsShown)
+                          .then([&] {
+                              open = screenRect(openBox());
+                              buttonWhileOpen = screenRect(control(IDOK));
+                              text = windowText(details());
+                          })
+                          .click([] { return details(); })
+                          .waitFor("the focus", focusOn(IDC_MESSAGE_DETAILS))
+                          .holding(VK_MENU)
+                          .key('D')
+                          .letGo(VK_MENU)
+                          .waitFor("their end", [] { return !detailsShown(); })
+                          .waitFor("the focus on their button", focusOn(IDC_MESSAGE_DETAILS_BUTTON))
+                          .then([&] { again = screenRect(openBox()); })
+                          .key(VK_ESCAPE));
+    EXPECT_EQ(answer, IDCANCEL);
+    EXPECT_EQ(text, L"First line\r\nSecond line");
+    EXPECT_GT(open.Height(), closed.Height() + 60);
+    EXPECT_EQ(open.TopLeft(), closed.TopLeft());
+    EXPECT_EQ(buttonWhileOpen, button);
+    EXPECT_EQ(again, closed);
+}
+
+// At the lower edge of the screen the box moves up to make room.
+TEST_F(MessageDialogTest, OpeningTheDetailsIsNoMoveByTheUser)
+{
+    const CRect area = workArea();
+    const CString place =
+        (std::to_wstring(area.left + 300) + L"," + std::to_wstring(area.bottom - 60)).c_str();
+    AfxGetApp()->WriteProfileString(L"settings", L"detailed", place);
+    COVOMessageDialog box(nullptr, L"The message.", L"Box", MB_OK);
+    box.SetDetails(L"More");
+    box.SetSettingsKey(L"detailed");
+    CRect closed;
+    CRect open;
+    answerBy(box, whenOpen()
+                      .then([&] { closed = screenRect(openBox()); })
+                      .click([] { return control(IDC_MESSAGE_DETAILS_BUTTON); })
+                      .waitFor("the details", &detailsShown)
+                      .then([&] { open = screenRect(openBox()); })
+                      .key(VK_ESCAPE));
+    EXPECT_LT(open.top, closed.top);
+    EXPECT_LE(open.bottom, area.bottom);
+    EXPECT_EQ(AfxGetApp()->GetProfileString(L"settings", L"detailed"), place);
+}
+
+TEST_F(MessageDialogTest, AnAnswerIsKeptAndGivenWithoutABox)
+{
+    COVOMessageDialog box = withOwnButtons();
+    box.OfferNotToAsk(L"Fonts");
+    const auto checked = [] {
+        return ::SendMessageW(control(IDC_MESSAGE_NOT_AGAIN), BM_GETCHECK, 0, 0) == BST_CHECKED;
+    };
+    EXPECT_EQ(answerBy(box, clicking(IDC_MESSAGE_NOT_AGAIN).waitFor("the mark", checked).click([] {
+                  return control(kKeep);
+              })),
+              kKeep);
+    EXPECT_EQ(kept(L"Fonts"), kKeep);
+    EXPECT_EQ(box.DoModal(), kKeep); // a box would wait for ever
+
+    COVOMessageDialog::ForgetAnswer(L"Fonts");
+    EXPECT_EQ(answerBy(box, clicking(kReplace)), kReplace);
+    EXPECT_EQ(kept(L"Fonts"), -1);
+}
+
+TEST_F(MessageDialogTest, ForgettingAllShowsEveryBoxAgain)
+{
+    keep(L"One", kKeep);
+    keep(L"Two", kKeep);
+    COVOMessageDialog::ForgetAnswers();
+    for (const wchar_t* entry : {L"One", L"Two"}) {
+        COVOMessageDialog box = withOwnButtons();
+        box.OfferNotToAsk(entry);
+        EXPECT_EQ(answerBy(box, clicking(kReplace)), kReplace);
+    }
+}
+
+TEST_F(MessageDialogTest, CancellingIsNeverKept)
+{
+    COVOMessageDialog box = withOwnButtons();
+    box.OfferNotToAsk(L"Fonts");
+    EXPECT_EQ(answerBy(box, clicking(IDC_MESSAGE_NOT_AGAIN).key(VK_ESCAPE)), IDCANCEL);
+    EXPECT_EQ(kept(L"Fonts"), -1);
+}
+
+TEST_F(MessageDialogTest, AnAnswerThatHasNoButtonAnyMoreIsAskedForAgain)
+{
+    for (const int stale : {4711, int{IDCANCEL}, 0, -1}) {
+        keep(L"Fonts", stale);
+        COVOMessageDialog box = withOwnButtons();
+        box.OfferNotToAsk(L"Fonts");
+        EXPECT_EQ(answerBy(box, clicking(kKeep)), kKeep) << stale;
+    }
+}
+
+TEST_F(MessageDialogTest, TheCountPressesTheDefaultButton)
+{
+    COVOMessageDialog box = withOwnButtons(MB_DEFBUTTON2);
+    box.PressDefaultAfter(1);
+    std::wstring label;
+    EXPECT_EQ(answerBy(box, whenOpen().then([&] { label = windowText(control(kKeep)); })), kKeep);
+    EXPECT_EQ(label, L"&Keep (1)");
+}
+
+TEST_F(MessageDialogTest, AKeyOrAClickEndsTheCount)
+{
+    const std::function<Story(Story)> inputs[] = {
+        [](Story story) { return std::move(story).key(VK_TAB); },
+        [](Story story) { return std::move(story).click([] { return textControl(openBox()); }); },
+    };
+    for (const auto& input : inputs) {
+        COVOMessageDialog box = withOwnButtons();
+        box.PressDefaultAfter(3600);
+        const auto labelled = [](const wchar_t* label) {
+            return [label] { return windowText(control(kReplace)) == label; };
+        };
+        EXPECT_EQ(answerBy(box, input(whenOpen().waitFor("a count", labelled(L"&Replace them all (3599)")))
+                                    .waitFor("its end", labelled(L"&Replace them all"))
+                                    .key(VK_ESCAPE)),
+                  IDCANCEL);
+    }
+}
+
+TEST_F(MessageDialogTest, TabGoesRoundAllControls)
+{
+    COVOMessageDialog box(nullptr, L"The message.", L"Box", MB_OKCANCEL);
+    box.SetDetails(L"More");
+    box.OfferNotToAsk(L"Fonts");
+    EXPECT_EQ(answerBy(box, whenOpen()
+                                .waitFor("OK", focusOn(IDOK))
+                                .key(VK_TAB)
+                                .waitFor("Cancel", focusOn(IDCANCEL))
+                                .key(VK_TAB)
+                                .waitFor("the check box", focusOn(IDC_MESSAGE_NOT_AGAIN))
+                                .key(VK_TAB)
+                                .waitFor("the button of the details", focusOn(IDC_MESSAGE_DETAILS_BUTTON))
+                                .key(VK_TAB)
+                                .waitFor("the text", focusOn(IDC_MESSAGE_TEXT))
+                                .key(VK_TAB)
+                                .waitFor("OK again", focusOn(IDOK))
+                                .key(VK_ESCAPE)),
+              IDCANCEL);
+}
+
+TEST_F(MessageDialogTest, LeavesNothingBehind)
+{
+    const auto once = [] {
+        COVOMessageDialog box = withOwnButtons();
+        box.SetDetails(L"More");
+        box.OfferNotToAsk(L"Fonts");
+        box.PressDefaultAfter(3600);
+        answerBy(box,
+                 clicking(IDC_MESSAGE_DETAILS_BUTTON).waitFor("the details", &detailsShown).key(VK_ESCAPE));
+    };
+    once();
+    const WindowCounter windows;
+    const GdiCounter gdi;
+    for (int i = 0; i < 10; ++i)
+        once();
+    EXPECT_EQ(windows.grown(), 0);
+    EXPECT_LE(gdi.grown(), 2);
+}

@@ -1,0 +1,196 @@
+// COVOProgressBox: how far work has come, and its being cancelled.
+#include "MessageBoxScene.h"
+
+#include "support/GdiCounter.h"
+#include "support/WindowCounter.h"
+
+#include <ovoui/frame/ProgressBox.h>
+#include <ovouires/resource.h>
+
+#include <commctrl.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace ovotest;
+
+namespace
+{
+
+HWND bar()
+{
+    return ::GetDlgItem(openBox(), IDC_MESSAGE_PROGRESS);
+}
+
+LRESULT position()
+{
+    return ::SendMessageW(bar(), PBM_GETPOS, 0, 0);
+}
+
+bool runsWithoutEnd()
+{
+    return (::GetWindowLongPtrW(bar(), GWL_STYLE) & PBS_MARQUEE) != 0;
+}
+
+HWND cancelButton()
+{
+    return ::GetDlgItem(openBox(), IDCANCEL);
+}
+
+class Owner : public CWnd
+{
+public:
+    Owner()
+    {
+        CreateEx(0, AfxRegisterWndClass(0), L"Owner", WS_POPUP | WS_VISIBLE, 0, 0, 300, 200, nullptr,
+                 nullptr);
+    }
+    ~Owner() override { DestroyWindow(); }
+};
+
+void workUntilCancelled(COVOProgressBox& progress)
+{
+    while (progress.Advance(1, 2))
+        ::Sleep(1);
+}
+
+} // namespace
+
+TEST(ProgressBox, DisablesItsOwnerAsLongAsItLives)
+{
+    Owner owner;
+    {
+        const COVOProgressBox progress(owner, L"Working", L"Box");
+        EXPECT_FALSE(owner.IsWindowEnabled());
+        EXPECT_TRUE(openBox());
+        EXPECT_EQ(::GetWindow(openBox(), GW_OWNER), owner.m_hWnd);
+    }
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(openBox(), nullptr);
+}
+
+TEST(ProgressBox, LeavesAnOwnerDisabledThatWasDisabled)
+{
+    Owner owner;
+    owner.EnableWindow(FALSE);
+    {
+        const COVOProgressBox progress(owner, L"Working");
+    }
+    EXPECT_FALSE(owner.IsWindowEnabled());
+}
+
+TEST(ProgressBox, ShowsTheShareThatIsDone)
+{
+    COVOProgressBox progress(nullptr, L"Working", L"Box");
+    const struct
+    {
+        ULONGLONG done;
+        ULONGLONG total;
+        LRESULT shown;
+    } cases[] = {{0, 4, 0}, {1, 4, 250}, {4, 4, 1000}, {9, 4, 1000}, {1, ~0ULL, 0}, {1ULL << 63, ~0ULL, 500}};
+    for (const auto& each : cases) {
+        EXPECT_TRUE(progress.Advance(each.done, each.total));
+        EXPECT_EQ(position(), each.shown) << each.done << " of " << each.total;
+    }
+}
+
+TEST(ProgressBox, OfUnknownLengthRunsWithoutAnEnd)
+{
+    COVOProgressBox progress(nullptr, L"Working", L"Box");
+    EXPECT_TRUE(progress.Advance(1, 0));
+    EXPECT_TRUE(runsWithoutEnd());
+    EXPECT_TRUE(progress.Advance(1, 2));
+    EXPECT_FALSE(runsWithoutEnd());
+    EXPECT_EQ(position(), 500);
+}
+
+TEST(ProgressBox, LiesBetweenTextAndButton)
+{
+    const COVOProgressBox progress(nullptr, L"Working", L"Box");
+    const CRect text = placeInParent(textControl(openBox()));
+    const CRect place = placeInParent(bar());
+    const CRect button = placeInParent(cancelButton());
+    CRect client;
+    ::GetClientRect(openBox(), &client);
+    EXPECT_LE(text.bottom, place.top);
+    EXPECT_LE(place.bottom, button.top);
+    EXPECT_LE(button.bottom, client.bottom);
+    EXPECT_LE(place.right, client.right);
+    EXPECT_FALSE(place.IsRectEmpty());
+}
+
+TEST(ProgressBox, IsCancelledByButtonKeysAndCloseBox)
+{
+    const auto cancelled = [](Story story) {
+        COVOProgressBox progress(nullptr, L"Working", L"Box");
+        auto cancelling = std::move(story).start();
+        workUntilCancelled(progress);
+        EXPECT_TRUE(progress.IsCancelled());
+        EXPECT_TRUE(openBox()); // until the work has stopped
+        EXPECT_FALSE(::IsWindowEnabled(cancelButton()));
+        EXPECT_FALSE(progress.Advance(2, 2));
+    };
+    cancelled(whenOpen().click(&cancelButton));
+    cancelled(whenOpen().key(VK_ESCAPE));
+    cancelled(whenOpen().key(VK_RETURN)); // the only button
+    cancelled(whenOpen().then([] { ::PostMessageW(openBox(), WM_CLOSE, 0, 0); }));
+}
+
+TEST(ProgressBox, TellsAnotherText)
+{
+    COVOProgressBox progress(nullptr, L"Working on the first", L"Box");
+    progress.SetText(L"Second");
+    EXPECT_EQ(windowText(textControl(openBox())), L"Second");
+}
+
+TEST(ProgressBox, AnOwnerDestroyedMeanwhileCancels)
+{
+    auto owner = std::make_unique<Owner>();
+    COVOProgressBox progress(*owner, L"Working", L"Box");
+    EXPECT_TRUE(progress.Advance(1, 2));
+    owner.reset();
+    workUntilCancelled(progress);
+    EXPECT_TRUE(progress.IsCancelled());
+    progress.SetText(L"Nowhere");
+}
+
+TEST(ProgressBox, MayBeDeletedByAMessageThatItLetsThrough)
+{
+    static COVOProgressBox* s_progress;
+    s_progress = new COVOProgressBox(nullptr, L"Working", L"Box");
+    ::SetTimer(openBox(), 1, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR, DWORD) {
+        delete s_progress;
+        s_progress = nullptr;
+    });
+    while (s_progress && s_progress->Advance(1, 2))
+        ::Sleep(1);
+    EXPECT_EQ(s_progress, nullptr);
+    EXPECT_EQ(openBox(), nullptr);
+}
+
+TEST(ProgressBox, TheEndOfTheProgramIsNotLost)
+{
+    COVOProgressBox progress(nullptr, L"Working", L"Box");
+    ::PostQuitMessage(7);
+    workUntilCancelled(progress);
+    MSG message{};
+    ASSERT_TRUE(::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, 7u);
+}
+
+TEST(ProgressBox, LeavesNothingBehind)
+{
+    const auto once = [] {
+        COVOProgressBox progress(nullptr, L"Working", L"Box");
+        progress.Advance(1, 2);
+        progress.Advance(1, 0);
+    };
+    once();
+    const WindowCounter windows;
+    const GdiCounter gdi;
+    for (int i = 0; i < 20; ++i)
+        once();
+    EXPECT_EQ(windows.grown(), 0);
+    EXPECT_LE(gdi.grown(), 2);
+}
