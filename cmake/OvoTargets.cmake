@@ -27,11 +27,23 @@ if(OVO_SANITIZE)
   target_link_options(ovo_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# ovo_library(NAME OUTPUT FILE EXPORT MACRO SOURCES ...): a DLL. Its sources see MACRO defined.
+# ovo_version_record(TARGET FILE TYPE DESCRIPTION): the version that the system shows of a DLL or program. TYPE is VFT_DLL or
+# VFT_APP.
+function(ovo_version_record target file type description)
+  get_filename_component(internal_name ${file} NAME_WLE)
+  set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}.version.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${script} @ONLY)
+  target_sources(${target} PRIVATE ${script})
+  set_source_files_properties(${script} PROPERTIES
+    OBJECT_DEPENDS ${PROJECT_SOURCE_DIR}/ovoui/version.h INCLUDE_DIRECTORIES ${PROJECT_SOURCE_DIR})
+endfunction()
+
+# ovo_library(NAME OUTPUT FILE DESCRIPTION WORDS EXPORT MACRO SOURCES ...): a DLL. Its sources see MACRO defined.
 function(ovo_library name)
-  cmake_parse_arguments(arg "" "OUTPUT;EXPORT" "SOURCES" ${ARGN})
+  cmake_parse_arguments(arg "" "OUTPUT;DESCRIPTION;EXPORT" "SOURCES" ${ARGN})
   add_library(${name} SHARED ${arg_SOURCES})
   set_target_properties(${name} PROPERTIES OUTPUT_NAME ${arg_OUTPUT} PREFIX "")
+  ovo_version_record(${name} ${arg_OUTPUT}.dll VFT_DLL "${arg_DESCRIPTION}")
   target_link_libraries(${name} PRIVATE ovo_flags)
   target_compile_features(${name} PUBLIC cxx_std_20) # its headers need it, so hosts do
   if(arg_EXPORT)

@@ -31,5 +31,6 @@ target_link_libraries(ovoui PRIVATE bcrypt wininet shell32)
 
 # The examination of lists for those who publish one.
 add_executable(ovo-update-lint ${CMAKE_CURRENT_LIST_DIR}/lint/Main.cpp ${update_core})
+ovo_version_record(ovo-update-lint ovo-update-lint.exe VFT_APP "ovoui examination of update lists")
 target_link_libraries(ovo-update-lint PRIVATE ovo_flags ovocor)
 target_link_options(ovo-update-lint PRIVATE -municode)
