@@ -91,6 +91,7 @@
 #define IDS_MENU_DELETE 20124
 #define IDS_MENU_RENAME 20125
 #define IDS_MENU_SELECT_ALL 20126
+#define IDS_ACTION_PRESS 20131
 
 // Dialogs of the controls: 20200 to 20201
 #define IDD_POPUP_SLIDER 20200

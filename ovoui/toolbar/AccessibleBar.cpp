@@ -2,17 +2,12 @@
 
 #include <ovoui/toolbar/ButtonNames.h>
 
+#include <ovouires/resource.h>
+
 #include <oleacc.h>
 
 namespace ovoui::toolbar
 {
-
-namespace
-{
-
-constexpr wchar_t kPress[] = L"Press";
-
-} // namespace
 
 HWND AccessibleBar::window() const
 {
@@ -55,7 +50,10 @@ std::wstring AccessibleBar::description(int part) const
 
 std::wstring AccessibleBar::action(int part) const
 {
-    return canPress(part) ? kPress : std::wstring();
+    CString press;
+    if (canPress(part))
+        press.LoadString(IDS_ACTION_PRESS);
+    return press.GetString();
 }
 
 std::optional<LONG> AccessibleBar::state(int part) const
