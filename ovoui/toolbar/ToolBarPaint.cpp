@@ -115,13 +115,9 @@ void CVantorToolBar::drawFlyoutMarks()
             continue;
         const CornerMark mark = cornerMark(ovoui::frame::toBox(rect));
         const bool disabled = (GetButtonStyle(i) & TBBS_DISABLED) != 0;
-        // As exact in a mirrored device context, which FillSolidRect is not everywhere.
-        const HBRUSH brush = ::GetSysColorBrush(disabled ? COLOR_GRAYTEXT : COLOR_BTNTEXT);
-        for (int row = 0; row < mark.size; ++row) {
-            const CRect line(CPoint(mark.right - mark.size + row, mark.bottom - 1 - row),
-                             CSize(mark.size - row, 1));
-            ::FillRect(dc, &line, brush);
-        }
+        const COLORREF colour = ::GetSysColor(disabled ? COLOR_GRAYTEXT : COLOR_BTNTEXT);
+        for (int row = 0; row < mark.size; ++row)
+            dc.FillSolidRect(mark.right - mark.size + row, mark.bottom - 1 - row, mark.size - row, 1, colour);
     }
 }
 

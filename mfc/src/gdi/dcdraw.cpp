@@ -54,6 +54,12 @@ void CDC::InvertRect(LPCRECT rect)
 void CDC::FillSolidRect(LPCRECT rect, COLORREF colour)
 {
     SetBkColor(colour);
+    if (::GetLayout(m_hDC) & LAYOUT_RTL) { // where Wine's ExtTextOut is a pixel off
+        const COLORREF before = ::SetDCBrushColor(m_hDC, colour);
+        ::FillRect(m_hDC, rect, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+        ::SetDCBrushColor(m_hDC, before);
+        return;
+    }
     ::ExtTextOutW(m_hDC, 0, 0, ETO_OPAQUE, rect, nullptr, 0, nullptr);
 }
 

@@ -41,6 +41,15 @@ TEST_F(DcDrawing, FillSolidRectChangesTheBackgroundColour)
     EXPECT_EQ(dc.GetBkColor(), kGreen);
 }
 
+TEST_F(DcDrawing, FillSolidRectIsExactInAMirroredDeviceContext)
+{
+    const DWORD before = dc.SetLayout(LAYOUT_RTL);
+    dc.FillSolidRect(0, 0, 3, 2, kGreen);
+    dc.SetLayout(before);
+    EXPECT_EQ(picture.count(kGreen), 6);
+    EXPECT_EQ(picture.count(kGreen, 0, CRect(picture.width() - 3, 0, picture.width(), 2)), 6);
+}
+
 TEST_F(DcDrawing, FrameRectIsOnePixelWide)
 {
     CBrush brush(kBlue);
