@@ -105,6 +105,22 @@ protected:
     }
 };
 
+/// A sheet whose own tab control is shaded. Its pages lie on it, but are no children of it.
+class ShadedSheet : public CPropertySheet
+{
+public:
+    using CPropertySheet::CPropertySheet;
+
+    CShadedTabCtrl tabs;
+
+    BOOL OnInitDialog() override
+    {
+        const BOOL result = CPropertySheet::OnInitDialog();
+        tabs.SubclassWindow(GetTabControl()->m_hWnd);
+        return result;
+    }
+};
+
 } // namespace
 
 // The host's loop
@@ -297,4 +313,33 @@ TEST_F(PickerHost, OnAShadedTabOfAPropertyPageItShowsThePage)
     EXPECT_FALSE(page.picker.m_hWnd);
     EXPECT_NEAR(page.picker.GetColour().r(), 0.2, 1e-9) << "Enter takes over what was typed";
     owner.DestroyWindow();
+}
+
+TEST_F(PickerHost, OnAPropertyPageItShowsTheSheetsOwnTabControl)
+{
+    if (!CThemeData::getThemeData().IsAppThemed())
+        GTEST_SKIP() << "visual styles are off";
+    CPropertyPage page(kPickerPageTemplate);
+    ShadedSheet sheet(L"Options");
+    sheet.AddPage(&page);
+    ASSERT_TRUE(sheet.Create());
+    HostPicker onPage(kPageTemplate, TestApp::instance(), kOrange, nullptr, nullptr);
+    onPage.tabs = &sheet.tabs;
+    onPage.Create(kPageTemplate, &page);
+    onPage.ShowWindow(SW_SHOW);
+    CWnd* const caption = onPage.GetDlgItem(kCaption1);
+    HBRUSH expected = nullptr;
+    CPoint origin;
+    ASSERT_TRUE(sheet.tabs.GetBackgroundBrush(expected, origin, caption));
+    CPoint place(0, 0);
+    ::MapWindowPoints(sheet.tabs.m_hWnd, caption->m_hWnd, &place, 1);
+    EXPECT_EQ(origin, place);
+    CClientDC dc(caption);
+    EXPECT_EQ(
+        reinterpret_cast<HBRUSH>(onPage.SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
+                                                    reinterpret_cast<LPARAM>(caption->m_hWnd))),
+        expected);
+    EXPECT_FALSE(CShadedTabCtrl::GetBackgroundBrush(caption, expected, origin)) << "it is above no control";
+    onPage.DestroyWindow();
+    sheet.DestroyWindow();
 }

@@ -419,6 +419,22 @@ TEST_F(ShadedTabCtrl, ControlsGetThePatternAlignedAndTransparentTexts)
     EXPECT_EQ(amendAsMember(child, CTLCOLOR_STATIC), brush);
 }
 
+TEST_F(ShadedTabCtrl, AControlThatOnlyLiesOnItIsServedWhereTheTabControlIsKnown)
+{
+    NEEDS_THEMES();
+    outside.SetWindowPos(&CWnd::wndTop, 35, 45, 0, 0, SWP_NOSIZE); // a sibling of the tab control
+    EXPECT_EQ(amend(outside, CTLCOLOR_STATIC), white());
+    HBRUSH brush = nullptr;
+    CPoint origin;
+    ASSERT_TRUE(tabs->GetBackgroundBrush(brush, origin, &outside));
+    EXPECT_EQ(origin, CPoint(20 - 35, 10 - 45));
+    CClientDC dc(&outside);
+    EXPECT_EQ(tabs->AmendCtlColor(&dc, CTLCOLOR_STATIC, white(), &outside), brush);
+    CPoint used;
+    ::GetBrushOrgEx(dc, &used);
+    EXPECT_EQ(used, origin);
+}
+
 TEST_F(ShadedTabCtrl, EditsKeepTheirColours)
 {
     const auto edit = control(L"EDIT", 0, CRect(30, 70, 90, 90));

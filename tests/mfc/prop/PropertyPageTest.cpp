@@ -216,6 +216,17 @@ TEST_F(PropertyPage, ItsCommandsGoOnToTheOwnerOfTheSheet)
     main.DestroyWindow();
 }
 
+TEST_F(PropertyPage, NotificationsOfItsControlsAreNotThoseOfTheSheet)
+{
+    ASSERT_TRUE(sheet.Create(&owner));
+    taken();
+    for (const UINT code : {PSN_SETACTIVE, PSN_KILLACTIVE, PSN_APPLY, PSN_RESET, PSN_QUERYCANCEL}) {
+        NMHDR notification{general.GetDlgItem(IDC_NUMBER)->m_hWnd, IDC_NUMBER, code};
+        general.SendMessage(WM_NOTIFY, IDC_NUMBER, reinterpret_cast<LPARAM>(&notification));
+    }
+    EXPECT_EQ(taken(), Calls{});
+}
+
 TEST_F(PropertyPage, HearsOfIdleTimeWhileItIsTheActiveOne)
 {
     class IdlePage : public CPropertyPage
