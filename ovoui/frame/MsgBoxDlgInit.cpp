@@ -6,6 +6,7 @@
 #include <ovoui/frame/FontDC.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/Module.h>
+#include <ovoui/frame/Platform.h>
 #include <ovoui/frame/UncountedMoves.h>
 #include <ovouires/resource.h>
 
@@ -41,11 +42,13 @@ std::vector<int> labelWidths(CDC& dc, const MessageBoxButtons& buttons)
     return widths;
 }
 
-/// Sets the formatting rectangle. Some systems take the control's margins and edge off it, which the
-/// rectangle given has no room for: lines would be cut at their ends, and one line less would be shown.
+/// Sets the formatting rectangle. Where the control takes its margins and edge off it, it gets a larger one:
+/// the rectangle has no room for them, and lines would be cut at their ends, and one line less shown.
 void setFormatRect(CEdit& text, const CRect& rect)
 {
     text.SetRect(&rect);
+    if (!ovoui::platform().insetsFormatRect)
+        return;
     CRect actual;
     text.GetRect(&actual);
     if (actual.Width() >= rect.Width())

@@ -2,7 +2,7 @@
 
 int MultiTreeCtrl::ChildWalk::compare(const InsertionPoint& where, const Node& node)
 {
-    const OVO::Handle<Node> child = m_state->tree->node(m_child.item());
+    const OVO::Handle<Node> child = m_state->view.node(m_child.item());
     return child ? where.compareChildren(*m_state->tree, *child, node) : -1;
 }
 
@@ -29,6 +29,6 @@ HTREEITEM MultiTreeCtrl::ChildWalk::insertBehind() const
 {
     if (atEnd())
         return TVI_LAST;
-    const HTREEITEM before = m_state->tree->next(TVGN_PREVIOUS, m_child.item());
+    const HTREEITEM before = m_state->view.next(TVGN_PREVIOUS, m_child.item());
     return before ? before : TVI_FIRST;
 }

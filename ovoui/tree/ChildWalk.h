@@ -13,7 +13,7 @@ public:
     ChildWalk(MultiTreeCtrl& tree, HTREEITEM parent)
         : m_state(tree.m_state)
         , m_parent(m_state, parent)
-        , m_child(m_state, tree.firstChild(parent), Tracker::WhenDeleted::NextSibling)
+        , m_child(m_state, m_state->view.firstChild(parent), Tracker::WhenDeleted::NextSibling)
     {
     }
 
@@ -23,7 +23,7 @@ public:
 
     bool atEnd() const { return !m_child; }
     HTREEITEM child() const { return m_child.item(); }
-    void advance() { m_child.moveTo(m_state->tree->nextSibling(m_child.item())); }
+    void advance() { m_child.moveTo(m_state->view.nextSibling(m_child.item())); }
     void moveTo(HTREEITEM child) { m_child.moveTo(child); }
 
     /// Compares the child with a node. Positive behind the last one; negative too for a child without a node.

@@ -1,6 +1,7 @@
 #include <ovoui/tree/DropTarget.h>
 
 #include <ovoui/tree/DropMenu.h>
+#include <ovoui/tree/Dropping.h>
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/core/DropEffect.h>
 
@@ -45,24 +46,22 @@ DROPEFFECT MultiTreeCtrl::DropTarget::OnDragEnter(CWnd* window, COleDataObject* 
 
 DROPEFFECT MultiTreeCtrl::DropTarget::OnDragOver(CWnd*, COleDataObject* data, DWORD keys, CPoint point)
 {
-    DWORD allowed = 0;
-    OVO::Handle<Node> target;
-    HTREEITEM behind = nullptr;
-    int zone = 0;
     const HostCalls host(m_tree);
+    Dropping& dropping = *m_tree.m_state->dropping;
     const bool rightButton = m_rightButton;
-    const DWORD answer = m_tree.dragHitTest(*data, point, allowed, &target, behind, zone);
+    Dropping::Place place;
+    const DWORD answer = dropping.dragHitTest(*data, point, place);
     if (!host.usable())
         return DROPEFFECT_NONE;
-    m_tree.showDropMark(behind, target ? target->hTreeItem() : nullptr);
-    return ovoui::tree::resolveDropEffect(keys, answer, allowed, rightButton);
+    dropping.showMark(place.item, place.target ? place.target->hTreeItem() : nullptr);
+    return ovoui::tree::resolveDropEffect(keys, answer, place.effects, rightButton);
 }
 
 void MultiTreeCtrl::DropTarget::OnDragLeave(CWnd*)
 {
     m_inside = false;
     m_scroll.stop();
-    m_tree.showDropMark(nullptr, nullptr);
+    m_tree.m_state->dropping->showMark(nullptr, nullptr);
 }
 
 // Scrolling
@@ -87,7 +86,7 @@ DROPEFFECT MultiTreeCtrl::DropTarget::OnDragScroll(CWnd* window, DWORD keys, CPo
         if (m_scroll.stepDue(code, ::GetTickCount()))
             m_tree.dragScroll(code, 0, true);
         if (!wasScrolling)
-            m_tree.showDropMark(nullptr, nullptr);
+            m_tree.m_state->dropping->showMark(nullptr, nullptr);
         return OnDragOver(window, &data, keys, point) | DROPEFFECT_SCROLL;
     }
     if (!wasScrolling)
@@ -103,7 +102,7 @@ DROPEFFECT MultiTreeCtrl::DropTarget::OnDropEx(CWnd*, COleDataObject* data, DROP
 {
     m_inside = false;
     m_scroll.stop();
-    m_tree.showDropMark(nullptr, nullptr);
+    m_tree.m_state->dropping->showMark(nullptr, nullptr);
     DROPEFFECT effect = standard;
     bool taken = false;
     const bool good = HostCalls(m_tree).report([&] { taken = drop(*data, effect, allowed, point); });
@@ -117,23 +116,22 @@ bool MultiTreeCtrl::DropTarget::drop(COleDataObject& data, DROPEFFECT& effect, D
     MultiTreeCtrl& tree = m_tree; // this object goes with the tree
     const HostCalls host(tree);
     const bool rightButton = m_rightButton;
-    DWORD possible = 0;
-    OVO::Handle<Node> node;
-    HTREEITEM behind = nullptr;
-    int zone = 0;
-    tree.dragHitTest(data, point, possible, &node, behind, zone);
-    if (!host.usable() || !(possible & kDropAny))
+    Dropping& dropping = *tree.m_state->dropping;
+    Dropping::Place place;
+    dropping.dragHitTest(data, point, place);
+    if (!host.usable() || !(place.effects & kDropAny))
         return false;
     if (rightButton)
-        effect = nondefaultDrop(tree, effect, allowed & possible, point, std::wstring());
+        effect = nondefaultDrop(tree, effect, allowed & place.effects, point, std::wstring());
     if (effect == DROPEFFECT_NONE || !host.usable())
         return false;
+    const OVO::Handle<Node>& node = place.target;
     if (node && !node->hTreeItem()) // gone while the menu was open
         return false;
-    InsertionPoint* const target = node ? node.get() : tree.rootInsertionPoint();
+    InsertionPoint* const target = node ? node.get() : dropping.root();
     if (!target)
         return false;
-    const bool taken = target->dropInto(data, effect, tree, zone);
+    const bool taken = target->dropInto(data, effect, tree, place.zone);
     if (node && host.usable())
         tree.updateUI(*node);
     return taken;

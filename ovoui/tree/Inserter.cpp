@@ -1,5 +1,6 @@
 #include <ovoui/tree/Inserter.h>
 
+#include <ovoui/tree/Insertion.h>
 #include <ovoui/tree/core/StableOrder.h>
 
 #include <algorithm>
@@ -35,7 +36,7 @@ HTREEITEM MultiTreeCtrl::Inserter::insert(Node& node, int position, bool& unused
     HTREEITEM item = nullptr;
     if (!m_sorted)
         item = insertAt(node, position);
-    else if (m_state->halves)
+    else if (m_state->insertion->halves())
         item = insertHalving(node, unused);
     else
         item = insertWalking(node, unused);
@@ -68,27 +69,17 @@ HTREEITEM MultiTreeCtrl::Inserter::insertAt(Node& node, int position)
 
 // Halving, where the host keeps sorted children in order
 
-Children MultiTreeCtrl::Inserter::takeChildren() const
-{
-    if (std::optional<Children> known = m_state->children.take(m_parent.item()))
-        return std::move(*known);
-    Children children;
-    for (HTREEITEM child = m_tree.firstChild(m_parent.item()); child; child = m_tree.nextSibling(child))
-        children.push_back(child);
-    return children;
-}
-
 HTREEITEM MultiTreeCtrl::Inserter::insertHalving(Node& node, bool& unused)
 {
     const HTREEITEM parent = m_parent.item();
     const unsigned structure = m_state->structure;
     const auto unchanged = [&](unsigned since) { return m_state->usable() && m_state->structure == since; };
     const auto compare = [&](HTREEITEM child) {
-        const OVO::Handle<Node> other = unchanged(structure) ? m_tree.node(child) : nullptr;
+        const OVO::Handle<Node> other = unchanged(structure) ? m_state->view.node(child) : nullptr;
         return other ? m_where.compareChildren(m_tree, *other, node) : -1;
     };
 
-    Children children = takeChildren();
+    Children children = m_state->insertion->takeChildren(parent);
     const Children::Place place =
         children.partitionPoint([&](HTREEITEM child) { return compare(child) < 0; });
     const HTREEITEM* const behind = children.after(place);
@@ -107,7 +98,7 @@ HTREEITEM MultiTreeCtrl::Inserter::insertHalving(Node& node, bool& unused)
             return item;
         children.insert(place, item);
     }
-    m_state->children.remember(parent, std::move(children));
+    m_state->insertion->remember(parent, std::move(children));
     return item;
 }
 

@@ -28,7 +28,6 @@ public:
 private:
     HTREEITEM insertWalking(Node& node, bool& unused);
     HTREEITEM insertHalving(Node& node, bool& unused);
-    ovoui::tree::Children takeChildren() const;
     HTREEITEM insertAt(Node& node, int position);
     HTREEITEM insertBefore(Node& node, ChildWalk& walk);
 

@@ -46,16 +46,14 @@ void MultiTreeCtrl::Tracker::allGo()
 
 HTREEITEM MultiTreeCtrl::Tracker::substitute() const
 {
-    const MultiTreeCtrl& tree = *state().tree;
+    const View& view = state().view;
     switch (m_whenDeleted) {
     case WhenDeleted::NextInTree:
-        return tree.nextItem(m_item, false);
+        return view.nextItem(m_item, false);
     case WhenDeleted::NextSibling:
-        return tree.nextSibling(m_item);
+        return view.nextSibling(m_item);
     case WhenDeleted::PreviousSibling: {
-        HTREEITEM former = tree.next(TVGN_PREVIOUS, m_item);
-        while (former && tree.isDoomed(former))
-            former = tree.next(TVGN_PREVIOUS, former);
+        const HTREEITEM former = view.previousSibling(m_item);
         return former ? former : TVI_FIRST;
     }
     default:

@@ -1,4 +1,4 @@
-// The control: message map, creation and destruction, and its way to the tree view.
+// The control: message map, creation and destruction.
 #include <ovoui/tree/MultiTreeCtrl.h>
 
 #include <ovoui/tree/DropTarget.h>
@@ -9,7 +9,7 @@
 #include <ovouires/resource.h>
 
 BEGIN_MESSAGE_MAP(MultiTreeCtrl, CTreeCtrl)
-    // Mouse: TreeMouse.cpp
+    // Mouse: Mouse.cpp
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
     ON_WM_LBUTTONDBLCLK()
@@ -18,7 +18,7 @@ BEGIN_MESSAGE_MAP(MultiTreeCtrl, CTreeCtrl)
     ON_WM_RBUTTONDBLCLK()
     ON_NOTIFY_REFLECT(NM_RCLICK, &MultiTreeCtrl::OnRClick)
     ON_WM_TIMER()
-    // Keyboard and focus: TreeKeys.cpp
+    // Keyboard and focus: Keyboard.cpp, Selection.cpp
     ON_WM_KEYDOWN()
     ON_WM_SYSKEYDOWN()
     ON_WM_CHAR()
@@ -26,20 +26,20 @@ BEGIN_MESSAGE_MAP(MultiTreeCtrl, CTreeCtrl)
     ON_NOTIFY_REFLECT(NM_RETURN, &MultiTreeCtrl::OnReturn)
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
-    // Opening, closing, deleting: TreeExpansion.cpp, TreeDeleting.cpp
+    // Opening, closing, deleting: Expansion.cpp, Deletion.cpp
     ON_NOTIFY_REFLECT_EX(TVN_SELCHANGINGW, &MultiTreeCtrl::OnSelchanging)
     ON_NOTIFY_REFLECT_EX(TVN_ITEMEXPANDINGW, &MultiTreeCtrl::OnItemexpanding)
     ON_NOTIFY_REFLECT_EX(TVN_ITEMEXPANDEDW, &MultiTreeCtrl::OnItemexpanded)
     ON_NOTIFY_REFLECT(TVN_DELETEITEMW, &MultiTreeCtrl::OnDeleteitem)
     ON_NOTIFY_REFLECT_EX(TVN_GETDISPINFOW, &MultiTreeCtrl::OnGetdispinfo)
-    // Label editing: TreeLabelEdit.cpp
+    // Label editing: LabelEdit.cpp
     ON_NOTIFY_REFLECT(TVN_BEGINLABELEDITW, &MultiTreeCtrl::OnBeginlabeledit)
     ON_NOTIFY_REFLECT(TVN_ENDLABELEDITW, &MultiTreeCtrl::OnEndlabeledit)
     ON_REGISTERED_MESSAGE(ovoui::tree::kEditLabelAgain, &MultiTreeCtrl::OnEditLabelAgain)
-    // Tooltips: TreeTips.cpp
+    // Tooltips: Tips.cpp
     ON_NOTIFY_REFLECT(TVN_GETINFOTIPW, &MultiTreeCtrl::OnGetinfotip)
     ON_NOTIFY_EX(TTN_SHOW, 0, &MultiTreeCtrl::OnToolTipShow)
-    // Commands and menus: TreeCommands.cpp, TreePaste.cpp, TreeContextMenu.cpp
+    // Commands and menus: Commands.cpp, Erasing.cpp, ContextMenu.cpp
     ON_COMMAND(IDOK, &MultiTreeCtrl::OnOk)
     ON_COMMAND(ID_TREE_DELETE, &MultiTreeCtrl::OnEditDelete)
     ON_UPDATE_COMMAND_UI(ID_TREE_DELETE, &MultiTreeCtrl::OnUpdateEditDelete)
@@ -87,7 +87,7 @@ void MultiTreeCtrl::PreSubclassWindow()
     // A window that is just being created has no items' height yet; its OnCreate will come.
     if (::SendMessageW(m_hWnd, TVM_GETITEMHEIGHT, 0, 0) == 0)
         return;
-    m_state->selection.setComplete(false);
+    m_state->takeOver();
     setUp();
 }
 
@@ -99,70 +99,19 @@ void MultiTreeCtrl::setUp()
     m_accelerators = ::LoadAccelerators(AfxFindResourceHandle(name, RT_ACCELERATOR), name);
 }
 
-bool MultiTreeCtrl::isUsable() const
-{
-    return m_hWnd && !m_state->closing;
-}
-
-// The tree view
-
-LRESULT MultiTreeCtrl::ask(UINT message, WPARAM wParam, LPARAM lParam) const
-{
-    // Questions change nothing; DefWindowProc is not const because messages may.
-    return const_cast<MultiTreeCtrl*>(this)->CTreeCtrl::DefWindowProc(message, wParam, lParam);
-}
-
-HTREEITEM MultiTreeCtrl::next(UINT relation, HTREEITEM item) const
-{
-    return reinterpret_cast<HTREEITEM>(ask(TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
-}
-
-HTREEITEM MultiTreeCtrl::caret() const
-{
-    return next(TVGN_CARET);
-}
-
-bool MultiTreeCtrl::isSelected(HTREEITEM item) const
-{
-    return (ask(TVM_GETITEMSTATE, reinterpret_cast<WPARAM>(item), TVIS_SELECTED) & TVIS_SELECTED) != 0;
-}
-
-void MultiTreeCtrl::setItemState(HTREEITEM item, UINT state, UINT mask)
-{
-    TVITEM changes{};
-    changes.mask = TVIF_HANDLE | TVIF_STATE;
-    changes.hItem = item;
-    changes.state = state;
-    changes.stateMask = mask;
-    DefWindowProc(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changes));
-}
-
-void MultiTreeCtrl::setSelected(HTREEITEM item, bool selected)
-{
-    setItemState(item, selected ? TVIS_SELECTED : 0, TVIS_SELECTED);
-}
-
-bool MultiTreeCtrl::selectCaret(HTREEITEM item)
-{
-    return DefWindowProc(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item)) != 0;
-}
-
 OVO::Handle<MultiTreeCtrl::Node> MultiTreeCtrl::node(HTREEITEM item) const
 {
-    TVITEM data{};
-    data.mask = TVIF_HANDLE | TVIF_PARAM;
-    data.hItem = item;
-    if (!item || !ask(TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&data)))
-        return nullptr;
-    return OVO::Handle<Node>(reinterpret_cast<Node*>(data.lParam));
+    return m_state->view.node(item);
 }
 
 HTREEITEM MultiTreeCtrl::HitTest(CPoint point, unsigned* flags) const
 {
+    const std::shared_ptr<State> state = m_state;
     TVHITTESTINFO info{};
     info.pt = point;
-    const auto hitItem = reinterpret_cast<HTREEITEM>(ask(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&info)));
-    const Tracker item(m_state, hitItem && isDoomed(hitItem) ? nullptr : hitItem);
+    const auto hitItem =
+        reinterpret_cast<HTREEITEM>(state->view.ask(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&info)));
+    const Tracker item(state, hitItem && state->view.isDoomed(hitItem) ? nullptr : hitItem);
     unsigned hit = info.flags;
     if (const OVO::Handle<Node> under = node(item.item()))
         under->hitTest(*this, point, hit);

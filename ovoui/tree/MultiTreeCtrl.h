@@ -24,7 +24,6 @@
 #include <afxwin.h>
 #include <afxcmn.h>
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -233,169 +232,48 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    // What the control is made of; see docs/architecture.md
     class ChildWalk;
+    class Commands;
+    class Concern;
+    class Deletion;
     class DropTarget;
-    class ErasingDrag;
-    class HiddenItemNote;
+    class Dropping;
+    class Erasing;
+    class Expansion;
     class HostCalls;
     class Inserter;
+    class Insertion;
     class ItemList;
     class ItemWatcher;
+    class Keyboard;
+    class LabelEdit;
     class LayoutHold;
+    struct Message;
+    class Mouse;
     class NativeCall;
-    struct PastePlace;
-    struct Press;
+    class Paste;
+    class Paths;
+    class Refresh;
     class RowKeeper;
+    class Selection;
     struct State;
     class Tracker;
+    class UnreportedNodes;
+    class View;
 
-    // The tree view, without the way through the message map
-    LRESULT ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-    HTREEITEM next(UINT relation, HTREEITEM item = nullptr) const;
-    HTREEITEM caret() const;
-    bool isSelected(HTREEITEM item) const;
-    void setSelected(HTREEITEM item, bool selected);
-    void setItemState(HTREEITEM item, UINT state, UINT mask);
-    bool selectCaret(HTREEITEM item);
     void setUp();
-    bool isUsable() const;
-
-    // Walking
-    HTREEITEM nextItem(HTREEITEM item, bool intoChildren) const;
-    HTREEITEM nextOfAll(HTREEITEM item, bool intoChildren) const;
-    HTREEITEM firstItem() const;
-    HTREEITEM firstChild(HTREEITEM parent) const;
-    HTREEITEM nextSibling(HTREEITEM item) const;
-    HTREEITEM getLastItem() const;
-    HTREEITEM firstSelected() const;
-    HTREEITEM nextSelected(HTREEITEM item) const;
-    HTREEITEM selectedFrom(HTREEITEM item) const;
-    std::vector<HTREEITEM> selectedItems() const;
-    void orderByTree(std::vector<HTREEITEM>& items) const;
-    void orderSiblings(std::vector<HTREEITEM>& items) const;
-    std::vector<OVO::Handle<Node>> selectedNodes() const;
-    bool isBelow(HTREEITEM item, HTREEITEM ancestor) const;
-
-    // Inserting
-    HTREEITEM insertItem(const Node& node, HTREEITEM parent, HTREEITEM after);
-    HTREEITEM behindLastIfKnown(HTREEITEM parent, HTREEITEM after) const;
-    HTREEITEM sendInsert(const TVINSERTSTRUCT& insert, const Node& node);
-    void takeBack(HTREEITEM item);
-    HTREEITEM selectInserted(HTREEITEM item, bool& first);
-
-    // Opening and closing
-    void openItem(Node& node, HTREEITEM item, LRESULT* result);
-    void closeItem(Node& node, HTREEITEM item);
-    void restoreState(Node& node, HTREEITEM item);
-    void noticeClosing(HTREEITEM item);
-    void deleteChildren(HTREEITEM item);
-    void deleteChildrenOneByOne(HTREEITEM item);
-
-    // Deleting
-    void deleteItem(HTREEITEM item);
-    void itemGoes(HTREEITEM item, LPARAM data);
-    void releaseNode(HTREEITEM item, LPARAM data);
-    static void letGo(State& state, std::size_t releasedBefore);
-    static HTREEITEM itemDeletedBy(UINT message, WPARAM wParam, LPARAM lParam, bool& itselfToo);
-    bool endEditOfDeleted(UINT message, WPARAM wParam, LPARAM lParam);
-    bool mayDelete(HTREEITEM item) const;
-    bool isDoomed(HTREEITEM item) const;
-    std::vector<HTREEITEM> childrenOf(HTREEITEM item) const;
-    bool postponesDeleting(HTREEITEM item);
-    bool postponesEmptying(HTREEITEM item);
-    void postpone(HTREEITEM item, bool parentClosed);
-    void detachNodes(HTREEITEM item);
-    static void deletePostponed(State& state);
-    void deleteAfterwards(HTREEITEM item, bool parentClosed);
-    void restoreButton(HTREEITEM item);
-    std::vector<OVO::Handle<Node>> nodesGoingUnreported(UINT message, WPARAM wParam, LPARAM lParam) const;
-    static void releaseUnreported(State& state, const std::vector<OVO::Handle<Node>>& nodes);
-    bool eraseSelection();
-    void eraseNodes(const std::vector<OVO::Handle<Node>>& nodes);
-    bool confirmsErasing(const std::vector<OVO::Handle<Node>>& nodes);
-    bool refreshItem(Node& node, HTREEITEM item);
-
-    // Selection
-    TVITEM describe(HTREEITEM item) const;
-    void notifyParent(NMHDR& header) const;
-    unsigned deselectAllBut(HTREEITEM kept);
-    void setSelected(const std::vector<HTREEITEM>& items, bool selected);
-    void selectWithoutNotice(HTREEITEM item);
-    bool isOpen(HTREEITEM item) const;
-    bool isDisplayed(HTREEITEM item) const;
-    HTREEITEM lastDisplayedOnTheWayTo(HTREEITEM item) const;
-    HTREEITEM displayedAbove(HTREEITEM item) const;
-    HTREEITEM displayedBelow(HTREEITEM item) const;
-    std::vector<HTREEITEM> displayedRange(HTREEITEM a, HTREEITEM b) const;
-    void selectAll(unsigned action);
-    void moveCaretAlone(HTREEITEM item);
-    void keepSelection(const std::function<void()>& moveFocus);
-    void invalidateSelection();
-
-    // Mouse: a press, step by step
-    void doButtonDown(UINT keys, CPoint point, UINT dragCode);
-    void pressWithShift(Press& press);
-    void pressPlain(Press& press);
-    void pressWithCtrl(Press& press);
-    void moveAnchor(const Press& press);
-    HTREEITEM itemBeyond(unsigned hit) const;
-    void takeFocus();
-    void releaseWithCtrl(const Press& press);
-    void releasePlain(const Press& press);
-    void selectPressed(const Press& press);
-    void deselectOne(HTREEITEM item, CPoint point);
-    void sendBeginDrag(UINT dragCode, CPoint point) const;
-    void sendContextMenu();
-    void startEditTimer(HTREEITEM item);
-    void stopEditTimer();
-
-    // Keyboard
-    void moveTo(HTREEITEM target);
-    void leaveToTreeView(bool shift, const std::function<void()>& handle);
-    void toggleCaret();
-    void runOwnCommand(unsigned id);
-    void runDefaultAction();
-    void activateSelection();
-
-    // Drop and paste
-    InsertionPoint* rootInsertionPoint() const;
-    DWORD dragHitTest(COleDataObject& data, CPoint point, DWORD& effects, OVO::Handle<Node>* target,
-                      HTREEITEM& item, int& zone);
-    DWORD askTarget(COleDataObject& data, HTREEITEM hovered, DWORD& effects, OVO::Handle<Node>* target,
-                    HTREEITEM& item, int& zone);
-    int placeAmongSiblings(HTREEITEM item);
-    void showDropMark(HTREEITEM markBehind, HTREEITEM highlighted);
-    void setInsertMark(HTREEITEM behind);
-    PastePlace findPastePlace(COleDataObject& data);
-    bool canPaste(UINT id);
-
-    // Commands
-    bool offersCommand(UINT id) const;
-    bool routeToNodes(UINT id);
-    bool routeToParent(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
-    BOOL findHandler(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
-    bool updateByNodes(CCmdUI& ui, UINT id);
-    void updateMenuItem(CMenu& popup, UINT index);
-    CPoint menuPlaceAtCaret();
-
-    // Label editing and paths
-    void editLabel(HTREEITEM item);
-    bool applyTypedText(Node& node, HTREEITEM item, const std::wstring& typed, LRESULT* result);
-    std::wstring labelOf(HTREEITEM item) const;
-    unsigned ordinalOf(HTREEITEM item, const std::wstring& text) const;
-    HTREEITEM findChild(HTREEITEM first, const std::wstring& text, unsigned ordinal) const;
 
     HTREEITEM m_anchor = nullptr;
-    bool m_pending = false;
+    bool m_pending = false; ///< the last press has changed the selection already
     std::unique_ptr<DropTarget> m_dropTarget;
     HACCEL m_accelerators = nullptr;
     UINT_PTR m_editTimer = 0;
-    HTREEITEM m_editItem = nullptr;
+    HTREEITEM m_editItem = nullptr; ///< the item that the timer will edit
     OVO::Handle<EVSubscriptionList<int>> m_gestures;
-    /// Shared, since calls into the host may destroy the control.
-    std::shared_ptr<State> m_state;
+    std::shared_ptr<State> m_state; ///< shared, since calls into the host may destroy the control
 };
 
 #include <ovoui/tree/InsertionPoint.h>
-#include <ovoui/tree/TreeNode.h>
 #include <ovoui/tree/TreeIterator.h>
+#include <ovoui/tree/TreeNode.h>

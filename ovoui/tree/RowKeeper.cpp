@@ -1,35 +1,38 @@
 #include <ovoui/tree/RowKeeper.h>
 
-#include <ovoui/tree/Platform.h>
+#include <ovoui/frame/Platform.h>
 
-using ovoui::tree::platform;
+using ovoui::platform;
 
-MultiTreeCtrl::RowKeeper::RowKeeper(MultiTreeCtrl& tree, UINT message, WPARAM wParam, LPARAM lParam)
+MultiTreeCtrl::RowKeeper::RowKeeper(MultiTreeCtrl& tree, const Message& message)
     : m_state(tree.m_state)
-    , m_change(message == WM_SETREDRAW && wParam ? Change::LaidOut : changeBy(message, lParam))
+    , m_change(changeBy(message))
 {
     if (m_change == Change::None || m_change == Change::LaidOut || m_change == Change::Input ||
         !(platform().losesRows || platform().losesFirstRow))
         return;
-    if (const HTREEITEM parent = parentOf(tree, message, lParam))
+    if (const HTREEITEM parent = parentOf(m_state->view, message))
         m_parent.emplace(m_state, parent);
-    m_wasOpen = m_change == Change::State && m_parent && tree.isOpen(m_parent->item());
-    if (platform().losesFirstRow && message == TVM_EXPAND && (wParam & TVE_COLLAPSERESET))
-        keepFirstRow(tree, m_parent->item());
+    m_wasOpen = m_change == Change::State && m_parent && m_state->view.isOpen(m_parent->item());
+    if (platform().losesFirstRow && message.empties() && m_parent)
+        keepFirstRow(m_parent->item());
 }
 
-void MultiTreeCtrl::RowKeeper::keepFirstRow(MultiTreeCtrl& tree, HTREEITEM emptied)
+void MultiTreeCtrl::RowKeeper::keepFirstRow(HTREEITEM emptied) const
 {
-    const HTREEITEM first = tree.next(TVGN_FIRSTVISIBLE);
-    if (first && tree.isBelow(first, emptied))
-        tree.ask(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(emptied));
+    const View& view = m_state->view;
+    const HTREEITEM first = view.next(TVGN_FIRSTVISIBLE);
+    if (first && view.isBelow(first, emptied))
+        view.ask(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(emptied));
 }
 
-MultiTreeCtrl::RowKeeper::Change MultiTreeCtrl::RowKeeper::changeBy(UINT message, LPARAM lParam)
+MultiTreeCtrl::RowKeeper::Change MultiTreeCtrl::RowKeeper::changeBy(const Message& message)
 {
-    if (!lParam)
+    if (message.id == WM_SETREDRAW && message.wParam)
+        return Change::LaidOut;
+    if (!message.lParam)
         return Change::None;
-    switch (message) {
+    switch (message.id) {
     case WM_KEYDOWN:
     case WM_CHAR:
     case WM_LBUTTONDOWN:
@@ -42,7 +45,7 @@ MultiTreeCtrl::RowKeeper::Change MultiTreeCtrl::RowKeeper::changeBy(UINT message
         return Change::Rearranged;
     case TVM_SETITEMW:
     case TVM_SETITEMA: {
-        const auto& item = *reinterpret_cast<const TVITEM*>(lParam);
+        const TVITEM& item = message.changes();
         const bool opens = (item.mask & TVIF_STATE) && (item.stateMask & TVIS_EXPANDED);
         return opens ? Change::State : Change::None;
     }
@@ -61,28 +64,24 @@ MultiTreeCtrl::RowKeeper::Change MultiTreeCtrl::RowKeeper::changeBy(UINT message
     }
 }
 
-HTREEITEM MultiTreeCtrl::RowKeeper::parentOf(const MultiTreeCtrl& tree, UINT message, LPARAM lParam)
+HTREEITEM MultiTreeCtrl::RowKeeper::parentOf(const View& view, const Message& message)
 {
-    HTREEITEM parent = nullptr;
-    switch (message) {
+    HTREEITEM parent = message.item();
+    switch (message.id) {
     case TVM_SORTCHILDRENCB:
-        parent = reinterpret_cast<const TVSORTCB*>(lParam)->hParent;
+        parent = reinterpret_cast<const TVSORTCB*>(message.lParam)->hParent;
         break;
     case TVM_SETITEMW:
     case TVM_SETITEMA:
-        parent = reinterpret_cast<const TVITEM*>(lParam)->hItem;
+        parent = message.changes().hItem;
         break;
     case TVM_INSERTITEMW:
     case TVM_INSERTITEMA:
-        parent = reinterpret_cast<const TVINSERTSTRUCT*>(lParam)->hParent;
+        parent = message.insertion().hParent;
         break;
-    case TVM_DELETEITEM: {
-        auto* const item = reinterpret_cast<HTREEITEM>(lParam);
-        parent = item == TVI_ROOT ? nullptr : tree.next(TVGN_PARENT, item);
+    case TVM_DELETEITEM:
+        parent = parent == TVI_ROOT ? nullptr : view.next(TVGN_PARENT, parent);
         break;
-    }
-    default:
-        parent = reinterpret_cast<HTREEITEM>(lParam);
     }
     return parent == TVI_ROOT ? nullptr : parent;
 }
@@ -96,37 +95,38 @@ bool MultiTreeCtrl::RowKeeper::disordersRows() const
     const HTREEITEM parent = m_parent->item();
     if (!parent)
         return true; // gone on the way: from where on the tree view has counted is not known
-    const MultiTreeCtrl& tree = *m_state->tree;
+    const View& view = m_state->view;
     switch (m_change) {
     case Change::Scrolled:
     case Change::Input:
     case Change::LaidOut:
         return false;
     case Change::Inserted:
-        return tree.isOpen(parent) && !tree.isDisplayed(parent);
+        return view.isOpen(parent) && !view.isDisplayed(parent);
     case Change::Deleted:
-        return !tree.isOpen(parent) || !tree.isDisplayed(parent);
+        return !view.isOpen(parent) || !view.isDisplayed(parent);
     case Change::State:
-        return tree.isOpen(parent) != m_wasOpen && tree.next(TVGN_CHILD, parent);
+        return view.isOpen(parent) != m_wasOpen && view.next(TVGN_CHILD, parent);
     default:
-        return !tree.isDisplayed(parent);
+        return !view.isDisplayed(parent);
     }
 }
 
 /// For the caret the tree view does not do what TVGN_FIRSTVISIBLE asks for.
-void MultiTreeCtrl::RowKeeper::showFirst(const MultiTreeCtrl& tree, HTREEITEM item)
+void MultiTreeCtrl::RowKeeper::showFirst(HTREEITEM item) const
 {
+    const View& view = m_state->view;
     const auto begin = [&](HTREEITEM row) {
-        tree.ask(TVM_SELECTITEM, TVGN_FIRSTVISIBLE, reinterpret_cast<LPARAM>(row));
+        view.ask(TVM_SELECTITEM, TVGN_FIRSTVISIBLE, reinterpret_cast<LPARAM>(row));
     };
-    if (item != tree.caret()) {
+    if (item != view.caret()) {
         begin(item);
-    } else if (const HTREEITEM before = tree.next(TVGN_PREVIOUSVISIBLE, item)) {
+    } else if (const HTREEITEM before = view.next(TVGN_PREVIOUSVISIBLE, item)) {
         begin(before);
-        tree.ask(WM_VSCROLL, SB_LINEDOWN);
+        view.ask(WM_VSCROLL, SB_LINEDOWN);
     } else {
-        tree.ask(WM_VSCROLL, SB_TOP);
-        tree.ask(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item));
+        view.ask(WM_VSCROLL, SB_TOP);
+        view.ask(TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item));
     }
 }
 
@@ -136,12 +136,12 @@ bool MultiTreeCtrl::RowKeeper::repairsFirstRow() const
 {
     if (m_change == Change::None || (m_change == Change::Inserted && !m_parent))
         return false;
-    const MultiTreeCtrl& tree = *m_state->tree;
-    const HTREEITEM first = tree.next(TVGN_FIRSTVISIBLE);
-    const HTREEITEM displayed = first ? tree.lastDisplayedOnTheWayTo(first) : tree.next(TVGN_ROOT);
+    const View& view = m_state->view;
+    const HTREEITEM first = view.next(TVGN_FIRSTVISIBLE);
+    const HTREEITEM displayed = first ? view.displayedFor(first) : view.next(TVGN_ROOT);
     if (displayed == first)
         return false;
-    showFirst(tree, displayed);
+    showFirst(displayed);
     return true;
 }
 
@@ -158,11 +158,11 @@ void MultiTreeCtrl::RowKeeper::restore() const
         return;
     // A message that is still under way may count from a hidden item once more.
     state.rowsLost = !outermost;
-    state.tree->ask(WM_SETREDRAW, TRUE);
+    state.view.ask(WM_SETREDRAW, TRUE);
 }
 
-MultiTreeCtrl::HiddenItemNote::~HiddenItemNote()
+MultiTreeCtrl::RowKeeper::HiddenItem::~HiddenItem()
 {
-    if (platform().losesRows && m_state->usable() && m_item && !m_state->tree->isDisplayed(m_item.item()))
+    if (platform().losesRows && m_state->usable() && m_item && !m_state->view.isDisplayed(m_item.item()))
         m_state->rowsLost = true;
 }

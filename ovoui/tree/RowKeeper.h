@@ -3,6 +3,7 @@
 #pragma once
 
 #include <ovoui/tree/ItemTracker.h>
+#include <ovoui/tree/Message.h>
 #include <ovoui/tree/TreeState.h>
 
 #include <optional>
@@ -12,7 +13,9 @@
 class MultiTreeCtrl::RowKeeper
 {
 public:
-    RowKeeper(MultiTreeCtrl& tree, UINT message, WPARAM wParam, LPARAM lParam);
+    class HiddenItem;
+
+    RowKeeper(MultiTreeCtrl& tree, const Message& message);
 
     /// To be called after the message while the tree is usable.
     void restore() const;
@@ -30,12 +33,12 @@ private:
         LaidOut   ///< after redrawing was held
     };
 
-    static Change changeBy(UINT message, LPARAM lParam);
-    static HTREEITEM parentOf(const MultiTreeCtrl& tree, UINT message, LPARAM lParam);
-    void keepFirstRow(MultiTreeCtrl& tree, HTREEITEM emptied);
+    static Change changeBy(const Message& message);
+    static HTREEITEM parentOf(const View& view, const Message& message);
+    void keepFirstRow(HTREEITEM emptied) const;
     bool disordersRows() const;
     bool repairsFirstRow() const;
-    static void showFirst(const MultiTreeCtrl& tree, HTREEITEM item);
+    void showFirst(HTREEITEM item) const;
 
     const std::shared_ptr<State> m_state;
     const Change m_change;
@@ -45,17 +48,17 @@ private:
 
 /// Notes in the end that an item is hidden which the tree view is opening or closing: it takes the item for a
 /// displayed one.
-class MultiTreeCtrl::HiddenItemNote
+class MultiTreeCtrl::RowKeeper::HiddenItem
 {
 public:
-    HiddenItemNote(MultiTreeCtrl& tree, HTREEITEM item)
+    HiddenItem(MultiTreeCtrl& tree, HTREEITEM item)
         : m_item(tree.m_state, item)
         , m_state(tree.m_state)
     {
     }
-    ~HiddenItemNote();
-    HiddenItemNote(const HiddenItemNote&) = delete;
-    HiddenItemNote& operator=(const HiddenItemNote&) = delete;
+    ~HiddenItem();
+    HiddenItem(const HiddenItem&) = delete;
+    HiddenItem& operator=(const HiddenItem&) = delete;
 
 private:
     const Tracker m_item;

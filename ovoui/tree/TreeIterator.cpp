@@ -1,5 +1,5 @@
 #include <ovoui/tree/ItemTracker.h>
-#include <ovoui/tree/TreeState.h>
+#include <ovoui/tree/Selection.h>
 
 /// The item that an iterator stands at, and its node. When the item is deleted, it is the item to go on with.
 class MultiTreeCtrl::iterator::Place
@@ -8,7 +8,7 @@ public:
     Place(std::shared_ptr<State> state, HTREEITEM item)
         : m_state(std::move(state))
         , m_tracker(m_state, item, Tracker::WhenDeleted::NextInTree)
-        , m_node(m_state->tree->node(item))
+        , m_node(m_state->view.node(item))
     {
     }
     Place(const Place& other)
@@ -28,7 +28,7 @@ public:
     void moveTo(HTREEITEM item)
     {
         m_tracker.moveTo(item);
-        m_node = m_state->tree->node(item);
+        m_node = m_state->view.node(item);
         m_lost = false;
     }
 
@@ -101,10 +101,11 @@ MultiTreeCtrl::iterator& MultiTreeCtrl::iterator::operator++()
 /// The item to go to from here.
 HTREEITEM MultiTreeCtrl::iterator::behindPlace() const
 {
+    const State& state = *m_tree->m_state;
     const HTREEITEM at = m_place->item();
     if (m_place->lost())
-        return m_selectedOnly ? m_tree->selectedFrom(at) : at;
-    return m_selectedOnly ? m_tree->nextSelected(at) : m_tree->nextItem(at, true);
+        return m_selectedOnly ? state.selection->from(at) : at;
+    return m_selectedOnly ? state.selection->after(at) : state.view.nextItem(at, true);
 }
 
 MultiTreeCtrl::iterator MultiTreeCtrl::iterator::operator++(int)
@@ -125,4 +126,26 @@ MultiTreeCtrl::iterator& MultiTreeCtrl::iterator::setSelect(bool selected)
 {
     m_selectedOnly = selected;
     return *this;
+}
+
+// The control's operations
+
+MultiTreeCtrl::iterator MultiTreeCtrl::begin(bool selectedOnly) const
+{
+    return {*this, selectedOnly ? m_state->selection->first() : m_state->view.first(), selectedOnly};
+}
+
+MultiTreeCtrl::iterator MultiTreeCtrl::beginAll() const
+{
+    return begin(false);
+}
+
+MultiTreeCtrl::iterator MultiTreeCtrl::beginSelected() const
+{
+    return begin(true);
+}
+
+MultiTreeCtrl::iterator MultiTreeCtrl::end() const
+{
+    return {*this, nullptr, false};
 }

@@ -1,4 +1,5 @@
 #include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/Insertion.h>
 #include <ovoui/tree/core/DropEffect.h>
 
 MultiTreeCtrl::Node::Node() = default;
@@ -12,7 +13,7 @@ HTREEITEM MultiTreeCtrl::Node::insert(MultiTreeCtrl& tree, HTREEITEM parent, HTR
     addRef();
     HTREEITEM item = nullptr;
     try {
-        item = tree.insertItem(*this, parent, after);
+        item = tree.m_state->insertion->insertItem(*this, parent, after);
     } catch (...) {
         giveBack();
         throw;

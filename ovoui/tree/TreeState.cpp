@@ -1,42 +1,72 @@
+// Where the parts of the tree are put together.
 #include <ovoui/tree/TreeState.h>
 
+#include <ovoui/tree/Commands.h>
+#include <ovoui/tree/Deletion.h>
+#include <ovoui/tree/Dropping.h>
+#include <ovoui/tree/Expansion.h>
+#include <ovoui/tree/Insertion.h>
 #include <ovoui/tree/ItemTracker.h>
+#include <ovoui/tree/Keyboard.h>
+#include <ovoui/tree/LabelEdit.h>
+#include <ovoui/tree/Mouse.h>
+#include <ovoui/tree/Selection.h>
 
-void MultiTreeCtrl::State::structureChanged()
+// The label editor is closed before anything is deleted; children go before what was postponed.
+MultiTreeCtrl::State::State(MultiTreeCtrl& owner)
+    : tree(&owner)
+    , view(*this)
+    , labelEdit(std::make_unique<LabelEdit>(*this))
+    , selection(std::make_unique<Selection>(*this))
+    , insertion(std::make_unique<Insertion>(*this))
+    , mouse(std::make_unique<Mouse>(*this))
+    , keyboard(std::make_unique<Keyboard>(*this))
+    , expansion(std::make_unique<Expansion>(*this))
+    , deletion(std::make_unique<Deletion>(*this))
+    , dropping(std::make_unique<Dropping>(*this))
+    , commands(std::make_unique<Commands>(*this))
+    , listeners{labelEdit.get(), selection.get(), insertion.get(), mouse.get(),
+                expansion.get(), deletion.get(),  dropping.get()}
 {
-    ++structure;
-    appended = nullptr;
-    selection.disturb();
+}
+
+MultiTreeCtrl::State::~State() = default;
+
+std::vector<HTREEITEM> MultiTreeCtrl::State::selectedItems() const
+{
+    return selection->items();
+}
+
+std::vector<OVO::Handle<MultiTreeCtrl::Node>> MultiTreeCtrl::State::selectedNodes() const
+{
+    return selection->nodes();
 }
 
 void MultiTreeCtrl::State::forgetItem(HTREEITEM item)
 {
-    structureChanged();
-    selection.drop(item);
-    children.forgetAll();
-    std::erase_if(postponed, [item](const Postponed& each) { return each.item == item; });
-    if (edited == item)
-        edited = nullptr;
-    if (editAgain == item)
-        editAgain = nullptr;
-    if (countedItem == item)
-        countedItem = nullptr;
+    ++structure;
+    std::erase_if(doomed, [item](const Doomed& each) { return each.item == item; });
+    if (tree)
+        for (Concern* concern : listeners)
+            concern->itemGoes(item);
     for (ItemWatcher* watcher : watchers)
         watcher->itemGoes(item);
 }
 
 void MultiTreeCtrl::State::forgetAll()
 {
-    structureChanged();
-    selection.clear();
-    children.forgetAll();
-    postponed.clear();
-    edited = nullptr;
-    editAgain = nullptr;
+    ++structure;
+    doomed.clear();
     redraws = true;
     rowsLost = false;
-    markShown = false;
-    countedItem = nullptr;
+    for (Concern* concern : listeners)
+        concern->allGo();
     for (ItemWatcher* watcher : watchers)
         watcher->allGo();
+}
+
+void MultiTreeCtrl::State::takeOver()
+{
+    for (Concern* concern : listeners)
+        concern->takesOver();
 }

@@ -1,75 +1,66 @@
-/// Not exported: what the tree keeps beside its documented fields. It outlives the control while a call into
-/// the host's code is under way.
+/// Not exported: what the tree keeps beside the fields of its class. It outlives the control while a call
+/// into the host's code is under way.
 #pragma once
 
-#include <ovoui/tree/ChildOrders.h>
 #include <ovoui/tree/MultiTreeCtrl.h>
 #include <ovoui/tree/PlatformHolds.h>
-#include <ovoui/tree/SelectionRecord.h>
+#include <ovoui/tree/View.h>
 
-#include <utility>
+#include <memory>
 #include <vector>
 
 struct MultiTreeCtrl::State
 {
-    explicit State(MultiTreeCtrl& owner)
-        : tree(&owner)
-    {
-    }
+    explicit State(MultiTreeCtrl& owner);
+    ~State();
 
     /// Whether the control and its window are still there.
-    bool usable() const { return tree && tree->isUsable(); }
+    bool usable() const { return tree && tree->m_hWnd && !closing; }
+
+    std::vector<HTREEITEM> selectedItems() const; ///< in no order
+    /// Handles to the selected nodes, in the order of the tree.
+    std::vector<OVO::Handle<Node>> selectedNodes() const;
 
     /// Nothing is kept of an item that the tree view is about to delete.
     void forgetItem(HTREEITEM item);
     /// The window is gone.
     void forgetAll();
-    /// Something about the order or number of items is different.
-    void structureChanged();
+    /// The control has taken over a tree view that may have items already.
+    void takeOver();
 
     MultiTreeCtrl* tree;  ///< null once it is destroyed
     bool closing = false; ///< its destructor runs: the host's part of it is gone
+    const View view;
 
-    // What is selected (TreeSelection.cpp, TreeWalk.cpp)
-    ovoui::tree::SelectionRecord selection;
-    ovoui::tree::SelectionOrder order;
+    // The concerns
+    const std::unique_ptr<LabelEdit> labelEdit;
+    const std::unique_ptr<Selection> selection;
+    const std::unique_ptr<Insertion> insertion;
+    const std::unique_ptr<Mouse> mouse;
+    const std::unique_ptr<Keyboard> keyboard;
+    const std::unique_ptr<Expansion> expansion;
+    const std::unique_ptr<Deletion> deletion;
+    const std::unique_ptr<Dropping> dropping;
+    const std::unique_ptr<Commands> commands;
+    const std::vector<Concern*> listeners; ///< those that hear of messages and items, in this order
 
-    // Where children go (TreeInsertion.cpp)
-    bool halves = false; ///< the host keeps sorted children in order
-    ovoui::tree::ChildOrders children;
-    HTREEITEM appendedTo = nullptr; ///< the parent of the last item that was appended
-    HTREEITEM appended = nullptr;   ///< that item; null when others may have come behind it
-
-    // Calls of the tree view's own procedure (TreeGate.cpp)
+    // Calls of the tree view's own procedure (Gate.cpp)
     int nativeCalls = 0;
     std::vector<OVO::Handle<Node>> released; ///< nodes of deleted items, to be let go when the call is over
     ovoui::tree::PlatformHolds holds;        ///< what the tree view goes on working with
     bool redraws = true;                     ///< as WM_SETREDRAW was last told
-    bool rowsLost = false;                   ///< the rows are out of order (RowKeeper)
+    bool rowsLost = false;                   ///< the rows are out of order (RowKeeper.cpp)
 
-    // Items whose nodes were let go already, to be deleted when the tree view has finished (TreeDeleting.cpp)
-    struct Postponed
+    // Items whose nodes were let go already, to be deleted when the tree view has finished (Deletion.cpp)
+    struct Doomed
     {
         HTREEITEM item;
         bool parentClosed; ///< the parent's has-children value is the node's business
     };
-    std::vector<Postponed> postponed;
+    std::vector<Doomed> doomed;
 
-    /// Those who want to hear of every deleted item, the last come last.
+    /// Those who want to hear of every deleted item for a while, the last come last.
     std::vector<ItemWatcher*> watchers;
-
-    // Label editing (TreeLabelEdit.cpp)
-    HTREEITEM edited = nullptr; ///< while its editor is open
-    HTREEITEM editAgain = nullptr;
-
-    // Command routing (TreeCommands.cpp): what the parent is being asked
-    std::vector<std::pair<UINT, int>> asking;
-
-    // Drop marks (TreeDrop.cpp)
-    bool markShown = false;
-    HTREEITEM countedItem = nullptr; ///< the item whose place among its siblings was last counted
-    int countedPlace = 0;
-    unsigned countedVersion = 0; ///< `structure` at that time
 
     unsigned structure = 0; ///< grows with every item that comes, goes or changes its place
 };

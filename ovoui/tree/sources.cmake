@@ -1,7 +1,10 @@
 # The multi-selection tree.
 set(tree_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/ClickRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/DropEffect.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/EdgeScroll.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ExpansionRule.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/KeyRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TreePath.cpp)
 
 if(NOT WIN32)
@@ -14,36 +17,38 @@ endif()
 target_sources(ovoui PRIVATE
   ${tree_core}
   ${CMAKE_CURRENT_LIST_DIR}/ChildWalk.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Commands.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ContextMenu.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Deletion.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DragDetector.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DropMenu.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DropTarget.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Dropping.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Erasing.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Expansion.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Gate.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Inserter.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Insertion.cpp
   ${CMAKE_CURRENT_LIST_DIR}/InsertionPoint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ItemTracker.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Keyboard.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/LabelEdit.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/LayoutHold.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Mouse.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MultiTreeCtrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ParentNotificationFilter.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Paste.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Paths.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PlainText.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/Platform.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RedrawHold.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Refresh.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RowKeeper.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SelectedItems.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Selection.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SelectionRecord.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeCommands.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeContextMenu.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeDeleting.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeDrop.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeErasing.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeExpansion.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeGate.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeInsertion.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Tips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeIterator.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeKeys.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeLabelEdit.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeMouse.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeNode.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreePaste.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreePaths.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeRefresh.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeSelection.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeState.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeTips.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/TreeWalk.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/UnreportedNodes.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/View.cpp)

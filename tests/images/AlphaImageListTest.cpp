@@ -15,6 +15,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <vector>
 
 using namespace ovotest;
 
@@ -471,5 +472,18 @@ TEST(AlphaImageListBitmap, IsATopDownDibWithThePixelsAsTheyAre)
     EXPECT_EQ(pixels[14], 0x01FF0000u) << "not premultiplied";
     EXPECT_EQ(g_headerSize, 44u) << "with one entry of a colour table";
     EXPECT_EQ(g_height, -3);
+    ::DeleteObject(bitmap);
+}
+
+TEST(AlphaImageListBitmap, ThatIsTooLargeForADibIsNone)
+{
+    const GdiPlusSession gdiPlus;
+    // GDI+ takes the size on trust: only the first row is there.
+    constexpr INT kSide = 0x8000;
+    std::vector<BYTE> row(kSide * 4);
+    Gdiplus::Bitmap picture(kSide, kSide + 1, kSide * 4, PixelFormat32bppARGB, row.data());
+    ASSERT_EQ(picture.GetLastStatus(), Gdiplus::Ok);
+    const HBITMAP bitmap = CAlphaImageList::GetHBitmap(picture);
+    EXPECT_EQ(bitmap, nullptr);
     ::DeleteObject(bitmap);
 }

@@ -151,6 +151,26 @@ TEST(TreeExpansion, AForeignExceptionPassesOnAndTheTreeGoesOnWorking)
     EXPECT_EQ(scene.all(), (Names{"a", "x", "b"}));
 }
 
+TEST(TreeExpansion, DeletionsThatHaveToWaitAreCarriedOutAfterAForeignExceptionToo)
+{
+    Scene scene{{"a", "b", "c"}};
+    TestNode& a = folder(scene, "a", {"x"});
+    a.expanding = [&](MultiTreeCtrl& tree) -> bool {
+        tree.DeleteItem(scene.item("b"));
+        throw 42;
+    };
+    EXPECT_THROW(scene.tree.Expand(scene.item("a"), TVE_EXPAND), int);
+    EXPECT_EQ(scene.tree.GetCount(), 2u);
+    a.expanding = [&](MultiTreeCtrl& tree) {
+        tree.DeleteItem(scene.item("c"));
+        return false;
+    };
+    scene.tree.SetItemState(scene.item("a"), 0, TVIS_EXPANDED);
+    scene.tree.Expand(scene.item("a"), TVE_EXPAND);
+    EXPECT_EQ(scene.tree.GetCount(), 1u);
+    EXPECT_EQ(TestNode::live(), 1);
+}
+
 TEST(TreeExpansion, AnErrorWhileClosingIsReportedAndTheChildrenGo)
 {
     Scene scene{{"a"}};

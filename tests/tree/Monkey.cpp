@@ -1,7 +1,7 @@
 #include "Monkey.h"
 
 #include <ovocor/OvoError.h>
-#include <ovoui/tree/Platform.h>
+#include <ovoui/frame/Platform.h>
 
 #include <algorithm>
 
@@ -31,7 +31,7 @@ Monkey::Monkey(unsigned seed, int every)
     if (m_halves)
         m_tree->setSortedInsertion(MultiTreeCtrl::SortedInsertion::Halve);
     ::GetKeyboardState(m_keys);
-    if (ovoui::tree::platform().losesRows) // Wine
+    if (ovoui::platform().losesRows) // Wine
         m_still = std::make_unique<StillWindows>();
 }
 

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using namespace ovotest;
 
 TEST(TreeRules, ADragOfASelectedItemKeepsTheAnchor)
@@ -139,20 +141,23 @@ TEST(TreeRules, TheButtonOfADragIsTheOneThatItCameInWithAtEveryEdge)
         scene.tree.ClientToScreen(&point);
         return POINTL{point.x, point.y};
     };
+    // At the edge, where the tree may scroll, and in the middle.
     const auto comeIn = [&](DWORD keys, CPoint point) {
-        DWORD effect = DROPEFFECT_COPY;
-        target.DragEnter(&source.m_xDataObject, keys, place(point), &effect);
-        effect = DROPEFFECT_COPY;
-        target.DragOver(keys, place(client.CenterPoint()), &effect);
+        DWORD atEdge = DROPEFFECT_COPY;
+        target.DragEnter(&source.m_xDataObject, keys, place(point), &atEdge);
+        DWORD inside = DROPEFFECT_COPY;
+        target.DragOver(keys, place(client.CenterPoint()), &inside);
         target.DragLeave();
-        return effect;
+        return std::pair(atEdge & ~DROPEFFECT_SCROLL, inside);
     };
+    const std::pair<DWORD, DWORD> copies(DROPEFFECT_COPY, DROPEFFECT_COPY);
+    const std::pair<DWORD, DWORD> refuses(DROPEFFECT_NONE, DROPEFFECT_NONE);
     const CPoint middle = client.CenterPoint();
     for (const CPoint edge : {CPoint(middle.x, client.top + 1), CPoint(middle.x, client.bottom - 2),
                               CPoint(client.left + 1, middle.y), CPoint(client.right - 2, middle.y)}) {
         // Only the right button makes something of what the node allows without wanting it.
-        EXPECT_EQ(comeIn(MK_RBUTTON, edge), DWORD{DROPEFFECT_COPY}) << edge.x << ' ' << edge.y;
-        EXPECT_EQ(comeIn(MK_LBUTTON, edge), DWORD{DROPEFFECT_NONE}) << edge.x << ' ' << edge.y;
-        EXPECT_EQ(comeIn(MK_RBUTTON, edge), DWORD{DROPEFFECT_COPY}) << edge.x << ' ' << edge.y;
+        EXPECT_EQ(comeIn(MK_RBUTTON, edge), copies) << edge.x << ' ' << edge.y;
+        EXPECT_EQ(comeIn(MK_LBUTTON, edge), refuses) << edge.x << ' ' << edge.y;
+        EXPECT_EQ(comeIn(MK_RBUTTON, edge), copies) << edge.x << ' ' << edge.y;
     }
 }

@@ -1,10 +1,11 @@
 // Walks over a tree whose rows, items or window change meanwhile.
 #include "TreeScene.h"
 
-#include <ovoui/tree/Platform.h>
+#include "support/PlatformSetting.h"
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 using namespace ovotest;
@@ -42,12 +43,10 @@ protected:
     OrderOfTheTree()
     {
         if (!GetParam())
-            ovoui::tree::platform().losesRows = false;
+            setting->losesRows = false;
     }
-    ~OrderOfTheTree() override { ovoui::tree::platform() = m_before; }
 
-private:
-    const ovoui::tree::Platform m_before = ovoui::tree::platform();
+    PlatformSetting setting;
 };
 
 TEST_P(OrderOfTheTree, IsThatOfTheSelectedItemsWhateverIsHidden)
@@ -117,4 +116,85 @@ TEST(TreeChanges, AnIteratorEndsWithTheTree)
     EXPECT_FALSE(at == end);
     ++at;
     EXPECT_TRUE(at == end);
+}
+
+// The selection of many
+
+namespace
+{
+
+/// A tree whose host acts when the tree view has selected an item.
+class ActingTree : public TestTree
+{
+public:
+    std::function<void(HTREEITEM)> selecting;
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const LRESULT result = TestTree::DefWindowProc(message, wParam, lParam);
+        if (message != TVM_SETITEM || !selecting)
+            return result;
+        const auto& change = *reinterpret_cast<const TVITEM*>(lParam);
+        if (change.state & change.stateMask & TVIS_SELECTED)
+            selecting(change.hItem);
+        return result;
+    }
+};
+
+class SelectingMany : public ::testing::Test
+{
+protected:
+    SelectingMany()
+    {
+        tree.Create(Scene::kStyle, CRect(0, 0, 200, 200), &parent, 1);
+        for (const char* name : {"a", "b", "c", "d"})
+            items.push_back(append(name));
+    }
+    ~SelectingMany() override { tree.DestroyWindow(); }
+
+    HTREEITEM append(const char* name) { return (new TestNode(name))->insert(tree, TVI_ROOT, TVI_LAST); }
+
+    RecordingParent parent;
+    ActingTree tree;
+    std::vector<HTREEITEM> items;
+};
+
+} // namespace
+
+TEST_F(SelectingMany, AllGoesOnBehindAnItemThatGoes)
+{
+    tree.selecting = [&](HTREEITEM item) {
+        if (item == items[1])
+            tree.DeleteItem(item);
+    };
+    tree.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL);
+    EXPECT_EQ(walked(tree, true), (Names{"a", "c", "d"}));
+    EXPECT_EQ(walked(tree, false), (Names{"a", "c", "d"}));
+}
+
+TEST_F(SelectingMany, ARangeLeavesOutAnItemThatHasTakenThePlaceOfAnother)
+{
+    tree.selecting = [&](HTREEITEM item) {
+        if (item != items[0])
+            return;
+        tree.DeleteItem(items[2]);
+        append("n"); // may get the handle of the one deleted
+    };
+    tree.selectRange(items[0], items[3]);
+    EXPECT_EQ(walked(tree, true), (Names{"a", "b", "d"}));
+}
+
+TEST(TreeChanges, APathCountsTheItemsThatAreThere)
+{
+    Scene scene;
+    for (int i = 0; i < 3; ++i)
+        scene.add("x");
+    const HTREEITEM first = scene.tree.GetRootItem();
+    static_cast<TestNode&>(*scene.tree.node(first)).texting = [&] {
+        scene.tree.DeleteItem(first);
+        return std::wstring(L"x");
+    };
+    scene.tree.SelectItem(scene.tree.GetNextSiblingItem(scene.tree.GetNextSiblingItem(first)));
+    EXPECT_EQ(scene.tree.selectedPath(), L"/x\\#2");
 }

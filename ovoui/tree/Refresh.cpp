@@ -1,4 +1,5 @@
-// Bringing items up to date with their nodes.
+#include <ovoui/tree/Refresh.h>
+
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/RedrawHold.h>
@@ -12,6 +13,8 @@ namespace
 constexpr UINT kNodesState = TVIS_CUT | TVIS_DROPHILITED | TVIS_BOLD;
 
 } // namespace
+
+// The control's operations and handler
 
 void MultiTreeCtrl::updateUI(Node& node)
 {
@@ -33,7 +36,7 @@ void MultiTreeCtrl::updateUI(Node& node)
     if (!host.usable() || node.hTreeItem() != item) // the questions above have changed the tree
         return;
     DefWindowProc(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changes));
-    if (host.usable() && node.hTreeItem() == item && item == caret())
+    if (host.usable() && node.hTreeItem() == item && item == m_state->view.caret())
         notifyTvnSelchanged(TVC_UNKNOWN, item, item, CPoint(0, 0));
 }
 
@@ -43,41 +46,46 @@ void MultiTreeCtrl::updateUI(HTREEITEM item)
         updateUI(*node);
 }
 
-/// The redraw command: every node looks at what it stands for, and some go.
 void MultiTreeCtrl::OnRedraw()
 {
     const HostCalls host(*this);
     const ovoui::tree::RedrawHold hold(m_hWnd);
-    host.report([&] {
-        std::unordered_set<const Node*> seen;
-        std::vector<OVO::Handle<Node>> held; // so that no new node takes the place of one seen
-        Tracker item(m_state, firstItem(), Tracker::WhenDeleted::NextInTree);
-        while (host.usable() && item) {
-            const OVO::Handle<Node> node = this->node(item.item());
-            // A node that inserts itself anew would never end.
-            const bool known = !node || !seen.insert(node.get()).second;
-            const bool goesInto = known || refreshItem(*node, item.item());
-            if (node)
-                held.push_back(node);
-            if (!host.usable())
-                return;
-            // Unless the tracker had to go on by itself, because the item is gone.
-            item.moveTo(item.moved() ? item.item() : nextItem(item.item(), goesInto));
-        }
-    });
+    host.report([this] { Refresh(*this).all(); });
 }
 
-/// Whether the item is still there.
-bool MultiTreeCtrl::refreshItem(Node& node, HTREEITEM item)
+// Refreshing
+
+void MultiTreeCtrl::Refresh::all() const
 {
-    const HostCalls host(*this);
-    const Tracker refreshed(m_state, item);
+    const HostCalls host(m_tree);
+    const std::shared_ptr<State> state = m_tree.m_state;
+    std::unordered_set<const Node*> seen;
+    std::vector<OVO::Handle<Node>> held; // so that no new node takes the place of one seen
+    Tracker item(state, state->view.first(), Tracker::WhenDeleted::NextInTree);
+    while (host.usable() && item) {
+        const OVO::Handle<Node> node = state->view.node(item.item());
+        // A node that inserts itself anew would never end.
+        const bool known = !node || !seen.insert(node.get()).second;
+        const bool goesInto = known || refresh(*node, item.item());
+        if (node)
+            held.push_back(node);
+        if (!host.usable())
+            return;
+        // Unless the tracker had to go on by itself, because the item is gone.
+        item.moveTo(item.moved() ? item.item() : state->view.nextItem(item.item(), goesInto));
+    }
+}
+
+bool MultiTreeCtrl::Refresh::refresh(Node& node, HTREEITEM item) const
+{
+    const HostCalls host(m_tree);
+    const Tracker refreshed(m_tree.m_state, item);
     const bool stays = node.refresh();
     if (!host.usable() || !refreshed)
         return false;
     if (stays)
-        updateUI(node);
+        m_tree.updateUI(node);
     else
-        deleteItem(item);
+        m_tree.m_state->view.remove(item);
     return stays;
 }

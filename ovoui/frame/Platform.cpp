@@ -1,16 +1,16 @@
-#include <ovoui/tree/Platform.h>
+#include <ovoui/frame/Platform.h>
 
 #include <windows.h>
 
-namespace ovoui::tree
+namespace ovoui
 {
 
 Platform& platform()
 {
     static const bool wine =
         ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    static Platform current{wine, wine, wine, wine};
+    static Platform current{wine, wine, wine, wine, wine};
     return current;
 }
 
-} // namespace ovoui::tree
+} // namespace ovoui

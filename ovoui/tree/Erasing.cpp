@@ -1,4 +1,5 @@
-// Erasing the selected nodes, as the user wants it.
+#include <ovoui/tree/Erasing.h>
+
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ParentNotificationFilter.h>
 
@@ -8,18 +9,44 @@
 #include <ovocor/Text.h>
 #include <ovouires/resource.h>
 
+// The control's handler and operation
+
+void MultiTreeCtrl::eraseSelectedNodes()
+{
+    const HostCalls host(*this);
+    if (Erasing(*this).run() && host.usable())
+        notifyTvnSelchanged(TVC_UNKNOWN, nullptr, m_state->view.caret(), CPoint(0, 0));
+}
+
+/// The command: the whole is one gesture, and the parent hears of the new selection when it is over.
+void MultiTreeCtrl::OnEditDelete()
+{
+    const HostCalls host(*this);
+    const OVO::Handle<EVSubscriptionList<int>> gestures = m_gestures;
+    bool erased = false;
+    std::exception_ptr foreign;
+    gestures->notify(kGestureDelete);
+    host.reportKeeping(foreign, [&] { erased = host.usable() && Erasing(*this).run(); });
+    gestures->notify(0);
+    if (erased && host.usable())
+        notifyTvnSelchanged(TVC_UNKNOWN, nullptr, m_state->view.caret(), CPoint(0, 0));
+    ovoui::tree::raise(foreign);
+}
+
+// Erasing
+
 /// Deleting counts as a drag without an effect: nodes are told of its beginning, and of its end however it
 /// comes.
-class MultiTreeCtrl::ErasingDrag
+class MultiTreeCtrl::Erasing::Drag
 {
 public:
-    ErasingDrag(MultiTreeCtrl& tree, const std::vector<OVO::Handle<Node>>& nodes)
+    Drag(MultiTreeCtrl& tree, const Nodes& nodes)
         : m_state(tree.m_state)
         , m_nodes(nodes)
     {
     }
     /// What nodes raise here is of no interest: another exception is on its way.
-    ~ErasingDrag()
+    ~Drag()
     {
         while (m_ended < m_started)
             try {
@@ -27,8 +54,8 @@ public:
             } catch (...) {
             }
     }
-    ErasingDrag(const ErasingDrag&) = delete;
-    ErasingDrag& operator=(const ErasingDrag&) = delete;
+    Drag(const Drag&) = delete;
+    Drag& operator=(const Drag&) = delete;
 
     void start()
     {
@@ -52,53 +79,31 @@ private:
     }
 
     const std::shared_ptr<State> m_state;
-    const std::vector<OVO::Handle<Node>>& m_nodes;
+    const Nodes& m_nodes;
     std::size_t m_started = 0;
     std::size_t m_ended = 0;
 };
 
-void MultiTreeCtrl::eraseSelectedNodes()
-{
-    const HostCalls host(*this);
-    if (eraseSelection() && host.usable())
-        notifyTvnSelchanged(TVC_UNKNOWN, nullptr, caret(), CPoint(0, 0));
-}
-
-/// The command: the whole is one gesture, and the parent hears of the new selection when it is over.
-void MultiTreeCtrl::OnEditDelete()
-{
-    const HostCalls host(*this);
-    const OVO::Handle<EVSubscriptionList<int>> gestures = m_gestures;
-    bool erased = false;
-    std::exception_ptr foreign;
-    gestures->notify(kGestureDelete);
-    host.reportKeeping(foreign, [&] { erased = host.usable() && eraseSelection(); });
-    gestures->notify(0);
-    if (erased && host.usable())
-        notifyTvnSelchanged(TVC_UNKNOWN, nullptr, caret(), CPoint(0, 0));
-    ovoui::tree::raise(foreign);
-}
-
 /// Asks, and erases. False when there was nothing to erase, or the user did not want it.
-bool MultiTreeCtrl::eraseSelection()
+bool MultiTreeCtrl::Erasing::run() const
 {
-    const HostCalls host(*this);
-    std::vector<OVO::Handle<Node>> nodes = selectedNodes();
+    const HostCalls host(m_tree);
+    Nodes nodes = m_tree.m_state->selectedNodes();
     std::erase_if(nodes, [](const OVO::Handle<Node>& node) { return !node->canErase(); });
-    if (nodes.empty() || !host.usable() || !confirmsErasing(nodes) || !host.usable())
+    if (nodes.empty() || !host.usable() || !isConfirmed(nodes) || !host.usable())
         return false;
-    ErasingDrag drag(*this, nodes);
+    Drag drag(m_tree, nodes);
     drag.start();
     if (host.usable())
-        eraseNodes(nodes);
+        erase(nodes);
     drag.endAll();
     return true;
 }
 
-bool MultiTreeCtrl::confirmsErasing(const std::vector<OVO::Handle<Node>>& nodes)
+bool MultiTreeCtrl::Erasing::isConfirmed(const Nodes& nodes) const
 {
-    const HostCalls host(*this);
-    const std::wstring name = nodes.size() == 1 ? nodes.front()->text(*this) : std::wstring();
+    const HostCalls host(m_tree);
+    const std::wstring name = nodes.size() == 1 ? nodes.front()->text(m_tree) : std::wstring();
     if (!host.usable())
         return false;
     const std::wstring question =
@@ -106,21 +111,21 @@ bool MultiTreeCtrl::confirmsErasing(const std::vector<OVO::Handle<Node>>& nodes)
             ? stringPrintf(ovoui::resourceString(IDS_DELETE_ONE).c_str(), name.c_str())
             : stringPrintf(ovoui::resourceString(IDS_DELETE_MANY).c_str(), static_cast<int>(nodes.size()));
     const std::wstring caption = ovoui::resourceString(IDS_DELETE_CAPTION);
-    return OVOMessageBox(m_hWnd, question.c_str(), caption.c_str(), MB_YESNO | MB_ICONQUESTION, L"MsgWindow",
-                         0) == IDYES;
+    return OVOMessageBox(m_tree.m_hWnd, question.c_str(), caption.c_str(), MB_YESNO | MB_ICONQUESTION,
+                         L"MsgWindow", 0) == IDYES;
 }
 
-void MultiTreeCtrl::eraseNodes(const std::vector<OVO::Handle<Node>>& nodes)
+void MultiTreeCtrl::Erasing::erase(const Nodes& nodes) const
 {
-    const HostCalls host(*this);
+    const HostCalls host(m_tree);
     for (const OVO::Handle<Node>& node : nodes) {
         if (!host.usable())
             return;
-        const bool agreed = node->erase(*this);
+        const bool agreed = node->erase(m_tree);
         if (!host.usable() || !agreed || !node->hTreeItem())
             continue;
         // The caret may go from one deleted item to the next; the parent is told at the end.
-        const ovoui::tree::ParentNotificationFilter quiet(m_hWnd);
-        deleteItem(node->hTreeItem());
+        const ovoui::tree::ParentNotificationFilter quiet(m_tree.m_hWnd);
+        m_tree.m_state->view.remove(node->hTreeItem());
     }
 }

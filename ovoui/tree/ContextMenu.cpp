@@ -25,6 +25,19 @@ constexpr MenuLine kLines[] = {
     {ID_EDIT_SELECT_ALL, IDS_MENU_SELECT_ALL},
 };
 
+/// Below the caret's label, or in the corner of the tree, in screen coordinates.
+CPoint placeAt(CTreeCtrl& tree, HTREEITEM caret)
+{
+    CRect label;
+    if (caret) {
+        tree.EnsureVisible(caret);
+        tree.GetItemRect(caret, &label, TRUE);
+    }
+    CPoint place(label.left, label.bottom);
+    tree.ClientToScreen(&place);
+    return place;
+}
+
 } // namespace
 
 void MultiTreeCtrl::OnContextMenu(CWnd*, CPoint screen)
@@ -35,20 +48,7 @@ void MultiTreeCtrl::OnContextMenu(CWnd*, CPoint screen)
         menu.AppendMenu(line.text ? MF_STRING : MF_SEPARATOR, line.command,
                         line.text ? ovoui::resourceString(line.text).c_str() : nullptr);
     const bool keyboard = screen == CPoint(-1, -1);
-    const CPoint place = keyboard ? menuPlaceAtCaret() : screen;
+    const CPoint place = keyboard ? placeAt(*this, m_state->view.caret()) : screen;
     const UINT layout = (GetExStyle() & WS_EX_LAYOUTRTL) ? TPM_LAYOUTRTL : 0;
     menu.TrackPopupMenu(TPM_LEFTALIGN | TPM_RIGHTBUTTON | layout, place.x, place.y, this);
-}
-
-/// Below the caret's label, or in the corner of the tree, in screen coordinates.
-CPoint MultiTreeCtrl::menuPlaceAtCaret()
-{
-    CRect label;
-    if (const HTREEITEM item = caret()) {
-        EnsureVisible(item);
-        GetItemRect(item, &label, TRUE);
-    }
-    CPoint place(label.left, label.bottom);
-    ClientToScreen(&place);
-    return place;
 }

@@ -1,0 +1,41 @@
+/// Not exported to hosts: where one platform wants to be treated differently from another. Everything that
+/// the library does for the sake of Wine's controls stands behind these switches; with all of them off it
+/// does what is right on Windows. docs/wine.md says what of that is documented. Tests set the switches to try
+/// both sides.
+#pragma once
+
+#include <ovoui/export.h>
+
+namespace ovoui
+{
+
+/// What the platform does. All of it holds for Wine.
+struct Platform
+{
+    // The tree view
+
+    /// Behind the last sibling TVI_LAST is faster than that sibling's handle. Wine keeps the last sibling at
+    /// hand, but looks a handle up among all items of the tree; Windows walks over all siblings for TVI_LAST
+    /// and takes a handle as it is.
+    bool appendsFasterByMarker;
+
+    /// Changes in a closed item put the rows of all others out of order, until the tree view lays them out
+    /// anew; and items that are not displayed may become the first row.
+    bool losesRows;
+
+    /// Deleting the children of an item that is being closed crashes when the first row shown is among them.
+    bool losesFirstRow;
+
+    /// TVM_SETINSERTMARK without an item leaves the mark where it is.
+    bool keepsInsertMark;
+
+    // Edit controls
+
+    /// EM_SETRECT takes the control's margins and edge off the rectangle.
+    bool insetsFormatRect;
+};
+
+/// The platform that the process runs on, until a test changes it.
+OVOUI_API Platform& platform();
+
+} // namespace ovoui

@@ -1,0 +1,232 @@
+// The keyboard and the default action.
+#include <ovoui/tree/Keyboard.h>
+
+#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/ItemTracker.h>
+#include <ovoui/tree/Selection.h>
+
+#include <ovouires/resource.h>
+
+using namespace ovoui::tree;
+
+namespace
+{
+
+bool isDown(int key)
+{
+    return ::GetKeyState(key) < 0;
+}
+
+} // namespace
+
+// The control's handlers
+
+void MultiTreeCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    m_state->keyboard->keyDown(key, [=, this] { CTreeCtrl::OnKeyDown(key, repeat, flags); });
+}
+
+void MultiTreeCtrl::OnSysKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    m_state->keyboard->systemKeyDown(key, [=, this] { CTreeCtrl::OnSysKeyDown(key, repeat, flags); });
+}
+
+void MultiTreeCtrl::OnChar(UINT character, UINT repeat, UINT flags)
+{
+    m_state->keyboard->character(character, [=, this] { CTreeCtrl::OnChar(character, repeat, flags); });
+}
+
+UINT MultiTreeCtrl::OnGetDlgCode()
+{
+    return CTreeCtrl::OnGetDlgCode() | DLGC_WANTARROWS;
+}
+
+void MultiTreeCtrl::OnReturn(NMHDR*, LRESULT* result)
+{
+    *result = 0;
+    if (!isDown(VK_MENU))
+        m_state->keyboard->runDefaultAction();
+}
+
+void MultiTreeCtrl::OnOk()
+{
+    if (m_state->view.isEditing())
+        DefWindowProc(TVM_ENDEDITLABELNOW, FALSE, 0);
+    else
+        m_state->keyboard->runDefaultAction();
+}
+
+BOOL MultiTreeCtrl::PreTranslateMessage(MSG* message)
+{
+    return m_state->keyboard->translate(*message) || CTreeCtrl::PreTranslateMessage(message);
+}
+
+void MultiTreeCtrl::defaultAction()
+{
+    m_state->keyboard->defaultAction();
+}
+
+// Keys
+
+void MultiTreeCtrl::Keyboard::keyDown(UINT key, const Default& handle)
+{
+    perform(
+        keyPressed({key, isDown(VK_SHIFT), isDown(VK_CONTROL), isDown(VK_MENU), view().caret() != nullptr}),
+        handle);
+}
+
+void MultiTreeCtrl::Keyboard::systemKeyDown(UINT key, const Default& handle)
+{
+    perform({Aim::None, systemKeyPressed(key)}, handle);
+}
+
+void MultiTreeCtrl::Keyboard::character(UINT character, const Default& handle)
+{
+    perform({Aim::None, characterTyped(static_cast<wchar_t>(character), isDown(VK_CONTROL))}, handle);
+}
+
+void MultiTreeCtrl::Keyboard::perform(const KeyRule& rule, const Default& handle)
+{
+    const HostCalls host(tree());
+    const Tracker goal(shared(), goalOf(rule.aim));
+    for (const Action action : rule.actions) {
+        if (!host.usable() || (rule.aim != Aim::None && !goal))
+            return;
+        perform(action, goal.item(), handle);
+    }
+}
+
+HTREEITEM MultiTreeCtrl::Keyboard::goalOf(Aim aim) const
+{
+    switch (aim) {
+    case Aim::First:
+        return view().next(TVGN_ROOT);
+    case Aim::Above:
+        return view().displayedAbove(view().caret());
+    case Aim::Below:
+        return view().displayedBelow(view().caret());
+    default:
+        return nullptr;
+    }
+}
+
+void MultiTreeCtrl::Keyboard::perform(Action action, HTREEITEM goal, const Default& handle)
+{
+    Selection& selection = *m_state.selection;
+    const Selection::Way way{TVC_BYKEYBOARD};
+    switch (action) {
+    case Action::LeaveToTreeView:
+        handle();
+        break;
+    case Action::FollowAlone:
+    case Action::FollowRange:
+        selection.follow(action == Action::FollowRange, way, handle);
+        break;
+    case Action::ScrollTo:
+        tree().EnsureVisible(goal);
+        break;
+    case Action::SelectAlone:
+        tree().doSelectItem(goal);
+        break;
+    case Action::SelectRange:
+        selection.selectRange(goal, way);
+        break;
+    case Action::MoveCaret:
+        selection.moveCaret(goal, way);
+        break;
+    case Action::MoveAnchor:
+        tree().m_anchor = goal;
+        break;
+    case Action::ToggleCaret:
+        if (const HTREEITEM caret = view().caret())
+            selection.set(caret, !view().isSelected(caret), way);
+        break;
+    case Action::SelectAll:
+        selectAll();
+        break;
+    case Action::DefaultAction:
+        runDefaultAction();
+        break;
+    case Action::Delete:
+        tree().OnCmdMsg(ID_TREE_DELETE, CN_COMMAND, nullptr, nullptr);
+        break;
+    case Action::Rename:
+        tree().OnCmdMsg(ID_TREE_RENAME, CN_COMMAND, nullptr, nullptr);
+        break;
+    case Action::Redraw:
+        tree().OnCmdMsg(ID_TREE_REDRAW, CN_COMMAND, nullptr, nullptr);
+        break;
+    default:
+        break; // for clicks
+    }
+}
+
+void MultiTreeCtrl::Keyboard::selectAll()
+{
+    const HostCalls host(tree());
+    if (!tree().isCommandDisabled(ID_EDIT_SELECT_ALL) && host.usable())
+        m_state.selection->selectDisplayed({TVC_BYKEYBOARD});
+}
+
+// The default action
+
+void MultiTreeCtrl::Keyboard::defaultAction()
+{
+    const HostCalls host(tree());
+    if (tree().isCommandDisabled(kGestureDefaultAction) || !host.usable())
+        return;
+    const OVO::Handle<EVSubscriptionList<int>> gestures = tree().m_gestures;
+    gestures->notify(kGestureDefaultAction);
+    const std::exception_ptr error = keeping([&] {
+        if (host.usable())
+            activateSelection();
+    });
+    gestures->notify(0);
+    raise(error);
+}
+
+void MultiTreeCtrl::Keyboard::activateSelection()
+{
+    const HostCalls host(tree());
+    for (const OVO::Handle<Node>& node : m_state.selectedNodes()) {
+        if (node->hTreeItem())
+            view().setState(node->hTreeItem(), 0, TVIS_EXPANDEDONCE);
+        if (!host.usable())
+            return;
+        node->activate(tree());
+        if (!host.usable())
+            return;
+        const HTREEITEM item = node->hTreeItem();
+        if (!item)
+            continue;
+        node->state = view().stateOf(item);
+        tree().updateUI(*node);
+        if (!host.usable())
+            return;
+    }
+}
+
+void MultiTreeCtrl::Keyboard::runDefaultAction()
+{
+    HostCalls(tree()).report([this] { defaultAction(); });
+}
+
+// Dialogs and the message loop
+
+bool MultiTreeCtrl::Keyboard::translate(MSG& message)
+{
+    const bool keyboard = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+    if (keyboard && view().isEditing()) {
+        // Or a dialog around us would take Enter, Escape and Tab.
+        ::TranslateMessage(&message);
+        ::DispatchMessageW(&message);
+        return true;
+    }
+    const HACCEL accelerators = tree().m_accelerators;
+    if (keyboard && accelerators && ::TranslateAcceleratorW(tree().m_hWnd, accelerators, &message))
+        return true;
+    if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN)
+        return false;
+    tree().OnOk();
+    return true;
+}

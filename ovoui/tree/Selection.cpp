@@ -1,0 +1,315 @@
+#include <ovoui/tree/Selection.h>
+
+#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/ItemTracker.h>
+#include <ovoui/tree/ParentNotificationFilter.h>
+#include <ovoui/tree/RedrawHold.h>
+
+#include <algorithm>
+#include <optional>
+
+using ovoui::tree::ParentNotificationFilter;
+using ovoui::tree::RedrawHold;
+
+namespace
+{
+
+/// Up to this number, items are changed one by one, each repainting its row; more with one repaint of the
+/// whole.
+constexpr std::size_t kFewItems = 8;
+
+} // namespace
+
+// One item
+
+bool MultiTreeCtrl::Selection::selectAlone(HTREEITEM item)
+{
+    const HostCalls host(tree());
+    const Tracker oldCaret(shared(), view().caret());
+    const HTREEITEM caretBefore = oldCaret.item();
+    const Tracker target(shared(), item);
+
+    // The item itself may stay selected all the while.
+    const unsigned before = deselectAllBut(item);
+    const bool done = host.usable() && (!item || target) && view().setCaret(item);
+    if (!host.usable() || (item && !target))
+        return done;
+    const HTREEITEM caretNow = view().caret();
+    if (caretNow == caretBefore && before > (item ? 1u : 0u)) {
+        // The tree view tells of no change, as its selected item is the same, and yet others were deselected.
+        if (item)
+            view().setSelected(item, true);
+        if (host.usable())
+            tree().notifyTvnSelchanged(TVC_UNKNOWN, oldCaret.item(), item, CPoint(0, 0));
+    } else if (item && caretNow == item) {
+        if (!view().isSelected(item))
+            view().setSelected(item, true);
+    } else if (item && caretNow == caretBefore) {
+        view().setSelected(item, false); // refused
+    }
+    return done;
+}
+
+/// Selects the item even if the parent refuses it the caret; not if the parent has chosen another one
+/// instead.
+void MultiTreeCtrl::Selection::selectForCertain(HTREEITEM item)
+{
+    const HostCalls host(tree());
+    const Tracker selected(shared(), item);
+    const HTREEITEM before = view().caret();
+    tree().doSelectItem(item);
+    if (!host.usable() || !selected)
+        return;
+    const HTREEITEM now = view().caret();
+    if (now == item || now == before)
+        view().setSelected(item, true);
+}
+
+/// For one step of a larger change.
+void MultiTreeCtrl::Selection::selectQuietly(HTREEITEM item)
+{
+    const ParentNotificationFilter quiet(tree().m_hWnd);
+    tree().doSelectItem(item);
+}
+
+void MultiTreeCtrl::Selection::set(HTREEITEM item, bool selected, const Way& way)
+{
+    const HostCalls host(tree());
+    view().setSelected(item, selected);
+    if (host.usable())
+        tree().notifyTvnSelchanged(way.action, view().caret(), view().caret(), way.point);
+}
+
+// None
+
+unsigned MultiTreeCtrl::Selection::clear(HTREEITEM first)
+{
+    if (!first)
+        return 0;
+    if (first == view().next(TVGN_ROOT))
+        return deselectAllBut(nullptr);
+    std::vector<HTREEITEM> selected = items();
+    const HTREEITEM parent = view().next(TVGN_PARENT, first);
+    // Those at or behind `first` among its siblings, or below one of these.
+    std::erase_if(selected, [&](HTREEITEM item) {
+        while (item && view().next(TVGN_PARENT, item) != parent)
+            item = view().next(TVGN_PARENT, item);
+        while (item && item != first)
+            item = view().next(TVGN_PREVIOUS, item);
+        return !item;
+    });
+    setAll(selected, false);
+    return static_cast<unsigned>(selected.size());
+}
+
+/// Gives how many were selected, `kept` included.
+unsigned MultiTreeCtrl::Selection::deselectAllBut(HTREEITEM kept)
+{
+    std::vector<HTREEITEM> selected = items();
+    const auto count = static_cast<unsigned>(selected.size());
+    std::erase(selected, kept);
+    setAll(selected, false);
+    return count;
+}
+
+// Many
+
+void MultiTreeCtrl::Selection::setAll(const std::vector<HTREEITEM>& items, bool selected)
+{
+    const HostCalls host(tree());
+    ItemList list(shared(), items);
+    std::optional<RedrawHold> hold;
+    if (items.size() > kFewItems)
+        hold.emplace(tree().m_hWnd);
+    list.forEach([&](HTREEITEM item) {
+        if (host.usable())
+            view().setSelected(item, selected);
+    });
+}
+
+void MultiTreeCtrl::Selection::addRange(HTREEITEM a, HTREEITEM b)
+{
+    setAll(displayedRange(a, b), true);
+}
+
+/// The displayed items from one to the other. Both ends go on downwards in turn until one meets the other:
+/// which stands first is not known, and the rest of the tree is no matter.
+std::vector<HTREEITEM> MultiTreeCtrl::Selection::displayedRange(HTREEITEM a, HTREEITEM b) const
+{
+    struct Walk
+    {
+        HTREEITEM at;
+        HTREEITEM goal;
+        std::vector<HTREEITEM> passed{};
+    };
+    Walk walks[] = {{view().isDisplayed(a) ? a : nullptr, b}, {view().isDisplayed(b) ? b : nullptr, a}};
+    Walk* toTheEnd = nullptr; // the one that went furthest without meeting the other
+    while (walks[0].at || walks[1].at)
+        for (Walk& walk : walks) {
+            if (!walk.at)
+                continue;
+            walk.passed.push_back(walk.at);
+            if (walk.at == walk.goal)
+                return walk.passed;
+            walk.at = view().next(TVGN_NEXTVISIBLE, walk.at);
+            if (!walk.at)
+                toTheEnd = &walk;
+        }
+    return toTheEnd ? toTheEnd->passed : std::vector<HTREEITEM>();
+}
+
+void MultiTreeCtrl::Selection::selectRange(HTREEITEM end, const Way& way)
+{
+    const HostCalls host(tree());
+    const Tracker goal(shared(), end);
+    const Tracker oldCaret(shared(), view().caret());
+    selectQuietly(end);
+    if (!host.usable() || !goal)
+        return;
+    addRange(tree().m_anchor, end);
+    if (host.usable())
+        tree().notifyTvnSelchanged(way.action, oldCaret.item(), goal.item(), way.point);
+}
+
+void MultiTreeCtrl::Selection::selectDisplayed(const Way& way)
+{
+    const HostCalls host(tree());
+    addRange(view().next(TVGN_ROOT), view().getLastItem());
+    if (host.usable())
+        tree().notifyTvnSelchanged(way.action, view().caret(), view().caret(), way.point);
+}
+
+// The focus
+
+void MultiTreeCtrl::Selection::moveCaret(HTREEITEM item, const Way& way)
+{
+    const HostCalls host(tree());
+    keepWhile([&] { view().setCaret(item); });
+    if (host.usable())
+        tree().notifyTvnSelchanged(way.action, view().caret(), view().caret(), way.point);
+}
+
+void MultiTreeCtrl::Selection::keepWhile(const std::function<void()>& moveFocus)
+{
+    const HostCalls host(tree());
+    std::vector<HTREEITEM> selected = items();
+    std::sort(selected.begin(), selected.end());
+    ItemList before(shared(), std::move(selected));
+    {
+        const ParentNotificationFilter quiet(tree().m_hWnd);
+        moveFocus();
+    }
+    if (!host.usable())
+        return;
+    std::vector<HTREEITEM> now = items();
+    std::sort(now.begin(), now.end());
+    std::vector<HTREEITEM> changed;
+    std::set_symmetric_difference(before.items().begin(), before.items().end(), now.begin(), now.end(),
+                                  std::back_inserter(changed));
+    for (const HTREEITEM each : changed)
+        if (host.usable() && !before.isGone(each))
+            view().setSelected(each, std::binary_search(before.items().begin(), before.items().end(), each));
+}
+
+/// Where no others than the caret are selected, the tree view's own way is right, and it tells the parent.
+void MultiTreeCtrl::Selection::follow(bool range, const Way& way, const std::function<void()>& handle)
+{
+    const HostCalls host(tree());
+    const Tracker oldCaret(shared(), view().caret());
+    const std::vector<HTREEITEM> selected = items();
+    const bool alone = selected.empty() || (selected.size() == 1 && selected.front() == oldCaret.item());
+    if (alone && !range) {
+        handle();
+        return;
+    }
+    std::optional<ParentNotificationFilter> quiet(tree().m_hWnd);
+    handle();
+    if (!host.usable())
+        return;
+    const Tracker target(shared(), view().caret());
+    if (!target || target.item() == oldCaret.item())
+        return;
+    tree().doSelectItem(target.item());
+    if (!host.usable() || !target)
+        return;
+    if (range)
+        addRange(tree().m_anchor, target.item());
+    quiet.reset();
+    if (host.usable() && target)
+        tree().notifyTvnSelchanged(way.action, oldCaret.item(), target.item(), way.point);
+}
+
+void MultiTreeCtrl::Selection::repaint() const
+{
+    const auto rows = static_cast<int>(view().ask(TVM_GETVISIBLECOUNT)) + 1; // the last one may be cut off
+    HTREEITEM item = view().next(TVGN_FIRSTVISIBLE);
+    for (int row = 0; item && row < rows; ++row, item = view().next(TVGN_NEXTVISIBLE, item)) {
+        CRect rect;
+        if (view().isSelected(item) && tree().GetItemRect(item, &rect, FALSE))
+            tree().InvalidateRect(&rect);
+    }
+}
+
+// The control's operations
+
+void MultiTreeCtrl::notifyTvnSelchanged(unsigned action, HTREEITEM oldItem, HTREEITEM newItem,
+                                        const CPoint& point) const
+{
+    const View& view = m_state->view;
+    NMTREEVIEW notification{};
+    notification.hdr.code = static_cast<UINT>(TVN_SELCHANGEDW);
+    notification.action = action;
+    notification.itemNew = view.describe(newItem);
+    notification.itemOld = oldItem == newItem ? notification.itemNew : view.describe(oldItem);
+    notification.ptDrag = point;
+    view.notifyParent(notification.hdr);
+}
+
+BOOL MultiTreeCtrl::SelectItem(HTREEITEM item)
+{
+    return doSelectItem(item) ? 1 : 0;
+}
+
+bool MultiTreeCtrl::doSelectItem(HTREEITEM item)
+{
+    return m_state->selection->selectAlone(item);
+}
+
+void MultiTreeCtrl::selectItemAnchor(HTREEITEM item)
+{
+    m_anchor = item;
+}
+
+unsigned MultiTreeCtrl::clearselection(HTREEITEM first)
+{
+    return m_state->selection->clear(first);
+}
+
+void MultiTreeCtrl::selectRange(HTREEITEM a, HTREEITEM b)
+{
+    m_state->selection->addRange(a, b);
+}
+
+void MultiTreeCtrl::OnEditSelectAll()
+{
+    m_state->selection->selectDisplayed({TVC_UNKNOWN});
+}
+
+/// With TVN_GETDISPINFO the parent may change an item's state without a message to the tree.
+BOOL MultiTreeCtrl::OnGetdispinfo(NMHDR* header, LRESULT*)
+{
+    m_state->selection->note(reinterpret_cast<const NMTVDISPINFO*>(header)->item.hItem);
+    return FALSE;
+}
+
+void MultiTreeCtrl::OnSetFocus(CWnd* old)
+{
+    m_state->selection->repaint();
+    CTreeCtrl::OnSetFocus(old);
+}
+
+void MultiTreeCtrl::OnKillFocus(CWnd* next)
+{
+    m_state->selection->repaint();
+    CTreeCtrl::OnKillFocus(next);
+}

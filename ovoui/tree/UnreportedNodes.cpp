@@ -1,0 +1,34 @@
+#include <ovoui/tree/UnreportedNodes.h>
+
+MultiTreeCtrl::UnreportedNodes::UnreportedNodes(State& state, const Message& message)
+    : m_state(state)
+{
+    const bool deletes = message.id == TVM_DELETEITEM || message.id == WM_DESTROY;
+    if ((!deletes && !message.empties()) || CWnd::FromHandlePermanent(::GetParent(state.tree->m_hWnd)))
+        return;
+    const HTREEITEM item = message.item();
+    if (message.id == TVM_DELETEITEM && item && item != TVI_ROOT)
+        collect(item);
+    else
+        for (const HTREEITEM child : state.view.childrenOf(message.empties() ? item : TVI_ROOT))
+            collect(child);
+}
+
+void MultiTreeCtrl::UnreportedNodes::collect(HTREEITEM item)
+{
+    if (OVO::Handle<Node> node = m_state.view.node(item))
+        m_nodes.push_back(std::move(node));
+    for (const HTREEITEM child : m_state.view.childrenOf(item))
+        collect(child);
+}
+
+void MultiTreeCtrl::UnreportedNodes::release()
+{
+    for (const OVO::Handle<Node>& node : m_nodes) {
+        const HTREEITEM item = std::exchange(node->m_hTreeItem, nullptr);
+        if (!item)
+            continue;
+        m_state.forgetItem(item);
+        node->release();
+    }
+}
