@@ -57,11 +57,11 @@ SelectionModel afterPress(const Click& click, const SelectionModel& before)
 }
 
 /// Press and release without a drag in between.
-SelectionModel afterClick(const Click& click, const SelectionModel& before)
+SelectionModel afterClick(const Click& click, const SelectionModel& before, bool editable)
 {
     const Actions first = press(click, before);
     SelectionModel model = afterPress(click, before);
-    const ButtonRelease release{click.held, click.where, click.right, isSettledBy(first), false};
+    const ButtonRelease release{click.held, click.where, click.right, isSettledBy(first), editable};
     model.act(contains(first, AwaitDrag) ? releasedAfterPress(release) : released(release), click.item);
     return model;
 }
@@ -102,7 +102,9 @@ TEST(ClickRules, AClickEndsAsTheUserExpects)
     forEveryModel([&](const SelectionModel& before) {
         forEveryClick([&](const Click& click) {
             ++cases;
-            ASSERT_EQ(afterClick(click, before), expected(click, before)) << click << " from " << before;
+            for (const bool editable : {false, true})
+                ASSERT_EQ(afterClick(click, before, editable), expected(click, before))
+                    << click << " from " << before;
         });
     });
     EXPECT_EQ(cases, 16 * 5 * 5 * 6 * 9);
@@ -121,6 +123,44 @@ TEST(ClickRules, UntilTheReleaseWhatIsPressedOnCanBeDragged)
             // A drag of the selection keeps the anchor.
             if (click.held == Held::Nothing) {
                 ASSERT_EQ(model.anchor, before.anchor) << click << " from " << before;
+            }
+        });
+    });
+}
+
+TEST(ClickRules, APressMovesTheAnchorUnlessItMayDragTheSelection)
+{
+    forEveryModel([&](const SelectionModel& before) {
+        forEveryClick([&](const Click& click) {
+            const bool drags = click.held == Held::Nothing && before.selected.contains(click.item);
+            const bool stays = click.held == Held::Shift || drags;
+            const int end = click.inRow() ? click.item : kLast;
+            ASSERT_EQ(afterPress(click, before).anchor, stays ? before.anchor : end)
+                << click << " from " << before;
+        });
+    });
+}
+
+/// The host may have changed anything between the press and the release.
+TEST(ClickRules, AReleaseAfterThePressDoesTheSameWhateverThereIs)
+{
+    forEveryModel([&](const SelectionModel& before) {
+        forEveryClick([&](const Click& click) {
+            if (click.held == Held::Shift)
+                return;
+            for (const bool settled : {false, true}) {
+                SelectionModel model = before;
+                model.act(releasedAfterPress({click.held, click.where, click.right, settled, false}),
+                          click.item);
+                SelectionModel right = before;
+                right.menus = click.right ? 1 : 0;
+                if (click.inRow())
+                    right.anchor = click.item;
+                if (click.held == Held::Ctrl && !settled)
+                    right.selected.erase(click.item);
+                if (click.held == Held::Nothing && (!click.right || settled))
+                    right.selectAlone(click.item);
+                ASSERT_EQ(model, right) << click << " from " << before;
             }
         });
     });
