@@ -3,6 +3,8 @@
 
 #include <ovoui/colour/core/WheelRaster.h>
 
+#include "support/InTurns.h"
+
 #include <catch2/catch.hpp>
 
 #include <cstring>
@@ -49,19 +51,16 @@ TEST_CASE("ring and triangle of a wheel of 400 by 400 pixels")
     std::vector<std::uint32_t> fast = blank();
     double degrees = 0;
 
-    BENCHMARK("asking for each pixel, -O2")
-    {
-        drawPlainWheel(plain.data(), kWheel, Angle::degrees(degrees += 1.7));
-        return plain[0];
-    };
-    degrees = 0;
-    BENCHMARK("the raster [at most 0.125]")
-    {
-        const WheelRaster raster(kWheel);
-        raster.drawRing(fast.data());
-        raster.drawTriangle(fast.data(), Angle::degrees(degrees += 1.7));
-        return fast[0];
-    };
+    double raster = 0;
+    InTurns turns;
+    turns.add("asking for each pixel, -O2 [baseline]",
+              [&] { drawPlainWheel(plain.data(), kWheel, Angle::degrees(degrees += 1.7)); });
+    turns.add("the raster [at most 0.125]", [&] {
+        const WheelRaster whole(kWheel);
+        whole.drawRing(fast.data());
+        whole.drawTriangle(fast.data(), Angle::degrees(raster += 1.7));
+    });
+    turns.run("ring and triangle of a wheel of 400 by 400 pixels", 21);
     drawPlainWheel(plain.data(), kWheel, Angle::degrees(50));
     WheelRaster(kWheel).drawTriangle(fast.data(), Angle::degrees(50));
     REQUIRE(plain == fast);
@@ -74,16 +73,18 @@ TEST_CASE("the triangle of another hue in a wheel of 400 by 400 pixels")
     const WheelRaster raster(kWheel);
     int step = 0;
 
-    BENCHMARK("memset of the same pixels")
-    {
-        ++step;
-        for (const Span& span : spans)
-            std::memset(pixels.data() + span.from, step & 0xFF, span.count * sizeof pixels[0]);
-        return pixels[spans[100].from];
-    };
-    BENCHMARK("the raster [at most 12]")
-    {
-        raster.drawTriangle(pixels.data(), Angle::degrees(++step * 1.7));
-        return pixels[spans[100].from];
-    };
+    constexpr int kTimes = 5; // once is too short for the clock, and often is interrupted
+    InTurns turns;
+    turns.add("memset of the same pixels [baseline]", [&] {
+        for (int i = 0; i < kTimes; ++i) {
+            ++step;
+            for (const Span& span : spans)
+                std::memset(pixels.data() + span.from, step & 0xFF, span.count * sizeof pixels[0]);
+        }
+    });
+    turns.add("the raster [at most 12]", [&] {
+        for (int i = 0; i < kTimes; ++i)
+            raster.drawTriangle(pixels.data(), Angle::degrees(++step * 1.7));
+    });
+    turns.run("the triangle of another hue in a wheel of 400 by 400 pixels, 5 times", 2001);
 }

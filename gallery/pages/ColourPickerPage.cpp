@@ -198,7 +198,7 @@ bool ColourPickerPage::posePage(const std::wstring& name)
     } else if (name == L"dropper") {
         CRect sample;
         m_sample.GetWindowRect(&sample);
-        ::SetCursorPos(sample.left + sample.Width() * 3 / 4, sample.top + sample.Height() / 4); // the text
+        ::SetCursorPos(sample.left + sample.Width() * 3 / 5, sample.top + sample.Height() / 4); // the text
         m_dropper.SendMessage(BM_CLICK);
     } else {
         return false;

@@ -99,3 +99,14 @@ TEST(Magnifier, IsOnTheScreenAndNeverUnderThePointer)
                 << x << ' ' << y;
         }
 }
+
+TEST(Magnifier, StaysOnAScreenThatIsTooSmallForIt)
+{
+    for (int x = 0; x < 100; x += 9) {
+        const PixelRect place = magnifierPlace(x, 50, 80, 90, 20, {0, 0, 100, 100});
+        EXPECT_GE(place.left, 0) << x;
+        EXPECT_LE(place.right, 100) << x;
+        EXPECT_GE(place.top, 0) << x;
+        EXPECT_LE(place.bottom, 100) << x;
+    }
+}
