@@ -12,9 +12,10 @@ class PaletteApp : public CWinApp
             return FALSE;
         CString name;
         dialog.GetDlgItemText(IDC_COLOUR_TEXT, name);
-        dialog.GetDlgItem(IDC_COLOUR_TEXT)->SetFocus();
         dialog.SetDlgItemText(IDC_COLOUR_TEXT, L"navy");
-        dialog.SendMessage(WM_COMMAND, MAKEWPARAM(IDC_COLOUR_TEXT, EN_KILLFOCUS));
+        const HWND field = ::GetDlgItem(dialog, IDC_COLOUR_TEXT);
+        dialog.SendMessage(WM_COMMAND, MAKEWPARAM(IDC_COLOUR_TEXT, EN_KILLFOCUS),
+                           reinterpret_cast<LPARAM>(field));
         m_works = name == L"red" && dialog.GetColour().colorref() == RGB(0, 0, 128);
         dialog.DestroyWindow();
         return FALSE;
