@@ -69,6 +69,8 @@ LRESULT GalleryPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const std::shared_ptr<GalleryPage> alive =
         weak_from_this().lock(); // null while the page is being deleted
+    if (message == WM_DESTROY)
+        m_log = nullptr; // that the page's controls lose what they hold is no news
     if (scroll(message, wParam, lParam))
         return 0;
     const LRESULT result = CDialog::WindowProc(message, wParam, lParam);

@@ -49,6 +49,9 @@ TEST_CASE("a keystroke with completion in a list of 20000 items")
     turns.add(
         "a keystroke with completion [at most 1.5]", [&] { combo.keystroke(); },
         [&] { combo.prepare(true); });
+    turns.add(
+        "setting the text of the last item", [&] { combo.SetWindowText(L"the last item"); },
+        [&] { combo.prepare(false); });
     turns.run("a keystroke with completion in a list of 20000 items", 101);
     CString text;
     combo.GetWindowText(text);

@@ -262,13 +262,14 @@ bool ListsPage::pose(const std::wstring& name)
     if (name == L"shortened") {
         for (int column = 0; column < 3; ++column) {
             m_colours.SetColumnWidth(column, scaled(45 - 10 * column));
-            m_processes.SetColumnWidth(column, scaled(60));
+            m_processes.SetColumnWidth(column, scaled(column == 0 ? 85 : 60));
         }
         m_processes.Invalidate(); // the platform may leave a label that is cut differently now
         return true;
     }
     if (name == L"alpha") {
-        m_colours.SetColumnWidth(1, scaled(180));
+        m_colours.SetColumnWidth(0, scaled(90));
+        m_colours.SetColumnWidth(1, scaled(160));
         return m_colours.EnsureVisible(m_colours.GetItemCount() - 1, FALSE) &&
                m_colours.EnsureVisible(80, FALSE);
     }

@@ -1,6 +1,7 @@
 #include <ovoui/lists/ListCtrlEx.h>
 
 #include <ovoui/lists/Alive.h>
+#include <ovoui/lists/ColumnShape.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListRowPainter.h>
 #include <ovoui/lists/OwnChange.h>
@@ -149,8 +150,8 @@ LPCWSTR COVOListCtrlEx::MakeShortString(CDC* pDC, LPCWSTR text, int width, int o
 void COVOListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
     const int item = static_cast<int>(lpDrawItemStruct->itemID);
-    RowLook look{m_clientWidth, m_stateImageWidth, m_colourColumns, m_followsOrder,
-                 hasFocus(),    m_emphasised,      std::nullopt};
+    RowLook look{m_clientWidth,  m_stateImageWidth, m_colourColumns, columnShapes(),
+                 m_followsOrder, hasFocus(),        m_emphasised,    std::nullopt};
     const HWND window = m_hWnd;
     if (m_useRowColours)
         look.colour = rowColour(item);
@@ -195,15 +196,28 @@ void COVOListCtrlEx::OnPaint()
         RedrawWindow(&update, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
     }
     m_paintsFocused = hasFocus();
+    m_paintedColumns = columnShapes();
     const OwnChange painting(*this, m_painting);
     CWnd::OnPaint();
 }
 
-/// Asked once for all rows that are painted together: it takes as long as drawing one where another process
-/// keeps the focus.
+// Asked once for all rows that are painted together: some platforms take as long for it as for drawing one.
+
 bool COVOListCtrlEx::hasFocus() const
 {
     return m_painting ? m_paintsFocused : ::GetFocus() == m_hWnd;
+}
+
+std::vector<ColumnShape> COVOListCtrlEx::columnShapes() const
+{
+    if (m_painting)
+        return m_paintedColumns;
+    std::vector<ColumnShape> shapes;
+    LVCOLUMN column{};
+    column.mask = LVCF_FMT | LVCF_WIDTH;
+    while (GetColumn(static_cast<int>(shapes.size()), &column))
+        shapes.push_back({column.fmt, column.cx});
+    return shapes;
 }
 
 void COVOListCtrlEx::OnSize(UINT nType, int cx, int cy)

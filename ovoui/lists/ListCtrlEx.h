@@ -18,6 +18,11 @@
 #include <string>
 #include <vector>
 
+namespace ovoui::lists
+{
+struct ColumnShape;
+}
+
 /// The control makes itself an owner-drawn report list when it is created. On a dialog item the template must
 /// have LVS_REPORT and LVS_OWNERDRAWFIXED.
 ///
@@ -103,6 +108,7 @@ protected:
 private:
     bool inReportView() const;
     bool hasFocus() const;
+    std::vector<ovoui::lists::ColumnShape> columnShapes() const;
     bool isOurs(const CWnd* window) const;
     void repaintRow(int item);
     void repaintSelectionUnless(bool inOurChild);
@@ -115,6 +121,9 @@ private:
     std::map<int, DWORD> m_rowColours; ///< by item data
     bool m_followsOrder = false;
     std::wstring m_emphasised; ///< in lower case
-    bool m_painting = false;   ///< within OnPaint
+
+    // What all rows that are painted together need
+    bool m_painting = false; ///< within OnPaint
     bool m_paintsFocused = false;
+    std::vector<ovoui::lists::ColumnShape> m_paintedColumns;
 };

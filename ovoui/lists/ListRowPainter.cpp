@@ -250,12 +250,12 @@ frame::Box ListRowPainter::cellBox(int column, int width, const frame::Box& befo
 void ListRowPainter::paintSubItems(const frame::Box& label)
 {
     frame::Box box = label;
-    LVCOLUMN column{};
-    column.mask = LVCF_FMT | LVCF_WIDTH;
     const HWND window = m_list.m_hWnd;
+    const int count = static_cast<int>(m_look.columns.size());
     // The platform may ask the host for a text, who may destroy the list instead.
-    for (int i = 1; isAlive(&m_list, window) && m_list.GetColumn(i, &column); ++i) {
-        box = cellBox(i, column.cx, box);
+    for (int i = 1; i < count && isAlive(&m_list, window); ++i) {
+        const ColumnShape& column = m_look.columns[static_cast<std::size_t>(i)];
+        box = cellBox(i, column.width, box);
         s_itemText[0] = 0;
         LVITEM item{};
         item.mask = LVIF_TEXT;
@@ -264,7 +264,7 @@ void ListRowPainter::paintSubItems(const frame::Box& label)
         item.pszText = s_itemText;
         item.cchTextMax = kItemTextRoom;
         if (m_list.GetItem(&item))
-            paintSubItem(textOf(item), box, column.fmt, isColourColumn(i));
+            paintSubItem(textOf(item), box, column.format, isColourColumn(i));
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <ovoui/frame/core/Placement.h>
+#include <ovoui/lists/ColumnShape.h>
 #include <ovoui/lists/core/EntryColours.h>
 
 #include <afxcmn.h>
@@ -21,6 +22,7 @@ struct RowLook
     int clientWidth;
     int stateImageWidth;
     const std::vector<bool>& colourColumns;
+    std::vector<ColumnShape> columns;  ///< by number
     bool followsOrder;                 ///< cells lie under their headings
     bool focused;                      ///< the list has the keyboard focus
     const std::wstring& emphasised;    ///< folded; empty for none

@@ -236,6 +236,35 @@ TEST_F(ComboRemembering, DelForgetsNoTextThatIsBeingEdited)
     EXPECT_EQ(items(scene), Texts{L"oak"});
 }
 
+TEST_F(ComboRemembering, DelInTheClosedListEditsAChosenTextToo)
+{
+    ComboScene scene{};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene);
+    scene.enter();
+    accept(scene, L"oak");
+    accept(scene, L"oak");
+    ASSERT_EQ(scene.combo.GetCurSel(), 0);
+    scene.robot.key(VK_HOME).key(VK_DELETE);
+    EXPECT_EQ(scene.text(), L"ak");
+    EXPECT_EQ(items(scene), Texts{L"oak"});
+}
+
+TEST_F(ComboRemembering, DelAfterAnEditInTheOpenListEditsAChosenTextToo)
+{
+    ComboScene scene{};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene);
+    scene.enter();
+    accept(scene, L"oak");
+    accept(scene, L"elm");
+    scene.robot.moveTo(Spot{scene.button}).key(VK_F4).key(VK_DOWN);
+    ASSERT_EQ(scene.text(), L"oak");
+    scene.robot.key(VK_END).type(L"s").key(VK_HOME).key(VK_DELETE);
+    EXPECT_EQ(scene.text(), L"aks");
+    EXPECT_EQ(items(scene), (Texts{L"elm", L"oak"}));
+}
+
 TEST_F(ComboRemembering, ATextOfTheHostsThatIsForgottenStaysInTheList)
 {
     ComboScene scene{L"fir", L"ash"};

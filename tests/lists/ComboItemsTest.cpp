@@ -76,6 +76,19 @@ TEST(ComboItemLooks, AnImageForEachItem)
     EXPECT_GE(itemRect(scene, 0).Height(), 16);
 }
 
+TEST(ComboItemLooks, ItemsAreAsHighAsTheirImages)
+{
+    CImageList images;
+    fillImages(images, 40, {kGreen});
+    ComboScene scene({L"leaf"}, kOwnerDrawn);
+    scene.combo.SetImageList(&images);
+    scene.combo.SetItemImage(0, 0);
+    scene.enter();
+    const Picture list = openList(scene);
+    EXPECT_GE(itemRect(scene, 0).Height(), 40);
+    EXPECT_EQ(list.count(kGreen, 0, itemRect(scene, 0)), 36 * 36);
+}
+
 TEST(ComboItemLooks, StayWithTheirItems)
 {
     ComboScene scene({L"leaf", L"rose"}, kOwnerDrawn);
@@ -149,6 +162,10 @@ TEST(ComboItemLooks, TheTextStandsBehindSwatchAndImage)
     EXPECT_LT(alone, 8);
     EXPECT_GE(behindSwatch, alone + 15);
     EXPECT_GE(behindBoth, behindSwatch + 16);
+    scene.combo.ResetContent(); // takes the colours with it
+    scene.combo.SetImageList(nullptr);
+    scene.combo.AddString(L"MMM");
+    EXPECT_EQ(firstInk(), alone);
 }
 
 TEST(ComboItemLooks, TextsOfADisabledListAreGrey)

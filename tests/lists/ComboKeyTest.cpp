@@ -132,6 +132,21 @@ TEST(ComboEnter, WithTheListOpenAndAnItemSelected)
     }
 }
 
+TEST(ComboEnter, WithTheListOpenTheSelectionComesBeforeTheText)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.enter();
+    scene.combo.ShowDropDown();
+    scene.setText(L"bramble");
+    ::SendMessageW(scene.listBox(), LB_SETCURSEL, 1, 0);
+    ASSERT_EQ(scene.combo.GetCurSel(), 1);
+    scene.take();
+    scene.robot.key(VK_RETURN);
+    EXPECT_EQ(scene.text(), L"berry");
+    EXPECT_EQ(scene.combo.GetCurSel(), 1);
+    EXPECT_EQ(scene.take(), with(kClosing, kAccepted));
+}
+
 TEST(ComboEnter, WithTheListOpenAndNothingSelected)
 {
     for (const Flags& flags : kAllFlags)
@@ -152,13 +167,30 @@ TEST(ComboEnter, WithTheListOpenAndNothingSelected)
         }
 }
 
+TEST(ComboEnter, ACommandOfAControlIsNone)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.combo.ConfirmAnyText(true);
+    scene.enter();
+    scene.setText(L"berry");
+    scene.take();
+    for (const WPARAM id : {0x0400, 0x0401, 0x0402, 0x0403})
+        scene.combo.SendMessage(WM_COMMAND, id, reinterpret_cast<LPARAM>(scene.edit()));
+    EXPECT_EQ(scene.take(), Heard{});
+    EXPECT_EQ(scene.text(), L"berry");
+}
+
 TEST(ComboEnter, DoesNotReachTheDialog)
 {
     ComboScene scene{L"apple"};
     scene.enter();
+    scene.setText(L"apple");
+    scene.take();
     MSG enter{scene.edit(), WM_KEYDOWN, VK_RETURN, 1, 0, {}};
     EXPECT_TRUE(scene.combo.PreTranslateMessage(&enter));
+    EXPECT_EQ(scene.take(), Heard{}) << "after the messages that are on their way";
     GuiThread::settle();
+    EXPECT_EQ(scene.take(), kAccepted);
 }
 
 // Escape
@@ -200,6 +232,44 @@ TEST(ComboEscape, WhatComesBackIsNotCompleted)
     scene.combo.AutoComplete(true);
     scene.robot.type(L"x").key(VK_ESCAPE);
     EXPECT_EQ(scene.text(), L"be");
+}
+
+namespace
+{
+
+/// On a platform that tells of texts that programs set as of typed ones.
+class Telling : public COVOComboBox
+{
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const LRESULT result = COVOComboBox::WindowProc(message, wParam, lParam);
+        if (message == WM_SETTEXT)
+            GetParent()->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), CBN_EDITUPDATE),
+                                     reinterpret_cast<LPARAM>(m_hWnd));
+        return result;
+    }
+};
+
+} // namespace
+
+TEST(ComboEscape, WhatTheControlSetsIsNotCompletedWhateverThePlatformTells)
+{
+    ComboParent parent;
+    Telling combo;
+    combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWN, CRect(10, 10, 210, 160), &parent, 21);
+    combo.AddString(L"berry");
+    combo.AutoComplete(false);
+    combo.SetWindowText(L"be");
+    present(parent);
+    combo.SetFocus();
+    combo.AutoComplete(true);
+    combo.SetWindowText(L"b"); // by the host: taken for typed
+    CString text;
+    combo.GetWindowText(text);
+    ASSERT_EQ(text, L"berry");
+    combo.SendMessage(WM_COMMAND, 0x0401, 0);
+    combo.GetWindowText(text);
+    EXPECT_EQ(text, L"be");
 }
 
 TEST(ComboEscape, BringsTheSelectionOfBeforeBack)
@@ -298,6 +368,17 @@ TEST(ComboFocus, ComingTellsTheParentToFillTheList)
 
     scene.button.SetFocus();
     scene.combo.AutoComplete(false);
+    scene.take();
+    scene.combo.SetFocus();
+    EXPECT_EQ(scene.take(), Heard{"SETFOCUS"});
+}
+
+TEST(ComboFocus, ComingToAnOpenListTellsNothingOfIt)
+{
+    ComboScene scene{L"apple"};
+    scene.show();
+    scene.combo.ShowDropDown();
+    ASSERT_TRUE(scene.combo.GetDroppedState());
     scene.take();
     scene.combo.SetFocus();
     EXPECT_EQ(scene.take(), Heard{"SETFOCUS"});
@@ -463,5 +544,17 @@ TEST(ComboList, ClosingItKeepsWhatWasTyped)
     ASSERT_EQ(scene.combo.GetCurSel(), 1);
     scene.combo.ShowDropDown(FALSE);
     EXPECT_EQ(scene.text(), L"be");
+    EXPECT_EQ(scene.combo.GetCurSel(), -1);
+}
+
+TEST(ComboList, ClosingItKeepsWhatDiffersInCaseOnly)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.enter();
+    scene.combo.ShowDropDown();
+    scene.setText(L"Berry");
+    ::SendMessageW(scene.listBox(), LB_SETCURSEL, 1, 0);
+    scene.combo.ShowDropDown(FALSE);
+    EXPECT_EQ(scene.text(), L"Berry");
     EXPECT_EQ(scene.combo.GetCurSel(), -1);
 }

@@ -281,6 +281,11 @@ TEST_F(ComboSearching, WhatAHostWritesShowsNone)
     scene.setText(L"err");
     GuiThread::settle();
     EXPECT_FALSE(hitsWindow());
+    ::SendMessageW(scene.edit(), EM_SETSEL, 0, -1);
+    ::SendMessageW(scene.edit(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"erry"));
+    GuiThread::settle();
+    EXPECT_EQ(scene.text(), L"erry");
+    EXPECT_FALSE(hitsWindow());
 }
 
 TEST_F(ComboSearching, ItMayBeDestroyedWhileTheyAreShown)

@@ -95,6 +95,16 @@ TEST_F(ListTips, ThePointerThatLeavesTakesItAway)
     rest(0, 1, true); // and brings it back
 }
 
+TEST_F(ListTips, ThePointerThatComesBackToTheSameCellBringsItBack)
+{
+    rest(0, 1, true);
+    scene.list.SendMessage(WM_MOUSELEAVE);
+    EXPECT_FALSE(shows());
+    const CPoint middle = scene.cell(0, 1).CenterPoint();
+    scene.list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(middle.x, middle.y));
+    EXPECT_TRUE(shows());
+}
+
 TEST_F(ListTips, SoDoScrollingAndALossOfTheFocus)
 {
     const std::pair<UINT, WPARAM> messages[] = {{WM_MOUSEWHEEL, MAKEWPARAM(0, 120)},

@@ -69,6 +69,18 @@ TEST_F(ListCopying, ColumnsInTheOrderInWhichTheyAreShown)
     EXPECT_EQ(clipboardText(), L"c\tc\tc\r\n0.2\t0.0\t0.1\r\n");
 }
 
+TEST_F(ListCopying, WhatWasOnTheClipboardGoes)
+{
+    const UINT format = ::RegisterClipboardFormatW(L"A format of the test's");
+    ASSERT_TRUE(::OpenClipboard(scene.parent));
+    ::SetClipboardData(format, ::GlobalAlloc(GMEM_MOVEABLE, 4));
+    ::CloseClipboard();
+    ASSERT_TRUE(::IsClipboardFormatAvailable(format));
+    select({1});
+    EXPECT_TRUE(copySelectedRows(scene.list, false));
+    EXPECT_FALSE(::IsClipboardFormatAvailable(format));
+}
+
 TEST_F(ListCopying, WithoutASelectionTheClipboardStays)
 {
     select({0});

@@ -123,7 +123,7 @@ TEST_F(ListSorting, SelectionFocusDataAndColoursGoWithTheRows)
 {
     scene.list.UseRowColours(TRUE);
     // Item data as AddItem sets it; of the host's own; of the host's own, two of them the same.
-    const DWORD_PTR kData[][4] = {{0, 1, 2, 3}, {900, static_cast<DWORD_PTR>(-4), 2, 70000}, {5, 5, 2, 3}};
+    const DWORD_PTR kData[][4] = {{0, 1, 2, 3}, {900, static_cast<DWORD_PTR>(-4), 2, 70000}, {1, 1, 2, 3}};
     for (const auto& data : kData) {
         scene.list.DeleteAllItems();
         add({L"d", L"b", L"a", L"c"});
@@ -165,7 +165,7 @@ TEST_F(ListSorting, ManyRows)
 
 TEST_F(ListSorting, LongTexts)
 {
-    const std::wstring same(240, L'x');
+    const std::wstring same(250, L'\u00C4'); // its key has more than a thousand bytes
     for (const wchar_t* end : {L"c", L"a", L"b"})
         add({(same + end).c_str()});
     sorter.Sort(1, true);
@@ -222,7 +222,10 @@ TEST_F(ListSorting, WhatCannotBeSortedStays)
     stored.AddColumn(L"c", 0, -1, false, LVCF_TEXT | LVCF_WIDTH, 0);
     stored.SetItemCountEx(5);
     sorter.Attach(stored);
+    int asked = 0;
+    scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), [&](NMHDR*) -> LRESULT { return ++asked; });
     EXPECT_FALSE(sorter.Sort(0, true));
+    EXPECT_EQ(asked, 0);
 }
 
 TEST_F(ListSorting, AComparisonMayDoAnything)
