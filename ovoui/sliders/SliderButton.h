@@ -63,7 +63,7 @@ public:
 
     /// The number that the buddy shows; none when its text does not begin with one.
     std::optional<double> Number() const;
-    /// Shows a number in the buddy, and tells nobody.
+    /// Shows a number in the buddy, without a notification.
     void ShowNumber(double number);
     /// The lesser and the greater end of the range.
     std::pair<double, double> Limits() const;
