@@ -25,9 +25,16 @@ CPoint originIn(const CWnd* wnd, const CWnd& tabs)
     return origin;
 }
 
-bool isMirrored(const CWnd& wnd)
+CPoint inDeviceUnits(const CDC& dc, CPoint point)
 {
-    return (wnd.GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+    if (dc.GetMapMode() == MM_TEXT &&
+        dc.GetGraphicsMode() == GM_COMPATIBLE) { // as nearly always, and quickly
+        const CPoint window = dc.GetWindowOrg();
+        const CPoint viewport = dc.GetViewportOrg();
+        return {point.x - window.x + viewport.x, point.y - window.y + viewport.y};
+    }
+    dc.LPtoDP(&point);
+    return point;
 }
 
 /// A DC with a picture of a tab control in it, in the tab control's own coordinates.
@@ -194,16 +201,20 @@ HBRUSH CShadedTabCtrl::amended(CDC* dc, UINT type, HBRUSH defaultBrush, CWnd* co
 /// its left may have to be at the right.
 HBRUSH CShadedTabCtrl::alignedBrush(CDC& dc, const CWnd& control)
 {
+    // Three points: two would be taken for a rectangle, whose sides are put in order.
+    CPoint points[]{CPoint(0, 0), CPoint(1, 0), CPoint(0, 0)};
+    ::MapWindowPoints(m_hWnd, control.m_hWnd, points, 3);
+    const int direction = points[1].x - points[0].x; // -1 when one of the two windows is mirrored
     const bool mirroredDc = (dc.GetLayout() & LAYOUT_RTL) != 0;
-    const bool againstTheScreen = !mirroredDc && isMirrored(control); // as a DC in memory is
-    const bool flipped = isMirrored(*this) != againstTheScreen;
-    CRect window;
-    if (flipped)
+    const bool flipped = (direction < 0) != mirroredDc;
+    CPoint origin = points[0];
+    if (flipped) {
+        CRect window;
         GetWindowRect(&window);
-    CPoint origin(window.Width(), 0);
-    ::MapWindowPoints(m_hWnd, control.m_hWnd, &origin, 1);
+        origin.x += direction * window.Width();
+    }
     // The control's coordinates may be moved: some let their parent paint into their own DC.
-    dc.LPtoDP(&origin);
+    origin = inDeviceUnits(dc, origin);
     // The origin is an edge between pixels. Of the two beside it the other one is at its right in a mirrored
     // DC.
     dc.SetBrushOrg(mirroredDc ? origin + CSize(1, 0) : origin);
