@@ -95,6 +95,8 @@ void COVOFileDialogImp::tellOfCommand(WORD id, WORD code, HWND control)
         tellOfClick(id);
         break;
     case CBN_SELCHANGE: {
+        if (!control)
+            break; // an accelerator
         const LRESULT selection = ::SendMessageW(control, CB_GETCURSEL, 0, 0);
         if (selection < 0 || selection > std::numeric_limits<DWORD>::max())
             throwIntCast();
