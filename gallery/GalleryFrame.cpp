@@ -274,7 +274,9 @@ void GalleryFrame::settle()
 bool GalleryFrame::shoot(const PageEntry& entry, const std::wstring& pose, const std::wstring& path)
 {
     OnLogClear();
-    arrangeBars(); // whatever a pose before has done
+    // Whatever a pose before has done
+    arrangeBars();
+    moveIntoView();
     openPage(entry);
     settle();
     if (pose.empty())
@@ -288,6 +290,17 @@ bool GalleryFrame::shoot(const PageEntry& entry, const std::wstring& pose, const
         m_poseSaved = known && saveScreenshot(m_hWnd, path);
     }
     return m_poseSaved;
+}
+
+/// Brings the window back onto the screen.
+void GalleryFrame::moveIntoView()
+{
+    CRect place;
+    GetWindowRect(&place);
+    CRect seen = place;
+    EnsureRectVisible(seen);
+    if (seen != place)
+        SetWindowPos(nullptr, seen.left, seen.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // A modal box that a pose has opened is idle: its picture can be taken as soon as the screen shows it.

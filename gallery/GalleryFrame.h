@@ -89,6 +89,7 @@ private:
     bool createParts();
     bool createBars();
     void arrangeBars();
+    void moveIntoView();
     void filterPages();
     void applyPalette();
     bool offerToPage(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);

@@ -63,9 +63,22 @@ RECT placeWithOwned(HWND dialog)
     return all.rect;
 }
 
+RECT screen()
+{
+    const int left = ::GetSystemMetrics(SM_XVIRTUALSCREEN);
+    const int top = ::GetSystemMetrics(SM_YVIRTUALSCREEN);
+    return {left, top, left + ::GetSystemMetrics(SM_CXVIRTUALSCREEN),
+            top + ::GetSystemMetrics(SM_CYVIRTUALSCREEN)};
+}
+
+/// Leaves out what is beyond the screen: nothing is to be seen there.
 bool save(const RECT& place, const std::wstring& path)
 {
-    const UniqueBitmap bitmap = copyOfScreen(place);
+    const RECT all = screen();
+    RECT seen{};
+    if (!::IntersectRect(&seen, &place, &all))
+        return false;
+    const UniqueBitmap bitmap = copyOfScreen(seen);
     Gdiplus::Bitmap image(bitmap.get(), nullptr);
     return image.Save(path.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
 }

@@ -5,7 +5,8 @@
 
 #include <string>
 
-/// What the screen shows where the window is. False when the file cannot be written; GDI+ must be started.
+/// What the screen shows where the window is, without what lies beyond the screen. False when the file cannot
+/// be written; GDI+ must be started.
 bool saveScreenshot(HWND window, const std::wstring& path);
 
 /// The same, with the windows that the dialog has opened beside itself.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 BEGIN_MESSAGE_MAP(CurvePlot, CWnd)
     ON_WM_PAINT()
@@ -26,31 +27,18 @@ bool CurvePlot::create(CWnd& parent)
     return CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), &parent, 1) != FALSE;
 }
 
-void CurvePlot::show(CSliderButton::SliderType type, double low, double high, double value)
+void CurvePlot::show(Curve numberAt, double value)
 {
-    m_type = type;
-    m_low = low;
-    m_high = high;
+    m_numberAt = std::move(numberAt);
     m_value = value;
     Invalidate();
 }
 
-double CurvePlot::valueAt(double fraction) const
+CPoint CurvePlot::place(const CRect& area, double share, double value) const
 {
-    switch (m_type) {
-    case CSliderButton::SliderLogarithmic:
-        return m_low * std::pow(m_high / m_low, fraction);
-    case CSliderButton::SliderSquareRoot:
-        return m_low + (m_high - m_low) * fraction * fraction;
-    default:
-        return m_low + (m_high - m_low) * fraction;
-    }
-}
-
-CPoint CurvePlot::place(const CRect& area, double fraction, double value) const
-{
-    const double up = std::clamp((value - m_low) / (m_high - m_low), 0.0, 1.0);
-    return CPoint(area.left + std::lround(area.Width() * fraction),
+    const double low = m_numberAt(0);
+    const double up = std::clamp((value - low) / (m_numberAt(1) - low), 0.0, 1.0);
+    return CPoint(area.left + std::lround(area.Width() * share),
                   area.bottom - std::lround(area.Height() * up));
 }
 
@@ -70,13 +58,13 @@ void CurvePlot::OnPaint()
     dc.LineTo(area.right, area.bottom);
 
     dc.SelectObject(&curve);
-    dc.MoveTo(place(area, 0, m_low));
-    CPoint mark = place(area, 0, m_low);
+    CPoint mark = place(area, 0, m_numberAt(0));
+    dc.MoveTo(mark);
     for (int step = 1; step <= kSteps; ++step) {
-        const double fraction = static_cast<double>(step) / kSteps;
-        const CPoint here = place(area, fraction, valueAt(fraction));
+        const double share = static_cast<double>(step) / kSteps;
+        const CPoint here = place(area, share, m_numberAt(share));
         dc.LineTo(here);
-        if (valueAt(fraction) <= m_value)
+        if (m_numberAt(share) <= m_value)
             mark = here;
     }
     dc.SelectObject(old);

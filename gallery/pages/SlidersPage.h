@@ -3,6 +3,7 @@
 
 #include "GalleryPage.h"
 #include "model/DisplayedNumbers.h"
+#include "model/UnitsWithTip.h"
 #include "pages/CurvePlot.h"
 #include "pages/TurnedBox.h"
 
@@ -24,10 +25,13 @@ public:
 
 protected:
     BOOL OnInitDialog() override;
+    void DoDataExchange(CDataExchange* exchange) override;
 
+    afx_msg void OnCheck();
     afx_msg void OnConvention();
     afx_msg void OnEnable();
     afx_msg void OnExtras();
+    afx_msg void OnReversed();
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg LRESULT OnValueChanged(WPARAM buddy, LPARAM lParam);
@@ -35,18 +39,30 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void fillNumbers();
+    static constexpr std::size_t kRows = 6;
+
+    void createButtons();
+    void createAngles();
+    void arrange();
     void showCurve(std::size_t row);
-    double valueIn(std::size_t row);
     void turn(double heading, double tilt);
-    bool poseAngle(const std::wstring& name);
-    void openWithExtras();
+    CRoundSlider& heading() { return m_headings[m_reversed]; }
+    CWheelSlider& tilt() { return m_tilts[m_reversed]; }
+
+    void openPopup(std::size_t row);
+    void openAtScreenEdge();
+    bool poseAngles(const std::wstring& name);
 
     DisplayedNumbers m_numbers;
-    std::array<CSliderButton, 4> m_buttons;
+    UnitsWithTip m_volumes{L"mm\u00B3"};
+    UnitsWithTip m_shares{CUnitNumbers::Percent};
+    std::array<CSliderButton, kRows> m_buttons;
+    std::array<double, kRows> m_values{};
     CurvePlot m_plot;
     TurnedBox m_box;
-    CRoundSlider m_heading{false};
-    CWheelSlider m_tilt{true};
+    // Which way they turn is settled when they are made.
+    bool m_reversed = false;
+    std::array<CRoundSlider, 2> m_headings{CRoundSlider(false), CRoundSlider(true)};
+    std::array<CWheelSlider, 2> m_tilts{CWheelSlider(true), CWheelSlider(false)};
     CDialSlider m_dial; // turns with the heading
 };
