@@ -1,14 +1,20 @@
-/// Tells, after a call into the host's code, whether an object still exists.
-///
-///     const Lifeline::Watch watch(m_lifeline);
-///     tellParent();
-///     if (!watch.alive())
-///         return;
+/// Tells, after a call into the host's code, whether the caller may go on.
 #pragma once
+
+#include <afxwin.h>
 
 #include <memory>
 
-/// A member of the object that may vanish. A copy of the object has a lifeline of its own.
+/// A host that is called (a notification, a callback, a virtual operation, a question for a text) may destroy
+/// the window or delete the object that called it. Whoever goes on afterwards keeps a watch on its stack:
+///
+///     const Lifeline::Watch watch(*this);
+///     tellParent();
+///     if (!watch.alive())
+///         return;
+///
+/// A window is watched as it is. An object that is no window, or that is to be watched without one, has a
+/// lifeline for a member and watches that. A copy of the object has a lifeline of its own.
 class Lifeline
 {
 public:
@@ -22,18 +28,32 @@ public:
     }
     Lifeline& operator=(const Lifeline&) { return *this; }
 
-    /// What the caller keeps on its stack. It outlives the object.
+    /// It outlives what it watches.
     class Watch
     {
     public:
+        /// Alive until the object with the lifeline is deleted.
         explicit Watch(const Lifeline& lifeline)
             : m_life(lifeline.m_life)
         {
         }
-        bool alive() const { return !m_life.expired(); }
+        /// Alive as long as the object has the window that it has now. It may be of any class: what counts is
+        /// the framework's map of windows, which deleted objects are not in.
+        explicit Watch(const CWnd& window)
+            : m_object(&window)
+            , m_window(window.m_hWnd)
+        {
+        }
+
+        bool alive() const
+        {
+            return m_object ? CWnd::FromHandlePermanent(m_window) == m_object : !m_life.expired();
+        }
 
     private:
         std::weak_ptr<char> m_life;
+        const CWnd* m_object = nullptr; // for comparison alone: it may be deleted
+        HWND m_window = nullptr;
     };
 
 private:

@@ -1,6 +1,6 @@
 #include <ovoui/lists/ComboBox.h>
 
-#include <ovoui/lists/Alive.h>
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ComboCommands.h>
 #include <ovoui/lists/ComboHistory.h>
 #include <ovoui/lists/ComboItems.h>
@@ -185,7 +185,7 @@ BOOL COVOComboBox::PreTranslateMessage(MSG* pMsg)
 
 BOOL COVOComboBox::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     if (lParam == 0) {
         switch (wParam) {
         case kReturn:
@@ -208,16 +208,16 @@ BOOL COVOComboBox::OnCommand(WPARAM wParam, LPARAM lParam)
             break;
         }
     }
-    return !isAlive(this, window) || CWnd::OnCommand(wParam, lParam);
+    return !watch.alive() || CWnd::OnCommand(wParam, lParam);
 }
 
 void COVOComboBox::onReturn()
 {
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     const bool dropped = GetDroppedState();
     const int selection = dropped ? GetCurSel() : -1;
     const bool match = matches(takingOf(dropped, selection != -1, settings()), selection);
-    if (isAlive(this, window))
+    if (watch.alive())
         carryOut(afterReturn(match, dropped, settings()));
 }
 
@@ -232,10 +232,10 @@ void COVOComboBox::onArrow(Told arrow)
 /// Closing the list calls the host: the combo box may be gone afterwards, which makes it no match.
 bool COVOComboBox::matches(const Taking& taking, int listSelection)
 {
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     if (taking.closesList)
         ShowDropDown(FALSE);
-    if (!isAlive(this, window))
+    if (!watch.alive())
         return false;
     if (taking.selectsAgain)
         SetCurSel(listSelection);
@@ -265,9 +265,10 @@ void COVOComboBox::carryOut(const Verdict& verdict)
 bool COVOComboBox::tell(UINT code)
 {
     const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     if (CWnd* const parent = GetParent())
         parent->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), code), reinterpret_cast<LPARAM>(window));
-    return isAlive(this, window);
+    return watch.alive();
 }
 
 // Completion
@@ -276,12 +277,12 @@ void COVOComboBox::OnEditUpdate()
 {
     if (m_completing)
         return;
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     const std::wstring typed = m_search ? editText() : std::wstring();
     m_editedInList = true;
     if (m_autoComplete && m_completionAllowed)
         complete();
-    if (isAlive(this, window) && m_search && m_keyed && !GetDroppedState())
+    if (watch.alive() && m_search && m_keyed && !GetDroppedState())
         m_search->typed(typed);
 }
 
@@ -295,10 +296,10 @@ void COVOComboBox::complete()
     if (item == -1)
         return;
     // What changes the text here is no typing, and is not to be completed in its turn.
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     const OwnChange change(*this, m_completing);
     SetWindowText(itemText(item).c_str());
-    if (isAlive(this, window))
+    if (watch.alive())
         selectTail(selection, text.size());
 }
 
@@ -329,13 +330,13 @@ BOOL COVOComboBox::OnKillFocus()
 {
     if (m_search)
         m_search->end();
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     const bool dropped = GetDroppedState();
     const int selection = dropped ? GetCurSel() : -1;
     const bool match = matches(takingOf(dropped, selection != -1, settings()), selection);
-    if (isAlive(this, window))
+    if (watch.alive())
         carryOut(afterFocusLost(match, changed(), settings()));
-    return !isAlive(this, window);
+    return !watch.alive();
 }
 
 BOOL COVOComboBox::OnSelEndOk()

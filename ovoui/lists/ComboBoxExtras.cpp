@@ -1,6 +1,6 @@
 // What a completing combo box does when the host asks for it: search inside, history, cue, looks of items.
-#include <ovoui/lists/Alive.h>
 #include <ovoui/lists/ComboBox.h>
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ComboCommands.h>
 #include <ovoui/lists/ComboHistory.h>
 #include <ovoui/lists/ComboItems.h>
@@ -95,9 +95,9 @@ void COVOComboBox::rememberAccepted()
 
 void COVOComboBox::onRemember()
 {
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     for (const std::wstring& text : std::exchange(m_accepted, {}))
-        if (isAlive(this, window) && m_history)
+        if (watch.alive() && m_history)
             m_history->use(text);
 }
 
@@ -107,10 +107,10 @@ bool COVOComboBox::forgetsItem(WPARAM virtualKey)
     if (virtualKey != VK_DELETE || !m_history || m_editedInList || !GetDroppedState())
         return false;
     const int item = GetCurSel();
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     if (item == -1 || !m_history->forget(item))
         return false;
-    if (isAlive(this, window))
+    if (watch.alive())
         SetCurSel(std::min(item, GetCount() - 1));
     return true;
 }
@@ -130,13 +130,13 @@ template <class Change, class IndexAfter>
 void COVOComboBox::changeItems(const Change& change, const IndexAfter& indexAfter)
 {
     const OwnChange own(*this, m_completing);
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     const int selection = GetCurSel();
     const std::wstring text = editText();
     const DWORD marked = GetEditSel();
     const std::wstring saved = m_savedSelection == -1 ? m_savedText : itemText(m_savedSelection);
     change();
-    if (!isAlive(this, window))
+    if (!watch.alive())
         return;
     m_savedSelection = indexAfter(m_savedSelection);
     m_savedText = m_savedSelection == -1 ? saved : std::wstring();
@@ -158,11 +158,11 @@ void COVOComboBox::moveItem(int from, int to)
     const std::wstring text = itemText(from);
     const DWORD_PTR data = GetItemData(from);
     const ItemLook look = m_items->looks.at(from);
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     changeItems(
         [&] {
             DeleteString(static_cast<UINT>(from));
-            if (!isAlive(this, window))
+            if (!watch.alive())
                 return;
             InsertString(to, text.c_str());
             SetItemData(to, data);
@@ -221,18 +221,18 @@ void COVOComboBox::drawItems()
 
 LRESULT COVOComboBox::OnAddItem(WPARAM, LPARAM)
 {
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     const LRESULT item = Default();
-    if (isAlive(this, window))
+    if (watch.alive())
         m_items->looks.inserted(static_cast<int>(item));
     return item;
 }
 
 LRESULT COVOComboBox::OnDeleteItem(WPARAM wParam, LPARAM)
 {
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     const LRESULT left = Default();
-    if (left != CB_ERR && isAlive(this, window))
+    if (left != CB_ERR && watch.alive())
         m_items->looks.deleted(static_cast<int>(wParam));
     return left;
 }

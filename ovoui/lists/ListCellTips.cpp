@@ -1,6 +1,5 @@
 #include <ovoui/lists/ListCellTips.h>
 
-#include <ovoui/lists/Alive.h>
 #include <ovoui/lists/RowData.h>
 #include <ovoui/lists/core/RowLayout.h>
 
@@ -78,10 +77,10 @@ LRESULT CALLBACK COVOListCellTips::listProcedure(HWND window, UINT message, WPAR
         self->hide();
     if (message == WM_MOUSELEAVE)
         self->m_cell = {};
-    const std::weak_ptr<const bool> alive = self->m_alive;
+    const Lifeline::Watch watch(self->m_lifeline);
     const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
     // Last, since the host is called, who may take subclasses away.
-    if (message == WM_MOUSEMOVE && !alive.expired() && self->m_window == window)
+    if (message == WM_MOUSEMOVE && watch.alive() && self->m_window == window)
         self->pointerAt(CPoint(lParam));
     return result;
 }
@@ -90,11 +89,11 @@ void COVOListCellTips::pointerAt(CPoint point)
 {
     LVHITTESTINFO hit{};
     hit.pt = point;
-    const std::weak_ptr<const bool> alive = m_alive;
+    const Lifeline::Watch watch(m_lifeline);
     const HWND window = m_window;
     // The platform may ask the host for the label's text, who may destroy list and tips.
     const Cell cell = m_list->SubItemHitTest(&hit) == -1 ? Cell{} : Cell{hit.iItem, hit.iSubItem};
-    if (alive.expired() || m_window != window || cell == m_cell)
+    if (!watch.alive() || m_window != window || cell == m_cell)
         return;
     hide();
     m_cell = cell;
@@ -109,12 +108,12 @@ void COVOListCellTips::pointerAt(CPoint point)
 std::wstring COVOListCellTips::cutText(const Cell& cell, CRect& textPlace) const
 {
     COVOListCtrlEx& list = *m_list;
-    const HWND window = m_window;
+    const Lifeline::Watch watch(list);
     CellText reader;
     const std::wstring text = reader(list, cell.item, cell.column);
     LVCOLUMN known{};
     known.mask = LVCF_WIDTH;
-    if (!isAlive(&list, window) || cell.item >= list.GetItemCount() || !list.GetColumn(cell.column, &known))
+    if (!watch.alive() || cell.item >= list.GetItemCount() || !list.GetColumn(cell.column, &known))
         return {};
     const bool isLabel = cell.column == 0;
     if (isLabel)
@@ -134,9 +133,9 @@ std::wstring COVOListCellTips::cutText(const Cell& cell, CRect& textPlace) const
 void COVOListCellTips::show(const Cell& cell)
 {
     CRect place;
-    const std::weak_ptr<const bool> alive = m_alive;
+    const Lifeline::Watch watch(m_lifeline);
     const std::wstring text = cutText(cell, place);
-    if (alive.expired())
+    if (!watch.alive())
         return;
     m_text = text;
     if (m_text.empty() || !m_list || !createTip())

@@ -5,9 +5,9 @@
 #pragma once
 
 #include <ovoui/export.h>
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ListCtrlEx.h>
 
-#include <memory>
 #include <string>
 
 /// While the pointer rests on a cell whose text is cut, a tip with the whole text lies over the cell, in its
@@ -48,5 +48,5 @@ private:
     HWND m_tip = nullptr;
     Cell m_cell; ///< under the pointer; a tip that went by a key or a click comes back in another cell only
     std::wstring m_text;
-    std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true);
+    Lifeline m_lifeline;
 };

@@ -1,6 +1,5 @@
 #include <ovoui/lists/ListCopier.h>
 
-#include <ovoui/lists/Alive.h>
 #include <ovoui/lists/ReportColumns.h>
 #include <ovoui/lists/core/TableText.h>
 
@@ -27,11 +26,11 @@ TableRow rowOf(const std::vector<int>& columns, TextOf textOf)
 /// The host may be asked for texts, and may destroy the list then: the rest is left out.
 std::vector<TableRow> selectedRows(CListCtrl& list, const std::vector<int>& columns)
 {
-    const HWND window = list.m_hWnd;
+    const Lifeline::Watch watch(list);
     std::vector<TableRow> rows;
-    for (int item = -1; isAlive(&list, window) && (item = list.GetNextItem(item, LVNI_SELECTED)) != -1;)
+    for (int item = -1; watch.alive() && (item = list.GetNextItem(item, LVNI_SELECTED)) != -1;)
         rows.push_back(rowOf(columns, [&](int column) -> std::wstring {
-            return isAlive(&list, window) ? list.GetItemText(item, column).GetString() : L"";
+            return watch.alive() ? list.GetItemText(item, column).GetString() : L"";
         }));
     return rows;
 }
@@ -77,9 +76,9 @@ bool put(UINT format, Block block)
 bool copySelectedRows(CListCtrl& list, bool headings)
 {
     const std::vector<int> columns = columnsAsShown(list);
-    const HWND window = list.m_hWnd;
+    const Lifeline::Watch watch(list);
     std::vector<TableRow> rows = selectedRows(list, columns);
-    if (rows.empty() || !isAlive(&list, window))
+    if (rows.empty() || !watch.alive())
         return false;
     if (headings)
         rows.insert(rows.begin(), rowOf(columns, [&](int column) { return headingOf(list, column); }));
@@ -130,10 +129,10 @@ LRESULT CALLBACK COVOListCopier::listProcedure(HWND window, UINT message, WPARAM
     const bool wantsCopy = message == WM_KEYDOWN && (wParam == L'C' || wParam == VK_INSERT) &&
                            ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_SHIFT) >= 0 &&
                            ::GetKeyState(VK_MENU) >= 0;
-    const std::weak_ptr<const bool> alive = self->m_alive;
+    const Lifeline::Watch watch(self->m_lifeline);
     const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
     // Last, since the host is called, who may take subclasses away.
-    if (wantsCopy && !alive.expired() && self->m_window == window)
+    if (wantsCopy && watch.alive() && self->m_window == window)
         copySelectedRows(*self->m_list, self->m_headings);
     return result;
 }

@@ -5,10 +5,9 @@
 #pragma once
 
 #include <ovoui/export.h>
+#include <ovoui/frame/Lifeline.h>
 
 #include <afxcmn.h>
-
-#include <memory>
 
 /// Copies the selected rows as text with tabs and as an HTML table, the columns in the order in which they
 /// are shown, with the headings above them if `headings`. False when no row is selected or the clipboard
@@ -35,5 +34,5 @@ private:
     CListCtrl* m_list = nullptr;
     HWND m_window = nullptr;
     bool m_headings = false;
-    std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true);
+    Lifeline m_lifeline;
 };

@@ -1,6 +1,6 @@
 #include <ovoui/lists/ListCtrlEx.h>
 
-#include <ovoui/lists/Alive.h>
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ColumnShape.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListRowPainter.h>
@@ -152,10 +152,10 @@ void COVOListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
     const int item = static_cast<int>(lpDrawItemStruct->itemID);
     RowLook look{m_clientWidth,  m_stateImageWidth, m_colourColumns, columnShapes(),
                  m_followsOrder, hasFocus(),        m_emphasised,    std::nullopt};
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     if (m_useRowColours)
         look.colour = rowColour(item);
-    if (isAlive(this, window))
+    if (watch.alive())
         ListRowPainter(*this, *lpDrawItemStruct, look).paint();
 }
 
@@ -230,19 +230,19 @@ void COVOListCtrlEx::OnSize(UINT nType, int cx, int cy)
 
 void COVOListCtrlEx::OnSetFocus(CWnd* pOldWnd)
 {
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     const bool fromChild = isOurs(pOldWnd);
     CWnd::OnSetFocus(pOldWnd);
-    if (isAlive(this, window))
+    if (watch.alive())
         repaintSelectionUnless(fromChild);
 }
 
 void COVOListCtrlEx::OnKillFocus(CWnd* pNewWnd)
 {
-    const HWND window = m_hWnd;
+    const Lifeline::Watch watch(*this);
     const bool toChild = isOurs(pNewWnd);
     CWnd::OnKillFocus(pNewWnd);
-    if (isAlive(this, window))
+    if (watch.alive())
         repaintSelectionUnless(toChild);
 }
 

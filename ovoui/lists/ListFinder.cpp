@@ -1,6 +1,5 @@
 #include <ovoui/lists/ListFinder.h>
 
-#include <ovoui/lists/Alive.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/RowData.h>
 #include <ovoui/lists/core/FindRules.h>
@@ -93,7 +92,7 @@ void COVOListFinder::Detach()
 {
     if (m_window) {
         ::RemoveWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this));
-        if (isAlive(m_list, m_window))
+        if (CWnd::FromHandlePermanent(m_window) == m_list)
             keep({});
     }
     *m_state = {};
@@ -152,9 +151,9 @@ bool COVOListFinder::key(FindKey key, wchar_t character)
         keep(effect.state);
         return effect.taken;
     }
-    const std::weak_ptr<const bool> alive = m_alive;
+    const Lifeline::Watch watch(m_lifeline);
     const HWND window = m_window;
-    if (!search(effect.state, effect.search) && !alive.expired() && m_window == window)
+    if (!search(effect.state, effect.search) && watch.alive() && m_window == window)
         ::MessageBeep(MB_OK);
     return effect.taken;
 }
@@ -180,12 +179,13 @@ bool COVOListFinder::FindNext(bool forward)
 /// after each of these. A search that the host begins meanwhile is the one that counts.
 bool COVOListFinder::search(const FindState& state, Search how)
 {
-    const std::weak_ptr<const bool> alive = m_alive;
+    const Lifeline::Watch watch(m_lifeline);
     COVOListCtrlEx& list = *m_list;
     const HWND window = m_window;
+    const Lifeline::Watch listWatch(list);
     const FindState before = *m_state;
     const int row = rowWith(state.text, how);
-    if (row < 0 || alive.expired() || m_window != window || *m_state != before || !isAlive(&list, window))
+    if (row < 0 || !watch.alive() || m_window != window || *m_state != before || !listWatch.alive())
         return false;
     keep(state);
     return goTo(row);
@@ -197,14 +197,14 @@ int COVOListFinder::rowWith(const std::wstring& text, Search how) const
     const int focused = list.GetNextItem(-1, LVNI_FOCUSED);
     if (list.GetStyle() & LVS_OWNERDATA)
         return askedRow(list, text, focused, how);
-    const HWND window = m_window;
+    const Lifeline::Watch watch(list);
     const std::wstring part = folded(text);
     const CHeaderCtrl* const header = list.GetHeaderCtrl();
     const int columns = header ? header->GetItemCount() : 1;
     const int count = list.GetItemCount();
     return findRow(count, focused, how, [&](int row) {
         const bool found = hasText(list, row, columns, part);
-        if (!isAlive(&list, window) || list.GetItemCount() != count)
+        if (!watch.alive() || list.GetItemCount() != count)
             return Look::Stop;
         return found ? Look::Yes : Look::No;
     });
@@ -223,11 +223,12 @@ bool COVOListFinder::goTo(int row)
 {
     COVOListCtrlEx& list = *m_list;
     const HWND window = m_window;
+    const Lifeline::Watch listWatch(list);
     const int count = list.GetItemCount();
-    const std::weak_ptr<const bool> alive = m_alive;
+    const Lifeline::Watch watch(m_lifeline);
     const FindState state = *m_state;
     const auto isAsBefore = [&] {
-        return !alive.expired() && m_window == window && *m_state == state && isAlive(&list, window) &&
+        return watch.alive() && m_window == window && *m_state == state && listWatch.alive() &&
                list.GetItemCount() == count;
     };
     for (int item = -1; (item = list.GetNextItem(item, LVNI_SELECTED)) != -1;) {

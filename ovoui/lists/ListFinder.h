@@ -5,6 +5,7 @@
 #pragma once
 
 #include <ovoui/export.h>
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ListCtrlEx.h>
 
 #include <memory>
@@ -67,5 +68,5 @@ private:
     COVOListCtrlEx* m_list = nullptr;
     HWND m_window = nullptr;
     std::unique_ptr<ovoui::lists::FindState> m_state;
-    std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true);
+    Lifeline m_lifeline;
 };

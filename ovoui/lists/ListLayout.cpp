@@ -1,6 +1,5 @@
 #include <ovoui/lists/ListLayout.h>
 
-#include <ovoui/lists/Alive.h>
 #include <ovoui/lists/ListSorter.h>
 #include <ovoui/lists/ReportColumns.h>
 #include <ovoui/lists/core/ColumnLayout.h>
@@ -32,9 +31,9 @@ std::vector<std::wstring> headingsOf(CListCtrl& list)
 void restoreWidths(CListCtrl& list, const ColumnLayout& layout, const std::vector<std::wstring>& headings)
 {
     const int dpi = dotsPerInch(list);
-    const HWND window = list.m_hWnd;
+    const Lifeline::Watch watch(list);
     for (const auto& [heading, width] : layout.shown)
-        for (std::size_t column = 0; isAlive(&list, window) && column < headings.size(); ++column)
+        for (std::size_t column = 0; watch.alive() && column < headings.size(); ++column)
             if (headings[column] == heading)
                 list.SetColumnWidth(static_cast<int>(column), ::MulDiv(width, dpi, kUsualDpi));
 }
@@ -63,11 +62,11 @@ bool restoreColumnLayout(CListCtrl& list, LPCWSTR section, LPCWSTR entry, COVOLi
     const ColumnLayout layout = parseLayout(text.GetString());
     const std::vector<std::wstring> headings = headingsOf(list);
     std::vector<int> order = orderOfColumns(layout, headings);
-    const HWND window = list.m_hWnd;
+    const Lifeline::Watch watch(list);
     list.SetColumnOrderArray(static_cast<int>(order.size()), order.data());
-    if (isAlive(&list, window))
+    if (watch.alive())
         restoreWidths(list, layout, headings);
-    if (!isAlive(&list, window))
+    if (!watch.alive())
         return false;
     list.Invalidate();
     const auto sorted = std::find(headings.begin(), headings.end(), layout.sortedBy);

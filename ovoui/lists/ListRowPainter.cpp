@@ -1,7 +1,7 @@
 #include <ovoui/lists/ListRowPainter.h>
 
 #include <ovoui/frame/BoxRect.h>
-#include <ovoui/lists/Alive.h>
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListCtrlEx.h>
 #include <ovoui/lists/SolidFill.h>
@@ -157,8 +157,8 @@ bool ListRowPainter::readItem()
     m_item.stateMask = 0xFFFF;
     m_item.pszText = s_itemText;
     m_item.cchTextMax = kItemTextRoom;
-    const HWND window = m_list.m_hWnd;
-    return m_list.GetItem(&m_item) && isAlive(&m_list, window);
+    const Lifeline::Watch watch(m_list);
+    return m_list.GetItem(&m_item) && watch.alive();
 }
 
 void ListRowPainter::chooseColours()
@@ -250,10 +250,10 @@ frame::Box ListRowPainter::cellBox(int column, int width, const frame::Box& befo
 void ListRowPainter::paintSubItems(const frame::Box& label)
 {
     frame::Box box = label;
-    const HWND window = m_list.m_hWnd;
+    const Lifeline::Watch watch(m_list);
     const int count = static_cast<int>(m_look.columns.size());
     // The platform may ask the host for a text, who may destroy the list instead.
-    for (int i = 1; i < count && isAlive(&m_list, window); ++i) {
+    for (int i = 1; i < count && watch.alive(); ++i) {
         const ColumnShape& column = m_look.columns[static_cast<std::size_t>(i)];
         box = cellBox(i, column.width, box);
         s_itemText[0] = 0;

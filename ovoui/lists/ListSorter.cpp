@@ -1,6 +1,5 @@
 #include <ovoui/lists/ListSorter.h>
 
-#include <ovoui/lists/Alive.h>
 #include <ovoui/lists/RowData.h>
 #include <ovoui/lists/core/NumberText.h>
 #include <ovoui/lists/core/RowOrder.h>
@@ -30,11 +29,11 @@ template <class Take>
 void eachText(const COVOListCtrlEx& list, int column, const Take& take)
 {
     CellText reader;
-    const HWND window = list.m_hWnd;
+    const Lifeline::Watch watch(list);
     const int count = list.GetItemCount();
     for (int row = 0; row < count; ++row) {
         const LPCWSTR text = reader(list, row, column);
-        if (!isAlive(&list, window))
+        if (!watch.alive())
             return;
         take(text);
     }
@@ -164,9 +163,9 @@ LRESULT CALLBACK COVOListSorter::listProcedure(HWND window, UINT message, WPARAM
         if (header.code == static_cast<UINT>(HDN_ITEMCLICKW))
             clicked = reinterpret_cast<const NMHEADERW&>(header).iItem;
     }
-    const std::weak_ptr<const bool> alive = self->m_alive;
+    const Lifeline::Watch watch(self->m_lifeline);
     const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
-    if (clicked >= 0 && !alive.expired() && self->m_window == window)
+    if (clicked >= 0 && watch.alive() && self->m_window == window)
         self->headingClicked(clicked);
     return result;
 }
@@ -183,13 +182,13 @@ bool COVOListSorter::Sort(int column, bool ascending)
     if (!m_list || !m_list->GetColumn(column, &known) || (m_list->GetStyle() & LVS_OWNERDATA))
         return false;
     COVOListCtrlEx& list = *m_list;
-    const HWND window = m_window;
+    const Lifeline::Watch listWatch(list);
     const int count = list.GetItemCount();
-    const std::weak_ptr<const bool> alive = m_alive;
+    const Lifeline::Watch watch(m_lifeline);
     const std::vector<int> order = orderOf(column, ascending);
-    if (alive.expired() || !isAlive(&list, window) || list.GetItemCount() != count || m_list != &list)
+    if (!watch.alive() || !listWatch.alive() || list.GetItemCount() != count || m_list != &list)
         return false;
-    if (!reorderRows(list, order) || alive.expired() || m_list != &list)
+    if (!reorderRows(list, order) || !watch.alive() || m_list != &list)
         return false;
     m_column = column;
     m_ascending = ascending;
@@ -224,10 +223,10 @@ std::vector<int> COVOListSorter::orderByHost(int column, bool ascending) const
     const auto found = m_compares.find(column);
     const Compare compare = found == m_compares.end() ? Compare() : found->second;
     COVOListCtrlEx& list = *m_list;
-    const HWND window = m_window;
+    const Lifeline::Watch watch(list);
     const int count = list.GetItemCount();
     return orderOfRows(count, [&, ascending](int row, int other) {
-        if (!compare || !isAlive(&list, window) || list.GetItemCount() != count)
+        if (!compare || !watch.alive() || list.GetItemCount() != count)
             return false;
         const int result = compare(list, row, other);
         return ascending ? result < 0 : result > 0;

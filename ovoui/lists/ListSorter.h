@@ -7,11 +7,11 @@
 #pragma once
 
 #include <ovoui/export.h>
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ListCtrlEx.h>
 
 #include <functional>
 #include <map>
-#include <memory>
 #include <vector>
 
 /// A click on a heading sorts by its column, a second one the other way round; an arrow in the heading shows
@@ -69,5 +69,5 @@ private:
     std::map<int, Compare> m_compares;
     int m_column = -1;
     bool m_ascending = true;
-    std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true);
+    Lifeline m_lifeline;
 };

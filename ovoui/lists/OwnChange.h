@@ -1,7 +1,7 @@
 /// Not exported: marks changes that a control makes itself.
 #pragma once
 
-#include <ovoui/lists/Alive.h>
+#include <ovoui/frame/Lifeline.h>
 
 #include <afxwin.h>
 
@@ -13,23 +13,21 @@ class OwnChange
 {
 public:
     OwnChange(const CWnd& control, bool& flag)
-        : m_control(control)
-        , m_window(control.m_hWnd)
+        : m_watch(control)
         , m_flag(flag)
     {
         m_flag = true;
     }
     ~OwnChange()
     {
-        if (isAlive(&m_control, m_window))
+        if (m_watch.alive())
             m_flag = false;
     }
     OwnChange(const OwnChange&) = delete;
     OwnChange& operator=(const OwnChange&) = delete;
 
 private:
-    const CWnd& m_control;
-    const HWND m_window;
+    const Lifeline::Watch m_watch;
     bool& m_flag;
 };
 

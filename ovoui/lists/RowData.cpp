@@ -1,6 +1,6 @@
 #include <ovoui/lists/RowData.h>
 
-#include <ovoui/lists/Alive.h>
+#include <ovoui/frame/Lifeline.h>
 
 #include <functional>
 #include <unordered_map>
@@ -17,13 +17,13 @@ class Hold
 public:
     explicit Hold(CListCtrl& list)
         : m_list(list)
-        , m_window(list.m_hWnd)
+        , m_watch(list)
     {
         m_list.SetRedraw(FALSE);
     }
     ~Hold()
     {
-        if (!isAlive(&m_list, m_window))
+        if (!m_watch.alive())
             return;
         m_list.SetRedraw(TRUE);
         m_list.Invalidate();
@@ -33,7 +33,7 @@ public:
 
 private:
     CListCtrl& m_list;
-    const HWND m_window;
+    const Lifeline::Watch m_watch;
 };
 
 /// What the platform sorts by.
@@ -101,7 +101,7 @@ class StandIns
 public:
     StandIns(CListCtrl& list, const std::vector<SortRow>& rows)
         : m_list(list)
-        , m_window(list.m_hWnd)
+        , m_watch(list)
         , m_rows(rows)
     {
     }
@@ -120,7 +120,7 @@ public:
     {
         for (std::size_t row = 0; row < m_rows.size(); ++row) {
             m_list.SetItemData(static_cast<int>(row), reinterpret_cast<DWORD_PTR>(&m_rows[row]));
-            if (!isAlive(&m_list, m_window) || m_list.GetItemCount() != static_cast<int>(m_rows.size()))
+            if (!m_watch.alive() || m_list.GetItemCount() != static_cast<int>(m_rows.size()))
                 return false;
         }
         return true;
@@ -134,7 +134,7 @@ public:
 private:
     void giveBack() const
     {
-        for (int item = 0; isAlive(&m_list, m_window) && item < m_list.GetItemCount(); ++item) {
+        for (int item = 0; m_watch.alive() && item < m_list.GetItemCount(); ++item) {
             const auto* const row = reinterpret_cast<const SortRow*>(m_list.GetItemData(item));
             if (!std::less<>()(row, m_rows.data()) && std::less<>()(row, m_rows.data() + m_rows.size()))
                 m_list.SetItemData(item, static_cast<DWORD_PTR>(row->data));
@@ -142,7 +142,7 @@ private:
     }
 
     CListCtrl& m_list;
-    const HWND m_window;
+    const Lifeline::Watch m_watch;
     const std::vector<SortRow>& m_rows;
 };
 

@@ -7,9 +7,9 @@
 namespace ovoui::sliders
 {
 
-AccessibleSlider::AccessibleSlider(const CWnd& slider, const Lifeline& life, Text name, Text value)
-    : m_slider(slider)
-    , m_watch(life)
+AccessibleSlider::AccessibleSlider(const CWnd& slider, Text name, Text value)
+    : m_window(slider.m_hWnd)
+    , m_watch(slider)
     , m_name(std::move(name))
     , m_value(std::move(value))
 {
@@ -17,7 +17,7 @@ AccessibleSlider::AccessibleSlider(const CWnd& slider, const Lifeline& life, Tex
 
 HWND AccessibleSlider::window() const
 {
-    return m_watch.alive() ? m_slider.m_hWnd : nullptr;
+    return m_watch.alive() ? m_window : nullptr;
 }
 
 LONG AccessibleSlider::role(int) const

@@ -16,8 +16,8 @@ class AccessibleSlider : public frame::Accessible
 public:
     using Text = std::function<std::wstring()>;
 
-    /// `life` is that of `slider`. The texts are asked for while the slider has a window.
-    AccessibleSlider(const CWnd& slider, const Lifeline& life, Text name, Text value);
+    /// The texts are asked for while the slider has the window that it has now.
+    AccessibleSlider(const CWnd& slider, Text name, Text value);
 
     HWND window() const override;
     LONG role(int part) const override;
@@ -25,7 +25,7 @@ public:
     std::wstring value(int part) const override;
 
 private:
-    const CWnd& m_slider;
+    const HWND m_window;
     const Lifeline::Watch m_watch;
     const Text m_name;
     const Text m_value;

@@ -1,6 +1,7 @@
 #include <ovoui/sliders/AngleSlider.h>
 
 #include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/sliders/AngleSliderOptions.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
 #include <ovoui/sliders/core/CylinderPicture.h>
@@ -92,10 +93,10 @@ void CAngleSlider::OnLButtonDown(UINT flags, CPoint point)
 
 void CAngleSlider::OnLButtonDblClk(UINT, CPoint point)
 {
-    const Lifeline::Watch watch(m_lifeline);
+    const Lifeline::Watch watch(*this);
     if (m_options->keyboard)
         SetFocus();
-    if (!watch.alive() || !m_hWnd)
+    if (!watch.alive())
         return;
     m_drag->press(angleAt(point, true));
     SetCapture();
@@ -133,11 +134,11 @@ void CAngleSlider::OnCaptureChanged(CWnd* wnd)
 /// Whether the slider still has its window afterwards.
 bool CAngleSlider::tellParent(UINT code, double degrees)
 {
-    const Lifeline::Watch watch(m_lifeline);
+    const Lifeline::Watch watch(*this);
     const UINT message = m_axis == Axis::Vertical ? WM_HSCROLL : WM_VSCROLL;
     ::SendMessageW(::GetParent(m_hWnd), message, MAKEWPARAM(code, messageAngle(degrees)),
                    reinterpret_cast<LPARAM>(m_hWnd));
-    return watch.alive() && m_hWnd;
+    return watch.alive();
 }
 
 CRect CAngleSlider::cylinder() const

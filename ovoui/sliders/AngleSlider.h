@@ -2,7 +2,6 @@
 #pragma once
 
 #include <ovoui/export.h>
-#include <ovoui/frame/Lifeline.h>
 
 #include <afxwin.h>
 
@@ -104,5 +103,4 @@ private:
     const Axis m_axis;
     const bool m_reversed;
     std::unique_ptr<Options> m_options;
-    Lifeline m_lifeline;
 };

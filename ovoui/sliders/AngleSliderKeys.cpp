@@ -104,10 +104,10 @@ void CAngleSlider::OnChar(UINT character, UINT repeat, UINT flags)
         return;
     }
     m_options->edit.open(*this, static_cast<wchar_t>(character), [this](std::optional<double> typed) {
-        const Lifeline::Watch watch(m_lifeline);
+        const Lifeline::Watch watch(*this);
         if (::GetFocus() == nullptr)
             SetFocus(); // the edit control had it
-        if (watch.alive() && m_hWnd && typed && std::isfinite(*typed))
+        if (watch.alive() && typed && std::isfinite(*typed))
             turnTo(*typed);
     });
 }
@@ -144,8 +144,7 @@ LRESULT CAngleSlider::OnGetObject(WPARAM wParam, LPARAM lParam)
         return Default();
     const auto name = [this] { return labelBefore(m_hWnd); };
     const auto value = [this] { return std::to_wstring(roundedAngle()); };
-    return ovoui::frame::accessibleAnswer(wParam,
-                                          std::make_shared<AccessibleSlider>(*this, m_lifeline, name, value));
+    return ovoui::frame::accessibleAnswer(wParam, std::make_shared<AccessibleSlider>(*this, name, value));
 }
 
 long CAngleSlider::roundedAngle() const

@@ -147,7 +147,7 @@ void CSliderButton::SetPressed(bool pressed)
             ::ReleaseCapture();
         m_parts->drag.end();
     }
-    const Lifeline::Watch watch(m_lifeline);
+    const Lifeline::Watch watch(*this);
     Invalidate();
     UpdateWindow();
     if (pressed || !m_parts->buddy.exists())
@@ -167,18 +167,18 @@ LRESULT CSliderButton::OnUnpress(WPARAM, LPARAM)
 /// Presses the button and drops the popup. Whether that came about.
 bool CSliderButton::press(const CPoint& at)
 {
-    const Lifeline::Watch watch(m_lifeline);
+    const Lifeline::Watch watch(*this);
     SetPressed(true);
-    if (!watch.alive() || !m_hWnd)
+    if (!watch.alive())
         return false;
     try {
         ShowPopup(at);
     } catch (...) {
-        if (watch.alive() && m_hWnd)
+        if (watch.alive())
             dismiss();
         throw;
     }
-    return watch.alive() && m_hWnd && m_parts->pressed;
+    return watch.alive() && m_parts->pressed;
 }
 
 CPoint CSliderButton::middle() const
@@ -238,6 +238,5 @@ LRESULT CSliderButton::OnGetObject(WPARAM wParam, LPARAM lParam)
         return Default();
     const auto name = [this] { return labelBefore(m_parts->buddy.window()); };
     const auto value = [this] { return m_parts->buddy.text(); };
-    return ovoui::frame::accessibleAnswer(wParam,
-                                          std::make_shared<AccessibleSlider>(*this, m_lifeline, name, value));
+    return ovoui::frame::accessibleAnswer(wParam, std::make_shared<AccessibleSlider>(*this, name, value));
 }

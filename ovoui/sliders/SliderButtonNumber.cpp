@@ -72,10 +72,10 @@ bool CSliderButton::machineText(std::wstring& text) const
         text = shown;
         return true;
     }
-    const Lifeline::Watch watch(m_lifeline);
+    const Lifeline::Watch watch(*this);
     text.clear();
     m_parts->utils.fromDisplay(text, shown);
-    return watch.alive() && m_hWnd;
+    return watch.alive();
 }
 
 /// A number in machine form as the buddy shows it; none when the host's conversion has deleted the button.
@@ -96,7 +96,7 @@ bool CSliderButton::showText(const std::wstring& machine)
     const auto text = displayed(machine);
     if (!text)
         return false;
-    const Lifeline::Watch watch(m_lifeline);
+    const Lifeline::Watch watch(*this);
     setBuddyText(*text);
     if (!watch.alive())
         return false;
@@ -115,18 +115,18 @@ const std::wstring& CSliderButton::readBuddy() const
 /// The buddy's parent may do anything when it hears of the new text.
 void CSliderButton::setBuddyText(const std::wstring& text)
 {
-    const Lifeline::Watch watch(m_lifeline);
+    const Lifeline::Watch watch(*this);
     const bool changes = text != m_parts->known;
     m_parts->known = text;
     m_parts->buddy.show(text);
-    if (changes && watch.alive() && m_hWnd)
+    if (changes && watch.alive())
         ovoui::frame::announce(EVENT_OBJECT_VALUECHANGE, m_hWnd);
 }
 
 /// Whether the button still has its window afterwards.
 bool CSliderButton::tellParent(UINT message)
 {
-    const Lifeline::Watch watch(m_lifeline);
+    const Lifeline::Watch watch(*this);
     m_parts->buddy.tellParent(message);
-    return watch.alive() && m_hWnd;
+    return watch.alive();
 }
