@@ -36,6 +36,24 @@ BOOL CPopupSlider::Create(CSliderButton* owner)
     return CDialog::Create(IDD_POPUP_SLIDER, owner);
 }
 
+void CPopupSlider::makeRoomForTicks()
+{
+    if (!(m_slider.GetStyle() & TBS_NOTICKS))
+        return;
+    CRect slider;
+    m_slider.GetWindowRect(&slider);
+    CRect popup;
+    GetWindowRect(&popup);
+    const int height = slider.Height();
+    const int room = height / 2;
+    // The thumb stays as it was instead of growing into the new room.
+    m_slider.ModifyStyle(TBS_NOTICKS, TBS_FIXEDLENGTH);
+    m_slider.SendMessage(TBM_SETTHUMBLENGTH, static_cast<WPARAM>(height * 4 / 5));
+    constexpr UINT kSizeOnly = SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE;
+    m_slider.SetWindowPos(nullptr, 0, 0, slider.Width(), height + room, kSizeOnly);
+    SetWindowPos(nullptr, 0, 0, popup.Width(), popup.Height() + room, kSizeOnly);
+}
+
 void CPopupSlider::DoDataExchange(CDataExchange* exchange)
 {
     CDialog::DoDataExchange(exchange);

@@ -24,6 +24,9 @@ public:
 
     CPopupSliderCtrl& slider() { return m_slider; }
 
+    /// Makes slider and popup higher for ticks below the thumb, once.
+    void makeRoomForTicks();
+
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
     BOOL OnInitDialog() override;

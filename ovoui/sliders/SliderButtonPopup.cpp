@@ -14,7 +14,7 @@ void CSliderButton::ShowPopup(const CPoint& at)
     slider.SetPageSize(pageSize(positions, m_parts->pages));
     showTicks();
 
-    const Lifeline::Watch watch(m_lifeline);
+    const Lifeline::Watch watch(*this);
     SetSliderPos();
     if (!watch.alive() || !m_popup.m_hWnd || !m_parts->pressed)
         return;
@@ -70,7 +70,7 @@ void CSliderButton::dismiss()
 {
     if (!m_parts->pressed)
         return;
-    const Lifeline::Watch watch(m_lifeline);
+    const Lifeline::Watch watch(*this);
     HidePopup();
     if (watch.alive())
         SetPressed(false);
@@ -85,7 +85,7 @@ void CSliderButton::dismissFor(HWND pressed)
 
 void CSliderButton::cancelPopup()
 {
-    const Lifeline::Watch watch(m_lifeline);
+    const Lifeline::Watch watch(*this);
     if (m_parts->buddy.exists() && readBuddy() != m_parts->textBefore) {
         setBuddyText(std::wstring(m_parts->textBefore));
         if (!watch.alive() || !tellParent(kValueChanged))
@@ -100,13 +100,8 @@ void CSliderButton::showTicks()
 {
     CPopupSliderCtrl& slider = m_popup.slider();
     slider.ClearTics();
-    if (!m_parts->ticks.empty()) {
-        // The thumb of a slider this low leaves no room for ticks by itself.
-        CRect client;
-        slider.GetClientRect(&client);
-        slider.ModifyStyle(TBS_NOTICKS, TBS_FIXEDLENGTH);
-        slider.SendMessage(TBM_SETTHUMBLENGTH, static_cast<WPARAM>(client.Height() * 3 / 5));
-    }
+    if (!m_parts->ticks.empty())
+        m_popup.makeRoomForTicks();
     for (const int position : m_parts->numbers.positionsOf(m_parts->ticks))
         slider.SetTic(position);
 }

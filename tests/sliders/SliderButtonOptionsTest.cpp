@@ -77,13 +77,35 @@ TEST_F(SliderButtonOptions, TicksStandAtTheHostsNumbers)
     show();
     open();
     EXPECT_EQ(::SendMessageW(slider(), TBM_GETNUMTICS, 0, 0), 0) << "none at first";
+    const auto thumb = [] {
+        CRect rect;
+        ::SendMessageW(slider(), TBM_GETTHUMBRECT, 0, reinterpret_cast<LPARAM>(static_cast<RECT*>(&rect)));
+        return rect;
+    };
+    const int height = thumb().Height();
     user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
     button->SetTicks({1, 10, 100, 5000});
     open();
+    EXPECT_NEAR(thumb().Height(), height, 3) << "the thumb keeps its size";
+    CRect place;
+    ::GetClientRect(slider(), &place);
+    EXPECT_GT(place.bottom - thumb().bottom, 4) << "there is room below it";
+    ::MapWindowPoints(slider(), popup(), reinterpret_cast<POINT*>(&place), 2);
+    CRect client;
+    ::GetClientRect(popup(), &client);
+    EXPECT_EQ(CRect(client & place), place) << "and the popup has room for the slider";
     const auto ticks = reinterpret_cast<const DWORD*>(::SendMessageW(slider(), TBM_GETPTICS, 0, 0));
     const auto count = ::SendMessageW(slider(), TBM_GETNUMTICS, 0, 0) - 2; // without the two ends
     ASSERT_EQ(count, 3);
     EXPECT_EQ(std::vector<DWORD>(ticks, ticks + count), (std::vector<DWORD>{25, 50, 75}));
+
+    CRect before;
+    ::GetWindowRect(popup(), &before);
+    user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+    open();
+    CRect after;
+    ::GetWindowRect(popup(), &after);
+    EXPECT_EQ(after.Size(), before.Size()) << "the room is made once";
 }
 
 // The bubble

@@ -13,7 +13,8 @@ namespace
 constexpr double kRibStep = 5.0;
 constexpr double kRightAngle = 90.0;
 constexpr double kFullTurn = 360.0;
-constexpr int kBandLines = 8; // of a quarter rib, on either side
+constexpr int kBandLines = 8;     // of a quarter rib, on either side
+constexpr double kDimming = 0.25; // the cosine from which on a band is as bright as can be
 
 double radians(double degrees)
 {
@@ -68,18 +69,20 @@ public:
         m_picture.lines.push_back({at, angle < 0 ? light : dark});
     }
 
-    /// A bright band that fades into the strips on either side of it, and the dark edge behind it.
+    /// A bright band that fades into the strips on either side of it, and the dark edge behind it. It dims
+    /// where the cylinder turns away, so that none is seen at its very edge.
     void quarterRib(double angle)
     {
         const int at = coordinate(angle);
         const Shade surface = shadeAt(angle, m_colours.dark, m_colours.light);
+        const double seen = std::clamp(std::cos(radians(angle)) / kDimming, 0.0, 1.0);
+        const Shade dark = mixed(surface, m_colours.dark, seen);
+        const Shade bright = mixed(surface, m_colours.face, seen);
         const bool left = angle < 0;
         for (int k = kBandLines - 1; k >= 0; --k) {
             const double fading = static_cast<double>(k) / kBandLines;
-            m_picture.lines.push_back(
-                {at - 1 - k, mixed(left ? m_colours.dark : m_colours.face, surface, fading)});
-            m_picture.lines.push_back(
-                {at + k, mixed(left ? m_colours.face : m_colours.dark, surface, fading)});
+            m_picture.lines.push_back({at - 1 - k, mixed(left ? dark : bright, surface, fading)});
+            m_picture.lines.push_back({at + k, mixed(left ? bright : dark, surface, fading)});
         }
     }
 

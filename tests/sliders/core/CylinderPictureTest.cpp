@@ -111,6 +111,23 @@ TEST(CylinderPicture, QuartersStandOutAsBrightBands)
         << "eight lines on either side of the quarters at 0 and at 90 degrees";
 }
 
+TEST(CylinderPicture, ABandDimsWhereTheCylinderTurnsAway)
+{
+    for (const double rotation : {0.0, 90.0, -90.0, 180.0}) { // with quarters at both edges
+        const auto row = pixels(0, 300, rotation, true);
+        EXPECT_LT(row.front().red, 120) << rotation;
+        EXPECT_LT(row.back().red, 120) << rotation;
+    }
+    const auto brightest = [](double rotation) { // beside the middle
+        const auto row = pixels(0, 300, rotation, true);
+        return std::max_element(row.begin(), row.begin() + 140,
+                                [](const Shade& a, const Shade& b) { return a.red < b.red; })
+            ->red;
+    };
+    EXPECT_EQ(brightest(30), 255);
+    EXPECT_EQ(brightest(70), 255) << "as bright as can be up to 75 degrees";
+}
+
 TEST(CylinderPicture, AFullTurnLooksTheSame)
 {
     for (const double rotation : {0.0, 12.5, -88.0, 179.0})
