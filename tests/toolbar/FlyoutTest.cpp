@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using namespace ovotest;
 
 namespace
@@ -266,16 +268,18 @@ TEST(FlyoutEntries, OfACommandListHaveTheSizeThatUpdateBarBitmapSizeSays)
     bare.AttachBar(1, IDR_SHAPES, 16, {0, 1}, false);
     scene.frame().RecalcLayout();
     bare.UpdateBarBitmapSize(8);
-    const auto imageWidth = [&](int button) {
+    const auto widthAndCount = [&](int button) {
         bare.CreatePopup(button, onScreen(bare, button), 0);
         int width = 0;
         int height = 0;
-        ::ImageList_GetIconSize(listOf(*BarScene::flyout()), &width, &height);
+        const HIMAGELIST list = listOf(*BarScene::flyout());
+        ::ImageList_GetIconSize(list, &width, &height);
+        const int count = ::ImageList_GetImageCount(list);
         TestBar::ms_popupBar.reset();
-        return width;
+        return std::pair(width, count);
     };
-    EXPECT_EQ(imageWidth(0), 8);
-    EXPECT_EQ(imageWidth(1), 16) << "the resource's own";
+    EXPECT_EQ(widthAndCount(0), std::pair(8, 16)) << "the strip has 128 pixels";
+    EXPECT_EQ(widthAndCount(1).first, 16) << "the resource's own";
 }
 
 TEST(FlyoutEntries, ACopiedFlyoutIsTheSame)
