@@ -15,6 +15,8 @@
 #include <ovoui/colour/ColourGrid.h>
 #include <ovoui/frame/Geometry.h>
 
+#include <afxext.h>
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -440,7 +442,7 @@ TEST_F(ColourDropper, TheParentMayDestroyOrDeleteItWhenItIsTold)
 namespace
 {
 
-class Button : public CColourButton
+class PenButton : public CColourButton
 {
 public:
     int asked = 0;
@@ -461,7 +463,7 @@ protected:
     void show(CPoint place = {100, 80})
     {
         parent.SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-        button = std::make_unique<Button>();
+        button = std::make_unique<PenButton>();
         button->Create(L"&Pen", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(20, 20, 80, 44), &parent, 7);
         button->SetColour(Colour::colorref(kSky));
         button->SetPalette({kLeaf, kRust, kSky, RGB(255, 0, 0), RGB(0, 0, 255), RGB(0, 0, 0)}, 3);
@@ -479,7 +481,7 @@ protected:
     }
     COLORREF now() const { return button->GetColour().colorref(); }
 
-    std::unique_ptr<Button> button;
+    std::unique_ptr<PenButton> button;
 };
 
 constexpr int kLine = 6;
@@ -796,6 +798,24 @@ TEST_F(ColourButton, TheDialogMayDestroyOrDeleteIt)
         EXPECT_TRUE(!button || !button->m_hWnd);
         EXPECT_EQ(parent.log().count(kGridChosen), 0);
     }
+}
+
+TEST_F(ColourButton, LivesInAToolbar)
+{
+    CToolBar bar;
+    ASSERT_TRUE(bar.Create(&parent, WS_CHILD | WS_VISIBLE | CBRS_TOP));
+    bar.SetWindowPos(nullptr, 0, 0, 300, 60, SWP_NOZORDER | SWP_NOMOVE);
+    button = std::make_unique<PenButton>();
+    button->Create(L"Pen", WS_CHILD | WS_VISIBLE, CRect(20, 10, 80, 34), &bar, 7);
+    button->SetColour(Colour::colorref(kRust));
+    present(parent);
+    EXPECT_EQ(Picture::ofClient(*button).at(20, 12), kRust);
+    button->SetFocus();
+    user.key(VK_DOWN).key(VK_HOME).key(VK_RETURN);
+    EXPECT_EQ(now(), RGB(0, 0, 0));
+    EXPECT_EQ(parent.log().count(kGridChosen), 1) << "the bar hands it on to its owner";
+    button.reset();
+    bar.DestroyWindow();
 }
 
 TEST_F(ColourButton, NothingIsLost)
