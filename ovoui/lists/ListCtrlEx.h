@@ -20,8 +20,9 @@
 
 namespace ovoui::lists
 {
+class DirectList;
 struct ColumnShape;
-}
+} // namespace ovoui::lists
 
 /// The control makes itself an owner-drawn report list when it is created. On a dialog item the template must
 /// have LVS_REPORT and LVS_OWNERDRAWFIXED.
@@ -106,6 +107,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class ovoui::lists::DirectList;
+
     bool inReportView() const;
     bool hasFocus() const;
     std::vector<ovoui::lists::ColumnShape> columnShapes() const;

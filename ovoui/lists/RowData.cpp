@@ -8,8 +8,23 @@
 namespace ovoui::lists
 {
 
+LRESULT DirectList::ask(const COVOListCtrlEx& list, UINT message, int row, LVITEM& item)
+{
+    return const_cast<COVOListCtrlEx&>(list).DefWindowProc(message, static_cast<WPARAM>(row),
+                                                           reinterpret_cast<LPARAM>(&item));
+}
+
 namespace
 {
+
+LPARAM dataOf(const COVOListCtrlEx& list, int row)
+{
+    LVITEM item{};
+    item.mask = LVIF_PARAM;
+    item.iItem = row;
+    DirectList::ask(list, LVM_GETITEMW, 0, item);
+    return item.lParam;
+}
 
 /// Holds back the list's drawing, and has it painted anew.
 class Hold
@@ -44,13 +59,13 @@ struct SortRow
 };
 
 /// By row.
-std::vector<SortRow> sortRowsOf(const CListCtrl& list, const std::vector<int>& order)
+std::vector<SortRow> sortRowsOf(const COVOListCtrlEx& list, const std::vector<int>& order)
 {
     std::vector<SortRow> rows(order.size());
     for (std::size_t place = 0; place < order.size(); ++place)
         rows[static_cast<std::size_t>(order[place])].place = static_cast<int>(place);
     for (std::size_t row = 0; row < rows.size(); ++row)
-        rows[row].data = static_cast<LPARAM>(list.GetItemData(static_cast<int>(row)));
+        rows[row].data = dataOf(list, static_cast<int>(row));
     return rows;
 }
 
@@ -149,7 +164,7 @@ private:
 } // namespace
 
 // The platform sorts by item data only. Where rows have the same, others stand in for them meanwhile.
-bool reorderRows(CListCtrl& list, const std::vector<int>& order)
+bool reorderRows(COVOListCtrlEx& list, const std::vector<int>& order)
 {
     if (order.size() < 2)
         return true;
@@ -163,14 +178,14 @@ bool reorderRows(CListCtrl& list, const std::vector<int>& order)
     return standIns.set() && list.SortItems(&StandIns::compare, 0);
 }
 
-LPCWSTR CellText::operator()(const CListCtrl& list, int row, int column)
+LPCWSTR CellText::operator()(const COVOListCtrlEx& list, int row, int column)
 {
     LVITEM item{};
     item.iSubItem = column;
     item.pszText = m_room;
     item.cchTextMax = static_cast<int>(std::size(m_room));
     m_room[0] = 0;
-    list.SendMessage(LVM_GETITEMTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+    DirectList::ask(list, LVM_GETITEMTEXTW, row, item);
     return item.pszText && item.pszText != LPSTR_TEXTCALLBACKW ? item.pszText : L"";
 }
 
