@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/FontDC.h>
+#include <ovoui/frame/MessageBoxIds.h>
 #include <ovoui/frame/Module.h>
 #include <ovouires/resource.h>
 
@@ -36,8 +37,8 @@ bool isInput(UINT message)
 } // namespace
 
 BEGIN_MESSAGE_MAP(COVOMessageDialogBox, COVOMsgBoxDlg)
-    ON_BN_CLICKED(IDC_MESSAGE_NOT_AGAIN, &COVOMessageDialogBox::OnNotAgain)
-    ON_BN_CLICKED(IDC_MESSAGE_DETAILS_BUTTON, &COVOMessageDialogBox::OnDetails)
+    ON_BN_CLICKED(kNotAgainId, &COVOMessageDialogBox::OnNotAgain)
+    ON_BN_CLICKED(kDetailsButtonId, &COVOMessageDialogBox::OnDetails)
     ON_WM_TIMER()
 END_MESSAGE_MAP()
 
@@ -93,7 +94,7 @@ BOOL COVOMessageDialogBox::OnCommand(WPARAM wParam, LPARAM lParam)
 
 void COVOMessageDialogBox::OnNotAgain()
 {
-    m_keepsAnswer = IsDlgButtonChecked(IDC_MESSAGE_NOT_AGAIN) == BST_CHECKED;
+    m_keepsAnswer = IsDlgButtonChecked(kNotAgainId) == BST_CHECKED;
 }
 
 // Countdown
@@ -163,13 +164,13 @@ void COVOMessageDialogBox::createControls()
 {
     if (m_controls.check.height > 0)
         createControl(L"BUTTON", m_message.m_checkLabel, BS_AUTOCHECKBOX | WS_TABSTOP | WS_VISIBLE, 0,
-                      IDC_MESSAGE_NOT_AGAIN);
+                      kNotAgainId);
     if (m_controls.detailsButton.height > 0) {
         createControl(L"BUTTON", ovoui::resourceString(IDS_MESSAGE_SHOW_DETAILS),
-                      BS_PUSHBUTTON | BS_NOTIFY | WS_TABSTOP | WS_VISIBLE, 0, IDC_MESSAGE_DETAILS_BUTTON);
+                      BS_PUSHBUTTON | BS_NOTIFY | WS_TABSTOP | WS_VISIBLE, 0, kDetailsButtonId);
         createControl(L"EDIT", withWindowsLineEnds(m_message.m_details),
                       ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | WS_VSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE,
-                      IDC_MESSAGE_DETAILS);
+                      kDetailsId);
     }
     placeControls();
 }
@@ -197,10 +198,10 @@ void COVOMessageDialogBox::placeControls()
             control->MoveWindow(&rect);
         }
     };
-    place(IDC_MESSAGE_NOT_AGAIN, places.check);
-    place(IDC_MESSAGE_DETAILS_BUTTON, places.detailsButton);
+    place(kNotAgainId, places.check);
+    place(kDetailsButtonId, places.detailsButton);
     if (m_controls.detailsHeight > 0)
-        place(IDC_MESSAGE_DETAILS, places.details);
+        place(kDetailsId, places.details);
 }
 
 // Details
@@ -217,15 +218,15 @@ void COVOMessageDialogBox::showDetails(bool show)
     m_controls.detailsHeight = show ? detailsHeight() : 0;
     const int grown = boxExtras(m_controls, systemMetrics()).below - before;
 
-    CWnd& details = *GetDlgItem(IDC_MESSAGE_DETAILS);
+    CWnd& details = *GetDlgItem(kDetailsId);
     if (!show && GetFocus() == &details)
-        GetDlgItem(IDC_MESSAGE_DETAILS_BUTTON)->SetFocus();
+        GetDlgItem(kDetailsButtonId)->SetFocus();
     CRect window;
     GetWindowRect(&window);
     resize({window.Width(), window.Height() + grown});
     placeControls();
     details.ShowWindow(show ? SW_SHOWNA : SW_HIDE);
-    SetDlgItemText(IDC_MESSAGE_DETAILS_BUTTON,
+    SetDlgItemText(kDetailsButtonId,
                    ovoui::resourceString(show ? IDS_MESSAGE_HIDE_DETAILS : IDS_MESSAGE_SHOW_DETAILS).c_str());
 }
 

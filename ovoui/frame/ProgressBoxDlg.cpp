@@ -1,6 +1,7 @@
 #include <ovoui/frame/ProgressBoxDlg.h>
 
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/MessageBoxIds.h>
 #include <ovoui/frame/Module.h>
 #include <ovouires/resource.h>
 
@@ -77,8 +78,7 @@ BOOL COVOProgressBoxDlg::OnInitDialog()
         extraPlaces(m_controls, {client.Width(), client.Height()}, buttonSize().height, systemMetrics()).bar;
     m_bar = ::CreateWindowExW(0, PROGRESS_CLASSW, L"", WS_CHILD | WS_VISIBLE, place.left, place.top,
                               place.width(), place.height(), m_hWnd,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(IDC_MESSAGE_PROGRESS)),
-                              ovoui::ownInstance(), nullptr);
+                              reinterpret_cast<HMENU>(INT_PTR{kProgressId}), ovoui::ownInstance(), nullptr);
     ::SendMessageW(m_bar, PBM_SETRANGE32, 0, kSteps);
     return focus;
 }

@@ -6,11 +6,13 @@
 #include "support/WindowCounter.h"
 
 #include <ovoui/frame/MessageDialog.h>
+#include <ovoui/frame/MessageBoxIds.h>
 #include <ovouires/resource.h>
 
 #include <gtest/gtest.h>
 
 using namespace ovotest;
+using namespace ovoui::frame;
 
 namespace
 {
@@ -34,7 +36,7 @@ HWND control(int id)
 
 HWND details()
 {
-    return control(IDC_MESSAGE_DETAILS);
+    return control(kDetailsId);
 }
 
 bool detailsShown()
@@ -160,28 +162,27 @@ TEST_F(MessageDialogTest, DetailsAreShownAndHiddenByTheirButton)
     CRect button;
     CRect buttonWhileOpen;
     std::wstring text;
-    const int answer =
-        answerBy(box, whenOpen()
-                          .then([&] {
-                              closed = screenRect(openBox());
-                              button = screenRect(control(IDOK));
-                          })
-                          .click([] { return control(IDC_MESSAGE_DETAILS_BUTTON); })
-                          .waitFor("the details", &detailsShown)
-                          .then([&] {
-                              open = screenRect(openBox());
-                              buttonWhileOpen = screenRect(control(IDOK));
-                              text = windowText(details());
-                          })
-                          .click([] { return details(); })
-                          .waitFor("the focus", focusOn(IDC_MESSAGE_DETAILS))
-                          .holding(VK_MENU)
-                          .key('D')
-                          .letGo(VK_MENU)
-                          .waitFor("their end", [] { return !detailsShown(); })
-                          .waitFor("the focus on their button", focusOn(IDC_MESSAGE_DETAILS_BUTTON))
-                          .then([&] { again = screenRect(openBox()); })
-                          .key(VK_ESCAPE));
+    const int answer = answerBy(box, whenOpen()
+                                         .then([&] {
+                                             closed = screenRect(openBox());
+                                             button = screenRect(control(IDOK));
+                                         })
+                                         .click([] { return control(kDetailsButtonId); })
+                                         .waitFor("the details", &detailsShown)
+                                         .then([&] {
+                                             open = screenRect(openBox());
+                                             buttonWhileOpen = screenRect(control(IDOK));
+                                             text = windowText(details());
+                                         })
+                                         .click([] { return details(); })
+                                         .waitFor("the focus", focusOn(kDetailsId))
+                                         .holding(VK_MENU)
+                                         .key('D')
+                                         .letGo(VK_MENU)
+                                         .waitFor("their end", [] { return !detailsShown(); })
+                                         .waitFor("the focus on their button", focusOn(kDetailsButtonId))
+                                         .then([&] { again = screenRect(openBox()); })
+                                         .key(VK_ESCAPE));
     EXPECT_EQ(answer, IDCANCEL);
     EXPECT_EQ(text, L"First line\r\nSecond line");
     EXPECT_GT(open.Height(), closed.Height() + 60);
@@ -204,7 +205,7 @@ TEST_F(MessageDialogTest, OpeningTheDetailsIsNoMoveByTheUser)
     CRect open;
     answerBy(box, whenOpen()
                       .then([&] { closed = screenRect(openBox()); })
-                      .click([] { return control(IDC_MESSAGE_DETAILS_BUTTON); })
+                      .click([] { return control(kDetailsButtonId); })
                       .waitFor("the details", &detailsShown)
                       .then([&] { open = screenRect(openBox()); })
                       .key(VK_ESCAPE));
@@ -218,9 +219,9 @@ TEST_F(MessageDialogTest, AnAnswerIsKeptAndGivenWithoutABox)
     COVOMessageDialog box = withOwnButtons();
     box.OfferNotToAsk(L"Fonts");
     const auto checked = [] {
-        return ::SendMessageW(control(IDC_MESSAGE_NOT_AGAIN), BM_GETCHECK, 0, 0) == BST_CHECKED;
+        return ::SendMessageW(control(kNotAgainId), BM_GETCHECK, 0, 0) == BST_CHECKED;
     };
-    EXPECT_EQ(answerBy(box, clicking(IDC_MESSAGE_NOT_AGAIN).waitFor("the mark", checked).click([] {
+    EXPECT_EQ(answerBy(box, clicking(kNotAgainId).waitFor("the mark", checked).click([] {
                   return control(kKeep);
               })),
               kKeep);
@@ -248,7 +249,7 @@ TEST_F(MessageDialogTest, CancellingIsNeverKept)
 {
     COVOMessageDialog box = withOwnButtons();
     box.OfferNotToAsk(L"Fonts");
-    EXPECT_EQ(answerBy(box, clicking(IDC_MESSAGE_NOT_AGAIN).key(VK_ESCAPE)), IDCANCEL);
+    EXPECT_EQ(answerBy(box, clicking(kNotAgainId).key(VK_ESCAPE)), IDCANCEL);
     EXPECT_EQ(kept(L"Fonts"), -1);
 }
 
@@ -300,9 +301,9 @@ TEST_F(MessageDialogTest, TabGoesRoundAllControls)
                                 .key(VK_TAB)
                                 .waitFor("Cancel", focusOn(IDCANCEL))
                                 .key(VK_TAB)
-                                .waitFor("the check box", focusOn(IDC_MESSAGE_NOT_AGAIN))
+                                .waitFor("the check box", focusOn(kNotAgainId))
                                 .key(VK_TAB)
-                                .waitFor("the button of the details", focusOn(IDC_MESSAGE_DETAILS_BUTTON))
+                                .waitFor("the button of the details", focusOn(kDetailsButtonId))
                                 .key(VK_TAB)
                                 .waitFor("the text", focusOn(IDC_MESSAGE_TEXT))
                                 .key(VK_TAB)
@@ -318,8 +319,7 @@ TEST_F(MessageDialogTest, LeavesNothingBehind)
         box.SetDetails(L"More");
         box.OfferNotToAsk(L"Fonts");
         box.PressDefaultAfter(3600);
-        answerBy(box,
-                 clicking(IDC_MESSAGE_DETAILS_BUTTON).waitFor("the details", &detailsShown).key(VK_ESCAPE));
+        answerBy(box, clicking(kDetailsButtonId).waitFor("the details", &detailsShown).key(VK_ESCAPE));
     };
     once();
     const WindowCounter windows;

@@ -5,7 +5,7 @@
 #include "support/WindowCounter.h"
 
 #include <ovoui/frame/ProgressBox.h>
-#include <ovouires/resource.h>
+#include <ovoui/frame/MessageBoxIds.h>
 
 #include <commctrl.h>
 
@@ -14,13 +14,14 @@
 #include <memory>
 
 using namespace ovotest;
+using namespace ovoui::frame;
 
 namespace
 {
 
 HWND bar()
 {
-    return ::GetDlgItem(openBox(), IDC_MESSAGE_PROGRESS);
+    return ::GetDlgItem(openBox(), kProgressId);
 }
 
 LRESULT position()
