@@ -1,4 +1,6 @@
 // Painting a round slider against the fewest fills and lines that give the same pixels.
+#include "support/InTurns.h"
+
 #include <ovoui/sliders/RoundSlider.h>
 
 #include <catch2/catch.hpp>
@@ -60,18 +62,31 @@ struct Columns
     std::vector<Run> runs;
 };
 
-} // namespace
-
-TEST_CASE("painting a cylinder of 288 by 40 pixels")
+/// A window that paints one fill for each run of a colour, into memory and then all at once.
+class ByHand : public CWnd
 {
-    Slider slider;
-    slider.paint();
-    const Columns columns(slider);
-
-    BENCHMARK("one fill for each run of a colour, into memory and onto the window")
+public:
+    explicit ByHand(std::vector<Columns::Run> runs)
+        : m_runs(std::move(runs))
     {
-        slider.Invalidate(FALSE);
-        CPaintDC dc(&slider);
+        m_parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW, CRect(0, 0, 400, 200), nullptr,
+                          0);
+        Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, kWidth, kHeight), &m_parent,
+               1);
+        m_parent.ShowWindow(SW_SHOW);
+    }
+
+    void paint()
+    {
+        Invalidate(FALSE);
+        UpdateWindow();
+    }
+
+protected:
+    afx_msg BOOL OnEraseBkgnd(CDC*) { return TRUE; }
+    afx_msg void OnPaint()
+    {
+        CPaintDC dc(this);
         CDC memory;
         memory.CreateCompatibleDC(&dc);
         CBitmap bitmap;
@@ -80,13 +95,32 @@ TEST_CASE("painting a cylinder of 288 by 40 pixels")
         CRect edge(1, 1, kWidth - 1, kHeight - 1);
         memory.FillSolidRect(0, 0, kWidth, kHeight, ::GetSysColor(COLOR_BTNFACE));
         memory.DrawEdge(&edge, EDGE_ETCHED, BF_RECT);
-        for (const Columns::Run& run : columns.runs)
+        for (const Columns::Run& run : m_runs)
             memory.FillSolidRect(run.left, 2, run.right - run.left, kHeight - 4, run.colour);
         dc.BitBlt(0, 0, kWidth, kHeight, &memory, 0, 0, SRCCOPY);
         memory.SelectObject(old);
-    };
-    BENCHMARK("the slider [at most 1.2]")
-    {
-        slider.paint();
-    };
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CWnd m_parent;
+    const std::vector<Columns::Run> m_runs;
+};
+
+BEGIN_MESSAGE_MAP(ByHand, CWnd)
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+} // namespace
+
+TEST_CASE("painting a cylinder of 288 by 40 pixels")
+{
+    Slider slider;
+    slider.paint();
+    ByHand byHand(Columns(slider).runs);
+    InTurns turns;
+    turns.add("one fill for each run of a colour [baseline]", [&] { byHand.paint(); });
+    turns.add("the slider [at most 1.2]", [&] { slider.paint(); });
+    turns.run("painting a cylinder of 288 by 40 pixels", 201);
 }
