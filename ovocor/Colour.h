@@ -17,36 +17,49 @@ public:
     /// Black without alpha.
     Colour() = default;
 
+    /// From red `r`, green `g` and blue `b`, without alpha.
     static Colour rgb(double r, double g, double b);
+    /// The same with alpha `a`.
     static Colour rgba(double r, double g, double b, double a);
 
     /// From a hue, and a lightness and saturation from 0 to 1.
+    /// The colour has no alpha.
     static Colour hls(Angle hue, double lightness, double saturation);
+    /// The same with alpha `a`.
     static Colour hlsa(Angle hue, double lightness, double saturation, double a);
 
     /// From a hue, and a saturation and value from 0 to 1.
+    /// `a` is its alpha.
     static Colour hsva(Angle hue, double saturation, double value, double a);
 
     /// From a COLORREF, 0x00bbggrr. The colour has no alpha; the highest byte is ignored.
+    /// `value` is not limited to colours of a palette.
     static Colour colorref(unsigned long value);
 
+    /// Red.
     double r() const { return m_r; }
+    /// Green.
     double g() const { return m_g; }
+    /// Blue.
     double b() const { return m_b; }
+    /// Alpha; negative when the colour has none.
     double a() const { return m_a; }
 
     /// The hue, from 0 (inclusive) to 360 degrees (exclusive); it is the same for both models. A grey keeps
     /// the hue that it was made with, so that a saturation taken down to 0 and up again returns to the same
     /// hue; a grey made from red, green and blue has hue 0.
     Angle h_hls() const;
+    /// The same for hue, saturation and value.
     Angle h_hsv() const;
 
+    /// The lightness, from 0 for black to 1 for white.
     double l_hls() const;
     /// 0 for greys, black and white included.
     double s_hls() const;
 
     /// 0 for greys, black and white included.
     double s_hsv() const;
+    /// The value: the greatest of red, green and blue.
     double v_hsv() const;
 
     /// As a COLORREF, each component clamped and rounded half away from zero; alpha is left out.

@@ -24,16 +24,17 @@ namespace OVO
 /// One field of a record.
 struct CSVField
 {
-    std::wstring_view text;
-    bool supplied = false; ///< the row has this field, empty or not
+    std::wstring_view text; ///< without the quotes around it; valid as long as its record
+    bool supplied = false;  ///< the row has this field, empty or not
 };
 
 /// One row: as many fields as the header has columns, in the header's order.
 struct CSVRecord
 {
-    std::vector<CSVField> fields;
-    std::size_t line = 0; ///< where the row begins, counted from 1
+    std::vector<CSVField> fields; ///< one a column
+    std::size_t line = 0;         ///< where the row begins, counted from 1
 
+    /// The field of a `column`, counted from 0, which the header must have.
     const CSVField& operator[](std::size_t column) const { return fields[column]; }
 };
 
@@ -56,6 +57,7 @@ public:
     CSVParser& operator=(const CSVParser&) = delete;
     ~CSVParser();
 
+    /// The names that the header gave, in its order.
     const std::vector<std::wstring>& columns() const { return m_columns; }
 
     /// Adds text. Not to be called after `finish` (std::logic_error).

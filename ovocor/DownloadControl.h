@@ -24,6 +24,7 @@ public:
     /// Ends the running download, however long its server is silent, and every later one with this object:
     /// they throw DownloadCancelled.
     void cancel() noexcept;
+    /// Whether `cancel` was called.
     bool cancelled() const noexcept { return m_cancelled; }
 
     /// Bytes that have come so far.

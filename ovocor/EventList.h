@@ -4,9 +4,9 @@
 ///     EVSubscription seen = changes->subscribe([](const int& id) { show(id); });
 ///     changes->notify(5146);   // calls the subscribers in the order of their subscriptions
 ///
-/// Subscribers may change the list during a notification. A new subscriber is called from the next notification
-/// on; one that has unsubscribed is not called any more. Notifications may nest. A list whose last handle goes is
-/// destroyed when the notification is over.
+/// Subscribers may change the list during a notification. A new subscriber is called from the next
+/// notification on; one that has unsubscribed is not called any more. Notifications may nest. A list whose
+/// last handle goes is destroyed when the notification is over.
 #pragma once
 
 #include <ovocor/Handle.h>
@@ -26,6 +26,7 @@ public:
     EVSlot& operator=(const EVSlot&) = delete;
     virtual ~EVSlot();
 
+    /// Whether the subscriber would be called.
     bool active() const noexcept { return m_active; }
 
     /// No call any more. The function is let go of at once, or after its running call.
@@ -36,6 +37,7 @@ protected:
     class OVOCOR_API Call
     {
     public:
+        /// For a call to the function of `slot`, which must live longer.
         explicit Call(EVSlot& slot) noexcept;
         Call(const Call&) = delete;
         Call& operator=(const Call&) = delete;
@@ -58,7 +60,9 @@ class OVOCOR_API EVSubscription
 public:
     /// A subscription to nothing.
     EVSubscription() noexcept;
+    /// Keeps what `slot` stands for. EVSubscriptionList::subscribe makes these.
     explicit EVSubscription(std::shared_ptr<EVSlot> slot) noexcept;
+    /// Takes the subscription over from `other`, which then keeps none.
     EVSubscription(EVSubscription&& other) noexcept;
     EVSubscription& operator=(EVSubscription&& other) noexcept;
     ~EVSubscription();
@@ -78,6 +82,7 @@ template <class T>
 class EVSubscriptionList : public OVO::Handlable
 {
 public:
+    /// What a subscriber is; an exception out of it reaches the caller of `notify`.
     using Function = std::function<void(const T&)>;
 
     /// A new list without subscribers; it lives while a handle refers to it.
@@ -97,8 +102,8 @@ public:
         return EVSubscription(m_slots.back());
     }
 
-    /// Calls every subscriber. An exception out of one ends the notification and reaches the caller; the
-    /// subscriptions stay.
+    /// Calls every subscriber with `event`. An exception out of one ends the notification and reaches the
+    /// caller; the subscriptions stay.
     void notify(const T& event)
     {
         const OVO::Handle<EVSubscriptionList> alive(this);

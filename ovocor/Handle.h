@@ -63,13 +63,15 @@ private:
 class OVOCOR_API HandleBase
 {
 public:
+    /// Whether it refers to an object.
     explicit operator bool() const noexcept { return m_object != nullptr; }
 
-    /// Handles are equal when they refer to the same object; the order is that of the addresses.
+    /// Whether `a` and `b` refer to the same object, or both to nothing.
     friend bool operator==(const HandleBase& a, const HandleBase& b) noexcept
     {
         return a.m_object == b.m_object;
     }
+    /// The order of the addresses that `a` and `b` refer to.
     friend std::strong_ordering operator<=>(const HandleBase& a, const HandleBase& b) noexcept
     {
         return std::compare_three_way{}(a.m_object, b.m_object);
@@ -77,6 +79,7 @@ public:
 
 protected:
     HandleBase() = default;
+    /// Refers to `object`, which may be null.
     explicit HandleBase(const IHandlable* object) noexcept
         : m_object(object)
     {
@@ -100,6 +103,7 @@ protected:
             object->release();
     }
 
+    /// The object, or null.
     const IHandlable* object() const noexcept { return m_object; }
 
 private:
@@ -119,6 +123,7 @@ class Handle : public HandleBase
 {
 public:
     Handle() = default;
+    /// Refers to nothing.
     Handle(std::nullptr_t) noexcept {}
 
     /// Refers to `object`, which may be null. Explicit, since a temporary handle to a new object destroys it.
@@ -127,12 +132,14 @@ public:
     {
     }
 
+    /// Refers to the object of `other`, a handle to a derived class.
     template <class U>
     requires std::convertible_to<U*, T*> Handle(const Handle<U>& other)
     noexcept
         : HandleBase(other)
     {
     }
+    /// Takes over from `other`, a handle to a derived class, which then refers to nothing.
     template <class U>
     requires std::convertible_to<U*, T*> Handle(Handle<U>&& other)
     noexcept
@@ -140,22 +147,29 @@ public:
     {
     }
 
+    /// The object, or null.
     T* get() const noexcept { return static_cast<T*>(const_cast<IHandlable*>(object())); }
+    /// The object; not to be used on a handle that refers to nothing.
     T* operator->() const noexcept { return get(); }
+    /// The object; not to be used on a handle that refers to nothing.
     T& operator*() const noexcept { return *get(); }
 
     /// Lets go of the object.
     void reset() noexcept { *this = Handle(); }
 
+    /// Whether `handle` refers to `object`.
     friend bool operator==(const Handle& handle, const T* object) noexcept { return handle.get() == object; }
+    /// Whether `handle` refers to nothing.
     friend bool operator==(const Handle& handle, std::nullptr_t) noexcept { return !handle; }
 };
 
 } // namespace OVO
 
+/// Lets handles be keys of unordered containers.
 template <class T>
 struct std::hash<OVO::Handle<T>>
 {
+    /// By the address of the object of `handle`.
     std::size_t operator()(const OVO::Handle<T>& handle) const noexcept
     {
         return std::hash<const void*>{}(handle.get());

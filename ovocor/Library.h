@@ -13,7 +13,7 @@ namespace OVO
 /// searched.
 OVOCOR_API HMODULE LoadProgramLibrary(const wchar_t* name);
 
-/// The same for a library in the system directory.
+/// The same for the library `name` in the system directory.
 OVOCOR_API HMODULE LoadSystemLibrary(const wchar_t* name);
 
 } // namespace OVO

@@ -12,6 +12,7 @@
 class OVOCOR_API OvoError : public std::exception
 {
 public:
+    /// `text` is what the user reads.
     explicit OvoError(std::wstring_view text);
     OvoError(const OvoError&) noexcept;
     OvoError& operator=(const OvoError&) noexcept;

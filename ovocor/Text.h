@@ -11,6 +11,7 @@
 /// printf into a wide string. The format follows the C runtime's wide rules: %s takes a wide string, %S a
 /// narrow one, %I64d and %lld a 64-bit number. Throws OvoError for a format that the runtime refuses.
 OVOCOR_API std::wstring stringPrintf(const wchar_t* format, ...);
+/// The same with the `arguments` of a function of the caller's.
 OVOCOR_API std::wstring vstringPrintf(const wchar_t* format, std::va_list arguments);
 
 /// From the ANSI code page to wide characters; zero characters inside the text are kept. Bytes that mean
@@ -27,14 +28,15 @@ OVOCOR_API std::string getMBS(std::wstring_view text, bool* lossy = nullptr);
 /// left alone). Never leaves half of a surrogate pair. Gives the number of characters before the terminator.
 OVOCOR_API std::size_t packTo(wchar_t* buffer, std::size_t size, std::wstring_view text);
 
+/// The same for an array, whose size is known.
 template <std::size_t N>
 std::size_t packTo(wchar_t (&buffer)[N], std::wstring_view text)
 {
     return packTo(buffer, N, text);
 }
 
-/// In lower case, character by character: the length stays, and the result does not depend on the user's
-/// language.
+/// `text` in lower case, character by character: the length stays, and the result does not depend on the
+/// user's language.
 OVOCOR_API std::wstring lowercase(std::wstring_view text);
 
 /// Compares by the user's locale: negative when `a` sorts first, positive when `b` does. Texts of the same

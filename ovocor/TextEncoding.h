@@ -4,6 +4,7 @@
 namespace OVO
 {
 
+/// The encodings that TextReader knows.
 enum class TextEncoding
 {
     Utf8,    ///< with or without mark

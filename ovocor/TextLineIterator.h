@@ -20,8 +20,11 @@
 class OVOCOR_API TextLineIterator
 {
 public:
+    /// For the standard library: lines are read once, from the first to the last.
     using iterator_concept = std::input_iterator_tag;
+    /// For the standard library.
     using difference_type = std::ptrdiff_t;
+    /// A line, borrowed from the text.
     using value_type = std::wstring_view;
 
     /// At the end.
@@ -37,13 +40,19 @@ public:
 
     /// The current line.
     std::wstring_view operator*() const { return m_line; }
+    /// The current line.
     const std::wstring_view* operator->() const { return &m_line; }
 
+    /// To the next line, or to the end. Not at the end.
     TextLineIterator& operator++();
+    /// To the next line, or to the end. Not at the end.
     void operator++(int) { ++*this; }
 
+    /// Whether `line` is at the end.
     friend bool operator==(const TextLineIterator& line, std::default_sentinel_t) { return !line; }
+    /// For loops over the lines: `line` itself, wherever it is.
     friend TextLineIterator begin(const TextLineIterator& line) { return line; }
+    /// For loops over the lines.
     friend std::default_sentinel_t end(const TextLineIterator&) { return {}; }
 
 private:

@@ -23,8 +23,8 @@ namespace OVO
 class OVOCOR_API TextReader
 {
 public:
-    /// Opens the file; others may read and write it meanwhile. Throws WinError when it cannot be opened or
-    /// read.
+    /// Opens the file `path`; others may read and write it meanwhile. Throws WinError when it cannot be
+    /// opened or read.
     explicit TextReader(const std::wstring& path);
     TextReader(TextReader&&) noexcept;
     TextReader& operator=(TextReader&&) noexcept;

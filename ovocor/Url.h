@@ -6,8 +6,8 @@
 
 #include <string>
 
-/// The canonical form of an address: unsafe characters escaped, "." and ".." resolved. Throws OvoError,
-/// naming the address, when it has none.
+/// The canonical form of the address `url`: unsafe characters escaped, "." and ".." resolved. Throws
+/// OvoError, naming the address, when it has none.
 OVOCOR_API std::wstring canonicalizeUrl(const std::wstring& url);
 
 /// Downloads an http or https address into the system's URL cache, always anew, and gives the full name
@@ -20,6 +20,6 @@ OVOCOR_API std::wstring canonicalizeUrl(const std::wstring& url);
 /// has come, the disk is full. Then nothing new is kept; a file of an earlier download stays.
 OVOCOR_API std::wstring downloadUrlToCache(const std::wstring& url);
 
-/// The same on a thread of the caller's choice, watched and ended with `control`. Throws DownloadCancelled
-/// when that ends it.
+/// The same for `url` on a thread of the caller's choice, watched and ended with `control`. Throws
+/// DownloadCancelled when that ends it.
 OVOCOR_API std::wstring downloadUrlToCache(const std::wstring& url, DownloadControl& control);

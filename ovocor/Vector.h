@@ -19,18 +19,24 @@ public:
     /// The zero vector.
     constexpr Vector() = default;
 
+    /// From N `components`, in order.
     template <std::convertible_to<double>... Components>
     requires(sizeof...(Components) == N) constexpr explicit(N == 1) Vector(Components... components)
         : m_components{static_cast<double>(components)...}
     {
     }
 
+    /// Component `i`, counted from 0 and less than N.
     constexpr double operator[](std::size_t i) const { return m_components[i]; }
+    /// The same, to be changed.
     constexpr double& operator[](std::size_t i) { return m_components[i]; }
 
+    /// The first component.
     constexpr double x() const { return m_components[0]; }
+    /// The second component.
     constexpr double y() const requires(N >= 2) { return m_components[1]; }
 
+    /// Never negative; it does not overflow before the components do.
     double length() const
     {
         // std::hypot does not overflow where the squares would.
@@ -56,6 +62,7 @@ public:
         return x() * other.y() - y() * other.x();
     }
 
+    /// The scalar product with `other`.
     constexpr double dot(const Vector& other) const
     {
         double sum = 0;
@@ -64,19 +71,23 @@ public:
         return sum;
     }
 
+    /// Adds `other`, component by component.
     constexpr Vector& operator+=(const Vector& other)
     {
         for (std::size_t i = 0; i < N; ++i)
             m_components[i] += other.m_components[i];
         return *this;
     }
+    /// Subtracts `other`, component by component.
     constexpr Vector& operator-=(const Vector& other) { return *this += -other; }
+    /// Multiplies every component by `factor`.
     constexpr Vector& operator*=(double factor)
     {
         for (double& component : m_components)
             component *= factor;
         return *this;
     }
+    /// Divides every component by `divisor`, as doubles are divided: by 0 too.
     constexpr Vector& operator/=(double divisor)
     {
         for (double& component : m_components)
@@ -84,12 +95,18 @@ public:
         return *this;
     }
 
+    /// The opposite vector.
     constexpr Vector operator-() const { return *this * -1.0; }
 
+    /// The sum of `a` and `b`.
     friend constexpr Vector operator+(Vector a, const Vector& b) { return a += b; }
+    /// The difference of `a` and `b`.
     friend constexpr Vector operator-(Vector a, const Vector& b) { return a -= b; }
+    /// The vector `a` with each component multiplied by `factor`.
     friend constexpr Vector operator*(Vector a, double factor) { return a *= factor; }
+    /// The vector `a` with each component multiplied by `factor`.
     friend constexpr Vector operator*(double factor, Vector a) { return a *= factor; }
+    /// The vector `a` with each component divided by `divisor`.
     friend constexpr Vector operator/(Vector a, double divisor) { return a /= divisor; }
 
     friend constexpr bool operator==(const Vector&, const Vector&) = default;

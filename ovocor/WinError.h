@@ -23,6 +23,7 @@ public:
     WinError& operator=(const WinError&) noexcept;
     ~WinError() override;
 
+    /// The Win32 error code or HRESULT.
     DWORD code() const noexcept;
 
 private:

@@ -8,6 +8,6 @@
 
 #include <string>
 
-/// The text of a message, a printf format without a line end. A number without a text gives a text that names
-/// the number and holds no format of its own.
+/// The text of the message `id`, a printf format without a line end. A number without a text gives a text
+/// that names the number and holds no format of its own.
 OVOMSG_API std::wstring ovoMsg(unsigned id);

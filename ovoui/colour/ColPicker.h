@@ -32,6 +32,7 @@ enum class WheelKey;
 ///
 /// The picker takes what it finds: of the controls, those that the dialog has attached to the members; for
 /// the patch and the wheel, the places of the dialog items IDC_PATCH and IDC_WHEEL.
+/// In all operations `wnd` is the dialog.
 class OVOUI_API ColPicker
 {
 public:
@@ -48,61 +49,76 @@ protected:
     /// Called after each change of the colour by the user; `final` is false while a drag goes on. Does
     /// nothing in the base.
     virtual void UpdateExternalColours(bool final);
-    /// Where the custom colour of this number, 0 to 17, is kept.
+    /// Where the custom colour `index`, 0 to 17, is kept.
     virtual COLORREF& customCols(int index) = 0;
-    /// Called before the picker reads its members, and after each change of the mode: for a derived class
-    /// that remembers them. They do nothing in the base.
+    /// Called before the picker reads its members: for a derived class that remembers them. Does nothing in
+    /// the base.
     virtual void LoadSettings();
+    /// Called after each change of the mode, for a derived class that remembers it. Does nothing in the base.
     virtual void SaveSettings();
 
+    /// `app` has the profile of the settings; `mode` is what the edits and sliders stand for at first.
     ColPicker(CWinApp& app, ColPickerModeType mode);
 
     // What the dialog calls. `wnd` is the dialog.
 
     /// To be called once for each window, after the controls have been attached.
+    /// `spaceCombo` gets the names of the modes.
     void DoInit(CWnd* wnd, CComboBox& spaceCombo);
     /// To be called when the window is destroyed.
     void doOnDestroy();
 
+    /// For WM_PAINT: draws wheel, patch and swatches on `dc`.
     void DoPaint(CWnd* wnd, CPaintDC* dc);
-    /// Fills the patch, and shows the colour in the edits.
+    /// Fills the patch on `dc`, and shows the colour in the edits.
     void DrawPatch(CPaintDC* dc);
+    /// Draws the swatches on `dc`.
     void DrawCustomColours(CWnd* wnd, CDC* dc);
 
     // True when the picker has dealt with the message; else it is the window's.
+    /// For WM_LBUTTONDOWN with its `flags` and `point`. True when the picker has dealt with the message; else
+    /// it is the window's.
     bool DoLButtonDown(CWnd* wnd, UINT flags, CPoint point);
+    /// The same for WM_LBUTTONUP with its `flags` and `point`.
     bool DoLButtonUp(CWnd* wnd, UINT flags, CPoint point);
+    /// The same for WM_LBUTTONDBLCLK with its `flags` and `point`.
     bool DoLButtonDblClk(CWnd* wnd, UINT flags, CPoint point);
+    /// The same for WM_MOUSEMOVE with its `flags` and `point`.
     bool DoMouseMove(CWnd* wnd, UINT flags, CPoint point);
-    /// Ends a drag that another window interrupts by taking the capture.
+    /// For WM_CAPTURECHANGED: ends a drag that another window, `gaining`, interrupts by taking the capture.
     void DoCaptureChanged(CWnd* wnd, CWnd* gaining);
     /// Ends a drag that goes on, for Escape. False when there is none.
     bool cancelDrag(CWnd* wnd);
 
+    /// For WM_HSCROLL of a slider, `bar`, with its `code`.
     void DoHScroll(CWnd* wnd, UINT code, CScrollBar* bar);
     /// Takes over what is in the edits; to be called when one loses the focus.
     void DoKillfocusColpickerValues(CWnd* wnd);
 
-    /// Changes the colour and shows it; the host hears nothing. A colour that looks the same as the present
+    /// Changes the `colour` and shows it; the host hears nothing. A colour that looks the same as the present
     /// one is ignored; with `force` only if its hue is the same, too, which greys may have.
     void SetColour(CWnd* wnd, const Colour& colour, bool force);
-    /// Changes what the edits and sliders stand for. What is not a mode is ignored.
+    /// Changes what the edits and sliders stand for. A `mode` that is none is ignored.
     void SetSliderMode(CWnd* wnd, ColPickerModeType mode);
     /// Sets the sliders from the colour.
     void UpdateSlider();
-    /// The colour that the sliders stand for.
+    /// Puts the colour that the sliders stand for into `out`.
     void GetSliderColour(Colour& out) const;
 
     // Markers are drawn by inverting. With a point, the one shown before is taken away first; without, the
     // point is that of the present colour.
+    /// Draws the marker of the ring on `dc` by inverting, at the hue of the present colour.
     void draw_hue_marker(CDC* dc);
+    /// The same at a `point` of the ring; the marker that was shown before is taken away first.
     void draw_hue_marker(CDC* dc, CPoint& point);
+    /// Draws the marker of the triangle on `dc` by inverting, at the shade of the present colour.
     void draw_tri_marker(CDC* dc);
+    /// The same at a `point` of the triangle; the marker that was shown before is taken away first.
     void draw_tri_marker(CDC* dc, CPoint& point);
 
     /// The number of the swatch at a client point; false, with `index` left alone, where there is none.
     bool PtInCustomColour(const CPoint& point, int& index);
-    /// Does nothing: the wheel writes its own pixels.
+    /// Does nothing with `x`, `y` and `rgb`: the wheel writes its own pixels.
     void set_bitmap_pixel(int x, int y, const unsigned char* rgb);
 
     /// What the left button is held down for.
@@ -115,21 +131,21 @@ protected:
     };
 
     // To be attached by the dialog
-    CEdit m_value1;
-    CEdit m_value2;
-    CEdit m_value3;
-    CEdit m_valueAlpha;
-    CSliderCtrl m_slider1;
-    CSliderCtrl m_slider2;
-    CSliderCtrl m_slider3;
-    CSliderCtrl m_sliderAlpha;
-    CString m_caption1;
-    CString m_caption2;
-    CString m_caption3;
+    CEdit m_value1;            ///< red or hue; to be attached by the dialog, as the next ones
+    CEdit m_value2;            ///< green, lightness or saturation
+    CEdit m_value3;            ///< blue, saturation or value
+    CEdit m_valueAlpha;        ///< alpha, 0 to 255
+    CSliderCtrl m_slider1;     ///< beside `m_value1`; to be attached by the dialog, as the next ones
+    CSliderCtrl m_slider2;     ///< beside `m_value2`
+    CSliderCtrl m_slider3;     ///< beside `m_value3`
+    CSliderCtrl m_sliderAlpha; ///< beside `m_valueAlpha`
+    CString m_caption1;        ///< of `m_value1` in the present mode
+    CString m_caption2;        ///< of `m_value2`
+    CString m_caption3;        ///< of `m_value3`
 
     CRect m_patchRect; ///< client coordinates of the dialog, as all others
-    CRect m_wheelRect;
-    Colour m_colour;
+    CRect m_wheelRect; ///< the place of the ring
+    Colour m_colour;   ///< the present colour
 
 private:
     std::unique_ptr<ColourWheelImage> m_wheel;
@@ -149,8 +165,8 @@ private:
     CPoint m_triMarker;
 
 protected:
-    ColPickerModeType m_mode;
-    Drag m_drag = Drag::None;
+    ColPickerModeType m_mode;         ///< what the edits and sliders stand for
+    Drag m_drag = Drag::None;         ///< the drag that goes on
     std::array<CRect, 18> m_swatches; ///< where the user hits them; known once they have been drawn
     /// The dialog item in whose place the swatches are shown; 0 for none. To be set before the dialog is
     /// made.

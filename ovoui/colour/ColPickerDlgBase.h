@@ -15,13 +15,15 @@ class OVOUI_API ColPickerDlgBase : public COVOModalDialog, public ColPicker
     DECLARE_DYNAMIC(ColPickerDlgBase)
 
 public:
-    /// The library's own template. Alpha can be edited when `colour` has one, that is, when it is not
-    /// negative; that needs a derived class that attaches the alpha controls, as ColPickerDlg does.
-    /// `centreOn` may be null; neither window is owned.
+    /// The library's own template. `app` has the profile of the settings, `mode` is what the edits and
+    /// sliders stand for at first, `colour` the colour to begin with. Alpha can be edited when it has one,
+    /// that is, when it is not negative; that needs a derived class that attaches the alpha controls, as
+    /// ColPickerDlg does. The dialog belongs to `parent` and is centred on `centreOn`; both may be null, and
+    /// neither is owned.
     ColPickerDlgBase(CWinApp& app, ColPickerModeType mode, const Colour& colour, CWnd* centreOn,
                      CWnd* parent);
-    /// A template of the host's, with any of the controls of the library's own. It begins with red, green and
-    /// blue, without alpha.
+    /// A template `templateId` of the host's, with any of the controls of the library's own; `app`, `colour`,
+    /// `centreOn` and `parent` as above. It begins with red, green and blue, without alpha.
     ColPickerDlgBase(int templateId, CWinApp& app, const Colour& colour, CWnd* centreOn, CWnd* parent);
     ~ColPickerDlgBase() override;
 
@@ -40,7 +42,7 @@ public:
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
-    /// Attaches the controls that the dialog has.
+    /// Attaches the controls that the dialog has, in any `exchange`.
     void DoDataExchange(CDataExchange* exchange) override;
     BOOL OnInitDialog() override;
     void OnOK() override;
@@ -60,8 +62,8 @@ protected:
     afx_msg void OnCaptureChanged(CWnd* wnd);
     DECLARE_MESSAGE_MAP()
 
-    CButton m_button; ///< for derived classes; not attached here
-    CComboBox m_space;
+    CButton m_button;  ///< for derived classes; not attached here
+    CComboBox m_space; ///< the modes to choose from
 
 private:
     CWnd* m_centreOn;

@@ -21,7 +21,8 @@ class OVOUI_API ColPickerPaletteDlg : public ColPickerDlgBase
     DECLARE_DYNAMIC(ColPickerPaletteDlg)
 
 public:
-    /// `mode` counts where the profile has none. The rest is as in the first constructor of the base.
+    /// `mode` counts where the profile has none. `app`, `colour`, `centreOn` and `parent` are as in the first
+    /// constructor of the base.
     ColPickerPaletteDlg(CWinApp& app, ColPickerModeType mode, const Colour& colour, CWnd* centreOn,
                         CWnd* parent);
     ~ColPickerPaletteDlg() override;
@@ -29,7 +30,8 @@ public:
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
-    /// An override calls this first.
+    /// Shows the colour as text and its contrast, and after a drag, when `final`, remembers it for undo. An
+    /// override calls this first.
     void UpdateExternalColours(bool final) override;
     COLORREF& customCols(int index) override;
     void LoadSettings() override;

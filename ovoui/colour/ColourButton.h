@@ -44,8 +44,9 @@ public:
     CColourButton();
     ~CColourButton() override;
 
+    /// The colour that it shows.
     const Colour& GetColour() const { return m_colour; }
-    /// Tells no one.
+    /// Shows a `colour`. Tells no one.
     void SetColour(const Colour& colour);
 
     /// The colours that are dropped from the next time on; 40 common ones in rows of 8 at first. `columns` is
@@ -54,9 +55,11 @@ public:
     /// Whether there is a line that opens the dialog; at first there is.
     void UseDialog(bool use) { m_usesDialog = use; }
 
+    /// Whether the palette is open.
     bool IsDropped() const { return m_drop != nullptr; }
-    /// Both tell the parent as when the user does it. Nothing happens when it is so already.
+    /// Opens the palette, and tells the parent as when the user does it. Nothing happens when it is open.
     void DropDown();
+    /// Closes the palette, and tells the parent as when the user does it. Nothing happens when it is closed.
     void CloseUp();
     /// The colour with the mark in the palette; none when there is none, or it is on the line.
     std::optional<Colour> PointedColour() const;
@@ -103,6 +106,6 @@ private:
     Lifeline m_lifeline;
 };
 
-/// The colour of a button, in DoDataExchange.
+/// The `colour` of a `button`, for the `exchange` of a DoDataExchange.
 OVOUI_API void DDX_Colour(CDataExchange* exchange, CColourButton& button, Colour& colour);
 OVOUI_API void DDX_Colour(CDataExchange* exchange, CColourButton& button, COLORREF& colour);

@@ -36,21 +36,24 @@ public:
     CColourGrid();
     ~CColourGrid() override;
 
-    /// A child window.
+    /// A child window of `parent` with the number `id`, at `rect` in its client coordinates. `style` has WS_
+    /// bits. FALSE when the system refuses.
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
-    /// Takes the place of a control of a dialog, which is destroyed: its number, rectangle, order in Tab, and
-    /// text for the name; with a tab stop. False when there is no such control.
+    /// Takes the place of the control `id` of a dialog, which is destroyed: its number, rectangle, order in
+    /// Tab, and text for the name; with a tab stop. False when there is no such control.
     bool createInPlace(CWnd& dialog, UINT id);
 
     /// `columns` is at least 1. The mark goes to the first colour. Tells no one.
     void SetColours(std::vector<COLORREF> colours, int columns);
+    /// The colours, in the order of the cells.
     const std::vector<COLORREF>& Colours() const { return m_colours; }
 
-    /// The colour with the mark; -1 without colours. A number beyond the ends is ignored; code tells no one.
+    /// The index of the colour with the mark; -1 without colours.
     int Current() const { return m_colours.empty() ? -1 : m_current; }
+    /// Moves the mark to a colour; an `index` beyond the ends is ignored. Tells no one.
     void SetCurrent(int index);
 
-    /// Where a colour is shown, in client coordinates.
+    /// Where the colour `index` is shown, in client coordinates.
     CRect CellRect(int index) const;
 
 protected:

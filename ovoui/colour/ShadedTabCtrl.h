@@ -34,7 +34,8 @@ public:
     /// filling. False, with both left alone, when there is no such tab control or no brush. The brush stays
     /// the tab control's, until its size changes.
     static bool GetBackgroundBrush(CWnd* child, HBRUSH& brush, CPoint& origin);
-    /// The same for this tab control, in the coordinates of `relativeTo`, or of the screen when that is null.
+    /// The same `brush` and `origin` for this tab control, in the coordinates of `relativeTo`, or of the
+    /// screen when that is null.
     bool GetBackgroundBrush(HBRUSH& brush, CPoint& origin, CWnd* relativeTo);
 
     /// For a WM_CTLCOLOR handler: the brush with which `control`, which lies on a shaded tab control, paints
@@ -42,7 +43,8 @@ public:
     /// group box gets a solid brush in the colour under its corner, since it fills the background of its
     /// caption. Gives `defaultBrush` when there is nothing to change. The caller never deletes the brush.
     static HBRUSH AmendCtlColor(CDC* dc, CWnd* control, UINT type, HBRUSH defaultBrush);
-    /// The same for a control known to lie on this tab control. Here list boxes keep their colours, too.
+    /// The same with `dc`, `type` and `defaultBrush` for a control known to lie on this tab control. Here
+    /// list boxes keep their colours, too.
     HBRUSH AmendCtlColor(CDC* dc, UINT type, HBRUSH defaultBrush, CWnd* control);
 
     /// Solid brushes for group boxes, one a colour. They live until the process ends.

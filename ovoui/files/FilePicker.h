@@ -21,27 +21,34 @@ struct FileQuestion
     std::wstring title{};           ///< empty: the system's
     std::filesystem::path folder{}; ///< to begin in, or the nearest one that exists
     std::wstring name{};            ///< to begin with; of any length
-    std::vector<FileType> types{};
+    std::vector<FileType> types{};  ///< to choose from, in this order; none: all files
     std::wstring extension{}; ///< as ".png": chooses a type to begin with, and is added to names without one
 };
 
 // As the browse functions: they leave the working directory as it is, and nothing comes back when the user
 // cancels. Paths may have any length that the system's dialog can give.
 
+/// Asks for one file that exists, as `question` says; nothing when the user cancels. As the browse functions
+/// it leaves the working directory as it is. The path may have any length that the system's dialog can give.
 OVOUI_API std::optional<std::filesystem::path> pickFile(const FileQuestion& question); ///< One that exists.
+/// Asks for at least one file, all of which exist, as `question` says; none when the user cancels.
 OVOUI_API std::vector<std::filesystem::path>
 pickFiles(const FileQuestion& question); ///< At least one, which exist.
-/// Where to save; the user is asked before a file is replaced.
+/// Asks where to save, as `question` says; the user is asked before a file is replaced. Nothing when the user
+/// cancels.
 OVOUI_API std::optional<std::filesystem::path> pickFileToSave(const FileQuestion& question);
 
+/// What is asked about a folder. Everything may be left out.
 struct FolderQuestion
 {
-    CWnd* parent = nullptr;
-    std::wstring title{};
-    std::filesystem::path folder{};
+    CWnd* parent = nullptr;         ///< without one the main window
+    std::wstring title{};           ///< empty: the system's
+    std::filesystem::path folder{}; ///< to begin in, or the nearest one that exists
 };
 
-/// In the new-style dialog; where there is none, in that of BrowseForDir.
+/// Asks for a folder, as `question` says, in the new-style dialog; where there is none, in that of
+/// BrowseForDir. Nothing when the user cancels.
 OVOUI_API std::optional<std::filesystem::path> pickFolder(const FolderQuestion& question);
-/// Several; where there is no new-style dialog, one.
+/// Asks for several, as `question` says; where there is no new-style dialog, for one. None when the user
+/// cancels.
 OVOUI_API std::vector<std::filesystem::path> pickFolders(const FolderQuestion& question);

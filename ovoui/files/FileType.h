@@ -4,8 +4,9 @@
 #include <string>
 #include <vector>
 
+/// An entry of the list of file types in a dialog.
 struct FileType
 {
-    std::wstring name;
-    std::vector<std::wstring> patterns;
+    std::wstring name;                  ///< what the user reads
+    std::vector<std::wstring> patterns; ///< such as *.png
 };

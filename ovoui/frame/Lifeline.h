@@ -45,6 +45,7 @@ public:
         {
         }
 
+        /// Whether it is still there.
         bool alive() const
         {
             return m_object ? CWnd::FromHandlePermanent(m_window) == m_object : !m_life.expired();

@@ -13,6 +13,7 @@ inline constexpr unsigned OVOMB_EXTICONS = 0x02000000;
 /// Lets the default-button value be 0x400 (fifth button) or 0x500 (sixth).
 inline constexpr unsigned OVOMB_EXTDEFBUTTON = 0x04000000;
 
-/// Results of the "to all" buttons.
+/// Result of the button "Yes to all".
 inline constexpr int IDYESTOALL = 1298;
+/// Result of the button "No to all".
 inline constexpr int IDNOTOALL = 1299;

@@ -20,12 +20,13 @@
 class OVOUI_API COVOMessageDialog
 {
 public:
-    /// As the arguments of OVOMessageBox; an empty caption gives the default caption.
+    /// `owner`, `text`, `caption` and `type` are those of OVOMessageBox; an empty caption gives the default
+    /// caption.
     explicit COVOMessageDialog(HWND owner, std::wstring text, std::wstring caption = {}, UINT type = MB_OK);
 
-    /// A button of the host's, to the right of those added before. The first one replaces the buttons of the
-    /// type; the default button is still that of the type. `id`, from 1 to 20500, is the answer: IDCANCEL
-    /// makes the button the one of Escape and the close box, IDHELP asks for help.
+    /// A button of the host's with this `label`, to the right of those added before. The first one replaces
+    /// the buttons of the type; the default button is still that of the type. `id`, from 1 to 20500, is the
+    /// answer: IDCANCEL makes the button the one of Escape and the close box, IDHELP asks for help.
     void AddButton(int id, std::wstring label);
 
     /// A text below the box, of any length, which the user shows and hides by a button.
@@ -41,15 +42,17 @@ public:
     /// mouse button pressed in the box ends the count.
     void PressDefaultAfter(unsigned seconds);
 
-    /// As `settingsKey` and `helpId` of OVOMessageBox.
+    /// As `settingsKey` of OVOMessageBox.
     void SetSettingsKey(std::wstring settingsKey) { m_settingsKey = std::move(settingsKey); }
+    /// As `helpId` of OVOMessageBox.
     void SetHelp(UINT helpId) { m_helpId = helpId; }
 
     /// The id of the button pressed; else as OVOMessageBox.
     int DoModal() const;
 
-    /// Forgets what the user has answered for an entry, or for all: every box is shown again.
+    /// Forgets what the user has answered for an `entry`: its box is shown again.
     static void ForgetAnswer(const std::wstring& entry);
+    /// Forgets what the user has answered for all entries: every box is shown again.
     static void ForgetAnswers();
 
 private:

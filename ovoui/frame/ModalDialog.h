@@ -10,11 +10,14 @@
 class OVOUI_API COVOModalDialog : public CDialog
 {
 public:
+    /// The template `nIDTemplate`; `pParentWnd` is disabled while the dialog is open, and may be null for the
+    /// main window.
     COVOModalDialog(UINT nIDTemplate, CWnd* pParentWnd);
     ~COVOModalDialog() override;
 
 protected:
-    /// Dispatches as CWnd does. An OvoError or a standard exception out of a handler is shown with
-    /// AfxMessageBox under the dialog's help id and counts as handled; any other exception passes on.
+    /// Dispatches `message` with `wParam` and `lParam` as CWnd does, and puts the answer into `pResult`. An
+    /// OvoError or a standard exception out of a handler is shown with AfxMessageBox under the dialog's help
+    /// id and counts as handled; any other exception passes on.
     BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 };

@@ -15,21 +15,21 @@ struct OVOUI_API OvoNonClientMetrics
     /// Reads the metrics. Throws WinError when the system does not give them.
     OvoNonClientMetrics();
 
-    UINT cbSize;
-    int iBorderWidth;
-    int iScrollWidth;
-    int iScrollHeight;
-    int iCaptionWidth;
-    int iCaptionHeight;
-    LOGFONTW lfCaptionFont;
-    int iSmCaptionWidth;
-    int iSmCaptionHeight;
-    LOGFONTW lfSmCaptionFont;
-    int iMenuWidth;
-    int iMenuHeight;
-    LOGFONTW lfMenuFont;
-    LOGFONTW lfStatusFont;
-    LOGFONTW lfMessageFont;
+    UINT cbSize;              ///< of this structure, in bytes; all others are in pixels
+    int iBorderWidth;         ///< of the border that sizes a window
+    int iScrollWidth;         ///< of an upright scroll bar
+    int iScrollHeight;        ///< of a level scroll bar
+    int iCaptionWidth;        ///< of the buttons in a caption
+    int iCaptionHeight;       ///< of a caption
+    LOGFONTW lfCaptionFont;   ///< of captions
+    int iSmCaptionWidth;      ///< of the buttons in the caption of a tool window
+    int iSmCaptionHeight;     ///< of the caption of a tool window
+    LOGFONTW lfSmCaptionFont; ///< of captions of tool windows
+    int iMenuWidth;           ///< of the buttons in a menu bar
+    int iMenuHeight;          ///< of a menu bar
+    LOGFONTW lfMenuFont;      ///< of menus
+    LOGFONTW lfStatusFont;    ///< of status bars and tips
+    LOGFONTW lfMessageFont;   ///< of message boxes and dialogs
 };
 
 static_assert(sizeof(OvoNonClientMetrics) == 500);

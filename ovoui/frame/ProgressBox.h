@@ -18,8 +18,8 @@ class COVOProgressBoxDlg;
 class OVOUI_API COVOProgressBox
 {
 public:
-    /// `owner` may be null. An empty caption gives the default caption. When the box cannot be
-    /// created, the work cannot be cancelled.
+    /// Shows `text`, which may have several lines. `owner` may be null. An empty `caption` gives the default
+    /// caption. When the box cannot be created, the work cannot be cancelled.
     explicit COVOProgressBox(HWND owner, const std::wstring& text, const std::wstring& caption = {});
     ~COVOProgressBox();
     COVOProgressBox(const COVOProgressBox&) = delete;
@@ -34,6 +34,7 @@ public:
     /// A line in place of the text; the box keeps its size.
     void SetText(const std::wstring& text);
 
+    /// Whether the work is to stop.
     bool IsCancelled() const;
 
 private:

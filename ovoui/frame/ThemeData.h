@@ -9,8 +9,8 @@
 #include <windows.h>
 #include <uxtheme.h>
 
-/// The entry points of UxTheme, fetched once when the object is made. Whether visual styles are on is asked at
-/// every call, so a change of theme needs nothing.
+/// The entry points of UxTheme, fetched once when the object is made. Whether visual styles are on is asked
+/// at every call, so a change of theme needs nothing.
 ///
 /// A copy shares the module with its original: both release it.
 class OVOUI_API CThemeData
@@ -22,7 +22,7 @@ public:
     /// Loads UxTheme from the system directory. Without it the object answers as on a system without themes.
     CThemeData();
 
-    /// The same with a loader of the caller's.
+    /// The same with a loader of the caller's, `load`.
     explicit CThemeData(Loader load);
 
     CThemeData(const CThemeData&) = default;
@@ -35,19 +35,19 @@ public:
     /// Whether visual styles are on; false without UxTheme.
     bool IsAppThemed();
 
-    /// COLOR_BTNFACE, for every window and theme.
+    /// COLOR_BTNFACE, for every window `wnd` and theme.
     COLORREF ButtonFace(HWND wnd) const;
 
-    /// The system's brush for COLOR_BTNFACE, shared: the caller must not delete it.
+    /// The system's brush for COLOR_BTNFACE, shared, for every window `wnd`: the caller must not delete it.
     HBRUSH BackgroundBrush(HWND wnd);
 
-    /// Text colour of a group box in the window's theme; without one the highlight colour, which sets group
+    /// Text colour of a group box in the theme of `wnd`; without one the highlight colour, which sets group
     /// titles off from the labels.
     COLORREF GroupboxText(HWND wnd) const;
 
-    /// Draws the background of a push button in `state` when `classList` is "Button" (in any case of letters)
-    /// and the window has a theme; draws nothing otherwise. False only when there is no UxTheme: true means that
-    /// the theme engine is present, not that something was drawn.
+    /// Draws the background of a push button in `state` into `rect` on `dc` when `classList` is "Button" (in
+    /// any case of letters) and the window `wnd` has a theme; draws nothing otherwise. False only when there
+    /// is no UxTheme: true means that the theme engine is present, not that something was drawn.
     bool drawBackground(HDC dc, const RECT* rect, HWND wnd, const wchar_t* classList, int state);
 
 private:

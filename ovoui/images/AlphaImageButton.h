@@ -26,10 +26,10 @@ public:
     /// Width and height of the image in pixels; for the next loadImage.
     void setSize(unsigned int size);
 
-    /// Shows a bitmap resource, found by the framework's search: the first image of it with visual styles,
-    /// all of it without. In the latter case only a bitmap with a palette gets the system's colours. Without
-    /// such a resource the button shows no image. Can be called again, for another image or after a change of
-    /// the theme.
+    /// Shows the bitmap resource `id`, found by the framework's search: the first image of it with visual
+    /// styles, all of it without. In the latter case only a bitmap with a palette gets the system's colours.
+    /// Without such a resource the button shows no image. Can be called again, for another image or after a
+    /// change of the theme.
     void loadImage(unsigned int id);
 
 protected:

@@ -51,12 +51,14 @@ public:
     int AddBitmap(unsigned int id, bool hot, long index, const SIZE& sourceSize, const CSize& targetSize,
                   HBITMAP bitmap, const DWORD* remap);
 
-    /// The picture as a new top-down DIB section of 32 bits a pixel, not premultiplied; the caller owns it.
-    /// Null when it cannot be made.
+    /// The picture `bitmap` as a new top-down DIB section of 32 bits a pixel, not premultiplied; the caller
+    /// owns it. Null when it cannot be made.
     static HBITMAP GetHBitmap(Gdiplus::Bitmap& bitmap);
 
     CImageList* ImageList(); ///< The normal list, which stays this object's.
+    /// The handle of the normal list, which stays this object's; null before Create.
     HIMAGELIST GetImageList() const;
+    /// The handle of the hot list, which stays this object's; null before Create.
     HIMAGELIST GetHotImageList() const;
 
     /// Back to the beginning: Create can be called again.

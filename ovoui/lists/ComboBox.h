@@ -51,6 +51,7 @@ public:
     /// Whether typing completes the text from the list. On at first. Without it a text is also not looked up
     /// in the list when it is judged while the list is closed, except by the arrow keys.
     void AutoComplete(bool complete);
+    /// Whether typing completes the text from the list.
     bool AutoComplete() const;
 
     /// A note of the host's: the control keeps it and does nothing with it.
@@ -80,9 +81,9 @@ public:
     void SearchInside(bool search);
 
     /// Keeps the texts that were accepted last at the top of the list, the last one first, and in the
-    /// application's profile under `entry` with a number, from 1 on; at most `limit`. Items with these texts
-    /// move, other texts become items. Del in the open list removes a text from the history, and from the
-    /// list if it was no item before. To be called when the list is filled.
+    /// application's profile, in `section` under `entry` with a number, from 1 on; at most `limit`. Items
+    /// with these texts move, other texts become items. Del in the open list removes a text from the history,
+    /// and from the list if it was no item before. To be called when the list is filled.
     void KeepHistory(LPCWSTR section, LPCWSTR entry, int limit);
 
     /// A grey text in the field while it is empty, with and without the focus. Needs visual styles; false
@@ -92,11 +93,13 @@ public:
     // With the styles CBS_OWNERDRAWFIXED and CBS_HASSTRINGS the items of the list can have colours and
     // images. These stay with their items while others come and go, and are gone with the item.
 
-    /// A COLORREF with the alpha in its highest byte, 255 for opaque.
+    /// The colour of the item `item`: a COLORREF with the alpha in its highest byte, 255 for opaque. Needs
+    /// the styles CBS_OWNERDRAWFIXED and CBS_HASSTRINGS, as images do. Both stay with their items while
+    /// others come and go, and are gone with the item.
     void SetItemColour(int item, DWORD colour);
-    /// An image of the list of images, or -1 for none.
+    /// The image of the item `item`, of the list of images, or -1 for none.
     void SetItemImage(int item, int image);
-    /// The host's, which keeps it alive; null for none.
+    /// The list that `image` of SetItemImage counts in: the host's, which keeps it alive; null for none.
     void SetImageList(CImageList* images);
 
     BOOL PreTranslateMessage(MSG* pMsg) override;

@@ -5,6 +5,7 @@
 
 class COVOComboBox;
 
+/// An observer of combo boxes that delete themselves (COVOComboBox::AutoDeleteNotify).
 class OVOUI_API COVOComboBoxDeletion
 {
 public:

@@ -5,8 +5,8 @@
 
 #include <afxwin.h>
 
-/// Selects the first item whose whole text is `text` and gives its index; -1, with the selection as it was,
-/// when there is none.
+/// Selects the first item of `combo` whose whole text is `text` and gives its index; -1, with the selection
+/// as it was, when there is none.
 ///
 /// With `ignoreCase`, `text` is put into lower case by Unicode's rules and the items by those of the C
 /// library's current locale. In the "C" locale, which programs start with, the latter knows only A to Z: a

@@ -22,6 +22,7 @@ public:
 
     /// The list must have its window. It may be destroyed before this object. Replaces the list of before.
     void Attach(COVOListCtrlEx& list);
+    /// No tips any more; nothing happens without a list.
     void Detach();
 
     /// The tip's window: null before the first tip. Hidden while no tip is shown.

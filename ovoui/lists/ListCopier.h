@@ -24,7 +24,9 @@ public:
     COVOListCopier& operator=(const COVOListCopier&) = delete;
 
     /// The list must have its window. It may be destroyed before this object. Replaces the list of before.
+    /// With `headings` they stand above the copied rows.
     void Attach(CListCtrl& list, bool headings);
+    /// The keys copy nothing any more; nothing happens without a list.
     void Detach();
 
 private:

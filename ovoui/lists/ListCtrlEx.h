@@ -60,21 +60,22 @@ public:
     /// `nItem`.
     int AddItem(int nItem, int nSubItem, const std::wstring& text, DWORD colour, int image);
 
-    /// Takes an LVSIL_ type and gives the list of before. A null pointer takes the list away.
+    /// Takes the list `pImageList` for an LVSIL_ type, `nImageListType`, and gives the list of before. A null
+    /// pointer takes the list away.
     CImageList* SetImageList(CImageList* pImageList, int nImageListType);
 
     // Selection
 
-    /// Stores the indices of the first `nMaxItems` selected rows and gives their number. At least one is
-    /// stored when any is selected, even for an `nMaxItems` of 0.
+    /// Stores the indices of the first `nMaxItems` selected rows in `rgIndex` and gives their number. At
+    /// least one is stored when any is selected, even for an `nMaxItems` of 0.
     int GetSelItems(int nMaxItems, int* rgIndex);
 
     /// The index of the one selected row; -1 when none or several are selected.
     int GetCurSel();
 
-    /// The text if it fits into `width` less `offset`, both in pixels; else as much of it as fits with dots
-    /// behind it, in a buffer that the next call overwrites, of at most 263 characters. Empty when `width` is
-    /// less than 1 or not even the first character fits.
+    /// The text if it fits into `width` less `offset`, both in pixels, in the font of `pDC`; else as much of
+    /// it as fits with dots behind it, in a buffer that the next call overwrites, of at most 263 characters.
+    /// Empty when `width` is less than 1 or not even the first character fits.
     static LPCWSTR MakeShortString(CDC* pDC, LPCWSTR text, int width, int offset);
 
     // Off unless asked for
@@ -92,8 +93,9 @@ protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
 
-    /// A row's colour, as AddItem takes it; asked for while drawing, when row colours are in use. By default
-    /// the one given to AddItem, or 0. Lists with LVS_OWNERDATA, which have no AddItem, override it.
+    /// The colour of the row `item`, as AddItem takes it; asked for while drawing, when row colours are in
+    /// use. By default the one given to AddItem, or 0. Lists with LVS_OWNERDATA, which have no AddItem,
+    /// override it.
     virtual DWORD rowColour(int item);
 
     /// Paints the rows anew that look different with and without the focus.

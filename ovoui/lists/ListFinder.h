@@ -48,7 +48,7 @@ public:
     /// Looks for a text from the focused row on, as if it had been typed. False when it is in no row: then
     /// the search of before goes on. An empty text ends the search.
     bool Find(const std::wstring& text);
-    /// Goes to the next row, or to the one before. False without a search.
+    /// Goes to the next row, or, without `forward`, to the one before. False without a search.
     bool FindNext(bool forward);
 
     /// What is looked for; empty without a search.

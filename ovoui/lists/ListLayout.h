@@ -10,12 +10,14 @@
 
 class COVOListSorter;
 
-/// Writes order and widths of the columns, and with a `sorter` how the list is sorted. Columns are known by
-/// their headings, widths are written for 96 dots per inch. False when the profile cannot be written.
+/// Writes order and widths of the columns, and with a `sorter` how the list is sorted, into the application's
+/// profile, in `section` under `entry`. Columns are known by their headings, widths are written for 96 dots
+/// per inch. False when the profile cannot be written.
 OVOUI_API bool saveColumnLayout(CListCtrl& list, LPCWSTR section, LPCWSTR entry,
                                 const COVOListSorter* sorter);
 
-/// Brings back what was saved, and with a `sorter` sorts the list. Columns that were not saved keep their
-/// widths and come last; saved ones that the list does not have are left out. False when nothing was saved,
-/// or when the parent, which hears of the changes, destroyed the list. The sorter must live meanwhile.
+/// Brings back what was saved in `section` under `entry`, and with a `sorter` sorts the list. Columns that
+/// were not saved keep their widths and come last; saved ones that the list does not have are left out. False
+/// when nothing was saved, or when the parent, which hears of the changes, destroyed the list. The sorter
+/// must live meanwhile.
 OVOUI_API bool restoreColumnLayout(CListCtrl& list, LPCWSTR section, LPCWSTR entry, COVOListSorter* sorter);

@@ -22,6 +22,7 @@
 class OVOUI_API COVOListSorter
 {
 public:
+    /// What a column is compared as.
     enum class Kind
     {
         Text,   ///< the order of the user's locale
@@ -41,6 +42,7 @@ public:
 
     /// The list must have its window. It may be destroyed before this object. Replaces the list of before.
     void Attach(COVOListCtrlEx& list);
+    /// Headings sort no more; the list stays as it is. Nothing happens without a list.
     void Detach();
 
     /// How a column is sorted; Text at first.
@@ -48,10 +50,12 @@ public:
     /// Makes a column's kind Custom.
     void SetCompare(int column, Compare compare);
 
-    /// False when there is no list, no such column, or rows came or went during a comparison of the host's.
+    /// Sorts by a `column`, the least row first if `ascending`. False when there is no list, no such column,
+    /// or rows came or went during a comparison of the host's.
     bool Sort(int column, bool ascending);
 
     int Column() const { return m_column; } ///< -1 before the first sorting
+    /// Whether the least row came first in the last sorting.
     bool Ascending() const { return m_ascending; }
 
 private:

@@ -41,29 +41,34 @@ public:
     void SetSnap(double degrees);
 
 protected:
+    /// How the cylinder lies.
     enum class Axis
     {
         Vertical,   ///< turned sideways
         Horizontal, ///< turned up and down
     };
 
+    /// `axis` says how the cylinder lies, `turn` limits the angle. `reversed` turns the sense: to the right or downwards makes the angle
+    /// greater.
     CAngleSlider(Axis axis, ovoui::sliders::Turn turn, bool reversed);
 
-    /// Makes a child window of a class with double clicks, an arrow and the background of buttons.
+    /// Makes a child window of `parent` with the number `id` at `rect` in its client coordinates, of a class
+    /// with double clicks, an arrow and the background of buttons. `text` is its name, `style` has WS_ bits.
+    /// FALSE when the system refuses.
     BOOL createNamed(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
     // What makes a slider another one than a cylinder
 
-    /// The angle under the pointer. `pressed` when a drag begins with it.
+    /// The angle under the pointer at a client `point`. `pressed` when a drag begins with it.
     virtual double angleAt(CPoint point, bool pressed);
-    /// What the user's angle is limited to: nothing but the turn.
+    /// What the user's angle `degrees` is limited to: nothing but the turn.
     virtual double limited(double degrees) const;
-    /// Paints all of the client area; `shown` is the angle to be seen.
+    /// Paints all of the `client` area on `dc`; `shown` is the angle to be seen.
     virtual void paintBody(CDC& dc, const CRect& client, double shown);
     /// Whether a click without a movement nudges the slider. It does at first.
     void useClicks(bool nudge);
 
-    /// Draws over the cylinder of an enabled slider: nothing. `shown` is the angle to be seen.
+    /// Draws on `dc` over the `cylinder` of an enabled slider: nothing. `shown` is the angle to be seen.
     virtual void drawOnCylinder(CDC& dc, const CRect& cylinder, double shown);
 
     afx_msg void OnCaptureChanged(CWnd* wnd);

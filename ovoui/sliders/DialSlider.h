@@ -19,11 +19,14 @@ public:
     CDialSlider();
     ~CDialSlider() override;
 
-    /// Makes the window as a child of `parent`. FALSE when the system refuses.
+    /// Makes the window as a child of `parent` with the number `id`, at `rect` in its client coordinates.
+    /// `style` has WS_ bits. FALSE when the system refuses.
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
-    /// The user cannot turn it beyond these angles; SetPos takes any. Without stops at first.
+    /// The user cannot turn it beyond the angles `low` and `high`, in degrees; SetPos takes any. Without
+    /// stops at first.
     void SetStops(double low, double high);
+    /// The user can turn it without end.
     void RemoveStops();
 
     /// A tick every so many degrees, between the stops or all round; 0 for none, as at first.

@@ -22,6 +22,7 @@ public:
     /// outlives it.
     BOOL Create(CSliderButton* owner);
 
+    /// The slider; it has its window while the popup has.
     CPopupSliderCtrl& slider() { return m_slider; }
 
     /// Makes slider and popup higher for ticks below the thumb, once.

@@ -13,7 +13,8 @@ public:
     /// `reversed`: turning to the right makes the angle greater.
     explicit CRoundSlider(bool reversed);
 
-    /// Makes the window as a child of `parent`. FALSE when the system refuses.
+    /// Makes the window as a child of `parent` with the number `id`, at `rect` in its client coordinates.
+    /// `style` has WS_ bits. FALSE when the system refuses.
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
     /// Three inches on `dc` in pixels, the greatest width that is useful; 288 without a DC.

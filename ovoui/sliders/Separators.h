@@ -11,5 +11,5 @@
 /// for no separator. When `sep` is "," and `decimal` is '.', the text is the machine's already.
 OVOUI_API std::wstring change_from_intl_seps(const std::wstring& text, const wchar_t* sep, wchar_t decimal);
 
-/// The way back: outside quotes '.' becomes `decimal` and ',' becomes `sep`.
+/// The way back: in `text`, outside quotes, '.' becomes `decimal` and ',' becomes `sep`.
 OVOUI_API std::wstring change_to_intl_seps(const std::wstring& text, const wchar_t* sep, wchar_t decimal);

@@ -31,6 +31,7 @@
 class OVOUI_API CSliderButton : public CStatic
 {
 public:
+    /// How the slider's positions stand for numbers.
     enum SliderType
     {
         SliderInteger,     ///< the slider's positions are the numbers
@@ -39,7 +40,9 @@ public:
         SliderSquareRoot, ///< the number grows with the square of the way; exact both ways only when low is 0
     };
 
+    /// Sent to the buddy's parent: the slider has rewritten the buddy's text.
     static constexpr UINT kValueChanged = 3600;
+    /// Sent to the buddy's parent: the button was released.
     static constexpr UINT kReleased = 3601;
 
     /// `utils` belongs to the host and outlives the button.
@@ -48,17 +51,20 @@ public:
 
     /// Null: none, and the slider changes nothing. The tip is the string whose id is the buddy's control id.
     void SetBuddy(HWND buddy);
+    /// How positions stand for numbers; SliderInteger at first.
     void SetType(SliderType type);
 
-    /// For SliderInteger; 0 to 100 at first.
+    /// From `low` to `high`, for SliderInteger; 0 to 100 at first.
     void SetRange(int low, int high);
 
-    /// For the other types, with this many digits behind the decimal sign; 1 to 100 with two at first.
+    /// From `low` to `high` for the other types, with this many `decimals` behind the decimal sign; 1 to 100
+    /// with two at first.
     void SetRange(double low, double high, int decimals);
 
     /// The slider's range in pages, which is what a click beside the thumb moves it by; 10 at first, never 0.
     void SetPages(int pages);
 
+    /// The edit control beside it; null without one.
     HWND Buddy() const;
 
     /// The number that the buddy shows; none when its text does not begin with one.
@@ -76,10 +82,10 @@ public:
 
     // Off unless asked for
 
-    /// Maps numbers by functions of the host in place of the type's: how far a number lies from the low end
-    /// (0) to the high end (1), and the way back. Counts for every type but SliderInteger. False, and nothing
-    /// changes, when the numbers of the hundred steps neither rise nor fall throughout, or do not lead back
-    /// to their steps. Two empty functions bring the type's mapping back.
+    /// Maps numbers by functions of the host in place of the type's: `shareOf` says how far a number lies
+    /// from the low end (0) to the high end (1), `numberAt` is the way back. Counts for every type but
+    /// SliderInteger. False, and nothing changes, when the numbers of the hundred steps neither rise nor fall
+    /// throughout, or do not lead back to their steps. Two empty functions bring the type's mapping back.
     bool SetMapping(std::function<double(double number)> shareOf,
                     std::function<double(double share)> numberAt);
 

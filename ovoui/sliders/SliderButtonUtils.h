@@ -13,10 +13,10 @@ public:
     SliderButtonUtils(const SliderButtonUtils&) = default;
     SliderButtonUtils& operator=(const SliderButtonUtils&) = default;
 
-    /// Turns the text of the buddy into machine form.
+    /// Turns `displayed`, the text of the buddy, into machine form in `out`.
     virtual void fromDisplay(std::wstring& out, const std::wstring& displayed) = 0;
 
-    /// Turns a number in machine form into what the buddy shows.
+    /// Turns a number in machine form, `machine`, into what the buddy shows, in `out`.
     virtual void toDisplay(std::wstring& out, const std::wstring& machine) = 0;
 
     /// The pointer has left the button.

@@ -15,13 +15,16 @@
 class OVOUI_API CUnitNumbers : public SliderButtonUtils
 {
 public:
+    /// Chooses the constructor for shares.
     enum PercentTag
     {
         Percent ///< a hundred times the number is shown
     };
 
-    /// An empty unit: the number alone.
+    /// Numbers with the unit `unit`; an empty one: the number alone. `groups` puts the user's sign between
+    /// thousands.
     explicit CUnitNumbers(const std::wstring& unit, bool groups = true);
+    /// Shares as percentages.
     explicit CUnitNumbers(PercentTag);
     CUnitNumbers(const CUnitNumbers&);
     CUnitNumbers& operator=(const CUnitNumbers&);

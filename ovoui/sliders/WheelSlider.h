@@ -14,7 +14,8 @@ public:
     /// `reversed`: turning downwards makes the angle greater.
     explicit CWheelSlider(bool reversed);
 
-    /// Makes the window as a child of `parent`. FALSE when the system refuses.
+    /// Makes the window as a child of `parent` with the number `id`, at `rect` in its client coordinates.
+    /// `style` has WS_ bits. FALSE when the system refuses.
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
     /// Three inches on `dc` in pixels, the greatest height that is useful; 288 without a DC.

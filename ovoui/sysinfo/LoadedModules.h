@@ -14,9 +14,10 @@
 OVOUI_API std::vector<LoadedModule> loadedModules();
 
 /// A line with the names of the columns and one for each module, each ended by CR LF; tabs between columns.
+/// `modules` stand in their order.
 OVOUI_API std::wstring modulesAsText(const std::vector<LoadedModule>& modules);
 
-/// A table as Markdown has it, with the same columns; lines end with LF.
+/// A table of `modules` as Markdown has it, with the same columns; lines end with LF.
 OVOUI_API std::wstring modulesAsMarkdown(const std::vector<LoadedModule>& modules);
 
 /// An array with an object for each module; lines end with LF. Addresses are texts, since not every reader of

@@ -26,6 +26,7 @@ class OVOUI_API CModuleListDlg : public COVOModalDialog
     DECLARE_DYNAMIC(CModuleListDlg)
 
 public:
+    /// `pParent` is disabled while the dialog is open; null for the main window.
     explicit CModuleListDlg(CWnd* pParent = nullptr);
     ~CModuleListDlg() override;
 

@@ -24,6 +24,7 @@ class OVOUI_API CSystemInfoDlg : public COVOModalDialog
     DECLARE_DYNCREATE(CSystemInfoDlg)
 
 public:
+    /// `pParent` is disabled while the dialog is open; null for the main window.
     explicit CSystemInfoDlg(CWnd* pParent = nullptr);
     ~CSystemInfoDlg() override;
 

@@ -22,10 +22,11 @@ struct Stop;
 /// An entry of a flyout; none of them by itself.
 struct FlyoutEntry
 {
-    int index = -1; ///< in the order in which the entries were attached; -1 for none
-    int command = 0;
-    bool enabled = false;
+    int index = -1;       ///< in the order in which the entries were attached; -1 for none
+    int command = 0;      ///< that it issues; 0 for none
+    bool enabled = false; ///< whether it can be chosen now
 
+    /// Whether it stands for an entry.
     bool isHot() const { return index >= 0; }
 };
 } // namespace ovoui::toolbar
@@ -35,21 +36,23 @@ class OVOUI_API CFlyoutToolbar : public CToolBar, public std::enable_shared_from
     DECLARE_DYNAMIC(CFlyoutToolbar)
 
 public:
+    /// An entry, by value.
     using Entry = ovoui::toolbar::FlyoutEntry;
 
     CFlyoutToolbar();
     ~CFlyoutToolbar() override;
 
-    /// Makes the window, hidden, with the entries of a record. False on failure.
+    /// Makes the window, hidden, for a button of `bar`, with the entries of a `record`, side by side if
+    /// `horizontal`. False on failure.
     bool create(CVantorToolBar& bar, const ovoui::toolbar::FlyoutRecord& record, bool horizontal);
     /// The first entry with a command; -1 when there is none.
     int entryOf(int command) const;
-    /// Puts it below or beside a button, in screen pixels, inside the work area.
+    /// Puts it below a `button`, or beside it unless `horizontal`, in screen pixels, inside the work area.
     void placeAt(const CRect& button, bool horizontal);
 
     /// Brings the entries up to date and shows them, without activating anything.
     void show();
-    /// The same after a while. False when there is no timer.
+    /// The same after so many `milliseconds`. False when there is no timer.
     bool showLater(UINT milliseconds);
 
     /// Whether it is shown and the point of the screen lies in it, its border included.
@@ -58,14 +61,20 @@ public:
     Entry track(CPoint screen);
 
     // By button: separators count.
+    /// The buttons, separators counted, as the keyboard walks over them.
     std::vector<ovoui::toolbar::Stop> stops() const;
+    /// The index of the button that is shown pressed; -1 for none.
     int hotIndex() const { return m_hot; }
+    /// The entry of that button.
     Entry hotEntry() const;
+    /// The entry of the button `index`, separators counted.
     Entry entryAt(int index) const;
-    /// Shows a button pressed, with its prompt and, after a while, its tip; -1 for none.
+    /// Shows the button `index` pressed, with its prompt and, after a while, its tip; -1 for none.
     void makeHot(int index);
-    /// The text of its tip: what its command's string has behind its line feed, else its name.
+    /// The text of the tip of the button `index`: what its command's string has behind its line feed, else
+    /// its name.
     std::wstring nameOf(int index) const;
+    /// Tells accessibility that the button `index` has the focus.
     void announceFocus(int index) const;
 
     /// Called for an entry that was clicked, which happens when the flyout was opened by the keyboard, or
@@ -74,7 +83,7 @@ public:
     /// Whether it answers IAccessible itself; `name` is that of the button that it belongs to.
     void useAccessibleNames(const std::wstring& name);
 
-    /// Asks the bar's owner; `target` is ignored.
+    /// Asks the bar's owner; `target` is ignored, and `disableIfNoHandler` counts as in CFrameWnd.
     void OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL DestroyWindow() override;

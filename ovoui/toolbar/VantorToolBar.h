@@ -52,9 +52,10 @@ public:
     // Flyouts. Buttons count from 0, separators included; of a button that the bar does not have nothing is
     // done.
 
-    /// Buttons of a toolbar resource, by their indices in it, separators counted. Each index is also the
-    /// image that the bar's button gets with the entry, as it stands. The resource's bitmap, of images
-    /// `bitmapSize` pixels wide, is added to the bar's images. `styleFlag` gives the flyout's window a grip.
+    /// Buttons of the toolbar resource `toolbarId`, by their indices in it, `buttonIndices`, separators
+    /// counted. Each index is also the image that the bar's button gets with the entry, as it stands. The
+    /// resource's bitmap, of images `bitmapSize` pixels wide, is added to the bar's images. `styleFlag` gives
+    /// the flyout's window a grip.
     void AttachBar(int button, int toolbarId, int bitmapSize, const std::vector<int>& buttonIndices,
                    bool styleFlag);
 
@@ -64,21 +65,27 @@ public:
     /// the strips `bitmapIds` are added, to the bar and to the flyout. `names` serve as tips for commands
     /// that have no string. The image list stays the bar's; it must live as long as the record, or be
     /// replaced by AttachBar.
+    /// `bitmapSize` is the width of the images in pixels; `styleFlag` as above.
     void AttachBar(int button, int bitmapSize, const std::vector<int>& commands,
                    const std::vector<int>& bitmapIds, const std::vector<int>& images,
                    const std::vector<Quark>& names, bool styleFlag, bool shiftImages);
 
+    /// Takes the flyout of a button away.
     void DetachBar(int button);
+    /// Takes all flyouts away.
     void DetachAllBars();
-    /// The flyout of another bar's button, or none if that has none. Nothing is done without `from`.
+    /// The flyout of another bar's button `fromButton`, or none if that has none. Nothing is done without
+    /// `from`.
     void CopyBar(int button, const CVantorToolBar* from, int fromButton);
+    /// Whether a button has a flyout.
     bool HasFlyout(int button) const;
-    /// False for a button without a flyout; an empty list for one of a toolbar resource.
+    /// Puts the `commands` of a button's flyout in order. False for a button without a flyout; an empty list
+    /// for one of a toolbar resource.
     bool GetBarCommands(int button, std::vector<int>& commands) const;
     /// The size in pixels of the images in flyouts that are lists of commands.
     void UpdateBarBitmapSize(int size);
 
-    /// Closes the open flyout when the application is deactivated.
+    /// Closes the open flyout when the application is not `active` any more.
     static void ActivateApp(BOOL active);
 
     // What a host may ask for besides; off at first.
@@ -93,8 +100,8 @@ public:
     /// A bitmap resource with images of `size` by `size` pixels side by side.
     struct Strip
     {
-        UINT bitmapId;
-        int size;
+        UINT bitmapId; ///< the resource
+        int size;      ///< of each image, in pixels
     };
     /// The images of the bar, which must have its window, come from one of these strips, which must have the
     /// same images in the same order. They are `imageSize` pixels large at 96 dots per inch, and as much
@@ -114,7 +121,8 @@ public:
 
     /// Writes into a section of the application's profile which command each button with a flyout shows.
     void SaveChoices(LPCTSTR section) const;
-    /// Gives the buttons the commands and images of before. What is not in a flyout any more is skipped.
+    /// Gives the buttons the commands and images that the `section` has. What is not in a flyout any more is
+    /// skipped.
     void LoadChoices(LPCTSTR section);
 
     // Buttons. The flyouts stay with theirs.
@@ -122,12 +130,15 @@ public:
     /// Without a button only the records behind `index` move up, and the result is 1; otherwise it is the
     /// control's.
     BOOL InsertButton(int index, TBBUTTON* button);
+    /// Deletes the button `index`; the result is the control's. Without such a button only the records behind
+    /// it move down.
     BOOL DeleteButton(int index);
 
-    /// Adds the strip of a bitmap resource, with images `bitmapSize` pixels wide, to the bar's images, once.
-    /// Index of its first image, -1 on failure.
+    /// Adds the strip of the bitmap resource `bitmapId`, with images `bitmapSize` pixels wide, to the bar's
+    /// images, once. Index of its first image, -1 on failure.
     int AddBitmap(int bitmapId, int bitmapSize);
 
+    /// Who is told of what embedded controls notify; null for none.
     void SetControlCallback(ControlCallback callback);
 
     /// Set by the host to GetTickCount when it restarts its command interface: for a quarter of a second
@@ -139,19 +150,22 @@ public:
     /// The bar's height while it is horizontal, borders included; 0 follows the buttons.
     void SetHeight(int height);
 
-    /// The size of rows that are broken where TBSTATE_WRAP says.
+    /// The size of `count` `buttons` in rows that are broken where TBSTATE_WRAP says.
     CSize calcSize(const TBBUTTON* buttons, int count) const;
-    /// Breaks the rows, in `buttons` only, so that they are no wider, or with `vertical` no higher, than
-    /// `length`.
+    /// Breaks the rows of `count` buttons, in `buttons` only, so that they are no wider, or with `vertical`
+    /// no higher, than `length`.
     void sizeToolBar(TBBUTTON* buttons, int count, int length, bool vertical = false) const;
-    /// The bar's size for LM_ bits. Without a length, or with LM_COMMIT, the bar takes this layout on: rows
-    /// are broken, embedded controls moved to their places, and hidden while the bar is vertical.
+    /// The bar's size for the LM_ bits of `mode`. Without a `length`, or with LM_COMMIT, the bar takes this
+    /// layout on: rows are broken, embedded controls moved to their places, and hidden while the bar is
+    /// vertical.
     CSize calcLayout(DWORD mode, int length = -1);
     CSize CalcFixedLayout(BOOL stretch, BOOL horizontal) override;
     CSize CalcDynamicLayout(int length, DWORD mode) override;
 
-    /// Asks the bar's owner, else its parent, else its parent frame; `target` is ignored.
+    /// Asks the bar's owner, else its parent, else its parent frame; `target` is ignored, and
+    /// `disableIfNoHandler` counts as in CFrameWnd.
     void OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler) override;
+    /// Brings the buttons up to date; `disableIfNoHandler` counts as in CFrameWnd.
     LRESULT OnIdleUpdateCmdUI(WPARAM disableIfNoHandler, LPARAM);
 
     BOOL PreTranslateMessage(MSG* message) override;
@@ -160,23 +174,25 @@ public:
 
 protected:
     // One flyout is open at a time, whichever bar it belongs to.
+    /// The flyout that is open. One is open at a time, whichever bar it belongs to.
     static std::shared_ptr<CFlyoutToolbar> ms_popupBar;
     static bool ms_dragging;         ///< from the press on a flyout button to the release
     static int ms_dragButton;        ///< whose flyout is open; -1 for none
     static bool ms_idleTimerPending; ///< a bar waits to update its buttons
 
-    /// The button at a client point: its index, its rectangle on the screen, and whether it has a flyout.
+    /// The button at a client `point`: its `index`, its rectangle `rect` on the screen, and `hasFlyout`.
     /// False where there is none; the results are left alone.
     bool ButtonHitTest(CPoint point, int& index, CRect& rect, bool& hasFlyout) const;
-    /// Opens the flyout of a button whose rectangle on the screen is given, in place of the one that is open.
-    /// `held` makes it show itself after the hold delay.
+    /// Opens the flyout of the button `index`, whose rectangle `rect` on the screen is given, in place of the
+    /// one that is open. `held` makes it show itself after the hold delay.
     void CreatePopup(int index, const CRect& rect, int held);
-    /// The images of a strip begin at this index of the bar's images.
+    /// The images of the strip `bitmapId` begin at the index `offset` of the bar's images.
     void noteBitmap(int bitmapId, int offset);
+    /// Puts the button `index` into `button`.
     void _getButton(int index, TBBUTTON* button) const;
-    /// Replaces a button that differs in more than being enabled.
+    /// Replaces the button `index` that differs in more than being enabled.
     void _setButton(int index, const TBBUTTON* button);
-    /// Called for the gripper of a docked bar.
+    /// Draws the gripper of a docked bar into `rect` on `dc`.
     virtual void DrawNCGripper(CDC* dc, const CRect& rect);
 
     // mouse

@@ -21,18 +21,19 @@ public:
     ~CVantorToolWnd() override;
 
     using CDialogBar::Create;
-    /// Makes the bar in `frame`, which must outlive it, from a dialog template, with a string as its title.
-    /// Templates and strings are found along the framework's resource chain. `style`: WS_ and CBRS_ bits. The
-    /// bar's number is also its help context; with 0 it is the template's number. FALSE when the bar is not
-    /// made; frame and help context then stay as they were.
+    /// Makes the bar in `frame`, which must outlive it, from the dialog template `templateId`, with the
+    /// string `titleId` as its title. Templates and strings are found along the framework's resource chain.
+    /// `style`: WS_ and CBRS_ bits. The bar's number `barId` is also its help context; with 0 it is the
+    /// template's number. FALSE when the bar is not made; frame and help context then stay as they were.
     virtual BOOL Create(CFrameWnd* frame, UINT templateId, UINT style, UINT titleId, UINT barId);
 
     /// Shows the help on the bar; for hosts that route a help command to it.
     afx_msg void OnHelp();
 
-    /// Room in pixels that hosts leave around tool windows. 0 until the first one is constructed, which makes
-    /// both 2 unless the host has set the first of them before.
+    /// Room in pixels that hosts leave at the left and right of tool windows. 0 until the first one is
+    /// constructed, which makes both 2 unless the host has set this one before.
     static int sm_xBorder;
+    /// The same above and below.
     static int sm_yBorder;
 
 protected:

@@ -13,12 +13,12 @@
 /// shown.
 struct DragCursorSet
 {
-    std::uint32_t none = 0; ///< no drop here
-    std::uint32_t copy = 0;
-    std::uint32_t move = 0;
-    std::uint32_t link = 0;
-    std::uint32_t copySeveral = 0;
-    std::uint32_t moveSeveral = 0;
+    std::uint32_t none = 0;        ///< no drop here
+    std::uint32_t copy = 0;        ///< a drop copies
+    std::uint32_t move = 0;        ///< a drop moves
+    std::uint32_t link = 0;        ///< a drop makes a link
+    std::uint32_t copySeveral = 0; ///< a drop copies several nodes
+    std::uint32_t moveSeveral = 0; ///< a drop moves several nodes
 };
 
 /// The set that a node chooses unless it overrides `dragStarting`: all 0, the pointers that every drag on

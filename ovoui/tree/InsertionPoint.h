@@ -9,6 +9,7 @@
 ///
 /// Every node is one. For the top level a host derives one of its own whose hTreeItem() gives TVI_ROOT; if
 /// the tree's parent window derives from this class too, things can be dropped and pasted at the top level.
+/// In all operations `tree` is the tree that asks, and `zone` means what it does in dragInto.
 class OVOUI_API MultiTreeCtrl::InsertionPoint
 {
 public:
@@ -35,11 +36,11 @@ public:
     /// own. None, both null, unless overridden.
     virtual void getCommands(CommandSupported*& first, CommandSupported*& last) const;
 
-    /// Shows how a command that getCommands offers stands. `flag` tells that just one node is selected. Does
-    /// nothing unless overridden: the command is enabled.
+    /// Shows in `ui` how a command that getCommands offers stands. `flag` tells that just one node is
+    /// selected. Does nothing unless overridden: the command is enabled.
     virtual void doUpdateCmd(CCmdUI* ui, bool flag) const;
 
-    /// Does a command that getCommands offers. Nothing unless overridden.
+    /// Does the command `id`, which getCommands offers. Nothing unless overridden.
     virtual void doCommand(MultiTreeCtrl& tree, unsigned id);
 
     /// Whether children may be inserted here now.

@@ -47,12 +47,15 @@ public:
     class InsertionPoint;
     class Node;
     class iterator;
+    /// The record of a command.
     using CommandSupported = ::CommandSupported;
+    /// The pointers of a drag.
     using DragCursorSet = ::DragCursorSet;
 
-    /// What gestureEV() publishes at the beginning of a gesture, beside the numbers of commands; 0 is the
-    /// end.
+    /// What gestureEV() publishes, beside the numbers of commands, when selected nodes are about to be
+    /// deleted; 0 is the end.
     static constexpr int kGestureDelete = 5146;
+    /// What gestureEV() publishes before the default action; 0 is the end.
     static constexpr int kGestureDefaultAction = 1118;
 
     MultiTreeCtrl();
@@ -77,22 +80,25 @@ public:
         Halve ///< compares few of them: for a host that keeps them in order at all times
     };
 
-    /// With Halve the host promises that under every insertion point whose canCompare() is true each child
-    /// sorts before the next one; a node whose place has changed is inserted anew. Walk at first.
+    /// Chooses the `way`. With Halve the host promises that under every insertion point whose canCompare() is
+    /// true each child sorts before the next one; a node whose place has changed is inserted anew. Walk at
+    /// first.
     void setSortedInsertion(SortedInsertion way);
 
-    /// Inserts many nodes at once, with one repaint and one walk over the children. Gives what insert() gives
-    /// for each, in the order of `nodes`.
+    /// Inserts many nodes among the children of `where` at once, with one repaint and one walk over the
+    /// children. Gives what insert() gives for each, in the order of `nodes`.
     ///
     /// Sorted children end as if the nodes were inserted one by one; of several nodes that sort the same, the
     /// first is inserted. Otherwise the nodes go in as one block, in their order, behind `position` children.
     /// When a node raises an exception, those that sort before it may have been inserted.
     std::vector<HTREEITEM> insertBatch(const std::vector<Node*>& nodes, InsertionPoint& where, int position);
 
-    /// Inserts as Node::insert or insert() do, and adds the item to the selection. `first`, true before the
-    /// first call of a batch, makes that call replace the selection, and becomes false. Gives null, and
-    /// changes nothing of the selection, when nothing was inserted.
+    /// Inserts as Node::insert does, under `parent` behind `after`, and adds the item to the selection.
+    /// `first`, true before the first call of a batch, makes that call replace the selection, and becomes
+    /// false. Gives null, and changes nothing of the selection, when nothing was inserted.
     HTREEITEM insertAndSelect(Node* node, bool& first, HTREEITEM parent, HTREEITEM after);
+    /// The same for `node` among the children of `where` behind `position` of them, as insert() does; `first`
+    /// as above.
     HTREEITEM insertAndSelect(Node* node, bool& first, InsertionPoint& where, int position);
 
     // Nodes
@@ -115,9 +121,13 @@ public:
 
     // Walking
 
+    /// Over all items, or with `selectedOnly` over the selected ones.
     iterator begin(bool selectedOnly) const;
+    /// Over all items.
     iterator beginAll() const;
+    /// Over the selected items.
     iterator beginSelected() const;
+    /// The end of every walk.
     iterator end() const;
 
     // Selection
@@ -125,19 +135,20 @@ public:
     /// Makes an item the caret and the only selected one; null clears the selection. Calls doSelectItem.
     BOOL SelectItem(HTREEITEM item);
 
-    /// Sets the fixed end of the next range (Shift); null for none.
+    /// Makes `item` the fixed end of the next range (Shift); null for none.
     void selectItemAnchor(HTREEITEM item);
 
     /// Deselects `first`, its following siblings, and all below these, without a notification. Gives how many
     /// were selected. Null does nothing.
     unsigned clearselection(HTREEITEM first);
 
-    /// Adds the displayed items from one to the other, in whatever order they stand, to the selection,
-    /// without a notification. If one is null or not displayed, the range goes from the other to the last
-    /// displayed item.
+    /// Adds the displayed items from `a` to `b`, in whatever order they stand, to the selection, without a
+    /// notification. If one is null or not displayed, the range goes from the other to the last displayed
+    /// item.
     void selectRange(HTREEITEM a, HTREEITEM b);
 
-    /// Sends the parent TVN_SELCHANGED. `action` is one of the TVC_ values; the items may be null.
+    /// Sends the parent TVN_SELCHANGED. `action` is one of the TVC_ values; `oldItem` and `newItem` may be
+    /// null; `point` is where, in client coordinates.
     void notifyTvnSelchanged(unsigned action, HTREEITEM oldItem, HTREEITEM newItem,
                              const CPoint& point) const;
 
@@ -166,17 +177,17 @@ public:
 
     // What the host answers
 
-    /// Shows an error that a node has raised.
+    /// Shows an error, `message`, that a node has raised.
     virtual void reportError(const wchar_t* message) = 0;
-    /// Whether a command or gesture is forbidden now.
+    /// Whether the command or gesture `id` is forbidden now.
     virtual bool isCommandDisabled(unsigned id) = 0;
 
     // What the host may change
 
     /// Scrolls by one item during a drag, or, with `doIt` false, tells whether it could. The high byte of
-    /// `code` is 0 for up and 1 for down.
+    /// `code` is 0 for up and 1 for down; `reserved` means nothing.
     virtual bool dragScroll(unsigned code, unsigned reserved, bool doIt);
-    /// Does the work of SelectItem. False when the parent refused the change.
+    /// Does the work of SelectItem for `item`, which may be null. False when the parent refused the change.
     virtual bool doSelectItem(HTREEITEM item);
 
 protected:

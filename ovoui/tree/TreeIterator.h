@@ -20,16 +20,22 @@
 class OVOUI_API MultiTreeCtrl::iterator
 {
 public:
+    /// For the standard library: an iterator that can be copied and used again.
     using iterator_category = std::forward_iterator_tag;
+    /// For the standard library.
     using value_type = Node;
+    /// For the standard library.
     using difference_type = std::ptrdiff_t;
+    /// For the standard library.
     using pointer = OVO::Handle<Node>;
+    /// For the standard library.
     using reference = Node&;
 
     /// The end of no tree.
     iterator();
     iterator(const iterator& other);
     iterator(iterator&& other) noexcept;
+    /// Stands where `other` stands, in the same tree.
     iterator& operator=(iterator other) noexcept;
     ~iterator();
 
@@ -37,17 +43,19 @@ public:
     Node& operator*() const;
     /// A handle to the node, which keeps it alive.
     OVO::Handle<Node> operator->() const;
+    /// A handle to the node, which keeps it alive; none at the end.
     operator OVO::Handle<Node>() const;
 
     /// Stays at the end when it is there.
     iterator& operator++();
     iterator operator++(int);
 
-    /// Whether both stand at the same item of the same tree.
+    /// Whether `a` and `b` stand at the same item of the same tree.
     friend bool operator==(const iterator& a, const iterator& b) { return a.eq(b); }
 
     /// Whether the next steps go to selected items only; the iterator stays where it is.
     iterator& setSelect(bool selected);
+    /// Whether the next steps go to selected items only.
     bool selectedOnly() const { return m_selectedOnly; }
 
 private:

@@ -26,6 +26,7 @@ class CImageList;
 /// little later. Every operation may destroy the tree or its window too, except those that the tree view
 /// itself waits for: expand, collapse, rename, renameText, canRename, beginLabelEdit and endLabelEdit, and
 /// text and the images while an item opens or closes.
+/// In all operations `tree` is the tree that the node is in.
 class OVOUI_API MultiTreeCtrl::Node : public MultiTreeCtrl::InsertionPoint, public OVO::Handlable
 {
 public:
@@ -62,16 +63,17 @@ public:
     virtual bool erase(MultiTreeCtrl& tree);
     /// Looks again at what the node stands for. False deletes the item; true by default.
     virtual bool refresh();
-    /// The user has typed a new name. The node takes it, makes another of it, or leaves text() as it was:
-    /// then the user is asked again. Does nothing unless overridden.
+    /// The user has typed a new name, `newText`. The node takes it, makes another of it, or leaves text() as
+    /// it was: then the user is asked again. Does nothing unless overridden.
     virtual void rename(MultiTreeCtrl& tree, const std::wstring& newText);
     /// The text offered for editing: text() unless overridden.
     virtual std::wstring renameText(MultiTreeCtrl& tree) const;
-    /// Draws a preview into `rect`. Fills it with the colour of button faces unless overridden.
+    /// Draws a preview into `rect` of `dc`; `images` (may be null) are those of the tree. Fills it with the
+    /// colour of button faces unless overridden.
     virtual void drawPreview(CDC& dc, const CRect& rect, CImageList* images) const;
-    /// A drag of this node, or its deletion (`effects` 0), is about to begin. Chooses the pointers, which
-    /// stay the node's own, and gives the effects it allows, of those in `effects`. By default the default
-    /// set, and 0: the node cannot be dragged.
+    /// A drag of this node, or its deletion (`effects` 0), is about to begin. Chooses the pointers,
+    /// `cursors`, which stay the node's own, and gives the effects it allows, of those in `effects`. By
+    /// default the default set, and 0: the node cannot be dragged.
     virtual DWORD dragStarting(MultiTreeCtrl& tree, DWORD effects, const DragCursorSet*& cursors);
     /// The drag has ended with this effect. Does nothing unless overridden.
     virtual void dragEnding(MultiTreeCtrl& tree, DWORD effect);
@@ -85,10 +87,12 @@ public:
     /// upper 16 bits; if the lower ones are then all zero, the place is the node's own, and presses there
     /// come to buttonDown and handleLButtonUp. Does nothing unless overridden.
     virtual void hitTest(const MultiTreeCtrl& tree, CPoint point, unsigned& flags) const;
-    /// A button went down on a place of the node's own: `message` holds the MK_ bits of the keys, `flags` the
-    /// hit-test flags. True when that is all; false, as by default, leaves the press to the tree view.
+    /// A button went down at the client `point`, on a place of the node's own: `message` holds the MK_ bits
+    /// of the keys, `flags` the hit-test flags. True when that is all; false, as by default, leaves the press
+    /// to the tree view.
     virtual bool buttonDown(const MultiTreeCtrl& tree, unsigned message, CPoint point, unsigned flags);
-    /// The left button went up there. True when that is all; false by default.
+    /// The left button went up there, at the client `point` with the hit-test `flags`. True when that is all;
+    /// false by default.
     virtual bool handleLButtonUp(MultiTreeCtrl& tree, CPoint point, unsigned flags);
     /// The label editor opens. Does nothing unless overridden.
     virtual void beginLabelEdit(MultiTreeCtrl& tree);

@@ -11,15 +11,16 @@
 
 class CWnd;
 
-/// In days.
+/// How often the user is bothered, in days.
 struct UpdatePoliteness
 {
-    int checkEvery = 7;
-    int remindAfter = 3;
+    int checkEvery = 7;  ///< from one look at the list to the next
+    int remindAfter = 3; ///< from "remind me later" to the next offer
 };
 
-/// Shows the newer version with the choices to open its page, to be reminded later, or to skip it; `memory`
-/// keeps the choice. Closing the dialog puts it off too. Errors of `browseUrl` come out of here.
+/// Shows the newer version `update` of `product` with the choices to open its page, to be reminded later, or
+/// to skip it; `memory` keeps the choice, and `politeness` says when later is. Closing the dialog puts it off
+/// too. `parent` may be null. Errors of `browseUrl` come out of here.
 OVOUI_API void offerUpdate(const std::wstring& product, const AvailableUpdate& update, UpdateMemory& memory,
                            const UpdatePoliteness& politeness = {}, CWnd* parent = nullptr);
 
@@ -27,6 +28,8 @@ OVOUI_API void offerUpdate(const std::wstring& product, const AvailableUpdate& u
 /// nothing new, and when the list cannot be fetched or used: then the next call tries again. Waits for the
 /// server; a host that does not want that asks `UpdateMemory::isDue`, starts an `UpdateJob`, and calls
 /// `offerUpdate` with its answer.
+/// `address`, `product`, `options` and `version` are those of findUpdate, `politeness` says when a look is
+/// due.
 OVOUI_API void checkPolitely(const std::wstring& address, const std::wstring& product,
                              const std::wstring& options, const int version[4],
                              const UpdatePoliteness& politeness = {});

@@ -17,16 +17,17 @@ struct AvailableUpdate
     std::wstring page;        ///< address of the page that describes the update
 };
 
-/// Reads the update list at `address` and gives the newer version that it offers for this product, these
-/// options, and this installed version on Windows for Intel64 processors; none when there is no newer one.
-/// Where several rows of the list apply, the last one counts.
+/// Reads the update list at `address` and gives the newer version that it offers for this `product`, these
+/// `options`, and this installed `version` (four numbers) on Windows for Intel64 processors; none when there
+/// is no newer one. Where several rows of the list apply, the last one counts.
 ///
 /// Waits for the server. Throws OvoError, with the address, when the list cannot be fetched or read, or when
 /// a row lacks a column that every row must have. Keeps no copy of the list.
 OVOUI_API std::optional<AvailableUpdate> findUpdate(const std::wstring& address, const std::wstring& product,
                                                     const std::wstring& options, const int version[4]);
 
-/// Does the same and tells the user the result in a modal dialog. When the user accepts an update, its page
-/// is opened with `browseUrl`, whose errors come out of here too.
+/// Asks with `address`, `product`, `options` and `version` as findUpdate does, and tells the user the result
+/// in a modal dialog. When the user accepts an update, its page is opened with `browseUrl`, whose errors come
+/// out of here too.
 OVOUI_API void checkForUpdates(const std::wstring& address, const std::wstring& product,
                                const std::wstring& options, const int version[4]);

@@ -27,10 +27,10 @@
 /// What a check asks.
 struct UpdateQuestion
 {
-    std::wstring address;
-    std::wstring product;
-    std::wstring options;
-    std::array<int, 4> version{};
+    std::wstring address;         ///< of the list
+    std::wstring product;         ///< as the list names it
+    std::wstring options;         ///< as the list names them
+    std::array<int, 4> version{}; ///< that is installed
     /// Given for a list that must be signed.
     std::optional<UpdateTrust> trust;
 };
@@ -55,25 +55,29 @@ public:
         Answered = 2  ///< the last message: state() says more
     };
 
+    /// How far the check has come.
     enum class State
     {
-        Running,
-        Found, ///< update() is the newer version
-        NothingNew,
-        Failed, ///< error() says why
-        Cancelled
+        Running,    ///< no answer yet
+        Found,      ///< update() is the newer version
+        NothingNew, ///< there is no newer version
+        Failed,     ///< error() says why
+        Cancelled   ///< by cancel()
     };
 
+    /// How much of the list has come.
     struct Bytes
     {
-        std::uint64_t received = 0;
+        std::uint64_t received = 0; ///< so far
         std::uint64_t expected = 0; ///< 0 while it is not known
     };
 
-    /// Hands the check to `run`, whose exceptions come out of here.
+    /// Hands the check of `question` to `run`, whose exceptions come out of here. `message` is posted to
+    /// `window`, with an Event in wParam.
     static std::shared_ptr<UpdateJob> start(UpdateQuestion question, HWND window, UINT message,
                                             const Runner& run);
 
+    /// For start() alone: `question`, `window` and `message` are its arguments.
     UpdateJob(Private, UpdateQuestion question, HWND window, UINT message);
     UpdateJob(const UpdateJob&) = delete;
     UpdateJob& operator=(const UpdateJob&) = delete;
@@ -86,11 +90,15 @@ public:
     /// work itself may wait a moment longer for a silent server.
     void cancel() noexcept;
 
+    /// How much of the list has come; from now on Progress is posted again.
     Bytes progress() noexcept;
+    /// How far the check has come; may be asked on any thread.
     State state() const noexcept { return m_state; }
 
     // To be asked for after the answer.
+    /// The newer version, for Found; to be asked for after the answer.
     const std::optional<AvailableUpdate>& update() const { return m_update; }
+    /// What went wrong, for Failed; to be asked for after the answer.
     const std::wstring& error() const { return m_error; }
     /// With the number of the list that was accepted.
     const std::optional<UpdateTrust>& trust() const { return m_question.trust; }

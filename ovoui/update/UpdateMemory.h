@@ -11,6 +11,7 @@ struct AvailableUpdate;
 class OVOUI_API UpdateMemory
 {
 public:
+    /// What is known about `product`.
     explicit UpdateMemory(const std::wstring& product);
 
     /// Whether the last check is `days` days or more ago, and no reminder is put off.
@@ -18,14 +19,16 @@ public:
     /// A check has been made now.
     void noteCheck();
 
-    /// Whether the user has said that this version is to be skipped.
+    /// Whether the user has said that the version of `update` is to be skipped.
     bool isSkipped(const AvailableUpdate& update) const;
+    /// This version, `update`, is not to be offered any more.
     void skip(const AvailableUpdate& update);
     /// No check is due for so many days.
     void remindLater(int days);
 
     /// The highest number of a signed list that was seen, for `UpdateTrust`.
     std::wstring issue() const;
+    /// Keeps the number `issue` of a signed list.
     void keepIssue(const std::wstring& issue);
 
 private:

@@ -28,6 +28,7 @@ struct UpdateTrust
 ///
 /// Throws OvoError also for an address without https, a list without a signature, an altered or older one,
 /// and std::invalid_argument for a text that is no public key.
+/// `product`, `options` and `version` are those of findUpdate.
 OVOUI_API std::optional<AvailableUpdate> findTrustedUpdate(const std::wstring& address,
                                                            const std::wstring& product,
                                                            const std::wstring& options, const int version[4],
