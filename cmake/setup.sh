@@ -6,6 +6,7 @@ packages=(
   wine wine64 fonts-wine fonts-liberation xvfb           # running what was built
   googletest catch2 clang libclang-rt-14-dev             # tests, benchmarks, fuzzing
   librsvg2-bin imagemagick python3                       # icons from drawings, scripts
+  doxygen                                                # the reference
 )
 
 trap 'echo; echo "Interrupted." >&2; exit 130' INT

@@ -1,0 +1,125 @@
+"""docs/tools/make-reference on a small project of its own: what it takes, and each mistake that it has to find."""
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+
+GOOD = """\
+/// A bed of the garden.
+#pragma once
+
+/// Rows of plants.
+class OVOUI_API Bed
+{
+public:
+    Bed(const Bed&) = delete;
+
+    /// Puts `plant` into a row, counted from 0.
+    bool put(int plant, int row);
+    bool put(int plant);
+
+    int rows = 0; ///< at most 9
+
+protected:
+    afx_msg void OnPaint();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void water(int litres);
+};
+"""
+README = "# Garden\n\nSee [the beds](docs/beds.md) and [their soil](docs/beds.md#the-soil).\n"
+PAGE = "# Beds\n\n## The soil\n\nLoam.\n"
+
+
+class Reference(unittest.TestCase):
+    def setUp(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.folder)
+        self.write("ovoui/version.h", '#define OVOUI_VERSION_STRING "1.2.3"\n')
+        self.write("docs/reference/groups.dox", "/** @defgroup tree Trees\n\n A group. */\n")
+        (self.folder / "docs/images").mkdir()
+        for name in ("Doxyfile", "style.css"):
+            self.write(f"docs/reference/{name}", (ROOT / "docs/reference" / name).read_text(encoding="utf-8"))
+
+    def write(self, name, text):
+        path = self.folder / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding="utf-8")
+
+    def make(self, header=GOOD, readme=README, page=PAGE):
+        self.write("ovoui/tree/Bed.h", header)
+        self.write("README.md", readme)
+        self.write("docs/beds.md", page)
+        return subprocess.run([ROOT / "docs/tools/make-reference", self.folder, self.folder / "out", "ovoui/tree/Bed.h"],
+                              capture_output=True, text=True)
+
+    def complains(self, words, **files):
+        made = self.make(**files)
+        self.assertNotEqual(made.returncode, 0)
+        self.assertIn(words, made.stderr)
+
+    def test_what_is_documented_becomes_pages(self):
+        made = self.make()
+        self.assertEqual((made.returncode, made.stderr), (0, ""))
+        page = (self.folder / "out/html/classBed.html").read_text(encoding="utf-8")
+        self.assertIn("Rows of plants", page)
+        self.assertNotIn("OnPaint", page)
+        self.assertNotIn("water", page)
+
+    def test_a_name_without_a_comment(self):
+        self.complains("ovoui/tree/Bed.h:16: Member weeds (variable) of class Bed is not documented",
+                       header=GOOD.replace("at most 9\n", "at most 9\n\n    int weeds = 0;\n"))
+
+    def test_a_function_below_one_with_a_comment_needs_its_own(self):
+        self.complains("Bed.h:12: Member take(int plant)", header=GOOD.replace("bool put(int plant);", "bool take(int plant);"))
+
+    def test_a_class_without_a_comment(self):
+        self.complains("ovoui/tree/Bed.h:24: struct Path is not documented", header=GOOD + "\nstruct Path\n{\n};\n")
+
+    def test_a_type_within_a_class(self):
+        self.complains("ovoui/tree/Bed.h:14: enum class Soil is not documented",
+                       header=GOOD.replace("    int rows", "    enum class Soil\n    {\n        Loam\n    };\n\n    int rows"))
+
+    def test_a_private_type_needs_no_comment(self):
+        made = self.make(header=GOOD.replace("    void water", "    struct Pipe\n    {\n    };\n    void water"))
+        self.assertEqual((made.returncode, made.stderr), (0, ""))
+
+    def test_the_comment_of_the_file_is_that_of_its_class(self):
+        made = self.make(header=GOOD.replace("/// Rows of plants.\n", ""))
+        self.assertEqual((made.returncode, made.stderr), (0, ""))
+
+    def test_a_parameter_that_the_comment_does_not_mention(self):
+        self.complains("ovoui/tree/Bed.h:11: the comment of put does not mention the parameter 'plant'",
+                       header=GOOD.replace("Puts `plant` into a row", "Fills a row"))
+
+    def test_an_override_of_the_framework_needs_no_comment(self):
+        made = self.make(header=GOOD.replace("afx_msg", "void PostNcDestroy() override;\n    afx_msg"))
+        self.assertEqual((made.returncode, made.stderr), (0, ""))
+
+    def test_a_link_to_a_page_that_is_not_there(self):
+        self.complains("README.md:3: the link to docs/herbs.md leads nowhere", readme=README.replace("beds.md)", "herbs.md)"))
+
+    def test_a_link_to_a_heading_that_is_not_there(self):
+        self.complains("has no heading #the-sand", readme=README.replace("#the-soil", "#the-sand"))
+
+    def test_a_picture_that_is_not_there(self):
+        self.complains("docs/beds.md:3: the link to images/soil.png leads nowhere",
+                       page=PAGE.replace("## The", "![Soil](images/soil.png)\n\n## The"))
+
+    def test_a_reference_to_a_name_that_is_not_there(self):
+        self.write("docs/reference/groups.dox", "/** @defgroup tree Trees\n\n As @ref Garden. */\n")
+        self.complains("Garden")
+
+    def test_prose_holds_no_commands(self):
+        made = self.make(header=GOOD.replace("Rows of plants.", "Rows of C:\\beds\\new, <plants> & #1 @home."))
+        self.assertEqual((made.returncode, made.stderr), (0, ""))
+        page = (self.folder / "out/html/classBed.html").read_text(encoding="utf-8")
+        self.assertIn(r"Rows of C:\beds\new, &lt;plants&gt; &amp; #1 @home", page)
+
+
+if __name__ == "__main__":
+    unittest.main()
