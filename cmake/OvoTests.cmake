@@ -1,7 +1,7 @@
 # Test programs: cross-compiled ones that run under Wine, native ones that run under the sanitizers.
 #
 #   ovo_test(NAME [NO_MANIFEST] SOURCES a.cpp ... LIBS target ... [RESOURCES x.rc ...] [TIMEOUT SECONDS])
-#       A GoogleTest program for Windows with the harness of tests/support, registered with CTest. It asks for the
+#       A GoogleTest program for Windows with the test kit, registered with CTest. It asks for the
 #       common controls 6 unless NO_MANIFEST is given.
 #   ovo_test_variant(NAME VARIANT [FILTER PATTERN] [THEMES OFF] [DPI N])
 #       Runs the program NAME once more, as NAME.VARIANT: a part of it, with visual styles off, or at a resolution of
@@ -57,14 +57,15 @@ function(ovo_test name)
     list(APPEND arg_RESOURCES ${PROJECT_SOURCE_DIR}/tests/support/program.rc)
   endif()
   add_executable(${name} ${arg_SOURCES} ${arg_RESOURCES})
-  target_link_libraries(${name} PRIVATE ovo_flags ${arg_LIBS} ovo_test_support)
+  target_link_libraries(${name} PRIVATE ovo_flags ${arg_LIBS} ovo_testkit)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   # GCC 12 warns of its own string constructor when many short strings stand in one list.
   foreach(warning array-bounds restrict stringop-overread stringop-overflow)
     target_compile_options(${name} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-Wno-${warning}>)
   endforeach()
   # Optimising the tests themselves would take nearly half of their compilation.
   target_compile_options(${name} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-O1>)
-  target_precompile_headers(${name} REUSE_FROM ovo_test_support)
+  target_precompile_headers(${name} REUSE_FROM ovo_testkit)
   # A library's own definitions may keep the shared header from being reused; that costs time only.
   set_target_properties(${name} PROPERTIES PCH_WARN_INVALID OFF)
   _ovo_register(${name} ${name} ${arg_TIMEOUT})

@@ -1,14 +1,14 @@
 // Grid of colours, eyedropper and colour button, each in a window that takes down what it is told.
-#include "support/AccessibleView.h"
-#include "support/Desktop.h"
-#include "support/GdiCounter.h"
-#include "support/GdiPlusSession.h"
-#include "support/Picture.h"
-#include "support/RecordingParent.h"
-#include "support/Robot.h"
-#include "support/TemporaryProfile.h"
-#include "support/TestApp.h"
-#include "support/WinEvents.h"
+#include <testkit/AccessibleView.h>
+#include <testkit/Desktop.h>
+#include <testkit/GdiCounter.h>
+#include <testkit/GdiPlusSession.h>
+#include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
+#include <testkit/TemporaryProfile.h>
+#include <testkit/TestApp.h>
+#include <testkit/WinEvents.h>
 
 #include <ovoui/colour/ColourButton.h>
 #include <ovoui/colour/ColourDropper.h>
@@ -22,7 +22,7 @@
 #include <functional>
 #include <memory>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,12 +1,12 @@
 // The life of the picker's dialogs.
 #include "PickerScene.h"
-#include "support/RecordingParent.h"
-#include "support/WindowCounter.h"
+#include <testkit/RecordingParent.h>
+#include <testkit/WindowCounter.h>
 
 #include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/frame/ThemeData.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,14 +1,14 @@
 // The picker's dialogs as hosts have them: in a message loop of their own, in a property sheet, by their
 // message maps.
 #include "PickerScene.h"
-#include "support/WindowCounter.h"
+#include <testkit/WindowCounter.h>
 
 #include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/frame/ThemeData.h>
 
 #include <afxdlgs.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,14 +1,14 @@
 // The picker's ring, triangle and swatches under the keyboard, and as accessibility sees them.
 #include "PickerScene.h"
 
-#include "support/AccessibleView.h"
-#include "support/WinEvents.h"
+#include <testkit/AccessibleView.h>
+#include <testkit/WinEvents.h>
 
 #include <ovoui/colour/core/WheelGeometry.h>
 
 #include <cmath>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

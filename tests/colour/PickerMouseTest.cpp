@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

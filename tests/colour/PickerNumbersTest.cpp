@@ -1,7 +1,7 @@
 // The picker's edits and sliders in all modes.
 #include "PickerScene.h"
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

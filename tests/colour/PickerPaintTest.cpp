@@ -1,7 +1,7 @@
 // What the picker shows: patch, wheel, markers and swatches.
 #include "PickerScene.h"
-#include "support/GdiCounter.h"
-#include "support/ImportPatch.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/colour/core/WheelRaster.h>
@@ -12,7 +12,7 @@
 
 #include <random>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,17 +1,17 @@
 // The picker with a palette of the user's own.
-#include "support/Desktop.h"
-#include "support/GdiPlusSession.h"
-#include "support/Picture.h"
-#include "support/Robot.h"
-#include "support/TemporaryProfile.h"
-#include "support/TestApp.h"
+#include <testkit/Desktop.h>
+#include <testkit/GdiPlusSession.h>
+#include <testkit/Picture.h>
+#include <testkit/Robot.h>
+#include <testkit/TemporaryProfile.h>
+#include <testkit/TestApp.h>
 
 #include <ovoui/colour/ColPickerPaletteDlg.h>
 #include <ovoui/colour/ColourText.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,11 +1,11 @@
 // A colour picker in a real dialog, and a host that takes down what it is told.
 #pragma once
 
-#include "support/Desktop.h"
-#include "support/GdiPlusSession.h"
-#include "support/Picture.h"
-#include "support/Robot.h"
-#include "support/TestApp.h"
+#include <testkit/Desktop.h>
+#include <testkit/GdiPlusSession.h>
+#include <testkit/Picture.h>
+#include <testkit/Robot.h>
+#include <testkit/TestApp.h>
 
 #include <ovoui/colour/ColPickerDlg.h>
 
@@ -19,7 +19,7 @@
 #include <string>
 #include <vector>
 
-namespace ovotest
+namespace ovo::testkit
 {
 
 // Numbers that hosts know
@@ -234,4 +234,4 @@ inline void expectColour(const Colour& colour, double r, double g, double b, dou
     EXPECT_NEAR(colour.b(), b, bound);
 }
 
-} // namespace ovotest
+} // namespace ovo::testkit

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

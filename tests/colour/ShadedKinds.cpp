@@ -2,7 +2,7 @@
 
 #include <ostream>
 
-namespace ovotest
+namespace ovo::testkit
 {
 
 namespace
@@ -170,4 +170,4 @@ void createControl(CWnd& wnd, const ControlKind& kind, CWnd& parent, CPoint at)
         kind.fill(wnd);
 }
 
-} // namespace ovotest
+} // namespace ovo::testkit

@@ -7,7 +7,7 @@
 #include <iosfwd>
 #include <vector>
 
-namespace ovotest
+namespace ovo::testkit
 {
 
 /// A kind of control with what it shows. `leaves` is how many of its 90 by 60 pixels it leaves at least to
@@ -29,4 +29,4 @@ const std::vector<ControlKind>& controlKinds();
 /// Makes a shown control of a kind, whose object is `wnd`.
 void createControl(CWnd& wnd, const ControlKind& kind, CWnd& parent, CPoint at);
 
-} // namespace ovotest
+} // namespace ovo::testkit

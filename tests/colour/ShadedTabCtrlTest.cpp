@@ -1,9 +1,9 @@
 // A tab control whose page shows through the controls on it. The paint of the tab control is the test's own:
 // each pixel of the window has a colour that tells where it is.
-#include "support/Desktop.h"
-#include "support/GdiCounter.h"
-#include "support/ImportPatch.h"
-#include "support/Picture.h"
+#include <testkit/Desktop.h>
+#include <testkit/GdiCounter.h>
+#include <testkit/ImportPatch.h>
+#include <testkit/Picture.h>
 
 #include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/frame/ThemeData.h>
@@ -13,7 +13,7 @@
 #include <functional>
 #include <memory>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

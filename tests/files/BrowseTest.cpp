@@ -2,7 +2,7 @@
 #include "HostDialog.h"
 
 #include "mfc/cdlg/FakeShellDialog.h"
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/files/Browse.h>
 
@@ -14,7 +14,7 @@
 
 #include <cwctype>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -6,7 +6,7 @@
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -3,7 +3,7 @@
 #include "resource.h"
 
 #include "mfc/cdlg/FakeShellDialog.h"
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <ovocor/IntCast.h>
 
@@ -13,7 +13,7 @@
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

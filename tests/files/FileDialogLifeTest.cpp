@@ -2,13 +2,13 @@
 #include "HostDialog.h"
 #include "resource.h"
 
-#include "support/GdiCounter.h"
-#include "support/ImportPatch.h"
-#include "support/WindowCounter.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/ImportPatch.h>
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 TEST(FileDialogLife, LeavesNothingBehind)
 {

@@ -2,8 +2,8 @@
 #include "HostDialog.h"
 #include "resource.h"
 
-#include "support/ImportPatch.h"
-#include "support/TestApp.h"
+#include <testkit/ImportPatch.h>
+#include <testkit/TestApp.h>
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 
 #include <cstring>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

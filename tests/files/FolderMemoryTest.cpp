@@ -2,11 +2,11 @@
 #include "HostDialog.h"
 
 #include "mfc/cdlg/FakeShellDialog.h"
-#include "support/TemporaryProfile.h"
+#include <testkit/TemporaryProfile.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

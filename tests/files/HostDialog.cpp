@@ -5,7 +5,7 @@
 
 #include <dlgs.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

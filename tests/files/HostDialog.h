@@ -1,9 +1,9 @@
 // A host's dialog, written once for both kinds, and what the tests need to use it.
 #pragma once
 
-#include "support/Desktop.h"
-#include "support/Robot.h"
-#include "support/TemporaryFiles.h"
+#include <testkit/Desktop.h>
+#include <testkit/Robot.h>
+#include <testkit/TemporaryFiles.h>
 
 #include <ovoui/files/FileDialog.h>
 
@@ -72,7 +72,7 @@ public:
     ~Labels() override;
 };
 
-ovotest::Story whenAsked();
+ovo::testkit::Story whenAsked();
 HWND asked();
 /// A shown control below the dialog that waits, by its text; null when there is none.
 HWND controlWithText(const wchar_t* text);

@@ -1,8 +1,8 @@
 // A control with parts as clients of accessibility see it.
-#include "support/AccessibleView.h"
-#include "support/Desktop.h"
-#include "support/RecordingParent.h"
-#include "support/WinEvents.h"
+#include <testkit/AccessibleView.h>
+#include <testkit/Desktop.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/WinEvents.h>
 
 #include <ovoui/frame/Accessible.h>
 
@@ -11,7 +11,7 @@
 #include <memory>
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using ovoui::frame::Accessible;
 
 namespace

@@ -1,8 +1,10 @@
-#include <support/ImportPatch.h>
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/frame/Geometry.h>
 
 #include <gtest/gtest.h>
+
+using ovo::testkit::ImportPatch;
 
 namespace
 {

@@ -1,13 +1,13 @@
 // What callers know of an object after the host was called.
 #include <ovoui/frame/Lifeline.h>
 
-#include "support/RecordingParent.h"
+#include <testkit/RecordingParent.h>
 
 #include <gtest/gtest.h>
 
 #include <memory>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

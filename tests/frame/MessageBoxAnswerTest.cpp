@@ -1,11 +1,11 @@
 // How the message box is answered: mouse, keys, close box, help.
-#include <support/ImportPatch.h>
+#include <testkit/ImportPatch.h>
 #include "MessageBoxScene.h"
-#include "support/RecordingParent.h"
+#include <testkit/RecordingParent.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

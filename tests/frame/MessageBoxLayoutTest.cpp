@@ -1,5 +1,5 @@
 // How the message box looks: sizes and places of its parts, in a real window.
-#include <support/ImportPatch.h>
+#include <testkit/ImportPatch.h>
 #include "MessageBoxScene.h"
 
 #include <ovocor/ovocor.h>
@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

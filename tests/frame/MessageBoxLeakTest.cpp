@@ -1,11 +1,11 @@
 // What is left behind by boxes that were opened and closed.
 #include "MessageBoxScene.h"
-#include "support/GdiCounter.h"
-#include "support/WindowCounter.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 TEST(MessageBoxLeak, AHundredBoxesLeaveNoWindowsAndNoGdiObjects)
 {

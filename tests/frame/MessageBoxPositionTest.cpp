@@ -1,12 +1,12 @@
 // The position that the message box remembers, and its help key.
 #include "MessageBoxScene.h"
-#include "support/ImportPatch.h"
-#include "support/TemporaryProfile.h"
-#include "support/TestApp.h"
+#include <testkit/ImportPatch.h>
+#include <testkit/TemporaryProfile.h>
+#include <testkit/TestApp.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 int show(const BoxArguments& arguments)
 {

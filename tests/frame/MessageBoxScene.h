@@ -1,8 +1,8 @@
 /// What the message box's tests share: opening a box, and looking at it while it is open.
 #pragma once
 
-#include "support/Desktop.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/Robot.h>
 
 #include <afxwin.h>
 #include <ovoui/frame/MessageBox.h>
@@ -28,7 +28,7 @@ int show(const BoxArguments& arguments);
 HWND openBox();
 
 /// A story that begins when the box is open.
-ovotest::Story whenOpen();
+ovo::testkit::Story whenOpen();
 
 /// Shows a box, hands it to `look`, and closes it with Escape. Gives the box's answer.
 int inspect(const BoxArguments& arguments, const std::function<void(HWND box)>& look);

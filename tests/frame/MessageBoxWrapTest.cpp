@@ -1,12 +1,12 @@
 // Long texts in the message box: wrapping, scrolling, and what programs read out of the text control.
-#include <support/ImportPatch.h>
+#include <testkit/ImportPatch.h>
 #include "MessageBoxScene.h"
 
 #include <gtest/gtest.h>
 
 #include <optional>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,9 +1,9 @@
 // COVOMessageDialog: the host's buttons, details, answers that are kept, the count.
 #include "MessageBoxScene.h"
 
-#include "support/GdiCounter.h"
-#include "support/TemporaryProfile.h"
-#include "support/WindowCounter.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/TemporaryProfile.h>
+#include <testkit/WindowCounter.h>
 
 #include <ovoui/frame/MessageDialog.h>
 #include <ovoui/frame/MessageBoxIds.h>
@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace ovoui::frame;
 
 namespace

@@ -1,7 +1,7 @@
 // The modal dialog base: what happens to the errors of its handlers.
-#include "support/Desktop.h"
-#include "support/Robot.h"
-#include "support/TestApp.h"
+#include <testkit/Desktop.h>
+#include <testkit/Robot.h>
+#include <testkit/TestApp.h>
 #include "ModalDialogTest.h"
 
 #include <ovocor/ovocor.h>
@@ -12,7 +12,7 @@
 #include <functional>
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

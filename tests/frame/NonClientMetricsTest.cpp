@@ -1,4 +1,4 @@
-#include <support/ImportPatch.h>
+#include <testkit/ImportPatch.h>
 
 #include <ovocor/ovocor.h>
 #include <ovoui/frame/NonClientMetrics.h>
@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+
+using ovo::testkit::ImportPatch;
 
 namespace
 {

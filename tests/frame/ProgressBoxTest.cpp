@@ -1,8 +1,8 @@
 // COVOProgressBox: how far work has come, and its being cancelled.
 #include "MessageBoxScene.h"
 
-#include "support/GdiCounter.h"
-#include "support/WindowCounter.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/WindowCounter.h>
 
 #include <ovoui/frame/ProgressBox.h>
 #include <ovoui/frame/MessageBoxIds.h>
@@ -13,7 +13,7 @@
 
 #include <memory>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace ovoui::frame;
 
 namespace

@@ -1,4 +1,4 @@
-#include <support/ImportPatch.h>
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/frame/TabKeys.h>
 
@@ -7,6 +7,8 @@
 
 #include <set>
 #include <vector>
+
+using ovo::testkit::ImportPatch;
 
 namespace
 {

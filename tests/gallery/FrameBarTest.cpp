@@ -3,16 +3,16 @@
 
 #include "Resolution.h"
 #include "resource.h"
-#include "support/GuiThread.h"
-#include "support/Picture.h"
-#include "support/TemporaryProfile.h"
+#include <testkit/GuiThread.h>
+#include <testkit/Picture.h>
+#include <testkit/TemporaryProfile.h>
 
 #include <gtest/gtest.h>
 
 #include <afxcmn.h>
 #include <uxtheme.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

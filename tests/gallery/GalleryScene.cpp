@@ -12,7 +12,7 @@ GalleryScene::GalleryScene()
     m_handle = m_frame->m_hWnd;
     AfxGetApp()->m_pMainWnd = m_frame;
     m_frame->openPage(pageTable().front());
-    ovotest::present(*m_frame);
+    ovo::testkit::present(*m_frame);
 }
 
 GalleryScene::~GalleryScene()

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "GalleryFrame.h"
-#include "support/Desktop.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/Robot.h>
 
 #include <string>
 #include <vector>

@@ -3,13 +3,13 @@
 
 #include "Resolution.h"
 #include "resource.h"
-#include "support/GuiThread.h"
+#include <testkit/GuiThread.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -4,11 +4,11 @@
 #include "pages/MessageBoxPage.h"
 #include "pages/ThemesPage.h"
 #include "resource.h"
-#include "support/TemporaryProfile.h"
+#include <testkit/TemporaryProfile.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

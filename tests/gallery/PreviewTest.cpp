@@ -1,17 +1,17 @@
 // The example of a file dialog that shows the picture in the selected file.
 #include "model/PreviewDialog.h"
 
-#include "support/Desktop.h"
-#include "support/GdiPlusSession.h"
-#include "support/Picture.h"
-#include "support/Robot.h"
-#include "support/TemporaryFiles.h"
+#include <testkit/Desktop.h>
+#include <testkit/GdiPlusSession.h>
+#include <testkit/Picture.h>
+#include <testkit/Robot.h>
+#include <testkit/TemporaryFiles.h>
 
 #include <gtest/gtest.h>
 
 #include <commctrl.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,7 +1,7 @@
 /// What the library hands to image lists, seen on its way.
 #pragma once
 
-#include <support/ImportPatch.h>
+#include <testkit/ImportPatch.h>
 
 #include <windows.h>
 #include <commctrl.h>
@@ -45,6 +45,6 @@ private:
     static AddedImages* s_current;
     std::vector<AddedImage> m_all;
     bool m_refuses = false;
-    ImportPatch m_add;
-    ImportPatch m_addMasked;
+    ovo::testkit::ImportPatch m_add;
+    ovo::testkit::ImportPatch m_addMasked;
 };

@@ -1,11 +1,11 @@
 // A push button with an image, with visual styles and without.
-#include "support/Desktop.h"
-#include "support/GdiCounter.h"
-#include "support/GdiPlusSession.h"
-#include "support/ImportPatch.h"
-#include "support/Picture.h"
-#include "support/RecordingParent.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/GdiCounter.h>
+#include <testkit/GdiPlusSession.h>
+#include <testkit/ImportPatch.h>
+#include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
 
 #include <ovoui/frame/ThemeData.h>
 #include <ovoui/images/AlphaImageButton.h>
@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -3,8 +3,8 @@
 #include "TestStrip.h"
 #include "resource.h"
 
-#include "support/GdiCounter.h"
-#include "support/GdiPlusSession.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/GdiPlusSession.h>
 
 #include <ovoui/images/AlphaImageList.h>
 #include <ovoui/images/core/SharpenFilter.h>
@@ -17,7 +17,7 @@
 #include <memory>
 #include <vector>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -3,15 +3,15 @@
 #include "TestStrip.h"
 #include "resource.h"
 
-#include "support/GdiCounter.h"
-#include "support/GdiPlusSession.h"
-#include "support/ImportPatch.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/GdiPlusSession.h>
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/images/AlphaImageList.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,13 +1,13 @@
 // Completion while typing.
 #include "ComboScene.h"
 
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <gtest/gtest.h>
 
 #include <imm.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 TEST(ComboTyping, CompletesAndSelectsTheTail)
 {

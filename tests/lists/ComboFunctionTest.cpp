@@ -1,13 +1,13 @@
 // selectString, SelectListboxFromText and resizeCombo.
 #include "ComboScene.h"
 
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <gtest/gtest.h>
 
 #include <cwctype>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 TEST(SelectString, SelectsTheItemThatIsTheText)
 {

@@ -1,12 +1,12 @@
 // The texts that were used last.
 #include "ComboScene.h"
 
-#include "support/Picture.h"
-#include "support/TemporaryProfile.h"
+#include <testkit/Picture.h>
+#include <testkit/TemporaryProfile.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

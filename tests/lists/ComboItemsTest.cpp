@@ -2,11 +2,11 @@
 #include "ComboScene.h"
 #include "ListScene.h"
 
-#include "support/Picture.h"
+#include <testkit/Picture.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

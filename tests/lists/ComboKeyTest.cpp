@@ -6,7 +6,7 @@
 #include <atomic>
 #include <thread>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

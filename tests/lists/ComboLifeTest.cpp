@@ -1,14 +1,14 @@
 // How a combo box ends: by itself, and in the middle of its own notifications.
 #include "ComboScene.h"
 
-#include "support/GdiCounter.h"
-#include "support/WindowCounter.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -8,7 +8,7 @@
 #include <cwctype>
 #include <random>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -3,7 +3,7 @@
 #include <map>
 #include <utility>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

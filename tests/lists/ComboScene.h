@@ -1,9 +1,9 @@
 /// What the combo box's tests share: a combo box in a parent that hears its notifications as a host does.
 #pragma once
 
-#include "support/Desktop.h"
-#include "support/GuiThread.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/GuiThread.h>
+#include <testkit/Robot.h>
 
 #include <ovoui/lists/ComboBox.h>
 
@@ -54,5 +54,5 @@ public:
     ComboParent parent;
     COVOComboBox combo;
     CButton button;
-    ovotest::Robot robot;
+    ovo::testkit::Robot robot;
 };

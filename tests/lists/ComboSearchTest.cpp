@@ -1,12 +1,12 @@
 // Completion by any part of the text.
 #include "ComboScene.h"
 
-#include "support/Picture.h"
-#include "support/WindowCounter.h"
+#include <testkit/Picture.h>
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,7 +1,7 @@
 // Finding rows by typing.
 #include "ListScene.h"
 
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/lists/ListFinder.h>
 
@@ -10,7 +10,7 @@
 #include <functional>
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

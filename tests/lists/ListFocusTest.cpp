@@ -2,11 +2,11 @@
 // columns.
 #include "ListScene.h"
 
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,7 +1,7 @@
 // What hosts may do while the helpers of lists ask them for texts or tell them of changes.
 #include "ListScene.h"
 
-#include "support/TemporaryProfile.h"
+#include <testkit/TemporaryProfile.h>
 
 #include <ovoui/lists/ListCellTips.h>
 #include <ovoui/lists/ListCopier.h>
@@ -16,7 +16,7 @@
 #include <optional>
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

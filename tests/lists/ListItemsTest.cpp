@@ -1,12 +1,12 @@
 // Columns, rows and the selection, as a host uses them.
 #include "ListScene.h"
 
-#include "support/GdiCounter.h"
-#include "support/WindowCounter.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

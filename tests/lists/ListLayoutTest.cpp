@@ -1,15 +1,15 @@
 // The layout of columns in the profile.
 #include "ListScene.h"
 
-#include "support/ImportPatch.h"
-#include "support/TemporaryProfile.h"
+#include <testkit/ImportPatch.h>
+#include <testkit/TemporaryProfile.h>
 
 #include <ovoui/lists/ListLayout.h>
 #include <ovoui/lists/ListSorter.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -2,10 +2,10 @@
 /// with the system's own functions, for comparison.
 #pragma once
 
-#include "support/Desktop.h"
-#include "support/Picture.h"
-#include "support/RecordingParent.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
 
 #include <ovoui/lists/ListCtrlEx.h>
 
@@ -76,11 +76,11 @@ public:
     /// Where a cell lies: behind the label and the cells before it.
     CRect cell(int item, int column);
 
-    ovotest::RecordingParent parent;
+    ovo::testkit::RecordingParent parent;
     List list;
     CButton button; ///< something else to give the focus to
 
 private:
-    ovotest::Picture drawnByDefinition(int item, const CRect& itemRect, const Knowledge& known);
+    ovo::testkit::Picture drawnByDefinition(int item, const CRect& itemRect, const Knowledge& known);
     DWORD m_exStyle;
 };

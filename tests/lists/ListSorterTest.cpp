@@ -1,7 +1,7 @@
 // Sorting by headings: order, arrows, and what goes with the rows.
 #include "ListScene.h"
 
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/lists/ListSorter.h>
 
@@ -10,7 +10,7 @@
 #include <random>
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

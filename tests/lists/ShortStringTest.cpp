@@ -1,13 +1,13 @@
 // MakeShortString against its definition, with the system's fonts.
 #include "ListScene.h"
 
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <gtest/gtest.h>
 
 #include <random>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

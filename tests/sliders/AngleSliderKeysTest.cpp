@@ -1,10 +1,10 @@
 // The angle sliders by keyboard and wheel, snapping, typing, and what accessibility sees.
-#include "support/AccessibleView.h"
-#include "support/Desktop.h"
-#include "support/Picture.h"
-#include "support/RecordingParent.h"
-#include "support/Robot.h"
-#include "support/WinEvents.h"
+#include <testkit/AccessibleView.h>
+#include <testkit/Desktop.h>
+#include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
+#include <testkit/WinEvents.h>
 
 #include <ovoui/sliders/DialSlider.h>
 #include <ovoui/sliders/RoundSlider.h>
@@ -14,7 +14,7 @@
 
 #include <memory>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

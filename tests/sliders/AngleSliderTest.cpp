@@ -1,9 +1,9 @@
 // The round and the wheel slider with real input: what the parent is told, and what is drawn.
-#include "support/Desktop.h"
-#include "support/GdiCounter.h"
-#include "support/Picture.h"
-#include "support/RecordingParent.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/GdiCounter.h>
+#include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
 
 #include <ovoui/sliders/RoundSlider.h>
 #include <ovoui/sliders/WheelSlider.h>
@@ -14,7 +14,7 @@
 #include <functional>
 #include <memory>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

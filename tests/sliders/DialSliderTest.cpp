@@ -1,9 +1,9 @@
 // The dial with real input, and the exchange of data with dialogs.
-#include "support/Desktop.h"
-#include "support/Picture.h"
-#include "support/RecordingParent.h"
-#include "support/Robot.h"
-#include "support/TestApp.h"
+#include <testkit/Desktop.h>
+#include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
+#include <testkit/TestApp.h>
 
 #include <ovoui/sliders/DialSlider.h>
 #include <ovoui/sliders/SliderData.h>
@@ -13,7 +13,7 @@
 
 #include <memory>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

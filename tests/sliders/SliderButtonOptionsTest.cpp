@@ -2,9 +2,9 @@
 // and what accessibility sees.
 #include "SliderButtonScene.h"
 
-#include "support/AccessibleView.h"
-#include "support/TestApp.h"
-#include "support/WinEvents.h"
+#include <testkit/AccessibleView.h>
+#include <testkit/TestApp.h>
+#include <testkit/WinEvents.h>
 
 #include <ovoui/frame/ModalDialog.h>
 #include <ovoui/sliders/UnitNumbers.h>
@@ -12,7 +12,7 @@
 #include <cmath>
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

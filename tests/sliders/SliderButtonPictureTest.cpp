@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace ovotest
+namespace ovo::testkit
 {
 
 void HostUtils::fromDisplay(std::wstring& out, const std::wstring& displayed)
@@ -85,4 +85,4 @@ std::vector<UINT> SliderButtonScene::told()
     return messages;
 }
 
-} // namespace ovotest
+} // namespace ovo::testkit

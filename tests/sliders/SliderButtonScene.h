@@ -1,10 +1,10 @@
 // A slider button beside its buddy, another edit control, and a host that takes down what it is asked.
 #pragma once
 
-#include "support/Desktop.h"
-#include "support/Picture.h"
-#include "support/RecordingParent.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
 
 #include <ovoui/sliders/SliderButton.h>
 
@@ -15,7 +15,7 @@
 #include <string>
 #include <vector>
 
-namespace ovotest
+namespace ovo::testkit
 {
 
 constexpr UINT kBuddyId = 7; // whose string is a tip
@@ -68,4 +68,4 @@ protected:
     Robot user;
 };
 
-} // namespace ovotest
+} // namespace ovo::testkit

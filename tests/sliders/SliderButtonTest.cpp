@@ -2,9 +2,9 @@
 // and what the host may do meanwhile.
 #include "SliderButtonScene.h"
 
-#include "support/GdiCounter.h"
-#include "support/GuiThread.h"
-#include "support/WindowCounter.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/GuiThread.h>
+#include <testkit/WindowCounter.h>
 
 #include <ovoui/frame/Geometry.h>
 
@@ -12,7 +12,7 @@
 #include <stdexcept>
 #include <thread>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

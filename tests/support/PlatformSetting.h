@@ -3,7 +3,7 @@
 
 #include <ovoui/frame/Platform.h>
 
-namespace ovotest
+namespace ovo::testkit
 {
 
 /// While it lives, the switches may be set; then they are as before.
@@ -21,4 +21,4 @@ private:
     const ovoui::Platform m_before = ovoui::platform();
 };
 
-} // namespace ovotest
+} // namespace ovo::testkit

@@ -1,5 +1,5 @@
 // The module list as data, and what is known about the machine.
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/sysinfo/LoadedModules.h>
 #include <ovoui/sysinfo/MachineInfo.h>
@@ -12,6 +12,8 @@
 #include <tlhelp32.h>
 
 #include <algorithm>
+
+using ovo::testkit::ImportPatch;
 
 namespace
 {

@@ -1,8 +1,8 @@
 // The dialog with the list of modules: filter, order, marks, copying.
-#include "support/Desktop.h"
-#include "support/ImportPatch.h"
-#include "support/Robot.h"
-#include "support/TestApp.h"
+#include <testkit/Desktop.h>
+#include <testkit/ImportPatch.h>
+#include <testkit/Robot.h>
+#include <testkit/TestApp.h>
 
 #include <ovoui/sysinfo/LoadedModules.h>
 #include <ovoui/sysinfo/ModuleListDlg.h>
@@ -17,7 +17,7 @@
 
 #include <algorithm>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,10 +1,10 @@
 // Modules that were built with known contents, compared with their lines in the dialog.
 #include "ShownModules.h"
-#include "support/TemporaryFiles.h"
+#include <testkit/TemporaryFiles.h>
 
 #include <fstream>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-namespace ovotest
+namespace ovo::testkit
 {
 
 constexpr UINT kCopy = 1001;
@@ -128,4 +128,4 @@ inline std::wstring listSeparator()
     return text;
 }
 
-} // namespace ovotest
+} // namespace ovo::testkit

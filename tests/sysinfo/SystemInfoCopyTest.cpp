@@ -1,16 +1,16 @@
 // What the system information dialog leaves on the clipboard, and how long it stays there.
 #include "ShownModules.h"
-#include "support/Desktop.h"
-#include "support/ImportPatch.h"
-#include "support/Robot.h"
-#include "support/TestApp.h"
+#include <testkit/Desktop.h>
+#include <testkit/ImportPatch.h>
+#include <testkit/Robot.h>
+#include <testkit/TestApp.h>
 
 #include <afxole.h>
 
 #include <future>
 #include <thread>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

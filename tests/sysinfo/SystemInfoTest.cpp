@@ -1,8 +1,8 @@
 // The system information dialog over modules made for it.
 #include "ShownModules.h"
-#include "support/Desktop.h"
-#include "support/ImportPatch.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/ImportPatch.h>
+#include <testkit/Robot.h>
 
 #include <ovoui/sysinfo/LoadedModules.h>
 
@@ -16,7 +16,7 @@
 #include <functional>
 #include <memory>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

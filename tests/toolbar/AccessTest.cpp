@@ -1,12 +1,12 @@
 // Bars and flyouts as accessibility sees them.
 #include "ToolBarScene.h"
 
-#include "support/AccessibleView.h"
-#include "support/WinEvents.h"
+#include <testkit/AccessibleView.h>
+#include <testkit/WinEvents.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

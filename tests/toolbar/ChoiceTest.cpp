@@ -1,11 +1,11 @@
 // What is chosen when the mouse button is released: with the real mouse, and in single messages.
 #include "ToolBarScene.h"
 
-#include "support/RecordingParent.h"
+#include <testkit/RecordingParent.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

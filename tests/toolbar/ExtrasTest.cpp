@@ -1,10 +1,10 @@
 // What hosts may ask for besides: marks, the hold delay, remembered choices.
 #include "ToolBarScene.h"
 
-#include "support/GdiPlusSession.h"
-#include "support/ImportPatch.h"
-#include "support/Picture.h"
-#include "support/TemporaryProfile.h"
+#include <testkit/GdiPlusSession.h>
+#include <testkit/ImportPatch.h>
+#include <testkit/Picture.h>
+#include <testkit/TemporaryProfile.h>
 
 #include <ovouires/resource.h>
 
@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

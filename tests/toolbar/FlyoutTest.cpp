@@ -1,7 +1,7 @@
 // The flyout's window: where it goes, how large it is, how it looks, what is in it.
 #include "ToolBarScene.h"
 
-#include "support/Picture.h"
+#include <testkit/Picture.h>
 
 #include <ovoui/frame/Geometry.h>
 
@@ -11,7 +11,7 @@
 
 #include <utility>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

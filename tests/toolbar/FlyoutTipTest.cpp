@@ -1,8 +1,8 @@
 // What tells about the hot entry of a flyout: its prompt in the message line, its tip.
 #include "ToolBarScene.h"
 
-#include "support/ImportPatch.h"
-#include "support/Picture.h"
+#include <testkit/ImportPatch.h>
+#include <testkit/Picture.h>
 
 #include <ovoui/frame/Geometry.h>
 
@@ -10,7 +10,7 @@
 
 #include <map>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

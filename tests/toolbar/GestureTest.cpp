@@ -1,12 +1,12 @@
 // Press, hold, slide, release: with the real mouse.
 #include "ToolBarScene.h"
 
-#include "support/ImportPatch.h"
-#include "support/RecordingParent.h"
+#include <testkit/ImportPatch.h>
+#include <testkit/RecordingParent.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,11 +1,11 @@
 // Embedded controls: their keys before the accelerators, and what the callback is told.
 #include "ToolBarScene.h"
 
-#include "support/RecordingParent.h"
+#include <testkit/RecordingParent.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,11 +1,11 @@
 // The keyboard in the bar itself: walking, opening flyouts, choosing, and where the focus goes.
 #include "ToolBarScene.h"
 
-#include "support/Picture.h"
+#include <testkit/Picture.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,7 +1,7 @@
 // The tip of the button that the keyboard is at.
 #include "ToolBarScene.h"
 
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/frame/Geometry.h>
 
@@ -10,7 +10,7 @@
 #include <map>
 #include <utility>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

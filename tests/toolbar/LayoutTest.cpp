@@ -1,12 +1,12 @@
 // Rows, sizes, and the places of embedded controls.
 #include "ToolBarScene.h"
 
-#include "support/Picture.h"
-#include "support/RecordingParent.h"
+#include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

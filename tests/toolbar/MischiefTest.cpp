@@ -1,12 +1,12 @@
 // Hosts that change or destroy things while the toolbar calls them.
 #include "ToolBarScene.h"
 
-#include "support/Desktop.h"
-#include "support/RecordingParent.h"
+#include <testkit/Desktop.h>
+#include <testkit/RecordingParent.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

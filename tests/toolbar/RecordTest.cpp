@@ -5,7 +5,7 @@
 
 #include <type_traits>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

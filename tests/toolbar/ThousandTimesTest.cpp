@@ -1,12 +1,12 @@
 // Opening and choosing a thousand times: nothing is left behind.
 #include "ToolBarScene.h"
 
-#include "support/GdiCounter.h"
-#include "support/WindowCounter.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

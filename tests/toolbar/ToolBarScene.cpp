@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string_view>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 // The bar
 

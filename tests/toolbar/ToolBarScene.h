@@ -4,8 +4,8 @@
 
 #include "resource.h"
 
-#include "support/Desktop.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/Robot.h>
 
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/VantorToolBar.h>
@@ -108,10 +108,10 @@ public:
     void deleteBar() { m_bar.reset(); }
 
     // Places, looked up when they are needed
-    ovotest::Spot button(int index) const;
-    ovotest::Spot buttonOf(const TestBar& bar, int index) const;
-    ovotest::Spot entry(int index) const; ///< of the open flyout, separators counted
-    ovotest::Spot outside() const;        ///< in the frame, far from bar and flyout
+    ovo::testkit::Spot button(int index) const;
+    ovo::testkit::Spot buttonOf(const TestBar& bar, int index) const;
+    ovo::testkit::Spot entry(int index) const; ///< of the open flyout, separators counted
+    ovo::testkit::Spot outside() const;        ///< in the frame, far from bar and flyout
 
     // The flyout
     static CFlyoutToolbar* flyout() { return TestBar::ms_popupBar.get(); }
@@ -127,7 +127,7 @@ public:
     std::vector<UINT> commands() const; ///< that were issued
     std::wstring prompt() const;        ///< in the message line
 
-    ovotest::Robot user;
+    ovo::testkit::Robot user;
 
 private:
     BarFrame* m_frame; // deletes itself with its window

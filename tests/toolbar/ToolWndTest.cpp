@@ -1,11 +1,11 @@
 // The tool window: making, closing, scrolling, help, docking.
 #include "resource.h"
 
-#include "support/Desktop.h"
-#include "support/GuiThread.h"
-#include "support/Robot.h"
-#include "support/TemporaryProfile.h"
-#include "support/TestApp.h"
+#include <testkit/Desktop.h>
+#include <testkit/GuiThread.h>
+#include <testkit/Robot.h>
+#include <testkit/TemporaryProfile.h>
+#include <testkit/TestApp.h>
 
 #include <ovoui/toolbar/VantorToolWnd.h>
 
@@ -14,7 +14,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

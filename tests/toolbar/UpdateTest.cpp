@@ -1,14 +1,14 @@
 // Idle updates: who is asked, and the rest after the host's command interface was restarted.
 #include "ToolBarScene.h"
 
-#include "support/ImportPatch.h"
-#include "support/RecordingParent.h"
+#include <testkit/ImportPatch.h>
+#include <testkit/RecordingParent.h>
 
 #include <afxpriv.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

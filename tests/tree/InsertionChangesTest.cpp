@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 TEST(TreeChanges, ATextThatDeletesTheChildComparedWithDoesNoHarm)
 {

@@ -6,7 +6,7 @@
 
 #include <tuple>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

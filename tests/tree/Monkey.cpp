@@ -16,7 +16,7 @@ Monkey::Monkey(unsigned seed, int every)
     : m_random(seed)
     , m_every(every)
     , m_halves(seed % 2 != 0)
-    , m_parent(std::make_unique<ovotest::RecordingParent>(CSize(420, 380), L"Monkey"))
+    , m_parent(std::make_unique<ovo::testkit::RecordingParent>(CSize(420, 380), L"Monkey"))
     , m_tree(std::make_unique<MonkeyTree>(*this))
 {
     m_tree->Create(WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_LINESATROOT | TVS_EDITLABELS |

@@ -172,7 +172,7 @@ private:
     bool m_over = false;
     BYTE m_keys[256]{};
 
-    std::unique_ptr<ovotest::RecordingParent> m_parent;
+    std::unique_ptr<ovo::testkit::RecordingParent> m_parent;
     std::unique_ptr<MonkeyTree> m_tree;
     std::unique_ptr<StillWindows> m_still;
     EVSubscription m_gestures;

@@ -3,7 +3,7 @@
 // OVO_MONKEY_EVERY=1 all is looked at after every step, which finds the step that a failure comes from.
 #include "Monkey.h"
 
-#include "support/Watchdog.h"
+#include <testkit/Watchdog.h>
 
 #include <gtest/gtest.h>
 
@@ -71,7 +71,7 @@ TEST_P(TreeMonkey, FindsTheTreeAsTheModelHasItWhateverNodesDo)
     Monkey monkey(seed, static_cast<int>(fromEnvironment("OVO_MONKEY_EVERY", 16)));
     const Watching watching(monkey);
     for (int done = 0; done < steps && monkey.failure().empty(); done += 1000) {
-        ovotest::Watchdog::progress();
+        ovo::testkit::Watchdog::progress();
         monkey.run(std::min(steps - done, 1000));
     }
     monkey.finish();

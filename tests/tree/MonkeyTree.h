@@ -1,7 +1,7 @@
 /// The monkey's tree, and what makes its windows cheap.
 #pragma once
 
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/tree/MultiTreeCtrl.h>
 
@@ -44,5 +44,5 @@ public:
 private:
     static BOOL WINAPI invalidate(HWND, const RECT*, BOOL) { return TRUE; }
 
-    ImportPatch m_invalidate;
+    ovo::testkit::ImportPatch m_invalidate;
 };

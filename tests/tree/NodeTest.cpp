@@ -1,13 +1,13 @@
 // A node's life and its defaults, finding it, and bringing its item up to date.
 #include "TreeScene.h"
 
-#include "support/Picture.h"
+#include <testkit/Picture.h>
 
 #include <ovoui/tree/DragCursorSet.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

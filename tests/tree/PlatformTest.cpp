@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

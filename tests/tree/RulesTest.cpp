@@ -7,7 +7,7 @@
 
 #include <utility>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 TEST(TreeRules, ADragOfASelectedItemKeepsTheAnchor)
 {

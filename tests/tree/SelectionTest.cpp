@@ -1,7 +1,7 @@
 // The selection as the host changes and hears of it.
 #include "TreeScene.h"
 
-#include "support/Picture.h"
+#include <testkit/Picture.h>
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 
 #include <set>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

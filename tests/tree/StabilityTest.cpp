@@ -1,8 +1,8 @@
 // What must not leak, and random use compared with the rules of the selection.
 #include "TreeScene.h"
 
-#include "support/GdiCounter.h"
-#include "support/WindowCounter.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@
 #include <random>
 #include <set>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 // Leaks
 

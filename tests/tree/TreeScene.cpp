@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <ostream>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -2,9 +2,9 @@
 /// look at what a user or a host would see.
 #pragma once
 
-#include "support/Desktop.h"
-#include "support/RecordingParent.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
 
 #include <ovoui/tree/MultiTreeCtrl.h>
 
@@ -183,10 +183,10 @@ public:
     void open(const std::string& name);
 
     // Places, looked up when they are needed
-    ovotest::Spot label(const std::string& name);
-    ovotest::Spot button(const std::string& name);
-    ovotest::Spot beside(const std::string& name); ///< right of the label
-    ovotest::Spot below();                         ///< on the empty space below all items
+    ovo::testkit::Spot label(const std::string& name);
+    ovo::testkit::Spot button(const std::string& name);
+    ovo::testkit::Spot beside(const std::string& name); ///< right of the label
+    ovo::testkit::Spot below();                         ///< on the empty space below all items
     CPoint labelPoint(const std::string& name);    ///< client coordinates
 
     // What is there
@@ -200,19 +200,19 @@ public:
     std::vector<Change> changes(); ///< TVN_SELCHANGED
     void forget();                 ///< all that was recorded
 
-    ovotest::RecordingParent& parent() { return *m_parent; }
+    ovo::testkit::RecordingParent& parent() { return *m_parent; }
 
     Journal journal;
-    ovotest::Robot user;
+    ovo::testkit::Robot user;
 
 private:
-    std::unique_ptr<ovotest::RecordingParent> m_parent;
+    std::unique_ptr<ovo::testkit::RecordingParent> m_parent;
 
 public:
     TestTree tree;
 
 protected:
-    Scene(std::unique_ptr<ovotest::RecordingParent> parent, const std::vector<std::string>& names,
+    Scene(std::unique_ptr<ovo::testkit::RecordingParent> parent, const std::vector<std::string>& names,
           DWORD style);
 
 private:
@@ -220,7 +220,7 @@ private:
 };
 
 /// A parent window that takes drops at the top level.
-class RootParent : public ovotest::RecordingParent, public MultiTreeCtrl::InsertionPoint
+class RootParent : public ovo::testkit::RecordingParent, public MultiTreeCtrl::InsertionPoint
 {
 public:
     using RecordingParent::RecordingParent;

@@ -8,7 +8,7 @@
 #include <functional>
 #include <memory>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,5 +1,5 @@
 // Which addresses reach the shell, and how.
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/update/BrowseUrl.h>
 
@@ -15,6 +15,8 @@
 #include <wininet.h>
 
 #include <vector>
+
+using ovo::testkit::ImportPatch;
 
 namespace
 {

@@ -1,9 +1,9 @@
 // The check that the user did not ask for.
 #include "ovocor/LoopbackServer.h"
-#include "support/Desktop.h"
-#include "support/ImportPatch.h"
-#include "support/Robot.h"
-#include "support/TemporaryProfile.h"
+#include <testkit/Desktop.h>
+#include <testkit/ImportPatch.h>
+#include <testkit/Robot.h>
+#include <testkit/TemporaryProfile.h>
 
 #include <ovoui/update/PoliteCheck.h>
 
@@ -15,7 +15,7 @@
 
 #include <ctime>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,7 +1,7 @@
 // Signed lists: what is accepted, and what is refused with which message. The library's download is led to a
 // server without https.
 #include "ovocor/LoopbackServer.h"
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/update/UpdateTrust.h>
 
@@ -17,6 +17,8 @@
 #include <wininet.h>
 
 #include <stdexcept>
+
+using ovo::testkit::ImportPatch;
 
 namespace
 {

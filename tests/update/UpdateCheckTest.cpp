@@ -1,9 +1,9 @@
 // The update check against a server on the loopback address: which row counts, what the user sees, what is
 // left.
 #include "ovocor/LoopbackServer.h"
-#include "support/Desktop.h"
-#include "support/ImportPatch.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/ImportPatch.h>
+#include <testkit/Robot.h>
 
 #include <ovoui/update/UpdateCheck.h>
 
@@ -25,7 +25,7 @@
 #include <utility>
 #include <vector>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,6 +1,6 @@
 // The check on a thread of the host's: progress, cancelling, the answer posted to a window.
 #include "ovocor/LoopbackServer.h"
-#include "support/Robot.h"
+#include <testkit/Robot.h>
 
 #include <ovoui/update/UpdateJob.h>
 
@@ -14,7 +14,7 @@
 #include <utility>
 #include <vector>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

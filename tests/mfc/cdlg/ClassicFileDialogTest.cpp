@@ -3,11 +3,11 @@
 #include "FileDialogScene.h"
 #include "resource.h"
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

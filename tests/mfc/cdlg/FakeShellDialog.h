@@ -1,7 +1,7 @@
 // A file dialog of the newer kind whose answers the test gives: for what no real one does on request.
 #pragma once
 
-#include "support/ImportPatch.h"
+#include <testkit/ImportPatch.h>
 
 #include <afxdlgs.h>
 
@@ -37,5 +37,5 @@ private:
     static HRESULT WINAPI create(REFCLSID kind, LPUNKNOWN outer, DWORD context, REFIID iid, LPVOID* object);
 
     Dialog* m_dialog;
-    ImportPatch m_patch;
+    ovo::testkit::ImportPatch m_patch;
 };

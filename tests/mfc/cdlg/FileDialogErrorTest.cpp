@@ -3,13 +3,13 @@
 #include "FileDialogScene.h"
 #include "resource.h"
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

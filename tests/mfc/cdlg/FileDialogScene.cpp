@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 std::string nameOf(Kind kind)
 {

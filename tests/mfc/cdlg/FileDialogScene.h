@@ -2,9 +2,9 @@
 // and a user's hands.
 #pragma once
 
-#include "support/Desktop.h"
-#include "support/Robot.h"
-#include "support/TemporaryFiles.h"
+#include <testkit/Desktop.h>
+#include <testkit/Robot.h>
+#include <testkit/TemporaryFiles.h>
 
 #include <afxdlgs.h>
 
@@ -66,7 +66,7 @@ private:
 };
 
 /// A story that begins when the file dialog waits for the user.
-ovotest::Story whenAsked();
+ovo::testkit::Story whenAsked();
 
 /// The dialog that waits for the user.
 HWND asked();

@@ -1,12 +1,12 @@
 // The file dialog in both kinds: names, several files, questions, refusals.
 #include "FileDialogScene.h"
 
-#include "support/GdiCounter.h"
-#include "support/WindowCounter.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,11 +1,11 @@
 // Assertions, traces, and whether memory can be read.
-#include "support/DebugOutput.h"
+#include <testkit/DebugOutput.h>
 
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
-using ovotest::DebugOutput;
+using ovo::testkit::DebugOutput;
 
 namespace
 {

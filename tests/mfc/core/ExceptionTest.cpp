@@ -1,12 +1,12 @@
 // MFC's own exceptions.
 #include "Texts.h"
 #include "resource.h"
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <afxwin.h>
 #include <afxole.h>
 
-using ovotest::TestApp;
+using ovo::testkit::TestApp;
 
 namespace
 {

@@ -1,14 +1,14 @@
 // AfxMessageBox.
 #include "Texts.h"
 #include "resource.h"
-#include "support/Desktop.h"
-#include "support/RecordingParent.h"
-#include "support/Robot.h"
-#include "support/TestApp.h"
+#include <testkit/Desktop.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
+#include <testkit/TestApp.h>
 
 #include <afxwin.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,16 +1,16 @@
 // CWinThread: the message loop, who is asked before a message is dispatched, idle work, and exceptions.
 #include "Texts.h"
 #include "resource.h"
-#include "support/GuiThread.h"
-#include "support/RecordingParent.h"
-#include "support/TestApp.h"
+#include <testkit/GuiThread.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/TestApp.h>
 
 #include <afxwin.h>
 #include <afxpriv.h>
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,6 +1,6 @@
 // What the framework knows about the running program.
 #include "Texts.h"
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <afxwin.h>
 
@@ -10,7 +10,7 @@ TEST(ModuleState, TheProgramIsTheInstance)
 {
     EXPECT_EQ(AfxGetInstanceHandle(), ::GetModuleHandleW(nullptr));
     EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandleW(nullptr));
-    EXPECT_EQ(AfxGetApp(), &ovotest::TestApp::instance());
+    EXPECT_EQ(AfxGetApp(), &ovo::testkit::TestApp::instance());
     EXPECT_EQ(AfxGetApp()->m_hInstance, ::GetModuleHandleW(nullptr));
     EXPECT_EQ(AfxGetThread(), AfxGetApp());
     EXPECT_EQ(AfxGetThread()->m_nThreadID, ::GetCurrentThreadId());
@@ -44,7 +44,7 @@ TEST(ModuleState, ManagingItHoldsForAScope)
         AFX_MANAGE_STATE(AfxGetStaticModuleState())
         {
             AFX_MANAGE_STATE(AfxGetAppModuleState());
-            EXPECT_EQ(AfxGetApp(), &ovotest::TestApp::instance());
+            EXPECT_EQ(AfxGetApp(), &ovo::testkit::TestApp::instance());
         }
         if (fails)
             throw std::runtime_error("from a method");

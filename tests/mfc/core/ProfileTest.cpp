@@ -1,13 +1,13 @@
 // The profile, in the registry and in an INI file.
 #include "Texts.h"
 #include "resource.h"
-#include "support/TemporaryProfile.h"
+#include <testkit/TemporaryProfile.h>
 
 #include <afxwin.h>
 
 #include <cstring>
 
-using Kind = ovotest::TemporaryProfile::Kind;
+using Kind = ovo::testkit::TemporaryProfile::Kind;
 
 namespace
 {
@@ -15,7 +15,7 @@ namespace
 class Profile : public ::testing::TestWithParam<Kind>
 {
 protected:
-    ovotest::TemporaryProfile profile{GetParam()};
+    ovo::testkit::TemporaryProfile profile{GetParam()};
     CWinApp& app = *AfxGetApp();
 };
 
@@ -144,7 +144,7 @@ TEST_P(Profile, ANullEntryDeletesTheSection)
 
 TEST(RegistryProfile, LiesUnderTheCompanyAndTheProgram)
 {
-    const ovotest::TemporaryProfile profile(Kind::Registry);
+    const ovo::testkit::TemporaryProfile profile(Kind::Registry);
     CWinApp& app = *AfxGetApp();
     app.WriteProfileString(L"settings", L"text", L"abc");
     app.WriteProfileInt(L"settings", L"number", 5);
@@ -165,7 +165,7 @@ TEST(RegistryProfile, LiesUnderTheCompanyAndTheProgram)
 
 TEST(RegistryProfile, AValueOfAnotherTypeIsTheDefault)
 {
-    const ovotest::TemporaryProfile profile(Kind::Registry);
+    const ovo::testkit::TemporaryProfile profile(Kind::Registry);
     CWinApp& app = *AfxGetApp();
     app.WriteProfileString(L"settings", L"text", L"12");
     app.WriteProfileInt(L"settings", L"number", 5);
@@ -175,7 +175,7 @@ TEST(RegistryProfile, AValueOfAnotherTypeIsTheDefault)
 
 TEST(RegistryProfile, ATextWithoutItsEndIsReadWhole)
 {
-    const ovotest::TemporaryProfile profile(Kind::Registry);
+    const ovo::testkit::TemporaryProfile profile(Kind::Registry);
     CWinApp& app = *AfxGetApp();
     const HKEY section = app.GetSectionKey(L"settings");
     ASSERT_NE(section, nullptr);
@@ -186,7 +186,7 @@ TEST(RegistryProfile, ATextWithoutItsEndIsReadWhole)
 
 TEST(RegistryProfile, KeysArePassedToTheCaller)
 {
-    const ovotest::TemporaryProfile profile(Kind::Registry);
+    const ovo::testkit::TemporaryProfile profile(Kind::Registry);
     const HKEY program = AfxGetApp()->GetAppRegistryKey();
     ASSERT_NE(program, nullptr);
     EXPECT_EQ(::RegSetValueExW(program, L"direct", 0, REG_SZ, reinterpret_cast<const BYTE*>(L"x"), 4),
@@ -197,7 +197,7 @@ TEST(RegistryProfile, KeysArePassedToTheCaller)
 
 TEST(RegistryProfile, TheCompanyMayBeAStringResource)
 {
-    const ovotest::TemporaryProfile profile(Kind::Registry);
+    const ovo::testkit::TemporaryProfile profile(Kind::Registry);
     CWinApp& app = *AfxGetApp();
     const CString name = app.m_pszProfileName;
     app.SetRegistryKey(IDS_COMPANY);
@@ -209,7 +209,7 @@ TEST(RegistryProfile, TheCompanyMayBeAStringResource)
 
 TEST(IniProfile, LiesInTheFileThatIsNamed)
 {
-    const ovotest::TemporaryProfile profile(Kind::IniFile);
+    const ovo::testkit::TemporaryProfile profile(Kind::IniFile);
     CWinApp& app = *AfxGetApp();
     app.WriteProfileString(L"settings", L"text", L"abc");
     app.WriteProfileInt(L"settings", L"number", -5);

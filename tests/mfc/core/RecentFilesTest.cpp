@@ -1,13 +1,13 @@
 // The list of recent files: its order, its menu, its profile.
-#include "support/TemporaryProfile.h"
-#include "support/TestApp.h"
+#include <testkit/TemporaryProfile.h>
+#include <testkit/TestApp.h>
 
 #include <afxadv.h>
 #include <afxwin.h>
 
 #include <gmock/gmock.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 

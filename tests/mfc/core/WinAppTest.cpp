@@ -1,11 +1,11 @@
 // CWinApp: its resources, the hourglass, help, and the end.
 #include "Texts.h"
-#include "support/RecordingParent.h"
-#include "support/TestApp.h"
+#include <testkit/RecordingParent.h>
+#include <testkit/TestApp.h>
 
 #include <afxwin.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

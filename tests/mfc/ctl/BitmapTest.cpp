@@ -3,7 +3,7 @@
 
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/Picture.h>
+#include <testkit/Picture.h>
 
 #include <commctrl.h>
 

@@ -2,7 +2,7 @@
 #include "FakeDataObject.h"
 
 #include <gtest/gtest.h>
-#include <support/RecordingParent.h>
+#include <testkit/RecordingParent.h>
 
 #include <stdexcept>
 
@@ -143,7 +143,7 @@ TEST_F(ClipboardTest, AnExceptionWhileFlushingComesOut)
 
 TEST_F(ClipboardTest, OtherProgramsSeeOrdinaryClipboardData)
 {
-    ovotest::RecordingParent window;
+    ovo::testkit::RecordingParent window;
     source->CacheGlobalData(CF_UNICODETEXT, memoryWith(L"plain"));
     source->SetClipboard();
 
@@ -155,7 +155,7 @@ TEST_F(ClipboardTest, OtherProgramsSeeOrdinaryClipboardData)
 TEST_F(ClipboardTest, DataPutThereWithoutASourceIsReadAsWell)
 {
     source->InternalRelease();
-    ovotest::RecordingParent window;
+    ovo::testkit::RecordingParent window;
     ASSERT_TRUE(window.OpenClipboard());
     ::EmptyClipboard();
     ::SetClipboardData(CF_UNICODETEXT, memoryWith(L"by hand"));

@@ -2,9 +2,9 @@
 #include "MessageSpy.h"
 
 #include <gtest/gtest.h>
-#include <support/RecordingParent.h>
+#include <testkit/RecordingParent.h>
 
-using ovotest::RecordingParent;
+using ovo::testkit::RecordingParent;
 
 namespace
 {

@@ -4,7 +4,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <support/RecordingParent.h>
+#include <testkit/RecordingParent.h>
 
 #include <cstring>
 #include <stdexcept>
@@ -405,7 +405,7 @@ TEST(DataSource, AnExceptionWhileRenderingComesOutOfTheReader)
 
 TEST(DataSource, NoExceptionLeavesAMethodThatTheSystemCalls)
 {
-    ovotest::RecordingParent window;
+    ovo::testkit::RecordingParent window;
     Source source;
     source.DelayRenderData(CF_UNICODETEXT);
     source.throws = true;

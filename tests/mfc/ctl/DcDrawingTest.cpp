@@ -1,10 +1,10 @@
 // Device contexts: shapes, fills and pictures, looked at pixel by pixel.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/Picture.h>
+#include <testkit/Picture.h>
 
-using ovotest::IsColour;
-using ovotest::Picture;
+using ovo::testkit::IsColour;
+using ovo::testkit::Picture;
 
 namespace
 {

@@ -1,10 +1,10 @@
 // Device contexts: curves, transformations, metafiles, and what else is seldom used.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/Picture.h>
+#include <testkit/Picture.h>
 
-using ovotest::IsColour;
-using ovotest::Picture;
+using ovo::testkit::IsColour;
+using ovo::testkit::Picture;
 
 namespace
 {

@@ -1,10 +1,10 @@
 // Device contexts: handles, the two contexts, tools and attributes, mapping and clipping.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/GdiCounter.h>
-#include <support/Picture.h>
+#include <testkit/GdiCounter.h>
+#include <testkit/Picture.h>
 
-using ovotest::Picture;
+using ovo::testkit::Picture;
 
 namespace
 {
@@ -360,7 +360,7 @@ TEST(Dc, ADisplayContextCanBeMadeByName)
 TEST(Dc, CreatingAndDestroyingLeavesNothingBehind)
 {
     CClientDC screen(nullptr);
-    const ovotest::GdiCounter counter;
+    const ovo::testkit::GdiCounter counter;
     for (int i = 0; i < 1000; ++i) {
         CDC dc;
         dc.CreateCompatibleDC(&screen);

@@ -1,9 +1,9 @@
 // Device contexts: text.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/Picture.h>
+#include <testkit/Picture.h>
 
-using ovotest::Picture;
+using ovo::testkit::Picture;
 
 namespace
 {

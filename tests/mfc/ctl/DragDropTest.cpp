@@ -3,13 +3,13 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <support/Desktop.h>
-#include <support/RecordingParent.h>
-#include <support/Robot.h>
+#include <testkit/Desktop.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,12 +1,12 @@
 // COleDropSource: when a drag begins and ends.
 #include <afxole.h>
 #include <gtest/gtest.h>
-#include <support/Desktop.h>
-#include <support/GuiThread.h>
-#include <support/RecordingParent.h>
-#include <support/Robot.h>
+#include <testkit/Desktop.h>
+#include <testkit/GuiThread.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -4,11 +4,11 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <support/RecordingParent.h>
+#include <testkit/RecordingParent.h>
 
 #include <stdexcept>
 
-using ovotest::RecordingParent;
+using ovo::testkit::RecordingParent;
 using ::testing::ElementsAre;
 
 namespace

@@ -1,5 +1,5 @@
 // Which object stands for a GDI handle, and who deletes the handle.
-#include <support/GdiCounter.h>
+#include <testkit/GdiCounter.h>
 
 #include <afxwin.h>
 #include <gtest/gtest.h>
@@ -201,7 +201,7 @@ TEST(GdiObject, CanBeMadeByItsClassRecord)
 
 TEST(GdiObject, AThousandOfThemLeaveNothingBehind)
 {
-    const ovotest::GdiCounter counter;
+    const ovo::testkit::GdiCounter counter;
     for (int i = 0; i < 1000; ++i) {
         CPen pen(PS_SOLID, 1, RGB(0, 0, 0));
         CBrush brush(RGB(1, 2, 3));

@@ -4,10 +4,10 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/Picture.h>
+#include <testkit/Picture.h>
 
-using ovotest::IsColour;
-using ovotest::Picture;
+using ovo::testkit::IsColour;
+using ovo::testkit::Picture;
 
 namespace
 {

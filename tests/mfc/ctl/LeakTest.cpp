@@ -2,12 +2,12 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/GdiCounter.h>
-#include <support/GuiThread.h>
-#include <support/RecordingParent.h>
-#include <support/WindowCounter.h>
+#include <testkit/GdiCounter.h>
+#include <testkit/GuiThread.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/WindowCounter.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

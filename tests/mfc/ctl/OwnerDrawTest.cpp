@@ -2,12 +2,12 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/Desktop.h>
-#include <support/GuiThread.h>
-#include <support/Picture.h>
-#include <support/RecordingParent.h>
+#include <testkit/Desktop.h>
+#include <testkit/GuiThread.h>
+#include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

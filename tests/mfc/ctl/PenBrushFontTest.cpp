@@ -1,11 +1,11 @@
 // Pens, brushes, fonts and palettes: what each way of making one gives.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/Picture.h>
+#include <testkit/Picture.h>
 
 #include <cstring>
 
-using ovotest::Picture;
+using ovo::testkit::Picture;
 
 TEST(Pen, TheConstructorMakesOneOfStyleWidthAndColour)
 {
@@ -83,9 +83,9 @@ TEST(Brush, APatternBrushRepeatsItsBitmapAndOutlivesIt)
 
     dc->FillRect(CRect(0, 0, 8, 8), &brush);
 
-    EXPECT_THAT(picture.at(0, 0), ovotest::IsColour(RGB(255, 0, 0)));
-    EXPECT_THAT(picture.at(1, 0), ovotest::IsColour(RGB(0, 0, 255)));
-    EXPECT_THAT(picture.at(5, 4), ovotest::IsColour(RGB(0, 0, 255)));
+    EXPECT_THAT(picture.at(0, 0), ovo::testkit::IsColour(RGB(255, 0, 0)));
+    EXPECT_THAT(picture.at(1, 0), ovo::testkit::IsColour(RGB(0, 0, 255)));
+    EXPECT_THAT(picture.at(5, 4), ovo::testkit::IsColour(RGB(0, 0, 255)));
     EXPECT_EQ(picture.count(RGB(0, 0, 255)), 16);
 }
 

@@ -1,9 +1,9 @@
 // Scroll bars that are controls.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/RecordingParent.h>
+#include <testkit/RecordingParent.h>
 
-using ovotest::RecordingParent;
+using ovo::testkit::RecordingParent;
 
 namespace
 {

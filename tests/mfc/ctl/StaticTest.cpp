@@ -1,9 +1,9 @@
 // Static controls.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/RecordingParent.h>
+#include <testkit/RecordingParent.h>
 
-using ovotest::RecordingParent;
+using ovo::testkit::RecordingParent;
 
 TEST(Static, ShowsItsTextUnderItsId)
 {

@@ -4,12 +4,12 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/Desktop.h>
-#include <support/RecordingParent.h>
-#include <support/Robot.h>
-#include <support/TemporaryProfile.h>
+#include <testkit/Desktop.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
+#include <testkit/TemporaryProfile.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

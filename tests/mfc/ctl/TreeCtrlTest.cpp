@@ -4,11 +4,11 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/Desktop.h>
-#include <support/RecordingParent.h>
-#include <support/Robot.h>
+#include <testkit/Desktop.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

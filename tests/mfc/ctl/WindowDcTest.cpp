@@ -1,13 +1,13 @@
 // Contexts of windows: fetched, painted with, given back.
 #include <afxwin.h>
 #include <gtest/gtest.h>
-#include <support/Desktop.h>
-#include <support/GdiCounter.h>
-#include <support/GuiThread.h>
-#include <support/Picture.h>
-#include <support/RecordingParent.h>
+#include <testkit/Desktop.h>
+#include <testkit/GdiCounter.h>
+#include <testkit/GuiThread.h>
+#include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

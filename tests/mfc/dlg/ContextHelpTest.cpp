@@ -4,7 +4,7 @@
 
 #include <gmock/gmock.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 

@@ -3,11 +3,11 @@
 #include "TestDialog.h"
 #include "resource.h"
 
-#include "support/Picture.h"
+#include <testkit/Picture.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

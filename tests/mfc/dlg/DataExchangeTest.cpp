@@ -2,7 +2,7 @@
 #include "MemoryTemplate.h"
 #include "TestDialog.h"
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <afxcmn.h>
 
@@ -11,7 +11,7 @@
 #include <functional>
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

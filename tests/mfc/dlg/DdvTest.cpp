@@ -1,11 +1,11 @@
 // Validation: bounds are inclusive, refusals say them, values on their way to the controls pass.
 #include "TestDialog.h"
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,13 +1,13 @@
 // Numbers and texts of edit controls: what is shown, what is read, what is refused and how.
 #include "TestDialog.h"
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

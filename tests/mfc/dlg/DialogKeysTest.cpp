@@ -2,11 +2,11 @@
 #include "TestDialog.h"
 #include "resource.h"
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

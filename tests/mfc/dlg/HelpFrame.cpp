@@ -1,6 +1,6 @@
 #include "HelpFrame.h"
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 BEGIN_MESSAGE_MAP(HelpFrame, TestFrame)
     ON_COMMAND(ID_HELP, &HelpFrame::OnHelp)

@@ -3,7 +3,7 @@
 
 #include "TestFrame.h"
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 class HelpFrame : public TestFrame
 {

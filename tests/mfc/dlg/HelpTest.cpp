@@ -3,11 +3,11 @@
 #include "HelpFrame.h"
 #include "resource.h"
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <gmock/gmock.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 

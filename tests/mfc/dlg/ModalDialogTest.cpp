@@ -2,14 +2,14 @@
 #include "TestDialog.h"
 #include "resource.h"
 
-#include "support/TestApp.h"
-#include "support/WindowCounter.h"
+#include <testkit/TestApp.h>
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

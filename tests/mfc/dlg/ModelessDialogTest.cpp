@@ -2,13 +2,13 @@
 #include "TestDialog.h"
 #include "resource.h"
 
-#include "support/WindowCounter.h"
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

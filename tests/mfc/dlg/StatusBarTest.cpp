@@ -2,11 +2,11 @@
 #include "TestFrame.h"
 #include "resource.h"
 
-#include "support/Picture.h"
+#include <testkit/Picture.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 BEGIN_MESSAGE_MAP(TestDialog, CDialog)
     ON_COMMAND(kAct, &TestDialog::OnAct)

@@ -3,8 +3,8 @@
 
 #include "MemoryTemplate.h"
 
-#include "support/Desktop.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/Robot.h>
 
 #include <afxwin.h>
 
@@ -53,7 +53,7 @@ public:
 };
 
 /// A story that begins when a dialog waits for the user.
-ovotest::Story whenShown();
+ovo::testkit::Story whenShown();
 
 /// The control of the dialog that waits for the user.
 HWND shownControl(int id);

@@ -1,7 +1,7 @@
 #include "TestFrame.h"
 #include "resource.h"
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 IMPLEMENT_DYNCREATE(TestView, CView)
 IMPLEMENT_DYNCREATE(TestFrame, CFrameWnd)

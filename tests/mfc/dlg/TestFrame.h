@@ -1,9 +1,9 @@
 // What the tests of frames share: a frame with a view, which note who is asked and what happens to them.
 #pragma once
 
-#include "support/Desktop.h"
-#include "support/GuiThread.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/GuiThread.h>
+#include <testkit/Robot.h>
 
 #include <afxwin.h>
 #include <afxext.h>

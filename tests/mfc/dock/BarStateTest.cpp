@@ -1,11 +1,11 @@
 // The arrangement of bars, saved in the profile and brought back.
 #include "DockScene.h"
 
-#include "support/TemporaryProfile.h"
+#include <testkit/TemporaryProfile.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace docktest;
 
 namespace
@@ -87,7 +87,7 @@ TEST_F(BarStates, ComeBackInAnotherRunOfTheProgram)
 
     DockScene next;
     next.frame->LoadBarState(L"Arrangement");
-    ovotest::present(*next.frame);
+    ovo::testkit::present(*next.frame);
     EXPECT_FALSE(next.one.IsVisible());
     EXPECT_EQ(next.place(next.two), second);
     ASSERT_TRUE(next.three.IsFloating());
@@ -104,7 +104,7 @@ TEST_F(BarStates, RememberWhereAFloatingBarWasDocked)
     frame->SaveBarState(L"Arrangement");
     DockScene next;
     next.frame->LoadBarState(L"Arrangement");
-    ovotest::present(*next.frame);
+    ovo::testkit::present(*next.frame);
     next.robot.doubleClick(next.caption(next.two));
     EXPECT_FALSE(next.two.IsFloating());
     EXPECT_EQ(next.place(next.two), second);
@@ -123,7 +123,7 @@ TEST_F(BarStates, AFloatingBarOnAMonitorThatIsGoneComesBackIntoAWorkArea)
 {
     frame->FloatControlBar(&one, CPoint(300, 300));
     frame->RecalcLayout();
-    ovotest::present(*frame);
+    ovo::testkit::present(*frame);
     const CPoint gone[] = {CPoint(20000, 300), CPoint(-5000, -5000), CPoint(300, 9000)};
     for (const CPoint& point : gone) {
         CDockState state;
@@ -136,7 +136,7 @@ TEST_F(BarStates, AFloatingBarOnAMonitorThatIsGoneComesBackIntoAWorkArea)
 
 TEST_F(BarStates, AMonitorThatIsGoneIsNoticedWhenTheProfileIsRead)
 {
-    ovotest::present(*frame);
+    ovo::testkit::present(*frame);
     frame->FloatControlBar(&one, CPoint(300, 300));
     frame->RecalcLayout();
     frame->SaveBarState(L"Arrangement");
@@ -184,7 +184,7 @@ TEST_F(BarStates, ABarMayGoWhenItIsAskedForItsSizeToFloatAgain)
     frame->FloatControlBar(&bar, CPoint(300, 300));
     frame->DockControlBar(&bar);
     frame->RecalcLayout();
-    ovotest::present(*frame);
+    ovo::testkit::present(*frame);
     bar.vanishes = true;
     bar.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(-4, 5)); // on its gripper
     EXPECT_EQ(bar.m_hWnd, nullptr);
@@ -202,7 +202,7 @@ TEST_F(BarStates, BarsThatAreUnknownOrMissingDoNoHarm)
     added.EnableDocking(kAnySide);
     next.frame->DockControlBar(&added);
     next.frame->LoadBarState(L"Arrangement");
-    ovotest::present(*next.frame);
+    ovo::testkit::present(*next.frame);
     EXPECT_EQ(next.place(next.three).TopLeft(), CPoint(0, 0));
     EXPECT_EQ(next.place(added).top, next.place(next.three).bottom) << "what was not saved comes last";
     added.DestroyWindow();

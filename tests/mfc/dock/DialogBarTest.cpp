@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace docktest;
 
 namespace
@@ -73,7 +73,7 @@ TEST_F(DialogBar, AMissingTemplateIsNoBar)
 TEST_F(DialogBar, ItsControlsNotifyTheFrame)
 {
     create();
-    ovotest::present(*frame);
+    ovo::testkit::present(*frame);
     robot.click(Spot{*m_bar.GetDlgItem(ID_ACT)});
     EXPECT_EQ(frame->commands, std::vector<UINT>{ID_ACT});
 }
@@ -82,7 +82,7 @@ TEST_F(DialogBar, ItsButtonsAreUpdatedWhenThereIsTime)
 {
     create();
     m_bar.GetDlgItem(ID_ACT)->SetDlgCtrlID(0x9000); // a command without a handler
-    ovotest::present(*frame);
+    ovo::testkit::present(*frame);
     GuiThread::settle();
     EXPECT_FALSE(m_bar.GetDlgItem(0x9000)->IsWindowEnabled());
 }
@@ -90,7 +90,7 @@ TEST_F(DialogBar, ItsButtonsAreUpdatedWhenThereIsTime)
 TEST_F(DialogBar, TabGoesFromControlToControl)
 {
     create();
-    ovotest::present(*frame);
+    ovo::testkit::present(*frame);
     robot.click(Spot{*m_bar.GetDlgItem(IDC_NAME)}).type(L"Ash").key(VK_TAB);
     EXPECT_EQ(::GetFocus(), m_bar.GetDlgItem(ID_ACT)->m_hWnd);
     CString text;
@@ -103,7 +103,7 @@ TEST_F(DialogBar, FloatsWithItsContentsAndItsTitle)
     create();
     frame->DockControlBar(&m_bar, AFX_IDW_DOCKBAR_LEFT);
     frame->RecalcLayout();
-    ovotest::present(*frame);
+    ovo::testkit::present(*frame);
     m_bar.SetDlgItemText(IDC_NAME, L"Oak");
     robot.drag(gripper(m_bar), Spot{pane});
     ASSERT_TRUE(m_bar.IsFloating());
@@ -126,7 +126,7 @@ TEST_F(DialogBar, ItsBackgroundIsAHandle)
     create();
     frame->DockControlBar(&m_bar, AFX_IDW_DOCKBAR_LEFT);
     frame->RecalcLayout();
-    ovotest::present(*frame);
+    ovo::testkit::present(*frame);
     CRect edit;
     m_bar.GetDlgItem(IDC_NAME)->GetWindowRect(&edit);
     robot.drag(Spot{CPoint(edit.left - 2, edit.CenterPoint().y)}, Spot{pane});

@@ -1,6 +1,6 @@
 #include "DockScene.h"
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace docktest
 {
@@ -78,7 +78,7 @@ void DockScene::dockInOneRow()
         frame->DockControlBar(bar, AFX_IDW_DOCKBAR_TOP, rect);
         frame->RecalcLayout();
     }
-    ovotest::present(*frame);
+    ovo::testkit::present(*frame);
 }
 
 void DockScene::present()
@@ -87,7 +87,7 @@ void DockScene::present()
     two.ShowWindow(SW_HIDE);
     three.ShowWindow(SW_HIDE);
     frame->RecalcLayout();
-    ovotest::present(*frame);
+    ovo::testkit::present(*frame);
 }
 
 CRect DockScene::client() const

@@ -4,9 +4,9 @@
 
 #include "resource.h"
 
-#include "support/Desktop.h"
-#include "support/GuiThread.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/GuiThread.h>
+#include <testkit/Robot.h>
 
 #include <afxwin.h>
 #include <afxext.h>
@@ -74,9 +74,9 @@ public:
     static CMiniDockFrameWnd* floatOf(const CControlBar& bar);
 
     // Where a user takes hold
-    ovotest::Spot gripper(const CControlBar& bar) const;
-    ovotest::Spot button(const CToolBar& bar, int index) const;
-    ovotest::Spot caption(const CControlBar& bar) const;
+    ovo::testkit::Spot gripper(const CControlBar& bar) const;
+    ovo::testkit::Spot button(const CToolBar& bar, int index) const;
+    ovo::testkit::Spot caption(const CControlBar& bar) const;
 
     DockFrame* frame = nullptr;
     CStatusBar status;
@@ -84,7 +84,7 @@ public:
     ButtonBar one;
     ButtonBar two;
     ButtonBar three;
-    ovotest::Robot robot;
+    ovo::testkit::Robot robot;
 };
 
 inline constexpr DWORD kAnySide = CBRS_ALIGN_ANY;

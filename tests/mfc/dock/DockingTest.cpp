@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace docktest;
 
 namespace
@@ -100,7 +100,7 @@ TEST_F(Docking, ARectangleOnAnotherBarPutsThemSideBySide)
 
 TEST_F(Docking, IsLaidOutWhenThereIsTime)
 {
-    ovotest::present(*frame);
+    ovo::testkit::present(*frame);
     GuiThread::settle();
     frame->DockControlBar(&one);
     GuiThread::settle();

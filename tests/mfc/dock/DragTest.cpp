@@ -1,11 +1,11 @@
 // Bars that a user drags with the mouse.
 #include "DockScene.h"
 
-#include "support/Picture.h"
+#include <testkit/Picture.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace docktest;
 
 namespace

@@ -1,11 +1,11 @@
 // Bars that float: their windows, closing, showing again, following the frame.
 #include "DockScene.h"
 
-#include "support/WindowCounter.h"
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace docktest;
 
 namespace
@@ -178,7 +178,7 @@ TEST_F(Floating, IsNotShownBeforeTheFrameIs)
     other.frame->FloatControlBar(&other.one, CPoint(300, 300));
     other.frame->RecalcLayout();
     EXPECT_FALSE(floatOf(other.one)->IsWindowVisible());
-    ovotest::present(*other.frame);
+    ovo::testkit::present(*other.frame);
     GuiThread::settle();
     EXPECT_TRUE(floatOf(other.one)->IsWindowVisible());
 }

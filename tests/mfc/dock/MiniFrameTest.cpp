@@ -1,11 +1,11 @@
 // Small frames beside a program's frame.
 #include "DockScene.h"
 
-#include "support/Picture.h"
+#include <testkit/Picture.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace docktest;
 
 namespace

@@ -1,11 +1,13 @@
 // A dialog application with every common control.
-#include "RunningProgram.h"
+#include <testkit/RunningProgram.h>
 #include "controls/Resource.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 #include <sstream>
+
+using namespace ovo::testkit;
 
 namespace
 {

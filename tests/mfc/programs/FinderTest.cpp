@@ -1,10 +1,12 @@
 // A frame with a text and a modeless dialog that finds in it.
-#include "RunningProgram.h"
+#include <testkit/RunningProgram.h>
 #include "finder/Resource.h"
 
 #include <afxres.h>
 
 #include <gtest/gtest.h>
+
+using namespace ovo::testkit;
 
 namespace
 {

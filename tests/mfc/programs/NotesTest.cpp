@@ -1,5 +1,5 @@
 // A frame with toolbar, status bar, view, about box and recent files.
-#include "RunningProgram.h"
+#include <testkit/RunningProgram.h>
 #include "notes/Resource.h"
 
 #include <afxres.h>
@@ -9,6 +9,8 @@
 
 #include <filesystem>
 #include <fstream>
+
+using namespace ovo::testkit;
 
 namespace fs = std::filesystem;
 

@@ -1,8 +1,10 @@
 // A list and a menu that draw their items themselves.
-#include "RunningProgram.h"
+#include <testkit/RunningProgram.h>
 #include "palette/Resource.h"
 
 #include <gtest/gtest.h>
+
+using namespace ovo::testkit;
 
 namespace
 {
@@ -36,7 +38,7 @@ protected:
         if (m_program.shown(kMenuClass))
             m_program.key(VK_ESCAPE);
         m_program.waitFor("the menu to go", [this] { return !m_program.shown(kMenuClass); });
-        m_program.click(list(), CPoint(120, 50), ovotest::Button::Right);
+        m_program.click(list(), CPoint(120, 50), ovo::testkit::Button::Right);
     }
 
     /// The middle of an item, in the menu's own pixels: items of 24 pixels within the same borders.

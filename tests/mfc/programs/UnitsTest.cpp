@@ -1,11 +1,13 @@
 // A tool that borrows a dialog, its template and its strings from an extension DLL.
-#include "RunningProgram.h"
+#include <testkit/RunningProgram.h>
 #include "units/Resource.h"
 #include "unitsext/Resource.h"
 
 #include <shlwapi.h>
 
 #include <gtest/gtest.h>
+
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,11 +1,11 @@
 // A modeless property sheet.
 #include "SheetScene.h"
 
-#include "support/WindowCounter.h"
+#include <testkit/WindowCounter.h>
 
 #include <memory>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,12 +1,12 @@
 // A property page: where it comes from, what it asks of its sheet, what reaches it.
 #include "SheetScene.h"
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <afxdllx.h>
 #include <afxpriv.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

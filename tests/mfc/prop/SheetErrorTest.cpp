@@ -1,12 +1,12 @@
 // Exceptions out of the handlers of pages and sheet.
 #include "SheetScene.h"
 
-#include "support/TestApp.h"
-#include "support/WindowCounter.h"
+#include <testkit/TestApp.h>
+#include <testkit/WindowCounter.h>
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,6 +1,6 @@
 #include "SheetScene.h"
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 BEGIN_MESSAGE_MAP(TestPage, CPropertyPage)
     ON_MESSAGE(PSM_QUERYSIBLINGS, &TestPage::OnQuery)

@@ -3,8 +3,8 @@
 
 #include "resource.h"
 
-#include "support/Desktop.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/Robot.h>
 
 #include <afxcmn.h>
 #include <afxdlgs.h>
@@ -86,7 +86,7 @@ protected:
     ~SheetScene() override;
 
     /// A story that begins when the sheet waits for the user.
-    ovotest::Story whenShown();
+    ovo::testkit::Story whenShown();
 
     /// Runs a story while the sheet is shown modally; gives what DoModal gives.
     template <class Tell>
@@ -96,8 +96,8 @@ protected:
         return sheet.DoModal();
     }
 
-    ovotest::Spot button(int id);
-    ovotest::Spot tab(int index);
+    ovo::testkit::Spot button(int id);
+    ovo::testkit::Spot tab(int index);
     std::wstring textOf(int id) const; ///< Of a control of the sheet.
     bool isEnabled(int id) const;
 

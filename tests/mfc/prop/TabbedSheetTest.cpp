@@ -1,11 +1,11 @@
 // A property sheet with tabs: its pages, its buttons, its results.
 #include "SheetScene.h"
 
-#include "support/GdiCounter.h"
-#include "support/TestApp.h"
-#include "support/WindowCounter.h"
+#include <testkit/GdiCounter.h>
+#include <testkit/TestApp.h>
+#include <testkit/WindowCounter.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

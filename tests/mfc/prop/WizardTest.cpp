@@ -1,9 +1,9 @@
 // A property sheet as a wizard.
 #include "SheetScene.h"
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -3,11 +3,11 @@
 
 #include <afxpriv.h>
 
-#include "support/Desktop.h"
+#include <testkit/Desktop.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace wndtest;
 
 namespace

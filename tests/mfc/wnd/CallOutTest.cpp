@@ -2,11 +2,11 @@
 // alone.
 #include "Windows.h"
 
-#include "support/DebugOutput.h"
-#include "support/Desktop.h"
-#include "support/GuiThread.h"
-#include "support/Robot.h"
-#include "support/TestApp.h"
+#include <testkit/DebugOutput.h>
+#include <testkit/Desktop.h>
+#include <testkit/GuiThread.h>
+#include <testkit/Robot.h>
+#include <testkit/TestApp.h>
 
 #include <afxcmn.h>
 
@@ -16,7 +16,7 @@
 #include <map>
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace wndtest;
 
 namespace

@@ -1,13 +1,13 @@
 // How an object gets its window, and what is left when it does not.
 #include "Windows.h"
 
-#include "support/WindowCounter.h"
+#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace wndtest;
 
 namespace

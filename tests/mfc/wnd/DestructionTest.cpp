@@ -1,13 +1,13 @@
 // How an object loses its window.
 #include "Windows.h"
 
-#include "support/GuiThread.h"
+#include <testkit/GuiThread.h>
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace wndtest;
 
 namespace

@@ -1,11 +1,11 @@
 // Permanent and temporary objects of handles.
 #include <afxwin.h>
 
-#include "support/GuiThread.h"
+#include <testkit/GuiThread.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,11 +1,11 @@
 // Members that do more than the window function of their name.
 #include "Windows.h"
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace wndtest;
 
 namespace

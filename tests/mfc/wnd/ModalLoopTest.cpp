@@ -3,14 +3,14 @@
 
 #include <afxpriv.h>
 
-#include "support/GuiThread.h"
+#include <testkit/GuiThread.h>
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace wndtest;
 
 namespace

@@ -1,13 +1,13 @@
 // Exceptions out of message handlers come out of the call that sent the message, whatever the system does between.
 #include <afxwin.h>
 
-#include "support/TestApp.h"
+#include <testkit/TestApp.h>
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -3,13 +3,13 @@
 
 #include <afxcmn.h>
 
-#include "support/Desktop.h"
-#include "support/GuiThread.h"
-#include "support/Robot.h"
+#include <testkit/Desktop.h>
+#include <testkit/GuiThread.h>
+#include <testkit/Robot.h>
 
 #include <gtest/gtest.h>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 using namespace wndtest;
 
 namespace

@@ -1,14 +1,14 @@
 // How objects get windows, keep them and lose them.
 #include <afxwin.h>
 
-#include "support/GuiThread.h"
+#include <testkit/GuiThread.h>
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
 
-using namespace ovotest;
+using namespace ovo::testkit;
 
 namespace
 {

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+namespace ovo::testkit
+{
+
+/// A question that the thread with the windows did not answer in time: it is busy or stuck.
+class Unanswered : public std::runtime_error
+{
+public:
+    Unanswered()
+        : std::runtime_error("the thread that owns the windows does not answer")
+    {
+    }
+};
+
+/// The thread that owns a test's windows. It runs the framework's message loop, and answers questions of
+/// other threads between its messages, inside modal loops, menus and drags too.
+class GuiThread
+{
+public:
+    using Limit = std::chrono::milliseconds;
+
+    /// Makes the calling thread the one that is asked, until this object goes.
+    GuiThread();
+    ~GuiThread();
+    GuiThread(const GuiThread&) = delete;
+    GuiThread& operator=(const GuiThread&) = delete;
+
+    /// Runs the message loop, with idle processing, until `done` gives true. False when the limit passes
+    /// first. A WM_QUIT on the way is taken out of the queue and remembered.
+    static bool runUntil(const std::function<bool()>& done, Limit limit = Limit{30000});
+
+    /// Runs the message loop until the queue is empty and idle processing has nothing left to do.
+    static void settle();
+
+    /// Whether WM_QUIT has come since the last call.
+    static bool tookQuit();
+
+    /// For other threads: runs `question` on the thread with the windows and waits for it. What it throws
+    /// is thrown here. Throws Unanswered when the limit passes first; the question is then dropped.
+    static void ask(const std::function<void()>& question, Limit limit = Limit{30000});
+};
+
+} // namespace ovo::testkit

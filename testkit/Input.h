@@ -1,0 +1,66 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <optional>
+#include <vector>
+
+namespace ovo::testkit
+{
+
+enum class Button
+{
+    Left,
+    Right,
+    Middle
+};
+
+/// The keyboard and the mouse as the system sees them: every call is one SendInput. It remembers what is
+/// down, so that nothing stays pressed when a script ends early.
+class Input
+{
+public:
+    Input() = default;
+    ~Input();
+    Input(const Input&) = delete;
+    Input& operator=(const Input&) = delete;
+
+    /// Moves the pointer to a point of the screen, in pixels.
+    void moveTo(POINT point);
+
+    /// Where the pointer was last moved to.
+    void press(Button button);
+    void release(Button button);
+
+    /// Two presses with the same time, however slow the machine is.
+    void doubleClick(Button button);
+
+    /// Turns the wheel: positive is away from the user, in notches.
+    void turnWheel(int notches);
+
+    /// `virtualKey` is a VK_ code.
+    void keyDown(WORD virtualKey);
+    void keyUp(WORD virtualKey);
+
+    /// The keys that are down, in the order in which they went down.
+    const std::vector<WORD>& heldKeys() const { return m_keys; }
+
+    /// Presses a held key once more, as a keyboard does that repeats it.
+    void holdAgain(WORD virtualKey);
+
+    /// One character: by its key where the keyboard has one, else as a character of its own.
+    void character(wchar_t character);
+
+    /// Lets go of everything that is still down.
+    void releaseAll();
+
+private:
+    DWORD nextTime();
+    INPUT atThePoint(INPUT input) const;
+
+    std::optional<POINT> m_point; ///< where the pointer was last moved to
+    std::vector<WORD> m_keys;
+    std::vector<Button> m_buttons;
+};
+
+} // namespace ovo::testkit

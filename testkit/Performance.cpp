@@ -1,0 +1,181 @@
+#include "Performance.h"
+#include "GuiThread.h"
+#include "Snapshot.h"
+#include "Watchdog.h"
+
+#include <gtest/gtest.h>
+
+#include <exception>
+
+namespace ovo::testkit
+{
+
+namespace
+{
+
+constexpr std::chrono::hours kForever{1};
+constexpr GuiThread::Limit kGiveUpLimit{5000};
+
+// From which round on a loop that does not end gets more than a request to close.
+constexpr int kEscapeRound = 1;
+constexpr int kButtonRound = 3;
+constexpr int kQuitRound = 8;
+
+bool isShownDialog(HWND window)
+{
+    wchar_t name[16] = L"";
+    ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    return std::wstring_view{name} == L"#32770" && ::IsWindowVisible(window) && ::IsWindowEnabled(window);
+}
+
+BOOL CALLBACK close(HWND window, LPARAM)
+{
+    if (isShownDialog(window))
+        ::PostMessageW(window, WM_CLOSE, 0, 0);
+    return TRUE;
+}
+
+// Some boxes cannot be cancelled, only answered.
+BOOL CALLBACK pressAButton(HWND window, LPARAM)
+{
+    if (const HWND button =
+            isShownDialog(window) ? ::FindWindowExW(window, nullptr, L"Button", nullptr) : nullptr)
+        ::PostMessageW(window, WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(button), BN_CLICKED),
+                       reinterpret_cast<LPARAM>(button));
+    return TRUE;
+}
+
+// While a window is moved, the loop waits for the button to go up. Without the capture it would not hear of
+// it.
+void cancelCapture()
+{
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    if (::GetGUIThreadInfo(::GetCurrentThreadId(), &info) && info.hwndCapture &&
+        !(info.flags & GUI_INMOVESIZE))
+        ::PostMessageW(info.hwndCapture, WM_CANCELMODE, 0, 0);
+}
+
+void giveUp(int round)
+{
+    ::EndMenu();
+    cancelCapture();
+    ::EnumThreadWindows(::GetCurrentThreadId(), close, 0);
+    if (round >= kButtonRound)
+        ::EnumThreadWindows(::GetCurrentThreadId(), pressAButton, 0);
+    if (round == kQuitRound)
+        ::PostQuitMessage(0);
+}
+
+} // namespace
+
+struct Performance::State
+{
+    std::vector<Step> steps;
+    std::atomic<bool> over{false};     // the robot has done all it will do
+    std::atomic<bool> cut{false};      // the rest is not wanted any more
+    std::atomic<bool> loopFree{false}; // the thread with the windows is back from every nested loop
+    std::atomic<bool> gone{false};     // the robot needs no answers any more
+    std::string problem;               // read once `over` is set
+};
+
+Performance::Performance(std::vector<Step> steps)
+    : m_state(std::make_shared<State>())
+{
+    m_state->steps = std::move(steps);
+    m_thread = std::thread{[state = m_state] {
+        act(*state);
+        state->gone = true;
+    }};
+}
+
+Performance::~Performance() noexcept(false)
+{
+    if (!m_thread.joinable())
+        return;
+    if (std::uncaught_exceptions() == 0) {
+        finish();
+        return;
+    }
+    m_state->cut = true;
+    leave();
+}
+
+void Performance::finish()
+{
+    if (!m_thread.joinable())
+        return;
+    // Every wait inside a story has a limit of its own, so that this one needs none but the watchdog's.
+    GuiThread::runUntil([this] { return m_state->over.load(); }, kForever);
+    leave();
+    GuiThread::settle();
+    if (!m_state->problem.empty())
+        ADD_FAILURE() << m_state->problem;
+}
+
+// Waits for the robot's thread, which may still be asking something.
+void Performance::leave()
+{
+    m_state->loopFree = true;
+    for (;;) {
+        try {
+            GuiThread::runUntil([this] { return m_state->gone.load(); }, kForever);
+            break;
+        } catch (...) {
+            // One exception is on its way already; what else handlers throw meanwhile has no way out.
+            if (std::uncaught_exceptions() == 0)
+                throw;
+        }
+    }
+    m_thread.join();
+}
+
+void Performance::act(State& state)
+{
+    Stage stage;
+    const char* name = "";
+    try {
+        for (const Step& step : state.steps) {
+            if (state.cut)
+                break;
+            name = step.name.c_str();
+            step.act(stage);
+            Watchdog::progress();
+        }
+    } catch (const std::exception& problem) {
+        state.problem = std::string{"the story stopped at \""} + name + "\": " + problem.what();
+        takeSnapshot(state.problem);
+    }
+    letGo(stage);
+    state.over = true;
+    if (!state.problem.empty())
+        freeTheLoop(state, stage);
+}
+
+void Performance::letGo(Stage& stage)
+{
+    try {
+        stage.letGo();
+    } catch (const std::exception&) {
+        // What is stuck is seen to below, or ended by the watchdog.
+    }
+}
+
+// A story that stopped leaves its dialog, menu or drag open, and the test in its loop: end them as a user
+// would who gives up, so that the other tests still run. Each round insists more than the one before.
+void Performance::freeTheLoop(State& state, Stage& stage)
+{
+    for (int round = 0; !state.loopFree; ++round) {
+        try {
+            GuiThread::ask([round] { giveUp(round); }, kGiveUpLimit);
+        } catch (const Unanswered&) {
+            // Stuck for good: the watchdog will end the program.
+        }
+        if (round >= kEscapeRound && !state.loopFree)
+            stage.escape();
+        for (int i = 0; i < 20 && !state.loopFree; ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds{10});
+    }
+}
+
+} // namespace ovo::testkit

@@ -1,0 +1,333 @@
+#include "RunningProgram.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <stdexcept>
+#include <thread>
+
+using namespace std::chrono_literals;
+namespace fs = std::filesystem;
+
+namespace ovo::testkit
+{
+
+namespace
+{
+
+constexpr auto kLimit = 20s;
+constexpr UINT kAnswerLimit = 5000; // milliseconds
+constexpr auto kPatience = 1s;      // of a user who tries again
+constexpr int kStartAttempts = 5;
+constexpr COLORREF kBareScreen = RGB(0, 0, 0); // the display's, where no window is
+
+fs::path folderOfTests()
+{
+    wchar_t path[MAX_PATH];
+    ::GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return fs::path(path).parent_path();
+}
+
+/// Starts a process. A loaded machine refuses this now and then, so it is tried a few times; the tests are
+/// not about the start of processes.
+PROCESS_INFORMATION started(std::wstring commandLine, const fs::path& folder)
+{
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    DWORD error = 0;
+    for (int attempt = 0; attempt < kStartAttempts; ++attempt) {
+        PROCESS_INFORMATION process{};
+        if (::CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(),
+                             &startup, &process))
+            return process;
+        error = ::GetLastError();
+        std::printf("the program was not started, error %lu\n", error);
+        std::this_thread::sleep_for(200ms);
+    }
+    throw std::runtime_error("the program cannot be started, error " + std::to_string(error));
+}
+
+std::wstring classOf(HWND wnd)
+{
+    wchar_t name[128]{};
+    ::GetClassNameW(wnd, name, static_cast<int>(std::size(name)));
+    return name;
+}
+
+} // namespace
+
+RunningProgram::RunningProgram(const std::wstring& name, const std::wstring& arguments)
+{
+    const fs::path program = folderOfTests() / (name + L".exe");
+    std::wstring commandLine = L"\"" + program.wstring() + L"\" " + arguments;
+    m_process = started(commandLine, program.parent_path());
+    waitFor("the program's main window", [this] { return !shownWindows().empty(); });
+    m_main = shownWindows().back();
+    comeToTheFront();
+}
+
+RunningProgram::~RunningProgram()
+{
+    m_input.releaseAll();
+    if (::WaitForSingleObject(m_process.hProcess, 0) != WAIT_OBJECT_0) {
+        ::TerminateProcess(m_process.hProcess, 99);
+        ::WaitForSingleObject(m_process.hProcess, INFINITE);
+    }
+    ::CloseHandle(m_process.hThread);
+    ::CloseHandle(m_process.hProcess);
+    leaveABareScreen();
+}
+
+/// The display takes the windows of an ended program away in its own time; the next program must not be taken
+/// for shown because of them.
+void RunningProgram::leaveABareScreen() const
+{
+    const auto end = std::chrono::steady_clock::now() + kLimit;
+    while (colourAt(m_place) != kBareScreen && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(5ms);
+}
+
+/// Waits until the program is in front, seen on the screen, and has dealt with what the display told it about
+/// that. Wine raises a window once it learns that it is shown: above a menu, should one have been opened
+/// before.
+void RunningProgram::comeToTheFront()
+{
+    if (!isInFront())
+        ::SetForegroundWindow(m_main);
+    waitFor("the program to come to the front", [this] { return isInFront() && isActive(); });
+    m_place = rectOf(m_main).TopLeft() + CSize(5, 5);
+    waitFor("the window to be seen", [this] { return colourAt(m_place) != kBareScreen; });
+    for (int i = 0; i < 2; ++i) {
+        DWORD_PTR ignored = 0;
+        ::SendMessageTimeoutW(m_main, WM_NULL, 0, 0, SMTO_NORMAL, kAnswerLimit, &ignored);
+    }
+}
+
+// Windows
+
+std::vector<HWND> RunningProgram::shownWindows() const
+{
+    std::vector<HWND> windows;
+    for (HWND wnd = ::GetTopWindow(nullptr); wnd; wnd = ::GetWindow(wnd, GW_HWNDNEXT)) {
+        DWORD process = 0;
+        ::GetWindowThreadProcessId(wnd, &process);
+        if (process == m_process.dwProcessId && ::IsWindowVisible(wnd))
+            windows.push_back(wnd);
+    }
+    return windows;
+}
+
+bool RunningProgram::shows(const std::wstring& title) const
+{
+    for (const HWND wnd : shownWindows())
+        if (textOf(wnd) == title)
+            return true;
+    return false;
+}
+
+HWND RunningProgram::window(const std::wstring& title)
+{
+    HWND found = nullptr;
+    waitFor("the window \"" + fs::path(title).string() + "\"", [&] {
+        for (const HWND wnd : shownWindows())
+            if (textOf(wnd) == title && ::IsWindowEnabled(wnd) && ::GetForegroundWindow() == wnd)
+                found = wnd;
+        return found != nullptr;
+    });
+    return found;
+}
+
+HWND RunningProgram::shown(const std::wstring& windowClass) const
+{
+    for (const HWND wnd : shownWindows())
+        if (classOf(wnd) == windowClass)
+            return wnd;
+    return nullptr;
+}
+
+HWND RunningProgram::child(HWND parent, const std::wstring& windowClass) const
+{
+    for (HWND wnd = ::GetWindow(parent, GW_CHILD); wnd; wnd = ::GetWindow(wnd, GW_HWNDNEXT)) {
+        if (classOf(wnd) == windowClass)
+            return wnd;
+        if (const HWND below = child(wnd, windowClass))
+            return below;
+    }
+    return nullptr;
+}
+
+bool RunningProgram::isInFront() const
+{
+    DWORD process = 0;
+    ::GetWindowThreadProcessId(::GetForegroundWindow(), &process);
+    return process == m_process.dwProcessId;
+}
+
+/// Whether its own thread knows that it is active.
+bool RunningProgram::isActive() const
+{
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return ::GetGUIThreadInfo(::GetWindowThreadProcessId(m_main, nullptr), &info) && info.hwndActive;
+}
+
+// Input
+
+void RunningProgram::moveTo(CPoint screen)
+{
+    m_input.moveTo(screen);
+    waitFor("the pointer to move", [screen] {
+        CPoint point;
+        ::GetCursorPos(&point);
+        return point == screen;
+    });
+}
+
+void RunningProgram::clickAt(CPoint screen, Button button)
+{
+    moveTo(screen);
+    m_input.press(button);
+    m_input.release(button);
+}
+
+void RunningProgram::click(HWND wnd, Button button)
+{
+    waitFor("the window to be enabled", [wnd] { return ::IsWindowVisible(wnd) && ::IsWindowEnabled(wnd); });
+    clickAt(rectOf(wnd).CenterPoint(), button);
+}
+
+void RunningProgram::click(HWND wnd, CPoint client, Button button)
+{
+    waitFor("the window to be shown", [wnd] { return ::IsWindowVisible(wnd) != FALSE; });
+    ::ClientToScreen(wnd, &client);
+    clickAt(client, button);
+}
+
+void RunningProgram::drag(HWND wnd, const std::vector<CPoint>& way, Button button)
+{
+    waitFor("the window to be shown", [wnd] { return ::IsWindowVisible(wnd) != FALSE; });
+    for (std::size_t i = 0; i < way.size(); ++i) {
+        CPoint screen = way[i];
+        ::ClientToScreen(wnd, &screen);
+        moveTo(screen);
+        if (i == 0)
+            m_input.press(button);
+    }
+    m_input.release(button);
+}
+
+void RunningProgram::key(WORD virtualKey, int times)
+{
+    waitFor("the program to be in front", [this] { return isInFront(); });
+    for (int i = 0; i < times; ++i) {
+        m_input.keyDown(virtualKey);
+        m_input.keyUp(virtualKey);
+    }
+}
+
+void RunningProgram::chord(WORD held, WORD virtualKey)
+{
+    chord(std::vector{held}, virtualKey);
+}
+
+void RunningProgram::chord(const std::vector<WORD>& held, WORD virtualKey)
+{
+    waitFor("the program to be in front", [this] { return isInFront(); });
+    for (const WORD each : held)
+        m_input.keyDown(each);
+    key(virtualKey);
+    m_input.releaseAll();
+}
+
+void RunningProgram::type(const std::wstring& text)
+{
+    waitFor("the program to be in front", [this] { return isInFront(); });
+    for (const wchar_t character : text)
+        m_input.character(character);
+}
+
+void RunningProgram::waitFor(const std::string& what, const std::function<bool()>& condition)
+{
+    const auto end = std::chrono::steady_clock::now() + kLimit;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end)
+            throw std::runtime_error("waited in vain for " + what);
+        std::this_thread::sleep_for(5ms);
+    }
+}
+
+void RunningProgram::tryUntil(const std::string& what, const std::function<void()>& act,
+                              const std::function<bool()>& condition)
+{
+    auto next = std::chrono::steady_clock::now();
+    waitFor(what, [&] {
+        if (condition())
+            return true;
+        if (std::chrono::steady_clock::now() >= next) {
+            act();
+            next = std::chrono::steady_clock::now() + kPatience;
+        }
+        return false;
+    });
+}
+
+void RunningProgram::closeByKeys()
+{
+    const auto ended = [this] { return ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_OBJECT_0; };
+    const auto press = [this] {
+        m_input.keyDown(VK_MENU);
+        m_input.keyDown(VK_F4);
+        m_input.keyUp(VK_F4);
+        m_input.keyUp(VK_MENU);
+    };
+    tryUntil(
+        "the program to end", [&] { isInFront() ? press() : comeToTheFront(); }, ended);
+}
+
+DWORD RunningProgram::waitForEnd()
+{
+    waitFor("the program to end",
+            [this] { return ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_OBJECT_0; });
+    DWORD code = 0;
+    ::GetExitCodeProcess(m_process.hProcess, &code);
+    return code;
+}
+
+// Looking
+
+std::wstring textOf(HWND wnd)
+{
+    wchar_t text[2048]{};
+    DWORD_PTR length = 0;
+    if (!::SendMessageTimeoutW(wnd, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text), SMTO_NORMAL,
+                               kAnswerLimit, &length))
+        return {};
+    return text;
+}
+
+std::wstring textOf(HWND dialog, int id)
+{
+    return textOf(::GetDlgItem(dialog, id));
+}
+
+CRect rectOf(HWND wnd)
+{
+    CRect rect;
+    ::GetWindowRect(wnd, &rect);
+    return rect;
+}
+
+COLORREF colourAt(HWND wnd, CPoint client)
+{
+    ::ClientToScreen(wnd, &client);
+    return colourAt(client);
+}
+
+COLORREF colourAt(CPoint point)
+{
+    const HDC screen = ::GetDC(nullptr);
+    const COLORREF colour = ::GetPixel(screen, point.x, point.y);
+    ::ReleaseDC(nullptr, screen);
+    return colour;
+}
+
+} // namespace ovo::testkit

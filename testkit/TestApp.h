@@ -1,0 +1,62 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace ovo::testkit
+{
+
+/// A message box that was asked for.
+struct AskedBox
+{
+    std::wstring text;
+    UINT type;
+    UINT helpId;
+};
+
+/// A call for help.
+struct AskedHelp
+{
+    DWORD_PTR data;
+    UINT command;
+};
+
+/// The application of every test program. It shows neither message boxes nor help, but writes down that
+/// they were asked for: a box without an answer would stop the test.
+class TestApp : public CWinApp
+{
+public:
+    /// The one object there is.
+    static TestApp& instance();
+
+    const std::vector<AskedBox>& boxes() const { return m_boxes; }
+    const std::vector<AskedHelp>& helps() const { return m_helps; }
+
+    /// What the next boxes give back, in order; without any left it is IDOK.
+    void answerBoxes(std::initializer_list<int> results);
+
+    /// Shows boxes for real until forget() is called: for tests that answer them.
+    void showBoxes() { m_showsBoxes = true; }
+
+    /// Called while a box waits for its answer.
+    std::function<void()> onBox;
+
+    /// Back to the beginning; called before each test.
+    void forget();
+
+    int DoMessageBox(LPCTSTR text, UINT type, UINT helpId) override;
+    void HtmlHelp(DWORD_PTR data, UINT command = HH_HELP_CONTEXT) override;
+    void WinHelp(DWORD_PTR data, UINT command = HELP_CONTEXT) override;
+
+private:
+    std::vector<AskedBox> m_boxes;
+    std::vector<AskedHelp> m_helps;
+    std::deque<int> m_results;
+    bool m_showsBoxes = false;
+};
+
+} // namespace ovo::testkit

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+namespace ovo::testkit
+{
+
+/// Ends the program when a test hangs: takes a snapshot first, then exits with failure. The limit is two
+/// minutes for a test, and again for each step of its stories; the environment variable OVO_TEST_LIMIT sets
+/// another number of seconds.
+class Watchdog
+{
+public:
+    Watchdog();
+    ~Watchdog();
+    Watchdog(const Watchdog&) = delete;
+    Watchdog& operator=(const Watchdog&) = delete;
+
+    /// Starts counting anew.
+    void begin();
+
+    /// Stops counting.
+    void end();
+
+    /// The running test is getting on, however slowly: counts anew. Any thread.
+    static void progress();
+
+private:
+    void watch();
+    [[noreturn]] static void bite(std::chrono::seconds limit);
+
+    using Clock = std::chrono::steady_clock;
+
+    const std::chrono::seconds m_limit;
+    std::mutex m_lock;
+    std::condition_variable m_changed;
+    Clock::time_point m_deadline = Clock::time_point::max();
+    bool m_leaving = false;
+    std::thread m_thread; // last: it uses all of the above
+};
+
+} // namespace ovo::testkit

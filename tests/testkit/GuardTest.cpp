@@ -1,0 +1,164 @@
+// What happens to tests that hang or leave windows behind: tried in this program started once more.
+#include <testkit/Desktop.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Robot.h>
+#include <testkit/Snapshot.h>
+
+#include <gmock/gmock.h>
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+using namespace ovo::testkit;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+namespace
+{
+
+struct Outcome
+{
+    DWORD exitCode = 0;
+    std::string output;
+};
+
+std::filesystem::path ownProgram()
+{
+    std::array<wchar_t, MAX_PATH> path{};
+    ::GetModuleFileNameW(nullptr, path.data(), MAX_PATH);
+    return path.data();
+}
+
+std::string contents(const std::filesystem::path& path)
+{
+    std::ifstream file{path, std::ios::binary};
+    return {std::istreambuf_iterator<char>{file}, {}};
+}
+
+std::filesystem::path failureFile(const char* name)
+{
+    return ownProgram().parent_path().parent_path() / "failures" / name;
+}
+
+/// Runs one disabled test of this program in a process of its own.
+Outcome runAlone(const std::wstring& test)
+{
+    SECURITY_ATTRIBUTES inherit{sizeof inherit, nullptr, TRUE};
+    HANDLE readEnd = nullptr;
+    HANDLE writeEnd = nullptr;
+    ::CreatePipe(&readEnd, &writeEnd, &inherit, 0);
+    ::SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
+
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdOutput = writeEnd;
+    startup.hStdError = writeEnd;
+    std::wstring command =
+        L"\"" + ownProgram().wstring() + L"\" --gtest_also_run_disabled_tests --gtest_filter=" + test;
+    PROCESS_INFORMATION process{};
+    ::SetEnvironmentVariableW(L"OVO_TEST_LIMIT", L"2");
+    const BOOL started = ::CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                                          nullptr, &startup, &process);
+    ::SetEnvironmentVariableW(L"OVO_TEST_LIMIT", nullptr);
+    ::CloseHandle(writeEnd);
+
+    Outcome outcome;
+    std::array<char, 4096> buffer{};
+    for (DWORD got = 0; ::ReadFile(readEnd, buffer.data(), buffer.size(), &got, nullptr) && got;)
+        outcome.output.append(buffer.data(), got);
+    ::CloseHandle(readEnd);
+    EXPECT_TRUE(started);
+    ::WaitForSingleObject(process.hProcess, INFINITE);
+    ::GetExitCodeProcess(process.hProcess, &outcome.exitCode);
+    ::CloseHandle(process.hProcess);
+    ::CloseHandle(process.hThread);
+    return outcome;
+}
+
+} // namespace
+
+// The tests that go wrong; run only by those below.
+
+TEST(DISABLED_Wrong, Hangs)
+{
+    RecordingParent parent{{200, 100}, L"The window of the hanging test"};
+    present(parent);
+    for (;;)
+        ::Sleep(INFINITE);
+}
+
+// Slower than the limit for a test, but never long at one step.
+TEST(DISABLED_Wrong, GoesOnSlowly)
+{
+    Robot robot;
+    const auto slowly = [] { ::Sleep(900); };
+    robot.then(slowly).then(slowly).then(slowly).then(slowly);
+}
+
+TEST(DISABLED_Wrong, LeavesAWindow)
+{
+    auto* forgotten = new RecordingParent{{200, 100}, L"Forgotten"};
+    present(*forgotten);
+}
+
+TEST(DISABLED_Wrong, LeavesNothing)
+{
+    RecordingParent parent;
+    present(parent);
+}
+
+TEST(Watchdog, EndsAProgramThatHangsWithAPictureOfWhatItWasAt)
+{
+    std::filesystem::remove(failureFile("DISABLED_Wrong.Hangs.txt"));
+    std::filesystem::remove(failureFile("DISABLED_Wrong.Hangs.png"));
+
+    const Outcome outcome = runAlone(L"DISABLED_Wrong.Hangs");
+
+    EXPECT_EQ(outcome.exitCode, 3U);
+    EXPECT_THAT(outcome.output, HasSubstr("watchdog"));
+    EXPECT_THAT(outcome.output, HasSubstr("The window of the hanging test"));
+    EXPECT_THAT(contents(failureFile("DISABLED_Wrong.Hangs.txt")),
+                HasSubstr("The window of the hanging test"));
+    EXPECT_THAT(contents(failureFile("DISABLED_Wrong.Hangs.png")), HasSubstr("PNG"));
+}
+
+TEST(Watchdog, LetsATestGoOnWhoseStoryGetsOn)
+{
+    const Outcome outcome = runAlone(L"DISABLED_Wrong.GoesOnSlowly");
+
+    EXPECT_EQ(outcome.exitCode, 0U) << outcome.output;
+}
+
+TEST(TestGuard, FailsATestThatLeavesAWindowOpen)
+{
+    const Outcome outcome = runAlone(L"DISABLED_Wrong.LeavesAWindow");
+
+    EXPECT_NE(outcome.exitCode, 0U);
+    EXPECT_THAT(outcome.output, HasSubstr("left a window open"));
+    EXPECT_THAT(outcome.output, HasSubstr("Forgotten"));
+}
+
+TEST(TestGuard, LetsATestPassThatCleansUp)
+{
+    const Outcome outcome = runAlone(L"DISABLED_Wrong.LeavesNothing");
+
+    EXPECT_EQ(outcome.exitCode, 0U) << outcome.output;
+    EXPECT_THAT(outcome.output, Not(HasSubstr("left a window open")));
+}
+
+TEST(Snapshot, DescribesWindowsWithTheirChildrenAndState)
+{
+    RecordingParent parent{{200, 100}, L"Described"};
+    CButton button;
+    button.Create(L"Off", WS_CHILD | WS_VISIBLE | WS_DISABLED, CRect(10, 10, 90, 34), &parent, 31);
+    present(parent);
+
+    const std::string text = describeWindows();
+
+    EXPECT_THAT(text, HasSubstr("\"Described\""));
+    EXPECT_THAT(text, HasSubstr("Button \"Off\" id 31"));
+    EXPECT_THAT(text, HasSubstr("80x24 disabled"));
+}
