@@ -1,6 +1,6 @@
 #include <afxwin.h>
 
-#include <detail/send.h>
+#include <detail/items.h>
 
 using afxdetail::send;
 
@@ -70,13 +70,7 @@ int CComboBox::GetLBText(int index, LPTSTR text) const
 
 void CComboBox::GetLBText(int index, CString& text) const
 {
-    const int length = GetLBTextLen(index);
-    if (length == CB_ERR) {
-        text.Empty();
-        return;
-    }
-    GetLBText(index, text.GetBuffer(length));
-    text.ReleaseBuffer(length);
+    afxdetail::itemText(*this, CB_GETLBTEXTLEN, CB_GETLBTEXT, index, text);
 }
 
 int CComboBox::GetLBTextLen(int index) const
@@ -271,20 +265,6 @@ void CComboBox::DeleteItem(LPDELETEITEMSTRUCT) {}
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    switch (message) {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_COMPAREITEM:
-        *result = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        return TRUE;
-    default:
-        return CWnd::OnChildNotify(message, wParam, lParam, result);
-    }
+    return afxdetail::drawsItself(*this, message, lParam, result) ||
+           CWnd::OnChildNotify(message, wParam, lParam, result);
 }

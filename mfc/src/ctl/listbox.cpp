@@ -1,6 +1,6 @@
 #include <afxwin.h>
 
-#include <detail/send.h>
+#include <detail/items.h>
 
 using afxdetail::send;
 
@@ -70,13 +70,7 @@ int CListBox::GetText(int index, LPTSTR buffer) const
 
 void CListBox::GetText(int index, CString& text) const
 {
-    const int length = GetTextLen(index);
-    if (length == LB_ERR) {
-        text.Empty();
-        return;
-    }
-    GetText(index, text.GetBuffer(length));
-    text.ReleaseBuffer(length);
+    afxdetail::itemText(*this, LB_GETTEXTLEN, LB_GETTEXT, index, text);
 }
 
 int CListBox::GetTextLen(int index) const
@@ -260,18 +254,6 @@ int CListBox::CharToItem(UINT, UINT)
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     switch (message) {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_COMPAREITEM:
-        *result = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        return TRUE;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        return TRUE;
     case WM_VKEYTOITEM:
         *result = VKeyToItem(LOWORD(wParam), HIWORD(wParam));
         return TRUE;
@@ -279,6 +261,7 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
         *result = CharToItem(LOWORD(wParam), HIWORD(wParam));
         return TRUE;
     default:
-        return CWnd::OnChildNotify(message, wParam, lParam, result);
+        return afxdetail::drawsItself(*this, message, lParam, result) ||
+               CWnd::OnChildNotify(message, wParam, lParam, result);
     }
 }
