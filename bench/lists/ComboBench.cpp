@@ -26,14 +26,23 @@ public:
         SetFocus();
     }
 
-    void prepare(bool completes)
+    void keystroke(wchar_t character) { GetWindow(GW_CHILD)->SendMessage(WM_CHAR, character, 1); }
+
+    /// Nothing is typed, and nothing known of what was typed before.
+    void clear(bool completes)
     {
+        AutoComplete(true);
+        SetWindowText(L"");
+        keystroke(L'x');
         AutoComplete(completes);
-        SetWindowText(L"t");
-        SetEditSel(1, 1);
+        SetWindowText(L"");
     }
 
-    void keystroke() { GetWindow(GW_CHILD)->SendMessage(WM_CHAR, L'h', 1); }
+    void type(wchar_t first, bool completes)
+    {
+        clear(completes);
+        keystroke(first);
+    }
 };
 
 } // namespace
@@ -45,13 +54,15 @@ TEST_CASE("a keystroke with completion in a list of 20000 items")
     InTurns turns;
     turns.add("CB_FINDSTRING that finds the last item [baseline]", [&] { combo.FindString(-1, L"th"); });
     turns.add(
-        "a keystroke without completion", [&] { combo.keystroke(); }, [&] { combo.prepare(false); });
+        "a keystroke without completion", [&] { combo.keystroke(L'h'); }, [&] { combo.type(L't', false); });
     turns.add(
-        "a keystroke with completion [at most 1.5]", [&] { combo.keystroke(); },
-        [&] { combo.prepare(true); });
+        "a keystroke with completion [at most 1.5]", [&] { combo.keystroke(L'h'); },
+        [&] { combo.type(L't', true); });
+    turns.add(
+        "the first keystroke in an empty field", [&] { combo.keystroke(L't'); }, [&] { combo.clear(true); });
     turns.add(
         "setting the text of the last item", [&] { combo.SetWindowText(L"the last item"); },
-        [&] { combo.prepare(false); });
+        [&] { combo.clear(false); });
     turns.run("a keystroke with completion in a list of 20000 items", 101);
     CString text;
     combo.GetWindowText(text);

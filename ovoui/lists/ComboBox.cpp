@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ComboCommands.h>
+#include <ovoui/lists/ComboCompletion.h>
 #include <ovoui/lists/ComboHistory.h>
 #include <ovoui/lists/ComboItems.h>
 #include <ovoui/lists/ComboSearch.h>
@@ -88,7 +89,8 @@ UINT codeOf(Told told)
 } // namespace
 
 COVOComboBox::COVOComboBox()
-    : m_items(std::make_unique<ComboItems>())
+    : m_completion(std::make_unique<ComboCompletion>(*this))
+    , m_items(std::make_unique<ComboItems>())
 {
 }
 
@@ -160,6 +162,12 @@ bool COVOComboBox::changed() const
 {
     const int selection = GetCurSel();
     return selection != m_savedSelection || (selection == -1 && editText() != m_savedText);
+}
+
+bool COVOComboBox::itemsHaveTexts() const
+{
+    const DWORD style = GetStyle();
+    return (style & CBS_HASSTRINGS) || !(style & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE));
 }
 
 // Keys
@@ -280,7 +288,7 @@ void COVOComboBox::OnEditUpdate()
     const Lifeline::Watch watch(*this);
     const std::wstring typed = m_search ? editText() : std::wstring();
     m_editedInList = true;
-    if (m_autoComplete && m_completionAllowed)
+    if (m_autoComplete && m_completionAllowed && itemsHaveTexts())
         complete();
     if (watch.alive() && m_search && m_keyed && !GetDroppedState())
         m_search->typed(typed);
@@ -290,9 +298,7 @@ void COVOComboBox::complete()
 {
     const std::wstring text = editText();
     const DWORD selection = GetEditSel();
-    const int item = completionOf(
-        text, GetCount(), [&](int after) { return FindString(after, text.c_str()); },
-        [this](int index) { return itemText(index); });
+    const int item = m_completion->itemFor(text);
     if (item == -1)
         return;
     // What changes the text here is no typing, and is not to be completed in its turn.

@@ -26,6 +26,7 @@ constexpr UINT OVOCBN_DOWN = 0x42;   ///< the down arrow, while the list was clo
 
 namespace ovoui::lists
 {
+class ComboCompletion;
 class ComboHistory;
 class ComboHits;
 class ComboItems;
@@ -127,6 +128,7 @@ private:
     std::wstring editText() const;
     std::wstring itemText(int item) const;
     bool changed() const;
+    bool itemsHaveTexts() const;
 
     void onReturn();
     void onArrow(ovoui::lists::Told arrow);
@@ -136,6 +138,8 @@ private:
     void restore();
     void carryOut(const ovoui::lists::Verdict& verdict);
     bool tell(UINT code);
+
+    friend class ovoui::lists::ComboCompletion;
 
     // What is off unless asked for
     friend class ovoui::lists::ComboHistory;
@@ -170,6 +174,7 @@ private:
     bool m_notifyEditReturn = false;
     bool m_completing = false; ///< the control itself is changing the text
 
+    std::unique_ptr<ovoui::lists::ComboCompletion> m_completion;
     std::unique_ptr<ovoui::lists::ComboItems> m_items;
     std::unique_ptr<ovoui::lists::ComboSearch> m_search;
     std::unique_ptr<ovoui::lists::ComboHistory> m_history;

@@ -4,6 +4,7 @@ set(lists_core
   ${CMAKE_CURRENT_LIST_DIR}/core/ColumnLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ComboItemLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ComboRules.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/CompletionSearch.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/EntryColours.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FindRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/HitRules.cpp
@@ -27,6 +28,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ColourEntry.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboBoxExtras.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ComboCompletion.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboFunctions.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboHistory.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboHits.cpp
@@ -34,11 +36,14 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ComboSearch.cpp
   ${CMAKE_CURRENT_LIST_DIR}/EmphasisedText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCellTips.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListCells.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCopier.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCtrlEx.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListFinder.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListHelper.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListRowPainter.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListSorter.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/LocaleOrder.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RowData.cpp)
 target_link_libraries(ovoui PRIVATE oleaut32)

@@ -2,10 +2,13 @@
 #include "ComboScene.h"
 
 #include <testkit/ImportPatch.h>
+#include <testkit/TemporaryFiles.h>
 
 #include <gtest/gtest.h>
 
 #include <imm.h>
+
+#include <filesystem>
 
 using namespace ovo::testkit;
 
@@ -252,6 +255,121 @@ TEST(ComboTyping, AmongTwentyThousandItems)
     scene.enter();
     scene.robot.type(L"item 119999");
     EXPECT_EQ(scene.text(), L"item 119999 in small letters");
+}
+
+namespace
+{
+
+/// What a host may do to the items between two characters, by the combo box or behind its back.
+struct ItemChange
+{
+    const char* name;
+    std::initializer_list<const wchar_t*> items;
+    const wchar_t* completed; ///< the text, when "b" has been typed
+    std::function<void(ComboScene&)> act;
+    const wchar_t* completedThen; ///< when "e" has been typed as well
+    DWORD style = CBS_DROPDOWN;
+};
+
+LPARAM param(const wchar_t* text)
+{
+    return reinterpret_cast<LPARAM>(text);
+}
+
+const ItemChange kItemChanges[] = {
+    {"nothing", {L"bread", L"berry"}, L"bread", [](ComboScene&) {}, L"berry"},
+    {"CB_ADDSTRING", {L"x"}, L"b", [](ComboScene& scene) { scene.combo.AddString(L"berry"); }, L"berry"},
+    {"CB_ADDSTRING, sorted",
+     {L"berry"},
+     L"berry",
+     [](ComboScene& scene) { scene.combo.AddString(L"beech"); },
+     L"beech",
+     CBS_DROPDOWN | CBS_SORT},
+    {"CB_INSERTSTRING",
+     {L"x", L"berry"},
+     L"berry",
+     [](ComboScene& scene) { scene.combo.InsertString(0, L"beech"); },
+     L"beech"},
+    {"CB_DELETESTRING",
+     {L"BEST", L"beech", L"berry"},
+     L"beech",
+     [](ComboScene& scene) { scene.combo.DeleteString(0); },
+     L"beech"},
+    {"CB_DIR",
+     {L"x"},
+     L"b",
+     [](ComboScene& scene) {
+         const TemporaryFiles files{L"berry.txt"};
+         scene.combo.Dir(0, files.path(L"*.txt").c_str());
+     },
+     L"berry.txt"},
+    {"LB_ADDSTRING",
+     {L"x"},
+     L"b",
+     [](ComboScene& scene) { ::SendMessageW(scene.listBox(), LB_ADDSTRING, 0, param(L"berry")); },
+     L"berry"},
+    {"LB_INSERTSTRING",
+     {L"x", L"berry"},
+     L"berry",
+     [](ComboScene& scene) { ::SendMessageW(scene.listBox(), LB_INSERTSTRING, 0, param(L"beech")); },
+     L"beech"},
+    {"LB_DELETESTRING",
+     {L"BEST", L"beech", L"berry"},
+     L"beech",
+     [](ComboScene& scene) { ::SendMessageW(scene.listBox(), LB_DELETESTRING, 0, 0); },
+     L"beech"},
+    {"LB_ADDFILE",
+     {L"x"},
+     L"b",
+     [](ComboScene& scene) {
+         const TemporaryFiles files{L"berry.txt"};
+         const std::filesystem::path before = std::filesystem::current_path();
+         std::filesystem::current_path(files.folder());
+         ::SendMessageW(scene.listBox(), LB_ADDFILE, 0, param(L"berry.txt"));
+         std::filesystem::current_path(before);
+     },
+     L"berry.txt"},
+    {"another window",
+     {L"x", L"berry"},
+     L"berry",
+     [](ComboScene& scene) {
+         const HWND before = scene.listBox();
+         scene.combo.DestroyWindow();
+         scene.combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN | CBS_AUTOHSCROLL, CRect(10, 10, 210, 160),
+                            &scene.parent, 21);
+         EXPECT_FALSE(::IsWindow(before));
+         for (const wchar_t* item : {L"beech", L"berry"})
+             scene.combo.AddString(item);
+         scene.combo.SetFocus();
+         scene.robot.type(L"b");
+         scene.combo.InsertString(0, L"bee");
+     },
+     L"bee"},
+};
+
+} // namespace
+
+TEST(ComboTyping, ItemsMayChangeBetweenTwoCharacters)
+{
+    for (const ItemChange& change : kItemChanges) {
+        SCOPED_TRACE(change.name);
+        ComboScene scene(change.items, change.style);
+        scene.enter();
+        scene.robot.type(L"b");
+        EXPECT_EQ(scene.text(), change.completed);
+        change.act(scene);
+        scene.robot.type(L"e");
+        EXPECT_EQ(scene.text(), change.completedThen);
+    }
+}
+
+TEST(ComboTyping, ItemsWithoutTextsCompleteNothing)
+{
+    ComboScene scene({}, CBS_DROPDOWN | CBS_OWNERDRAWFIXED | CBS_SORT);
+    scene.combo.AddString(L"berry"); // a number to the list, which its owner compares with others
+    scene.enter();
+    scene.robot.type(L"b");
+    EXPECT_EQ(scene.text(), L"b");
 }
 
 TEST(ComboTyping, KeysCountOnlyWhileCompletionIsOn)

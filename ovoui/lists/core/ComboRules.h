@@ -1,9 +1,6 @@
 /// What keys and a loss of focus lead to in a completing combo box: plain values, no windows.
 #pragma once
 
-#include <cstddef>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace ovoui::lists
@@ -83,31 +80,5 @@ Verdict afterChoice();
 Verdict afterArrow(bool match, Told arrow, const ComboSettings& settings);
 /// `changed`: selection or text are others than those of before.
 Verdict afterFocusLost(bool match, bool changed, const ComboSettings& settings);
-
-// Completion
-
-/// The item that completes a text, or -1. `find(after)` gives the next item behind `after` that begins with
-/// the text, whatever the case, going on at the top behind the last one; -1 for none. `textOf(i)` gives an
-/// item's text.
-///
-/// An item that begins with exactly the text is preferred to one that differs in case.
-template <class Find, class TextOf>
-int completionOf(std::wstring_view text, int count, Find find, TextOf textOf)
-{
-    const auto isExact = [&](int item) { return std::wstring_view(textOf(item)).starts_with(text); };
-    const int first = find(-1);
-    if (first < 0 || isExact(first))
-        return first;
-    int last = first;
-    while (last + 1 < count) { // nothing stands behind the last item
-        const int next = find(last);
-        if (next <= last)
-            break;
-        if (isExact(next))
-            return next;
-        last = next;
-    }
-    return first;
-}
 
 } // namespace ovoui::lists

@@ -36,6 +36,7 @@ TEST(ComboHits, TheTextItselfIsNoChoice)
 {
     EXPECT_EQ(hits({L"berry", L"apple"}, L"berry"), Items{});
     EXPECT_EQ(hits({L"berry", L"blackberry"}, L"berry"), (Items{0, 1}));
+    EXPECT_EQ(hits({L"blackberry", L"berry"}, L"berry"), (Items{0, 1}));
     EXPECT_EQ(hits({L"blackberry", L"apple"}, L"berry"), Items{0});
 }
 
