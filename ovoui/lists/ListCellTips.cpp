@@ -1,11 +1,14 @@
 #include <ovoui/lists/ListCellTips.h>
 
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/lists/ListCells.h>
 #include <ovoui/lists/RowData.h>
 #include <ovoui/lists/core/RowLayout.h>
 
 #include <commctrl.h>
 
 using namespace ovoui::lists;
+using ovoui::frame::toRect;
 
 namespace
 {
@@ -48,52 +51,46 @@ COVOListCellTips::~COVOListCellTips()
 
 void COVOListCellTips::Attach(COVOListCtrlEx& list)
 {
-    Detach();
+    hear(list);
     m_list = &list;
-    m_window = list.m_hWnd;
-    ::SetWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this),
-                        reinterpret_cast<DWORD_PTR>(this));
 }
 
 void COVOListCellTips::Detach()
 {
-    if (m_window)
-        ::RemoveWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this));
+    stopHearing();
+}
+
+void COVOListCellTips::left()
+{
     if (m_tip)
         ::DestroyWindow(m_tip);
     m_list = nullptr;
-    m_window = nullptr;
     m_tip = nullptr;
     m_cell = {};
 }
 
-LRESULT CALLBACK COVOListCellTips::listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                                 UINT_PTR, DWORD_PTR tips)
+bool COVOListCellTips::takes(UINT message, WPARAM, LPARAM, LRESULT&)
 {
-    auto* const self = reinterpret_cast<COVOListCellTips*>(tips);
-    if (message == WM_NCDESTROY)
-        self->Detach();
-    else if (endsTip(message))
-        self->hide();
+    if (endsTip(message))
+        hide();
     if (message == WM_MOUSELEAVE)
-        self->m_cell = {};
-    const Lifeline::Watch watch(self->m_lifeline);
-    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
-    // Last, since the host is called, who may take subclasses away.
-    if (message == WM_MOUSEMOVE && watch.alive() && self->m_window == window)
-        self->pointerAt(CPoint(lParam));
-    return result;
+        m_cell = {};
+    return false;
+}
+
+void COVOListCellTips::heard(UINT message, WPARAM, LPARAM lParam)
+{
+    if (message == WM_MOUSEMOVE)
+        pointerAt(CPoint(lParam));
 }
 
 void COVOListCellTips::pointerAt(CPoint point)
 {
-    LVHITTESTINFO hit{};
-    hit.pt = point;
-    const Lifeline::Watch watch(m_lifeline);
-    const HWND window = m_window;
-    // The platform may ask the host for the label's text, who may destroy list and tips.
-    const Cell cell = m_list->SubItemHitTest(&hit) == -1 ? Cell{} : Cell{hit.iItem, hit.iSubItem};
-    if (!watch.alive() || m_window != window || cell == m_cell)
+    const ListCells cells(*m_list);
+    const int row = cells.rowAt(point.y);
+    const int column = row == -1 ? -1 : cells.columnAt(row, point.x);
+    const Cell cell = column == -1 ? Cell{} : Cell{row, column};
+    if (cell == m_cell)
         return;
     hide();
     m_cell = cell;
@@ -111,23 +108,17 @@ std::wstring COVOListCellTips::cutText(const Cell& cell, CRect& textPlace) const
     const Lifeline::Watch watch(list);
     CellText reader;
     const std::wstring text = reader(list, cell.item, cell.column);
-    LVCOLUMN known{};
-    known.mask = LVCF_WIDTH;
-    if (!watch.alive() || cell.item >= list.GetItemCount() || !list.GetColumn(cell.column, &known))
+    const auto area = watch.alive() ? ListCells(list).textArea(cell.item, cell.column) : std::nullopt;
+    if (!area)
         return {};
     const bool isLabel = cell.column == 0;
-    if (isLabel)
-        list.GetItemRect(cell.item, &textPlace, LVIR_LABEL);
-    else
-        list.GetSubItemRect(cell.item, cell.column, LVIR_BOUNDS, textPlace);
+    textPlace = toRect(textBox(*area, isLabel ? kLabelInset : kCellInset));
     CClientDC dc(&list);
     CFont* const old = dc.SelectObject(list.GetFont());
-    const LPCWSTR shown = COVOListCtrlEx::MakeShortString(&dc, text.c_str(), textPlace.Width(),
-                                                          isLabel ? kLabelOffset : kCellOffset);
-    const bool isCut = shown != text.c_str() && shown != text;
+    const std::wstring shown = COVOListCtrlEx::MakeShortString(&dc, text.c_str(), area->width(),
+                                                               isLabel ? kLabelOffset : kCellOffset);
     dc.SelectObject(old);
-    textPlace.DeflateRect(isLabel ? kLabelInset : kCellInset, 0);
-    return isCut ? text : std::wstring();
+    return shown == text ? std::wstring() : text;
 }
 
 void COVOListCellTips::show(const Cell& cell)

@@ -5,20 +5,18 @@
 #pragma once
 
 #include <ovoui/export.h>
-#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/ListHelper.h>
 
 #include <string>
 
 /// While the pointer rests on a cell whose text is cut, a tip with the whole text lies over the cell, in its
 /// font. It goes when the pointer leaves the cell, and with a key, a click or scrolling.
-class OVOUI_API COVOListCellTips
+class OVOUI_API COVOListCellTips : private ovoui::lists::ListHelper
 {
 public:
     COVOListCellTips();
-    ~COVOListCellTips();
-    COVOListCellTips(const COVOListCellTips&) = delete;
-    COVOListCellTips& operator=(const COVOListCellTips&) = delete;
+    ~COVOListCellTips() override;
 
     /// The list must have its window. It may be destroyed before this object. Replaces the list of before.
     void Attach(COVOListCtrlEx& list);
@@ -36,8 +34,9 @@ private:
         friend bool operator==(const Cell&, const Cell&) = default;
     };
 
-    static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                          UINT_PTR id, DWORD_PTR tips);
+    bool takes(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+    void heard(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void left() override;
     void pointerAt(CPoint point);
     void show(const Cell& cell);
     void hide();
@@ -45,9 +44,7 @@ private:
     std::wstring cutText(const Cell& cell, CRect& textPlace) const;
 
     COVOListCtrlEx* m_list = nullptr;
-    HWND m_window = nullptr;
     HWND m_tip = nullptr;
     Cell m_cell; ///< under the pointer; a tip that went by a key or a click comes back in another cell only
     std::wstring m_text;
-    Lifeline m_lifeline;
 };

@@ -1,13 +1,13 @@
 #include <ovoui/lists/ListCopier.h>
 
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ReportColumns.h>
 #include <ovoui/lists/core/TableText.h>
-
-#include <commctrl.h>
 
 #include <cstring>
 #include <memory>
 #include <string>
+#include <utility>
 
 using namespace ovoui::lists;
 
@@ -71,6 +71,12 @@ bool put(UINT format, Block block)
     return true;
 }
 
+bool asksForCopy(WPARAM virtualKey)
+{
+    return (virtualKey == L'C' || virtualKey == VK_INSERT) && ::GetKeyState(VK_CONTROL) < 0 &&
+           ::GetKeyState(VK_SHIFT) >= 0 && ::GetKeyState(VK_MENU) >= 0;
+}
+
 } // namespace
 
 bool copySelectedRows(CListCtrl& list, bool headings)
@@ -104,35 +110,32 @@ COVOListCopier::~COVOListCopier()
 
 void COVOListCopier::Attach(CListCtrl& list, bool headings)
 {
-    Detach();
+    hear(list);
     m_list = &list;
-    m_window = list.m_hWnd;
     m_headings = headings;
-    ::SetWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this),
-                        reinterpret_cast<DWORD_PTR>(this));
 }
 
 void COVOListCopier::Detach()
 {
-    if (m_window)
-        ::RemoveWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this));
-    m_list = nullptr;
-    m_window = nullptr;
+    stopHearing();
 }
 
-LRESULT CALLBACK COVOListCopier::listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                               UINT_PTR, DWORD_PTR copier)
+void COVOListCopier::left()
 {
-    auto* const self = reinterpret_cast<COVOListCopier*>(copier);
-    if (message == WM_NCDESTROY)
-        self->Detach();
-    const bool wantsCopy = message == WM_KEYDOWN && (wParam == L'C' || wParam == VK_INSERT) &&
-                           ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_SHIFT) >= 0 &&
-                           ::GetKeyState(VK_MENU) >= 0;
-    const Lifeline::Watch watch(self->m_lifeline);
-    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
-    // Last, since the host is called, who may take subclasses away.
-    if (wantsCopy && watch.alive() && self->m_window == window)
-        copySelectedRows(*self->m_list, self->m_headings);
-    return result;
+    m_list = nullptr;
+    m_asked = false;
+}
+
+/// The keys held are those of now: the parent, who hears of the key next, may wait for others.
+bool COVOListCopier::takes(UINT message, WPARAM wParam, LPARAM, LRESULT&)
+{
+    if (message == WM_KEYDOWN && asksForCopy(wParam))
+        m_asked = true;
+    return false;
+}
+
+void COVOListCopier::heard(UINT message, WPARAM, LPARAM)
+{
+    if (message == WM_KEYDOWN && std::exchange(m_asked, false))
+        copySelectedRows(*m_list, m_headings);
 }

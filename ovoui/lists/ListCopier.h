@@ -5,7 +5,7 @@
 #pragma once
 
 #include <ovoui/export.h>
-#include <ovoui/frame/Lifeline.h>
+#include <ovoui/lists/ListHelper.h>
 
 #include <afxcmn.h>
 
@@ -15,13 +15,11 @@
 OVOUI_API bool copySelectedRows(CListCtrl& list, bool headings);
 
 /// Lets a list copy its selected rows when Ctrl+C or Ctrl+Insert is pressed in it.
-class OVOUI_API COVOListCopier
+class OVOUI_API COVOListCopier : private ovoui::lists::ListHelper
 {
 public:
     COVOListCopier();
-    ~COVOListCopier();
-    COVOListCopier(const COVOListCopier&) = delete;
-    COVOListCopier& operator=(const COVOListCopier&) = delete;
+    ~COVOListCopier() override;
 
     /// The list must have its window. It may be destroyed before this object. Replaces the list of before.
     /// With `headings` they stand above the copied rows.
@@ -30,11 +28,11 @@ public:
     void Detach();
 
 private:
-    static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                          UINT_PTR id, DWORD_PTR copier);
+    bool takes(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+    void heard(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void left() override;
 
     CListCtrl* m_list = nullptr;
-    HWND m_window = nullptr;
     bool m_headings = false;
-    Lifeline m_lifeline;
+    bool m_asked = false; ///< by a key that the list is handling
 };

@@ -1,7 +1,6 @@
 #include <ovoui/lists/ListCtrlEx.h>
 
 #include <ovoui/frame/Lifeline.h>
-#include <ovoui/lists/ColumnShape.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListRowPainter.h>
 #include <ovoui/lists/OwnChange.h>
@@ -149,12 +148,14 @@ LPCWSTR COVOListCtrlEx::MakeShortString(CDC* pDC, LPCWSTR text, int width, int o
 
 void COVOListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
-    const int item = static_cast<int>(lpDrawItemStruct->itemID);
-    RowLook look{m_clientWidth,  m_stateImageWidth, m_colourColumns, columnShapes(),
-                 m_followsOrder, hasFocus(),        m_emphasised,    std::nullopt};
+    // Kept here, since the list may be gone when the host has been asked for a text.
+    const std::shared_ptr<const ListLook> shared =
+        m_painting ? m_painted : std::make_shared<const ListLook>(lookNow());
+    RowLook look{*shared,        m_clientWidth, m_stateImageWidth, m_colourColumns,
+                 m_followsOrder, m_emphasised,  std::nullopt};
     const Lifeline::Watch watch(*this);
     if (m_useRowColours)
-        look.colour = rowColour(item);
+        look.colour = rowColour(static_cast<int>(lpDrawItemStruct->itemID));
     if (watch.alive())
         ListRowPainter(*this, *lpDrawItemStruct, look).paint();
 }
@@ -195,23 +196,19 @@ void COVOListCtrlEx::OnPaint()
         update.right = m_clientWidth;
         RedrawWindow(&update, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
     }
-    m_paintsFocused = hasFocus();
-    m_paintedColumns = columnShapes();
+    m_painted = std::make_shared<const ListLook>(lookNow());
     const OwnChange painting(*this, m_painting);
     CWnd::OnPaint();
 }
 
-// Asked once for all rows that are painted together: some platforms take as long for it as for drawing one.
-
-bool COVOListCtrlEx::hasFocus() const
+/// Asked once for all rows that are painted together: some platforms take as long for it as for drawing one.
+ListLook COVOListCtrlEx::lookNow() const
 {
-    return m_painting ? m_paintsFocused : ::GetFocus() == m_hWnd;
+    return {::GetFocus() == m_hWnd, GetBkColor(), ListView_GetImageList(m_hWnd, LVSIL_SMALL), columnShapes()};
 }
 
 std::vector<ColumnShape> COVOListCtrlEx::columnShapes() const
 {
-    if (m_painting)
-        return m_paintedColumns;
     std::vector<ColumnShape> shapes;
     LVCOLUMN column{};
     column.mask = LVCF_FMT | LVCF_WIDTH;

@@ -15,13 +15,16 @@
 #include <afxcmn.h>
 
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace ovoui::lists
 {
 class DirectList;
+class ListCells;
 struct ColumnShape;
+struct ListLook;
 } // namespace ovoui::lists
 
 /// The control makes itself an owner-drawn report list when it is created. On a dialog item the template must
@@ -110,9 +113,10 @@ protected:
 
 private:
     friend class ovoui::lists::DirectList;
+    friend class ovoui::lists::ListCells;
 
     bool inReportView() const;
-    bool hasFocus() const;
+    ovoui::lists::ListLook lookNow() const;
     std::vector<ovoui::lists::ColumnShape> columnShapes() const;
     bool isOurs(const CWnd* window) const;
     void repaintRow(int item);
@@ -127,8 +131,6 @@ private:
     bool m_followsOrder = false;
     std::wstring m_emphasised; ///< in lower case
 
-    // What all rows that are painted together need
-    bool m_painting = false; ///< within OnPaint
-    bool m_paintsFocused = false;
-    std::vector<ovoui::lists::ColumnShape> m_paintedColumns;
+    std::shared_ptr<const ovoui::lists::ListLook> m_painted; ///< counts while m_painting
+    bool m_painting = false;                                 ///< within OnPaint
 };

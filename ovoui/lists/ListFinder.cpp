@@ -81,23 +81,21 @@ COVOListFinder::~COVOListFinder()
 
 void COVOListFinder::Attach(COVOListCtrlEx& list)
 {
-    Detach();
+    hear(list);
     m_list = &list;
-    m_window = list.m_hWnd;
-    ::SetWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this),
-                        reinterpret_cast<DWORD_PTR>(this));
 }
 
 void COVOListFinder::Detach()
 {
-    if (m_window) {
-        ::RemoveWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this));
-        if (CWnd::FromHandlePermanent(m_window) == m_list)
-            keep({});
-    }
+    stopHearing();
+}
+
+void COVOListFinder::left()
+{
+    if (CWnd::FromHandlePermanent(m_window) == m_list)
+        keep({});
     *m_state = {};
     m_list = nullptr;
-    m_window = nullptr;
 }
 
 const std::wstring& COVOListFinder::Text() const
@@ -107,22 +105,16 @@ const std::wstring& COVOListFinder::Text() const
 
 // Keys
 
-LRESULT CALLBACK COVOListFinder::listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                               UINT_PTR, DWORD_PTR finder)
+bool COVOListFinder::takes(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
-    auto* const self = reinterpret_cast<COVOListFinder*>(finder);
-    if (message == WM_NCDESTROY) {
-        self->Detach();
-        return ::DefSubclassProc(window, message, wParam, lParam);
+    if (message == WM_GETDLGCODE && !Text().empty() && asksForEscape(lParam)) {
+        result = DLGC_WANTALLKEYS;
+        return true;
     }
-    if (message == WM_GETDLGCODE && !self->Text().empty() && asksForEscape(lParam))
-        return DLGC_WANTALLKEYS;
-    if (self->takes(message, wParam))
-        return 0;
-    return ::DefSubclassProc(window, message, wParam, lParam);
+    return takesKey(message, wParam);
 }
 
-bool COVOListFinder::takes(UINT message, WPARAM wParam)
+bool COVOListFinder::takesKey(UINT message, WPARAM wParam)
 {
     if (message == WM_KEYDOWN && wParam == VK_SPACE) // what the list does with it happens here
         return spaceIsText();

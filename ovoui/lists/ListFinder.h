@@ -5,8 +5,8 @@
 #pragma once
 
 #include <ovoui/export.h>
-#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/ListHelper.h>
 
 #include <memory>
 #include <string>
@@ -32,13 +32,11 @@ OVOUI_API bool containsText(const std::wstring& text, const std::wstring& part);
 /// A list with LVS_OWNERDATA is not read: its parent gets LVN_ODFINDITEM with LVFI_STRING, LVFI_PARTIAL and
 /// LVFI_WRAP, and answers with the first row from `iStart` on that has the text, or -1. Shift+F3 finds
 /// nothing there.
-class OVOUI_API COVOListFinder
+class OVOUI_API COVOListFinder : private ovoui::lists::ListHelper
 {
 public:
     COVOListFinder();
-    ~COVOListFinder();
-    COVOListFinder(const COVOListFinder&) = delete;
-    COVOListFinder& operator=(const COVOListFinder&) = delete;
+    ~COVOListFinder() override;
 
     /// The list must have its window. It may be destroyed before this object. Replaces the list of before.
     void Attach(COVOListCtrlEx& list);
@@ -55,9 +53,9 @@ public:
     const std::wstring& Text() const;
 
 private:
-    static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                          UINT_PTR id, DWORD_PTR finder);
-    bool takes(UINT message, WPARAM wParam);
+    bool takes(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+    void left() override;
+    bool takesKey(UINT message, WPARAM wParam);
     bool spaceIsText() const;
     bool key(ovoui::lists::FindKey key, wchar_t character);
     bool search(const ovoui::lists::FindState& state, ovoui::lists::Search how);
@@ -66,7 +64,5 @@ private:
     bool goTo(int row);
 
     COVOListCtrlEx* m_list = nullptr;
-    HWND m_window = nullptr;
     std::unique_ptr<ovoui::lists::FindState> m_state;
-    Lifeline m_lifeline;
 };

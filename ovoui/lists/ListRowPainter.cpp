@@ -3,11 +3,10 @@
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/EmphasisedText.h>
-#include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/ListCells.h>
 #include <ovoui/lists/SolidFill.h>
 #include <ovoui/lists/core/RowLayout.h>
 
-using ovoui::frame::toBox;
 using ovoui::frame::toRect;
 
 namespace ovoui::lists
@@ -85,13 +84,6 @@ UINT alignmentOf(int format)
     }
 }
 
-frame::Box itemBox(const COVOListCtrlEx& list, int item, UINT part)
-{
-    CRect rect;
-    list.GetItemRect(item, &rect, part);
-    return toBox(rect);
-}
-
 /// Empty where the platform has no text.
 LPCWSTR textOf(const LVITEM& item)
 {
@@ -121,7 +113,7 @@ void ListRowPainter::paint()
     fillRow(row);
     paintLabel(label);
     paintSubItems(label);
-    if ((m_item.state & LVIS_FOCUSED) && m_look.focused) {
+    if ((m_item.state & LVIS_FOCUSED) && m_look.list.focused) {
         const RECT edge = toRect(row);
         m_dc.DrawFocusRect(&edge);
     }
@@ -143,9 +135,8 @@ frame::Box ListRowPainter::rowBoxOf(const frame::Box& label) const
     const CHeaderCtrl* const header = m_look.followsOrder ? m_list.GetHeaderCtrl() : nullptr;
     if (!header)
         return row;
-    row.left = cellBox(header->OrderToIndex(0), 0, label).left;
-    row.right =
-        std::max(row.right, cellBox(header->OrderToIndex(header->GetItemCount() - 1), 0, label).right);
+    row.left = cellOf(header->OrderToIndex(0), 0, label).left;
+    row.right = std::max(row.right, cellOf(header->OrderToIndex(header->GetItemCount() - 1), 0, label).right);
     return row;
 }
 
@@ -165,7 +156,7 @@ void ListRowPainter::chooseColours()
 {
     const bool selected = looksSelected();
     m_text = ::GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT);
-    m_background = selected ? ::GetSysColor(COLOR_HIGHLIGHT) : m_list.GetBkColor();
+    m_background = selected ? ::GetSysColor(COLOR_HIGHLIGHT) : m_look.list.background;
     m_colours = m_look.colour ? coloursOf(*m_look.colour)
                               : EntryColours{m_background, m_background, m_background, m_text};
 }
@@ -174,7 +165,7 @@ bool ListRowPainter::looksSelected() const
 {
     if (m_item.state & LVIS_DROPHILITED)
         return true;
-    return (m_item.state & LVIS_SELECTED) && (m_look.focused || (m_list.GetStyle() & LVS_SHOWSELALWAYS));
+    return (m_item.state & LVIS_SELECTED) && (m_look.list.focused || (m_list.GetStyle() & LVS_SHOWSELALWAYS));
 }
 
 bool ListRowPainter::isColourColumn(int column) const
@@ -227,35 +218,29 @@ void ListRowPainter::paintStateImage()
 
 void ListRowPainter::paintIcon()
 {
-    CImageList* const images = m_list.GetImageList(LVSIL_SMALL);
-    if (!images || CRect(m_draw.rcItem).Width() < kNarrowestForIcon)
+    if (!m_look.list.icons || CRect(m_draw.rcItem).Width() < kNarrowestForIcon)
         return;
     const frame::Box icon = itemBox(m_list, m_index, LVIR_ICON);
-    images->Draw(&m_dc, m_item.iImage, CPoint(icon.left, icon.top),
-                 ILD_TRANSPARENT | (m_item.state & LVIS_OVERLAYMASK));
+    ::ImageList_Draw(m_look.list.icons, m_item.iImage, m_dc, icon.left, icon.top,
+                     ILD_TRANSPARENT | (m_item.state & LVIS_OVERLAYMASK));
 }
 
 // The other columns
 
-frame::Box ListRowPainter::cellBox(int column, int width, const frame::Box& before) const
+frame::Box ListRowPainter::cellOf(int column, int width, const frame::Box& before) const
 {
-    CRect rect;
-    if (column == 0)
-        return itemBox(m_list, m_index, LVIR_LABEL);
-    if (m_look.followsOrder && m_list.GetSubItemRect(m_index, column, LVIR_BOUNDS, rect))
-        return toBox(rect);
-    return cellAfter(before, width);
+    return cellBox(m_list, m_index, column, width, before, m_look.followsOrder);
 }
 
 void ListRowPainter::paintSubItems(const frame::Box& label)
 {
     frame::Box box = label;
     const Lifeline::Watch watch(m_list);
-    const int count = static_cast<int>(m_look.columns.size());
+    const int count = static_cast<int>(m_look.list.columns.size());
     // The platform may ask the host for a text, who may destroy the list instead.
     for (int i = 1; i < count && watch.alive(); ++i) {
-        const ColumnShape& column = m_look.columns[static_cast<std::size_t>(i)];
-        box = cellBox(i, column.width, box);
+        const ColumnShape& column = m_look.list.columns[static_cast<std::size_t>(i)];
+        box = cellOf(i, column.width, box);
         s_itemText[0] = 0;
         LVITEM item{};
         item.mask = LVIF_TEXT;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <ovoui/frame/core/Placement.h>
-#include <ovoui/lists/ColumnShape.h>
+#include <ovoui/lists/ListLook.h>
 #include <ovoui/lists/core/EntryColours.h>
 
 #include <afxcmn.h>
@@ -19,12 +19,11 @@ namespace ovoui::lists
 /// What the list knows about a row and the platform does not.
 struct RowLook
 {
+    const ListLook& list;
     int clientWidth;
     int stateImageWidth;
     const std::vector<bool>& colourColumns;
-    std::vector<ColumnShape> columns;  ///< by number
     bool followsOrder;                 ///< cells lie under their headings
-    bool focused;                      ///< the list has the keyboard focus
     const std::wstring& emphasised;    ///< folded; empty for none
     std::optional<ColourEntry> colour; ///< none when rows have no colours of their own
 };
@@ -46,7 +45,7 @@ private:
     bool isColourColumn(int column) const;
 
     frame::Box rowBoxOf(const frame::Box& label) const;
-    frame::Box cellBox(int column, int width, const frame::Box& before) const;
+    frame::Box cellOf(int column, int width, const frame::Box& before) const;
     void fillRow(const frame::Box& row);
     void paintSwatch(const frame::Box& box);
     void paintStateImage();

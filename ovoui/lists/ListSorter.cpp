@@ -1,9 +1,9 @@
 #include <ovoui/lists/ListSorter.h>
 
+#include <ovoui/lists/LocaleOrder.h>
 #include <ovoui/lists/RowData.h>
 #include <ovoui/lists/core/NumberText.h>
 #include <ovoui/lists/core/RowOrder.h>
-#include <ovoui/lists/core/SortKeys.h>
 
 #include <commctrl.h>
 #include <oleauto.h>
@@ -49,43 +49,12 @@ std::vector<Key> keysOf(const COVOListCtrlEx& list, int column, Make make)
     return keys;
 }
 
-/// Bytes that sort as texts do in the user's locale.
-class LocaleKeys
-{
-public:
-    /// Until the next call.
-    std::string_view operator()(LPCWSTR text)
-    {
-        int size = map(text);
-        if (size == 0) {
-            m_room.resize(static_cast<std::size_t>(
-                std::max(1, ::LCMapStringW(LOCALE_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, text, -1,
-                                           nullptr, 0))));
-            size = map(text);
-        }
-        return {m_room.data(), static_cast<std::size_t>(size)};
-    }
-
-private:
-    /// 0 when there is not room enough.
-    int map(LPCWSTR text)
-    {
-        return ::LCMapStringW(LOCALE_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, text, -1,
-                              reinterpret_cast<LPWSTR>(m_room.data()), static_cast<int>(m_room.size()));
-    }
-
-    std::vector<char> m_room = std::vector<char>(512);
-};
-
 std::vector<int> orderByLocale(const COVOListCtrlEx& list, int column, bool ascending)
 {
-    constexpr std::size_t kUsualKey = 32; // bytes
-    LocaleKeys keyOf;
-    SortKeys keys;
-    const auto count = static_cast<std::size_t>(list.GetItemCount());
-    keys.reserve(count, count * kUsualKey);
-    eachText(list, column, [&](LPCWSTR text) { keys.add(keyOf(text)); });
-    return keys.order(ascending);
+    LocaleOrder texts;
+    texts.reserve(static_cast<std::size_t>(list.GetItemCount()));
+    eachText(list, column, [&](LPCWSTR text) { texts.add(text); });
+    return texts.order(ascending);
 }
 
 double dateIn(LPCWSTR text)
@@ -115,19 +84,18 @@ COVOListSorter::~COVOListSorter()
 
 void COVOListSorter::Attach(COVOListCtrlEx& list)
 {
-    Detach();
+    hear(list);
     m_list = &list;
-    m_window = list.m_hWnd;
-    ::SetWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this),
-                        reinterpret_cast<DWORD_PTR>(this));
 }
 
 void COVOListSorter::Detach()
 {
-    if (m_window)
-        ::RemoveWindowSubclass(m_window, &listProcedure, reinterpret_cast<UINT_PTR>(this));
+    stopHearing();
+}
+
+void COVOListSorter::left()
+{
     m_list = nullptr;
-    m_window = nullptr;
     m_column = -1;
 }
 
@@ -148,26 +116,14 @@ COVOListSorter::Kind COVOListSorter::kindOf(int column) const
     return found == m_kinds.end() ? Kind::Text : found->second;
 }
 
-/// The sorter may be destroyed or attached elsewhere while the list and its parent handle the click.
-LRESULT CALLBACK COVOListSorter::listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                               UINT_PTR, DWORD_PTR sorter)
+/// When the parent has been told of the click.
+void COVOListSorter::heard(UINT message, WPARAM, LPARAM lParam)
 {
-    auto* const self = reinterpret_cast<COVOListSorter*>(sorter);
-    if (message == WM_NCDESTROY) {
-        self->Detach();
-        return ::DefSubclassProc(window, message, wParam, lParam);
-    }
-    int clicked = -1;
-    if (message == WM_NOTIFY) {
-        const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
-        if (header.code == static_cast<UINT>(HDN_ITEMCLICKW))
-            clicked = reinterpret_cast<const NMHEADERW&>(header).iItem;
-    }
-    const Lifeline::Watch watch(self->m_lifeline);
-    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
-    if (clicked >= 0 && watch.alive() && self->m_window == window)
-        self->headingClicked(clicked);
-    return result;
+    if (message != WM_NOTIFY)
+        return;
+    const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
+    if (header.code == static_cast<UINT>(HDN_ITEMCLICKW))
+        headingClicked(reinterpret_cast<const NMHEADERW&>(header).iItem);
 }
 
 void COVOListSorter::headingClicked(int column)

@@ -7,8 +7,8 @@
 #pragma once
 
 #include <ovoui/export.h>
-#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/ListHelper.h>
 
 #include <functional>
 #include <map>
@@ -19,7 +19,7 @@
 ///
 /// The parent still gets LVN_COLUMNCLICK, before the list is sorted. A list with LVS_OWNERDATA is never
 /// sorted.
-class OVOUI_API COVOListSorter
+class OVOUI_API COVOListSorter : private ovoui::lists::ListHelper
 {
 public:
     /// What a column is compared as.
@@ -36,9 +36,7 @@ public:
     using Compare = std::function<int(COVOListCtrlEx& list, int row, int other)>;
 
     COVOListSorter();
-    ~COVOListSorter();
-    COVOListSorter(const COVOListSorter&) = delete;
-    COVOListSorter& operator=(const COVOListSorter&) = delete;
+    ~COVOListSorter() override;
 
     /// The list must have its window. It may be destroyed before this object. Replaces the list of before.
     void Attach(COVOListCtrlEx& list);
@@ -59,8 +57,8 @@ public:
     bool Ascending() const { return m_ascending; }
 
 private:
-    static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                          UINT_PTR id, DWORD_PTR sorter);
+    void heard(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void left() override;
     void headingClicked(int column);
     std::vector<int> orderOf(int column, bool ascending) const;
     std::vector<int> orderByHost(int column, bool ascending) const;
@@ -68,10 +66,8 @@ private:
     void showArrow();
 
     COVOListCtrlEx* m_list = nullptr;
-    HWND m_window = nullptr;
     std::map<int, Kind> m_kinds;
     std::map<int, Compare> m_compares;
     int m_column = -1;
     bool m_ascending = true;
-    Lifeline m_lifeline;
 };

@@ -1,0 +1,68 @@
+#include <ovoui/lists/ListCells.h>
+
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/lists/ColumnShape.h>
+#include <ovoui/lists/core/RowLayout.h>
+
+#include <algorithm>
+
+using ovoui::frame::toBox;
+
+namespace ovoui::lists
+{
+
+frame::Box itemBox(const COVOListCtrlEx& list, int row, UINT part)
+{
+    CRect rect;
+    list.GetItemRect(row, &rect, part);
+    return toBox(rect);
+}
+
+frame::Box cellBox(COVOListCtrlEx& list, int row, int column, int width, const frame::Box& before,
+                   bool followsOrder)
+{
+    CRect rect;
+    if (column == 0)
+        return itemBox(list, row, LVIR_LABEL);
+    if (followsOrder && list.GetSubItemRect(row, column, LVIR_BOUNDS, rect))
+        return toBox(rect);
+    return cellAfter(before, width);
+}
+
+int ListCells::rowAt(int y) const
+{
+    const int top = m_list.GetTopIndex();
+    const frame::Box first = itemBox(m_list, top, LVIR_BOUNDS);
+    if (first.height() <= 0 || y < first.top)
+        return -1;
+    const int row = top + (y - first.top) / first.height();
+    return row < m_list.GetItemCount() ? row : -1;
+}
+
+std::vector<frame::Box> ListCells::cellsOf(int row) const
+{
+    std::vector<frame::Box> cells;
+    for (const ColumnShape& column : m_list.columnShapes())
+        cells.push_back(cellBox(m_list, row, static_cast<int>(cells.size()), column.width,
+                                cells.empty() ? frame::Box() : cells.back(), m_list.m_followsOrder));
+    return cells;
+}
+
+int ListCells::columnAt(int row, int x) const
+{
+    const std::vector<frame::Box> cells = cellsOf(row);
+    const auto found = std::find_if(cells.begin(), cells.end(),
+                                    [x](const frame::Box& cell) { return cell.left <= x && x < cell.right; });
+    return found == cells.end() ? -1 : static_cast<int>(found - cells.begin());
+}
+
+std::optional<frame::Box> ListCells::textArea(int row, int column) const
+{
+    const std::vector<frame::Box> cells = cellsOf(row);
+    if (row >= m_list.GetItemCount() || column < 0 || column >= static_cast<int>(cells.size()))
+        return std::nullopt;
+    const frame::Box& cell = cells[static_cast<std::size_t>(column)];
+    return column == 0 ? labelTextBox(cell, m_list.m_stateImageWidth) : cell;
+}
+
+} // namespace ovoui::lists
