@@ -10,6 +10,7 @@ namespace ovoui::lists
 
 /// Hears the messages of a list's window. One subclass of the window serves all its helpers, since each costs
 /// some platforms more than what the helpers do. A helper that is attached later hears a message earlier.
+/// `message`, `wParam` and `lParam` are what the window gets.
 class ListHelper
 {
 public:
@@ -23,6 +24,7 @@ protected:
     /// The list must have its window, which may be destroyed before this object. Replaces the window of
     /// before.
     void hear(CWnd& list);
+    /// Nothing happens without a window.
     void stopHearing();
 
     /// Before the list has a message. True: the list does not get it, and `result` is the answer.
@@ -33,7 +35,7 @@ protected:
     virtual void left();
 
     HWND m_window = nullptr; ///< null without a list
-    Lifeline m_lifeline;
+    Lifeline m_lifeline;     ///< for derived classes that call the host
 
 private:
     friend class ListMessages;
