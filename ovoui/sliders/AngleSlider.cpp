@@ -231,19 +231,20 @@ void CAngleSlider::ShadeRect(const CRect& rect, CDC* dc)
     const bool enabled = IsWindowEnabled() != FALSE;
     const bool sideways = m_axis == Axis::Vertical;
     const double rotation = m_reversed ? -m_drag->shown() : m_drag->shown();
-    const CylinderPicture picture =
-        cylinderPicture(sideways ? rect.left : rect.top, sideways ? rect.right : rect.bottom, rotation,
-                        systemColours(enabled), enabled);
-    for (const Strip& strip : picture.strips) {
-        CRect place = rect;
-        (sideways ? place.left : place.top) = strip.from;
-        (sideways ? place.right : place.bottom) = strip.to;
-        dc->FillSolidRect(&place, colorrefOf(strip.colour));
-    }
+    const int from = sideways ? rect.left : rect.top;
+    const int to = sideways ? rect.right : rect.bottom;
+    const CylinderPicture picture = cylinderPicture(from, to, rotation, systemColours(enabled), enabled);
     CGdiObject* const old = dc->SelectStockObject(DC_PEN);
-    for (const RibLine& line : picture.lines) {
-        ::SetDCPenColor(*dc, colorrefOf(line.colour));
-        DrawLine(dc, rect, line.at);
+    for (const Strip& strip : seenStrips(picture)) {
+        if (strip.from > from && strip.to - strip.from == 1) {
+            ::SetDCPenColor(*dc, colorrefOf(strip.colour));
+            DrawLine(dc, rect, strip.from);
+        } else {
+            CRect place = rect;
+            (sideways ? place.left : place.top) = strip.from;
+            (sideways ? place.right : place.bottom) = strip.to;
+            dc->FillSolidRect(&place, colorrefOf(strip.colour));
+        }
     }
     dc->SelectObject(static_cast<CPen*>(old));
 }

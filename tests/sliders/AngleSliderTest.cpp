@@ -441,10 +441,33 @@ TEST_F(AngleSlider, QuartersAreBrightBands)
     const COLORREF face = ::GetSysColor(COLOR_WINDOW);
     EXPECT_GT(picture.count(face, 0, CRect(5, 94, 36, 110)), 0);
     EXPECT_EQ(picture.count(face, 0, CRect(5, 40, 36, 80)), 0) << "between the quarters";
-    wheel->SetPos(30); // which goes down by half the way
-    EXPECT_GT(Picture::ofClient(*wheel).count(face, 8, CRect(5, 44, 36, 60)) +
-                  Picture::ofClient(*wheel).count(face, 8, CRect(5, 144, 36, 160)),
-              0);
+}
+
+TEST_F(AngleSlider, TheSurfaceTurnsAsThePointerPullsIt)
+{
+    CRoundSlider reversedRound(true);
+    reversedRound.Create(WS_CHILD | WS_VISIBLE, CRect(10, 60, 214, 100), &parent, 7);
+    CWheelSlider reversedWheel(true);
+    reversedWheel.Create(WS_CHILD | WS_VISIBLE, CRect(295, 10, 335, 214), &parent, 8);
+    const struct
+    {
+        CAngleSlider* slider;
+        bool sideways;
+        bool nearFirstEnd; ///< where the quarter of 0 degrees is seen when the slider stands at 30
+    } rows[] = {{round.get(), true, true},
+                {wheel.get(), false, true},
+                {&reversedRound, true, false},
+                {&reversedWheel, false, false}};
+    for (const auto& row : rows) {
+        row.slider->SetPos(30);
+        const Picture picture = Picture::ofClient(*row.slider);
+        const auto bright = [&](int from, int to) {
+            const CRect place = row.sideways ? CRect(from, 5, to, 36) : CRect(5, from, 36, to);
+            return picture.count(::GetSysColor(COLOR_WINDOW), 0, place) > 0;
+        };
+        EXPECT_EQ(bright(46, 58), row.nearFirstEnd) << row.sideways;
+        EXPECT_EQ(bright(146, 158), !row.nearFirstEnd) << row.sideways;
+    }
 }
 
 TEST_F(AngleSlider, SystemColoursAreFollowedLightOrDark)

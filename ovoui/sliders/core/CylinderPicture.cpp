@@ -103,6 +103,29 @@ Shade shadeAt(double degreesFromViewer, const Shade& dark, const Shade& light)
     return mixed(dark, light, std::clamp(std::cos(radians(degreesFromViewer)), 0.0, 1.0));
 }
 
+std::vector<Strip> seenStrips(const CylinderPicture& picture)
+{
+    if (picture.strips.empty())
+        return {};
+    const int from = picture.strips.front().from;
+    const int to = picture.strips.back().to;
+    std::vector<Shade> row(static_cast<std::size_t>(to - from));
+    for (const Strip& strip : picture.strips)
+        std::fill(row.begin() + (strip.from - from), row.begin() + (strip.to - from), strip.colour);
+    for (const RibLine& line : picture.lines)
+        if (line.at > from && line.at < to)
+            row[static_cast<std::size_t>(line.at - from)] = line.colour;
+
+    std::vector<Strip> seen;
+    for (int at = from; at < to; ++at) {
+        const Shade& colour = row[static_cast<std::size_t>(at - from)];
+        if (seen.empty() || seen.back().colour != colour)
+            seen.push_back({at, at, colour});
+        seen.back().to = at + 1;
+    }
+    return seen;
+}
+
 CylinderPicture cylinderPicture(int from, int to, double rotation, const CylinderColours& colours,
                                 bool quarters)
 {

@@ -44,6 +44,10 @@ struct CylinderPicture
     std::vector<RibLine> lines; ///< drawn over the strips in this order; some may lie outside
 };
 
+/// What is seen of a picture, as the fewest strips: side by side, each of another colour than its neighbours.
+/// A line at the very first coordinate is not drawn.
+std::vector<Strip> seenStrips(const CylinderPicture& picture);
+
 /// `dark` and `light` mixed by the cosine of the angle from the viewer, channel by channel, rounded.
 Shade shadeAt(double degreesFromViewer, const Shade& dark, const Shade& light);
 

@@ -13,16 +13,25 @@ namespace
 
 constexpr CylinderColours kColours{{100, 0, 50}, {220, 200, 250}, {255, 255, 255}};
 
-/// What is seen at each pixel.
-std::vector<Shade> pixels(int from, int to, double rotation, bool quarters)
+/// The picture drawn step by step: strips, then lines, of which those at the first coordinate do not show.
+std::vector<Shade> drawn(int from, int to, double rotation, bool quarters)
 {
     const CylinderPicture picture = cylinderPicture(from, to, rotation, kColours, quarters);
     std::vector<Shade> row(static_cast<std::size_t>(to - from), Shade{-1, -1, -1});
     for (const Strip& strip : picture.strips)
         std::fill(row.begin() + strip.from - from, row.begin() + strip.to - from, strip.colour);
     for (const RibLine& line : picture.lines)
-        if (line.at >= from && line.at < to)
+        if (line.at > from && line.at < to)
             row[static_cast<std::size_t>(line.at - from)] = line.colour;
+    return row;
+}
+
+/// What is seen at each pixel.
+std::vector<Shade> pixels(int from, int to, double rotation, bool quarters)
+{
+    std::vector<Shade> row(static_cast<std::size_t>(to - from), Shade{-1, -1, -1});
+    for (const Strip& strip : seenStrips(cylinderPicture(from, to, rotation, kColours, quarters)))
+        std::fill(row.begin() + strip.from - from, row.begin() + strip.to - from, strip.colour);
     return row;
 }
 
@@ -50,6 +59,25 @@ TEST(CylinderPicture, StripsCoverItWithoutAGap)
         }
 }
 
+TEST(CylinderPicture, WhatIsSeenTakesAsFewStripsAsThereAreColoursInARow)
+{
+    for (const double rotation : {0.0, 2.5, 33.0, -31.7, 90.0, 1000.1})
+        for (const int width : {1, 2, 7, 40, 288, 300})
+            for (const bool quarters : {false, true}) {
+                EXPECT_EQ(pixels(3, 3 + width, rotation, quarters), drawn(3, 3 + width, rotation, quarters));
+                const CylinderPicture picture = cylinderPicture(3, 3 + width, rotation, kColours, quarters);
+                const std::vector<Strip> seen = seenStrips(picture);
+                EXPECT_EQ(seen.front().from, 3);
+                EXPECT_EQ(seen.back().to, 3 + width);
+                for (std::size_t i = 1; i < seen.size(); ++i) {
+                    EXPECT_EQ(seen[i].from, seen[i - 1].to);
+                    EXPECT_NE(seen[i].colour, seen[i - 1].colour);
+                }
+                EXPECT_LE(seen.size(), picture.strips.size() + picture.lines.size());
+            }
+    EXPECT_TRUE(seenStrips({}).empty());
+}
+
 TEST(CylinderPicture, StripsDarkenTowardsTheEdges)
 {
     const std::vector<Strip> strips = cylinderPicture(0, 300, 2.5, kColours, true).strips;
@@ -59,6 +87,20 @@ TEST(CylinderPicture, StripsDarkenTowardsTheEdges)
     EXPECT_EQ(lightest->colour, kColours.light) << "the one in the middle";
     EXPECT_TRUE(std::is_sorted(strips.begin(), lightest, darker));
     EXPECT_TRUE(std::is_sorted(strips.rbegin(), std::make_reverse_iterator(lightest), darker));
+}
+
+TEST(CylinderPicture, AStripHasTheShadeOfItsMiddle)
+{
+    const auto stripAt = [](const CylinderPicture& picture, int x) {
+        return std::find_if(picture.strips.begin(), picture.strips.end(),
+                            [x](const Strip& strip) { return strip.to > x; });
+    };
+    const CylinderPicture picture = cylinderPicture(0, 300, 0, kColours, false);
+    for (const double middle : {-62.5, -32.5, -2.5, 2.5, 47.5}) {
+        const double sine = std::sin(middle * 3.14159265358979 / 180);
+        const auto strip = stripAt(picture, static_cast<int>(150 + 150 * sine));
+        EXPECT_EQ(strip->colour, shadeAt(middle, kColours.dark, kColours.light)) << middle;
+    }
 }
 
 TEST(CylinderPicture, TheShadingFollowsTheCosineEverywhere)
