@@ -1,13 +1,33 @@
 #include <ovoui/frame/BufferedPaint.h>
 
+namespace
+{
+
+/// A bitmap of 32 bits in memory. One that is compatible with the window would have to ask the display first.
+HBITMAP createMemoryBitmap(const CSize& size)
+{
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = size.cx;
+    info.bmiHeader.biHeight = -size.cy; // rows from the top
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* bits = nullptr;
+    return ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+}
+
+} // namespace
+
 BufferedPaint::BufferedPaint(CWnd& wnd)
     : m_paint(&wnd)
 {
     wnd.GetClientRect(&m_client);
     if (m_client.IsRectEmpty() || !m_memory.CreateCompatibleDC(&m_paint))
         return;
-    if (m_bitmap.CreateCompatibleBitmap(&m_paint, m_client.Width(), m_client.Height()))
+    if (const HBITMAP bitmap = createMemoryBitmap(m_client.Size())) {
+        m_bitmap.Attach(bitmap);
         m_old = m_memory.SelectObject(&m_bitmap);
+    }
 }
 
 BufferedPaint::~BufferedPaint()

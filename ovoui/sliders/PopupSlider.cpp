@@ -1,5 +1,6 @@
 #include <ovoui/sliders/PopupSlider.h>
 
+#include <ovoui/frame/Geometry.h>
 #include <ovoui/sliders/SliderButton.h>
 
 #include <ovouires/resource.h>
@@ -9,6 +10,8 @@ BEGIN_MESSAGE_MAP(CPopupSlider, CDialog)
     ON_WM_SETFOCUS()
     ON_WM_ACTIVATE()
     ON_WM_ACTIVATEAPP()
+    ON_MESSAGE(WM_DISPLAYCHANGE, &CPopupSlider::OnScreenChanged)
+    ON_MESSAGE(WM_SETTINGCHANGE, &CPopupSlider::OnScreenChanged)
 END_MESSAGE_MAP()
 
 namespace
@@ -34,6 +37,21 @@ BOOL CPopupSlider::Create(CSliderButton* owner)
 {
     m_owner = owner;
     return CDialog::Create(IDD_POPUP_SLIDER, owner);
+}
+
+/// Asking for monitors takes long, and the popup mostly opens where it was.
+void CPopupSlider::keepOnScreen(CRect& place)
+{
+    if (CRect(m_workArea & place) == place)
+        return;
+    EnsureRectVisible(place);
+    m_workArea = GetWorkArea(place);
+}
+
+LRESULT CPopupSlider::OnScreenChanged(WPARAM, LPARAM)
+{
+    m_workArea.SetRectEmpty();
+    return Default();
 }
 
 void CPopupSlider::makeRoomForTicks()

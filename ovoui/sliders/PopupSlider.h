@@ -25,6 +25,9 @@ public:
     /// The slider; it has its window while the popup has.
     CPopupSliderCtrl& slider() { return m_slider; }
 
+    /// Moves a place for the popup onto the screen, as EnsureRectVisible does.
+    void keepOnScreen(CRect& place);
+
     /// Makes slider and popup higher for ticks below the thumb, once.
     void makeRoomForTicks();
 
@@ -38,6 +41,7 @@ protected:
     afx_msg void OnActivateApp(BOOL active, DWORD thread);
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnSetFocus(CWnd* old);
+    afx_msg LRESULT OnScreenChanged(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -45,4 +49,5 @@ private:
 
     CPopupSliderCtrl m_slider;
     CSliderButton* m_owner = nullptr;
+    CRect m_workArea; ///< of the monitor where the popup was last; empty when it may have changed
 };

@@ -7,7 +7,7 @@ PopupWatcher* PopupWatcher::s_current = nullptr;
 namespace
 {
 
-bool isPress(WPARAM message)
+bool isPress(UINT message)
 {
     switch (message) {
     case WM_LBUTTONDOWN:
@@ -22,9 +22,9 @@ bool isPress(WPARAM message)
     }
 }
 
-bool isDown(LPARAM keyFlags)
+bool isEscape(const MSG& message)
 {
-    return (HIWORD(keyFlags) & KF_UP) == 0;
+    return message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE;
 }
 
 /// No exception may pass through the system that calls a hook.
@@ -42,32 +42,28 @@ void guarded(const Call& call)
 PopupWatcher::PopupWatcher(Calls calls)
     : m_calls(std::move(calls))
     , m_before(std::exchange(s_current, this))
-    , m_mouse(::SetWindowsHookExW(WH_MOUSE, &PopupWatcher::hearMouse, nullptr, ::GetCurrentThreadId()))
-    , m_keyboard(::SetWindowsHookExW(WH_KEYBOARD, &PopupWatcher::hearKey, nullptr, ::GetCurrentThreadId()))
+    , m_hook(::SetWindowsHookExW(WH_GETMESSAGE, &PopupWatcher::hear, nullptr, ::GetCurrentThreadId()))
 {
 }
 
 PopupWatcher::~PopupWatcher()
 {
-    ::UnhookWindowsHookEx(m_mouse);
-    ::UnhookWindowsHookEx(m_keyboard);
+    ::UnhookWindowsHookEx(m_hook);
     s_current = m_before;
 }
 
-LRESULT CALLBACK PopupWatcher::hearMouse(int code, WPARAM message, LPARAM event)
+/// Hears of every message that the thread takes from its queue, before its window does.
+LRESULT CALLBACK PopupWatcher::hear(int code, WPARAM removed, LPARAM message)
 {
-    if (code == HC_ACTION && s_current && isPress(message)) {
-        const auto pressed = s_current->m_calls.pressed; // a copy, since the watcher may go
-        guarded([&] { pressed(reinterpret_cast<const MOUSEHOOKSTRUCT*>(event)->hwnd); });
+    auto& taken = *reinterpret_cast<MSG*>(message);
+    if (code == HC_ACTION && removed == PM_REMOVE && s_current) {
+        // The calls are copied, since the watcher may go.
+        if (isPress(taken.message)) {
+            guarded([pressed = s_current->m_calls.pressed, under = taken.hwnd] { pressed(under); });
+        } else if (isEscape(taken)) {
+            taken.message = WM_NULL;
+            guarded([escape = s_current->m_calls.escape] { escape(); });
+        }
     }
-    return ::CallNextHookEx(nullptr, code, message, event);
-}
-
-LRESULT CALLBACK PopupWatcher::hearKey(int code, WPARAM key, LPARAM flags)
-{
-    if (code != HC_ACTION || !s_current || key != VK_ESCAPE || !isDown(flags))
-        return ::CallNextHookEx(nullptr, code, key, flags);
-    const auto escape = s_current->m_calls.escape;
-    guarded(escape);
-    return 1;
+    return ::CallNextHookEx(nullptr, code, removed, message);
 }

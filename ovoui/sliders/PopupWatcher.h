@@ -25,12 +25,10 @@ public:
     PopupWatcher& operator=(const PopupWatcher&) = delete;
 
 private:
-    static LRESULT CALLBACK hearMouse(int code, WPARAM message, LPARAM event);
-    static LRESULT CALLBACK hearKey(int code, WPARAM key, LPARAM flags);
+    static LRESULT CALLBACK hear(int code, WPARAM removed, LPARAM message);
 
     static PopupWatcher* s_current;
     Calls m_calls;
     PopupWatcher* m_before;
-    HHOOK m_mouse;
-    HHOOK m_keyboard;
+    HHOOK m_hook;
 };

@@ -19,7 +19,8 @@ void CSliderButton::SetSliderPos()
     if (!machineText(text) || !m_popup.m_hWnd)
         return;
     m_popup.slider().SetPos(m_parts->numbers.positionOf(text));
-    m_popup.slider().Invalidate();
+    if (m_popup.IsWindowVisible()) // all of it is painted when it is shown
+        m_popup.slider().Invalidate();
 }
 
 void CSliderButton::SetValue()

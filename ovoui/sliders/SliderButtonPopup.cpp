@@ -1,5 +1,4 @@
 // The popup of a slider button: where it opens, and how it goes.
-#include <ovoui/frame/Geometry.h>
 #include <ovoui/sliders/SliderButtonParts.h>
 
 using namespace ovoui::sliders;
@@ -42,7 +41,7 @@ void CSliderButton::placePopup(const CPoint& at)
     CRect popup;
     m_popup.GetWindowRect(&popup);
     popup.MoveToXY(pointer.x - (channel.left + thumb), button.bottom);
-    EnsureRectVisible(popup);
+    m_popup.keepOnScreen(popup);
     m_popup.SetWindowPos(&wndTop, popup.left, popup.top, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
 
     CRect client;
