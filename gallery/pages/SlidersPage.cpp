@@ -171,6 +171,20 @@ void SlidersPage::createAngles()
     m_dial.SetTicks(kDialTicks);
     m_dial.Create(WS_CHILD | WS_VISIBLE, CRect(), this, 1);
     replace(IDC_SLIDERS_DIAL, m_dial);
+    for (CAngleSlider* const slider : angleSliders()) {
+        slider->UseKeyboard(true);
+        slider->ModifyStyle(0, WS_TABSTOP);
+    }
+    for (const bool reversed : {false, true}) {
+        m_headings[reversed].SetWindowText(L"Heading");
+        m_tilts[reversed].SetWindowText(L"Tilt");
+    }
+    m_dial.SetWindowText(L"Heading");
+}
+
+std::vector<CAngleSlider*> SlidersPage::angleSliders()
+{
+    return {&m_headings[false], &m_headings[true], &m_tilts[false], &m_tilts[true], &m_dial};
 }
 
 void SlidersPage::arrange()
@@ -234,13 +248,8 @@ void SlidersPage::OnExtras()
         button.ShowBubble(use);
     }
     m_buttons[Logarithmic].SetTicks(use ? std::vector<double>{1, 10, 100} : std::vector<double>());
-    const std::initializer_list<CAngleSlider*> angles = {&m_headings[false], &m_headings[true],
-                                                         &m_tilts[false], &m_tilts[true], &m_dial};
-    for (CAngleSlider* const slider : angles) {
-        slider->UseKeyboard(use);
+    for (CAngleSlider* const slider : angleSliders())
         slider->SetSnap(use ? kSnap : 0);
-        slider->ModifyStyle(use ? 0 : WS_TABSTOP, use ? WS_TABSTOP : 0);
-    }
 }
 
 void SlidersPage::OnReversed()

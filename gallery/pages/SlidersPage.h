@@ -43,6 +43,7 @@ private:
 
     void createButtons();
     void createAngles();
+    std::vector<CAngleSlider*> angleSliders();
     void arrange();
     void showCurve(std::size_t row);
     void turn(double heading, double tilt);

@@ -15,6 +15,12 @@ AccessibleSlider::AccessibleSlider(const CWnd& slider, Text name, Text value)
 {
 }
 
+void AccessibleSlider::offer(Text action, std::function<void()> act)
+{
+    m_action = std::move(action);
+    m_act = std::move(act);
+}
+
 HWND AccessibleSlider::window() const
 {
     return m_watch.alive() ? m_window : nullptr;
@@ -35,6 +41,16 @@ std::wstring AccessibleSlider::value(int) const
     return m_value();
 }
 
+std::wstring AccessibleSlider::action(int) const
+{
+    return m_action ? m_action() : std::wstring();
+}
+
+void AccessibleSlider::act(int)
+{
+    m_act();
+}
+
 std::wstring labelBefore(HWND control)
 {
     const HWND label = ::GetWindow(control, GW_HWNDPREV);
@@ -49,6 +65,16 @@ std::wstring labelBefore(HWND control)
     if (name.ends_with(L':'))
         name.pop_back();
     return name;
+}
+
+std::wstring labelOrText(HWND control)
+{
+    std::wstring name = labelBefore(control);
+    if (!name.empty())
+        return name;
+    wchar_t text[200]{};
+    ::GetWindowTextW(control, text, 200);
+    return text;
 }
 
 } // namespace ovoui::sliders

@@ -13,6 +13,8 @@ class CylinderDrag;
 enum class Turn;
 } // namespace ovoui::sliders
 
+/// Accessibility sees a slider with the name of the label in front of it, else with its window's text.
+///
 /// Hosts use CRoundSlider and CWheelSlider. The parent gets a scroll message, sent, with SB_THUMBTRACK while
 /// the user drags and SB_THUMBPOSITION when the button is released; the high word is the angle in whole
 /// degrees, cut to 16 bits, and lParam the slider's window. The slider does not paint itself anew after the

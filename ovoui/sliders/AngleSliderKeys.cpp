@@ -142,7 +142,7 @@ LRESULT CAngleSlider::OnGetObject(WPARAM wParam, LPARAM lParam)
 {
     if (!ovoui::frame::asksForContents(lParam))
         return Default();
-    const auto name = [this] { return labelBefore(m_hWnd); };
+    const auto name = [this] { return labelOrText(m_hWnd); };
     const auto value = [this] { return std::to_wstring(roundedAngle()); };
     return ovoui::frame::accessibleAnswer(wParam, std::make_shared<AccessibleSlider>(*this, name, value));
 }

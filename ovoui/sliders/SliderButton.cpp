@@ -5,6 +5,8 @@
 #include <ovoui/sliders/SliderButtonFace.h>
 #include <ovoui/sliders/SliderButtonParts.h>
 
+#include <ovouires/resource.h>
+
 using namespace ovoui::sliders;
 
 BEGIN_MESSAGE_MAP(CSliderButton, CStatic)
@@ -148,8 +150,7 @@ void CSliderButton::SetPressed(bool pressed)
         m_parts->drag.end();
     }
     const Lifeline::Watch watch(*this);
-    Invalidate();
-    UpdateWindow();
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
     if (pressed || !m_parts->buddy.exists())
         return;
     ::SetFocus(m_parts->buddy.window());
@@ -238,5 +239,16 @@ LRESULT CSliderButton::OnGetObject(WPARAM wParam, LPARAM lParam)
         return Default();
     const auto name = [this] { return labelBefore(m_parts->buddy.window()); };
     const auto value = [this] { return m_parts->buddy.text(); };
-    return ovoui::frame::accessibleAnswer(wParam, std::make_shared<AccessibleSlider>(*this, name, value));
+    const auto slider = std::make_shared<AccessibleSlider>(*this, name, value);
+    // Posted, since the client waits and pressing calls the host.
+    slider->offer([this] { return actionName(); }, [this] { PostMessage(WM_KEYDOWN, VK_SPACE); });
+    return ovoui::frame::accessibleAnswer(wParam, slider);
+}
+
+std::wstring CSliderButton::actionName() const
+{
+    CString press;
+    if (IsWindowEnabled())
+        press.LoadString(IDS_ACTION_PRESS);
+    return press.GetString();
 }

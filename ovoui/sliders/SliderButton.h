@@ -152,6 +152,7 @@ private:
     void setBuddyText(const std::wstring& text);
     void stepBy(double steps);
     bool tellParent(UINT message);
+    std::wstring actionName() const;
 
     // input
     void enterTip();

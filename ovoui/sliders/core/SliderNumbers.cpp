@@ -53,7 +53,7 @@ bool isUsable(const HostMapping& mapping, const Positions& positions)
             return false;
         if (position > positions.minimum) {
             const double step = number - before;
-            if (step == 0 || step * direction < 0)
+            if (step * direction < 0)
                 return false;
             direction = step;
         }
