@@ -187,11 +187,28 @@ TEST_F(AngleSliderKeys, TheLabelInFrontIsTheName)
 {
     CStatic label;
     label.Create(L"&Heading:", WS_CHILD | WS_VISIBLE, CRect(10, 60, 60, 80), &parent, 7);
-    CRoundSlider labelled(false);
-    labelled.Create(WS_CHILD | WS_VISIBLE, CRect(70, 60, 200, 80), &parent, 8);
-    labelled.SetWindowPos(&label, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    EXPECT_EQ(AccessibleView(labelled).name(), L"Heading");
-    EXPECT_EQ(AccessibleView(*wheel).name(), L"") << "behind another slider";
+    CRoundSlider namedRound(false);
+    CWheelSlider namedWheel(false);
+    CDialSlider namedDial;
+    const CRect place(70, 60, 200, 80);
+    namedRound.Create(WS_CHILD | WS_VISIBLE, place, &parent, 8);
+    namedWheel.Create(WS_CHILD | WS_VISIBLE, place, &parent, 9);
+    namedDial.Create(WS_CHILD | WS_VISIBLE, place, &parent, 10);
+    for (CAngleSlider* named :
+         {static_cast<CAngleSlider*>(&namedRound), static_cast<CAngleSlider*>(&namedWheel),
+          static_cast<CAngleSlider*>(&namedDial)}) {
+        named->SetWindowPos(&label, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        const AccessibleView seen(*named);
+        EXPECT_EQ(seen.name(), L"Heading");
+        EXPECT_EQ(seen.role(), ROLE_SYSTEM_SLIDER);
+        EXPECT_EQ(seen.action(), L"") << "there is nothing to press";
+        EXPECT_FALSE(seen.state() & STATE_SYSTEM_UNAVAILABLE);
+        named->EnableWindow(FALSE);
+        EXPECT_TRUE(seen.state() & STATE_SYSTEM_UNAVAILABLE);
+    }
+    EXPECT_EQ(AccessibleView(*wheel).name(), L"WheelSlider") << "behind another slider it is its own text";
+    wheel->SetWindowText(L"Tilt");
+    EXPECT_EQ(AccessibleView(*wheel).name(), L"Tilt");
 }
 
 TEST_F(AngleSliderKeys, AccessibilityHearsOfEveryChangeOfTheAngle)

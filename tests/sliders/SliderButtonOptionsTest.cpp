@@ -295,6 +295,21 @@ TEST_F(SliderButtonOptions, AccessibilitySeesASliderWithTheBuddysText)
     EXPECT_EQ(seen->get_accValue(AccessibleView::numbered(CHILDID_SELF), &text), CO_E_OBJNOTCONNECTED);
 }
 
+TEST_F(SliderButtonOptions, AccessibilityPressesIt)
+{
+    show();
+    const AccessibleView seen(*button);
+    EXPECT_EQ(seen.action(), L"Press");
+    ASSERT_EQ(seen->accDoDefaultAction(AccessibleView::numbered(CHILDID_SELF)), S_OK);
+    user.waitFor("the popup", &isOpen);
+    ASSERT_EQ(seen->accDoDefaultAction(AccessibleView::numbered(CHILDID_SELF)), S_OK);
+    user.waitFor("the popup to go", &isClosed);
+    button->EnableWindow(FALSE);
+    EXPECT_EQ(seen.action(), L"") << "disabled";
+    EXPECT_TRUE(seen.state() & STATE_SYSTEM_UNAVAILABLE);
+    EXPECT_EQ(seen->accDoDefaultAction(AccessibleView::numbered(CHILDID_SELF)), DISP_E_MEMBERNOTFOUND);
+}
+
 TEST_F(SliderButtonOptions, AccessibilityHearsOfEveryChangeOfTheValue)
 {
     useLinear(0, 100, 0);

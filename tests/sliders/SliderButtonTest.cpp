@@ -4,6 +4,7 @@
 
 #include <testkit/GdiCounter.h>
 #include <testkit/GuiThread.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/WindowCounter.h>
 
 #include <ovoui/frame/Geometry.h>
@@ -158,6 +159,35 @@ TEST_F(SliderButton, AnActivePopupClosesWhenAnotherWindowIsActivated)
         << "hiding does not count once more";
 }
 
+TEST_F(SliderButton, TheDeactivatedPopupTellsItsButtonOnce)
+{
+    class Listening : public CSliderButton
+    {
+    public:
+        using CSliderButton::CSliderButton;
+        int told = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            told += message == CPopupSlider::kDeactivated ? 1 : 0;
+            return CSliderButton::WindowProc(message, wParam, lParam);
+        }
+    } listening(utils);
+    listening.SubclassWindow(button->UnsubclassWindow());
+    listening.SetBuddy(buddy);
+    show();
+    user.click(Spot{listening})
+        .waitFor("the popup", &isOpen)
+        .click(Spot{[] { return CPoint(thumbX(), middleOfSlider()); }})
+        .waitFor("the activation", [] { return ::GetActiveWindow() == popup(); });
+    parent.SetActiveWindow(); // hiding the popup would take the activation from it once more
+    user.waitFor("the message", [&] { return listening.told > 0; });
+    GuiThread::settle();
+    EXPECT_EQ(listening.told, 1);
+    EXPECT_TRUE(isClosed());
+}
+
 TEST_F(SliderButton, EveryChangeIsPaintedAtOnce)
 {
     show();
@@ -235,6 +265,43 @@ TEST_F(SliderButton, ThePopupStaysOnTheScreen)
             button->SendMessage(WM_KEYDOWN, VK_SPACE);
             ASSERT_TRUE(isClosed());
         }
+}
+
+namespace
+{
+
+RECT g_workArea; // that the system tells of when it is asked
+
+BOOL WINAPI tellWorkArea(HMONITOR, MONITORINFO* info)
+{
+    info->rcWork = g_workArea;
+    return TRUE;
+}
+
+} // namespace
+
+TEST_F(SliderButton, ThePopupGoesByTheWorkAreaOfToday)
+{
+    show();
+    button->SetFocus();
+    const auto placeOfPopup = [&] {
+        button->SendMessage(WM_KEYDOWN, VK_SPACE);
+        CRect place;
+        ::GetWindowRect(popup(), &place);
+        button->SendMessage(WM_KEYDOWN, VK_SPACE);
+        return place;
+    };
+    const CRect before = placeOfPopup();
+    const HWND hidden = ::FindWindowExW(nullptr, nullptr, L"#32770", nullptr);
+    ASSERT_EQ(::GetWindow(hidden, GW_OWNER), parent.m_hWnd);
+    const ImportPatch patch(L"ovoui.dll", "GetMonitorInfoW", reinterpret_cast<void*>(&tellWorkArea));
+    for (const UINT message : {WM_DISPLAYCHANGE, WM_SETTINGCHANGE}) {
+        for (const int left : {before.left + 40, before.left - 300}) {
+            g_workArea = CRect(left, 0, left + 600, 600);
+            ::SendMessageW(hidden, message, 0, 0); // as the system tells all windows
+            EXPECT_EQ(placeOfPopup().left, std::max<int>(before.left, left));
+        }
+    }
 }
 
 TEST_F(SliderButton, ThePopupIsASmallWindowWithoutACaption)
@@ -395,9 +462,13 @@ TEST_F(SliderButton, LosingTheCaptureEndsTheDragOnly)
 
 // Keyboard
 
-TEST_F(SliderButton, ItTakesPartInTabbingLikeAButton)
+TEST_F(SliderButton, DialogsDoNotTakeItForAStaticControl)
 {
-    EXPECT_EQ(button->SendMessage(WM_GETDLGCODE) & DLGC_STATIC, 0);
+    CStatic label;
+    label.Create(L"", WS_CHILD | WS_VISIBLE, CRect(10, 90, 100, 110), &parent, 20);
+    const LRESULT usual = label.SendMessage(WM_GETDLGCODE);
+    ASSERT_TRUE(usual & DLGC_STATIC);
+    EXPECT_EQ(button->SendMessage(WM_GETDLGCODE), usual & ~DLGC_STATIC);
 }
 
 TEST_F(SliderButton, TabGoesThroughItInADialog)

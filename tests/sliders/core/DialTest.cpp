@@ -67,6 +67,7 @@ TEST(DialPicture, ThePointerStandsAtItsAngle)
     EXPECT_EQ(at(right, 50, 30), kColours.face);
     EXPECT_EQ(dialPicture(kSize, 360, {}, kColours).size(), up.size());
     EXPECT_EQ(at(up, 0, 0), kColours.back);
+    EXPECT_EQ(at(up, 50, 48), kColours.face) << "it does not begin in the middle";
 }
 
 TEST(DialPicture, TheRimIsLightAtTheUpperLeft)

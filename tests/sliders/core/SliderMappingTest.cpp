@@ -66,6 +66,9 @@ TEST(SliderMapping, ValuesThatAreNotPositiveCountAsTheLowEnd)
     for (const double wrong : {0.0, -0.0, -1.0, -kInfinity}) {
         EXPECT_EQ(position(wrong, Mapping::Logarithmic, {2, 8}), 0) << wrong;
         EXPECT_EQ(position(wrong, Mapping::SquareRoot, {4, 9}), 0) << wrong;
+        EXPECT_EQ(position(wrong, Mapping::Logarithmic, {8, 2}), 0)
+            << wrong << ", the low end is the greater";
+        EXPECT_EQ(position(wrong, Mapping::SquareRoot, {9, 4}), 0) << wrong;
     }
     EXPECT_EQ(position(0, Mapping::Linear, {-10, 10}), 50) << "an ordinary number there";
 }

@@ -118,6 +118,12 @@ TEST(SliderNumbers, AMappingOfTheHostsMustBeOne)
     EXPECT_FALSE(isUsable({share, [](double s) { return s * s; }}, hundred))
         << "the way back leads elsewhere";
     EXPECT_FALSE(isUsable({share, [](double s) { return std::log(s); }}, hundred)) << "no number";
+    const auto zigzag = [](double s) { return s < 0.5 ? s : 1.5 - s; };
+    EXPECT_FALSE(isUsable({zigzag, zigzag}, hundred)) << "every number once, but not in order";
+    EXPECT_FALSE(isUsable({[](double n) { return std::isinf(n) ? 1.0 : n; },
+                           [](double s) { return s < 1 ? s : std::numeric_limits<double>::infinity(); }},
+                          hundred))
+        << "no end";
     EXPECT_FALSE(isUsable(kCubes, {5, 5})) << "no way to go";
 }
 

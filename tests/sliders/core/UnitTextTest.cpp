@@ -57,6 +57,8 @@ TEST(UnitText, GroupsStandBetweenDigitsBeforeTheDecimalSign)
     EXPECT_EQ(withoutUnit(L",5", kEnglish), L",5");
     EXPECT_EQ(withoutUnit(L"1.5,5", kEnglish), L"1.5,5");
     EXPECT_EQ(withoutUnit(L"5,", kEnglish), L"5,");
+    EXPECT_EQ(withoutUnit(L"-,500", kEnglish), L"-,500");
+    EXPECT_EQ(withoutUnit(L"1,5,2", kGerman), L"1.5,2") << "a number has one decimal sign";
 }
 
 TEST(UnitText, PercentIsAHundredth)
