@@ -1,0 +1,79 @@
+"""docs/tools/compile-examples on pages of its own: what it compiles, and mistakes that it has to find."""
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+
+GOOD = """\
+# Beds
+
+<!-- compiled as
+struct Bed : CWnd { void water(); int litres; };
+void Bed::water()
+{
+    {code}
+}
+-->
+```cpp
+#include <numeric>
+
+litres += std::gcd(12, 18);
+```
+
+```cpp
+int rows = 0;
+```
+
+```cmake
+find_package(ovoui CONFIG REQUIRED)
+add_executable(host WIN32 host.cpp)
+target_link_libraries(host PRIVATE ovo::ui)
+```
+
+<!-- file garden.txt -->
+```text
+Loam
+```
+"""
+
+
+class Examples(unittest.TestCase):
+    def setUp(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp())
+        self.addCleanup(shutil.rmtree, self.folder)
+        for name in ("mfc", "ovoui", "ovocor", "ovomsg", "ovouires", "testkit"):
+            (self.folder / name).symlink_to(ROOT / name)
+        (self.folder / "docs").mkdir()
+
+    def compile(self, page):
+        (self.folder / "docs/beds.md").write_text(page, encoding="utf-8")
+        return subprocess.run([ROOT / "docs/tools/compile-examples", self.folder, self.folder / "out",
+                               "x86_64-w64-mingw32-g++-posix"], capture_output=True, text=True, env={**os.environ, "LC_ALL": "C"})
+
+    def test_blocks_compile_with_what_stands_around_them(self):
+        done = self.compile(GOOD)
+        self.assertEqual((done.returncode, done.stdout), (0, "2 blocks of C++ and 1 of CMake\n"), done.stderr)
+
+    def test_mistakes_are_found_where_they_stand_in_the_page(self):
+        done = self.compile(GOOD.replace("litres +=", "gallons +=").replace("int rows = 0", 'int rows = "many"')
+                            .replace("ovo::ui)", "ovo::garden)"))
+        self.assertNotEqual(done.returncode, 0)
+        self.assertIn("docs/beds.md:13:1: error: 'gallons' was not declared", done.stderr)
+        self.assertIn("docs/beds.md:17:12: error: invalid conversion", done.stderr)
+        self.assertIn("ovo::garden", done.stderr)
+
+    def test_a_file_of_an_example_is_taken_out(self):
+        (self.folder / "docs/beds.md").write_text(GOOD, encoding="utf-8")
+        take = [ROOT / "docs/tools/take-example", self.folder, "docs/beds.md"]
+        subprocess.run([*take, "garden.txt", self.folder / "taken"], check=True)
+        self.assertEqual((self.folder / "taken").read_text(encoding="utf-8"), "Loam\n")
+        missing = subprocess.run([*take, "herbs.txt", self.folder / "none"], capture_output=True, text=True)
+        self.assertIn("docs/beds.md has 0 blocks called herbs.txt", missing.stderr)
+
+
+if __name__ == "__main__":
+    unittest.main()
