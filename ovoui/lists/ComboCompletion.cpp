@@ -2,7 +2,7 @@
 
 #include <ovoui/lists/ComboBox.h>
 
-#include <commctrl.h>
+#include <map>
 
 namespace ovoui::lists
 {
@@ -29,6 +29,15 @@ bool changesItems(UINT message)
     }
 }
 
+/// A list's window procedure of before, and who hears of its items.
+struct WatchedList
+{
+    WNDPROC procedure = nullptr;
+    ComboCompletion* completion = nullptr; ///< null when its combo box has gone first
+};
+
+std::map<HWND, WatchedList> s_lists; ///< until the window goes
+
 } // namespace
 
 ComboCompletion::ComboCompletion(COVOComboBox& combo)
@@ -50,42 +59,51 @@ int ComboCompletion::itemFor(const std::wstring& text)
         [this](int item) { return m_combo.itemText(item); });
 }
 
+/// By the window procedure itself: with SetWindowSubclass some platforms ask their server for every message,
+/// and a search sends several.
 bool ComboCompletion::watchesList()
 {
-    if (m_list)
-        return true;
     COMBOBOXINFO info{};
     info.cbSize = sizeof info;
-    if (m_combo.GetComboBoxInfo(&info) &&
-        ::SetWindowSubclass(info.hwndList, &listProcedure, reinterpret_cast<UINT_PTR>(this),
-                            reinterpret_cast<DWORD_PTR>(this)))
-        m_list = info.hwndList;
-    return m_list != nullptr;
+    if (m_list || !m_combo.GetComboBoxInfo(&info))
+        return m_list != nullptr;
+    m_list = info.hwndList;
+    const auto [list, isNew] = s_lists.try_emplace(m_list);
+    list->second.completion = this;
+    if (isNew)
+        list->second.procedure = reinterpret_cast<WNDPROC>(
+            ::SetWindowLongPtrW(m_list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&listProcedure)));
+    return true;
 }
 
 void ComboCompletion::leaveList()
 {
-    if (m_list)
-        ::RemoveWindowSubclass(m_list, &listProcedure, reinterpret_cast<UINT_PTR>(this));
+    if (const auto list = s_lists.find(m_list); list != s_lists.end())
+        list->second.completion = nullptr;
     m_list = nullptr;
     m_search.forget();
 }
 
 /// The parent of an owner-drawn list hears of changes while they are made: it may search then, or destroy the
 /// combo box.
-LRESULT CALLBACK ComboCompletion::listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                                UINT_PTR, DWORD_PTR completion)
+LRESULT CALLBACK ComboCompletion::listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    auto* const self = reinterpret_cast<ComboCompletion*>(completion);
-    const bool changes = changesItems(message);
-    if (changes)
-        self->m_search.forget();
-    if (message == WM_NCDESTROY)
-        self->leaveList();
-    const Lifeline::Watch watch(self->m_lifeline);
-    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
-    if (changes && watch.alive())
-        self->m_search.forget();
+    const auto found = s_lists.find(window);
+    if (found == s_lists.end())
+        return ::DefWindowProcW(window, message, wParam, lParam);
+    const WatchedList list = found->second;
+    if (message == WM_NCDESTROY) {
+        if (list.completion)
+            list.completion->leaveList();
+        s_lists.erase(window);
+    }
+    if (!list.completion || !changesItems(message))
+        return ::CallWindowProcW(list.procedure, window, message, wParam, lParam);
+    list.completion->m_search.forget();
+    const Lifeline::Watch watch(list.completion->m_lifeline);
+    const LRESULT result = ::CallWindowProcW(list.procedure, window, message, wParam, lParam);
+    if (watch.alive())
+        list.completion->m_search.forget();
     return result;
 }
 

@@ -27,8 +27,7 @@ public:
     int itemFor(const std::wstring& text);
 
 private:
-    static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                          UINT_PTR id, DWORD_PTR completion);
+    static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     bool watchesList();
     void leaveList();
 

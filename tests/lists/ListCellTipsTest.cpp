@@ -48,6 +48,15 @@ protected:
         });
     }
 
+    int extent(const std::wstring& text)
+    {
+        CClientDC dc(&scene.list);
+        CFont* const old = dc.SelectObject(scene.list.GetFont());
+        const int width = dc.GetTextExtent(text.c_str(), static_cast<int>(text.size())).cx;
+        dc.SelectObject(old);
+        return width;
+    }
+
     /// Where on the screen the first letter in an area of a window begins.
     static CPoint firstLetter(HWND window, const CRect& area)
     {
@@ -106,10 +115,7 @@ TEST_F(ListTips, TheTipsLettersLieOverThoseOfTheCell)
 
 TEST_F(ListTips, NoneForATextThatHasJustRoomEnough)
 {
-    CClientDC dc(&scene.list);
-    CFont* const old = dc.SelectObject(scene.list.GetFont());
-    const int width = dc.GetTextExtent(L"fits", 4).cx;
-    dc.SelectObject(old);
+    const int width = extent(L"fits");
     constexpr int kInsets[] = {4, 12};
     for (const int column : {0, 1}) {
         scene.list.SetColumnWidth(0, 60);
@@ -149,8 +155,10 @@ TEST_F(ListTips, ALabelThatAStateImageLeavesNoRoomForIsShown)
     rest(1, 0, false);
     rest(1, 1, false);
     CImageList images;
-    fillImages(images, 50, {RGB(255, 0, 0)});
+    fillImages(images, 16, {RGB(255, 0, 0)});
     scene.list.SetImageList(&images, LVSIL_STATE);
+    // The label itself is wide enough; without the image's width it is not.
+    scene.list.SetColumnWidth(0, 60 - scene.cell(1, 0).Width() + extent(L"fits") + 4 + 8);
     rest(1, 0, true);
     EXPECT_EQ(shownText(), L"fits");
     scene.list.SetImageList(nullptr, LVSIL_STATE);

@@ -114,22 +114,27 @@ TEST_F(ListEmphasis, InASelectedRowItIsTheOtherWayRound)
 TEST_F(ListEmphasis, DotsStandForWhatWasCutOff)
 {
     scene.list.SetColumnWidth(0, extent(L"Ban...") + extent(L"l"));
-    const int left = scene.cell(0, 0).left + 2;
-    CClientDC dc(&scene.list);
-    CFont* const old = dc.SelectObject(scene.list.GetFont());
-    const CRect label = scene.rect(0, LVIR_LABEL);
-    const std::wstring shown = COVOListCtrlEx::MakeShortString(&dc, L"Banana", label.Width(), 4);
-    dc.SelectObject(old);
-    ASSERT_TRUE(shown.ends_with(L"...")) << "the label is cut";
-    const std::wstring kept = shown.substr(0, shown.size() - 3);
-    scene.list.EmphasiseText(std::wstring(L"Banana").substr(kept.size()));
-    const std::vector<bool> line = marked(highlight);
-    const int from = left + extent(kept.c_str());
-    const int to = left + extent(shown.c_str());
-    EXPECT_FALSE(line[static_cast<std::size_t>(from - 1)]);
-    for (int x = from; x < to; ++x)
-        EXPECT_TRUE(line[static_cast<std::size_t>(x)]) << x;
-    EXPECT_FALSE(line[static_cast<std::size_t>(to)]);
+    // What is looked for begins near the cut, or far behind it.
+    for (const auto& [text, part] :
+         {std::pair(L"Banana", L"anana"), std::pair(L"Banana and more of it", L"of")}) {
+        SCOPED_TRACE(text);
+        scene.list.SetItemText(0, 0, text);
+        const int left = scene.cell(0, 0).left + 2;
+        CClientDC dc(&scene.list);
+        CFont* const old = dc.SelectObject(scene.list.GetFont());
+        const CRect label = scene.rect(0, LVIR_LABEL);
+        const std::wstring shown = COVOListCtrlEx::MakeShortString(&dc, text, label.Width(), 4);
+        dc.SelectObject(old);
+        ASSERT_TRUE(shown.ends_with(L"...")) << "the label is cut";
+        scene.list.EmphasiseText(part);
+        const std::vector<bool> line = marked(highlight);
+        const int from = left + extent(shown.substr(0, shown.size() - 3).c_str());
+        const int to = left + extent(shown.c_str());
+        EXPECT_FALSE(line[static_cast<std::size_t>(from - 1)]);
+        for (int x = from; x < to; ++x)
+            EXPECT_TRUE(line[static_cast<std::size_t>(x)]) << x;
+        EXPECT_FALSE(line[static_cast<std::size_t>(to)]);
+    }
 }
 
 TEST(ListEmphasisMirrored, StandsOutWhereTheLettersAre)

@@ -171,6 +171,7 @@ TEST_F(ListFinding, ASpaceBelongsToATextThatHasBegun)
 
 TEST_F(ListFinding, ASpaceThatBeginsATextSelects)
 {
+    add(L"a gar den", L""); // with a space behind what is typed
     scene.list.SetItemState(2, LVIS_FOCUSED, LVIS_FOCUSED);
     robot.key(VK_SPACE);
     EXPECT_EQ(finder.Text(), L"");
@@ -186,6 +187,31 @@ TEST_F(ListFinding, OneRowIsSelectedAfterwards)
         scene.list.SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
     robot.type(L"hill");
     EXPECT_EQ(selected(), Rows{4});
+}
+
+TEST_F(ListFinding, TheParentHearsOfNoChangeWhenTheRowIsSelectedAlready)
+{
+    robot.type(L"ga");
+    ASSERT_EQ(selected(), Rows{0});
+    int changes = 0;
+    scene.parent.answer(static_cast<UINT>(LVN_ITEMCHANGED), [&](NMHDR*) -> LRESULT { return ++changes; });
+    robot.type(L"r");
+    EXPECT_EQ(finder.Text(), L"gar");
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(ListFinding, TheFocusedRowIsScrolledIntoViewAgain)
+{
+    for (int i = 0; i < 60; ++i)
+        add(L"row", L"far");
+    add(L"the last one", L"");
+    robot.type(L"las");
+    ASSERT_EQ(selected(), Rows{65});
+    scene.list.EnsureVisible(0, FALSE);
+    robot.type(L"t");
+    CRect client;
+    scene.list.GetClientRect(&client);
+    EXPECT_LE(scene.itemRect(65).bottom, client.bottom);
 }
 
 TEST_F(ListFinding, TheRowIsScrolledIntoView)
