@@ -102,6 +102,7 @@ TEST_F(ListTips, TheTipLiesOverItsCell)
 TEST_F(ListTips, TheTipsLettersLieOverThoseOfTheCell)
 {
     for (const int column : {0, 1}) {
+        rest(1, column, false);
         rest(0, column, true);
         CRect tip;
         ::GetClientRect(tips.Window(), &tip);
@@ -111,6 +112,29 @@ TEST_F(ListTips, TheTipsLettersLieOverThoseOfTheCell)
         EXPECT_THAT(distance.x, testing::AllOf(testing::Ge(0), testing::Le(2))) << column;
         EXPECT_THAT(distance.y, testing::AllOf(testing::Ge(0), testing::Le(1))) << column;
     }
+}
+
+/// Answers as a tip that needs 10 pixels more at its left than the text.
+static LRESULT CALLBACK wideTip(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
+{
+    if (message != TTM_ADJUSTRECT)
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    reinterpret_cast<RECT*>(lParam)->left -= wParam ? 10 : -10;
+    return TRUE;
+}
+
+TEST_F(ListTips, TheTipSaysWhatItNeedsBesideItsText)
+{
+    rest(1, 1, false); // the pointer may be over the cell already, and would not move
+    rest(0, 1, true);
+    CRect before;
+    ::GetWindowRect(tips.Window(), &before);
+    ::SetWindowSubclass(tips.Window(), &wideTip, 1, 0);
+    rest(1, 1, false);
+    rest(0, 1, true);
+    CRect tip;
+    ::GetWindowRect(tips.Window(), &tip);
+    EXPECT_NEAR(tip.left, before.left - 10, 3);
 }
 
 TEST_F(ListTips, NoneForATextThatHasJustRoomEnough)

@@ -122,6 +122,20 @@ TEST_F(ListCopying, OtherKeysCopyNothing)
     EXPECT_EQ(clipboardText(), L"");
 }
 
+TEST_F(ListCopying, AKeyAfterwardsCopiesNothing)
+{
+    COVOListCopier copier;
+    copier.Attach(scene.list, false);
+    scene.show();
+    scene.list.SetFocus();
+    select({1});
+    Robot().holding(VK_CONTROL).key('C');
+    ASSERT_EQ(clipboardText(), L"1.0\t1.1\t1.2\r\n");
+    select({3});
+    Robot().key(VK_F2);
+    EXPECT_EQ(clipboardText(), L"1.0\t1.1\t1.2\r\n");
+}
+
 TEST_F(ListCopying, TheListMayBeDestroyedBeforeTheCopier)
 {
     scene.show();

@@ -11,8 +11,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <functional>
 #include <memory>
+#include <new>
 #include <optional>
 #include <stdexcept>
 
@@ -271,4 +273,39 @@ TEST(ListHelpersCalls, AskForTextsInAllButTheLast)
         kCalls[i].act(helped);
         EXPECT_GT(texts, 0) << kCalls[i].name;
     }
+}
+
+// The memory of the one that is destroyed is spoilt at once, so that nothing can be asked of it unnoticed.
+TEST(ListHelpersTogether, OneIsDestroyedWhileAnotherIsTold)
+{
+    Helped helped;
+    alignas(COVOListCellTips) std::byte room[sizeof(COVOListCellTips)];
+    auto* const first = new (room) COVOListCellTips;
+    first->Attach(helped.scene.list);
+    COVOListCellTips second; // is told before the first one
+    second.Attach(helped.scene.list);
+    int asked = 0;
+    helped.scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), [&](NMHDR* header) -> LRESULT {
+        giveText(header);
+        if (asked++ == 0) {
+            first->~COVOListCellTips();
+            std::fill(std::begin(room), std::end(room), std::byte{0xDD});
+        }
+        return 0;
+    });
+    helped.scene.list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(helped.middle.x, helped.middle.y));
+    EXPECT_GT(asked, 0);
+    ASSERT_TRUE(second.Window());
+    EXPECT_TRUE(::IsWindowVisible(second.Window()));
+}
+
+TEST(ListHelpersTogether, AnotherListReplacesTheOneOfBefore)
+{
+    Helped helped;
+    List other;
+    other.Create(WS_CHILD, CRect(0, 0, 50, 50), &helped.scene.parent, 9);
+    helped.tips->Attach(other);
+    helped.scene.list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(helped.middle.x, helped.middle.y));
+    EXPECT_FALSE(helped.tips->Window());
+    other.DestroyWindow();
 }
