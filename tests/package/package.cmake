@@ -1,13 +1,19 @@
-# Installs into a fresh folder, builds a small host against the installed package alone, with CMake and with what
-# pkg-config reads, and runs it.
+# Unpacks the SDK's archive into another folder, builds hosts against it alone, with CMake and with what pkg-config reads, and the
+# examples that it holds, and runs them all.
+#
+#   cmake -D BUILD=... -D ROOT=... -D CXX=... -D WINE=... [-D ARCHIVE=FILE] [-D EXAMPLES=N] -P package.cmake
+#
+# Without ARCHIVE, a file that ./package has made, it is packed from BUILD first. With EXAMPLES at most so many of them are built.
 set(work ${BUILD}/package-test)
-set(prefix ${work}/prefix)
+set(place "${work}/Größe und Maß")
+set(host ${ROOT}/tests/package/host)
+set(toolchain ${ROOT}/cmake/mingw-w64.cmake)
 file(REMOVE_RECURSE ${work})
-file(COPY ${HOST}/ DESTINATION ${work}/source)
+file(COPY ${host}/ DESTINATION ${work}/source)
 
 # A dialog of the library's own as a host would write it: the same sources under another name, not exported.
 foreach(suffix h cpp)
-  file(READ ${COLOUR}/ColPickerPaletteDlg.${suffix} text)
+  file(READ ${ROOT}/ovoui/colour/ColPickerPaletteDlg.${suffix} text)
   string(REPLACE "ovoui/colour/ColPickerPaletteDlg.h" "HostPaletteDlg.h" text "${text}")
   string(REPLACE ColPickerPaletteDlg HostPaletteDlg text "${text}")
   string(REPLACE "OVOUI_API " "" text "${text}")
@@ -21,12 +27,20 @@ function(run)
   endif()
 endfunction()
 
-function(require_text file words)
-  file(READ ${prefix}/${file} text)
-  string(FIND "${text}" "${words}" at)
-  if(at EQUAL -1)
-    message(FATAL_ERROR "${file} does not hold: ${words}")
-  endif()
+# under_wine(PROGRAM [VISITED]): runs it beside the libraries; file names are UTF-8. A program that is visited is copied there too.
+function(under_wine program)
+  file(COPY ${program} ${ARGN} DESTINATION ${prefix}/bin)
+  get_filename_component(name ${program} NAME)
+  get_filename_component(visited "${ARGN}" NAME)
+  run(${CMAKE_COMMAND} -E env LC_ALL=C.UTF-8
+      ${WINE} --home ${BUILD}/wine --apart ${prefix}/bin/${name} ${visited})
+endfunction()
+
+# configure_and_build(SOURCE BUILD): with the compiler's own default for the language, which is older than what the headers need.
+function(configure_and_build source build)
+  run(${CMAKE_COMMAND} -S ${source} -B ${build} -G Ninja
+      -D CMAKE_TOOLCHAIN_FILE=${toolchain} -D CMAKE_PREFIX_PATH=${prefix} -D CMAKE_BUILD_TYPE=Release)
+  run(${CMAKE_COMMAND} --build ${build})
 endfunction()
 
 # pkg_config(OUT PACKAGE FIELD): the words of a field, as pkg-config would give them.
@@ -48,19 +62,21 @@ function(pkg_config out package field)
   message(FATAL_ERROR "${package}.pc has no ${field}")
 endfunction()
 
-run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix})
-require_text(share/doc/ovoui/LICENSE "MIT License")
-foreach(dll libstdc++-6 libgcc_s_seh-1 libwinpthread-1)
-  require_text(share/doc/ovoui/runtime/NOTICES.txt ${dll}.dll)
-endforeach()
-require_text(share/doc/ovoui/runtime/gcc-copyright.txt "GCC RUNTIME LIBRARY EXCEPTION")
-require_text(share/doc/ovoui/runtime/GPL-3.txt "GNU GENERAL PUBLIC LICENSE")
-require_text(share/doc/ovoui/runtime/mingw-w64-copyright.txt "mingw-w64-libraries/winpthreads")
+set(whole --whole)
+if(NOT ARCHIVE)
+  set(whole "")
+  run(${CPACK} --config ${BUILD}/CPackConfig.cmake -G ZIP -B ${work})
+  file(GLOB ARCHIVE ${work}/*.zip)
+endif()
+file(ARCHIVE_EXTRACT INPUT ${ARCHIVE} DESTINATION ${place})
+file(GLOB prefix ${place}/*)
+include(${prefix}/lib/cmake/ovoui/ovouiConfigVersion.cmake)
+run(${ROOT}/tests/package/check-archive ${ROOT} ${prefix} ${PACKAGE_VERSION} ${whole})
 
-# With the compiler's own default for the language, which is older than what the headers need.
-run(${CMAKE_COMMAND} -S ${work}/source -B ${work}/build -G Ninja
-    -D CMAKE_TOOLCHAIN_FILE=${TOOLCHAIN} -D CMAKE_PREFIX_PATH=${prefix} -D CMAKE_BUILD_TYPE=Release)
-run(${CMAKE_COMMAND} --build ${work}/build)
+configure_and_build(${work}/source ${work}/build)
+foreach(program host windowed palette)
+  under_wine(${work}/build/${program}.exe)
+endforeach()
 
 # By hand, as a makefile would.
 file(MAKE_DIRECTORY ${work}/by-hand)
@@ -72,19 +88,32 @@ foreach(program host windowed)
   endif()
   pkg_config(flags ${package} Cflags)
   pkg_config(libs ${package} Libs)
-  run(${CXX} -O1 "-DPACKAGE_VERSION=\"${version}\"" ${flags} ${HOST}/${program}.cpp ${libs}
+  run(${CXX} -O1 "-DPACKAGE_VERSION=\"${version}\"" ${flags} ${host}/${program}.cpp ${libs}
       -o ${work}/by-hand/${program}.exe)
+  under_wine(${work}/by-hand/${program}.exe)
 endforeach()
 
-file(GLOB libraries ${prefix}/bin/*.dll)
-foreach(way build by-hand)
-  file(COPY ${libraries} DESTINATION ${work}/${way})
-  set(programs host windowed)
-  if(way STREQUAL build)
-    list(APPEND programs palette)
+# By a compiler that shares nothing but the platform's calls, through the import library made from the list of exports.
+run(${CLANG} --target=x86_64-pc-windows-msvc -x c -c ${ROOT}/tests/package/by-name.c -o ${work}/by-hand/by-name.obj)
+run(${CXX} ${work}/by-hand/by-name.obj ${prefix}/lib/by-export-list/ovoui.lib -o ${work}/by-hand/by-name.exe)
+under_wine(${work}/by-hand/by-name.exe)
+
+# The examples, each in a build folder of its own; a program is started, shows its window, and ends when that is closed.
+file(GLOB examples RELATIVE ${prefix}/examples ${prefix}/examples/*/CMakeLists.txt)
+if(EXAMPLES)
+  list(SUBLIST examples 0 ${EXAMPLES} examples)
+endif()
+foreach(example IN LISTS examples)
+  get_filename_component(name ${example} DIRECTORY)
+  configure_and_build(${prefix}/examples/${name} ${work}/examples/${name})
+  file(GLOB programs ${work}/examples/${name}/*.exe)
+  list(LENGTH programs count)
+  if(count EQUAL 0)
+    message(FATAL_ERROR "the example ${name} makes no program")
   endif()
-  foreach(program ${programs})
-    run(${WINE} --home ${BUILD}/wine --apart ${work}/${way}/${program}.exe)
+  foreach(program IN LISTS programs)
+    under_wine(${work}/build/visitor.exe ${program})
   endforeach()
 endforeach()
-message(STATUS "the installed package builds and runs a host")
+list(LENGTH examples count)
+message(STATUS "the SDK builds and runs its hosts and ${count} examples")

@@ -1,0 +1,60 @@
+"""What sdk/build-twice says of builds that give the same from any folder, and of others."""
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import unittest
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+
+# Stands in for cmake: makes one program and one library in the folder that it is called in.
+CMAKE = """#!/bin/bash
+[ "$1" = --build ] || exit 0
+mkdir -p build/release/bin build/release/lib
+echo program > build/release/bin/program.exe
+{library}
+"""
+
+
+class BuildTwice(unittest.TestCase):
+    def run_with(self, library):
+        with tempfile.TemporaryDirectory() as name:
+            folder = pathlib.Path(name)
+            checkout, programs = folder / "checkout", folder / "programs"
+            (checkout / "sdk").mkdir(parents=True)
+            programs.mkdir()
+            shutil.copy(ROOT / "sdk/build-twice", checkout / "sdk")
+            (programs / "cmake").write_text(CMAKE.format(library=library))
+            (programs / "cmake").chmod(0o755)
+            done = subprocess.run([checkout / "sdk/build-twice", folder / "work", "all"], capture_output=True, text=True,
+                                  check=False, env=dict(os.environ, PATH=f"{programs}:{os.environ['PATH']}",
+                                                        SOURCE_DATE_EPOCH="1700000000"))
+            return done.returncode, done.stdout + done.stderr
+
+    def test_the_same(self):
+        status, said = self.run_with("echo $SOURCE_DATE_EPOCH > build/release/lib/library.a")
+        self.assertEqual(status, 0, said)
+        self.assertIn("bin/program.exe", said)
+        self.assertIn("lib/library.a", said)
+
+    def test_a_file_that_knows_its_folder(self):
+        status, said = self.run_with("pwd > build/release/lib/library.a")
+        self.assertEqual(status, 1)
+        self.assertIn("lib/library.a", said)
+        self.assertNotIn("program.exe", said)
+        self.assertIn("The two builds differ.", said)
+
+    def test_a_file_that_one_build_alone_makes(self):
+        status, said = self.run_with('case $PWD in */work/one) touch build/release/lib/library.a;; esac')
+        self.assertEqual(status, 1)
+        self.assertIn("library.a", said)
+
+    def test_a_build_that_fails(self):
+        status, said = self.run_with("echo no compiler; exit 1")
+        self.assertEqual(status, 1)
+        self.assertIn("no compiler", said)
+
+
+if __name__ == "__main__":
+    unittest.main()
