@@ -6,7 +6,7 @@ set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_GENERATOR ZIP)
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_VERBATIM_VARIABLES ON)
-set(CPACK_COMPONENTS_ALL runtime gallery sdk testkit doc examples)
+set(CPACK_COMPONENTS_ALL runtime gallery sdk testkit doc)
 
 # Names by kind, and the archive's final form: the same files give the same bytes.
 set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_LIST_DIR}/package-names.cmake)
@@ -30,5 +30,8 @@ cpack_add_component(sdk DISPLAY_NAME "Development" DEPENDS runtime
   DESCRIPTION "Headers, import libraries, packages for CMake and pkg-config, views for the debugger, ovo-update-lint.")
 cpack_add_component(testkit DISPLAY_NAME "Test kit" DESCRIPTION "For the tests of programs." DEPENDS sdk)
 cpack_add_component(doc DISPLAY_NAME "Reference" DESCRIPTION "The reference and the guides.")
+if(EXISTS ${PROJECT_SOURCE_DIR}/examples)
+  list(APPEND CPACK_COMPONENTS_ALL examples)
+endif()
 cpack_add_component(examples DISPLAY_NAME "Examples" DESCRIPTION "Sources of example programs." DEPENDS sdk)
 include(CPack)
