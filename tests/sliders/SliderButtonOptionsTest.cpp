@@ -138,6 +138,17 @@ TEST_F(SliderButtonOptions, TheBubbleFollowsTheThumb)
     EXPECT_GT(after.left, before.left);
 }
 
+TEST_F(SliderButtonOptions, TheBubbleGoesWithThePopupThatAnotherProgramCloses)
+{
+    button->ShowBubble(true);
+    show();
+    open();
+    ASSERT_NE(bubble(), nullptr);
+    ::SendMessageW(popup(), WM_ACTIVATEAPP, FALSE, 0);
+    user.waitFor("the bubble to go", [] { return bubble() == nullptr; });
+    EXPECT_TRUE(isClosed());
+}
+
 TEST_F(SliderButtonOptions, WithoutBeingAskedThereIsNoBubble)
 {
     show();

@@ -28,9 +28,9 @@ SliderButtonScene::SliderButtonScene()
     constexpr DWORD kEdit = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | ES_AUTOHSCROLL;
     buddy.Create(kEdit, CRect(10, 10, 100, 32), &parent, kBuddyId);
     other.Create(kEdit, CRect(10, 60, 100, 82), &parent, kOtherId);
-    CStatic plain;
-    plain.Create(L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(102, 10, 118, 32), &parent, 9);
-    button->SubclassWindow(plain.Detach());
+    // As a dialog's template makes it: what the button leaves to its window is answered by a static control.
+    button->SubclassWindow(::CreateWindowExW(0, L"Static", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 102, 10,
+                                             16, 22, parent, reinterpret_cast<HMENU>(9), nullptr, nullptr));
     button->SetBuddy(buddy);
     for (const UINT message : {CSliderButton::kValueChanged, CSliderButton::kReleased})
         parent.log().record(message);

@@ -118,6 +118,29 @@ TEST_F(SliderButton, LosingTheProgramsActivationClosesIt)
     EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
 }
 
+TEST_F(SliderButton, ThePopupOpensInFrontOfOtherWindows)
+{
+    show();
+    CRect under;
+    button->GetWindowRect(&under);
+    CWnd palette;
+    palette.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP | WS_VISIBLE,
+                     CRect(under.left - 250, under.bottom, under.right + 250, under.bottom + 100), &parent,
+                     0);
+    open();
+    CRect place;
+    ::GetWindowRect(popup(), &place);
+    EXPECT_EQ(::GetAncestor(::WindowFromPoint(place.CenterPoint()), GA_ROOT), popup());
+}
+
+TEST_F(SliderButton, TheFocusOfThePopupIsItsSliders)
+{
+    show();
+    open();
+    ::SetFocus(popup());
+    EXPECT_EQ(::GetFocus(), slider());
+}
+
 TEST_F(SliderButton, AnotherThreadsWindowThatIsActivatedClosesIt)
 {
     show();
@@ -457,6 +480,24 @@ TEST_F(SliderButton, LosingTheCaptureEndsTheDragOnly)
         .moveBy(20, 0)
         .release();
     EXPECT_TRUE(told().empty());
+    EXPECT_TRUE(isOpen());
+}
+
+TEST_F(SliderButton, WithoutTheCaptureMovementsMeanNothing)
+{
+    setBuddyText(L"50");
+    show();
+    const auto send = [&](UINT message, int x) {
+        button->SendMessage(message, MK_LBUTTON, MAKELPARAM(x, 5));
+    };
+    send(WM_LBUTTONDOWN, 5);
+    send(WM_MOUSEMOVE, 30);
+    const std::wstring dragged = buddyText();
+    EXPECT_NE(dragged, L"50");
+    ::ReleaseCapture();
+    send(WM_MOUSEMOVE, 60);
+    EXPECT_EQ(buddyText(), dragged);
+    send(WM_LBUTTONUP, 60);
     EXPECT_TRUE(isOpen());
 }
 

@@ -69,26 +69,32 @@ public:
         m_picture.lines.push_back({at, angle < 0 ? light : dark});
     }
 
-    /// A bright band that fades into the strips on either side of it, and the dark edge behind it. It dims
-    /// where the cylinder turns away, so that none is seen at its very edge.
+    /// A bright band and the dark edge behind it, which fade into the cylinder's shade on either side. They
+    /// dim where the cylinder turns away, so that none is seen at its very edge.
     void quarterRib(double angle)
     {
         const int at = coordinate(angle);
-        const Shade surface = shadeAt(angle, m_colours.dark, m_colours.light);
         const double seen = std::clamp(std::cos(radians(angle)) / kDimming, 0.0, 1.0);
-        const Shade dark = mixed(surface, m_colours.dark, seen);
-        const Shade bright = mixed(surface, m_colours.face, seen);
         const bool left = angle < 0;
         for (int k = kBandLines - 1; k >= 0; --k) {
-            const double fading = static_cast<double>(k) / kBandLines;
-            m_picture.lines.push_back({at - 1 - k, mixed(left ? dark : bright, surface, fading)});
-            m_picture.lines.push_back({at + k, mixed(left ? bright : dark, surface, fading)});
+            const double share = seen * (kBandLines - k) / kBandLines;
+            bandLine(at - 1 - k, left ? m_colours.dark : m_colours.face, share);
+            bandLine(at + k, left ? m_colours.face : m_colours.dark, share);
         }
     }
 
     CylinderPicture take() { return std::move(m_picture); }
 
 private:
+    /// A line with `share` of a colour over the shade that the cylinder has there.
+    void bandLine(int at, const Shade& colour, double share)
+    {
+        const double half = (m_to - m_from) / 2.0;
+        const double sine = std::clamp((at + 0.5 - m_from) / half - 1, -1.0, 1.0);
+        const Shade surface = mixed(m_colours.dark, m_colours.light, std::sqrt(1 - sine * sine));
+        m_picture.lines.push_back({at, mixed(surface, colour, share)});
+    }
+
     const int m_from;
     const int m_to;
     const CylinderColours& m_colours;

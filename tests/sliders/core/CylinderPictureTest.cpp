@@ -170,6 +170,20 @@ TEST(CylinderPicture, ABandDimsWhereTheCylinderTurnsAway)
     EXPECT_EQ(brightest(70), 255) << "as bright as can be up to 75 degrees";
 }
 
+TEST(CylinderPicture, ABandFadesIntoTheShadeAroundIt)
+{
+    // A quarter at the edge and near it would be a dark block otherwise.
+    const double range = kColours.light.red - kColours.dark.red;
+    for (const double rotation : {0.0, 1.0, 90.0}) {
+        const auto row = pixels(0, 300, rotation, true);
+        for (const int x : {292, 293, 294, 295, 296}) {
+            const double sine = (x + 0.5) / 150 - 1;
+            const double exact = kColours.dark.red + range * std::sqrt(1 - sine * sine);
+            EXPECT_NEAR(row[static_cast<std::size_t>(x)].red, exact, range / 8) << rotation << " at " << x;
+        }
+    }
+}
+
 TEST(CylinderPicture, AFullTurnLooksTheSame)
 {
     for (const double rotation : {0.0, 12.5, -88.0, 179.0})
