@@ -1,29 +1,13 @@
 #include <ovoui/frame/ClipboardText.h>
 
-#include <algorithm>
-#include <memory>
+#include <ovoui/frame/GlobalMemory.h>
+
+#include <string>
 
 namespace ovoui::frame
 {
 namespace
 {
-
-struct FreeGlobal
-{
-    void operator()(void* memory) const { ::GlobalFree(memory); }
-};
-using GlobalMemory = std::unique_ptr<void, FreeGlobal>;
-
-GlobalMemory globalText(std::wstring_view text)
-{
-    GlobalMemory memory{::GlobalAlloc(GMEM_MOVEABLE, (text.size() + 1) * sizeof(wchar_t))};
-    auto* target = memory ? static_cast<wchar_t*>(::GlobalLock(memory.get())) : nullptr;
-    if (!target)
-        return nullptr;
-    *std::copy(text.begin(), text.end(), target) = L'\0';
-    ::GlobalUnlock(memory.get());
-    return memory;
-}
 
 class OpenedClipboard
 {
@@ -50,7 +34,8 @@ private:
 
 bool setClipboardText(HWND owner, std::wstring_view text)
 {
-    GlobalMemory memory = globalText(text);
+    const std::wstring copy(text); // ends with a zero
+    GlobalMemory memory = globalCopy(copy.c_str(), (copy.size() + 1) * sizeof(wchar_t));
     const OpenedClipboard clipboard(owner);
     if (!memory || !clipboard || !::EmptyClipboard())
         return false;

@@ -14,7 +14,8 @@
 ///         return;
 ///
 /// A window is watched as it is. An object that is no window, or that is to be watched without one, has a
-/// lifeline for a member and watches that. A copy of the object has a lifeline of its own.
+/// lifeline for a member and watches that. A copy of the object has a lifeline of its own. A control whose
+/// data is needed after the call keeps it in a SharedState.
 class Lifeline
 {
 public:

@@ -3,6 +3,7 @@
 #include <ovocor/ovocor.h>
 #include <ovoui/frame/MessageDialogBox.h>
 #include <ovoui/frame/Module.h>
+#include <ovoui/frame/ProfileSection.h>
 #include <ovouires/resource.h>
 
 #include <algorithm>
@@ -10,8 +11,12 @@
 namespace
 {
 
-constexpr wchar_t kSection[] = L"answers";
 constexpr unsigned kLongestCount = 24 * 60 * 60;
+
+ovoui::frame::ProfileSection answers()
+{
+    return ovoui::frame::ProfileSection(L"answers");
+}
 
 } // namespace
 
@@ -48,26 +53,21 @@ int COVOMessageDialog::DoModal() const
 {
     const std::wstring caption = m_caption.empty() ? ovoui::resourceString(IDS_MESSAGE_CAPTION) : m_caption;
     COVOMessageDialogBox box(*this, caption);
-    CWinApp* const app = m_entry.empty() ? nullptr : AfxGetApp();
-    if (app) {
-        const int known = static_cast<int>(app->GetProfileInt(kSection, m_entry.c_str(), 0));
-        if (known != 0 && known != IDCANCEL && known != IDHELP && box.hasButton(known))
-            return known;
-    }
+    const int known = m_entry.empty() ? 0 : answers().number(m_entry);
+    if (known != 0 && known != IDCANCEL && known != IDHELP && box.hasButton(known))
+        return known;
     const int answer = static_cast<int>(box.DoModal());
-    if (app && box.keepsAnswer() && answer != IDCANCEL && box.hasButton(answer))
-        app->WriteProfileInt(kSection, m_entry.c_str(), answer);
+    if (!m_entry.empty() && box.keepsAnswer() && answer != IDCANCEL && box.hasButton(answer))
+        answers().write(m_entry, answer);
     return answer;
 }
 
 void COVOMessageDialog::ForgetAnswer(const std::wstring& entry)
 {
-    if (CWinApp* const app = AfxGetApp())
-        app->WriteProfileString(kSection, entry.c_str(), nullptr);
+    answers().remove(entry);
 }
 
 void COVOMessageDialog::ForgetAnswers()
 {
-    if (CWinApp* const app = AfxGetApp())
-        app->WriteProfileString(kSection, nullptr, nullptr);
+    answers().removeAll();
 }

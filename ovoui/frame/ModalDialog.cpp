@@ -1,9 +1,6 @@
 #include <ovoui/frame/ModalDialog.h>
 
-#include <ovocor/ovocor.h>
-
-#include <exception>
-#include <string>
+#include <ovoui/frame/Exceptions.h>
 
 COVOModalDialog::COVOModalDialog(UINT nIDTemplate, CWnd* pParentWnd)
     : CDialog(nIDTemplate, pParentWnd)
@@ -16,14 +13,10 @@ COVOModalDialog::~COVOModalDialog() = default;
 /// and catch others, for as long as the user takes to answer.
 BOOL COVOModalDialog::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    std::wstring text;
-    try {
-        return CWnd::OnWndMsg(message, wParam, lParam, pResult);
-    } catch (const OvoError& error) {
-        text = error.wwhat();
-    } catch (const std::exception& error) {
-        text = getWCS(error.what());
-    }
-    AfxMessageBox(text.c_str(), MB_ICONEXCLAMATION | MB_TASKMODAL, m_nIDHelp);
-    return TRUE;
+    BOOL handled = TRUE;
+    const auto error =
+        ovoui::frame::errorOf([&] { handled = CWnd::OnWndMsg(message, wParam, lParam, pResult); });
+    if (error)
+        AfxMessageBox(error->c_str(), MB_ICONEXCLAMATION | MB_TASKMODAL, m_nIDHelp);
+    return handled;
 }

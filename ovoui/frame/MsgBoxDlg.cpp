@@ -1,6 +1,7 @@
 #include <ovoui/frame/MsgBoxDlg.h>
 
 #include <ovoui/frame/ClipboardText.h>
+#include <ovoui/frame/ProfileSection.h>
 #include <ovoui/frame/UncountedMoves.h>
 #include <ovouires/resource.h>
 
@@ -122,8 +123,7 @@ void COVOMsgBoxDlg::savePosition()
     RECT place{};
     ::GetWindowRect(m_anchor ? m_anchor : m_hWnd, &place);
     const std::wstring text = formatPosition({static_cast<int>(place.left), static_cast<int>(place.top)});
-    if (CWinApp* app = AfxGetApp())
-        app->WriteProfileString(L"settings", m_settingsKey, text.c_str());
+    settingsSection().write(m_settingsKey.GetString(), text);
 }
 
 /// Escape always cancels. From the text it would otherwise close the box: an edit control of several lines

@@ -7,6 +7,7 @@
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/Module.h>
 #include <ovoui/frame/Platform.h>
+#include <ovoui/frame/ProfileSection.h>
 #include <ovoui/frame/UncountedMoves.h>
 #include <ovouires/resource.h>
 
@@ -124,8 +125,7 @@ BOOL COVOMsgBoxDlg::OnInitDialog()
 
 void COVOMsgBoxDlg::readSavedPosition()
 {
-    if (CWinApp* app = AfxGetApp())
-        m_saved = parsePosition(app->GetProfileString(L"settings", m_settingsKey).GetString());
+    m_saved = parsePosition(settingsSection().text(m_settingsKey.GetString()));
 }
 
 void COVOMsgBoxDlg::useGuiFont()

@@ -23,6 +23,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/BufferedPaint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ClipboardText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Geometry.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/GlobalMemory.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageDialog.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageDialogBox.cpp
@@ -33,8 +34,10 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/MsgBoxDlgInit.cpp
   ${CMAKE_CURRENT_LIST_DIR}/NonClientMetrics.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Platform.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ProfileSection.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ProgressBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ProgressBoxDlg.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/RedrawHold.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TabKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ThemeData.cpp)
 include(${CMAKE_CURRENT_LIST_DIR}/icons.cmake)

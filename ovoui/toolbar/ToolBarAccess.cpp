@@ -34,12 +34,12 @@ LRESULT CVantorToolBar::onGetObject(WPARAM wParam, LPARAM lParam)
         }
 
     private:
-        CToolBar* bar() const override { return m_state->usable() ? m_state->bar : nullptr; }
+        CToolBar* bar() const override { return m_state->usable() ? m_state->control() : nullptr; }
         std::wstring nameOfButton(int index) const override
         {
-            return ovoui::toolbar::nameOfButton(*m_state->bar, index);
+            return ovoui::toolbar::nameOfButton(*m_state->control(), index);
         }
-        bool opensFlyout(int index) const override { return m_state->bar->HasFlyout(index); }
+        bool opensFlyout(int index) const override { return m_state->control()->HasFlyout(index); }
         int focusedButton() const override
         {
             const bool at = m_state->keyboard.on && m_state->keyboard.button >= 0;

@@ -1,4 +1,5 @@
 // CVantorToolBar: its buttons and their images.
+#include <ovoui/frame/RedrawHold.h>
 #include <ovoui/toolbar/ImageStrip.h>
 #include <ovoui/toolbar/ToolBarState.h>
 #include <ovoui/toolbar/core/BarRules.h>
@@ -7,6 +8,7 @@
 #include <string_view>
 
 using namespace ovoui::toolbar;
+using ovoui::frame::RedrawHold;
 
 namespace
 {
@@ -33,35 +35,64 @@ ButtonChange changeBetween(const TBBUTTON& before, const TBBUTTON& after)
     return changeOf(fieldsOf(before), wanted);
 }
 
-/// While it lives the control does not redraw and tells the owner nothing, which could destroy it in the
-/// middle of the change. Afterwards no more of it is invalid than before.
-class QuietChange
+/// While it lives the control tells its owner nothing.
+class WithoutOwner
 {
 public:
-    explicit QuietChange(HWND wnd)
+    explicit WithoutOwner(HWND wnd)
         : m_wnd(wnd)
         , m_owner(::SendMessageW(wnd, TB_SETPARENT, 0, 0))
-        , m_invalid(::CreateRectRgn(0, 0, 0, 0))
     {
-        ::GetUpdateRgn(m_wnd, m_invalid, FALSE);
-        ::SendMessageW(m_wnd, WM_SETREDRAW, FALSE, 0);
     }
-    ~QuietChange()
-    {
-        // Wine's toolbar invalidates all of itself when it may redraw again.
-        ::SendMessageW(m_wnd, WM_SETREDRAW, TRUE, 0);
-        ::ValidateRect(m_wnd, nullptr);
-        ::InvalidateRgn(m_wnd, m_invalid, TRUE);
-        ::DeleteObject(m_invalid);
-        ::SendMessageW(m_wnd, TB_SETPARENT, static_cast<WPARAM>(m_owner), 0);
-    }
-    QuietChange(const QuietChange&) = delete;
-    QuietChange& operator=(const QuietChange&) = delete;
+    ~WithoutOwner() { ::SendMessageW(m_wnd, TB_SETPARENT, static_cast<WPARAM>(m_owner), 0); }
+    WithoutOwner(const WithoutOwner&) = delete;
+    WithoutOwner& operator=(const WithoutOwner&) = delete;
 
 private:
     HWND m_wnd;
     LRESULT m_owner;
-    HRGN m_invalid;
+};
+
+/// In the end no more of a window is invalid than at the beginning.
+class SameInvalid
+{
+public:
+    explicit SameInvalid(HWND wnd)
+        : m_wnd(wnd)
+    {
+        m_region.CreateRectRgn(0, 0, 0, 0);
+        ::GetUpdateRgn(m_wnd, m_region, FALSE);
+    }
+    ~SameInvalid()
+    {
+        ::ValidateRect(m_wnd, nullptr);
+        ::InvalidateRgn(m_wnd, m_region, TRUE);
+    }
+    SameInvalid(const SameInvalid&) = delete;
+    SameInvalid& operator=(const SameInvalid&) = delete;
+
+private:
+    HWND m_wnd;
+    CRgn m_region;
+};
+
+/// A change during which the control does not redraw, and does not tell the owner, which could destroy it in
+/// the middle. Wine's toolbar invalidates all of itself when it may redraw again; that is taken back.
+class QuietChange
+{
+public:
+    explicit QuietChange(HWND wnd)
+        : m_withoutOwner(wnd)
+        , m_sameInvalid(wnd)
+        , m_hold(wnd, RedrawHold::By::Control)
+    {
+    }
+
+private:
+    // They end in the opposite order.
+    const WithoutOwner m_withoutOwner;
+    const SameInvalid m_sameInvalid;
+    const RedrawHold m_hold;
 };
 
 } // namespace

@@ -1,37 +1,35 @@
 // CVantorToolBar: the choices of flyout buttons in the application's profile.
+#include <ovoui/frame/ProfileSection.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/ToolBarState.h>
 
 using namespace ovoui::toolbar;
+using ovoui::frame::ProfileSection;
 
 namespace
 {
 
 /// The profile entry of a button.
-CString entryOf(int button)
+std::wstring entryOf(int button)
 {
-    CString name;
-    name.Format(L"Button%d", button);
-    return name;
+    return L"Button" + std::to_wstring(button);
 }
 
 } // namespace
 
 void CVantorToolBar::SaveChoices(LPCTSTR section) const
 {
-    CWinApp* const app = AfxGetApp();
-    for (int i = 0; app && i < buttonCount(); ++i)
+    const ProfileSection choices(section);
+    for (int i = 0; i < buttonCount(); ++i)
         if (HasFlyout(i))
-            app->WriteProfileInt(section, entryOf(i), static_cast<int>(GetItemID(i)));
+            choices.write(entryOf(i), static_cast<int>(GetItemID(i)));
 }
 
 void CVantorToolBar::LoadChoices(LPCTSTR section)
 {
-    CWinApp* const app = AfxGetApp();
-    for (int i = 0; app && i < buttonCount(); ++i) {
-        if (!HasFlyout(i))
-            continue;
-        const int command = static_cast<int>(app->GetProfileInt(section, entryOf(i), 0));
+    const ProfileSection choices(section);
+    for (int i = 0; i < buttonCount(); ++i) {
+        const int command = HasFlyout(i) ? choices.number(entryOf(i)) : 0;
         if (command != 0)
             restoreChoice(i, command);
     }

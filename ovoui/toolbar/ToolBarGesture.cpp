@@ -1,4 +1,5 @@
 // CVantorToolBar: press a button, hold it, slide to an entry of its flyout, release.
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/toolbar/ButtonNames.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
@@ -9,6 +10,8 @@
 #include <utility>
 
 using namespace ovoui::toolbar;
+using ovoui::frame::keeping;
+using ovoui::frame::raise;
 
 namespace
 {
@@ -111,7 +114,7 @@ void CVantorToolBar::CreatePopup(int index, const CRect& rect, int held)
     ms_activeBar = this;
     flyout->whenChosen = [state](const FlyoutEntry& entry) {
         if (state->usable())
-            state->bar->chooseEntry(entry);
+            state->control()->chooseEntry(entry);
     };
     if (state->accessible)
         flyout->useAccessibleNames(nameOfButton(*this, index));
@@ -246,13 +249,10 @@ void CVantorToolBar::releaseQuietly(UINT flags, CPoint point)
         SetButtonStyle(index, disabled ? style | TBBS_DISABLED : style & ~static_cast<UINT>(TBBS_DISABLED));
     };
     setDisabled(true);
-    try {
-        CToolBar::OnLButtonUp(flags, point); // tells the owner of the capture
-    } catch (...) {
-        setDisabled(false);
-        throw;
-    }
+    const std::exception_ptr foreign =
+        keeping([&] { CToolBar::OnLButtonUp(flags, point); }); // tells the owner of the capture
     setDisabled(false);
+    raise(foreign);
 }
 
 void CVantorToolBar::OnCaptureChanged(CWnd* now)

@@ -1,6 +1,7 @@
 /// Not exported: what a toolbar keeps. It outlives the bar while a call into the host's code is under way.
 #pragma once
 
+#include <ovoui/frame/SharedState.h>
 #include <ovoui/images/AlphaImageList.h>
 #include <ovoui/toolbar/ButtonTip.h>
 #include <ovoui/toolbar/VantorToolBar.h>
@@ -9,17 +10,11 @@
 #include <map>
 #include <set>
 
-struct CVantorToolBar::State
+struct CVantorToolBar::State : ovoui::frame::SharedState<CVantorToolBar>
 {
     static constexpr UINT kHoldDelay = 200; // milliseconds
 
-    explicit State(CVantorToolBar& owner)
-        : bar(&owner)
-    {
-    }
-
-    /// Whether the bar and its window are still there.
-    bool usable() const { return bar && bar->m_hWnd; }
+    using SharedState::SharedState;
 
     /// Where the images of a strip begin; 0 for one that was not noted.
     int offsetOf(int bitmapId) const
@@ -28,7 +23,6 @@ struct CVantorToolBar::State
         return found == bitmapOffsets.end() ? 0 : found->second;
     }
 
-    CVantorToolBar* bar; ///< null once it is destroyed
     ovoui::toolbar::FlyoutRecords records;
     std::map<int, int> bitmapOffsets; ///< where the images of a strip begin, by its resource
     ControlCallback callback = nullptr;

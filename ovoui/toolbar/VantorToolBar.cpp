@@ -63,7 +63,7 @@ CVantorToolBar::~CVantorToolBar()
     if (ms_activeBar == this)
         endPress();
     DestroyWindow(); // while the handlers of this class still answer
-    m_state->bar = nullptr;
+    m_state->controlGoes();
 }
 
 void CVantorToolBar::OnDestroy()

@@ -3,7 +3,7 @@
 int MultiTreeCtrl::ChildWalk::compare(const InsertionPoint& where, const Node& node)
 {
     const OVO::Handle<Node> child = m_state->view.node(m_child.item());
-    return child ? where.compareChildren(*m_state->tree, *child, node) : -1;
+    return child ? where.compareChildren(*m_state->control(), *child, node) : -1;
 }
 
 bool MultiTreeCtrl::ChildWalk::findPlace(const InsertionPoint& where, const Node& node)

@@ -7,8 +7,8 @@
 
 #include <algorithm>
 
-using ovoui::tree::quietly;
-using ovoui::tree::raise;
+using ovoui::frame::quietly;
+using ovoui::frame::raise;
 
 namespace
 {

@@ -40,7 +40,7 @@ public:
     virtual void settles(const Message&, HTREEITEM) {}
 
 protected:
-    MultiTreeCtrl& tree() const { return *m_state.tree; }
+    MultiTreeCtrl& tree() const { return *m_state.control(); }
     const View& view() const { return m_state.view; }
     /// For what follows items while the host is called.
     std::shared_ptr<State> shared() const { return tree().m_state; }

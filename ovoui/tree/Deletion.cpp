@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+using namespace ovoui::frame;
 using namespace ovoui::tree;
 
 // The control's handlers and operations

@@ -30,7 +30,7 @@ void MultiTreeCtrl::OnEditDelete()
     gestures->notify(0);
     if (erased && host.usable())
         notifyTvnSelchanged(TVC_UNKNOWN, nullptr, m_state->view.caret(), CPoint(0, 0));
-    ovoui::tree::raise(foreign);
+    ovoui::frame::raise(foreign);
 }
 
 // Erasing
@@ -61,7 +61,7 @@ public:
     {
         for (; m_started < m_nodes.size() && m_state->usable(); ++m_started) {
             const DragCursorSet* cursors = nullptr;
-            m_nodes[m_started]->dragStarting(*m_state->tree, 0, cursors);
+            m_nodes[m_started]->dragStarting(*m_state->control(), 0, cursors);
         }
     }
     void endAll()
@@ -75,7 +75,7 @@ private:
     {
         const OVO::Handle<Node>& node = m_nodes[m_ended++];
         if (m_state->usable())
-            node->dragEnding(*m_state->tree, 0);
+            node->dragEnding(*m_state->control(), 0);
     }
 
     const std::shared_ptr<State> m_state;

@@ -7,6 +7,7 @@
 #include <ovoui/tree/RowKeeper.h>
 #include <ovoui/tree/core/ExpansionRule.h>
 
+using namespace ovoui::frame;
 using namespace ovoui::tree;
 
 namespace

@@ -7,6 +7,7 @@
 #include <ovoui/tree/RowKeeper.h>
 #include <ovoui/tree/UnreportedNodes.h>
 
+using namespace ovoui::frame;
 using namespace ovoui::tree;
 
 Change ovoui::tree::changeBy(UINT message)
@@ -117,7 +118,7 @@ LRESULT MultiTreeCtrl::DefWindowProc(UINT id, WPARAM wParam, LPARAM lParam)
     for (Concern* concern : state->listeners) {
         bool goesOn = true;
         keepFirst(foreign, [&] { goesOn = concern->arrives(message); });
-        if (!goesOn || !state->tree) {
+        if (!goesOn || !state->control()) {
             raise(foreign);
             return TRUE;
         }

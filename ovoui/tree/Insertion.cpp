@@ -5,10 +5,10 @@
 #include <ovoui/tree/LayoutHold.h>
 #include <ovoui/frame/Platform.h>
 
+using ovoui::frame::keeping;
 using ovoui::tree::BorrowedNode;
 using ovoui::tree::Change;
 using ovoui::tree::Children;
-using ovoui::tree::keeping;
 
 namespace
 {
@@ -72,7 +72,7 @@ HTREEITEM MultiTreeCtrl::Insertion::send(const TVINSERTSTRUCT& insert, const Nod
         if (item)
             takeBack(item);
     }
-    ovoui::tree::raise(foreign);
+    ovoui::frame::raise(foreign);
     return item;
 }
 

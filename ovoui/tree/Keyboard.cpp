@@ -7,6 +7,7 @@
 
 #include <ovouires/resource.h>
 
+using namespace ovoui::frame;
 using namespace ovoui::tree;
 
 namespace

@@ -7,6 +7,7 @@
 
 #include <ovouires/resource.h>
 
+using namespace ovoui::frame;
 using namespace ovoui::tree;
 
 const UINT ovoui::tree::kEditLabelAgain = ::RegisterWindowMessageW(L"ovoui.MultiTreeCtrl.EditLabelAgain");
@@ -209,7 +210,7 @@ bool MultiTreeCtrl::LabelEdit::arrives(Message& message)
     const HostCalls host(tree());
     const Tracker going(shared(), top);
     tree().DefWindowProc(TVM_ENDEDITLABELNOW, TRUE, 0);
-    return m_state.tree && tree().m_hWnd && going;
+    return m_state.control() && tree().m_hWnd && going;
 }
 
 void MultiTreeCtrl::LabelEdit::itemGoes(HTREEITEM item)

@@ -1,7 +1,7 @@
 /// Not exported: many insertions, one layout and one repaint.
 #pragma once
 
-#include <ovoui/tree/RedrawHold.h>
+#include <ovoui/frame/RedrawHold.h>
 #include <ovoui/tree/TreeState.h>
 
 /// While it lives, the tree view neither draws nor works out where its items are.
@@ -16,5 +16,5 @@ public:
 private:
     const std::shared_ptr<State> m_state;
     const bool m_holds; ///< not when the host holds it already
-    ovoui::tree::RedrawHold m_redraw;
+    ovoui::frame::RedrawHold m_redraw;
 };

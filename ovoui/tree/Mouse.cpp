@@ -4,10 +4,11 @@
 #include <ovoui/tree/DragDetector.h>
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
-#include <ovoui/tree/RedrawHold.h>
+#include <ovoui/frame/RedrawHold.h>
 #include <ovoui/tree/Selection.h>
 #include <ovoui/tree/core/HitParts.h>
 
+using namespace ovoui::frame;
 using namespace ovoui::tree;
 
 namespace
@@ -65,7 +66,7 @@ struct MultiTreeCtrl::Mouse::Click
         : button(which)
         , keys(pressedKeys)
         , point(where)
-        , item(state, state->tree->HitTest(where, &hit))
+        , item(state, state->control()->HitTest(where, &hit))
         , onCaret(state->usable() && item && item.item() == state->view.caret())
     {
     }

@@ -65,12 +65,12 @@ MultiTreeCtrl::MultiTreeCtrl()
 
 MultiTreeCtrl::~MultiTreeCtrl()
 {
-    m_state->closing = true;
+    m_state->controlCloses();
     // Here and not in the base class: there the notifications that release the nodes would not arrive. Not by
     // the member function either: an exception must not leave a destructor.
     if (m_hWnd)
         ::DestroyWindow(m_hWnd);
-    m_state->tree = nullptr;
+    m_state->controlGoes();
 }
 
 int MultiTreeCtrl::OnCreate(LPCREATESTRUCT cs)

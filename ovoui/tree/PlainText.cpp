@@ -1,32 +1,18 @@
 #include <ovoui/tree/PlainText.h>
 
+#include <ovoui/frame/GlobalMemory.h>
+
 #include <ovocor/Text.h>
 
 #include <afxole.h>
 
-#include <cstring>
-
 namespace
 {
 
-/// Shared memory with a copy of `size` bytes; null when there is none.
-HGLOBAL sharedCopy(const void* bytes, std::size_t size)
-{
-    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE | GMEM_SHARE, size);
-    void* place = memory ? ::GlobalLock(memory) : nullptr;
-    if (!place) {
-        ::GlobalFree(memory);
-        return nullptr;
-    }
-    std::memcpy(place, bytes, size);
-    ::GlobalUnlock(memory);
-    return memory;
-}
-
 void offer(COleDataSource& source, CLIPFORMAT format, const void* bytes, std::size_t size)
 {
-    if (const HGLOBAL memory = sharedCopy(bytes, size))
-        source.CacheGlobalData(format, memory);
+    if (ovoui::frame::GlobalMemory memory = ovoui::frame::globalCopy(bytes, size))
+        source.CacheGlobalData(format, memory.release());
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
-#include <ovoui/tree/RedrawHold.h>
+#include <ovoui/frame/RedrawHold.h>
 
 #include <unordered_set>
 
@@ -49,7 +49,7 @@ void MultiTreeCtrl::updateUI(HTREEITEM item)
 void MultiTreeCtrl::OnRedraw()
 {
     const HostCalls host(*this);
-    const ovoui::tree::RedrawHold hold(m_hWnd);
+    const ovoui::frame::RedrawHold hold(m_hWnd);
     host.report([this] { Refresh(*this).all(); });
 }
 

@@ -3,13 +3,13 @@
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/ParentNotificationFilter.h>
-#include <ovoui/tree/RedrawHold.h>
+#include <ovoui/frame/RedrawHold.h>
 
 #include <algorithm>
 #include <optional>
 
+using ovoui::frame::RedrawHold;
 using ovoui::tree::ParentNotificationFilter;
-using ovoui::tree::RedrawHold;
 
 namespace
 {

@@ -14,7 +14,7 @@
 
 // The label editor is closed before anything is deleted; children go before what was postponed.
 MultiTreeCtrl::State::State(MultiTreeCtrl& owner)
-    : tree(&owner)
+    : SharedState(owner)
     , view(*this)
     , labelEdit(std::make_unique<LabelEdit>(*this))
     , selection(std::make_unique<Selection>(*this))
@@ -46,7 +46,7 @@ void MultiTreeCtrl::State::forgetItem(HTREEITEM item)
 {
     ++structure;
     std::erase_if(doomed, [item](const Doomed& each) { return each.item == item; });
-    if (tree)
+    if (control())
         for (Concern* concern : listeners)
             concern->itemGoes(item);
     for (ItemWatcher* watcher : watchers)

@@ -2,6 +2,7 @@
 /// into the host's code is under way.
 #pragma once
 
+#include <ovoui/frame/SharedState.h>
 #include <ovoui/tree/MultiTreeCtrl.h>
 #include <ovoui/tree/PlatformHolds.h>
 #include <ovoui/tree/View.h>
@@ -9,13 +10,10 @@
 #include <memory>
 #include <vector>
 
-struct MultiTreeCtrl::State
+struct MultiTreeCtrl::State : ovoui::frame::SharedState<MultiTreeCtrl>
 {
     explicit State(MultiTreeCtrl& owner);
     ~State();
-
-    /// Whether the control and its window are still there.
-    bool usable() const { return tree && tree->m_hWnd && !closing; }
 
     std::vector<HTREEITEM> selectedItems() const; ///< in no order
     /// Handles to the selected nodes, in the order of the tree.
@@ -28,8 +26,6 @@ struct MultiTreeCtrl::State
     /// The control has taken over a tree view that may have items already.
     void takeOver();
 
-    MultiTreeCtrl* tree;  ///< null once it is destroyed
-    bool closing = false; ///< its destructor runs: the host's part of it is gone
     const View view;
 
     // The concerns

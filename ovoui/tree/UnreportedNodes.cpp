@@ -4,7 +4,7 @@ MultiTreeCtrl::UnreportedNodes::UnreportedNodes(State& state, const Message& mes
     : m_state(state)
 {
     const bool deletes = message.id == TVM_DELETEITEM || message.id == WM_DESTROY;
-    if ((!deletes && !message.empties()) || CWnd::FromHandlePermanent(::GetParent(state.tree->m_hWnd)))
+    if ((!deletes && !message.empties()) || CWnd::FromHandlePermanent(::GetParent(state.control()->m_hWnd)))
         return;
     const HTREEITEM item = message.item();
     if (message.id == TVM_DELETEITEM && item && item != TVI_ROOT)

@@ -6,7 +6,7 @@
 
 MultiTreeCtrl& MultiTreeCtrl::View::tree() const
 {
-    return *m_state.tree;
+    return *m_state.control();
 }
 
 // Questions

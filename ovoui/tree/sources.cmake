@@ -40,7 +40,6 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/Paste.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Paths.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PlainText.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/RedrawHold.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Refresh.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RowKeeper.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SelectedItems.cpp

@@ -1,10 +1,9 @@
 #include <ovoui/update/UpdateJob.h>
 
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/update/UpdateList.h>
 
 #include <ovocor/DownloadControl.h>
-#include <ovocor/OvoError.h>
-#include <ovocor/Text.h>
 
 #include <utility>
 
@@ -98,16 +97,12 @@ void UpdateJob::run() noexcept
 
 UpdateJob::Answer UpdateJob::answer() const noexcept
 {
-    Answer failed;
-    failed.trust = m_question.trust;
-    try {
-        return ask();
-    } catch (const OvoError& error) {
-        failed.error = error.wwhat();
-    } catch (const std::exception& error) {
-        failed.error = getWCS(error.what());
+    Answer found;
+    if (auto error = ovoui::frame::errorOf([&] { found = ask(); })) {
+        found.trust = m_question.trust;
+        found.error = std::move(*error);
     }
-    return failed;
+    return found;
 }
 
 UpdateJob::Answer UpdateJob::ask() const

@@ -1,9 +1,8 @@
 #include <ovoui/update/UpdateMemory.h>
 
+#include <ovoui/frame/ProfileSection.h>
 #include <ovoui/update/UpdateCheck.h>
 #include <ovoui/update/core/PoliteSchedule.h>
-
-#include <afxwin.h>
 
 #include <ctime>
 
@@ -12,12 +11,17 @@ using namespace ovoui::update;
 namespace
 {
 
-constexpr wchar_t kSection[] = L"updates";
 constexpr wchar_t kChecked[] = L"checked";
 constexpr wchar_t kRemindAt[] = L"remind";
 constexpr wchar_t kSkipped[] = L"skipped";
 constexpr wchar_t kIssue[] = L"issue";
 constexpr std::int64_t kDay = 24 * 60 * 60;
+
+/// The section of the profile.
+ovoui::frame::ProfileSection memory()
+{
+    return ovoui::frame::ProfileSection(L"updates");
+}
 
 std::int64_t now()
 {
@@ -69,10 +73,10 @@ void UpdateMemory::keepIssue(const std::wstring& issue)
 
 std::wstring UpdateMemory::read(const wchar_t* what) const
 {
-    return AfxGetApp()->GetProfileString(kSection, (m_product + L' ' + what).c_str()).GetString();
+    return memory().text(m_product + L' ' + what);
 }
 
 void UpdateMemory::write(const wchar_t* what, const std::wstring& value)
 {
-    AfxGetApp()->WriteProfileString(kSection, (m_product + L' ' + what).c_str(), value.c_str());
+    memory().write(m_product + L' ' + what, value);
 }
