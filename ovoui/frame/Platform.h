@@ -14,11 +14,6 @@ struct Platform
 {
     // The tree view
 
-    /// Behind the last sibling TVI_LAST is faster than that sibling's handle. Wine keeps the last sibling at
-    /// hand, but looks a handle up among all items of the tree; Windows walks over all siblings for TVI_LAST
-    /// and takes a handle as it is.
-    bool appendsFasterByMarker;
-
     /// Changes in a closed item put the rows of all others out of order, until the tree view lays them out
     /// anew; and items that are not displayed may become the first row.
     bool losesRows;

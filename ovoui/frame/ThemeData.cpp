@@ -96,3 +96,13 @@ bool CThemeData::drawBackground(HDC dc, const RECT* rect, HWND wnd, const wchar_
     m_closeThemeData(theme);
     return true;
 }
+
+bool CThemeData::drawCheckBox(HDC dc, const RECT* rect, HWND wnd, int state) const
+{
+    const HTHEME theme = m_module ? m_openThemeData(wnd, L"Button") : nullptr;
+    if (!theme)
+        return false;
+    m_drawThemeBackground(theme, dc, BP_CHECKBOX, state, rect, nullptr);
+    m_closeThemeData(theme);
+    return true;
+}

@@ -240,3 +240,11 @@ void MultiTreeCtrl::Commands::updateMenuItem(CMenu& popup, UINT index)
     if (host.usable() && tree().isCommandDisabled(id))
         popup.EnableMenuItem(index, MF_BYPOSITION | MF_GRAYED);
 }
+
+// What the state asks for
+
+template <>
+std::shared_ptr<MultiTreeCtrl::Commands> MultiTreeCtrl::State::make()
+{
+    return std::make_shared<Commands>(*this);
+}

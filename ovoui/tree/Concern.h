@@ -13,6 +13,7 @@ public:
     explicit Concern(State& state)
         : m_state(state)
     {
+        state.listeners.push_back(this);
     }
     virtual ~Concern() = default;
     Concern(const Concern&) = delete;
@@ -22,6 +23,18 @@ public:
     virtual void itemGoes(HTREEITEM) {}
     /// All items have gone with the window.
     virtual void allGo() {}
+
+    /// The children of an item go, since it closes; or have come, since it has opened.
+    virtual void childrenGo(HTREEITEM) {}
+    virtual void childrenCame(HTREEITEM) {}
+
+    /// The host has asked for other extras.
+    virtual void extrasChange() {}
+    /// The window is there.
+    virtual void windowMade() {}
+    /// A key went down, or a character was typed (WM_KEYDOWN, WM_CHAR), before the rules of keys. True when
+    /// that is all.
+    virtual bool takesKey(UINT, UINT) { return false; }
 
     /// The tree has taken over a tree view that may have items already.
     virtual void takesOver() {}

@@ -203,3 +203,11 @@ void MultiTreeCtrl::Deletion::restoreButton(HTREEITEM item)
     changes.cChildren = node->children;
     tree().DefWindowProc(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changes));
 }
+
+// What the state asks for
+
+template <>
+std::shared_ptr<MultiTreeCtrl::Deletion> MultiTreeCtrl::State::make()
+{
+    return std::make_shared<Deletion>(*this);
+}

@@ -125,3 +125,11 @@ bool MultiTreeCtrl::dragScroll(unsigned code, unsigned, bool doIt)
     }
     return true;
 }
+
+// What the state asks for
+
+template <>
+std::shared_ptr<MultiTreeCtrl::Dropping> MultiTreeCtrl::State::make()
+{
+    return std::make_shared<Dropping>(*this);
+}

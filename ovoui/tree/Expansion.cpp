@@ -106,6 +106,8 @@ bool MultiTreeCtrl::Expansion::after(const NMTREEVIEW& notification)
             else
                 tree().updateUI(*node);
         });
+        if (host.usable() && node->hTreeItem() == item.hItem && view().isOpen(item.hItem))
+            host.reportKeeping(foreign, [&] { m_state.meetChildren(item.hItem); });
     }
     m_state.deletion->deleteDoomed();
     raise(foreign);
@@ -127,6 +129,8 @@ void MultiTreeCtrl::Expansion::close(Node& node, HTREEITEM item)
     const HostCalls host(tree());
     std::exception_ptr foreign;
     host.reportKeeping(foreign, [&] { node.collapse(tree()); });
+    if (host.usable())
+        m_state.forgetChildren(item);
     if (host.usable() && node.hTreeItem() == item) {
         host.reportKeeping(foreign, [&] { deleteChildren(item); });
         if (host.usable())
@@ -172,4 +176,12 @@ void MultiTreeCtrl::Expansion::deleteChildrenOneByOne(HTREEITEM item)
         former = child;
     }
     raise(foreign);
+}
+
+// What the state asks for
+
+template <>
+std::shared_ptr<MultiTreeCtrl::Expansion> MultiTreeCtrl::State::make()
+{
+    return std::make_shared<Expansion>(*this);
 }

@@ -1,9 +1,9 @@
 #include <ovoui/tree/Insertion.h>
 
+#include <ovoui/tree/CheckBoxConcern.h>
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/Inserter.h>
 #include <ovoui/tree/LayoutHold.h>
-#include <ovoui/frame/Platform.h>
 
 using ovoui::frame::keeping;
 using ovoui::tree::BorrowedNode;
@@ -32,27 +32,17 @@ HTREEITEM MultiTreeCtrl::Insertion::insertItem(const Node& node, HTREEITEM paren
     insert.item.pszText = label.data();
     insert.item.iImage = node.image();
     insert.item.iSelectedImage = insert.item.iImage;
-    insert.item.state = node.state;
-    insert.item.stateMask = kInsertedState;
+    const TVITEM box = m_state.checkBoxes->stateImage(node);
+    insert.item.state = node.state | box.state;
+    insert.item.stateMask = kInsertedState | box.stateMask;
     insert.item.cChildren = node.children;
     insert.item.lParam = reinterpret_cast<LPARAM>(&node);
     // The node may have got another item meanwhile, by its own doing.
     if (!host.usable() || !under || node.m_hTreeItem != itemBefore)
         return nullptr;
     insert.hParent = under.item();
-    insert.hInsertAfter = behindLastIfKnown(under.item(), behind.item());
-    const HTREEITEM item = send(insert, node);
-    if (behind.item() == TVI_LAST && host.usable())
-        m_appended = {under.item(), item, m_state.structure};
-    return item;
-}
-
-/// TVI_LAST, or the last child where that is faster; anything else as it is.
-HTREEITEM MultiTreeCtrl::Insertion::behindLastIfKnown(HTREEITEM parent, HTREEITEM after) const
-{
-    const bool known =
-        m_appended.item && m_appended.parent == parent && m_appended.structure == m_state.structure;
-    return after == TVI_LAST && known && !ovoui::platform().appendsFasterByMarker ? m_appended.item : after;
+    insert.hInsertAfter = behind.item();
+    return send(insert, node);
 }
 
 /// An exception out of the message, raised by a window that the tree view has told of the change, must not
@@ -206,4 +196,12 @@ HTREEITEM MultiTreeCtrl::insertAndSelect(Node* node, bool& first, InsertionPoint
     const HostCalls host(*this);
     const HTREEITEM item = insert(node, where, position);
     return item && host.usable() ? m_state->insertion->select(item, first) : nullptr;
+}
+
+// What the state asks for
+
+template <>
+std::shared_ptr<MultiTreeCtrl::Insertion> MultiTreeCtrl::State::make()
+{
+    return std::make_shared<Insertion>(*this);
 }

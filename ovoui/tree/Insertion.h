@@ -35,18 +35,9 @@ public:
     void fails() override;
 
 private:
-    HTREEITEM behindLastIfKnown(HTREEITEM parent, HTREEITEM after) const;
     HTREEITEM send(const TVINSERTSTRUCT& insert, const Node& node);
     void takeBack(HTREEITEM item) const;
 
-    struct Appended
-    {
-        HTREEITEM parent = nullptr;
-        HTREEITEM item = nullptr;
-        unsigned structure = 0; ///< of the tree; if that has changed, others may have come behind the item
-    };
-
     bool m_halves = false;
     ovoui::tree::ChildOrders m_children;
-    Appended m_appended; ///< the last item that was appended
 };

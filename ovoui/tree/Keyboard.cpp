@@ -7,6 +7,8 @@
 
 #include <ovouires/resource.h>
 
+#include <algorithm>
+
 using namespace ovoui::frame;
 using namespace ovoui::tree;
 
@@ -39,7 +41,10 @@ void MultiTreeCtrl::OnChar(UINT character, UINT repeat, UINT flags)
 
 UINT MultiTreeCtrl::OnGetDlgCode()
 {
-    return CTreeCtrl::OnGetDlgCode() | DLGC_WANTARROWS;
+    const auto* const asked = reinterpret_cast<const MSG*>(GetCurrentMessage()->lParam);
+    const bool escape = asked && asked->message == WM_KEYDOWN && asked->wParam == VK_ESCAPE;
+    const UINT searching = escape && m_state->isFinding() ? DLGC_WANTALLKEYS : 0;
+    return CTreeCtrl::OnGetDlgCode() | DLGC_WANTARROWS | searching;
 }
 
 void MultiTreeCtrl::OnReturn(NMHDR*, LRESULT* result)
@@ -71,9 +76,12 @@ void MultiTreeCtrl::defaultAction()
 
 void MultiTreeCtrl::Keyboard::keyDown(UINT key, const Default& handle)
 {
-    perform(
-        keyPressed({key, isDown(VK_SHIFT), isDown(VK_CONTROL), isDown(VK_MENU), view().caret() != nullptr}),
-        handle);
+    if (m_state.takesKey(WM_KEYDOWN, key) || !m_state.usable())
+        return;
+    const HTREEITEM caret = view().caret();
+    perform(keyPressed({key, isDown(VK_SHIFT), isDown(VK_CONTROL), isDown(VK_MENU), caret != nullptr,
+                        (m_state.extras & AddRanges) != 0, m_state.hasCheckBox(caret)}),
+            handle);
 }
 
 void MultiTreeCtrl::Keyboard::systemKeyDown(UINT key, const Default& handle)
@@ -83,6 +91,8 @@ void MultiTreeCtrl::Keyboard::systemKeyDown(UINT key, const Default& handle)
 
 void MultiTreeCtrl::Keyboard::character(UINT character, const Default& handle)
 {
+    if (m_state.takesKey(WM_CHAR, character) || !m_state.usable())
+        return;
     perform({Aim::None, characterTyped(static_cast<wchar_t>(character), isDown(VK_CONTROL))}, handle);
 }
 
@@ -106,9 +116,28 @@ HTREEITEM MultiTreeCtrl::Keyboard::goalOf(Aim aim) const
         return view().displayedAbove(view().caret());
     case Aim::Below:
         return view().displayedBelow(view().caret());
+    case Aim::Last:
+        return view().getLastItem();
+    case Aim::PageAbove:
+        return pageFrom(view().caret(), TVGN_PREVIOUSVISIBLE);
+    case Aim::PageBelow:
+        return pageFrom(view().caret(), TVGN_NEXTVISIBLE);
     default:
         return nullptr;
     }
+}
+
+/// As many rows on as the window shows, less one that stays in sight.
+HTREEITEM MultiTreeCtrl::Keyboard::pageFrom(HTREEITEM caret, UINT relation) const
+{
+    HTREEITEM item = caret ? view().displayedFor(caret) : nullptr;
+    for (auto rows = std::max<LRESULT>(view().ask(TVM_GETVISIBLECOUNT) - 1, 1); item && rows > 0; --rows) {
+        const HTREEITEM next = view().next(relation, item);
+        if (!next)
+            break;
+        item = next;
+    }
+    return item;
 }
 
 void MultiTreeCtrl::Keyboard::perform(Action action, HTREEITEM goal, const Default& handle)
@@ -132,6 +161,9 @@ void MultiTreeCtrl::Keyboard::perform(Action action, HTREEITEM goal, const Defau
     case Action::SelectRange:
         selection.selectRange(goal, way);
         break;
+    case Action::AddRange:
+        selection.addRange(goal, way);
+        break;
     case Action::MoveCaret:
         selection.moveCaret(goal, way);
         break;
@@ -141,6 +173,9 @@ void MultiTreeCtrl::Keyboard::perform(Action action, HTREEITEM goal, const Defau
     case Action::ToggleCaret:
         if (const HTREEITEM caret = view().caret())
             selection.set(caret, !view().isSelected(caret), way);
+        break;
+    case Action::ToggleCheck:
+        m_state.toggleCaretsCheck();
         break;
     case Action::SelectAll:
         selectAll();
@@ -230,4 +265,12 @@ bool MultiTreeCtrl::Keyboard::translate(MSG& message)
         return false;
     tree().OnOk();
     return true;
+}
+
+// What the state asks for
+
+template <>
+std::shared_ptr<MultiTreeCtrl::Keyboard> MultiTreeCtrl::State::make()
+{
+    return std::make_shared<Keyboard>(*this);
 }

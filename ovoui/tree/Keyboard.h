@@ -28,6 +28,7 @@ private:
     void perform(const ovoui::tree::KeyRule& rule, const Default& handle);
     void perform(ovoui::tree::Action action, HTREEITEM goal, const Default& handle);
     HTREEITEM goalOf(ovoui::tree::Aim aim) const;
+    HTREEITEM pageFrom(HTREEITEM caret, UINT relation) const;
     void selectAll();
     void activateSelection();
 };

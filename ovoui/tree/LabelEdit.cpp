@@ -226,3 +226,11 @@ void MultiTreeCtrl::LabelEdit::allGo()
     m_edited = nullptr;
     m_again = nullptr;
 }
+
+// What the state asks for
+
+template <>
+std::shared_ptr<MultiTreeCtrl::LabelEdit> MultiTreeCtrl::State::make()
+{
+    return std::make_shared<LabelEdit>(*this);
+}

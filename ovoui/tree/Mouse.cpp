@@ -68,10 +68,17 @@ struct MultiTreeCtrl::Mouse::Click
         , point(where)
         , item(state, state->control()->HitTest(where, &hit))
         , onCaret(state->usable() && item && item.item() == state->view.caret())
+        , onCheckBox(state->usable() && which == Button::Left && state->hasCheckBox(item.item()))
+        , extras(state->extras)
     {
     }
 
-    Held held() const { return ovoui::tree::held((keys & MK_SHIFT) != 0, (keys & MK_CONTROL) != 0); }
+    Held held() const
+    {
+        return ovoui::tree::held((keys & MK_SHIFT) != 0, (keys & MK_CONTROL) != 0, (extras & AddRanges) != 0);
+    }
+    Where pressedAt() const { return placeOfPress(!!item, hit, onCheckBox); }
+    Where releasedAt() const { return placeOfRelease(!!item, hit, onCheckBox); }
     bool right() const { return button == Button::Right; }
     Selection::Way way() const { return {TVC_BYMOUSE, point}; }
 
@@ -79,8 +86,10 @@ struct MultiTreeCtrl::Mouse::Click
     const UINT keys;
     const CPoint point;
     unsigned hit = 0;
-    const Tracker item; ///< the item under the pointer
-    const bool onCaret; ///< it is the caret already
+    const Tracker item;    ///< the item under the pointer
+    const bool onCaret;    ///< it is the caret already
+    const bool onCheckBox; ///< it has one, which takes this button
+    const unsigned extras; ///< what the host has asked for
 };
 
 void MultiTreeCtrl::Mouse::doButtonDown(Button button, UINT keys, CPoint point)
@@ -96,7 +105,7 @@ void MultiTreeCtrl::Mouse::doButtonDown(Button button, UINT keys, CPoint point)
             if (owner->buttonDown(tree(), keys, point, click.hit) || !host.usable())
                 return;
     const bool selected = click.item && view().isSelected(click.item.item());
-    const Actions actions = pressed({click.held(), placeOfPress(!!click.item, click.hit), selected});
+    const Actions actions = pressed({click.held(), click.pressedAt(), selected});
     if (isSettledBy(actions))
         tree().m_pending = true;
     perform(actions, click);
@@ -112,9 +121,7 @@ void MultiTreeCtrl::Mouse::release(Button button, UINT keys, CPoint point)
         if (const OVO::Handle<Node> owner = view().node(click.item.item()))
             if (owner->handleLButtonUp(tree(), point, click.hit) || !host.usable())
                 return;
-    perform(released({click.held(), placeOfRelease(!!click.item, click.hit), click.right(), tree().m_pending,
-                      false}),
-            click);
+    perform(released({click.held(), click.releasedAt(), click.right(), tree().m_pending, false}), click);
 }
 
 void MultiTreeCtrl::Mouse::doubleClick(Button button, UINT keys, CPoint point)
@@ -129,9 +136,7 @@ void MultiTreeCtrl::Mouse::doubleClick(Button button, UINT keys, CPoint point)
     if (!host.usable())
         return;
     stopEditTimer();
-    perform(doubleClicked(
-                {click.held(), placeOfRelease(!!click.item, click.hit), (click.hit & kHitNowhere) != 0}),
-            click);
+    perform(doubleClicked({click.held(), click.releasedAt(), (click.hit & kHitNowhere) != 0}), click);
 }
 
 void MultiTreeCtrl::Mouse::perform(const Actions& actions, const Click& click)
@@ -162,6 +167,9 @@ void MultiTreeCtrl::Mouse::perform(Action action, const Click& click)
     case Action::SelectRange:
         selectRange(click);
         break;
+    case Action::AddRange:
+        addRange(click);
+        break;
     case Action::Add:
     case Action::Remove:
         if (item)
@@ -177,8 +185,17 @@ void MultiTreeCtrl::Mouse::perform(Action action, const Click& click)
     case Action::AwaitDrag:
         awaitDrag(click);
         break;
+    case Action::BeginDrag:
+        beginDrag(click);
+        break;
+    case Action::SelectByBand:
+        m_state.selectByBand(click.point, click.held() == Held::Ctrl);
+        break;
     case Action::AskForMenu:
         askForMenu();
+        break;
+    case Action::ToggleCheck:
+        m_state.toggleCheck(item);
         break;
     case Action::EditLater:
         if (item)
@@ -199,12 +216,11 @@ void MultiTreeCtrl::Mouse::awaitDrag(const Click& click)
     if (!host.usable())
         return;
     if (drag) {
-        beginDrag(click);
+        perform(dragged({click.pressedAt(), click.right(), (click.extras & RubberBand) != 0}), click);
         return;
     }
     const bool editable = (tree().GetStyle() & TVS_EDITLABELS) && (click.hit & kHitLabel) && click.onCaret;
-    perform(releasedAfterPress({click.held(), placeOfPress(!!click.item, click.hit), click.right(),
-                                tree().m_pending, editable}),
+    perform(releasedAfterPress({click.held(), click.pressedAt(), click.right(), tree().m_pending, editable}),
             click);
 }
 
@@ -224,6 +240,13 @@ void MultiTreeCtrl::Mouse::selectRange(const Click& click)
         m_state.selection->selectRange(end, click.way());
     else
         tree().doSelectItem(nullptr);
+}
+
+void MultiTreeCtrl::Mouse::addRange(const Click& click)
+{
+    const HTREEITEM end = click.item ? click.item.item() : itemBeyond(click.hit);
+    if (end)
+        m_state.selection->addRange(end, click.way());
 }
 
 /// The item that a click stands for which hits none.
@@ -291,4 +314,12 @@ void MultiTreeCtrl::Mouse::itemGoes(HTREEITEM item)
 {
     if (tree().m_editItem == item)
         stopEditTimer();
+}
+
+// What the state asks for
+
+template <>
+std::shared_ptr<MultiTreeCtrl::Mouse> MultiTreeCtrl::State::make()
+{
+    return std::make_shared<Mouse>(*this);
 }

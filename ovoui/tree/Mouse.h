@@ -34,6 +34,7 @@ private:
     void awaitDrag(const Click& click);
     void beginDrag(const Click& click) const;
     void selectRange(const Click& click);
+    void addRange(const Click& click);
     void takeFocus();
     void editLater(HTREEITEM item);
     void stopEditTimer();

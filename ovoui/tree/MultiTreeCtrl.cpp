@@ -96,6 +96,7 @@ void MultiTreeCtrl::setUp()
     // Without OLE the tree works, but for drops.
     m_dropTarget->Register(this);
     const LPCTSTR name = MAKEINTRESOURCE(IDR_TREE_ACCELERATORS);
+    m_state->windowMade();
     m_accelerators = ::LoadAccelerators(AfxFindResourceHandle(name, RT_ACCELERATOR), name);
 }
 

@@ -11,7 +11,7 @@
 ///     (new Folder(L"Sources"))->insert(tree, TVI_ROOT, TVI_LAST);
 ///
 /// Classes and files: the nodes and the places where children go are in TreeNode.h and InsertionPoint.h,
-/// walking over items in TreeIterator.h, the drop menu in DropMenu.h.
+/// check boxes in TreeCheckable.h, walking over items in TreeIterator.h, the drop menu in DropMenu.h.
 #pragma once
 
 #include <ovoui/export.h>
@@ -24,6 +24,7 @@
 #include <afxwin.h>
 #include <afxcmn.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -46,6 +47,7 @@ class OVOUI_API MultiTreeCtrl : public CTreeCtrl
 public:
     class InsertionPoint;
     class Node;
+    class Checkable;
     class iterator;
     /// The record of a command.
     using CommandSupported = ::CommandSupported;
@@ -172,6 +174,36 @@ public:
     /// at once.
     EVSubscriptionList<int>& gestureEV();
 
+    // What is off unless the host asks for it
+
+    /// What setExtras turns on.
+    enum Extra : unsigned
+    {
+        RubberBand = 1, ///< the left button, dragged from beside the labels, selects the rows that it passes
+        AddRanges = 2,  ///< Ctrl+Shift adds a range to the selection, by mouse and keyboard
+        FindAnywhere = 4, ///< typing finds the next item that has what is typed anywhere in its label
+        CheckBoxes = 8    ///< nodes that are Checkable have a check box; takes the tree's state images
+    };
+    /// Turns the `extras` on, combined with |, and all others off. None are on at first.
+    void setExtras(unsigned extras);
+    /// Those that are on.
+    unsigned extras() const;
+
+    /// Leaves the items in the tree whose nodes `keeps` keeps, and all that these are in; without a function,
+    /// all. The others are taken out: their nodes have no item until a filter keeps them, and they are not
+    /// selected then. Children of an item that is opened are filtered too; what is inserted stays until the
+    /// filter is set anew.
+    ///
+    /// Asks every node that is in the tree at once. What `keeps` raises passes on, and all is shown then.
+    void setFilter(std::function<bool(const Node&)> keeps);
+
+    /// Which items are open and selected, where the caret is and how far the tree is scrolled, as a text of
+    /// paths, for the host to keep.
+    std::wstring saveView();
+    /// Opens, selects and scrolls to what saveView found in `view`, as far as it is there. Items that are
+    /// open stay so.
+    void restoreView(const std::wstring& view);
+
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override;
     BOOL PreTranslateMessage(MSG* message) override;
 
@@ -244,6 +276,8 @@ protected:
 
 private:
     // What the control is made of; see docs/architecture.md
+    class Band;
+    class CheckBoxConcern;
     class ChildWalk;
     class Commands;
     class Concern;
@@ -252,6 +286,8 @@ private:
     class Dropping;
     class Erasing;
     class Expansion;
+    class Filter;
+    class Find;
     class HostCalls;
     class Inserter;
     class Insertion;
@@ -272,6 +308,7 @@ private:
     class Tracker;
     class UnreportedNodes;
     class View;
+    class ViewKeeper;
 
     void setUp();
 
@@ -286,5 +323,6 @@ private:
 };
 
 #include <ovoui/tree/InsertionPoint.h>
+#include <ovoui/tree/TreeCheckable.h>
 #include <ovoui/tree/TreeIterator.h>
 #include <ovoui/tree/TreeNode.h>

@@ -3,7 +3,6 @@
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/Selection.h>
-#include <ovoui/tree/core/TreePath.h>
 
 using ovoui::tree::PathStep;
 
@@ -69,24 +68,34 @@ unsigned MultiTreeCtrl::Paths::ordinalOf(HTREEITEM item, const std::wstring& tex
 void MultiTreeCtrl::Paths::select(const std::wstring& path) const
 {
     const HostCalls host(m_tree);
-    Tracker item(m_state, nullptr);
-    bool atTop = true;
-    for (const PathStep& step : ovoui::tree::parsePath(path)) {
-        if (item)
-            m_tree.Expand(item.item(), TVE_EXPAND);
-        if (!host.usable() || (!item && !atTop))
-            return;
-        item.moveTo(
-            findChild(m_state->view.firstChild(item ? item.item() : TVI_ROOT), step.text, step.ordinal));
-        atTop = false;
-        if (!item)
-            return;
-    }
+    const std::vector<PathStep> steps = ovoui::tree::parsePath(path);
+    const Tracker item(m_state, find(steps, true));
+    if (!host.usable() || (!item && !steps.empty()))
+        return;
     m_tree.doSelectItem(item.item());
     if (!host.usable() || !item)
         return;
     m_tree.m_anchor = item.item();
     m_tree.EnsureVisible(item.item());
+}
+
+HTREEITEM MultiTreeCtrl::Paths::find(const std::vector<PathStep>& path, bool opens) const
+{
+    const HostCalls host(m_tree);
+    Tracker item(m_state, nullptr);
+    bool atTop = true;
+    for (const PathStep& step : path) {
+        if (item && opens)
+            m_tree.Expand(item.item(), TVE_EXPAND);
+        if (!host.usable() || (!item && !atTop))
+            return nullptr;
+        item.moveTo(
+            findChild(m_state->view.firstChild(item ? item.item() : TVI_ROOT), step.text, step.ordinal));
+        atTop = false;
+        if (!item)
+            return nullptr;
+    }
+    return item.item();
 }
 
 /// Among `first` and its following siblings the one that has this text for the `ordinal`th time.

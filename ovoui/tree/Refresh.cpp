@@ -1,5 +1,6 @@
 #include <ovoui/tree/Refresh.h>
 
+#include <ovoui/tree/CheckBoxConcern.h>
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
 #include <ovoui/frame/RedrawHold.h>
@@ -28,8 +29,9 @@ void MultiTreeCtrl::updateUI(Node& node)
     changes.mask = TVIF_HANDLE | TVIF_TEXT | TVIF_STATE | TVIF_CHILDREN | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     changes.hItem = item;
     changes.pszText = label.data();
-    changes.state = node.state;
-    changes.stateMask = kNodesState;
+    const TVITEM box = m_state->checkBoxes->stateImage(node);
+    changes.state = (node.state & kNodesState) | box.state;
+    changes.stateMask = kNodesState | box.stateMask;
     changes.cChildren = node.children;
     changes.iImage = node.image();
     changes.iSelectedImage = node.children == 0 ? node.openImage() : changes.iImage;

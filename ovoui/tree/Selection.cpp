@@ -171,6 +171,20 @@ void MultiTreeCtrl::Selection::selectRange(HTREEITEM end, const Way& way)
         tree().notifyTvnSelchanged(way.action, oldCaret.item(), goal.item(), way.point);
 }
 
+/// Adds the range from the anchor, and moves the caret.
+void MultiTreeCtrl::Selection::addRange(HTREEITEM end, const Way& way)
+{
+    const HostCalls host(tree());
+    const Tracker goal(shared(), end);
+    const Tracker oldCaret(shared(), view().caret());
+    keepWhile([&] { view().setCaret(end); });
+    if (!host.usable() || !goal)
+        return;
+    addRange(tree().m_anchor, end);
+    if (host.usable())
+        tree().notifyTvnSelchanged(way.action, oldCaret.item(), goal.item(), way.point);
+}
+
 void MultiTreeCtrl::Selection::selectDisplayed(const Way& way)
 {
     const HostCalls host(tree());
@@ -192,23 +206,31 @@ void MultiTreeCtrl::Selection::moveCaret(HTREEITEM item, const Way& way)
 void MultiTreeCtrl::Selection::keepWhile(const std::function<void()>& moveFocus)
 {
     const HostCalls host(tree());
-    std::vector<HTREEITEM> selected = items();
-    std::sort(selected.begin(), selected.end());
-    ItemList before(shared(), std::move(selected));
+    const ItemList before(shared(), items());
     {
         const ParentNotificationFilter quiet(tree().m_hWnd);
         moveFocus();
     }
-    if (!host.usable())
-        return;
+    if (host.usable())
+        become(before);
+}
+
+void MultiTreeCtrl::Selection::become(const ItemList& wanted)
+{
+    const HostCalls host(tree());
+    std::vector<HTREEITEM> then = wanted.items();
     std::vector<HTREEITEM> now = items();
+    std::sort(then.begin(), then.end());
     std::sort(now.begin(), now.end());
     std::vector<HTREEITEM> changed;
-    std::set_symmetric_difference(before.items().begin(), before.items().end(), now.begin(), now.end(),
+    std::set_symmetric_difference(then.begin(), then.end(), now.begin(), now.end(),
                                   std::back_inserter(changed));
+    std::optional<RedrawHold> hold;
+    if (changed.size() > kFewItems)
+        hold.emplace(tree().m_hWnd);
     for (const HTREEITEM each : changed)
-        if (host.usable() && !before.isGone(each))
-            view().setSelected(each, std::binary_search(before.items().begin(), before.items().end(), each));
+        if (host.usable() && !wanted.isGone(each))
+            view().setSelected(each, std::binary_search(then.begin(), then.end(), each));
 }
 
 /// Where no others than the caret are selected, the tree view's own way is right, and it tells the parent.
@@ -312,4 +334,22 @@ void MultiTreeCtrl::OnKillFocus(CWnd* next)
 {
     m_state->selection->repaint();
     CTreeCtrl::OnKillFocus(next);
+}
+
+// What the state asks for
+
+template <>
+std::shared_ptr<MultiTreeCtrl::Selection> MultiTreeCtrl::State::make()
+{
+    return std::make_shared<Selection>(*this);
+}
+
+std::vector<HTREEITEM> MultiTreeCtrl::State::selectedItems() const
+{
+    return selection->items();
+}
+
+std::vector<OVO::Handle<MultiTreeCtrl::Node>> MultiTreeCtrl::State::selectedNodes() const
+{
+    return selection->nodes();
 }

@@ -22,6 +22,10 @@ public:
     bool selectAlone(HTREEITEM item);
     unsigned clear(HTREEITEM first);
     void addRange(HTREEITEM a, HTREEITEM b);
+    /// The displayed items from one to the other; from one to the last if the other is null.
+    std::vector<HTREEITEM> displayedRange(HTREEITEM a, HTREEITEM b) const;
+    /// Makes these items the selected ones. Tells no one, and leaves the caret where it is.
+    void become(const ItemList& wanted);
 
     /// How the user came to change the selection: one of TVC_, and the point of a click.
     struct Way
@@ -33,6 +37,7 @@ public:
     // What the user does. The parent hears of it once.
     void selectForCertain(HTREEITEM item);
     void selectRange(HTREEITEM end, const Way& way);
+    void addRange(HTREEITEM end, const Way& way);
     void set(HTREEITEM item, bool selected, const Way& way);
     void moveCaret(HTREEITEM item, const Way& way);
     void selectDisplayed(const Way& way);
@@ -59,7 +64,6 @@ private:
     void setAll(const std::vector<HTREEITEM>& items, bool selected);
     unsigned deselectAllBut(HTREEITEM kept);
     void selectQuietly(HTREEITEM item);
-    std::vector<HTREEITEM> displayedRange(HTREEITEM a, HTREEITEM b) const;
     void complete() const;
     void sortByTree(std::vector<HTREEITEM>& items) const;
     void sortSiblings(std::vector<HTREEITEM>& items) const;

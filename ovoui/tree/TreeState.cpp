@@ -1,46 +1,32 @@
 // Where the parts of the tree are put together.
 #include <ovoui/tree/TreeState.h>
 
-#include <ovoui/tree/Commands.h>
-#include <ovoui/tree/Deletion.h>
-#include <ovoui/tree/Dropping.h>
-#include <ovoui/tree/Expansion.h>
-#include <ovoui/tree/Insertion.h>
+#include <ovoui/tree/Concern.h>
 #include <ovoui/tree/ItemTracker.h>
-#include <ovoui/tree/Keyboard.h>
-#include <ovoui/tree/LabelEdit.h>
-#include <ovoui/tree/Mouse.h>
-#include <ovoui/tree/Selection.h>
+
+#include <algorithm>
 
 // The label editor is closed before anything is deleted; children go before what was postponed.
 MultiTreeCtrl::State::State(MultiTreeCtrl& owner)
     : SharedState(owner)
     , view(*this)
-    , labelEdit(std::make_unique<LabelEdit>(*this))
-    , selection(std::make_unique<Selection>(*this))
-    , insertion(std::make_unique<Insertion>(*this))
-    , mouse(std::make_unique<Mouse>(*this))
-    , keyboard(std::make_unique<Keyboard>(*this))
-    , expansion(std::make_unique<Expansion>(*this))
-    , deletion(std::make_unique<Deletion>(*this))
-    , dropping(std::make_unique<Dropping>(*this))
-    , commands(std::make_unique<Commands>(*this))
-    , listeners{labelEdit.get(), selection.get(), insertion.get(), mouse.get(),
-                expansion.get(), deletion.get(),  dropping.get()}
+    , labelEdit(make<LabelEdit>())
+    , selection(make<Selection>())
+    , insertion(make<Insertion>())
+    , mouse(make<Mouse>())
+    , keyboard(make<Keyboard>())
+    , expansion(make<Expansion>())
+    , deletion(make<Deletion>())
+    , dropping(make<Dropping>())
+    , commands(make<Commands>())
+    , band(make<Band>())
+    , checkBoxes(make<CheckBoxConcern>())
+    , find(make<Find>())
+    , filter(make<Filter>())
 {
 }
 
 MultiTreeCtrl::State::~State() = default;
-
-std::vector<HTREEITEM> MultiTreeCtrl::State::selectedItems() const
-{
-    return selection->items();
-}
-
-std::vector<OVO::Handle<MultiTreeCtrl::Node>> MultiTreeCtrl::State::selectedNodes() const
-{
-    return selection->nodes();
-}
 
 void MultiTreeCtrl::State::forgetItem(HTREEITEM item)
 {
@@ -69,4 +55,44 @@ void MultiTreeCtrl::State::takeOver()
 {
     for (Concern* concern : listeners)
         concern->takesOver();
+}
+
+void MultiTreeCtrl::State::forgetChildren(HTREEITEM parent)
+{
+    for (Concern* concern : listeners)
+        concern->childrenGo(parent);
+}
+
+void MultiTreeCtrl::State::meetChildren(HTREEITEM parent)
+{
+    for (Concern* concern : listeners)
+        if (usable())
+            concern->childrenCame(parent);
+}
+
+void MultiTreeCtrl::State::windowMade()
+{
+    for (Concern* concern : listeners)
+        concern->windowMade();
+}
+
+bool MultiTreeCtrl::State::takesKey(UINT message, UINT key)
+{
+    return std::any_of(listeners.begin(), listeners.end(),
+                       [&](Concern* concern) { return concern->takesKey(message, key); });
+}
+
+// The control's operations
+
+void MultiTreeCtrl::setExtras(unsigned extras)
+{
+    const std::shared_ptr<State> state = m_state;
+    state->extras = extras;
+    for (Concern* concern : state->listeners)
+        concern->extrasChange();
+}
+
+unsigned MultiTreeCtrl::extras() const
+{
+    return m_state->extras;
 }

@@ -25,20 +25,39 @@ struct MultiTreeCtrl::State : ovoui::frame::SharedState<MultiTreeCtrl>
     void forgetAll();
     /// The control has taken over a tree view that may have items already.
     void takeOver();
+    /// The children of an item go, since it closes; or have come, since it has opened.
+    void forgetChildren(HTREEITEM parent);
+    void meetChildren(HTREEITEM parent);
+    void windowMade();
+    /// Whether one of the concerns takes a key (WM_KEYDOWN, WM_CHAR) before the rules of keys.
+    bool takesKey(UINT message, UINT key);
+
+    // For concerns that have nothing else to do with each other
+    bool hasCheckBox(HTREEITEM item) const;
+    void toggleCheck(HTREEITEM item);
+    void toggleCaretsCheck();
+    void selectByBand(CPoint press, bool ctrl);
+    bool isFinding() const;
 
     const View view;
 
-    // The concerns
-    const std::unique_ptr<LabelEdit> labelEdit;
-    const std::unique_ptr<Selection> selection;
-    const std::unique_ptr<Insertion> insertion;
-    const std::unique_ptr<Mouse> mouse;
-    const std::unique_ptr<Keyboard> keyboard;
-    const std::unique_ptr<Expansion> expansion;
-    const std::unique_ptr<Deletion> deletion;
-    const std::unique_ptr<Dropping> dropping;
-    const std::unique_ptr<Commands> commands;
-    const std::vector<Concern*> listeners; ///< those that hear of messages and items, in this order
+    // The concerns. Each is made in its own source and enters itself, so that no source knows all of them.
+    template <class Part>
+    std::shared_ptr<Part> make();
+    std::vector<Concern*> listeners; ///< in the order in which they hear of messages and items
+    const std::shared_ptr<LabelEdit> labelEdit;
+    const std::shared_ptr<Selection> selection;
+    const std::shared_ptr<Insertion> insertion;
+    const std::shared_ptr<Mouse> mouse;
+    const std::shared_ptr<Keyboard> keyboard;
+    const std::shared_ptr<Expansion> expansion;
+    const std::shared_ptr<Deletion> deletion;
+    const std::shared_ptr<Dropping> dropping;
+    const std::shared_ptr<Commands> commands;
+    const std::shared_ptr<Band> band;
+    const std::shared_ptr<CheckBoxConcern> checkBoxes;
+    const std::shared_ptr<Find> find;
+    const std::shared_ptr<Filter> filter;
 
     // Calls of the tree view's own procedure (Gate.cpp)
     int nativeCalls = 0;
@@ -58,5 +77,34 @@ struct MultiTreeCtrl::State : ovoui::frame::SharedState<MultiTreeCtrl>
     /// Those who want to hear of every deleted item for a while, the last come last.
     std::vector<ItemWatcher*> watchers;
 
+    unsigned extras = 0; ///< what the host has asked for
+
     unsigned structure = 0; ///< grows with every item that comes, goes or changes its place
 };
+
+template <>
+std::shared_ptr<MultiTreeCtrl::LabelEdit> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::Selection> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::Insertion> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::Mouse> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::Keyboard> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::Expansion> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::Deletion> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::Dropping> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::Commands> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::Band> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::CheckBoxConcern> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::Find> MultiTreeCtrl::State::make();
+template <>
+std::shared_ptr<MultiTreeCtrl::Filter> MultiTreeCtrl::State::make();

@@ -1,21 +1,25 @@
 # The multi-selection tree.
 set(tree_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/BandFrame.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ClickRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/DropEffect.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/EdgeScroll.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ExpansionRule.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/KeyRules.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SavedView.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TreePath.cpp)
 
 if(NOT WIN32)
   add_library(ovoui_tree_core STATIC ${tree_core})
   target_include_directories(ovoui_tree_core PUBLIC ${PROJECT_SOURCE_DIR})
-  target_link_libraries(ovoui_tree_core PRIVATE ovo_flags)
+  target_link_libraries(ovoui_tree_core PUBLIC ovoui_frame_core PRIVATE ovo_flags)
   return()
 endif()
 
 target_sources(ovoui PRIVATE
   ${tree_core}
+  ${CMAKE_CURRENT_LIST_DIR}/Band.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/CheckBoxConcern.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ChildWalk.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Commands.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ContextMenu.cpp
@@ -26,6 +30,8 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/Dropping.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Erasing.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Expansion.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Filter.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Find.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Gate.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Inserter.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Insertion.cpp
@@ -50,4 +56,5 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/TreeNode.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeState.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UnreportedNodes.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/View.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/View.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ViewKeeper.cpp)

@@ -17,6 +17,7 @@ enum class Action
     SelectForCertain, ///< the same, but it is selected even where the parent refuses it the caret
     Clear,            ///< nothing is selected any more
     SelectRange,      ///< from the anchor to the item, which becomes the caret; cleared without one
+    AddRange,         ///< the same beside what is selected already; nothing without an item
     Add,              ///< the item is selected too
     Remove,           ///< the item is not selected any more
     ToggleCaret,      ///< the caret is selected, or not any more
@@ -31,7 +32,10 @@ enum class Action
     MoveAnchor, ///< the item, or the end of the tree beside which a click was, becomes the end of ranges
     ScrollTo,   ///< the item comes into view
     TakeFocus,
-    AwaitDrag, ///< until it is clear whether this is a drag; if it is none, the rules of the release follow
+    AwaitDrag, ///< until it is clear whether this is a drag; the rules of the drag or of the release follow
+    BeginDrag, ///< the parent is told
+    SelectByBand, ///< the rows that the pointer goes over are selected, until the button goes up
+    ToggleCheck,  ///< the check box of the item, or of the caret
     AskForMenu,
     EditLater, ///< the label is edited after the double-click time, if no other press comes
 

@@ -46,12 +46,14 @@ constexpr OneOf<Is> kEither = OneOf(Is::No) | Is::Yes;
 constexpr OneOf<Held> kNothing = Held::Nothing;
 constexpr OneOf<Held> kCtrl = Held::Ctrl;
 constexpr OneOf<Held> kShift = Held::Shift;
-constexpr OneOf<Held> kAnyKey = kNothing | kCtrl | kShift;
+constexpr OneOf<Held> kCtrlShift = Held::CtrlShift;
+constexpr OneOf<Held> kAnyKey = kNothing | kCtrl | kShift | kCtrlShift;
 
 constexpr OneOf<Where> kItem = Where::Item;
 constexpr OneOf<Where> kBeside = Where::Beside;
 constexpr OneOf<Where> kEmpty = Where::Empty;
 constexpr OneOf<Where> kElsewhere = Where::Elsewhere;
+constexpr OneOf<Where> kCheckBox = Where::CheckBox;
 constexpr OneOf<Where> kInRow = kItem | kBeside;
 constexpr OneOf<Where> kAnywhere = kInRow | kEmpty;
 
@@ -68,7 +70,10 @@ struct PressRule
 const PressRule kPresses[] = {
     {kAnyKey, kElsewhere, kEither, {LeaveToTreeView}},
 
+    {kAnyKey, kCheckBox, kEither, {TakeFocus, ToggleCheck}},
+
     {kShift, kAnywhere, kEither, {SelectRange, TakeFocus}},
+    {kCtrlShift, kAnywhere, kEither, {AddRange, TakeFocus}},
 
     // A selected item leaves the selection when the button goes up: it may be about to be dragged.
     {kCtrl, kInRow, Is::No, {MoveAnchor, Add, TakeFocus, AwaitDrag}},
@@ -114,7 +119,7 @@ const ReleaseRule kReleases[] = {
     // held    where    right    settled  editable
     {kAnyKey, kElsewhere, kEither, kEither, kEither, {LeaveToTreeView}},
 
-    {kShift, kAnywhere, Is::Yes, kEither, kEither, {AskForMenu}},
+    {kShift | kCtrlShift, kAnywhere, Is::Yes, kEither, kEither, {AskForMenu}},
 
     {kCtrl, kInRow, Is::No, Is::No, kEither, {MoveAnchor, Remove}},
     {kCtrl, kInRow, Is::No, Is::Yes, kEither, {MoveAnchor}},
@@ -142,8 +147,10 @@ Actions firstFitting(const Rules& rules, const ButtonRelease& release)
     });
 }
 
-Where place(bool hasItem, bool taken, unsigned flags)
+Where place(bool hasItem, bool taken, unsigned flags, bool hasCheckBox)
 {
+    if (hasItem && hasCheckBox && (flags & kHitStateIcon))
+        return Where::CheckBox;
     if (!taken)
         return Where::Elsewhere;
     if (!hasItem)
@@ -153,14 +160,14 @@ Where place(bool hasItem, bool taken, unsigned flags)
 
 } // namespace
 
-Where placeOfPress(bool hasItem, unsigned flags)
+Where placeOfPress(bool hasItem, unsigned flags, bool hasCheckBox)
 {
-    return place(hasItem, takesPress(flags), flags);
+    return place(hasItem, takesPress(flags), flags, hasCheckBox);
 }
 
-Where placeOfRelease(bool hasItem, unsigned flags)
+Where placeOfRelease(bool hasItem, unsigned flags, bool hasCheckBox)
 {
-    return place(hasItem, takesRelease(flags), flags);
+    return place(hasItem, takesRelease(flags), flags, hasCheckBox);
 }
 
 Actions pressed(const ButtonPress& press)
@@ -174,6 +181,12 @@ Actions pressed(const ButtonPress& press)
 bool isSettledBy(const Actions& press)
 {
     return contains(press, Clear) || contains(press, SelectAlone) || contains(press, Add);
+}
+
+Actions dragged(const Drag& drag)
+{
+    const bool besideItems = drag.where == Where::Beside || drag.where == Where::Empty;
+    return {drag.bands && besideItems && !drag.right ? SelectByBand : BeginDrag};
 }
 
 Actions releasedAfterPress(const ButtonRelease& release)
@@ -190,6 +203,8 @@ Actions doubleClicked(const DoubleClick& click)
 {
     if (click.where == Where::Elsewhere)
         return {LeaveToTreeView};
+    if (click.where == Where::CheckBox)
+        return {ToggleCheck};
     if (click.onEmptySpace && click.held == Held::Nothing)
         return {};
     return {DefaultAction};

@@ -6,34 +6,37 @@
 namespace ovoui::tree
 {
 
-/// The key that counts. With Shift, Ctrl does not.
+/// The keys that count.
 enum class Held
 {
     Nothing = 1,
     Ctrl = 2,
-    Shift = 4
+    Shift = 4,
+    CtrlShift = 8
 };
 
-constexpr Held held(bool shift, bool ctrl)
+/// With Shift, Ctrl counts only where ranges can be added.
+constexpr Held held(bool shift, bool ctrl, bool addsRanges = false)
 {
     if (shift)
-        return Held::Shift;
+        return ctrl && addsRanges ? Held::CtrlShift : Held::Shift;
     return ctrl ? Held::Ctrl : Held::Nothing;
 }
 
 /// Where a click is, as far as the rules are concerned.
 enum class Where
 {
-    Item = 1,     ///< on icon, label or state icon
-    Beside = 2,   ///< in the row of an item, left or right of these
-    Empty = 4,    ///< where there is no item
-    Elsewhere = 8 ///< on the button that opens an item, or another part that the tree view looks after
+    Item = 1,      ///< on icon, label or state icon
+    Beside = 2,    ///< in the row of an item, left or right of these
+    Empty = 4,     ///< where there is no item
+    Elsewhere = 8, ///< on the button that opens an item, or another part that the tree view looks after
+    CheckBox = 16  ///< on the check box of an item
 };
 
-/// `flags` are those of the hit test.
-Where placeOfPress(bool hasItem, unsigned flags);
+/// `flags` are those of the hit test. `hasCheckBox`: the item has one, which takes this button.
+Where placeOfPress(bool hasItem, unsigned flags, bool hasCheckBox = false);
 /// For releases and double clicks the row beside an item is the tree view's.
-Where placeOfRelease(bool hasItem, unsigned flags);
+Where placeOfRelease(bool hasItem, unsigned flags, bool hasCheckBox = false);
 
 struct ButtonPress
 {
@@ -56,6 +59,16 @@ struct ButtonRelease
     bool settled;  ///< see isSettledBy
     bool editable; ///< the press was on the label of the caret, and labels can be edited
 };
+
+struct Drag
+{
+    Where where; ///< of the press
+    bool right;  ///< the right button
+    bool bands;  ///< a drag from where no item is selects by a band
+};
+
+/// The pointer moves off with the button down.
+Actions dragged(const Drag& drag);
 
 /// The button goes up again without a drag in between.
 Actions releasedAfterPress(const ButtonRelease& release);

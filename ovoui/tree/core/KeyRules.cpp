@@ -15,7 +15,9 @@ enum class When
     Alt,
     Ctrl,
     Shift,
-    Caret, ///< there is one
+    AddingRange, ///< Ctrl and Shift, where they add ranges
+    CheckBox,    ///< the caret has one
+    Caret,       ///< there is one
     NoCaret
 };
 
@@ -28,6 +30,10 @@ bool holds(When when, const KeyPress& press)
         return press.ctrl;
     case When::Shift:
         return press.shift;
+    case When::AddingRange:
+        return press.addsRanges && press.ctrl && press.shift;
+    case When::CheckBox:
+        return press.hasCheckBox;
     case When::Caret:
         return press.hasCaret;
     case When::NoCaret:
@@ -47,6 +53,7 @@ struct Row
 /// The keys that the tree moves with; all others that move are the tree view's.
 const std::vector<unsigned> kArrows{kVkUp, kVkDown};
 const std::vector<unsigned> kMoving{kVkHome, kVkUp, kVkDown};
+const std::vector<unsigned> kRanging{kVkHome, kVkUp, kVkDown, kVkEnd, kVkPageUp, kVkPageDown};
 const std::vector<unsigned> kMovingByTreeView{kVkEnd, kVkPageUp, kVkPageDown, kVkLeft, kVkRight, kVkBack};
 
 /// The first row that fits applies.
@@ -55,9 +62,11 @@ const Row kRows[] = {
     {{kVkReturn}, When::Always, {DefaultAction}},
 
     {{kVkSpace}, When::Ctrl, {ToggleCaret}},
+    {{kVkSpace}, When::CheckBox, {ToggleCheck}},
     {{kVkSpace}, When::Always, {DefaultAction}},
 
     {kArrows, When::NoCaret, {}},
+    {kRanging, When::AddingRange, {ScrollTo, AddRange}},
     {kMoving, When::Shift, {ScrollTo, SelectRange}},
     {kMoving, When::Ctrl, {ScrollTo, MoveAnchor, MoveCaret}},
     {kMoving, When::Always, {ScrollTo, MoveAnchor, SelectAlone}},
@@ -86,6 +95,12 @@ Aim aimOf(unsigned key)
         return Aim::Above;
     case kVkDown:
         return Aim::Below;
+    case kVkEnd:
+        return Aim::Last;
+    case kVkPageUp:
+        return Aim::PageAbove;
+    case kVkPageDown:
+        return Aim::PageBelow;
     default:
         return Aim::None;
     }
@@ -97,7 +112,7 @@ KeyRule keyPressed(const KeyPress& press)
 {
     for (const Row& row : kRows)
         if (isAmong(row.keys, press.key) && holds(row.when, press))
-            return {aimOf(press.key), row.actions};
+            return {contains(row.actions, ScrollTo) ? aimOf(press.key) : Aim::None, row.actions};
     return {Aim::None, {LeaveToTreeView}};
 }
 

@@ -29,7 +29,9 @@ struct KeyPress
     bool shift;
     bool ctrl;
     bool alt;
-    bool hasCaret; ///< there is a caret
+    bool hasCaret;            ///< there is a caret
+    bool addsRanges = false;  ///< Ctrl+Shift adds a range to the selection
+    bool hasCheckBox = false; ///< the caret has a check box
 };
 
 /// The item that a key goes to.
@@ -38,7 +40,10 @@ enum class Aim
     None,
     First, ///< the first of the tree
     Above, ///< the one displayed above the caret
-    Below  ///< the one displayed below the caret
+    Below, ///< the one displayed below the caret
+    Last,  ///< the last one displayed
+    PageAbove,
+    PageBelow
 };
 
 struct KeyRule

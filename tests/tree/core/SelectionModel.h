@@ -52,6 +52,12 @@ struct SelectionModel
             selected = range(anchor, aim);
             caret = aim;
             break;
+        case AddRange:
+            if (aim != kNone) {
+                selected.merge(range(anchor, aim));
+                caret = aim;
+            }
+            break;
         case Add:
             selected.insert(item);
             break;

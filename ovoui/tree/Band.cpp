@@ -1,0 +1,258 @@
+#include <ovoui/tree/Band.h>
+
+#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/Selection.h>
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+using namespace ovoui::tree;
+
+namespace
+{
+
+constexpr UINT_PTR kTimer = 1833;
+constexpr UINT kScrollInterval = 50; // milliseconds
+
+/// The mouse, and a timer to scroll by, for as long as the band is drawn.
+class Follower
+{
+public:
+    explicit Follower(HWND window)
+        : m_window(window)
+    {
+        ::SetCapture(window);
+        ::SetTimer(window, kTimer, kScrollInterval, nullptr);
+    }
+    ~Follower()
+    {
+        ::KillTimer(m_window, kTimer);
+        if (holdsMouse())
+            ::ReleaseCapture();
+    }
+    Follower(const Follower&) = delete;
+    Follower& operator=(const Follower&) = delete;
+
+    bool holdsMouse() const { return ::GetCapture() == m_window; }
+
+private:
+    HWND m_window;
+};
+
+std::vector<HTREEITEM> sorted(std::vector<HTREEITEM> items)
+{
+    std::sort(items.begin(), items.end());
+    items.erase(std::unique(items.begin(), items.end()), items.end());
+    return items;
+}
+
+bool isAmong(const std::vector<HTREEITEM>& sortedItems, HTREEITEM item)
+{
+    return std::binary_search(sortedItems.begin(), sortedItems.end(), item);
+}
+
+bool isTick(const MSG& message)
+{
+    return message.message == WM_TIMER && message.wParam == kTimer;
+}
+
+} // namespace
+
+/// A band, from the press on.
+struct MultiTreeCtrl::Band::Drawing
+{
+    Drawing(const std::shared_ptr<State>& state, CPoint press, const ScrolledBy& scrolled, HTREEITEM row,
+            bool ctrlHeld)
+        : begin{press.x + scrolled.x, press.y + scrolled.y}
+        , pointer(press)
+        , firstRow(state, row)
+        , fromRow(row != nullptr)
+        , ctrl(ctrlHeld)
+        , before(state, sorted(state->selectedItems()))
+        , caretBefore(state, state->view.caret())
+    {
+    }
+
+    const ContentPoint begin;
+    CPoint pointer;
+    const Tracker firstRow; ///< where it began
+    const bool fromRow;     ///< not on the empty space below all
+    const bool ctrl;
+    const ItemList before; ///< what was selected
+    const Tracker caretBefore;
+};
+
+void MultiTreeCtrl::Band::select(CPoint press, bool ctrl)
+{
+    const HostCalls host(tree());
+    Drawing drawing(shared(), press, scrolledBy(), rowAt(press), ctrl);
+    const bool done = follow(drawing);
+    if (!host.usable())
+        return;
+    setFrame(std::nullopt);
+    if (done)
+        finish(drawing);
+    else
+        m_state.selection->become(drawing.before);
+}
+
+/// False when the band is given up, or the tree is gone.
+bool MultiTreeCtrl::Band::follow(Drawing& drawing)
+{
+    const HostCalls host(tree());
+    const HWND window = tree().m_hWnd;
+    const Follower follower(window);
+    while (host.usable() && follower.holdsMouse()) {
+        MSG message;
+        const BOOL fetched = ::GetMessageW(&message, window, 0, 0);
+        if (fetched == 0)
+            ::PostQuitMessage(static_cast<int>(message.wParam)); // for the loop outside
+        if (fetched <= 0 || (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE))
+            return false;
+        if (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST) {
+            drawing.pointer = CPoint(GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam));
+            if (message.message != WM_MOUSEMOVE && message.message != WM_LBUTTONUP)
+                continue;
+            show(drawing, drawing.pointer);
+            if (!(message.wParam & MK_LBUTTON))
+                return host.usable();
+        } else if (isTick(message)) {
+            scroll(drawing);
+        } else {
+            ::TranslateMessage(&message);
+            ::DispatchMessageW(&message);
+        }
+    }
+    return false;
+}
+
+void MultiTreeCtrl::Band::show(Drawing& drawing, CPoint pointer)
+{
+    const HostCalls host(tree());
+    m_state.selection->become(ItemList(shared(), wantedBy(drawing, rowAt(pointer))));
+    if (!host.usable())
+        return;
+    const ScrolledBy scrolled = scrolledBy();
+    const auto box = bandFrame(drawing.begin, {pointer.x + scrolled.x, pointer.y + scrolled.y}, scrolled);
+    setFrame(CRect(box.left, box.top, box.right, box.bottom));
+}
+
+/// What is selected when the pointer is at a row, or, without one, below the last.
+std::vector<HTREEITEM> MultiTreeCtrl::Band::wantedBy(const Drawing& drawing, HTREEITEM row) const
+{
+    const bool knowsBegin = drawing.firstRow || !drawing.fromRow; // else its row has gone
+    const std::vector<HTREEITEM> touched =
+        knowsBegin ? sorted(m_state.selection->displayedRange(drawing.firstRow.item(), row))
+                   : std::vector<HTREEITEM>();
+    const std::vector<HTREEITEM>& before = drawing.before.items();
+    std::vector<HTREEITEM> wanted = touched;
+    wanted.insert(wanted.end(), before.begin(), before.end());
+    wanted = sorted(std::move(wanted));
+    std::erase_if(wanted, [&](HTREEITEM item) {
+        const bool was = isAmong(before, item) && !drawing.before.isGone(item);
+        return !selectedByBand(was, isAmong(touched, item), drawing.ctrl);
+    });
+    return wanted;
+}
+
+/// Beside the tree the pointer scrolls it. The frame is taken away before, or its picture would move along.
+void MultiTreeCtrl::Band::scroll(Drawing& drawing)
+{
+    CRect client;
+    tree().GetClientRect(&client);
+    const int rows =
+        rowsToScroll(drawing.pointer.y, client.Height(), static_cast<int>(tree().GetItemHeight()));
+    if (rows == 0)
+        return;
+    const HostCalls host(tree());
+    setFrame(std::nullopt);
+    tree().UpdateWindow();
+    for (int i = 0; i < std::abs(rows) && host.usable(); ++i)
+        tree().SendMessage(WM_VSCROLL, rows < 0 ? SB_LINEUP : SB_LINEDOWN);
+    if (host.usable())
+        show(drawing, drawing.pointer);
+}
+
+/// The caret goes to the row at the pointer, the anchor to that where the band began.
+void MultiTreeCtrl::Band::finish(const Drawing& drawing)
+{
+    const HostCalls host(tree());
+    const HTREEITEM row = rowAt(drawing.pointer);
+    const Tracker end(shared(), row ? row : drawing.firstRow ? view().getLastItem() : nullptr);
+    if (!end)
+        return;
+    tree().m_anchor = drawing.firstRow ? drawing.firstRow.item() : view().getLastItem();
+    m_state.selection->keepWhile([&] { view().setCaret(end.item()); });
+    if (host.usable())
+        tree().notifyTvnSelchanged(TVC_BYMOUSE, drawing.caretBefore.item(), view().caret(), drawing.pointer);
+}
+
+// The frame
+
+ScrolledBy MultiTreeCtrl::Band::scrolledBy() const
+{
+    const int rows = tree().GetScrollPos(SB_VERT);
+    return {tree().GetScrollPos(SB_HORZ), rows * static_cast<int>(tree().GetItemHeight())};
+}
+
+/// The row at the height of a point, which may lie beside the tree; null below the last.
+HTREEITEM MultiTreeCtrl::Band::rowAt(CPoint point) const
+{
+    CRect client;
+    tree().GetClientRect(&client);
+    TVHITTESTINFO hit{};
+    hit.pt.x = std::clamp<LONG>(point.x, 0, std::max<LONG>(client.right - 1, 0));
+    hit.pt.y = std::clamp<LONG>(point.y, 0, std::max<LONG>(client.bottom - 1, 0));
+    const auto row = reinterpret_cast<HTREEITEM>(view().ask(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
+    return row && view().isDoomed(row) ? nullptr : row;
+}
+
+void MultiTreeCtrl::Band::setFrame(const std::optional<CRect>& frame)
+{
+    if (frame == m_frame)
+        return;
+    for (const std::optional<CRect>& each : {m_frame, frame})
+        if (each)
+            invalidate(*each);
+    m_frame = frame;
+    tree().UpdateWindow();
+}
+
+/// The lines alone: what is between them need not be painted.
+void MultiTreeCtrl::Band::invalidate(const CRect& frame) const
+{
+    CRect inside(frame);
+    inside.DeflateRect(1, 1);
+    CRgn lines;
+    lines.CreateRectRgnIndirect(&frame);
+    if (!inside.IsRectEmpty()) {
+        CRgn hole;
+        hole.CreateRectRgnIndirect(&inside);
+        lines.CombineRgn(&lines, &hole, RGN_DIFF);
+    }
+    tree().InvalidateRgn(&lines, TRUE);
+}
+
+/// What the tree view has painted has lost the frame.
+void MultiTreeCtrl::Band::ends(const Message& message, LRESULT)
+{
+    if (message.id != WM_PAINT || !m_frame || !m_state.usable())
+        return;
+    CClientDC dc(&tree());
+    ::FrameRect(dc.GetSafeHdc(), &*m_frame, ::GetSysColorBrush(COLOR_HIGHLIGHT));
+}
+
+// What the state asks for
+
+template <>
+std::shared_ptr<MultiTreeCtrl::Band> MultiTreeCtrl::State::make()
+{
+    return std::make_shared<Band>(*this);
+}
+
+void MultiTreeCtrl::State::selectByBand(CPoint press, bool ctrl)
+{
+    band->select(press, ctrl);
+}

@@ -1,0 +1,519 @@
+// What a host has to ask for: ranges that are added, the band, finding by typing, check boxes. All of it is
+// off at first.
+#include "TreeScene.h"
+
+#include <ovocor/OvoError.h>
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+using namespace ovo::testkit;
+
+namespace
+{
+
+using Extra = MultiTreeCtrl::Extra;
+using Check = MultiTreeCtrl::Checkable::Check;
+
+/// A node with a check box.
+class CheckedNode : public TestNode, public MultiTreeCtrl::Checkable
+{
+public:
+    using TestNode::TestNode;
+
+    Check shown = Check::Off;
+    bool obeys = true;
+    std::function<void()> checking; ///< at setCheck
+    std::function<void()> asking;   ///< at check
+
+    Check check() const override
+    {
+        if (asking)
+            asking();
+        return shown;
+    }
+    void setCheck(MultiTreeCtrl&, bool on) override
+    {
+        if (journal)
+            journal->push_back((on ? "check " : "uncheck ") + name);
+        if (obeys)
+            shown = on ? Check::On : Check::Off;
+        if (checking)
+            checking();
+    }
+};
+
+CheckedNode& addChecked(Scene& scene, const std::string& name)
+{
+    auto* const node = new CheckedNode(name, &scene.journal);
+    node->insert(scene.tree, TVI_ROOT, TVI_LAST);
+    return *node;
+}
+
+Check shownBy(Scene& scene, const std::string& name)
+{
+    return static_cast<Check>(scene.tree.GetItemState(scene.item(name), TVIS_STATEIMAGEMASK) >> 12);
+}
+
+/// Where the check box of an item is.
+Spot boxOf(Scene& scene, const std::string& name)
+{
+    return Spot([&scene, name] {
+        const CPoint label = scene.labelPoint(name);
+        for (int x = 0; x < label.x; ++x) {
+            UINT flags = 0;
+            scene.tree.CTreeCtrl::HitTest(CPoint(x, label.y), &flags);
+            if (flags & TVHT_ONITEMSTATEICON) {
+                CPoint point(x + 3, label.y);
+                scene.tree.ClientToScreen(&point);
+                return point;
+            }
+        }
+        throw std::runtime_error("no check box at " + name);
+    });
+}
+
+void type(Scene& scene, const std::string& text)
+{
+    for (const char letter : text)
+        scene.tree.SendMessage(WM_CHAR, static_cast<WPARAM>(letter), 1);
+}
+
+} // namespace
+
+TEST(TreeExtras, AreOffAtFirst)
+{
+    Scene scene{{"a"}};
+    EXPECT_EQ(scene.tree.extras(), 0u);
+    scene.tree.setExtras(Extra::RubberBand | Extra::CheckBoxes);
+    EXPECT_EQ(scene.tree.extras(), 9u);
+}
+
+// Ranges that are added
+
+TEST(TreeExtras, CtrlShiftClickReplacesTheSelectionByARangeUnlessRangesAreAdded)
+{
+    for (const bool adds : {false, true}) {
+        Scene scene{{"a", "b", "c", "d", "e"}};
+        scene.tree.setExtras(adds ? unsigned{Extra::AddRanges} : 0u);
+        scene.user.click(scene.label("a"));
+        scene.user.holding(VK_CONTROL).click(scene.label("c"));
+        scene.forget();
+        scene.user.holding(VK_CONTROL).holding(VK_SHIFT).click(scene.label("e"));
+        EXPECT_EQ(scene.selected(), adds ? (Names{"a", "c", "d", "e"}) : (Names{"c", "d", "e"}));
+        EXPECT_EQ(scene.caret(), "e");
+        EXPECT_EQ(scene.changes(), (Changes{{TVC_BYMOUSE, "a", "e"}}));
+    }
+}
+
+TEST(TreeExtras, CtrlShiftWithKeysAddsARange)
+{
+    Scene scene{{"a", "b", "c", "d", "e", "f"}};
+    scene.tree.setExtras(Extra::AddRanges);
+    scene.tree.SetFocus();
+    scene.user.click(scene.label("a"));
+    scene.user.holding(VK_CONTROL).click(scene.label("c"));
+    scene.user.holding(VK_CONTROL).key(VK_DOWN); // the caret to b, the anchor with it
+    ASSERT_EQ(scene.caret(), "b");
+    scene.tree.selectItemAnchor(scene.item("d"));
+    scene.forget();
+    scene.user.holding(VK_CONTROL).holding(VK_SHIFT).key(VK_END);
+    EXPECT_EQ(scene.selected(), (Names{"a", "c", "d", "e", "f"}));
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYKEYBOARD, "b", "f"}}));
+    scene.user.holding(VK_CONTROL).holding(VK_SHIFT).key(VK_PRIOR);
+    EXPECT_EQ(scene.caret(), "a");
+    EXPECT_EQ(scene.selected(), (Names{"a", "b", "c", "d", "e", "f"}));
+}
+
+// The band
+
+TEST(TreeBand, IsADragUnlessItIsAskedFor)
+{
+    Scene scene{{"a", "b", "c"}};
+    bool dragged = false;
+    scene.parent().answer(static_cast<UINT>(TVN_BEGINDRAGW), [&](NMHDR*) -> LRESULT {
+        dragged = true;
+        return 0;
+    });
+    scene.user.press(scene.below()).moveBy(0, -30).waitFor("the drag", [&] { return dragged; }).release();
+    EXPECT_TRUE(dragged);
+}
+
+TEST(TreeBand, SelectsTheRowsThatThePointerPasses)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.tree.setExtras(Extra::RubberBand);
+    scene.tree.SelectItem(scene.item("a"));
+    scene.forget();
+    bool dragged = false;
+    scene.parent().answer(static_cast<UINT>(TVN_BEGINDRAGW), [&](NMHDR*) -> LRESULT {
+        dragged = true;
+        return 0;
+    });
+    Names meanwhile;
+    scene.user.press(scene.beside("b"))
+        .moveTo(scene.beside("c"))
+        .waitFor("two rows", [&] { return scene.selected().size() == 2; })
+        .then([&] { meanwhile = scene.selected(); })
+        .moveTo(scene.beside("d"))
+        .waitFor("three rows", [&] { return scene.selected().size() == 3; })
+        .release();
+    EXPECT_EQ(meanwhile, (Names{"b", "c"}));
+    EXPECT_EQ(scene.selected(), (Names{"b", "c", "d"}));
+    EXPECT_EQ(scene.caret(), "d");
+    EXPECT_FALSE(dragged);
+    const Changes changes = scene.changes();
+    ASSERT_EQ(changes.size(), 2u); // the press has cleared, the band has selected
+    EXPECT_EQ(changes.back().action, static_cast<UINT>(TVC_BYMOUSE));
+    EXPECT_EQ(changes.back().newItem, "d");
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST(TreeBand, FromBelowTheLastItemReachesUpwards)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.tree.setExtras(Extra::RubberBand);
+    scene.user.press(scene.below())
+        .moveTo(scene.beside("c"))
+        .waitFor("two rows", [&] { return scene.selected().size() == 2; })
+        .release();
+    EXPECT_EQ(scene.selected(), (Names{"c", "d"}));
+    // And back to the empty space: nothing.
+    scene.user.press(scene.below())
+        .moveTo(scene.beside("b"))
+        .waitFor("three rows", [&] { return scene.selected().size() == 3; })
+        .moveTo(scene.below())
+        .waitFor("none", [&] { return scene.selected().empty(); })
+        .release();
+    EXPECT_EQ(scene.selected(), Names{});
+}
+
+TEST(TreeBand, WithCtrlChangesOverWhatItPasses)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.tree.setExtras(Extra::RubberBand);
+    scene.user.click(scene.label("a"));
+    scene.user.holding(VK_CONTROL).click(scene.label("c"));
+    scene.user.holding(VK_CONTROL)
+        .press(scene.below())
+        .moveTo(scene.beside("b"))
+        .waitFor("all but c",
+                 [&] {
+                     return scene.selected() == Names{"a", "b", "d"};
+                 })
+        .release();
+    EXPECT_EQ(scene.selected(), (Names{"a", "b", "d"}));
+}
+
+TEST(TreeBand, EscapeBringsTheSelectionBack)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.tree.setExtras(Extra::RubberBand);
+    scene.user.click(scene.label("a"));
+    scene.forget();
+    scene.user.holding(VK_CONTROL)
+        .press(scene.below())
+        .moveTo(scene.beside("b"))
+        .waitFor("more", [&] { return scene.selected().size() > 2; })
+        .key(VK_ESCAPE)
+        .waitFor("a alone", [&] { return scene.selected() == Names{"a"}; })
+        .release();
+    EXPECT_EQ(scene.selected(), Names{"a"});
+    EXPECT_EQ(scene.caret(), "a");
+    EXPECT_EQ(scene.changes(), Changes{});
+}
+
+TEST(TreeBand, ShowsItsFrameAndTakesItAway)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.tree.setExtras(Extra::RubberBand);
+    const auto highlighted = [&](const std::string& name) {
+        CRect rect;
+        scene.tree.GetItemRect(scene.item(name), &rect, TRUE);
+        CClientDC dc(&scene.tree);
+        for (int x = rect.right + 2; x < rect.right + 60; ++x)
+            if (dc.GetPixel(x, rect.CenterPoint().y) == ::GetSysColor(COLOR_HIGHLIGHT))
+                return true;
+        return false;
+    };
+    bool during = false;
+    scene.user.press(scene.beside("a"))
+        .moveTo(scene.beside("d"))
+        .moveBy(30, 0)
+        .waitFor("all", [&] { return scene.selected().size() == 4; })
+        .waitFor("the frame", [&] { return during = highlighted("b"); })
+        .release()
+        .waitFor("no frame", [&] { return !highlighted("b"); });
+    EXPECT_TRUE(during);
+}
+
+/// Messages run while the band is drawn: the host may do anything in them.
+TEST(TreeBand, OutlivesWhatHappensMeanwhile)
+{
+    struct Misdeed
+    {
+        const char* name;
+        std::function<void(Scene&)> commit;
+    };
+    const Misdeed misdeeds[] = {
+        {"deletes where it began", [](Scene& scene) { scene.tree.DeleteItem(scene.item("a")); }},
+        {"deletes all", [](Scene& scene) { scene.tree.DeleteAllItems(); }},
+        {"selects another", [](Scene& scene) { scene.tree.SelectItem(scene.item("d")); }},
+        {"takes the mouse", [](Scene& scene) { scene.parent().SetCapture(); }},
+        {"destroys the window", [](Scene& scene) { scene.tree.DestroyWindow(); }},
+    };
+    for (const Misdeed& misdeed : misdeeds) {
+        SCOPED_TRACE(misdeed.name);
+        Scene scene{{"a", "b", "c", "d"}};
+        scene.tree.setExtras(Extra::RubberBand);
+        scene.user.press(scene.beside("a"))
+            .moveTo(scene.beside("c"))
+            .waitFor("three rows", [&] { return scene.selected().size() == 3; })
+            .then([&] { misdeed.commit(scene); })
+            .moveBy(0, 5)
+            .release();
+        ::ReleaseCapture();
+        EXPECT_EQ(TestNode::live(), scene.tree.m_hWnd ? static_cast<int>(scene.tree.GetCount()) : 0);
+        if (!scene.tree.m_hWnd)
+            continue;
+        scene.tree.SelectItem(scene.addTo(TVI_ROOT, "later").hTreeItem());
+        EXPECT_EQ(scene.selected(), Names{"later"});
+    }
+}
+
+// Finding by typing
+
+TEST(TreeFind, FindsTheBeginningOfALabelAloneUnlessItIsAskedFor)
+{
+    Scene scene{{"carrot", "rot", "otter"}};
+    scene.tree.SetFocus();
+    type(scene, "ot");
+    EXPECT_EQ(scene.caret(), "otter");
+}
+
+TEST(TreeFind, FindsWhatIsTypedAnywhereInALabel)
+{
+    Scene scene{{"carrot", "Rotunda", "otter"}};
+    scene.tree.setExtras(Extra::FindAnywhere);
+    scene.tree.SetFocus();
+    scene.tree.SelectItem(scene.item("otter"));
+    scene.forget();
+    type(scene, "r"); // from the caret on
+    EXPECT_EQ(scene.caret(), "otter");
+    type(scene, "ot"); // round to the first
+    EXPECT_EQ(scene.selected(), Names{"carrot"});
+    EXPECT_EQ(scene.changes().size(), 1u);
+    scene.tree.SendMessage(WM_KEYDOWN, VK_F3, 1);
+    EXPECT_EQ(scene.selected(), Names{"Rotunda"});
+    scene.tree.SendMessage(WM_KEYDOWN, VK_F3, 1);
+    EXPECT_EQ(scene.selected(), Names{"carrot"});
+    type(scene, "x"); // nowhere: it is left out
+    EXPECT_EQ(scene.selected(), Names{"carrot"});
+    type(scene, "u"); // "rotu"
+    EXPECT_EQ(scene.selected(), Names{"Rotunda"});
+    type(scene, "\b"); // "rot" again, which the caret has
+    EXPECT_EQ(scene.selected(), Names{"Rotunda"});
+}
+
+TEST(TreeFind, EscapeAndAStepEndTheSearch)
+{
+    Scene scene{{"one", "two", "three", "four"}};
+    scene.tree.setExtras(Extra::FindAnywhere);
+    scene.tree.SetFocus();
+    type(scene, "r");
+    EXPECT_EQ(scene.caret(), "three");
+    scene.tree.SendMessage(WM_KEYDOWN, VK_ESCAPE, 1);
+    type(scene, "o"); // not "ro"
+    EXPECT_EQ(scene.caret(), "four");
+    scene.user.click(scene.label("one"));
+    type(scene, "w"); // not "ow"
+    EXPECT_EQ(scene.caret(), "two");
+}
+
+TEST(TreeFind, LeavesSpaceToTheTreeUntilSomethingIsLookedFor)
+{
+    Scene scene{{"a b", "ab"}};
+    scene.tree.setExtras(Extra::FindAnywhere);
+    scene.tree.SetFocus();
+    scene.tree.SelectItem(scene.item("ab"));
+    scene.journal.clear();
+    scene.user.key(VK_SPACE);
+    EXPECT_FALSE(scene.journal.empty()); // the default action
+    scene.journal.clear();
+    type(scene, "a");
+    scene.user.key(VK_SPACE);
+    EXPECT_TRUE(scene.journal.empty());
+    EXPECT_EQ(scene.caret(), "a b");
+}
+
+TEST(TreeFind, LooksAtDisplayedItemsOnly)
+{
+    Scene scene{{"a", "b"}};
+    scene.add("needle", "a");
+    scene.tree.setExtras(Extra::FindAnywhere);
+    scene.tree.SelectItem(scene.item("b"));
+    type(scene, "needle");
+    EXPECT_EQ(scene.caret(), "b");
+}
+
+/// The parent hears of the selection and may do anything.
+TEST(TreeFind, OutlivesWhatTheParentDoes)
+{
+    const std::function<void(Scene&)> misdeeds[] = {
+        [](Scene& scene) { scene.tree.DeleteItem(scene.item("two")); },
+        [](Scene& scene) { scene.tree.DeleteAllItems(); },
+        [](Scene& scene) { scene.tree.setExtras(0); },
+        [](Scene& scene) { scene.tree.DestroyWindow(); },
+    };
+    for (const auto& misdeed : misdeeds) {
+        Scene scene{{"one", "two"}};
+        scene.tree.setExtras(Extra::FindAnywhere);
+        bool committed = false;
+        scene.parent().answer(static_cast<UINT>(TVN_SELCHANGEDW), [&](NMHDR*) -> LRESULT {
+            if (!std::exchange(committed, true))
+                misdeed(scene);
+            return 0;
+        });
+        type(scene, "w");
+        EXPECT_TRUE(committed);
+        EXPECT_EQ(TestNode::live(), scene.tree.m_hWnd ? static_cast<int>(scene.tree.GetCount()) : 0);
+    }
+}
+
+// Check boxes
+
+TEST(TreeCheckBoxes, AreShownOnlyWhereTheHostAsksAndTheNodeHasOne)
+{
+    Scene scene{{"plain"}};
+    addChecked(scene, "box").shown = Check::On;
+    EXPECT_EQ(shownBy(scene, "box"), Check::None);
+    scene.tree.setExtras(Extra::CheckBoxes);
+    EXPECT_EQ(shownBy(scene, "box"), Check::On);
+    EXPECT_EQ(shownBy(scene, "plain"), Check::None);
+    addChecked(scene, "later");
+    EXPECT_EQ(shownBy(scene, "later"), Check::Off);
+    scene.tree.setExtras(0);
+    EXPECT_EQ(shownBy(scene, "box"), Check::None);
+    EXPECT_EQ(scene.tree.GetImageList(TVSIL_STATE), nullptr);
+}
+
+TEST(TreeCheckBoxes, CanBeAskedForBeforeThereIsAWindow)
+{
+    RecordingParent parent;
+    TestTree tree;
+    tree.setExtras(Extra::CheckBoxes);
+    tree.Create(Scene::kStyle, CRect(0, 0, 100, 100), &parent, 1);
+    EXPECT_NE(tree.GetImageList(TVSIL_STATE), nullptr);
+    auto* const node = new CheckedNode("a");
+    const HTREEITEM item = node->insert(tree, TVI_ROOT, TVI_LAST);
+    EXPECT_EQ(tree.GetItemState(item, TVIS_STATEIMAGEMASK), INDEXTOSTATEIMAGEMASK(1));
+}
+
+TEST(TreeCheckBoxes, AClickTogglesTheBoxAndLeavesTheSelectionAlone)
+{
+    Scene scene{{"plain"}};
+    scene.tree.setExtras(Extra::CheckBoxes);
+    addChecked(scene, "box");
+    scene.user.click(scene.label("plain"));
+    scene.forget();
+    scene.journal.clear();
+    scene.user.click(boxOf(scene, "box"));
+    EXPECT_EQ(scene.journal, Journal{"check box"});
+    EXPECT_EQ(shownBy(scene, "box"), Check::On);
+    EXPECT_EQ(scene.selected(), Names{"plain"});
+    EXPECT_EQ(scene.changes(), Changes{});
+    scene.user.click(boxOf(scene, "box"));
+    EXPECT_EQ(shownBy(scene, "box"), Check::Off);
+}
+
+TEST(TreeCheckBoxes, ADoubleClickTogglesTwiceAndActivatesNothing)
+{
+    Scene scene;
+    scene.tree.setExtras(Extra::CheckBoxes);
+    addChecked(scene, "box");
+    scene.journal.clear();
+    scene.user.doubleClick(boxOf(scene, "box"));
+    EXPECT_EQ(scene.journal, (Journal{"check box", "uncheck box"}));
+}
+
+TEST(TreeCheckBoxes, AMixedBoxBecomesCheckedAndANodeMayRefuse)
+{
+    Scene scene;
+    scene.tree.setExtras(Extra::CheckBoxes);
+    CheckedNode& node = addChecked(scene, "box");
+    node.shown = Check::Mixed;
+    scene.tree.updateUI(node);
+    EXPECT_EQ(shownBy(scene, "box"), Check::Mixed);
+    node.obeys = false;
+    scene.user.click(boxOf(scene, "box"));
+    EXPECT_EQ(scene.journal.back(), "check box");
+    EXPECT_EQ(shownBy(scene, "box"), Check::Mixed);
+}
+
+TEST(TreeCheckBoxes, SpaceLetsAllSelectedBoxesFollowTheCarets)
+{
+    Scene scene{{"plain"}};
+    scene.tree.setExtras(Extra::CheckBoxes);
+    for (const char* const name : {"x", "y", "z"})
+        addChecked(scene, name);
+    scene.user.click(boxOf(scene, "y"));
+    scene.user.click(scene.label("plain"));
+    scene.user.holding(VK_SHIFT).click(scene.label("y")); // the caret at y, which is checked
+    scene.journal.clear();
+    scene.user.key(VK_SPACE);
+    EXPECT_EQ(shownBy(scene, "x"), Check::Off);
+    EXPECT_EQ(shownBy(scene, "y"), Check::Off);
+    scene.user.key(VK_SPACE);
+    EXPECT_EQ(shownBy(scene, "x"), Check::On);
+    EXPECT_EQ(shownBy(scene, "y"), Check::On);
+    EXPECT_EQ(shownBy(scene, "z"), Check::Off);
+    EXPECT_EQ(scene.selected(), (Names{"plain", "x", "y"}));
+}
+
+TEST(TreeCheckBoxes, WhatANodeRaisesIsReported)
+{
+    Scene scene;
+    scene.tree.setExtras(Extra::CheckBoxes);
+    CheckedNode& node = addChecked(scene, "box");
+    node.checking = [] { throw OvoError(L"locked"); };
+    scene.user.click(boxOf(scene, "box"));
+    EXPECT_EQ(scene.tree.errors, Journal{"locked"});
+    node.checking = nullptr;
+    node.asking = [] { throw std::runtime_error("unknown"); };
+    scene.user.click(boxOf(scene, "box"));
+    EXPECT_EQ(scene.tree.errors.back(), "unknown");
+    node.asking = nullptr;
+}
+
+TEST(TreeCheckBoxes, OutliveWhatANodeDoes)
+{
+    const std::function<void(Scene&)> misdeeds[] = {
+        [](Scene& scene) { scene.tree.DeleteItem(scene.item("box")); },
+        [](Scene& scene) { scene.tree.DeleteAllItems(); },
+        [](Scene& scene) { scene.tree.setExtras(0); },
+        [](Scene& scene) { scene.tree.SendMessage(WM_KEYDOWN, VK_SPACE, 1); },
+        [](Scene& scene) { scene.tree.DestroyWindow(); },
+    };
+    for (const auto& misdeed : misdeeds)
+        for (const bool byKey : {false, true})
+            for (const bool asked : {false, true}) {
+                Scene scene{{"plain"}};
+                scene.tree.setExtras(Extra::CheckBoxes);
+                CheckedNode& node = addChecked(scene, "box");
+                addChecked(scene, "other");
+                scene.tree.SelectItem(scene.item("box"));
+                scene.tree.selectRange(scene.item("box"), scene.item("other"));
+                bool committed = false;
+                (asked ? node.asking : node.checking) = [&] {
+                    if (!std::exchange(committed, true))
+                        misdeed(scene);
+                };
+                if (byKey)
+                    scene.tree.SendMessage(WM_KEYDOWN, VK_SPACE, 1);
+                else
+                    scene.user.click(boxOf(scene, "box"));
+                EXPECT_TRUE(committed);
+                EXPECT_EQ(TestNode::live(), scene.tree.m_hWnd ? static_cast<int>(scene.tree.GetCount()) : 0);
+            }
+}

@@ -1,0 +1,287 @@
+// The filter: what it takes out of the tree, and that all comes back.
+#include "TreeScene.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+using namespace ovo::testkit;
+
+namespace
+{
+
+using Keeps = std::function<bool(const MultiTreeCtrl::Node&)>;
+
+/// Keeps nodes with this in their name.
+Keeps with(const std::string& part)
+{
+    return [part](const MultiTreeCtrl::Node& node) {
+        return dynamic_cast<const TestNode&>(node).name.find(part) != std::string::npos;
+    };
+}
+
+/// Two open folders with leaves, one of them with a folder inside.
+struct Garden : Scene
+{
+    Garden()
+        : Scene({"beds", "sheds", "gate"})
+    {
+        node("beds").childNames = {"rose", "herbs", "rowan"};
+        node("sheds").childNames = {"spade", "rope"};
+        for (const char* const name : {"beds", "sheds"})
+            openUp(name);
+        node("herbs").childNames = {"rocket", "mint"};
+        openUp("herbs");
+        forget();
+    }
+
+    void openUp(const std::string& name)
+    {
+        node(name).children = 1;
+        tree.updateUI(item(name));
+        tree.Expand(item(name), TVE_EXPAND);
+    }
+
+    const Names everything{"beds",  "rose",  "herbs", "rocket", "mint",
+                           "rowan", "sheds", "spade", "rope",   "gate"};
+};
+
+} // namespace
+
+TEST(TreeFilter, KeepsTheHitsAndWhatTheyAreIn)
+{
+    Garden scene;
+    ASSERT_EQ(scene.all(), scene.everything);
+    scene.tree.setFilter(with("ro"));
+    EXPECT_EQ(scene.all(), (Names{"beds", "rose", "herbs", "rocket", "rowan", "sheds", "rope"}));
+    scene.tree.setFilter(with("mint"));
+    EXPECT_EQ(scene.all(), (Names{"beds", "herbs", "mint"}));
+    scene.tree.setFilter(with("nowhere"));
+    EXPECT_EQ(scene.all(), Names{});
+    EXPECT_EQ(TestNode::live(), 10);
+}
+
+TEST(TreeFilter, WithoutOneAllComesBackWhereItWasAndOpenAsItWas)
+{
+    Garden scene;
+    scene.journal.clear();
+    for (const char* const part : {"mint", "nowhere", "gate", "ro", "s"}) {
+        scene.tree.setFilter(with(part));
+        scene.tree.setFilter(nullptr);
+        EXPECT_EQ(scene.all(), scene.everything) << part;
+        EXPECT_TRUE(scene.isExpanded("beds")) << part;
+        EXPECT_TRUE(scene.isExpanded("herbs")) << part;
+        EXPECT_TRUE(scene.node("herbs").expanded()) << part;
+    }
+    // Nobody was asked to open or close.
+    for (const std::string& line : scene.journal)
+        EXPECT_TRUE(line.find("expand") == std::string::npos && line.find("collapse") == std::string::npos)
+            << line;
+}
+
+TEST(TreeFilter, AHiddenNodeHasNoItemAndIsNotSelected)
+{
+    Garden scene;
+    TestNode& spade = scene.node("spade");
+    scene.tree.SelectItem(scene.item("spade"));
+    scene.tree.SetItemState(scene.item("rose"), TVIS_SELECTED, TVIS_SELECTED);
+    scene.forget();
+    scene.tree.setFilter(with("rose"));
+    EXPECT_EQ(spade.hTreeItem(), nullptr);
+    EXPECT_EQ(scene.changes().size(), 1u);
+    scene.tree.setFilter(nullptr);
+    EXPECT_NE(spade.hTreeItem(), nullptr);
+    const Names selected = scene.selected();
+    EXPECT_EQ(std::count(selected.begin(), selected.end(), "spade"), 0);
+}
+
+TEST(TreeFilter, WithoutAChangeOfTheSelectionTheParentHearsNothing)
+{
+    Garden scene;
+    scene.tree.SelectItem(scene.item("rose"));
+    scene.forget();
+    scene.tree.setFilter(with("rose"));
+    scene.tree.setFilter(nullptr);
+    EXPECT_EQ(scene.selected(), Names{"rose"});
+    EXPECT_EQ(scene.changes(), Changes{});
+}
+
+TEST(TreeFilter, FiltersWhatIsOpenedMeanwhile)
+{
+    Garden scene;
+    scene.tree.Expand(scene.item("sheds"), TVE_COLLAPSE);
+    scene.tree.setFilter([](const MultiTreeCtrl::Node& node) {
+        const std::string& name = dynamic_cast<const TestNode&>(node).name;
+        return name == "sheds" || name == "rope";
+    });
+    ASSERT_EQ(scene.all(), Names{"sheds"});
+    scene.tree.Expand(scene.item("sheds"), TVE_EXPAND);
+    EXPECT_EQ(scene.all(), (Names{"sheds", "rope"}));
+    scene.tree.setFilter(nullptr);
+    EXPECT_EQ(scene.all(), scene.everything);
+}
+
+TEST(TreeFilter, HiddenChildrenGoWhenTheirParentClosesOrGoes)
+{
+    Garden scene;
+    scene.tree.setFilter(with("rope"));
+    ASSERT_EQ(scene.all(), (Names{"sheds", "rope"}));
+    scene.tree.Expand(scene.item("sheds"), TVE_COLLAPSE);
+    scene.tree.Expand(scene.item("sheds"), TVE_EXPAND);
+    scene.tree.setFilter(nullptr);
+    EXPECT_EQ(scene.childrenOf("sheds"), (Names{"spade", "rope"})); // each once
+    scene.tree.setFilter(with("rope"));
+    scene.tree.DeleteItem(scene.item("sheds"));
+    scene.tree.setFilter(nullptr);
+    EXPECT_EQ(scene.all(), (Names{"beds", "rose", "herbs", "rocket", "mint", "rowan", "gate"}));
+    EXPECT_EQ(TestNode::live(), 7);
+}
+
+TEST(TreeFilter, KeepsTheButtonOfAHitWhoseChildrenAreHidden)
+{
+    Garden scene;
+    scene.tree.setFilter(with("sheds"));
+    ASSERT_EQ(scene.all(), Names{"sheds"});
+    TVITEM item{};
+    item.mask = TVIF_HANDLE | TVIF_CHILDREN;
+    item.hItem = scene.item("sheds");
+    scene.tree.GetItem(&item);
+    EXPECT_EQ(item.cChildren, 1);
+}
+
+TEST(TreeFilter, WhatIsInsertedStaysUntilTheNextFilter)
+{
+    Garden scene;
+    scene.tree.setFilter(with("rose"));
+    scene.add("new", "beds");
+    EXPECT_EQ(scene.all(), (Names{"beds", "rose", "new"}));
+    scene.tree.setFilter(with("rose"));
+    EXPECT_EQ(scene.all(), (Names{"beds", "rose"}));
+    scene.tree.setFilter(nullptr);
+    EXPECT_EQ(scene.childrenOf("beds").size(), 4u);
+}
+
+TEST(TreeFilter, ANodeThatTheHostInsertsItselfIsNotInsertedTwice)
+{
+    Garden scene;
+    TestNode& gate = scene.node("gate");
+    scene.tree.setFilter(with("rose"));
+    gate.insert(scene.tree, TVI_ROOT, TVI_FIRST);
+    scene.tree.setFilter(nullptr);
+    const Names all = scene.all();
+    EXPECT_EQ(std::count(all.begin(), all.end(), "gate"), 1);
+    EXPECT_EQ(TestNode::live(), 10);
+}
+
+TEST(TreeFilter, LetsGoOfHiddenNodesWithTheWindow)
+{
+    {
+        Garden scene;
+        scene.tree.setFilter(with("nowhere"));
+        scene.tree.DestroyWindow();
+        EXPECT_EQ(TestNode::live(), 0);
+    }
+    Garden scene;
+    scene.tree.setFilter(with("nowhere"));
+    scene.tree.DeleteAllItems();
+    EXPECT_EQ(TestNode::live(), 0);
+    scene.tree.setFilter(nullptr);
+    EXPECT_EQ(scene.tree.GetCount(), 0u);
+}
+
+// What it asks for may raise, and may change the tree
+
+TEST(TreeFilter, WhatTheFunctionRaisesPassesOnAndAllIsShown)
+{
+    Garden scene;
+    scene.tree.setFilter(with("rose"));
+    EXPECT_THROW(scene.tree.setFilter([](const MultiTreeCtrl::Node& node) -> bool {
+        if (dynamic_cast<const TestNode&>(node).name == "rope")
+            throw std::runtime_error("no answer");
+        return false;
+    }),
+                 std::runtime_error);
+    EXPECT_EQ(scene.all(), scene.everything);
+}
+
+TEST(TreeFilter, OutlivesWhatTheHostDoesMeanwhile)
+{
+    const std::function<void(Scene&)> misdeeds[] = {
+        [](Scene& scene) { scene.tree.DeleteItem(scene.item("beds")); },
+        [](Scene& scene) { scene.tree.DeleteItem(scene.item("rope")); },
+        [](Scene& scene) { scene.tree.Expand(scene.item("sheds"), TVE_COLLAPSE); },
+        [](Scene& scene) { scene.tree.DeleteAllItems(); },
+        [](Scene& scene) { scene.add("new", "sheds"); },
+        [](Scene& scene) { scene.tree.setFilter(nullptr); },
+        [](Scene& scene) { scene.tree.setFilter(with("o")); },
+        [](Scene& scene) { scene.tree.DestroyWindow(); },
+    };
+    int number = 0;
+    for (const auto& misdeed : misdeeds)
+        for (const bool whenShown : {false, true}) {
+            SCOPED_TRACE(std::to_string(number++));
+            Garden scene;
+            bool committed = false;
+            const auto commit = [&] {
+                if (!std::exchange(committed, true))
+                    misdeed(scene);
+            };
+            if (whenShown) {
+                scene.tree.setFilter(with("ro"));
+                scene.journal.clear();
+                // A hidden node is asked for its text when it comes back.
+                scene.tree.setFilter([&](const MultiTreeCtrl::Node&) {
+                    commit();
+                    return true;
+                });
+            } else {
+                scene.tree.setFilter([&](const MultiTreeCtrl::Node& node) {
+                    if (dynamic_cast<const TestNode&>(node).name == "mint")
+                        commit();
+                    return false;
+                });
+            }
+            EXPECT_TRUE(committed);
+            if (!scene.tree.m_hWnd) {
+                EXPECT_EQ(TestNode::live(), 0);
+                continue;
+            }
+            scene.tree.setFilter(nullptr);
+            EXPECT_EQ(TestNode::live(), static_cast<int>(scene.tree.GetCount()));
+        }
+}
+
+TEST(TreeFilter, OutlivesWhatANodeDoesWhenItComesBack)
+{
+    const std::function<void(Scene&)> misdeeds[] = {
+        [](Scene& scene) { scene.tree.DeleteAllItems(); },
+        [](Scene& scene) { scene.tree.setFilter(with("rose")); },
+        [](Scene& scene) { scene.tree.DestroyWindow(); },
+        [](Scene&) { throw std::runtime_error("no text"); },
+    };
+    int number = 0;
+    for (const auto& misdeed : misdeeds) {
+        SCOPED_TRACE(std::to_string(number++));
+        Garden scene;
+        bool committed = false;
+        TestNode& rope = scene.node("rope");
+        scene.tree.setFilter(with("rose"));
+        rope.texting = [&]() -> std::wstring {
+            if (!std::exchange(committed, true))
+                misdeed(scene);
+            return L"rope";
+        };
+        try {
+            scene.tree.setFilter(nullptr);
+        } catch (const std::runtime_error& error) {
+            EXPECT_STREQ(error.what(), "no text");
+        }
+        EXPECT_TRUE(committed);
+        if (scene.tree.m_hWnd) {
+            scene.tree.setFilter(nullptr);
+            EXPECT_EQ(TestNode::live(), static_cast<int>(scene.tree.GetCount()));
+        } else {
+            EXPECT_EQ(TestNode::live(), 0);
+        }
+    }
+}
