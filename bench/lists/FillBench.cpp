@@ -115,7 +115,7 @@ TEST_CASE("sorting 100000 rows by locale order")
     turns.add(
         "the same sort keys in a vector [baseline]", [&] { std::stable_sort(copy.begin(), copy.end()); },
         [&] { copy = keys; });
-    turns.add("the sorter's order of its keys", [&] { sum += block.order(true).size(); });
+    turns.add("the sorter's order of its keys [at most 1.5]", [&] { sum += block.order(true).size(); });
     turns.add("the sorter's own part: keys and order [at most 1.5]", [&] {
         ovoui::lists::LocaleOrder order;
         order.reserve(texts.size());
@@ -126,11 +126,6 @@ TEST_CASE("sorting 100000 rows by locale order")
     turns.add("making the sort keys, and no more", [&] {
         for (const std::wstring& text : texts)
             sum += sortKey(text).size();
-    });
-    turns.add("reading the texts", [&] {
-        wchar_t text[64];
-        for (int row = 0; row < kRows; ++row)
-            sum += static_cast<std::size_t>(list.GetItemText(row, 0, text, 64));
     });
     turns.add("COVOListSorter, rows in order", [&] { sum += sorter.Sort(0, true); });
     turns.run("sorting 100000 rows by locale order", 9);

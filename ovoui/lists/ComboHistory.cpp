@@ -64,16 +64,13 @@ void ComboHistory::drop(const std::wstring& text)
 
 // The profile has an entry for each text: the name with a number, from 1 on.
 
+/// With empty ones where the profile has none.
 std::vector<std::wstring> ComboHistory::read() const
 {
     std::vector<std::wstring> texts;
-    for (int number = 1; number <= m_limit; ++number) {
-        const CString text =
-            AfxGetApp()->GetProfileString(m_section.c_str(), (m_entry + std::to_wstring(number)).c_str());
-        if (text.IsEmpty())
-            break;
-        texts.emplace_back(text.GetString());
-    }
+    for (int number = 1; number <= m_limit; ++number)
+        texts.emplace_back(
+            AfxGetApp()->GetProfileString(m_section.c_str(), (m_entry + std::to_wstring(number)).c_str()));
     return texts;
 }
 

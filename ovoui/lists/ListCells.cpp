@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/lists/ColumnShape.h>
+#include <ovoui/lists/RowData.h>
 #include <ovoui/lists/core/RowLayout.h>
 
 #include <algorithm>
@@ -13,9 +14,8 @@ namespace ovoui::lists
 
 frame::Box itemBox(const COVOListCtrlEx& list, int row, UINT part)
 {
-    CRect rect;
-    list.GetItemRect(row, &rect, part);
-    return toBox(rect);
+    RECT rect{static_cast<LONG>(part), 0, 0, 0};
+    return DirectList::ask(list, LVM_GETITEMRECT, row, rect) ? toBox(rect) : frame::Box();
 }
 
 frame::Box cellBox(COVOListCtrlEx& list, int row, int column, int width, const frame::Box& before,

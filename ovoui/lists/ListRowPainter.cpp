@@ -4,6 +4,7 @@
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListCells.h>
+#include <ovoui/lists/RowData.h>
 #include <ovoui/lists/SolidFill.h>
 #include <ovoui/lists/core/RowLayout.h>
 
@@ -149,7 +150,7 @@ bool ListRowPainter::readItem()
     m_item.pszText = s_itemText;
     m_item.cchTextMax = kItemTextRoom;
     const Lifeline::Watch watch(m_list);
-    return m_list.GetItem(&m_item) && watch.alive();
+    return DirectList::ask(m_list, LVM_GETITEMW, 0, m_item) && watch.alive();
 }
 
 void ListRowPainter::chooseColours()
@@ -248,7 +249,7 @@ void ListRowPainter::paintSubItems(const frame::Box& label)
         item.iSubItem = i;
         item.pszText = s_itemText;
         item.cchTextMax = kItemTextRoom;
-        if (m_list.GetItem(&item))
+        if (DirectList::ask(m_list, LVM_GETITEMW, 0, item))
             paintSubItem(textOf(item), box, column.format, isColourColumn(i));
     }
 }

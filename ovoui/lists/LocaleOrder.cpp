@@ -8,11 +8,10 @@ namespace ovoui::lists
 namespace
 {
 
-/// By name: some platforms look a locale up anew for every text when it is given by number.
 int mapText(LPCWSTR text, char* room, int size)
 {
-    return ::LCMapStringEx(LOCALE_NAME_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, text, -1,
-                           reinterpret_cast<LPWSTR>(room), size, nullptr, nullptr, 0);
+    return ::LCMapStringW(LOCALE_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, text, -1,
+                          reinterpret_cast<LPWSTR>(room), size);
 }
 
 } // namespace

@@ -8,10 +8,9 @@
 namespace ovoui::lists
 {
 
-LRESULT DirectList::ask(const COVOListCtrlEx& list, UINT message, int row, LVITEM& item)
+LRESULT DirectList::send(const COVOListCtrlEx& list, UINT message, int row, LPARAM answer)
 {
-    return const_cast<COVOListCtrlEx&>(list).DefWindowProc(message, static_cast<WPARAM>(row),
-                                                           reinterpret_cast<LPARAM>(&item));
+    return const_cast<COVOListCtrlEx&>(list).DefWindowProc(message, static_cast<WPARAM>(row), answer);
 }
 
 namespace

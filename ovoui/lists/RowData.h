@@ -13,7 +13,15 @@ namespace ovoui::lists
 class DirectList
 {
 public:
-    static LRESULT ask(const COVOListCtrlEx& list, UINT message, int row, LVITEM& item);
+    /// `answer` is the structure that the message fills.
+    template <class Answer>
+    static LRESULT ask(const COVOListCtrlEx& list, UINT message, int row, Answer& answer)
+    {
+        return send(list, message, row, reinterpret_cast<LPARAM>(&answer));
+    }
+
+private:
+    static LRESULT send(const COVOListCtrlEx& list, UINT message, int row, LPARAM answer);
 };
 
 /// `order` holds every present index once, in the order wanted. Selection, focus and item data go with the

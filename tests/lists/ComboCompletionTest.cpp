@@ -329,22 +329,6 @@ const ItemChange kItemChanges[] = {
          std::filesystem::current_path(before);
      },
      L"berry.txt"},
-    {"another window",
-     {L"x", L"berry"},
-     L"berry",
-     [](ComboScene& scene) {
-         const HWND before = scene.listBox();
-         scene.combo.DestroyWindow();
-         scene.combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN | CBS_AUTOHSCROLL, CRect(10, 10, 210, 160),
-                            &scene.parent, 21);
-         EXPECT_FALSE(::IsWindow(before));
-         for (const wchar_t* item : {L"beech", L"berry"})
-             scene.combo.AddString(item);
-         scene.combo.SetFocus();
-         scene.robot.type(L"b");
-         scene.combo.InsertString(0, L"bee");
-     },
-     L"bee"},
 };
 
 } // namespace
@@ -363,13 +347,52 @@ TEST(ComboTyping, ItemsMayChangeBetweenTwoCharacters)
     }
 }
 
-TEST(ComboTyping, ItemsWithoutTextsCompleteNothing)
+TEST(ComboTyping, AnotherWindowHasOtherItems)
 {
-    ComboScene scene({}, CBS_DROPDOWN | CBS_OWNERDRAWFIXED | CBS_SORT);
-    scene.combo.AddString(L"berry"); // a number to the list, which its owner compares with others
+    ComboScene scene{L"x", L"berry"};
     scene.enter();
     scene.robot.type(L"b");
-    EXPECT_EQ(scene.text(), L"b");
+    EXPECT_EQ(scene.text(), L"berry");
+    scene.combo.DestroyWindow();
+    scene.combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWN | CBS_AUTOHSCROLL, CRect(10, 10, 210, 160),
+                       &scene.parent, 21);
+    for (const wchar_t* item : {L"bat", L"x", L"berry"})
+        scene.combo.AddString(item);
+    scene.combo.SetFocus();
+    scene.robot.type(L"b");
+    EXPECT_EQ(scene.text(), L"bat");
+    scene.robot.type(L"e");
+    EXPECT_EQ(scene.text(), L"berry");
+    scene.combo.InsertString(0, L"bergamot");
+    scene.robot.type(L"r");
+    EXPECT_EQ(scene.text(), L"bergamot");
+}
+
+namespace
+{
+
+LRESULT CALLBACK countSearches(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                               DWORD_PTR count)
+{
+    *reinterpret_cast<int*>(count) += message == CB_FINDSTRING;
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+} // namespace
+
+TEST(ComboTyping, ItemsWithoutTextsAreNotSearched)
+{
+    for (const DWORD style : {CBS_OWNERDRAWFIXED, CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 0L}) {
+        ComboScene scene({}, CBS_DROPDOWN | style);
+        scene.combo.AddString(L"berry");
+        int searches = 0;
+        ::SetWindowSubclass(scene.combo, &countSearches, 1, reinterpret_cast<DWORD_PTR>(&searches));
+        scene.enter();
+        scene.robot.type(L"b");
+        const bool hasTexts = style != CBS_OWNERDRAWFIXED;
+        EXPECT_EQ(searches > 0, hasTexts);
+        EXPECT_EQ(scene.text(), hasTexts ? L"berry" : L"b");
+    }
 }
 
 TEST(ComboTyping, KeysCountOnlyWhileCompletionIsOn)
