@@ -26,7 +26,7 @@ public:
     /// One text a call.
     const std::vector<std::wstring>& lines() const { return s_lines; }
 
-    /// How many texts contain this one.
+    /// How many texts contain `part`.
     int count(const std::wstring& part) const
     {
         int found = 0;

@@ -8,7 +8,7 @@ namespace ovo::testkit
 // What a user sees of the calling thread's windows. To be used on the thread with the windows: in a test's
 // body and in the conditions and spots of a story.
 
-/// The shown top-level window with this title, and of this class if one is given; else null.
+/// The shown top-level window with this title, and of the class `windowClass` if one is given; else null.
 HWND shownWindow(const wchar_t* title, const wchar_t* windowClass = nullptr);
 
 /// The dialog that the user has to answer: shown, enabled, in front of the others; else null.

@@ -23,6 +23,7 @@ public:
 class GuiThread
 {
 public:
+    /// How long something may take.
     using Limit = std::chrono::milliseconds;
 
     /// Makes the calling thread the one that is asked, until this object goes.

@@ -10,6 +10,8 @@ namespace ovo::testkit
 class ImportPatch
 {
 public:
+    /// From now on a call of `function` by `module`, which must be loaded, calls `replacement`, which has the
+    /// same signature. The name of the module is as GetModuleHandle takes it.
     ImportPatch(const wchar_t* module, const char* function, void* replacement);
     ~ImportPatch();
     ImportPatch(const ImportPatch&) = delete;

@@ -8,6 +8,7 @@
 namespace ovo::testkit
 {
 
+/// A button of the mouse.
 enum class Button
 {
     Left,
@@ -28,8 +29,9 @@ public:
     /// Moves the pointer to a point of the screen, in pixels.
     void moveTo(POINT point);
 
-    /// Where the pointer was last moved to.
+    /// Presses `button` where the pointer was last moved to.
     void press(Button button);
+    /// Lets go of `button`.
     void release(Button button);
 
     /// Two presses with the same time, however slow the machine is.
@@ -40,12 +42,13 @@ public:
 
     /// `virtualKey` is a VK_ code.
     void keyDown(WORD virtualKey);
+    /// Lets go of the key with that VK_ code, `virtualKey`.
     void keyUp(WORD virtualKey);
 
     /// The keys that are down, in the order in which they went down.
     const std::vector<WORD>& heldKeys() const { return m_keys; }
 
-    /// Presses a held key once more, as a keyboard does that repeats it.
+    /// Presses the held key `virtualKey` once more, as a keyboard does that repeats it.
     void holdAgain(WORD virtualKey);
 
     /// One character: by its key where the keyboard has one, else as a character of its own.

@@ -29,6 +29,7 @@ struct Notification
     POINT point{};               ///< place of a drag, client coordinates
     std::wstring text;           ///< text of the item concerned, for label editing
 
+    /// Whether its code is `wantedCode`.
     bool is(UINT wantedCode) const { return code == wantedCode; }
 };
 
@@ -39,20 +40,25 @@ class NotificationLog
 public:
     NotificationLog();
 
-    /// Takes down a message if it is a notification or one of the recorded messages. To be called first
-    /// thing in a window procedure.
+    /// Takes down a `message` with its `wParam` and `lParam` if it is a notification or one of the recorded
+    /// messages. To be called first thing in a window procedure.
     void note(UINT message, WPARAM wParam, LPARAM lParam);
 
     /// Takes down another message too, for example WM_HSCROLL or a private one.
     void record(UINT message) { m_messages.insert(message); }
 
-    /// Leaves out a notification code, or takes it in again.
+    /// Leaves out the notification `code`.
     void ignore(UINT code) { m_ignored.insert(code); }
+    /// Takes the notification `code` in again.
     void regard(UINT code) { m_ignored.erase(code); }
 
+    /// All that was taken down, in order.
     const std::vector<Notification>& all() const { return m_all; }
+    /// How many that are.
     size_t size() const { return m_all.size(); }
+    /// Whether that is none.
     bool empty() const { return m_all.empty(); }
+    /// Forgets them.
     void clear() { m_all.clear(); }
 
     /// How many came with this code.
@@ -70,9 +76,10 @@ private:
     std::set<UINT> m_ignored;
 };
 
-/// The code's name as in the system's headers, or its number.
+/// The name of a `code` of WM_COMMAND or WM_NOTIFY, `message`, as in the system's headers, or its number.
 std::string nameOfCode(UINT message, UINT code);
 
+/// For GoogleTest: writes the names and numbers of `notification` to `out`.
 void PrintTo(const Notification& notification, std::ostream* out);
 
 } // namespace ovo::testkit

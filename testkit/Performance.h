@@ -14,7 +14,9 @@ namespace ovo::testkit
 /// One step of a story: what it is called in a failure, and what it does.
 struct Step
 {
+    /// For the failure, should it go wrong.
     std::string name;
+    /// What is done, on the robot's thread.
     std::function<void(Stage&)> act;
 };
 
@@ -22,6 +24,7 @@ struct Step
 class Performance
 {
 public:
+    /// Begins to act `steps` out.
     explicit Performance(std::vector<Step> steps);
     Performance(Performance&&) noexcept = default;
     Performance& operator=(Performance&&) = delete;

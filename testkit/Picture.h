@@ -15,7 +15,7 @@ namespace ovo::testkit
 class Picture
 {
 public:
-    /// An empty picture in one colour; sizes in pixels, at least 1.
+    /// An empty picture, all `background`; `width` and `height` in pixels, at least 1.
     Picture(int width, int height, COLORREF background = RGB(255, 255, 255));
     ~Picture();
     Picture(Picture&& other) noexcept;
@@ -28,15 +28,18 @@ public:
     /// The client area of a shown window only.
     static Picture ofClient(HWND window);
 
+    /// The whole screen, as it is seen.
     static Picture ofScreen();
 
     /// For drawing into the picture; owned by it.
     HDC dc() const { return m_dc; }
 
+    /// In pixels, as the height.
     int width() const { return m_width; }
+    /// In pixels.
     int height() const { return m_height; }
 
-    /// The colour at a point from the top left; CLR_INVALID outside.
+    /// The colour at a point, `x` and `y` from the top left; CLR_INVALID outside.
     COLORREF at(int x, int y) const;
     COLORREF at(CPoint point) const { return at(point.x, point.y); }
 
@@ -44,11 +47,11 @@ public:
     int count(COLORREF colour, int tolerance = 0) const;
     int count(COLORREF colour, int tolerance, const CRect& within) const;
 
-    /// How many pixels differ by more than `tolerance` in a component. All of the larger one's when the
-    /// sizes differ.
+    /// How many pixels differ from those of `other` by more than `tolerance` in a component. All of the
+    /// larger one's when the sizes differ.
     int differences(const Picture& other, int tolerance = 0) const;
 
-    /// False when the file cannot be written.
+    /// Writes a file, `path`. False when it cannot be written.
     bool savePng(const std::wstring& path) const;
 
 private:
@@ -62,10 +65,10 @@ private:
     std::uint32_t* m_bits = nullptr; // owned by the bitmap; rows from the top, 0x00RRGGBB
 };
 
-/// Whether two colours differ by no more than `tolerance` in each component.
+/// Whether the colours `one` and `other` differ by no more than `tolerance` in each component.
 bool isNear(COLORREF one, COLORREF other, int tolerance);
 
-/// EXPECT_THAT(picture.at(3, 4), IsColour(RGB(255, 0, 0)))
+/// What IsColour is made of.
 MATCHER_P2(IsColourWithin, colour, tolerance, "is the colour " + ::testing::PrintToString(colour))
 {
     *result_listener << "red " << int{GetRValue(arg)} << ", green " << int{GetGValue(arg)} << ", blue "
@@ -73,6 +76,8 @@ MATCHER_P2(IsColourWithin, colour, tolerance, "is the colour " + ::testing::Prin
     return isNear(arg, colour, tolerance);
 }
 
+/// A matcher: the colour is `colour`, each component within `tolerance`. As
+/// `EXPECT_THAT(picture.at(3, 4), IsColour(RGB(255, 0, 0)))`.
 inline auto IsColour(COLORREF colour, int tolerance = 0)
 {
     return IsColourWithin(colour, tolerance);

@@ -19,16 +19,17 @@ namespace ovo::testkit
 class RecordingParent : public CWnd
 {
 public:
-    /// Creates the window, hidden, with a client area of this size in pixels.
+    /// Creates the window with this `title`, hidden, with a client area of this size in pixels.
     explicit RecordingParent(CSize client = {600, 400}, const wchar_t* title = L"Recording parent");
     ~RecordingParent() override;
 
+    /// What came so far, and what is taken down from now on.
     NotificationLog& log() { return m_log; }
 
     /// What the sender of a WM_NOTIFY code gets as the result from now on.
     void answer(UINT code, LRESULT result);
 
-    /// Asked for the result of a WM_NOTIFY code from now on, with the original structure.
+    /// `reply` is asked for the result of a WM_NOTIFY code from now on, with the original structure.
     void answer(UINT code, std::function<LRESULT(NMHDR*)> reply);
 
 protected:

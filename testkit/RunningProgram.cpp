@@ -245,9 +245,9 @@ void RunningProgram::type(const std::wstring& text)
         m_input.character(character);
 }
 
-void RunningProgram::waitFor(const std::string& what, const std::function<bool()>& condition)
+void RunningProgram::waitFor(const std::string& what, const std::function<bool()>& condition, Limit limit)
 {
-    const auto end = std::chrono::steady_clock::now() + kLimit;
+    const auto end = std::chrono::steady_clock::now() + limit;
     while (!condition()) {
         if (std::chrono::steady_clock::now() > end)
             throw std::runtime_error("waited in vain for " + what);

@@ -4,6 +4,7 @@
 
 #include <afxwin.h>
 
+#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
@@ -16,34 +17,48 @@ namespace ovo::testkit
 class RunningProgram
 {
 public:
-    /// `name`: the file beside the tests, without its ending. Waits until the program shows its main window.
+    /// How long something is waited for.
+    using Limit = std::chrono::milliseconds;
+
+    /// `name`: the file beside the tests, without its ending. `arguments` stand behind it on
+    /// the command line. Waits until the program shows its main window.
     explicit RunningProgram(const std::wstring& name, const std::wstring& arguments = L"");
     ~RunningProgram();
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;
 
     // Windows
+    /// The program's main window, as it was first shown.
     HWND main() const { return m_main; }
     /// The shown window with this title, once there is one and it can be used.
     HWND window(const std::wstring& title);
-    /// The shown window of this class, or null.
+    /// The shown window of the class `windowClass`, or null.
     HWND shown(const std::wstring& windowClass) const;
+    /// Whether a shown window has this `title`.
     bool shows(const std::wstring& title) const;
-    /// The control below `parent`, at whatever depth.
+    /// The control of the class `windowClass` below `parent`, at whatever depth.
     HWND child(HWND parent, const std::wstring& windowClass) const;
 
     // Input
+    /// Clicks with `button` into the middle of `wnd`, once it can be used.
     void click(HWND wnd, Button button = Button::Left);
+    /// Clicks with `button` at a point of the client area of `wnd`, `client`.
     void click(HWND wnd, CPoint client, Button button = Button::Left);
-    /// Presses at one point of a window's client area, moves to others in turn, and releases at the last.
+    /// Presses `button` at the first point of `way`, moves to the others in turn, and releases it at the
+    /// last; they are in the client area of `wnd`.
     void drag(HWND wnd, const std::vector<CPoint>& way, Button button = Button::Left);
+    /// Presses the key with the VK_ code `virtualKey`, so many `times`, once the program is in front.
     void key(WORD virtualKey, int times = 1);
+    /// Presses `virtualKey` while `held` is down; both are VK_ codes.
     void chord(WORD held, WORD virtualKey);
+    /// The same with several keys `held`.
     void chord(const std::vector<WORD>& held, WORD virtualKey);
+    /// Types `text`, once the program is in front.
     void type(const std::wstring& text);
 
-    void waitFor(const std::string& what, const std::function<bool()>& condition);
-    /// Does something, and again as long as nothing comes of it. For what a late movement of the pointer,
+    /// Throws with the words of `what` when the condition does not hold within `limit`.
+    void waitFor(const std::string& what, const std::function<bool()>& condition, Limit limit = Limit{20000});
+    /// Does `act`, and again as long as `condition` does not hold. For what a late movement of the pointer,
     /// which the display reports in its own time, can undo.
     void tryUntil(const std::string& what, const std::function<void()>& act,
                   const std::function<bool()>& condition);
@@ -70,12 +85,15 @@ private:
     Input m_input;
 };
 
-/// What a window of any program says of itself.
+/// The text of `wnd`, which may be another program's; empty when it does not answer.
 std::wstring textOf(HWND wnd);
+/// That of a control, `id`, of `dialog`.
 std::wstring textOf(HWND dialog, int id);
+/// The place of `wnd` on the screen.
 CRect rectOf(HWND wnd);
-/// The colour of the screen at a point of a window's client area.
+/// The colour of the screen at a point of the client area of `wnd`, `client`.
 COLORREF colourAt(HWND wnd, CPoint client);
+/// The colour at a point, `screen`, of it.
 COLORREF colourAt(CPoint screen);
 
 } // namespace ovo::testkit

@@ -35,18 +35,20 @@ public:
     {
     }
 
-    /// Whatever the function gives: a point of the screen, or the window of which the middle is meant.
+    /// What `find` gives when the step comes: a point of the screen.
     template <class Find>
     requires std::convertible_to<std::invoke_result_t<Find>, CPoint> Spot(Find find)
         : m_find(std::move(find))
     {
     }
+    /// The middle of the window that `find` gives.
     template <class Find>
     requires std::convertible_to<std::invoke_result_t<Find>, HWND> Spot(Find find)
         : m_find([find = std::move(find)] { return middleOf(find()); })
     {
     }
 
+    /// Where it is now, in pixels of the screen.
     CPoint find() const { return m_find(); }
 
 private:

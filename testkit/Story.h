@@ -18,17 +18,21 @@ template <class Teller>
 class Verbs
 {
 public:
+    /// How long a condition is waited for.
     using Limit = Stage::Limit;
 
     // Mouse. A click elsewhere than the last one, or later, is never a double click unless it is meant.
+    /// Moves the pointer to `spot`, through places between.
     auto moveTo(Spot spot)
     {
         return tell("move", [spot](Stage& stage) { stage.glideTo(spot); });
     }
+    /// Moves the pointer on, `right` and `down` in pixels.
     auto moveBy(int right, int down)
     {
         return tell("move on", [=](Stage& stage) { stage.glideBy({right, down}); });
     }
+    /// Moves to `spot` and presses `button`.
     auto press(Spot spot, Button button = Button::Left)
     {
         return tell("press", [=](Stage& stage) {
@@ -36,10 +40,12 @@ public:
             stage.press(button);
         });
     }
+    /// Lets go of `button`.
     auto release(Button button = Button::Left)
     {
         return tell("release", [=](Stage& stage) { stage.release(button); });
     }
+    /// Moves to `spot`, presses `button` and lets go.
     auto click(Spot spot, Button button = Button::Left)
     {
         return tell("click", [=](Stage& stage) {
@@ -48,7 +54,9 @@ public:
             stage.release(button);
         });
     }
+    /// A click at `spot` with the right button.
     auto rightClick(Spot spot) { return click(spot, Button::Right); }
+    /// Two clicks with `button` at `spot` that count as a double click.
     auto doubleClick(Spot spot, Button button = Button::Left)
     {
         return tell("double-click", [=](Stage& stage) {
@@ -56,7 +64,7 @@ public:
             stage.doubleClick(button);
         });
     }
-    /// Press at one spot, move, release at the other.
+    /// Presses `button` at `from`, moves, and lets go at `to`.
     auto drag(Spot from, Spot to, Button button = Button::Left)
     {
         return tell("drag", [=](Stage& stage) {
@@ -66,13 +74,14 @@ public:
             stage.release(button);
         });
     }
-    /// Positive is away from the user.
+    /// Turns the wheel by `notches`; positive is away from the user.
     auto turnWheel(int notches)
     {
         return tell("turn the wheel", [=](Stage& stage) { stage.turnWheel(notches); });
     }
 
     // Keyboard. Keys are VK_ codes; letters and digits are their own codes.
+    /// Presses the key `virtualKey` and lets go, so many `times`.
     auto key(WORD virtualKey, int times = 1)
     {
         return tell("press a key", [=](Stage& stage) {
@@ -87,30 +96,32 @@ public:
     {
         return tell("hold a key", [=](Stage& stage) { stage.keyDown(virtualKey); });
     }
+    /// Lets go of the held key `virtualKey`.
     auto letGo(WORD virtualKey)
     {
         return tell("let a key go", [=](Stage& stage) { stage.keyUp(virtualKey); });
     }
+    /// Types `text`, each character by its key where the keyboard has one.
     auto type(std::wstring text)
     {
         return tell("type", [=](Stage& stage) { stage.type(text); });
     }
 
-    /// Presses a key while another is held, and again as long as nothing comes of it: on a busy machine the
-    /// display can report late that nothing is held.
+    /// Presses `virtualKey` while `held` is held, and again until `condition` holds, which `what` names: on a
+    /// busy machine the display can report late that nothing is held.
     auto chordUntil(std::string what, WORD held, WORD virtualKey, std::function<bool()> condition)
     {
         return tell(what, [=](Stage& stage) { stage.chordUntil(what, held, virtualKey, condition); });
     }
 
     // Looking.
-    /// Waits until the condition holds. When it does not in time, the test fails with the words of `what`,
-    /// and the rest of the story is not acted.
+    /// Waits until the condition holds. When it does not within `limit`, the test fails with the words of
+    /// `what`, and the rest of the story is not acted.
     auto waitFor(std::string what, std::function<bool()> condition, Limit limit = 30s)
     {
         return tell(what, [=](Stage& stage) { stage.waitFor(what, condition, limit); });
     }
-    /// Does something else at this point of the story, on the thread with the windows.
+    /// Does `deed` at this point of the story, on the thread with the windows.
     auto then(std::function<void()> deed)
     {
         return tell("a deed of the test", [=](Stage&) { GuiThread::ask(deed); });
@@ -128,6 +139,7 @@ private:
 class Story : public Verbs<Story>
 {
 public:
+    /// Of `steps`; the robot makes stories.
     explicit Story(std::vector<Step> steps);
     Story(Story&& other) noexcept;
     Story& operator=(Story&&) = delete;

@@ -17,10 +17,14 @@ public:
     TemporaryFiles(const TemporaryFiles&) = delete;
     TemporaryFiles& operator=(const TemporaryFiles&) = delete;
 
+    /// The folder, without a backslash at its end.
     std::wstring folder() const { return m_folder.wstring(); }
+    /// The path of `name` in it.
     std::wstring path(const std::wstring& name) const { return (m_folder / name).wstring(); }
 
+    /// Makes another file, `name`, with the folders in front.
     void addFile(const std::wstring& name) const;
+    /// Makes a folder, `name`.
     void addFolder(const std::wstring& name) const;
 
 private:

@@ -12,12 +12,14 @@ namespace ovo::testkit
 class TemporaryProfile
 {
 public:
+    /// Where profiles are kept.
     enum class Kind
     {
         Registry,
         IniFile
     };
 
+    /// Of this `kind`.
     explicit TemporaryProfile(Kind kind = Kind::Registry);
     ~TemporaryProfile();
     TemporaryProfile(const TemporaryProfile&) = delete;

@@ -13,15 +13,20 @@ namespace ovo::testkit
 /// A message box that was asked for.
 struct AskedBox
 {
+    /// What the box says.
     std::wstring text;
+    /// Its MB_ flags.
     UINT type;
+    /// Its help context; 0 for none.
     UINT helpId;
 };
 
 /// A call for help.
 struct AskedHelp
 {
+    /// What it is about.
     DWORD_PTR data;
+    /// HH_ or HELP_ command.
     UINT command;
 };
 
@@ -33,10 +38,12 @@ public:
     /// The one object there is.
     static TestApp& instance();
 
+    /// The boxes since the test began, in order.
     const std::vector<AskedBox>& boxes() const { return m_boxes; }
+    /// The calls for help since the test began, in order.
     const std::vector<AskedHelp>& helps() const { return m_helps; }
 
-    /// What the next boxes give back, in order; without any left it is IDOK.
+    /// The `results` of the next boxes, in order; without any left it is IDOK.
     void answerBoxes(std::initializer_list<int> results);
 
     /// Shows boxes for real until forget() is called: for tests that answer them.

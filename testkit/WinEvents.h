@@ -16,15 +16,17 @@ namespace ovo::testkit
 class WinEvents
 {
 public:
+    /// Of `event`, EVENT_OBJECT_ or EVENT_SYSTEM_.
     explicit WinEvents(DWORD event);
     ~WinEvents();
     WinEvents(const WinEvents&) = delete;
     WinEvents& operator=(const WinEvents&) = delete;
 
-    /// How many came so far of what is inside a window: of the whole (0) or of a part, numbered from 1. Those
+    /// How many came so far of what is inside `window`: of `child`, the whole (0) or a part from 1 on. Those
     /// that are on their way are waited for.
     int of(HWND window, LONG child = CHILDID_SELF);
 
+    /// Counts anew.
     void forget();
 
 private:

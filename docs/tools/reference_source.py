@@ -20,6 +20,7 @@ GROUPS = (  # the first prefix that fits names the group of a header
     ("ovoui/sysinfo/", "sysinfo"),
     ("ovoui/update/", "update"),
     ("ovoui/", "frame"),
+    ("testkit/", "testkit"),
 )
 PAGES = ("README.md", "CONTRIBUTING.md", "CHANGELOG.md", "docs/*.md", "docs/guides/*.md")
 

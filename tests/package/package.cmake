@@ -115,5 +115,13 @@ foreach(example IN LISTS examples)
     under_wine(${work}/build/visitor.exe ${program})
   endforeach()
 endforeach()
+# An example and its robot test, with the kit of the archive.
+set(robot ${work}/robot)
+file(COPY ${ROOT}/tests/package/robot ${prefix}/examples/settings-dialog DESTINATION ${work})
+file(RENAME ${work}/settings-dialog ${robot}/settings-dialog)
+file(COPY ${ROOT}/tests/examples/SettingsDialogTest.cpp ${ROOT}/tests/examples/ExampleScene.h DESTINATION ${robot})
+configure_and_build(${robot} ${robot}/build)
+under_wine(${robot}/build/robot.exe ${robot}/build/settings-dialog.exe)
+
 list(LENGTH examples count)
 message(STATUS "the SDK builds and runs its hosts and ${count} examples")

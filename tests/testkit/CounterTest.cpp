@@ -1,4 +1,5 @@
 #include <testkit/GdiCounter.h>
+#include <testkit/MemoryCounter.h>
 #include <testkit/WindowCounter.h>
 
 #include <afxwin.h>
@@ -54,4 +55,27 @@ TEST(WindowCounter, SeesTopLevelChildAndMessageOnlyWindows)
     ::DestroyWindow(silent);
     top.DestroyWindow();
     EXPECT_EQ(counter.grown(), 0);
+}
+
+TEST(MemoryCounter, SeesWhatIsNotFreed)
+{
+    constexpr long long kBlock = 100'000;
+    constexpr int kBlocks = 20;
+    const MemoryCounter counter;
+    std::vector<std::unique_ptr<char[]>> kept(kBlocks);
+    for (auto& block : kept)
+        block = std::make_unique<char[]>(kBlock);
+    EXPECT_GE(counter.grown(), kBlocks * kBlock);
+
+    kept.clear();
+    EXPECT_LT(counter.grown(), kBlock);
+}
+
+TEST(MemoryCounter, StaysTheSameOverManyBlocksThatAreFreed)
+{
+    const MemoryCounter counter;
+    const HANDLE heap = ::GetProcessHeap();
+    for (int i = 0; i < 1000; ++i)
+        ::HeapFree(heap, 0, ::HeapAlloc(heap, 0, 1000));
+    EXPECT_LT(counter.grown(), 100'000);
 }

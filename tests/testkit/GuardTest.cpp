@@ -1,5 +1,6 @@
 // What happens to tests that hang or leave windows behind: tried in this program started once more.
 #include <testkit/Desktop.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/RecordingParent.h>
 #include <testkit/Robot.h>
 #include <testkit/Snapshot.h>
@@ -110,6 +111,11 @@ TEST(DISABLED_Wrong, LeavesNothing)
     present(parent);
 }
 
+TEST(DISABLED_Wrong, PatchesWhatIsNotImported)
+{
+    const ImportPatch patch(L"ovomfc.dll", "NoSuchFunction", nullptr);
+}
+
 TEST(Watchdog, EndsAProgramThatHangsWithAPictureOfWhatItWasAt)
 {
     std::filesystem::remove(failureFile("DISABLED_Wrong.Hangs.txt"));
@@ -147,6 +153,14 @@ TEST(TestGuard, LetsATestPassThatCleansUp)
 
     EXPECT_EQ(outcome.exitCode, 0U) << outcome.output;
     EXPECT_THAT(outcome.output, Not(HasSubstr("left a window open")));
+}
+
+TEST(ImportPatch, EndsAProgramThatPatchesWhatIsNotImported)
+{
+    const Outcome outcome = runAlone(L"DISABLED_Wrong.PatchesWhatIsNotImported");
+
+    EXPECT_NE(outcome.exitCode, 0U);
+    EXPECT_THAT(outcome.output, HasSubstr("no import of NoSuchFunction"));
 }
 
 TEST(Snapshot, DescribesWindowsWithTheirChildrenAndState)

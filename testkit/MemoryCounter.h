@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstddef>
+
+namespace ovo::testkit
+{
+
+/// Counts the memory that is allocated on the heaps of the process, in bytes, the heap's own share of each
+/// block included. A little comes and goes with every call of the system, so a test lets many rounds pass and
+/// compares with what one round would lose.
+///
+///     const MemoryCounter memory;
+///     for (int i = 0; i < 1000; ++i)
+///         openAndClose();
+///     EXPECT_LT(memory.grown(), 1000 * 16);
+class MemoryCounter
+{
+public:
+    /// How much there is now.
+    static std::size_t live();
+
+    /// How much more there is than when this object was made; negative for less.
+    long long grown() const { return static_cast<long long>(live()) - static_cast<long long>(m_start); }
+
+private:
+    std::size_t m_start = live();
+};
+
+} // namespace ovo::testkit
