@@ -1,0 +1,209 @@
+// A folder browser: a tree of folders, a list of what is in one, and a toolbar with flyouts.
+#include "FileList.h"
+#include "resource.h"
+
+#include <ovocor/Text.h>
+
+#include <afxole.h>
+#include <gdiplus.h>
+
+#include <fstream>
+
+namespace fs = std::filesystem;
+
+constexpr int kImage = 16; // pixels at 96 dots per inch, as the width
+constexpr int kTreeWidth = 240;
+constexpr wchar_t kSection[] = L"FolderBrowser"; // of the profile
+
+int scaled(int length)
+{
+    return ::MulDiv(length, CClientDC(nullptr).GetDeviceCaps(LOGPIXELSX), 96);
+}
+
+class BrowserFrame : public CFrameWnd
+{
+public:
+    void open(const fs::path& folder) { m_tree.open(folder); }
+
+    void RecalcLayout(BOOL notify = TRUE) override
+    {
+        CFrameWnd::RecalcLayout(notify);
+        if (!m_list.m_hWnd)
+            return;
+        CRect area;
+        RepositionBars(0, 0xFFFF, 0, reposQuery, &area);
+        m_tree.MoveWindow(area.left, area.top, scaled(kTreeWidth), area.Height());
+        m_list.MoveWindow(area.left + scaled(kTreeWidth), area.top, area.Width() - scaled(kTreeWidth),
+                          area.Height());
+    }
+
+    /// Tab goes from the tree to the list and back.
+    BOOL PreTranslateMessage(MSG* message) override
+    {
+        const bool isTab = message->message == WM_KEYDOWN && message->wParam == VK_TAB;
+        return isTab ? IsDialogMessage(message) : CFrameWnd::PreTranslateMessage(message);
+    }
+
+protected:
+    BOOL OnCreateClient(LPCREATESTRUCT, CCreateContext*) override
+    {
+        constexpr DWORD kStyle =
+            WS_CHILD | WS_VISIBLE | WS_TABSTOP | TVS_HASBUTTONS | TVS_SHOWSELALWAYS | TVS_INFOTIP;
+        if (!m_tree.CreateEx(WS_EX_CLIENTEDGE, kStyle, CRect(), this, IDC_TREE) ||
+            !m_list.create(*this, IDC_LIST))
+            return FALSE;
+        m_tree.SetImageList(shellImages(), TVSIL_NORMAL);
+        return m_status.Create(this) && createBar();
+    }
+
+    bool createBar()
+    {
+        constexpr UINT kCommands[] = {ID_FOLDER_OPEN, ID_FOLDER_UP, ID_FOLDER_REFRESH,
+                                      ID_SEPARATOR,   ID_LIST_SAVE, ID_COPY_ROWS,
+                                      ID_SORT_NAME,   ID_SEPARATOR, ID_INFO_SYSTEM};
+        constexpr int kImages[] = {0, 1, 2, 0, 3, 4, 6, 0, 9};
+        if (!m_bar.CreateEx(this, TBSTYLE_FLAT,
+                            WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_TOOLTIPS | CBRS_FLYBY))
+            return false;
+        m_bar.SetButtons(kCommands, std::size(kCommands));
+        for (int i = 0; i < static_cast<int>(std::size(kCommands)); ++i)
+            if (kCommands[i] != ID_SEPARATOR)
+                m_bar.SetButtonInfo(i, kCommands[i], TBBS_BUTTON, kImages[i]);
+        m_bar.UseStrips({{IDB_BAR_16, 16}, {IDB_BAR_24, 24}, {IDB_BAR_32, 32}}, kImage);
+        attachFlyout(5, {ID_COPY_ROWS, ID_COPY_PATHS}, {4, 5});
+        attachFlyout(6, {ID_SORT_NAME, ID_SORT_SIZE, ID_SORT_CHANGED}, {6, 7, 8});
+        attachFlyout(8, {ID_INFO_SYSTEM, ID_INFO_MODULES}, {9, 10});
+        m_bar.ShowFlyoutMarks(true);
+        m_bar.LoadChoices(kSection);
+        return true;
+    }
+
+    void attachFlyout(int button, const std::vector<int>& commands, const std::vector<int>& images)
+    {
+        const std::vector<int> strips(commands.size(), IDB_BAR_16);
+        m_bar.AttachBar(button, scaled(kImage), commands, strips, images, {}, false, false);
+    }
+
+    afx_msg void OnFolderChosen(NMHDR*, LRESULT*) { OnRefresh(); }
+
+    afx_msg void OnRefresh()
+    try {
+        m_list.show(m_tree.folder());
+        SetWindowText(m_tree.folder().c_str());
+    } catch (const std::exception& error) {
+        m_tree.reportError(getWCS(error.what()).c_str());
+    }
+
+    /// A folder is shown, a file opened by its program.
+    afx_msg void OnRowOpened(NMHDR*, LRESULT*)
+    {
+        const int row = m_list.GetNextItem(-1, LVNI_FOCUSED | LVNI_SELECTED);
+        if (row >= 0 && fs::is_directory(m_list.path(row)))
+            m_tree.selectPath(m_tree.selectedPath() + L"/" + m_list.path(row).filename().wstring());
+        else if (row >= 0)
+            ::ShellExecuteW(m_hWnd, nullptr, m_list.path(row).c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    }
+
+    afx_msg void OnOpen()
+    {
+        if (const auto folder = pickFolder({.parent = this, .title = L"Browse", .folder = m_tree.folder()}))
+            open(*folder);
+    }
+
+    afx_msg void OnUp() { m_tree.goUp(); }
+    afx_msg void OnUpdateUp(CCmdUI* ui) { ui->Enable(m_tree.folder().has_relative_path()); }
+
+    afx_msg void OnSave()
+    {
+        const auto path =
+            pickFileToSave({.parent = this, .types = {{L"Texts", {L"*.txt"}}}, .extension = L".txt"});
+        if (path)
+            std::ofstream(*path) << getMBS(m_list.chosenPaths()); // in UTF-8
+    }
+
+    afx_msg void OnCopyRows() { copySelectedRows(m_list, true); }
+
+    afx_msg void OnCopyPaths()
+    {
+        auto* const source = new COleDataSource; // the clipboard's
+        cachePlaintext(*source, m_list.chosenPaths().c_str());
+        source->SetClipboard();
+    }
+
+    afx_msg void OnSort(UINT command) { m_list.sortBy(static_cast<int>(command - ID_SORT_NAME)); }
+
+    afx_msg void OnSystemInfo()
+    {
+        CSystemInfoDlg dialog(this);
+        dialog.ShowMachine(true);
+        dialog.DoModal();
+    }
+    afx_msg void OnModules() { CModuleListDlg(this).DoModal(); }
+    afx_msg void OnBarKeys() { m_bar.FocusButtons(); }
+    afx_msg void OnSetFocus(CWnd*) { m_tree.SetFocus(); }
+
+    afx_msg void OnActivateApp(BOOL active, DWORD thread)
+    {
+        CFrameWnd::OnActivateApp(active, thread);
+        CVantorToolBar::ActivateApp(active); // closes an open flyout
+    }
+
+    afx_msg void OnClose()
+    {
+        m_list.saveLayout();
+        m_bar.SaveChoices(kSection);
+        CFrameWnd::OnClose();
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    FolderTree m_tree;
+    FileList m_list;
+    CVantorToolBar m_bar;
+    CStatusBar m_status;
+};
+
+BEGIN_MESSAGE_MAP(BrowserFrame, CFrameWnd)
+    ON_NOTIFY(TVN_SELCHANGEDW, IDC_TREE, &BrowserFrame::OnFolderChosen)
+    ON_NOTIFY(NM_DBLCLK, IDC_LIST, &BrowserFrame::OnRowOpened)
+    ON_NOTIFY(NM_RETURN, IDC_LIST, &BrowserFrame::OnRowOpened)
+    ON_COMMAND(ID_FOLDER_OPEN, &BrowserFrame::OnOpen)
+    ON_COMMAND(ID_FOLDER_UP, &BrowserFrame::OnUp)
+    ON_UPDATE_COMMAND_UI(ID_FOLDER_UP, &BrowserFrame::OnUpdateUp)
+    ON_COMMAND(ID_FOLDER_REFRESH, &BrowserFrame::OnRefresh)
+    ON_COMMAND(ID_LIST_SAVE, &BrowserFrame::OnSave)
+    ON_COMMAND(ID_COPY_ROWS, &BrowserFrame::OnCopyRows)
+    ON_COMMAND(ID_COPY_PATHS, &BrowserFrame::OnCopyPaths)
+    ON_COMMAND_RANGE(ID_SORT_NAME, ID_SORT_CHANGED, &BrowserFrame::OnSort)
+    ON_COMMAND(ID_INFO_SYSTEM, &BrowserFrame::OnSystemInfo)
+    ON_COMMAND(ID_INFO_MODULES, &BrowserFrame::OnModules)
+    ON_COMMAND(ID_BAR_KEYS, &BrowserFrame::OnBarKeys)
+    ON_WM_ACTIVATEAPP()
+    ON_WM_SETFOCUS()
+    ON_WM_CLOSE()
+END_MESSAGE_MAP()
+
+class BrowserApp : public CWinApp
+{
+    BOOL InitInstance() override
+    {
+        SetRegistryKey(L"ovoui examples");
+        AfxOleInit();
+        const Gdiplus::GdiplusStartupInput input;
+        Gdiplus::GdiplusStartup(&m_gdiPlus, &input, nullptr);
+        auto* const frame = new BrowserFrame; // deletes itself with its window
+        m_pMainWnd = frame;
+        if (!frame->LoadFrame(IDR_MAIN_FRAME))
+            return FALSE;
+        frame->open(__argc > 1 ? fs::path(__wargv[1]) : fs::current_path());
+        frame->SetWindowPos(nullptr, 0, 0, scaled(800), scaled(420), SWP_NOMOVE | SWP_NOZORDER);
+        frame->ShowWindow(m_nCmdShow);
+        return TRUE;
+    }
+    int ExitInstance() override
+    {
+        Gdiplus::GdiplusShutdown(m_gdiPlus);
+        return CWinApp::ExitInstance();
+    }
+    ULONG_PTR m_gdiPlus = 0;
+} theApp;

@@ -1,0 +1,325 @@
+// A palette editor: a list of named colours, a colour picker for each, and a slider that turns the hues of
+// many. What the user does in one gesture, such as a drag, is undone at once.
+#include "Palette.h"
+#include "resource.h"
+
+#include <ovouires/resource.h>
+
+#include <afxole.h>
+#include <gdiplus.h>
+
+class PaletteEditor : public ColPickerDlgBase
+{
+public:
+    PaletteEditor(CWinApp& app, Palette palette)
+        : ColPickerDlgBase(IDD_PALETTE_EDITOR, app, Colour::rgb(0, 0, 0), nullptr, nullptr)
+        , m_palette(palette)
+        , m_history(std::move(palette))
+    {
+        m_mode = ColPickerModeHLS;
+        m_keysEnabled = true;
+        m_onlyTypedNumbers = true; // a colour that is only looked at keeps all its digits
+    }
+
+protected:
+    BOOL OnInitDialog() override
+    {
+        ColPickerDlgBase::OnInitDialog();
+        attachList();
+        attachButtons();
+        CRect place;
+        GetDlgItem(IDC_TURN)->GetWindowRect(&place);
+        GetDlgItem(IDC_TURN)->DestroyWindow();
+        ScreenToClient(&place);
+        m_turn.SetTicks(30);
+        m_turn.UseKeyboard(true);
+        m_turn.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, place, this, IDC_TURN);
+        m_grid.createInPlace(*this, IDC_GRID);
+        showPalette(0);
+        m_list.SetFocus();
+        return FALSE;
+    }
+
+    void attachList()
+    {
+        constexpr int kColumn = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT | LVCF_SUBITEM;
+        m_list.SubclassDlgItem(IDC_LIST, this);
+        m_list.UseRowColours(TRUE);
+        m_list.AddColumn(L"Name", 0, -1, false, kColumn, LVCFMT_LEFT);
+        m_list.AddColumn(L"Colour", 1, -1, true, kColumn, LVCFMT_LEFT);
+        m_list.AddColumn(L"On white", 2, -1, false, kColumn, LVCFMT_RIGHT);
+        CRect client;
+        m_list.GetClientRect(&client);
+        const int scroll = ::GetSystemMetrics(SM_CXVSCROLL);
+        for (const int column : {0, 1, 2})
+            m_list.SetColumnWidth(column, (client.Width() - scroll) * (column == 2 ? 26 : 37) / 100);
+        m_list.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
+        m_copier.Attach(m_list, true);
+    }
+
+    void attachButtons()
+    {
+        const UINT ids[] = {IDC_ADD, IDC_REMOVE, IDC_UP, IDC_DOWN};
+        const UINT images[] = {IDB_ADD_16, IDB_REMOVE_16, IDB_UP_16, IDB_DOWN_16};
+        for (std::size_t i = 0; i < std::size(ids); ++i) {
+            m_buttons[i].SubclassDlgItem(ids[i], this);
+            m_buttons[i].setSize(16); // as they are drawn
+            m_buttons[i].loadImage(images[i]);
+        }
+    }
+
+    // The palette
+
+    /// Shows all of it, with one row selected.
+    void showPalette(int row)
+    {
+        m_showing = true;
+        m_list.DeleteAllItems();
+        for (int i = 0; i < count(); ++i)
+            m_list.AddItem(i, 0, m_palette[i].name, 0, -1);
+        const int last = std::min(row, count() - 1);
+        m_list.SetItemState(last, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        m_list.EnsureVisible(last, FALSE);
+        m_showing = false;
+        showColours();
+        showCurrent();
+    }
+
+    /// The colours of all rows, which stay as they are otherwise.
+    void showColours()
+    {
+        std::vector<COLORREF> codes;
+        for (int i = 0; i < count(); ++i) {
+            const Colour& colour = m_palette[i].colour;
+            CString contrast;
+            contrast.Format(L"%.1f", ovoui::colour::contrast(colour, Colour::rgb(1, 1, 1)));
+            m_list.setColour(i, 0xFF000000 | colour.colorref());
+            m_list.AddItem(i, 1, ovoui::colour::textOfColour(colour), 0, -1);
+            m_list.AddItem(i, 2, contrast.GetString(), 0, -1);
+            codes.push_back(colour.colorref());
+        }
+        m_list.Invalidate(FALSE);
+        m_grid.SetColours(codes, 10);
+        m_grid.SetCurrent(current());
+        GetDlgItem(IDC_UNDO)->EnableWindow(m_history.canUndo());
+        GetDlgItem(IDC_REDO)->EnableWindow(m_history.canRedo());
+    }
+
+    /// The picker shows the colour of the focused row.
+    void showCurrent()
+    {
+        if (current() >= 0)
+            SetColour(this, m_palette[current()].colour, true);
+        m_grid.SetCurrent(current());
+    }
+
+    int count() const { return static_cast<int>(m_palette.size()); }
+    int current() const { return m_list.GetNextItem(-1, LVNI_FOCUSED); }
+
+    /// The end of a gesture.
+    void keep(int row)
+    {
+        m_history.keep(m_palette);
+        showPalette(row);
+    }
+
+    // Gestures
+
+    /// The picker has another colour; `final` at the end of a drag.
+    void UpdateExternalColours(bool final) override
+    {
+        if (current() < 0)
+            return;
+        m_palette[current()].colour = GetColour();
+        if (final)
+            m_history.keep(m_palette);
+        showColours();
+    }
+
+    afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar)
+    {
+        if (!bar || bar->m_hWnd != m_turn.m_hWnd) {
+            ColPickerDlgBase::OnHScroll(code, position, bar);
+            return;
+        }
+        m_palette = m_history.present();
+        const bool all = m_list.GetSelectedCount() < 2;
+        for (int i = 0; i < count(); ++i)
+            if (all || m_list.GetItemState(i, LVIS_SELECTED)) {
+                Colour& colour = m_palette[i].colour;
+                const double hue = colour.h_hls().degrees() + static_cast<short>(position);
+                colour =
+                    Colour::hls(Angle::degrees(hue < 0 ? hue + 360 : hue), colour.l_hls(), colour.s_hls());
+            }
+        if (code == SB_THUMBPOSITION) {
+            m_history.keep(m_palette);
+            m_turn.SetPos(0); // for the next turn
+        }
+        showColours();
+        showCurrent();
+    }
+
+    afx_msg void OnAdd()
+    {
+        const int row = current() + 1;
+        m_palette.insert(m_palette.begin() + row, {L"New", GetColour()});
+        keep(row);
+        m_list.SetFocus();
+        m_list.EditLabel(row);
+    }
+
+    afx_msg void OnRemove()
+    {
+        const int row = current();
+        for (int i = count(); i-- > 0;)
+            if (m_list.GetItemState(i, LVIS_SELECTED))
+                m_palette.erase(m_palette.begin() + i);
+        keep(row);
+    }
+
+    afx_msg void OnUp() { move(-1); }
+    afx_msg void OnDown() { move(1); }
+    void move(int by)
+    {
+        const int from = current(), to = from + by;
+        if (from < 0 || to < 0 || to >= count())
+            return;
+        std::swap(m_palette[from], m_palette[to]);
+        keep(to);
+    }
+
+    afx_msg void OnRenamed(NMHDR* header, LRESULT*)
+    {
+        const LVITEMW& item = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
+        if (!item.pszText)
+            return; // given up
+        m_palette[item.iItem].name = item.pszText;
+        keep(item.iItem);
+    }
+
+    afx_msg void OnRowChanged(NMHDR* header, LRESULT*)
+    {
+        const auto& change = *reinterpret_cast<NMLISTVIEW*>(header);
+        if (!m_showing && (change.uNewState & ~change.uOldState & LVIS_FOCUSED))
+            showCurrent();
+    }
+
+    afx_msg void OnGrid() { showPalette(m_grid.Current()); }
+
+    afx_msg void OnUndo()
+    {
+        m_history.undo();
+        showHistory();
+    }
+    afx_msg void OnRedo()
+    {
+        m_history.redo();
+        showHistory();
+    }
+    void showHistory()
+    {
+        m_palette = m_history.present();
+        showPalette(std::max(current(), 0));
+    }
+
+    afx_msg void OnOpen()
+    {
+        if (const auto path = pickFile({.parent = this, .types = {{L"Palettes", {L"*.txt"}}}})) {
+            m_palette = readPalette(*path);
+            keep(0);
+        }
+    }
+
+    afx_msg void OnSave()
+    {
+        if (const auto path =
+                pickFileToSave({.parent = this, .types = {{L"Palettes", {L"*.txt"}}}, .extension = L".txt"}))
+            writePalette(*path, m_palette);
+    }
+
+    /// Ctrl+Z and Ctrl+Y, unless something is being typed; Delete in the list.
+    BOOL PreTranslateMessage(MSG* message) override
+    {
+        const UINT command = message->message == WM_KEYDOWN ? commandOf(message->wParam) : 0;
+        if (!command)
+            return ColPickerDlgBase::PreTranslateMessage(message);
+        SendMessage(WM_COMMAND, command);
+        return TRUE;
+    }
+
+    UINT commandOf(WPARAM key)
+    {
+        const bool control = ::GetKeyState(VK_CONTROL) < 0;
+        if (::SendMessageW(::GetFocus(), EM_CANUNDO, 0, 0))
+            return 0;
+        if (control && key == 'Z')
+            return IDC_UNDO;
+        if (control && key == 'Y')
+            return IDC_REDO;
+        return key == VK_DELETE && ::GetFocus() == m_list.m_hWnd ? IDC_REMOVE : 0;
+    }
+
+    /// Enter takes over what is typed.
+    void OnOK() override { DoKillfocusColpickerValues(this); }
+
+    COLORREF& customCols(int) override { return m_noSwatch; }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    /// A list whose colours come from the palette.
+    class ColourList : public COVOListCtrlEx
+    {
+    public:
+        void setColour(int row, DWORD colour)
+        {
+            m_colours.resize(std::max(m_colours.size(), static_cast<std::size_t>(row) + 1));
+            m_colours[row] = colour;
+        }
+
+    protected:
+        DWORD rowColour(int row) override { return m_colours[row]; }
+
+    private:
+        std::vector<DWORD> m_colours;
+    };
+
+    Palette m_palette; // as it is in the middle of a gesture
+    PaletteHistory m_history;
+    ColourList m_list;
+    COVOListCopier m_copier;
+    CAlphaImageButton m_buttons[4];
+    CDialSlider m_turn;
+    CColourGrid m_grid;
+    COLORREF m_noSwatch = 0;
+    bool m_showing = false;
+};
+
+BEGIN_MESSAGE_MAP(PaletteEditor, ColPickerDlgBase)
+    ON_WM_HSCROLL()
+    ON_BN_CLICKED(IDC_ADD, &PaletteEditor::OnAdd)
+    ON_BN_CLICKED(IDC_REMOVE, &PaletteEditor::OnRemove)
+    ON_BN_CLICKED(IDC_UP, &PaletteEditor::OnUp)
+    ON_BN_CLICKED(IDC_DOWN, &PaletteEditor::OnDown)
+    ON_BN_CLICKED(IDC_UNDO, &PaletteEditor::OnUndo)
+    ON_BN_CLICKED(IDC_REDO, &PaletteEditor::OnRedo)
+    ON_BN_CLICKED(IDC_OPEN, &PaletteEditor::OnOpen)
+    ON_BN_CLICKED(IDC_SAVE, &PaletteEditor::OnSave)
+    ON_NOTIFY(LVN_ENDLABELEDITW, IDC_LIST, &PaletteEditor::OnRenamed)
+    ON_NOTIFY(LVN_ITEMCHANGED, IDC_LIST, &PaletteEditor::OnRowChanged)
+    ON_CONTROL(CColourGrid::kChosen, IDC_GRID, &PaletteEditor::OnGrid)
+END_MESSAGE_MAP()
+
+class PaletteApp : public CWinApp
+{
+    BOOL InitInstance() override
+    {
+        SetRegistryKey(L"ovoui examples");
+        AfxOleInit(); // for the clipboard
+        ULONG_PTR gdiPlus = 0;
+        const Gdiplus::GdiplusStartupInput input;
+        Gdiplus::GdiplusStartup(&gdiPlus, &input, nullptr);
+        PaletteEditor(*this, __argc > 1 ? readPalette(__wargv[1]) : firstPalette()).DoModal();
+        Gdiplus::GdiplusShutdown(gdiPlus);
+        return FALSE;
+    }
+} theApp;

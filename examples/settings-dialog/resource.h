@@ -1,0 +1,19 @@
+#pragma once
+
+#define IDD_SETTINGS 101
+#define IDD_TEXT 102
+#define IDD_COLOURS 103
+#define IDD_MARK 104
+
+#define IDC_TABS 1001
+#define IDC_PREVIEW 1002
+#define IDC_FONT 1011
+#define IDC_POINTS 1012
+#define IDC_POINTS_SLIDER 1013
+#define IDC_INK 1021
+#define IDC_PAPER 1022
+#define IDC_CONTRAST 1023
+#define IDC_MARK 1031
+#define IDC_STRENGTH 1032
+#define IDC_STRENGTH_SLIDER 1033
+#define IDC_ANGLE 1034

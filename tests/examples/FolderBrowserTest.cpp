@@ -1,0 +1,166 @@
+// The folder browser in front of a folder of the test's own.
+#include "ExampleScene.h"
+#include "folder-browser/resource.h"
+
+#include <testkit/TemporaryFiles.h>
+
+#include <commctrl.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+
+using namespace ovo::testkit;
+
+namespace
+{
+
+struct File
+{
+    const wchar_t* name;
+    int kilobytes;
+    int daysOld;
+};
+
+constexpr File kFiles[] = {{L"a plan.md", 3, 0},    {L"big.txt", 5, 3},   {L"harvest.csv", 12, 10},
+                           {L"hedge.jpg", 250, 40}, {L"notes.txt", 1, 0}, {L"pond.png", 88, 5}};
+constexpr int kEntries = std::size(kFiles) + 2; // with two folders
+
+class FolderBrowser : public Example
+{
+protected:
+    FolderBrowser()
+    {
+        for (const auto& [name, kilobytes, daysOld] : kFiles) {
+            const std::filesystem::path path = m_files.path(name);
+            std::ofstream(path) << std::string(kilobytes * std::size_t{1024}, 'x');
+            std::filesystem::last_write_time(path,
+                                             std::chrono::file_clock::now() - std::chrono::days(daysOld));
+        }
+        m_program.emplace(L"folder-browser", L"\"" + m_files.folder() + L"\"");
+        m_program->waitFor("the list", [this] { return ask(list(), LVM_GETITEMCOUNT) == kEntries; });
+    }
+
+    HWND tree() const { return ::GetDlgItem(m_program->main(), IDC_TREE); }
+    HWND list() const { return ::GetDlgItem(m_program->main(), IDC_LIST); }
+    std::wstring folder(const std::wstring& name = {}) const
+    {
+        return name.empty() ? m_files.folder() : m_files.path(name);
+    }
+    void waitForTitle(const std::wstring& title)
+    {
+        m_program->waitFor("the folder", [&] { return textOf(m_program->main()) == title; });
+    }
+
+    /// What Ctrl+Shift+C puts on the clipboard: names in the order of the list, a blank behind each.
+    std::wstring copiedNames()
+    {
+        std::wstring text;
+        ::OpenClipboard(nullptr);
+        ::EmptyClipboard();
+        ::CloseClipboard();
+        m_program->tryUntil(
+            "the paths", [this] { copy(); },
+            [&] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) && !(text = clipboard()).empty(); });
+        std::wstring names;
+        for (std::size_t at = 0, end; (end = text.find(L"\r\n", at)) != std::wstring::npos; at = end + 2)
+            names += text.substr(at, end - at).substr(folder().size() + 1) + L' ';
+        return names;
+    }
+
+    void copy()
+    {
+        ::SetForegroundWindow(m_program->main());
+        m_program->chord({VK_CONTROL, VK_SHIFT}, 'C');
+    }
+
+    static std::wstring clipboard()
+    {
+        std::wstring text;
+        if (!::OpenClipboard(nullptr))
+            return text;
+        if (const HANDLE data = ::GetClipboardData(CF_UNICODETEXT)) {
+            text = static_cast<const wchar_t*>(::GlobalLock(data));
+            ::GlobalUnlock(data);
+        }
+        ::CloseClipboard();
+        return text;
+    }
+
+    void close()
+    {
+        ::PostMessageW(m_program->main(), WM_SYSCOMMAND, SC_CLOSE, 0); // Alt+F4 ends in Wine's tree view
+        EXPECT_EQ(m_program->waitForEnd(), 0u);
+    }
+
+    TemporaryFiles m_files{L"beds\\roses.txt", L"beds\\tulips.txt", L"seeds\\list.txt"};
+    std::optional<RunningProgram> m_program;
+};
+
+} // namespace
+
+TEST_F(FolderBrowser, ShowsTheFolderThatItIsGiven)
+{
+    EXPECT_EQ(textOf(m_program->main()), folder());
+    EXPECT_EQ(ask(tree(), TVM_GETCOUNT), 3) << "the folder and those in it";
+    EXPECT_EQ(copiedNames(), L"a plan.md beds big.txt harvest.csv hedge.jpg notes.txt pond.png seeds ");
+    shoot(m_program->main(), L"folder-browser");
+    close();
+}
+
+TEST_F(FolderBrowser, GoesIntoAFolderAndUpAgain)
+{
+    m_program->key(VK_TAB);
+    m_program->key(VK_HOME);
+    m_program->key(VK_DOWN);
+    m_program->key(VK_RETURN);
+    waitForTitle(folder(L"beds"));
+    m_program->waitFor("the list", [this] { return ask(list(), LVM_GETITEMCOUNT) == 2; });
+    m_program->chord(VK_MENU, VK_UP);
+    waitForTitle(folder());
+    m_program->waitFor("the list", [this] { return ask(list(), LVM_GETITEMCOUNT) == kEntries; });
+    close();
+}
+
+TEST_F(FolderBrowser, FollowsTheTree)
+{
+    m_program->key(VK_DOWN);
+    waitForTitle(folder(L"beds"));
+    m_program->key(VK_UP);
+    waitForTitle(folder());
+    close();
+}
+
+TEST_F(FolderBrowser, SortsByWhatIsChosenInTheFlyout)
+{
+    m_program->key(VK_F6); // the toolbar; its last button but one sorts
+    m_program->key(VK_END);
+    m_program->key(VK_LEFT);
+    m_program->key(VK_DOWN);
+    m_program->key(VK_RIGHT);
+    m_program->key(VK_RETURN);
+    m_program->waitFor(
+        "the order", [this] { return copiedNames().ends_with(L"big.txt harvest.csv pond.png hedge.jpg "); });
+    close();
+}
+
+TEST_F(FolderBrowser, SeesWhatIsNewWhenItReadsAgain)
+{
+    m_files.addFile(L"new.txt");
+    m_program->key(VK_TAB); // to the list: in the tree, F5 is the tree's own
+    m_program->key(VK_F5);
+    m_program->waitFor("the new file", [this] { return ask(list(), LVM_GETITEMCOUNT) == kEntries + 1; });
+    close();
+}
+
+TEST_F(FolderBrowser, TellsAboutTheMachine)
+{
+    m_program->key(VK_F6);
+    m_program->key(VK_END);
+    m_program->key(VK_RETURN);
+    m_program->waitFor("the dialog", [this] { return !::IsWindowEnabled(m_program->main()); });
+    m_program->key(VK_ESCAPE);
+    m_program->waitFor("its end", [this] { return ::IsWindowEnabled(m_program->main()) != FALSE; });
+    close();
+}

@@ -1,0 +1,149 @@
+// The palette editor with the palette that it begins with.
+#include "ExampleScene.h"
+#include "palette-editor/resource.h"
+
+#include <testkit/TemporaryFiles.h>
+
+#include <ovouires/resource.h>
+
+#include <commctrl.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+
+using namespace ovo::testkit;
+
+namespace
+{
+
+class PaletteEditor : public Example
+{
+protected:
+    HWND item(int id) const { return ::GetDlgItem(m_program.main(), id); }
+    int rows() const { return ask(item(IDC_LIST), LVM_GETITEMCOUNT); }
+    std::wstring hue() const { return textOf(item(IDC_COLOUR_VALUE_1)); }
+    bool canUndo() const { return ::IsWindowEnabled(item(IDC_UNDO)); }
+
+    /// A button that has nothing left to do is disabled, and not pressed again.
+    void pressUntil(int button, const std::function<bool()>& condition)
+    {
+        const auto press = [=, this] {
+            if (::IsWindowEnabled(item(button)))
+                m_program.click(item(button));
+        };
+        m_program.tryUntil("button " + std::to_string(button), press, condition);
+    }
+
+    void waitForRows(int count)
+    {
+        m_program.waitFor("the rows", [=, this] { return rows() == count; });
+    }
+    void waitForHue(const std::wstring& wanted)
+    {
+        m_program.waitFor("the hue", [&] { return hue() == wanted; });
+    }
+
+    /// A point of the ring, in the dialog's client coordinates: clockwise from the right, in degrees.
+    CPoint onRing(double degrees) const
+    {
+        CRect wheel = rectOf(item(IDC_WHEEL));
+        ::MapWindowPoints(nullptr, m_program.main(), reinterpret_cast<POINT*>(&wheel), 2);
+        const double radius = 0.45 * std::min(wheel.Width(), wheel.Height());
+        const double angle = degrees * 3.14159265358979 / 180;
+        return wheel.CenterPoint() +
+               CSize(std::lround(radius * std::cos(angle)), std::lround(radius * std::sin(angle)));
+    }
+
+    void close()
+    {
+        m_program.click(item(IDCANCEL));
+        EXPECT_TRUE(m_program.endsByItself());
+    }
+
+    RunningProgram m_program{L"palette-editor"};
+};
+
+} // namespace
+
+TEST_F(PaletteEditor, ShowsTheColourOfTheRow)
+{
+    EXPECT_EQ(rows(), 10);
+    const std::wstring first = hue();
+    m_program.key(VK_DOWN);
+    m_program.waitFor("another hue", [&] { return hue() != first; });
+    shoot(m_program.main(), L"palette-editor");
+    EXPECT_FALSE(canUndo()) << "looking changes nothing";
+    close();
+}
+
+TEST_F(PaletteEditor, UndoesADragAtOnce)
+{
+    const std::wstring before = hue();
+    const std::vector<CPoint> way{onRing(0), onRing(20), onRing(40), onRing(60), onRing(80)};
+    m_program.tryUntil(
+        "a change", [&] { m_program.drag(m_program.main(), way); }, [this] { return canUndo(); });
+    const auto isAnother = [&] { return hue() != before; };
+    m_program.waitFor("another hue", isAnother);
+    pressUntil(IDC_UNDO, [&] { return hue() == before; });
+    EXPECT_FALSE(canUndo()) << "the drag was one step";
+    pressUntil(IDC_REDO, isAnother);
+    close();
+}
+
+TEST_F(PaletteEditor, TakesATypedNumber)
+{
+    m_program.click(item(IDC_COLOUR_VALUE_1));
+    m_program.chord(VK_CONTROL, 'A');
+    m_program.type(L"200");
+    m_program.key(VK_TAB);
+    m_program.waitFor("the change", [this] { return canUndo(); });
+    waitForHue(L"200");
+    close();
+}
+
+TEST_F(PaletteEditor, AddsAndRemovesColours)
+{
+    m_program.click(item(IDC_ADD));
+    waitForRows(11);
+    m_program.waitFor("the name's editor",
+                      [this] { return m_program.child(item(IDC_LIST), L"Edit") != nullptr; });
+    m_program.type(L"Rose");
+    m_program.key(VK_RETURN);
+    m_program.waitFor("the editor's end", [this] { return !m_program.child(item(IDC_LIST), L"Edit"); });
+    m_program.key(VK_DELETE);
+    waitForRows(10);
+    m_program.chord(VK_CONTROL, 'Z');
+    waitForRows(11);
+    m_program.chord(VK_CONTROL, 'Z'); // the name
+    m_program.chord(VK_CONTROL, 'Z');
+    waitForRows(10);
+    EXPECT_FALSE(canUndo());
+    close();
+}
+
+TEST_F(PaletteEditor, TurnsTheHuesOfAllColours)
+{
+    const std::wstring before = hue();
+    m_program.click(item(IDC_LIST), CPoint(20, rectOf(item(IDC_LIST)).Height() - 8)); // none selected
+    const CRect knob = rectOf(item(IDC_TURN));
+    const CPoint middle(knob.Width() / 2, knob.Height() / 2);
+    const CPoint right(knob.Width() - 4, knob.Height() / 2);
+    const std::vector<CPoint> way{CPoint(middle.x, 4), CPoint(middle.x + middle.x / 2, 8), right};
+    m_program.tryUntil(
+        "the change", [&] { m_program.drag(item(IDC_TURN), way); }, [this] { return canUndo(); });
+    pressUntil(IDC_UNDO, [&] { return hue() == before; });
+    EXPECT_FALSE(canUndo()) << "one turn is one step";
+    close();
+}
+
+TEST(PaletteFile, IsReadAtTheStart)
+{
+    const TemporaryFiles files;
+    std::ofstream(std::filesystem::path(files.path(L"two.txt")))
+        << "#102030 Night\nno colour\nsteelblue Steel\n";
+    RunningProgram program(L"palette-editor", L"\"" + files.path(L"two.txt") + L"\"");
+    EXPECT_EQ(::SendMessageW(::GetDlgItem(program.main(), IDC_LIST), LVM_GETITEMCOUNT, 0, 0), 2);
+    program.key(VK_ESCAPE);
+    EXPECT_TRUE(program.endsByItself());
+}
