@@ -1,15 +1,16 @@
 #include <ovoui/lists/ListCopier.h>
 
+#include <ovoui/frame/GlobalMemory.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ReportColumns.h>
 #include <ovoui/lists/core/TableText.h>
 
-#include <cstring>
-#include <memory>
 #include <string>
 #include <utility>
 
 using namespace ovoui::lists;
+using ovoui::frame::globalCopy;
+using ovoui::frame::GlobalMemory;
 
 namespace
 {
@@ -46,24 +47,7 @@ std::string utf8(const std::wstring& text)
     return result;
 }
 
-struct FreeGlobal
-{
-    void operator()(void* block) const { ::GlobalFree(block); }
-};
-using Block = std::unique_ptr<void, FreeGlobal>;
-
-/// Null when memory runs out.
-Block blockOf(const void* bytes, std::size_t size)
-{
-    Block block(::GlobalAlloc(GMEM_MOVEABLE, size));
-    if (void* const place = block ? ::GlobalLock(block.get()) : nullptr) {
-        std::memcpy(place, bytes, size);
-        ::GlobalUnlock(block.get());
-    }
-    return block;
-}
-
-bool put(UINT format, Block block)
+bool put(UINT format, GlobalMemory block)
 {
     if (!block || !::SetClipboardData(format, block.get()))
         return false;
@@ -90,8 +74,8 @@ bool copySelectedRows(CListCtrl& list, bool headings)
         rows.insert(rows.begin(), rowOf(columns, [&](int column) { return headingOf(list, column); }));
     const std::wstring text = tabSeparated(rows);
     const std::string html = htmlForClipboard(utf8(htmlTable(rows, headings)));
-    Block textBlock = blockOf(text.c_str(), (text.size() + 1) * sizeof(wchar_t));
-    Block htmlBlock = blockOf(html.c_str(), html.size() + 1);
+    GlobalMemory textBlock = globalCopy(text.c_str(), (text.size() + 1) * sizeof(wchar_t));
+    GlobalMemory htmlBlock = globalCopy(html.c_str(), html.size() + 1);
     if (!textBlock || !htmlBlock || !list.OpenClipboard())
         return false;
     ::EmptyClipboard();
