@@ -4,6 +4,7 @@ packages=(
   cmake ninja-build g++                                  # native build
   g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64   # cross build
   wine wine64 fonts-wine fonts-liberation xvfb           # running what was built
+  fonts-vlgothic                                         # Japanese texts
   googletest catch2 clang libclang-rt-14-dev llvm        # tests, benchmarks, fuzzing, import libraries
   gdb                                                    # the debugger's views
   librsvg2-bin imagemagick python3                       # icons from drawings, scripts

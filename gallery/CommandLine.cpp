@@ -10,6 +10,7 @@ CommandLine CommandLine::parse(const std::vector<std::wstring>& words)
         std::wstring* const value = *word == L"--page"       ? &line.page
                                     : *word == L"--shot"     ? &line.shot
                                     : *word == L"--shot-all" ? &line.shotAll
+                                    : *word == L"--language" ? &line.language
                                                              : nullptr;
         if (*word == L"--list") {
             line.list = true;

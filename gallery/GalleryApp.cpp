@@ -7,8 +7,11 @@
 #include "Shooting.h"
 #include "resource.h"
 
+#include <ovoui/frame/Language.h>
+
 #include <afxole.h>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace
@@ -16,13 +19,24 @@ namespace
 
 GalleryApp theApp;
 
-constexpr wchar_t kUsage[] = L"usage: gallery [--list] [--page NAME[/POSE] [--shot FILE.png]] [--shot-all FOLDER]\n";
+constexpr wchar_t kUsage[] =
+    L"usage: gallery [--language TAG] [--list] [--page NAME[/POSE] [--shot FILE.png]] [--shot-all FOLDER]\n";
 
 void say(FILE* stream, const std::wstring& text)
 {
     const std::string narrow(text.begin(), text.end());
     std::fputs(narrow.c_str(), stream);
     std::fflush(stream);
+}
+
+/// The tag is that of the language alone, without a region; an empty one leaves the user's language.
+bool useLanguage(const std::wstring& tag)
+{
+    if (tag.empty())
+        return true;
+    const auto languages = textLanguages();
+    return std::ranges::any_of(
+        languages, [&](LANGID language) { return setTextLanguage(language) && textLanguage() == tag; });
 }
 
 void listPages()
@@ -43,6 +57,8 @@ GalleryApp::~GalleryApp() = default;
 BOOL GalleryApp::InitInstance()
 {
     CommandLine line = CommandLine::parse(CommandLine::ownArguments());
+    if (!useLanguage(line.language))
+        line.mistake = L"there are no texts in the language " + line.language;
     const PageEntry* const page = line.page.empty() ? &pageTable().front() : findPage(line.page);
     if (!page)
         line.mistake = L"there is no page named " + line.page;

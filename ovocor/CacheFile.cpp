@@ -1,6 +1,8 @@
 #include <ovocor/CacheFile.h>
 
+#include <ovocor/Text.h>
 #include <ovocor/WinError.h>
+#include <ovomsg/ovomsg.h>
 
 #include <utility>
 
@@ -52,7 +54,7 @@ void CacheFile::close()
 void CacheFile::fail() const
 {
     const DWORD code = ::GetLastError();
-    throw WinError(L"\"" + m_url + L"\" cannot be written to the download cache", code);
+    throw WinError(stringPrintf(ovoMsg(OVOMSG_CACHE_NOT_WRITTEN).c_str(), m_url.c_str()), code);
 }
 
 } // namespace OVO

@@ -5,6 +5,7 @@
 #include <ovocor/Text.h>
 #include <ovocor/Url.h>
 #include <ovocor/WinError.h>
+#include <ovomsg/ovomsg.h>
 
 #include <algorithm>
 #include <cwchar>
@@ -37,19 +38,18 @@ bool isCertificateError(DWORD code)
 }
 
 /// What the user can do about the answer of a web server.
-const wchar_t* remedyFor(DWORD status)
+OvoMessageId remedyFor(DWORD status)
 {
     switch (status) {
     case HTTP_STATUS_DENIED:
     case HTTP_STATUS_FORBIDDEN:
     case HTTP_STATUS_PROXY_AUTH_REQ:
-        return L"Access denied. Ask the administrator of the server or the network for permission.";
+        return OVOMSG_DOWNLOAD_DENIED;
     case HTTP_STATUS_NOT_FOUND:
     case HTTP_STATUS_GONE:
-        return L"The file was not found. Check the address.";
+        return OVOMSG_DOWNLOAD_NOT_FOUND;
     default:
-        return status >= HTTP_STATUS_SERVER_ERROR ? L"A server error occurred. Try again later."
-                                                  : L"Check the address, or try again later.";
+        return status >= HTTP_STATUS_SERVER_ERROR ? OVOMSG_DOWNLOAD_SERVER_ERROR : OVOMSG_DOWNLOAD_REFUSED;
     }
 }
 
@@ -83,9 +83,9 @@ void Download::takeApart()
         failWith(::GetLastError());
 
     if (parts.nScheme != INTERNET_SCHEME_HTTP && parts.nScheme != INTERNET_SCHEME_HTTPS)
-        fail(L"only http and https addresses can be downloaded.");
+        fail(ovoMsg(OVOMSG_DOWNLOAD_SCHEME));
     if (parts.dwHostNameLength == 0)
-        fail(L"the address has no server name. Check the spelling.");
+        fail(ovoMsg(OVOMSG_DOWNLOAD_NO_SERVER));
     m_secure = parts.nScheme == INTERNET_SCHEME_HTTPS;
     m_port = parts.nPort;
     m_host.assign(parts.lpszHostName, parts.dwHostNameLength);
@@ -116,8 +116,7 @@ std::wstring Download::run()
     request.expect(announced.value_or(0));
     const std::uint64_t size = copy(request, file);
     if (announced && size != *announced)
-        fail(stringPrintf(L"the connection was closed after %I64u of %I64u bytes. Try again.", size,
-                          *announced));
+        fail(stringPrintf(ovoMsg(OVOMSG_DOWNLOAD_CUT).c_str(), size, *announced));
     file.commit();
     return file.path();
 }
@@ -154,8 +153,9 @@ void Download::checkAnswer(HINTERNET request) const
     wchar_t reason[128]{};
     size = sizeof reason;
     m_inet.queryInfo(request, HTTP_QUERY_STATUS_TEXT, reason, &size, nullptr);
-    fail(stringPrintf(L"the server \"%s\" answered %lu%s%s. %s", m_host.c_str(), status, *reason ? L" " : L"",
-                      reason, remedyFor(status)));
+    const std::wstring answer = std::to_wstring(status) + (*reason ? L" " : L"") + reason;
+    fail(stringPrintf(ovoMsg(OVOMSG_DOWNLOAD_ANSWER).c_str(), m_host.c_str(), answer.c_str(),
+                      ovoMsg(remedyFor(status)).c_str()));
 }
 
 std::optional<std::uint64_t> Download::announcedSize(HINTERNET request) const
@@ -194,7 +194,7 @@ HINTERNET Download::checked(HINTERNET handle) const
 
 void Download::fail(const std::wstring& cause) const
 {
-    throw OvoError(L"\"" + m_url + L"\" cannot be downloaded: " + cause);
+    throw OvoError(stringPrintf(ovoMsg(OVOMSG_DOWNLOAD_FAILED).c_str(), m_url.c_str(), cause.c_str()));
 }
 
 void Download::failWith(DWORD code) const
@@ -206,29 +206,29 @@ void Download::failWith(DWORD code) const
 
 std::wstring Download::causeOf(DWORD code) const
 {
+    const auto ofServer = [&](OvoMessageId message) {
+        return stringPrintf(ovoMsg(message).c_str(), m_host.c_str());
+    };
     switch (code) {
     case ERROR_INTERNET_INVALID_URL:
     case ERROR_INTERNET_UNRECOGNIZED_SCHEME:
-        return L"the address is not valid. Check the spelling.";
+        return ovoMsg(OVOMSG_DOWNLOAD_INVALID);
     case ERROR_INTERNET_NAME_NOT_RESOLVED:
-        return L"the server \"" + m_host + L"\" was not found. Check the address and the network connection.";
+        return ofServer(OVOMSG_DOWNLOAD_NOT_RESOLVED);
     case ERROR_INTERNET_CANNOT_CONNECT:
-        return L"the server \"" + m_host +
-               L"\" cannot be reached or refused the connection. Check the address, the network connection "
-               L"and the proxy settings.";
+        return ofServer(OVOMSG_DOWNLOAD_NOT_CONNECTED);
     case ERROR_INTERNET_TIMEOUT:
-        return L"the server \"" + m_host + L"\" is not responding. Try again later.";
+        return ofServer(OVOMSG_DOWNLOAD_TIMEOUT);
     case ERROR_INTERNET_CONNECTION_ABORTED:
     case ERROR_INTERNET_CONNECTION_RESET:
     case ERROR_HTTP_INVALID_SERVER_RESPONSE:
-        return L"the connection to the server \"" + m_host + L"\" was lost. Try again.";
+        return ofServer(OVOMSG_DOWNLOAD_LOST);
     default:
         break;
     }
     const std::wstring text = formatMessage(code, m_inet.module);
     if (isCertificateError(code))
-        return L"the certificate of the server \"" + m_host + L"\" is not valid (" + text +
-               L"). Check the address and the date on this computer.";
+        return stringPrintf(ovoMsg(OVOMSG_DOWNLOAD_CERTIFICATE).c_str(), m_host.c_str(), text.c_str());
     return text;
 }
 

@@ -1,6 +1,7 @@
 #include <ovocor/DownloadControl.h>
 
 #include <ovocor/WinInet.h>
+#include <ovomsg/ovomsg.h>
 
 DownloadControl::DownloadControl() = default;
 DownloadControl::~DownloadControl() = default;
@@ -14,7 +15,7 @@ void DownloadControl::cancel() noexcept
 }
 
 DownloadCancelled::DownloadCancelled()
-    : OvoError(L"The download was cancelled.")
+    : OvoError(ovoMsg(OVOMSG_DOWNLOAD_CANCELLED))
 {
 }
 

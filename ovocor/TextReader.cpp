@@ -3,6 +3,7 @@
 #include <ovocor/Text.h>
 #include <ovocor/WinError.h>
 #include <ovocor/core/TextStream.h>
+#include <ovomsg/ovomsg.h>
 
 #include <algorithm>
 #include <limits>
@@ -23,7 +24,7 @@ public:
                                FILE_FLAG_SEQUENTIAL_SCAN, nullptr))
     {
         if (m_file == INVALID_HANDLE_VALUE)
-            fail(L"opened");
+            fail(OVOMSG_FILE_NOT_OPENED);
     }
     FileSource(const FileSource&) = delete;
     FileSource& operator=(const FileSource&) = delete;
@@ -35,21 +36,21 @@ public:
             static_cast<DWORD>(std::min<std::size_t>(size, std::numeric_limits<DWORD>::max()));
         DWORD got = 0;
         if (!::ReadFile(m_file, bytes, wanted, &got, nullptr))
-            fail(L"read");
+            fail(OVOMSG_FILE_NOT_READ);
         return got;
     }
 
     void rewind() override
     {
         if (!::SetFilePointerEx(m_file, LARGE_INTEGER{}, nullptr, FILE_BEGIN))
-            fail(L"read");
+            fail(OVOMSG_FILE_NOT_READ);
     }
 
 private:
-    [[noreturn]] void fail(const wchar_t* what) const
+    [[noreturn]] void fail(OvoMessageId message) const
     {
         const DWORD code = ::GetLastError();
-        throw WinError(L"The file \"" + m_path + L"\" cannot be " + what, code);
+        throw WinError(stringPrintf(ovoMsg(message).c_str(), m_path.c_str()), code);
     }
 
     std::wstring m_path;

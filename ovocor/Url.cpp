@@ -2,8 +2,10 @@
 
 #include <ovocor/Download.h>
 #include <ovocor/OvoError.h>
+#include <ovocor/Text.h>
 #include <ovocor/WinError.h>
 #include <ovocor/WinInet.h>
+#include <ovomsg/ovomsg.h>
 
 std::wstring canonicalizeUrl(const std::wstring& url)
 {
@@ -18,8 +20,8 @@ std::wstring canonicalizeUrl(const std::wstring& url)
         const DWORD code = url.empty() ? ERROR_INTERNET_INVALID_URL : ::GetLastError();
         // The size needed counts the terminator, and never shrinks what was offered: the loop ends.
         if (code != ERROR_INSUFFICIENT_BUFFER || size <= canonical.size())
-            throw OvoError(L"The address \"" + url + L"\" is not valid (" + formatMessage(code, inet.module) +
-                           L"). Check the spelling.");
+            throw OvoError(stringPrintf(ovoMsg(OVOMSG_ADDRESS_INVALID).c_str(), url.c_str(),
+                                        formatMessage(code, inet.module).c_str()));
         canonical.resize(size);
     }
 }

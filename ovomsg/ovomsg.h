@@ -1,4 +1,5 @@
-/// The message catalogue: numbered texts.
+/// The message catalogue: numbered texts, in the language of the calling thread, which is the user's unless
+/// the host has chosen another one (ovoui/frame/Language.h).
 ///
 ///     throw OvoError(stringPrintf(ovoMsg(OVOMSG_URL_SCHEME).c_str(), url.c_str()));
 #pragma once

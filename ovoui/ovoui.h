@@ -16,6 +16,7 @@
 #include <ovoui/files/FileDialog.h>
 #include <ovoui/files/FilePicker.h>
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/frame/Language.h>
 #include <ovoui/frame/MessageBox.h>
 #include <ovoui/frame/MessageDialog.h>
 #include <ovoui/frame/ModalDialog.h>

@@ -2,6 +2,7 @@
 
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/Contrast.h>
+#include <ovoui/frame/Module.h>
 #include <ovouires/resource.h>
 
 #include <algorithm>
@@ -32,6 +33,13 @@ constexpr wchar_t kRecentEntry[] = L"RecentColours";
 
 /// As many as there are columns of custom colours.
 constexpr int kRecentColours = 9;
+
+/// The grade in the user's language.
+std::wstring gradeText(double contrast)
+{
+    const std::wstring_view grade = gradeOf(contrast);
+    return grade == kGradeOfLargeText ? ovoui::resourceString(IDS_COLOUR_GRADE_LARGE) : std::wstring(grade);
+}
 
 constexpr std::array<COLORREF, 18> kFirstColours{
     RGB(0, 0, 0),       RGB(127, 127, 127), RGB(136, 0, 21),    RGB(237, 28, 36),  RGB(255, 127, 39),
@@ -192,7 +200,8 @@ void ColPickerPaletteDlg::showColour()
     const double onWhite = contrast(m_colour, Colour::rgb(1, 1, 1));
     const double onBlack = contrast(m_colour, Colour::rgb(0, 0, 0));
     CString text;
-    text.Format(IDS_COLOUR_CONTRAST, onWhite, gradeOf(onWhite).data(), onBlack, gradeOf(onBlack).data());
+    text.Format(IDS_COLOUR_CONTRAST, onWhite, gradeText(onWhite).c_str(), onBlack,
+                gradeText(onBlack).c_str());
     SetDlgItemText(IDC_COLOUR_CONTRAST, text);
 }
 

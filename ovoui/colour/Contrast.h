@@ -19,4 +19,7 @@ OVOUI_UNIT_API double contrast(const Colour& one, const Colour& other);
 /// `contrast` is the ratio.
 OVOUI_UNIT_API std::wstring_view gradeOf(double contrast);
 
+/// The one grade that is not letters alone.
+inline constexpr std::wstring_view kGradeOfLargeText = L"AA large";
+
 } // namespace ovoui::colour

@@ -1,4 +1,5 @@
 #include <ovoui/frame/Module.h>
+#include <ovoui/frame/ResourceVersion.h>
 
 #include <afxdllx.h>
 #include <ovocor/ovocor.h>
@@ -17,7 +18,7 @@ bool attach(HINSTANCE instance)
     if (!AfxInitExtensionModule(s_extension, instance))
         return false;
     const HMODULE resources = OVO::LoadProgramLibrary(L"ovouires.dll");
-    if (!resources)
+    if (!resources || !ovoui::isOfOwnVersion(resources))
         return false;
 
     s_resourceModule = resources;

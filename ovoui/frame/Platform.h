@@ -28,6 +28,11 @@ struct Platform
 
     /// EM_SETRECT takes the control's margins and edge off the rectangle.
     bool insetsFormatRect;
+
+    // Resources
+
+    /// The language of a thread's resources is that of its locale, not its preferred language.
+    bool takesLanguageFromLocale;
 };
 
 /// The platform that the process runs on, until a test changes it.

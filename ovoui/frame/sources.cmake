@@ -24,6 +24,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ClipboardText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Geometry.cpp
   ${CMAKE_CURRENT_LIST_DIR}/GlobalMemory.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Language.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageDialog.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageDialogBox.cpp
@@ -38,6 +39,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ProgressBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ProgressBoxDlg.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RedrawHold.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ResourceVersion.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TabKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ThemeData.cpp)
 include(${CMAKE_CURRENT_LIST_DIR}/icons.cmake)

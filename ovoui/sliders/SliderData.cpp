@@ -1,5 +1,8 @@
 #include <ovoui/sliders/SliderData.h>
 
+#include <ovoui/frame/Module.h>
+#include <ovouires/resource.h>
+
 #include <ovocor/Text.h>
 
 #include <cmath>
@@ -11,7 +14,8 @@ namespace
 [[noreturn]] void refuse(CDataExchange& exchange, HWND control, double low, double high)
 {
     exchange.PrepareEditCtrl(::GetDlgCtrlID(control));
-    AfxMessageBox(stringPrintf(L"Enter a number from %g to %g.", low, high).c_str(), MB_ICONEXCLAMATION);
+    AfxMessageBox(stringPrintf(ovoui::resourceString(IDS_SLIDER_RANGE).c_str(), low, high).c_str(),
+                  MB_ICONEXCLAMATION);
     exchange.Fail();
     std::terminate(); // Fail throws
 }

@@ -4,6 +4,8 @@
 
 #include <ovocor/OvoError.h>
 
+#include <ovomsg/ovomsg.h>
+
 #include <afxole.h>
 
 #include <memory>
@@ -37,8 +39,7 @@ void copyToClipboard(const std::wstring& text)
 {
     for (int attempt = 1; !copied(text); ++attempt) {
         if (attempt == kTries)
-            throw OvoError(
-                L"The text could not be copied because another program is using the clipboard. Try again.");
+            throw OvoError(ovoMsg(OVOMSG_CLIPBOARD_BUSY));
         ::Sleep(kPause);
     }
 }

@@ -1,5 +1,6 @@
 #include <ovoui/sysinfo/ModuleListDlg.h>
 
+#include <ovoui/frame/Module.h>
 #include <ovoui/sysinfo/ClipboardText.h>
 #include <ovoui/sysinfo/LoadedModules.h>
 #include <ovoui/sysinfo/StretchedControls.h>
@@ -33,25 +34,32 @@ namespace
 struct Heading
 {
     ModuleColumn column;
-    const wchar_t* text;
+    UINT text; // a string
     int width; // in dialog units
 };
 
 constexpr Heading kHeadings[] = {
-    {ModuleColumn::Name, L"Name", 70},
-    {ModuleColumn::Remark, L"Remark", 68},
-    {ModuleColumn::FileVersion, L"File version", 66},
-    {ModuleColumn::ProductVersion, L"Product version", 66},
-    {ModuleColumn::Description, L"Description", 100},
-    {ModuleColumn::Path, L"Path", 140},
-    {ModuleColumn::LinkTime, L"Linked", 90},
-    {ModuleColumn::Address, L"Address", 72},
-    {ModuleColumn::Size, L"Size", 40},
-    {ModuleColumn::Type, L"Type", 40},
-    {ModuleColumn::Flags, L"Flags", 40},
-    {ModuleColumn::System, L"System", 60},
+    {ModuleColumn::Name, IDS_MODULES_NAME, 70},
+    {ModuleColumn::Remark, IDS_MODULES_REMARK, 68},
+    {ModuleColumn::FileVersion, IDS_MODULES_FILE_VERSION, 80},
+    {ModuleColumn::ProductVersion, IDS_MODULES_PRODUCT_VERSION, 86},
+    {ModuleColumn::Description, IDS_MODULES_DESCRIPTION, 100},
+    {ModuleColumn::Path, IDS_MODULES_PATH, 140},
+    {ModuleColumn::LinkTime, IDS_MODULES_LINKED, 90},
+    {ModuleColumn::Address, IDS_MODULES_ADDRESS, 72},
+    {ModuleColumn::Size, IDS_MODULES_SIZE, 40},
+    {ModuleColumn::Type, IDS_MODULES_TYPE, 40},
+    {ModuleColumn::Flags, IDS_MODULES_FLAGS, 50},
+    {ModuleColumn::System, IDS_MODULES_SYSTEM, 60},
 };
 static_assert(std::size(kHeadings) == static_cast<std::size_t>(ModuleColumn::Count));
+
+RemarkTexts remarkTexts()
+{
+    return {std::wstring(), ovoui::resourceString(IDS_MODULES_NO_VERSION),
+            ovoui::resourceString(IDS_MODULES_ELSEWHERE),
+            ovoui::resourceString(IDS_MODULES_NO_VERSION_ELSEWHERE)};
+}
 
 /// Dark red on a light window, light red on a dark one.
 COLORREF remarkColour()
@@ -98,7 +106,8 @@ void CModuleListDlg::addColumns()
     for (const Heading& heading : kHeadings) {
         CRect width(0, 0, heading.width, 0);
         MapDialogRect(&width);
-        m_list.InsertColumn(static_cast<int>(heading.column), heading.text, LVCFMT_LEFT, width.Width());
+        m_list.InsertColumn(static_cast<int>(heading.column), ovoui::resourceString(heading.text).c_str(),
+                            LVCFMT_LEFT, width.Width());
     }
 }
 
@@ -129,13 +138,14 @@ void CModuleListDlg::showVisible()
     CString filter;
     m_filter.GetWindowText(filter);
     m_visible = visibleModules(m_modules, filter.GetString(),
-                               {static_cast<ModuleColumn>(m_sortColumn), m_descending});
+                               {static_cast<ModuleColumn>(m_sortColumn), m_descending}, remarkTexts());
     m_list.SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED); // rows are other modules now
     m_list.SetItemCountEx(static_cast<int>(m_visible.size()));
     m_list.Invalidate();
     showOrder();
-    SetDlgItemText(IDC_MODULES_COUNT,
-                   stringPrintf(L"%Iu of %Iu modules", m_visible.size(), m_modules.size()).c_str());
+    SetDlgItemText(IDC_MODULES_COUNT, stringPrintf(ovoui::resourceString(IDS_MODULES_COUNT).c_str(),
+                                                   m_visible.size(), m_modules.size())
+                                          .c_str());
 }
 
 void CModuleListDlg::showOrder()
@@ -157,8 +167,9 @@ void CModuleListDlg::OnGetDispInfo(NMHDR* header, LRESULT* result)
     LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(header)->item;
     const auto row = static_cast<std::size_t>(item.iItem);
     if ((item.mask & LVIF_TEXT) && row < m_visible.size())
-        packTo(item.pszText, static_cast<std::size_t>(item.cchTextMax),
-               columnText(m_modules[m_visible[row]], static_cast<ModuleColumn>(item.iSubItem)));
+        packTo(
+            item.pszText, static_cast<std::size_t>(item.cchTextMax),
+            columnText(m_modules[m_visible[row]], static_cast<ModuleColumn>(item.iSubItem), remarkTexts()));
     *result = 0;
 }
 
@@ -170,7 +181,7 @@ void CModuleListDlg::OnCustomDraw(NMHDR* header, LRESULT* result)
         *result = CDRF_NOTIFYITEMDRAW;
     } else if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT) {
         const std::size_t row = draw.nmcd.dwItemSpec;
-        if (row < m_visible.size() && !remarkOn(m_modules[m_visible[row]]).empty())
+        if (row < m_visible.size() && remarkOn(m_modules[m_visible[row]]) != Remark::None)
             draw.clrText = remarkColour();
     }
 }

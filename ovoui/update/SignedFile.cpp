@@ -1,6 +1,8 @@
 #include <ovoui/update/SignedFile.h>
 
+#include <ovocor/Text.h>
 #include <ovocor/WinError.h>
+#include <ovomsg/ovomsg.h>
 
 #include <bcrypt.h>
 
@@ -95,12 +97,17 @@ private:
     BCRYPT_KEY_HANDLE m_handle = nullptr;
 };
 
+WinError failure(OvoMessageId message, const std::wstring& path, DWORD code)
+{
+    return WinError(stringPrintf(ovoMsg(message).c_str(), path.c_str()), code);
+}
+
 HANDLE opened(const std::wstring& path)
 {
     const HANDLE file =
         ::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE)
-        throw WinError(L"\"" + path + L"\" cannot be opened", ::GetLastError());
+        throw failure(OVOMSG_FILE_NOT_OPENED, path, ::GetLastError());
     return file;
 }
 
@@ -108,7 +115,7 @@ DWORD readSome(HANDLE file, void* bytes, std::size_t size)
 {
     DWORD got = 0;
     if (!::ReadFile(file, bytes, static_cast<DWORD>(size), &got, nullptr))
-        throw WinError(L"The update list cannot be read", ::GetLastError());
+        throw failure(OVOMSG_UPDATE_LIST_NOT_READ, {}, ::GetLastError());
     return got;
 }
 
@@ -142,7 +149,7 @@ std::string bytesOf(const std::wstring& path, std::size_t limit)
     const DWORD code = ::GetLastError();
     ::CloseHandle(file);
     if (!read)
-        throw WinError(L"\"" + path + L"\" cannot be read", code);
+        throw failure(OVOMSG_FILE_NOT_READ, path, code);
     bytes.resize(got);
     return bytes;
 }

@@ -1,19 +1,21 @@
 // Loads ovoui.dll from beside this program and says in the exit code how it went:
-//   module_probe once      0 loaded, otherwise the system's error
-//   module_probe cycles    0 loaded and unloaded 200 times with no growth of handles, GDI objects and modules;
+//   module_probe once      0 loaded, otherwise the system's error; boxes about errors are not shown
+//   module_probe openly    the same with boxes
+//   module_probe cycles    0 loaded and unloaded 200 times with no growth of handles, GDI objects and
+//   modules;
 //                          1 it did not load, 2 it stayed loaded, 3 something grew
 #include <windows.h>
 #include <tlhelp32.h>
 
 #include <cstdio>
-#include <cwchar>
+#include <string_view>
 
 namespace
 {
 
-int loadOnce()
+int loadOnce(UINT errorMode)
 {
-    ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
+    ::SetErrorMode(errorMode);
     if (::LoadLibraryW(L"ovoui.dll"))
         return 0;
     const DWORD error = ::GetLastError();
@@ -85,8 +87,9 @@ int loadAndUnload()
     const Usage after = usage();
     const bool grew = after.handles > before.handles + 2 || after.modules > before.modules ||
                       after.committed > before.committed + kSlack;
-    std::printf("handles %lu to %lu, modules %d to %d, committed %llu to %llu\n", before.handles, after.handles,
-                before.modules, after.modules, static_cast<unsigned long long>(before.committed),
+    std::printf("handles %lu to %lu, modules %d to %d, committed %llu to %llu\n", before.handles,
+                after.handles, before.modules, after.modules,
+                static_cast<unsigned long long>(before.committed),
                 static_cast<unsigned long long>(after.committed));
     return grew ? 3 : 0;
 }
@@ -95,5 +98,9 @@ int loadAndUnload()
 
 int wmain(int argc, wchar_t** argv)
 {
-    return argc > 1 && std::wcscmp(argv[1], L"cycles") == 0 ? loadAndUnload() : loadOnce();
+    const std::wstring_view how = argc > 1 ? argv[1] : L"once";
+    if (how == L"cycles")
+        return loadAndUnload();
+    return loadOnce(
+        how == L"openly" ? 0 : SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
 }

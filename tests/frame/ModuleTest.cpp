@@ -1,11 +1,15 @@
 #include <afxwin.h>
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/version.h>
 #include <ovouires/resource.h>
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 #include <string>
+#include <string_view>
 
 namespace fs = std::filesystem;
 
@@ -19,22 +23,52 @@ fs::path programFolder()
     return fs::path(path).parent_path();
 }
 
-/// Runs the program to its end, without a window, and gives its exit code.
+std::wstring takeBoxOf(DWORD process);
+
+/// A program that runs, without a console.
+class RunningProbe
+{
+public:
+    RunningProbe(const fs::path& program, const wchar_t* argument)
+    {
+        std::wstring line = L"\"" + program.wstring() + L"\" " + argument;
+        STARTUPINFOW startup{};
+        startup.cb = sizeof startup;
+        ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
+                         program.parent_path().c_str(), &startup, &m_process);
+    }
+    ~RunningProbe()
+    {
+        ::CloseHandle(m_process.hThread);
+        ::CloseHandle(m_process.hProcess);
+    }
+    RunningProbe(const RunningProbe&) = delete;
+    RunningProbe& operator=(const RunningProbe&) = delete;
+
+    /// The text of the box that the program shows, which is closed; empty when it ends without one.
+    std::wstring box() const
+    {
+        std::wstring text;
+        while (text.empty() && ::WaitForSingleObject(m_process.hProcess, 20) == WAIT_TIMEOUT)
+            text = takeBoxOf(m_process.dwProcessId);
+        return text;
+    }
+
+    /// Waits for the end.
+    DWORD exitCode() const
+    {
+        ::WaitForSingleObject(m_process.hProcess, INFINITE);
+        DWORD code = 0;
+        return ::GetExitCodeProcess(m_process.hProcess, &code) ? code : 0xFFFF;
+    }
+
+private:
+    PROCESS_INFORMATION m_process{};
+};
+
 DWORD exitCodeOf(const fs::path& program, const wchar_t* argument)
 {
-    std::wstring line = L"\"" + program.wstring() + L"\" " + argument;
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process{};
-    if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
-                          program.parent_path().c_str(), &startup, &process))
-        return 0xFFFF;
-    ::WaitForSingleObject(process.hProcess, INFINITE);
-    DWORD code = 0;
-    ::GetExitCodeProcess(process.hProcess, &code);
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
-    return code;
+    return RunningProbe(program, argument).exitCode();
 }
 
 HINSTANCE ownModule()
@@ -69,9 +103,71 @@ public:
 
     fs::path probe() const { return m_path / L"module_probe.exe"; }
 
+    /// Changes the version of the resource module by writing into its record. The version is the four words
+    /// that follow signature and layout of the fixed part, each pair with the higher one last.
+    void setResourceVersion(WORD major, WORD minor, WORD patch)
+    {
+        const fs::path path = m_path / L"ovouires.dll";
+        std::string bytes = contentOf(path);
+        const std::size_t at = bytes.find(kFixedPart);
+        ASSERT_NE(at, std::string::npos);
+        const WORD version[] = {minor, major, 0, patch};
+        bytes.replace(at + 8, sizeof version, reinterpret_cast<const char*>(version), sizeof version);
+        std::ofstream(path, std::ios::binary) << bytes;
+    }
+
+    void destroyResourceVersion()
+    {
+        const fs::path path = m_path / L"ovouires.dll";
+        std::string bytes = contentOf(path);
+        const std::size_t at = bytes.find(kFixedPart);
+        ASSERT_NE(at, std::string::npos);
+        bytes[at] = 0;
+        std::ofstream(path, std::ios::binary) << bytes;
+    }
+
 private:
+    static constexpr std::string_view kFixedPart{"\xBD\x04\xEF\xFE\0\0\1\0", 8};
+
+    static std::string contentOf(const fs::path& path)
+    {
+        std::ostringstream content;
+        content << std::ifstream(path, std::ios::binary).rdbuf();
+        return content.str();
+    }
+
     fs::path m_path;
 };
+
+/// The text of the box that another process shows; empty while there is none. Closes the box.
+std::wstring takeBoxOf(DWORD process)
+{
+    struct Search
+    {
+        DWORD process;
+        HWND box;
+    } search{process, nullptr};
+    const auto look = [](HWND window, LPARAM argument) -> BOOL {
+        auto& wanted = *reinterpret_cast<Search*>(argument);
+        DWORD owner = 0;
+        ::GetWindowThreadProcessId(window, &owner);
+        if (owner != wanted.process || !::IsWindowVisible(window) || !::GetDlgItem(window, IDOK))
+            return TRUE;
+        wanted.box = window;
+        return FALSE;
+    };
+    ::EnumWindows(look, reinterpret_cast<LPARAM>(&search));
+    if (!search.box)
+        return {};
+    std::wstring text;
+    for (HWND child = nullptr; (child = ::FindWindowExW(search.box, child, L"Static", nullptr)) != nullptr;) {
+        wchar_t part[512];
+        part[::SendMessageW(child, WM_GETTEXT, std::size(part), reinterpret_cast<LPARAM>(part))] = 0;
+        text += part;
+    }
+    ::PostMessageW(search.box, WM_COMMAND, IDOK, 0);
+    return text;
+}
 
 } // namespace
 
@@ -85,6 +181,45 @@ TEST(Module, RefusesToLoadWithoutItsResourceModule)
 {
     const ProbeFolder folder(L"ovouires.dll");
     EXPECT_EQ(exitCodeOf(folder.probe(), L"once"), static_cast<DWORD>(ERROR_DLL_INIT_FAILED));
+}
+
+TEST(Module, RefusesAResourceModuleOfAnotherVersion)
+{
+    const struct
+    {
+        WORD major, minor, patch;
+    } others[] = {{OVOUI_VERSION_MAJOR + 1, OVOUI_VERSION_MINOR, OVOUI_VERSION_PATCH},
+                  {OVOUI_VERSION_MAJOR, OVOUI_VERSION_MINOR + 1, OVOUI_VERSION_PATCH},
+                  {OVOUI_VERSION_MAJOR, OVOUI_VERSION_MINOR, OVOUI_VERSION_PATCH + 1}};
+    for (const auto& other : others) {
+        ProbeFolder folder(L"");
+        folder.setResourceVersion(other.major, other.minor, other.patch);
+        EXPECT_EQ(exitCodeOf(folder.probe(), L"once"), static_cast<DWORD>(ERROR_DLL_INIT_FAILED));
+    }
+    ProbeFolder folder(L"");
+    folder.setResourceVersion(OVOUI_VERSION_MAJOR, OVOUI_VERSION_MINOR, OVOUI_VERSION_PATCH);
+    EXPECT_EQ(exitCodeOf(folder.probe(), L"once"), 0u);
+}
+
+TEST(Module, NamesBothVersionsWhenItRefusesItsResources)
+{
+    ProbeFolder folder(L"");
+    folder.setResourceVersion(4, 17, 2);
+    const RunningProbe probe(folder.probe(), L"openly");
+    const std::wstring text = probe.box();
+    EXPECT_NE(text.find(L"4.17.2"), std::wstring::npos) << text;
+    EXPECT_NE(text.find(L"" OVOUI_VERSION_STRING), std::wstring::npos) << text;
+    EXPECT_NE(text.find(L"ovouires.dll"), std::wstring::npos) << text;
+    EXPECT_EQ(probe.exitCode(), static_cast<DWORD>(ERROR_DLL_INIT_FAILED));
+}
+
+TEST(Module, RefusesAResourceModuleWithoutAVersion)
+{
+    ProbeFolder folder(L"");
+    folder.destroyResourceVersion();
+    const RunningProbe probe(folder.probe(), L"openly");
+    EXPECT_NE(probe.box().find(L"(unknown)"), std::wstring::npos);
+    EXPECT_EQ(probe.exitCode(), static_cast<DWORD>(ERROR_DLL_INIT_FAILED));
 }
 
 TEST(Module, LoadsAndUnloadsTwoHundredTimesWithoutGrowth)
@@ -108,10 +243,9 @@ TEST(Module, JoinsItsResourcesToTheFrameworksSearch)
 
 TEST(Module, HoldsTheMessageBoxIconsItself)
 {
-    for (const wchar_t* name :
-         {L"COMPUTER", L"DISCCD", L"DISCFIXED", L"DISCNETWORK", L"DISCREMOVABLE", L"EXCLAIM", L"FOLDERCLOSED",
-          L"FOLDEROPEN", L"INET", L"INFO", L"OVOLOGO", L"KEY", L"MOUSE", L"NETWORK", L"NOTEEMPTY", L"NOTEFULL",
-          L"QUERY", L"STOP"}) {
+    for (const wchar_t* name : {L"COMPUTER", L"DISCCD", L"DISCFIXED", L"DISCNETWORK", L"DISCREMOVABLE",
+                                L"EXCLAIM", L"FOLDERCLOSED", L"FOLDEROPEN", L"INET", L"INFO", L"OVOLOGO",
+                                L"KEY", L"MOUSE", L"NETWORK", L"NOTEEMPTY", L"NOTEFULL", L"QUERY", L"STOP"}) {
         EXPECT_NE(::LoadIconW(ownModule(), name), nullptr) << name;
         for (const int size : {16, 32, 48}) {
             const auto icon = static_cast<HICON>(::LoadImageW(ownModule(), name, IMAGE_ICON, size, size, 0));

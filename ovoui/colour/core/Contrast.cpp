@@ -35,7 +35,7 @@ std::wstring_view gradeOf(double contrast)
         return L"AAA";
     if (contrast >= 4.5)
         return L"AA";
-    return contrast >= 3 ? L"AA large" : L"-";
+    return contrast >= 3 ? kGradeOfLargeText : L"-";
 }
 
 } // namespace ovoui::colour

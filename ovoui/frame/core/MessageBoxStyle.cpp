@@ -1,6 +1,6 @@
 #include <ovoui/frame/core/MessageBoxStyle.h>
 
-#include <ovouires/ButtonLabels.h>
+#include <ovouires/texts/en.h>
 #include <ovouires/resource.h>
 
 #include <array>
@@ -86,16 +86,16 @@ int requestedDefault(unsigned type)
 const std::vector<MessageBoxButton>& allMessageBoxButtons()
 {
     static const std::vector<MessageBoxButton> buttons{
-        {kAbort, IDS_BUTTON_ABORT, L"" BUTTON_LABEL_ABORT},
-        {kOk, IDS_BUTTON_OK, L"" BUTTON_LABEL_OK},
-        {kCancel, IDS_BUTTON_CANCEL, L"" BUTTON_LABEL_CANCEL},
-        {kRetry, IDS_BUTTON_RETRY, L"" BUTTON_LABEL_RETRY},
-        {kIgnore, IDS_BUTTON_IGNORE, L"" BUTTON_LABEL_IGNORE},
-        {kYes, IDS_BUTTON_YES, L"" BUTTON_LABEL_YES},
-        {kNo, IDS_BUTTON_NO, L"" BUTTON_LABEL_NO},
-        {IDYESTOALL, IDS_BUTTON_YES_TO_ALL, L"" BUTTON_LABEL_YES_TO_ALL},
-        {IDNOTOALL, IDS_BUTTON_NO_TO_ALL, L"" BUTTON_LABEL_NO_TO_ALL},
-        {kHelpButton, IDS_BUTTON_HELP, L"" BUTTON_LABEL_HELP},
+        {kAbort, IDS_BUTTON_ABORT, L"" TEXT_BUTTON_ABORT},
+        {kOk, IDS_BUTTON_OK, L"" TEXT_BUTTON_OK},
+        {kCancel, IDS_BUTTON_CANCEL, L"" TEXT_BUTTON_CANCEL},
+        {kRetry, IDS_BUTTON_RETRY, L"" TEXT_BUTTON_RETRY},
+        {kIgnore, IDS_BUTTON_IGNORE, L"" TEXT_BUTTON_IGNORE},
+        {kYes, IDS_BUTTON_YES, L"" TEXT_BUTTON_YES},
+        {kNo, IDS_BUTTON_NO, L"" TEXT_BUTTON_NO},
+        {IDYESTOALL, IDS_BUTTON_YES_TO_ALL, L"" TEXT_BUTTON_YES_TO_ALL},
+        {IDNOTOALL, IDS_BUTTON_NO_TO_ALL, L"" TEXT_BUTTON_NO_TO_ALL},
+        {kHelpButton, IDS_BUTTON_HELP, L"" TEXT_BUTTON_HELP},
     };
     return buttons;
 }

@@ -3,7 +3,6 @@
 #include <ovoui/sysinfo/core/ModuleText.h>
 
 #include <algorithm>
-#include <array>
 #include <cwchar>
 #include <cwctype>
 
@@ -43,17 +42,17 @@ std::vector<std::wstring> wordsOf(std::wstring_view text)
 }
 
 /// All columns, with line feeds between them so that no word is found across two.
-std::wstring allColumns(const LoadedModule& module)
+std::wstring allColumns(const LoadedModule& module, const RemarkTexts& remarks)
 {
     std::wstring text;
     for (int column = 0; column < static_cast<int>(ModuleColumn::Count); ++column)
-        text += columnText(module, static_cast<ModuleColumn>(column)) + L'\n';
+        text += columnText(module, static_cast<ModuleColumn>(column), remarks) + L'\n';
     return folded(text);
 }
 
-bool holdsAll(const LoadedModule& module, const std::vector<std::wstring>& words)
+bool holdsAll(const LoadedModule& module, const std::vector<std::wstring>& words, const RemarkTexts& remarks)
 {
-    const std::wstring text = allColumns(module);
+    const std::wstring text = allColumns(module, remarks);
     return std::ranges::all_of(
         words, [&](const std::wstring& word) { return text.find(word) != std::wstring::npos; });
 }
@@ -79,7 +78,7 @@ std::array<std::uint64_t, 4> versionNumbers(const std::wstring& version)
     return numbers;
 }
 
-SortKey keyOf(const LoadedModule& module, ModuleColumn column)
+SortKey keyOf(const LoadedModule& module, ModuleColumn column, const RemarkTexts& remarks)
 {
     switch (column) {
     case ModuleColumn::Address:
@@ -91,7 +90,7 @@ SortKey keyOf(const LoadedModule& module, ModuleColumn column)
     case ModuleColumn::ProductVersion:
         return {versionNumbers(module.productVersion), {}};
     default:
-        return {{}, folded(columnText(module, column))};
+        return {{}, folded(columnText(module, column, remarks))};
     }
 }
 
@@ -104,13 +103,13 @@ std::wstring inOneLine(std::wstring text)
 
 } // namespace
 
-std::wstring columnText(const LoadedModule& module, ModuleColumn column)
+std::wstring columnText(const LoadedModule& module, ModuleColumn column, const RemarkTexts& remarks)
 {
     switch (column) {
     case ModuleColumn::Name:
         return module.name;
     case ModuleColumn::Remark:
-        return remarkOn(module);
+        return remarks[static_cast<std::size_t>(remarkOn(module))];
     case ModuleColumn::FileVersion:
         return module.fileVersion;
     case ModuleColumn::ProductVersion:
@@ -137,12 +136,12 @@ std::wstring columnText(const LoadedModule& module, ModuleColumn column)
     return {};
 }
 
-std::wstring remarkOn(const LoadedModule& module)
+Remark remarkOn(const LoadedModule& module)
 {
     const bool elsewhere = module.place == ModulePlace::Elsewhere;
     if (!module.hasVersionRecord)
-        return elsewhere ? L"no version record, other folder" : L"no version record";
-    return elsewhere ? L"other folder" : L"";
+        return elsewhere ? Remark::NoVersionElsewhere : Remark::NoVersion;
+    return elsewhere ? Remark::Elsewhere : Remark::None;
 }
 
 ModulePlace placeOf(std::wstring_view path, std::wstring_view programFolder,
@@ -156,15 +155,15 @@ ModulePlace placeOf(std::wstring_view path, std::wstring_view programFolder,
 }
 
 std::vector<std::size_t> visibleModules(const std::vector<LoadedModule>& modules, std::wstring_view filter,
-                                        const ModuleOrder& order)
+                                        const ModuleOrder& order, const RemarkTexts& remarks)
 {
     const std::vector<std::wstring> words = wordsOf(filter);
     std::vector<std::size_t> visible;
     std::vector<SortKey> keys;
     for (const LoadedModule& module : modules) {
-        if (holdsAll(module, words))
+        if (holdsAll(module, words, remarks))
             visible.push_back(keys.size());
-        keys.push_back(keyOf(module, order.column));
+        keys.push_back(keyOf(module, order.column, remarks));
     }
     std::ranges::stable_sort(visible, [&](std::size_t a, std::size_t b) {
         return order.descending ? keys[b] < keys[a] : keys[a] < keys[b];

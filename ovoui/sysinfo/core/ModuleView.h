@@ -3,6 +3,7 @@
 
 #include <ovoui/sysinfo/LoadedModule.h>
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -29,12 +30,24 @@ enum class ModuleColumn : int
     Count
 };
 
-/// What a column shows; texts of several languages stand in one line.
-std::wstring columnText(const LoadedModule& module, ModuleColumn column);
+/// What is unusual about a module: no version record, a file outside the program's and the system's folders,
+/// or both.
+enum class Remark : int
+{
+    None,
+    NoVersion,
+    Elsewhere,
+    NoVersionElsewhere,
+    Count
+};
 
-/// What is unusual about a module: no version record, a file outside the program's and the system's folders.
-/// Empty when nothing is.
-std::wstring remarkOn(const LoadedModule& module);
+Remark remarkOn(const LoadedModule& module);
+
+/// What the list says for each remark, in the user's language; nothing for the first.
+using RemarkTexts = std::array<std::wstring, static_cast<std::size_t>(Remark::Count)>;
+
+/// What a column shows; texts of several languages stand in one line.
+std::wstring columnText(const LoadedModule& module, ModuleColumn column, const RemarkTexts& remarks);
 
 /// Where a file lies. Folders count with all that is below them; letters in any case.
 ModulePlace placeOf(std::wstring_view path, std::wstring_view programFolder,
@@ -49,6 +62,6 @@ struct ModuleOrder
 /// The indices of the modules that hold every word of `filter` in some column, letters in any case, in order:
 /// addresses, sizes and versions by their numbers, the rest by letters. Equal ones stay as they stand.
 std::vector<std::size_t> visibleModules(const std::vector<LoadedModule>& modules, std::wstring_view filter,
-                                        const ModuleOrder& order);
+                                        const ModuleOrder& order, const RemarkTexts& remarks);
 
 } // namespace ovoui::sysinfo

@@ -20,11 +20,13 @@ LoadedModule module(const std::wstring& name, const std::wstring& version = L"",
     return result;
 }
 
+const RemarkTexts kRemarks{L"", L"no record", L"elsewhere", L"no record, elsewhere"};
+
 std::vector<std::wstring> names(const std::vector<LoadedModule>& modules, std::wstring_view filter,
                                 const ModuleOrder& order = {})
 {
     std::vector<std::wstring> result;
-    for (const std::size_t index : visibleModules(modules, filter, order))
+    for (const std::size_t index : visibleModules(modules, filter, order, kRemarks))
         result.push_back(modules[index].name);
     return result;
 }
@@ -69,15 +71,16 @@ TEST(ModuleView, EveryWordOfTheFilterMustBeInSomeColumn)
 TEST(ModuleView, RemarksNameWhatIsUnusual)
 {
     LoadedModule one = module(L"a", L"1.0.0.0");
-    EXPECT_EQ(remarkOn(one), L"");
+    EXPECT_EQ(remarkOn(one), Remark::None);
     one.place = ModulePlace::System;
-    EXPECT_EQ(remarkOn(one), L"");
+    EXPECT_EQ(remarkOn(one), Remark::None);
     one.place = ModulePlace::Elsewhere;
-    EXPECT_EQ(remarkOn(one), L"other folder");
+    EXPECT_EQ(remarkOn(one), Remark::Elsewhere);
     one.hasVersionRecord = false;
-    EXPECT_EQ(remarkOn(one), L"no version record, other folder");
+    EXPECT_EQ(remarkOn(one), Remark::NoVersionElsewhere);
     one.place = ModulePlace::Program;
-    EXPECT_EQ(remarkOn(one), L"no version record");
+    EXPECT_EQ(remarkOn(one), Remark::NoVersion);
+    EXPECT_EQ(columnText(one, ModuleColumn::Remark, kRemarks), L"no record");
 }
 
 TEST(ModuleView, FoldersCountWithAllBelowThem)
@@ -105,8 +108,8 @@ TEST(ModuleView, ColumnsShowOneLine)
 {
     LoadedModule one = module(L"a");
     one.fileDescription = L"A\tB\tC";
-    EXPECT_EQ(columnText(one, ModuleColumn::Description), L"A / B / C");
+    EXPECT_EQ(columnText(one, ModuleColumn::Description, kRemarks), L"A / B / C");
     one.hasAddress = false;
-    EXPECT_EQ(columnText(one, ModuleColumn::Address), L"");
-    EXPECT_EQ(columnText(one, ModuleColumn::Size), L"");
+    EXPECT_EQ(columnText(one, ModuleColumn::Address, kRemarks), L"");
+    EXPECT_EQ(columnText(one, ModuleColumn::Size, kRemarks), L"");
 }
