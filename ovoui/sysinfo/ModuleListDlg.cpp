@@ -40,7 +40,7 @@ struct Heading
 
 constexpr Heading kHeadings[] = {
     {ModuleColumn::Name, IDS_MODULES_NAME, 70},
-    {ModuleColumn::Remark, IDS_MODULES_REMARK, 68},
+    {ModuleColumn::Remark, IDS_MODULES_REMARK, 100},
     {ModuleColumn::FileVersion, IDS_MODULES_FILE_VERSION, 80},
     {ModuleColumn::ProductVersion, IDS_MODULES_PRODUCT_VERSION, 86},
     {ModuleColumn::Description, IDS_MODULES_DESCRIPTION, 100},
