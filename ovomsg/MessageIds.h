@@ -39,5 +39,13 @@ enum OvoMessageId : unsigned
     OVOMSG_ADDRESS_INVALID =
         337, ///< an address that cannot be brought into its usual form: the address, the reason
     OVOMSG_CACHE_NOT_WRITTEN =
-        338, ///< a file of the download cache: the address; the system's reason follows
+        338,               ///< a file of the download cache: the address; the system's reason follows
+    OVOMSG_CSV_LINE = 351, ///< a text that cannot be taken apart: the line's number, the reason, which is one
+                           ///< of those that follow
+    OVOMSG_CSV_QUOTE_CONTINUES = 352, ///< reason: text behind a field in quotation marks
+    OVOMSG_CSV_QUOTE_INSIDE = 353,    ///< reason: a quotation mark in a plain field
+    OVOMSG_CSV_QUOTE_OPEN = 354,      ///< reason: the text ends in quotation marks
+    OVOMSG_CSV_NO_COLUMNS = 355,      ///< a header without names of columns
+    OVOMSG_CSV_HEADER_ROWS = 356,     ///< a header of several rows
+    OVOMSG_NUMBER_RANGE = 361,        ///< a number that does not fit its type
 };

@@ -1,6 +1,7 @@
 #include <ovocor/CsvParser.h>
 
 #include <ovocor/OvoError.h>
+#include <ovocor/core/CatalogueText.h>
 
 #include <algorithm>
 #include <limits>
@@ -15,9 +16,9 @@ namespace
 constexpr wchar_t kComma = L',';
 constexpr wchar_t kQuote = L'"';
 
-[[noreturn]] void fail(const wchar_t* what, std::size_t line)
+[[noreturn]] void fail(OvoMessageId reason, std::size_t line)
 {
-    throw OvoError(L"Line " + std::to_wstring(line) + L" of the comma-separated text: " + what);
+    throw OvoError(catalogueText(OVOMSG_CSV_LINE, {std::to_wstring(line), catalogueText(reason)}));
 }
 
 /// Whether a character ends a run of plain ones. All of these lie at or below the comma, which decides for
@@ -41,11 +42,11 @@ CSVParser::CSVParser(std::wstring_view header)
     rows.finish();
     const CSVRecord* names = rows.next();
     if (!names)
-        throw OvoError(L"The header of the comma-separated text has no column names.");
+        throw OvoError(catalogueText(OVOMSG_CSV_NO_COLUMNS));
     for (const CSVField& name : names->fields)
         m_columns.emplace_back(name.text);
     if (rows.next())
-        throw OvoError(L"The header of the comma-separated text has more than one row.");
+        throw OvoError(catalogueText(OVOMSG_CSV_HEADER_ROWS));
     m_columnLimit = m_columns.size();
 }
 
@@ -199,9 +200,7 @@ CSVParser::Ended CSVParser::takeSeparator()
         ++m_line;
         return Ended::Row;
     }
-    fail(m_state == State::QuoteClosed ? L"a quoted field continues after its closing quotation mark."
-                                       : L"a field that does not start with a quotation mark contains one.",
-         m_line);
+    fail(m_state == State::QuoteClosed ? OVOMSG_CSV_QUOTE_CONTINUES : OVOMSG_CSV_QUOTE_INSIDE, m_line);
 }
 
 CSVParser::Ended CSVParser::takeEndOfText()
@@ -209,7 +208,7 @@ CSVParser::Ended CSVParser::takeEndOfText()
     if (!m_finished)
         return Ended::Nothing;
     if (m_state == State::Quoted)
-        fail(L"a quoted field has no closing quotation mark.", m_quoteLine);
+        fail(OVOMSG_CSV_QUOTE_OPEN, m_quoteLine);
     const bool rowBegun = m_fieldCount > 0 || m_state != State::FieldStart;
     return rowBegun ? Ended::Row : Ended::Nothing;
 }

@@ -1,7 +1,9 @@
 #include <ovocor/IntCast.h>
 
+#include <ovocor/core/CatalogueText.h>
+
 IntCastError::IntCastError()
-    : OvoError(L"The number is out of range.")
+    : OvoError(OVO::catalogueText(OVOMSG_NUMBER_RANGE))
 {
 }
 

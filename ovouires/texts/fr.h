@@ -75,9 +75,9 @@
 #define TEXT_MODULES_TYPE "Type"
 #define TEXT_MODULES_FLAGS "Attributs"
 #define TEXT_MODULES_SYSTEM "Système"
-#define TEXT_MODULES_NO_VERSION "sans informations de version"
+#define TEXT_MODULES_NO_VERSION "version absente"
 #define TEXT_MODULES_ELSEWHERE "autre dossier"
-#define TEXT_MODULES_NO_VERSION_ELSEWHERE "sans informations de version, autre dossier"
+#define TEXT_MODULES_NO_VERSION_ELSEWHERE "version absente, autre dossier"
 
 #define TEXT_ACTION_PRESS "Appuyer"
 

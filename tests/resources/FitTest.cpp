@@ -103,11 +103,11 @@ TEST_P(Fit, TheButtonsOfAMessageBox)
 TEST_P(Fit, WhatAMessageDialogAdds)
 {
     Problems problems{L"not looked at"};
-    ovotest::Robot robot;
+    ovo::testkit::Robot robot;
     auto looking = robot
                        .waitFor("the box",
                                 [&] {
-                                    const HWND box = ovotest::shownDialog();
+                                    const HWND box = ovo::testkit::shownDialog();
                                     if (box)
                                         problems = fitProblems(box);
                                     return box != nullptr;
