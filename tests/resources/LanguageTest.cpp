@@ -6,6 +6,7 @@
 #include <ovoui/frame/Platform.h>
 #include <ovouires/resource.h>
 
+#include <ovocor/ovocor.h>
 #include <ovomsg/ovomsg.h>
 
 #include <gtest/gtest.h>
@@ -84,6 +85,26 @@ TEST_F(TextLanguage, HoldsForDialogsAndMenus)
     CString move;
     menu.GetSubMenu(0)->GetMenuString(0, move, MF_BYPOSITION);
     EXPECT_EQ(move, L"Hierher &verschieben");
+}
+
+TEST_F(TextLanguage, HoldsForTheErrorsOfTheCoreLibrary)
+{
+    ASSERT_TRUE(setTextLanguage(kGerman));
+    const auto messageOf = [](auto failing) -> std::wstring {
+        try {
+            failing();
+        } catch (const OvoError& error) {
+            return error.wwhat();
+        }
+        return L"no error";
+    };
+    EXPECT_TRUE(messageOf([] { canonicalizeUrl(L""); }).starts_with(L"Die Adresse „“ ist ungültig"));
+    EXPECT_TRUE(messageOf([] {
+                    downloadUrlToCache(L"ftp://example.org/list");
+                }).ends_with(L"Nur Adressen mit http und https können heruntergeladen werden."));
+    EXPECT_EQ(messageOf([] { OVO::CSVParser(L""); }),
+              L"Die Kopfzeile des kommagetrennten Texts enthält keine Spaltennamen.");
+    EXPECT_EQ(messageOf(throwIntCast), L"Die Zahl liegt außerhalb des zulässigen Bereichs.");
 }
 
 TEST_F(TextLanguage, IsTheSameInEveryRegion)
