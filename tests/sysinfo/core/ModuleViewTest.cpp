@@ -20,7 +20,7 @@ LoadedModule module(const std::wstring& name, const std::wstring& version = L"",
     return result;
 }
 
-const RemarkTexts kRemarks{L"", L"no record", L"elsewhere", L"no record, elsewhere"};
+const RemarkTexts kRemarks{L"", L"no version record", L"other folder", L"no version record, other folder"};
 
 std::vector<std::wstring> names(const std::vector<LoadedModule>& modules, std::wstring_view filter,
                                 const ModuleOrder& order = {})
@@ -80,7 +80,7 @@ TEST(ModuleView, RemarksNameWhatIsUnusual)
     EXPECT_EQ(remarkOn(one), Remark::NoVersionElsewhere);
     one.place = ModulePlace::Program;
     EXPECT_EQ(remarkOn(one), Remark::NoVersion);
-    EXPECT_EQ(columnText(one, ModuleColumn::Remark, kRemarks), L"no record");
+    EXPECT_EQ(columnText(one, ModuleColumn::Remark, kRemarks), L"no version record");
 }
 
 TEST(ModuleView, FoldersCountWithAllBelowThem)
