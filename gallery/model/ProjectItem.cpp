@@ -76,3 +76,23 @@ void ProjectItem::leave()
     if (ProjectItem* const folder = std::exchange(parent, nullptr))
         std::erase_if(folder->items, [this](const Pointer& item) { return item.get() == this; });
 }
+
+ProjectItem::Count ProjectItem::count() const
+{
+    if (!isFolder())
+        return {1, published ? 1 : 0};
+    Count all;
+    for (const Pointer& item : items) {
+        const Count in = item->count();
+        all.files += in.files;
+        all.published += in.published;
+    }
+    return all;
+}
+
+void ProjectItem::publish(bool publishedNow)
+{
+    published = publishedNow;
+    for (const Pointer& item : items)
+        item->publish(publishedNow);
+}

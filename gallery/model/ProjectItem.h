@@ -23,6 +23,7 @@ struct ProjectItem
     Kind kind = Kind::File;
     std::vector<Pointer> items;
     ProjectItem* parent = nullptr;
+    bool published = false; ///< the user's mark, of files only
 
     static Pointer make(std::wstring name, Kind kind, std::vector<Pointer> items = {});
 
@@ -33,6 +34,16 @@ struct ProjectItem
     bool isFolder() const { return kind <= Kind::BrokenFolder; }
     bool isSorted() const { return kind == Kind::SortedFolder; }
     bool isLocked() const { return kind == Kind::LockedFile; }
+
+    /// How many files are in here, and how many of them are published.
+    struct Count
+    {
+        int files = 0;
+        int published = 0;
+    };
+    Count count() const;
+    /// Marks this file, or all in this folder.
+    void publish(bool published);
 
     /// Whether `other` is this item or somewhere in it.
     bool holds(const ProjectItem& other) const;

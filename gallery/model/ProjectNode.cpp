@@ -184,3 +184,22 @@ void ProjectNode::dragEnding(MultiTreeCtrl& tree, DWORD effect)
     if (hTreeItem())
         tree.DeleteItem(hTreeItem());
 }
+
+// The check box
+
+MultiTreeCtrl::Checkable::Check ProjectNode::check() const
+{
+    const ProjectItem::Count count = m_item->count();
+    if (count.published == 0)
+        return count.files == 0 ? Check::None : Check::Off;
+    return count.published == count.files ? Check::On : Check::Mixed;
+}
+
+/// What is around and below shows it too.
+void ProjectNode::setCheck(MultiTreeCtrl& tree, bool on)
+{
+    m_item->publish(on);
+    const OVO::Handle<Node> held(this);
+    for (auto node = tree.beginAll(); node != tree.end(); ++node)
+        tree.updateUI(*node);
+}

@@ -5,7 +5,7 @@
 
 #include <ovoui/tree/MultiTreeCtrl.h>
 
-class ProjectNode : public MultiTreeCtrl::Node
+class ProjectNode : public MultiTreeCtrl::Node, public MultiTreeCtrl::Checkable
 {
 public:
     explicit ProjectNode(ProjectItem::Pointer item);
@@ -31,6 +31,10 @@ public:
     int openImage() const override;
     bool canRename() const override;
     bool canErase() const override;
+
+    // Its check box, where the tree shows them: a folder's stands for all in it
+    Check check() const override;
+    void setCheck(MultiTreeCtrl& tree, bool on) override;
 
 private:
     void sortAnew(MultiTreeCtrl& tree);

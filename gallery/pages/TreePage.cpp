@@ -1,9 +1,14 @@
 #include "TreePage.h"
 
+#include "model/ProjectNode.h"
 #include "resource.h"
+
+#include <ovoui/lists/ListFinder.h>
 
 BEGIN_MESSAGE_MAP(TreePage, GalleryPage)
     ON_BN_CLICKED(IDC_TREE_READ_ONLY, &TreePage::OnReadOnly)
+    ON_BN_CLICKED(IDC_TREE_EXTRAS, &TreePage::OnExtras)
+    ON_EN_CHANGE(IDC_TREE_FILTER, &TreePage::OnFilter)
 END_MESSAGE_MAP()
 
 TreePage::TreePage()
@@ -32,7 +37,9 @@ BOOL TreePage::OnInitDialog()
     stretch(IDC_TREE_ARCHIVE, {.moveX = 50, .growX = 50, .growY = 100});
     stretch(IDC_TREE_TEXT_LABEL, {.moveY = 100});
     stretch(IDC_TREE_TEXT, {.moveY = 100, .growX = 100});
-    stretch(IDC_TREE_READ_ONLY, {.moveY = 100});
+    for (const int id : {IDC_TREE_READ_ONLY, IDC_TREE_EXTRAS, IDC_TREE_FILTER_LABEL})
+        stretch(id, {.moveY = 100});
+    stretch(IDC_TREE_FILTER, {.moveY = 100, .growX = 100});
     return FALSE;
 }
 
@@ -49,11 +56,34 @@ void TreePage::OnReadOnly()
     m_archive.tree().setReadOnly(readOnly);
 }
 
+void TreePage::OnExtras()
+{
+    using Tree = MultiTreeCtrl;
+    const bool on = IsDlgButtonChecked(IDC_TREE_EXTRAS) == BST_CHECKED;
+    const unsigned all = Tree::RubberBand | Tree::AddRanges | Tree::FindAnywhere | Tree::CheckBoxes;
+    for (ProjectPane* const pane : {&m_project, &m_archive})
+        pane->tree().setExtras(on ? all : 0u);
+}
+
+/// Leaves what has the typed text in its name.
+void TreePage::OnFilter()
+{
+    CString typed;
+    GetDlgItemText(IDC_TREE_FILTER, typed);
+    const std::wstring part = typed.GetString();
+    const auto keeps = [part](const MultiTreeCtrl::Node& node) {
+        return containsText(static_cast<const ProjectNode&>(node).item()->name, part);
+    };
+    for (ProjectPane* const pane : {&m_project, &m_archive})
+        pane->tree().setFilter(part.empty() ? nullptr
+                                            : std::function<bool(const MultiTreeCtrl::Node&)>(keeps));
+}
+
 // Pictures
 
 std::vector<std::wstring> TreePage::poses() const
 {
-    return {L"selection", L"unfocused", L"drop", L"label", L"right-to-left"};
+    return {L"selection", L"unfocused", L"drop", L"label", L"right-to-left", L"extras"};
 }
 
 void TreePage::selectSome(ProjectTree& tree)
@@ -61,6 +91,18 @@ void TreePage::selectSome(ProjectTree& tree)
     tree.selectPath(L"/Garden/Beds (sorted)/Herbs.plan");
     const HTREEITEM herbs = tree.GetSelectedItem();
     tree.selectRange(herbs, tree.GetNextItem(tree.GetNextItem(herbs, TVGN_NEXTVISIBLE), TVGN_NEXTVISIBLE));
+}
+
+/// Check boxes, and what a filter leaves.
+bool TreePage::poseExtras(ProjectTree& tree)
+{
+    CheckDlgButton(IDC_TREE_EXTRAS, BST_CHECKED);
+    OnExtras();
+    for (auto node = tree.beginSelected(); node != tree.end(); ++node)
+        dynamic_cast<ProjectNode&>(*node).setCheck(tree, true);
+    m_archive.tree().Expand(m_archive.tree().GetRootItem(), TVE_EXPAND);
+    SetDlgItemText(IDC_TREE_FILTER, L"e");
+    return true;
 }
 
 bool TreePage::pose(const std::wstring& name)
@@ -80,6 +122,8 @@ bool TreePage::pose(const std::wstring& name)
         m_archive.tree().SetInsertMark(m_archive.tree().GetChildItem(folder), TRUE);
         return true;
     }
+    if (name == L"extras")
+        return poseExtras(tree);
     if (name == L"label")
         return tree.EditLabel(tree.GetSelectedItem()) != nullptr;
     if (name != L"right-to-left")

@@ -18,11 +18,14 @@ protected:
     void DoDataExchange(CDataExchange* exchange) override;
     BOOL OnInitDialog() override;
     afx_msg void OnReadOnly();
+    afx_msg void OnExtras();
+    afx_msg void OnFilter();
     DECLARE_MESSAGE_MAP()
 
 private:
     void createPane(ProjectPane& pane, int id);
     void selectSome(ProjectTree& tree);
+    bool poseExtras(ProjectTree& tree);
 
     ProjectPane m_project;
     ProjectPane m_archive;
