@@ -1,5 +1,7 @@
 #include "GuiThread.h"
 
+#include <afxwin.h>
+
 #include <future>
 #include <map>
 #include <mutex>
