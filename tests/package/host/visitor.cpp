@@ -1,4 +1,4 @@
-// Starts a program, waits until it shows its main window, closes that, and gives the program's own exit code.
+// Starts a program, waits until it shows its main window, closes that, and looks how the program ends.
 #include <windows.h>
 
 #include <cstdio>
@@ -50,7 +50,8 @@ int visit(const PROCESS_INFORMATION& program)
         return complain("the program does not end when its window is closed");
     DWORD code = 0;
     ::GetExitCodeProcess(program.hProcess, &code);
-    return static_cast<int>(code);
+    // The code of an exception; the framework ends with the argument of whatever message was the last one.
+    return code & 0x80000000 ? complain("the program has crashed") : 0;
 }
 
 } // namespace
