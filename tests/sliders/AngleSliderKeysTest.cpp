@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 using namespace ovo::testkit;
@@ -110,6 +111,25 @@ TEST_F(AngleSliderKeys, UnaskedTheKeyboardDoesNothing)
     EXPECT_EQ(::GetFocus(), wheel->m_hWnd) << "a click does not take the focus";
 }
 
+TEST_F(AngleSliderKeys, TheFocusIsPaintedAsItComesAndGoes)
+{
+    wheel->SetFocus();
+    const Picture without = Picture::ofClient(*round);
+    round->SetFocus();
+    EXPECT_GT(Picture::ofClient(*round).differences(without), 20);
+    wheel->SetFocus();
+    EXPECT_EQ(Picture::ofClient(*round).differences(without), 0);
+}
+
+TEST_F(AngleSliderKeys, InADialogTheKeysAreItsOwn)
+{
+    constexpr LRESULT kKeys = DLGC_WANTARROWS | DLGC_WANTCHARS;
+    EXPECT_EQ(round->SendMessage(WM_GETDLGCODE) & kKeys, kKeys);
+    round->SetFocus();
+    user.type(L"4").waitFor("the edit", [&] { return edit() != nullptr; });
+    EXPECT_TRUE(::SendMessageW(edit(), WM_GETDLGCODE, 0, 0) & DLGC_WANTALLKEYS) << "Enter and Escape too";
+}
+
 TEST_F(AngleSliderKeys, AClickTakesTheFocusWhichIsMarked)
 {
     wheel->SetFocus();
@@ -138,6 +158,12 @@ TEST_F(AngleSliderKeys, ShiftSnapsADrag)
     for (const auto& told : parent.told)
         EXPECT_EQ(told.second % 15, 0) << told.second;
     EXPECT_NE(round->GetPos(), 0);
+
+    parent.told.clear();
+    user.press(Spot{*round, CPoint(104, 20)}).moveBy(-30, 0).moveBy(-5, 0).release();
+    EXPECT_TRUE(std::any_of(parent.told.begin(), parent.told.end(), [](const auto& told) {
+        return told.second % 15 != 0;
+    })) << "without Shift it takes any angle";
 }
 
 TEST_F(AngleSliderKeys, ANumberIsTypedIntoASmallEdit)

@@ -378,6 +378,29 @@ TEST_F(AngleSlider, TheAngleIsPrintedInTheMiddle)
     EXPECT_FALSE(sameText(digits(725), digits(5))) << "one turn only: 365";
 }
 
+TEST_F(AngleSlider, TheNumberStandsInABoxAPixelWiderOnEitherSide)
+{
+    round->SetPos(47); // the quarters are far from the middle
+    const Picture picture = Picture::ofClient(round->m_hWnd);
+    CClientDC dc(round.get());
+    CGdiObject* const old = dc.SelectStockObject(DEFAULT_GUI_FONT);
+    const CSize size = dc.GetTextExtent(L"47", 2);
+    dc.SelectObject(static_cast<CFont*>(old));
+    const CRect box(CPoint((200 - size.cx) / 2 + 2 - 1, (36 - size.cy) / 2 + 2), CSize(size.cx + 2, size.cy));
+    const COLORREF ground = ::GetSysColor(COLOR_WINDOW);
+    for (const int x : {box.left, box.right - 1L})
+        for (int y = box.top; y < box.bottom; ++y)
+            EXPECT_EQ(picture.at(x, y), ground) << x << ", " << y;
+    for (int x = box.left; x < box.right; ++x) {
+        EXPECT_NE(picture.at(x, box.top - 1), ground) << "above, at " << x;
+        EXPECT_NE(picture.at(x, box.bottom), ground) << "below, at " << x;
+    }
+    for (int y = box.top; y < box.bottom; ++y) {
+        EXPECT_NE(picture.at(box.left - 1, y), ground) << "to the left";
+        EXPECT_NE(picture.at(box.right, y), ground) << "to the right";
+    }
+}
+
 TEST_F(AngleSlider, ADisabledOneIsGreyWithoutANumber)
 {
     round->SetPos(12);
@@ -385,6 +408,10 @@ TEST_F(AngleSlider, ADisabledOneIsGreyWithoutANumber)
     const Picture picture = Picture::ofClient(round->m_hWnd);
     EXPECT_EQ(picture.count(::GetSysColor(COLOR_WINDOW), 0, CRect(3, 3, 201, 37)), 0) << "no bright bands";
     EXPECT_EQ(picture.count(::GetSysColor(COLOR_WINDOWTEXT), 0, CRect(80, 8, 124, 32)), 0);
+    for (int x = 2; x < 202; ++x)
+        EXPECT_GE(GetGValue(picture.at(x, 20)), GetGValue(::GetSysColor(COLOR_GRAYTEXT))) << "at " << x;
+    round->SetPos(17); // a rib on
+    EXPECT_EQ(Picture::ofClient(round->m_hWnd).differences(picture), 0) << "every rib is like the others";
     round->EnableWindow();
     EXPECT_GT(Picture::ofClient(round->m_hWnd).differences(picture), 0);
 }

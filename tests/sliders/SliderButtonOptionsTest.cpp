@@ -255,6 +255,7 @@ TEST_F(SliderButtonOptions, ShiftMakesStepsFiner)
     user.holding(VK_SHIFT).key(VK_RIGHT, 2).waitFor("two fine steps", [&] {
         return buddyText() == L"50,3 mm";
     });
+    user.holding(VK_SHIFT).key(VK_LEFT).waitFor("one back", [&] { return buddyText() == L"50,2 mm"; });
     user.key(VK_RIGHT).waitFor("a step", [&] { return buddyText() == L"51,0 mm"; });
     user.key(VK_ESCAPE).waitFor("the text from before", [&] { return buddyText() == L"50,1 mm"; });
 }
