@@ -166,6 +166,15 @@ LRESULT GalleryFrame::OnResolutionChanged(WPARAM, LPARAM place)
     return 0;
 }
 
+/// An edit control of several lines takes Tab itself, and would only lead on inside its own dialog.
+static bool leavesText(const MSG& message)
+{
+    wchar_t kind[8]{};
+    ::GetClassNameW(message.hwnd, kind, 8);
+    return message.message == WM_KEYDOWN && message.wParam == VK_TAB && ::GetKeyState(VK_CONTROL) >= 0 &&
+           ::lstrcmpiW(kind, L"Edit") == 0 && (::GetWindowLongW(message.hwnd, GWL_STYLE) & ES_MULTILINE);
+}
+
 // Tab and mnemonics reach the page list and the log as well as the page; Enter belongs to the page, whose
 // default button it presses.
 BOOL GalleryFrame::PreTranslateMessage(MSG* message)
@@ -174,6 +183,10 @@ BOOL GalleryFrame::PreTranslateMessage(MSG* message)
         return FALSE; // the keys belong to the modal box that is open
     if (CFrameWnd::PreTranslateMessage(message))
         return TRUE;
+    if (leavesText(*message)) {
+        ::SetFocus(::GetNextDlgTabItem(m_hWnd, message->hwnd, ::GetKeyState(VK_SHIFT) < 0));
+        return TRUE;
+    }
     const HWND self = m_hWnd;
     const bool forPage = message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
     const BOOL taken = forPage ? m_page && m_page->IsDialogMessage(message) : IsDialogMessage(message);

@@ -15,6 +15,9 @@ public:
     /// Back to that place.
     void fit();
 
+    /// Keys of dialogs are handled by the frame: Tab goes on behind this dialog's last control.
+    BOOL PreTranslateMessage(MSG* message) override { return CWnd::PreTranslateMessage(message); }
+
 protected:
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     // It is no dialog to be closed.

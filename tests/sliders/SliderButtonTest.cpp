@@ -127,10 +127,14 @@ TEST_F(SliderButton, ThePopupOpensInFrontOfOtherWindows)
     palette.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP | WS_VISIBLE,
                      CRect(under.left - 250, under.bottom, under.right + 250, under.bottom + 100), &parent,
                      0);
-    open();
-    CRect place;
-    ::GetWindowRect(popup(), &place);
-    EXPECT_EQ(::GetAncestor(::WindowFromPoint(place.CenterPoint()), GA_ROOT), popup());
+    for (int time = 1; time <= 2; ++time) {
+        palette.SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        open();
+        CRect place;
+        ::GetWindowRect(popup(), &place);
+        EXPECT_EQ(::GetAncestor(::WindowFromPoint(place.CenterPoint()), GA_ROOT), popup()) << time;
+        user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+    }
 }
 
 TEST_F(SliderButton, TheFocusOfThePopupIsItsSliders)
