@@ -4,7 +4,7 @@
 
 ColourSheetPage::ColourSheetPage(const PickerHost& host, const Colour& colour)
     : CPropertyPage(IDD_COLOUR_SHEET_PAGE)
-    , m_picker(m_listener, colour, m_tabs)
+    , m_tabs(m_listener, colour)
 {
     m_listener.changed = [this, &host](const Colour& picked, bool final) {
         SetModified();
@@ -21,9 +21,7 @@ void ColourSheetPage::DoDataExchange(CDataExchange* exchange)
 BOOL ColourSheetPage::OnInitDialog()
 {
     CPropertyPage::OnInitDialog();
-    m_tabs.InsertItem(0, L"Leaves");
-    m_tabs.InsertItem(1, L"Bark");
-    m_picker.open();
+    m_tabs.open({L"Leaves", L"Bark"});
     return TRUE;
 }
 

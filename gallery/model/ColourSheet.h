@@ -11,7 +11,7 @@ class ColourSheetPage : public CPropertyPage
 public:
     ColourSheetPage(const PickerHost& host, const Colour& colour);
 
-    Colour colour() { return m_picker.GetColour(); }
+    Colour colour() { return m_tabs.colour(); }
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
@@ -19,8 +19,7 @@ protected:
 
 private:
     PickerHost m_listener; ///< to the picker, before the host
-    CShadedTabCtrl m_tabs;
-    PickerPage m_picker;
+    PickerTabs m_tabs;
 };
 
 /// A page with numbers, which are exchanged when the user leaves it.

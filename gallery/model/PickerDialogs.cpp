@@ -87,9 +87,21 @@ void PickerPage::open()
     ShowWindow(SW_SHOW);
 }
 
+PickerTabs::PickerTabs(const PickerHost& host, const Colour& colour)
+    : m_picker(host, colour, *this)
+{
+}
+
+void PickerTabs::open(std::initializer_list<LPCTSTR> names)
+{
+    for (const LPCTSTR name : names)
+        InsertItem(GetItemCount(), name);
+    m_picker.open();
+}
+
 TabbedPicker::TabbedPicker(const PickerHost& host, const Colour& colour, CWnd* parent)
     : CDialog(IDD_TABBED_PICKER, parent)
-    , m_page(host, colour, m_tabs)
+    , m_tabs(host, colour)
 {
 }
 
@@ -102,8 +114,6 @@ void TabbedPicker::DoDataExchange(CDataExchange* exchange)
 BOOL TabbedPicker::OnInitDialog()
 {
     CDialog::OnInitDialog();
-    m_tabs.InsertItem(0, L"Colour");
-    m_tabs.InsertItem(1, L"Line");
-    m_page.open();
+    m_tabs.open({L"Colour", L"Line"});
     return TRUE;
 }

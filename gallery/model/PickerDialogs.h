@@ -6,6 +6,7 @@
 
 #include <array>
 #include <functional>
+#include <initializer_list>
 
 /// What the gallery wants to hear of a picker.
 struct PickerHost
@@ -65,19 +66,33 @@ private:
     CShadedTabCtrl& m_tabs;
 };
 
-/// A dialog with such a page.
+/// A shaded tab control with such a page.
+class PickerTabs : public CShadedTabCtrl
+{
+public:
+    PickerTabs(const PickerHost& host, const Colour& colour);
+
+    /// Makes the tabs and shows the picker; to be called when the tab control has its window.
+    void open(std::initializer_list<LPCTSTR> names);
+
+    Colour colour() { return m_picker.GetColour(); }
+
+private:
+    PickerPage m_picker;
+};
+
+/// A dialog with such a tab control.
 class TabbedPicker : public CDialog
 {
 public:
     TabbedPicker(const PickerHost& host, const Colour& colour, CWnd* parent);
 
-    Colour colour() { return m_page.GetColour(); }
+    Colour colour() { return m_tabs.colour(); }
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
     BOOL OnInitDialog() override;
 
 private:
-    CShadedTabCtrl m_tabs;
-    PickerPage m_page;
+    PickerTabs m_tabs;
 };

@@ -92,6 +92,7 @@ void ColPicker::DoInit(CWnd* wnd, CComboBox& spaceCombo)
 
     if (!isMode(m_mode)) // settings may have been spoilt
         m_mode = ColPickerModeRGB;
+    m_mirrored = (wnd->GetExStyle() & WS_EX_LAYOUTRTL) != 0;
     m_patchRect = takePlace(wnd, IDC_PATCH);
     m_wheelRect = takePlace(wnd, IDC_WHEEL);
     if (m_customAreaId != 0)

@@ -187,6 +187,7 @@ protected:
 
 private:
     bool m_initialised = false;
+    bool m_mirrored = false; // the dialog is laid out from right to left
 
 protected:
     CWinApp& m_app; ///< for settings in its profile
@@ -233,12 +234,13 @@ private:
     void moveShade(CWnd* wnd, ovoui::colour::WheelKey key);
     void moveToSwatch(CWnd* wnd, ovoui::colour::WheelKey key);
     void changeByKey(CWnd* wnd, const Colour& colour);
-    void drawFocusMark(CDC* dc) const;
+    void drawFocusMark(CDC* dc, CSize offset) const;
     void drawSwatchMark(CDC* dc) const;
     std::wstring shadeText() const;
     void announceColour();
 
     // Drawing
+    CPoint asDrawn(CPoint point) const;
     CPoint hueMarkerPoint() const;
     CPoint triMarkerPoint() const;
     CRect triMarkerRect() const;

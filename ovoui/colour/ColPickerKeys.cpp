@@ -38,17 +38,15 @@ Colour colourOf(const Shade& shade, const Colour& like)
     return Colour::hlsa(like.h_hls(), shade.lightness / 100.0, shade.saturation / 100.0, like.a());
 }
 
-/// Where the dialog is mirrored, what is drawn to the right is seen to the left.
-WheelKey asSeen(WheelKey key, const CWnd& dialog)
+/// Where the dialog is mirrored, the next cell is at the left.
+WheelKey mirrored(WheelKey key)
 {
-    if (!(dialog.GetExStyle() & WS_EX_LAYOUTRTL))
-        return key;
     return key == WheelKey::Left ? WheelKey::Right : key == WheelKey::Right ? WheelKey::Left : key;
 }
 
 /// Dots in the colour of texts, the same ones each time: drawing them again changes nothing.
 template <std::size_t Points>
-void drawDots(CDC& dc, const std::array<Vector<2>, Points>& outline)
+void drawDots(CDC& dc, const std::array<Vector<2>, Points>& outline, CSize offset)
 {
     const LOGBRUSH ink{BS_SOLID, ::GetSysColor(COLOR_BTNTEXT), 0};
     CPen pen(PS_COSMETIC | PS_ALTERNATE, 1, &ink);
@@ -56,7 +54,7 @@ void drawDots(CDC& dc, const std::array<Vector<2>, Points>& outline)
     const int mode = dc.SetBkMode(TRANSPARENT);
     POINT points[Points];
     for (std::size_t i = 0; i < Points; ++i)
-        points[i] = {std::lround(outline[i].x()), std::lround(outline[i].y())};
+        points[i] = {std::lround(outline[i].x()) + offset.cx, std::lround(outline[i].y()) + offset.cy};
     dc.Polyline(points, static_cast<int>(Points));
     dc.SetBkMode(mode);
     dc.SelectObject(before);
@@ -86,8 +84,10 @@ void ColPicker::makeStops(CWnd* wnd)
     m_stops->ring->create(*wnd, m_wheelRect, Stops::kRingId, wnd->GetDlgItem(IDC_WHEEL));
     m_stops->triangle = make(IDS_COLOUR_TRIANGLE, [this] { return shadeText(); });
     const PixelRect& inner = m_wheel->triangle().rect();
-    m_stops->triangle->create(*wnd, {inner.left, inner.top, inner.right, inner.bottom}, Stops::kTriangleId,
-                              m_stops->ring.get());
+    CRect place(asDrawn({inner.left, inner.top}), asDrawn({inner.right - 1, inner.bottom - 1}));
+    place.NormalizeRect();
+    place.BottomRight() += CSize(1, 1);
+    m_stops->triangle->create(*wnd, place, Stops::kTriangleId, m_stops->ring.get());
     m_stops->toldHue = hueOf(m_colour);
     m_stops->toldShade = shadeOf(m_colour);
     if (m_customAreaId != 0)
@@ -164,13 +164,12 @@ void ColPicker::carryOutKey(CWnd* wnd, const PickerStop& stop)
     } else if (&stop == m_stops->swatches.get() && key == VK_INSERT) {
         keepInSwatch(wnd, m_stops->swatch);
     } else if (const auto move = wheelKeyOf(key)) {
-        const WheelKey seen = asSeen(*move, *wnd);
         if (&stop == m_stops->ring.get())
-            moveHue(wnd, seen);
+            moveHue(wnd, *move);
         else if (&stop == m_stops->triangle.get())
-            moveShade(wnd, seen);
+            moveShade(wnd, *move);
         else
-            moveToSwatch(wnd, seen);
+            moveToSwatch(wnd, m_mirrored ? mirrored(*move) : *move);
     }
 }
 
@@ -213,15 +212,16 @@ void ColPicker::changeByKey(CWnd* wnd, const Colour& colour)
 
 // What is shown and told
 
-/// Behind the markers, which invert what is under them.
-void ColPicker::drawFocusMark(CDC* dc) const
+/// Behind the markers, which invert what is under them. `offset` leads from the wheel's coordinates to those
+/// of the DC.
+void ColPicker::drawFocusMark(CDC* dc, CSize offset) const
 {
     if (!m_stops)
         return;
     if (m_stops->ring->hasFocus())
-        drawDots(*dc, focusMark(m_wheel->ring()));
+        drawDots(*dc, focusMark(m_wheel->ring()), offset);
     else if (m_stops->triangle->hasFocus())
-        drawDots(*dc, focusMark(m_wheel->triangle()));
+        drawDots(*dc, focusMark(m_wheel->triangle()), offset);
 }
 
 /// A frame in black and one in white, which show on every colour.

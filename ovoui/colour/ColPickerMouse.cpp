@@ -35,9 +35,10 @@ bool isButtonDown()
 /// None, too, where the swatches are.
 ColPicker::Drag ColPicker::partAt(CPoint point) const
 {
-    if (hasWheel() && m_wheel->triangle().test(vectorOf(point), kReach).inTriangle)
+    const Vector<2> inWheel = vectorOf(asDrawn(point));
+    if (hasWheel() && m_wheel->triangle().test(inWheel, kReach).inTriangle)
         return Drag::Triangle;
-    if (hasWheel() && m_wheel->ring().test(vectorOf(point), kReach).onRing)
+    if (hasWheel() && m_wheel->ring().test(inWheel, kReach).onRing)
         return Drag::Ring;
     return m_patchRect.PtInRect(point) ? Drag::Patch : Drag::None;
 }
@@ -45,11 +46,12 @@ ColPicker::Drag ColPicker::partAt(CPoint point) const
 /// The colour to which a drag in the triangle or on the ring leads.
 Colour ColPicker::colourAt(Drag part, CPoint point) const
 {
+    const Vector<2> inWheel = vectorOf(asDrawn(point));
     if (part == Drag::Triangle) {
-        const ShadeTriangle::Hit hit = m_wheel->triangle().test(vectorOf(point), kReach);
+        const ShadeTriangle::Hit hit = m_wheel->triangle().test(inWheel, kReach);
         return Colour::hlsa(m_colour.h_hls(), hit.lightness, hit.saturation, m_colour.a());
     }
-    const HueRing::Hit hit = m_wheel->ring().test(vectorOf(point), kReach);
+    const HueRing::Hit hit = m_wheel->ring().test(inWheel, kReach);
     return Colour::hlsa(hit.hue, m_colour.l_hls(), m_colour.s_hls(), m_colour.a());
 }
 
@@ -172,7 +174,8 @@ bool ColPicker::DoLButtonDblClk(CWnd* wnd, UINT, CPoint point)
 {
     const Drag part = partAt(point);
     if (part == Drag::Ring) {
-        change(wnd, Colour::hls(m_wheel->ring().test(vectorOf(point), kReach).hue, 0.5, 1), true, true);
+        const HueRing::Hit hit = m_wheel->ring().test(vectorOf(asDrawn(point)), kReach);
+        change(wnd, Colour::hls(hit.hue, 0.5, 1), true, true);
         return true;
     }
     return part != Drag::None || (m_customAreaId != 0 && m_customRect.PtInRect(point));

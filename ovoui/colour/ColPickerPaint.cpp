@@ -5,10 +5,12 @@
 #include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/colour/core/Round.h>
 #include <ovoui/colour/core/SwatchLayout.h>
+#include <ovoui/frame/LeftToRight.h>
 
 #include <utility>
 
 using namespace ovoui::colour;
+using ovoui::frame::LeftToRight;
 
 namespace
 {
@@ -42,25 +44,38 @@ PixelRect placeOf(const CWnd& control, const CWnd& wnd)
     return {place.left, place.top, place.right, place.bottom};
 }
 
+/// Puts a DC back into its state.
+class DcState
+{
+public:
+    explicit DcState(CDC& dc)
+        : m_dc(dc)
+        , m_state(dc.SaveDC())
+    {
+    }
+    ~DcState() { m_dc.RestoreDC(m_state); }
+    DcState(const DcState&) = delete;
+    DcState& operator=(const DcState&) = delete;
+
+private:
+    CDC& m_dc;
+    int m_state;
+};
+
 /// Pen and brush for outlines that invert what is under them.
 class Inverting
 {
 public:
     explicit Inverting(CDC& dc)
-        : m_dc(dc)
-        , m_state(dc.SaveDC())
+        : m_state(dc)
     {
         dc.SetROP2(R2_XORPEN);
         dc.SelectStockObject(WHITE_PEN);
         dc.SelectStockObject(HOLLOW_BRUSH);
     }
-    ~Inverting() { m_dc.RestoreDC(m_state); }
-    Inverting(const Inverting&) = delete;
-    Inverting& operator=(const Inverting&) = delete;
 
 private:
-    CDC& m_dc;
-    int m_state;
+    DcState m_state;
 };
 
 RGBQUAD quadOf(const Colour& colour)
@@ -168,8 +183,12 @@ void ColPicker::drawWheel(CWnd* wnd, CPaintDC* dc)
     if (!fillMarkerAreas(wnd, dc) || !hasWheel())
         return;
     m_wheel->setHue(m_colour.h_hls());
-    m_wheel->draw(dc->m_hDC);
-    drawFocusMark(dc);
+    {
+        const LeftToRight plain(*dc);
+        const CPoint place = plain.place(m_wheelRect).TopLeft();
+        m_wheel->draw(dc->m_hDC, place);
+        drawFocusMark(dc, place - m_wheelRect.TopLeft());
+    }
     // They are gone from what was painted anew, and nothing else is drawn to.
     if (std::exchange(m_hueMarkerDrawn, false))
         draw_hue_marker(dc, m_hueMarker);
@@ -184,23 +203,21 @@ bool ColPicker::fillMarkerAreas(CWnd* wnd, CDC* dc)
     if (!m_hueMarkerDrawn && !m_triMarkerDrawn)
         return true;
     const Lifeline::Watch watch(m_lifeline);
-    HBRUSH brush = ::GetSysColorBrush(COLOR_BTNFACE);
-    CPoint origin;
+    const DcState state(*dc);
+    const HBRUSH face = ::GetSysColorBrush(COLOR_BTNFACE);
     CShadedTabCtrl* const tabs = tabCtrl();
-    const bool shaded = tabs ? tabs->GetBackgroundBrush(brush, origin, wnd)
-                             : CShadedTabCtrl::GetBackgroundBrush(wnd, brush, origin);
     if (!watch.alive() || !wnd->m_hWnd)
         return false;
-    CPoint before;
-    if (shaded)
-        before = dc->SetBrushOrg(origin);
+    // The tab control sets the brush's origin, as for the dialog itself.
+    const HBRUSH brush = tabs ? tabs->AmendCtlColor(dc, CTLCOLOR_DLG, face, wnd)
+                              : CShadedTabCtrl::AmendCtlColor(dc, wnd, CTLCOLOR_DLG, face);
+    if (!watch.alive() || !wnd->m_hWnd)
+        return false;
     if (m_hueMarkerDrawn)
         ::FillRect(dc->m_hDC, &m_hueMarkerRect, brush);
     const CRect triangleMarker = triMarkerRect();
     if (m_triMarkerDrawn)
         ::FillRect(dc->m_hDC, &triangleMarker, brush);
-    if (shaded)
-        dc->SetBrushOrg(before);
     return true;
 }
 
@@ -216,14 +233,21 @@ CRect ColPicker::triMarkerRect() const
     return squareAround(m_triMarker, markerRadius());
 }
 
+/// Ring and triangle look the same in a mirrored dialog. The point of the dialog where a point of the wheel
+/// is drawn, and the other way about.
+CPoint ColPicker::asDrawn(CPoint point) const
+{
+    return m_mirrored ? CPoint(m_wheelRect.left + m_wheelRect.right - 1 - point.x, point.y) : point;
+}
+
 CPoint ColPicker::hueMarkerPoint() const
 {
-    return pointOf(m_wheel->ring().marker(m_colour.h_hls()));
+    return asDrawn(pointOf(m_wheel->ring().marker(m_colour.h_hls())));
 }
 
 CPoint ColPicker::triMarkerPoint() const
 {
-    return pointOf(m_wheel->triangle().marker(m_colour.l_hls(), m_colour.s_hls()));
+    return asDrawn(pointOf(m_wheel->triangle().marker(m_colour.l_hls(), m_colour.s_hls())));
 }
 
 void ColPicker::draw_hue_marker(CDC* dc)
@@ -265,14 +289,17 @@ void ColPicker::draw_tri_marker(CDC* dc, CPoint& point)
 
 void ColPicker::drawCircle(CDC* dc, CPoint centre) const
 {
-    dc->Ellipse(squareAround(centre, markerRadius()));
+    const LeftToRight plain(*dc);
+    dc->Ellipse(plain.place(squareAround(centre, markerRadius())));
 }
 
 /// The middle, where both lines invert, shows the picked colour.
 void ColPicker::drawCross(CDC* dc, CPoint centre) const
 {
-    const CRect square = squareAround(centre, markerRadius());
-    POINT upright[]{{centre.x, square.top}, {centre.x, square.bottom}};
+    const LeftToRight plain(*dc);
+    const CRect square = plain.place(squareAround(centre, markerRadius()));
+    const int middle = square.left + markerRadius();
+    POINT upright[]{{middle, square.top}, {middle, square.bottom}};
     POINT level[]{{square.left, centre.y}, {square.right, centre.y}};
     dc->Polyline(upright, 2);
     dc->Polyline(level, 2);

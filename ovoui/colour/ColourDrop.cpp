@@ -6,6 +6,7 @@
 #include <ovoui/colour/PickerStop.h>
 #include <ovoui/frame/BufferedPaint.h>
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/frame/OwnWindow.h>
 #include <ovouires/resource.h>
 
 #include <oleacc.h>
@@ -74,10 +75,7 @@ ColourDrop::~ColourDrop()
 bool ColourDrop::open(CWnd& button)
 {
     m_button = &button;
-    const LPCTSTR windowClass =
-        AfxRegisterWndClass(CS_DROPSHADOW | CS_SAVEBITS, ::LoadCursorW(nullptr, IDC_ARROW));
-    if (!CreateEx(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TOPMOST, windowClass, L"", WS_POPUP, CRect(),
-                  &button, 0))
+    if (!frame::createPopup(*this, frame::arrowClass(CS_DROPSHADOW | CS_SAVEBITS), button))
         return false;
     m_identity->window = m_hWnd;
     CClientDC dc(this);

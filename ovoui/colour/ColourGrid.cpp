@@ -6,6 +6,7 @@
 #include <ovoui/colour/PickerStop.h>
 #include <ovoui/colour/core/CellLayout.h>
 #include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/frame/OwnWindow.h>
 #include <ovouires/resource.h>
 
 #include <oleacc.h>
@@ -66,8 +67,7 @@ CColourGrid::~CColourGrid()
 
 BOOL CColourGrid::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
-    const LPCTSTR windowClass = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
-    if (!CWnd::Create(windowClass, L"", style | WS_CHILD, rect, parent, id))
+    if (!CWnd::Create(ovoui::frame::arrowClass(), L"", style | WS_CHILD, rect, parent, id))
         return FALSE;
     m_identity->window = m_hWnd;
     return TRUE;

@@ -15,7 +15,6 @@ ovoui::colour::PixelRect pixelRect(const CRect& rect)
 ColourWheelImage::ColourWheelImage(const CRect& wheel)
     : m_width(std::max(0, wheel.Width()))
     , m_height(std::max(0, wheel.Height()))
-    , m_place(wheel.TopLeft())
     , m_raster(pixelRect(wheel))
     , m_pixels(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height))
     , m_valid(m_width > 0 && m_height > 0)
@@ -55,7 +54,7 @@ void ColourWheelImage::push()
         m_status = m_bitmap->UnlockBits(&data);
 }
 
-void ColourWheelImage::draw(HDC dc)
+void ColourWheelImage::draw(HDC dc, CPoint place)
 {
     if (!m_valid || m_status != Gdiplus::Ok)
         return;
@@ -63,5 +62,5 @@ void ColourWheelImage::draw(HDC dc)
     // With the size given, the resolutions of bitmap and device have no say.
     graphics.SetInterpolationMode(Gdiplus::InterpolationModeNearestNeighbor);
     graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
-    graphics.DrawImage(m_bitmap.get(), m_place.x, m_place.y, m_width, m_height);
+    graphics.DrawImage(m_bitmap.get(), place.x, place.y, m_width, m_height);
 }

@@ -33,15 +33,14 @@ public:
 
     /// Renders the triangle of a hue. Nothing is done when it has that hue already.
     void setHue(Angle hue);
-    /// Draws all at the wheel's place.
-    void draw(HDC dc);
+    /// Draws all, with the upper left corner at this place.
+    void draw(HDC dc, CPoint place);
 
 private:
     void push();
 
     int m_width;
     int m_height;
-    CPoint m_place;
     ovoui::colour::WheelRaster m_raster;
     std::vector<std::uint32_t> m_pixels; ///< opaque where something is
     bool m_valid;

@@ -3,6 +3,7 @@
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/core/ScreenPick.h>
 #include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/frame/OwnWindow.h>
 
 #include <string>
 
@@ -69,8 +70,7 @@ Magnifier::~Magnifier()
 
 bool Magnifier::create(CWnd& owner)
 {
-    if (!CreateEx(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TOPMOST, AfxRegisterWndClass(0), L"", WS_POPUP,
-                  CRect(), &owner, 0))
+    if (!frame::createPopup(*this, AfxRegisterWndClass(0), owner))
         return false;
     CClientDC dc(this);
     m_zoom = ::MulDiv(kZoom, dc.GetDeviceCaps(LOGPIXELSX), USER_DEFAULT_SCREEN_DPI);

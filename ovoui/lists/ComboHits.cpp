@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/frame/OwnWindow.h>
 #include <ovoui/lists/ComboBox.h>
 #include <ovoui/lists/core/ComboItemLayout.h>
 
@@ -96,10 +97,8 @@ bool ComboHits::create()
     if (m_hWnd)
         return true;
     CWnd* const top = m_combo.GetTopLevelParent();
-    if (!top || !CreateEx(WS_EX_TOOLWINDOW | WS_EX_TOPMOST | WS_EX_NOACTIVATE,
-                          AfxRegisterWndClass(CS_DROPSHADOW, ::LoadCursorW(nullptr, IDC_ARROW),
-                                              reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1)),
-                          L"", WS_POPUP | WS_BORDER, 0, 0, 0, 0, top->m_hWnd, nullptr))
+    const LPCTSTR windowClass = frame::arrowClass(CS_DROPSHADOW, reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
+    if (!top || !frame::createPopup(*this, windowClass, *top, WS_BORDER))
         return false;
     m_top = top->m_hWnd;
     ::SetWindowSubclass(m_top, &topProcedure, reinterpret_cast<UINT_PTR>(this),

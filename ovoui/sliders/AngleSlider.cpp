@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/BufferedPaint.h>
 #include <ovoui/frame/Lifeline.h>
+#include <ovoui/frame/OwnWindow.h>
 #include <ovoui/sliders/AngleSliderOptions.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
 #include <ovoui/sliders/core/CylinderPicture.h>
@@ -66,8 +67,8 @@ CAngleSlider::~CAngleSlider() = default;
 
 BOOL CAngleSlider::createNamed(LPCTSTR text, DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
-    const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursorW(nullptr, IDC_ARROW),
-                                                    reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
+    const LPCTSTR windowClass =
+        ovoui::frame::arrowClass(CS_DBLCLKS, reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1));
     return CWnd::Create(windowClass, text, style, rect, parent, id);
 }
 

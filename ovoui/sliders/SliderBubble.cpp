@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/BufferedPaint.h>
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/frame/OwnWindow.h>
 
 #include <afxcmn.h>
 
@@ -37,8 +38,7 @@ SliderBubble::~SliderBubble()
 
 void SliderBubble::show(CWnd& slider, const std::wstring& text)
 {
-    if (!m_hWnd && !CreateEx(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TOPMOST, AfxRegisterWndClass(0), L"",
-                             WS_POPUP, CRect(), slider.GetParent(), 0))
+    if (!m_hWnd && !frame::createPopup(*this, AfxRegisterWndClass(0), *slider.GetParent()))
         return;
     m_text = text;
     const CRect thumb = thumbOf(slider);

@@ -214,16 +214,6 @@ TEST_F(PickerKeys, AnotherColourIsWhereTheKeysGoOnFrom)
     EXPECT_EQ(saturation(), 20);
 }
 
-TEST_F(PickerKeys, InAMirroredDialogTheMarkerGoesWhereTheKeyPoints)
-{
-    openInTriangle(0.5, 0.5);
-    picker->ModifyStyleEx(0, WS_EX_LAYOUTRTL);
-    user.key(VK_LEFT);
-    EXPECT_EQ(lightness(), 51);
-    user.key(VK_RIGHT, 2);
-    EXPECT_EQ(lightness(), 49);
-}
-
 // Focus
 
 TEST_F(PickerKeys, APressOfTheMouseTakesTheFocusAlong)

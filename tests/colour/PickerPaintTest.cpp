@@ -3,10 +3,7 @@
 #include <testkit/GdiCounter.h>
 #include <testkit/ImportPatch.h>
 
-#include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/colour/core/WheelRaster.h>
-
-#include <ovoui/frame/ThemeData.h>
 
 #include <gdiplus.h>
 
@@ -257,84 +254,6 @@ TEST_F(PickerPaint, ANarrowAreaHasGapsOfOnePixel)
     host->UpdateWindow();
     EXPECT_EQ(host->m_swatches[1].left - host->m_swatches[0].right, 3) << "1 and what each is inset";
     EXPECT_EQ(host->m_swatches[0].Width() + 2, (host->m_customRect.Width() - 8) / 9);
-}
-
-// On a shaded tab control
-
-namespace
-{
-
-class StripedTabs : public CShadedTabCtrl
-{
-public:
-    static COLORREF pixelOf(int x, int y) { return RGB(3 * x & 0xFF, 5 * y & 0xFF, 60); }
-
-protected:
-    afx_msg LRESULT OnPrintClient(WPARAM dc, LPARAM)
-    {
-        CRect window;
-        GetWindowRect(&window);
-        for (int y = 0; y < window.Height(); ++y)
-            for (int x = 0; x < window.Width(); ++x)
-                ::SetPixelV(reinterpret_cast<HDC>(dc), x, y, pixelOf(x, y));
-        return 0;
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(StripedTabs, CShadedTabCtrl)
-    ON_MESSAGE(WM_PRINTCLIENT, &StripedTabs::OnPrintClient)
-END_MESSAGE_MAP()
-
-} // namespace
-
-TEST_F(PickerPaint, OnAShadedTabTheMarkersGiveBackItsPattern)
-{
-    if (!CThemeData::getThemeData().IsAppThemed())
-        GTEST_SKIP() << "visual styles are off";
-    CWnd frame;
-    frame.CreateEx(0, AfxRegisterWndClass(0), L"frame", WS_POPUP, 100, 100, 460, 360, nullptr, nullptr);
-    StripedTabs tabs;
-    tabs.Create(WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(10, 10, 440, 340), &frame, 1);
-    for (const bool told : {true, false}) { // by tabCtrl, or found among the parents
-        HostPicker page(kPageTemplate, TestApp::instance(), Colour::rgb(1, 0, 0), nullptr, nullptr);
-        page.tabs = told ? &tabs : nullptr;
-        page.Create(kPageTemplate, &tabs);
-        page.SetWindowPos(nullptr, 15, 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-        page.ShowWindow(SW_SHOW);
-        present(frame);
-        std::mt19937 random(3);
-        for (int i = 0; i < 40; ++i) {
-            page.SetColour(&page, Colour::hls(Angle::degrees(i * 9), 0.5, 1), true);
-            page.UpdateWindow();
-        }
-        const Picture picture = Picture::ofClient(page.m_hWnd);
-        const CRect wheel = page.m_wheelRect;
-        const ovoui::colour::WheelRaster raster({wheel.left, wheel.top, wheel.right, wheel.bottom});
-        std::vector<std::uint32_t> pixels(static_cast<std::size_t>(wheel.Width() * wheel.Height()), 0);
-        raster.drawRing(pixels.data());
-        raster.drawTriangle(pixels.data(), Angle::degrees(0));
-        const CRect last(page.centre().x - page.outer(), page.centre().y - page.outer(), wheel.right,
-                         wheel.bottom);
-        int behind = 0;
-        int wrong = 0;
-        for (int y = 0; y < wheel.Height(); ++y)
-            for (int x = 0; x < wheel.Width(); ++x) {
-                if (pixels[static_cast<std::size_t>(y * wheel.Width() + x)] != 0)
-                    continue;
-                ++behind;
-                const COLORREF expected = StripedTabs::pixelOf(wheel.left + x + 15, wheel.top + y + 30);
-                const COLORREF inverted = expected ^ 0x00FFFFFF; // under the last markers
-                const COLORREF seen = picture.at(wheel.left + x, wheel.top + y);
-                wrong += told && seen != expected && seen != inverted;
-                wrong += !told && seen != expected && seen != inverted && seen != faceColour() &&
-                         seen != (faceColour() ^ 0x00FFFFFF);
-            }
-        EXPECT_GT(behind, 100);
-        EXPECT_EQ(wrong, 0) << told;
-        page.DestroyWindow();
-    }
-    frame.DestroyWindow();
 }
 
 // What a drag costs

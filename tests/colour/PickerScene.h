@@ -48,6 +48,7 @@ constexpr int kBareTemplate = 7103;
 constexpr int kPageTemplate = 7104;
 constexpr int kEmptyPageTemplate = 7105;
 constexpr int kPickerPageTemplate = 7106;
+constexpr int kMirroredTemplate = 7107;
 constexpr int kPickerTabs = 3600;
 constexpr int kSwatchArea = 3500;
 

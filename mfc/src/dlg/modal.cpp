@@ -3,11 +3,9 @@
 
 #include "../wnd/wndflags.h"
 #include "dialogresource.h"
-#include "lockedowner.h"
+#include "modalrun.h"
 
 #include <detail/pending.h>
-
-using afxdetail::LockedOwner;
 
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* dialogInit)
 {
@@ -65,39 +63,15 @@ INT_PTR CDialog::DoModal()
 
 INT_PTR CDialog::runModal(LPCDLGTEMPLATE dialogTemplate, HINSTANCE instance, HWND owner)
 {
-    LockedOwner locked(owner);
-    // However this ends, the owner is enabled before the dialog goes: otherwise another program's window
-    // would be activated in its place.
-    struct Close
-    {
-        CDialog& dialog;
-        LockedOwner& owner;
-        ~Close()
-        {
-            owner.unlock();
-            dialog.m_nFlags &= ~afxdetail::kContinueModal;
-            if (dialog.m_hWnd)
-                ::DestroyWindow(dialog.m_hWnd);
-        }
-    } const close{*this, locked};
-
+    afxdetail::ModalRun run(*this, owner);
     m_nModalResult = -1;
-    m_nFlags |= afxdetail::kContinueModal; // cleared by an EndDialog in OnInitDialog
     if (!createWindow(dialogTemplate, owner, instance))
         return m_nModalResult;
     if (ContinueModal()) {
         m_nModalResult = IDABORT; // unless EndDialog says better
         RunModalLoop(MLF_SHOWONIDLE | ((GetStyle() & DS_NOIDLEMSG) ? MLF_NOIDLEMSG : 0));
     }
-    if (m_hWnd)
-        SetWindowPos(nullptr, 0, 0, 0, 0,
-                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-
-    locked.unlock();
-    if (owner && ::GetActiveWindow() == m_hWnd)
-        ::SetActiveWindow(owner);
-    if (m_hWnd)
-        DestroyWindow();
+    run.finish();
     return m_nModalResult;
 }
 

@@ -1,7 +1,7 @@
 // CPropertySheet: making the window, modal and modeless.
 #include <afxdlgs.h>
 
-#include "../dlg/lockedowner.h"
+#include "../dlg/modalrun.h"
 #include "../wnd/wndflags.h"
 
 #include <detail/pending.h>
@@ -152,37 +152,13 @@ INT_PTR CPropertySheet::DoModal()
 /// CDialog do.
 INT_PTR CPropertySheet::runModal(HWND owner)
 {
-    afxdetail::LockedOwner locked(owner);
-    // However this ends, the owner is enabled before the sheet goes: otherwise another program's window would
-    // be activated in its place.
-    struct Close
-    {
-        CPropertySheet& sheet;
-        afxdetail::LockedOwner& owner;
-        ~Close()
-        {
-            owner.unlock();
-            sheet.m_nFlags &= ~afxdetail::kContinueModal;
-            if (sheet.m_hWnd)
-                ::DestroyWindow(sheet.m_hWnd);
-        }
-    } const close{*this, locked};
-
+    afxdetail::ModalRun run(*this, owner);
     m_nModalResult = -1;
-    m_nFlags |= afxdetail::kContinueModal; // cleared by an EndDialog in OnInitDialog
     if (!createWindow({*this, owner, WS_VISIBLE}))
         return m_nModalResult;
     if (ContinueModal())
         RunModalLoop(MLF_SHOWONIDLE);
-    if (m_hWnd)
-        SetWindowPos(nullptr, 0, 0, 0, 0,
-                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-
-    locked.unlock();
-    if (owner && ::GetActiveWindow() == m_hWnd)
-        ::SetActiveWindow(owner);
-    if (m_hWnd)
-        DestroyWindow();
+    run.finish();
     return m_nModalResult;
 }
 

@@ -59,6 +59,17 @@ TEST(HueRing, HuesAreGivenAsNegativeAngles)
     EXPECT_NEAR(ring.test({199.999, 210}, 0).hue.degrees(), -360, 0.001);
 }
 
+TEST(HueRing, HuesGoOnceRound)
+{
+    for (int degrees = 0; degrees < 360; ++degrees) {
+        const Angle direction = Angle::degrees(degrees);
+        const double hue =
+            ring.test({200 + 90 * direction.cos(), 300 + 90 * direction.sin()}, 0).hue.degrees();
+        EXPECT_LE(hue, 0) << degrees;
+        EXPECT_GE(hue, -360) << degrees;
+    }
+}
+
 TEST(HueRing, TheCentreBelongsToTheFirstSector)
 {
     const HueRing::Hit hit = ring.test({200, 300}, 0);

@@ -81,6 +81,19 @@ TEST(SwatchLayout, TwoRowsOfNineFillAWideArea)
     EXPECT_EQ(swatches[17].bottom, 250);
 }
 
+TEST(SwatchLayout, TheGapIsThatOfTheAreaAndThePlaceThatOfTheThirdEdit)
+{
+    SwatchPlaces moved = places(9 * 30 + 8 * 7);
+    moved.secondEdit.left += 13;
+    moved.secondEdit.right += 13;
+    moved.thirdEdit.left += 13;
+    moved.thirdEdit.right += 13;
+    const auto swatches = swatchRects(moved);
+    EXPECT_EQ(swatches[8].right, moved.thirdEdit.right);
+    EXPECT_EQ(swatches[1].left - swatches[0].right, 7);
+    EXPECT_EQ(swatches[0].top, 200) << "the area's";
+}
+
 TEST(SwatchLayout, WhatIsLeftOfTheGapsStaysAtTheLeft)
 {
     const auto swatches = swatchRects(places(9 * 30 + 8 * 7 + 5));

@@ -41,6 +41,8 @@ TEST(ShadeTriangle, TheCornersAreBlackWhiteAndThePureHue)
     expectAt(200, 50, 0.5, 1);
     for (const auto& corner : {Vector<2>(100, 250), Vector<2>(300, 250), Vector<2>(200, 50)})
         EXPECT_TRUE(triangle.test(corner, 0).inTriangle);
+    EXPECT_EQ(triangle.test({100, 250}, 0).saturation, 0) << "black has none of its own";
+    EXPECT_EQ(triangle.test({300, 250}, 0).saturation, 0);
 }
 
 TEST(ShadeTriangle, LightnessRunsAlongTheBaseAndSaturationUpwards)
@@ -50,6 +52,14 @@ TEST(ShadeTriangle, LightnessRunsAlongTheBaseAndSaturationUpwards)
     expectAt(150, 150, 0.25, 1);
     expectAt(200, 150, 0.5, 0.5);
     expectAt(250, 200, 0.75, 0.5);
+}
+
+TEST(ShadeTriangle, TheApexIsTheMiddleOfAnOddWidthToo)
+{
+    const ShadeTriangle odd({0, 0, 101, 80});
+    EXPECT_NEAR(odd.test({50.5, 0}, 0).lightness, 0.5, kSlack);
+    EXPECT_NEAR(odd.test({50.5, 0}, 0).saturation, 1, kSlack);
+    EXPECT_FALSE(odd.test({50, 0}, 0).inTriangle);
 }
 
 TEST(ShadeTriangle, OutsideIsWhatTheNearestSideHas)

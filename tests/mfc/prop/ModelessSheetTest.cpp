@@ -172,6 +172,6 @@ TEST_F(ModelessSheet, WithoutPagesThereIsNone)
 {
     CPropertySheet empty(L"Empty", &owner);
     EXPECT_FALSE(empty.Create(&owner));
-    EXPECT_EQ(empty.DoModal(), -1);
+    EXPECT_EQ(showUntilClosed(empty), -1);
     EXPECT_EQ(empty.GetActivePage(), nullptr);
 }

@@ -89,14 +89,13 @@ TEST_F(PropertyPage, AnArrayOfPagesIsConstructedLater)
     several[0].Construct(IDS_SHEET, &owner, 1);
     for (CPropertyPage& page : pages)
         several[0].AddPage(&page);
-    auto acting = Robot()
-                      .waitFor("the sheet", [&] { return several[0].m_hWnd && shownDialog() == several[0]; })
-                      .then([&] {
-                          EXPECT_EQ(several[0].GetActivePage(), &pages[1]);
-                          several[0].PressButton(PSBTN_OK);
-                      })
-                      .start();
-    EXPECT_EQ(several[0].DoModal(), IDOK);
+    auto story = Robot()
+                     .waitFor("the sheet", [&] { return several[0].m_hWnd && shownDialog() == several[0]; })
+                     .then([&] {
+                         EXPECT_EQ(several[0].GetActivePage(), &pages[1]);
+                         several[0].PressButton(PSBTN_OK);
+                     });
+    EXPECT_EQ(showUntilClosed(several[0], std::move(story)), IDOK);
 }
 
 TEST_F(PropertyPage, TheTemplateIsFoundAlongTheResourceChain)
@@ -110,15 +109,14 @@ TEST_F(PropertyPage, TheTemplateIsFoundAlongTheResourceChain)
         TestPage page("page", calls, IDD_LISTS, IDS_COLOURS);
         CPropertySheet found(IDS_SHEET, &owner);
         found.AddPage(&page);
-        auto acting = Robot()
-                          .waitFor("the sheet", [&] { return found.m_hWnd && shownDialog() == found.m_hWnd; })
-                          .then([&] {
-                              EXPECT_EQ(page.SendDlgItemMessage(IDC_COMBO, CB_GETCOUNT), 2)
-                                  << "filled by what goes with the template";
-                              found.PressButton(PSBTN_OK);
-                          })
-                          .start();
-        EXPECT_EQ(found.DoModal(), IDOK);
+        auto story = Robot()
+                         .waitFor("the sheet", [&] { return found.m_hWnd && shownDialog() == found.m_hWnd; })
+                         .then([&] {
+                             EXPECT_EQ(page.SendDlgItemMessage(IDC_COMBO, CB_GETCOUNT), 2)
+                                 << "filled by what goes with the template";
+                             found.PressButton(PSBTN_OK);
+                         });
+        EXPECT_EQ(showUntilClosed(found, std::move(story)), IDOK);
     }
     AfxSetResourceHandle(before);
 }
@@ -132,14 +130,12 @@ TEST_F(PropertyPage, ATemplateInMemoryMayBeGiven)
     page.m_psp.pResource = static_cast<LPCDLGTEMPLATE>(::LockResource(::LoadResource(nullptr, found)));
     CPropertySheet with(L"Memory", &owner);
     with.AddPage(&page);
-    auto acting = Robot()
-                      .waitFor("the sheet", [&] { return with.m_hWnd && shownDialog() == with.m_hWnd; })
-                      .then([&] {
-                          EXPECT_TRUE(page.GetDlgItem(ID_TEST_ACT));
-                          with.PressButton(PSBTN_OK);
-                      })
-                      .start();
-    EXPECT_EQ(with.DoModal(), IDOK);
+    auto story =
+        Robot().waitFor("the sheet", [&] { return with.m_hWnd && shownDialog() == with.m_hWnd; }).then([&] {
+            EXPECT_TRUE(page.GetDlgItem(ID_TEST_ACT));
+            with.PressButton(PSBTN_OK);
+        });
+    EXPECT_EQ(showUntilClosed(with, std::move(story)), IDOK);
 }
 
 TEST_F(PropertyPage, SiblingsAreAskedUntilOneAnswers)
@@ -202,17 +198,15 @@ TEST_F(PropertyPage, ItsCommandsGoOnToTheOwnerOfTheSheet)
     CPropertySheet other(L"Other", &main);
     ListeningPage page;
     other.AddPage(&page);
-    auto acting = Robot()
-                      .waitFor("the sheet", [&] { return other.m_hWnd && shownDialog() == other.m_hWnd; })
-                      .then([&] {
-                          page.SendMessage(WM_COMMAND, ID_TEST_ACT);
-                          EXPECT_EQ(main.acts, 1);
-                          other.SendMessage(WM_COMMAND, ID_TEST_ACT);
-                          EXPECT_EQ(main.acts, 2);
-                          other.PressButton(PSBTN_CANCEL);
-                      })
-                      .start();
-    EXPECT_EQ(other.DoModal(), IDCANCEL);
+    auto story =
+        Robot().waitFor("the sheet", [&] { return other.m_hWnd && shownDialog() == other.m_hWnd; }).then([&] {
+            page.SendMessage(WM_COMMAND, ID_TEST_ACT);
+            EXPECT_EQ(main.acts, 1);
+            other.SendMessage(WM_COMMAND, ID_TEST_ACT);
+            EXPECT_EQ(main.acts, 2);
+            other.PressButton(PSBTN_CANCEL);
+        });
+    EXPECT_EQ(showUntilClosed(other, std::move(story)), IDCANCEL);
     main.DestroyWindow();
 }
 

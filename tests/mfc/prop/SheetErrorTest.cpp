@@ -47,11 +47,11 @@ protected:
             sheet.SetWizardMode();
     }
 
-    /// Shows the sheet while a story provokes the call.
-    INT_PTR provoke()
+    /// Shows the sheet, which is made to call the handler.
+    INT_PTR provoke(Story story = Robot().then([] {}))
     {
         sheet.onInit = [](TestSheet& s) { GetParam().provoke(s); };
-        return sheet.DoModal();
+        return showUntilClosed(std::move(story));
     }
 };
 
@@ -83,7 +83,7 @@ TEST_P(SheetError, ComesOutOfDoModal)
 
     general.deeds.clear();
     sheet.onInit = [](TestSheet& s) { s.EndDialog(5); };
-    EXPECT_EQ(sheet.DoModal(), 5) << "the same object may be shown again";
+    EXPECT_EQ(showUntilClosed(sheet), 5) << "the same object may be shown again";
 }
 
 TEST_P(SheetError, OfTheFrameworkIsReportedAndRefuses)
@@ -94,14 +94,12 @@ TEST_P(SheetError, OfTheFrameworkIsReportedAndRefuses)
         if (!std::exchange(thrown, true))
             AfxThrowResourceException();
     };
-    auto closing = Robot()
-                       .waitFor("the report", [] { return !TestApp::instance().boxes().empty(); })
-                       .then([this] {
-                           if (sheet.m_hWnd)
-                               sheet.EndDialog(99);
-                       })
-                       .start();
-    const INT_PTR answer = provoke();
+    auto closing =
+        Robot().waitFor("the report", [] { return !TestApp::instance().boxes().empty(); }).then([this] {
+            if (sheet.m_hWnd)
+                sheet.EndDialog(99);
+        });
+    const INT_PTR answer = provoke(std::move(closing));
     EXPECT_EQ(TestApp::instance().boxes().size(), 1u);
     const bool cannotRefuse = call == "reset" || call == "cancel";
     EXPECT_EQ(answer, cannotRefuse ? IDCANCEL : 99);
@@ -116,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(Calls, SheetError, ::testing::ValuesIn(kCauses), [](con
 TEST_F(SheetErrorAlone, InTheSheetsInitialisationComesOut)
 {
     sheet.onInit = [](TestSheet&) { throw std::runtime_error("elm"); };
-    EXPECT_THROW(sheet.DoModal(), std::runtime_error);
+    EXPECT_THROW(showUntilClosed(sheet), std::runtime_error);
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_THROW(sheet.Create(&owner), std::runtime_error);
     EXPECT_FALSE(sheet.m_hWnd);
@@ -146,7 +144,6 @@ TEST_F(SheetErrorAlone, OfAModelessSheetComesOutOfTheMessageThatLedThere)
 TEST_F(SheetErrorAlone, WhenATabIsClickedComesOutOfDoModal)
 {
     general.deeds["left"] = [] { throw std::runtime_error("fir"); };
-    auto acting = whenShown().click(tab(1)).start();
-    EXPECT_THROW(sheet.DoModal(), std::runtime_error);
+    EXPECT_THROW(showUntilClosed(whenShown().click(tab(1))), std::runtime_error);
     EXPECT_TRUE(owner.IsWindowEnabled());
 }

@@ -158,6 +158,23 @@ SheetScene::~SheetScene()
     owner.DestroyWindow();
 }
 
+INT_PTR SheetScene::showUntilClosed(CPropertySheet& shown, Story story)
+{
+    bool closed = false;
+    const auto closing = std::move(story).waitFor("the end of the sheet", [&] { return closed; }).start();
+    const struct Closed
+    {
+        ~Closed() { flag = true; }
+        bool& flag;
+    } whenClosed{closed};
+    return shown.DoModal();
+}
+
+INT_PTR SheetScene::showUntilClosed(CPropertySheet& shown)
+{
+    return showUntilClosed(shown, Robot().then([] {}));
+}
+
 Story SheetScene::whenShown()
 {
     return Robot().waitFor("the sheet", [this] { return sheet.m_hWnd && shownDialog() == sheet.m_hWnd; });

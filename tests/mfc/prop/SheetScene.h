@@ -92,9 +92,15 @@ protected:
     template <class Tell>
     INT_PTR show(Tell tell)
     {
-        auto acting = tell(whenShown()).start();
-        return sheet.DoModal();
+        return showUntilClosed(tell(whenShown()));
     }
+
+    /// The same for a story that began, or will begin, when it says. A sheet that stays open after the story
+    /// fails the test and is closed.
+    INT_PTR showUntilClosed(ovo::testkit::Story story) { return showUntilClosed(sheet, std::move(story)); }
+    static INT_PTR showUntilClosed(CPropertySheet& shown, ovo::testkit::Story story);
+    /// Without a story.
+    static INT_PTR showUntilClosed(CPropertySheet& shown);
 
     ovo::testkit::Spot button(int id);
     ovo::testkit::Spot tab(int index);

@@ -150,15 +150,14 @@ TEST_F(TabbedSheet, ThePageThatTheConstructorNamesIsShownFirst)
     TestSheet other(IDS_SHEET, &owner, 1);
     other.AddPage(&general);
     other.AddPage(&colours);
-    auto acting = Robot()
-                      .waitFor("the sheet", [&] { return other.m_hWnd && shownDialog() == other.m_hWnd; })
-                      .then([&] {
-                          EXPECT_EQ(titleOf(other), L"Options") << "a string's number";
-                          EXPECT_EQ(other.GetActivePage(), &colours);
-                      })
-                      .key(VK_ESCAPE)
-                      .start();
-    EXPECT_EQ(other.DoModal(), IDCANCEL);
+    auto story = Robot()
+                     .waitFor("the sheet", [&] { return other.m_hWnd && shownDialog() == other.m_hWnd; })
+                     .then([&] {
+                         EXPECT_EQ(titleOf(other), L"Options") << "a string's number";
+                         EXPECT_EQ(other.GetActivePage(), &colours);
+                     })
+                     .key(VK_ESCAPE);
+    EXPECT_EQ(showUntilClosed(other, std::move(story)), IDCANCEL);
 }
 
 TEST_F(TabbedSheet, APageThatRefusesIsSkipped)
@@ -210,7 +209,7 @@ TEST_F(TabbedSheet, APageWithoutATemplateIsNoPage)
             .key(VK_ESCAPE);
     });
     sheet.AddPage(&missing);
-    EXPECT_EQ(sheet.DoModal(), -1);
+    EXPECT_EQ(showUntilClosed(sheet), -1);
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_FALSE(sheet.Create(&owner));
 }
@@ -382,7 +381,7 @@ TEST_F(TabbedSheet, EndDialogGivesItsResult)
 TEST_F(TabbedSheet, EndedInItsInitialisationIsNeverShown)
 {
     sheet.onInit = [](TestSheet& s) { s.EndDialog(78); };
-    EXPECT_EQ(sheet.DoModal(), 78);
+    EXPECT_EQ(showUntilClosed(sheet), 78);
     EXPECT_EQ(sheet.shown, 0);
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
@@ -423,12 +422,11 @@ TEST_F(TabbedSheet, WithoutAParentTheMainWindowOwnsIt)
     TestSheet other(L"Other");
     other.AddPage(&general);
     HWND itsOwner = nullptr;
-    auto acting = Robot()
-                      .waitFor("the sheet", [&] { return other.m_hWnd && shownDialog() == other.m_hWnd; })
-                      .then([&] { itsOwner = ::GetWindow(other, GW_OWNER); })
-                      .key(VK_ESCAPE)
-                      .start();
-    other.DoModal();
+    auto story = Robot()
+                     .waitFor("the sheet", [&] { return other.m_hWnd && shownDialog() == other.m_hWnd; })
+                     .then([&] { itsOwner = ::GetWindow(other, GW_OWNER); })
+                     .key(VK_ESCAPE);
+    showUntilClosed(other, std::move(story));
     AfxGetApp()->m_pMainWnd = nullptr;
     EXPECT_EQ(itsOwner, owner.m_hWnd);
 }
