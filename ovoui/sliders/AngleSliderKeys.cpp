@@ -103,6 +103,11 @@ void CAngleSlider::OnChar(UINT character, UINT repeat, UINT flags)
         CWnd::OnChar(character, repeat, flags);
         return;
     }
+    // Typed quickly, the next character was on its way here before the edit control got the focus.
+    if (m_options->edit.m_hWnd) {
+        m_options->edit.SendMessage(WM_CHAR, character, MAKELPARAM(repeat, flags));
+        return;
+    }
     m_options->edit.open(*this, static_cast<wchar_t>(character), [this](std::optional<double> typed) {
         const Lifeline::Watch watch(*this);
         if (::GetFocus() == nullptr)

@@ -185,6 +185,18 @@ TEST_F(AngleSliderKeys, ANumberIsTypedIntoASmallEdit)
     EXPECT_EQ(::GetFocus(), wheel->m_hWnd);
 }
 
+TEST_F(AngleSliderKeys, CharactersThatAreOnTheirWayWhenTheEditOpensGoIntoIt)
+{
+    round->SetFocus();
+    for (const wchar_t character : {L'1', L'2', L'0'})
+        round->SendMessage(WM_CHAR, character, 1);
+    CString text;
+    CWnd::FromHandle(edit())->GetWindowText(text);
+    EXPECT_EQ(text, L"120");
+    user.key(VK_RETURN).waitFor("the edit to go", [&] { return edit() == nullptr; });
+    EXPECT_EQ(round->GetPos(), 120);
+}
+
 TEST_F(AngleSliderKeys, TheParentMayDestroyItInEveryMessage)
 {
     parent.react = [&] { round.reset(); };
