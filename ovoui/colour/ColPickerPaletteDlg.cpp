@@ -2,7 +2,6 @@
 
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/Contrast.h>
-#include <ovoui/frame/Module.h>
 #include <ovouires/resource.h>
 
 #include <algorithm>
@@ -38,7 +37,11 @@ constexpr int kRecentColours = 9;
 std::wstring gradeText(double contrast)
 {
     const std::wstring_view grade = gradeOf(contrast);
-    return grade == kGradeOfLargeText ? ovoui::resourceString(IDS_COLOUR_GRADE_LARGE) : std::wstring(grade);
+    if (grade != kGradeOfLargeText)
+        return std::wstring(grade);
+    CString large;
+    large.LoadString(IDS_COLOUR_GRADE_LARGE);
+    return large.GetString();
 }
 
 constexpr std::array<COLORREF, 18> kFirstColours{
