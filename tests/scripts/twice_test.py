@@ -27,7 +27,7 @@ class BuildTwice(unittest.TestCase):
             shutil.copy(ROOT / "sdk/build-twice", checkout / "sdk")
             (programs / "cmake").write_text(CMAKE.format(library=library))
             (programs / "cmake").chmod(0o755)
-            done = subprocess.run([checkout / "sdk/build-twice", folder / "work", "all"], capture_output=True, text=True,
+            done = subprocess.run([checkout / "sdk/build-twice", folder / "both", "all"], capture_output=True, text=True,
                                   check=False, env=dict(os.environ, PATH=f"{programs}:{os.environ['PATH']}",
                                                         SOURCE_DATE_EPOCH="1700000000"))
             return done.returncode, done.stdout + done.stderr
@@ -46,7 +46,7 @@ class BuildTwice(unittest.TestCase):
         self.assertIn("The two builds differ.", said)
 
     def test_a_file_that_one_build_alone_makes(self):
-        status, said = self.run_with('case $PWD in */work/one) touch build/release/lib/library.a;; esac')
+        status, said = self.run_with('case $PWD in */both/one) touch build/release/lib/library.a;; esac')
         self.assertEqual(status, 1)
         self.assertIn("library.a", said)
 
