@@ -3,9 +3,9 @@
 #   ovo_test(NAME [NO_MANIFEST] SOURCES a.cpp ... LIBS target ... [RESOURCES x.rc ...] [TIMEOUT SECONDS])
 #       A GoogleTest program for Windows with the test kit, registered with CTest. It asks for the
 #       common controls 6 unless NO_MANIFEST is given.
-#   ovo_test_variant(NAME VARIANT [FILTER PATTERN] [THEMES OFF] [DPI N])
-#       Runs the program NAME once more, as NAME.VARIANT: a part of it, with visual styles off, or at a resolution of
-#       N dots per inch instead of 96.
+#   ovo_test_variant(NAME VARIANT [FILTER PATTERN] [THEMES OFF] [DPI N] [SCHEME NAME])
+#       Runs the program NAME once more, as NAME.VARIANT: a part of it, with visual styles off, at a resolution of
+#       N dots per inch instead of 96, or with the system's colours and fonts of a scheme in cmake/schemes.
 #   ovo_native_test(NAME SOURCES a.cpp ... LIBS target ...)
 #       A GoogleTest program for this machine under AddressSanitizer and UndefinedBehaviorSanitizer.
 #
@@ -24,7 +24,7 @@ function(_ovo_register name program timeout)
     set(report Z:${report}) # without a drive, GoogleTest takes it for a path below the working directory
   endif()
   set(arguments --gtest_output=xml:${report})
-  cmake_parse_arguments(arg "" "FILTER;THEMES;DPI" "" ${ARGN})
+  cmake_parse_arguments(arg "" "FILTER;THEMES;DPI;SCHEME" "" ${ARGN})
   if(arg_FILTER)
     list(APPEND arguments --gtest_filter=${arg_FILTER})
   endif()
@@ -39,6 +39,9 @@ function(_ovo_register name program timeout)
       set(dpi ${arg_DPI})
     endif()
     set(launcher ${OVO_UNDER_WINE} --home ${PROJECT_BINARY_DIR}/wine --themes ${themes} --dpi ${dpi} --apart)
+    if(arg_SCHEME)
+      list(APPEND launcher --scheme ${arg_SCHEME})
+    endif()
   endif()
   add_test(NAME ${name} COMMAND ${launcher} $<TARGET_FILE:${program}> ${arguments}
            WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
@@ -75,7 +78,7 @@ function(ovo_test_variant name variant)
   if(NOT WIN32)
     return()
   endif()
-  cmake_parse_arguments(arg "" "FILTER;THEMES;DPI;TIMEOUT" "" ${ARGN})
+  cmake_parse_arguments(arg "" "FILTER;THEMES;DPI;SCHEME;TIMEOUT" "" ${ARGN})
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT ${OVO_TEST_TIMEOUT})
   endif()
@@ -88,6 +91,9 @@ function(ovo_test_variant name variant)
   endif()
   if(arg_DPI)
     list(APPEND how DPI ${arg_DPI})
+  endif()
+  if(arg_SCHEME)
+    list(APPEND how SCHEME ${arg_SCHEME})
   endif()
   _ovo_register(${name}.${variant} ${name} ${arg_TIMEOUT} ${how})
 endfunction()

@@ -14,6 +14,8 @@ CommandLine CommandLine::parse(const std::vector<std::wstring>& words)
                                                              : nullptr;
         if (*word == L"--list") {
             line.list = true;
+        } else if (*word == L"--rtl") {
+            line.rtl = true;
         } else if (!value) {
             line.mistake = L"unknown argument: " + *word;
         } else if (word + 1 == words.end()) {

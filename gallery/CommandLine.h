@@ -4,10 +4,11 @@
 #include <string>
 #include <vector>
 
-/// gallery [--language TAG] [--list] [--page NAME[/POSE] [--shot FILE.png]] [--shot-all FOLDER]
+/// gallery [--rtl] [--language TAG] [--list] [--page NAME[/POSE] [--shot FILE.png]] [--shot-all FOLDER]
 struct CommandLine
 {
     bool list = false;     ///< name the pages
+    bool rtl = false;      ///< lay the windows out from right to left
     std::wstring language; ///< of the library's texts, such as "de"; empty: the user's
     std::wstring page;     ///< the page to open, or to take pictures of; empty: the first, or all
     std::wstring pose;     ///< what the page is to show for the picture; empty: the page as it opens

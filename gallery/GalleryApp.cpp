@@ -20,7 +20,8 @@ namespace
 GalleryApp theApp;
 
 constexpr wchar_t kUsage[] =
-    L"usage: gallery [--language TAG] [--list] [--page NAME[/POSE] [--shot FILE.png]] [--shot-all FOLDER]\n";
+    L"usage: gallery [--rtl] [--language TAG] [--list] [--page NAME[/POSE] [--shot FILE.png]] [--shot-all "
+    L"FOLDER]\n";
 
 void say(FILE* stream, const std::wstring& text)
 {
@@ -78,6 +79,8 @@ BOOL GalleryApp::show(const CommandLine& line, const PageEntry& first)
     AfxOleInit();
     m_gdiPlus = std::make_unique<GdiPlus>();
     SetRegistryKey(L"ovoui");
+    if (line.rtl)
+        ::SetProcessDefaultLayout(LAYOUT_RTL); // for windows without an owner; those inside inherit it
     m_frame = new GalleryFrame;
     if (!m_frame->LoadFrame(IDR_MAIN_FRAME))
         return end(1);

@@ -38,13 +38,18 @@ void DockedShape::OnPaint()
     const int side = std::min(room.Width(), room.Height()) * m_percent / 100;
     const CRect shape(CPoint(room.CenterPoint().x - side * 3 / 4, room.CenterPoint().y - side / 2),
                       CSize(side * 3 / 2, side));
-    CBrush fill(::GetSysColor(COLOR_GRADIENTINACTIVECAPTION));
+    CBrush fill(::GetSysColor(COLOR_BTNFACE));
     CBrush* const old =
         m_filled ? dc.SelectObject(&fill) : static_cast<CBrush*>(dc.SelectStockObject(NULL_BRUSH));
+    const COLORREF ink = ::GetSysColor(m_filled ? COLOR_BTNTEXT : COLOR_WINDOWTEXT);
+    CPen outline(PS_SOLID, 1, ::GetSysColor(COLOR_WINDOWTEXT));
+    CPen* const oldPen = dc.SelectObject(&outline);
     dc.Ellipse(&shape);
+    dc.SelectObject(oldPen);
     dc.SelectObject(old);
     CFont* const font = dc.SelectObject(GetParent()->GetParent()->GetFont());
     dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(ink);
     CRect text(shape);
     dc.DrawText(m_text.c_str(), -1, &text, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
     dc.SelectObject(font);

@@ -98,6 +98,7 @@ void ImageSamples::OnPaint()
     CPaintDC dc(this);
     CFont* const old = dc.SelectObject(GetParent()->GetFont());
     dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));
     int top = drawSizes(dc, 0);
     top = drawScaled(dc, top);
     drawStates(dc, top);

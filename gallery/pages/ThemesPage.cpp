@@ -5,6 +5,10 @@
 
 #include <ovoui/frame/ThemeData.h>
 
+#include <uxtheme.h>
+#include <vsstyle.h>
+#include <vssym32.h>
+
 BEGIN_MESSAGE_MAP(ThemeSamples, CWnd)
     ON_WM_PAINT()
 END_MESSAGE_MAP()
@@ -32,6 +36,18 @@ constexpr State kStates[] = {
     {L"Default", 5, 0},
 };
 
+/// The colour of the text on a push button of the window's theme; without one that of the system.
+COLORREF textOnButton(HWND window, int state)
+{
+    COLORREF colour = ::GetSysColor(state == PBS_DISABLED ? COLOR_GRAYTEXT : COLOR_BTNTEXT);
+    const HTHEME theme = ::OpenThemeData(window, L"Button");
+    if (!theme)
+        return colour;
+    ::GetThemeColor(theme, BP_PUSHBUTTON, state, TMT_TEXTCOLOR, &colour);
+    ::CloseThemeData(theme);
+    return colour;
+}
+
 } // namespace
 
 bool ThemeSamples::create(CWnd& parent)
@@ -55,6 +71,7 @@ void ThemeSamples::OnPaint()
     const int labelWidth = scaled(m_hWnd, kLabel);
     int top = 0;
     const auto label = [&](const wchar_t* text) {
+        dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));
         CRect place(0, top, labelWidth, top + height);
         dc.DrawText(text, -1, &place, DT_SINGLELINE | DT_VCENTER);
     };
@@ -80,6 +97,7 @@ void ThemeSamples::OnPaint()
             themes.IsAppThemed() && themes.drawBackground(dc, &place, m_hWnd, L"Button", state.value);
         if (!themed)
             dc.DrawFrameControl(&place, DFC_BUTTON, DFCS_BUTTONPUSH | state.classic);
+        dc.SetTextColor(textOnButton(m_hWnd, state.value));
         dc.DrawText(state.label, -1, &place, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
         left += scaled(m_hWnd, kButton + kGap);
     }

@@ -123,6 +123,8 @@ void TurnedBox::draw(CDC& dc, const CRect& client) const
     const double unit = std::min(client.Width(), client.Height()) / kRoom;
     const CPoint middle = client.CenterPoint();
     const Turn turned(m_heading, m_tilt);
+    CPen edge(PS_SOLID, 1, ::GetSysColor(COLOR_WINDOWTEXT));
+    CPen* const oldPen = dc.SelectObject(&edge);
     for (int axis = 0; axis < 3; ++axis)
         for (const double side : {-1.0, 1.0}) {
             const Point3 normal = turned({axis == 0 ? side : 0, axis == 1 ? side : 0, axis == 2 ? side : 0});
@@ -139,4 +141,5 @@ void TurnedBox::draw(CDC& dc, const CRect& client) const
             dc.Polygon(outline.data(), static_cast<int>(outline.size()));
             dc.SelectObject(old);
         }
+    dc.SelectObject(oldPen);
 }

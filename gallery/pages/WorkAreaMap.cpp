@@ -68,8 +68,8 @@ void WorkAreaMap::OnPaint()
     const CRect desk = onMap(workArea());
     dc.FillSolidRect(&desk, ::GetSysColor(COLOR_WINDOW));
     const CRect rect = onMap(m_rect);
-    dc.FillSolidRect(&rect, RGB(160, 200, 240));
-    dc.Draw3dRect(&rect, RGB(30, 95, 170), RGB(30, 95, 170));
+    dc.FillSolidRect(&rect, ::GetSysColor(COLOR_HIGHLIGHT));
+    dc.Draw3dRect(&rect, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOWTEXT));
     paint.BitBlt(0, 0, client.Width(), client.Height(), &dc, 0, 0, SRCCOPY);
     dc.SelectObject(old);
 }

@@ -32,7 +32,7 @@ DialColours systemColours(bool enabled)
     return {.back = shadeOf(COLOR_BTNFACE),
             .light = shadeOf(COLOR_BTNHIGHLIGHT),
             .dark = shadeOf(enabled ? COLOR_3DDKSHADOW : COLOR_GRAYTEXT),
-            .face = shadeOf(enabled ? COLOR_3DLIGHT : COLOR_BTNFACE),
+            .face = shadeOf(COLOR_BTNFACE), // the one that the pointer's is made for
             .pointer = shadeOf(enabled ? COLOR_BTNTEXT : COLOR_GRAYTEXT)};
 }
 
