@@ -9,6 +9,11 @@
 #include <windows.h>
 #include <uxtheme.h>
 
+namespace ovoui::frame
+{
+class KeptTheme;
+}
+
 /// The entry points of UxTheme, fetched once when the object is made. Whether visual styles are on is asked
 /// at every call, so a change of theme needs nothing.
 ///
@@ -55,6 +60,8 @@ public:
     bool drawCheckBox(HDC dc, const RECT* rect, HWND wnd, int state) const;
 
 private:
+    friend class ovoui::frame::KeptTheme;
+
     HMODULE m_module = nullptr;
     decltype(&::OpenThemeData) m_openThemeData = nullptr;
     decltype(&::CloseThemeData) m_closeThemeData = nullptr;

@@ -24,6 +24,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ClipboardText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Geometry.cpp
   ${CMAKE_CURRENT_LIST_DIR}/GlobalMemory.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/KeptTheme.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Language.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageDialog.cpp

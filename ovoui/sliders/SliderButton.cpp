@@ -27,6 +27,7 @@ BEGIN_MESSAGE_MAP(CSliderButton, CStatic)
     ON_WM_SIZE()
     ON_WM_ENABLE()
     ON_WM_DESTROY()
+    ON_MESSAGE(WM_THEMECHANGED, &CSliderButton::OnThemeChanged)
     ON_MESSAGE(CPopupSlider::kDeactivated, &CSliderButton::OnUnpress)
     ON_MESSAGE(WM_GETOBJECT, &CSliderButton::OnGetObject)
 END_MESSAGE_MAP()
@@ -60,6 +61,7 @@ void CSliderButton::OnDestroy()
     m_parts->pressed = false;
     m_parts->drag.end();
     m_parts->watcher.reset();
+    m_parts->theme.forget();
     m_parts->bubble.DestroyWindow();
     if (m_popup.m_hWnd)
         m_popup.DestroyWindow();
@@ -218,6 +220,14 @@ void CSliderButton::OnSize(UINT type, int width, int height)
     Invalidate();
 }
 
+/// For this window alone or for all.
+LRESULT CSliderButton::OnThemeChanged(WPARAM, LPARAM)
+{
+    m_parts->theme.forget();
+    Invalidate();
+    return Default();
+}
+
 BOOL CSliderButton::OnEraseBkgnd(CDC*)
 {
     return TRUE;
@@ -228,7 +238,7 @@ void CSliderButton::OnPaint()
     BufferedPaint paint(*this);
     CRect client;
     GetClientRect(&client);
-    SliderButtonFace(m_hWnd, m_parts->pressed).paint(paint.dc(), client);
+    SliderButtonFace(m_hWnd, m_parts->theme, m_parts->pressed).paint(paint.dc(), client);
 }
 
 // Accessibility

@@ -123,6 +123,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg void OnSetFocus(CWnd* other);
     afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg LRESULT OnThemeChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnUnpress(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 

@@ -1,7 +1,5 @@
 #include <ovoui/sliders/SliderButtonFace.h>
 
-#include <ovoui/frame/ThemeData.h>
-
 #include <vssym32.h>
 
 #include <algorithm>
@@ -9,8 +7,9 @@
 namespace ovoui::sliders
 {
 
-SliderButtonFace::SliderButtonFace(HWND wnd, bool pressed)
+SliderButtonFace::SliderButtonFace(HWND wnd, frame::KeptTheme& theme, bool pressed)
     : m_wnd(wnd)
+    , m_theme(theme)
     , m_pressed(pressed)
     , m_enabled(::IsWindowEnabled(wnd) != FALSE)
 {
@@ -27,12 +26,9 @@ void SliderButtonFace::paint(CDC& dc, const CRect& client) const
 
 void SliderButtonFace::paintBack(CDC& dc, const CRect& client) const
 {
-    CThemeData& themes = CThemeData::getThemeData();
-    if (themes.IsAppThemed()) {
-        const int idle = m_enabled ? PBS_NORMAL : PBS_DISABLED;
-        themes.drawBackground(dc, &client, m_wnd, L"Button", m_pressed ? PBS_PRESSED : idle);
+    const int idle = m_enabled ? PBS_NORMAL : PBS_DISABLED;
+    if (m_theme.draw(m_wnd, dc, BP_PUSHBUTTON, m_pressed ? PBS_PRESSED : idle, client))
         return;
-    }
     const COLORREF highlight = ::GetSysColor(COLOR_BTNHIGHLIGHT);
     const COLORREF shadow = ::GetSysColor(COLOR_BTNSHADOW);
     dc.Draw3dRect(&client, m_pressed ? shadow : highlight, m_pressed ? highlight : shadow);

@@ -1,6 +1,8 @@
 /// Not exported. What a slider button looks like.
 #pragma once
 
+#include <ovoui/frame/KeptTheme.h>
+
 #include <afxwin.h>
 
 namespace ovoui::sliders
@@ -10,7 +12,8 @@ namespace ovoui::sliders
 class SliderButtonFace
 {
 public:
-    SliderButtonFace(HWND wnd, bool pressed);
+    /// `theme` is that of push buttons.
+    SliderButtonFace(HWND wnd, frame::KeptTheme& theme, bool pressed);
 
     /// All of `client`, with a focus mark when the window has the focus.
     void paint(CDC& dc, const CRect& client) const;
@@ -21,6 +24,7 @@ private:
     static void paintFocus(CDC& dc, CRect client);
 
     const HWND m_wnd;
+    frame::KeptTheme& m_theme;
     const bool m_pressed;
     const bool m_enabled;
 };

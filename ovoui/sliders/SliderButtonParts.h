@@ -1,6 +1,7 @@
 /// Not exported. What a slider button is made of.
 #pragma once
 
+#include <ovoui/frame/KeptTheme.h>
 #include <ovoui/sliders/Buddy.h>
 #include <ovoui/sliders/BuddyWheel.h>
 #include <ovoui/sliders/PopupWatcher.h>
@@ -24,6 +25,7 @@ struct CSliderButton::Parts
 
     ovoui::sliders::Buddy buddy;
     bool pressed = false;
+    ovoui::frame::KeptTheme theme{L"Button"};
     ovoui::sliders::PressDrag drag;
     ovoui::sliders::PopupPlace place;    ///< of the popup when it opened
     ovoui::sliders::Positions positions; ///< of the slider when the popup opened

@@ -19,6 +19,48 @@ protected:
     Picture shown() { return Picture::ofClient(button->m_hWnd); }
 
     static bool themed() { return CThemeData::getThemeData().IsAppThemed(); }
+
+    /// A push button of the button's size in a state of the theme.
+    Picture themedFace(int state)
+    {
+        CRect client;
+        button->GetClientRect(&client);
+        Picture face(client.Width(), client.Height(), ::GetSysColor(COLOR_BTNFACE));
+        const HTHEME theme = ::OpenThemeData(parent, L"Button");
+        ::DrawThemeBackground(theme, face.dc(), BP_PUSHBUTTON, state, &client, nullptr);
+        ::CloseThemeData(theme);
+        return face;
+    }
+
+    /// Pixels left of the arrow.
+    int facesDiffer(int state, int otherState)
+    {
+        const Picture one = themedFace(state);
+        const Picture other = themedFace(otherState);
+        int different = 0;
+        for (int y = 0; y < one.height(); ++y)
+            for (int x = 0; x < kLeftOfArrow; ++x)
+                different += one.at(x, y) != other.at(x, y);
+        return different;
+    }
+
+    void expectFrame(bool pressed)
+    {
+        const COLORREF highlight = ::GetSysColor(COLOR_BTNHIGHLIGHT);
+        const COLORREF shadow = ::GetSysColor(COLOR_BTNSHADOW);
+        const COLORREF topLeft = pressed ? shadow : highlight;
+        const COLORREF bottomRight = pressed ? highlight : shadow;
+        const Picture picture = shown();
+        const int right = picture.width() - 1;
+        const int bottom = picture.height() - 1;
+        EXPECT_THAT(picture.at(0, bottom / 2), IsColour(topLeft));
+        EXPECT_THAT(picture.at(right / 2, 0), IsColour(topLeft));
+        EXPECT_THAT(picture.at(right, bottom / 2), IsColour(bottomRight));
+        EXPECT_THAT(picture.at(right / 2, bottom), IsColour(bottomRight));
+        EXPECT_THAT(picture.at(2, 2), IsColour(::GetSysColor(COLOR_BTNFACE)));
+    }
+
+    static constexpr int kLeftOfArrow = 10; // in a button of 24 by 22
 };
 
 COLORREF arrowColour(bool enabled)
@@ -83,14 +125,12 @@ TEST_F(SliderButtonPicture, TheThemedFaceIsThatOfAPushButton)
     if (!themed())
         return SUCCEED() << "without visual styles it is a frame";
     show();
-    HTHEME theme = ::OpenThemeData(button->m_hWnd, L"Button");
+    button->MoveWindow(102, 10, 24, 22); // with room left of the arrow
     const auto expectFace = [&](int state) {
         const Picture picture = shown();
-        Picture face(picture.width(), picture.height(), ::GetSysColor(COLOR_BTNFACE));
-        CRect all(0, 0, picture.width(), picture.height());
-        ::DrawThemeBackground(theme, face.dc(), BP_PUSHBUTTON, state, &all, nullptr);
+        const Picture face = themedFace(state);
         for (int y = 0; y < picture.height(); ++y)
-            for (const int x : {0, 1, 2, 3}) // left of the arrow
+            for (int x = 0; x < kLeftOfArrow; ++x)
                 EXPECT_THAT(picture.at(x, y), IsColour(face.at(x, y), 1))
                     << "state " << state << " at " << x << ", " << y;
     };
@@ -101,7 +141,10 @@ TEST_F(SliderButtonPicture, TheThemedFaceIsThatOfAPushButton)
     button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
     expectFace(PBS_PRESSED);
     button->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-    ::CloseThemeData(theme);
+
+    for (const int state : {PBS_DISABLED, PBS_PRESSED})
+        EXPECT_GT(facesDiffer(PBS_NORMAL, state), 0)
+            << "or this test would take the normal face for state " << state;
 }
 
 TEST_F(SliderButtonPicture, TheClassicFaceIsAFrameThatIsReversedWhenPressed)
@@ -109,21 +152,24 @@ TEST_F(SliderButtonPicture, TheClassicFaceIsAFrameThatIsReversedWhenPressed)
     if (themed())
         return SUCCEED() << "with visual styles the theme draws the face";
     show();
-    const COLORREF highlight = ::GetSysColor(COLOR_BTNHIGHLIGHT);
-    const COLORREF shadow = ::GetSysColor(COLOR_BTNSHADOW);
-    const auto expectFrame = [&](COLORREF topLeft, COLORREF bottomRight) {
-        const Picture picture = shown();
-        const int right = picture.width() - 1;
-        const int bottom = picture.height() - 1;
-        EXPECT_THAT(picture.at(0, bottom / 2), IsColour(topLeft));
-        EXPECT_THAT(picture.at(right / 2, 0), IsColour(topLeft));
-        EXPECT_THAT(picture.at(right, bottom / 2), IsColour(bottomRight));
-        EXPECT_THAT(picture.at(right / 2, bottom), IsColour(bottomRight));
-        EXPECT_THAT(picture.at(2, 2), IsColour(::GetSysColor(COLOR_BTNFACE)));
-    };
-    expectFrame(highlight, shadow);
+    expectFrame(false);
     user.click(Spot{*button}).waitFor("the popup", &isOpen);
-    expectFrame(shadow, highlight);
+    expectFrame(true);
+}
+
+TEST_F(SliderButtonPicture, AButtonAloneWithoutVisualStylesHasAFrame)
+{
+    show();
+    const Picture before = shown();
+    ::SetWindowTheme(*button, L" ", L" ");
+    expectFrame(false);
+    button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    expectFrame(true);
+    button->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    button->SendMessage(WM_KEYDOWN, VK_SPACE);
+    other.SetFocus();
+    ::SetWindowTheme(*button, nullptr, nullptr);
+    EXPECT_EQ(shown().differences(before), 0) << "with them again";
 }
 
 TEST_F(SliderButtonPicture, TheFocusIsMarkedOnePixelInside)
