@@ -4,7 +4,7 @@ namespace ovoui::frame
 {
 
 RedrawHold::RedrawHold(HWND window, By by)
-    : m_window(by == By::Control || ::IsWindowVisible(window) ? window : nullptr)
+    : m_window(by != By::System || ::IsWindowVisible(window) ? window : nullptr)
     , m_by(by)
 {
     if (m_window)
@@ -17,7 +17,7 @@ RedrawHold::~RedrawHold()
         return;
     setRedraw(TRUE);
     // The frame too: scroll bars may have come, gone or moved.
-    if (m_by == By::System)
+    if (m_by != By::Control)
         ::RedrawWindow(m_window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
 }
 

@@ -18,7 +18,9 @@ public:
         /// all.
         System,
         /// The control itself, which must know WM_SETREDRAW. What is drawn afterwards is its choice.
-        Control
+        Control,
+        /// The same, but all of the window is drawn afterwards.
+        ControlThenAll
     };
 
     explicit RedrawHold(HWND window, By by = By::System);

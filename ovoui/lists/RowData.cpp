@@ -1,9 +1,12 @@
 #include <ovoui/lists/RowData.h>
 
 #include <ovoui/frame/Lifeline.h>
+#include <ovoui/frame/RedrawHold.h>
 
 #include <functional>
 #include <unordered_map>
+
+using ovoui::frame::RedrawHold;
 
 namespace ovoui::lists
 {
@@ -24,31 +27,6 @@ LPARAM dataOf(const COVOListCtrlEx& list, int row)
     DirectList::ask(list, LVM_GETITEMW, 0, item);
     return item.lParam;
 }
-
-/// Holds back the list's drawing, and has it painted anew.
-class Hold
-{
-public:
-    explicit Hold(CListCtrl& list)
-        : m_list(list)
-        , m_watch(list)
-    {
-        m_list.SetRedraw(FALSE);
-    }
-    ~Hold()
-    {
-        if (!m_watch.alive())
-            return;
-        m_list.SetRedraw(TRUE);
-        m_list.Invalidate();
-    }
-    Hold(const Hold&) = delete;
-    Hold& operator=(const Hold&) = delete;
-
-private:
-    CListCtrl& m_list;
-    const Lifeline::Watch m_watch;
-};
 
 /// What the platform sorts by.
 struct SortRow
@@ -167,7 +145,7 @@ bool reorderRows(COVOListCtrlEx& list, const std::vector<int>& order)
 {
     if (order.size() < 2)
         return true;
-    const Hold hold(list);
+    const RedrawHold hold(list, RedrawHold::By::ControlThenAll);
     const std::vector<SortRow> rows = sortRowsOf(list, order);
     if (const std::vector<int> numbers = placesByNumber(rows); !numbers.empty())
         return list.SortItems(&compareByNumber, reinterpret_cast<DWORD_PTR>(numbers.data())) != FALSE;

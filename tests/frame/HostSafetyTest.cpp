@@ -98,6 +98,24 @@ TEST(RedrawHold, OfTheSystemDrawsTheWholeAtTheEnd)
     EXPECT_TRUE(isInvalid(control));
 }
 
+TEST(RedrawHold, OfTheControlDrawsTheWholeAtTheEndWhereThatIsWanted)
+{
+    RecordingParent parent;
+    parent.ShowWindow(SW_SHOW);
+    CStatic control;
+    control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), &parent, 5);
+    for (const RedrawHold::By by : {RedrawHold::By::Control, RedrawHold::By::ControlThenAll}) {
+        parent.UpdateWindow();
+        control.ValidateRect(nullptr);
+        {
+            const RedrawHold hold(control, by);
+            EXPECT_FALSE(::IsWindowVisible(control)) << "as a control without drawing of its own holds it";
+        }
+        EXPECT_TRUE(::IsWindowVisible(control));
+        EXPECT_EQ(isInvalid(control), by == RedrawHold::By::ControlThenAll);
+    }
+}
+
 TEST(RedrawHold, LeavesAHiddenWindowHidden)
 {
     RecordingParent parent;
@@ -112,7 +130,8 @@ TEST(RedrawHold, LeavesAHiddenWindowHidden)
 TEST(RedrawHold, TheWindowMayGoMeanwhile)
 {
     RecordingParent parent;
-    for (const RedrawHold::By by : {RedrawHold::By::System, RedrawHold::By::Control}) {
+    for (const RedrawHold::By by :
+         {RedrawHold::By::System, RedrawHold::By::Control, RedrawHold::By::ControlThenAll}) {
         CStatic control;
         control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), &parent, 5);
         const RedrawHold hold(control, by);
