@@ -29,6 +29,12 @@ bool changesItems(UINT message)
     }
 }
 
+/// Whether a message to a list box asks for the first item that begins with a text.
+bool searchesAll(UINT message, WPARAM after, LPARAM text)
+{
+    return message == LB_FINDSTRING && static_cast<int>(after) == -1 && text != 0;
+}
+
 /// A list's window procedure of before, and who hears of its items.
 struct WatchedList
 {
@@ -39,6 +45,32 @@ struct WatchedList
 std::map<HWND, WatchedList> s_lists; ///< until the window goes
 
 } // namespace
+
+/// A change of the items: nothing that was found counts while it goes on, and afterwards.
+class ComboCompletion::Change
+{
+public:
+    explicit Change(ComboCompletion& completion)
+        : m_completion(completion)
+        , m_watch(completion.m_lifeline)
+    {
+        m_completion.m_search.forget();
+        ++m_completion.m_changes;
+    }
+    ~Change()
+    {
+        if (!m_watch.alive())
+            return;
+        --m_completion.m_changes;
+        m_completion.m_search.forget();
+    }
+    Change(const Change&) = delete;
+    Change& operator=(const Change&) = delete;
+
+private:
+    ComboCompletion& m_completion;
+    const Lifeline::Watch m_watch;
+};
 
 ComboCompletion::ComboCompletion(COVOComboBox& combo)
     : m_combo(combo)
@@ -52,7 +84,7 @@ ComboCompletion::~ComboCompletion()
 
 int ComboCompletion::itemFor(const std::wstring& text)
 {
-    if (!watchesList())
+    if (!watchesList() || m_changes > 0)
         m_search.forget();
     return m_search.itemFor(
         text, m_combo.GetCount(), [&](int after) { return m_combo.FindString(after, text.c_str()); },
@@ -84,6 +116,13 @@ void ComboCompletion::leaveList()
     m_search.forget();
 }
 
+/// The item behind which a search of the whole list for a text can begin; none when no item begins with it.
+std::optional<int> ComboCompletion::startFor(const wchar_t* text) const
+{
+    const int first = m_changes == 0 ? m_search.firstFor(text) : 0;
+    return first == -1 ? std::nullopt : std::optional(first - 1);
+}
+
 /// The parent of an owner-drawn list hears of changes while they are made: it may search then, or destroy the
 /// combo box.
 LRESULT CALLBACK ComboCompletion::listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -91,20 +130,23 @@ LRESULT CALLBACK ComboCompletion::listProcedure(HWND window, UINT message, WPARA
     const auto found = s_lists.find(window);
     if (found == s_lists.end())
         return ::DefWindowProcW(window, message, wParam, lParam);
-    const WatchedList list = found->second;
+    const auto [procedure, completion] = found->second;
     if (message == WM_NCDESTROY) {
-        if (list.completion)
-            list.completion->leaveList();
+        if (completion)
+            completion->leaveList();
         s_lists.erase(window);
     }
-    if (!list.completion || !changesItems(message))
-        return ::CallWindowProcW(list.procedure, window, message, wParam, lParam);
-    list.completion->m_search.forget();
-    const Lifeline::Watch watch(list.completion->m_lifeline);
-    const LRESULT result = ::CallWindowProcW(list.procedure, window, message, wParam, lParam);
-    if (watch.alive())
-        list.completion->m_search.forget();
-    return result;
+    if (completion && changesItems(message)) {
+        const Change change(*completion);
+        return ::CallWindowProcW(procedure, window, message, wParam, lParam);
+    }
+    if (completion && searchesAll(message, wParam, lParam)) {
+        const std::optional<int> start = completion->startFor(reinterpret_cast<const wchar_t*>(lParam));
+        if (!start)
+            return LB_ERR;
+        wParam = static_cast<WPARAM>(*start);
+    }
+    return ::CallWindowProcW(procedure, window, message, wParam, lParam);
 }
 
 } // namespace ovoui::lists

@@ -6,6 +6,7 @@
 
 #include <afxwin.h>
 
+#include <optional>
 #include <string>
 
 class COVOComboBox;
@@ -14,7 +15,8 @@ namespace ovoui::lists
 {
 
 /// Lives with its combo box. Watches the list from the first search on, since items may be changed by
-/// messages to the list itself too.
+/// messages to the list itself too. The platform's combo box searches the list as well, for each text that
+/// the field shows: such a search goes on where ours has ended.
 class ComboCompletion
 {
 public:
@@ -30,10 +32,14 @@ private:
     static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     bool watchesList();
     void leaveList();
+    std::optional<int> startFor(const wchar_t* text) const;
+
+    class Change;
 
     COVOComboBox& m_combo;
     HWND m_list = nullptr; ///< null while it is not watched
     CompletionSearch m_search;
+    int m_changes = 0; ///< that the list is in the middle of
     Lifeline m_lifeline;
 };
 

@@ -347,6 +347,147 @@ TEST(ComboTyping, ItemsMayChangeBetweenTwoCharacters)
     }
 }
 
+namespace
+{
+
+struct ListSearch
+{
+    int after;
+    std::wstring text;
+
+    bool operator==(const ListSearch&) const = default;
+};
+
+void PrintTo(const ListSearch& search, std::ostream* out)
+{
+    *out << ::testing::PrintToString(search.text) << " after " << search.after;
+}
+
+/// What is looked for in a list box, below all that was put in front of it later.
+class ListSearches
+{
+public:
+    explicit ListSearches(HWND listBox)
+        : m_listBox(listBox)
+    {
+        ::SetWindowSubclass(listBox, &hear, 1, reinterpret_cast<DWORD_PTR>(&m_all));
+    }
+    ~ListSearches() { ::RemoveWindowSubclass(m_listBox, &hear, 1); }
+    ListSearches(const ListSearches&) = delete;
+    ListSearches& operator=(const ListSearches&) = delete;
+
+    std::vector<ListSearch> take() { return std::exchange(m_all, {}); }
+
+private:
+    static LRESULT CALLBACK hear(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                 DWORD_PTR all)
+    {
+        if (message == LB_FINDSTRING)
+            reinterpret_cast<std::vector<ListSearch>*>(all)->push_back(
+                {static_cast<int>(wParam), reinterpret_cast<const wchar_t*>(lParam)});
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    }
+
+    HWND m_listBox;
+    std::vector<ListSearch> m_all;
+};
+
+/// The first item of a list box that begins with a text, whatever the case.
+int firstItemWith(HWND listBox, const std::wstring& text)
+{
+    const auto count = static_cast<int>(::SendMessageW(listBox, LB_GETCOUNT, 0, 0));
+    for (int item = 0; item < count; ++item) {
+        wchar_t found[64]{};
+        ::SendMessageW(listBox, LB_GETTEXT, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(found));
+        if (::_wcsnicmp(found, text.c_str(), text.size()) == 0)
+            return item;
+    }
+    return -1;
+}
+
+} // namespace
+
+// The platform's combo box looks for the field's text in the list, too, with each change of it.
+TEST(ComboTyping, ThePlatformsSearchesGoOnWhereOursHasEnded)
+{
+    ComboScene scene{L"apple", L"bread", L"cherry", L"BERRY", L"berry pie"};
+    ListSearches searches(scene.listBox());
+    scene.enter();
+    searches.take();
+    scene.robot.type(L"be");
+    EXPECT_EQ(scene.text(), L"berry pie");
+    const ListSearch wholeList{-1, L"b"};
+    const std::vector<ListSearch> all = searches.take();
+    ASSERT_EQ(std::ranges::count(all, wholeList), 1);
+    for (const ListSearch& search : all)
+        EXPECT_TRUE(search == wholeList || search.after >= 0) << ::testing::PrintToString(search);
+
+    scene.robot.type(L"x");
+    ASSERT_EQ(scene.text(), L"bex");
+    searches.take();
+    scene.robot.type(L"y");
+    EXPECT_TRUE(searches.take().empty()) << "since no item begins with bex";
+}
+
+TEST(ComboTyping, TheListAnswersSearchesAsWithoutCompletion)
+{
+    for (const ItemChange& change : kItemChanges)
+        for (const DWORD style : {0L, CBS_OWNERDRAWFIXED | CBS_HASSTRINGS}) {
+            SCOPED_TRACE(change.name);
+            ComboScene scene(change.items, change.style | style);
+            scene.enter();
+            scene.robot.type(L"b");
+            const auto expectAnswers = [&] {
+                for (const wchar_t* text :
+                     {L"b", L"B", L"be", L"bee", L"berry", L"bread", L"best", L"x", L"zz"})
+                    EXPECT_EQ(
+                        ::SendMessageW(scene.listBox(), LB_FINDSTRING, static_cast<WPARAM>(-1), param(text)),
+                        firstItemWith(scene.listBox(), text))
+                        << ::testing::PrintToString(text);
+            };
+            expectAnswers();
+            change.act(scene);
+            expectAnswers();
+            scene.robot.type(L"e");
+            expectAnswers();
+        }
+}
+
+namespace
+{
+
+LRESULT CALLBACK hearMeasuring(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                               DWORD_PTR measuring)
+{
+    if (message == WM_MEASUREITEM)
+        (*reinterpret_cast<const std::function<void()>*>(measuring))();
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+} // namespace
+
+// The parent of a list with items of different heights is asked for each one that comes.
+TEST(ComboTyping, SearchesInTheMiddleOfAChangeFindWhatIsThere)
+{
+    const TemporaryFiles files{L"apple.txt", L"berry.txt", L"cherry.txt"};
+    ComboScene scene({L"x"}, CBS_DROPDOWN | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS);
+    scene.enter();
+    std::vector<std::wstring> texts;
+    const std::function<void()> typeB = [&] {
+        scene.setText(L"");
+        ::SendMessageW(scene.edit(), WM_CHAR, L'b', 1);
+        texts.push_back(scene.text());
+        EXPECT_EQ(::SendMessageW(scene.listBox(), LB_FINDSTRING, static_cast<WPARAM>(-1), param(L"berry")),
+                  firstItemWith(scene.listBox(), L"berry"));
+    };
+    typeB();
+    ::SetWindowSubclass(scene.parent, &hearMeasuring, 1, reinterpret_cast<DWORD_PTR>(&typeB));
+    scene.combo.Dir(0, files.path(L"*.txt").c_str());
+    ::RemoveWindowSubclass(scene.parent, &hearMeasuring, 1);
+    typeB();
+    EXPECT_EQ(texts, (std::vector<std::wstring>{L"b", L"b", L"berry.txt", L"berry.txt", L"berry.txt"}));
+}
+
 TEST(ComboTyping, AnotherWindowHasOtherItems)
 {
     ComboScene scene{L"x", L"berry"};

@@ -25,7 +25,7 @@ public:
     template <class Find, class TextOf>
     int itemFor(std::wstring_view text, int count, const Find& find, const TextOf& textOf)
     {
-        const Found before = foundBefore(text);
+        const Found before = foundFor(text);
         Found found;
         found.first = before.first == kNone ? kNone : find(before.first - 1);
         found.exact = kNone;
@@ -35,6 +35,10 @@ public:
         remember(text, found);
         return found.exact == kNone ? found.first : found.exact;
     }
+
+    /// The first item that can begin with a text, whatever the case: none before it does. -1 when none does
+    /// at all.
+    int firstFor(std::wstring_view text) const { return foundFor(text).first; }
 
     /// To be called when items have changed.
     void forget() { m_beginnings.clear(); }
@@ -54,8 +58,10 @@ private:
         Found found;
     };
 
-    /// For the longest known beginning of a text; forgets what is no beginning of it.
-    Found foundBefore(std::wstring_view text);
+    /// For the longest known beginning of a text.
+    Found foundFor(std::wstring_view text) const;
+    std::size_t commonWith(std::wstring_view text) const;
+    /// Forgets what is no beginning of the text.
     void remember(std::wstring_view text, const Found& found);
 
     /// The first item from `start` on that begins with exactly the text. `first`: the first one of all that

@@ -53,6 +53,8 @@ public:
             [this](int item) { return m_items[static_cast<std::size_t>(item)]; });
     }
 
+    int firstFor(std::wstring_view text) const { return m_search.firstFor(text); }
+
     /// Without any memory: every item in turn.
     int plainCompletion(const std::wstring& text)
     {
@@ -185,6 +187,24 @@ TEST(CompletionSearch, AnEmptyTextSaysNothingAboutOthers)
     EXPECT_EQ(items.completion(L"b"), 1);
 }
 
+TEST(CompletionSearch, SaysBeforeWhichItemALongerTextNeedNotBeLookedFor)
+{
+    Items items({L"x", L"Apple", L"apricot"});
+    EXPECT_EQ(items.firstFor(L"apricot"), 0) << "nothing is known yet";
+    EXPECT_EQ(items.completion(L"ap"), 2);
+    EXPECT_EQ(items.firstFor(L"ap"), 1);
+    EXPECT_EQ(items.firstFor(L"apricot"), 1);
+    EXPECT_EQ(items.firstFor(L"AP"), 0) << "known for the text as it was typed only";
+    EXPECT_EQ(items.firstFor(L"a"), 0);
+    EXPECT_EQ(items.firstFor(L""), 0);
+    EXPECT_EQ(items.completion(L"apz"), -1);
+    EXPECT_EQ(items.firstFor(L"apzo"), -1);
+    EXPECT_EQ(items.firstFor(L"ape"), 1);
+    items.insert(0, L"apex");
+    EXPECT_EQ(items.firstFor(L"ape"), 0);
+    EXPECT_EQ(items.firstFor(L"apzo"), 0);
+}
+
 // Random users and hosts: with and without memory the same items are found.
 TEST(CompletionSearch, RemembersNothingWrong)
 {
@@ -223,6 +243,10 @@ TEST(CompletionSearch, RemembersNothingWrong)
             }
             const int expected = items.plainCompletion(typed);
             ASSERT_EQ(items.completion(typed), expected) << "list " << list << ", step " << step;
+            const std::wstring longer = typed.substr(0, upTo(typed.size())) + anyText(2);
+            const int from = items.firstFor(longer);
+            const int first = items.find(-1, longer);
+            ASSERT_TRUE(first == -1 || (from != -1 && from <= first)) << "list " << list << ", step " << step;
             found += expected != -1;
         }
     }
