@@ -68,6 +68,11 @@ void SwatchPicker::UpdateExternalColours(bool final)
     m_host.changed(GetColour(), final);
 }
 
+MirroredPicker::MirroredPicker(const PickerHost& host, const Colour& colour, CWnd* parent)
+    : SwatchPicker(IDD_MIRRORED_PICKER, host, colour, parent)
+{
+}
+
 // On a shaded tab control
 
 PickerPage::PickerPage(const PickerHost& host, const Colour& colour, CShadedTabCtrl& tabs)

@@ -49,6 +49,13 @@ private:
     const PickerHost& m_host;
 };
 
+/// The same from right to left, as in a program in Arabic or Hebrew.
+class MirroredPicker : public SwatchPicker
+{
+public:
+    MirroredPicker(const PickerHost& host, const Colour& colour, CWnd* parent);
+};
+
 /// The page of a shaded tab control.
 class PickerPage : public SwatchPicker
 {

@@ -184,9 +184,10 @@ void ColourPickerPage::OnTaken()
 
 std::vector<std::wstring> ColourPickerPage::poses() const
 {
-    return {L"rgb",      L"hls",      L"hsv",    L"alpha",
-            L"mid-drag", L"custom",   L"on-tab", L"property-sheet",
-            L"palette",  L"keyboard", L"button", L"dropper"};
+    return {L"rgb",          L"hls",      L"hsv",    L"alpha",
+            L"mid-drag",     L"custom",   L"on-tab", L"property-sheet",
+            L"palette",      L"keyboard", L"button", L"dropper",
+            L"right-to-left"};
 }
 
 /// What the page itself shows, without a dialog.
@@ -212,6 +213,10 @@ bool ColourPickerPage::pose(const std::wstring& name)
         return true;
     if (name == L"custom") {
         SwatchPicker(m_host, m_colour, this).DoModal();
+        return true;
+    }
+    if (name == L"right-to-left") {
+        MirroredPicker(m_host, m_colour, this).DoModal();
         return true;
     }
     if (name == L"on-tab") {

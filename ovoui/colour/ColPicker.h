@@ -211,6 +211,7 @@ private:
     bool change(CWnd* wnd, const Colour& colour, bool force, bool final);
 
     // Mouse
+    CPoint inWheel(CPoint point) const;
     Drag partAt(CPoint point) const;
     Colour colourAt(Drag part, CPoint point) const;
     void beginDrag(CWnd* wnd, Drag drag);

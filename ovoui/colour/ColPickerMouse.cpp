@@ -32,13 +32,19 @@ bool isButtonDown()
 
 } // namespace
 
+/// The point of the wheel that the user sees under the mouse. A mirrored window counts the mouse's points as
+/// edges from its right side, so the first column has number 1; for a DC it has number 0.
+CPoint ColPicker::inWheel(CPoint point) const
+{
+    return asDrawn(m_mirrored ? point - CSize(1, 0) : point);
+}
+
 /// None, too, where the swatches are.
 ColPicker::Drag ColPicker::partAt(CPoint point) const
 {
-    const Vector<2> inWheel = vectorOf(asDrawn(point));
-    if (hasWheel() && m_wheel->triangle().test(inWheel, kReach).inTriangle)
+    if (hasWheel() && m_wheel->triangle().test(vectorOf(inWheel(point)), kReach).inTriangle)
         return Drag::Triangle;
-    if (hasWheel() && m_wheel->ring().test(inWheel, kReach).onRing)
+    if (hasWheel() && m_wheel->ring().test(vectorOf(inWheel(point)), kReach).onRing)
         return Drag::Ring;
     return m_patchRect.PtInRect(point) ? Drag::Patch : Drag::None;
 }
@@ -46,12 +52,11 @@ ColPicker::Drag ColPicker::partAt(CPoint point) const
 /// The colour to which a drag in the triangle or on the ring leads.
 Colour ColPicker::colourAt(Drag part, CPoint point) const
 {
-    const Vector<2> inWheel = vectorOf(asDrawn(point));
     if (part == Drag::Triangle) {
-        const ShadeTriangle::Hit hit = m_wheel->triangle().test(inWheel, kReach);
+        const ShadeTriangle::Hit hit = m_wheel->triangle().test(vectorOf(inWheel(point)), kReach);
         return Colour::hlsa(m_colour.h_hls(), hit.lightness, hit.saturation, m_colour.a());
     }
-    const HueRing::Hit hit = m_wheel->ring().test(inWheel, kReach);
+    const HueRing::Hit hit = m_wheel->ring().test(vectorOf(inWheel(point)), kReach);
     return Colour::hlsa(hit.hue, m_colour.l_hls(), m_colour.s_hls(), m_colour.a());
 }
 
@@ -174,7 +179,7 @@ bool ColPicker::DoLButtonDblClk(CWnd* wnd, UINT, CPoint point)
 {
     const Drag part = partAt(point);
     if (part == Drag::Ring) {
-        const HueRing::Hit hit = m_wheel->ring().test(vectorOf(asDrawn(point)), kReach);
+        const HueRing::Hit hit = m_wheel->ring().test(vectorOf(inWheel(point)), kReach);
         change(wnd, Colour::hls(hit.hue, 0.5, 1), true, true);
         return true;
     }

@@ -90,6 +90,36 @@ struct Reach : ColPicker
     }
 };
 
+/// A host's dialog that has a text for each of its controls.
+class TippedPicker : public Picker
+{
+public:
+    using Picker::Picker;
+
+protected:
+    BOOL OnNeedText(UINT, NMHDR* header, LRESULT*)
+    {
+        auto* const tip = reinterpret_cast<TOOLTIPTEXT*>(header);
+        const int id = ::GetDlgCtrlID(reinterpret_cast<HWND>(header->idFrom));
+        wcscpy(tip->szText, (L"tip of " + std::to_wstring(id)).c_str());
+        return TRUE;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(TippedPicker, Picker)
+    ON_NOTIFY_EX(TTN_NEEDTEXT, 0, &TippedPicker::OnNeedText)
+END_MESSAGE_MAP()
+
+/// What the tip on the screen says; nothing without one.
+std::wstring shownTip()
+{
+    wchar_t text[100]{};
+    if (const HWND tip = shownWindow(nullptr, TOOLTIPS_CLASSW))
+        ::GetWindowTextW(tip, text, static_cast<int>(std::size(text)));
+    return text;
+}
+
 } // namespace
 
 TEST_F(PickerEngine, WhatHostsOverrideStandsInOrder)
@@ -115,22 +145,13 @@ TEST_F(PickerEngine, EveryEditTakesThreePlainDigits)
 
 TEST_F(PickerEngine, TheDialogShowsTips)
 {
-    struct Tipped : Picker
-    {
-        using Picker::Picker;
-        mutable int asked = 0;
-        INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override
-        {
-            ++asked;
-            return Picker::OnToolHitTest(point, info);
-        }
-    };
-    Tipped tipped(TestApp::instance(), ColPickerModeRGB, kOrange, nullptr, nullptr);
+    TippedPicker tipped(TestApp::instance(), ColPickerModeRGB, kOrange, nullptr, nullptr);
     tipped.createColPickerDlgBase();
     ready(tipped);
-    user.moveTo(Spot{tipped.m_slider1}).moveBy(3, 1).waitFor("the question", [&] {
-        return tipped.asked > 0;
-    });
+    const auto says = [](const wchar_t* text) { return [=] { return shownTip() == text; }; };
+    user.moveTo(Spot{tipped.m_slider1}).moveBy(3, 1).waitFor("the slider's tip", says(L"tip of 3432"));
+    user.moveTo(Spot{tipped.m_value2}).moveBy(3, 1).waitFor("the edit's tip", says(L"tip of 3438"));
+    user.moveTo(Spot{tipped, tipped.m_wheelRect.TopLeft()}).waitFor("the end of the tip", says(L""));
     tipped.DestroyWindow();
 }
 

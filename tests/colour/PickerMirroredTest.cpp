@@ -134,22 +134,24 @@ TEST_F(PickerMirrored, TheMarkersStandWhereTheColourIsSeen)
     EXPECT_EQ(picture.at(middle + CSize(0, 3)), plain(middle + CSize(0, 3)) ^ 0x00FFFFFF);
 }
 
-// The platform tells a point of a mirrored window up to a pixel beside the one that the user points at.
+// The pointer is at most half a pixel beside a place in each direction. Along an edge of the ring, which is
+// as long as the inner radius, a pixel is worth 60 / inner degrees.
 TEST_F(PickerMirrored, TheUserPicksWhatTheUserSees)
 {
-    constexpr double kPixel = 1.6; // degrees
     openMirrored();
-    for (const double degrees : {60.0, 90.0, 200.0, 300.0}) {
+    const double hueBound = std::sqrt(0.5) * 60 / ring().inner() + 1e-9;
+    const auto triangle = ovoui::colour::triangleIn(ring());
+    for (const double degrees : {10.0, 45.0, 60.0, 90.0, 160.0, 200.0, 300.0, 350.0}) {
         user.click(atHue(degrees));
-        EXPECT_NEAR(hueNow(), degrees, kPixel);
+        EXPECT_NEAR(hueNow(), degrees, hueBound);
     }
     user.drag(atShade(0.3, 0.5), atShade(0.8, 0.4));
-    EXPECT_NEAR(host->GetColour().l_hls(), 0.8, 0.02);
-    EXPECT_NEAR(host->GetColour().s_hls(), 0.4, 0.05);
+    EXPECT_NEAR(host->GetColour().l_hls(), 0.8, 0.5 / triangle.rect().width());
+    EXPECT_NEAR(host->GetColour().s_hls(), 0.4, 1.5 / (0.4 * triangle.rect().height())) << "k is 0.4 there";
     user.drag(atHue(180), atHue(60));
-    EXPECT_NEAR(hueNow(), 60, kPixel);
+    EXPECT_NEAR(hueNow(), 60, hueBound);
     user.doubleClick(atHue(240));
-    EXPECT_NEAR(hueNow(), 240, kPixel);
+    EXPECT_NEAR(hueNow(), 240, hueBound);
     EXPECT_NEAR(host->GetColour().s_hls(), 1, 1e-9);
 }
 
