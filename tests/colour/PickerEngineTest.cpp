@@ -56,6 +56,17 @@ private:
 int g_drawn = 0;
 int g_disposed = 0;
 
+struct Lock
+{
+    Gdiplus::Rect rect;
+    UINT flags;
+    INT format;
+    INT stride;
+    bool hasBuffer;
+};
+std::vector<Lock> g_locks;
+int g_unlocks = 0;
+
 class PickerEngine : public PickerScene
 {
 protected:
@@ -257,6 +268,36 @@ TEST_F(PickerEngine, OnlyWhatIsStaleIsDrawn)
     }
 }
 
+// A bitmap of GDI+ may keep pixels of its own.
+TEST_F(PickerEngine, ANewTriangleIsHandedToTheBitmap)
+{
+    open();
+    picker->UpdateWindow();
+    const auto lock = +[](Gdiplus::GpBitmap* bitmap, const Gdiplus::Rect* rect, UINT flags, INT format,
+                          Gdiplus::BitmapData* data) {
+        g_locks.push_back({*rect, flags, format, data->Stride, data->Scan0 != nullptr});
+        return Gdiplus::DllExports::GdipBitmapLockBits(bitmap, rect, flags, format, data);
+    };
+    const auto unlock = +[](Gdiplus::GpBitmap* bitmap, Gdiplus::BitmapData* data) {
+        ++g_unlocks;
+        return Gdiplus::DllExports::GdipBitmapUnlockBits(bitmap, data);
+    };
+    const ImportPatch locking(L"ovoui.dll", "GdipBitmapLockBits", reinterpret_cast<void*>(lock));
+    const ImportPatch unlocking(L"ovoui.dll", "GdipBitmapUnlockBits", reinterpret_cast<void*>(unlock));
+    g_locks.clear();
+    g_unlocks = 0;
+    picker->SetColour(picker.get(), Colour::hls(Angle::degrees(200), 0.5, 1), true);
+    picker->UpdateWindow();
+    const CRect wheel = picker->m_wheelRect;
+    ASSERT_EQ(g_locks.size(), 1u);
+    EXPECT_TRUE(g_locks[0].rect.Equals(Gdiplus::Rect(0, 0, wheel.Width(), wheel.Height())));
+    EXPECT_EQ(g_locks[0].flags, UINT{Gdiplus::ImageLockModeWrite | Gdiplus::ImageLockModeUserInputBuf});
+    EXPECT_EQ(g_locks[0].format, PixelFormat32bppARGB);
+    EXPECT_EQ(g_locks[0].stride, wheel.Width() * 4);
+    EXPECT_TRUE(g_locks[0].hasBuffer);
+    EXPECT_EQ(g_unlocks, 1);
+}
+
 TEST_F(PickerEngine, ChangesAreShownWithoutErasing)
 {
     open(ColPickerModeRGB, Colour::rgba(1, 0.5, 0, 0.5));
@@ -430,11 +471,12 @@ TEST_F(PickerEngine, SwatchesAndPureHuesHaveNoAlpha)
 
 TEST_F(PickerEngine, TheHueOfAGreyFollowsADrag)
 {
-    open(ColPickerModeHLS, Colour::hlsa(Angle::degrees(0), 0.5, 0, 1));
+    open(ColPickerModeHLS, Colour::hlsa(Angle::degrees(45), 0.5, 0, 1));
     const CPoint top = picker->centre() - CSize(0, picker->outer() * 9 / 10);
     const CPoint bottom = picker->centre() + CSize(0, picker->outer() * 9 / 10);
     const CPoint right = picker->centre() + CSize(picker->outer(), 0);
     picker->DoLButtonDown(picker.get(), MK_LBUTTON, top);
+    EXPECT_NEAR(std::remainder(picker->GetColour().h_hls().degrees(), 360), 0, 1e-9);
     picker->DoMouseMove(picker.get(), MK_LBUTTON, bottom);
     EXPECT_NEAR(picker->GetColour().h_hls().degrees(), 180, 1e-9);
     picker->DoLButtonUp(picker.get(), 0, right);

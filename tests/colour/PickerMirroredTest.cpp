@@ -47,9 +47,16 @@ class PickerMirrored : public PickerScene
 protected:
     PickerMirrored() { keyboard = true; }
 
-    void openMirrored(const Colour& colour = kOrange)
+    /// `wider` by so many pixels is the wheel than in the template.
+    void openMirrored(const Colour& colour = kOrange, int wider = 0)
     {
-        openSwatches(kMirroredTemplate, colour);
+        openSwatches(kMirroredTemplate, colour, [this, wider] {
+            CRect place;
+            CWnd* const wheel = host->GetDlgItem(kWheel);
+            wheel->GetWindowRect(&place);
+            wheel->SetWindowPos(nullptr, 0, 0, place.Width() + wider, place.Height(),
+                                SWP_NOMOVE | SWP_NOZORDER);
+        });
         host->GetDlgItem(IDOK)->SetFocus(); // which leaves ring and triangle without a mark
         ASSERT_TRUE(host->GetExStyle() & WS_EX_LAYOUTRTL);
     }
@@ -182,13 +189,17 @@ TEST_F(PickerMirrored, KeysGoWhereTheyPoint)
     EXPECT_EQ(host->GetColour().colorref(), host->custom[1]);
 }
 
+// An uneven number of columns has no two equal halves.
 TEST_F(PickerMirrored, TheStopsLieOverRingAndTriangle)
 {
-    openMirrored();
-    CRect triangle;
-    host->GetDlgItem(20566)->GetWindowRect(&triangle);
-    const ovoui::colour::PixelRect inner = ovoui::colour::triangleIn(ring()).rect();
-    EXPECT_EQ(triangle, CRect(inner.left, inner.top, inner.right, inner.bottom));
+    for (const int wider : {0, 1}) {
+        openMirrored(kOrange, wider);
+        CRect triangle;
+        host->GetDlgItem(20566)->GetWindowRect(&triangle);
+        const ovoui::colour::PixelRect inner = ovoui::colour::triangleIn(ring()).rect();
+        EXPECT_EQ(triangle, CRect(inner.left, inner.top, inner.right, inner.bottom)) << wider;
+        host->DestroyWindow();
+    }
 }
 
 TEST_F(PickerMirrored, MovesOfTheMarkersAndTheFocusLeaveNoTrace)
@@ -262,7 +273,9 @@ protected:
         seen(page); // in the tabs' pattern, whichever way the markers' is found afterwards
         page.tabs = told ? &tabs : nullptr;
         for (int i = 0; i < 40; ++i) {
-            page.SetColour(&page, Colour::hls(Angle::degrees(i * 9), 0.5, 1), true);
+            // The cross goes along both sides of the triangle and the base, beyond which it reaches.
+            const double lightness = (i % 11) / 10.0;
+            page.SetColour(&page, Colour::hls(Angle::degrees(i * 9), lightness, i % 3 == 0 ? 0 : 1), true);
             page.UpdateWindow();
         }
         wheel = page.m_wheelRect;

@@ -189,10 +189,13 @@ protected:
         ready(*picker);
     }
 
-    /// Opens a picker with swatches in a template of the test's.
-    void openSwatches(int dialogTemplate = kSwatchTemplate, const Colour& colour = kOrange)
+    /// Opens a picker with swatches in a template of the test's. `onLoad` can change the template's items
+    /// before the picker looks at them.
+    void openSwatches(int dialogTemplate = kSwatchTemplate, const Colour& colour = kOrange,
+                      std::function<void()> onLoad = nullptr)
     {
         host = std::make_unique<HostPicker>(dialogTemplate, TestApp::instance(), colour, nullptr, nullptr);
+        host->onLoad = std::move(onLoad);
         host->m_customAreaId = kSwatchArea;
         host->useKeyboard(keyboard);
         for (std::size_t i = 0; i < host->custom.size(); ++i)
