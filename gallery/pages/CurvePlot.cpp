@@ -1,5 +1,6 @@
 #include "CurvePlot.h"
 
+#include "Direction.h"
 #include "Resolution.h"
 
 #include <algorithm>
@@ -24,7 +25,8 @@ bool CurvePlot::create(CWnd& parent)
 {
     const LPCTSTR cls = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW),
                                             reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
-    return CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), &parent, 1) != FALSE;
+    return CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), &parent, 1) != FALSE &&
+           readsFromTheLeft(*this);
 }
 
 void CurvePlot::show(Curve numberAt, double value)

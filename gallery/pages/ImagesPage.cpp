@@ -48,7 +48,7 @@ void drawZoomed(CDC& dc, CAlphaImageList& images, int image, CPoint place, int s
     memory.FillSolidRect(0, 0, kScaled, kScaled, ::GetSysColor(COLOR_WINDOW));
     images.ImageList()->Draw(&memory, image, CPoint(0, 0), ILD_NORMAL);
     dc.SetStretchBltMode(COLORONCOLOR);
-    dc.StretchBlt(place.x, place.y, side, side, &memory, 0, 0, kScaled, kScaled, SRCCOPY);
+    dc.StretchBlt(place.x, place.y, side, side, &memory, 0, 0, kScaled, kScaled, SRCCOPY | NOMIRRORBITMAP);
     memory.SelectObject(old);
 }
 

@@ -1,5 +1,7 @@
 #include "TurnedBox.h"
 
+#include "Direction.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -87,7 +89,8 @@ bool TurnedBox::create(CWnd& parent)
 {
     const LPCTSTR cls =
         AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW), nullptr);
-    return CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), &parent, 1) != FALSE;
+    return CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(), &parent, 1) != FALSE &&
+           readsFromTheLeft(*this);
 }
 
 void TurnedBox::turn(double heading, double tilt)

@@ -1,5 +1,6 @@
 #include "WorkAreaMap.h"
 
+#include "Direction.h"
 #include "Resolution.h"
 
 #include <ovoui/frame/Geometry.h>
@@ -28,7 +29,8 @@ bool WorkAreaMap::create(CWnd& parent, std::function<void(const CRect&)> moved)
 {
     m_moved = std::move(moved);
     const LPCTSTR cls = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
-    return CreateEx(WS_EX_CLIENTEDGE, cls, L"", WS_CHILD | WS_VISIBLE, CRect(), &parent, 1) != FALSE;
+    return CreateEx(WS_EX_CLIENTEDGE, cls, L"", WS_CHILD | WS_VISIBLE, CRect(), &parent, 1) != FALSE &&
+           readsFromTheLeft(*this);
 }
 
 CRect WorkAreaMap::onMap(const CRect& screen) const

@@ -27,6 +27,9 @@ BufferedPaint::BufferedPaint(CWnd& wnd)
     if (const HBITMAP bitmap = createMemoryBitmap(m_client.Size())) {
         m_bitmap.Attach(bitmap);
         m_old = m_memory.SelectObject(&m_bitmap);
+        // Otherwise all would be reflected on its way to a window that is laid out from right to left,
+        // letters too.
+        m_memory.SetLayout(m_paint.GetLayout());
     }
 }
 

@@ -4,6 +4,8 @@
 #include <ovoui/sliders/core/DialPicture.h>
 #include <ovoui/sliders/core/DialTurn.h>
 
+#include <ovoui/frame/LeftToRight.h>
+
 #include <algorithm>
 
 using namespace ovoui::sliders;
@@ -94,8 +96,10 @@ double CDialSlider::angleAt(CPoint point, bool pressed)
 {
     CRect client;
     GetClientRect(&client);
-    const double direction =
-        directionOf(point.x + 0.5 - client.Width() / 2.0, point.y + 0.5 - client.Height() / 2.0);
+    // Clockwise is the same way round in a window that is laid out from right to left.
+    const double across = point.x + 0.5 - client.Width() / 2.0;
+    const double direction = directionOf((GetExStyle() & WS_EX_LAYOUTRTL) ? -across : across,
+                                         point.y + 0.5 - client.Height() / 2.0);
     if (pressed)
         m_turning->turn.begin(direction);
     return m_turning->turn.follow(direction);
@@ -128,6 +132,8 @@ void CDialSlider::paintBody(CDC& dc, const CRect& client, double shown)
     const CRect place(CPoint((client.Width() - size) / 2, (client.Height() - size) / 2), CSize(size, size));
     const std::vector<Shade> pixels =
         dialPicture(size, shown, ticks(), systemColours(IsWindowEnabled() != FALSE));
-    if (!pixels.empty())
-        putPixels(dc, place, pixels);
+    if (pixels.empty())
+        return;
+    const ovoui::frame::LeftToRight layout(dc);
+    putPixels(dc, layout.place(place), pixels);
 }

@@ -12,7 +12,8 @@
 
 /// The pointer is at the top at 0 degrees and goes clockwise as the angle grows. Tells its parent by
 /// WM_HSCROLL, as CRoundSlider does; a drag turns the knob by the angle that the pointer goes round its
-/// middle, any number of turns. A click without a movement turns nothing.
+/// middle, any number of turns. A click without a movement turns nothing. It looks and turns the same in a
+/// window that is laid out from right to left.
 class OVOUI_API CDialSlider : public CAngleSlider
 {
 public:

@@ -32,6 +32,13 @@ ButtonKey buttonKey(WPARAM key)
     }
 }
 
+/// Drags are followed on the screen, where the button may be laid out from right to left and the popup is not.
+CPoint onScreen(const CWnd& wnd, CPoint point)
+{
+    wnd.ClientToScreen(&point);
+    return point;
+}
+
 } // namespace
 
 // Mouse
@@ -51,7 +58,8 @@ void CSliderButton::OnLButtonDown(UINT, CPoint point)
     if (!press(point))
         return;
     SetCapture();
-    m_parts->drag.begin({point.x, point.y}, m_parts->place,
+    const CPoint pointer = onScreen(*this, point);
+    m_parts->drag.begin({pointer.x, pointer.y}, m_parts->place,
                         {::GetSystemMetrics(SM_CXDRAG), ::GetSystemMetrics(SM_CYDRAG)});
 }
 
@@ -67,7 +75,8 @@ void CSliderButton::OnMouseMove(UINT, CPoint point)
         enterTip();
         return;
     }
-    const auto position = m_parts->drag.move({point.x, point.y}, m_parts->positions);
+    const CPoint pointer = onScreen(*this, point);
+    const auto position = m_parts->drag.move({pointer.x, pointer.y}, m_parts->positions);
     if (!position || !m_popup.m_hWnd)
         return;
     m_popup.slider().SetPos(*position);

@@ -46,9 +46,9 @@ void CSliderButton::placePopup(const CPoint& at)
 
     CRect client;
     m_popup.GetClientRect(&client);
-    m_popup.MapWindowPoints(this, &client);
-    m_popup.MapWindowPoints(this, &channel);
-    m_parts->place = {channel.left + thumb - at.x,
+    m_popup.ClientToScreen(&client);
+    m_popup.ClientToScreen(&channel);
+    m_parts->place = {channel.left + thumb - pointer.x,
                       {channel.left, channel.right},
                       client.left,
                       client.top,

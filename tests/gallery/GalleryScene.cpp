@@ -5,9 +5,10 @@
 
 #include <gtest/gtest.h>
 
-GalleryScene::GalleryScene()
+GalleryScene::GalleryScene(From from)
     : m_frame(new GalleryFrame)
 {
+    ::SetProcessDefaultLayout(from == From::Right ? LAYOUT_RTL : 0);
     EXPECT_TRUE(m_frame->LoadFrame(IDR_MAIN_FRAME));
     m_handle = m_frame->m_hWnd;
     AfxGetApp()->m_pMainWnd = m_frame;
@@ -20,6 +21,7 @@ GalleryScene::~GalleryScene()
     if (isOpen())
         m_frame->DestroyWindow();
     AfxGetApp()->m_pMainWnd = nullptr;
+    ::SetProcessDefaultLayout(0);
 }
 
 void GalleryScene::open(const wchar_t* page)

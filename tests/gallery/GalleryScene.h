@@ -11,7 +11,14 @@
 class GalleryScene
 {
 public:
-    GalleryScene();
+    /// From which side the windows are laid out.
+    enum class From
+    {
+        Left,
+        Right
+    };
+
+    explicit GalleryScene(From from = From::Left);
     ~GalleryScene();
     GalleryScene(const GalleryScene&) = delete;
     GalleryScene& operator=(const GalleryScene&) = delete;
