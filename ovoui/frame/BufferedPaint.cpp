@@ -1,17 +1,14 @@
 #include <ovoui/frame/BufferedPaint.h>
 
+#include <ovoui/frame/MemoryBitmap.h>
+
 namespace
 {
 
 /// A bitmap of 32 bits in memory. One that is compatible with the window would have to ask the display first.
 HBITMAP createMemoryBitmap(const CSize& size)
 {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = size.cx;
-    info.bmiHeader.biHeight = -size.cy; // rows from the top
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    const BITMAPINFO info = ovoui::frame::topDownInfo(size.cx, size.cy);
     void* bits = nullptr;
     return ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
 }

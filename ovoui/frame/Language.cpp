@@ -2,21 +2,18 @@
 
 #include <ovoui/frame/Module.h>
 #include <ovoui/frame/Platform.h>
+#include <ovoui/frame/core/LanguageChoice.h>
 #include <ovouires/resource.h>
 
-#include <algorithm>
 #include <cwchar>
 #include <iterator>
+
+using namespace ovoui::frame;
 
 namespace
 {
 
 constexpr WORD kStringsOfBlock = 16;
-
-bool isEnglish(LANGID language)
-{
-    return PRIMARYLANGID(language) == LANG_ENGLISH;
-}
 
 /// What the texts are marked with: each language without a region and with one.
 std::vector<LANGID> allRegions()
@@ -32,15 +29,6 @@ std::vector<LANGID> allRegions()
     return found;
 }
 
-/// The same language with the region that the texts have; 0 when there are no texts in it.
-LANGID withRegionOfTexts(LANGID language)
-{
-    for (const LANGID known : allRegions())
-        if (PRIMARYLANGID(known) == PRIMARYLANGID(language) && SUBLANGID(known) != SUBLANG_NEUTRAL)
-            return known;
-    return 0;
-}
-
 bool setThreadLanguage(LANGID language)
 {
     // A list of one number of four digits, ended by an empty text; no list clears the choice.
@@ -54,17 +42,12 @@ bool setThreadLanguage(LANGID language)
 
 std::vector<LANGID> textLanguages()
 {
-    std::vector<LANGID> languages;
-    for (const LANGID region : allRegions())
-        if (SUBLANGID(region) == SUBLANG_NEUTRAL)
-            languages.push_back(region);
-    std::ranges::stable_partition(languages, isEnglish);
-    return languages;
+    return languagesAmong(allRegions());
 }
 
 bool setTextLanguage(LANGID language)
 {
-    const LANGID region = language ? withRegionOfTexts(language) : 0;
+    const LANGID region = language ? withRegionOfMarks(allRegions(), language) : 0;
     if (language && !region)
         return false;
     if (!setThreadLanguage(region))

@@ -51,13 +51,12 @@ void COVOMessageDialog::PressDefaultAfter(unsigned seconds)
 
 int COVOMessageDialog::DoModal() const
 {
-    const std::wstring caption = m_caption.empty() ? ovoui::resourceString(IDS_MESSAGE_CAPTION) : m_caption;
-    COVOMessageDialogBox box(*this, caption);
+    COVOMessageDialogBox box(*this);
     const int known = m_entry.empty() ? 0 : answers().number(m_entry);
-    if (known != 0 && known != IDCANCEL && known != IDHELP && box.hasButton(known))
+    if (box.mayBeKept(known))
         return known;
     const int answer = static_cast<int>(box.DoModal());
-    if (!m_entry.empty() && box.keepsAnswer() && answer != IDCANCEL && box.hasButton(answer))
+    if (!m_entry.empty() && box.keepsAnswer() && box.mayBeKept(answer))
         answers().write(m_entry, answer);
     return answer;
 }

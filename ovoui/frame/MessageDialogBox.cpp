@@ -4,9 +4,9 @@
 #include <ovoui/frame/FontDC.h>
 #include <ovoui/frame/MessageBoxIds.h>
 #include <ovoui/frame/Module.h>
+#include <ovoui/frame/core/BoxAnswers.h>
+#include <ovoui/frame/core/LineEnds.h>
 #include <ovouires/resource.h>
-
-#include <algorithm>
 
 using namespace ovoui::frame;
 
@@ -18,22 +18,6 @@ constexpr UINT kCountInterval = 200; ///< milliseconds; a second is not to be mi
 constexpr int kDetailLines = 8;
 constexpr int kCheckMark = 18; ///< pixels at 96 dots per inch beside a check box's label
 
-bool isInput(UINT message)
-{
-    switch (message) {
-    case WM_KEYDOWN:
-    case WM_SYSKEYDOWN:
-    case WM_LBUTTONDOWN:
-    case WM_RBUTTONDOWN:
-    case WM_MBUTTONDOWN:
-    case WM_NCLBUTTONDOWN:
-    case WM_MOUSEWHEEL:
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(COVOMessageDialogBox, COVOMsgBoxDlg)
@@ -42,8 +26,8 @@ BEGIN_MESSAGE_MAP(COVOMessageDialogBox, COVOMsgBoxDlg)
     ON_WM_TIMER()
 END_MESSAGE_MAP()
 
-COVOMessageDialogBox::COVOMessageDialogBox(const COVOMessageDialog& message, const std::wstring& caption)
-    : COVOMsgBoxDlg({message.m_owner, message.m_text.c_str(), caption.c_str(), message.m_type,
+COVOMessageDialogBox::COVOMessageDialogBox(const COVOMessageDialog& message)
+    : COVOMsgBoxDlg({message.m_owner, message.m_text.c_str(), message.m_caption.c_str(), message.m_type,
                      message.m_settingsKey.c_str(), message.m_helpId},
                     buttonsOf(message))
     , m_message(message)
@@ -65,9 +49,9 @@ MessageBoxButtons COVOMessageDialogBox::buttonsOf(const COVOMessageDialog& messa
                        : messageBoxButtons(message.m_type, std::move(own));
 }
 
-bool COVOMessageDialogBox::hasButton(int id) const
+bool COVOMessageDialogBox::mayBeKept(int answer) const
 {
-    return std::ranges::find(buttons().buttons, id, &MessageBoxButton::id) != buttons().buttons.end();
+    return ovoui::frame::mayBeKept(buttons(), answer);
 }
 
 BOOL COVOMessageDialogBox::OnInitDialog()
@@ -85,7 +69,7 @@ BOOL COVOMessageDialogBox::OnInitDialog()
 BOOL COVOMessageDialogBox::OnCommand(WPARAM wParam, LPARAM lParam)
 {
     const int id = LOWORD(wParam);
-    if (HIWORD(wParam) == BN_CLICKED && id != IDHELP && hasButton(id)) {
+    if (isAnswer(buttons(), id, HIWORD(wParam))) {
         EndDialog(id);
         return TRUE;
     }
@@ -101,7 +85,7 @@ void COVOMessageDialogBox::OnNotAgain()
 
 BOOL COVOMessageDialogBox::PreTranslateMessage(MSG* message)
 {
-    if (isInput(message->message))
+    if (endsCountdown(message->message))
         stopCountdown();
     return COVOMsgBoxDlg::PreTranslateMessage(message);
 }
@@ -113,11 +97,16 @@ void COVOMessageDialogBox::OnTimer(UINT_PTR timer)
         return;
     }
     const ULONGLONG now = ::GetTickCount64();
-    if (m_countdown.isOver(now)) {
+    switch (m_countdown.tick(now)) {
+    case CountTick::Press:
         stopCountdown();
         SendMessage(WM_COMMAND, MAKEWPARAM(defaultButton().id, BN_CLICKED));
-    } else if (m_countdown.isRunning()) {
+        break;
+    case CountTick::Show:
         showCount(countedLabel(m_defaultLabel, m_countdown.left(now)));
+        break;
+    case CountTick::Nothing:
+        break;
     }
 }
 

@@ -9,10 +9,11 @@
 class COVOMessageDialogBox : public COVOMsgBoxDlg
 {
 public:
-    COVOMessageDialogBox(const COVOMessageDialog& message, const std::wstring& caption);
+    explicit COVOMessageDialogBox(const COVOMessageDialog& message);
     ~COVOMessageDialogBox() override;
 
-    bool hasButton(int id) const;
+    /// Whether an answer may be kept, and given without showing the box.
+    bool mayBeKept(int answer) const;
     /// Whether the user has asked for the answer to be kept.
     bool keepsAnswer() const { return m_keepsAnswer; }
 

@@ -1,11 +1,25 @@
 #include <ovoui/frame/MsgBoxDlg.h>
 
 #include <ovoui/frame/ClipboardText.h>
+#include <ovoui/frame/HeldKeysNow.h>
+#include <ovoui/frame/Module.h>
 #include <ovoui/frame/ProfileSection.h>
 #include <ovoui/frame/UncountedMoves.h>
+#include <ovoui/frame/core/BoxAnswers.h>
+#include <ovoui/frame/core/BoxKeys.h>
 #include <ovouires/resource.h>
 
 using namespace ovoui::frame;
+
+namespace
+{
+
+CString captionOrDefault(const wchar_t* caption)
+{
+    return caption && *caption ? caption : ovoui::resourceString(IDS_MESSAGE_CAPTION).c_str();
+}
+
+} // namespace
 
 BEGIN_MESSAGE_MAP(COVOMsgBoxDlg, CDialog)
     // answers
@@ -36,7 +50,7 @@ COVOMsgBoxDlg::COVOMsgBoxDlg(const Request& request, MessageBoxButtons buttons)
     : CDialog(IDD_MESSAGE_BOX, CWnd::FromHandle(request.owner))
     , m_owner(request.owner)
     , m_message(request.text ? request.text : L"")
-    , m_caption(request.caption)
+    , m_caption(captionOrDefault(request.caption))
     , m_type(request.type)
     , m_settingsKey(request.settingsKey)
     , m_helpId(request.helpId)
@@ -59,7 +73,18 @@ void COVOMsgBoxDlg::DoDataExchange(CDataExchange* exchange)
 
 BOOL COVOMsgBoxDlg::PreTranslateMessage(MSG* message)
 {
-    return cancelByKeyboard(*message) || copyByKeyboard(*message) || CDialog::PreTranslateMessage(message);
+    const bool down = message->message == WM_KEYDOWN;
+    switch (down ? boxKey(static_cast<unsigned>(message->wParam), heldKeysNow()) : BoxKey::None) {
+    case BoxKey::Cancel:
+        SendMessage(WM_COMMAND, IDCANCEL);
+        return TRUE;
+    case BoxKey::Copy:
+        copyByKeyboard();
+        return TRUE;
+    case BoxKey::None:
+        break;
+    }
+    return CDialog::PreTranslateMessage(message);
 }
 
 BOOL COVOMsgBoxDlg::OnAnswer(UINT id)
@@ -75,13 +100,7 @@ void COVOMsgBoxDlg::OnCancel()
 
 void COVOMsgBoxDlg::OnClose()
 {
-    for (const int id : {IDCANCEL, IDNO, IDIGNORE, IDOK}) {
-        if (GetDlgItem(id)) {
-            EndDialog(id);
-            return;
-        }
-    }
-    EndDialog(IDCANCEL);
+    EndDialog(closeAnswer(m_buttons));
 }
 
 void COVOMsgBoxDlg::OnHelp()
@@ -126,25 +145,8 @@ void COVOMsgBoxDlg::savePosition()
     settingsSection().write(m_settingsKey.GetString(), text);
 }
 
-/// Escape always cancels. From the text it would otherwise close the box: an edit control of several lines
-/// takes the key to itself and sends its dialog WM_CLOSE.
-bool COVOMsgBoxDlg::cancelByKeyboard(const MSG& message)
+void COVOMsgBoxDlg::copyByKeyboard()
 {
-    if (message.message != WM_KEYDOWN || message.wParam != VK_ESCAPE)
-        return false;
-    SendMessage(WM_COMMAND, IDCANCEL);
-    return true;
-}
-
-/// Ctrl+C (or Ctrl+Insert) copies from anywhere in the box: the selection, or the whole message.
-bool COVOMsgBoxDlg::copyByKeyboard(const MSG& message)
-{
-    const bool copies = message.wParam == 'C' || message.wParam == VK_INSERT;
-    if (message.message != WM_KEYDOWN || !copies || ::GetKeyState(VK_CONTROL) >= 0)
-        return false;
-    if (::GetKeyState(VK_SHIFT) < 0 || ::GetKeyState(VK_MENU) < 0)
-        return false;
-
     int start = 0;
     int end = 0;
     m_text.GetSel(start, end);
@@ -152,5 +154,4 @@ bool COVOMsgBoxDlg::copyByKeyboard(const MSG& message)
         m_text.Copy();
     else
         setClipboardText(m_hWnd, m_message);
-    return true;
 }

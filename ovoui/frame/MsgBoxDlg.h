@@ -13,7 +13,7 @@
 class COVOMsgBoxDlg : public CDialog
 {
 public:
-    /// The arguments of OVOMessageBox, with the caption resolved.
+    /// The arguments of OVOMessageBox.
     struct Request
     {
         HWND owner;
@@ -36,7 +36,6 @@ protected:
 
     static ovoui::frame::BoxMetrics systemMetrics();
     static std::wstring labelOf(const ovoui::frame::MessageBoxButton& button);
-    static std::wstring withWindowsLineEnds(const std::wstring& text);
     const ovoui::frame::MessageBoxButtons& buttons() const { return m_buttons; }
     ovoui::frame::MessageBoxButton& defaultButton();
     ovoui::frame::Extent buttonSize() const { return {m_buttonWidth, m_buttonHeight}; }
@@ -79,10 +78,9 @@ private:
     void createButton(const ovoui::frame::MessageBoxButton& button, int position);
     void createIcon();
     void moveAnchorToSavedPosition();
-    RECT areaToCentreIn() const;
+    ovoui::frame::Box areaToCentreIn() const;
 
-    bool cancelByKeyboard(const MSG& message);
-    bool copyByKeyboard(const MSG& message);
+    void copyByKeyboard();
     void savePosition();
 
     MessageText m_text;

@@ -9,6 +9,8 @@
 #include <ovoui/frame/Platform.h>
 #include <ovoui/frame/ProfileSection.h>
 #include <ovoui/frame/UncountedMoves.h>
+#include <ovoui/frame/core/BoxAnswers.h>
+#include <ovoui/frame/core/LineEnds.h>
 #include <ovouires/resource.h>
 
 #include <algorithm>
@@ -86,18 +88,7 @@ BoxMetrics COVOMsgBoxDlg::systemMetrics()
 
 std::wstring COVOMsgBoxDlg::labelOf(const MessageBoxButton& button)
 {
-    if (!button.text.empty())
-        return button.text;
-    const std::wstring label = ovoui::resourceString(button.label);
-    return label.empty() ? button.fallback : label;
-}
-
-std::wstring COVOMsgBoxDlg::withWindowsLineEnds(const std::wstring& text)
-{
-    std::vector<std::wstring> lines;
-    for (TextLineIterator line(text); line; ++line)
-        lines.emplace_back(*line);
-    return joinLines(lines);
+    return ovoui::frame::labelOf(button, ovoui::resourceString(button.label));
 }
 
 BOOL COVOMsgBoxDlg::OnInitDialog()
@@ -221,13 +212,7 @@ void COVOMsgBoxDlg::addScrollBars(const TextArea& area)
 
 void COVOMsgBoxDlg::placeDialog(const Extent& size)
 {
-    Box box;
-    if (m_saved.remembered())
-        box = {m_saved.x, m_saved.y, m_saved.x + size.width, m_saved.y + size.height};
-    else
-        box = centredIn(toBox(areaToCentreIn()), size.width, size.height);
-
-    RECT place = toRect(box);
+    RECT place = toRect(startPlace(m_saved, size, areaToCentreIn()));
     EnsureRectVisible(place);
     MoveWindow(&place, FALSE);
 }
@@ -242,26 +227,20 @@ void COVOMsgBoxDlg::resize(const Extent& size)
     MoveWindow(&place);
 }
 
-/// The parent's client rectangle as it stands, with its corner at the screen's origin; without a parent, or
-/// when that is empty, the work area.
-RECT COVOMsgBoxDlg::areaToCentreIn() const
+Box COVOMsgBoxDlg::areaToCentreIn() const
 {
-    CRect area;
+    CRect client;
     if (const CWnd* parent = GetParent())
-        parent->GetClientRect(&area);
-    if (area.IsRectEmpty() && !::SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0))
-        area.SetRect(0, 0, 1280, 1024);
-    return area;
+        parent->GetClientRect(&client);
+    RECT work{};
+    const bool known = ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0) != FALSE;
+    return ovoui::frame::areaToCentreIn(toBox(client), known ? std::optional(toBox(work)) : std::nullopt);
 }
 
 void COVOMsgBoxDlg::createButtons()
 {
-    const int last = m_buttons.count() - 1;
-    const bool help = m_buttons.buttons[last].id == IDHELP;
-    if (help) // first in the tab order
-        createButton(m_buttons.buttons[last], last);
-    for (int position = 0; position < (help ? last : last + 1); ++position)
-        createButton(m_buttons.buttons[position], position);
+    for (const int position : tabOrder(m_buttons))
+        createButton(m_buttons.buttons[static_cast<std::size_t>(position)], position);
 }
 
 void COVOMsgBoxDlg::createButton(const MessageBoxButton& button, int position)

@@ -3,20 +3,18 @@
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/MessageBoxIds.h>
 #include <ovoui/frame/Module.h>
+#include <ovoui/frame/core/LineEnds.h>
+#include <ovoui/frame/core/ProgressRules.h>
 #include <ovouires/resource.h>
 
 #include <commctrl.h>
-
-#include <algorithm>
 
 using namespace ovoui::frame;
 
 namespace
 {
 
-constexpr int kSteps = 1000;            ///< of the bar
-constexpr int kBarHeight = 16;          ///< pixels at 96 dots per inch
-constexpr ULONGLONG kMessagePause = 20; ///< milliseconds for which the work is left alone
+constexpr int kBarHeight = 16; ///< pixels at 96 dots per inch
 
 MessageBoxButtons cancelAlone()
 {
@@ -33,10 +31,7 @@ BEGIN_MESSAGE_MAP(COVOProgressBoxDlg, COVOMsgBoxDlg)
 END_MESSAGE_MAP()
 
 COVOProgressBoxDlg::COVOProgressBoxDlg(HWND owner, const std::wstring& text, const std::wstring& caption)
-    : COVOMsgBoxDlg({owner, text.c_str(),
-                     (caption.empty() ? ovoui::resourceString(IDS_MESSAGE_CAPTION) : caption).c_str(),
-                     MB_ICONASTERISK, L"", 0},
-                    cancelAlone())
+    : COVOMsgBoxDlg({owner, text.c_str(), caption.c_str(), MB_ICONASTERISK, L"", 0}, cancelAlone())
     , m_owner(owner)
 {
 }
@@ -79,7 +74,7 @@ BOOL COVOProgressBoxDlg::OnInitDialog()
     m_bar = ::CreateWindowExW(0, PROGRESS_CLASSW, L"", WS_CHILD | WS_VISIBLE, place.left, place.top,
                               place.width(), place.height(), m_hWnd,
                               reinterpret_cast<HMENU>(INT_PTR{kProgressId}), ovoui::ownInstance(), nullptr);
-    ::SendMessageW(m_bar, PBM_SETRANGE32, 0, kSteps);
+    ::SendMessageW(m_bar, PBM_SETRANGE32, 0, kBarSteps);
     return focus;
 }
 
@@ -116,7 +111,8 @@ void COVOProgressBoxDlg::show(ULONGLONG done, ULONGLONG total)
 {
     if (!m_hWnd)
         return;
-    if (total == 0) {
+    const std::optional<int> position = barPosition(done, total);
+    if (!position) {
         showUnknown();
         return;
     }
@@ -124,10 +120,8 @@ void COVOProgressBoxDlg::show(ULONGLONG done, ULONGLONG total)
         ::SendMessageW(m_bar, PBM_SETMARQUEE, FALSE, 0);
         ::SetWindowLongPtrW(m_bar, GWL_STYLE, ::GetWindowLongPtrW(m_bar, GWL_STYLE) & ~PBS_MARQUEE);
     }
-    const double share = static_cast<double>(std::min(done, total)) / static_cast<double>(total);
-    const auto position = static_cast<WPARAM>(share * kSteps);
-    if (static_cast<WPARAM>(::SendMessageW(m_bar, PBM_GETPOS, 0, 0)) != position)
-        ::SendMessageW(m_bar, PBM_SETPOS, position, 0);
+    if (::SendMessageW(m_bar, PBM_GETPOS, 0, 0) != *position)
+        ::SendMessageW(m_bar, PBM_SETPOS, static_cast<WPARAM>(*position), 0);
 }
 
 void COVOProgressBoxDlg::showUnknown()
@@ -148,7 +142,7 @@ void COVOProgressBoxDlg::setText(const std::wstring& newText)
 bool COVOProgressBoxDlg::letMessagesThrough()
 {
     const ULONGLONG now = ::GetTickCount64();
-    if (!m_opened || now - m_lastMessages < kMessagePause)
+    if (!m_opened || !letsMessagesThrough(now, m_lastMessages))
         return true;
     const Lifeline::Watch watch(m_lifeline);
     MSG message;

@@ -1,11 +1,16 @@
 # Library frame: module start and stop, theme data, geometry, keys, the modal dialog base, the message box.
 set(frame_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/BoxAnswers.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/BoxExtras.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/BoxKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/Countdown.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/LanguageChoice.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/LineBreaker.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/LineEnds.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/MessageBoxLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/MessageBoxStyle.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/Placement.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ProgressRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SavedPosition.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TabStep.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/WrappedText.cpp)
@@ -13,7 +18,7 @@ set(frame_core
 if(NOT WIN32)
   add_library(ovoui_frame_core STATIC ${frame_core})
   target_include_directories(ovoui_frame_core PUBLIC ${PROJECT_SOURCE_DIR})
-  target_link_libraries(ovoui_frame_core PRIVATE ovo_flags)
+  target_link_libraries(ovoui_frame_core PRIVATE ovo_flags ovocor_core)
   return()
 endif()
 
@@ -26,6 +31,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/GlobalMemory.cpp
   ${CMAKE_CURRENT_LIST_DIR}/KeptTheme.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Language.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MemoryBitmap.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageDialog.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageDialogBox.cpp

@@ -1,5 +1,6 @@
 #include <ovoui/images/AlphaImageList.h>
 
+#include <ovoui/frame/MemoryBitmap.h>
 #include <ovoui/images/StripPainter.h>
 #include <ovoui/images/core/PictureSize.h>
 
@@ -9,16 +10,11 @@ using ovoui::images::StripPainter;
 namespace
 {
 
-/// The header of a top-down DIB section. Its size is that of the whole structure, with room for one colour.
+/// The header's size is that of the whole structure, with room for one colour.
 BITMAPINFO topDownHeader(UINT width, UINT height)
 {
-    BITMAPINFO info{};
+    BITMAPINFO info = ovoui::frame::topDownInfo(static_cast<int>(width), static_cast<int>(height));
     info.bmiHeader.biSize = sizeof(BITMAPINFO);
-    info.bmiHeader.biWidth = static_cast<LONG>(width);
-    info.bmiHeader.biHeight = -static_cast<LONG>(height);
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
     return info;
 }
 

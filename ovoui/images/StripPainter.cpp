@@ -1,5 +1,6 @@
 #include <ovoui/images/StripPainter.h>
 
+#include <ovoui/frame/MemoryBitmap.h>
 #include <ovoui/images/core/PictureSize.h>
 #include <ovoui/images/core/SharpenFilter.h>
 
@@ -17,8 +18,10 @@ constexpr Gdiplus::ARGB kTransparentWhite = 0x00FFFFFF;
 constexpr Gdiplus::ARGB kResourceKey = 0xFFC0C0C0; ///< transparent in resources: light grey
 constexpr Gdiplus::ARGB kNoKey = kOpaque;          ///< where the top left pixel cannot be read
 
-/// Images of this size or smaller are not sharpened in either direction.
-constexpr LONG kTooSmall = 3;
+ImageSize toImageSize(const SIZE& size)
+{
+    return {static_cast<int>(size.cx), static_cast<int>(size.cy)};
+}
 
 bool isGood(Gdiplus::Bitmap& bitmap)
 {
@@ -53,8 +56,7 @@ bool isGdiPlusStarted()
 std::unique_ptr<Gdiplus::Bitmap> withAlpha(HBITMAP dib, int width, int height)
 {
     auto picture = std::make_unique<Gdiplus::Bitmap>(width, height, PixelFormat32bppARGB);
-    BITMAPINFO info{};
-    info.bmiHeader = {sizeof(BITMAPINFOHEADER), width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    BITMAPINFO info = frame::topDownInfo(width, height);
     const Gdiplus::Rect all(0, 0, width, height);
     Gdiplus::BitmapData data{};
     if (picture->LockBits(&all, Gdiplus::ImageLockModeWrite, PixelFormat32bppARGB, &data) != Gdiplus::Ok)
@@ -113,9 +115,11 @@ StripPainter::StripPainter(const Strip& strip, const SIZE& sourceSize, const SIZ
 
 std::unique_ptr<Gdiplus::Bitmap> StripPainter::paint(long index, const DWORD* remap) const
 {
-    if (m_source.cx <= 0 || m_source.cy <= 0 || m_target.cx <= 0 || m_target.cy <= 0)
+    const ImageSize from = toImageSize(m_source);
+    const ImageSize to = toImageSize(m_target);
+    if (from.empty() || to.empty())
         return nullptr;
-    const Part part = partOf(index);
+    const ImageRange part = imagesAsked(index, m_strip.count(from.width));
     const std::int64_t width = std::int64_t{m_target.cx} * part.count;
     if (!isPictureSize(width, m_target.cy) || !isGdiPlusStarted())
         return nullptr;
@@ -124,17 +128,9 @@ std::unique_ptr<Gdiplus::Bitmap> StripPainter::paint(long index, const DWORD* re
     if (!isGood(*target))
         return nullptr;
     draw(*target, part, remap);
-    const bool scaled = m_target.cx != m_source.cx || m_target.cy != m_source.cy;
-    if (m_sharpen && scaled && m_target.cx > kTooSmall && m_target.cy > kTooSmall)
+    if (m_sharpen && isSharpened(from, to))
         sharpenImages(*target, part.count);
     return target;
-}
-
-StripPainter::Part StripPainter::partOf(long index) const
-{
-    if (index < 0)
-        return {0, m_strip.count(m_source.cx)};
-    return {static_cast<int>(index), 1};
 }
 
 std::unique_ptr<Gdiplus::Bitmap> StripPainter::source() const
@@ -176,7 +172,7 @@ std::unique_ptr<Gdiplus::ImageAttributes> StripPainter::attributes(const DWORD* 
     return result;
 }
 
-void StripPainter::draw(Gdiplus::Bitmap& target, const Part& part, const DWORD* remap) const
+void StripPainter::draw(Gdiplus::Bitmap& target, const ImageRange& part, const DWORD* remap) const
 {
     Gdiplus::Graphics graphics(&target);
     graphics.SetCompositingMode(Gdiplus::CompositingModeSourceCopy);
@@ -208,19 +204,19 @@ void StripPainter::drawWhole(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& sourc
 }
 
 /// Draws each image by itself, so that none gets pixels of its neighbours.
-void StripPainter::drawSeparately(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& source, const Part& part,
-                                  const Gdiplus::ImageAttributes* attributes) const
+void StripPainter::drawSeparately(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& source,
+                                  const ImageRange& part, const Gdiplus::ImageAttributes* attributes) const
 {
     for (int i = 0; i < part.count; ++i) {
         const Gdiplus::Rect slot(i * m_target.cx, 0, m_target.cx, m_target.cy);
         graphics.SetClip(slot, Gdiplus::CombineModeReplace);
-        const std::int64_t left = (std::int64_t{part.first} + i) * m_source.cx;
-        if (left + m_source.cx > m_strip.facts.bmWidth)
-            continue; // beyond the strip's end: the image stays empty
-        const std::unique_ptr<Gdiplus::Bitmap> image(
-            source.Clone(static_cast<INT>(left), 0, m_source.cx, m_source.cy, PixelFormat32bppARGB));
-        if (image)
-            graphics.DrawImage(image.get(), slot, 0, 0, m_source.cx, m_source.cy, Gdiplus::UnitPixel,
+        const int image = part.first + i;
+        if (!liesInStrip(image, m_source.cx, m_strip.facts.bmWidth))
+            continue; // it stays empty
+        const std::unique_ptr<Gdiplus::Bitmap> pixels(
+            source.Clone(image * m_source.cx, 0, m_source.cx, m_source.cy, PixelFormat32bppARGB));
+        if (pixels)
+            graphics.DrawImage(pixels.get(), slot, 0, 0, m_source.cx, m_source.cy, Gdiplus::UnitPixel,
                                attributes);
     }
 }

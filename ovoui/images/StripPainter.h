@@ -1,6 +1,8 @@
 /// Not exported: images of a strip, drawn through GDI+ at the size wanted.
 #pragma once
 
+#include <ovoui/images/core/StripRules.h>
+
 #include <afxwin.h>
 
 #include <objidl.h> // before the next one, which relies on it
@@ -53,20 +55,13 @@ public:
     std::unique_ptr<Gdiplus::Bitmap> paint(long index, const DWORD* remap) const;
 
 private:
-    struct Part
-    {
-        int first; ///< index of the first image drawn
-        int count;
-    };
-
-    Part partOf(long index) const;
     std::unique_ptr<Gdiplus::Bitmap> source() const;
     Gdiplus::ARGB transparentColour() const;
     std::unique_ptr<Gdiplus::ImageAttributes> attributes(const DWORD* remap) const;
-    void draw(Gdiplus::Bitmap& target, const Part& part, const DWORD* remap) const;
+    void draw(Gdiplus::Bitmap& target, const ImageRange& part, const DWORD* remap) const;
     void drawWhole(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& source, int count,
                    const Gdiplus::ImageAttributes* attributes) const;
-    void drawSeparately(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& source, const Part& part,
+    void drawSeparately(Gdiplus::Graphics& graphics, Gdiplus::Bitmap& source, const ImageRange& part,
                         const Gdiplus::ImageAttributes* attributes) const;
     void sharpenImages(Gdiplus::Bitmap& target, int count) const;
 

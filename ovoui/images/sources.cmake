@@ -1,5 +1,7 @@
 # Alpha images: the image list and the button that shows one.
-set(images_core ${CMAKE_CURRENT_LIST_DIR}/core/SharpenFilter.cpp)
+set(images_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/SharpenFilter.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/StripRules.cpp)
 if(WIN32)
   # Windows aligns the stack to 16 bytes only, which the compiler forgets when it puts a 32-byte register there.
   set_source_files_properties(${images_core} PROPERTIES COMPILE_OPTIONS -Wa,-muse-unaligned-vector-move)

@@ -1,7 +1,9 @@
 #include <ovoui/lists/ListCopier.h>
 
 #include <ovoui/frame/GlobalMemory.h>
+#include <ovoui/frame/HeldKeysNow.h>
 #include <ovoui/frame/Lifeline.h>
+#include <ovoui/frame/core/BoxKeys.h>
 #include <ovoui/lists/ReportColumns.h>
 #include <ovoui/lists/core/TableText.h>
 
@@ -57,8 +59,7 @@ bool put(UINT format, GlobalMemory block)
 
 bool asksForCopy(WPARAM virtualKey)
 {
-    return (virtualKey == L'C' || virtualKey == VK_INSERT) && ::GetKeyState(VK_CONTROL) < 0 &&
-           ::GetKeyState(VK_SHIFT) >= 0 && ::GetKeyState(VK_MENU) >= 0;
+    return ovoui::frame::isCopyKey(static_cast<unsigned>(virtualKey), ovoui::frame::heldKeysNow());
 }
 
 } // namespace

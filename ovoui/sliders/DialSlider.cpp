@@ -1,5 +1,6 @@
 #include <ovoui/sliders/DialSlider.h>
 
+#include <ovoui/frame/MemoryBitmap.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
 #include <ovoui/sliders/core/DialPicture.h>
 #include <ovoui/sliders/core/DialTurn.h>
@@ -44,12 +45,7 @@ void putPixels(CDC& dc, const CRect& place, const std::vector<Shade>& pixels)
     bits.reserve(pixels.size());
     for (const Shade& shade : pixels)
         bits.push_back(static_cast<DWORD>(shade.red << 16 | shade.green << 8 | shade.blue));
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = place.Width();
-    info.bmiHeader.biHeight = -place.Height(); // rows from the top
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    const BITMAPINFO info = ovoui::frame::topDownInfo(place.Width(), place.Height());
     ::SetDIBitsToDevice(dc, place.left, place.top, static_cast<DWORD>(place.Width()),
                         static_cast<DWORD>(place.Height()), 0, 0, 0, static_cast<UINT>(place.Height()),
                         bits.data(), &info, DIB_RGB_COLORS);

@@ -7,6 +7,17 @@
 namespace ovoui::frame
 {
 
+/// What is to be done at a tick of the clock.
+enum class CountTick
+{
+    Nothing, ///< the countdown does not run
+    Show,    ///< the seconds that are left
+    Press    ///< the default button
+};
+
+/// Whether a message is the user's input, by the platform's number: the countdown then ends.
+bool endsCountdown(unsigned message);
+
 /// Runs from its making until it is over or stopped. Times are in milliseconds of any clock that never goes
 /// back.
 class Countdown
@@ -23,6 +34,8 @@ public:
 
     /// Whether it is over; then it does not run any more, and is over only once.
     bool isOver(std::uint64_t now);
+
+    CountTick tick(std::uint64_t now);
 
 private:
     bool m_running = false;

@@ -73,6 +73,19 @@ Extent dialogSize(int textControlWidth, int textHeight, const Extent& button, in
     return {std::max(forText, forButtons), frame + button.height + aboveButtons};
 }
 
+Box areaToCentreIn(const Box& parentClient, const std::optional<Box>& workArea)
+{
+    constexpr Box kUnknown{0, 0, 1280, 1024};
+    return parentClient.empty() ? workArea.value_or(kUnknown) : parentClient;
+}
+
+Box startPlace(const SavedPosition& saved, const Extent& dialog, const Box& area)
+{
+    if (!saved.remembered())
+        return centredIn(area, dialog.width, dialog.height);
+    return {saved.x, saved.y, saved.x + dialog.width, saved.y + dialog.height};
+}
+
 Extent withExtras(const Extent& dialog, const BoxExtras& extras, const BoxMetrics& metrics)
 {
     return {std::max(dialog.width, extras.width + 2 * metrics.frameWidth),

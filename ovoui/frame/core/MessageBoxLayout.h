@@ -2,7 +2,9 @@
 #pragma once
 
 #include <ovoui/frame/core/Placement.h>
+#include <ovoui/frame/core/SavedPosition.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -75,6 +77,13 @@ Box grownTextControl(const Box& window, const Extent& from, const TextArea& to, 
 /// text area's client.
 Extent dialogSize(int textControlWidth, int textHeight, const Extent& button, int buttonCount,
                   const BoxMetrics& metrics);
+
+/// What a box without a remembered position is centred in: the client rectangle of its parent as it stands,
+/// with its corner at the screen's origin. Where that is empty the work area, which may not be known.
+Box areaToCentreIn(const Box& parentClient, const std::optional<Box>& workArea);
+
+/// Where the dialog opens: at the remembered position, or in the middle of an area.
+Box startPlace(const SavedPosition& saved, const Extent& dialog, const Box& area);
 
 /// The dialog's size with room for more.
 Extent withExtras(const Extent& dialog, const BoxExtras& extras, const BoxMetrics& metrics);

@@ -100,6 +100,13 @@ const std::vector<MessageBoxButton>& allMessageBoxButtons()
     return buttons;
 }
 
+std::wstring labelOf(const MessageBoxButton& button, const std::wstring& loaded)
+{
+    if (!button.text.empty())
+        return button.text;
+    return loaded.empty() ? button.fallback : loaded;
+}
+
 MessageBoxButtons messageBoxButtons(unsigned type)
 {
     std::vector<MessageBoxButton> buttons;

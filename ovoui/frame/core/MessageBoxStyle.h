@@ -19,6 +19,9 @@ struct MessageBoxButton
     std::wstring text{};
 };
 
+/// What a button is called; `loaded` is the string of its label, or empty when that is missing.
+std::wstring labelOf(const MessageBoxButton& button, const std::wstring& loaded);
+
 /// Every button there is, in the order of the label strings.
 const std::vector<MessageBoxButton>& allMessageBoxButtons();
 

@@ -1,7 +1,10 @@
 /// Which tab comes next when a dialog is paged through by the keyboard.
 #pragma once
 
+#include <ovoui/frame/core/HeldKeys.h>
+
 #include <cstdint>
+#include <optional>
 
 namespace ovoui::frame
 {
@@ -11,6 +14,10 @@ enum class TabDirection
     Forward,
     Backward
 };
+
+/// Where a key that goes down pages to; none for a key that does not page. `key` is the platform's virtual
+/// key.
+std::optional<TabDirection> tabDirection(unsigned key, const HeldKeys& held);
 
 /// Index of the tab beside `current` in a row of `count` tabs (at least 1), going round at both ends.
 /// The arithmetic is signed and the remainder keeps the sign of the dividend, so a row without a current

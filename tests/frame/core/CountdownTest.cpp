@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 using namespace ovoui::frame;
 
 TEST(Countdown, CountsTheSecondThatHasBegun)
@@ -48,4 +50,27 @@ TEST(Countdown, ManySecondsDoNotOverflow)
 TEST(Countdown, ALabelTellsWhatIsLeft)
 {
     EXPECT_EQ(countedLabel(L"&OK", 9), L"&OK (9)");
+}
+
+TEST(Countdown, EachTickShowsWhatIsLeftUntilOnePresses)
+{
+    Countdown count(2, 10'000);
+    for (std::uint64_t now = 10'000; now < 12'000; now += 200)
+        EXPECT_EQ(count.tick(now), CountTick::Show) << now;
+    EXPECT_EQ(count.tick(12'000), CountTick::Press);
+    EXPECT_EQ(count.tick(12'200), CountTick::Nothing) << "it presses once";
+
+    Countdown stopped(2, 10'000);
+    stopped.stop();
+    EXPECT_EQ(stopped.tick(10'200), CountTick::Nothing);
+    EXPECT_EQ(stopped.tick(13'000), CountTick::Nothing);
+    EXPECT_EQ(Countdown().tick(1), CountTick::Nothing);
+}
+
+TEST(Countdown, KeysButtonsAndTheWheelEndIt)
+{
+    // WM_KEYDOWN, WM_SYSKEYDOWN, the presses of three mouse buttons and of one in the frame, the wheel
+    const std::set<unsigned> input{0x100, 0x104, 0x201, 0x204, 0x207, 0xA1, 0x20A};
+    for (unsigned message = 0; message <= 0xFFFF; ++message)
+        ASSERT_EQ(endsCountdown(message), input.contains(message)) << std::hex << message;
 }

@@ -124,3 +124,29 @@ TEST(MessageBoxLayout, LinesAreJoinedByWindowsLineEnds)
     EXPECT_EQ(joinLines({L"oak"}), L"oak");
     EXPECT_EQ(joinLines({L"oak", L"", L"elm"}), L"oak\r\n\r\nelm");
 }
+
+TEST(MessageBoxLayout, AreaToCentreInIsTheParentsOrTheWorkArea)
+{
+    constexpr Box kParent{0, 0, 400, 300};
+    constexpr Box kWork{0, 0, 1280, 984};
+    EXPECT_EQ(areaToCentreIn(kParent, kWork), kParent);
+    EXPECT_EQ(areaToCentreIn(kParent, std::nullopt), kParent);
+    for (const Box& empty : {Box{}, Box{0, 0, 400, 0}, Box{0, 0, 0, 300}}) {
+        EXPECT_EQ(areaToCentreIn(empty, kWork), kWork);
+        EXPECT_EQ(areaToCentreIn(empty, std::nullopt), (Box{0, 0, 1280, 1024}));
+    }
+}
+
+TEST(MessageBoxLayout, OpensWhereItWasOrInTheMiddle)
+{
+    constexpr Box kArea{0, 0, 400, 300};
+    for (const int x : {-1, 0, 50})
+        for (const int y : {-1, 0, 70}) {
+            const Box box = startPlace({x, y}, {100, 60}, kArea);
+            EXPECT_EQ(box.width(), 100);
+            EXPECT_EQ(box.height(), 60);
+            const bool remembered = x != -1 && y != -1;
+            EXPECT_EQ(box.left, remembered ? x : 150);
+            EXPECT_EQ(box.top, remembered ? y : 120);
+        }
+}

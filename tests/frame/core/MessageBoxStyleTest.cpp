@@ -172,3 +172,12 @@ TEST(MessageBoxStyle, NoTwoButtonsOfABoxHaveTheSameMnemonic)
             }
         }
 }
+
+TEST(MessageBoxStyle, AButtonIsCalledByItsTextOrItsStringOrTheFallback)
+{
+    for (const wchar_t* text : {L"", L"Own"})
+        for (const wchar_t* loaded : {L"", L"String"}) {
+            const MessageBoxButton button{1, 20101, L"Fallback", text};
+            EXPECT_EQ(labelOf(button, loaded), *text ? L"Own" : *loaded ? L"String" : L"Fallback");
+        }
+}

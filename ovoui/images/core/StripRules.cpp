@@ -1,0 +1,24 @@
+#include <ovoui/images/core/StripRules.h>
+
+namespace ovoui::images
+{
+
+ImageRange imagesAsked(long index, int inStrip)
+{
+    if (index < 0)
+        return {0, inStrip};
+    return {static_cast<int>(index), 1};
+}
+
+bool isSharpened(const ImageSize& source, const ImageSize& target)
+{
+    constexpr int kTooSmall = 3;
+    return source != target && target.width > kTooSmall && target.height > kTooSmall;
+}
+
+bool liesInStrip(int index, int imageWidth, int stripWidth)
+{
+    return (std::int64_t{index} + 1) * imageWidth <= stripWidth;
+}
+
+} // namespace ovoui::images
