@@ -1,5 +1,7 @@
 #include <ovoui/update/BrowseUrl.h>
 
+#include <ovoui/update/core/AddressRules.h>
+
 #include <ovocor/IntCast.h>
 #include <ovocor/OvoError.h>
 #include <ovocor/Text.h>
@@ -38,21 +40,15 @@ INTERNET_SCHEME schemeOf(const std::wstring& canonical, const std::wstring& addr
     return parts.nScheme;
 }
 
-bool mayBeOpened(INTERNET_SCHEME scheme)
-{
-    return scheme == INTERNET_SCHEME_FTP || scheme == INTERNET_SCHEME_HTTP || scheme == INTERNET_SCHEME_HTTPS;
-}
-
 } // namespace
 
 void browseUrl(const std::wstring& address)
 {
-    // What the system is given ends at a zero: what is behind it would go unseen.
-    if (address.find(L'\0') != std::wstring::npos)
+    if (!ovoui::update::isSeenWhole(address))
         refuse(OVOMSG_URL_INVALID, address,
                formatMessage(ERROR_INTERNET_INVALID_URL, ::GetModuleHandleW(L"wininet.dll")));
     const std::wstring canonical = canonicalizeUrl(address);
-    if (!mayBeOpened(schemeOf(canonical, address)))
+    if (!ovoui::update::mayBeOpened(schemeOf(canonical, address)))
         refuse(OVOMSG_URL_SCHEME, address);
     SHELLEXECUTEINFOW execute{};
     execute.cbSize = sizeof execute;

@@ -2,23 +2,31 @@
 
 #include <ovoui/update/BrowseUrl.h>
 #include <ovoui/update/UpdateOffer.h>
+#include <ovoui/update/core/OfferRules.h>
 
 #include <ovocor/OvoError.h>
+
+using namespace ovoui::update;
 
 namespace
 {
 
-/// None when there is nothing new, and when the list cannot be had.
-std::optional<AvailableUpdate> foundSilently(const std::wstring& address, const std::wstring& product,
-                                             const std::wstring& options, const int version[4],
-                                             UpdateMemory& memory)
+struct Found
+{
+    Look look = Look::Failed;
+    std::optional<AvailableUpdate> update;
+};
+
+Found foundSilently(const std::wstring& address, const std::wstring& product, const std::wstring& options,
+                    const int version[4], const UpdateMemory& memory)
 {
     try {
-        const std::optional<AvailableUpdate> update = findUpdate(address, product, options, version);
-        memory.noteCheck();
-        return update;
+        const auto update = findUpdate(address, product, options, version);
+        if (!update)
+            return {Look::NothingNew, {}};
+        return {memory.isSkipped(*update) ? Look::Skipped : Look::Newer, update};
     } catch (const OvoError&) {
-        return std::nullopt;
+        return {};
     }
 }
 
@@ -28,15 +36,17 @@ void offerUpdate(const std::wstring& product, const AvailableUpdate& update, Upd
                  const UpdatePoliteness& politeness, CWnd* parent)
 {
     CUpdateOffer dialog(product, update, parent);
-    switch (dialog.DoModal()) {
-    case IDOK:
+    switch (afterAnswer(Asked::No, static_cast<int>(dialog.DoModal()))) {
+    case OfferAction::OpenPage:
         browseUrl(update.page);
         break;
-    case IDC_UPDATE_SKIP:
+    case OfferAction::Skip:
         memory.skip(update);
         break;
-    default:
+    case OfferAction::RemindLater:
         memory.remindLater(politeness.remindAfter);
+        break;
+    case OfferAction::Nothing:
         break;
     }
 }
@@ -47,7 +57,10 @@ void checkPolitely(const std::wstring& address, const std::wstring& product, con
     UpdateMemory memory(product);
     if (!memory.isDue(politeness.checkEvery))
         return;
-    const std::optional<AvailableUpdate> update = foundSilently(address, product, options, version, memory);
-    if (update && !memory.isSkipped(*update))
-        offerUpdate(product, *update, memory, politeness);
+    const Found found = foundSilently(address, product, options, version, memory);
+    const PoliteRule rule = afterLook(found.look);
+    if (rule.noted)
+        memory.noteCheck();
+    if (rule.offered)
+        offerUpdate(product, *found.update, memory, politeness);
 }

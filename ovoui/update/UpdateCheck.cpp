@@ -4,6 +4,7 @@
 #include <ovoui/update/UpdateAvailable.h>
 #include <ovoui/update/UpdateList.h>
 #include <ovoui/update/UpdateTrust.h>
+#include <ovoui/update/core/OfferRules.h>
 
 using namespace ovoui::update;
 
@@ -26,8 +27,11 @@ void checkForUpdates(const std::wstring& address, const std::wstring& product, c
                      const int version[4])
 {
     const std::optional<AvailableUpdate> update = findUpdate(address, product, options, version);
-    if (!update)
+    if (!update) {
         CUpdateAvailable(product).DoModal();
-    else if (CUpdateAvailable(product, update->description, update->page).DoModal() == IDOK)
+        return;
+    }
+    const INT_PTR result = CUpdateAvailable(product, update->description, update->page).DoModal();
+    if (afterAnswer(Asked::Yes, static_cast<int>(result)) == OfferAction::OpenPage)
         browseUrl(update->page);
 }

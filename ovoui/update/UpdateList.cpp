@@ -2,6 +2,7 @@
 
 #include <ovoui/update/CachedCopy.h>
 #include <ovoui/update/SignedFile.h>
+#include <ovoui/update/core/AddressRules.h>
 #include <ovoui/update/core/ListSearch.h>
 
 #include <ovocor/OvoError.h>
@@ -52,7 +53,7 @@ NumberPair fetchSignature(const std::wstring& address, DownloadControl& control)
 {
     std::optional<NumberPair> signature;
     try {
-        const CachedCopy copy(address + L".sig", control);
+        const CachedCopy copy(signatureAddress(address), control);
         signature = signatureFromDer(bytesOf(copy.path(), kSignatureLimit));
     } catch (const DownloadCancelled&) {
         throw;
@@ -62,16 +63,6 @@ NumberPair fetchSignature(const std::wstring& address, DownloadControl& control)
     if (!signature)
         refuse(OVOMSG_UPDATE_LIST_UNSIGNED, address);
     return *signature;
-}
-
-/// Whether one list was issued before another; what is no number was issued before all that have one.
-bool isOlder(const std::wstring& issue, const std::wstring& seen)
-{
-    Version zero{};
-    const Version last = parseVersion(seen).value_or(zero);
-    Version own = parseVersion(issue).value_or(zero);
-    std::ranges::replace(own, -1, 0);
-    return isNewer(last, own);
 }
 
 } // namespace
@@ -87,14 +78,14 @@ std::optional<Offer> lastOffer(const std::wstring& address, const RunningProduct
     }
 
     const NumberPair key = keyOf(*trust);
-    if (!lowercase(canonicalizeUrl(address)).starts_with(L"https:"))
+    if (!isSecure(canonicalizeUrl(address)))
         refuse(OVOMSG_UPDATE_LIST_NOT_SECURE, address);
     const CachedCopy copy(address, control);
     const SignedFile file(copy.path()); // closed before the copy is deleted
     if (!file.isSignedBy(key, fetchSignature(address, control)))
         refuse(OVOMSG_UPDATE_LIST_ALTERED, address);
     readInto(search, copy.path(), address);
-    if (isOlder(search.issue(), trust->issue))
+    if (wasIssuedBefore(search.issue(), trust->issue))
         refuse(OVOMSG_UPDATE_LIST_OLD, address);
     trust->issue = search.issue();
     return search.offer();

@@ -15,7 +15,6 @@ constexpr wchar_t kChecked[] = L"checked";
 constexpr wchar_t kRemindAt[] = L"remind";
 constexpr wchar_t kSkipped[] = L"skipped";
 constexpr wchar_t kIssue[] = L"issue";
-constexpr std::int64_t kDay = 24 * 60 * 60;
 
 /// The section of the profile.
 ovoui::frame::ProfileSection memory()
@@ -48,7 +47,7 @@ void UpdateMemory::noteCheck()
 
 bool UpdateMemory::isSkipped(const AvailableUpdate& update) const
 {
-    return !update.version.empty() && read(kSkipped) == update.version;
+    return PoliteSchedule{.skipped = read(kSkipped)}.isSkipped(update.version);
 }
 
 void UpdateMemory::skip(const AvailableUpdate& update)
@@ -58,7 +57,7 @@ void UpdateMemory::skip(const AvailableUpdate& update)
 
 void UpdateMemory::remindLater(int days)
 {
-    write(kRemindAt, std::to_wstring(now() + days * kDay));
+    write(kRemindAt, std::to_wstring(daysLater(now(), days)));
 }
 
 std::wstring UpdateMemory::issue() const

@@ -1,28 +1,19 @@
 #include <ovoui/update/UpdateText.h>
 
-#include <ovoui/frame/core/MessageBoxLayout.h>
+#include <ovoui/frame/core/LineEnds.h>
 
 #include <ovouires/resource.h>
 
 #include <ovocor/Text.h>
-#include <ovocor/TextLineIterator.h>
 
 #include <afxwin.h>
 
-#include <vector>
-
 namespace ovoui::update
 {
+using frame::withWindowsLineEnds;
+
 namespace
 {
-
-std::wstring forEdit(const std::wstring& text)
-{
-    std::vector<std::wstring> lines;
-    for (TextLineIterator line(text); line; ++line)
-        lines.emplace_back(*line);
-    return ovoui::frame::joinLines(lines);
-}
 
 CString format(UINT id)
 {
@@ -36,13 +27,13 @@ CString format(UINT id)
 std::wstring availableText(const std::wstring& product, const std::wstring& description,
                            const std::wstring& page)
 {
-    return forEdit(
+    return withWindowsLineEnds(
         stringPrintf(format(IDS_UPDATE_AVAILABLE), description.c_str(), product.c_str(), page.c_str()));
 }
 
 std::wstring upToDateText(const std::wstring& product)
 {
-    return forEdit(stringPrintf(format(IDS_UPDATE_NONE), product.c_str()));
+    return withWindowsLineEnds(stringPrintf(format(IDS_UPDATE_NONE), product.c_str()));
 }
 
 } // namespace ovoui::update

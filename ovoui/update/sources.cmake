@@ -1,7 +1,9 @@
 # Update check: reading the list, the dialog, opening addresses.
 set(update_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/AddressRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ListLint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ListSearch.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/OfferRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/PoliteSchedule.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SignatureText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/UpdateRow.cpp

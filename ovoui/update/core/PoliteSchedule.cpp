@@ -18,6 +18,11 @@ bool PoliteSchedule::isDue(std::int64_t now, int days) const
     return lastCheck == 0 || lastCheck > now || now - lastCheck >= days * kDay;
 }
 
+std::int64_t daysLater(std::int64_t now, int days)
+{
+    return now + days * kDay;
+}
+
 std::int64_t timeOf(std::wstring_view text)
 {
     std::int64_t time = 0;

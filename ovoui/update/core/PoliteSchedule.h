@@ -18,7 +18,13 @@ struct PoliteSchedule
     /// Whether a check every so many days is due. A clock that was set back does not put checks off for ever:
     /// a last check in the future, or a reminder more than a year ahead, does not count.
     bool isDue(std::int64_t now, int days) const;
+
+    /// Whether this version is the one that the user does not want to hear of.
+    bool isSkipped(std::wstring_view version) const { return !version.empty() && version == skipped; }
 };
+
+/// The time of a reminder after so many days.
+std::int64_t daysLater(std::int64_t now, int days);
 
 /// Reads a time from the profile; 0 when it is none.
 std::int64_t timeOf(std::wstring_view text);

@@ -1,5 +1,6 @@
 #include <ovoui/update/core/VersionText.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 
@@ -59,6 +60,15 @@ bool isNewer(const Version& offered, const Version& installed)
         if (offered[i] != kAny && offered[i] != installed[i])
             return offered[i] > installed[i];
     return false;
+}
+
+bool wasIssuedBefore(std::wstring_view issue, std::wstring_view seen)
+{
+    constexpr Version kFirst{};
+    const Version last = parseVersion(seen).value_or(kFirst);
+    Version own = parseVersion(issue).value_or(kFirst);
+    std::ranges::replace(own, kAny, 0);
+    return isNewer(last, own);
 }
 
 } // namespace ovoui::update

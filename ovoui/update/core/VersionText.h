@@ -23,4 +23,8 @@ bool matches(const Version& pattern, const Version& version);
 /// greater one.
 bool isNewer(const Version& offered, const Version& installed);
 
+/// Whether one list was issued before another, by their numbers as versions; what is no number was issued
+/// before all that have one.
+bool wasIssuedBefore(std::wstring_view issue, std::wstring_view seen);
+
 } // namespace ovoui::update

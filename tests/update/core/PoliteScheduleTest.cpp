@@ -47,3 +47,21 @@ TEST(PoliteSchedule, TimesAreNumbers)
     EXPECT_EQ(timeOf(L"-5"), 0);
     EXPECT_EQ(timeOf(L"99999999999999999999999"), 0) << "too large to be a time";
 }
+
+TEST(PoliteSchedule, AReminderComesAfterItsDays)
+{
+    EXPECT_EQ(daysLater(kNow, 0), kNow);
+    EXPECT_EQ(daysLater(kNow, 3), kNow + 3 * kDay);
+    EXPECT_EQ(daysLater(kNow, 36500), kNow + 36500 * kDay) << "a hundred years do not overflow";
+    EXPECT_FALSE((PoliteSchedule{0, daysLater(kNow, 3), {}}.isDue(kNow + 3 * kDay - 1, 0)));
+    EXPECT_TRUE((PoliteSchedule{0, daysLater(kNow, 3), {}}.isDue(kNow + 3 * kDay, 0)));
+}
+
+TEST(PoliteSchedule, OneVersionIsSkipped)
+{
+    for (const wchar_t* skipped : {L"", L"1", L"1.0", L"2"})
+        for (const wchar_t* version : {L"", L"1", L"1.0", L"2"})
+            EXPECT_EQ((PoliteSchedule{0, 0, skipped}.isSkipped(version)),
+                      *version && std::wstring(version) == skipped)
+                << testing::PrintToString(skipped) << " and " << testing::PrintToString(version);
+}

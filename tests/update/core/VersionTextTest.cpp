@@ -130,3 +130,16 @@ TEST(VersionText, ComparingIsAsComparingFilledUpVersions)
         EXPECT_EQ(matches(offered, installed), filled == installed);
     }
 }
+
+TEST(VersionText, ListsAreOlderByTheirNumbers)
+{
+    // What is no number counts as none, and none is before all others; what a number leaves out is 0.
+    const std::pair<std::wstring, int> issues[] = {{L"", 0},   {L"x", 0},   {L"0", 0},   {L"1", 1},
+                                                   {L"1.", 1}, {L"1.0", 1}, {L"1.1", 2}, {L"12", 3}};
+    for (const auto& [issue, rank] : issues)
+        for (const auto& [seen, seenRank] : issues)
+            EXPECT_EQ(wasIssuedBefore(issue, seen), rank < seenRank)
+                << testing::PrintToString(issue) << " and " << testing::PrintToString(seen);
+    EXPECT_FALSE(wasIssuedBefore(L"*", L""));
+    EXPECT_TRUE(wasIssuedBefore(L"*", L"1"));
+}
