@@ -9,13 +9,6 @@
 namespace
 {
 
-CString labelOf(const CDialog& dlg, DWORD id)
-{
-    CString label;
-    dlg.GetDlgItemText(static_cast<int>(id), label);
-    return label;
-}
-
 HWND controlOf(const CWnd& dialog, DWORD id)
 {
     return ::GetDlgItem(dialog.m_hWnd, static_cast<int>(id));
@@ -27,13 +20,13 @@ HWND controlOf(const CWnd& dialog, DWORD id)
 
 void COVOFileDialog::AddCheckButton(const CDialog& dlg, DWORD id, bool checked)
 {
-    m_imp->customize("AddCheckButton")->AddCheckButton(id, labelOf(dlg, id), checked);
+    m_imp->customize("AddCheckButton")->AddCheckButton(id, COVOFileDialogImp::labelOf(dlg, id), checked);
 }
 
 void COVOFileDialog::AddComboBox(const CDialog& dlg, DWORD labelId, DWORD comboId)
 {
     IFileDialogCustomize* const customize = m_imp->customize("AddComboBox");
-    customize->StartVisualGroup(labelId, labelOf(dlg, labelId));
+    customize->StartVisualGroup(labelId, COVOFileDialogImp::labelOf(dlg, labelId));
     customize->AddComboBox(comboId);
     customize->EndVisualGroup();
 }
@@ -45,7 +38,8 @@ void COVOFileDialog::AddComboBox(DWORD id)
 
 void COVOFileDialog::AddEditBox(const CDialog& dlg, DWORD textId, DWORD editId)
 {
-    m_imp->customize("AddEditBox")->AddEditBox(editId, textId ? labelOf(dlg, textId) : CString());
+    m_imp->customize("AddEditBox")
+        ->AddEditBox(editId, textId ? COVOFileDialogImp::labelOf(dlg, textId) : CString());
 }
 
 void COVOFileDialog::AddControlItem(DWORD id, DWORD itemId, std::wstring label)
@@ -142,10 +136,8 @@ void COVOFileDialog::SetEditBoxInt(DWORD id, int value)
 void COVOFileDialog::SetFolder(const std::wstring& path)
 {
     IFileDialog* const dialog = m_imp->fileDialog();
-    if (!IsVistaStyle() || !dialog || path.empty())
+    if (!IsVistaStyle() || !dialog)
         return;
-    if (IShellItem* folder = ovoui::shellItemOf(path)) {
-        dialog->SetFolder(folder);
-        folder->Release();
-    }
+    if (const auto folder = ovoui::shellItemOf(path))
+        dialog->SetFolder(folder.get());
 }

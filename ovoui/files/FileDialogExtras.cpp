@@ -4,34 +4,10 @@
 #include <ovoui/files/FileDialogImp.h>
 #include <ovoui/files/ShellPaths.h>
 
-namespace
-{
-
-CString labelOf(const CDialog& dlg, DWORD id)
-{
-    CString label;
-    dlg.GetDlgItemText(static_cast<int>(id), label);
-    return label;
-}
-
-/// Calls a method of the system's dialog with the item of a folder, if there is one.
-template <class Use>
-void withFolder(const std::wstring& path, Use use)
-{
-    if (path.empty())
-        return;
-    if (IShellItem* folder = ovoui::shellItemOf(path)) {
-        use(folder);
-        folder->Release();
-    }
-}
-
-} // namespace
-
 void COVOFileDialog::AddPushButton(const CDialog& dlg, DWORD id)
 {
     if (IsVistaStyle())
-        m_imp->customize("AddPushButton")->AddPushButton(id, labelOf(dlg, id));
+        m_imp->customize("AddPushButton")->AddPushButton(id, COVOFileDialogImp::labelOf(dlg, id));
     else
         m_imp->declared().addPushButton(id);
 }
@@ -39,7 +15,7 @@ void COVOFileDialog::AddPushButton(const CDialog& dlg, DWORD id)
 void COVOFileDialog::AddMenu(const CDialog& dlg, DWORD id)
 {
     if (IsVistaStyle())
-        m_imp->customize("AddMenu")->AddMenu(id, labelOf(dlg, id));
+        m_imp->customize("AddMenu")->AddMenu(id, COVOFileDialogImp::labelOf(dlg, id));
     else
         m_imp->declared().addMenu(id);
 }
@@ -61,7 +37,7 @@ void COVOFileDialog::AddRadioGroup(const CDialog& dlg, DWORD id, const std::vect
     IFileDialogCustomize* const customize = m_imp->customize("AddRadioGroup");
     customize->AddRadioButtonList(id);
     for (const DWORD button : buttonIds)
-        customize->AddControlItem(id, button, labelOf(dlg, button));
+        customize->AddControlItem(id, button, COVOFileDialogImp::labelOf(dlg, button));
 }
 
 void COVOFileDialog::AddSeparator(DWORD id)
@@ -73,7 +49,7 @@ void COVOFileDialog::AddSeparator(DWORD id)
 void COVOFileDialog::AddText(const CDialog& dlg, DWORD id)
 {
     if (IsVistaStyle())
-        m_imp->customize("AddText")->AddText(id, labelOf(dlg, id));
+        m_imp->customize("AddText")->AddText(id, COVOFileDialogImp::labelOf(dlg, id));
 }
 
 DWORD COVOFileDialog::GetSelectedRadioButton(DWORD id) const
@@ -100,18 +76,18 @@ void COVOFileDialog::SetSelectedRadioButton(DWORD id, DWORD buttonId)
 
 void COVOFileDialog::AddPlace(const std::wstring& path, bool top)
 {
-    if (IsVistaStyle())
-        withFolder(path, [&](IShellItem* folder) {
-            m_imp->fileDialog()->AddPlace(folder, top ? FDAP_TOP : FDAP_BOTTOM);
-        });
+    if (!IsVistaStyle())
+        return;
+    if (const auto folder = ovoui::shellItemOf(path))
+        m_imp->fileDialog()->AddPlace(folder.get(), top ? FDAP_TOP : FDAP_BOTTOM);
 }
 
 void COVOFileDialog::SetDefaultFolder(const std::wstring& path)
 {
-    if (IsVistaStyle())
-        withFolder(path, [&](IShellItem* folder) { m_imp->fileDialog()->SetDefaultFolder(folder); });
-    else
+    if (!IsVistaStyle())
         m_imp->useDefaultFolder(path);
+    else if (const auto folder = ovoui::shellItemOf(path))
+        m_imp->fileDialog()->SetDefaultFolder(folder.get());
 }
 
 void COVOFileDialog::RememberFolder(const GUID& purpose)

@@ -2,15 +2,13 @@
 #include <ovoui/files/FileDialogImp.h>
 
 #include <ovoui/files/ShellPaths.h>
+#include <ovoui/frame/ProfileSection.h>
 
 #include <ovocor/Text.h>
 
-namespace
-{
+#include <vector>
 
-constexpr wchar_t kSection[] = L"settings";
-
-} // namespace
+using ovoui::frame::settingsSection;
 
 void COVOFileDialogImp::rememberFolder(const GUID& purpose)
 {
@@ -24,21 +22,16 @@ void COVOFileDialogImp::beginInFolder()
 {
     if (m_ofn.lpstrInitialDir && m_ofn.lpstrInitialDir != m_beginning.c_str())
         return;
-    std::wstring remembered;
-    if (!m_rememberedAs.empty() && AfxGetApp())
-        remembered = AfxGetApp()->GetProfileString(kSection, m_rememberedAs.c_str()).GetString();
-    m_beginning = ovoui::existingFolderNear(remembered);
-    if (m_beginning.empty())
-        m_beginning = ovoui::existingFolderNear(m_defaultFolder);
+    const std::wstring remembered =
+        m_rememberedAs.empty() ? std::wstring() : settingsSection().text(m_rememberedAs);
+    m_beginning = ovoui::existingFolderNear(std::vector{remembered, m_defaultFolder});
     m_ofn.lpstrInitialDir = m_beginning.empty() ? nullptr : m_beginning.c_str();
 }
 
 void COVOFileDialogImp::keepFolder() const
 {
-    if (m_rememberedAs.empty() || !AfxGetApp())
+    if (m_rememberedAs.empty())
         return;
-    POSITION position = GetStartPosition();
-    if (position)
-        AfxGetApp()->WriteProfileString(kSection, m_rememberedAs.c_str(),
-                                        getDirectory(GetNextPathName(position).GetString()).c_str());
+    if (POSITION position = GetStartPosition())
+        settingsSection().write(m_rememberedAs, getDirectory(GetNextPathName(position).GetString()));
 }

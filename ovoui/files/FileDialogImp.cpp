@@ -1,8 +1,10 @@
 #include <ovoui/files/FileDialogImp.h>
 
+#include <ovoui/files/core/ClassicEvents.h>
+#include <ovoui/frame/Exceptions.h>
+
 #include <ovocor/IntCast.h>
 
-#include <limits>
 #include <utility>
 
 #pragma GCC diagnostic ignored "-Winvalid-offsetof" // the parts of a class are found by their offset
@@ -39,14 +41,20 @@ IFileDialogCustomize* COVOFileDialogImp::customize([[maybe_unused]] const char* 
     return m_pIFileDialogCustomize;
 }
 
+CString COVOFileDialogImp::labelOf(const CDialog& dialog, DWORD id)
+{
+    CString label;
+    dialog.GetDlgItemText(static_cast<int>(id), label);
+    return label;
+}
+
 INT_PTR COVOFileDialogImp::ask()
 {
     m_kept = nullptr;
     if (!m_bVistaStyle)
         beginInFolder();
     const INT_PTR result = DoModal();
-    if (m_kept)
-        std::rethrow_exception(std::exchange(m_kept, nullptr));
+    ovoui::frame::raise(std::exchange(m_kept, nullptr));
     if (result == IDOK && !m_bVistaStyle)
         keepFolder();
     return result;
@@ -90,42 +98,38 @@ LRESULT COVOFileDialogImp::WindowProc(UINT message, WPARAM wParam, LPARAM lParam
 
 void COVOFileDialogImp::tellOfCommand(WORD id, WORD code, HWND control)
 {
-    switch (code) {
-    case BN_CLICKED:
-        tellOfClick(id);
+    using ovoui::ClassicEvent;
+    const ovoui::Click click = m_declared.clickOn(id);
+    switch (ovoui::classicEvent(code, control != nullptr, click.meaning)) {
+    case ClassicEvent::CheckButtonToggled:
+        m_owner->OnCheckButtonToggled(id, IsDlgButtonChecked(id) != 0);
         break;
-    case CBN_SELCHANGE: {
-        if (!control)
-            break; // an accelerator
-        const LRESULT selection = ::SendMessageW(control, CB_GETCURSEL, 0, 0);
-        if (selection < 0 || selection > std::numeric_limits<DWORD>::max())
-            throwIntCast();
-        m_owner->OnItemSelected(id, static_cast<DWORD>(selection));
+    case ClassicEvent::ButtonClicked:
+        m_owner->OnButtonClicked(id);
         break;
-    }
-    case EN_CHANGE:
+    case ClassicEvent::MenuOpens:
+        openMenu(id);
+        break;
+    case ClassicEvent::RadioSelected:
+        m_owner->OnItemSelected(click.group, id);
+        break;
+    case ClassicEvent::ItemSelected:
+        tellOfSelection(id, control);
+        break;
+    case ClassicEvent::TextChanged:
         m_owner->OnEnChange(id);
+        break;
+    case ClassicEvent::None:
         break;
     }
 }
 
-void COVOFileDialogImp::tellOfClick(WORD id)
+void COVOFileDialogImp::tellOfSelection(WORD id, HWND control)
 {
-    const ovoui::Click click = m_declared.clickOn(id);
-    switch (click.meaning) {
-    case ovoui::Click::Meaning::CheckButton:
-        m_owner->OnCheckButtonToggled(id, IsDlgButtonChecked(id) != 0);
-        break;
-    case ovoui::Click::Meaning::PushButton:
-        m_owner->OnButtonClicked(id);
-        break;
-    case ovoui::Click::Meaning::Menu:
-        openMenu(id);
-        break;
-    case ovoui::Click::Meaning::RadioButton:
-        m_owner->OnItemSelected(click.group, id);
-        break;
-    }
+    const auto item = ovoui::itemOf(::SendMessageW(control, CB_GETCURSEL, 0, 0));
+    if (!item)
+        throwIntCast();
+    m_owner->OnItemSelected(id, *item);
 }
 
 /// Below its button, as in the new-style dialog.
@@ -196,23 +200,26 @@ void COVOFileDialogImp::OnTypeChange()
 template <class Handler>
 HRESULT COVOFileDialogImp::tell(Handler&& handler)
 {
-    try {
-        handler(*m_owner);
-    } catch (CException* exception) {
-        MSG message{};
-        message.message = WM_COMMAND;
-        AfxGetThread()->ProcessWndProcException(exception, &message);
-        exception->Delete();
-    } catch (...) {
+    const std::exception_ptr raised = ovoui::frame::keeping([&] {
+        try {
+            handler(*m_owner);
+        } catch (CException* exception) {
+            MSG message{};
+            message.message = WM_COMMAND;
+            AfxGetThread()->ProcessWndProcException(exception, &message);
+            exception->Delete();
+        }
+    });
+    if (raised) {
         if (!m_kept)
-            m_kept = std::current_exception();
+            m_kept = raised;
         cancelNewStyle();
     }
     return S_OK;
 }
 
-/// A menu opens after its event whatever the handler has done, and its loop goes on without the dialog. So the
-/// dialog is cancelled by a timer, which that loop lets through.
+/// A menu opens after its event whatever the handler has done, and its loop goes on without the dialog. So
+/// the dialog is cancelled by a timer, which that loop lets through.
 void COVOFileDialogImp::cancelNewStyle() const
 {
     HWND dialog = nullptr;

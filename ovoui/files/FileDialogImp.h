@@ -23,6 +23,9 @@ public:
     /// the host.
     IFileDialogCustomize* customize(const char* operation) const;
 
+    /// The text of a control in the host's own dialog.
+    static CString labelOf(const CDialog& dialog, DWORD id);
+
     /// What the host has said of the controls in its template.
     ovoui::DeclaredControls& declared() { return m_declared; }
 
@@ -64,7 +67,7 @@ private:
     template <class Handler>
     HRESULT tell(Handler&& handler);
     void tellOfCommand(WORD id, WORD code, HWND control);
-    void tellOfClick(WORD id);
+    void tellOfSelection(WORD id, HWND control);
     void openMenu(WORD id);
     void beginInFolder();
     void keepFolder() const;

@@ -66,23 +66,28 @@ std::wstring existingFolderNear(const std::wstring& path)
     return nearestFolder(path, &isFolder);
 }
 
+std::wstring existingFolderNear(const std::vector<std::wstring>& paths)
+{
+    return nearestFolder(paths, &isFolder);
+}
+
 std::wstring folderToBeginIn(const std::wstring& path)
 {
     return climbToFolder(path, &isFolder);
 }
 
-IShellItem* shellItemOf(const std::wstring& path)
+std::unique_ptr<IShellItem, ReleaseItem> shellItemOf(const std::wstring& path)
 {
-    const HMODULE library = shell();
+    const HMODULE library = path.empty() ? nullptr : shell();
     if (!library)
         return nullptr;
     using Create = HRESULT(WINAPI*)(PCWSTR, IBindCtx*, REFIID, void**);
     const auto create = reinterpret_cast<Create>(
         reinterpret_cast<void*>(::GetProcAddress(library, "SHCreateItemFromParsingName")));
     void* item = nullptr;
-    return create && SUCCEEDED(create(path.c_str(), nullptr, IID_IShellItem, &item))
-               ? static_cast<IShellItem*>(item)
-               : nullptr;
+    if (!create || FAILED(create(path.c_str(), nullptr, IID_IShellItem, &item)))
+        return nullptr;
+    return std::unique_ptr<IShellItem, ReleaseItem>(static_cast<IShellItem*>(item));
 }
 
 } // namespace ovoui

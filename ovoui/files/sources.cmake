@@ -1,6 +1,8 @@
 # File and folder dialogs: the file dialog with the host's controls, browse functions.
 set(files_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/ClassicEvents.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/DeclaredControls.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/DialogFlags.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FileTypes.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FilterChoice.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/NearestFolder.cpp)
@@ -14,6 +16,7 @@ endif()
 
 target_sources(ovoui PRIVATE
   ${files_core}
+  ${CMAKE_CURRENT_LIST_DIR}/AskedFiles.cpp
   ${CMAKE_CURRENT_LIST_DIR}/BrowseForDir.cpp
   ${CMAKE_CURRENT_LIST_DIR}/BrowseForFile.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FileDialog.cpp

@@ -1,5 +1,7 @@
 #include <ovoui/files/core/FileTypes.h>
 
+#include <ovoui/files/core/AsciiCase.h>
+
 #include <algorithm>
 
 namespace ovoui
@@ -30,14 +32,9 @@ std::wstring patternsOf(const FileType& type)
     return patterns.empty() ? std::wstring(kAllFiles) : patterns;
 }
 
-wchar_t lower(wchar_t character)
-{
-    return character >= L'A' && character <= L'Z' ? static_cast<wchar_t>(character - L'A' + L'a') : character;
-}
-
 bool sameButForCase(std::wstring_view a, std::wstring_view b)
 {
-    return std::ranges::equal(a, b, [](wchar_t x, wchar_t y) { return lower(x) == lower(y); });
+    return std::ranges::equal(a, b, &isSameAsciiLetter);
 }
 
 } // namespace
@@ -65,6 +62,11 @@ int typeWith(const std::vector<FileType>& types, std::wstring_view extension)
     };
     const auto found = std::ranges::find_if(types, has);
     return found == types.end() ? 0 : static_cast<int>(found - types.begin()) + 1;
+}
+
+std::wstring_view withoutPeriod(std::wstring_view extension)
+{
+    return extension.substr(extension.starts_with(L'.') ? 1 : 0);
 }
 
 } // namespace ovoui

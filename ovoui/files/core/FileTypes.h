@@ -19,4 +19,7 @@ std::wstring filterTextOf(const std::vector<FileType>& types);
 /// letters; 0 when there is none.
 int typeWith(const std::vector<FileType>& types, std::wstring_view extension);
 
+/// The extension as a dialog adds it to names; the rest of the same text.
+std::wstring_view withoutPeriod(std::wstring_view extension);
+
 } // namespace ovoui

@@ -22,4 +22,12 @@ std::wstring nearestFolder(std::wstring path, const IsFolder& isFolder)
     return isFolder(folder) ? folder : std::wstring();
 }
 
+std::wstring nearestFolder(const std::vector<std::wstring>& paths, const IsFolder& isFolder)
+{
+    for (const std::wstring& path : paths)
+        if (std::wstring folder = nearestFolder(path, isFolder); !folder.empty())
+            return folder;
+    return {};
+}
+
 } // namespace ovoui

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace ovoui
 {
@@ -15,5 +16,8 @@ std::wstring climbToFolder(std::wstring path, const IsFolder& isFolder);
 
 /// The same, but empty when there is no such folder.
 std::wstring nearestFolder(std::wstring path, const IsFolder& isFolder);
+
+/// That of the first path that has one; the others are not asked about.
+std::wstring nearestFolder(const std::vector<std::wstring>& paths, const IsFolder& isFolder);
 
 } // namespace ovoui

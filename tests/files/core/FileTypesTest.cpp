@@ -74,3 +74,13 @@ TEST(FileTypes, AreChosenByTheExtension)
     EXPECT_EQ(typeWith(types, L""), 0);
     EXPECT_EQ(typeWith({}, L".txt"), 0);
 }
+
+TEST(FileTypes, AnExtensionLosesOnePeriod)
+{
+    EXPECT_EQ(ovoui::withoutPeriod(L".txt"), L"txt");
+    EXPECT_EQ(ovoui::withoutPeriod(L"txt"), L"txt");
+    EXPECT_EQ(ovoui::withoutPeriod(L".tar.gz"), L"tar.gz");
+    EXPECT_EQ(ovoui::withoutPeriod(L"..a"), L".a");
+    EXPECT_EQ(ovoui::withoutPeriod(L"."), L"");
+    EXPECT_EQ(ovoui::withoutPeriod(L""), L"");
+}

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <random>
@@ -149,4 +150,25 @@ TEST(NearestFolder, AgreesWithThePlainListOfAncestorsForRandomPaths)
     }
     EXPECT_GT(found, 1000);
     EXPECT_GT(none, 1000);
+}
+
+TEST(NearestFolder, OfSeveralTheFirstThatHasOne)
+{
+    const std::wstring texts[] = {L"", L"Q:\\gone", L"C:\\a\\gone", L"here"};
+    for (const std::wstring& first : texts)
+        for (const std::wstring& second : texts) {
+            std::vector<std::wstring> asked;
+            const auto isFolder = [&](const std::wstring& path) {
+                asked.push_back(path);
+                return exists(path);
+            };
+            const std::wstring own = ovoui::nearestFolder(first, &exists);
+            EXPECT_EQ(ovoui::nearestFolder(std::vector{first, second}, isFolder),
+                      own.empty() ? ovoui::nearestFolder(second, &exists) : own)
+                << testing::PrintToString(first) << " and " << testing::PrintToString(second);
+            if (!own.empty() && second != first) {
+                EXPECT_EQ(std::ranges::count(asked, second), 0) << "a disk may take long to answer";
+            }
+        }
+    EXPECT_EQ(ovoui::nearestFolder(std::vector<std::wstring>{}, &exists), L"");
 }
