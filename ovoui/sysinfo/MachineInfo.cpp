@@ -4,7 +4,6 @@
 #include <ovoui/sysinfo/core/MachineText.h>
 
 #include <ovocor/Library.h>
-#include <ovocor/Text.h>
 
 #include <windows.h>
 
@@ -65,12 +64,6 @@ BOOL CALLBACK addMonitor(HMONITOR monitor, HDC, RECT*, LPARAM monitors)
     return TRUE;
 }
 
-std::wstring monitorText(const MachineMonitor& monitor)
-{
-    return stringPrintf(L"Monitor: %d x %d at %d, %d, %u dots per inch%s\r\n", monitor.width, monitor.height,
-                        monitor.left, monitor.top, monitor.dotsPerInch, monitor.primary ? L", primary" : L"");
-}
-
 } // namespace
 
 MachineInfo machineInfo()
@@ -95,11 +88,5 @@ MachineInfo machineInfo()
 
 std::wstring machineAsText(const MachineInfo& machine)
 {
-    std::wstring text = L"System: " + machine.system + L", " + std::to_wstring(machine.processors) +
-                        L" processors\r\nVisual styles: " + (machine.themed ? L"on" : L"off") + L"\r\n";
-    for (const MachineMonitor& monitor : machine.monitors)
-        text += monitorText(monitor);
-    return text + L"Memory: " + memoryText(machine.memory) + L", " + memoryText(machine.freeMemory) +
-           L" free\r\n" +
-           stringPrintf(L"GDI objects: %u, USER objects: %u\r\n", machine.gdiObjects, machine.userObjects);
+    return machineText(machine);
 }

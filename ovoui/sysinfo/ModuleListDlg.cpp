@@ -10,6 +10,7 @@
 
 #include <ovocor/Text.h>
 
+#include <algorithm>
 #include <iterator>
 
 using namespace ovoui::sysinfo;
@@ -61,19 +62,43 @@ RemarkTexts remarkTexts()
             ovoui::resourceString(IDS_MODULES_NO_VERSION_ELSEWHERE)};
 }
 
-/// Dark red on a light window, light red on a dark one.
 COLORREF remarkColour()
 {
     const COLORREF window = ::GetSysColor(COLOR_WINDOW);
-    const bool light = GetRValue(window) + GetGValue(window) + GetBValue(window) > 3 * 128;
-    return light ? RGB(160, 0, 0) : RGB(255, 140, 140);
+    const Ink ink = remarkInk({GetRValue(window), GetGValue(window), GetBValue(window)});
+    return RGB(ink.red, ink.green, ink.blue);
 }
+
+int formatOf(SortMark mark)
+{
+    switch (mark) {
+    case SortMark::Up:
+        return HDF_SORTUP;
+    case SortMark::Down:
+        return HDF_SORTDOWN;
+    case SortMark::None:
+        break;
+    }
+    return 0;
+}
+
+/// The commands of the menu, and what each copies.
+struct CopyFormat
+{
+    UINT command;
+    std::wstring (*textOf)(const std::vector<LoadedModule>& modules);
+};
+
+constexpr CopyFormat kCopyFormats[] = {{ID_MODULES_COPY_TEXT, &modulesAsText},
+                                       {ID_MODULES_COPY_MARKDOWN, &modulesAsMarkdown},
+                                       {ID_MODULES_COPY_JSON, &modulesAsJson}};
 
 } // namespace
 
 CModuleListDlg::CModuleListDlg(CWnd* pParent)
     : COVOModalDialog(IDD_MODULE_LIST, pParent)
     , m_controls(std::make_unique<StretchedControls>())
+    , m_order(std::make_unique<ModuleOrder>())
 {
 }
 
@@ -90,11 +115,11 @@ BOOL CModuleListDlg::OnInitDialog()
 {
     COVOModalDialog::OnInitDialog();
     m_controls->begin(*this);
-    m_controls->add(IDC_MODULES_FILTER, StretchedControls::How::GrowWide);
-    m_controls->add(IDC_MODULES_LIST, StretchedControls::How::Grow);
-    m_controls->add(IDC_MODULES_COUNT, StretchedControls::How::MoveDown);
+    m_controls->add(IDC_MODULES_FILTER, Stretch::GrowWide);
+    m_controls->add(IDC_MODULES_LIST, Stretch::Grow);
+    m_controls->add(IDC_MODULES_COUNT, Stretch::MoveDown);
     for (const int id : {IDC_MODULES_REFRESH, IDC_MODULES_COPY, IDCANCEL})
-        m_controls->add(id, StretchedControls::How::MoveBoth);
+        m_controls->add(id, Stretch::MoveBoth);
     m_list.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP | LVS_EX_LABELTIP);
     addColumns();
     OnRefresh();
@@ -127,8 +152,7 @@ void CModuleListDlg::OnFilterChange()
 void CModuleListDlg::OnColumnClick(NMHDR* header, LRESULT* result)
 {
     const int column = reinterpret_cast<const NMLISTVIEW*>(header)->iSubItem;
-    m_descending = column == m_sortColumn && !m_descending;
-    m_sortColumn = column;
+    *m_order = afterClick(*m_order, static_cast<ModuleColumn>(column));
     showVisible();
     *result = 0;
 }
@@ -137,8 +161,7 @@ void CModuleListDlg::showVisible()
 {
     CString filter;
     m_filter.GetWindowText(filter);
-    m_visible = visibleModules(m_modules, filter.GetString(),
-                               {static_cast<ModuleColumn>(m_sortColumn), m_descending}, remarkTexts());
+    m_visible = visibleModules(m_modules, filter.GetString(), *m_order, remarkTexts());
     m_list.SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED); // rows are other modules now
     m_list.SetItemCountEx(static_cast<int>(m_visible.size()));
     m_list.Invalidate();
@@ -156,8 +179,7 @@ void CModuleListDlg::showOrder()
         item.mask = HDI_FORMAT;
         header->GetItem(column, &item);
         item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
-        if (column == m_sortColumn)
-            item.fmt |= m_descending ? HDF_SORTDOWN : HDF_SORTUP;
+        item.fmt |= formatOf(markOf(*m_order, static_cast<ModuleColumn>(column)));
         header->SetItem(column, &item);
     }
 }
@@ -190,11 +212,12 @@ void CModuleListDlg::OnCustomDraw(NMHDR* header, LRESULT* result)
 
 std::vector<LoadedModule> CModuleListDlg::chosen() const
 {
-    const bool all = m_list.GetSelectedCount() == 0;
+    const auto isSelected = [this](std::size_t row) {
+        return m_list.GetItemState(static_cast<int>(row), LVIS_SELECTED) != 0;
+    };
     std::vector<LoadedModule> modules;
-    for (std::size_t row = 0; row < m_visible.size(); ++row)
-        if (all || m_list.GetItemState(static_cast<int>(row), LVIS_SELECTED))
-            modules.push_back(m_modules[m_visible[row]]);
+    for (const std::size_t module : modulesToCopy(m_visible, isSelected))
+        modules.push_back(m_modules[module]);
     return modules;
 }
 
@@ -210,13 +233,9 @@ void CModuleListDlg::OnCopyAs()
 
 void CModuleListDlg::OnCopyAsFormat(UINT id)
 {
-    const std::vector<LoadedModule> modules = chosen();
-    if (id == ID_MODULES_COPY_TEXT)
-        copyToClipboard(modulesAsText(modules));
-    else if (id == ID_MODULES_COPY_MARKDOWN)
-        copyToClipboard(modulesAsMarkdown(modules));
-    else
-        copyToClipboard(modulesAsJson(modules));
+    const auto* const format = std::ranges::find(kCopyFormats, id, &CopyFormat::command);
+    if (format != std::end(kCopyFormats))
+        copyToClipboard(format->textOf(chosen()));
 }
 
 // Size

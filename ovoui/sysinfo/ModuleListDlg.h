@@ -15,7 +15,8 @@
 namespace ovoui::sysinfo
 {
 class StretchedControls;
-}
+struct ModuleOrder;
+} // namespace ovoui::sysinfo
 
 /// A click on a heading sorts, another one turns the order round; the filter leaves the modules that hold all
 /// of its words. Modules without a version record or from other folders than the program's and the system's
@@ -56,6 +57,5 @@ private:
     std::unique_ptr<ovoui::sysinfo::StretchedControls> m_controls;
     std::vector<LoadedModule> m_modules;
     std::vector<std::size_t> m_visible; // indices of modules, by row
-    int m_sortColumn = 0;
-    bool m_descending = false;
+    std::unique_ptr<ovoui::sysinfo::ModuleOrder> m_order;
 };

@@ -1,29 +1,9 @@
 #include <ovoui/sysinfo/StretchedControls.h>
 
+#include <ovoui/frame/BoxRect.h>
+
 namespace ovoui::sysinfo
 {
-namespace
-{
-
-using How = StretchedControls::How;
-
-CRect placed(const CRect& place, How how, CSize grown)
-{
-    switch (how) {
-    case How::Grow:
-        return CRect(place.TopLeft(), place.Size() + grown);
-    case How::GrowWide:
-        return CRect(place.TopLeft(), place.Size() + CSize(grown.cx, 0));
-    case How::MoveRight:
-        return place + CPoint(grown.cx, 0);
-    case How::MoveDown:
-        return place + CPoint(0, grown.cy);
-    default:
-        return place + CPoint(grown.cx, grown.cy);
-    }
-}
-
-} // namespace
 
 void StretchedControls::begin(CWnd& dialog)
 {
@@ -45,11 +25,11 @@ void StretchedControls::apply(UINT type, CSize client)
         CWnd* const window = m_dialog->GetDlgItem(control.id);
         if (!window)
             continue;
-        CRect place;
-        window->GetWindowRect(&place);
-        m_dialog->ScreenToClient(&place);
-        place = placed(place, control.how, grown);
-        window->SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(),
+        CRect before;
+        window->GetWindowRect(&before);
+        m_dialog->ScreenToClient(&before);
+        const frame::Box place = stretched(frame::toBox(before), control.how, grown.cx, grown.cy);
+        window->SetWindowPos(nullptr, place.left, place.top, place.width(), place.height(),
                              SWP_NOZORDER | SWP_NOACTIVATE);
     }
     m_dialog->Invalidate();

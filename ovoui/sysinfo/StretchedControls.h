@@ -1,6 +1,8 @@
 /// Not exported. The controls of a dialog that the user can make larger.
 #pragma once
 
+#include <ovoui/sysinfo/core/StretchRule.h>
+
 #include <afxwin.h>
 
 #include <vector>
@@ -12,18 +14,9 @@ namespace ovoui::sysinfo
 class StretchedControls
 {
 public:
-    enum class How
-    {
-        Grow,      ///< both ways
-        GrowWide,  ///< to the right
-        MoveRight, ///< keeps its distance from the right edge
-        MoveDown,  ///< from the bottom edge
-        MoveBoth   ///< from both
-    };
-
     /// The dialog has the size of its template now.
     void begin(CWnd& dialog);
-    void add(int id, How how) { m_controls.push_back({id, how}); }
+    void add(int id, Stretch how) { m_controls.push_back({id, how}); }
 
     /// For WM_SIZE.
     void apply(UINT type, CSize client);
@@ -34,7 +27,7 @@ private:
     struct Control
     {
         int id;
-        How how;
+        Stretch how;
     };
 
     CWnd* m_dialog = nullptr;

@@ -48,9 +48,9 @@ BOOL CSystemInfoDlg::OnInitDialog()
 {
     COVOModalDialog::OnInitDialog();
     m_controls->begin(*this);
-    m_controls->add(IDC_SYSTEM_INFO_TEXT, StretchedControls::How::Grow);
-    m_controls->add(IDC_SYSTEM_INFO_COPY, StretchedControls::How::MoveBoth);
-    m_controls->add(IDCANCEL, StretchedControls::How::MoveBoth);
+    m_controls->add(IDC_SYSTEM_INFO_TEXT, Stretch::Grow);
+    m_controls->add(IDC_SYSTEM_INFO_COPY, Stretch::MoveBoth);
+    m_controls->add(IDCANCEL, Stretch::MoveBoth);
     useFixedFont();
     m_text.SetTabStops(kTabStop);
     m_text.SetLimitText(0); // as much as there is

@@ -3,12 +3,13 @@ set(sysinfo_core
   ${CMAKE_CURRENT_LIST_DIR}/core/MachineText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ModuleText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ModuleView.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/StretchRule.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/VersionWords.cpp)
 
 if(NOT WIN32)
   add_library(ovoui_sysinfo_core STATIC ${sysinfo_core})
   target_include_directories(ovoui_sysinfo_core PUBLIC ${PROJECT_SOURCE_DIR})
-  target_link_libraries(ovoui_sysinfo_core PRIVATE ovo_flags)
+  target_link_libraries(ovoui_sysinfo_core PRIVATE ovo_flags PUBLIC ovoui_frame_core)
   return()
 endif()
 

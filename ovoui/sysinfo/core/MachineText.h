@@ -1,6 +1,8 @@
 /// What is known about the machine, as text. Plain values, no windows.
 #pragma once
 
+#include <ovoui/sysinfo/Machine.h>
+
 #include <cstdint>
 #include <string>
 
@@ -12,5 +14,8 @@ std::wstring systemText(unsigned major, unsigned minor, unsigned build, const st
 
 /// In the unit that leaves at most four digits: "512 MB", "15.6 GB".
 std::wstring memoryText(std::uint64_t bytes);
+
+/// See MachineInfo.h.
+std::wstring machineText(const MachineInfo& machine);
 
 } // namespace ovoui::sysinfo

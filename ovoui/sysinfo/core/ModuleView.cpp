@@ -154,6 +154,35 @@ ModulePlace placeOf(std::wstring_view path, std::wstring_view programFolder,
     return system ? ModulePlace::System : ModulePlace::Elsewhere;
 }
 
+ModuleOrder afterClick(const ModuleOrder& order, ModuleColumn clicked)
+{
+    return {clicked, clicked == order.column && !order.descending};
+}
+
+SortMark markOf(const ModuleOrder& order, ModuleColumn column)
+{
+    if (column != order.column)
+        return SortMark::None;
+    return order.descending ? SortMark::Down : SortMark::Up;
+}
+
+Ink remarkInk(const Ink& window)
+{
+    constexpr int kHalf = 3 * 128;
+    const bool light = window.red + window.green + window.blue > kHalf;
+    return light ? Ink{160, 0, 0} : Ink{255, 140, 140};
+}
+
+std::vector<std::size_t> modulesToCopy(const std::vector<std::size_t>& rows,
+                                       const std::function<bool(std::size_t row)>& isSelected)
+{
+    std::vector<std::size_t> selected;
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        if (isSelected(row))
+            selected.push_back(rows[row]);
+    return selected.empty() ? rows : selected;
+}
+
 std::vector<std::size_t> visibleModules(const std::vector<LoadedModule>& modules, std::wstring_view filter,
                                         const ModuleOrder& order, const RemarkTexts& remarks)
 {

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -57,7 +58,38 @@ struct ModuleOrder
 {
     ModuleColumn column = ModuleColumn::Name;
     bool descending = false;
+
+    friend bool operator==(const ModuleOrder&, const ModuleOrder&) = default;
 };
+
+/// After a click on a column's heading: the column sorts, and turns round when it did so before.
+ModuleOrder afterClick(const ModuleOrder& order, ModuleColumn clicked);
+
+/// What the heading of a column shows.
+enum class SortMark
+{
+    None,
+    Up,  ///< ascending
+    Down ///< descending
+};
+
+SortMark markOf(const ModuleOrder& order, ModuleColumn column);
+
+/// A colour's parts, 0 to 255.
+struct Ink
+{
+    int red;
+    int green;
+    int blue;
+};
+
+/// The colour of modules with a remark: a dark red on a light window, a light one on a dark window.
+Ink remarkInk(const Ink& window);
+
+/// The modules to be copied, of those that the rows show: those of the selected rows, or all when none is
+/// selected. `isSelected` is asked by row.
+std::vector<std::size_t> modulesToCopy(const std::vector<std::size_t>& rows,
+                                       const std::function<bool(std::size_t row)>& isSelected);
 
 /// The indices of the modules that hold every word of `filter` in some column, letters in any case, in order:
 /// addresses, sizes and versions by their numbers, the rest by letters. Equal ones stay as they stand.

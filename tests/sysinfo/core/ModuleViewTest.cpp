@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 using namespace ovoui::sysinfo;
 
 namespace
@@ -112,4 +114,55 @@ TEST(ModuleView, ColumnsShowOneLine)
     one.hasAddress = false;
     EXPECT_EQ(columnText(one, ModuleColumn::Address, kRemarks), L"");
     EXPECT_EQ(columnText(one, ModuleColumn::Size, kRemarks), L"");
+}
+
+TEST(ModuleView, AClickSortsAndAnotherTurnsRound)
+{
+    const int columns = static_cast<int>(ModuleColumn::Count);
+    for (int sorted = 0; sorted < columns; ++sorted)
+        for (const bool descending : {false, true})
+            for (int clicked = 0; clicked < columns; ++clicked) {
+                const ModuleOrder before{static_cast<ModuleColumn>(sorted), descending};
+                const ModuleOrder after = afterClick(before, static_cast<ModuleColumn>(clicked));
+                EXPECT_EQ(static_cast<int>(after.column), clicked);
+                EXPECT_EQ(after.descending, clicked == sorted && !descending);
+            }
+}
+
+TEST(ModuleView, OneHeadingHasTheMarkOfTheOrder)
+{
+    const int columns = static_cast<int>(ModuleColumn::Count);
+    for (int sorted = 0; sorted < columns; ++sorted)
+        for (const bool descending : {false, true})
+            for (int column = 0; column < columns; ++column)
+                EXPECT_EQ(markOf({static_cast<ModuleColumn>(sorted), descending},
+                                 static_cast<ModuleColumn>(column)),
+                          column != sorted ? SortMark::None
+                          : descending     ? SortMark::Down
+                                           : SortMark::Up);
+}
+
+TEST(ModuleView, RemarksStandOutFromLightAndDarkWindows)
+{
+    const auto brightness = [](const Ink& ink) { return ink.red + ink.green + ink.blue; };
+    for (int grey = 0; grey <= 255; ++grey) {
+        const Ink window{grey, grey, grey};
+        const Ink ink = remarkInk(window);
+        EXPECT_EQ(brightness(ink) < 3 * 128, grey > 128) << grey;
+        EXPECT_GT(std::abs(brightness(ink) - brightness(window)), 100) << grey;
+    }
+}
+
+TEST(ModuleView, TheSelectedRowsAreCopiedOrAll)
+{
+    const std::vector<std::size_t> rows{7, 3, 9, 0};
+    for (unsigned selected = 0; selected < 16; ++selected) {
+        std::vector<std::size_t> expected;
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            if (selected == 0 || (selected & 1u << row))
+                expected.push_back(rows[row]);
+        EXPECT_EQ(modulesToCopy(rows, [&](std::size_t row) { return (selected & 1u << row) != 0; }), expected)
+            << selected;
+    }
+    EXPECT_TRUE(modulesToCopy({}, [](std::size_t) { return true; }).empty());
 }
