@@ -21,9 +21,17 @@ constexpr int kYearsOld = 42;
 
 bool TabContent::open(CTabCtrl& tabs)
 {
-    if (!Create(IDD_TAB_CONTENT, &tabs))
+    if (::IsChild(m_hWnd, ::GetFocus()))
+        tabs.SetFocus();
+    if (m_hWnd)
+        DestroyWindow();
+    const bool isFirst = tabs.GetCurSel() == 0;
+    if (!Create(isFirst ? IDD_TAB_CONTENT : IDD_MORE_TAB_CONTENT, &tabs))
         return false;
-    fill();
+    if (isFirst)
+        fill();
+    else
+        fillMore();
     fit();
     ShowWindow(SW_SHOW);
     return true;
@@ -60,6 +68,31 @@ void TabContent::fill()
     SendDlgItemMessage(IDC_CONTENT_SPIN, UDM_SETPOS, 0, kYearsOld);
 }
 
+void TabContent::fillMore()
+{
+    SendDlgItemMessage(IDC_CONTENT_KEY, HKM_SETHOTKEY, MAKEWORD('B', HOTKEYF_CONTROL | HOTKEYF_ALT));
+    SendDlgItemMessage(IDC_CONTENT_ADDRESS, IPM_SETADDRESS, 0, MAKEIPADDRESS(192, 0, 2, 1));
+    for (const wchar_t* const name : {L"Drawknife", L"Spud"}) {
+        COMBOBOXEXITEM item{};
+        item.mask = CBEIF_TEXT;
+        item.iItem = -1;
+        item.pszText = const_cast<LPTSTR>(name);
+        SendDlgItemMessage(IDC_CONTENT_CHOICE, CBEM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));
+    }
+    SendDlgItemMessage(IDC_CONTENT_CHOICE, CB_SETCURSEL, 0);
+    SendDlgItemMessage(IDC_CONTENT_TOOLS, TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
+    int command = 1;
+    for (const wchar_t* const name : {L"Scrape", L"Tan"}) {
+        TBBUTTON button{};
+        button.iBitmap = I_IMAGENONE;
+        button.idCommand = command++;
+        button.fsState = TBSTATE_ENABLED;
+        button.fsStyle = BTNS_BUTTON | BTNS_AUTOSIZE | BTNS_SHOWTEXT;
+        button.iString = reinterpret_cast<INT_PTR>(name);
+        SendDlgItemMessage(IDC_CONTENT_TOOLS, TB_ADDBUTTONS, 1, reinterpret_cast<LPARAM>(&button));
+    }
+}
+
 void TabContent::fit()
 {
     auto* const tabs = static_cast<CTabCtrl*>(GetParent());
@@ -74,6 +107,11 @@ HBRUSH TabContent::OnCtlColor(CDC* dc, CWnd* control, UINT type)
 {
     return CShadedTabCtrl::AmendCtlColor(dc, control, type, CDialog::OnCtlColor(dc, control, type));
 }
+
+BEGIN_MESSAGE_MAP(ShadedTabsPage, GalleryPage)
+    ON_NOTIFY(TCN_SELCHANGE, IDC_SHADED_TABS, &ShadedTabsPage::OnTab)
+    ON_NOTIFY(TCN_SELCHANGE, IDC_PLAIN_TABS, &ShadedTabsPage::OnTab)
+END_MESSAGE_MAP()
 
 ShadedTabsPage::ShadedTabsPage()
     : GalleryPage(IDD_PAGE_SHADED_TABS)
@@ -98,6 +136,9 @@ void ShadedTabsPage::DoDataExchange(CDataExchange* exchange)
 
 BOOL ShadedTabsPage::OnInitDialog()
 {
+    // For the addresses and links of the second pages, which the framework does not start.
+    const INITCOMMONCONTROLSEX classes{sizeof classes, ICC_INTERNET_CLASSES | ICC_LINK_CLASS};
+    ::InitCommonControlsEx(&classes);
     GalleryPage::OnInitDialog();
     for (CTabCtrl* const tabs : {static_cast<CTabCtrl*>(&m_shaded), &m_plain}) {
         int index = 0;
@@ -110,6 +151,30 @@ BOOL ShadedTabsPage::OnInitDialog()
     stretch(IDC_PLAIN_TABS_LABEL, {.moveX = 50});
     stretch(IDC_PLAIN_TABS, {.moveX = 50, .growX = 50, .growY = 100});
     return FALSE;
+}
+
+void ShadedTabsPage::OnTab(NMHDR* header, LRESULT*)
+{
+    if (header->idFrom == IDC_PLAIN_TABS)
+        m_onPlain.open(m_plain);
+    else
+        m_onShaded.open(m_shaded);
+}
+
+std::vector<std::wstring> ShadedTabsPage::poses() const
+{
+    return {L"more-controls"};
+}
+
+bool ShadedTabsPage::pose(const std::wstring& name)
+{
+    if (name != L"more-controls")
+        return false;
+    m_shaded.SetCurSel(1);
+    m_plain.SetCurSel(1);
+    m_onShaded.open(m_shaded);
+    m_onPlain.open(m_plain);
+    return true;
 }
 
 /// The tab controls have their new sizes when the base class has laid out the page.

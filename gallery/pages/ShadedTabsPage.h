@@ -10,7 +10,8 @@
 class TabContent : public CDialog
 {
 public:
-    /// Makes the dialog and puts it where the tab control has its page.
+    /// Makes the dialog for the chosen tab and puts it where the tab control has its page. One that was
+    /// there before goes.
     bool open(CTabCtrl& tabs);
     /// Back to that place.
     void fit();
@@ -27,6 +28,7 @@ protected:
 
 private:
     void fill();
+    void fillMore();
 };
 
 class ShadedTabsPage : public GalleryPage
@@ -36,10 +38,14 @@ public:
     ~ShadedTabsPage() override;
 
     BOOL PreTranslateMessage(MSG* message) override;
+    std::vector<std::wstring> poses() const override;
+    bool pose(const std::wstring& name) override;
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override;
     BOOL OnInitDialog() override;
+    afx_msg void OnTab(NMHDR* header, LRESULT* result);
+    DECLARE_MESSAGE_MAP()
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:

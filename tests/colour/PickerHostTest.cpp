@@ -228,6 +228,20 @@ TEST_F(PickerHost, DuringTheDialogTheColourIsTheOneShown)
     EXPECT_EQ(picker->GetColour().colorref(), pink) << "the last colour, though cancelled";
 }
 
+TEST_F(PickerHost, EnterTakesOverWhatWasTypedBeforeTheDialogHearsOfIt)
+{
+    PickerOnPage dialog(kSwatchTemplate, TestApp::instance(), kOrange, nullptr, nullptr);
+    std::vector<COLORREF> seen;
+    dialog.onOk = [&] { seen.push_back(dialog.GetColour().colorref()); };
+    dialog.Create(kSwatchTemplate, nullptr);
+    ready(dialog);
+    dialog.m_value1.SetFocus();
+    dialog.m_value1.SetSel(0, -1);
+    user.type(L"51").key(VK_RETURN);
+    EXPECT_EQ(seen, std::vector{RGB(51, 128, 0)});
+    dialog.DestroyWindow();
+}
+
 // Centring
 
 TEST_F(PickerHost, WithoutAWindowToCentreOnItIsCentredOnItsParent)

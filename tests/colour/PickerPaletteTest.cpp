@@ -100,6 +100,24 @@ TEST_F(PickerPalette, TheFieldTakesAlphaWhereTheDialogHasIt)
     EXPECT_NEAR(dialog->GetColour().a(), 128 / 255.0, 1e-9);
 }
 
+TEST_F(PickerPalette, CodesAreCopiedAndPastedWithOrWithoutTheMark)
+{
+    open();
+    CEdit& field = static_cast<CEdit&>(*dialog->GetDlgItem(kText));
+    for (const wchar_t* const pasted : {L"#336699", L"336699", L"  #336699 "}) {
+        enter(L"red");
+        field.SetFocus();
+        field.SetWindowText(pasted);
+        field.SetSel(0, -1);
+        user.holding(VK_CONTROL).key('C');
+        field.SetWindowText(L"yellow");
+        field.SetSel(0, -1);
+        user.holding(VK_CONTROL).key('V').letGo(VK_CONTROL).key(VK_TAB);
+        EXPECT_EQ(now(), RGB(0x33, 0x66, 0x99)) << pasted;
+        EXPECT_EQ(text(kText), L"#336699");
+    }
+}
+
 TEST_F(PickerPalette, EnterTakesOverWhatIsInTheField)
 {
     dialog = std::make_unique<Palette>(TestApp::instance(), ColPickerModeHLS, Colour::rgb(1, 0, 0), nullptr,

@@ -212,3 +212,23 @@ TEST_F(GalleryLayout, TheControlThatTabGoesToIsScrolledIntoView)
     EXPECT_GT(verticalOffset(), 0);
     EXPECT_LE(scene.placeOnPage(button).bottom, scene.pageSize().cy);
 }
+
+TEST_F(GalleryLayout, TheSecondTabsShowOtherControls)
+{
+    scene.open(L"shadedtabs");
+    Robot robot;
+    for (const int id : {IDC_SHADED_TABS, IDC_PLAIN_TABS}) {
+        const HWND tabs = scene.control(id);
+        const auto shows = [tabs](int control) {
+            const HWND content = ::FindWindowExW(tabs, nullptr, L"#32770", nullptr);
+            return content && ::IsWindowVisible(::GetDlgItem(content, control));
+        };
+        for (const int tab : {1, 0}) {
+            CRect label;
+            ::SendMessageW(tabs, TCM_GETITEMRECT, tab, reinterpret_cast<LPARAM>(&label));
+            robot.click(Spot{*CWnd::FromHandle(tabs), label.CenterPoint()});
+            EXPECT_EQ(shows(IDC_CONTENT_TOOLS), tab == 1);
+            EXPECT_EQ(shows(IDC_CONTENT_TREE), tab == 0);
+        }
+    }
+}
