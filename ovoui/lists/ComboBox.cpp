@@ -329,6 +329,8 @@ BOOL COVOComboBox::OnSetFocus()
             return TRUE;
     m_savedSelection = GetCurSel();
     m_savedText = m_savedSelection == -1 ? editText() : std::wstring();
+    if (m_autoComplete && itemsHaveTexts())
+        m_completion->watch();
     return FALSE;
 }
 

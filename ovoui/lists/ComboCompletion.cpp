@@ -116,11 +116,19 @@ void ComboCompletion::leaveList()
     m_search.forget();
 }
 
-/// The item behind which a search of the whole list for a text can begin; none when no item begins with it.
-std::optional<int> ComboCompletion::startFor(const wchar_t* text) const
+/// The list's own search of all items for a text.
+LRESULT ComboCompletion::search(WNDPROC procedure, const wchar_t* text)
 {
-    const int first = m_changes == 0 ? m_search.firstFor(text) : 0;
-    return first == -1 ? std::nullopt : std::optional(first - 1);
+    const bool counts = m_changes == 0;
+    const int from = counts ? m_search.firstFor(text) : 0;
+    if (from == -1)
+        return LB_ERR;
+    const Lifeline::Watch watch(m_lifeline);
+    const LRESULT found = ::CallWindowProcW(procedure, m_list, LB_FINDSTRING, static_cast<WPARAM>(from - 1),
+                                            reinterpret_cast<LPARAM>(text));
+    if (watch.alive() && counts)
+        m_search.take(text, static_cast<int>(found));
+    return found;
 }
 
 /// The parent of an owner-drawn list hears of changes while they are made: it may search then, or destroy the
@@ -140,12 +148,8 @@ LRESULT CALLBACK ComboCompletion::listProcedure(HWND window, UINT message, WPARA
         const Change change(*completion);
         return ::CallWindowProcW(procedure, window, message, wParam, lParam);
     }
-    if (completion && searchesAll(message, wParam, lParam)) {
-        const std::optional<int> start = completion->startFor(reinterpret_cast<const wchar_t*>(lParam));
-        if (!start)
-            return LB_ERR;
-        wParam = static_cast<WPARAM>(*start);
-    }
+    if (completion && searchesAll(message, wParam, lParam))
+        return completion->search(procedure, reinterpret_cast<const wchar_t*>(lParam));
     return ::CallWindowProcW(procedure, window, message, wParam, lParam);
 }
 

@@ -6,7 +6,6 @@
 
 #include <afxwin.h>
 
-#include <optional>
 #include <string>
 
 class COVOComboBox;
@@ -14,9 +13,9 @@ class COVOComboBox;
 namespace ovoui::lists
 {
 
-/// Lives with its combo box. Watches the list from the first search on, since items may be changed by
-/// messages to the list itself too. The platform's combo box searches the list as well, for each text that
-/// the field shows: such a search goes on where ours has ended.
+/// Lives with its combo box. Watches the list from the first search on, or earlier, since items may be
+/// changed by messages to the list itself too. The platform's combo box searches the list as well, for each
+/// text that the field shows, before ours or afterwards: each goes on where the other one has ended.
 class ComboCompletion
 {
 public:
@@ -25,6 +24,9 @@ public:
     ComboCompletion(const ComboCompletion&) = delete;
     ComboCompletion& operator=(const ComboCompletion&) = delete;
 
+    /// To be called before anything is typed.
+    void watch() { watchesList(); }
+
     /// -1 for none.
     int itemFor(const std::wstring& text);
 
@@ -32,7 +34,7 @@ private:
     static LRESULT CALLBACK listProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     bool watchesList();
     void leaveList();
-    std::optional<int> startFor(const wchar_t* text) const;
+    LRESULT search(WNDPROC procedure, const wchar_t* text);
 
     class Change;
 

@@ -13,12 +13,29 @@ std::size_t CompletionSearch::commonWith(std::wstring_view text) const
         m_text.begin());
 }
 
-CompletionSearch::Found CompletionSearch::foundFor(std::wstring_view text) const
+const CompletionSearch::Beginning* CompletionSearch::longestOf(std::wstring_view text) const
 {
     const std::size_t common = commonWith(text);
     const auto known = std::find_if(m_beginnings.rbegin(), m_beginnings.rend(),
                                     [&](const Beginning& beginning) { return beginning.length <= common; });
-    return known == m_beginnings.rend() ? Found{} : known->found;
+    return known == m_beginnings.rend() ? nullptr : &*known;
+}
+
+CompletionSearch::Found CompletionSearch::foundFor(std::wstring_view text) const
+{
+    const Beginning* const known = longestOf(text);
+    return known ? known->found : Found{};
+}
+
+/// What is known of the text itself says more.
+void CompletionSearch::take(std::wstring_view text, int first)
+{
+    const Beginning* const known = longestOf(text);
+    if (known && known->length == text.size())
+        return;
+    const int exact = known ? known->found.exact : 0;
+    const bool none = first == kNone || exact == kNone;
+    remember(text, {first, none ? kNone : std::max(first, exact)});
 }
 
 /// Nothing is kept for an empty text: what is found for it says nothing about others.

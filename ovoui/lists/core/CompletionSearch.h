@@ -40,16 +40,21 @@ public:
     /// at all.
     int firstFor(std::wstring_view text) const { return foundFor(text).first; }
 
+    /// Takes over what another search of the whole list has found: the first item that begins with a
+    /// text, whatever the case, or -1.
+    void take(std::wstring_view text, int first);
+
     /// To be called when items have changed.
     void forget() { m_beginnings.clear(); }
 
 private:
     static constexpr int kNone = -1;
 
+    /// No item before these begins with the text.
     struct Found
     {
         int first = 0; ///< whatever the case
-        int exact = 0; ///< the first one that begins with exactly the text
+        int exact = 0; ///< with exactly the text
     };
 
     struct Beginning
@@ -58,7 +63,8 @@ private:
         Found found;
     };
 
-    /// For the longest known beginning of a text.
+    /// The longest known beginning of a text; null for none.
+    const Beginning* longestOf(std::wstring_view text) const;
     Found foundFor(std::wstring_view text) const;
     std::size_t commonWith(std::wstring_view text) const;
     /// Forgets what is no beginning of the text.

@@ -55,6 +55,9 @@ public:
 
     int firstFor(std::wstring_view text) const { return m_search.firstFor(text); }
 
+    /// As another program part that searches.
+    void searchElsewhere(const std::wstring& text) { m_search.take(text, find(-1, text)); }
+
     /// Without any memory: every item in turn.
     int plainCompletion(const std::wstring& text)
     {
@@ -205,6 +208,34 @@ TEST(CompletionSearch, SaysBeforeWhichItemALongerTextNeedNotBeLookedFor)
     EXPECT_EQ(items.firstFor(L"apzo"), 0);
 }
 
+TEST(CompletionSearch, TakesOverWhatAnotherSearchHasFound)
+{
+    Items items = manyItems(1000, L"the last");
+    items.searchElsewhere(L"t");
+    items.looks = 0;
+    EXPECT_EQ(items.completion(L"t"), 999);
+    EXPECT_EQ(items.looks, 1);
+    items.searchElsewhere(L"q");
+    items.looks = 0;
+    EXPECT_EQ(items.completion(L"q"), -1);
+    EXPECT_EQ(items.completion(L"qu"), -1);
+    EXPECT_EQ(items.looks, 0);
+}
+
+TEST(CompletionSearch, WhatItFoundItselfSaysMore)
+{
+    Items items = manyItems(1000, L"item in small letters");
+    EXPECT_EQ(items.completion(L"i"), 999);
+    items.searchElsewhere(L"i"); // finds an item in another case
+    items.looks = 0;
+    EXPECT_EQ(items.completion(L"i"), 999);
+    EXPECT_EQ(items.looks, 2);
+    items.searchElsewhere(L"ite");
+    items.looks = 0;
+    EXPECT_EQ(items.completion(L"item"), 999);
+    EXPECT_EQ(items.looks, 2);
+}
+
 // Random users and hosts: with and without memory the same items are found.
 TEST(CompletionSearch, RemembersNothingWrong)
 {
@@ -247,6 +278,8 @@ TEST(CompletionSearch, RemembersNothingWrong)
             const int from = items.firstFor(longer);
             const int first = items.find(-1, longer);
             ASSERT_TRUE(first == -1 || (from != -1 && from <= first)) << "list " << list << ", step " << step;
+            if (upTo(1) == 0)
+                items.searchElsewhere(longer);
             found += expected != -1;
         }
     }
