@@ -56,6 +56,13 @@ CSliderButton::CSliderButton(SliderButtonUtils& utils)
 
 CSliderButton::~CSliderButton() = default;
 
+/// A window that becomes a slider button may have the focus already.
+void CSliderButton::PreSubclassWindow()
+{
+    CStatic::PreSubclassWindow();
+    m_parts->focused = ::GetFocus() == m_hWnd;
+}
+
 void CSliderButton::OnDestroy()
 {
     m_parts->pressed = false;
@@ -195,12 +202,14 @@ CPoint CSliderButton::middle() const
 
 void CSliderButton::OnSetFocus(CWnd* other)
 {
+    m_parts->focused = true;
     CStatic::OnSetFocus(other);
     Invalidate();
 }
 
 void CSliderButton::OnKillFocus(CWnd* other)
 {
+    m_parts->focused = false;
     CStatic::OnKillFocus(other);
     Invalidate();
 }
@@ -238,7 +247,7 @@ void CSliderButton::OnPaint()
     BufferedPaint paint(*this);
     CRect client;
     GetClientRect(&client);
-    SliderButtonFace(m_hWnd, m_parts->theme, m_parts->pressed).paint(paint.dc(), client);
+    SliderButtonFace(m_hWnd, m_parts->theme, m_parts->pressed, m_parts->focused).paint(paint.dc(), client);
 }
 
 // Accessibility

@@ -105,6 +105,8 @@ public:
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
+    void PreSubclassWindow() override;
+
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     afx_msg void OnCaptureChanged(CWnd* wnd);

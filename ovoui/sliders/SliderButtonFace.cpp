@@ -7,10 +7,11 @@
 namespace ovoui::sliders
 {
 
-SliderButtonFace::SliderButtonFace(HWND wnd, frame::KeptTheme& theme, bool pressed)
+SliderButtonFace::SliderButtonFace(HWND wnd, frame::KeptTheme& theme, bool pressed, bool focused)
     : m_wnd(wnd)
     , m_theme(theme)
     , m_pressed(pressed)
+    , m_focused(focused)
     , m_enabled(::IsWindowEnabled(wnd) != FALSE)
 {
 }
@@ -20,7 +21,7 @@ void SliderButtonFace::paint(CDC& dc, const CRect& client) const
     dc.FillSolidRect(&client, ::GetSysColor(COLOR_BTNFACE));
     paintBack(dc, client);
     paintArrow(dc, client);
-    if (::GetFocus() == m_wnd)
+    if (m_focused)
         paintFocus(dc, client);
 }
 

@@ -13,9 +13,9 @@ class SliderButtonFace
 {
 public:
     /// `theme` is that of push buttons.
-    SliderButtonFace(HWND wnd, frame::KeptTheme& theme, bool pressed);
+    SliderButtonFace(HWND wnd, frame::KeptTheme& theme, bool pressed, bool focused);
 
-    /// All of `client`, with a focus mark when the window has the focus.
+    /// All of `client`, with a mark when it has the focus.
     void paint(CDC& dc, const CRect& client) const;
 
 private:
@@ -26,6 +26,7 @@ private:
     const HWND m_wnd;
     frame::KeptTheme& m_theme;
     const bool m_pressed;
+    const bool m_focused;
     const bool m_enabled;
 };
 

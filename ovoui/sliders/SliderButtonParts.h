@@ -25,6 +25,7 @@ struct CSliderButton::Parts
 
     ovoui::sliders::Buddy buddy;
     bool pressed = false;
+    bool focused = false; ///< kept, since some platforms ask another process for the focus
     ovoui::frame::KeptTheme theme{L"Button"};
     ovoui::sliders::PressDrag drag;
     ovoui::sliders::PopupPlace place;    ///< of the popup when it opened

@@ -192,3 +192,15 @@ TEST_F(SliderButtonPicture, TheFocusIsMarkedOnePixelInside)
     other.SetFocus();
     EXPECT_EQ(shown().differences(without), 0);
 }
+
+TEST_F(SliderButtonPicture, AControlWithTheFocusThatBecomesAButtonIsMarked)
+{
+    show();
+    button->SetFocus();
+    const Picture with = shown();
+    HWND control = button->UnsubclassWindow();
+    button = std::make_unique<CSliderButton>(utils);
+    button->SubclassWindow(control);
+    button->Invalidate();
+    EXPECT_EQ(shown().differences(with), 0);
+}
