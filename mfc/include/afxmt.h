@@ -1,4 +1,5 @@
-// Threads wait for each other: critical sections, mutexes, semaphores, events, and locks on them.
+// Threads: starting them, and how they wait for each other: critical sections, mutexes, semaphores, events,
+// locks.
 #ifndef __AFXMT_H__
 #define __AFXMT_H__
 #pragma once
@@ -6,5 +7,6 @@
 #include <afxwin.h>
 
 #include <afx/Sync.h>
+#include <afx/Threads.h>
 
 #endif // __AFXMT_H__

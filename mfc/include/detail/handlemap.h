@@ -14,13 +14,14 @@
 namespace afxdetail
 {
 
-/// Has the running thread call `purge(map)` when its temporary objects are to go.
-OVOMFC_API void registerTemporaryPurge(void (*purge)(void* map), void* map);
+/// Has the running thread call `purge(map)` when its temporary objects are to go, and `destroy` at its end if
+/// the framework has started it.
+OVOMFC_API void registerThreadMap(void (*purge)(void* map), void (*destroy)(), void* map);
 
 /// Handles of one kind and their objects, for one thread.
 ///
-/// The permanent map holds objects that were attached to their handle; it does not own them. The temporary map
-/// owns objects made for handles that were not attached; they never close the handle and go in idle time.
+/// The permanent map holds objects that were attached to their handle; it does not own them. The temporary
+/// map owns objects made for handles that were not attached; they never close the handle and go in idle time.
 /// `Traits` gives `Object`, `Handle`, `static std::unique_ptr<Object> make(Handle)` (an object that holds the
 /// handle) and `static void forget(Object&)` (takes the handle out again, so that the destructor leaves it).
 template <class Traits>
@@ -111,16 +112,24 @@ private:
     std::vector<std::unique_ptr<Object>> m_stale;
 };
 
-/// The map for `Traits` of the running thread. It is never destroyed: windows may outlive everything else.
+template <class Traits>
+HandleMap<Traits>*& handleMapSlot()
+{
+    thread_local HandleMap<Traits>* map = nullptr;
+    return map;
+}
+
+/// The map for `Traits` of the running thread. Threads that the framework has started delete theirs; others
+/// are never destroyed: windows may outlive everything else.
 template <class Traits>
 HandleMap<Traits>& handleMap()
 {
-    thread_local HandleMap<Traits>* const map = [] {
-        auto* made = new HandleMap<Traits>;
-        registerTemporaryPurge([](void* self) { static_cast<HandleMap<Traits>*>(self)->deleteTemporary(); },
-                               made);
-        return made;
-    }();
+    HandleMap<Traits>*& map = handleMapSlot<Traits>();
+    if (!map) {
+        map = new HandleMap<Traits>;
+        registerThreadMap([](void* self) { static_cast<HandleMap<Traits>*>(self)->deleteTemporary(); },
+                          [] { delete std::exchange(handleMapSlot<Traits>(), nullptr); }, map);
+    }
     return *map;
 }
 

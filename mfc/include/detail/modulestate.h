@@ -3,6 +3,7 @@
 
 #include <afx/ModuleState.h>
 
+#include <mutex>
 #include <set>
 #include <string>
 #include <utility>
@@ -16,6 +17,7 @@ public:
     HINSTANCE resources = instance;
     CDynLinkLibrary* libraries = nullptr;                    ///< from the newest to the oldest
     std::set<std::pair<HINSTANCE, std::wstring>> wndClasses; ///< that were registered through the framework
+    std::mutex wndClassesLock;                               ///< any thread may register one
 };
 
 namespace afxdetail

@@ -10,4 +10,5 @@ target_sources(ovomfc PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/profile.cpp
   ${CMAKE_CURRENT_LIST_DIR}/recentfilelist.cpp
   ${CMAKE_CURRENT_LIST_DIR}/recentfiles.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/thread.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/thread.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/threadstart.cpp)

@@ -74,6 +74,8 @@ CWinThread::CWinThread()
 
 CWinThread::~CWinThread()
 {
+    if (m_hThread && m_hThread != ::GetCurrentThread()) // which is no handle to be closed
+        ::CloseHandle(m_hThread);
     if (threadState().currentThread == this)
         threadState().currentThread = nullptr;
 }

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <cwchar>
+#include <new>
 #include <utility>
 
 // The buffer
@@ -26,8 +27,7 @@ CString::Data* CString::allocate(int capacity)
     void* memory = std::malloc(sizeof(Data) + (static_cast<std::size_t>(capacity) + 1) * sizeof(wchar_t));
     if (!memory)
         AfxThrowMemoryException();
-    Data* data = static_cast<Data*>(memory);
-    *data = {1, 0, capacity};
+    Data* data = new (memory) Data{1, 0, capacity};
     data->text()[0] = 0;
     return data;
 }

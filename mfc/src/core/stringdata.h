@@ -3,11 +3,13 @@
 
 #include <afx.h>
 
+#include <atomic>
+
 struct CString::Data
 {
     static constexpr long kLocked = -1; ///< in `references`: the buffer is one object's own and stays so
 
-    long references;
+    std::atomic<long> references; ///< of objects in any thread
     int length;
     int capacity;
 

@@ -186,7 +186,10 @@ bool CTime::GetAsSystemTime(SYSTEMTIME& time) const
 
 CString CTime::Format(LPCTSTR format) const
 {
-    return formatted(format, local());
+    tm parts{};
+    if (!GetLocalTm(&parts))
+        AfxThrowInvalidArgException();
+    return formatted(format, parts);
 }
 
 CString CTime::Format(UINT formatId) const
@@ -197,7 +200,8 @@ CString CTime::Format(UINT formatId) const
 CString CTime::FormatGmt(LPCTSTR format) const
 {
     tm parts{};
-    GetGmtTm(&parts);
+    if (!GetGmtTm(&parts))
+        AfxThrowInvalidArgException();
     return formatted(format, parts);
 }
 

@@ -1,4 +1,5 @@
 target_sources(ovomfc PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/bitmapbutton.cpp
   ${CMAKE_CURRENT_LIST_DIR}/button.cpp
   ${CMAKE_CURRENT_LIST_DIR}/combobox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/edit.cpp

@@ -9,12 +9,18 @@ target_sources(ovomfc PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/core/dragrules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/floatrules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/panelayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/scrollbars.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/textsearch.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/toolbarlayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ctrlview.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dialogbar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dockbar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dockstate.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dragoutline.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/editview.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/editviewfind.cpp
   ${CMAKE_CURRENT_LIST_DIR}/floatplace.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/formview.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame.cpp
   ${CMAKE_CURRENT_LIST_DIR}/framebars.cpp
   ${CMAKE_CURRENT_LIST_DIR}/framehelp.cpp
@@ -24,6 +30,7 @@ target_sources(ovomfc PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/framemodal.cpp
   ${CMAKE_CURRENT_LIST_DIR}/minidockframe.cpp
   ${CMAKE_CURRENT_LIST_DIR}/miniframe.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/scrollview.cpp
   ${CMAKE_CURRENT_LIST_DIR}/statusbar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/toolbar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/toolbarimages.cpp

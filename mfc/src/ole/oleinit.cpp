@@ -6,26 +6,28 @@
 namespace
 {
 
-bool s_started = false;
+thread_local bool t_started = false;
 
 } // namespace
 
 BOOL AFXAPI AfxOleInit()
 {
-    if (s_started)
+    if (t_started)
         return TRUE;
     if (FAILED(::OleInitialize(nullptr)))
         return FALSE;
-    s_started = true;
-    afxdetail::registerTermWork(&AfxOleTerm);
+    t_started = true;
+    // Threads that AfxBeginThread has started see to it at their end.
+    if (AfxGetThread() == AfxGetApp())
+        afxdetail::registerTermWork(&AfxOleTerm);
     return TRUE;
 }
 
 void AFXAPI AfxOleTerm()
 {
-    if (!s_started)
+    if (!t_started)
         return;
-    s_started = false;
+    t_started = false;
     if (COleDataSource::GetClipboardOwner())
         ::OleFlushClipboard(); // errors in rendering are ignored: no window is left to show them
     ::OleUninitialize();

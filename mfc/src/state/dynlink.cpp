@@ -47,7 +47,9 @@ namespace
 
 void dropWndClasses(HMODULE module)
 {
-    std::erase_if(AfxGetModuleState()->wndClasses, [module](const auto& wndClass) {
+    AFX_MODULE_STATE* const state = AfxGetModuleState();
+    const std::lock_guard lock(state->wndClassesLock);
+    std::erase_if(state->wndClasses, [module](const auto& wndClass) {
         return wndClass.first == module && ::UnregisterClassW(wndClass.second.c_str(), module);
     });
 }

@@ -1,5 +1,6 @@
 // The running thread's block.
 #include <detail/modulestate.h>
+#include <detail/threadend.h>
 #include <detail/threadstate.h>
 
 #include <atomic>
@@ -52,6 +53,15 @@ ThreadState& threadState()
         state = newState(slot);
     ::SetLastError(error);
     return *state;
+}
+
+void releaseThreadState()
+{
+    const DWORD slot = g_slot;
+    if (slot == TLS_OUT_OF_INDEXES)
+        return;
+    delete static_cast<ThreadState*>(::TlsGetValue(slot));
+    ::TlsSetValue(slot, nullptr);
 }
 
 void releaseStates()

@@ -8,12 +8,14 @@
 
 BOOL AFXAPI AfxRegisterClass(WNDCLASS* wndClass)
 {
+    AFX_MODULE_STATE* const state = AfxGetModuleState();
+    const std::lock_guard lock(state->wndClassesLock);
     WNDCLASSW present{};
     if (::GetClassInfoW(wndClass->hInstance, wndClass->lpszClassName, &present))
         return TRUE;
     if (!::RegisterClassW(wndClass))
         return FALSE;
-    AfxGetModuleState()->wndClasses.emplace(wndClass->hInstance, wndClass->lpszClassName);
+    state->wndClasses.emplace(wndClass->hInstance, wndClass->lpszClassName);
     return TRUE;
 }
 

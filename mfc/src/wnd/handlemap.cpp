@@ -2,14 +2,36 @@
 #include "handlemap.h"
 #include "wndflags.h"
 
+#include <detail/threadend.h>
+
 using afxdetail::wndMap;
 
 namespace afxdetail
 {
 
-void registerTemporaryPurge(void (*purge)(void*), void* map)
+namespace
+{
+
+thread_local std::vector<void (*)()>* t_mapEnds = nullptr;
+
+} // namespace
+
+void registerThreadMap(void (*purge)(void*), void (*destroy)(), void* map)
 {
     threadState().temporaryPurges.push_back({purge, map});
+    if (!t_mapEnds)
+        t_mapEnds = new std::vector<void (*)()>;
+    t_mapEnds->push_back(destroy);
+}
+
+void releaseThreadMaps()
+{
+    threadState().temporaryPurges.clear();
+    threadState().windows = nullptr;
+    const std::unique_ptr<std::vector<void (*)()>> ends(std::exchange(t_mapEnds, nullptr));
+    if (ends)
+        for (void (*const destroy)() : *ends)
+            destroy();
 }
 
 void purgeTemporaryObjects()

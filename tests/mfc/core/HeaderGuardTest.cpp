@@ -2,6 +2,7 @@
 #include <afxadv.h>
 #include <afxcmn.h>
 #include <afxcoll.h>
+#include <afxcview.h>
 #include <afxdisp.h>
 #include <afxdtctl.h>
 #include <afxext.h>
@@ -32,6 +33,9 @@
 #endif
 #if !defined(__ATLTYPES_H__) || !defined(__ATLSTR_H__) || !defined(__ATLTIME_H__) ||                         \
     !defined(__ATLCOMTIME_H__)
+#error likewise
+#endif
+#if !defined(__AFXCVIEW_H__)
 #error likewise
 #endif
 #if _MFC_VER != 0x0900

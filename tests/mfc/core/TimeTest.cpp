@@ -73,3 +73,28 @@ TEST(TimeSpan, IsSplitIntoItsParts)
     EXPECT_EQ((span - CTimeSpan(3, 0, 0, 0)).GetDays(), 0);
     EXPECT_GT(span, CTimeSpan(3, 4, 5, 5));
 }
+
+template <class Call>
+static bool isRefused(Call call)
+{
+    try {
+        call();
+        return false;
+    } catch (CInvalidArgException* exception) {
+        exception->Delete();
+        return true;
+    }
+}
+
+TEST(Time, OutsideOfItsRangeCannotBeWritten)
+{
+    const CTime tooEarly(-1 - 24 * 3600);
+    const CTime tooLate(__time64_t{1} << 40);
+    for (const CTime& time : {tooEarly, tooLate}) {
+        EXPECT_TRUE(isRefused([&] { time.Format(L"%Y"); }));
+        EXPECT_TRUE(isRefused([&] { time.FormatGmt(L"%Y"); }));
+        SYSTEMTIME parts{};
+        EXPECT_FALSE(time.GetAsSystemTime(parts));
+    }
+    EXPECT_EQ(CTime(0).FormatGmt(L"%Y-%m-%d %H:%M:%S"), L"1970-01-01 00:00:00");
+}

@@ -4,6 +4,7 @@
 // Dialogs 100-119
 #define IDD_PLAIN 100
 #define IDD_LISTS 101
+#define IDD_FORM 102
 #define IDD_MISSING 119
 
 // A frame's menu, accelerators, title, toolbar and its bitmap 120-129
