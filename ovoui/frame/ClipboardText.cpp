@@ -1,13 +1,22 @@
 #include <ovoui/frame/ClipboardText.h>
 
-#include <ovoui/frame/GlobalMemory.h>
+#include <ovocor/OvoError.h>
+#include <ovocor/Text.h>
 
-#include <string>
+#include <ovomsg/ovomsg.h>
+
+#include <afxole.h>
+
+#include <algorithm>
+#include <memory>
 
 namespace ovoui::frame
 {
 namespace
 {
+
+constexpr int kTries = 5;
+constexpr DWORD kPause = 50; // milliseconds between two of them
 
 class OpenedClipboard
 {
@@ -30,19 +39,72 @@ private:
     bool m_open;
 };
 
+bool put(ClipboardFormat& contents)
+{
+    if (!::SetClipboardData(contents.format, contents.memory.get()))
+        return false;
+    contents.memory.release(); // the clipboard owns it now
+    return true;
+}
+
+void offer(COleDataSource& source, CLIPFORMAT format, GlobalMemory memory)
+{
+    if (memory)
+        source.CacheGlobalData(format, memory.release());
+}
+
+bool copied(const std::wstring& text)
+{
+    auto source = std::make_unique<COleDataSource>();
+    offerText(*source, text);
+    try {
+        source->SetClipboard();
+        source.release(); // the clipboard owns it now
+        return true;
+    } catch (COleException* error) {
+        error->Delete();
+    }
+    source.release()->InternalRelease();
+    return false;
+}
+
 } // namespace
+
+bool setClipboard(HWND owner, std::span<ClipboardFormat> contents)
+{
+    const auto hasMemory = [](const ClipboardFormat& one) { return one.memory != nullptr; };
+    if (!std::ranges::all_of(contents, hasMemory))
+        return false;
+    const OpenedClipboard clipboard(owner);
+    return clipboard && ::EmptyClipboard() && std::ranges::all_of(contents, put);
+}
 
 bool setClipboardText(HWND owner, std::wstring_view text)
 {
+    ClipboardFormat contents[] = {{CF_UNICODETEXT, globalText(text)}};
+    return setClipboard(owner, contents);
+}
+
+GlobalMemory globalText(std::wstring_view text)
+{
     const std::wstring copy(text); // ends with a zero
-    GlobalMemory memory = globalCopy(copy.c_str(), (copy.size() + 1) * sizeof(wchar_t));
-    const OpenedClipboard clipboard(owner);
-    if (!memory || !clipboard || !::EmptyClipboard())
-        return false;
-    if (!::SetClipboardData(CF_UNICODETEXT, memory.get()))
-        return false;
-    memory.release(); // the clipboard owns it now
-    return true;
+    return globalCopy(copy.c_str(), (copy.size() + 1) * sizeof(wchar_t));
+}
+
+void offerText(COleDataSource& source, const std::wstring& text)
+{
+    offer(source, CF_UNICODETEXT, globalText(text));
+    const std::string narrow = getMBS(text);
+    offer(source, CF_TEXT, globalCopy(narrow.c_str(), narrow.size() + 1));
+}
+
+void copyByOle(const std::wstring& text)
+{
+    for (int attempt = 1; !copied(text); ++attempt) {
+        if (attempt == kTries)
+            throw OvoError(ovoMsg(OVOMSG_CLIPBOARD_BUSY));
+        ::Sleep(kPause);
+    }
 }
 
 } // namespace ovoui::frame

@@ -1,6 +1,6 @@
 #include <ovoui/lists/ListCopier.h>
 
-#include <ovoui/frame/GlobalMemory.h>
+#include <ovoui/frame/ClipboardText.h>
 #include <ovoui/frame/HeldKeysNow.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/frame/core/BoxKeys.h>
@@ -11,8 +11,7 @@
 #include <utility>
 
 using namespace ovoui::lists;
-using ovoui::frame::globalCopy;
-using ovoui::frame::GlobalMemory;
+using namespace ovoui::frame;
 
 namespace
 {
@@ -49,14 +48,6 @@ std::string utf8(const std::wstring& text)
     return result;
 }
 
-bool put(UINT format, GlobalMemory block)
-{
-    if (!block || !::SetClipboardData(format, block.get()))
-        return false;
-    block.release(); // the clipboard's from now on
-    return true;
-}
-
 bool asksForCopy(WPARAM virtualKey)
 {
     return ovoui::frame::isCopyKey(static_cast<unsigned>(virtualKey), ovoui::frame::heldKeysNow());
@@ -75,15 +66,10 @@ bool copySelectedRows(CListCtrl& list, bool headings)
         rows.insert(rows.begin(), rowOf(columns, [&](int column) { return headingOf(list, column); }));
     const std::wstring text = tabSeparated(rows);
     const std::string html = htmlForClipboard(utf8(htmlTable(rows, headings)));
-    GlobalMemory textBlock = globalCopy(text.c_str(), (text.size() + 1) * sizeof(wchar_t));
-    GlobalMemory htmlBlock = globalCopy(html.c_str(), html.size() + 1);
-    if (!textBlock || !htmlBlock || !list.OpenClipboard())
-        return false;
-    ::EmptyClipboard();
-    const bool copied = put(CF_UNICODETEXT, std::move(textBlock)) &&
-                        put(::RegisterClipboardFormatW(L"HTML Format"), std::move(htmlBlock));
-    ::CloseClipboard();
-    return copied;
+    ClipboardFormat contents[] = {
+        {CF_UNICODETEXT, globalText(text)},
+        {::RegisterClipboardFormatW(L"HTML Format"), globalCopy(html.c_str(), html.size() + 1)}};
+    return setClipboard(list, contents);
 }
 
 COVOListCopier::COVOListCopier() = default;

@@ -1,7 +1,7 @@
 #include <ovoui/sysinfo/ModuleListDlg.h>
 
+#include <ovoui/frame/ClipboardText.h>
 #include <ovoui/frame/Module.h>
-#include <ovoui/sysinfo/ClipboardText.h>
 #include <ovoui/sysinfo/LoadedModules.h>
 #include <ovoui/sysinfo/StretchedControls.h>
 #include <ovoui/sysinfo/core/ModuleView.h>
@@ -235,7 +235,7 @@ void CModuleListDlg::OnCopyAsFormat(UINT id)
 {
     const auto* const format = std::ranges::find(kCopyFormats, id, &CopyFormat::command);
     if (format != std::end(kCopyFormats))
-        copyToClipboard(format->textOf(chosen()));
+        ovoui::frame::copyByOle(format->textOf(chosen()));
 }
 
 // Size

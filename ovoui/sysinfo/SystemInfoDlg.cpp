@@ -1,6 +1,6 @@
 #include <ovoui/sysinfo/SystemInfoDlg.h>
 
-#include <ovoui/sysinfo/ClipboardText.h>
+#include <ovoui/frame/ClipboardText.h>
 #include <ovoui/sysinfo/MachineInfo.h>
 #include <ovoui/sysinfo/ModuleReader.h>
 #include <ovoui/sysinfo/StretchedControls.h>
@@ -85,7 +85,7 @@ void CSystemInfoDlg::OnShowWindow(BOOL bShow, UINT nStatus)
 
 void CSystemInfoDlg::OnCopy()
 {
-    copyToClipboard(m_modules);
+    ovoui::frame::copyByOle(m_modules);
 }
 
 // Size

@@ -15,7 +15,6 @@ endif()
 
 target_sources(ovoui PRIVATE
   ${sysinfo_core}
-  ${CMAKE_CURRENT_LIST_DIR}/ClipboardText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MachineInfo.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ModuleListDlg.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ModuleReader.cpp
