@@ -33,6 +33,14 @@ void keepFirst(std::exception_ptr& kept, Call&& call)
         kept = raised;
 }
 
+/// Makes a call where no exception may leave, such as in a destructor, or in a procedure that the system
+/// calls and whose callers know nothing of exceptions: what it raises is lost.
+template <class Call>
+void dropping(Call&& call) noexcept
+{
+    keeping(std::forward<Call>(call));
+}
+
 inline void raise(const std::exception_ptr& exception)
 {
     if (exception)

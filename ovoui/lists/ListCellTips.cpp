@@ -1,27 +1,16 @@
 #include <ovoui/lists/ListCellTips.h>
 
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/Tip.h>
 #include <ovoui/lists/ListCells.h>
 #include <ovoui/lists/RowData.h>
 #include <ovoui/lists/core/RowLayout.h>
-
-#include <commctrl.h>
 
 using namespace ovoui::lists;
 using ovoui::frame::toRect;
 
 namespace
 {
-
-TOOLINFOW toolOf(HWND list)
-{
-    TOOLINFOW tool{};
-    tool.cbSize = TTTOOLINFOW_V2_SIZE;
-    tool.uFlags = TTF_TRACK | TTF_ABSOLUTE | TTF_TRANSPARENT;
-    tool.hwnd = list;
-    tool.uId = 1;
-    return tool;
-}
 
 bool endsTip(UINT message)
 {
@@ -42,7 +31,10 @@ bool endsTip(UINT message)
 
 } // namespace
 
-COVOListCellTips::COVOListCellTips() = default;
+COVOListCellTips::COVOListCellTips()
+    : m_tip(std::make_unique<ovoui::frame::Tip>())
+{
+}
 
 COVOListCellTips::~COVOListCellTips()
 {
@@ -62,10 +54,8 @@ void COVOListCellTips::Detach()
 
 void COVOListCellTips::left()
 {
-    if (m_tip)
-        ::DestroyWindow(m_tip);
+    m_tip->destroy();
     m_list = nullptr;
-    m_tip = nullptr;
     m_cell = {};
 }
 
@@ -128,37 +118,21 @@ void COVOListCellTips::show(const Cell& cell)
     const std::wstring text = cutText(cell, place);
     if (!watch.alive())
         return;
-    m_text = text;
-    if (m_text.empty() || !m_list || !createTip())
+    if (text.empty() || !m_list || !m_tip->create(m_window, ovoui::frame::Tip::Tool::Owner))
         return;
-    TOOLINFOW tool = toolOf(m_window);
-    tool.lpszText = m_text.data();
-    ::SendMessageW(m_tip, TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
     // The tip's text lies over the cell's.
     m_list->ClientToScreen(&place);
-    ::SendMessageW(m_tip, TTM_ADJUSTRECT, TRUE, reinterpret_cast<LPARAM>(static_cast<RECT*>(&place)));
-    ::SendMessageW(m_tip, TTM_TRACKPOSITION, 0, MAKELPARAM(place.left, place.top));
-    ::SendMessageW(m_tip, TTM_TRACKACTIVATE, TRUE, reinterpret_cast<LPARAM>(&tool));
+    m_tip->setFont(static_cast<HFONT>(m_list->GetFont()->GetSafeHandle()));
+    m_tip->setText(text);
+    m_tip->showAt(m_tip->cornerAround(place));
 }
 
 void COVOListCellTips::hide()
 {
-    if (!m_tip)
-        return;
-    TOOLINFOW tool = toolOf(m_window);
-    ::SendMessageW(m_tip, TTM_TRACKACTIVATE, FALSE, reinterpret_cast<LPARAM>(&tool));
+    m_tip->hide();
 }
 
-bool COVOListCellTips::createTip()
+HWND COVOListCellTips::Window() const
 {
-    if (!m_tip) {
-        m_tip = ::CreateWindowExW(WS_EX_TOPMOST | WS_EX_TRANSPARENT, TOOLTIPS_CLASSW, nullptr,
-                                  WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0, 0, m_window, nullptr,
-                                  nullptr, nullptr);
-        TOOLINFOW tool = toolOf(m_window);
-        tool.lpszText = m_text.data();
-        ::SendMessageW(m_tip, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-    }
-    ::SendMessageW(m_tip, WM_SETFONT, reinterpret_cast<WPARAM>(m_list->GetFont()->GetSafeHandle()), FALSE);
-    return m_tip != nullptr;
+    return m_tip->window();
 }

@@ -8,7 +8,13 @@
 #include <ovoui/lists/ListCtrlEx.h>
 #include <ovoui/lists/ListHelper.h>
 
+#include <memory>
 #include <string>
+
+namespace ovoui::frame
+{
+class Tip;
+}
 
 /// While the pointer rests on a cell whose text is cut, a tip with the whole text lies over the cell, in its
 /// font. It goes when the pointer leaves the cell, and with a key, a click or scrolling.
@@ -24,7 +30,7 @@ public:
     void Detach();
 
     /// The tip's window: null before the first tip. Hidden while no tip is shown.
-    HWND Window() const { return m_tip; }
+    HWND Window() const;
 
 private:
     struct Cell
@@ -40,11 +46,9 @@ private:
     void pointerAt(CPoint point);
     void show(const Cell& cell);
     void hide();
-    bool createTip();
     std::wstring cutText(const Cell& cell, CRect& textPlace) const;
 
     COVOListCtrlEx* m_list = nullptr;
-    HWND m_tip = nullptr;
+    std::unique_ptr<ovoui::frame::Tip> m_tip;
     Cell m_cell; ///< under the pointer; a tip that went by a key or a click comes back in another cell only
-    std::wstring m_text;
 };

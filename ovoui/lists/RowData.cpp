@@ -1,5 +1,6 @@
 #include <ovoui/lists/RowData.h>
 
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/frame/RedrawHold.h>
 
@@ -99,10 +100,7 @@ public:
     }
     ~StandIns()
     {
-        try {
-            giveBack();
-        } catch (...) { // the host's, from a notification; an exception may be on its way already
-        }
+        frame::dropping([this] { giveBack(); }); // an exception may be on its way already
     }
     StandIns(const StandIns&) = delete;
     StandIns& operator=(const StandIns&) = delete;

@@ -1,6 +1,10 @@
 #include <ovoui/sliders/PopupWatcher.h>
 
+#include <ovoui/frame/Exceptions.h>
+
 #include <utility>
+
+using ovoui::frame::dropping;
 
 PopupWatcher* PopupWatcher::s_current = nullptr;
 
@@ -27,16 +31,6 @@ bool isEscape(const MSG& message)
     return message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE;
 }
 
-/// No exception may pass through the system that calls a hook.
-template <typename Call>
-void guarded(const Call& call)
-{
-    try {
-        call();
-    } catch (...) {
-    }
-}
-
 } // namespace
 
 PopupWatcher::PopupWatcher(Calls calls)
@@ -57,12 +51,12 @@ LRESULT CALLBACK PopupWatcher::hear(int code, WPARAM removed, LPARAM message)
 {
     auto& taken = *reinterpret_cast<MSG*>(message);
     if (code == HC_ACTION && removed == PM_REMOVE && s_current) {
-        // The calls are copied, since the watcher may go.
+        // The calls are copied, since the watcher may go. Exceptions do not pass through the system.
         if (isPress(taken.message)) {
-            guarded([pressed = s_current->m_calls.pressed, under = taken.hwnd] { pressed(under); });
+            dropping([pressed = s_current->m_calls.pressed, under = taken.hwnd] { pressed(under); });
         } else if (isEscape(taken)) {
             taken.message = WM_NULL;
-            guarded([escape = s_current->m_calls.escape] { escape(); });
+            dropping([escape = s_current->m_calls.escape] { escape(); });
         }
     }
     return ::CallNextHookEx(nullptr, code, removed, message);

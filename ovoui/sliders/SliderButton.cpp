@@ -1,6 +1,7 @@
 #include <ovoui/sliders/SliderButton.h>
 
 #include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/sliders/AccessibleSlider.h>
 #include <ovoui/sliders/SliderButtonFace.h>
 #include <ovoui/sliders/SliderButtonParts.h>
@@ -8,6 +9,8 @@
 #include <ovouires/resource.h>
 
 using namespace ovoui::sliders;
+using ovoui::frame::keeping;
+using ovoui::frame::raise;
 
 BEGIN_MESSAGE_MAP(CSliderButton, CStatic)
     ON_WM_NCHITTEST() // mouse
@@ -181,13 +184,10 @@ bool CSliderButton::press(const CPoint& at)
     SetPressed(true);
     if (!watch.alive())
         return false;
-    try {
-        ShowPopup(at);
-    } catch (...) {
-        if (watch.alive())
-            dismiss();
-        throw;
-    }
+    const std::exception_ptr raised = keeping([&] { ShowPopup(at); });
+    if (raised && watch.alive())
+        dismiss();
+    raise(raised);
     return watch.alive() && m_parts->pressed;
 }
 

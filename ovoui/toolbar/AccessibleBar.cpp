@@ -1,6 +1,8 @@
 #include <ovoui/toolbar/AccessibleBar.h>
 
+#include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/ButtonNames.h>
+#include <ovoui/toolbar/core/ButtonRules.h>
 
 #include <ovouires/resource.h>
 
@@ -26,12 +28,17 @@ LONG AccessibleBar::role(int part) const
 {
     if (part == kSelf)
         return ROLE_SYSTEM_TOOLBAR;
-    const TBBUTTON shown = button(part);
-    if (shown.fsStyle & TBSTYLE_SEP)
+    switch (roleOf(fieldsOf(window(), part), opensFlyout(part))) {
+    case ButtonRole::Separator:
         return ROLE_SYSTEM_SEPARATOR;
-    if (opensFlyout(part))
+    case ButtonRole::FlyoutButton:
         return ROLE_SYSTEM_BUTTONDROPDOWN;
-    return (shown.fsStyle & TBSTYLE_CHECK) ? ROLE_SYSTEM_CHECKBUTTON : ROLE_SYSTEM_PUSHBUTTON;
+    case ButtonRole::CheckButton:
+        return ROLE_SYSTEM_CHECKBUTTON;
+    case ButtonRole::PushButton:
+        break;
+    }
+    return ROLE_SYSTEM_PUSHBUTTON;
 }
 
 std::wstring AccessibleBar::name(int part) const
@@ -91,9 +98,8 @@ std::optional<CRect> AccessibleBar::place(int part) const
 /// A separator keeps the place of a control that has its command for an id.
 HWND AccessibleBar::windowOf(int part) const
 {
-    const TBBUTTON place = button(part);
-    const bool keeps = (place.fsStyle & TBSTYLE_SEP) && place.idCommand != 0;
-    return keeps ? ::GetDlgItem(window(), place.idCommand) : nullptr;
+    const ButtonFields place = fieldsOf(window(), part);
+    return keepsControl(place) ? ::GetDlgItem(window(), place.command) : nullptr;
 }
 
 std::optional<int> AccessibleBar::focused() const
@@ -110,19 +116,17 @@ void AccessibleBar::act(int part)
 
 TBBUTTON AccessibleBar::button(int index) const
 {
-    TBBUTTON found{};
-    ::SendMessageW(window(), TB_GETBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&found));
-    return found;
+    return buttonOf(window(), index);
 }
 
 bool AccessibleBar::isSeparator(int index) const
 {
-    return (button(index).fsStyle & TBSTYLE_SEP) != 0;
+    return toolbar::isSeparator(fieldsOf(window(), index));
 }
 
 bool AccessibleBar::canPress(int index) const
 {
-    return index != kSelf && !isSeparator(index) && (button(index).fsState & TBSTATE_ENABLED);
+    return index != kSelf && canBePressed(fieldsOf(window(), index));
 }
 
 UINT pressMessage()

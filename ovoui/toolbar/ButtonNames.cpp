@@ -1,5 +1,7 @@
 #include <ovoui/toolbar/ButtonNames.h>
 
+#include <ovoui/toolbar/BarButtons.h>
+
 namespace ovoui::toolbar
 {
 
@@ -30,9 +32,8 @@ std::wstring promptOfCommand(int command)
 
 std::wstring nameOfButton(const CToolBar& bar, int index)
 {
-    TBBUTTON button{};
-    if (!::SendMessageW(bar.m_hWnd, TB_GETBUTTON, static_cast<WPARAM>(index),
-                        reinterpret_cast<LPARAM>(&button)))
+    TBBUTTON button;
+    if (!readButton(bar.m_hWnd, index, button))
         return {};
     const CString text = bar.GetButtonText(index);
     return text.IsEmpty() ? tipOfCommand(button.idCommand) : text.GetString();

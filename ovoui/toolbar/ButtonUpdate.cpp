@@ -1,16 +1,13 @@
 #include <ovoui/toolbar/ButtonUpdate.h>
 
+#include <ovoui/toolbar/BarButtons.h>
+#include <ovoui/toolbar/core/ButtonRules.h>
+
 namespace ovoui::toolbar
 {
 
 namespace
 {
-
-/// False when there is no such button.
-bool readButton(const CToolBar& bar, UINT index, TBBUTTON& button)
-{
-    return ::SendMessageW(bar.m_hWnd, TB_GETBUTTON, index, reinterpret_cast<LPARAM>(&button)) != 0;
-}
 
 /// Shows a command as a button.
 class ButtonUI : public CCmdUI
@@ -39,8 +36,8 @@ private:
     /// Asks for the button anew: the handler may have changed the bar.
     void show(UINT bits, UINT among)
     {
-        TBBUTTON button{};
-        if (!m_usable() || !readButton(m_bar, m_nIndex, button))
+        TBBUTTON button;
+        if (!m_usable() || !readButton(m_bar, static_cast<int>(m_nIndex), button))
             return;
         const UINT style = static_cast<UINT>(MAKELONG(button.fsStyle, button.fsState ^ TBSTATE_ENABLED));
         const UINT wanted = (style & ~among) | bits;
@@ -60,10 +57,10 @@ void updateButtons(CToolBar& bar, CCmdTarget& target, bool disableIfNoHandler,
     ButtonUI ui(bar, usable);
     ui.m_nIndexMax = static_cast<UINT>(bar.SendMessage(TB_BUTTONCOUNT));
     for (ui.m_nIndex = 0; usable(); ++ui.m_nIndex) {
-        TBBUTTON button{};
-        if (!readButton(bar, ui.m_nIndex, button))
+        TBBUTTON button;
+        if (!readButton(bar, static_cast<int>(ui.m_nIndex), button))
             break; // behind the last one
-        if (button.fsStyle & TBSTYLE_SEP)
+        if (isSeparator(fieldsOf(button)))
             continue;
         ui.m_nID = static_cast<UINT>(button.idCommand);
         const bool done =

@@ -1,7 +1,7 @@
 #include <ovoui/toolbar/FlyoutTip.h>
 
-#include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/NonClientMetrics.h>
+#include <ovoui/frame/Tip.h>
 
 namespace
 {
@@ -9,7 +9,6 @@ namespace
 constexpr wchar_t kClass[] = L"OvoFlyoutTip";
 constexpr int kMarginX = 5; // pixels from the border to the text
 constexpr int kMarginY = 3;
-constexpr int kGap = 2; // to the entry
 
 bool registerClass()
 {
@@ -57,14 +56,9 @@ CSize CFlyoutTip::sizeOfText()
 void CFlyoutTip::show(const std::wstring& text, const CRect& entry)
 {
     m_text = text;
-    const CSize size = sizeOfText();
-    const CRect area(GetWorkArea(entry));
-    int top = entry.bottom + kGap;
-    if (top + size.cy > area.bottom)
-        top = entry.top - kGap - size.cy;
-    RECT place = CRect(CPoint(entry.left, top), size);
-    EnsureRectVisible(place);
-    SetWindowPos(&wndTop, place.left, place.top, size.cx, size.cy, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    const CRect place = ovoui::frame::placeOfTip(entry, sizeOfText());
+    SetWindowPos(&wndTop, place.left, place.top, place.Width(), place.Height(),
+                 SWP_NOACTIVATE | SWP_SHOWWINDOW);
     Invalidate();
 }
 

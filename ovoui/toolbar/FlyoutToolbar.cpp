@@ -4,15 +4,15 @@
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/toolbar/AccessibleBar.h>
+#include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/ButtonUpdate.h>
 #include <ovoui/toolbar/FlyoutTip.h>
 #include <ovoui/toolbar/ImageStrip.h>
 #include <ovoui/toolbar/VantorToolBar.h>
-#include <ovoui/toolbar/core/ButtonRows.h>
+#include <ovoui/toolbar/core/ButtonRules.h>
+#include <ovoui/toolbar/core/FlyoutEntries.h>
 #include <ovoui/toolbar/core/FlyoutPlacement.h>
 #include <ovoui/toolbar/core/FlyoutRecords.h>
-
-#include <set>
 
 using namespace ovoui::toolbar;
 
@@ -112,12 +112,9 @@ bool CFlyoutToolbar::fillFromResource(const FlyoutRecord& record)
         SendMessage(TB_DELETEBUTTON, 0);
     }
     std::vector<TBBUTTON> entries;
-    for (std::size_t i = 0; i < record.buttonIndices.size(); ++i) {
-        const auto index = static_cast<std::size_t>(record.buttonIndices[i]);
-        if (index >= all.size())
-            continue;
-        entries.push_back(all[index]);
-        m_entries.push_back(static_cast<int>(i));
+    for (const ResourceEntry& entry : entriesOfResource(record, static_cast<int>(all.size()))) {
+        entries.push_back(all[static_cast<std::size_t>(entry.button)]);
+        m_entries.push_back(entry.entry);
     }
     addEntries(entries);
     return true;
@@ -129,18 +126,14 @@ bool CFlyoutToolbar::fillFromCommands(const FlyoutRecord& record)
     if (record.imageList) {
         SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(record.imageList));
     } else {
-        std::set<int> added;
-        for (const int bitmap : record.bitmapIds)
-            if (added.insert(bitmap).second)
-                addStrip(m_hWnd, bitmap, record.bitmapSize);
+        for (const int strip : stripsOf(record))
+            addStrip(m_hWnd, strip, record.bitmapSize);
     }
     std::vector<TBBUTTON> entries;
-    for (std::size_t i = 0; i < record.commands.size(); ++i) {
-        const int image = i < record.images.size() ? record.images[i] : I_IMAGENONE;
-        const int command = record.commands[i];
-        entries.push_back(command == ID_SEPARATOR ? separator() : commandButton(command, image));
-        m_entries.push_back(static_cast<int>(i));
-        m_names.push_back(i < record.names.size() ? record.names[i].value() : std::wstring());
+    for (const ListedEntry& entry : entriesOfList(record)) {
+        m_entries.push_back(static_cast<int>(entries.size()));
+        m_names.push_back(entry.name);
+        entries.push_back(entry.isSeparator() ? separator() : commandButton(entry.command, entry.image));
     }
     addEntries(entries);
     return true;
@@ -165,9 +158,7 @@ int CFlyoutToolbar::entryOf(int command) const
 
 TBBUTTON CFlyoutToolbar::buttonAt(int index) const
 {
-    TBBUTTON button{};
-    ::SendMessageW(m_hWnd, TB_GETBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&button));
-    return button;
+    return buttonOf(m_hWnd, index);
 }
 
 // Place
@@ -198,7 +189,7 @@ void CFlyoutToolbar::breakRowsFor(const CSize& room, bool horizontal)
         GetItemRect(i, &rect);
         RowItem item;
         item.width = rect.Width();
-        item.separator = (buttonAt(i).fsStyle & TBSTYLE_SEP) != 0;
+        item.separator = isSeparator(fieldsOf(m_hWnd, i));
         items.push_back(item);
     }
     const int height = HIWORD(SendMessage(TB_GETBUTTONSIZE));

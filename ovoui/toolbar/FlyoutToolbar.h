@@ -100,8 +100,6 @@ protected:
 
 private:
     static constexpr UINT_PTR kHoldTimer = 42;
-    static constexpr UINT_PTR kTipTimer = 43;
-    static constexpr UINT_PTR kTipEndTimer = 44;
 
     bool fillFromResource(const ovoui::toolbar::FlyoutRecord& record);
     bool fillFromCommands(const ovoui::toolbar::FlyoutRecord& record);

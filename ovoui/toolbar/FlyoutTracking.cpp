@@ -2,20 +2,19 @@
 #include <ovoui/toolbar/FlyoutToolbar.h>
 
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/ButtonNames.h>
 #include <ovoui/toolbar/FlyoutTip.h>
+#include <ovoui/toolbar/TipTimers.h>
 #include <ovoui/toolbar/core/BarWalk.h>
+#include <ovoui/toolbar/core/ButtonRules.h>
+#include <ovoui/toolbar/core/FlyoutEntries.h>
 
 #include <afxpriv.h>
 
+#include <utility>
+
 using namespace ovoui::toolbar;
-
-namespace
-{
-
-constexpr int kNone = -1;
-
-} // namespace
 
 bool CFlyoutToolbar::covers(CPoint screen) const
 {
@@ -26,21 +25,20 @@ bool CFlyoutToolbar::covers(CPoint screen) const
     return window.PtInRect(screen) != FALSE;
 }
 
-/// The button at a point of the screen that is no separator; kNone where there is none.
+/// The button at a point of the screen that is no separator; kNoEntry where there is none.
 int CFlyoutToolbar::buttonUnder(CPoint screen) const
 {
     if (!m_hWnd || !IsWindowVisible())
-        return kNone;
+        return kNoEntry;
     CRect client;
     GetClientRect(&client);
     CPoint point = screen;
     ScreenToClient(&point);
     if (!client.PtInRect(point))
-        return kNone;
+        return kNoEntry;
     // Negative for separators, except for one that is the first entry.
-    const int index = GetToolBarCtrl().HitTest(&point);
-    const bool isEntry = index >= 0 && index < static_cast<int>(m_entries.size());
-    return isEntry && !(buttonAt(index).fsStyle & TBSTYLE_SEP) ? index : kNone;
+    const int hit = GetToolBarCtrl().HitTest(&point);
+    return entryUnder(hit, static_cast<int>(m_entries.size()), isSeparator(fieldsOf(m_hWnd, hit)));
 }
 
 CFlyoutToolbar::Entry CFlyoutToolbar::track(CPoint screen)
@@ -51,7 +49,7 @@ CFlyoutToolbar::Entry CFlyoutToolbar::track(CPoint screen)
 
 CFlyoutToolbar::Entry CFlyoutToolbar::hotEntry() const
 {
-    return m_hot == kNone ? Entry{} : entryAt(m_hot);
+    return m_hot == kNoEntry ? Entry{} : entryAt(m_hot);
 }
 
 CFlyoutToolbar::Entry CFlyoutToolbar::entryAt(int index) const
@@ -67,27 +65,35 @@ std::vector<Stop> CFlyoutToolbar::stops() const
     for (int i = 0; i < static_cast<int>(m_entries.size()); ++i) {
         CRect place;
         GetItemRect(i, &place);
-        all.push_back({ovoui::frame::toBox(place), !(buttonAt(i).fsStyle & TBSTYLE_SEP)});
+        all.push_back({ovoui::frame::toBox(place), !isSeparator(fieldsOf(m_hWnd, i))});
     }
     return all;
 }
 
 void CFlyoutToolbar::makeHot(int index)
 {
-    if (index == m_hot)
-        return;
-    if (m_hot != kNone)
-        showPressed(m_hot, false);
-    m_hot = index;
-    hideTip();
-    KillTimer(kTipTimer);
-    if (index == kNone) {
-        showPrompt(AFX_IDS_IDLEMESSAGE);
-        return;
-    }
-    showPressed(index, true);
-    showPrompt(static_cast<UINT>(buttonAt(index).idCommand));
-    SetTimer(kTipTimer, m_tipWasShown ? m_nextTipDelay : m_tipDelay, nullptr);
+    const int before = std::exchange(m_hot, index);
+    for (const HotStep step : hotSteps(before, index))
+        switch (step) {
+        case HotStep::Release:
+            showPressed(before, false);
+            break;
+        case HotStep::HideTip:
+            hideTip();
+            break;
+        case HotStep::Press:
+            showPressed(index, true);
+            break;
+        case HotStep::ShowPrompt:
+            showPrompt(static_cast<UINT>(buttonAt(index).idCommand));
+            break;
+        case HotStep::ShowIdlePrompt:
+            showPrompt(AFX_IDS_IDLEMESSAGE);
+            break;
+        case HotStep::AwaitTip:
+            TipTimers(*this).await(m_tipWasShown ? m_nextTipDelay : m_tipDelay);
+            break;
+        }
 }
 
 void CFlyoutToolbar::showPressed(int index, bool pressed)
@@ -116,19 +122,19 @@ void CFlyoutToolbar::showPrompt(UINT id) const
 
 void CFlyoutToolbar::OnTimer(UINT_PTR id)
 {
-    switch (id) {
-    case kHoldTimer:
+    if (id == kHoldTimer) {
         KillTimer(id);
         show();
-        break;
-    case kTipTimer:
-        KillTimer(id);
+        return;
+    }
+    switch (TipTimers(*this).due(id)) {
+    case TipTimers::Due::Show:
         showTip();
         break;
-    case kTipEndTimer:
+    case TipTimers::Due::Hide:
         hideTip();
         break;
-    default:
+    case TipTimers::Due::Nothing:
         CToolBar::OnTimer(id);
     }
 }
@@ -144,7 +150,7 @@ std::wstring CFlyoutToolbar::nameOf(int index) const
 
 void CFlyoutToolbar::showTip()
 {
-    const std::wstring text = m_hot == kNone ? std::wstring() : nameOf(m_hot);
+    const std::wstring text = m_hot == kNoEntry ? std::wstring() : nameOf(m_hot);
     if (text.empty())
         return;
     if (!m_tip) {
@@ -157,12 +163,12 @@ void CFlyoutToolbar::showTip()
     ClientToScreen(&entry);
     m_tip->show(text, entry);
     m_tipWasShown = true;
-    SetTimer(kTipEndTimer, m_tipTime, nullptr);
+    TipTimers(*this).shown(m_tipTime);
 }
 
 void CFlyoutToolbar::hideTip()
 {
-    KillTimer(kTipEndTimer);
+    TipTimers(*this).stop();
     if (m_tip)
         m_tip->hide();
 }

@@ -1,5 +1,6 @@
 // CVantorToolBar: its buttons and their images.
 #include <ovoui/frame/RedrawHold.h>
+#include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/ImageStrip.h>
 #include <ovoui/toolbar/ToolBarState.h>
 #include <ovoui/toolbar/core/BarRules.h>
@@ -18,11 +19,6 @@ const wchar_t* ownText(const TBBUTTON& button)
 {
     const bool isPointer = button.iString != -1 && !IS_INTRESOURCE(button.iString);
     return isPointer ? reinterpret_cast<const wchar_t*>(button.iString) : nullptr;
-}
-
-ButtonFields fieldsOf(const TBBUTTON& button)
-{
-    return {button.iBitmap, button.idCommand, button.fsState, button.fsStyle, button.dwData, button.iString};
 }
 
 ButtonChange changeBetween(const TBBUTTON& before, const TBBUTTON& after)
@@ -134,7 +130,7 @@ BOOL CVantorToolBar::DeleteButton(int index)
 {
     m_state->records.erase(index);
     if (ms_activeBar == this && index >= 0) {
-        if (ms_dragButton == index)
+        if (losesFlyout(ms_dragButton, index))
             closeFlyout();
         ms_dragButton = afterDeletion(ms_dragButton, index);
     }
@@ -149,8 +145,7 @@ BOOL CVantorToolBar::DeleteButton(int index)
 
 void CVantorToolBar::_getButton(int index, TBBUTTON* button) const
 {
-    *button = {};
-    ::SendMessageW(m_hWnd, TB_GETBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(button));
+    *button = buttonOf(m_hWnd, index);
 }
 
 void CVantorToolBar::_setButton(int index, const TBBUTTON* button)

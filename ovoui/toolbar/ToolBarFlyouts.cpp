@@ -3,17 +3,6 @@
 
 using namespace ovoui::toolbar;
 
-namespace
-{
-
-template <class T>
-T elementOr(const std::vector<T>& list, std::size_t index, T otherwise)
-{
-    return index < list.size() ? list[index] : otherwise;
-}
-
-} // namespace
-
 void CVantorToolBar::AttachBar(int button, int toolbarId, int bitmapSize,
                                const std::vector<int>& buttonIndices, bool styleFlag)
 {
@@ -44,13 +33,11 @@ void CVantorToolBar::AttachBar(int button, int bitmapSize, const std::vector<int
     record.images = images;
     record.names = names;
     record.imageList = reinterpret_cast<void*>(SendMessage(TB_GETIMAGELIST));
-    for (std::size_t i = 0; i < commands.size(); ++i) {
-        const int bitmap = elementOr(bitmapIds, i, 0);
-        if (!record.imageList)
-            AddBitmap(bitmap, bitmapSize);
-        else if (shiftImages && i < record.images.size())
-            record.images[i] += m_state->offsetOf(bitmap);
-    }
+    if (!record.imageList)
+        for (std::size_t i = 0; i < commands.size(); ++i)
+            AddBitmap(i < bitmapIds.size() ? bitmapIds[i] : 0, bitmapSize);
+    else if (shiftImages)
+        countFromStrips(record, [this](int strip) { return m_state->offsetOf(strip); });
     m_state->records.set(button, std::move(record));
 }
 

@@ -1,9 +1,11 @@
 // CVantorToolBar: press a button, hold it, slide to an entry of its flyout, release.
 #include <ovoui/frame/Exceptions.h>
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/ButtonNames.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/ToolBarState.h>
+#include <ovoui/toolbar/core/ButtonRules.h>
 #include <ovoui/toolbar/core/FlyoutGesture.h>
 #include <ovoui/toolbar/core/FlyoutPlacement.h>
 
@@ -13,18 +15,6 @@ using namespace ovoui::toolbar;
 using ovoui::frame::keeping;
 using ovoui::frame::raise;
 
-namespace
-{
-
-EntryState stateOf(const FlyoutEntry& entry)
-{
-    if (!entry.isHot())
-        return EntryState::None;
-    return entry.enabled ? EntryState::Enabled : EntryState::Disabled;
-}
-
-} // namespace
-
 Press CVantorToolBar::press()
 {
     return {ms_dragging, ms_dragButton, ms_popupBar != nullptr};
@@ -33,6 +23,13 @@ Press CVantorToolBar::press()
 bool CVantorToolBar::isPressed() const
 {
     return ms_dragging && ms_activeBar == this;
+}
+
+/// Ends the press, and closes the flyout, where the interruption does so.
+void CVantorToolBar::interrupt(Interruption interruption)
+{
+    if (endsPress(interruption, press(), ms_activeBar == this))
+        endPress();
 }
 
 void CVantorToolBar::closeFlyout()
@@ -51,7 +48,7 @@ void CVantorToolBar::endPress()
 
 void CVantorToolBar::ActivateApp(BOOL active)
 {
-    if (!active && ms_dragging)
+    if (!active && endsPress(Interruption::AppDeactivated, press(), false))
         endPress();
 }
 
@@ -94,8 +91,7 @@ void CVantorToolBar::OnLButtonDown(UINT flags, CPoint point)
         ms_dragging = true;
     }
     CToolBar::OnLButtonDown(flags, point);
-    // The control may leave the mouse alone, on a disabled button for one.
-    if (state->usable() && isPressed() && ::GetCapture() != m_hWnd)
+    if (state->usable() && takesMouse(press(), ms_activeBar == this, ::GetCapture() == m_hWnd))
         SetCapture();
 }
 
@@ -208,7 +204,7 @@ bool CVantorToolBar::choose(CPoint point)
 /// The same for an entry, at the end of a press.
 bool CVantorToolBar::takeEntry(const Press& press, const FlyoutEntry& entry)
 {
-    const ReleaseOutcome outcome = onRelease(press, stateOf(entry));
+    const ReleaseOutcome outcome = onRelease(press, entryState(entry.isHot(), entry.enabled));
     const FlyoutRecord* const record = m_state->records.find(ms_dragButton);
     if (!outcome.chooses || !record || !hasButton(ms_dragButton))
         return false;
@@ -223,15 +219,15 @@ bool CVantorToolBar::takeEntry(const Press& press, const FlyoutEntry& entry)
     return true;
 }
 
-/// Of what the button was only the end of its row stays.
 void CVantorToolBar::showChoice(int index, int command, int image)
 {
     TBBUTTON button;
     _getButton(index, &button);
-    button.idCommand = command;
-    button.iBitmap = image;
-    button.fsState = static_cast<BYTE>((button.fsState & TBSTATE_WRAP) | TBSTATE_ENABLED);
-    button.fsStyle = TBSTYLE_BUTTON;
+    const ButtonFields chosen = withChoice(fieldsOf(button), command, image);
+    button.idCommand = chosen.command;
+    button.iBitmap = chosen.image;
+    button.fsState = chosen.state;
+    button.fsStyle = chosen.style;
     _setButton(index, &button);
 }
 
@@ -241,9 +237,9 @@ void CVantorToolBar::releaseQuietly(UINT flags, CPoint point)
     const std::shared_ptr<State> state = m_state;
     CPoint hit = point;
     const int index = GetToolBarCtrl().HitTest(&hit);
-    const bool quiet = index >= 0 && index < buttonCount() && !(GetButtonStyle(index) & TBBS_DISABLED);
+    const bool quiet = hasButton(index) && isEnabled(fieldsOf(m_hWnd, index));
     const auto setDisabled = [&](bool disabled) {
-        if (!quiet || !state->usable() || index >= buttonCount())
+        if (!quiet || !state->usable() || !hasButton(index))
             return;
         const UINT style = GetButtonStyle(index);
         SetButtonStyle(index, disabled ? style | TBBS_DISABLED : style & ~static_cast<UINT>(TBBS_DISABLED));
@@ -259,8 +255,8 @@ void CVantorToolBar::OnCaptureChanged(CWnd* now)
 {
     const std::shared_ptr<State> state = m_state;
     CToolBar::OnCaptureChanged(now);
-    if (state->usable() && isPressed() && now->GetSafeHwnd() != m_hWnd)
-        endPress();
+    if (state->usable() && now->GetSafeHwnd() != m_hWnd)
+        interrupt(Interruption::CaptureLost);
 }
 
 // The double click
@@ -271,12 +267,11 @@ void CVantorToolBar::OnLButtonDblClk(UINT flags, CPoint point)
     CRect rect;
     bool hasFlyout = false;
     if (ButtonHitTest(point, index, rect, hasFlyout)) {
-        TBBUTTON button;
-        _getButton(index, &button);
+        const ButtonFields button = fieldsOf(m_hWnd, index);
+        const auto command = static_cast<WPARAM>(button.command);
         CWnd* const mainWnd = AfxGetMainWnd();
-        if (button.idCommand != 0 && mainWnd &&
-            SendMessage(TB_ISBUTTONENABLED, static_cast<WPARAM>(button.idCommand)))
-            mainWnd->PostMessage(WM_OVO_TOOLBAR_DBLCLK, static_cast<WPARAM>(button.idCommand));
+        if (mainWnd && tellsOfDoubleClick(button, SendMessage(TB_ISBUTTONENABLED, command) != 0))
+            mainWnd->PostMessage(WM_OVO_TOOLBAR_DBLCLK, command);
     }
     CToolBar::OnLButtonDblClk(flags, point);
 }

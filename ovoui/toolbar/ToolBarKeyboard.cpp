@@ -1,8 +1,10 @@
 // CVantorToolBar: the keyboard in the bar itself.
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/ToolBarState.h>
 #include <ovoui/toolbar/core/BarWalk.h>
+#include <ovoui/toolbar/core/ButtonRules.h>
 #include <ovoui/toolbar/core/FlyoutGesture.h>
 
 #include <afxpriv.h>
@@ -47,17 +49,15 @@ BOOL CVantorToolBar::FocusButtons()
     return state->keyboard.on;
 }
 
-/// The buttons as stops: those that can be pressed or that open a flyout.
+/// The buttons as stops.
 std::vector<Stop> CVantorToolBar::stops() const
 {
     std::vector<Stop> all;
-    const std::vector<TBBUTTON> buttons = allButtons();
-    for (std::size_t i = 0; i < buttons.size(); ++i) {
-        const int index = static_cast<int>(i);
+    const int count = buttonCount();
+    for (int i = 0; i < count; ++i) {
         CRect place;
-        const bool shown = GetToolBarCtrl().GetItemRect(index, &place) != FALSE;
-        const bool works = (buttons[i].fsState & TBSTATE_ENABLED) || HasFlyout(index);
-        all.push_back({ovoui::frame::toBox(place), shown && works && !(buttons[i].fsStyle & TBSTYLE_SEP)});
+        const bool shown = GetToolBarCtrl().GetItemRect(i, &place) != FALSE;
+        all.push_back({ovoui::frame::toBox(place), isStop(fieldsOf(m_hWnd, i), shown, HasFlyout(i))});
     }
     return all;
 }
@@ -99,18 +99,18 @@ KeyView CVantorToolBar::keyView() const
     view.flyoutOpen = ms_popupBar && ms_activeBar == this;
     view.hasFlyout = HasFlyout(button);
     view.horizontal = isHorizontal();
-    view.oneColumn = GetToolBarCtrl().GetRows() >= reachableCount();
+    view.oneColumn = isOneColumn(allFields(), GetToolBarCtrl().GetRows());
     view.mirrored = (GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+    view.pressable = isEnabled(fieldsOf(m_hWnd, button));
     return view;
 }
 
-/// Buttons that are no separators and not hidden.
-int CVantorToolBar::reachableCount() const
+std::vector<ButtonFields> CVantorToolBar::allFields() const
 {
-    int count = 0;
+    std::vector<ButtonFields> fields;
     for (const TBBUTTON& button : allButtons())
-        count += !(button.fsStyle & TBSTYLE_SEP) && !(button.fsState & TBSTATE_HIDDEN);
-    return count;
+        fields.push_back(fieldsOf(button));
+    return fields;
 }
 
 /// False when the bar has not got the keyboard.
@@ -121,7 +121,7 @@ bool CVantorToolBar::onOperatingKey(UINT key, bool alt)
     const BarKeyOutcome outcome = onBarKey({key, alt, isDown(VK_SHIFT)}, keyView());
     switch (outcome.action) {
     case BarKeyAction::None:
-        return !alt; // with Alt it may be one of the system's
+        break;
     case BarKeyAction::WalkBar:
         walkBar(outcome.walk);
         break;
@@ -148,7 +148,7 @@ bool CVantorToolBar::onOperatingKey(UINT key, bool alt)
         goToControl(outcome.action == BarKeyAction::PreviousControl);
         break;
     }
-    return true;
+    return takesBarKey(outcome, alt);
 }
 
 void CVantorToolBar::walkBar(WalkKey key)
@@ -188,8 +188,6 @@ void CVantorToolBar::pressByKey()
 {
     const std::shared_ptr<State> state = m_state;
     const int button = state->keyboard.button;
-    if (!hasButton(button) || (GetButtonStyle(button) & TBBS_DISABLED))
-        return;
     giveFocusBack();
     if (state->usable())
         clickButton(button);
@@ -244,8 +242,7 @@ void CVantorToolBar::leaveKeyboard()
     if (!std::exchange(state->keyboard.on, false))
         return;
     state->keyboard.before = nullptr;
-    if (ms_activeBar == this && !ms_dragging)
-        endPress();
+    interrupt(Interruption::KeyboardLeft);
     goToButton(kNoButton);
 }
 

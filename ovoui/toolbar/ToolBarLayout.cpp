@@ -1,28 +1,23 @@
 // CVantorToolBar: rows of buttons and the places of embedded controls.
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/ToolBarState.h>
-#include <ovoui/toolbar/core/ButtonRows.h>
+#include <ovoui/toolbar/core/ButtonRules.h>
+#include <ovoui/toolbar/core/LayoutRules.h>
 
+using namespace ovoui::frame;
 using namespace ovoui::toolbar;
 
 namespace
 {
-
-constexpr int kLong = 32767; // a stretched bar: as long as the frame's edge
-
-bool isSeparator(const TBBUTTON& button)
-{
-    return (button.fsStyle & TBSTYLE_SEP) != 0;
-}
 
 int rowHeightOf(HWND bar)
 {
     return HIWORD(::SendMessageW(bar, TB_GETBUTTONSIZE, 0, 0));
 }
 
-int widthOf(HWND bar, int index, const TBBUTTON& button)
+int shownWidth(HWND bar, int index)
 {
-    if (isSeparator(button))
-        return button.iBitmap;
     CRect rect;
     const BOOL shown = static_cast<BOOL>(::SendMessageW(bar, TB_GETITEMRECT, static_cast<WPARAM>(index),
                                                         reinterpret_cast<LPARAM>(static_cast<RECT*>(&rect))));
@@ -32,17 +27,21 @@ int widthOf(HWND bar, int index, const TBBUTTON& button)
 std::vector<RowItem> itemsOf(HWND bar, const TBBUTTON* buttons, int count)
 {
     std::vector<RowItem> items;
-    for (int i = 0; i < count; ++i) {
-        const TBBUTTON& button = buttons[i];
-        RowItem item;
-        item.width = widthOf(bar, i, button);
-        item.separator = isSeparator(button);
-        item.control = item.separator && button.idCommand != 0;
-        item.hidden = (button.fsState & TBSTATE_HIDDEN) != 0;
-        item.endsRow = (button.fsState & TBSTATE_WRAP) != 0;
-        items.push_back(item);
-    }
+    for (int i = 0; i < count; ++i)
+        items.push_back(rowItemOf(fieldsOf(buttons[i]), shownWidth(bar, i)));
     return items;
+}
+
+LayoutAsked askedBy(DWORD mode, int length)
+{
+    return {.stretched = (mode & LM_STRETCH) != 0,
+            .horizontal = (mode & LM_HORZ) != 0,
+            .asLast = (mode & LM_MRUWIDTH) != 0,
+            .atTop = (mode & LM_HORZDOCK) != 0,
+            .atSide = (mode & LM_VERTDOCK) != 0,
+            .byHeight = (mode & LM_LENGTHY) != 0,
+            .forCertain = (mode & LM_COMMIT) != 0,
+            .length = length};
 }
 
 void setState(TBBUTTON& button, BYTE bit, bool on)
@@ -74,39 +73,30 @@ void CVantorToolBar::SetHeight(int height)
 
 CSize CVantorToolBar::calcLayout(DWORD mode, int length)
 {
-    const bool horizontal = (mode & LM_HORZ) != 0;
+    const LayoutAsked asked = askedBy(mode, length);
+    const BarSettings settings{.fixed = (m_dwStyle & CBRS_SIZE_FIXED) != 0,
+                               .dynamic = (m_dwStyle & CBRS_SIZE_DYNAMIC) != 0,
+                               .lastWidth = m_nMRUWidth,
+                               .height = m_state->height};
     CRect inside(0, 0, 0, 0);
-    CalcInsideRect(inside, horizontal);
-    const CSize around(-inside.Width(), -inside.Height());
+    CalcInsideRect(inside, asked.horizontal);
+    const Around around{-inside.Width(), -inside.Height()};
 
     std::vector<TBBUTTON> buttons = allButtons();
     const int count = static_cast<int>(buttons.size());
     for (TBBUTTON& button : buttons)
         if (controlAt(button))
-            setState(button, TBSTATE_HIDDEN, !horizontal);
-
-    if (!(m_dwStyle & CBRS_SIZE_FIXED)) {
-        const bool dynamic = (m_dwStyle & CBRS_SIZE_DYNAMIC) != 0;
-        if (dynamic && (mode & LM_MRUWIDTH))
-            sizeToolBar(buttons.data(), count, m_nMRUWidth);
-        else if (dynamic && length != -1 && (mode & LM_LENGTHY))
-            sizeToolBar(buttons.data(), count, length - around.cy, true);
-        else if (dynamic && length != -1)
-            sizeToolBar(buttons.data(), count, length - around.cx);
-        else
-            sizeToolBar(buttons.data(), count, horizontal ? kLong : 0);
-    }
-    CSize size = calcSize(buttons.data(), count);
-    if (mode & LM_COMMIT)
+            setState(button, TBSTATE_HIDDEN, !asked.horizontal);
+    const RowsAsked rows = rowsFor(asked, settings, around);
+    if (rows.limit != RowLimit::AsTheyAre)
+        sizeToolBar(buttons.data(), count, rows.length, rows.limit == RowLimit::Height);
+    const CSize size = calcSize(buttons.data(), count);
+    if (asked.forCertain)
         m_nMRUWidth = size.cx;
-    if (length == -1 || (mode & LM_COMMIT))
-        takeLayout(buttons, horizontal);
-    size += around;
-    if (horizontal && m_state->height > 0)
-        size.cy = m_state->height;
-    if (mode & LM_STRETCH)
-        (horizontal ? size.cx : size.cy) = kLong;
-    return size;
+    if (takesLayout(asked))
+        takeLayout(buttons, asked.horizontal);
+    const RowsSize whole = barSize({size.cx, size.cy}, asked, settings, around);
+    return CSize(whole.width, whole.height);
 }
 
 CSize CVantorToolBar::CalcFixedLayout(BOOL stretch, BOOL horizontal)
@@ -116,16 +106,14 @@ CSize CVantorToolBar::CalcFixedLayout(BOOL stretch, BOOL horizontal)
 
 CSize CVantorToolBar::CalcDynamicLayout(int length, DWORD mode)
 {
-    // Asked for neither a floating nor a docked size, the bar stays as its style says.
-    if (length == -1 && !(mode & (LM_MRUWIDTH | LM_COMMIT)) && (mode & (LM_HORZDOCK | LM_VERTDOCK)))
-        return CalcFixedLayout((mode & LM_STRETCH) != 0, (mode & LM_HORZDOCK) != 0);
-    return calcLayout(mode, length);
+    const LayoutAsked asked = askedBy(mode, length);
+    return asksForUsualSize(asked) ? CalcFixedLayout(asked.stretched, asked.atTop) : calcLayout(mode, length);
 }
 
 /// The control whose place a separator keeps; null for other buttons.
 HWND CVantorToolBar::controlAt(const TBBUTTON& button) const
 {
-    return isSeparator(button) && button.idCommand != 0 ? ::GetDlgItem(m_hWnd, button.idCommand) : nullptr;
+    return keepsControl(fieldsOf(button)) ? ::GetDlgItem(m_hWnd, button.idCommand) : nullptr;
 }
 
 void CVantorToolBar::takeLayout(const std::vector<TBBUTTON>& buttons, bool horizontal)
@@ -137,24 +125,40 @@ void CVantorToolBar::takeLayout(const std::vector<TBBUTTON>& buttons, bool horiz
         const UINT wanted = static_cast<UINT>(MAKELONG(0, buttons[i].fsState)) & kLayout;
         SetButtonStyle(index, (style & ~kLayout) | wanted);
     }
-    for (std::size_t i = 0; i < buttons.size(); ++i) {
-        const HWND control = controlAt(buttons[i]);
-        if (!control)
-            continue;
-        if (!horizontal) {
-            if (::GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE)
-                m_state->controlsPutAway.insert(buttons[i].idCommand);
-            ::ShowWindow(control, SW_HIDE);
-            continue;
-        }
-        CRect place;
-        GetItemRect(static_cast<int>(i), &place);
-        CRect size;
-        ::GetWindowRect(control, &size);
-        ::SetWindowPos(control, nullptr, place.left + (place.Width() - size.Width()) / 2,
-                       place.top + (place.Height() - size.Height()) / 2, 0, 0,
-                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-        if (m_state->controlsPutAway.erase(buttons[i].idCommand))
+    for (std::size_t i = 0; i < buttons.size(); ++i)
+        if (const HWND control = controlAt(buttons[i]))
+            layOutControl(control, buttons[i].idCommand, static_cast<int>(i), horizontal);
+}
+
+void CVantorToolBar::layOutControl(HWND control, int id, int index, bool horizontal)
+{
+    const bool visible = (::GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0;
+    const ControlChange change = controlChange(horizontal, visible, m_state->controlsPutAway.contains(id));
+    switch (change) {
+    case ControlChange::PutAway:
+        m_state->controlsPutAway.insert(id);
+        [[fallthrough]];
+    case ControlChange::Hide:
+        ::ShowWindow(control, SW_HIDE);
+        break;
+    case ControlChange::Place:
+    case ControlChange::PlaceShow:
+        putIntoPlace(control, index);
+        if (change == ControlChange::PlaceShow) {
+            m_state->controlsPutAway.erase(id);
             ::ShowWindow(control, SW_SHOWNA);
+        }
+        break;
     }
+}
+
+void CVantorToolBar::putIntoPlace(HWND control, int index)
+{
+    CRect place;
+    GetItemRect(index, &place);
+    CRect size;
+    ::GetWindowRect(control, &size);
+    const Box middle = centredIn(toBox(place), size.Width(), size.Height());
+    ::SetWindowPos(control, nullptr, middle.left, middle.top, 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

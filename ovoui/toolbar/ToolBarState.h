@@ -2,8 +2,8 @@
 #pragma once
 
 #include <ovoui/frame/SharedState.h>
+#include <ovoui/frame/Tip.h>
 #include <ovoui/images/AlphaImageList.h>
-#include <ovoui/toolbar/ButtonTip.h>
 #include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/toolbar/core/FlyoutRecords.h>
 
@@ -38,7 +38,7 @@ struct CVantorToolBar::State : ovoui::frame::SharedState<CVantorToolBar>
         bool on = false;
         int button = -1;       ///< where it is; -1 for none
         HWND before = nullptr; ///< had the focus before
-        std::unique_ptr<ovoui::toolbar::ButtonTip> tip;
+        std::unique_ptr<ovoui::frame::Tip> tip;
     } keyboard;
 
     // Images by resolution (ToolBarStrips.cpp)

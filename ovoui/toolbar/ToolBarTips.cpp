@@ -1,15 +1,8 @@
 // CVantorToolBar: the tip of the button that the keyboard is at.
+#include <ovoui/toolbar/TipTimers.h>
 #include <ovoui/toolbar/ToolBarState.h>
 
 using namespace ovoui::toolbar;
-
-namespace
-{
-
-constexpr UINT_PTR kTipTimer = 43;
-constexpr UINT_PTR kTipEndTimer = 44;
-
-} // namespace
 
 /// The keyboard has come to a button: its tip appears after a while.
 void CVantorToolBar::awaitTip()
@@ -19,35 +12,37 @@ void CVantorToolBar::awaitTip()
     if (!(m_dwStyle & CBRS_TOOLTIPS) || !hasButton(keyboard.button))
         return;
     if (!keyboard.tip)
-        keyboard.tip = std::make_unique<ButtonTip>();
-    if (keyboard.tip->create(*this))
-        SetTimer(kTipTimer, keyboard.tip->delay(), nullptr);
+        keyboard.tip = std::make_unique<ovoui::frame::Tip>();
+    if (keyboard.tip->create(m_hWnd, ovoui::frame::Tip::Tool::None))
+        TipTimers(*this).await(keyboard.tip->delay());
 }
 
 void CVantorToolBar::hideTip()
 {
     if (!m_state->keyboard.tip)
         return;
-    KillTimer(kTipTimer);
-    KillTimer(kTipEndTimer);
+    TipTimers(*this).stop();
     m_state->keyboard.tip->hide();
 }
 
 /// False when the timer is none of the tip's.
 bool CVantorToolBar::onTipTimer(UINT_PTR id)
 {
-    if (id == kTipEndTimer)
-        hideTip();
-    else if (id == kTipTimer)
+    switch (TipTimers(*this).due(id)) {
+    case TipTimers::Due::Show:
         showTip();
-    else
-        return false;
-    return true;
+        return true;
+    case TipTimers::Due::Hide:
+        hideTip();
+        return true;
+    case TipTimers::Due::Nothing:
+        break;
+    }
+    return false;
 }
 
 void CVantorToolBar::showTip()
 {
-    KillTimer(kTipTimer);
     const std::shared_ptr<State> state = m_state;
     const int button = state->keyboard.button;
     const std::wstring text = tipOfButton(button);
@@ -57,8 +52,9 @@ void CVantorToolBar::showTip()
     if (!there || text.empty())
         return;
     ClientToScreen(&place);
-    state->keyboard.tip->show(text, place);
-    SetTimer(kTipEndTimer, state->keyboard.tip->time(), nullptr);
+    state->keyboard.tip->setText(text);
+    state->keyboard.tip->showBeside(place);
+    TipTimers(*this).shown(state->keyboard.tip->time());
 }
 
 /// The owner is asked as for the tips that the mouse brings, and may do anything.

@@ -6,6 +6,7 @@
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/ToolBarState.h>
 #include <ovoui/toolbar/core/BarRules.h>
+#include <ovoui/toolbar/core/FlyoutGesture.h>
 
 #include <afxpriv.h>
 
@@ -60,16 +61,14 @@ CVantorToolBar::CVantorToolBar()
 
 CVantorToolBar::~CVantorToolBar()
 {
-    if (ms_activeBar == this)
-        endPress();
+    interrupt(Interruption::BarGone);
     DestroyWindow(); // while the handlers of this class still answer
     m_state->controlGoes();
 }
 
 void CVantorToolBar::OnDestroy()
 {
-    if (ms_activeBar == this)
-        endPress();
+    interrupt(Interruption::BarGone);
     m_state->keyboard.tip.reset();
     CToolBar::OnDestroy();
 }

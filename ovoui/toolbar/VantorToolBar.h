@@ -25,7 +25,9 @@ class CFlyoutToolbar;
 
 namespace ovoui::toolbar
 {
+enum class Interruption;
 enum class WalkKey;
+struct ButtonFields;
 struct FlyoutEntry;
 struct FlyoutRecord;
 struct KeyView;
@@ -224,6 +226,7 @@ private:
     static void closeFlyout();
     static void endPress();
     bool isPressed() const;
+    void interrupt(ovoui::toolbar::Interruption interruption);
     void slide(CPoint point);
     bool choose(CPoint point);
     bool takeEntry(const ovoui::toolbar::Press& press, const ovoui::toolbar::FlyoutEntry& entry);
@@ -236,7 +239,7 @@ private:
     // keyboard
     std::vector<ovoui::toolbar::Stop> stops() const;
     ovoui::toolbar::KeyView keyView() const;
-    int reachableCount() const;
+    std::vector<ovoui::toolbar::ButtonFields> allFields() const;
     HWND promptFrame() const;
     void goToButton(int index);
     void redrawButton(int index);
@@ -269,6 +272,8 @@ private:
     int buttonCount() const;
     std::vector<TBBUTTON> allButtons() const;
     void takeLayout(const std::vector<TBBUTTON>& buttons, bool horizontal);
+    void layOutControl(HWND control, int id, int index, bool horizontal);
+    void putIntoPlace(HWND control, int index);
     HWND controlAt(const TBBUTTON& button) const;
     HWND commandTarget() const;
 

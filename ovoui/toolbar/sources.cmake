@@ -3,10 +3,13 @@ set(toolbar_core
   ${CMAKE_CURRENT_LIST_DIR}/core/BarRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/BarWalk.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ButtonRows.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ButtonRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ControlKeys.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutEntries.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutGesture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutPlacement.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutRecords.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/LayoutRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/StripChoice.cpp)
 
 if(NOT WIN32)
@@ -20,7 +23,6 @@ target_sources(ovoui PRIVATE
   ${toolbar_core}
   ${CMAKE_CURRENT_LIST_DIR}/AccessibleBar.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ButtonNames.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/ButtonTip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ButtonUpdate.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FlyoutTip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FlyoutToolbar.cpp

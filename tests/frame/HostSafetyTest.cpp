@@ -147,6 +147,14 @@ TEST(Exceptions, OfTheLibraryAndTheStandardOneHaveATextForTheUser)
     EXPECT_THROW(errorOf([] { throw 5; }), int);
 }
 
+TEST(Exceptions, OfACallThatNoneMayLeaveAreLost)
+{
+    bool goesOn = false;
+    dropping([] { throw 5; });
+    dropping([&] { goesOn = true; });
+    EXPECT_TRUE(goesOn);
+}
+
 TEST(Exceptions, TheFirstIsKept)
 {
     std::exception_ptr kept;

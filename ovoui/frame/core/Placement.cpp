@@ -23,6 +23,14 @@ Box movedInto(const Box& box, const Box& area)
     return moved;
 }
 
+Box tipPlace(const Box& about, int width, int height, const Box& area)
+{
+    constexpr int kGap = 2; // pixels
+    const int below = about.bottom + kGap;
+    const int top = below + height > area.bottom ? about.top - kGap - height : below;
+    return {about.left, top, about.left + width, top + height};
+}
+
 Box centredIn(const Box& area, int width, int height)
 {
     const int left = (area.right - width + area.left) / 2;

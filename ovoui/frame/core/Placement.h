@@ -26,6 +26,10 @@ Box movedInto(const Box& box, const Box& area);
 /// `box` moved by the given distances.
 Box movedBy(const Box& box, int dx, int dy);
 
+/// Where a tip of the given size belongs to what it tells about: below it, or above it where the area has no
+/// room below, with a small gap. It may hang over to the sides.
+Box tipPlace(const Box& about, int width, int height, const Box& area);
+
 /// A box of the given size with the centre of `area`; odd remainders are cut towards zero.
 Box centredIn(const Box& area, int width, int height);
 

@@ -1,39 +1,31 @@
 #include <ovoui/toolbar/core/BarWalk.h>
 
+#include <ovoui/frame/core/VirtualKeys.h>
+
 #include <cstdlib>
 
 namespace ovoui::toolbar
 {
 
+using namespace keys;
+
 namespace
 {
-
-// Virtual keys
-constexpr unsigned kTab = 0x09;
-constexpr unsigned kEnter = 0x0D;
-constexpr unsigned kEscape = 0x1B;
-constexpr unsigned kSpace = 0x20;
-constexpr unsigned kEnd = 0x23;
-constexpr unsigned kHome = 0x24;
-constexpr unsigned kLeft = 0x25;
-constexpr unsigned kUp = 0x26;
-constexpr unsigned kRight = 0x27;
-constexpr unsigned kDown = 0x28;
 
 WalkKey walkOf(unsigned key)
 {
     switch (key) {
-    case kLeft:
+    case kVkLeft:
         return WalkKey::Left;
-    case kRight:
+    case kVkRight:
         return WalkKey::Right;
-    case kUp:
+    case kVkUp:
         return WalkKey::Up;
-    case kDown:
+    case kVkDown:
         return WalkKey::Down;
-    case kHome:
+    case kVkHome:
         return WalkKey::First;
-    case kEnd:
+    case kVkEnd:
         return WalkKey::Last;
     default:
         return WalkKey::None;
@@ -131,12 +123,14 @@ BarKeyOutcome onBarKey(const PressedKey& pressed, const KeyView& view)
     if (pressed.alt)
         return onArrowWithAlt(walk, view);
     switch (pressed.key) {
-    case kEscape:
+    case kVkEscape:
         return {view.flyoutOpen ? BarKeyAction::Close : BarKeyAction::Leave};
-    case kEnter:
-    case kSpace:
-        return {view.flyoutOpen ? BarKeyAction::Choose : BarKeyAction::Press};
-    case kTab:
+    case kVkReturn:
+    case kVkSpace:
+        if (view.flyoutOpen)
+            return {BarKeyAction::Choose};
+        return {view.pressable ? BarKeyAction::Press : BarKeyAction::None};
+    case kVkTab:
         if (view.flyoutOpen)
             return {};
         return {pressed.shift ? BarKeyAction::PreviousControl : BarKeyAction::NextControl};
@@ -148,6 +142,11 @@ BarKeyOutcome onBarKey(const PressedKey& pressed, const KeyView& view)
     if (view.hasFlyout && pointsToFlyout(walk, view))
         return {BarKeyAction::Open};
     return {BarKeyAction::WalkBar, walk};
+}
+
+bool takesBarKey(const BarKeyOutcome& outcome, bool alt)
+{
+    return outcome.action != BarKeyAction::None || !alt;
 }
 
 } // namespace ovoui::toolbar

@@ -41,6 +41,7 @@ struct KeyView
     bool horizontal = true;
     bool oneColumn = false; ///< a bar with one button in each row
     bool mirrored = false;
+    bool pressable = true; ///< the button that the keyboard is at is enabled
 };
 
 enum class BarKeyAction
@@ -73,5 +74,8 @@ struct PressedKey
 };
 
 BarKeyOutcome onBarKey(const PressedKey& pressed, const KeyView& view);
+
+/// Whether the bar keeps a key with this outcome to itself. With Alt it may be one of the system's.
+bool takesBarKey(const BarKeyOutcome& outcome, bool alt);
 
 } // namespace ovoui::toolbar

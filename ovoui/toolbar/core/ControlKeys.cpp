@@ -1,23 +1,17 @@
 #include <ovoui/toolbar/core/ControlKeys.h>
 
+#include <ovoui/frame/core/VirtualKeys.h>
+
 #include <algorithm>
 #include <iterator>
 
 namespace ovoui::toolbar
 {
 
+using namespace keys;
+
 namespace
 {
-
-constexpr unsigned kBackspace = 0x08;
-constexpr unsigned kTab = 0x09;
-constexpr unsigned kEnter = 0x0D;
-constexpr unsigned kEscape = 0x1B;
-constexpr unsigned kInsert = 0x2D;
-constexpr unsigned kDelete = 0x2E;
-constexpr unsigned kF1 = 0x70;
-constexpr unsigned kF4 = 0x73;
-constexpr unsigned kF24 = 0x87;
 
 // The editing keys of an edit control: C, V, X, Y, Z, then the codes of these letters in lower case. As
 // virtual keys the latter are 3 on the numeric keypad, F7, F9, F10 and F11; hosts rely on the first.
@@ -25,13 +19,13 @@ constexpr unsigned kWithCtrl[] = {67, 86, 88, 89, 90, 99, 118, 120, 121, 122};
 
 bool endsInput(unsigned key)
 {
-    return key == kEnter || key == kEscape || key == kTab;
+    return key == kVkReturn || key == kVkEscape || key == kVkTab;
 }
 
 /// F4 opens the list of a combo box.
 bool isForHost(unsigned key)
 {
-    return key >= kF1 && key <= kF24 && key != kF4;
+    return key >= kVkF1 && key <= kVkF24 && key != kVkF4;
 }
 
 bool isEditingKey(unsigned key)
@@ -41,7 +35,7 @@ bool isEditingKey(unsigned key)
 
 bool deletes(unsigned key)
 {
-    return key == kInsert || key == kDelete || key == kBackspace;
+    return key == kVkInsert || key == kVkDelete || key == kVkBack;
 }
 
 bool isForControl(const ControlKey& key)

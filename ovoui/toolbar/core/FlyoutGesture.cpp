@@ -27,6 +27,33 @@ ReleaseOutcome onRelease(const Press& now, EntryState entry)
     return {chooses, chooses && entry == EntryState::Enabled};
 }
 
+EntryState entryState(bool isEntry, bool enabled)
+{
+    if (!isEntry)
+        return EntryState::None;
+    return enabled ? EntryState::Enabled : EntryState::Disabled;
+}
+
+bool endsPress(Interruption interruption, const Press& now, bool ofThisBar)
+{
+    switch (interruption) {
+    case Interruption::AppDeactivated:
+        return now.dragging;
+    case Interruption::CaptureLost:
+        return now.dragging && ofThisBar;
+    case Interruption::KeyboardLeft: // a flyout that the mouse has opened stays
+        return !now.dragging && ofThisBar;
+    case Interruption::BarGone:
+        break;
+    }
+    return ofThisBar;
+}
+
+bool takesMouse(const Press& now, bool ofThisBar, bool hasMouse)
+{
+    return now.dragging && ofThisBar && !hasMouse;
+}
+
 int afterInsertion(int button, int inserted)
 {
     return button != kNoButton && inserted <= button ? button + 1 : button;
@@ -37,6 +64,11 @@ int afterDeletion(int button, int deleted)
     if (button == kNoButton || deleted > button)
         return button;
     return deleted == button ? kNoButton : button - 1;
+}
+
+bool losesFlyout(int button, int deleted)
+{
+    return button != kNoButton && deleted == button;
 }
 
 } // namespace ovoui::toolbar

@@ -46,8 +46,7 @@ MoveOutcome onPress(const Press& now, const ButtonUnderPointer& under);
 /// pointer.
 MoveOutcome onMove(const Press& now, const ButtonUnderPointer& under, bool overFlyout);
 
-/// The gesture is over without a choice: the capture was lost, the application deactivated, the bar
-/// destroyed.
+/// The gesture is over.
 inline constexpr Press kIdle{};
 
 /// The entry under the pointer at the release.
@@ -64,11 +63,31 @@ struct ReleaseOutcome
     bool sendsCommand = false; ///< and its command is issued
 };
 
+EntryState entryState(bool isEntry, bool enabled);
+
 ReleaseOutcome onRelease(const Press& now, EntryState entry);
+
+/// What may end a press without a choice, or close the flyout that the keyboard has opened.
+enum class Interruption
+{
+    AppDeactivated,
+    CaptureLost,  ///< another window has the mouse
+    KeyboardLeft, ///< the focus has left the bar
+    BarGone
+};
+
+/// `ofThisBar`: the pressed button or the open flyout are those of the bar that hears of the interruption.
+bool endsPress(Interruption interruption, const Press& now, bool ofThisBar);
+
+/// Whether the bar is to capture the mouse when the control has had the press: the control leaves the mouse
+/// alone on a disabled button, for one.
+bool takesMouse(const Press& now, bool ofThisBar, bool hasMouse);
 
 /// The button of an open flyout after a button of the bar was inserted.
 int afterInsertion(int button, int inserted);
 /// The same after a deletion; kNoButton when it was that button.
 int afterDeletion(int button, int deleted);
+/// Whether that deletion closes the flyout of `button`.
+bool losesFlyout(int button, int deleted);
 
 } // namespace ovoui::toolbar

@@ -36,6 +36,14 @@ struct FlyoutRecord
 /// The image that the bar's button gets with a chosen entry; `present` when the record names none.
 int imageOfEntry(const FlyoutRecord& record, int entry, int present);
 
+/// Counts each image of a list of commands from where its strip begins: `offsetOf(strip)` tells.
+template <class OffsetOf>
+void countFromStrips(FlyoutRecord& record, const OffsetOf& offsetOf)
+{
+    for (std::size_t i = 0; i < record.commands.size() && i < record.images.size(); ++i)
+        record.images[i] += offsetOf(i < record.bitmapIds.size() ? record.bitmapIds[i] : 0);
+}
+
 /// The records of a bar by the index of their button. Buttons behind the last record have no flyout.
 class FlyoutRecords
 {

@@ -1,27 +1,13 @@
 /// The rules of keys: what each leads to. Plain values, no windows.
 #pragma once
 
+#include <ovoui/frame/core/VirtualKeys.h>
 #include <ovoui/tree/core/Action.h>
 
 namespace ovoui::tree
 {
 
-// The platform's virtual keys
-inline constexpr unsigned kVkBack = 0x08;
-inline constexpr unsigned kVkReturn = 0x0D;
-inline constexpr unsigned kVkSpace = 0x20;
-inline constexpr unsigned kVkPageUp = 0x21;
-inline constexpr unsigned kVkPageDown = 0x22;
-inline constexpr unsigned kVkEnd = 0x23;
-inline constexpr unsigned kVkHome = 0x24;
-inline constexpr unsigned kVkLeft = 0x25;
-inline constexpr unsigned kVkUp = 0x26;
-inline constexpr unsigned kVkRight = 0x27;
-inline constexpr unsigned kVkDown = 0x28;
-inline constexpr unsigned kVkDelete = 0x2E;
-inline constexpr unsigned kVkA = 'A';
-inline constexpr unsigned kVkF2 = 0x71;
-inline constexpr unsigned kVkF5 = 0x74;
+using namespace keys;
 
 struct KeyPress
 {

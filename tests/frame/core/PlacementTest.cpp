@@ -56,3 +56,16 @@ TEST(Placement, CentresAndCutsOddRemaindersTowardsZero)
     EXPECT_EQ(centredIn({0, 0, 101, 101}, 50, 30), (Box{25, 35, 75, 65}));
     EXPECT_EQ(centredIn({0, 0, 101, 100}, 200, 301), (Box{-49, -100, 151, 201}));
 }
+
+TEST(Placement, ATipIsBelowAndWithoutRoomThereAbove)
+{
+    for (int top = 0; top < 1040; ++top) {
+        const Box about{300, top, 340, top + 20};
+        const Box place = tipPlace(about, 80, 18, kScreen);
+        EXPECT_EQ(place.left, about.left);
+        EXPECT_EQ(place.width(), 80);
+        EXPECT_EQ(place.height(), 18);
+        const bool hasRoom = about.bottom + 2 + 18 <= kScreen.bottom;
+        EXPECT_EQ(hasRoom ? place.top - about.bottom : about.top - place.bottom, 2) << top;
+    }
+}

@@ -153,3 +153,18 @@ TEST(BarKey, OtherKeysDoNothing)
         for (const unsigned key : {0u, 0x41u, 0x70u, 0x21u, 0x22u, 0x2Eu})
             EXPECT_EQ(onBarKey({key, false, false}, view), BarKeyOutcome{});
 }
+
+TEST(BarKey, ADisabledButtonIsNotPressedButItsKeysAreTaken)
+{
+    for (const KeyView& view : everyView()) {
+        KeyView disabled = view;
+        disabled.pressable = false;
+        for (unsigned key = 0; key <= 0xFF; ++key)
+            for (const bool alt : {false, true}) {
+                const BarKeyOutcome usual = onBarKey({key, alt, false}, view);
+                const BarKeyOutcome outcome = onBarKey({key, alt, false}, disabled);
+                EXPECT_EQ(outcome, usual.action == BarKeyAction::Press ? BarKeyOutcome{} : usual);
+                EXPECT_EQ(takesBarKey(outcome, alt), !alt || outcome.action != BarKeyAction::None);
+            }
+    }
+}

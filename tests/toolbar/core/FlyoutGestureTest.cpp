@@ -141,3 +141,37 @@ TEST(FlyoutGesture, TheOpenFlyoutsButtonMovesWithInsertionsAndDeletions)
     EXPECT_EQ(afterDeletion(3, 0), 2);
     EXPECT_EQ(afterDeletion(3, 4), 3);
 }
+
+TEST(FlyoutGesture, ADeletionClosesTheFlyoutOfThatButton)
+{
+    for (int button = kNoButton; button < 4; ++button)
+        for (int deleted = kNoButton; deleted < 4; ++deleted)
+            EXPECT_EQ(losesFlyout(button, deleted), button == deleted && button >= 0);
+}
+
+TEST(FlyoutGesture, WhatEndsAPressWithoutAChoice)
+{
+    for (const Press& state : kStates)
+        for (const bool ofThisBar : {false, true}) {
+            EXPECT_EQ(endsPress(Interruption::AppDeactivated, state, ofThisBar), state.dragging);
+            EXPECT_EQ(endsPress(Interruption::CaptureLost, state, ofThisBar), state.dragging && ofThisBar);
+            EXPECT_EQ(endsPress(Interruption::KeyboardLeft, state, ofThisBar), !state.dragging && ofThisBar);
+            EXPECT_EQ(endsPress(Interruption::BarGone, state, ofThisBar), ofThisBar);
+        }
+}
+
+TEST(FlyoutGesture, DuringItsPressTheBarHasTheMouse)
+{
+    for (const Press& state : kStates)
+        for (const bool ofThisBar : {false, true})
+            for (const bool hasMouse : {false, true})
+                EXPECT_EQ(takesMouse(state, ofThisBar, hasMouse), state.dragging && ofThisBar && !hasMouse);
+}
+
+TEST(FlyoutGesture, AnEntryIsOfThreeStates)
+{
+    EXPECT_EQ(entryState(false, false), EntryState::None);
+    EXPECT_EQ(entryState(false, true), EntryState::None);
+    EXPECT_EQ(entryState(true, false), EntryState::Disabled);
+    EXPECT_EQ(entryState(true, true), EntryState::Enabled);
+}
