@@ -231,6 +231,7 @@ private:
     bool focusSwatch(CWnd* wnd, int swatch);
     bool carryOutKey(CWnd* wnd, HWND from);
     void carryOutKey(CWnd* wnd, const ovoui::colour::PickerStop& stop);
+    void carryOutSwatchKey(CWnd* wnd, UINT key);
     void moveHue(CWnd* wnd, ovoui::colour::WheelKey key);
     void moveShade(CWnd* wnd, ovoui::colour::WheelKey key);
     void moveToSwatch(CWnd* wnd, ovoui::colour::WheelKey key);

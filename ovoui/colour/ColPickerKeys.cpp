@@ -3,6 +3,7 @@
 #include <ovoui/colour/ColourWheelImage.h>
 #include <ovoui/colour/core/ColourModes.h>
 #include <ovoui/colour/ColourText.h>
+#include <ovoui/colour/core/ControlKeys.h>
 #include <ovoui/colour/core/FocusMark.h>
 #include <ovouires/resource.h>
 
@@ -36,12 +37,6 @@ Shade shadeOf(const Colour& colour)
 Colour colourOf(const Shade& shade, const Colour& like)
 {
     return Colour::hlsa(like.h_hls(), shade.lightness / 100.0, shade.saturation / 100.0, like.a());
-}
-
-/// Where the dialog is mirrored, the next cell is at the left.
-WheelKey mirrored(WheelKey key)
-{
-    return key == WheelKey::Left ? WheelKey::Right : key == WheelKey::Right ? WheelKey::Left : key;
 }
 
 /// Dots in the colour of texts, the same ones each time: drawing them again changes nothing.
@@ -110,7 +105,7 @@ void ColPicker::makeSwatchStop(CWnd* wnd)
     identity->cellAction = [] { return resourceText(IDS_COLOUR_TAKE); };
     identity->pressCell = [this, wnd](int cell) { takeSwatch(wnd, cell); };
     m_stops->swatches = std::make_unique<PickerStop>(
-        PickerStop::Calls{[](UINT key) { return key == VK_SPACE || key == VK_INSERT || wheelKeyOf(key); },
+        PickerStop::Calls{[](UINT key) { return swatchKey(key) != SwatchKey::None; },
                           [this, wnd] { wnd->InvalidateRect(&m_customRect, FALSE); }},
         identity);
     m_stops->swatches->create(*wnd, m_customRect, Stops::kSwatchesId, wnd->GetDlgItem(m_customAreaId));
@@ -158,18 +153,31 @@ bool ColPicker::carryOutKey(CWnd* wnd, HWND from)
 
 void ColPicker::carryOutKey(CWnd* wnd, const PickerStop& stop)
 {
-    const UINT key = stop.key();
-    if (&stop == m_stops->swatches.get() && key == VK_SPACE) {
+    if (&stop == m_stops->swatches.get()) {
+        carryOutSwatchKey(wnd, stop.key());
+        return;
+    }
+    const auto move = wheelKeyOf(stop.key());
+    if (move && &stop == m_stops->ring.get())
+        moveHue(wnd, *move);
+    else if (move)
+        moveShade(wnd, *move);
+}
+
+void ColPicker::carryOutSwatchKey(CWnd* wnd, UINT key)
+{
+    switch (swatchKey(key)) {
+    case SwatchKey::Take:
         takeSwatch(wnd, m_stops->swatch);
-    } else if (&stop == m_stops->swatches.get() && key == VK_INSERT) {
+        break;
+    case SwatchKey::Keep:
         keepInSwatch(wnd, m_stops->swatch);
-    } else if (const auto move = wheelKeyOf(key)) {
-        if (&stop == m_stops->ring.get())
-            moveHue(wnd, *move);
-        else if (&stop == m_stops->triangle.get())
-            moveShade(wnd, *move);
-        else
-            moveToSwatch(wnd, m_mirrored ? mirrored(*move) : *move);
+        break;
+    case SwatchKey::Move:
+        moveToSwatch(wnd, m_mirrored ? mirrored(*wheelKeyOf(key)) : *wheelKeyOf(key));
+        break;
+    case SwatchKey::None:
+        break;
     }
 }
 

@@ -5,6 +5,7 @@
 #include <ovoui/colour/ColourButtonFace.h>
 #include <ovoui/colour/ColourDrop.h>
 #include <ovoui/colour/ColourText.h>
+#include <ovoui/colour/core/ControlKeys.h>
 #include <ovouires/resource.h>
 
 #include <oleacc.h>
@@ -243,26 +244,37 @@ UINT CColourButton::OnGetDlgCode()
 
 void CColourButton::OnKeyDown(UINT key, UINT, UINT)
 {
-    if (m_drop)
-        keyWhileDropped(key);
-    else if (key == VK_SPACE || key == VK_DOWN || key == VK_F4)
-        DropDown();
-    else
-        Default();
+    carryOut(dropButtonKey(key, false, m_drop != nullptr), key);
 }
 
-void CColourButton::keyWhileDropped(UINT key)
+void CColourButton::carryOut(DropButtonKey meaning, UINT key)
 {
-    if (m_drop->takesKey(key)) {
+    switch (meaning) {
+    case DropButtonKey::Open:
+        DropDown();
+        break;
+    case DropButtonKey::Close:
+        CloseUp();
+        break;
+    case DropButtonKey::CloseAndGoOn:
+        closeAndGoOn();
+        break;
+    case DropButtonKey::ToPalette:
         m_drop->press(key);
-        return;
+        break;
+    case DropButtonKey::Ignore:
+        break;
+    case DropButtonKey::Platform:
+        Default();
     }
-    if (key != VK_ESCAPE && key != VK_TAB && key != VK_F4)
-        return;
+}
+
+void CColourButton::closeAndGoOn()
+{
     const HWND parent = ::GetParent(m_hWnd);
     const Lifeline::Watch watch(m_lifeline);
     CloseUp();
-    if (key == VK_TAB && watch.alive() && m_hWnd)
+    if (watch.alive() && m_hWnd)
         ::PostMessageW(parent, WM_NEXTDLGCTL, ::GetKeyState(VK_SHIFT) < 0, FALSE);
 }
 
@@ -275,10 +287,7 @@ void CColourButton::OnKeyUp(UINT key, UINT, UINT)
 
 void CColourButton::OnSysKeyDown(UINT key, UINT, UINT)
 {
-    if (key == VK_DOWN || key == VK_UP)
-        m_drop ? CloseUp() : DropDown();
-    else
-        Default();
+    carryOut(dropButtonKey(key, true, m_drop != nullptr), key);
 }
 
 void CColourButton::OnKillFocus(CWnd*)

@@ -19,6 +19,7 @@
 
 namespace ovoui::colour
 {
+enum class DropButtonKey;
 class ColourDrop;
 struct ColourIdentity;
 } // namespace ovoui::colour
@@ -94,7 +95,8 @@ private:
     void take(const Colour& colour);
     bool tell(UINT code);
     Colour fromPalette(int cell) const;
-    void keyWhileDropped(UINT key);
+    void carryOut(ovoui::colour::DropButtonKey meaning, UINT key);
+    void closeAndGoOn();
 
     Colour m_colour;
     std::vector<COLORREF> m_palette;

@@ -3,7 +3,7 @@
 #include <ovoui/colour/AccessibleColours.h>
 #include <ovoui/colour/ColourCells.h>
 #include <ovoui/colour/ColourText.h>
-#include <ovoui/colour/PickerStop.h>
+#include <ovoui/colour/core/ControlKeys.h>
 #include <ovoui/frame/BufferedPaint.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/OwnWindow.h>
@@ -137,21 +137,24 @@ void ColourDrop::point(int cell)
     tell(cell);
 }
 
-bool ColourDrop::takesKey(UINT key) const
-{
-    return key == VK_RETURN || key == VK_SPACE || wheelKeyOf(key);
-}
-
 void ColourDrop::press(UINT key)
 {
-    if (const auto move = wheelKeyOf(key)) {
-        if (m_layout->last() >= 0)
-            point(m_layout->after(m_content.current, *move));
-        return;
-    }
     const auto tell = m_calls.chosen;
     const auto close = m_calls.closed;
-    m_content.current >= 0 ? tell(m_content.current) : close();
+    switch (paletteKey(key, m_content.current >= 0)) {
+    case PaletteKey::Move:
+        if (m_layout->last() >= 0)
+            point(m_layout->after(m_content.current, *wheelKeyOf(key)));
+        break;
+    case PaletteKey::Choose:
+        tell(m_content.current);
+        break;
+    case PaletteKey::Close:
+        close();
+        break;
+    case PaletteKey::None:
+        break;
+    }
 }
 
 /// A window that opens under a pointer at rest is told that it moves, which would take the mark from the

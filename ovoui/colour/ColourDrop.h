@@ -42,8 +42,6 @@ public:
     /// Opens below a button, or above it where the screen ends.
     bool open(CWnd& button);
 
-    /// Whether a key is one of the popup's: those that move the mark, Enter and Space.
-    bool takesKey(UINT key) const;
     void press(UINT key);
 
     int current() const { return m_content.current; }

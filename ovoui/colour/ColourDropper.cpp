@@ -1,6 +1,7 @@
 #include <ovoui/colour/ColourDropper.h>
 
 #include <ovoui/colour/Magnifier.h>
+#include <ovoui/colour/core/ControlKeys.h>
 #include <ovoui/colour/core/ScreenPick.h>
 
 using namespace ovoui::colour;
@@ -30,11 +31,6 @@ CPoint pointer()
     CPoint point;
     ::GetCursorPos(&point);
     return point;
-}
-
-bool isArrow(UINT key)
-{
-    return key == VK_LEFT || key == VK_RIGHT || key == VK_UP || key == VK_DOWN;
 }
 
 } // namespace
@@ -153,20 +149,26 @@ UINT CColourDropper::OnGetDlgCode()
 
 void CColourDropper::OnKeyDown(UINT key, UINT, UINT)
 {
-    const bool press = key == VK_SPACE || key == VK_RETURN;
     const bool again = (CWnd::GetCurrentMessage()->lParam & 0x40000000) != 0; // the key is being held
-    if (!IsPicking() && !press) {
-        Default();
-        return;
-    }
-    if (key == VK_ESCAPE)
+    switch (dropperKey(key, again, IsPicking())) {
+    case DropperKey::GiveUp:
         giveUp();
-    else if (press && !again && m_pick->accept() == ScreenPick::Act::Take)
-        take();
-    else if (press && !again)
-        OnClick(0, 0);
-    else if (isArrow(key) && m_pick->arrow() == ScreenPick::Act::Follow)
-        movePointer(key);
+        break;
+    case DropperKey::Press:
+        if (m_pick->accept() == ScreenPick::Act::Take)
+            take();
+        else
+            OnClick(0, 0);
+        break;
+    case DropperKey::MovePointer:
+        if (m_pick->arrow() == ScreenPick::Act::Follow)
+            movePointer(key);
+        break;
+    case DropperKey::Ignore:
+        break;
+    case DropperKey::Platform:
+        Default();
+    }
 }
 
 /// Space has done all when it went down.
@@ -178,11 +180,8 @@ void CColourDropper::OnKeyUp(UINT key, UINT, UINT)
 
 void CColourDropper::movePointer(UINT key)
 {
-    constexpr int kLargeStep = 10;
-    const int step = ::GetKeyState(VK_SHIFT) < 0 ? kLargeStep : 1;
-    CPoint point = pointer();
-    point.x += key == VK_LEFT ? -step : key == VK_RIGHT ? step : 0;
-    point.y += key == VK_UP ? -step : key == VK_DOWN ? step : 0;
+    const PointerStep step = pointerStep(key, ::GetKeyState(VK_SHIFT) < 0);
+    const CPoint point = pointer() + CSize(step.right, step.down);
     ::SetCursorPos(point.x, point.y);
     follow();
 }

@@ -3,8 +3,8 @@
 #include <ovoui/colour/AccessibleColours.h>
 #include <ovoui/colour/ColourCells.h>
 #include <ovoui/colour/ColourText.h>
-#include <ovoui/colour/PickerStop.h>
 #include <ovoui/colour/core/CellLayout.h>
+#include <ovoui/colour/core/ControlKeys.h>
 #include <ovoui/frame/BufferedPaint.h>
 #include <ovoui/frame/OwnWindow.h>
 #include <ovouires/resource.h>
@@ -181,15 +181,16 @@ void CColourGrid::OnLButtonUp(UINT, CPoint where)
 
 void CColourGrid::OnKeyDown(UINT key, UINT, UINT)
 {
-    const auto move = wheelKeyOf(key);
-    if (m_colours.empty() || (!move && key != VK_SPACE && key != VK_RETURN)) {
-        Default();
-        return;
-    }
-    if (move)
-        point(cellAfter(m_current, m_identity->cells, m_columns, *move));
-    else
+    switch (gridKey(key, m_colours.empty())) {
+    case GridKey::Move:
+        point(cellAfter(m_current, m_identity->cells, m_columns, *wheelKeyOf(key)));
+        break;
+    case GridKey::Choose:
         choose(m_current);
+        break;
+    case GridKey::None:
+        Default();
+    }
 }
 
 /// Enter is the grid's while it has the focus and something to choose.

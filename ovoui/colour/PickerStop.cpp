@@ -17,29 +17,6 @@ BEGIN_MESSAGE_MAP(PickerStop, CWnd)
     ON_MESSAGE(WM_GETOBJECT, &PickerStop::OnGetObject)
 END_MESSAGE_MAP()
 
-std::optional<WheelKey> wheelKeyOf(UINT virtualKey)
-{
-    switch (virtualKey) {
-    case VK_LEFT:
-        return WheelKey::Left;
-    case VK_RIGHT:
-        return WheelKey::Right;
-    case VK_UP:
-        return WheelKey::Up;
-    case VK_DOWN:
-        return WheelKey::Down;
-    case VK_PRIOR:
-        return WheelKey::PageUp;
-    case VK_NEXT:
-        return WheelKey::PageDown;
-    case VK_HOME:
-        return WheelKey::Home;
-    case VK_END:
-        return WheelKey::End;
-    }
-    return std::nullopt;
-}
-
 HeldKeys heldKeys()
 {
     return {.shift = ::GetKeyState(VK_SHIFT) < 0, .control = ::GetKeyState(VK_CONTROL) < 0};

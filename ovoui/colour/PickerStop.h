@@ -12,8 +12,6 @@
 namespace ovoui::colour
 {
 
-/// Which of the keys that move something it is; none for any other.
-std::optional<WheelKey> wheelKeyOf(UINT virtualKey);
 /// The keys that are held down at the message being handled.
 HeldKeys heldKeys();
 

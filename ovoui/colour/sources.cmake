@@ -5,6 +5,7 @@ set(colour_core
   ${CMAKE_CURRENT_LIST_DIR}/core/ColourModes.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ColourText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/Contrast.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ControlKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FocusMark.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/HueRing.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/RecentColours.cpp

@@ -17,10 +17,10 @@ int ProfileSection::number(const std::wstring& entry) const
     return app ? static_cast<int>(app->GetProfileInt(m_name.c_str(), entry.c_str(), 0)) : 0;
 }
 
-void ProfileSection::write(const std::wstring& entry, const std::wstring& text) const
+bool ProfileSection::write(const std::wstring& entry, const std::wstring& text) const
 {
-    if (CWinApp* const app = AfxGetApp())
-        app->WriteProfileString(m_name.c_str(), entry.c_str(), text.c_str());
+    CWinApp* const app = AfxGetApp();
+    return app && app->WriteProfileString(m_name.c_str(), entry.c_str(), text.c_str());
 }
 
 void ProfileSection::write(const std::wstring& entry, int number) const

@@ -19,7 +19,7 @@ public:
     std::wstring text(const std::wstring& entry) const; ///< empty when there is none
     int number(const std::wstring& entry) const;        ///< 0 when there is none
 
-    void write(const std::wstring& entry, const std::wstring& text) const;
+    bool write(const std::wstring& entry, const std::wstring& text) const; ///< false on failure
     void write(const std::wstring& entry, int number) const;
     void remove(const std::wstring& entry) const;
     void removeAll() const;

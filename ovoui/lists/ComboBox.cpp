@@ -33,22 +33,6 @@ namespace
 
 constexpr DWORD kNoEditField = static_cast<DWORD>(-1);
 
-ComboKey keyOf(WPARAM virtualKey)
-{
-    switch (virtualKey) {
-    case VK_RETURN:
-        return ComboKey::Return;
-    case VK_ESCAPE:
-        return ComboKey::Escape;
-    case VK_UP:
-        return ComboKey::Up;
-    case VK_DOWN:
-        return ComboKey::Down;
-    default:
-        return ComboKey::Other;
-    }
-}
-
 /// 0 for none.
 WPARAM commandOf(KeyEffect effect)
 {
@@ -177,14 +161,15 @@ BOOL COVOComboBox::PreTranslateMessage(MSG* pMsg)
     m_keyed = pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST;
     if (pMsg->message != WM_KEYDOWN)
         return CWnd::PreTranslateMessage(pMsg);
+    const auto key = static_cast<unsigned>(pMsg->wParam);
     if (m_autoComplete)
-        m_completionAllowed = pMsg->wParam != VK_BACK && pMsg->wParam != VK_DELETE;
+        m_completionAllowed = completesAfter(key);
     if (helperTakes(pMsg->wParam))
         return TRUE;
-    const ComboKey key = keyOf(pMsg->wParam);
-    const bool isChanged = key == ComboKey::Escape && changed();
-    const bool isDropped = (key == ComboKey::Up || key == ComboKey::Down) && GetDroppedState();
-    const WPARAM command = commandOf(effectOf(key, isChanged, isDropped));
+    const ComboKey known = comboKeyOf(key);
+    const bool isChanged = known == ComboKey::Escape && changed();
+    const bool isDropped = (known == ComboKey::Up || known == ComboKey::Down) && GetDroppedState();
+    const WPARAM command = commandOf(effectOf(known, isChanged, isDropped));
     if (command == 0)
         return CWnd::PreTranslateMessage(pMsg);
     PostMessage(WM_COMMAND, command, 0);
@@ -309,13 +294,12 @@ void COVOComboBox::complete()
         selectTail(selection, text.size());
 }
 
-/// Selects what was added, so that typing replaces it; leaves a selection further left as it was.
 void COVOComboBox::selectTail(DWORD before, std::size_t typed)
 {
-    if (before == kNoEditField || HIWORD(before) >= typed)
-        SetEditSel(static_cast<int>(typed), -1);
-    else
-        SetEditSel(LOWORD(before), HIWORD(before));
+    const std::optional<TextPart> part =
+        before == kNoEditField ? std::nullopt : std::optional(TextPart{LOWORD(before), HIWORD(before)});
+    const TextPart selected = selectionAfterCompletion(part, static_cast<int>(typed));
+    SetEditSel(selected.begin, selected.end);
 }
 
 // Focus and list. Each answers FALSE, so that the parent hears of it too, unless the combo box has gone

@@ -17,11 +17,6 @@ namespace
 
 constexpr UINT kWithFocusToo = TRUE;
 
-bool stepsThroughList(WPARAM virtualKey)
-{
-    return virtualKey == VK_UP || virtualKey == VK_DOWN || virtualKey == VK_PRIOR || virtualKey == VK_NEXT;
-}
-
 } // namespace
 
 // Keys
@@ -31,7 +26,7 @@ bool COVOComboBox::helperTakes(WPARAM virtualKey)
 {
     if (m_search && m_search->takesKey(virtualKey))
         return true;
-    if (stepsThroughList(virtualKey))
+    if (stepsThroughItems(static_cast<unsigned>(virtualKey)))
         m_editedInList = false;
     return forgetsItem(virtualKey);
 }
@@ -101,10 +96,11 @@ void COVOComboBox::onRemember()
             m_history->use(text);
 }
 
-/// Del removes the selected text of the history, while the list is open and the text is not being edited.
+/// Whether the key has removed the selected text of the history.
 bool COVOComboBox::forgetsItem(WPARAM virtualKey)
 {
-    if (virtualKey != VK_DELETE || !m_history || m_editedInList || !GetDroppedState())
+    const auto key = static_cast<unsigned>(virtualKey);
+    if (!forgetsText(key, m_history != nullptr, m_editedInList, GetDroppedState() != FALSE))
         return false;
     const int item = GetCurSel();
     const Lifeline::Watch watch(*this);

@@ -7,7 +7,7 @@ namespace ovoui::lists
 
 ComboHistory::ComboHistory(COVOComboBox& combo, LPCWSTR section, LPCWSTR entry, int limit)
     : m_combo(combo)
-    , m_section(section)
+    , m_profile(section)
     , m_entry(entry)
     , m_limit(limit)
     , m_texts(limit)
@@ -62,15 +62,18 @@ void ComboHistory::drop(const std::wstring& text)
         m_combo.moveItem(item, static_cast<int>(m_texts.texts().size()));
 }
 
-// The profile has an entry for each text: the name with a number, from 1 on.
+/// The profile has an entry for each text: the name with a number, from 1 on.
+std::wstring ComboHistory::entryOf(int number) const
+{
+    return m_entry + std::to_wstring(number);
+}
 
 /// With empty ones where the profile has none.
 std::vector<std::wstring> ComboHistory::read() const
 {
     std::vector<std::wstring> texts;
     for (int number = 1; number <= m_limit; ++number)
-        texts.emplace_back(
-            AfxGetApp()->GetProfileString(m_section.c_str(), (m_entry + std::to_wstring(number)).c_str()));
+        texts.push_back(m_profile.text(entryOf(number)));
     return texts;
 }
 
@@ -78,11 +81,9 @@ void ComboHistory::write() const
 {
     int number = 1;
     for (const std::wstring& text : m_texts.texts())
-        AfxGetApp()->WriteProfileString(m_section.c_str(), (m_entry + std::to_wstring(number++)).c_str(),
-                                        text.c_str());
+        m_profile.write(entryOf(number++), text);
     for (; number <= m_limit; ++number)
-        AfxGetApp()->WriteProfileString(m_section.c_str(), (m_entry + std::to_wstring(number)).c_str(),
-                                        nullptr);
+        m_profile.remove(entryOf(number));
 }
 
 } // namespace ovoui::lists

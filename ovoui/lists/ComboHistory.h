@@ -1,6 +1,7 @@
 /// Not exported: the texts that were accepted last, first in the list of a combo box and in the profile.
 #pragma once
 
+#include <ovoui/frame/ProfileSection.h>
 #include <ovoui/lists/core/TextHistory.h>
 
 #include <afxwin.h>
@@ -29,11 +30,12 @@ public:
 private:
     void bringToTop(const std::wstring& text, int place);
     void drop(const std::wstring& text);
+    std::wstring entryOf(int number) const;
     std::vector<std::wstring> read() const;
     void write() const;
 
     COVOComboBox& m_combo;
-    const std::wstring m_section;
+    const frame::ProfileSection m_profile;
     const std::wstring m_entry;
     const int m_limit;
     TextHistory m_texts;

@@ -7,31 +7,6 @@
 namespace ovoui::lists
 {
 
-namespace
-{
-
-HitKey keyOf(WPARAM virtualKey)
-{
-    switch (virtualKey) {
-    case VK_UP:
-        return HitKey::Up;
-    case VK_DOWN:
-        return HitKey::Down;
-    case VK_PRIOR:
-        return HitKey::PageUp;
-    case VK_NEXT:
-        return HitKey::PageDown;
-    case VK_RETURN:
-        return HitKey::Return;
-    case VK_ESCAPE:
-        return HitKey::Escape;
-    default:
-        return HitKey::Other;
-    }
-}
-
-} // namespace
-
 ComboSearch::ComboSearch(COVOComboBox& combo)
     : m_combo(combo)
     , m_hits(combo, [this](int item) { m_combo.takeHit(item); })
@@ -51,7 +26,8 @@ bool ComboSearch::takesKey(WPARAM virtualKey)
     if (!m_hits.isShown())
         return false;
     const int before = m_hits.selected();
-    const HitEffect effect = afterHitKey(keyOf(virtualKey), m_hits.count(), before, m_hits.page());
+    const HitEffect effect =
+        afterHitKey(hitKeyOf(static_cast<unsigned>(virtualKey)), m_hits.count(), before, m_hits.page());
     if (effect.closes)
         m_hits.hide();
     else if (effect.selected != before)

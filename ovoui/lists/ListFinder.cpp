@@ -11,21 +11,26 @@ using namespace ovoui::lists;
 namespace
 {
 
-constexpr wchar_t kBackspaceCharacter = 8;
-
-/// What else the user may do in a list that is being searched.
-bool goesElsewhere(UINT message, WPARAM wParam)
+std::optional<FindMessage> findMessage(UINT message)
 {
     switch (message) {
+    case WM_KEYDOWN:
+        return FindMessage::KeyDown;
+    case WM_CHAR:
+        return FindMessage::Character;
     case WM_LBUTTONDOWN:
     case WM_RBUTTONDOWN:
+        return FindMessage::Pressed;
     case WM_KILLFOCUS:
-        return true;
-    case WM_KEYDOWN:
-        return wParam >= VK_PRIOR && wParam <= VK_DOWN;
+        return FindMessage::FocusGone;
     default:
-        return false;
+        return std::nullopt;
     }
+}
+
+bool isHeld(int key)
+{
+    return ::GetKeyState(key) < 0;
 }
 
 bool asksForEscape(LPARAM lParam)
@@ -46,14 +51,13 @@ bool hasText(const COVOListCtrlEx& list, int row, int columns, const std::wstrin
 /// Asks the parent, since the list knows none of its rows.
 int askedRow(const COVOListCtrlEx& list, const std::wstring& text, int focused, Search how)
 {
-    if (how == Search::Previous)
-        return -1;
     const int count = list.GetItemCount();
+    const std::optional<int> start = startForParent(count, focused, how);
+    if (!start)
+        return -1;
     NMLVFINDITEM wanted{};
     wanted.hdr = {list.m_hWnd, static_cast<UINT_PTR>(list.GetDlgCtrlID()), static_cast<UINT>(LVN_ODFINDITEM)};
-    wanted.iStart = how == Search::Next && focused + 1 < count ? focused + 1 : 0;
-    if (how == Search::FromHere && focused > 0)
-        wanted.iStart = focused;
+    wanted.iStart = *start;
     wanted.lvfi.flags = LVFI_STRING | LVFI_PARTIAL | LVFI_WRAP;
     wanted.lvfi.psz = text.c_str();
     const HWND parent = ::GetParent(list);
@@ -116,23 +120,15 @@ bool COVOListFinder::takes(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& 
 
 bool COVOListFinder::takesKey(UINT message, WPARAM wParam)
 {
-    if (message == WM_KEYDOWN && wParam == VK_SPACE) // what the list does with it happens here
-        return spaceIsText();
-    if (message == WM_CHAR && wParam == L' ' && ::GetKeyState(VK_CONTROL) < 0)
+    const std::optional<FindMessage> known = findMessage(message);
+    const auto input =
+        known ? findInputOf(*known, static_cast<unsigned>(wParam), isHeld(VK_SHIFT), isHeld(VK_CONTROL))
+              : std::nullopt;
+    if (!input)
         return false;
-    if (message == WM_CHAR)
-        return wParam == kBackspaceCharacter ? key(FindKey::Backspace, 0)
-                                             : key(FindKey::Character, static_cast<wchar_t>(wParam));
-    if (message == WM_KEYDOWN && wParam == VK_ESCAPE)
-        return key(FindKey::Escape, 0);
-    if (message == WM_KEYDOWN && wParam == VK_F3)
-        return key(::GetKeyState(VK_SHIFT) < 0 ? FindKey::Previous : FindKey::Next, 0);
-    return goesElsewhere(message, wParam) && key(FindKey::Elsewhere, 0);
-}
-
-bool COVOListFinder::spaceIsText() const
-{
-    return ::GetKeyState(VK_CONTROL) >= 0 && afterFindKey(*m_state, FindKey::Character, L' ').taken;
+    if (input->onlyAsked)
+        return afterFindKey(*m_state, input->key, input->character).taken;
+    return key(input->key, input->character);
 }
 
 /// Whether the key is taken.

@@ -56,7 +56,6 @@ private:
     bool takes(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
     void left() override;
     bool takesKey(UINT message, WPARAM wParam);
-    bool spaceIsText() const;
     bool key(ovoui::lists::FindKey key, wchar_t character);
     bool search(const ovoui::lists::FindState& state, ovoui::lists::Search how);
     int rowWith(const std::wstring& text, ovoui::lists::Search how) const;

@@ -1,5 +1,6 @@
 #include <ovoui/lists/ListLayout.h>
 
+#include <ovoui/frame/ProfileSection.h>
 #include <ovoui/lists/ListSorter.h>
 #include <ovoui/lists/ReportColumns.h>
 #include <ovoui/lists/core/ColumnLayout.h>
@@ -7,6 +8,7 @@
 #include <algorithm>
 
 using namespace ovoui::lists;
+using ovoui::frame::ProfileSection;
 
 namespace
 {
@@ -51,15 +53,15 @@ bool saveColumnLayout(CListCtrl& list, LPCWSTR section, LPCWSTR entry, const COV
         layout.sortedBy = headingOf(list, sorter->Column());
         layout.ascending = sorter->Ascending();
     }
-    return AfxGetApp()->WriteProfileString(section, entry, formatLayout(layout).c_str()) != FALSE;
+    return ProfileSection(section).write(entry, formatLayout(layout));
 }
 
 bool restoreColumnLayout(CListCtrl& list, LPCWSTR section, LPCWSTR entry, COVOListSorter* sorter)
 {
-    const CString text = AfxGetApp()->GetProfileString(section, entry);
-    if (text.IsEmpty())
+    const std::wstring text = ProfileSection(section).text(entry);
+    if (text.empty())
         return false;
-    const ColumnLayout layout = parseLayout(text.GetString());
+    const ColumnLayout layout = parseLayout(text);
     const std::vector<std::wstring> headings = headingsOf(list);
     std::vector<int> order = orderOfColumns(layout, headings);
     const Lifeline::Watch watch(list);

@@ -2,6 +2,7 @@
 
 #include <ovoui/lists/LocaleOrder.h>
 #include <ovoui/lists/RowData.h>
+#include <ovoui/lists/core/HeadingRule.h>
 #include <ovoui/lists/core/NumberText.h>
 #include <ovoui/lists/core/RowOrder.h>
 
@@ -128,7 +129,7 @@ void COVOListSorter::heard(UINT message, WPARAM, LPARAM lParam)
 
 void COVOListSorter::headingClicked(int column)
 {
-    Sort(column, column != m_column || !m_ascending);
+    Sort(column, sortsAscending(column, m_column, m_ascending));
 }
 
 bool COVOListSorter::Sort(int column, bool ascending)

@@ -16,31 +16,6 @@ using namespace ovoui::sliders;
 namespace
 {
 
-std::optional<AngleKey> angleKey(UINT key)
-{
-    switch (key) {
-    case VK_LEFT:
-    case VK_DOWN:
-        return AngleKey::Less;
-    case VK_RIGHT:
-    case VK_UP:
-        return AngleKey::More;
-    case VK_NEXT:
-        return AngleKey::PageLess;
-    case VK_PRIOR:
-        return AngleKey::PageMore;
-    case VK_HOME:
-        return AngleKey::Zero;
-    default:
-        return std::nullopt;
-    }
-}
-
-bool beginsNumber(UINT character)
-{
-    return (character >= L'0' && character <= L'9') || character == L'-' || character == L'.';
-}
-
 bool isHeld(int key)
 {
     return ::GetKeyState(key) < 0;
@@ -90,7 +65,7 @@ UINT CAngleSlider::OnGetDlgCode()
 
 void CAngleSlider::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    const std::optional<AngleKey> meaning = m_options->keyboard ? angleKey(key) : std::nullopt;
+    const std::optional<AngleKey> meaning = m_options->keyboard ? angleKeyOf(key) : std::nullopt;
     if (!meaning || m_drag->dragging())
         CWnd::OnKeyDown(key, repeat, flags);
     else
@@ -99,7 +74,7 @@ void CAngleSlider::OnKeyDown(UINT key, UINT repeat, UINT flags)
 
 void CAngleSlider::OnChar(UINT character, UINT repeat, UINT flags)
 {
-    if (!m_options->keyboard || !beginsNumber(character) || m_drag->dragging()) {
+    if (!m_options->keyboard || !beginsAngle(character) || m_drag->dragging()) {
         CWnd::OnChar(character, repeat, flags);
         return;
     }

@@ -21,9 +21,6 @@ struct CDialSlider::Turning
 namespace
 {
 
-constexpr double kFullTurn = 360;
-constexpr double kLeastTickStep = 0.5; // degrees: closer ones cannot be seen
-
 Shade shadeOf(int systemColour)
 {
     const COLORREF colour = ::GetSysColor(systemColour);
@@ -106,28 +103,14 @@ double CDialSlider::limited(double degrees) const
     return m_turning->range.accepted(degrees);
 }
 
-std::vector<double> CDialSlider::ticks() const
-{
-    const DialRange& range = m_turning->range;
-    const double step = m_turning->tickStep;
-    std::vector<double> found;
-    if (step < kLeastTickStep)
-        return found;
-    const double low = range.stops ? std::min(range.low, range.high) : 0;
-    const double high =
-        range.stops ? std::min(std::max(range.low, range.high), low + kFullTurn) : kFullTurn - step / 2;
-    for (double tick = low; tick <= high; tick += step)
-        found.push_back(tick);
-    return found;
-}
-
 void CDialSlider::paintBody(CDC& dc, const CRect& client, double shown)
 {
     dc.FillSolidRect(&client, ::GetSysColor(COLOR_BTNFACE));
     const int size = std::min(client.Width(), client.Height());
     const CRect place(CPoint((client.Width() - size) / 2, (client.Height() - size) / 2), CSize(size, size));
     const std::vector<Shade> pixels =
-        dialPicture(size, shown, ticks(), systemColours(IsWindowEnabled() != FALSE));
+        dialPicture(size, shown, dialTicks(m_turning->range, m_turning->tickStep),
+                    systemColours(IsWindowEnabled() != FALSE));
     if (pixels.empty())
         return;
     const ovoui::frame::LeftToRight layout(dc);

@@ -39,8 +39,6 @@ protected:
     void paintBody(CDC& dc, const CRect& client, double shown) override;
 
 private:
-    std::vector<double> ticks() const;
-
     struct Turning;
     std::unique_ptr<Turning> m_turning;
 };

@@ -9,30 +9,8 @@ namespace
 
 constexpr double kFineStep = 0.1; // of a position
 
-ButtonKey buttonKey(WPARAM key)
-{
-    switch (key) {
-    case VK_LEFT:
-        return ButtonKey::Left;
-    case VK_RIGHT:
-        return ButtonKey::Right;
-    case VK_UP:
-        return ButtonKey::Up;
-    case VK_DOWN:
-        return ButtonKey::Down;
-    case VK_PRIOR:
-    case VK_NEXT:
-    case VK_HOME:
-    case VK_END:
-        return ButtonKey::Travel;
-    case VK_ESCAPE:
-        return ButtonKey::Escape;
-    default:
-        return ButtonKey::Other;
-    }
-}
-
-/// Drags are followed on the screen, where the button may be laid out from right to left and the popup is not.
+/// Drags are followed on the screen, where the button may be laid out from right to left and the popup is
+/// not.
 CPoint onScreen(const CWnd& wnd, CPoint point)
 {
     wnd.ClientToScreen(&point);
@@ -172,7 +150,8 @@ BOOL CSliderButton::PreTranslateMessage(MSG* message)
 /// Takes keys that must not reach the dialog, which would go to another control or close.
 bool CSliderButton::takesKey(const MSG& message)
 {
-    switch (meaningOf(buttonKey(message.wParam), m_parts->pressed, m_parts->fine())) {
+    switch (
+        meaningOf(buttonKeyOf(static_cast<unsigned>(message.wParam)), m_parts->pressed, m_parts->fine())) {
     case KeyMeaning::Open:
         press(middle());
         return true;

@@ -1,9 +1,13 @@
 #include <ovoui/colour/core/WheelKeys.h>
 
+#include <ovoui/frame/core/VirtualKeys.h>
+
 #include <algorithm>
 
 namespace ovoui::colour
 {
+
+using namespace keys;
 
 namespace
 {
@@ -29,6 +33,37 @@ int percent(int value)
 }
 
 } // namespace
+
+std::optional<WheelKey> wheelKeyOf(unsigned virtualKey)
+{
+    switch (virtualKey) {
+    case kVkLeft:
+        return WheelKey::Left;
+    case kVkRight:
+        return WheelKey::Right;
+    case kVkUp:
+        return WheelKey::Up;
+    case kVkDown:
+        return WheelKey::Down;
+    case kVkPageUp:
+        return WheelKey::PageUp;
+    case kVkPageDown:
+        return WheelKey::PageDown;
+    case kVkHome:
+        return WheelKey::Home;
+    case kVkEnd:
+        return WheelKey::End;
+    default:
+        return std::nullopt;
+    }
+}
+
+WheelKey mirrored(WheelKey key)
+{
+    if (key == WheelKey::Left)
+        return WheelKey::Right;
+    return key == WheelKey::Right ? WheelKey::Left : key;
+}
 
 int hueAfter(int hue, WheelKey key, HeldKeys held)
 {

@@ -1,6 +1,8 @@
 /// What keys do to hue, shade and swatches. Plain values, no windows.
 #pragma once
 
+#include <optional>
+
 namespace ovoui::colour
 {
 
@@ -15,6 +17,11 @@ enum class WheelKey
     Home,
     End,
 };
+
+/// By the platform's virtual key; nothing for other keys.
+std::optional<WheelKey> wheelKeyOf(unsigned virtualKey);
+/// Where rows of cells are mirrored, the next one is at the left.
+WheelKey mirrored(WheelKey key);
 
 /// Keys that are held down with the other one.
 struct HeldKeys

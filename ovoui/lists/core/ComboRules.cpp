@@ -1,7 +1,11 @@
 #include <ovoui/lists/core/ComboRules.h>
 
+#include <ovoui/frame/core/VirtualKeys.h>
+
 namespace ovoui::lists
 {
+
+using namespace keys;
 
 namespace
 {
@@ -18,6 +22,43 @@ Verdict acceptIf(bool match, const ComboSettings& settings)
 }
 
 } // namespace
+
+ComboKey comboKeyOf(unsigned virtualKey)
+{
+    switch (virtualKey) {
+    case kVkReturn:
+        return ComboKey::Return;
+    case kVkEscape:
+        return ComboKey::Escape;
+    case kVkUp:
+        return ComboKey::Up;
+    case kVkDown:
+        return ComboKey::Down;
+    default:
+        return ComboKey::Other;
+    }
+}
+
+bool completesAfter(unsigned virtualKey)
+{
+    return virtualKey != kVkBack && virtualKey != kVkDelete;
+}
+
+bool stepsThroughItems(unsigned virtualKey)
+{
+    return virtualKey == kVkUp || virtualKey == kVkDown || virtualKey == kVkPageUp ||
+           virtualKey == kVkPageDown;
+}
+
+bool forgetsText(unsigned virtualKey, bool hasHistory, bool edited, bool dropped)
+{
+    return virtualKey == kVkDelete && hasHistory && dropped && !edited;
+}
+
+TextPart selectionAfterCompletion(std::optional<TextPart> before, int typed)
+{
+    return before && before->end < typed ? *before : TextPart{typed, -1};
+}
 
 KeyEffect effectOf(ComboKey key, bool changed, bool dropped)
 {

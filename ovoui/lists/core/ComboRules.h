@@ -1,6 +1,7 @@
 /// What keys and a loss of focus lead to in a completing combo box: plain values, no windows.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 namespace ovoui::lists
@@ -34,8 +35,35 @@ enum class KeyEffect
     Down
 };
 
+/// By the platform's virtual key.
+ComboKey comboKeyOf(unsigned virtualKey);
+
+/// Whether what a key types is completed: not where it deletes.
+bool completesAfter(unsigned virtualKey);
+/// Whether a key goes to another item of the list.
+bool stepsThroughItems(unsigned virtualKey);
+
+/// Whether a key removes the selected text of the history. `edited`: the text has been edited since the list
+/// was opened or stepped through.
+bool forgetsText(unsigned virtualKey, bool hasHistory, bool edited, bool dropped);
+
 /// `changed` matters for Escape only, `dropped` (the list is open) for the arrows only.
 KeyEffect effectOf(ComboKey key, bool changed, bool dropped);
+
+// Typing
+
+/// A part of the text, by its ends; an `end` of -1 is that of the text.
+struct TextPart
+{
+    int begin = 0;
+    int end = -1;
+
+    friend bool operator==(const TextPart&, const TextPart&) = default;
+};
+
+/// What is selected in a text that was completed behind `typed` characters: what was added, so that typing
+/// replaces it, unless a part further left was selected. `before` is missing where there is no edit field.
+TextPart selectionAfterCompletion(std::optional<TextPart> before, int typed);
 
 // Judging the text
 

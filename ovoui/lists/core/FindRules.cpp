@@ -1,7 +1,11 @@
 #include <ovoui/lists/core/FindRules.h>
 
+#include <ovoui/frame/core/VirtualKeys.h>
+
 namespace ovoui::lists
 {
+
+using namespace keys;
 
 namespace
 {
@@ -43,6 +47,29 @@ FindEffect afterBackspace(const FindState& state)
     return {true, text.empty() ? Search::None : Search::FromHere, {text, text.empty()}};
 }
 
+std::optional<FindInput> inputOfKey(unsigned key, bool shift, bool ctrl)
+{
+    switch (key) {
+    case kVkSpace:
+        return ctrl ? std::nullopt : std::optional(FindInput{FindKey::Character, L' ', true});
+    case kVkEscape:
+        return FindInput{FindKey::Escape};
+    case kVkF3:
+        return FindInput{shift ? FindKey::Previous : FindKey::Next};
+    }
+    const bool goesElsewhere = key >= kVkPageUp && key <= kVkDown;
+    return goesElsewhere ? std::optional(FindInput{FindKey::Elsewhere}) : std::nullopt;
+}
+
+std::optional<FindInput> inputOfCharacter(unsigned character, bool ctrl)
+{
+    if (character == kVkBack) // its character has the number of the key
+        return FindInput{FindKey::Backspace};
+    if (character == L' ' && ctrl)
+        return std::nullopt;
+    return FindInput{FindKey::Character, static_cast<wchar_t>(character)};
+}
+
 } // namespace
 
 FindEffect afterFindKey(const FindState& state, FindKey key, wchar_t character)
@@ -63,6 +90,34 @@ FindEffect afterFindKey(const FindState& state, FindKey key, wchar_t character)
         break;
     }
     return {false, Search::None, {state.text, true}};
+}
+
+std::optional<FindInput> findInputOf(FindMessage message, unsigned value, bool shift, bool ctrl)
+{
+    switch (message) {
+    case FindMessage::KeyDown:
+        return inputOfKey(value, shift, ctrl);
+    case FindMessage::Character:
+        return inputOfCharacter(value, ctrl);
+    case FindMessage::Pressed:
+    case FindMessage::FocusGone:
+        break;
+    }
+    return FindInput{FindKey::Elsewhere};
+}
+
+std::optional<int> startForParent(int count, int focused, Search search)
+{
+    switch (search) {
+    case Search::FromHere:
+        return focused > 0 ? focused : 0;
+    case Search::Next:
+        return focused + 1 < count ? focused + 1 : 0;
+    case Search::Previous:
+    case Search::None:
+        break;
+    }
+    return std::nullopt;
 }
 
 } // namespace ovoui::lists

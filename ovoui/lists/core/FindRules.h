@@ -1,6 +1,7 @@
 /// What keys lead to while a list is searched by typing, and in which order its rows are looked at.
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace ovoui::lists
@@ -70,5 +71,31 @@ int findRow(int count, int focused, Search search, const LookAt& look)
     }
     return -1;
 }
+
+/// A message to a list that is searched by typing, as far as it matters.
+enum class FindMessage
+{
+    KeyDown,
+    Character,
+    Pressed, ///< a button of the mouse
+    FocusGone
+};
+
+struct FindInput
+{
+    FindKey key;
+    wchar_t character = 0;  ///< for FindKey::Character
+    bool onlyAsked = false; ///< the key is taken where its character would be, which arrives by itself
+
+    friend bool operator==(const FindInput&, const FindInput&) = default;
+};
+
+/// What a message means to the search; nothing for what is none of its business. `value` is the virtual key
+/// or the character. What a list does with a space it does when the key goes down.
+std::optional<FindInput> findInputOf(FindMessage message, unsigned value, bool shift, bool ctrl);
+
+/// Where a parent that is asked for a row is to begin; nothing when it cannot be asked, since it searches
+/// forwards only.
+std::optional<int> startForParent(int count, int focused, Search search);
 
 } // namespace ovoui::lists

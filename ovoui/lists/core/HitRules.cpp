@@ -1,9 +1,13 @@
 #include <ovoui/lists/core/HitRules.h>
 
+#include <ovoui/frame/core/VirtualKeys.h>
+
 #include <algorithm>
 
 namespace ovoui::lists
 {
+
+using namespace keys;
 
 HitEffect afterHitKey(HitKey key, int count, int selected, int page)
 {
@@ -26,6 +30,26 @@ HitEffect afterHitKey(HitKey key, int count, int selected, int page)
         break;
     }
     return {false, false, selected};
+}
+
+HitKey hitKeyOf(unsigned virtualKey)
+{
+    switch (virtualKey) {
+    case kVkUp:
+        return HitKey::Up;
+    case kVkDown:
+        return HitKey::Down;
+    case kVkPageUp:
+        return HitKey::PageUp;
+    case kVkPageDown:
+        return HitKey::PageDown;
+    case kVkReturn:
+        return HitKey::Return;
+    case kVkEscape:
+        return HitKey::Escape;
+    default:
+        return HitKey::Other;
+    }
 }
 
 } // namespace ovoui::lists

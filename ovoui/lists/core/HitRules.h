@@ -54,4 +54,7 @@ struct HitEffect
 /// round by way of what was typed.
 HitEffect afterHitKey(HitKey key, int count, int selected, int page);
 
+/// By the platform's virtual key.
+HitKey hitKeyOf(unsigned virtualKey);
+
 } // namespace ovoui::lists

@@ -1,9 +1,14 @@
 #include <ovoui/sliders/core/AngleKeys.h>
 
+#include <ovoui/frame/core/VirtualKeys.h>
+
 #include <cmath>
 
 namespace ovoui::sliders
 {
+
+using namespace keys;
+
 namespace
 {
 
@@ -12,6 +17,31 @@ constexpr double kLargeStep = 5;
 constexpr double kPage = 15;
 
 } // namespace
+
+std::optional<AngleKey> angleKeyOf(unsigned virtualKey)
+{
+    switch (virtualKey) {
+    case kVkLeft:
+    case kVkDown:
+        return AngleKey::Less;
+    case kVkRight:
+    case kVkUp:
+        return AngleKey::More;
+    case kVkPageDown:
+        return AngleKey::PageLess;
+    case kVkPageUp:
+        return AngleKey::PageMore;
+    case kVkHome:
+        return AngleKey::Zero;
+    default:
+        return std::nullopt;
+    }
+}
+
+bool beginsAngle(unsigned character)
+{
+    return (character >= L'0' && character <= L'9') || character == L'-' || character == L'.';
+}
 
 double angleAfter(AngleKey key, bool ctrl, double degrees)
 {

@@ -15,6 +15,11 @@ enum class AngleKey
     Zero,     ///< Home
 };
 
+/// By the platform's virtual key; nothing for the others.
+std::optional<AngleKey> angleKeyOf(unsigned virtualKey);
+/// Whether a character opens the edit control.
+bool beginsAngle(unsigned character);
+
 /// Where a key leads from `degrees`: by 1 degree, with Ctrl by 5, a page by 15.
 double angleAfter(AngleKey key, bool ctrl, double degrees);
 

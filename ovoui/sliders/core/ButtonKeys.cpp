@@ -1,7 +1,34 @@
 #include <ovoui/sliders/core/ButtonKeys.h>
 
+#include <ovoui/frame/core/VirtualKeys.h>
+
 namespace ovoui::sliders
 {
+
+using namespace keys;
+
+ButtonKey buttonKeyOf(unsigned virtualKey)
+{
+    switch (virtualKey) {
+    case kVkLeft:
+        return ButtonKey::Left;
+    case kVkRight:
+        return ButtonKey::Right;
+    case kVkUp:
+        return ButtonKey::Up;
+    case kVkDown:
+        return ButtonKey::Down;
+    case kVkPageUp:
+    case kVkPageDown:
+    case kVkHome:
+    case kVkEnd:
+        return ButtonKey::Travel;
+    case kVkEscape:
+        return ButtonKey::Escape;
+    default:
+        return ButtonKey::Other;
+    }
+}
 
 KeyMeaning meaningOf(ButtonKey key, bool pressed, bool fine)
 {

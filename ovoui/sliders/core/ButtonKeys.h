@@ -15,6 +15,9 @@ enum class ButtonKey
     Other,
 };
 
+/// By the platform's virtual key.
+ButtonKey buttonKeyOf(unsigned virtualKey);
+
 enum class KeyMeaning
 {
     Nothing,  ///< the dialog's

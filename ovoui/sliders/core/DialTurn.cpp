@@ -24,4 +24,19 @@ double DialRange::accepted(double degrees) const
     return stops ? std::clamp(degrees, std::min(low, high), std::max(low, high)) : degrees;
 }
 
+std::vector<double> dialTicks(const DialRange& range, double step)
+{
+    constexpr double kWholeTurn = 360;
+    constexpr double kLeastStep = 0.5;
+    std::vector<double> ticks;
+    if (step < kLeastStep)
+        return ticks;
+    const double low = range.stops ? std::min(range.low, range.high) : 0;
+    const double high =
+        range.stops ? std::min(std::max(range.low, range.high), low + kWholeTurn) : kWholeTurn - step / 2;
+    for (double tick = low; tick <= high; tick += step)
+        ticks.push_back(tick);
+    return ticks;
+}
+
 } // namespace ovoui::sliders

@@ -2,6 +2,8 @@
 /// the top, growing clockwise. Plain values, no windows.
 #pragma once
 
+#include <vector>
+
 namespace ovoui::sliders
 {
 
@@ -31,5 +33,9 @@ struct DialRange
 
     double accepted(double degrees) const;
 };
+
+/// The ticks of a dial, `step` apart: from stop to stop, no more than once round, or all round without stops.
+/// None when they are too close to be seen.
+std::vector<double> dialTicks(const DialRange& range, double step);
 
 } // namespace ovoui::sliders

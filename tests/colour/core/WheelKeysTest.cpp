@@ -152,3 +152,21 @@ TEST(FocusMark, LiesBetweenTriangleAndRing)
             EXPECT_TRUE(triangle.test(point, 3.5).inTriangle) << side << ' ' << step;
         }
 }
+
+TEST(WheelKeys, WhatEveryVirtualKeyMoves)
+{
+    const WheelKey known[] = {WheelKey::PageUp, WheelKey::PageDown, WheelKey::End,   WheelKey::Home,
+                              WheelKey::Left,   WheelKey::Up,       WheelKey::Right, WheelKey::Down};
+    for (unsigned key = 0; key <= 0xFF; ++key)
+        EXPECT_EQ(wheelKeyOf(key),
+                  key >= 0x21 && key <= 0x28 ? std::optional(known[key - 0x21]) : std::nullopt)
+            << key;
+}
+
+TEST(WheelKeys, MirroredLeftAndRightChangePlaces)
+{
+    for (const WheelKey key : kKeys) {
+        EXPECT_EQ(mirrored(mirrored(key)), key);
+        EXPECT_EQ(mirrored(key) != key, key == WheelKey::Left || key == WheelKey::Right);
+    }
+}

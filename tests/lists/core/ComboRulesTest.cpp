@@ -122,3 +122,39 @@ TEST(ComboRules, FocusLostWithAChangeAcceptsOrRestores)
             EXPECT_EQ(verdict, (Verdict{true, {Told::SelChange, Told::SelEndCancel}}));
     });
 }
+
+TEST(ComboRules, WhatEveryKeyIsToTheComboBox)
+{
+    for (unsigned key = 0; key <= 0xFF; ++key) {
+        ComboKey expected = ComboKey::Other;
+        if (key == 0x0D)
+            expected = ComboKey::Return;
+        if (key == 0x1B)
+            expected = ComboKey::Escape;
+        if (key == 0x26)
+            expected = ComboKey::Up;
+        if (key == 0x28)
+            expected = ComboKey::Down;
+        EXPECT_EQ(comboKeyOf(key), expected) << key;
+        EXPECT_EQ(completesAfter(key), key != 0x08 && key != 0x2E) << key;
+        const bool page = key == 0x21 || key == 0x22;
+        EXPECT_EQ(stepsThroughItems(key), page || key == 0x26 || key == 0x28) << key;
+        for (int bits = 0; bits < 8; ++bits)
+            EXPECT_EQ(forgetsText(key, (bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0),
+                      key == 0x2E && bits == 5)
+                << key << " " << bits;
+    }
+}
+
+TEST(ComboRules, WhatWasAddedIsSelectedUnlessAPartFurtherLeftWas)
+{
+    for (int typed = 0; typed < 5; ++typed) {
+        EXPECT_EQ(selectionAfterCompletion(std::nullopt, typed), (TextPart{typed, -1}));
+        for (int end = 0; end < 7; ++end)
+            for (int begin = 0; begin <= end; ++begin) {
+                const TextPart before{begin, end};
+                EXPECT_EQ(selectionAfterCompletion(before, typed),
+                          end < typed ? before : (TextPart{typed, -1}));
+            }
+    }
+}

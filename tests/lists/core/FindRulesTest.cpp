@@ -114,3 +114,55 @@ TEST(FindRules, RowsThatAreGoneStopTheSearch)
     EXPECT_EQ(findRow(5, 0, Search::Next, [&](int) { return ++calls == 2 ? Look::Stop : Look::No; }), -1);
     EXPECT_EQ(calls, 2);
 }
+
+TEST(FindRules, WhatEveryKeyMeansToTheSearch)
+{
+    for (unsigned key = 0; key <= 0xFF; ++key)
+        for (const bool shift : {false, true})
+            for (const bool ctrl : {false, true}) {
+                const auto input = findInputOf(FindMessage::KeyDown, key, shift, ctrl);
+                if (key == 0x20) // Space
+                    EXPECT_EQ(input,
+                              ctrl ? std::nullopt : std::optional(FindInput{FindKey::Character, L' ', true}));
+                else if (key == 0x1B) // Escape
+                    EXPECT_EQ(input, FindInput{FindKey::Escape});
+                else if (key == 0x72) // F3
+                    EXPECT_EQ(input, FindInput{shift ? FindKey::Previous : FindKey::Next});
+                else if (key >= 0x21 && key <= 0x28) // page keys, End, Home, arrows
+                    EXPECT_EQ(input, FindInput{FindKey::Elsewhere});
+                else
+                    EXPECT_EQ(input, std::nullopt) << key;
+            }
+}
+
+TEST(FindRules, WhatEveryCharacterMeansToTheSearch)
+{
+    for (unsigned character = 0; character <= 0xFFFF; ++character)
+        for (const bool ctrl : {false, true}) {
+            const auto input = findInputOf(FindMessage::Character, character, false, ctrl);
+            if (character == 8)
+                EXPECT_EQ(input, FindInput{FindKey::Backspace});
+            else if (character == L' ' && ctrl)
+                EXPECT_EQ(input, std::nullopt) << "it selects";
+            else
+                EXPECT_EQ(input, (FindInput{FindKey::Character, static_cast<wchar_t>(character)}));
+        }
+}
+
+TEST(FindRules, ThePointerAndTheFocusGoElsewhere)
+{
+    for (const FindMessage message : {FindMessage::Pressed, FindMessage::FocusGone})
+        for (const bool held : {false, true})
+            EXPECT_EQ(findInputOf(message, 0x20, held, held), FindInput{FindKey::Elsewhere});
+}
+
+TEST(FindRules, AParentBeginsWhereTheSearchDoesOrCannotBeAsked)
+{
+    for (int count = 0; count < 5; ++count)
+        for (int focused = -1; focused < count; ++focused) {
+            EXPECT_EQ(startForParent(count, focused, Search::FromHere), focused < 0 ? 0 : focused);
+            EXPECT_EQ(startForParent(count, focused, Search::Next), focused == count - 1 ? 0 : focused + 1);
+            EXPECT_EQ(startForParent(count, focused, Search::Previous), std::nullopt);
+            EXPECT_EQ(startForParent(count, focused, Search::None), std::nullopt);
+        }
+}

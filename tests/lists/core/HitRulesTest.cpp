@@ -66,3 +66,19 @@ TEST(ComboHits, ReturnClosesAndGoesOnAndEscapeOnlyCloses)
         EXPECT_EQ(afterHitKey(HitKey::Other, 3, selected, 12), (HitEffect{false, false, selected}));
     }
 }
+
+TEST(HitRules, WhatEveryKeyIsToTheHits)
+{
+    for (unsigned key = 0; key <= 0xFF; ++key) {
+        HitKey expected = HitKey::Other;
+        for (const auto& [number, known] : {std::pair{0x26u, HitKey::Up},
+                                            {0x28u, HitKey::Down},
+                                            {0x21u, HitKey::PageUp},
+                                            {0x22u, HitKey::PageDown},
+                                            {0x0Du, HitKey::Return},
+                                            {0x1Bu, HitKey::Escape}})
+            if (key == number)
+                expected = known;
+        EXPECT_EQ(hitKeyOf(key), expected) << key;
+    }
+}

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <string>
+
 using namespace ovoui::sliders;
 
 TEST(AngleKeys, EachKeyHasItsStep)
@@ -39,4 +42,31 @@ TEST(AngleKeys, ADragSnapsAndTheWheelStillHasItsLimits)
     EXPECT_EQ(drag.release(88, 40), 80);
     drag.turnTo(200);
     EXPECT_EQ(drag.position(), 90);
+}
+
+TEST(AngleKeys, WhatEveryKeyIsToTheSlider)
+{
+    for (unsigned key = 0; key <= 0xFF; ++key) {
+        std::optional<AngleKey> expected;
+        if (key == 0x25 || key == 0x28) // left, down
+            expected = AngleKey::Less;
+        if (key == 0x26 || key == 0x27) // up, right
+            expected = AngleKey::More;
+        if (key == 0x21)
+            expected = AngleKey::PageMore;
+        if (key == 0x22)
+            expected = AngleKey::PageLess;
+        if (key == 0x24)
+            expected = AngleKey::Zero;
+        EXPECT_EQ(angleKeyOf(key), expected) << key;
+    }
+}
+
+TEST(AngleKeys, ADigitASignOrAPointBeginsAnAngle)
+{
+    const std::wstring beginnings = L"0123456789-.";
+    for (unsigned character = 0; character <= 0xFFFF; ++character)
+        EXPECT_EQ(beginsAngle(character),
+                  beginnings.find(static_cast<wchar_t>(character)) != std::wstring::npos)
+            << character;
 }

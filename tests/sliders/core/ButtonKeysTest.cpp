@@ -32,3 +32,23 @@ TEST(ButtonKeys, WhileItIsOpenTheyMoveTheSlider)
         EXPECT_EQ(meaningOf(key, true, true), fine);
     }
 }
+
+TEST(ButtonKeys, WhatEveryKeyIsToTheButton)
+{
+    for (unsigned key = 0; key <= 0xFF; ++key) {
+        ButtonKey expected = ButtonKey::Other;
+        if (key >= 0x21 && key <= 0x24) // page keys, End, Home
+            expected = ButtonKey::Travel;
+        if (key == 0x25)
+            expected = ButtonKey::Left;
+        if (key == 0x26)
+            expected = ButtonKey::Up;
+        if (key == 0x27)
+            expected = ButtonKey::Right;
+        if (key == 0x28)
+            expected = ButtonKey::Down;
+        if (key == 0x1B)
+            expected = ButtonKey::Escape;
+        EXPECT_EQ(buttonKeyOf(key), expected) << key;
+    }
+}

@@ -93,3 +93,24 @@ TEST(DialPicture, WithoutRoomOrAnAngleThereIsNothing)
     EXPECT_TRUE(dialPicture(10, std::numeric_limits<double>::quiet_NaN(), {}, kColours).empty());
     EXPECT_EQ(dialPicture(1, 0, {0, 90}, kColours).size(), 1u);
 }
+
+TEST(DialTicks, GoFromStopToStopInEitherOrder)
+{
+    for (const DialRange& range : {DialRange{-45, 45, true}, DialRange{45, -45, true}})
+        EXPECT_EQ(dialTicks(range, 30), (std::vector<double>{-45, -15, 15, 45}));
+    EXPECT_EQ(dialTicks({10, 10, true}, 30), std::vector<double>{10});
+}
+
+TEST(DialTicks, GoRoundOnceAtMost)
+{
+    EXPECT_EQ(dialTicks({0, 0, false}, 90), (std::vector<double>{0, 90, 180, 270})) << "0 is 360";
+    EXPECT_EQ(dialTicks({-90, 900, true}, 180), (std::vector<double>{-90, 90, 270}));
+    EXPECT_EQ(dialTicks({0, 0, false}, 1).size(), 360u);
+}
+
+TEST(DialTicks, ThatCannotBeToldApartAreLeftOut)
+{
+    for (const double step : {-30.0, 0.0, 0.49})
+        EXPECT_TRUE(dialTicks({0, 90, true}, step).empty()) << step;
+    EXPECT_EQ(dialTicks({0, 1, true}, 0.5).size(), 3u);
+}
