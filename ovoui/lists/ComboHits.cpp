@@ -82,6 +82,8 @@ ComboHits::ComboHits(COVOComboBox& combo, std::function<void(int)> taken)
 {
     m_list.draws = [this](LPDRAWITEMSTRUCT item) { draw(*item); };
     m_list.clicked = [this](int index) {
+        if (!isShown()) // the release was on its way when the hits went
+            return;
         const auto tell = m_taken; // which may end this object
         tell(itemAt(index));
     };

@@ -4,10 +4,19 @@
 //   module_probe cycles    0 loaded and unloaded 200 times with no growth of handles, GDI objects and
 //   modules;
 //                          1 it did not load, 2 it stayed loaded, 3 something grew
+//   module_probe damaged   0 a resource module that is empty or cut at any multiple of 4 KiB was refused, and
+//   the
+//                          whole one taken; 1 a cut one was taken, 2 another error, 3 the whole one was
+//                          refused
 #include <windows.h>
 #include <tlhelp32.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
 #include <string_view>
 
 namespace
@@ -94,6 +103,57 @@ int loadAndUnload()
     return grew ? 3 : 0;
 }
 
+std::string contentOf(const wchar_t* path)
+{
+    std::ostringstream content;
+    content << std::ifstream(std::filesystem::path(path), std::ios::binary).rdbuf();
+    return content.str();
+}
+
+/// The error with which the library refuses a resource module of this content; 0 when it takes it.
+DWORD refusalOf(std::string_view resources)
+{
+    std::ofstream(std::filesystem::path(L"ovouires.dll"), std::ios::binary | std::ios::trunc) << resources;
+    const HMODULE module = ::LoadLibraryW(L"ovoui.dll");
+    const DWORD error = module ? 0 : ::GetLastError();
+    if (module)
+        ::FreeLibrary(module);
+    if (const HMODULE left = ::GetModuleHandleW(L"ovouires.dll"))
+        ::FreeLibrary(left); // as it is documented, the library does not
+    return error;
+}
+
+/// Where the last section of a module ends in its file; the linker may have written symbols behind it, which
+/// no program needs.
+std::size_t endOfSections(const std::string& module)
+{
+    const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(module.data());
+    const auto* const headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(module.data() + dos->e_lfanew);
+    const IMAGE_SECTION_HEADER* const sections = IMAGE_FIRST_SECTION(headers);
+    std::size_t end = 0;
+    for (int i = 0; i < headers->FileHeader.NumberOfSections; ++i)
+        end = std::max<std::size_t>(end, sections[i].PointerToRawData + sections[i].SizeOfRawData);
+    return end;
+}
+
+/// In the folder of this program, which must be the current one.
+int loadDamaged()
+{
+    constexpr std::size_t kPage = 4096;
+    ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
+    ::LoadLibraryW(L"ovomfc.dll"); // stays, as in a program that has it
+    const std::string whole = contentOf(L"ovouires.dll");
+    const std::size_t end = endOfSections(whole);
+    for (std::size_t size = 0; size < end; size += kPage) {
+        const DWORD error = refusalOf(std::string_view(whole).substr(0, size));
+        if (error == ERROR_DLL_INIT_FAILED)
+            continue;
+        std::printf("cut after %zu of %zu bytes: %lu\n", size, whole.size(), error);
+        return error ? 2 : 1;
+    }
+    return refusalOf(whole) == 0 ? 0 : 3;
+}
+
 } // namespace
 
 int wmain(int argc, wchar_t** argv)
@@ -101,6 +161,8 @@ int wmain(int argc, wchar_t** argv)
     const std::wstring_view how = argc > 1 ? argv[1] : L"once";
     if (how == L"cycles")
         return loadAndUnload();
+    if (how == L"damaged")
+        return loadDamaged();
     return loadOnce(
         how == L"openly" ? 0 : SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
 }

@@ -213,6 +213,16 @@ TEST_F(ComboSearching, AClickAccepts)
     EXPECT_EQ(scene.take(), (Heard{"SELCHANGE", "SELENDOK"}));
 }
 
+TEST_F(ComboSearching, AReleaseThatArrivesAfterTheyHaveGoneChoosesNothing)
+{
+    scene.robot.type(L"err");
+    const HWND list = hitsList();
+    scene.robot.type(L"x");
+    ASSERT_EQ(hitCount(), 0);
+    ::SendMessageW(list, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(scene.text(), L"errx");
+}
+
 TEST_F(ComboSearching, ThePointerShowsWhereAClickWouldGo)
 {
     scene.robot.type(L"err");

@@ -1,0 +1,12 @@
+/// Which GDI objects are alive, for the report of a run in which their number grew.
+#pragma once
+
+#include <map>
+#include <string>
+
+/// Descriptions of the living objects, such as "bitmap 16 x 16 x 32" or "brush 00ff00", and how many there
+/// are of each. Empty on Windows, which does not tell which objects a process has.
+std::map<std::string, int> gdiObjects();
+
+/// What there is more of in `now` than in `before`, one a line.
+std::string gdiGrowth(const std::map<std::string, int>& before, const std::map<std::string, int>& now);

@@ -1,0 +1,75 @@
+// Every control is created, shown, used and destroyed many times: nothing grows.
+//
+//   OVO_LIFE_CYCLES=10000 ./test_soak.exe --gtest_filter='*LifeCycle*'     1,000 by default
+#include "HeapCounter.h"
+#include "Lives.h"
+
+#include <testkit/GdiCounter.h>
+#include <testkit/GuiThread.h>
+#include <testkit/RecordingParent.h>
+#include <testkit/Watchdog.h>
+#include <testkit/WindowCounter.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
+
+using namespace ovo::testkit;
+
+namespace
+{
+
+constexpr int kWarm = 30; // what the system and the library keep is made by then
+/// Blocks that the system's own lists and caches may take meanwhile, whatever the number of cycles.
+constexpr int kSlack = 40;
+
+int cycles()
+{
+    const char* const text = std::getenv("OVO_LIFE_CYCLES");
+    return text && std::atoi(text) > 0 ? std::atoi(text) : 1000;
+}
+
+class LifeCycle : public ::testing::TestWithParam<Life>
+{
+};
+
+} // namespace
+
+TEST_P(LifeCycle, LeavesNothingBehind)
+{
+    RecordingParent parent;
+    parent.ShowWindow(SW_SHOWNOACTIVATE);
+    const auto growth = [&](const std::function<void(CWnd&)>& live, int times) {
+        const HeapCounter blocks;
+        for (int i = 0; i < times; ++i) {
+            live(parent);
+            parent.log().clear();
+            if (i % 50 == 0)
+                Watchdog::progress();
+        }
+        GuiThread::settle();
+        return blocks.grown();
+    };
+    const int times = std::max(1, cycles() / GetParam().share);
+    growth(GetParam().live, kWarm);
+    const int platform = GetParam().platform ? growth(GetParam().platform, times) : 0;
+    const GdiCounter gdi;
+    const WindowCounter windows;
+    EXPECT_LE(growth(GetParam().live, times), platform + kSlack);
+    EXPECT_LE(gdi.grown(), 0);
+    EXPECT_EQ(windows.grown(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Controls, LifeCycle, ::testing::ValuesIn(lives()),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(LifeCycleCounter, SeesABlockThatStays)
+{
+    const HeapCounter blocks;
+    void* const kept = ::HeapAlloc(::GetProcessHeap(), 0, 100);
+    EXPECT_EQ(blocks.grown(), 1);
+    ::HeapFree(::GetProcessHeap(), 0, kept);
+    EXPECT_EQ(blocks.grown(), 0);
+}

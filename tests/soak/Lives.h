@@ -1,0 +1,21 @@
+/// The library's controls, each with a life to live: created, shown, used and destroyed.
+#pragma once
+
+#include <afxwin.h>
+
+#include <functional>
+#include <iosfwd>
+#include <vector>
+
+struct Life
+{
+    const char* name;
+    int share; ///< one of so many cycles: lives that take long are lived less often
+    std::function<void(CWnd& parent)> live;
+    /// The same without the library, for windows that the system itself does not clean up.
+    std::function<void(CWnd& parent)> platform{};
+};
+
+void PrintTo(const Life& life, std::ostream* out);
+
+const std::vector<Life>& lives();

@@ -1,0 +1,216 @@
+// The gallery under random inputs: no crash, hang or exception, and what is alive does not grow.
+//
+//   OVO_SOAK_STEPS=1000000 OVO_SEED=7 ./test_soak.exe     as many inputs as wanted, 2,000 by default
+#include "Driver.h"
+#include "GdiTypes.h"
+#include "HeapCounter.h"
+#include "gallery/GalleryScene.h"
+
+#include <testkit/GdiCounter.h>
+#include <testkit/GuiThread.h>
+#include <testkit/ImportPatch.h>
+#include <testkit/MemoryCounter.h>
+#include <testkit/TemporaryProfile.h>
+#include <testkit/TestApp.h>
+#include <testkit/Watchdog.h>
+#include <testkit/WindowCounter.h>
+
+#include <shellapi.h>
+#include <shlwapi.h>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <iterator>
+
+using namespace ovo::testkit;
+using namespace std::chrono_literals;
+
+namespace
+{
+
+constexpr int kBatch = 250; // inputs, after which everything is closed and counted
+constexpr int kWarm = 1000; // inputs, by which the system has made most of what it keeps
+/// What may come later, however long the run: cursors, fonts and system brushes that are shown for the first
+/// time and shared from then on. A page or a control that keeps an object each time exceeds it soon.
+constexpr int kLateObjects = 40;
+constexpr int kLateWindows = 4;
+constexpr long long kBytesPerInput = 400; ///< see docs/testing.md for what takes them
+
+int numberFrom(const char* variable, int otherwise)
+{
+    const char* const text = std::getenv(variable);
+    return text && std::atoi(text) > 0 ? std::atoi(text) : otherwise;
+}
+
+/// What is alive when nothing but the first page is open.
+struct Count
+{
+    int gdi;
+    int windows;
+    int blocks;      ///< on the heaps
+    long long bytes; ///< on the heaps
+    std::map<std::string, int> objects;
+};
+
+Count count()
+{
+    return {GdiCounter::live(), WindowCounter::live(), HeapCounter::live(),
+            static_cast<long long>(MemoryCounter::live()), gdiObjects()};
+}
+
+BOOL WINAPI openNothing(SHELLEXECUTEINFOW*)
+{
+    return TRUE;
+}
+
+const Driver* g_driver = nullptr;
+
+/// The calls that led here, as modules and offsets.
+void printStack()
+{
+    void* frames[40];
+    const WORD count = ::CaptureStackBackTrace(0, static_cast<DWORD>(std::size(frames)), frames, nullptr);
+    for (WORD i = 0; i < count; ++i) {
+        HMODULE module = nullptr;
+        wchar_t path[MAX_PATH] = L"?";
+        if (::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                                     GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                                 static_cast<const wchar_t*>(frames[i]), &module))
+            ::GetModuleFileNameW(module, path, MAX_PATH);
+        const auto offset =
+            reinterpret_cast<std::uintptr_t>(frames[i]) - reinterpret_cast<std::uintptr_t>(module);
+        std::fprintf(stderr, "  %ls+0x%llx\n", ::PathFindFileNameW(path),
+                     static_cast<unsigned long long>(offset));
+    }
+}
+
+void tellStory(const char* what)
+{
+    std::fprintf(stderr, "%s; %s", what, g_driver ? g_driver->story().c_str() : "");
+    printStack();
+    std::fflush(stderr);
+}
+
+/// Says what led to a crash, which then goes its way.
+LONG WINAPI onCrash(EXCEPTION_POINTERS*)
+{
+    tellStory("a crash");
+    return EXCEPTION_CONTINUE_SEARCH;
+}
+
+void onAbort(int)
+{
+    tellStory("the program gives up");
+}
+
+void printReach(const char* title, const std::map<std::wstring, int>& reached)
+{
+    std::printf("%s:", title);
+    for (const auto& [name, times] : reached)
+        std::printf(" %ls %d", name.c_str(), times);
+    std::printf("\n");
+}
+
+void printCounts(const std::vector<Count>& counts)
+{
+    for (size_t i : {size_t{0}, counts.size() / 3, counts.size() - 1})
+        std::printf("after %zu inputs: %d GDI objects, %d windows, %d blocks with %lld bytes\n",
+                    (i + 1) * kBatch, counts[i].gdi, counts[i].windows, counts[i].blocks, counts[i].bytes);
+}
+
+/// What is alive stays as it was when the run was warm.
+void expectFlat(const std::vector<Count>& counts)
+{
+    constexpr size_t kWarmCount = kWarm / kBatch;
+    ASSERT_GT(counts.size(), kWarmCount) << "the run is too short to say";
+    const Count& warm = counts[kWarmCount - 1];
+    const Count& last = counts.back();
+    EXPECT_LE(last.gdi, warm.gdi + kLateObjects) << gdiGrowth(warm.objects, last.objects);
+    EXPECT_LE(last.windows, warm.windows + kLateWindows);
+    const auto inputs = static_cast<long long>((counts.size() - kWarmCount) * kBatch);
+    std::printf("%lld bytes more for each input since it was warm\n%s", (last.bytes - warm.bytes) / inputs,
+                gdiGrowth(warm.objects, last.objects).c_str());
+    EXPECT_LE(last.bytes, warm.bytes + inputs * kBytesPerInput);
+}
+
+class Soak : public ::testing::Test
+{
+protected:
+    Soak() { TestApp::instance().showBoxes(); }
+    ~Soak() override
+    {
+        ::SetUnhandledExceptionFilter(nullptr);
+        std::signal(SIGABRT, SIG_DFL);
+    }
+
+    /// One batch, then the first page alone.
+    bool batch(GalleryScene& scene, Driver& driver, int steps)
+    {
+        driver.begin(steps);
+        for (int second = 0; second < 120; ++second) {
+            Watchdog::progress();
+            if (GuiThread::runUntil([&] { return driver.isOver(); }, 1s))
+                break;
+        }
+        const bool over = driver.isOver();
+        driver.stop();
+        if (!over || !scene.isOpen())
+            return false;
+        scene.frame().openPage(pageTable().front());
+        GuiThread::settle();
+        return true;
+    }
+
+    TemporaryProfile m_profile;
+    const ImportPatch m_noBrowser{L"ovoui.dll", "ShellExecuteExW", reinterpret_cast<void*>(&openNothing)};
+};
+
+} // namespace
+
+TEST_F(Soak, TheGalleryStandsRandomInputs)
+{
+    const int steps = numberFrom("OVO_SOAK_STEPS", 2000);
+    const unsigned seed = static_cast<unsigned>(numberFrom("OVO_SEED", 1));
+    std::printf("seed %u, %d inputs\n", seed, steps);
+    std::fflush(stdout);
+
+    GalleryScene scene;
+    Driver driver(scene.frame(), seed);
+    g_driver = &driver;
+    driver.whenStuck = [] { tellStory("what is open cannot be closed"); };
+    ::SetUnhandledExceptionFilter(&onCrash);
+    std::signal(SIGABRT, &onAbort);
+    std::vector<Count> counts;
+    const ULONGLONG begin = ::GetTickCount64();
+    try {
+        for (int done = 0; done < steps; done += kBatch) {
+            ASSERT_TRUE(batch(scene, driver, kBatch)) << "what is open cannot be closed; " << driver.story();
+            counts.push_back(count());
+            std::printf("%d inputs, %llu s\n", done + kBatch, (::GetTickCount64() - begin) / 1000);
+            std::fflush(stdout);
+        }
+    } catch (const std::exception& error) {
+        FAIL() << "an exception: " << error.what() << "; " << driver.story();
+    } catch (CException* error) {
+        error->Delete();
+        FAIL() << "an exception of the framework; " << driver.story();
+    }
+    g_driver = nullptr;
+
+    const Reach& reach = driver.reach();
+    printReach("pages", reach.pages);
+    printReach("controls", reach.controls);
+    printReach("inputs", reach.actions);
+    std::printf("inputs while a dialog, box or menu was open: %d\n", reach.modal);
+    if (steps >= 3000) {
+        EXPECT_EQ(reach.pages.size(), pageTable().size()) << "a page was not reached";
+    }
+    EXPECT_GT(reach.modal, steps / 50);
+
+    printCounts(counts);
+    expectFlat(counts);
+}
