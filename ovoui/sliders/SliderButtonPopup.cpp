@@ -85,7 +85,8 @@ void CSliderButton::dismissFor(HWND pressed)
 void CSliderButton::cancelPopup()
 {
     const Lifeline::Watch watch(*this);
-    if (m_parts->buddy.exists() && readBuddy() != m_parts->textBefore) {
+    const bool isOpen = m_parts->pressed; // otherwise the text before is that of another time
+    if (isOpen && m_parts->buddy.exists() && readBuddy() != m_parts->textBefore) {
         setBuddyText(std::wstring(m_parts->textBefore));
         if (!watch.alive() || !tellParent(kValueChanged))
             return;

@@ -905,6 +905,19 @@ TEST_F(SliderButton, AHostMayDeleteItInAConversion)
     }
 }
 
+TEST_F(SliderButton, CancellingWithoutAPopupLeavesTheText)
+{
+    setBuddyText(L"5");
+    show();
+    button->cancelPopup();
+    EXPECT_EQ(buddyText(), L"5");
+    open();
+    button->cancelPopup();
+    setBuddyText(L"7");
+    button->cancelPopup();
+    EXPECT_EQ(buddyText(), L"7");
+}
+
 TEST_F(SliderButton, WhatAConversionThrowsReachesTheHostAndTheButtonStaysUsable)
 {
     button->SetType(CSliderButton::SliderLinear);

@@ -21,7 +21,8 @@ using namespace ovo::testkit;
 namespace
 {
 
-constexpr int kWarm = 30; // what the system and the library keep is made by then
+constexpr int kWarm = 30;      // what the system and the library keep is made by then
+constexpr int kWarmLeast = 10; // for lives that take long
 /// Blocks that the system's own lists and caches may take meanwhile, whatever the number of cycles.
 constexpr int kSlack = 40;
 
@@ -53,7 +54,7 @@ TEST_P(LifeCycle, LeavesNothingBehind)
         return blocks.grown();
     };
     const int times = std::max(1, cycles() / GetParam().share);
-    growth(GetParam().live, kWarm);
+    growth(GetParam().live, std::min(kWarm, std::max(kWarmLeast, times)));
     const int platform = GetParam().platform ? growth(GetParam().platform, times) : 0;
     const GdiCounter gdi;
     const WindowCounter windows;
