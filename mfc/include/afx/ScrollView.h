@@ -4,6 +4,8 @@
 #include <afx/View.h>
 #include <atltypes.h>
 
+class CBrush;
+
 /// Scrolls by its scroll bars, which come and go as needed, and by the wheel. OnPrepareDC moves the origin,
 /// so OnDraw draws as if everything were seen.
 ///
