@@ -309,3 +309,20 @@ TEST(ListHelpersTogether, AnotherListReplacesTheOneOfBefore)
     EXPECT_FALSE(helped.tips->Window());
     other.DestroyWindow();
 }
+
+TEST(ListHelpersTogether, TheListOfBeforeForgetsTheOneThatWentToAnother)
+{
+    Helped helped;
+    List other;
+    other.Create(WS_CHILD, CRect(0, 0, 50, 50), &helped.scene.parent, 9);
+    alignas(COVOListCellTips) std::byte room[sizeof(COVOListCellTips)];
+    auto* const moved = new (room) COVOListCellTips;
+    moved->Attach(helped.scene.list);
+    moved->Attach(other);
+    moved->~COVOListCellTips();
+    std::fill(std::begin(room), std::end(room), std::byte{0xDD});
+    helped.scene.list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(helped.middle.x, helped.middle.y));
+    ASSERT_TRUE(helped.tips->Window()) << "the list's own helper still hears of the pointer";
+    EXPECT_TRUE(::IsWindowVisible(helped.tips->Window()));
+    other.DestroyWindow();
+}

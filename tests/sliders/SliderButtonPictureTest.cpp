@@ -131,7 +131,7 @@ TEST_F(SliderButtonPicture, TheThemedFaceIsThatOfAPushButton)
         const Picture face = themedFace(state);
         for (int y = 0; y < picture.height(); ++y)
             for (int x = 0; x < kLeftOfArrow; ++x)
-                EXPECT_THAT(picture.at(x, y), IsColour(face.at(x, y), 1))
+                EXPECT_THAT(picture.at(x, y), IsColour(face.at(x, y)))
                     << "state " << state << " at " << x << ", " << y;
     };
     expectFace(PBS_NORMAL);
