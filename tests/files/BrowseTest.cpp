@@ -412,6 +412,25 @@ std::wstring chosenFolder()
     return item.hItem && ::SendMessageW(host, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item)) ? text : L"";
 }
 
+/// Sets the time at which a folder was read last so far ahead that reading it does not change it. Wine's
+/// folder dialog finds a folder only while its times stay the same.
+void keepTimes(const std::wstring& folder)
+{
+    constexpr ULONGLONG kHour = 60ULL * 60 * 10'000'000;
+    FILETIME now{};
+    ::GetSystemTimeAsFileTime(&now);
+    ULARGE_INTEGER time{};
+    time.LowPart = now.dwLowDateTime;
+    time.HighPart = now.dwHighDateTime;
+    time.QuadPart += kHour;
+    const FILETIME ahead{time.LowPart, time.HighPart};
+    const HANDLE handle =
+        ::CreateFileW(folder.c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                      OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    EXPECT_TRUE(::SetFileTime(handle, nullptr, &ahead, nullptr));
+    ::CloseHandle(handle);
+}
+
 std::wstring nameOfPath(const std::wstring& path)
 {
     return path.substr(path.find_last_of(L'\\') + 1);
@@ -548,6 +567,7 @@ TEST_F(BrowseTest, AFolderThatMayNotBeReadIsBegunInWithoutItsFiles)
     EXPECT_EQ(paths, std::vector<std::wstring>{L"as before"});
     EXPECT_GT(Disk::refusals, 0);
 
+    keepTimes(files.path(L"below"));
     Disk::refusals = 0;
     wchar_t path[MAX_PATH]{};
     ::lstrcpynW(path, files.path(L"below").c_str(), MAX_PATH);
@@ -600,6 +620,7 @@ TEST_F(BrowseTest, AFolderOfAShareIsBegunIn)
 
 TEST_F(BrowseTest, AFolderIsChosenByTheUser)
 {
+    keepTimes(files.path(L"below"));
     wchar_t path[MAX_PATH];
     ::lstrcpynW(path, files.path(L"below\\gone").c_str(), MAX_PATH);
     auto answering = whenAsked()
@@ -612,6 +633,7 @@ TEST_F(BrowseTest, AFolderIsChosenByTheUser)
 
 TEST_F(BrowseTest, AFolderCanBeLeftUnchosen)
 {
+    keepTimes(files.folder());
     CWnd parent;
     parent.CreateEx(0, AfxRegisterWndClass(0), L"Parent", WS_POPUP | WS_VISIBLE, 0, 0, 300, 200, nullptr,
                     nullptr);
