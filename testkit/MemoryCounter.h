@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Growth.h"
+
 #include <cstddef>
 
 namespace ovo::testkit
@@ -13,17 +15,11 @@ namespace ovo::testkit
 ///     for (int i = 0; i < 1000; ++i)
 ///         openAndClose();
 ///     EXPECT_LT(memory.grown(), 1000 * 16);
-class MemoryCounter
+class MemoryCounter : public Growth<MemoryCounter, long long>
 {
 public:
     /// How much there is now.
     static std::size_t live();
-
-    /// How much more there is than when this object was made; negative for less.
-    long long grown() const { return static_cast<long long>(live()) - static_cast<long long>(m_start); }
-
-private:
-    std::size_t m_start = live();
 };
 
 } // namespace ovo::testkit

@@ -136,54 +136,52 @@ void Stage::glideBy(CSize distance)
     glideTo(Spot{pointer() + distance});
 }
 
+template <class... Parameters>
+void Stage::send(void (Input::*act)(Parameters...), std::type_identity_t<Parameters>... what)
+{
+    (m_input.*act)(what...);
+    awaitInputTaken();
+}
+
 void Stage::press(Button button)
 {
-    m_input.press(button);
-    awaitInputTaken();
+    send(&Input::press, button);
 }
 
 void Stage::release(Button button)
 {
-    m_input.release(button);
-    awaitInputTaken();
+    send(&Input::release, button);
 }
 
 void Stage::doubleClick(Button button)
 {
-    m_input.doubleClick(button);
-    awaitInputTaken();
+    send(&Input::doubleClick, button);
 }
 
 void Stage::turnWheel(int notches)
 {
-    m_input.turnWheel(notches);
-    awaitInputTaken();
+    send(&Input::turnWheel, notches);
 }
 
 void Stage::keyDown(WORD virtualKey)
 {
-    m_input.keyDown(virtualKey);
-    awaitInputTaken();
+    send(&Input::keyDown, virtualKey);
 }
 
 void Stage::keyUp(WORD virtualKey)
 {
-    m_input.keyUp(virtualKey);
-    awaitInputTaken();
+    send(&Input::keyUp, virtualKey);
 }
 
 void Stage::type(const std::wstring& text)
 {
-    for (const wchar_t character : text) {
-        m_input.character(character);
-        awaitInputTaken();
-    }
+    for (const wchar_t character : text)
+        send(&Input::character, character);
 }
 
 void Stage::letGo()
 {
-    m_input.releaseAll();
-    awaitInputTaken();
+    send(&Input::releaseAll);
 }
 
 void Stage::escape()

@@ -6,6 +6,7 @@
 #include <chrono>
 #include <functional>
 #include <string>
+#include <type_traits>
 
 namespace ovo::testkit
 {
@@ -55,6 +56,9 @@ public:
 
 private:
     static bool holdsWithin(const std::function<bool()>& condition, Limit limit);
+    /// Does something with the hands, and waits until that has been taken.
+    template <class... Parameters>
+    void send(void (Input::*act)(Parameters...), std::type_identity_t<Parameters>... what);
     void jumpTo(CPoint point);
     void awaitInputTaken();
     void keepHeldKeysDown();

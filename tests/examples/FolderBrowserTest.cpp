@@ -2,6 +2,9 @@
 #include "ExampleScene.h"
 #include "folder-browser/resource.h"
 
+#include <ovouires/resource.h>
+
+#include <testkit/Clipboard.h>
 #include <testkit/TemporaryFiles.h>
 
 #include <commctrl.h>
@@ -57,12 +60,12 @@ protected:
     std::wstring copiedNames()
     {
         std::wstring text;
-        ::OpenClipboard(nullptr);
-        ::EmptyClipboard();
-        ::CloseClipboard();
+        emptyClipboard();
         m_program->tryUntil(
             "the paths", [this] { copy(); },
-            [&] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) && !(text = clipboard()).empty(); });
+            [&] {
+                return ::IsClipboardFormatAvailable(CF_UNICODETEXT) && !(text = clipboardText()).empty();
+            });
         std::wstring names;
         for (std::size_t at = 0, end; (end = text.find(L"\r\n", at)) != std::wstring::npos; at = end + 2)
             names += text.substr(at, end - at).substr(folder().size() + 1) + L' ';
@@ -73,19 +76,6 @@ protected:
     {
         ::SetForegroundWindow(m_program->main());
         m_program->chord({VK_CONTROL, VK_SHIFT}, 'C');
-    }
-
-    static std::wstring clipboard()
-    {
-        std::wstring text;
-        if (!::OpenClipboard(nullptr))
-            return text;
-        if (const HANDLE data = ::GetClipboardData(CF_UNICODETEXT)) {
-            text = static_cast<const wchar_t*>(::GlobalLock(data));
-            ::GlobalUnlock(data);
-        }
-        ::CloseClipboard();
-        return text;
     }
 
     void close()
@@ -159,8 +149,16 @@ TEST_F(FolderBrowser, TellsAboutTheMachine)
     m_program->key(VK_F6);
     m_program->key(VK_END);
     m_program->key(VK_RETURN);
-    m_program->waitFor("the dialog", [this] { return !::IsWindowEnabled(m_program->main()); });
+    const HWND dialog = m_program->window(L"System Information");
+    EXPECT_EQ(::GetWindow(dialog, GW_OWNER), m_program->main());
+    EXPECT_FALSE(::IsWindowEnabled(m_program->main()));
+    const std::wstring text = textOf(dialog, IDC_SYSTEM_INFO_TEXT);
+    EXPECT_TRUE(text.starts_with(L"System: ")) << "the machine comes first";
+    EXPECT_NE(text.find(L" processors\r\n"), std::wstring::npos);
+    EXPECT_NE(text.find(L"dots per inch, primary\r\n"), std::wstring::npos);
+    EXPECT_NE(text.find(L"\r\nfolder-browser.exe\t"), std::wstring::npos) << "then come the modules";
     m_program->key(VK_ESCAPE);
     m_program->waitFor("its end", [this] { return ::IsWindowEnabled(m_program->main()) != FALSE; });
+    EXPECT_FALSE(m_program->shows(L"System Information"));
     close();
 }

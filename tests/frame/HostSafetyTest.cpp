@@ -6,6 +6,7 @@
 #include <ovoui/frame/RedrawHold.h>
 #include <ovoui/frame/SharedState.h>
 
+#include <testkit/ImportPatch.h>
 #include <testkit/RecordingParent.h>
 #include <testkit/TemporaryProfile.h>
 
@@ -13,6 +14,7 @@
 
 #include <cstring>
 #include <memory>
+#include <vector>
 
 using namespace ovoui::frame;
 using namespace ovo::testkit;
@@ -127,15 +129,54 @@ TEST(RedrawHold, LeavesAHiddenWindowHidden)
     EXPECT_FALSE(control.GetStyle() & WS_VISIBLE);
 }
 
+namespace
+{
+
+std::vector<WPARAM> s_held; ///< what windows were told of drawing
+
+template <class Function>
+Function* systems(const char* name)
+{
+    return reinterpret_cast<Function*>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"user32.dll"), name)));
+}
+
+void note(UINT message, WPARAM wParam)
+{
+    if (message == WM_SETREDRAW)
+        s_held.push_back(wParam);
+}
+
+LRESULT WINAPI sendNoted(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    note(message, wParam);
+    return systems<decltype(::SendMessageW)>("SendMessageW")(window, message, wParam, lParam);
+}
+
+LRESULT WINAPI defaultNoted(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    note(message, wParam);
+    return systems<decltype(::DefWindowProcW)>("DefWindowProcW")(window, message, wParam, lParam);
+}
+
+} // namespace
+
 TEST(RedrawHold, TheWindowMayGoMeanwhile)
 {
     RecordingParent parent;
-    for (const RedrawHold::By by :
-         {RedrawHold::By::System, RedrawHold::By::Control, RedrawHold::By::ControlThenAll}) {
+    parent.ShowWindow(SW_SHOW);
+    const ImportPatch byControl(nullptr, "SendMessageW", reinterpret_cast<void*>(&sendNoted));
+    const ImportPatch bySystem(nullptr, "DefWindowProcW", reinterpret_cast<void*>(&defaultNoted));
+    for (const RedrawHold::By by : {RedrawHold::By::System, RedrawHold::By::Control}) {
         CStatic control;
         control.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), &parent, 5);
-        const RedrawHold hold(control, by);
-        control.DestroyWindow();
+        s_held.clear();
+        {
+            const RedrawHold hold(control, by);
+            EXPECT_EQ(s_held, std::vector<WPARAM>{FALSE});
+            control.DestroyWindow();
+        }
+        EXPECT_EQ(s_held, std::vector<WPARAM>{FALSE}) << "a window that has gone is told nothing";
     }
 }
 

@@ -1,34 +1,11 @@
 // The text of the message box: line ends, selecting, copying.
 #include "MessageBoxScene.h"
 
+#include <testkit/Clipboard.h>
+
 #include <gtest/gtest.h>
 
 using namespace ovo::testkit;
-
-namespace
-{
-
-std::wstring clipboardText()
-{
-    std::wstring text;
-    if (!::OpenClipboard(nullptr))
-        return L"(the clipboard cannot be opened)";
-    if (const HANDLE data = ::GetClipboardData(CF_UNICODETEXT)) {
-        text = static_cast<const wchar_t*>(::GlobalLock(data));
-        ::GlobalUnlock(data);
-    }
-    ::CloseClipboard();
-    return text;
-}
-
-void emptyClipboard()
-{
-    ASSERT_TRUE(::OpenClipboard(nullptr));
-    ::EmptyClipboard();
-    ::CloseClipboard();
-}
-
-} // namespace
 
 TEST(MessageBoxText, EveryKindOfLineEndStartsANewLine)
 {

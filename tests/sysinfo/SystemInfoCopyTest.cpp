@@ -1,5 +1,6 @@
 // What the system information dialog leaves on the clipboard, and how long it stays there.
 #include "ShownModules.h"
+#include <testkit/Clipboard.h>
 #include <testkit/Desktop.h>
 #include <testkit/ImportPatch.h>
 #include <testkit/Robot.h>
@@ -14,20 +15,6 @@ using namespace ovo::testkit;
 
 namespace
 {
-
-/// The text on the clipboard; empty when there is none.
-std::wstring clipboardText()
-{
-    std::wstring text;
-    if (!::OpenClipboard(nullptr))
-        return text;
-    if (const HANDLE data = ::GetClipboardData(CF_UNICODETEXT)) {
-        text = static_cast<const wchar_t*>(::GlobalLock(data));
-        ::GlobalUnlock(data);
-    }
-    ::CloseClipboard();
-    return text;
-}
 
 void copyByCommand(Shown& shown)
 {

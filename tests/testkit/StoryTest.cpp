@@ -58,6 +58,22 @@ private:
     CButton m_button;
 };
 
+/// Acts a story in a box, where it then waits for what never comes. Gives the answer of the box.
+int answerOfTheBoxThatIsStuck(Story story)
+{
+    int answer = 0;
+    EXPECT_NONFATAL_FAILURE(
+        {
+            auto acting = story
+                              .waitFor(
+                                  "what never comes", [] { return false; }, 20ms)
+                              .start();
+            answer = AfxMessageBox(L"Stuck", MB_OKCANCEL);
+        },
+        "what never comes");
+    return answer;
+}
+
 } // namespace
 
 TEST(Story, AnswersAModalDialogThatTheTestOpensAfterwards)
@@ -183,19 +199,9 @@ TEST(Story, FailureClosesTheDialogThatTheTestIsIn)
 {
     Robot robot;
     TestApp::instance().showBoxes();
-    int answer = 0;
 
-    EXPECT_NONFATAL_FAILURE(
-        {
-            auto answering = robot.waitFor("the box", [] { return shownDialog() != nullptr; })
-                                 .waitFor(
-                                     "what never comes", [] { return false; }, 20ms)
-                                 .start();
-            answer = AfxMessageBox(L"Stuck", MB_OKCANCEL);
-        },
-        "what never comes");
-
-    EXPECT_EQ(answer, IDCANCEL);
+    EXPECT_EQ(answerOfTheBoxThatIsStuck(robot.waitFor("the box", [] { return shownDialog() != nullptr; })),
+              IDCANCEL);
 }
 
 TEST(Story, FailureClosesTheMenuThatTheTestIsIn)
@@ -224,26 +230,16 @@ TEST(Story, FailureEndsTheMoveThatTheTestIsIn)
 {
     Robot robot;
     TestApp::instance().showBoxes();
-    int answer = 0;
     const auto title = [] {
         CRect box;
         ::GetWindowRect(shownDialog(), &box);
         return CPoint(box.CenterPoint().x, box.top + 10);
     };
 
-    EXPECT_NONFATAL_FAILURE(
-        {
-            auto moving = robot.waitFor("the box", [] { return shownDialog() != nullptr; })
-                              .press(title)
-                              .moveBy(40, 30)
-                              .waitFor(
-                                  "what never comes", [] { return false; }, 20ms)
-                              .start();
-            answer = AfxMessageBox(L"Stuck", MB_OKCANCEL);
-        },
-        "what never comes");
-
-    EXPECT_EQ(answer, IDCANCEL);
+    EXPECT_EQ(
+        answerOfTheBoxThatIsStuck(
+            robot.waitFor("the box", [] { return shownDialog() != nullptr; }).press(title).moveBy(40, 30)),
+        IDCANCEL);
 }
 
 TEST(Story, FailureAnswersTheBoxThatCannotBeCancelled)
