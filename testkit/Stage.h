@@ -56,7 +56,7 @@ public:
 
 private:
     static bool holdsWithin(const std::function<bool()>& condition, Limit limit);
-    /// Does something with the hands, and waits until that has been taken.
+    /// Does `act` with `what`, and waits until that has been taken.
     template <class... Parameters>
     void send(void (Input::*act)(Parameters...), std::type_identity_t<Parameters>... what);
     void jumpTo(CPoint point);
