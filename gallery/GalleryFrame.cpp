@@ -32,6 +32,7 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_COMMAND(ID_PAGE_NEXT, &GalleryFrame::OnNextPage)
     ON_COMMAND(ID_PAGE_PREVIOUS, &GalleryFrame::OnPreviousPage)
     ON_WM_SETFOCUS()
+    ON_MESSAGE(WM_NEXTDLGCTL, &GalleryFrame::OnNextControl)
     ON_MESSAGE(WM_DPICHANGED, &GalleryFrame::OnResolutionChanged)
     // toolbar
     ON_WM_ACTIVATEAPP() // an open flyout closes
@@ -78,6 +79,7 @@ BOOL GalleryFrame::OnCreateClient(LPCREATESTRUCT, CCreateContext*)
         return FALSE;
     static constexpr UINT kPanes[] = {ID_SEPARATOR, ID_INDICATOR_CAPS, ID_INDICATOR_NUM};
     m_statusBar.SetIndicators(kPanes, static_cast<int>(std::size(kPanes)));
+    noteResolution(m_hWnd, 0); // of a window before
     useResolution();
     makeRoomForPages();
     return TRUE;
@@ -87,7 +89,7 @@ bool GalleryFrame::createParts()
 {
     constexpr DWORD kLog = LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_VISIBLE | WS_CHILD;
     return m_pageList.create(*this, IDC_PAGE_LIST) && m_header.create(*this) &&
-           m_logLabel.Create(L"Notifica&tions:", WS_CHILD | WS_VISIBLE, CRect(), this) &&
+           m_logLabel.Create(L"&Journal of notifications:", WS_CHILD | WS_VISIBLE, CRect(), this) &&
            m_log.CWnd::CreateEx(WS_EX_CLIENTEDGE, L"LISTBOX", nullptr, kLog, CRect(), this, IDC_LOG) &&
            m_statusBar.Create(this) && createBars();
 }
@@ -157,12 +159,23 @@ void GalleryFrame::RecalcLayout(BOOL notify)
         m_page->MoveWindow(&at.page);
 }
 
-LRESULT GalleryFrame::OnResolutionChanged(WPARAM, LPARAM place)
+LRESULT GalleryFrame::OnResolutionChanged(WPARAM dots, LPARAM place)
 {
+    noteResolution(m_hWnd, LOWORD(dots));
     useResolution();
+    m_bar.SendMessage(WM_DPICHANGED, dots, place);
     MoveWindow(reinterpret_cast<const RECT*>(place));
     if (m_entry)
         openPage(*m_entry);
+    return 0;
+}
+
+/// What a dialog does when IsDialogMessage asks for it, as for the letter of a label. `next` is the control,
+/// or whether the one before is meant.
+LRESULT GalleryFrame::OnNextControl(WPARAM next, LPARAM direct)
+{
+    ::SetFocus(LOWORD(direct) ? reinterpret_cast<HWND>(next)
+                              : ::GetNextDlgTabItem(m_hWnd, ::GetFocus(), next != 0));
     return 0;
 }
 

@@ -73,6 +73,7 @@ protected:
     afx_msg void OnSetFocus(CWnd* old);
     afx_msg void OnActivateApp(BOOL active, DWORD thread);
     afx_msg LRESULT OnResolutionChanged(WPARAM dots, LPARAM place);
+    afx_msg LRESULT OnNextControl(WPARAM next, LPARAM direct);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -1,5 +1,6 @@
 #include "GalleryPage.h"
 
+#include "DialogResolution.h"
 #include "NotificationNames.h"
 #include "Resolution.h"
 
@@ -12,7 +13,7 @@ GalleryPage::~GalleryPage() = default;
 
 bool GalleryPage::open(CWnd& parent, Log log)
 {
-    if (!Create(m_lpszTemplateName, &parent))
+    if (!createAtResolution(*this, LOWORD(m_lpszTemplateName), parent))
         return false;
     m_log = std::move(log);
     return true;

@@ -7,14 +7,23 @@ namespace
 
 constexpr int kUsual = 96;
 
-using GetDpiForWindow = UINT(WINAPI*)(HWND);
-
-// Windows before 10 has one resolution for all monitors, and no such function.
-GetDpiForWindow lookUp()
+// Windows before 10 has one resolution for all monitors, and no such functions.
+template <class Function>
+Function lookUp(const char* name)
 {
-    const FARPROC found = ::GetProcAddress(::GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
-    return reinterpret_cast<GetDpiForWindow>(reinterpret_cast<void*>(found));
+    const FARPROC found = ::GetProcAddress(::GetModuleHandleW(L"user32.dll"), name);
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(found));
 }
+
+using GetDpiForWindow = UINT(WINAPI*)(HWND);
+using GetAwareness = DPI_AWARENESS_CONTEXT(WINAPI*)(HWND);
+using CompareAwareness = BOOL(WINAPI*)(DPI_AWARENESS_CONTEXT, DPI_AWARENESS_CONTEXT);
+
+struct Told
+{
+    HWND window = nullptr;
+    int dots = 0;
+} told;
 
 int dotsPerInchOfSystem()
 {
@@ -28,9 +37,27 @@ int dotsPerInchOfSystem()
 
 int dotsPerInch(HWND window)
 {
-    static const GetDpiForWindow ofWindow = lookUp();
+    if (told.dots && ::GetAncestor(window, GA_ROOT) == told.window)
+        return told.dots;
+    static const auto ofWindow = lookUp<GetDpiForWindow>("GetDpiForWindow");
     const UINT dots = ofWindow ? ofWindow(window) : 0;
     return dots ? static_cast<int>(dots) : dotsPerInchOfSystem();
+}
+
+void noteResolution(HWND window, int dots)
+{
+    told = {window, dots};
+}
+
+// Only programs that know monitors of different resolution in the second way have dialogs that follow.
+int dotsOfDialogs(HWND parent)
+{
+    static const auto ofWindow = lookUp<GetDpiForWindow>("GetDpiForWindow");
+    static const auto awarenessOf = lookUp<GetAwareness>("GetWindowDpiAwarenessContext");
+    static const auto areEqual = lookUp<CompareAwareness>("AreDpiAwarenessContextsEqual");
+    const bool follow = ofWindow && awarenessOf && areEqual &&
+                        areEqual(awarenessOf(parent), DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+    return follow ? static_cast<int>(ofWindow(parent)) : dotsPerInchOfSystem();
 }
 
 int scaled(HWND window, int length)

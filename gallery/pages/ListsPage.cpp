@@ -7,6 +7,7 @@
 #include <ovoui/lists/ListLayout.h>
 
 #include <array>
+#include <initializer_list>
 
 BEGIN_MESSAGE_MAP(ListsPage, GalleryPage)
     ON_BN_CLICKED(IDC_LISTS_ROW_COLOURS, &ListsPage::OnRowColours)
@@ -91,6 +92,8 @@ BOOL ListsPage::OnInitDialog()
         m_millionFinder.Attach(m_million);
     }
     CheckDlgButton(IDC_LISTS_ROW_COLOURS, BST_CHECKED);
+    for (CListCtrl* const list : std::initializer_list<CListCtrl*>{&m_colours, &m_processes, &m_million})
+        list->SetItemState(0, LVIS_FOCUSED, LVIS_FOCUSED); // so that the focus is seen when Tab leads there
     arrange();
     return FALSE;
 }

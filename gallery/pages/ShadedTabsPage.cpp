@@ -1,5 +1,7 @@
 #include "ShadedTabsPage.h"
 
+#include "DialogResolution.h"
+
 #include "Resolution.h"
 
 #include <ovoui/frame/TabKeys.h>
@@ -26,7 +28,7 @@ bool TabContent::open(CTabCtrl& tabs)
     if (m_hWnd)
         DestroyWindow();
     const bool isFirst = tabs.GetCurSel() == 0;
-    if (!Create(isFirst ? IDD_TAB_CONTENT : IDD_MORE_TAB_CONTENT, &tabs))
+    if (!createAtResolution(*this, isFirst ? IDD_TAB_CONTENT : IDD_MORE_TAB_CONTENT, tabs))
         return false;
     if (isFirst)
         fill();
@@ -60,6 +62,7 @@ void TabContent::fill()
         rows.InsertItem(row++, name);
         tree.InsertItem(name, root);
     }
+    rows.SetItemState(0, LVIS_FOCUSED, LVIS_FOCUSED);
     rows.Detach();
     tree.Detach();
     SendDlgItemMessage(IDC_CONTENT_KIND, CB_SETCURSEL, 1);
