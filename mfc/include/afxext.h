@@ -5,10 +5,13 @@
 
 #include <afxwin.h>
 
+#include <afx/BitmapButton.h>
 #include <afx/ControlBar.h>
 #include <afx/DialogBar.h>
 #include <afx/DockBar.h>
 #include <afx/DockState.h>
+#include <afx/EditView.h>
+#include <afx/FormView.h>
 #include <afx/MiniDockFrameWnd.h>
 #include <afx/StatusBar.h>
 #include <afx/ToolBar.h>

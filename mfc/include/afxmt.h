@@ -1,5 +1,4 @@
-// Threads: starting them, and how they wait for each other: critical sections, mutexes, semaphores, events,
-// locks.
+// How threads wait for each other: critical sections, mutexes, semaphores, events, locks.
 #ifndef __AFXMT_H__
 #define __AFXMT_H__
 #pragma once
@@ -7,6 +6,5 @@
 #include <afxwin.h>
 
 #include <afx/Sync.h>
-#include <afx/Threads.h>
 
 #endif // __AFXMT_H__

@@ -17,10 +17,13 @@
 
 #include <afx/CmdUI.h>
 #include <afx/Controls.h>
+#include <afx/CtrlView.h>
 #include <afx/DataExchange.h>
 #include <afx/Dialog.h>
 #include <afx/FrameWnd.h>
 #include <afx/MiniFrameWnd.h>
+#include <afx/ScrollView.h>
+#include <afx/Threads.h>
 #include <afx/View.h>
 #include <afx/WinApp.h>
 #include <afx/WinThread.h>

@@ -5,10 +5,11 @@
 
 #include <afx/Platform.h>
 
-class CPoint;
+// CRect gives its corners as references to points, so these may be read and written through other types.
+class __attribute__((may_alias)) CPoint;
 class CRect;
 
-class CSize : public SIZE
+class __attribute__((may_alias)) CSize : public SIZE
 {
 public:
     CSize() { cx = cy = 0; }
@@ -33,7 +34,7 @@ public:
     CRect operator-(const RECT* rect) const;
 };
 
-class CPoint : public POINT
+class __attribute__((may_alias)) CPoint : public POINT
 {
 public:
     CPoint() { x = y = 0; }

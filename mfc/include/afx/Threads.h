@@ -9,7 +9,7 @@ using AFX_THREADPROC = UINT(AFX_CDECL*)(LPVOID parameter);
 /// Starts a worker thread that calls `procedure`. Null on failure.
 ///
 /// The object deletes itself at the thread's end: to keep it, start the thread with CREATE_SUSPENDED, set its
-/// m_bAutoDelete to FALSE, and let it run with ::ResumeThread(thread->m_hThread). The handle goes with the
+/// m_bAutoDelete to FALSE, and let it run with thread->ResumeThread(). The handle goes with the
 /// object.
 ///
 /// Objects that stand for windows, device contexts, GDI objects, menus and image lists belong to the thread

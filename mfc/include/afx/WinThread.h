@@ -38,6 +38,12 @@ public:
     /// A message of a menu or a dialog's loop: `code` is MSGF_...
     virtual BOOL ProcessMessageFilter(int code, LPMSG message);
 
+    operator HANDLE() const { return m_hThread; }
+    DWORD SuspendThread(); ///< The suspend count of before, 0xFFFFFFFF on failure.
+    DWORD ResumeThread();  ///< Likewise. With m_bAutoDelete the object may be gone when this returns.
+    int GetThreadPriority();
+    BOOL SetThreadPriority(int priority); ///< THREAD_PRIORITY_...
+
     BOOL PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
 protected:

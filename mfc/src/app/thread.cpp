@@ -200,6 +200,26 @@ BOOL CWinThread::ProcessMessageFilter(int, LPMSG)
     return FALSE;
 }
 
+DWORD CWinThread::SuspendThread()
+{
+    return ::SuspendThread(m_hThread);
+}
+
+DWORD CWinThread::ResumeThread()
+{
+    return ::ResumeThread(m_hThread);
+}
+
+int CWinThread::GetThreadPriority()
+{
+    return ::GetThreadPriority(m_hThread);
+}
+
+BOOL CWinThread::SetThreadPriority(int priority)
+{
+    return ::SetThreadPriority(m_hThread, priority);
+}
+
 BOOL CWinThread::PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     return ::PostThreadMessageW(m_nThreadID, message, wParam, lParam);

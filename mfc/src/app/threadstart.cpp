@@ -1,5 +1,5 @@
 // Starting and ending threads.
-#include <afxmt.h>
+#include <afxwin.h>
 #include <afxole.h>
 
 #include <detail/threadend.h>

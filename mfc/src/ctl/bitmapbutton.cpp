@@ -1,4 +1,4 @@
-#include <afx/BitmapButton.h>
+#include <afxext.h>
 #include <afxwin.h>
 
 IMPLEMENT_DYNAMIC(CBitmapButton, CButton)

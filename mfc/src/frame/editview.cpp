@@ -1,5 +1,5 @@
 // CEditView: a view that is an editor of plain text.
-#include <afxcview.h>
+#include <afxext.h>
 
 #include "finddialog.h"
 

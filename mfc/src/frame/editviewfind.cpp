@@ -1,5 +1,5 @@
 // CEditView: finding and replacing.
-#include <afxcview.h>
+#include <afxext.h>
 
 #include "core/textsearch.h"
 #include "finddialog.h"

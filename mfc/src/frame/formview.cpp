@@ -1,5 +1,5 @@
 // CFormView: a view with the controls of a dialog template.
-#include <afxcview.h>
+#include <afxext.h>
 
 #include "../dlg/dialoginit.h"
 #include "../dlg/dialogresource.h"

@@ -1,5 +1,5 @@
 // CScrollView: a view of something that may be larger than its window.
-#include <afxcview.h>
+#include <afxwin.h>
 
 #include "core/scrollbars.h"
 #include "flagscope.h"

@@ -108,6 +108,24 @@ TEST(Rect, CornersCanBeMovedByThemselves)
     EXPECT_EQ(rect, CRect(11, 22, 43, 74));
 }
 
+namespace
+{
+
+// Kept apart from its caller, or the compiler knows the answer.
+[[gnu::noinline]] CPoint cornerOf(bool ofFirst, const CRect& first, int left, int top)
+{
+    const CPoint corner = ofFirst ? first.TopLeft() : CRect(left, top, left + 10, top + 10).TopLeft();
+    return corner;
+}
+
+} // namespace
+
+TEST(Rect, CornersOfRectanglesThatAreNotKept)
+{
+    EXPECT_EQ(cornerOf(false, CRect(), 70, 20), CPoint(70, 20));
+    EXPECT_EQ(cornerOf(true, CRect(1, 2, 3, 4), 70, 20), CPoint(1, 2));
+}
+
 TEST(Rect, RightAndBottomLieOutside)
 {
     const CRect rect(10, 20, 40, 70);

@@ -1,5 +1,5 @@
 // Threads: workers, threads with windows, their end and what they leave.
-#include <afxmt.h>
+#include <afxwin.h>
 #include <afxole.h>
 #include <afxpriv.h>
 
@@ -44,13 +44,13 @@ public:
     CWinThread* operator->() const { return m_thread; }
     CWinThread* get() const { return m_thread; }
 
-    void resume() { ::ResumeThread(m_thread->m_hThread); }
+    void resume() { m_thread->ResumeThread(); }
 
     /// Lets it go on to its end; gives the exit code.
     DWORD finish()
     {
         resume();
-        EXPECT_EQ(::WaitForSingleObject(m_thread->m_hThread, kLimit), WAIT_OBJECT_0);
+        EXPECT_EQ(::WaitForSingleObject(*m_thread, kLimit), WAIT_OBJECT_0);
         DWORD code = 0;
         ::GetExitCodeThread(m_thread->m_hThread, &code);
         return code;
@@ -199,7 +199,11 @@ TEST_F(ThreadTest, AWorkerStartsSuspendedWithItsPriority)
 {
     std::atomic<bool> ran = false;
     Worker worker([&] { return ran = true, 0u; }, THREAD_PRIORITY_BELOW_NORMAL);
-    EXPECT_EQ(::GetThreadPriority(worker->m_hThread), THREAD_PRIORITY_BELOW_NORMAL);
+    EXPECT_EQ(worker->GetThreadPriority(), THREAD_PRIORITY_BELOW_NORMAL);
+    EXPECT_TRUE(worker->SetThreadPriority(THREAD_PRIORITY_LOWEST));
+    EXPECT_EQ(::GetThreadPriority(worker->m_hThread), THREAD_PRIORITY_LOWEST);
+    EXPECT_EQ(worker->SuspendThread(), 1u) << "once is enough until it is resumed as often";
+    EXPECT_EQ(worker->ResumeThread(), 2u);
     EXPECT_FALSE(ran);
     worker.finish();
     EXPECT_TRUE(ran);

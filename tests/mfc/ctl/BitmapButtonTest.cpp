@@ -1,5 +1,5 @@
 // Buttons that show pictures of their states.
-#include <afx/BitmapButton.h>
+#include <afxext.h>
 #include <afxwin.h>
 
 #include "resource.h"

@@ -1,7 +1,7 @@
 // An editor that fills a frame: its text, its commands, finding and replacing.
 #include "TestFrame.h"
 
-#include <afxcview.h>
+#include <afxext.h>
 
 #include <gtest/gtest.h>
 #include <testkit/WindowCounter.h>

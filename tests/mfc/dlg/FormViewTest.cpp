@@ -2,7 +2,7 @@
 #include "TestFrame.h"
 #include "resource.h"
 
-#include <afxcview.h>
+#include <afxext.h>
 
 #include <gtest/gtest.h>
 #include <testkit/WindowCounter.h>

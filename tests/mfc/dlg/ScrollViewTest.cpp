@@ -1,7 +1,7 @@
 // Views of something larger than their window.
 #include "TestFrame.h"
 
-#include <afxcview.h>
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
 
