@@ -1,5 +1,5 @@
 // Threads: workers, threads with windows, their end and what they leave.
-#include <afxwin.h>
+#include <afxmt.h>
 #include <afxole.h>
 #include <afxpriv.h>
 
