@@ -5,6 +5,7 @@
 #pragma once
 
 #include <ovoui/colour/ColPickerMode.h>
+#include <ovoui/colour/PickerPart.h>
 #include <ovoui/export.h>
 #include <ovoui/frame/Lifeline.h>
 
@@ -122,13 +123,7 @@ protected:
     void set_bitmap_pixel(int x, int y, const unsigned char* rgb);
 
     /// What the left button is held down for.
-    enum class Drag : int
-    {
-        None,
-        Triangle,
-        Ring,
-        Patch,
-    };
+    using Drag = ovoui::colour::PickerPart;
 
     // To be attached by the dialog
     CEdit m_value1;            ///< red or hue; to be attached by the dialog, as the next ones
@@ -214,7 +209,12 @@ private:
     CPoint inWheel(CPoint point) const;
     Drag partAt(CPoint point) const;
     Colour colourAt(Drag part, CPoint point) const;
+    bool isOnSwatches(CPoint point) const;
+    void takeByPress(CWnd* wnd, Drag part, CPoint point);
+    void takePureHue(CWnd* wnd, CPoint point);
     void beginDrag(CWnd* wnd, Drag drag);
+    void beginPatchDrag(CWnd* wnd);
+    void endByRelease(CWnd* wnd, CPoint point);
     void showDragCursor(CPoint point);
     void dropPatch(CWnd* wnd, CPoint point);
     void pickSwatch(CWnd* wnd, CPoint point);

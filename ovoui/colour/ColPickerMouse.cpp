@@ -2,6 +2,7 @@
 #include <ovoui/colour/ColPicker.h>
 
 #include <ovoui/colour/ColourWheelImage.h>
+#include <ovoui/colour/core/PickerGesture.h>
 #include <ovouires/resource.h>
 
 #include <utility>
@@ -60,34 +61,45 @@ Colour ColPicker::colourAt(Drag part, CPoint point) const
     return Colour::hlsa(hit.hue, m_colour.l_hls(), m_colour.s_hls(), m_colour.a());
 }
 
+bool ColPicker::isOnSwatches(CPoint point) const
+{
+    return m_customAreaId != 0 && m_customRect.PtInRect(point);
+}
+
 bool ColPicker::DoLButtonDown(CWnd* wnd, UINT, CPoint point)
 {
     const Drag part = partAt(point);
     if (!focusPart(wnd, part))
         return true;
-    switch (part) {
-    case Drag::Triangle:
-    case Drag::Ring: {
-        const bool byHand = isButtonDown();
-        const bool stillThere = change(wnd, colourAt(part, point), part == Drag::Ring, false);
-        // The host may have shown a message, over which the button was released.
-        if (stillThere && isButtonDown() == byHand)
-            beginDrag(wnd, part);
+    switch (pickerAction(PickerInput::Press, part, isOnSwatches(point))) {
+    case PickerAction::Take:
+        takeByPress(wnd, part, point);
         return true;
-    }
-    case Drag::Patch:
-        m_cursorBefore = ::GetCursor();
-        if (const HCURSOR cursor = dragCursor())
-            ::SetCursor(cursor);
-        beginDrag(wnd, part);
+    case PickerAction::DragPatch:
+        beginPatchDrag(wnd);
         return true;
-    case Drag::None:
-        break;
-    }
-    if (m_customAreaId == 0 || !m_customRect.PtInRect(point))
+    case PickerAction::TakeSwatch:
+        pickSwatch(wnd, point);
+        return true;
+    default:
         return false;
-    pickSwatch(wnd, point);
-    return true;
+    }
+}
+
+void ColPicker::takeByPress(CWnd* wnd, Drag part, CPoint point)
+{
+    const bool wasDown = isButtonDown();
+    const bool isThere = change(wnd, colourAt(part, point), choosesHue(part), false);
+    if (beginsDrag(isThere, wasDown, isButtonDown()))
+        beginDrag(wnd, part);
+}
+
+void ColPicker::beginPatchDrag(CWnd* wnd)
+{
+    m_cursorBefore = ::GetCursor();
+    if (const HCURSOR cursor = dragCursor())
+        ::SetCursor(cursor);
+    beginDrag(wnd, Drag::Patch);
 }
 
 void ColPicker::beginDrag(CWnd* wnd, Drag drag)
@@ -115,18 +127,18 @@ bool ColPicker::DoMouseMove(CWnd* wnd, UINT, CPoint point)
 {
     if (!isDragging(wnd))
         return false;
-    if (m_drag == Drag::Patch)
+    if (pickerAction(PickerInput::Move, m_drag, isOnSwatches(point)) == PickerAction::ShowTarget)
         showDragCursor(point);
     else
-        change(wnd, colourAt(m_drag, point), m_drag == Drag::Ring, false);
+        change(wnd, colourAt(m_drag, point), choosesHue(m_drag), false);
     return true;
 }
 
 void ColPicker::showDragCursor(CPoint point)
 {
     int swatch = 0;
-    const bool accepted = m_patchRect.PtInRect(point) || PtInCustomColour(point, swatch);
-    const HCURSOR cursor = accepted ? dragCursor() : ::LoadCursorW(nullptr, IDC_NO);
+    const bool taken = takesPatch(m_patchRect.PtInRect(point) != FALSE, PtInCustomColour(point, swatch));
+    const HCURSOR cursor = taken ? dragCursor() : ::LoadCursorW(nullptr, IDC_NO);
     ::SetCursor(cursor ? cursor : m_cursorBefore);
 }
 
@@ -149,11 +161,16 @@ bool ColPicker::DoLButtonUp(CWnd* wnd, UINT, CPoint point)
         CWnd* wnd;
         Lifeline::Watch watch;
     } end{*this, wnd, Lifeline::Watch(m_lifeline)};
-    if (m_drag == Drag::Patch)
+    endByRelease(wnd, point);
+    return true;
+}
+
+void ColPicker::endByRelease(CWnd* wnd, CPoint point)
+{
+    if (pickerAction(PickerInput::Release, m_drag, isOnSwatches(point)) == PickerAction::DropPatch)
         dropPatch(wnd, point);
     else
-        change(wnd, colourAt(m_drag, point), m_drag == Drag::Ring, true);
-    return true;
+        change(wnd, colourAt(m_drag, point), choosesHue(m_drag), true);
 }
 
 void ColPicker::dropPatch(CWnd* wnd, CPoint point)
@@ -177,13 +194,16 @@ void ColPicker::keepInSwatch(CWnd* wnd, int swatch)
 
 bool ColPicker::DoLButtonDblClk(CWnd* wnd, UINT, CPoint point)
 {
-    const Drag part = partAt(point);
-    if (part == Drag::Ring) {
-        const HueRing::Hit hit = m_wheel->ring().test(vectorOf(inWheel(point)), kReach);
-        change(wnd, Colour::hls(hit.hue, 0.5, 1), true, true);
-        return true;
-    }
-    return part != Drag::None || (m_customAreaId != 0 && m_customRect.PtInRect(point));
+    const PickerAction action = pickerAction(PickerInput::DoubleClick, partAt(point), isOnSwatches(point));
+    if (action == PickerAction::TakePureHue)
+        takePureHue(wnd, point);
+    return action != PickerAction::Pass;
+}
+
+void ColPicker::takePureHue(CWnd* wnd, CPoint point)
+{
+    const HueRing::Hit hit = m_wheel->ring().test(vectorOf(inWheel(point)), kReach);
+    change(wnd, Colour::hls(hit.hue, 0.5, 1), true, true);
 }
 
 bool ColPicker::PtInCustomColour(const CPoint& point, int& index)

@@ -8,6 +8,7 @@ set(colour_core
   ${CMAKE_CURRENT_LIST_DIR}/core/ControlKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FocusMark.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/HueRing.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/PickerGesture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/RecentColours.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ScreenPick.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ShadeTriangle.cpp
@@ -20,7 +21,7 @@ set(colour_core
 if(NOT WIN32)
   add_library(ovoui_colour_core STATIC ${colour_core})
   target_include_directories(ovoui_colour_core PUBLIC ${PROJECT_SOURCE_DIR})
-  target_link_libraries(ovoui_colour_core PUBLIC ovocor_core PRIVATE ovo_flags)
+  target_link_libraries(ovoui_colour_core PUBLIC ovocor_core ovoui_frame_core PRIVATE ovo_flags)
   return()
 endif()
 

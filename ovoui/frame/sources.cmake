@@ -50,6 +50,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ResourceVersion.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TabKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ThemeData.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/Tip.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/Tip.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/TipWindow.cpp)
 include(${CMAKE_CURRENT_LIST_DIR}/icons.cmake)
 target_link_libraries(ovoui PRIVATE oleacc oleaut32)

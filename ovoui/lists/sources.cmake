@@ -19,7 +19,7 @@ set(lists_core
 if(NOT WIN32)
   add_library(ovoui_lists_core STATIC ${lists_core})
   target_include_directories(ovoui_lists_core PUBLIC ${PROJECT_SOURCE_DIR})
-  target_link_libraries(ovoui_lists_core PRIVATE ovo_flags)
+  target_link_libraries(ovoui_lists_core PUBLIC ovoui_frame_core PRIVATE ovo_flags)
   return()
 endif()
 

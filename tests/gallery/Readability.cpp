@@ -2,6 +2,7 @@
 
 #include <ovocor/Text.h>
 #include <ovoui/colour/Contrast.h>
+#include <ovoui/images/AlphaImageButton.h>
 
 #include <afxcmn.h>
 
@@ -68,9 +69,12 @@ Places whole(HWND window)
     return {{clientOf(window), textOf(window)}};
 }
 
-/// Without the edges, the rectangle of the focus and the mark.
+/// Without the edges, the rectangle of the focus and the mark. The text of a button with an image is its name
+/// alone.
 Places inButton(HWND window)
 {
+    if (dynamic_cast<CAlphaImageButton*>(CWnd::FromHandlePermanent(window)))
+        return {};
     const LONG style = ::GetWindowLongW(window, GWL_STYLE);
     const LONG type = style & BS_TYPEMASK;
     CRect rect = clientOf(window);

@@ -1,6 +1,7 @@
 #include <ovoui/colour/core/CellLayout.h>
 
 #include <ovoui/colour/core/Round.h>
+#include <ovoui/frame/core/Placement.h>
 
 #include <algorithm>
 
@@ -18,17 +19,17 @@ struct Span
     int to;
 };
 
+frame::Box boxOf(const PixelRect& rect)
+{
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
+
 /// The place of one of `count` equal cells between two ends.
 Span spanOf(int index, int count, int from, int to)
 {
     const double pitch = (to - from) / (count - kGapPart);
     const double start = from + index * pitch;
     return {rounded(start), rounded(start + (1 - kGapPart) * pitch)};
-}
-
-int movedInto(int from, int length, int low, int high)
-{
-    return std::max(low, std::min(from, high - length));
 }
 
 } // namespace
@@ -98,13 +99,10 @@ int DropLayout::after(int index, WheelKey key) const
 
 PixelRect dropPlace(const PixelRect& button, int width, int height, const PixelRect& workArea)
 {
-    const int below = workArea.bottom - button.bottom;
-    const int above = button.top - workArea.top;
-    const bool up = height > below && above > below;
-    const int left = movedInto(button.left, width, workArea.left, workArea.right);
-    const int top =
-        movedInto(up ? button.top - height : button.bottom, height, workArea.top, workArea.bottom);
-    return {left, top, left + width, top + height};
+    const frame::Box area = boxOf(workArea);
+    const int top = frame::opensUpwards(boxOf(button), height, area) ? button.top - height : button.bottom;
+    const frame::Box place = frame::movedInto({button.left, top, button.left + width, top + height}, area);
+    return {place.left, place.top, place.right, place.bottom};
 }
 
 } // namespace ovoui::colour

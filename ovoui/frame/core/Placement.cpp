@@ -31,6 +31,12 @@ Box tipPlace(const Box& about, int width, int height, const Box& area)
     return {about.left, top, about.left + width, top + height};
 }
 
+bool opensUpwards(const Box& about, int height, const Box& area)
+{
+    const int below = area.bottom - about.bottom;
+    return height > below && about.top - area.top > below;
+}
+
 Box centredIn(const Box& area, int width, int height)
 {
     const int left = (area.right - width + area.left) / 2;

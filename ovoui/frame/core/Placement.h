@@ -30,6 +30,10 @@ Box movedBy(const Box& box, int dx, int dy);
 /// room below, with a small gap. It may hang over to the sides.
 Box tipPlace(const Box& about, int width, int height, const Box& area);
 
+/// Whether what drops from a field or a button opens above it: it does not fit below, and there is more room
+/// above.
+bool opensUpwards(const Box& about, int height, const Box& area);
+
 /// A box of the given size with the centre of `area`; odd remainders are cut towards zero.
 Box centredIn(const Box& area, int width, int height);
 

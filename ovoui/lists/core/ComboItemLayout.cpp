@@ -40,10 +40,10 @@ Box placeBeside(const Box& field, const Box& workArea, int height)
 {
     const int below = workArea.bottom - field.bottom;
     const int above = field.top - workArea.top;
-    if (height <= below || below >= above)
-        return {field.left, field.bottom, field.right,
-                field.bottom + std::clamp(height, 0, std::max(below, 0))};
-    return {field.left, field.top - std::min(height, above), field.right, field.top};
+    if (frame::opensUpwards(field, height, workArea))
+        return {field.left, field.top - std::min(height, above), field.right, field.top};
+    return {field.left, field.bottom, field.right,
+            field.bottom + std::clamp(height, 0, std::max(below, 0))};
 }
 
 } // namespace ovoui::lists

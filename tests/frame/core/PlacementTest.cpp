@@ -69,3 +69,18 @@ TEST(Placement, ATipIsBelowAndWithoutRoomThereAbove)
         EXPECT_EQ(hasRoom ? place.top - about.bottom : about.top - place.bottom, 2) << top;
     }
 }
+
+TEST(Placement, WhatDropsOpensUpwardsOnlyWhereThereIsMoreRoom)
+{
+    for (int top = 0; top < 1040; top += 5)
+        for (int height = 0; height < 1100; height += 50) {
+            const Box button{300, top, 340, top + 20};
+            const int above = top;
+            const int below = kScreen.bottom - button.bottom;
+            const bool up = opensUpwards(button, height, kScreen);
+            if (height <= below)
+                EXPECT_FALSE(up) << top << ", " << height << ": it fits below";
+            else
+                EXPECT_EQ(up, above > below) << top << ", " << height;
+        }
+}

@@ -1,0 +1,16 @@
+/// The parts of a colour picker that the user presses.
+#pragma once
+
+namespace ovoui::colour
+{
+
+/// A part of the picker under the mouse, or the one from which a drag has begun.
+enum class PickerPart : int
+{
+    None,
+    Triangle,
+    Ring,
+    Patch,
+};
+
+} // namespace ovoui::colour

@@ -1,0 +1,78 @@
+#include <ovoui/frame/TipWindow.h>
+
+#include <ovoui/frame/BufferedPaint.h>
+
+namespace ovoui::frame
+{
+
+BEGIN_MESSAGE_MAP(TipWindow, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_NCHITTEST()
+END_MESSAGE_MAP()
+
+TipWindow::TipWindow(CSize margins)
+    : m_margins(margins)
+{
+}
+
+TipWindow::~TipWindow()
+{
+    DestroyWindow();
+}
+
+HGDIOBJ TipWindow::font() const
+{
+    return m_font ? m_font : ::GetStockObject(DEFAULT_GUI_FONT);
+}
+
+CSize TipWindow::sizeAroundText()
+{
+    CClientDC dc(this);
+    const HGDIOBJ before = ::SelectObject(dc.m_hDC, font());
+    CRect text;
+    dc.DrawText(m_text.c_str(), static_cast<int>(m_text.size()), &text, DT_CALCRECT | DT_NOPREFIX);
+    ::SelectObject(dc.m_hDC, before);
+    return CSize(text.Width() + 2 * m_margins.cx, text.Height() + 2 * m_margins.cy);
+}
+
+void TipWindow::showAt(const CRect& place, const CWnd& below)
+{
+    SetWindowPos(&below, place.left, place.top, place.Width(), place.Height(),
+                 SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    Invalidate(FALSE);
+}
+
+void TipWindow::hide()
+{
+    if (m_hWnd)
+        ShowWindow(SW_HIDE);
+}
+
+void TipWindow::OnPaint()
+{
+    BufferedPaint paint(*this);
+    CDC& dc = paint.dc();
+    CRect rect;
+    GetClientRect(&rect);
+    dc.FillSolidRect(&rect, ::GetSysColor(COLOR_INFOBK));
+    dc.Draw3dRect(&rect, ::GetSysColor(COLOR_INFOTEXT), ::GetSysColor(COLOR_INFOTEXT));
+    rect.DeflateRect(m_margins.cx, m_margins.cy);
+    const HGDIOBJ before = ::SelectObject(dc.m_hDC, font());
+    dc.SetTextColor(::GetSysColor(COLOR_INFOTEXT));
+    dc.SetBkMode(TRANSPARENT);
+    dc.DrawText(m_text.c_str(), static_cast<int>(m_text.size()), &rect, DT_NOPREFIX);
+    ::SelectObject(dc.m_hDC, before);
+}
+
+BOOL TipWindow::OnEraseBkgnd(CDC*)
+{
+    return TRUE; // OnPaint covers everything
+}
+
+LRESULT TipWindow::OnNcHitTest(CPoint)
+{
+    return HTTRANSPARENT;
+}
+
+} // namespace ovoui::frame
