@@ -115,9 +115,8 @@ protected:
 
     afx_msg void OnSave()
     {
-        const auto path =
-            pickFileToSave({.parent = this, .types = {{L"Texts", {L"*.txt"}}}, .extension = L".txt"});
-        if (path)
+        if (const auto path =
+                pickFileToSave({.parent = this, .types = {{L"Texts", {L"*.txt"}}}, .extension = L".txt"}))
             std::ofstream(*path) << getMBS(m_list.chosenPaths()); // in UTF-8
     }
 

@@ -68,8 +68,6 @@ protected:
         }
     }
 
-    // The palette
-
     /// Shows all of it, with one row selected.
     void showPalette(int row)
     {
