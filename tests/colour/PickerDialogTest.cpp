@@ -299,6 +299,52 @@ TEST_F(PickerDialog, TheListOfModelsShowsThreeItems)
     EXPECT_EQ(list.Height() / picker->m_space.GetItemHeight(0), 3);
 }
 
+namespace
+{
+
+/// The heights that combo boxes of this thread are given while this object lives.
+class ComboHeights
+{
+public:
+    ComboHeights()
+    {
+        s_heights.clear();
+        m_hook = ::SetWindowsHookExW(WH_CALLWNDPROC, &hear, nullptr, ::GetCurrentThreadId());
+    }
+    ~ComboHeights() { ::UnhookWindowsHookEx(m_hook); }
+    ComboHeights(const ComboHeights&) = delete;
+    ComboHeights& operator=(const ComboHeights&) = delete;
+
+    static bool had(int height) { return std::ranges::count(s_heights, height) > 0; }
+
+private:
+    static LRESULT CALLBACK hear(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const auto& call = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        wchar_t name[16]{};
+        if (call.message == WM_WINDOWPOSCHANGING && ::GetClassNameW(call.hwnd, name, 16) &&
+            std::wstring_view(name) == L"ComboBox")
+            s_heights.push_back(reinterpret_cast<const WINDOWPOS*>(call.lParam)->cy);
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static inline std::vector<int> s_heights;
+    HHOOK m_hook;
+};
+
+} // namespace
+
+TEST_F(PickerDialog, TheListOfModelsHasRoomForThreeItems)
+{
+    const ComboHeights heights; // the platform makes the list smaller when it opens
+    open();
+    CRect closed;
+    picker->m_space.GetWindowRect(&closed);
+    const int line = picker->m_space.GetItemHeight(-1);
+    const int borders = 2 * ::GetSystemMetrics(SM_CYBORDER);
+    EXPECT_TRUE(heights.had(closed.Height() + 3 * line + borders));
+}
+
 // The library's own template
 
 namespace
