@@ -29,6 +29,7 @@ constexpr UINT kPoseDelay = 200; // milliseconds for the screen to show what was
 BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     // pages
     ON_NOTIFY(TVN_SELCHANGEDW, IDC_PAGE_LIST, &GalleryFrame::OnPageChosen)
+    ON_COMMAND(ID_PAGE_OPEN, &GalleryFrame::OnPageOpen)
     ON_COMMAND(ID_PAGE_NEXT, &GalleryFrame::OnNextPage)
     ON_COMMAND(ID_PAGE_PREVIOUS, &GalleryFrame::OnPreviousPage)
     ON_WM_SETFOCUS()
@@ -214,6 +215,7 @@ BOOL GalleryFrame::PreTranslateMessage(MSG* message)
 void GalleryFrame::openPage(const PageEntry& entry)
 {
     m_entry = &entry;
+    m_chosen = nullptr;
     if (m_page)
         m_page->DestroyWindow(); // a handler under way keeps the object itself
     m_page = entry.make();
@@ -229,13 +231,19 @@ void GalleryFrame::openPage(const PageEntry& entry)
     m_pageList.show(entry);
 }
 
+/// Posted, since a list without a selection chooses an item when it gets the focus, and that may come while a
+/// control of the page is in the middle of a press.
 void GalleryFrame::OnPageChosen(NMHDR* header, LRESULT* result)
 {
     *result = 0;
-    const PageEntry* const entry =
-        m_pageList.pageAt(reinterpret_cast<const NMTREEVIEWW*>(header)->itemNew.hItem);
-    if (entry && entry != m_entry)
-        openPage(*entry);
+    m_chosen = m_pageList.pageAt(reinterpret_cast<const NMTREEVIEWW*>(header)->itemNew.hItem);
+    PostMessage(WM_COMMAND, ID_PAGE_OPEN);
+}
+
+void GalleryFrame::OnPageOpen()
+{
+    if (m_chosen && m_chosen != m_entry)
+        openPage(*m_chosen);
 }
 
 void GalleryFrame::stepPage(int step)

@@ -54,6 +54,7 @@ protected:
     afx_msg void OnEnterIdle(UINT why, CWnd* who);
     afx_msg void OnTimer(UINT_PTR id);
     afx_msg void OnPageChosen(NMHDR* header, LRESULT* result);
+    afx_msg void OnPageOpen();
     afx_msg void OnNextPage();
     afx_msg void OnPreviousPage();
     // toolbar
@@ -113,6 +114,7 @@ private:
     bool m_offering = false; ///< a command is offered to the page
     std::shared_ptr<GalleryPage> m_page;
     const PageEntry* m_entry = nullptr;
+    const PageEntry* m_chosen = nullptr; ///< in the list, and due to open
     HWND m_posing = nullptr; ///< the modal box whose picture is due
     std::wstring m_posePath; ///< where the picture of the next modal box goes; empty when none is wanted
     bool m_poseSaved = false;

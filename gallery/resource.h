@@ -289,6 +289,7 @@
 #define ID_LOG_CLEAR 32801
 #define ID_PAGE_NEXT 32802
 #define ID_PAGE_PREVIOUS 32803
+#define ID_PAGE_OPEN 32804
 #define ID_GROUP_ALL 32811 // in the order of the groups
 #define ID_GROUP_FRAME 32812
 #define ID_GROUP_BARS 32813

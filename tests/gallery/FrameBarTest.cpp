@@ -94,6 +94,22 @@ TEST_F(GalleryBar, TypingFiltersThePages)
     EXPECT_EQ(openPage(), L"toolbars");
 }
 
+/// The frame is activated by a press on a control of the page and gives the focus to its list, which chooses
+/// an item: the control may go on with its press.
+TEST_F(GalleryBar, APageStaysUntilThePressOnItIsOver)
+{
+    scene.open(L"geometry");
+    scene.frame().floatPalette();
+    scene.frame().pageList().list(PageGroup::All, L"toolb");
+    robot.click(Spot{palette().GetDlgItem(IDC_FRAME_LIST_WIDTH)->m_hWnd});
+    const HWND tabs = scene.control(IDC_TABS);
+    ::SendMessageW(tabs, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    ASSERT_TRUE(::IsWindow(tabs));
+    ::SendMessageW(tabs, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    GuiThread::settle();
+    EXPECT_EQ(openPage(), L"toolbars") << "the only page that is listed";
+}
+
 TEST_F(GalleryBar, AGroupOfPagesIsChosenFromItsFlyout)
 {
     choose(indexOf(ID_GROUP_ALL), 3);
