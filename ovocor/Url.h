@@ -1,4 +1,5 @@
-/// Web addresses and downloads.
+/// Web addresses and downloads. Where the system has no WinINet, all functions here throw a WinError that
+/// names it.
 #pragma once
 
 #include <ovocor/DownloadControl.h>

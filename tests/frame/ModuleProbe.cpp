@@ -2,12 +2,16 @@
 //   module_probe once      0 loaded, otherwise the system's error; boxes about errors are not shown
 //   module_probe openly    the same with boxes
 //   module_probe cycles    0 loaded and unloaded 200 times with no growth of handles, GDI objects and
-//   modules;
-//                          1 it did not load, 2 it stayed loaded, 3 something grew
+//                          modules; 1 it did not load, 2 it stayed loaded, 3 something grew
 //   module_probe damaged   0 a resource module that is empty or cut at any multiple of 4 KiB was refused, and
-//   the
-//                          whole one taken; 1 a cut one was taken, 2 another error, 3 the whole one was
+//                          the whole one taken; 1 a cut one was taken, 2 another error, 3 the whole one was
 //                          refused
+//   module_probe unlinked  0 without any library that it is linked with each of our modules was refused, and
+//                          taken with all of them; 1 one was taken, 2 another error, 3 refused with all
+//   module_probe unthemed  0 the library was loaded without UxTheme, and has no themes; 1 it has, 2 it never
+//                          asked for UxTheme, 3 it did not load
+#include <testkit/ImportPatch.h>
+
 #include <windows.h>
 #include <tlhelp32.h>
 
@@ -18,9 +22,12 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace
 {
+
+constexpr UINT kNoBoxes = SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX;
 
 int loadOnce(UINT errorMode)
 {
@@ -110,17 +117,27 @@ std::string contentOf(const wchar_t* path)
     return content.str();
 }
 
-/// The error with which the library refuses a resource module of this content; 0 when it takes it.
-DWORD refusalOf(std::string_view resources)
+DWORD errorOfLoading(const wchar_t* name)
 {
-    std::ofstream(std::filesystem::path(L"ovouires.dll"), std::ios::binary | std::ios::trunc) << resources;
-    const HMODULE module = ::LoadLibraryW(L"ovoui.dll");
+    const HMODULE module = ::LoadLibraryW(name);
     const DWORD error = module ? 0 : ::GetLastError();
     if (module)
         ::FreeLibrary(module);
     if (const HMODULE left = ::GetModuleHandleW(L"ovouires.dll"))
         ::FreeLibrary(left); // as it is documented, the library does not
     return error;
+}
+
+void write(const wchar_t* file, std::string_view content)
+{
+    std::ofstream(std::filesystem::path(file), std::ios::binary | std::ios::trunc) << content;
+}
+
+/// The error with which the library refuses a resource module of this content; 0 when it takes it.
+DWORD refusalOf(std::string_view resources)
+{
+    write(L"ovouires.dll", resources);
+    return errorOfLoading(L"ovoui.dll");
 }
 
 /// Where the last section of a module ends in its file; the linker may have written symbols behind it, which
@@ -140,7 +157,7 @@ std::size_t endOfSections(const std::string& module)
 int loadDamaged()
 {
     constexpr std::size_t kPage = 4096;
-    ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
+    ::SetErrorMode(kNoBoxes);
     ::LoadLibraryW(L"ovomfc.dll"); // stays, as in a program that has it
     const std::string whole = contentOf(L"ovouires.dll");
     const std::size_t end = endOfSections(whole);
@@ -154,6 +171,84 @@ int loadDamaged()
     return refusalOf(whole) == 0 ? 0 : 3;
 }
 
+/// Where the names of the libraries that a module is linked with stand in its file.
+std::vector<std::size_t> namesOfLibraries(const std::string& module)
+{
+    const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(module.data());
+    const auto* const headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(module.data() + dos->e_lfanew);
+    const auto inFile = [&](DWORD address) -> std::size_t {
+        const IMAGE_SECTION_HEADER* section = IMAGE_FIRST_SECTION(headers);
+        while (address >= section->VirtualAddress + section->Misc.VirtualSize)
+            ++section;
+        return address - section->VirtualAddress + section->PointerToRawData;
+    };
+    const std::size_t imports =
+        inFile(headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
+    std::vector<std::size_t> names;
+    for (auto* import = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(module.data() + imports);
+         import->Name; ++import)
+        names.push_back(inFile(import->Name));
+    return names;
+}
+
+/// Each library in turn is absent: the module that is linked with it asks for a file that there is not.
+int loadUnlinked()
+{
+    ::SetErrorMode(kNoBoxes);
+    ::LoadLibraryW(L"libstdc++-6.dll"); // stays, as in every program in C++
+    int absent = 0;
+    for (const wchar_t* file : {L"ovomsg11.dll", L"ovocor11.dll", L"ovomfc.dll", L"ovoui.dll"}) {
+        const std::string whole = contentOf(file);
+        for (const std::size_t name : namesOfLibraries(whole)) {
+            std::string changed = whole;
+            changed[name] = '_';
+            // What could not be loaded may be in use for as long as the program runs; it makes room.
+            std::filesystem::rename(file, L"used" + std::to_wstring(++absent));
+            write(file, changed);
+            const DWORD error = errorOfLoading(file);
+            if (error == ERROR_MOD_NOT_FOUND)
+                continue;
+            std::printf("%ls without %s: %lu\n", file, &whole[name], error);
+            return error ? 2 : 1;
+        }
+        std::filesystem::rename(file, std::wstring(L"used ") + file);
+        write(file, whole);
+    }
+    std::printf("%d libraries were absent, one at a time\n", absent);
+    return errorOfLoading(L"ovoui.dll") == 0 ? 0 : 3;
+}
+
+int g_refusals = 0;
+
+HMODULE WINAPI loadAllButUxTheme(LPCWSTR file, HANDLE reserved, DWORD flags)
+{
+    const std::wstring name = std::filesystem::path(file).filename().wstring();
+    if (::_wcsicmp(name.c_str(), L"uxtheme.dll") != 0)
+        return ::LoadLibraryExW(file, reserved, flags);
+    ++g_refusals;
+    ::SetLastError(ERROR_MOD_NOT_FOUND);
+    return nullptr;
+}
+
+/// The library asks for UxTheme while it is loaded, by the core library, which can be there before.
+int loadUnthemed()
+{
+    ::LoadLibraryW(L"ovocor11.dll");
+    const ovo::testkit::ImportPatch patch(L"ovocor11.dll", "LoadLibraryExW",
+                                          reinterpret_cast<void*>(&loadAllButUxTheme));
+    const HMODULE library = ::LoadLibraryW(L"ovoui.dll");
+    if (!library)
+        return 3;
+    if (g_refusals == 0)
+        return 2;
+    const auto find = [&](const char* name) {
+        return reinterpret_cast<void*>(::GetProcAddress(library, name));
+    };
+    const auto getThemeData = reinterpret_cast<void* (*)()>(find("_ZN10CThemeData12getThemeDataEv"));
+    const auto isAppThemed = reinterpret_cast<bool (*)(void*)>(find("_ZN10CThemeData11IsAppThemedEv"));
+    return isAppThemed(getThemeData()) ? 1 : 0;
+}
+
 } // namespace
 
 int wmain(int argc, wchar_t** argv)
@@ -163,6 +258,9 @@ int wmain(int argc, wchar_t** argv)
         return loadAndUnload();
     if (how == L"damaged")
         return loadDamaged();
-    return loadOnce(
-        how == L"openly" ? 0 : SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX | SEM_NOOPENFILEERRORBOX);
+    if (how == L"unlinked")
+        return loadUnlinked();
+    if (how == L"unthemed")
+        return loadUnthemed();
+    return loadOnce(how == L"openly" ? 0 : kNoBoxes);
 }

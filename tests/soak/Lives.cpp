@@ -1,6 +1,6 @@
 #include "Lives.h"
 
-#include <testkit/Desktop.h>
+#include <support/NextDialog.h>
 
 #include <ovoui/ovoui.h>
 #include <ovouires/resource.h>
@@ -8,8 +8,6 @@
 #include <gallery/resource.h>
 
 #include <ostream>
-
-using namespace ovo::testkit;
 
 namespace
 {
@@ -218,30 +216,6 @@ void liveProgress(CWnd& parent)
     box.Advance(1, 2);
     box.SetText(L"Nearly done");
 }
-
-/// Answers the first dialog that waits while the object lives.
-class NextDialogAnswered
-{
-public:
-    explicit NextDialogAnswered(WORD command)
-        : m_timer(::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &answer))
-    {
-        s_command = command;
-    }
-    ~NextDialogAnswered() { ::KillTimer(nullptr, m_timer); }
-    NextDialogAnswered(const NextDialogAnswered&) = delete;
-    NextDialogAnswered& operator=(const NextDialogAnswered&) = delete;
-
-private:
-    static void CALLBACK answer(HWND, UINT, UINT_PTR, DWORD)
-    {
-        if (const HWND dialog = shownDialog())
-            ::PostMessageW(dialog, WM_COMMAND, s_command, 0);
-    }
-
-    inline static WORD s_command = 0;
-    UINT_PTR m_timer;
-};
 
 void liveMessageBox(CWnd& parent)
 {

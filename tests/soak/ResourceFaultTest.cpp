@@ -1,6 +1,7 @@
 // Resource modules that are damaged, and resources that are missing: the library refuses to load, or does
 // without.
 #include "Lives.h"
+#include "ProbeFolder.h"
 #include "ResourceGap.h"
 
 #include <testkit/GdiCounter.h>
@@ -14,12 +15,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
-namespace fs = std::filesystem;
 using namespace ovo::testkit;
 
 namespace
@@ -39,50 +36,6 @@ std::string liveOnce(const Life& life, CWnd& parent)
     }
     return "";
 }
-
-/// A folder with module_probe and what ovoui.dll needs.
-class ProbeFolder
-{
-public:
-    ProbeFolder()
-    {
-        wchar_t path[MAX_PATH];
-        ::GetModuleFileNameW(nullptr, path, MAX_PATH);
-        const fs::path programs = fs::path(path).parent_path();
-        m_path = fs::temp_directory_path() / (L"ovoui-damaged-" + std::to_wstring(::GetCurrentProcessId()));
-        fs::create_directory(m_path);
-        for (const wchar_t* name :
-             {L"module_probe.exe", L"ovoui.dll", L"ovouires.dll", L"ovomfc.dll", L"ovocor11.dll",
-              L"ovomsg11.dll", L"libstdc++-6.dll", L"libgcc_s_seh-1.dll", L"libwinpthread-1.dll"})
-            fs::copy_file(programs / name, m_path / name);
-    }
-    ~ProbeFolder()
-    {
-        std::error_code ignored;
-        fs::remove_all(m_path, ignored);
-    }
-
-    /// Runs module_probe with an argument; gives its exit code.
-    DWORD run(const wchar_t* argument) const
-    {
-        std::wstring line = L"\"" + (m_path / L"module_probe.exe").wstring() + L"\" " + argument;
-        STARTUPINFOW startup{};
-        startup.cb = sizeof startup;
-        PROCESS_INFORMATION process{};
-        if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
-                              m_path.c_str(), &startup, &process))
-            return ~DWORD{0};
-        ::WaitForSingleObject(process.hProcess, INFINITE);
-        DWORD code = 0;
-        ::GetExitCodeProcess(process.hProcess, &code);
-        ::CloseHandle(process.hThread);
-        ::CloseHandle(process.hProcess);
-        return code;
-    }
-
-private:
-    fs::path m_path;
-};
 
 } // namespace
 

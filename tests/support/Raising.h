@@ -5,6 +5,7 @@
 #pragma once
 
 #include <functional>
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -45,3 +46,27 @@ private:
     const Kind& m_kind;
     bool m_happened = false;
 };
+
+/// What becomes of an exception.
+enum class Outcome
+{
+    Passes,   ///< to the caller
+    Shown,    ///< in a box
+    Reported, ///< to the host, in the way that the control has for it
+    Quiet     ///< the control goes on without an answer
+};
+
+std::ostream& operator<<(std::ostream& out, Outcome outcome);
+
+/// Those that a call-out is documented to have.
+struct Outcomes
+{
+    Outcome standard;  ///< an OvoError or a standard exception
+    Outcome framework; ///< a CException
+    Outcome other;
+
+    Outcome of(Raising::Group group) const;
+};
+
+/// Leads to a call and says what became of the exception. `reports` tells how many the host has been told of.
+Outcome outcomeOf(const std::function<void()>& provoke, const std::function<std::size_t()>& reports = {});
