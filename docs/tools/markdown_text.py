@@ -25,8 +25,12 @@ def headings(path):
 
 
 def link_targets(root, path):
-    """Complains about links to what is not there, as (line, text)."""
+    """Complains about links to what is not there, and about those broken over two lines, as (line, text)."""
+    opened = False
     for number, line in lines_outside_code(path):
+        if opened and re.match(r"[^\[\]]*\]\(", line):
+            yield number - 1, "a link is broken over two lines"
+        opened = re.search(r"\[[^\]]*$", line) is not None
         for target in LINK.findall(re.sub(r"`[^`]*`", "", line)):
             if re.match(r"[a-z]+:", target):
                 continue

@@ -37,7 +37,7 @@ PAGE = "# Beds\n\n## The soil\n\nLoam.\n"
 
 class Reference(unittest.TestCase):
     def setUp(self):
-        self.folder = pathlib.Path(tempfile.mkdtemp())
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="the garden "))
         self.addCleanup(shutil.rmtree, self.folder)
         self.write("ovoui/version.h", '#define OVOUI_VERSION_STRING "1.2.3"\n')
         self.write("docs/reference/groups.dox", "/** @defgroup tree Trees\n\n A group. */\n")
@@ -105,6 +105,9 @@ class Reference(unittest.TestCase):
 
     def test_a_link_to_a_heading_that_is_not_there(self):
         self.complains("has no heading #the-sand", readme=README.replace("#the-soil", "#the-sand"))
+
+    def test_a_link_over_two_lines(self):
+        self.complains("README.md:3: a link is broken over two lines", readme=README.replace("the beds", "the\nbeds"))
 
     def test_a_picture_that_is_not_there(self):
         self.complains("docs/beds.md:3: the link to images/soil.png leads nowhere",
