@@ -107,6 +107,38 @@ TEST_F(TextLanguage, HoldsForTheErrorsOfTheCoreLibrary)
     EXPECT_EQ(messageOf(throwIntCast), L"Die Zahl liegt außerhalb des zulässigen Bereichs.");
 }
 
+TEST_F(TextLanguage, HoldsForTheFramework)
+{
+    const struct
+    {
+        LANGID language;
+        const wchar_t* prompt;
+        const wchar_t* refusal;
+    } cases[] = {
+        {0x0009, L"Saves the active document\nSave", L"Enter a whole number between 1 and 9."},
+        {0x0007, L"Speichert das aktive Dokument\nSpeichern",
+         L"Geben Sie eine ganze Zahl zwischen 1 und 9 ein."},
+        {0x000C, L"Enregistre le document actif\nEnregistrer",
+         L"Entrez un nombre entier compris entre 1 et 9."},
+        {0x000A, L"Guarda el documento activo\nGuardar", L"Escriba un número entero entre 1 y 9."},
+        {0x0015, L"Zapisuje aktywny dokument\nZapisz", L"Wprowadź liczbę całkowitą z zakresu od 1 do 9."},
+        {0x0011, L"作業中のドキュメントを保存します\n上書き保存",
+         L"1 から 9 までの整数を入力してください。"}};
+    for (const auto& one : cases) {
+        ASSERT_TRUE(setTextLanguage(one.language));
+        CString text;
+        EXPECT_TRUE(text.LoadString(ID_FILE_SAVE));
+        EXPECT_EQ(text, one.prompt);
+        AfxFormatString2(text, AFX_IDP_PARSE_INT_RANGE, L"1", L"9");
+        EXPECT_EQ(text, one.refusal);
+    }
+    CNotSupportedException error;
+    ASSERT_TRUE(setTextLanguage(kGerman));
+    wchar_t message[100];
+    ASSERT_TRUE(error.GetErrorMessage(message, 100));
+    EXPECT_STREQ(message, L"Dieser Vorgang wird nicht unterstützt.");
+}
+
 TEST_F(TextLanguage, IsTheSameInEveryRegion)
 {
     ASSERT_TRUE(setTextLanguage(kAustrian));

@@ -27,14 +27,19 @@ HMODULE messages()
     return ::GetModuleHandleW(L"ovomsg11.dll");
 }
 
+HMODULE framework()
+{
+    return ::GetModuleHandleW(L"ovomfc.dll");
+}
+
 /// The test of one language.
 class Language : public testing::TestWithParam<LANGID>
 {
 protected:
-    /// Runs a check of this language beside English over both modules.
+    /// Runs a check of this language beside English over all modules with texts.
     void compare(Problems (*check)(const Texts&, const Texts&))
     {
-        for (const HMODULE module : {strings(), messages()}) {
+        for (const HMODULE module : {strings(), messages(), framework()}) {
             const Texts english = textsOf(module, kEnglish);
             ASSERT_GT(english.size(), 10u);
             EXPECT_EQ(linesOf(check(english, textsOf(module, GetParam()))), "");
@@ -67,6 +72,7 @@ TEST(Languages, AreTheSameForAllThatIsTranslated)
     for (const LPCWSTR type : {RT_DIALOG, RT_MENU, RT_STRING, RT_ACCELERATOR})
         EXPECT_EQ(languagesOf(strings(), type), kLanguages);
     EXPECT_EQ(languagesOf(messages(), RT_MESSAGETABLE), kLanguages);
+    EXPECT_EQ(languagesOf(framework(), RT_STRING), kLanguages);
 }
 
 TEST(Languages, AreNotNeededForPictures)
@@ -85,6 +91,11 @@ TEST_P(Language, HasTheSpecifiersOfEnglish)
     compare(specifierProblems);
 }
 
+TEST_P(Language, HasTheLinesOfEnglish)
+{
+    compare(lineProblems);
+}
+
 TEST_P(Language, HasALetterWhereEnglishHasOne)
 {
     compare(missingMnemonics);
@@ -92,7 +103,8 @@ TEST_P(Language, HasALetterWhereEnglishHasOne)
 
 TEST_P(Language, HasNoStringThatIsCutWhenItIsLoaded)
 {
-    EXPECT_EQ(linesOf(lengthProblems(textsOf(strings(), GetParam()))), "");
+    for (const HMODULE module : {strings(), framework()})
+        EXPECT_EQ(linesOf(lengthProblems(textsOf(module, GetParam()))), "");
 }
 
 TEST_P(Language, HasDifferentLettersInADialogOrMenu)

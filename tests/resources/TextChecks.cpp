@@ -92,6 +92,16 @@ Problems specifierProblems(const Texts& english, const Texts& other)
     return problems;
 }
 
+Problems lineProblems(const Texts& english, const Texts& other)
+{
+    Problems problems;
+    forBoth(english, other, [&](const std::wstring& place, const std::wstring& one, const std::wstring& two) {
+        if (std::ranges::count(one, L'\n') != std::ranges::count(two, L'\n'))
+            problems.push_back(place + L" has other lines: " + two);
+    });
+    return problems;
+}
+
 Problems mnemonicProblems(const TextGroup& group)
 {
     Problems problems;

@@ -14,6 +14,9 @@ Problems idProblems(const Texts& english, const Texts& other);
 /// Formats whose specifiers differ, or stand in another order.
 Problems specifierProblems(const Texts& english, const Texts& other);
 
+/// Texts that have more or fewer lines, such as a prompt without the words for its tip.
+Problems lineProblems(const Texts& english, const Texts& other);
+
 /// The specifiers of a format: those of printf, such as %d and %.1f, and inserts, such as %1 and %2!s!.
 std::vector<std::wstring> specifiersOf(const std::wstring& text);
 

@@ -29,6 +29,7 @@ TEST(TextChecks, FindNothingWrongWithEqualTexts)
 {
     EXPECT_TRUE(idProblems(kEnglish, kEnglish).empty());
     EXPECT_TRUE(specifierProblems(kEnglish, kEnglish).empty());
+    EXPECT_TRUE(lineProblems(kEnglish, kEnglish).empty());
     EXPECT_TRUE(missingMnemonics(kEnglish, kEnglish).empty());
     EXPECT_TRUE(lengthProblems(kEnglish).empty());
 }
@@ -48,6 +49,13 @@ TEST(TextChecks, FindSpecifiersThatDiffer)
     for (const wchar_t* text : {L"%s von %d", L"%d von", L"%d von %s %s", L"%u von %s", L"%d von %%s"})
         EXPECT_EQ(specifierProblems(kEnglish, changed(L"string 1", text)).size(), 1u) << text;
     EXPECT_TRUE(specifierProblems(kEnglish, changed(L"string 1", L"100%% von %d, %s")).empty());
+}
+
+TEST(TextChecks, FindALineThatIsMissing)
+{
+    const Texts prompt = changed(L"string 2", L"Opens a file\nOpen");
+    EXPECT_EQ(lineProblems(prompt, changed(L"string 2", L"Öffnet eine Datei")).size(), 1u);
+    EXPECT_TRUE(lineProblems(prompt, changed(L"string 2", L"Öffnet eine Datei\nÖffnen")).empty());
 }
 
 TEST(TextChecks, KnowTheSpecifiersOfPrintfAndTheInserts)
