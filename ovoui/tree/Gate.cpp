@@ -37,6 +37,7 @@ Change ovoui::tree::changeBy(UINT message)
     case TVM_GETEDITCONTROL:
     case TVM_GETVISIBLECOUNT:
     case TVM_HITTEST:
+    case TVM_MAPHTREEITEMTOACCID:
     case WM_ERASEBKGND:
     case WM_GETDLGCODE:
     case WM_NCHITTEST:

@@ -3,6 +3,7 @@
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/ParentNotificationFilter.h>
+#include <ovoui/tree/SelectionEvents.h>
 #include <ovoui/frame/RedrawHold.h>
 
 #include <algorithm>
@@ -19,6 +20,14 @@ namespace
 constexpr std::size_t kFewItems = 8;
 
 } // namespace
+
+MultiTreeCtrl::Selection::Selection(State& state)
+    : Concern(state)
+    , m_events(std::make_unique<Events>(state))
+{
+}
+
+MultiTreeCtrl::Selection::~Selection() = default;
 
 // One item
 

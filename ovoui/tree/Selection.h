@@ -9,7 +9,8 @@
 class MultiTreeCtrl::Selection final : public Concern
 {
 public:
-    using Concern::Concern;
+    explicit Selection(State& state);
+    ~Selection() override;
 
     // Which items are selected
     std::vector<HTREEITEM> items() const; ///< in no order
@@ -61,6 +62,8 @@ public:
     void takesOver() override;
 
 private:
+    class Events;
+
     void setAll(const std::vector<HTREEITEM>& items, bool selected);
     unsigned deselectAllBut(HTREEITEM kept);
     void selectQuietly(HTREEITEM item);
@@ -71,4 +74,5 @@ private:
 
     mutable ovoui::tree::SelectionRecord m_record;
     mutable ovoui::tree::SelectionOrder m_order;
+    const std::unique_ptr<Events> m_events;
 };

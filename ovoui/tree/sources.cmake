@@ -7,6 +7,7 @@ set(tree_core
   ${CMAKE_CURRENT_LIST_DIR}/core/ExpansionRule.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/KeyRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SavedView.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SelectionNews.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TreePath.cpp)
 
 if(NOT WIN32)
@@ -50,6 +51,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/RowKeeper.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SelectedItems.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Selection.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SelectionEvents.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SelectionRecord.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Tips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TreeIterator.cpp
