@@ -47,13 +47,14 @@ int ComboItems::heightFor(CDC& dc) const
 {
     TEXTMETRIC metrics{};
     dc.GetTextMetrics(&metrics);
-    return comboItemHeight(metrics.tmHeight, imageSize().cy);
+    return comboItemHeight(metrics.tmHeight, imageSize().cy, dc.GetDeviceCaps(LOGPIXELSY));
 }
 
 void ComboItems::draw(CDC& dc, const ComboItem& item) const
 {
     const CSize size = imageSize();
-    const ComboItemLayout layout = layOutComboItem(toBox(item.place), looks.haveColours(), size.cx, size.cy);
+    const ComboItemLayout layout = layOutComboItem(toBox(item.place), looks.haveColours(), size.cx, size.cy,
+                                                   dc.GetDeviceCaps(LOGPIXELSY));
     const bool selected = (item.state & ODS_SELECTED) != 0;
     const int saved = dc.SaveDC();
     dc.FillSolidRect(&item.place, ::GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));

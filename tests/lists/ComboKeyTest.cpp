@@ -180,6 +180,122 @@ TEST(ComboEnter, ACommandOfAControlIsNone)
     EXPECT_EQ(scene.text(), L"berry");
 }
 
+TEST(ComboEnter, TextMayBeEmptyIsNoMoreThanANote)
+{
+    for (const Flags& flags : kAllFlags)
+        for (const bool mayBe : {false, true})
+            for (const bool emptyItem : {false, true}) {
+                ComboScene scene{L"apple", emptyItem ? L"" : L"berry"};
+                set(scene.combo, flags);
+                scene.combo.TextMayBeEmpty(mayBe);
+                scene.enterWith(0);
+                scene.combo.SetCurSel(-1);
+                scene.take();
+                scene.robot.key(VK_RETURN);
+                Heard expected;
+                if (emptyItem || flags.confirmAnyText)
+                    expected = kAccepted;
+                if (flags.notifyEditReturn)
+                    expected.push_back("RETURN");
+                EXPECT_EQ(scene.take(), expected);
+                EXPECT_EQ(scene.text(), L"");
+            }
+}
+
+namespace
+{
+
+/// Hears of the commands that reach the end of their way.
+class Passing : public COVOComboBox
+{
+public:
+    std::vector<UINT> commands;
+
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override
+    {
+        if (code == CN_COMMAND)
+            commands.push_back(id);
+        return COVOComboBox::OnCmdMsg(id, code, extra, info);
+    }
+};
+
+} // namespace
+
+TEST(ComboEnter, EveryCommandGoesOnToTheHandlersOfTheHost)
+{
+    ComboParent parent;
+    Passing combo;
+    combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWN, CRect(10, 10, 210, 160), &parent, 21);
+    for (const WPARAM id : {0x0400, 0x0401, 0x0402, 0x0403, 0x0404, 77})
+        combo.SendMessage(WM_COMMAND, id, 0);
+    for (const UINT id : {0x0400u, 0x0401u, 0x0402u, 0x0403u, 77u})
+        EXPECT_EQ(std::ranges::count(combo.commands, id), 1) << id;
+}
+
+TEST(ComboEnter, OnlyThePressOfAKeyCounts)
+{
+    ComboScene scene{L"apple"};
+    scene.combo.ConfirmAnyText(true);
+    scene.combo.NotifyEditReturn(true);
+    scene.enter();
+    scene.setText(L"apple");
+    scene.take();
+    for (const WPARAM key : {VK_RETURN, VK_ESCAPE, VK_UP, VK_DOWN}) {
+        MSG up{scene.edit(), WM_KEYUP, key, 1, 0, {}};
+        EXPECT_FALSE(scene.combo.PreTranslateMessage(&up)) << key;
+    }
+    MSG altDown{scene.edit(), WM_SYSKEYDOWN, VK_DOWN, 1, 0, {}}; // which opens the list
+    EXPECT_FALSE(scene.combo.PreTranslateMessage(&altDown));
+    GuiThread::settle();
+    EXPECT_EQ(scene.take(), Heard{});
+}
+
+namespace
+{
+
+struct Command
+{
+    UINT id;
+    UINT code;
+    LPARAM control;
+
+    bool operator==(const Command&) const = default;
+};
+
+LRESULT CALLBACK hearCommands(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                              DWORD_PTR commands)
+{
+    if (message == WM_COMMAND)
+        reinterpret_cast<std::vector<Command>*>(commands)->push_back(
+            {LOWORD(wParam), HIWORD(wParam), lParam});
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+} // namespace
+
+TEST(ComboEnter, NotificationsCarryTheNumberAndTheWindowOfTheComboBox)
+{
+    ComboScene scene{L"apple"};
+    scene.combo.ConfirmAnyText(true);
+    scene.combo.NotifyEditReturn(true);
+    scene.enter();
+    const auto self = reinterpret_cast<LPARAM>(scene.combo.m_hWnd);
+    std::vector<Command> commands;
+    ::SetWindowSubclass(scene.parent, &hearCommands, 1, reinterpret_cast<DWORD_PTR>(&commands));
+    scene.combo.SetDlgCtrlID(0x1234); // both bytes count
+    for (const auto& [command, code] : {std::pair{0x0400, 0x40u}, {0x0402, 0x41u}, {0x0403, 0x42u}}) {
+        commands.clear();
+        scene.combo.SendMessage(WM_COMMAND, static_cast<WPARAM>(command), 0);
+        EXPECT_EQ(commands,
+                  (std::vector<Command>{{0x1234, 1, self}, {0x1234, 9, self}, {0x1234, code, self}}));
+    }
+    commands.clear();
+    scene.combo.SendMessage(WM_COMMAND, 0x0401, 0);
+    EXPECT_EQ(commands, (std::vector<Command>{{0x1234, 1, self}, {0x1234, 10, self}}));
+    scene.combo.SetDlgCtrlID(21);
+    ::RemoveWindowSubclass(scene.parent, &hearCommands, 1);
+}
+
 TEST(ComboEnter, DoesNotReachTheDialog)
 {
     ComboScene scene{L"apple"};
@@ -448,6 +564,30 @@ TEST(ComboFocus, GoingWithTheListOpenTakesItsSelection)
     EXPECT_EQ(scene.take(), with(with(kClosing, kAccepted), {"KILLFOCUS"}));
 }
 
+// The platform closes the list first, where it tells of the focus afterwards.
+TEST(ComboFocus, GoingIsJudgedByAnOpenListWhereThereIsOne)
+{
+    const auto lose = [](ComboScene& scene) {
+        scene.parent.SendMessage(WM_COMMAND, MAKEWPARAM(21, CBN_KILLFOCUS),
+                                 reinterpret_cast<LPARAM>(scene.combo.m_hWnd));
+    };
+    for (const bool selected : {true, false})
+        for (const bool match : {true, false}) {
+            ComboScene scene{L"apple", L"berry"};
+            scene.combo.AutoComplete(false); // an open list is searched all the same
+            scene.enter();
+            scene.combo.ShowDropDown();
+            scene.setText(match ? L"berry" : L"bramble");
+            ::SendMessageW(scene.listBox(), LB_SETCURSEL, static_cast<WPARAM>(selected ? 0 : -1), 0);
+            scene.take();
+            lose(scene);
+            EXPECT_FALSE(scene.combo.GetDroppedState());
+            EXPECT_EQ(scene.take(),
+                      with(with(kClosing, selected || match ? kAccepted : kRejected), {"KILLFOCUS"}));
+            EXPECT_EQ(scene.text(), selected ? L"apple" : match ? L"berry" : L"");
+        }
+}
+
 TEST(ComboFocus, GoingToAnotherWindow)
 {
     ComboScene scene{L"apple", L"berry"};
@@ -545,6 +685,34 @@ TEST(ComboList, ClosingItKeepsWhatWasTyped)
     scene.combo.ShowDropDown(FALSE);
     EXPECT_EQ(scene.text(), L"be");
     EXPECT_EQ(scene.combo.GetCurSel(), -1);
+}
+
+namespace
+{
+
+LRESULT CALLBACK countTexts(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                            DWORD_PTR count)
+{
+    *reinterpret_cast<int*>(count) += message == WM_SETTEXT;
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+} // namespace
+
+TEST(ComboList, ClosingItWithoutASelectionLeavesTheFieldAlone)
+{
+    ComboScene scene{L"apple", L"berry"};
+    scene.combo.AutoComplete(false);
+    scene.enter();
+    scene.setText(L"bramble");
+    int texts = 0;
+    ::SetWindowSubclass(scene.edit(), &countTexts, 1, reinterpret_cast<DWORD_PTR>(&texts));
+    // As the platform tells of it.
+    scene.parent.SendMessage(WM_COMMAND, MAKEWPARAM(21, CBN_CLOSEUP),
+                             reinterpret_cast<LPARAM>(scene.combo.m_hWnd));
+    EXPECT_EQ(texts, 0);
+    EXPECT_EQ(scene.text(), L"bramble");
+    ::RemoveWindowSubclass(scene.edit(), &countTexts, 1);
 }
 
 TEST(ComboList, ClosingItKeepsWhatDiffersInCaseOnly)

@@ -197,6 +197,23 @@ TEST_F(ListTips, NoneBesideTheCellsNorBelowTheRows)
     }
 }
 
+TEST_F(ListTips, CellsEndWhereTheNextOnesBegin)
+{
+    scene.list.SetItemText(0, 1, L"fits");
+    const CRect label = scene.cell(0, 0);
+    const auto moveTo = [&](int x, int y) {
+        scene.list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(x, y));
+        return shows();
+    };
+    const int middle = label.CenterPoint().y;
+    EXPECT_TRUE(moveTo(label.right - 1, middle));
+    EXPECT_FALSE(moveTo(label.right, middle));
+    EXPECT_TRUE(moveTo(label.right - 1, label.bottom - 1));
+    EXPECT_FALSE(moveTo(label.right - 1, label.bottom)) << "the next row";
+    EXPECT_TRUE(moveTo(label.right - 1, label.top));
+    EXPECT_FALSE(moveTo(label.right - 1, label.top - 1)) << "the headings";
+}
+
 TEST_F(ListTips, AKeyOrAClickTakesItAway)
 {
     scene.list.SetFocus();

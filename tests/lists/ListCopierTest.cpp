@@ -136,6 +136,22 @@ TEST_F(ListCopying, AKeyAfterwardsCopiesNothing)
     EXPECT_EQ(clipboardText(), L"1.0\t1.1\t1.2\r\n");
 }
 
+TEST_F(ListCopying, RowsThatTheParentSelectsWhenItHearsOfTheKeyAreCopied)
+{
+    COVOListCopier copier;
+    copier.Attach(scene.list, false);
+    scene.show();
+    scene.list.SetFocus();
+    select({1});
+    scene.parent.answer(static_cast<UINT>(LVN_KEYDOWN), [&](NMHDR*) -> LRESULT {
+        scene.list.SetItemState(1, 0, LVIS_SELECTED);
+        scene.list.SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);
+        return 0;
+    });
+    Robot().holding(VK_CONTROL).key('C');
+    EXPECT_EQ(clipboardText(), L"2.0\t2.1\t2.2\r\n");
+}
+
 TEST_F(ListCopying, TheListMayBeDestroyedBeforeTheCopier)
 {
     scene.show();

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace ovo::testkit;
 
 namespace
@@ -289,6 +291,47 @@ TEST(ListDraw, RightAndCentredColumns)
     EXPECT_LT(firstInk(scene.cell(1, 2)), 10);
 }
 
+TEST(ListDraw, TheFirstColumnIsAlignedToTheLeftWhateverItsFormat)
+{
+    for (const int format : {LVCFMT_RIGHT, LVCFMT_CENTER}) {
+        ListScene scene;
+        scene.addColumn(L"a", 120, false, format);
+        scene.addColumn(L"b", 80, false, format);
+        scene.list.AddItem(0, 0, L"12", 0, -1);
+        scene.list.AddItem(0, 1, L"34", 0, -1);
+        scene.show();
+        scene.expectRow(0, known(scene));
+    }
+}
+
+TEST(ListDraw, TheStateImageStandsWhereTheCallerSaysTheRowIs)
+{
+    ListScene scene;
+    scene.fill({100, 80}, 1);
+    CImageList states;
+    fillImages(states, 16, {RGB(200, 0, 0)});
+    scene.list.SetImageList(&states, LVSIL_STATE);
+    scene.list.SetItemState(0, INDEXTOSTATEIMAGEMASK(1), LVIS_STATEIMAGEMASK);
+    Picture picture(300, 120);
+    DRAWITEMSTRUCT draw{};
+    draw.hDC = picture.dc();
+    draw.rcItem = {200, 80, 260, 100};
+    scene.list.DrawItem(&draw);
+    EXPECT_EQ(picture.count(RGB(200, 0, 0)), 12 * 12);
+    EXPECT_EQ(picture.count(RGB(200, 0, 0), 0, CRect(202, 82, 214, 94)), 12 * 12);
+
+    // An icon at the same place lies above it.
+    CImageList icons;
+    fillImages(icons, 16, {RGB(0, 0, 200)});
+    scene.list.SetImageList(&icons, LVSIL_SMALL);
+    draw.rcItem = scene.rect(0, LVIR_ICON);
+    scene.list.DrawItem(&draw);
+    EXPECT_EQ(picture.count(RGB(200, 0, 0), 0, scene.rect(0, LVIR_ICON)), 0);
+    EXPECT_EQ(picture.count(RGB(0, 0, 200)), 12 * 12);
+    scene.list.SetImageList(nullptr, LVSIL_SMALL);
+    scene.list.SetImageList(nullptr, LVSIL_STATE);
+}
+
 TEST(ListDraw, EmptySubitemsShowNothingNotEvenTheirColour)
 {
     ListScene scene;
@@ -439,7 +482,7 @@ TEST(ListDraw, StateImageIconOverlayAndColourInOneLabel)
     CImageList states;
     fillImages(states, 16, {RGB(200, 0, 0), RGB(0, 0, 200)});
     CImageList icons;
-    fillImages(icons, 16, {RGB(0, 150, 0), RGB(90, 0, 90)});
+    fillImages(icons, 12, {RGB(0, 150, 0), RGB(90, 0, 90)});
     icons.SetOverlayImage(1, 1);
     for (CImageList* const images : {&states, &icons})
         images->SetBkColor(RGB(0, 255, 255)); // not drawn: what is behind the images is the row
@@ -615,6 +658,45 @@ TEST(ListDraw, RowsOfAListWithoutStorageTakeTheirColoursFromTheHost)
     EXPECT_THAT(Picture::ofClient(list).at(label.right + 2, label.top + 2), IsColour(999999 % 256));
 }
 
+namespace
+{
+
+/// Deletes itself when it is asked for a colour. Whoever uses it afterwards finds no object there.
+class Vanishing : public List
+{
+public:
+    static void operator delete(void* memory, std::size_t size)
+    {
+        std::fill_n(static_cast<volatile unsigned char*>(memory), size, static_cast<unsigned char>(0xDD));
+        ::operator delete(memory);
+    }
+
+    DWORD rowColour(int) override
+    {
+        delete this;
+        return kOpaque;
+    }
+};
+
+} // namespace
+
+TEST(ListDraw, TheListMayBeDeletedWhenItIsAskedForAColour)
+{
+    RecordingParent parent;
+    auto* const list = new Vanishing;
+    list->Create(WS_CHILD, CRect(0, 0, 300, 150), &parent, 7);
+    list->UseRowColours(TRUE);
+    list->InsertColumn(0, L"a", LVCFMT_LEFT, 60);
+    list->InsertItem(0, L"x");
+    const HWND window = *list;
+    Picture picture(200, 60, RGB(9, 9, 9));
+    DRAWITEMSTRUCT draw{};
+    draw.hDC = picture.dc();
+    list->DrawItem(&draw);
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(picture.count(RGB(9, 9, 9)), 200 * 60);
+}
+
 TEST(ListDraw, LeavesTheDeviceContextAsItWas)
 {
     ListScene scene;
@@ -652,6 +734,18 @@ TEST(ListDraw, ARowThatIsGoneIsNotDrawn)
     draw.itemID = static_cast<UINT>(-1);
     scene.list.DrawItem(&draw);
     EXPECT_EQ(picture.count(RGB(9, 9, 9)), 200 * 60);
+}
+
+TEST(ListDraw, ATextThatTheHostDoesNotGiveIsEmpty)
+{
+    ListScene scene;
+    scene.fill({60, 60, 60}, 1);
+    scene.list.SetItemText(0, 1, LPSTR_TEXTCALLBACKW);
+    scene.show();
+    scene.expectRow(0, known(scene));
+    const CRect cell = scene.cell(0, 1);
+    EXPECT_EQ(Picture::ofClient(scene.list).count(::GetSysColor(COLOR_WINDOW), 0, cell),
+              cell.Width() * cell.Height());
 }
 
 TEST(ListDraw, TextsFromTheHostAreAskedForAndMayChangeTheList)

@@ -147,6 +147,9 @@ TEST_F(ListFocus, OutsideReportViewNothingIsRepainted)
     scene.list.SetFocus();
     scene.button.SetFocus();
     EXPECT_TRUE(ofList(scene).empty());
+    ::InvalidateRect(scene.list, nullptr, FALSE);
+    scene.list.UpdateWindow();
+    EXPECT_TRUE(ofList(scene).empty()) << "beside the items";
 }
 
 TEST_F(ListFocus, TheListMayBeDestroyedWhenTheFocusComesOrGoes)
@@ -212,13 +215,44 @@ TEST_F(ListFocus, TheHeaderIsNotPaintedWithTheRows)
 
 TEST_F(ListFocus, ColumnsThatReachTheEdgeNeedNoMore)
 {
+    for (const int beyond : {100, 1, 0}) {
+        ListScene scene;
+        scene.fill({100, 80}, 3);
+        CRect client;
+        scene.list.GetClientRect(&client);
+        scene.list.SetColumnWidth(1, client.Width() - 100 + beyond);
+        scene.show();
+        ofList(scene);
+        ::InvalidateRect(scene.list, nullptr, FALSE);
+        scene.list.UpdateWindow();
+        EXPECT_TRUE(ofList(scene).empty()) << beyond;
+    }
+}
+
+TEST_F(ListFocus, AWidthOnlyDecidesWhatIsPaintedBeside)
+{
+    // Not the height, which is another one here than the width.
     ListScene scene;
-    scene.fill({100, 500}, 3);
+    scene.fill({100, 150}, 3);
+    scene.list.SetWindowPos(nullptr, 0, 0, 300, 220, SWP_NOMOVE | SWP_NOZORDER);
     scene.show();
     ofList(scene);
     ::InvalidateRect(scene.list, nullptr, FALSE);
     scene.list.UpdateWindow();
-    EXPECT_TRUE(ofList(scene).empty());
+    const auto rects = ofList(scene);
+    ASSERT_EQ(rects.size(), 1u);
+    EXPECT_EQ(rects[0].rect.right, 300);
+}
+
+TEST_F(ListFocus, AWindowTooSmallForItsRowsAndColumnsScrolls)
+{
+    ListScene scene;
+    scene.fill({100, 80}, 9);
+    scene.show();
+    EXPECT_FALSE(scene.list.GetStyle() & (WS_HSCROLL | WS_VSCROLL));
+    scene.list.SetWindowPos(nullptr, 0, 0, 120, 80, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_TRUE(scene.list.GetStyle() & WS_HSCROLL);
+    EXPECT_TRUE(scene.list.GetStyle() & WS_VSCROLL);
 }
 
 TEST_F(ListFocus, AnEmptyListNeedsNoMore)

@@ -115,6 +115,68 @@ TEST(ListColumns, TakeTheirFormatAndSubitem)
     EXPECT_EQ(columnOf(scene.list, 2).iSubItem, 5);
 }
 
+namespace
+{
+
+/// What a list says of a column when it is asked for everything.
+LVCOLUMN wholeColumn(CListCtrl& list, int index, wchar_t (&heading)[40])
+{
+    LVCOLUMN column{};
+    column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_SUBITEM | LVCF_TEXT;
+    column.pszText = heading;
+    column.cchTextMax = static_cast<int>(std::size(heading));
+    EXPECT_TRUE(list.GetColumn(index, &column));
+    return column;
+}
+
+} // namespace
+
+TEST(ListColumns, TakeWhatTheMaskSays)
+{
+    for (const int left : {LVCF_TEXT, LVCF_WIDTH, LVCF_FMT, LVCF_SUBITEM}) {
+        const int mask = kAllOfColumn & ~left;
+        ListScene scene;
+        CListCtrl plain;
+        plain.Create(WS_CHILD | LVS_REPORT, CRect(0, 0, 100, 100), &scene.parent, 77);
+        LVCOLUMN raw{};
+        raw.mask = static_cast<UINT>(mask);
+        raw.fmt = LVCFMT_RIGHT;
+        raw.cx = scene.list.GetStringWidth(L"Size") + 15;
+        raw.pszText = const_cast<LPWSTR>(L"Size");
+        raw.iSubItem = 5;
+        for (const int index : {0, 1}) { // the first one is aligned to the left by some platforms
+            plain.InsertColumn(index, &raw);
+            scene.list.AddColumn(L"Size", index, 5, false, mask, LVCFMT_RIGHT);
+        }
+        wchar_t heading[40]{};
+        wchar_t expectedHeading[40]{};
+        const LVCOLUMN column = wholeColumn(scene.list, 1, heading);
+        const LVCOLUMN expected = wholeColumn(plain, 1, expectedHeading);
+        EXPECT_STREQ(heading, expectedHeading) << left;
+        EXPECT_EQ(column.fmt, expected.fmt) << left;
+        EXPECT_EQ(column.iSubItem, expected.iSubItem) << left;
+        EXPECT_EQ(column.cx, expected.cx) << left;
+    }
+}
+
+TEST(ListColumns, ThatThePlatformInsertedHaveNoColour)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    for (const int index : {0, 1})
+        scene.list.InsertColumn(index, L"plain", LVCFMT_LEFT, 60);
+    EXPECT_EQ(scene.list.AddColumn(L"colour", 2, -1, true, kAllOfColumn, LVCFMT_LEFT), 2);
+    for (const int column : {0, 1, 2})
+        scene.list.AddItem(0, column, L"x", kOpaque | RGB(200, 0, 0), -1);
+    scene.show();
+    const Picture shown = Picture::ofClient(scene.list);
+    for (const int column : {0, 1, 2}) {
+        const CRect cell = scene.cell(0, column);
+        EXPECT_THAT(shown.at(cell.left + 1, cell.top + 1),
+                    IsColour(column == 2 ? RGB(200, 0, 0) : ::GetSysColor(COLOR_WINDOW)));
+    }
+}
+
 TEST(ListColumns, BeyondTheLastOneIsTheLast)
 {
     ListScene scene;
@@ -200,6 +262,83 @@ TEST(ListRows, HaveTextsImagesAndTheIndexAskedForAsData)
     scene.list.GetItem(&item);
     EXPECT_EQ(item.iImage, 1);
     scene.list.SetImageList(nullptr, LVSIL_SMALL);
+}
+
+TEST(ListRows, CellsHaveImagesToo)
+{
+    ListScene scene;
+    scene.fill({60, 60}, 1);
+    scene.list.SetExtendedStyle(LVS_EX_SUBITEMIMAGES);
+    CImageList icons;
+    fillImages(icons, 16, {RGB(0, 0, 0), RGB(1, 1, 1), RGB(2, 2, 2)});
+    scene.list.SetImageList(&icons, LVSIL_SMALL);
+    const auto imageOf = [&](int column) {
+        LVITEM item{};
+        item.mask = LVIF_IMAGE;
+        item.iSubItem = column;
+        scene.list.GetItem(&item);
+        return item.iImage;
+    };
+    scene.list.AddItem(0, 1, L"two", 0, 2);
+    EXPECT_EQ(imageOf(1), 2);
+    scene.list.AddItem(0, 1, L"three", 0, -1);
+    EXPECT_EQ(imageOf(1), 2) << "left as it was";
+    scene.list.SetImageList(nullptr, LVSIL_SMALL);
+}
+
+TEST(ListRows, TheColourBelongsToTheIndexAskedForWhereverTheRowGoes)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    scene.addColumn(L"a", 60);
+    scene.addColumn(L"b", 60, true);
+    scene.list.AddItem(0, 0, L"x", kOpaque | RGB(200, 0, 0), -1);
+    EXPECT_EQ(scene.list.AddItem(7, 0, L"y", kOpaque | RGB(0, 200, 0), -1), 1);
+    for (const int row : {0, 1})
+        scene.list.SetItemText(row, 1, L".");
+    scene.show();
+    EXPECT_THAT(shownColour(scene, 1), IsColour(RGB(200, 0, 0))) << "its data is not 7";
+    scene.list.SetItemData(1, 7);
+    EXPECT_THAT(shownColour(scene, 1), IsColour(RGB(0, 200, 0)));
+}
+
+TEST(ListRows, OneThatCannotBeInsertedHasNoColour)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    scene.addColumn(L"a", 60);
+    scene.addColumn(L"b", 60, true);
+    scene.list.AddItem(0, 0, L"x", kOpaque | RGB(200, 0, 0), -1);
+    scene.list.AddItem(0, 1, L".", 0, -1);
+    EXPECT_EQ(scene.list.AddItem(-1, 0, L"y", kOpaque | RGB(0, 200, 0), -1), -1);
+    EXPECT_EQ(scene.list.GetItemCount(), 1);
+    scene.list.SetItemData(0, static_cast<DWORD_PTR>(-1));
+    scene.show();
+    EXPECT_THAT(shownColour(scene, 0), IsColour(0));
+}
+
+TEST(ListRows, ACellOfNoRowGivesTheIndexAskedForAndNothingElse)
+{
+    ListScene scene;
+    scene.fill({60, 60}, 1);
+    EXPECT_EQ(scene.list.AddItem(7, 1, L"nowhere", 0, -1), 7);
+    EXPECT_EQ(scene.list.GetItemCount(), 1);
+    EXPECT_EQ(scene.list.GetItemText(0, 1), L"0.1");
+}
+
+TEST(ListRows, InsertedInFrontShareTheColourOfTheirIndex)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    scene.addColumn(L"a", 60);
+    scene.addColumn(L"b", 60, true);
+    for (const COLORREF colour : {RGB(200, 0, 0), RGB(0, 200, 0)}) {
+        scene.list.AddItem(0, 0, L"x", kOpaque | colour, -1);
+        scene.list.AddItem(0, 1, L".", 0, -1);
+    }
+    scene.show();
+    EXPECT_THAT(shownColour(scene, 0), IsColour(RGB(0, 200, 0)));
+    EXPECT_THAT(shownColour(scene, 1), IsColour(RGB(0, 200, 0)));
 }
 
 TEST(ListRows, BeyondTheEndGoToTheEndWithTheDataOfNoRow)
@@ -339,6 +478,17 @@ TEST(ListSelection, ALimitOf0StillGivesOne)
     EXPECT_EQ(rows[0], -7);
     select(scene.list, {3, 5});
     EXPECT_EQ(scene.list.GetSelItems(0, rows), 1);
+    EXPECT_EQ(rows[0], 3);
+    EXPECT_EQ(rows[1], -7);
+}
+
+TEST(ListSelection, ANegativeLimitIsLikeOneOf0)
+{
+    ListScene scene;
+    scene.fill({60}, 8);
+    select(scene.list, {3, 5});
+    int rows[2] = {-7, -7};
+    EXPECT_EQ(scene.list.GetSelItems(-4, rows), 1);
     EXPECT_EQ(rows[0], 3);
     EXPECT_EQ(rows[1], -7);
 }

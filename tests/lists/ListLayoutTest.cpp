@@ -125,6 +125,18 @@ TEST(ListLayout, BothDirectionsOfSortingComeBack)
     }
 }
 
+TEST(ListLayout, AColumnWithoutAHeadingIsNotSortedByAListThatWasNot)
+{
+    const TemporaryProfile profile;
+    ListScene scene;
+    addColumns(scene, {L"a", L""});
+    COVOListSorter sorter;
+    sorter.Attach(scene.list);
+    ASSERT_TRUE(saveColumnLayout(scene.list, L"Lists", L"test", &sorter));
+    EXPECT_TRUE(restoreColumnLayout(scene.list, L"Lists", L"test", &sorter));
+    EXPECT_EQ(sorter.Column(), -1);
+}
+
 TEST(ListLayout, WithoutSavedLayoutNothingChanges)
 {
     const TemporaryProfile profile;

@@ -81,6 +81,19 @@ TEST_F(ListSorting, Numbers)
     EXPECT_EQ(column(1), (Texts{L"none", L"-3", L"9 KB", L"10 KB", L"1,000"}));
 }
 
+TEST_F(ListSorting, EqualRowsKeepTheirOrderInBothDirections)
+{
+    for (const Kind kind : {Kind::Text, Kind::Number, Kind::Date}) {
+        scene.list.DeleteAllItems();
+        add({L"2", L"1", L"2", L"1", L"2"});
+        sorter.SetKind(1, kind);
+        sorter.Sort(1, true);
+        EXPECT_EQ(column(0), (Texts{L"row 1", L"row 3", L"row 0", L"row 2", L"row 4"}));
+        sorter.Sort(1, false);
+        EXPECT_EQ(column(0), (Texts{L"row 0", L"row 2", L"row 4", L"row 1", L"row 3"}));
+    }
+}
+
 TEST_F(ListSorting, Dates)
 {
     add({L"2/1/2024", L"12/31/2023", L"never", L"1/15/2024"});

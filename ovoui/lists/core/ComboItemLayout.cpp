@@ -8,32 +8,40 @@ namespace ovoui::lists
 namespace
 {
 
+// Pixels at 96 dots per inch.
 constexpr int kGap = 2;
 constexpr int kTextGap = 3;
 
+constexpr int scaled(int pixels, int dotsPerInch)
+{
+    return (pixels * dotsPerInch + 48) / 96;
+}
+
 } // namespace
 
-ComboItemLayout layOutComboItem(const Box& item, bool hasColours, int imageWidth, int imageHeight)
+ComboItemLayout layOutComboItem(const Box& item, bool hasColours, int imageWidth, int imageHeight,
+                                int dotsPerInch)
 {
+    const int gap = scaled(kGap, dotsPerInch);
     ComboItemLayout layout;
-    int left = item.left + kGap;
+    int left = item.left + gap;
     if (hasColours) {
-        const int height = std::max(0, item.height() - 2 * kGap);
-        layout.swatch = {left, item.top + kGap, left + height * 3 / 2, item.top + kGap + height};
-        left = layout.swatch.right + kGap;
+        const int height = std::max(0, item.height() - 2 * gap);
+        layout.swatch = {left, item.top + gap, left + height * 3 / 2, item.top + gap + height};
+        left = layout.swatch.right + gap;
     }
     if (imageWidth > 0) {
         const int top = item.top + (item.height() - imageHeight) / 2;
         layout.image = {left, top, left + imageWidth, top + imageHeight};
-        left = layout.image.right + kGap;
+        left = layout.image.right + gap;
     }
-    layout.text = {left + kTextGap - kGap, item.top, item.right - kGap, item.bottom};
+    layout.text = {left + scaled(kTextGap, dotsPerInch) - gap, item.top, item.right - gap, item.bottom};
     return layout;
 }
 
-int comboItemHeight(int textHeight, int imageHeight)
+int comboItemHeight(int textHeight, int imageHeight, int dotsPerInch)
 {
-    return std::max(textHeight, imageHeight) + kGap;
+    return std::max(textHeight, imageHeight) + scaled(kGap, dotsPerInch);
 }
 
 Box placeBeside(const Box& field, const Box& workArea, int height)
@@ -42,8 +50,7 @@ Box placeBeside(const Box& field, const Box& workArea, int height)
     const int above = field.top - workArea.top;
     if (frame::opensUpwards(field, height, workArea))
         return {field.left, field.top - std::min(height, above), field.right, field.top};
-    return {field.left, field.bottom, field.right,
-            field.bottom + std::clamp(height, 0, std::max(below, 0))};
+    return {field.left, field.bottom, field.right, field.bottom + std::clamp(height, 0, std::max(below, 0))};
 }
 
 } // namespace ovoui::lists

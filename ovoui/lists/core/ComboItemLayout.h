@@ -18,11 +18,13 @@ struct ComboItemLayout
 };
 
 /// From left to right: the swatch, half as wide again as it is high, the image, the text. The image is
-/// centred vertically. An `imageWidth` of 0 stands for no images. In pixels.
-ComboItemLayout layOutComboItem(const Box& item, bool hasColours, int imageWidth, int imageHeight);
+/// centred vertically. An `imageWidth` of 0 stands for no images. In pixels; the gaps between the parts grow
+/// with the resolution.
+ComboItemLayout layOutComboItem(const Box& item, bool hasColours, int imageWidth, int imageHeight,
+                                int dotsPerInch);
 
 /// An item's height for a text of this height, 0 for no images.
-int comboItemHeight(int textHeight, int imageHeight);
+int comboItemHeight(int textHeight, int imageHeight, int dotsPerInch);
 
 /// Where a list goes that belongs to a field: below it, or above it when there is more room, cut to the room.
 /// All on the screen; `height` is the one wanted.

@@ -1,6 +1,8 @@
 #include <ovoui/lists/core/SortKeys.h>
 
 #include <algorithm>
+#include <array>
+#include <numeric>
 
 namespace ovoui::lists
 {
@@ -60,18 +62,44 @@ std::vector<SortKeys::Key> SortKeys::keysBehind(std::size_t common) const
     return keys;
 }
 
+/// Byte by byte, the last one first: no two keys are compared. Equal ones keep their order.
+void SortKeys::sortByHeads(std::vector<Key>& keys)
+{
+    std::vector<Key> sorted(keys.size());
+    for (int shift = 0; shift < 64; shift += 8) {
+        const auto byteOf = [shift](const Key& key) {
+            return static_cast<std::size_t>(key.head >> shift & 0xFF);
+        };
+        std::array<std::size_t, 257> begins{}; // behind all keys with a smaller byte
+        for (const Key& key : keys)
+            ++begins[byteOf(key) + 1];
+        if (std::find(begins.begin(), begins.end(), keys.size()) != begins.end())
+            continue; // all have the same byte here
+        std::partial_sum(begins.begin(), begins.end(), begins.begin());
+        for (const Key& key : keys)
+            sorted[begins[byteOf(key)]++] = key;
+        keys.swap(sorted);
+    }
+}
+
 std::vector<int> SortKeys::order(bool ascending) const
 {
     const std::size_t common = commonLength();
-    const auto isBefore = [this, common](const Key& one, const Key& other) {
-        if (one.head != other.head)
-            return one.head < other.head;
-        return keyOf(one.row).substr(common) < keyOf(other.row).substr(common);
-    };
     std::vector<Key> sorted = keysBehind(common);
-    std::stable_sort(sorted.begin(), sorted.end(), [&](const Key& one, const Key& other) {
-        return ascending ? isBefore(one, other) : isBefore(other, one);
-    });
+    if (!ascending)
+        for (Key& key : sorted)
+            key.head = ~key.head;
+    sortByHeads(sorted);
+    const auto isBefore = [&](const Key& one, const Key& other) {
+        const int order = keyOf(one.row).substr(common).compare(keyOf(other.row).substr(common));
+        return ascending ? order < 0 : order > 0;
+    };
+    for (auto begin = sorted.begin(); begin != sorted.end();) {
+        const auto end =
+            std::find_if(begin, sorted.end(), [&](const Key& key) { return key.head != begin->head; });
+        std::stable_sort(begin, end, isBefore);
+        begin = end;
+    }
     std::vector<int> rows(sorted.size());
     std::transform(sorted.begin(), sorted.end(), rows.begin(), [](const Key& key) { return key.row; });
     return rows;

@@ -10,8 +10,7 @@ namespace ovoui::lists
 {
 
 /// One key for each row, in the order of the rows. The bytes lie in one block. What all keys begin with is
-/// left out of account, and the first bytes behind it are compared as a number: most comparisons need no
-/// more.
+/// left out of account, and the first bytes behind it are taken for a number: most rows are in order by that.
 class SortKeys
 {
 public:
@@ -36,6 +35,7 @@ private:
     std::string_view keyOf(int row) const;
     std::size_t commonLength() const;
     std::vector<Key> keysBehind(std::size_t common) const;
+    static void sortByHeads(std::vector<Key>& keys);
 
     std::vector<char> m_bytes;
     std::vector<Place> m_places; ///< by row

@@ -7,7 +7,7 @@ using namespace ovoui::lists;
 
 TEST(ComboItemLayout, TextAloneBeginsAtTheLeft)
 {
-    const ComboItemLayout layout = layOutComboItem({10, 20, 110, 38}, false, 0, 0);
+    const ComboItemLayout layout = layOutComboItem({10, 20, 110, 38}, false, 0, 0, 96);
     EXPECT_TRUE(layout.swatch.empty());
     EXPECT_TRUE(layout.image.empty());
     EXPECT_EQ(layout.text, (Box{13, 20, 108, 38}));
@@ -16,30 +16,40 @@ TEST(ComboItemLayout, TextAloneBeginsAtTheLeft)
 TEST(ComboItemLayout, TheTextStandsBehindSwatchAndImage)
 {
     const Box item{10, 20, 110, 38};
-    const ComboItemLayout swatch = layOutComboItem(item, true, 0, 0);
+    const ComboItemLayout swatch = layOutComboItem(item, true, 0, 0, 96);
     EXPECT_EQ(swatch.swatch, (Box{12, 22, 33, 36})) << "half as wide again as it is high";
     EXPECT_EQ(swatch.text.left, 36);
 
-    const ComboItemLayout image = layOutComboItem(item, false, 16, 12);
+    const ComboItemLayout image = layOutComboItem(item, false, 16, 12, 96);
     EXPECT_EQ(image.image, (Box{12, 23, 28, 35})) << "in the middle";
     EXPECT_EQ(image.text.left, 31);
 
-    const ComboItemLayout both = layOutComboItem(item, true, 16, 16);
+    const ComboItemLayout both = layOutComboItem(item, true, 16, 16, 96);
     EXPECT_EQ(both.swatch, swatch.swatch);
     EXPECT_EQ(both.image, (Box{35, 21, 51, 37}));
     EXPECT_EQ(both.text, (Box{54, 20, 108, 38}));
 }
 
+TEST(ComboItemLayout, TheGapsGrowWithTheResolution)
+{
+    const ComboItemLayout layout = layOutComboItem({10, 20, 210, 47}, true, 24, 24, 144);
+    EXPECT_EQ(layout.swatch, (Box{13, 23, 44, 44}));
+    EXPECT_EQ(layout.image, (Box{47, 21, 71, 45}));
+    EXPECT_EQ(layout.text, (Box{76, 20, 207, 47}));
+    EXPECT_EQ(comboItemHeight(20, 24, 144), 27);
+    EXPECT_EQ(layOutComboItem({0, 0, 200, 40}, false, 0, 0, 192).text, (Box{6, 0, 196, 40}));
+}
+
 TEST(ComboItemLayout, AnItemWithoutHeightHasNoSwatch)
 {
-    EXPECT_TRUE(layOutComboItem({0, 0, 100, 3}, true, 0, 0).swatch.empty());
+    EXPECT_TRUE(layOutComboItem({0, 0, 100, 3}, true, 0, 0, 96).swatch.empty());
 }
 
 TEST(ComboItemLayout, ItemsAreAsHighAsTheHigherOfTextAndImage)
 {
-    EXPECT_EQ(comboItemHeight(13, 0), 15);
-    EXPECT_EQ(comboItemHeight(13, 16), 18);
-    EXPECT_EQ(comboItemHeight(20, 16), 22);
+    EXPECT_EQ(comboItemHeight(13, 0, 96), 15);
+    EXPECT_EQ(comboItemHeight(13, 16, 96), 18);
+    EXPECT_EQ(comboItemHeight(20, 16, 96), 22);
 }
 
 TEST(ComboItemLayout, AListGoesBelowItsField)
