@@ -26,6 +26,8 @@
 #include <ovoui/frame/ThemeData.h>
 #include <ovoui/images/AlphaImageButton.h>
 #include <ovoui/images/AlphaImageList.h>
+#include <ovoui/images/DisabledStrip.h>
+#include <ovoui/images/ImageStrips.h>
 #include <ovoui/lists/ColourEntry.h>
 #include <ovoui/lists/ComboBox.h>
 #include <ovoui/lists/ComboBoxDeletion.h>

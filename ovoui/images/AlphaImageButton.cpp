@@ -1,11 +1,14 @@
 #include <ovoui/images/AlphaImageButton.h>
 
 #include <ovoui/frame/ThemeData.h>
+#include <ovoui/images/StripReader.h>
 
 #include <commctrl.h>
 #include <vssym32.h>
 
 #include <utility>
+
+using namespace ovoui::images;
 
 IMPLEMENT_DYNAMIC(CAlphaImageButton, CButton)
 
@@ -18,6 +21,7 @@ namespace
 
 constexpr COLORREF kClassicFace = 0xC0C0C0;
 constexpr COLORREF kClassicText = 0x000000;
+constexpr int kLastState = 6; // hot under a pen, behind those of PUSHBUTTONSTATES
 
 } // namespace
 
@@ -33,6 +37,11 @@ CAlphaImageButton::~CAlphaImageButton()
 void CAlphaImageButton::setSize(unsigned int size)
 {
     m_size = size;
+}
+
+void CAlphaImageButton::useDisabledImage(bool use)
+{
+    m_makesDisabled = use;
 }
 
 void CAlphaImageButton::loadImage(unsigned int id)
@@ -51,11 +60,30 @@ void CAlphaImageButton::loadThemed(unsigned int id)
     const DWORD text = kClassicText;
     m_images->Create(size, size, 1);
     m_images->AddBitmap(id, false, 0, images, images, nullptr, &text);
+    if (m_makesDisabled)
+        addStates(id, images, &text);
     BUTTON_IMAGELIST list{};
     list.himl = m_images->GetImageList();
     list.uAlign = BUTTON_IMAGELIST_ALIGN_CENTER;
     SendMessage(BCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(&list));
     Invalidate();
+}
+
+/// With more than one image in the list, the button takes one for each of its states.
+void CAlphaImageButton::addStates(unsigned int id, const CSize& size, const DWORD* remap)
+{
+    const std::optional<Strip> strip = Strip::resource(id);
+    std::optional<StripPixels> pixels = strip ? pixelsOf(*strip, static_cast<int>(m_size)) : std::nullopt;
+    if (!pixels)
+        return;
+    disable(*pixels);
+    const UniqueBitmap disabled = bitmapOf(*pixels);
+    for (int state = PBS_NORMAL + 1; state <= kLastState; ++state) {
+        if (state == PBS_DISABLED)
+            m_images->AddBitmap(0, false, 0, size, size, disabled.get(), nullptr);
+        else
+            m_images->AddBitmap(id, false, 0, size, size, nullptr, remap);
+    }
 }
 
 void CAlphaImageButton::loadClassic(unsigned int id)

@@ -32,6 +32,11 @@ public:
     /// change of the theme.
     void loadImage(unsigned int id);
 
+    /// Whether the image of the disabled button is made from the normal one, instead of being left to the
+    /// system; for the next loadImage, which the host calls after a change of the system's colours, too. Off
+    /// at first. Counts with visual styles. See disabledStrip.
+    void useDisabledImage(bool use);
+
 protected:
     afx_msg int OnEraseBkgnd(CDC* dc);
     DECLARE_MESSAGE_MAP()
@@ -39,9 +44,11 @@ protected:
 private:
     void loadThemed(unsigned int id);
     void loadClassic(unsigned int id);
+    void addStates(unsigned int id, const CSize& size, const DWORD* remap);
 
     // Each stays when the other one takes its place in the button.
     std::unique_ptr<CBitmap> m_classic;
     std::unique_ptr<CAlphaImageList> m_images;
     unsigned int m_size = 0;
+    bool m_makesDisabled = false;
 };

@@ -1,6 +1,7 @@
 #include <ovoui/images/StripPainter.h>
 
 #include <ovoui/frame/MemoryBitmap.h>
+#include <ovoui/images/AlphaImageList.h>
 #include <ovoui/images/core/PictureSize.h>
 #include <ovoui/images/core/SharpenFilter.h>
 
@@ -89,6 +90,21 @@ std::optional<Strip> Strip::resource(UINT id)
         strip->isResource = true;
         strip->own = std::move(own);
     }
+    return strip;
+}
+
+std::optional<Strip> Strip::fromFile(const std::wstring& path)
+{
+    constexpr UINT kFlags = LR_CREATEDIBSECTION | LR_LOADFROMFILE;
+    UniqueBitmap own(static_cast<HBITMAP>(::LoadImageW(nullptr, path.c_str(), IMAGE_BITMAP, 0, 0, kFlags)));
+    if (!own && isGdiPlusStarted()) {
+        Gdiplus::Bitmap picture(path.c_str());
+        if (isGood(picture))
+            own.reset(CAlphaImageList::GetHBitmap(picture));
+    }
+    std::optional<Strip> strip = read(own.get());
+    if (strip)
+        strip->own = std::move(own);
     return strip;
 }
 

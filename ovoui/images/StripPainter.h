@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <type_traits>
 
 namespace ovoui::images
@@ -34,6 +35,8 @@ struct Strip
     /// None when the bitmap cannot be read or is larger than a picture may be.
     static std::optional<Strip> passed(HBITMAP bitmap);
     static std::optional<Strip> resource(UINT id);
+    /// A BMP file, whose alpha counts if it has 32 bits a pixel, or another one that GDI+ reads.
+    static std::optional<Strip> fromFile(const std::wstring& path);
 
     bool hasAlpha() const { return facts.bmBitsPixel == 32; }
     int count(int imageWidth) const { return facts.bmWidth / imageWidth; }

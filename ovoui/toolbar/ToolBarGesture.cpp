@@ -104,10 +104,14 @@ void CVantorToolBar::CreatePopup(int index, const CRect& rect, int held)
         return;
     const auto flyout = std::make_shared<CFlyoutToolbar>();
     const bool horizontal = isHorizontal();
+    const bool showsOwnImages = record->imageList && record->imageList == state->images.GetImageList();
     if (!flyout->create(*this, FlyoutRecord(*record), horizontal))
         return;
     ms_popupBar = flyout;
     ms_activeBar = this;
+    if (showsOwnImages && state->makesDisabled)
+        flyout->SendMessage(TB_SETDISABLEDIMAGELIST, 0,
+                            reinterpret_cast<LPARAM>(state->images.GetDisabledImageList()));
     flyout->whenChosen = [state](const FlyoutEntry& entry) {
         if (state->usable())
             state->control()->chooseEntry(entry);

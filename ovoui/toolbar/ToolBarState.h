@@ -3,7 +3,7 @@
 
 #include <ovoui/frame/SharedState.h>
 #include <ovoui/frame/Tip.h>
-#include <ovoui/images/AlphaImageList.h>
+#include <ovoui/images/ImageStrips.h>
 #include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/toolbar/core/FlyoutRecords.h>
 
@@ -42,8 +42,7 @@ struct CVantorToolBar::State : ovoui::frame::SharedState<CVantorToolBar>
     } keyboard;
 
     // Images by resolution (ToolBarStrips.cpp)
-    std::vector<Strip> strips;
-    int imageSize = 0;                       ///< at 96 dots per inch
-    int shownSize = 0;                       ///< of the images loaded; 0: none
-    std::unique_ptr<CAlphaImageList> images; ///< what the control shows
+    CImageStrips images;       ///< what the control shows, once it is loaded
+    CImageStrips imagesBefore; ///< what it showed before other strips were given to it
+    bool makesDisabled = false;
 };

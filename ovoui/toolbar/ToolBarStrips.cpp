@@ -1,64 +1,88 @@
-// CVantorToolBar: images by the resolution of the monitor.
-#include <ovoui/images/AlphaImageList.h>
+// CVantorToolBar: images by the resolution of the monitor, and their disabled forms.
+#include <ovoui/images/ResolutionWatch.h>
+#include <ovoui/images/core/StripChoice.h>
 #include <ovoui/toolbar/ToolBarState.h>
-#include <ovoui/toolbar/core/StripChoice.h>
 
 #include <afxpriv.h>
 
-using namespace ovoui::toolbar;
+#include <utility>
+
+using ovoui::images::atResolution;
+using ovoui::images::resolutionOf;
 
 namespace
 {
 
 constexpr SIZE kAroundImage{8, 7}; // of a button, in pixels at the usual resolution
 
-int resolutionOf(HWND wnd)
-{
-    using GetDpi = UINT(WINAPI*)(HWND);
-    const FARPROC entry = ::GetProcAddress(::GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
-    const auto getDpi = reinterpret_cast<GetDpi>(reinterpret_cast<void*>(entry));
-    if (const UINT dpi = getDpi ? getDpi(wnd) : 0)
-        return static_cast<int>(dpi);
-    const CClientDC screen(nullptr);
-    return screen.GetDeviceCaps(LOGPIXELSY);
-}
-
 } // namespace
 
 void CVantorToolBar::UseStrips(const std::vector<Strip>& strips, int imageSize)
 {
-    m_state->strips = strips;
-    m_state->imageSize = imageSize;
-    m_state->shownSize = 0;
+    std::vector<CImageStrips::Strip> sources;
+    for (const Strip& strip : strips)
+        sources.push_back({.bitmapId = strip.bitmapId, .size = strip.size});
+    UseStrips(CImageStrips(std::move(sources), imageSize));
+}
+
+void CVantorToolBar::UseStrips(CImageStrips strips)
+{
+    if (m_state->images.GetImageList())
+        m_state->imagesBefore = std::move(m_state->images); // the control shows them until it has others
+    m_state->images = std::move(strips);
+    m_state->images.UseDisabledImages(m_state->makesDisabled);
     loadStrip(resolutionOf(m_hWnd));
+}
+
+void CVantorToolBar::UseDisabledImages(bool use)
+{
+    if (use == m_state->makesDisabled)
+        return;
+    m_state->makesDisabled = use;
+    m_state->images.UseDisabledImages(use);
+    if (use)
+        renewImages();
+    else
+        SendMessage(TB_SETDISABLEDIMAGELIST, 0, 0);
 }
 
 /// The bar's images at a resolution; nothing happens when they have the size already.
 void CVantorToolBar::loadStrip(int dotsPerInch)
 {
-    const int size = atResolution(m_state->imageSize, dotsPerInch);
-    if (!m_hWnd || m_state->strips.empty() || size == m_state->shownSize)
-        return;
-    std::vector<int> sizes;
-    for (const Strip& strip : m_state->strips)
-        sizes.push_back(strip.size);
-    const Strip& strip = m_state->strips[chooseStrip(sizes, size)];
+    const std::shared_ptr<State> state = m_state; // a drawing of the host's may destroy the bar
+    const HIMAGELIST before = state->images.GetImageList();
+    const int sizeBefore = state->images.GetSize();
+    if (m_hWnd && state->images.Load(dotsPerInch) && state->usable() &&
+        state->images.GetImageList() != before)
+        showImages(dotsPerInch, sizeBefore);
+}
 
-    auto images = std::make_unique<CAlphaImageList>();
-    const CSize from(strip.size, strip.size);
-    const CSize to(size, size);
-    if (!images->Create(size, size, 1) ||
-        images->AddBitmap(strip.bitmapId, false, -1, from, to, nullptr, nullptr) < 0)
-        return; // the images of before stay
+/// The same images once more, after a change of what they are made from.
+void CVantorToolBar::renewImages()
+{
+    const std::shared_ptr<State> state = m_state;
+    const int size = state->images.GetSize();
+    if (m_hWnd && state->images.Reload() && state->usable())
+        showImages(resolutionOf(m_hWnd), size);
+}
+
+void CVantorToolBar::showImages(int dotsPerInch, int sizeBefore)
+{
+    const CImageStrips& images = m_state->images;
     const auto before = reinterpret_cast<const void*>(SendMessage(TB_GETIMAGELIST));
-    SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images->GetImageList()));
+    SendMessage(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images.GetImageList()));
+    if (m_state->makesDisabled)
+        SendMessage(TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(images.GetDisabledImageList()));
+    m_state->records.replaceImageList(before, images.GetImageList());
+    if (images.GetSize() == sizeBefore) {
+        Invalidate();
+        return;
+    }
+    const CSize size(images.GetSize(), images.GetSize());
     SetSizes(
-        to + CSize(atResolution(kAroundImage.cx, dotsPerInch), atResolution(kAroundImage.cy, dotsPerInch)),
-        to);
-    m_state->records.replaceImageList(before, images->GetImageList());
-    UpdateBarBitmapSize(size);
-    m_state->images = std::move(images);
-    m_state->shownSize = size;
+        size + CSize(atResolution(kAroundImage.cx, dotsPerInch), atResolution(kAroundImage.cy, dotsPerInch)),
+        size);
+    UpdateBarBitmapSize(size.cx);
     CFrameWnd* const frame = GetDockingFrame();
     if (frame && isPlacedBy(*frame))
         frame->RecalcLayout();

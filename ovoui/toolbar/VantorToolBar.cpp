@@ -141,6 +141,13 @@ LRESULT CVantorToolBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     case kDpiChangedAfterParent:
         onResolutionChanged(0);
         break;
+    case WM_SYSCOLORCHANGE: {
+        const std::shared_ptr<State> state = m_state;
+        const LRESULT result = CToolBar::WindowProc(message, wParam, lParam); // shows its own images again
+        if (state->usable())
+            renewImages();
+        return result;
+    }
     }
     return CToolBar::WindowProc(message, wParam, lParam);
 }

@@ -12,6 +12,7 @@
 #pragma once
 
 #include <ovoui/export.h>
+#include <ovoui/images/ImageStrips.h>
 
 #include <ovocor/Quark.h>
 
@@ -110,6 +111,13 @@ public:
     /// larger as the monitor's resolution is higher. The host has started GDI+; without it, or without such a
     /// resource, the images stay what they were.
     void UseStrips(const std::vector<Strip>& strips, int imageSize);
+    /// The same with `strips` that may come from files or be drawn at each size. What a drawing raises comes
+    /// out of this call and of the message that tells of another resolution.
+    void UseStrips(CImageStrips strips);
+    /// Images of disabled buttons are made from those of UseStrips, in the bar and in flyouts that show the
+    /// bar's images, instead of being left to the system. They follow the system's colours. See
+    /// disabledStrip.
+    void UseDisabledImages(bool use);
 
     /// Gives the bar the focus, so that keys operate it: arrows walk over the buttons, Enter and Space press
     /// one, Down or Alt+Down opens its flyout, Tab goes to the bar's controls, Escape gives the focus back to
@@ -263,6 +271,8 @@ private:
     LRESULT onGetObject(WPARAM wParam, LPARAM lParam);
     // images, layout, commands
     void loadStrip(int dotsPerInch);
+    void renewImages();
+    void showImages(int dotsPerInch, int sizeBefore);
     bool isPlacedBy(const CFrameWnd& frame) const;
     void onResolutionChanged(int resolution);
     bool isHorizontal() const;

@@ -9,8 +9,7 @@ set(toolbar_core
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutGesture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutPlacement.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutRecords.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/core/LayoutRules.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/core/StripChoice.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/core/LayoutRules.cpp)
 
 if(NOT WIN32)
   add_library(ovoui_toolbar_core STATIC ${toolbar_core})

@@ -165,6 +165,27 @@ TEST_F(AlphaImageButton, AMissingResourceShowsNoImage)
     EXPECT_GT(count(&green), 0);
 }
 
+TEST_F(AlphaImageButton, ADisabledImageIsMadeFromTheNormalOneOnRequest)
+{
+    button.useDisabledImage(true);
+    button.loadImage(strip());
+    present(parent);
+    EXPECT_GT(count(&green), themed() ? 30 : 0);
+    button.EnableWindow(FALSE);
+    BUTTON_IMAGELIST list{};
+    if (!themed()) {
+        EXPECT_FALSE(button.SendMessage(BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&list)) && list.himl)
+            << "the classic image is the system's";
+        return;
+    }
+    EXPECT_EQ(count(&green), 0) << "grey";
+    ASSERT_TRUE(button.SendMessage(BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&list)));
+    EXPECT_EQ(::ImageList_GetImageCount(list.himl), 6) << "one for each state";
+    const Picture disabled = shown();
+    button.loadImage(60001);
+    EXPECT_GT(shown().differences(disabled), 20) << "it was seen";
+}
+
 namespace
 {
 

@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 using namespace ovo::testkit;
 
 namespace
@@ -314,4 +316,99 @@ TEST(BarStrips, WithoutAStripTheImagesStay)
     scene.bar().UseStrips({{4711, 16}}, 16);
     scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(144, 144));
     EXPECT_EQ(listOf(scene.bar()), before);
+}
+
+TEST(BarStrips, CanBeDrawnForEachSize)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    std::vector<int> sizes;
+    scene.bar().UseStrips(CImageStrips(
+        [&sizes](int size) {
+            sizes.push_back(size);
+            return ::CreateBitmap(3 * size, size, 1, 32, nullptr);
+        },
+        16));
+    scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(120, 120));
+    EXPECT_EQ(imageSize(scene.bar()), CSize(20, 20));
+    EXPECT_EQ(sizes.back(), 20);
+    EXPECT_EQ(::ImageList_GetImageCount(listOf(scene.bar())), 3);
+}
+
+TEST(BarStrips, ADrawingMayRaiseAndDestroyTheBar)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    int mischief = 0;
+    TestBar* bar = &scene.bar();
+    bar->UseStrips(CImageStrips(
+        [&](int size) {
+            if (mischief == 1)
+                throw std::runtime_error("no");
+            if (mischief == 2)
+                bar->DestroyWindow();
+            return ::CreateBitmap(3 * size, size, 1, 32, nullptr);
+        },
+        16));
+    const HIMAGELIST before = listOf(*bar);
+    mischief = 1;
+    EXPECT_THROW(bar->SendMessage(WM_DPICHANGED, MAKEWPARAM(240, 240)), std::runtime_error);
+    EXPECT_EQ(listOf(*bar), before);
+    mischief = 2;
+    bar->SendMessage(WM_DPICHANGED, MAKEWPARAM(288, 288));
+    EXPECT_EQ(bar->m_hWnd, nullptr);
+}
+
+// Disabled images
+
+namespace
+{
+
+HIMAGELIST disabledListOf(const CToolBar& bar)
+{
+    return reinterpret_cast<HIMAGELIST>(::SendMessageW(bar.m_hWnd, TB_GETDISABLEDIMAGELIST, 0, 0));
+}
+
+} // namespace
+
+TEST(BarDisabledImages, AreMadeFromTheStripsOnRequest)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    scene.bar().UseStrips(kStrips, 16);
+    EXPECT_EQ(disabledListOf(scene.bar()), nullptr);
+    scene.bar().UseDisabledImages(true);
+    ASSERT_NE(disabledListOf(scene.bar()), nullptr);
+    EXPECT_EQ(::ImageList_GetImageCount(disabledListOf(scene.bar())), 12);
+    scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(240, 240));
+    int width = 0;
+    int height = 0;
+    ::ImageList_GetIconSize(disabledListOf(scene.bar()), &width, &height);
+    EXPECT_EQ(CSize(width, height), CSize(40, 40));
+
+    scene.bar().AttachBar(BarScene::Lines, 16, {ID_LINE, ID_ARC}, {}, {0, 1}, {}, false, false);
+    scene.bar().CreatePopup(BarScene::Lines, CRect(300, 300, 320, 320), 0);
+    ASSERT_NE(BarScene::flyout(), nullptr);
+    EXPECT_EQ(disabledListOf(*BarScene::flyout()), disabledListOf(scene.bar()));
+    TestBar::ms_popupBar.reset();
+
+    scene.bar().UseDisabledImages(false);
+    EXPECT_EQ(disabledListOf(scene.bar()), nullptr);
+}
+
+TEST(BarDisabledImages, FollowTheSystemsColours)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    scene.bar().UseDisabledImages(true);
+    scene.bar().UseStrips(kStrips, 16);
+    const HIMAGELIST before = disabledListOf(scene.bar());
+    ASSERT_NE(before, nullptr);
+    scene.bar().SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_NE(disabledListOf(scene.bar()), before);
+    EXPECT_EQ(::ImageList_GetImageCount(listOf(scene.bar())), 12);
+
+    scene.bar().UseDisabledImages(false);
+    scene.bar().SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_EQ(::ImageList_GetImageCount(listOf(scene.bar())), 12) << "not those of the toolbar resource";
 }

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <span>
 
-namespace ovoui::toolbar
+namespace ovoui::images
 {
 
 inline constexpr int kUsualResolution = 96; // dots per inch
@@ -16,4 +16,4 @@ int atResolution(int length, int dotsPerInch);
 /// must not be empty.
 std::size_t chooseStrip(std::span<const int> sizes, int wanted);
 
-} // namespace ovoui::toolbar
+} // namespace ovoui::images

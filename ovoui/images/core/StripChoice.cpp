@@ -1,6 +1,6 @@
-#include <ovoui/toolbar/core/StripChoice.h>
+#include <ovoui/images/core/StripChoice.h>
 
-namespace ovoui::toolbar
+namespace ovoui::images
 {
 
 int atResolution(int length, int dotsPerInch)
@@ -24,4 +24,4 @@ std::size_t chooseStrip(std::span<const int> sizes, int wanted)
     return best;
 }
 
-} // namespace ovoui::toolbar
+} // namespace ovoui::images

@@ -1,12 +1,12 @@
 // Which strip of images is scaled to which size.
-#include <ovoui/toolbar/core/StripChoice.h>
+#include <ovoui/images/core/StripChoice.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <vector>
 
-using namespace ovoui::toolbar;
+using namespace ovoui::images;
 
 TEST(StripChoice, LengthsGrowWithTheResolution)
 {

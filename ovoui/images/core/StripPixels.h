@@ -1,0 +1,40 @@
+/// A strip in memory. Plain values, no windows.
+#pragma once
+
+#include <ovoui/images/core/SharpenFilter.h>
+#include <ovoui/images/core/StripRules.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace ovoui::images
+{
+
+/// Images of one size side by side. A pixel is 0xAARRGGBB with colours that are not premultiplied; rows run
+/// from the top. Both lengths of `image` are positive.
+struct StripPixels
+{
+    StripPixels(const ImageSize& size, int images)
+        : image(size)
+        , count(images)
+        , pixels(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(images) *
+                 static_cast<std::size_t>(size.height))
+    {
+    }
+
+    int width() const { return image.width * count; }
+
+    /// One image, to be changed in place.
+    PixelBlock block(int index)
+    {
+        return {pixels.data() + static_cast<std::ptrdiff_t>(index) * image.width, image.width, image.height,
+                width()};
+    }
+
+    ImageSize image; ///< in pixels
+    int count;       ///< how many images
+    std::vector<std::uint32_t> pixels;
+};
+
+} // namespace ovoui::images
