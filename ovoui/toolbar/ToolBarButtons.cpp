@@ -6,6 +6,7 @@
 #include <ovoui/toolbar/core/BarRules.h>
 #include <ovoui/toolbar/core/FlyoutGesture.h>
 
+#include <list>
 #include <string_view>
 
 using namespace ovoui::toolbar;
@@ -49,27 +50,51 @@ private:
     LRESULT m_owner;
 };
 
-/// In the end no more of a window is invalid than at the beginning.
+/// In the end as much of a window, and of the controls in it, is invalid as at the beginning.
 class SameInvalid
 {
 public:
     explicit SameInvalid(HWND wnd)
-        : m_wnd(wnd)
     {
-        m_region.CreateRectRgn(0, 0, 0, 0);
-        ::GetUpdateRgn(m_wnd, m_region, FALSE);
+        note(wnd, reinterpret_cast<LPARAM>(this));
+        ::EnumChildWindows(wnd, &note, reinterpret_cast<LPARAM>(this));
     }
     ~SameInvalid()
     {
-        ::ValidateRect(m_wnd, nullptr);
-        ::InvalidateRgn(m_wnd, m_region, TRUE);
+        for (const Part& part : m_parts)
+            part.restore();
     }
     SameInvalid(const SameInvalid&) = delete;
     SameInvalid& operator=(const SameInvalid&) = delete;
 
 private:
-    HWND m_wnd;
-    CRgn m_region;
+    struct Part
+    {
+        HWND wnd;
+        CRgn region;
+        bool any;
+
+        explicit Part(HWND window)
+            : wnd(window)
+        {
+            region.CreateRectRgn(0, 0, 0, 0);
+            any = ::GetUpdateRgn(wnd, region, FALSE) != NULLREGION;
+        }
+        void restore() const
+        {
+            ::RedrawWindow(wnd, nullptr, nullptr, RDW_VALIDATE | RDW_NOCHILDREN);
+            if (any) // its frame, too, which was to be painted with it
+                ::RedrawWindow(wnd, nullptr, region, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_NOCHILDREN);
+        }
+    };
+
+    static BOOL CALLBACK note(HWND wnd, LPARAM self)
+    {
+        reinterpret_cast<SameInvalid*>(self)->m_parts.emplace_back(wnd);
+        return TRUE;
+    }
+
+    std::list<Part> m_parts;
 };
 
 /// A change during which the control does not redraw, and does not tell the owner, which could destroy it in

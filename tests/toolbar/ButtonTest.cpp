@@ -136,6 +136,24 @@ TEST(BarButton, WhatWasInvalidBeforeStaysSo)
     EXPECT_EQ(invalid, both);
 }
 
+TEST(BarButton, AControlThatWaitsToBePaintedStillDoes)
+{
+    BarScene scene;
+    CEdit edit;
+    edit.Create(WS_CHILD | WS_VISIBLE, itemRect(scene.bar(), BarScene::Other), &scene.bar(), 77);
+    TBBUTTON button;
+    scene.bar()._getButton(BarScene::Lines, &button);
+    for (const bool waits : {true, false}) {
+        GuiThread::settle();
+        scene.bar().RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        if (waits)
+            edit.Invalidate();
+        button.iBitmap = button.iBitmap == 6 ? 5 : 6;
+        scene.bar()._setButton(BarScene::Lines, &button);
+        EXPECT_EQ(edit.GetUpdateRect(nullptr) != FALSE, waits);
+    }
+}
+
 TEST(BarButton, AnotherWidthPaintsTheWholeBar)
 {
     BarScene scene;
