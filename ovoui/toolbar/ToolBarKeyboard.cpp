@@ -218,9 +218,12 @@ void CVantorToolBar::chooseEntry(const CFlyoutToolbar::Entry& entry)
         giveFocusBack();
 }
 
+/// The first, or the one before it, which is the last: without a control to begin at Wine finds none
+/// backwards.
 void CVantorToolBar::goToControl(bool previous)
 {
-    if (CWnd* const control = GetNextDlgTabItem(nullptr, previous))
+    CWnd* const first = GetNextDlgTabItem(nullptr);
+    if (CWnd* const control = first && previous ? GetNextDlgTabItem(first, TRUE) : first)
         control->SetFocus();
 }
 

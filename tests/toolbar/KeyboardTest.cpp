@@ -264,8 +264,13 @@ TEST_F(BarKeyboard, TabGoesToTheBarsControls)
     CEdit edit;
     edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(200, 0, 260, 18), &scene.bar(), IDC_BAR_EDIT);
     scene.bar().FocusButtons();
+    CEdit last;
+    last.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(265, 0, 300, 18), &scene.bar(), IDC_BAR_EDIT + 1);
     scene.user.key(VK_TAB);
     EXPECT_EQ(::GetFocus(), edit.m_hWnd);
+    scene.bar().FocusButtons();
+    scene.user.holding(VK_SHIFT).key(VK_TAB);
+    EXPECT_EQ(::GetFocus(), last.m_hWnd);
 }
 
 TEST(BarKeyboardVertical, RightOpensAndDownWalks)
