@@ -164,6 +164,8 @@ void CModuleListDlg::showVisible()
     m_visible = visibleModules(m_modules, filter.GetString(), *m_order, remarkTexts());
     m_list.SetItemState(-1, 0, LVIS_SELECTED | LVIS_FOCUSED); // rows are other modules now
     m_list.SetItemCountEx(static_cast<int>(m_visible.size()));
+    if (!m_visible.empty())
+        m_list.SetItemState(0, LVIS_FOCUSED, LVIS_FOCUSED); // so that the focus in the list is seen
     m_list.Invalidate();
     showOrder();
     SetDlgItemText(IDC_MODULES_COUNT, stringPrintf(ovoui::resourceString(IDS_MODULES_COUNT).c_str(),
