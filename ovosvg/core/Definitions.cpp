@@ -1,0 +1,41 @@
+#include <ovosvg/core/Definitions.h>
+
+#include <ovosvg/core/Values.h>
+
+namespace ovosvg
+{
+
+std::string_view localName(std::string_view name)
+{
+    return name.substr(name.find(':') + 1); // npos + 1 is 0
+}
+
+Definitions::Definitions(const XmlElement& root)
+{
+    add(root);
+}
+
+void Definitions::add(const XmlElement& element)
+{
+    if (const std::string* const id = element.find("id"))
+        m_all.emplace(*id, &element);
+    for (const XmlElement& child : element.children)
+        add(child);
+}
+
+const XmlElement* Definitions::find(std::string_view id) const
+{
+    const auto found = m_all.find(id);
+    return found == m_all.end() ? nullptr : found->second;
+}
+
+const XmlElement* Definitions::referredBy(const XmlElement& element) const
+{
+    const std::string* address = element.find("href");
+    if (!address)
+        address = element.find("xlink:href");
+    const std::string_view text = address ? trimmed(*address) : std::string_view();
+    return text.starts_with('#') ? find(text.substr(1)) : nullptr;
+}
+
+} // namespace ovosvg

@@ -1,0 +1,254 @@
+// The walk over the elements. Shapes are in RendererShapes.cpp.
+#include <ovosvg/core/Renderer.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace ovosvg
+{
+
+namespace
+{
+
+template <std::size_t count>
+bool isOneOf(std::string_view name, const std::string_view (&names)[count])
+{
+    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
+/// Elements that show nothing where they stand.
+constexpr std::string_view kNotDrawn[] = {"defs",   "symbol",  "linearGradient", "radialGradient", "stop",
+                                          "title",  "desc",    "metadata",       "clipPath",       "mask",
+                                          "marker", "pattern", "filter"};
+
+} // namespace
+
+Renderer::Renderer(const XmlElement& root, int width, int height, std::vector<SvgNote>& notes,
+                   const Budget& budget)
+    : m_root(root)
+    , m_prefix(root.name.substr(0, root.name.find(':') + 1))
+    , m_definitions(root)
+    , m_width(width)
+    , m_height(height)
+    , m_notes(notes)
+    , m_budget(budget)
+{
+}
+
+Canvas Renderer::render(std::uint32_t currentColour)
+{
+    m_layers.emplace_back(m_width, m_height);
+    Context context;
+    context.style.colour = currentColour;
+    context.style = styleFor(m_root, context.style);
+    context.viewport = {0, 0, static_cast<double>(m_width), static_cast<double>(m_height)};
+    Box room = context.viewport;
+    if (!m_root.find("viewBox")) {
+        // A drawing without a view box has that of its size, if it says one.
+        const auto width = maybeLength(m_root, "width", room, Axis::X);
+        const auto height = maybeLength(m_root, "height", room, Axis::Y);
+        if (width && height && *width > 0 && *height > 0)
+            context.matrix = Fit().matrix({0, 0, *width, *height}, room);
+        if (width && height)
+            context.viewport = {0, 0, *width, *height};
+        if (context.style.displayed)
+            inLayer(context.style.opacity, [&] { drawChildren(m_root, context); });
+    } else if (context.style.displayed) {
+        inLayer(context.style.opacity, [&] { drawViewport(m_root, context, room); });
+    }
+    return std::move(m_layers.front());
+}
+
+void Renderer::drawChildren(const XmlElement& element, const Context& context)
+{
+    for (const XmlElement& child : element.children)
+        drawElement(child, context);
+}
+
+void Renderer::drawElement(const XmlElement& element, const Context& parent)
+{
+    if (!element.name.starts_with(m_prefix))
+        return;
+    const std::string_view name = std::string_view(element.name).substr(m_prefix.size());
+    if (name.find(':') != std::string_view::npos || isOneOf(name, kNotDrawn))
+        return; // an editor's own, or drawn elsewhere
+    if (parent.depth >= kMostDepth)
+        throw SvgFailure{{SvgIssue::TooLarge, element.place.line, element.place.column, "depth"}};
+    if (++m_elements > kMostElements)
+        throw SvgFailure{{SvgIssue::TooLarge, element.place.line, element.place.column, "elements"}};
+    m_budget.spend(kPointCost);
+    Context context = parent;
+    ++context.depth;
+    context.style = styleFor(element, parent.style);
+    context.matrix = parent.matrix * transformOf(element);
+    if (context.style.displayed && context.style.opacity > 0)
+        inLayer(context.style.opacity, [&] { drawByName(name, element, context); });
+}
+
+void Renderer::drawByName(std::string_view name, const XmlElement& element, const Context& context)
+{
+    if (name == "g" || name == "a") {
+        drawChildren(element, context);
+    } else if (name == "use") {
+        drawReference(element, context);
+    } else if (name == "svg") {
+        const Box& view = context.viewport;
+        drawViewport(element, context,
+                     {length(element, "x", view, Axis::X), length(element, "y", view, Axis::Y),
+                      size(element, "width", view, Axis::X, {1, true}),
+                      size(element, "height", view, Axis::Y, {1, true})});
+    } else if (const std::optional<Path> shape = shapeOf(name, element, context)) {
+        drawShape(*shape, element, context, name != "line");
+    } else {
+        note(SvgIssue::NotSupported, element, std::string(name));
+    }
+}
+
+void Renderer::drawReference(const XmlElement& use, const Context& context)
+{
+    const XmlElement* const target = m_definitions.referredBy(use);
+    if (!target) {
+        note(SvgIssue::BadValue, use, "href");
+        return;
+    }
+    const Box& view = context.viewport;
+    Context moved = context;
+    moved.matrix = context.matrix *
+                   Matrix::translation(length(use, "x", view, Axis::X), length(use, "y", view, Axis::Y));
+    const std::string_view name = localName(target->name);
+    if (name != "symbol" && name != "svg") {
+        drawElement(*target, moved);
+        return;
+    }
+    if (moved.depth >= kMostDepth)
+        throw SvgFailure{{SvgIssue::TooLarge, use.place.line, use.place.column, "depth"}};
+    ++moved.depth;
+    moved.style = styleFor(*target, context.style);
+    moved.matrix = moved.matrix * transformOf(*target);
+    const auto side = [&](const char* attribute, Axis axis) {
+        const XmlElement& owner = use.find(attribute) ? use : *target;
+        return size(owner, attribute, view, axis, {1, true});
+    };
+    const Box room{length(*target, "x", view, Axis::X), length(*target, "y", view, Axis::Y),
+                   side("width", Axis::X), side("height", Axis::Y)};
+    if (moved.style.displayed)
+        inLayer(moved.style.opacity, [&] { drawViewport(*target, moved, room); });
+}
+
+/// The children in the room that they are given. What reaches beyond it is not cut off.
+void Renderer::drawViewport(const XmlElement& element, const Context& context, const Box& room)
+{
+    if (room.width <= 0 || room.height <= 0)
+        return;
+    Context inner = context;
+    const std::optional<Box> viewBox = viewBoxOf(element);
+    if (viewBox && (viewBox->width <= 0 || viewBox->height <= 0))
+        return;
+    const std::string* const text = element.find("preserveAspectRatio");
+    const std::optional<Fit> fit = text ? fitFrom(*text) : Fit();
+    if (!fit)
+        note(SvgIssue::BadValue, element, "preserveAspectRatio");
+    inner.matrix = context.matrix * (viewBox ? fit.value_or(Fit()).matrix(*viewBox, room)
+                                             : Matrix::translation(room.x, room.y));
+    const Box own = viewBox.value_or(room);
+    inner.viewport = {0, 0, own.width, own.height};
+    drawChildren(element, inner);
+}
+
+/// Draws onto a layer of its own if the result is to be seen through.
+template <class Draw>
+void Renderer::inLayer(double opacity, const Draw& draw)
+{
+    if (opacity >= 1) {
+        draw();
+        return;
+    }
+    const auto pixels = static_cast<std::int64_t>(m_width) * m_height;
+    if (static_cast<std::int64_t>(m_layers.size() + 1) * pixels > kMostPixels)
+        throw SvgFailure{{SvgIssue::TooLarge, m_root.place.line, m_root.place.column, "layers"}};
+    m_budget.spend(pixels);
+    m_layers.emplace_back(m_width, m_height);
+    draw();
+    const Canvas layer = std::move(m_layers.back());
+    m_layers.pop_back();
+    m_layers.back().lay(layer, opacity);
+}
+
+// Values
+
+double Renderer::length(const XmlElement& element, const char* attribute, const Box& viewport, Axis axis,
+                        Length otherwise)
+{
+    const std::string* const text = element.find(attribute);
+    std::optional<Length> length = text && trimmed(*text) != "auto" ? lengthFrom(*text) : otherwise;
+    if (!length) {
+        note(SvgIssue::BadValue, element, attribute);
+        length = otherwise;
+    }
+    const double diagonal =
+        std::sqrt((viewport.width * viewport.width + viewport.height * viewport.height) / 2);
+    return length->of(axis == Axis::X ? viewport.width : axis == Axis::Y ? viewport.height : diagonal);
+}
+
+double Renderer::size(const XmlElement& element, const char* attribute, const Box& viewport, Axis axis,
+                      Length otherwise)
+{
+    const double value = length(element, attribute, viewport, axis, otherwise);
+    if (value >= 0)
+        return value;
+    note(SvgIssue::BadValue, element, attribute);
+    return 0;
+}
+
+/// None without the attribute.
+std::optional<double> Renderer::maybeLength(const XmlElement& element, const char* attribute,
+                                            const Box& viewport, Axis axis)
+{
+    const std::string* const text = element.find(attribute);
+    if (!text || trimmed(*text) == "auto")
+        return std::nullopt;
+    return size(element, attribute, viewport, axis);
+}
+
+Matrix Renderer::transformOf(const XmlElement& element)
+{
+    const std::string_view text = propertyOf(element, "transform");
+    const std::optional<Matrix> matrix = transformFrom(text);
+    if (!matrix)
+        note(SvgIssue::BadValue, element, "transform");
+    return matrix.value_or(Matrix{});
+}
+
+std::optional<Box> Renderer::viewBoxOf(const XmlElement& element)
+{
+    const std::string* const text = element.find("viewBox");
+    const auto numbers = text ? numbersFrom(*text) : std::nullopt;
+    if (numbers && numbers->size() == 4 && (*numbers)[2] >= 0 && (*numbers)[3] >= 0)
+        return Box{(*numbers)[0], (*numbers)[1], (*numbers)[2], (*numbers)[3]};
+    if (text)
+        note(SvgIssue::BadValue, element, "viewBox");
+    return std::nullopt;
+}
+
+Style Renderer::styleFor(const XmlElement& element, const Style& parent)
+{
+    return styleOf(element, parent, [this](const std::string& name, Setting setting, XmlPlace place) {
+        note(setting == Setting::NotSupported ? SvgIssue::NotSupported : SvgIssue::BadValue, place, name);
+    });
+}
+
+void Renderer::note(SvgIssue issue, const XmlElement& element, std::string what)
+{
+    note(issue, element.place, std::move(what));
+}
+
+void Renderer::note(SvgIssue issue, XmlPlace place, std::string what)
+{
+    constexpr std::size_t kMostNotes = 100;
+    SvgNote note{issue, place.line, place.column, std::move(what)};
+    if (m_notes.size() < kMostNotes && std::find(m_notes.begin(), m_notes.end(), note) == m_notes.end())
+        m_notes.push_back(std::move(note));
+}
+
+} // namespace ovosvg

@@ -1,0 +1,199 @@
+#include <ovosvg/core/Style.h>
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
+namespace ovosvg
+{
+
+namespace
+{
+
+std::optional<Paint> paintFrom(std::string_view text)
+{
+    if (text == "none")
+        return Paint{};
+    if (text == "currentColor" || text == "currentcolor")
+        return Paint{Paint::Kind::Current, 0, {}};
+    if (text.starts_with("url(")) {
+        const std::size_t end = text.find(')');
+        std::string_view address = trimmed(text.substr(4, end == std::string_view::npos ? end : end - 4));
+        if (address.size() >= 2 && (address.front() == '"' || address.front() == '\''))
+            address = address.substr(1, address.size() - 2);
+        if (end == std::string_view::npos || !address.starts_with('#'))
+            return std::nullopt;
+        return Paint{Paint::Kind::Server, 0, std::string(address.substr(1))};
+    }
+    const std::optional<std::uint32_t> colour = colourFrom(text);
+    return colour ? std::optional(Paint{Paint::Kind::Solid, *colour, {}}) : std::nullopt;
+}
+
+template <class Value>
+struct Word
+{
+    std::string_view name;
+    Value value;
+};
+
+template <class Value, std::size_t count>
+std::optional<Value> wordFrom(std::string_view text, const Word<Value> (&words)[count])
+{
+    for (const auto& [name, value] : words)
+        if (text == name)
+            return value;
+    return std::nullopt;
+}
+
+constexpr Word<FillRule> kFillRules[] = {{"nonzero", FillRule::NonZero}, {"evenodd", FillRule::EvenOdd}};
+constexpr Word<LineCap> kCaps[] = {
+    {"butt", LineCap::Butt}, {"round", LineCap::Round}, {"square", LineCap::Square}};
+constexpr Word<LineJoin> kJoins[] = {
+    {"miter", LineJoin::Miter}, {"round", LineJoin::Round}, {"bevel", LineJoin::Bevel}};
+constexpr Word<bool> kVisibility[] = {{"visible", true}, {"hidden", false}, {"collapse", false}};
+
+std::optional<double> miterLimitFrom(std::string_view text)
+{
+    const auto limit = lengthFrom(text);
+    return limit && !limit->isShare && limit->value >= 1 ? std::optional(limit->value) : std::nullopt;
+}
+
+std::optional<Length> widthFrom(std::string_view text)
+{
+    const auto width = lengthFrom(text);
+    return width && width->value >= 0 ? width : std::nullopt;
+}
+
+std::optional<std::vector<Length>> dashesFrom(std::string_view text)
+{
+    if (text == "none")
+        return std::vector<Length>{};
+    auto lengths = lengthsFrom(text);
+    const auto isNegative = [](const Length& length) { return length.value < 0; };
+    if (lengths && std::any_of(lengths->begin(), lengths->end(), isNegative))
+        return std::nullopt;
+    return lengths;
+}
+
+/// The color property: with currentColor it stays.
+std::optional<std::uint32_t> colourProperty(std::string_view text, std::uint32_t parent)
+{
+    return text == "currentColor" ? parent : colourFrom(text);
+}
+
+template <class Value>
+Setting put(Value& property, const std::optional<Value>& value)
+{
+    if (!value)
+        return Setting::BadValue;
+    property = *value;
+    return Setting::Done;
+}
+
+/// Properties that change the looks and that nothing here draws, with the value under which they do nothing.
+constexpr Word<std::string_view> kNotSupported[] = {
+    {"clip-path", "none"},       {"mask", "none"},
+    {"filter", "none"},          {"marker", "none"},
+    {"marker-start", "none"},    {"marker-mid", "none"},
+    {"marker-end", "none"},      {"mix-blend-mode", "normal"},
+    {"paint-order", "normal"},   {"vector-effect", "none"},
+    {"transform-origin", "0 0"}, {"transform-box", "view-box"}};
+
+Setting notSupported(std::string_view name, std::string_view value)
+{
+    const auto harmless = wordFrom(name, kNotSupported);
+    if (!harmless)
+        return Setting::Unknown;
+    return value == *harmless ? Setting::Done : Setting::NotSupported;
+}
+
+} // namespace
+
+Setting setProperty(Style& style, std::string_view name, std::string_view raw)
+{
+    const std::string_view value = trimmed(raw);
+    if (name == "fill")
+        return value == "inherit" ? Setting::Done : put(style.fill, paintFrom(value));
+    if (name == "stroke")
+        return value == "inherit" ? Setting::Done : put(style.stroke, paintFrom(value));
+    if (name == "opacity")
+        return put(style.opacity, shareFrom(value));
+    if (name == "display") {
+        style.displayed = value != "none";
+        return Setting::Done;
+    }
+    if (value == "inherit")
+        return notSupported(name, "none") == Setting::Unknown ? Setting::Done : Setting::NotSupported;
+    if (name == "fill-opacity")
+        return put(style.fillOpacity, shareFrom(value));
+    if (name == "fill-rule")
+        return put(style.fillRule, wordFrom(value, kFillRules));
+    if (name == "stroke-opacity")
+        return put(style.strokeOpacity, shareFrom(value));
+    if (name == "stroke-width")
+        return put(style.strokeWidth, widthFrom(value));
+    if (name == "stroke-linecap")
+        return put(style.cap, wordFrom(value, kCaps));
+    if (name == "stroke-linejoin")
+        return put(style.join, wordFrom(value, kJoins));
+    if (name == "stroke-miterlimit")
+        return put(style.miterLimit, miterLimitFrom(value));
+    if (name == "stroke-dasharray")
+        return put(style.dashes, dashesFrom(value));
+    if (name == "stroke-dashoffset")
+        return put(style.dashOffset, lengthFrom(value));
+    if (name == "color")
+        return put(style.colour, colourProperty(value, style.colour));
+    if (name == "visibility")
+        return put(style.visible, wordFrom(value, kVisibility));
+    return notSupported(name, value);
+}
+
+void forEachDeclaration(std::string_view style,
+                        const std::function<void(std::string_view name, std::string_view value)>& see)
+{
+    while (!style.empty()) {
+        const std::size_t end = std::min(style.find(';'), style.size());
+        const std::string_view declaration = style.substr(0, end);
+        const std::size_t colon = declaration.find(':');
+        if (colon != std::string_view::npos)
+            see(trimmed(declaration.substr(0, colon)), trimmed(declaration.substr(colon + 1)));
+        style.remove_prefix(std::min(end + 1, style.size()));
+    }
+}
+
+Style styleOf(const XmlElement& element, const Style& parent, const Report& report)
+{
+    Style style = parent;
+    style.opacity = 1;
+    style.displayed = true;
+    const auto set = [&](std::string_view name, std::string_view value, XmlPlace place) {
+        const Setting setting = setProperty(style, name, value);
+        if (setting == Setting::BadValue || setting == Setting::NotSupported)
+            report(std::string(name), setting, place);
+    };
+    for (const XmlAttribute& attribute : element.attributes)
+        if (attribute.name != "style")
+            set(attribute.name, attribute.value, attribute.place);
+    for (const XmlAttribute& attribute : element.attributes)
+        if (attribute.name == "style")
+            forEachDeclaration(attribute.value, [&](std::string_view name, std::string_view value) {
+                set(name, value, attribute.place);
+            });
+    return style;
+}
+
+std::string_view propertyOf(const XmlElement& element, std::string_view name)
+{
+    std::string_view result;
+    if (const std::string* const attribute = element.find(name))
+        result = trimmed(*attribute);
+    if (const std::string* const style = element.find("style"))
+        forEachDeclaration(*style, [&](std::string_view own, std::string_view value) {
+            if (own == name)
+                result = value;
+        });
+    return result;
+}
+
+} // namespace ovosvg
