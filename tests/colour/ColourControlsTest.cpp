@@ -732,6 +732,9 @@ TEST_F(ColourButton, AccessibilitySeesAButtonWithItsColour)
     EXPECT_EQ(list.childCount(), 7);
     EXPECT_EQ(list.name(4), L"red");
     EXPECT_EQ(list.name(7), L"More colours...");
+    WinEvents moves(EVENT_OBJECT_FOCUS);
+    user.key(VK_LEFT);
+    EXPECT_EQ(moves.of(shownPopup(), 3), 1);
     EXPECT_EQ(list->accDoDefaultAction(AccessibleView::numbered(5)), S_OK);
     EXPECT_EQ(now(), RGB(0, 0, 255));
 }
