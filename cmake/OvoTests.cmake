@@ -8,14 +8,33 @@
 #       N dots per inch instead of 96, or with the system's colours and fonts of a scheme in cmake/schemes.
 #   ovo_native_test(NAME SOURCES a.cpp ... LIBS target ...)
 #       A GoogleTest program for this machine under AddressSanitizer and UndefinedBehaviorSanitizer.
+#   ovo_file_test(NAME INPUTS path ... COMMAND words ... [TIMEOUT SECONDS])
+#       A test of files and folders. It is run again when one of them, the command or the compiler has changed since it
+#       passed, or where OVO_ALL_TESTS is in the environment.
 #
-# Each function does nothing in the other kind of build, so that a folder's list needs no conditions.
+# Each function for programs does nothing in the other kind of build, so that a folder's list needs no conditions.
 include_guard(GLOBAL)
 
 set(OVO_UNDER_WINE ${PROJECT_SOURCE_DIR}/cmake/under-wine)
 set(OVO_TEST_RESULTS ${PROJECT_BINARY_DIR}/results)
 # Seconds for a whole program; on a busy machine it takes many times as long as alone. What hangs, the watchdog ends.
 set(OVO_TEST_TIMEOUT 1500)
+
+# Seconds of the runs that take longest. They begin first, so that none of them goes on alone at the end; CTest knows that by itself
+# only in a folder where it has run them before.
+set(OVO_TEST_COSTS
+  test_soak=90 test_toolbar=60 test_tree=55 test_gallery=45 test_lists=40 package=40 reproducible=35 test_soak.seed2=35
+  test_update=35 test_files=35 test_colour=30 test_frame_plain=30 test_frame=30 test_testkit=25 test_colour.classic=25
+  test_colour.dpi144=25 test_frame.classic=20 test_mfc_wnd=15 test_mfc_cdlg=15 test_sliders=10 test_mfc_dlg=10)
+
+# _ovo_set_cost(NAME): tells CTest how long the run takes, where that is known.
+function(_ovo_set_cost name)
+  foreach(entry IN LISTS OVO_TEST_COSTS)
+    if(entry MATCHES "^(.+)=([0-9]+)$" AND CMAKE_MATCH_1 STREQUAL name)
+      set_tests_properties(${name} PROPERTIES COST ${CMAKE_MATCH_2})
+    endif()
+  endforeach()
+endfunction()
 
 # Registers one run of a test program with CTest; the counts are read from its XML afterwards.
 function(_ovo_register name program timeout)
@@ -46,6 +65,7 @@ function(_ovo_register name program timeout)
   add_test(NAME ${name} COMMAND ${launcher} $<TARGET_FILE:${program}> ${arguments}
            WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
   set_tests_properties(${name} PROPERTIES TIMEOUT ${timeout})
+  _ovo_set_cost(${name})
 endfunction()
 
 function(ovo_test name)
@@ -60,6 +80,7 @@ function(ovo_test name)
     list(APPEND arg_RESOURCES ${PROJECT_SOURCE_DIR}/tests/support/program.rc)
   endif()
   add_executable(${name} ${arg_SOURCES} ${arg_RESOURCES})
+  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX) # also of objects of another program
   target_link_libraries(${name} PRIVATE ovo_flags ${arg_LIBS} ovo_testkit)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   # GCC 12 warns of its own string constructor when many short strings stand in one list.
@@ -109,7 +130,22 @@ function(ovo_native_test name)
   add_executable(${name} ${arg_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE ovo_flags ${arg_LIBS} gmock gtest gtest_main)
+  # Optimising the tests themselves, and describing all their variables, would take half of their compilation; the sanitizers'
+  # reports need the lines alone.
+  target_compile_options(${name} PRIVATE -O1 -g1)
   _ovo_register(${name} ${name} ${arg_TIMEOUT})
   set_tests_properties(${name} PROPERTIES ENVIRONMENT
     "ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
+endfunction()
+
+function(ovo_file_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "INPUTS;COMMAND")
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 300)
+  endif()
+  add_test(NAME ${name}
+    COMMAND ${PROJECT_SOURCE_DIR}/cmake/unless-unchanged ${PROJECT_BINARY_DIR}/passed/${name} ${CMAKE_CXX_COMPILER} ${arg_INPUTS}
+            -- ${arg_COMMAND})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+  _ovo_set_cost(${name})
 endfunction()
