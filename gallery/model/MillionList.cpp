@@ -4,9 +4,12 @@
 #include "Resolution.h"
 
 #include <ovocor/Colour.h>
-#include <ovoui/lists/ListFinder.h>
 
 #include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <optional>
+#include <string_view>
 
 BEGIN_MESSAGE_MAP(MillionList, COVOListCtrlEx)
     ON_NOTIFY_REFLECT(LVN_GETDISPINFO, &MillionList::OnGetDispInfo)
@@ -28,6 +31,30 @@ std::wstring textOf(int row, int column, DWORD entry)
     default:
         return hexOf(entry);
     }
+}
+
+/// A text to look for as the rows have it, in small letters. Without a value no row has it.
+std::optional<std::string> searched(std::wstring text)
+{
+    ::CharLowerBuffW(text.data(), static_cast<DWORD>(text.size()));
+    if (std::any_of(text.begin(), text.end(), [](wchar_t c) { return c > L'~'; }))
+        return std::nullopt;
+    return std::string(text.begin(), text.end());
+}
+
+/// Whether a row's first two columns have a part. A million rows are asked for one text that is not there, so
+/// this makes no strings.
+bool hasPart(int row, std::string_view part)
+{
+    char text[32] = "row ";
+    const auto has = [&](char* begin, long long number) {
+        const char* const end = std::to_chars(begin, std::end(text), number).ptr;
+        return std::string_view(text, end).find(part) != std::string_view::npos;
+    };
+    const long long number = row + 1;
+    if (has(text + 4, number))
+        return true;
+    return has(text, number * number);
 }
 
 } // namespace
@@ -66,15 +93,16 @@ void MillionList::OnGetDispInfo(NMHDR* header, LRESULT* result)
     *result = 0;
 }
 
-/// Finds what is written in a row's first two columns.
+/// Finds what is written in a row's first two columns, whatever the case.
 void MillionList::OnFindItem(NMHDR* header, LRESULT* result)
 {
     const auto& wanted = *reinterpret_cast<NMLVFINDITEM*>(header);
-    const std::wstring part = wanted.lvfi.psz;
+    const std::optional<std::string> part = searched(wanted.lvfi.psz);
+    const int start = std::max(wanted.iStart, 0); // Wine hands on the -1 that asks for the beginning
     *result = -1;
-    for (int i = 0; i < kRows && *result == -1; ++i) {
-        const int row = (wanted.iStart + i) % kRows;
-        if (containsText(textOf(row, 0, 0), part) || containsText(textOf(row, 1, 0), part))
+    for (int i = 0; part && i < kRows && *result == -1; ++i) {
+        const int row = (start + i) % kRows;
+        if (hasPart(row, *part))
             *result = row;
     }
 }
