@@ -4,6 +4,7 @@ set(frame_core
   ${CMAKE_CURRENT_LIST_DIR}/core/BoxExtras.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/BoxKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/Countdown.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/LabelText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/LanguageChoice.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/LineBreaker.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/LineEnds.cpp

@@ -1,5 +1,7 @@
 #include <ovoui/sliders/AccessibleSlider.h>
 
+#include <ovoui/frame/core/LabelText.h>
+
 #include <oleacc.h>
 
 #include <utility>
@@ -60,11 +62,7 @@ std::wstring labelBefore(HWND control)
     if (::lstrcmpiW(kind, L"Static") != 0)
         return {};
     ::GetWindowTextW(label, text, 200);
-    std::wstring name = text;
-    std::erase(name, L'&');
-    if (name.ends_with(L':'))
-        name.pop_back();
-    return name;
+    return frame::nameFromLabel(text);
 }
 
 std::wstring labelOrText(HWND control)

@@ -1,8 +1,8 @@
 #include <ovoui/sliders/AngleEdit.h>
 
-#include <ovoui/sliders/core/NumberText.h>
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/sliders/core/SliderPlaces.h>
 
-#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -30,11 +30,8 @@ void AngleEdit::open(CWnd& over, wchar_t first, Done done)
     CGdiObject* const old = dc.SelectStockObject(DEFAULT_GUI_FONT);
     const CSize digit = dc.GetTextExtent(L"0", 1);
     dc.SelectObject(static_cast<CFont*>(old));
-    const CSize size(std::min<int>(digit.cx * kCharacters, client.Width()),
-                     std::min<int>(digit.cy + 4, client.Height()));
-    const CPoint corner((client.Width() - size.cx) / 2, (client.Height() - size.cy) / 2);
-    if (!Create(WS_CHILD | WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL | ES_CENTER, CRect(corner, size), &over,
-                1))
+    const RECT place = frame::toRect(editPlace(frame::toBox(client), kCharacters, digit.cx, digit.cy));
+    if (!Create(WS_CHILD | WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL | ES_CENTER, place, &over, 1))
         return;
     m_done = std::move(done);
     SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))), FALSE);
@@ -50,20 +47,21 @@ UINT AngleEdit::OnGetDlgCode()
 
 void AngleEdit::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    if (key == VK_RETURN || key == VK_ESCAPE)
-        finish(key == VK_RETURN);
-    else
+    const EditEnd end = editEndOf(key);
+    if (end == EditEnd::GoesOn)
         CEdit::OnKeyDown(key, repeat, flags);
+    else
+        finish(end);
 }
 
 void AngleEdit::OnKillFocus(CWnd* other)
 {
     CEdit::OnKillFocus(other);
-    finish(true);
+    finish(EditEnd::Accept);
 }
 
 /// Destroying the window takes the focus from it: the second time there is nothing left to do.
-void AngleEdit::finish(bool accept)
+void AngleEdit::finish(EditEnd end)
 {
     const Done done = std::exchange(m_done, nullptr);
     if (!done)
@@ -71,7 +69,7 @@ void AngleEdit::finish(bool accept)
     CString text;
     GetWindowText(text);
     DestroyWindow();
-    done(accept ? parseReal(std::wstring(text)) : std::nullopt);
+    done(typedAngle(end, text.GetString()));
 }
 
 } // namespace ovoui::sliders

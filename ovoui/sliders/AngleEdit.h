@@ -1,6 +1,8 @@
 /// Not exported. A small edit control over an angle slider, for typing an angle.
 #pragma once
 
+#include <ovoui/sliders/core/AngleKeys.h>
+
 #include <afxwin.h>
 
 #include <functional>
@@ -13,7 +15,7 @@ namespace ovoui::sliders
 class AngleEdit : public CEdit
 {
 public:
-    /// Gets the number that was typed; none when it is none or Escape was pressed. The window is gone then,
+    /// Gets the angle that was typed; nothing when it is none or Escape was pressed. The window is gone then,
     /// and the call may destroy this object.
     using Done = std::function<void(std::optional<double> degrees)>;
 
@@ -27,7 +29,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void finish(bool accept);
+    void finish(EditEnd end);
 
     Done m_done;
 };

@@ -13,16 +13,6 @@
 
 using namespace ovoui::sliders;
 
-namespace
-{
-
-bool isHeld(int key)
-{
-    return ::GetKeyState(key) < 0;
-}
-
-} // namespace
-
 void CAngleSlider::UseKeyboard(bool use)
 {
     m_options->keyboard = use;
@@ -37,7 +27,7 @@ void CAngleSlider::SetSnap(double degrees)
 
 double CAngleSlider::snapNow() const
 {
-    return m_options->snap > 0 && isHeld(VK_SHIFT) ? m_options->snap : 0;
+    return snapFor(m_options->snap, ovoui::frame::heldKeysNow().shift);
 }
 
 bool CAngleSlider::showsFocus() const
@@ -65,40 +55,41 @@ UINT CAngleSlider::OnGetDlgCode()
 
 void CAngleSlider::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    const std::optional<AngleKey> meaning = m_options->keyboard ? angleKeyOf(key) : std::nullopt;
-    if (!meaning || m_drag->dragging())
-        CWnd::OnKeyDown(key, repeat, flags);
+    if (const std::optional<double> degrees = angleByKey(key, m_options->inputTo(*m_drag)))
+        turnTo(*degrees);
     else
-        turnTo(angleAfter(*meaning, isHeld(VK_CONTROL), m_drag->position()));
+        CWnd::OnKeyDown(key, repeat, flags);
 }
 
 void CAngleSlider::OnChar(UINT character, UINT repeat, UINT flags)
 {
-    if (!m_options->keyboard || !beginsAngle(character) || m_drag->dragging()) {
+    AngleEdit& edit = m_options->edit;
+    switch (angleCharacter(character, m_options->inputTo(*m_drag), edit.m_hWnd != nullptr)) {
+    case AngleCharacter::PassOn:
         CWnd::OnChar(character, repeat, flags);
-        return;
+        break;
+    case AngleCharacter::ToEdit:
+        edit.SendMessage(WM_CHAR, character, MAKELPARAM(repeat, flags));
+        break;
+    case AngleCharacter::Open:
+        edit.open(*this, static_cast<wchar_t>(character), [this](std::optional<double> typed) {
+            const Lifeline::Watch watch(*this);
+            if (::GetFocus() == nullptr)
+                SetFocus(); // the edit control had it
+            if (watch.alive() && typed)
+                turnTo(*typed);
+        });
+        break;
     }
-    // Typed quickly, the next character was on its way here before the edit control got the focus.
-    if (m_options->edit.m_hWnd) {
-        m_options->edit.SendMessage(WM_CHAR, character, MAKELPARAM(repeat, flags));
-        return;
-    }
-    m_options->edit.open(*this, static_cast<wchar_t>(character), [this](std::optional<double> typed) {
-        const Lifeline::Watch watch(*this);
-        if (::GetFocus() == nullptr)
-            SetFocus(); // the edit control had it
-        if (watch.alive() && typed && std::isfinite(*typed))
-            turnTo(*typed);
-    });
 }
 
 BOOL CAngleSlider::OnMouseWheel(UINT flags, short delta, CPoint point)
 {
-    if (!m_options->keyboard || m_drag->dragging())
+    const AngleInput input = m_options->inputTo(*m_drag);
+    if (!takesWheel(input))
         return CWnd::OnMouseWheel(flags, delta, point);
-    const double step = angleAfter(AngleKey::More, isHeld(VK_CONTROL), 0);
     if (const int notches = m_options->wheel.turned(delta); notches != 0)
-        turnTo(m_drag->position() + notches * step);
+        turnTo(angleByWheel(notches, input));
     return TRUE;
 }
 

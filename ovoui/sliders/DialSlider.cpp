@@ -1,13 +1,12 @@
 #include <ovoui/sliders/DialSlider.h>
 
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/LeftToRight.h>
 #include <ovoui/frame/MemoryBitmap.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
 #include <ovoui/sliders/core/DialPicture.h>
 #include <ovoui/sliders/core/DialTurn.h>
-
-#include <ovoui/frame/LeftToRight.h>
-
-#include <algorithm>
+#include <ovoui/sliders/core/SliderPlaces.h>
 
 using namespace ovoui::sliders;
 
@@ -89,10 +88,8 @@ double CDialSlider::angleAt(CPoint point, bool pressed)
 {
     CRect client;
     GetClientRect(&client);
-    // Clockwise is the same way round in a window that is laid out from right to left.
-    const double across = point.x + 0.5 - client.Width() / 2.0;
-    const double direction = directionOf((GetExStyle() & WS_EX_LAYOUTRTL) ? -across : across,
-                                         point.y + 0.5 - client.Height() / 2.0);
+    const double direction =
+        dialDirection(ovoui::frame::toBox(client), point.x, point.y, (GetExStyle() & WS_EX_LAYOUTRTL) != 0);
     if (pressed)
         m_turning->turn.begin(direction);
     return m_turning->turn.follow(direction);
@@ -106,10 +103,9 @@ double CDialSlider::limited(double degrees) const
 void CDialSlider::paintBody(CDC& dc, const CRect& client, double shown)
 {
     dc.FillSolidRect(&client, ::GetSysColor(COLOR_BTNFACE));
-    const int size = std::min(client.Width(), client.Height());
-    const CRect place(CPoint((client.Width() - size) / 2, (client.Height() - size) / 2), CSize(size, size));
+    const CRect place(ovoui::frame::toRect(dialPlace(ovoui::frame::toBox(client))));
     const std::vector<Shade> pixels =
-        dialPicture(size, shown, dialTicks(m_turning->range, m_turning->tickStep),
+        dialPicture(place.Width(), shown, dialTicks(m_turning->range, m_turning->tickStep),
                     systemColours(IsWindowEnabled() != FALSE));
     if (pixels.empty())
         return;

@@ -2,8 +2,11 @@
 
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/sliders/SliderButton.h>
+#include <ovoui/sliders/core/PopupRules.h>
 
 #include <ovouires/resource.h>
+
+using namespace ovoui::sliders;
 
 BEGIN_MESSAGE_MAP(CPopupSlider, CDialog)
     ON_WM_HSCROLL()
@@ -17,14 +20,14 @@ END_MESSAGE_MAP()
 namespace
 {
 
-/// False while a popup is being put away, since that takes the activation from it once more.
-bool g_watchingActivation = true;
+/// True while a popup is being put away.
+bool g_goingAway = false;
 
 class ActivationGuard
 {
 public:
-    ActivationGuard() { g_watchingActivation = false; }
-    ~ActivationGuard() { g_watchingActivation = true; }
+    ActivationGuard() { g_goingAway = true; }
+    ~ActivationGuard() { g_goingAway = false; }
     ActivationGuard(const ActivationGuard&) = delete;
     ActivationGuard& operator=(const ActivationGuard&) = delete;
 };
@@ -111,22 +114,21 @@ void CPopupSlider::OnSetFocus(CWnd*)
 void CPopupSlider::OnActivate(UINT state, CWnd* other, BOOL minimized)
 {
     CDialog::OnActivate(state, other, minimized);
-    if (state == WA_INACTIVE)
+    const Activation news = state == WA_INACTIVE ? Activation::WindowLost : Activation::WindowGained;
+    if (putsAway(news, IsWindowVisible() != FALSE, g_goingAway))
         putAway();
 }
 
-/// The popup hears of this without having had the activation itself.
 void CPopupSlider::OnActivateApp(BOOL active, DWORD thread)
 {
     CDialog::OnActivateApp(active, thread);
-    if (!active && IsWindowVisible())
+    const Activation news = active ? Activation::ProgramGained : Activation::ProgramLost;
+    if (putsAway(news, IsWindowVisible() != FALSE, g_goingAway))
         putAway();
 }
 
 void CPopupSlider::putAway()
 {
-    if (!g_watchingActivation)
-        return;
     const ActivationGuard guard;
     ShowWindow(SW_HIDE);
     m_owner->PostMessage(kDeactivated);

@@ -1,5 +1,7 @@
 #include <ovoui/sliders/PopupSliderCtrl.h>
 
+#include <ovoui/sliders/core/PopupRules.h>
+
 BEGIN_MESSAGE_MAP(CPopupSliderCtrl, CSliderCtrl)
     ON_WM_GETDLGCODE()
     ON_WM_KEYDOWN()
@@ -12,7 +14,7 @@ UINT CPopupSliderCtrl::OnGetDlgCode()
 
 void CPopupSliderCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    if (key == VK_SPACE || key == VK_TAB)
+    if (ovoui::sliders::hidesPopup(key))
         GetParent()->ShowWindow(SW_HIDE);
     CSliderCtrl::OnKeyDown(key, repeat, flags);
 }

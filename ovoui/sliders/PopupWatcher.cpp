@@ -1,37 +1,14 @@
 #include <ovoui/sliders/PopupWatcher.h>
 
 #include <ovoui/frame/Exceptions.h>
+#include <ovoui/sliders/core/PopupRules.h>
 
 #include <utility>
 
+using namespace ovoui::sliders;
 using ovoui::frame::dropping;
 
 PopupWatcher* PopupWatcher::s_current = nullptr;
-
-namespace
-{
-
-bool isPress(UINT message)
-{
-    switch (message) {
-    case WM_LBUTTONDOWN:
-    case WM_RBUTTONDOWN:
-    case WM_MBUTTONDOWN:
-    case WM_NCLBUTTONDOWN:
-    case WM_NCRBUTTONDOWN:
-    case WM_NCMBUTTONDOWN:
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool isEscape(const MSG& message)
-{
-    return message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE;
-}
-
-} // namespace
 
 PopupWatcher::PopupWatcher(Calls calls)
     : m_calls(std::move(calls))
@@ -52,11 +29,16 @@ LRESULT CALLBACK PopupWatcher::hear(int code, WPARAM removed, LPARAM message)
     auto& taken = *reinterpret_cast<MSG*>(message);
     if (code == HC_ACTION && removed == PM_REMOVE && s_current) {
         // The calls are copied, since the watcher may go. Exceptions do not pass through the system.
-        if (isPress(taken.message)) {
+        switch (popupInputOf(taken.message, static_cast<unsigned>(taken.wParam))) {
+        case PopupInput::Press:
             dropping([pressed = s_current->m_calls.pressed, under = taken.hwnd] { pressed(under); });
-        } else if (isEscape(taken)) {
+            break;
+        case PopupInput::Escape:
             taken.message = WM_NULL;
             dropping([escape = s_current->m_calls.escape] { escape(); });
+            break;
+        case PopupInput::Other:
+            break;
         }
     }
     return ::CallNextHookEx(nullptr, code, removed, message);

@@ -1,7 +1,9 @@
 #include <ovoui/sliders/SliderBubble.h>
 
+#include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/OwnWindow.h>
+#include <ovoui/sliders/core/SliderPlaces.h>
 
 #include <afxcmn.h>
 
@@ -11,7 +13,6 @@ namespace
 {
 
 constexpr int kMargin = 4; // pixels around the text
-constexpr int kGap = 2;    // between bubble and thumb
 
 CRect thumbOf(CWnd& slider)
 {
@@ -33,9 +34,8 @@ void SliderBubble::show(CWnd& slider, const std::wstring& text)
     if (!m_hWnd && !frame::createPopup(*this, AfxRegisterWndClass(0), *slider.GetParent()))
         return;
     setText(text);
-    const CRect thumb = thumbOf(slider);
     const CSize size = sizeAroundText();
-    CRect place(CPoint(thumb.CenterPoint().x - size.cx / 2, thumb.top - kGap - size.cy), size);
+    RECT place = frame::toRect(bubblePlace(frame::toBox(thumbOf(slider)), size.cx, size.cy));
     EnsureRectVisible(place);
     showAt(place, wndTopMost);
     UpdateWindow();

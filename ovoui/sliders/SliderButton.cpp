@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/BufferedPaint.h>
 #include <ovoui/frame/Exceptions.h>
+#include <ovoui/frame/LoadedText.h>
 #include <ovoui/sliders/AccessibleSlider.h>
 #include <ovoui/sliders/SliderButtonFace.h>
 #include <ovoui/sliders/SliderButtonParts.h>
@@ -132,7 +133,7 @@ void CSliderButton::SetTicks(std::vector<double> numbers)
 
 void CSliderButton::ShowBubble(bool show)
 {
-    m_parts->showsBubble = show;
+    m_parts->wantsBubble = show;
     updateBubble();
 }
 
@@ -266,8 +267,5 @@ LRESULT CSliderButton::OnGetObject(WPARAM wParam, LPARAM lParam)
 
 std::wstring CSliderButton::actionName() const
 {
-    CString press;
-    if (IsWindowEnabled())
-        press.LoadString(IDS_ACTION_PRESS);
-    return press.GetString();
+    return IsWindowEnabled() ? ovoui::frame::loadedText(IDS_ACTION_PRESS) : std::wstring();
 }

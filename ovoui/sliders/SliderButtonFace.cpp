@@ -1,5 +1,7 @@
 #include <ovoui/sliders/SliderButtonFace.h>
 
+#include <ovoui/sliders/core/SliderPlaces.h>
+
 #include <vssym32.h>
 
 #include <algorithm>
@@ -37,13 +39,11 @@ void SliderButtonFace::paintBack(CDC& dc, const CRect& client) const
 
 void SliderButtonFace::paintArrow(CDC& dc, const CRect& client) const
 {
-    const int width = client.Width();
-    const int middle = client.Height() / 2;
-    const int size = std::min(width - 5, middle - 2);
-    if (size <= 0)
+    const auto corners = arrowCorners(client.Width(), client.Height());
+    if (!corners)
         return;
-    POINT arrow[] = {
-        {width - 3, middle}, {width - 3 - size, middle - size}, {width - 3 - size, middle + size}};
+    POINT arrow[3];
+    std::ranges::transform(*corners, arrow, [](const Corner& corner) { return POINT{corner.x, corner.y}; });
     CBrush brush(::GetSysColor(m_enabled ? COLOR_3DDKSHADOW : COLOR_GRAYTEXT));
     CBrush* const oldBrush = dc.SelectObject(&brush);
     CGdiObject* const oldPen = dc.SelectStockObject(NULL_PEN);

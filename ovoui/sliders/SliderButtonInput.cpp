@@ -1,13 +1,13 @@
 // Mouse, wheel, tip and keyboard of a slider button.
+#include <ovoui/frame/LoadedText.h>
 #include <ovoui/sliders/SliderButtonParts.h>
 #include <ovoui/sliders/core/ButtonKeys.h>
+#include <ovoui/sliders/core/PopupRules.h>
 
 using namespace ovoui::sliders;
 
 namespace
 {
-
-constexpr double kFineStep = 0.1; // of a position
 
 /// Drags are followed on the screen, where the button may be laid out from right to left and the popup is
 /// not.
@@ -29,7 +29,7 @@ LRESULT CSliderButton::OnNcHitTest(CPoint)
 
 void CSliderButton::OnLButtonDown(UINT, CPoint point)
 {
-    if (m_parts->pressed) {
+    if (meaningOfPress(m_parts->pressed) == PressMeaning::Dismiss) {
         dismiss();
         return;
     }
@@ -88,13 +88,12 @@ BOOL CSliderButton::OnMouseWheel(UINT flags, short delta, CPoint point)
     return TRUE;
 }
 
-/// Away from the user is more.
 void CSliderButton::turnWheel(int delta)
 {
     if (!IsWindowEnabled())
         return;
     if (const int notches = m_parts->wheel.turned(delta); notches != 0)
-        stepBy(notches * (m_parts->fine() ? kFineStep : 1.0));
+        stepBy(stepsOfWheel(notches, m_parts->fine()));
 }
 
 void CSliderButton::hearBuddyWheel()
@@ -109,7 +108,9 @@ void CSliderButton::hearBuddyWheel()
 
 void CSliderButton::enterTip()
 {
-    const auto text = m_parts->tip.enter(static_cast<UINT>(::GetDlgCtrlID(m_parts->buddy.window())));
+    const auto text = m_parts->tip.enter([this] {
+        return ovoui::frame::loadedText(static_cast<UINT>(::GetDlgCtrlID(m_parts->buddy.window())));
+    });
     if (!text)
         return;
     TRACKMOUSEEVENT leaving{sizeof leaving, TME_LEAVE, m_hWnd, 0};
@@ -132,9 +133,9 @@ UINT CSliderButton::OnGetDlgCode()
 
 void CSliderButton::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    if (key != VK_SPACE)
+    if (buttonKeyOf(key) != ButtonKey::Space)
         CStatic::OnKeyDown(key, repeat, flags);
-    else if (m_parts->pressed)
+    else if (meaningOfPress(m_parts->pressed) == PressMeaning::Dismiss)
         dismiss();
     else
         press(middle());
@@ -150,8 +151,9 @@ BOOL CSliderButton::PreTranslateMessage(MSG* message)
 /// Takes keys that must not reach the dialog, which would go to another control or close.
 bool CSliderButton::takesKey(const MSG& message)
 {
-    switch (
-        meaningOf(buttonKeyOf(static_cast<unsigned>(message.wParam)), m_parts->pressed, m_parts->fine())) {
+    const ButtonKey key = buttonKeyOf(static_cast<unsigned>(message.wParam));
+    const KeyMeaning meaning = meaningOf(key, m_parts->pressed, m_parts->fine());
+    switch (meaning) {
     case KeyMeaning::Open:
         press(middle());
         return true;
@@ -163,10 +165,8 @@ bool CSliderButton::takesKey(const MSG& message)
             m_popup.slider().SendMessage(WM_KEYDOWN, message.wParam, message.lParam);
         return m_popup.m_hWnd != nullptr;
     case KeyMeaning::FineMore:
-        stepBy(kFineStep);
-        return true;
     case KeyMeaning::FineLess:
-        stepBy(-kFineStep);
+        stepBy(stepsOfKey(meaning));
         return true;
     case KeyMeaning::Nothing:
         break;

@@ -7,9 +7,9 @@
 #include <ovoui/sliders/PopupWatcher.h>
 #include <ovoui/sliders/SliderBubble.h>
 #include <ovoui/sliders/SliderButton.h>
-#include <ovoui/sliders/SliderTip.h>
 #include <ovoui/sliders/core/SliderDrag.h>
 #include <ovoui/sliders/core/SliderNumbers.h>
+#include <ovoui/sliders/core/SliderTip.h>
 #include <ovoui/sliders/core/WheelNotches.h>
 
 #include <memory>
@@ -41,7 +41,7 @@ struct CSliderButton::Parts
 
     // On request
     std::vector<double> ticks;
-    bool showsBubble = false;
+    bool wantsBubble = false;
     ovoui::sliders::SliderBubble bubble;
     bool stepsByWheel = false;
     std::unique_ptr<ovoui::sliders::BuddyWheel> buddyWheel;

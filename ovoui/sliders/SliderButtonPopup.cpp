@@ -1,5 +1,8 @@
 // The popup of a slider button: where it opens, and how it goes.
+#include <ovoui/frame/BoxRect.h>
 #include <ovoui/sliders/SliderButtonParts.h>
+#include <ovoui/sliders/core/PopupRules.h>
+#include <ovoui/sliders/core/SliderPlaces.h>
 
 using namespace ovoui::sliders;
 
@@ -40,7 +43,8 @@ void CSliderButton::placePopup(const CPoint& at)
     GetWindowRect(&button);
     CRect popup;
     m_popup.GetWindowRect(&popup);
-    popup.MoveToXY(pointer.x - (channel.left + thumb), button.bottom);
+    popup = ovoui::frame::toRect(
+        popupPlace(pointer.x, channel.left + thumb, button.bottom, popup.Width(), popup.Height()));
     m_popup.keepOnScreen(popup);
     m_popup.SetWindowPos(&wndTop, popup.left, popup.top, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
 
@@ -78,7 +82,8 @@ void CSliderButton::dismiss()
 /// A press of the mouse on another window than the popup and the button ends the popup.
 void CSliderButton::dismissFor(HWND pressed)
 {
-    if (pressed != m_hWnd && pressed != m_popup.m_hWnd && !::IsChild(m_popup.m_hWnd, pressed))
+    const bool onPopup = pressed == m_popup.m_hWnd || ::IsChild(m_popup.m_hWnd, pressed);
+    if (dismisses(pressedOn(pressed == m_hWnd, onPopup)))
         dismiss();
 }
 
@@ -108,8 +113,9 @@ void CSliderButton::showTicks()
 
 void CSliderButton::updateBubble()
 {
-    if (!m_parts->showsBubble || !m_parts->pressed || !m_popup.m_hWnd || !m_popup.IsWindowVisible())
-        m_parts->bubble.hide();
-    else
+    const bool visible = m_popup.m_hWnd && m_popup.IsWindowVisible();
+    if (showsBubble(m_parts->wantsBubble, m_parts->pressed, visible))
         m_parts->bubble.show(m_popup.slider(), m_parts->buddy.text());
+    else
+        m_parts->bubble.hide();
 }

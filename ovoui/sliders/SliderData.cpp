@@ -1,6 +1,7 @@
 #include <ovoui/sliders/SliderData.h>
 
 #include <ovoui/frame/Module.h>
+#include <ovoui/sliders/core/SliderNumbers.h>
 #include <ovouires/resource.h>
 
 #include <ovocor/Text.h>
@@ -30,7 +31,7 @@ void DDX_SliderNumber(CDataExchange* exchange, CSliderButton& button, double& va
     }
     const std::optional<double> number = button.Number();
     const auto [low, high] = button.Limits();
-    if (!number || !(*number >= low && *number <= high))
+    if (!ovoui::sliders::isTaken(number, low, high))
         refuse(*exchange, button.Buddy(), low, high);
     value = *number;
 }

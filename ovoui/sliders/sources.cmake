@@ -7,16 +7,19 @@ set(sliders_core
   ${CMAKE_CURRENT_LIST_DIR}/core/DialPicture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/DialTurn.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/NumberText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/PopupRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SeparatorText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SliderDrag.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SliderMapping.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SliderNumbers.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SliderPlaces.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SliderTip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/UnitText.cpp)
 
 if(NOT WIN32)
   add_library(ovoui_sliders_core STATIC ${sliders_core})
   target_include_directories(ovoui_sliders_core PUBLIC ${PROJECT_SOURCE_DIR})
-  target_link_libraries(ovoui_sliders_core PRIVATE ovo_flags)
+  target_link_libraries(ovoui_sliders_core PUBLIC ovoui_frame_core PRIVATE ovo_flags)
   return()
 endif()
 
@@ -41,6 +44,5 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/SliderButtonNumber.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SliderButtonPopup.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SliderData.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/SliderTip.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UnitNumbers.cpp
   ${CMAKE_CURRENT_LIST_DIR}/WheelSlider.cpp)

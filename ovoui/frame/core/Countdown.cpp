@@ -1,5 +1,7 @@
 #include <ovoui/frame/core/Countdown.h>
 
+#include <ovoui/frame/core/MessageNumbers.h>
+
 #include <algorithm>
 #include <iterator>
 
@@ -10,8 +12,9 @@ namespace
 
 constexpr std::uint64_t kSecond = 1000;
 
-// The platform's messages: keys, mouse buttons in the box and on its frame, the wheel
-constexpr unsigned kInput[] = {0x0100, 0x0104, 0x0201, 0x0204, 0x0207, 0x00A1, 0x020A};
+constexpr unsigned kInput[] = {messages::kKeyDown,    messages::kSystemKeyDown, messages::kPressLeft,
+                               messages::kPressRight, messages::kPressMiddle,   messages::kFramePressLeft,
+                               messages::kWheel};
 
 } // namespace
 

@@ -7,6 +7,13 @@ namespace ovoui::sliders
 
 using namespace keys;
 
+namespace
+{
+
+constexpr double kFineStep = 0.1;
+
+} // namespace
+
 ButtonKey buttonKeyOf(unsigned virtualKey)
 {
     switch (virtualKey) {
@@ -25,6 +32,8 @@ ButtonKey buttonKeyOf(unsigned virtualKey)
         return ButtonKey::Travel;
     case kVkEscape:
         return ButtonKey::Escape;
+    case kVkSpace:
+        return ButtonKey::Space;
     default:
         return ButtonKey::Other;
     }
@@ -45,10 +54,28 @@ KeyMeaning meaningOf(ButtonKey key, bool pressed, bool fine)
         return KeyMeaning::Slider;
     case ButtonKey::Escape:
         return KeyMeaning::Cancel;
+    case ButtonKey::Space:
     case ButtonKey::Other:
         break;
     }
     return KeyMeaning::Nothing;
+}
+
+double stepsOfKey(KeyMeaning meaning)
+{
+    switch (meaning) {
+    case KeyMeaning::FineMore:
+        return kFineStep;
+    case KeyMeaning::FineLess:
+        return -kFineStep;
+    default:
+        return 0;
+    }
+}
+
+double stepsOfWheel(int notches, bool fine)
+{
+    return notches * (fine ? kFineStep : 1.0);
 }
 
 } // namespace ovoui::sliders

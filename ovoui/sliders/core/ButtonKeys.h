@@ -12,6 +12,7 @@ enum class ButtonKey
     Down,
     Travel, ///< Page Up, Page Down, Home or End
     Escape,
+    Space, ///< presses the button, as the mouse does
     Other,
 };
 
@@ -20,7 +21,7 @@ ButtonKey buttonKeyOf(unsigned virtualKey);
 
 enum class KeyMeaning
 {
-    Nothing,  ///< the dialog's
+    Nothing,  ///< the key goes on its way
     Open,     ///< presses the button and opens the popup
     Cancel,   ///< closes the popup and puts the text from before back
     Slider,   ///< goes on to the slider
@@ -30,5 +31,9 @@ enum class KeyMeaning
 
 /// `pressed`: the popup is open. `fine`: Shift is held and makes steps finer.
 KeyMeaning meaningOf(ButtonKey key, bool pressed, bool fine);
+
+/// How far a key or the wheel moves the number, in positions of the slider. Away from the user is more.
+double stepsOfKey(KeyMeaning meaning);
+double stepsOfWheel(int notches, bool fine);
 
 } // namespace ovoui::sliders

@@ -41,6 +41,11 @@ int steppedWhole(int from, double steps, int low, int high)
 
 } // namespace
 
+bool isTaken(std::optional<double> typed, double low, double high)
+{
+    return typed && *typed >= low && *typed <= high;
+}
+
 bool isUsable(const HostMapping& mapping, const Positions& positions)
 {
     if (!mapping || positions.maximum <= positions.minimum)

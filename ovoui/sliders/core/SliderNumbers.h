@@ -5,6 +5,7 @@
 #include <ovoui/sliders/core/SliderMapping.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -21,6 +22,9 @@ struct HostMapping
 
     explicit operator bool() const { return shareOf && numberAt; }
 };
+
+/// Whether data exchange takes what the user has typed: a number, and one from `low` to `high`.
+bool isTaken(std::optional<double> typed, double low, double high);
 
 /// Whether the numbers of all positions rise, or all fall, and `shareOf` leads each of them back to its
 /// position.

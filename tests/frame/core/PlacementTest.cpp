@@ -1,3 +1,4 @@
+#include <ovoui/frame/core/BoxParts.h>
 #include <ovoui/frame/core/Placement.h>
 
 #include <gtest/gtest.h>
@@ -83,4 +84,18 @@ TEST(Placement, WhatDropsOpensUpwardsOnlyWhereThereIsMoreRoom)
             else
                 EXPECT_EQ(up, above > below) << top << ", " << height;
         }
+}
+
+TEST(Placement, AnInsetMovesAllSidesIn)
+{
+    EXPECT_EQ(inset({1, 2, 10, 20}, 1), (Box{2, 3, 9, 19}));
+    EXPECT_EQ(inset({1, 2, 10, 20}, -1), (Box{0, 1, 11, 21}));
+}
+
+TEST(Placement, ABoxContainsItsLeftAndTopEdgeAndNotTheOthers)
+{
+    const Box box{2, 3, 5, 7};
+    for (int x = 0; x < 8; ++x)
+        for (int y = 0; y < 9; ++y)
+            EXPECT_EQ(contains(box, x, y), x >= 2 && x <= 4 && y >= 3 && y <= 6) << x << ' ' << y;
 }

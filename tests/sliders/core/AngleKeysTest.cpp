@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 using namespace ovoui::sliders;
 
@@ -69,4 +70,77 @@ TEST(AngleKeys, ADigitASignOrAPointBeginsAnAngle)
         EXPECT_EQ(beginsAngle(character),
                   beginnings.find(static_cast<wchar_t>(character)) != std::wstring::npos)
             << character;
+}
+
+namespace
+{
+
+/// How a slider may stand, for both ways of each condition.
+std::vector<AngleInput> allInputs()
+{
+    std::vector<AngleInput> all;
+    for (const bool keyboard : {false, true})
+        for (const bool dragging : {false, true})
+            for (const bool ctrl : {false, true})
+                all.push_back({keyboard, dragging, ctrl, 10});
+    return all;
+}
+
+} // namespace
+
+TEST(AngleKeys, AKeyTurnsTheSliderWhereTheHostHasAskedForItAndNoDragGoesOn)
+{
+    for (const AngleInput& input : allInputs())
+        for (unsigned key = 0; key <= 0xFF; ++key) {
+            const std::optional<AngleKey> meaning = angleKeyOf(key);
+            const bool taken = meaning && input.keyboard && !input.dragging;
+            const auto expected =
+                taken ? std::optional(angleAfter(*meaning, input.ctrl, input.degrees)) : std::nullopt;
+            EXPECT_EQ(angleByKey(key, input), expected) << key;
+        }
+}
+
+TEST(AngleKeys, TheWheelTurnsByDegreesAndWithCtrlByFive)
+{
+    for (const AngleInput& input : allInputs()) {
+        EXPECT_EQ(takesWheel(input), input.keyboard && !input.dragging);
+        for (int notches = -3; notches <= 3; ++notches)
+            EXPECT_EQ(angleByWheel(notches, input), 10 + notches * (input.ctrl ? 5 : 1));
+    }
+}
+
+TEST(AngleKeys, WhatBeginsAnAngleOpensTheEditAndGoesThereWhenItIsOpen)
+{
+    for (const AngleInput& input : allInputs())
+        for (const bool editing : {false, true})
+            for (unsigned character = 0; character <= 0xFF; ++character) {
+                AngleCharacter expected = editing ? AngleCharacter::ToEdit : AngleCharacter::Open;
+                if (!input.keyboard || input.dragging || !beginsAngle(character))
+                    expected = AngleCharacter::PassOn;
+                EXPECT_EQ(angleCharacter(character, input, editing), expected) << character;
+            }
+}
+
+TEST(AngleKeys, EnterAcceptsWhatIsTypedAndEscapeDoesNot)
+{
+    for (unsigned key = 0; key <= 0xFF; ++key) {
+        EditEnd expected = EditEnd::GoesOn;
+        if (key == 0x0D)
+            expected = EditEnd::Accept;
+        if (key == 0x1B)
+            expected = EditEnd::Discard;
+        EXPECT_EQ(editEndOf(key), expected) << key;
+    }
+    EXPECT_EQ(typedAngle(EditEnd::Accept, L"-12.5"), -12.5);
+    EXPECT_EQ(typedAngle(EditEnd::Discard, L"-12.5"), std::nullopt);
+    EXPECT_EQ(typedAngle(EditEnd::GoesOn, L"-12.5"), std::nullopt);
+    for (const wchar_t* const text : {L"", L"-", L"abc", L"inf", L"-inf", L"nan", L"1e999"})
+        EXPECT_EQ(typedAngle(EditEnd::Accept, text), std::nullopt);
+}
+
+TEST(AngleKeys, DragsSnapWhileShiftIsHeldAndTheHostHasAskedForIt)
+{
+    for (const double snap : {-15.0, 0.0, 15.0})
+        for (const bool shift : {false, true})
+            EXPECT_EQ(snapFor(snap, shift), shift && snap > 0 ? snap : 0);
 }

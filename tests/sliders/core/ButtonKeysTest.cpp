@@ -7,7 +7,7 @@ using namespace ovoui::sliders;
 TEST(ButtonKeys, WhileThePopupIsClosedDownAloneMeansSomething)
 {
     for (const ButtonKey key : {ButtonKey::Left, ButtonKey::Right, ButtonKey::Up, ButtonKey::Down,
-                                ButtonKey::Travel, ButtonKey::Escape, ButtonKey::Other})
+                                ButtonKey::Travel, ButtonKey::Escape, ButtonKey::Space, ButtonKey::Other})
         for (const bool fine : {false, true})
             EXPECT_EQ(meaningOf(key, false, fine),
                       key == ButtonKey::Down ? KeyMeaning::Open : KeyMeaning::Nothing);
@@ -26,6 +26,7 @@ TEST(ButtonKeys, WhileItIsOpenTheyMoveTheSlider)
                 {ButtonKey::Down, KeyMeaning::Slider, KeyMeaning::FineMore},
                 {ButtonKey::Travel, KeyMeaning::Slider, KeyMeaning::Slider},
                 {ButtonKey::Escape, KeyMeaning::Cancel, KeyMeaning::Cancel},
+                {ButtonKey::Space, KeyMeaning::Nothing, KeyMeaning::Nothing},
                 {ButtonKey::Other, KeyMeaning::Nothing, KeyMeaning::Nothing}};
     for (const auto& [key, plain, fine] : rows) {
         EXPECT_EQ(meaningOf(key, true, false), plain);
@@ -49,6 +50,29 @@ TEST(ButtonKeys, WhatEveryKeyIsToTheButton)
             expected = ButtonKey::Down;
         if (key == 0x1B)
             expected = ButtonKey::Escape;
+        if (key == 0x20)
+            expected = ButtonKey::Space;
         EXPECT_EQ(buttonKeyOf(key), expected) << key;
+    }
+}
+
+TEST(ButtonKeys, FineStepsAreATenthAndOpposite)
+{
+    for (const KeyMeaning meaning : {KeyMeaning::Nothing, KeyMeaning::Open, KeyMeaning::Cancel,
+                                     KeyMeaning::Slider, KeyMeaning::FineMore, KeyMeaning::FineLess}) {
+        double expected = 0;
+        if (meaning == KeyMeaning::FineMore)
+            expected = 0.1;
+        if (meaning == KeyMeaning::FineLess)
+            expected = -0.1;
+        EXPECT_EQ(stepsOfKey(meaning), expected);
+    }
+}
+
+TEST(ButtonKeys, EachNotchOfTheWheelIsAPositionOrATenthOfOne)
+{
+    for (int notches = -5; notches <= 5; ++notches) {
+        EXPECT_EQ(stepsOfWheel(notches, false), notches);
+        EXPECT_DOUBLE_EQ(stepsOfWheel(notches, true), notches * 0.1);
     }
 }

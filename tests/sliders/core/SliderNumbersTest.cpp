@@ -152,3 +152,11 @@ TEST(SliderNumbers, NothingIsUndefined)
                 }
             }
 }
+
+TEST(SliderNumbers, DataExchangeTakesANumberThatIsNotBeyondTheEnds)
+{
+    for (const double number : {-2.0, -1.0, 0.0, 1.0, 2.0})
+        EXPECT_EQ(isTaken(number, -1, 1), number >= -1 && number <= 1) << number;
+    EXPECT_FALSE(isTaken(std::nullopt, -1, 1));
+    EXPECT_FALSE(isTaken(std::numeric_limits<double>::quiet_NaN(), -1, 1));
+}

@@ -1,0 +1,27 @@
+#include <ovoui/frame/core/LabelText.h>
+
+namespace ovoui::frame
+{
+
+std::wstring withoutMnemonic(std::wstring_view label)
+{
+    std::wstring text;
+    for (std::size_t i = 0; i < label.size(); ++i) {
+        const bool marks = label[i] == L'&';
+        if (marks && (i + 1 == label.size() || label[i + 1] != L'&'))
+            continue;
+        i += marks ? 1 : 0;
+        text += label[i];
+    }
+    return text;
+}
+
+std::wstring nameFromLabel(std::wstring_view label)
+{
+    std::wstring name = withoutMnemonic(label);
+    if (name.ends_with(L':'))
+        name.pop_back();
+    return name;
+}
+
+} // namespace ovoui::frame

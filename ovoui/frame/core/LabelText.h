@@ -1,0 +1,16 @@
+/// Labels of controls as texts for other uses. Plain values, no windows.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace ovoui::frame
+{
+
+/// Without the ampersands that underline a letter; two of them stand for one that is shown.
+std::wstring withoutMnemonic(std::wstring_view label);
+
+/// What accessibility calls a control that stands behind a label: without the colon at its end, too.
+std::wstring nameFromLabel(std::wstring_view label);
+
+} // namespace ovoui::frame

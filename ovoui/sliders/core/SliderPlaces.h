@@ -1,0 +1,42 @@
+/// Where the small windows of the sliders go, and what is drawn on them. Plain values, no windows. Lengths in
+/// pixels.
+#pragma once
+
+#include <ovoui/frame/core/Placement.h>
+
+#include <array>
+#include <optional>
+
+namespace ovoui::sliders
+{
+
+/// The bubble: centred above the thumb, with a small gap.
+frame::Box bubblePlace(const frame::Box& thumb, int width, int height);
+
+/// The popup below its button, so that its thumb lies under the pointer. `thumb` is how far the thumb is from
+/// the popup's left edge. It may lie beyond the screen.
+frame::Box popupPlace(int pointer, int thumb, int buttonsBottom, int width, int height);
+
+/// The edit control in which an angle is typed: room for `characters` as wide and high as a digit, no larger
+/// than the slider, in its middle.
+frame::Box editPlace(const frame::Box& slider, int characters, int digitWidth, int digitHeight);
+
+/// The largest square in the middle of a dial.
+frame::Box dialPlace(const frame::Box& client);
+
+/// The direction of a pixel from the middle of a dial, in degrees as directionOf has it. Clockwise is the
+/// same way round in a window that is laid out from right to left.
+double dialDirection(const frame::Box& client, int x, int y, bool mirrored);
+
+struct Corner
+{
+    int x = 0;
+    int y = 0;
+
+    friend bool operator==(const Corner&, const Corner&) = default;
+};
+
+/// The arrow on a slider button of this size, which points to the right; none where there is no room.
+std::optional<std::array<Corner, 3>> arrowCorners(int width, int height);
+
+} // namespace ovoui::sliders
