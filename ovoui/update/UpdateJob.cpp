@@ -5,6 +5,7 @@
 
 #include <ovocor/DownloadControl.h>
 
+#include <atomic>
 #include <utility>
 
 using namespace ovoui::update;
@@ -20,7 +21,7 @@ LPARAM nextNumber()
 
 } // namespace
 
-/// Tells the window of progress. One message at a time is on its way.
+/// Tells the window of progress.
 class UpdateJob::Control : public DownloadControl
 {
 public:
@@ -30,14 +31,14 @@ public:
     }
     void progressed() override
     {
-        if (!m_told.exchange(true))
+        if (m_notes.toBeSent())
             m_job.post(Progress);
     }
-    void seen() noexcept { m_told = false; }
+    void seen() noexcept { m_notes.seen(); }
 
 private:
     const UpdateJob& m_job;
-    std::atomic<bool> m_told = false;
+    ProgressNotes m_notes;
 };
 
 std::shared_ptr<UpdateJob> UpdateJob::start(UpdateQuestion question, HWND window, UINT message,
@@ -62,9 +63,9 @@ UpdateJob::~UpdateJob() = default;
 void UpdateJob::cancel() noexcept
 {
     m_control->cancel();
-    if (m_decided.exchange(true))
+    if (!m_answer.claim())
         return;
-    m_state = State::Cancelled;
+    m_answer.give(State::Cancelled);
     post(Answered);
 }
 
@@ -86,12 +87,12 @@ struct UpdateJob::Answer
 void UpdateJob::run() noexcept
 {
     Answer found = answer();
-    if (m_decided.exchange(true))
+    if (!m_answer.claim())
         return;
     m_update = std::move(found.update);
     m_error = std::move(found.error);
     m_question.trust = std::move(found.trust);
-    m_state = found.state; // last: who sees it may read the rest
+    m_answer.give(found.state);
     post(Answered);
 }
 

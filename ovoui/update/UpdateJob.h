@@ -11,13 +11,13 @@
 #pragma once
 
 #include <ovoui/export.h>
+#include <ovoui/update/JobAnswer.h>
 #include <ovoui/update/UpdateCheck.h>
 #include <ovoui/update/UpdateTrust.h>
 
 #include <windows.h>
 
 #include <array>
-#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -93,7 +93,7 @@ public:
     /// How much of the list has come; from now on Progress is posted again.
     Bytes progress() noexcept;
     /// How far the check has come; may be asked on any thread.
-    State state() const noexcept { return m_state; }
+    State state() const noexcept { return m_answer.state(); }
 
     // To be asked for after the answer.
     /// The newer version, for Found; to be asked for after the answer.
@@ -117,8 +117,7 @@ private:
     const UINT m_message;
     const LPARAM m_number;
     const std::unique_ptr<Control> m_control;
-    std::atomic<bool> m_decided = false; ///< by the first of the work and cancel()
-    std::atomic<State> m_state = State::Running;
+    ovoui::update::JobAnswer<State> m_answer{State::Running}; ///< by the first of the work and cancel()
     std::optional<AvailableUpdate> m_update;
     std::wstring m_error;
 };
