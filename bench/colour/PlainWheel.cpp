@@ -1,5 +1,7 @@
 #include "PlainWheel.h"
 
+#include <ovoui/frame/core/BoxParts.h>
+
 #include <ovocor/Colour.h>
 
 using namespace ovoui::colour;
@@ -17,7 +19,7 @@ std::uint32_t pixelOf(const Colour& colour)
 
 } // namespace
 
-void drawPlainWheel(std::uint32_t* pixels, const PixelRect& wheel, Angle hue)
+void drawPlainWheel(std::uint32_t* pixels, const ovoui::frame::Box& wheel, Angle hue)
 {
     const HueRing ring = ringIn(wheel);
     const ShadeTriangle triangle = triangleIn(ring);
@@ -26,7 +28,7 @@ void drawPlainWheel(std::uint32_t* pixels, const PixelRect& wheel, Angle hue)
             const HueRing::Hit onRing = ring.test({x, y}, 0);
             if (onRing.onRing)
                 *pixels = pixelOf(Colour::hls(onRing.hue, 0.5, 1.0));
-            if (!triangle.rect().contains(x, y))
+            if (!contains(triangle.rect(), x, y))
                 continue;
             const ShadeTriangle::Hit hit = triangle.test({x, y}, 0);
             if (hit.inTriangle)

@@ -5,4 +5,4 @@
 
 #include <cstdint>
 
-void drawPlainWheel(std::uint32_t* pixels, const ovoui::colour::PixelRect& wheel, Angle hue);
+void drawPlainWheel(std::uint32_t* pixels, const ovoui::frame::Box& wheel, Angle hue);

@@ -15,7 +15,7 @@ using namespace ovoui::colour;
 namespace
 {
 
-constexpr PixelRect kWheel{0, 0, 400, 400};
+constexpr ovoui::frame::Box kWheel{0, 0, 400, 400};
 
 std::vector<std::uint32_t> blank()
 {

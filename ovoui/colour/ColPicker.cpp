@@ -3,6 +3,7 @@
 #include <ovoui/colour/ColPickerStops.h>
 #include <ovoui/colour/ColourWheelImage.h>
 #include <ovoui/colour/core/ColourModes.h>
+#include <ovoui/colour/core/TypedColour.h>
 #include <ovoui/colour/core/ValueText.h>
 #include <ovoui/lists/ComboFunctions.h>
 #include <ovouires/resource.h>
@@ -234,7 +235,7 @@ void ColPicker::DoHScroll(CWnd* wnd, UINT code, CScrollBar* bar)
         return;
     Colour colour;
     GetSliderColour(colour);
-    change(wnd, colour, m_mode != ColPickerModeRGB, true);
+    change(wnd, colour, evenHueCounts(m_mode), true);
 }
 
 bool ColPicker::hasTyped() const
@@ -256,7 +257,7 @@ int ColPicker::typedOr(CEdit& edit, int value, int maximum)
 
 void ColPicker::DoKillfocusColpickerValues(CWnd* wnd)
 {
-    if (!m_initialised || (m_onlyTypedNumbers && !hasTyped()))
+    if (!countsWhenLeft(m_initialised, m_onlyTypedNumbers, hasTyped()))
         return;
     const auto [first, second, third] = shownValues();
     const auto [firstMost, secondMost, thirdMost] = maxima(m_mode);
@@ -265,14 +266,10 @@ void ColPicker::DoKillfocusColpickerValues(CWnd* wnd)
     const int alpha =
         m_alphaEnabled ? typedOr(m_valueAlpha, alphaOf(m_colour), kAlphaMaximum) : kAlphaMaximum;
     const Colour colour = colourOf(typed, static_cast<double>(alpha) / kAlphaMaximum, m_mode);
-    const bool force = m_mode != ColPickerModeRGB;
-    // Where alpha is not edited, that the colour now has one is no change by the user.
-    const Colour before = Colour::hlsa(m_colour.h_hls(), m_colour.l_hls(), m_colour.s_hls(),
-                                       m_alphaEnabled ? m_colour.a() : colour.a());
-    if (differ(before, colour, force)) {
-        change(wnd, colour, force, true);
+    if (changesColour(m_colour, colour, m_alphaEnabled, m_mode)) {
+        change(wnd, colour, evenHueCounts(m_mode), true);
     } else {
-        SetColour(wnd, colour, force);
+        SetColour(wnd, colour, evenHueCounts(m_mode));
         showValues(); // instead of what was out of range or no number
     }
 }

@@ -1,7 +1,10 @@
 #include <ovoui/colour/ColPickerDlgBase.h>
 
 #include <ovoui/colour/ShadedTabCtrl.h>
+#include <ovoui/colour/core/ControlKeys.h>
 #include <ovouires/resource.h>
+
+using namespace ovoui::colour;
 
 IMPLEMENT_DYNAMIC(ColPickerDlgBase, COVOModalDialog)
 
@@ -162,13 +165,20 @@ void ColPickerDlgBase::OnColourSpaceChanged()
 
 BOOL ColPickerDlgBase::PreTranslateMessage(MSG* message)
 {
-    if (message->message == WM_KEYDOWN && message->wParam == VK_ESCAPE && cancelDrag(this))
-        return TRUE;
-    if (message->message == WM_KEYDOWN && message->wParam == VK_RETURN) {
-        const Lifeline::Watch watch(m_dialogLifeline);
-        DoKillfocusColpickerValues(this); // Enter closes the dialog without taking the focus from the edit
+    const bool down = message->message == WM_KEYDOWN;
+    const Lifeline::Watch watch(m_dialogLifeline);
+    switch (down ? dialogKey(static_cast<unsigned>(message->wParam)) : DialogKey::None) {
+    case DialogKey::CancelDrag:
+        if (cancelDrag(this))
+            return TRUE;
+        break;
+    case DialogKey::TakeNumbers:
+        DoKillfocusColpickerValues(this);
         if (!watch.alive() || !m_hWnd)
             return TRUE;
+        break;
+    case DialogKey::None:
+        break;
     }
     return COVOModalDialog::PreTranslateMessage(message);
 }

@@ -1,10 +1,12 @@
 // The picker's keyboard: ring, triangle and swatches.
 #include <ovoui/colour/ColPickerStops.h>
 #include <ovoui/colour/ColourWheelImage.h>
-#include <ovoui/colour/core/ColourModes.h>
+#include <ovoui/colour/ColourCells.h>
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/core/ControlKeys.h>
 #include <ovoui/colour/core/FocusMark.h>
+#include <ovoui/frame/HeldKeysNow.h>
+#include <ovoui/frame/LoadedText.h>
 #include <ovouires/resource.h>
 
 #include <oleacc.h>
@@ -12,32 +14,11 @@
 #include <utility>
 
 using namespace ovoui::colour;
+using ovoui::frame::heldKeysNow;
+using ovoui::frame::loadedText;
 
 namespace
 {
-
-std::wstring resourceText(UINT id)
-{
-    CString text;
-    text.LoadString(id);
-    return std::wstring(text);
-}
-
-int hueOf(const Colour& colour)
-{
-    return valuesOf(colour, ColPickerModeHLS)[0] % 360;
-}
-
-Shade shadeOf(const Colour& colour)
-{
-    const Values values = valuesOf(colour, ColPickerModeHLS);
-    return {values[1], values[2]};
-}
-
-Colour colourOf(const Shade& shade, const Colour& like)
-{
-    return Colour::hlsa(like.h_hls(), shade.lightness / 100.0, shade.saturation / 100.0, like.a());
-}
 
 /// Dots in the colour of texts, the same ones each time: drawing them again changes nothing.
 template <std::size_t Points>
@@ -68,7 +49,7 @@ void ColPicker::makeStops(CWnd* wnd)
     const auto make = [&](UINT name, std::function<std::wstring()> value) {
         auto identity = std::make_shared<ColourIdentity>();
         identity->role = ROLE_SYSTEM_SLIDER;
-        identity->name = [name] { return resourceText(name); };
+        identity->name = [name] { return loadedText(name); };
         identity->value = std::move(value);
         return std::make_unique<PickerStop>(
             PickerStop::Calls{[](UINT key) { return wheelKeyOf(key).has_value(); },
@@ -78,13 +59,12 @@ void ColPicker::makeStops(CWnd* wnd)
     m_stops->ring = make(IDS_COLOUR_RING, [this] { return std::to_wstring(hueOf(m_colour)); });
     m_stops->ring->create(*wnd, m_wheelRect, Stops::kRingId, wnd->GetDlgItem(IDC_WHEEL));
     m_stops->triangle = make(IDS_COLOUR_TRIANGLE, [this] { return shadeText(); });
-    const PixelRect& inner = m_wheel->triangle().rect();
+    const ovoui::frame::Box& inner = m_wheel->triangle().rect();
     CRect place(asDrawn({inner.left, inner.top}), asDrawn({inner.right - 1, inner.bottom - 1}));
     place.NormalizeRect();
     place.BottomRight() += CSize(1, 1);
     m_stops->triangle->create(*wnd, place, Stops::kTriangleId, m_stops->ring.get());
-    m_stops->toldHue = hueOf(m_colour);
-    m_stops->toldShade = shadeOf(m_colour);
+    m_stops->told.begin(m_colour);
     if (m_customAreaId != 0)
         makeSwatchStop(wnd);
 }
@@ -93,7 +73,7 @@ void ColPicker::makeSwatchStop(CWnd* wnd)
 {
     auto identity = std::make_shared<ColourIdentity>();
     identity->role = ROLE_SYSTEM_LIST;
-    identity->name = [] { return resourceText(IDS_COLOUR_CUSTOM); };
+    identity->name = [] { return loadedText(IDS_COLOUR_CUSTOM); };
     identity->cells = static_cast<int>(m_swatches.size());
     identity->cellName = [this](int cell) { return nameOrCodeOfColour(Colour::colorref(customCols(cell))); };
     identity->cellPlace = [this, wnd](int cell) {
@@ -102,7 +82,7 @@ void ColPicker::makeSwatchStop(CWnd* wnd)
         return place;
     };
     identity->current = [this] { return m_stops->swatch; };
-    identity->cellAction = [] { return resourceText(IDS_COLOUR_TAKE); };
+    identity->cellAction = [] { return loadedText(IDS_COLOUR_TAKE); };
     identity->pressCell = [this, wnd](int cell) { takeSwatch(wnd, cell); };
     m_stops->swatches = std::make_unique<PickerStop>(
         PickerStop::Calls{[](UINT key) { return swatchKey(key) != SwatchKey::None; },
@@ -183,17 +163,12 @@ void ColPicker::carryOutSwatchKey(CWnd* wnd, UINT key)
 
 void ColPicker::moveHue(CWnd* wnd, WheelKey key)
 {
-    const int hue = hueAfter(hueOf(m_colour), key, heldKeys());
-    changeByKey(wnd, Colour::hlsa(Angle::degrees(hue), m_colour.l_hls(), m_colour.s_hls(), m_colour.a()));
+    changeByKey(wnd, withHue(m_colour, hueAfter(hueOf(m_colour), key, heldKeysNow())));
 }
 
 void ColPicker::moveShade(CWnd* wnd, WheelKey key)
 {
-    const bool goesOn = !differ(m_colour, m_stops->shadeColour, true);
-    const Shade from = goesOn ? m_stops->shade : shadeOf(m_colour);
-    m_stops->shade = shadeAfter(from, key, heldKeys());
-    m_stops->shadeColour = colourOf(m_stops->shade, m_colour);
-    changeByKey(wnd, m_stops->shadeColour);
+    changeByKey(wnd, m_stops->shade.moved(m_colour, key, heldKeysNow()));
 }
 
 void ColPicker::moveToSwatch(CWnd* wnd, WheelKey key)
@@ -232,22 +207,18 @@ void ColPicker::drawFocusMark(CDC* dc, CSize offset) const
         drawDots(*dc, focusMark(m_wheel->triangle()), offset);
 }
 
-/// A frame in black and one in white, which show on every colour.
 void ColPicker::drawSwatchMark(CDC* dc) const
 {
     if (!m_stops || !m_stops->swatches || !m_stops->swatches->hasFocus())
         return;
     CRect frame = m_swatches[static_cast<std::size_t>(m_stops->swatch)];
     frame.DeflateRect(1, 1);
-    ::FrameRect(dc->m_hDC, &frame, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)));
-    frame.DeflateRect(1, 1);
-    ::FrameRect(dc->m_hDC, &frame, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
+    drawCellMark(*dc, frame);
 }
 
 std::wstring ColPicker::shadeText() const
 {
-    const bool byKeys = !differ(m_colour, m_stops->shadeColour, true);
-    const Shade shade = byKeys ? m_stops->shade : shadeOf(m_colour);
+    const Shade shade = m_stops->shade.of(m_colour);
     CString text;
     text.Format(IDS_COLOUR_SHADE, shade.lightness, shade.saturation);
     return std::wstring(text);
@@ -257,8 +228,9 @@ void ColPicker::announceColour()
 {
     if (!m_stops || !m_stops->ring)
         return;
-    if (std::exchange(m_stops->toldHue, hueOf(m_colour)) != m_stops->toldHue)
+    const ToldColour::News news = m_stops->told.news(m_colour);
+    if (news.hue)
         m_stops->ring->announceValue();
-    if (std::exchange(m_stops->toldShade, shadeOf(m_colour)) != m_stops->toldShade)
+    if (news.shade)
         m_stops->triangle->announceValue();
 }

@@ -5,12 +5,17 @@
 #include <ovoui/colour/ShadedTabCtrl.h>
 #include <ovoui/colour/core/Round.h>
 #include <ovoui/colour/core/SwatchLayout.h>
+#include <ovoui/colour/core/TypedColour.h>
+#include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/LeftToRight.h>
+#include <ovoui/frame/core/BoxParts.h>
 
 #include <utility>
 
 using namespace ovoui::colour;
 using ovoui::frame::LeftToRight;
+using ovoui::frame::toBox;
+using ovoui::frame::toRect;
 
 namespace
 {
@@ -31,17 +36,12 @@ CRect squareAround(CPoint centre, int radius)
     return {centre.x - radius, centre.y - radius, centre.x + radius + 1, centre.y + radius + 1};
 }
 
-CRect rectOf(const PixelRect& rect)
-{
-    return {rect.left, rect.top, rect.right, rect.bottom};
-}
-
-PixelRect placeOf(const CWnd& control, const CWnd& wnd)
+ovoui::frame::Box placeOf(const CWnd& control, const CWnd& wnd)
 {
     CRect place;
     control.GetWindowRect(&place);
     wnd.ScreenToClient(&place);
-    return {place.left, place.top, place.right, place.bottom};
+    return toBox(place);
 }
 
 /// Puts a DC back into its state.
@@ -150,12 +150,7 @@ void ColPicker::DrawPatch(CPaintDC* dc)
 
 void ColPicker::makeCheckerboard()
 {
-    const double a = m_colour.a();
-    const auto over = [&](double ground) {
-        const double rest = ground * (1 - a);
-        return Colour::rgb(m_colour.r() * a + rest, m_colour.g() * a + rest, m_colour.b() * a + rest);
-    };
-    const Checkerboard picture(over(0), over(1));
+    const Checkerboard picture(overGround(m_colour, 0), overGround(m_colour, 1));
     m_checkerboard.DeleteObject();
     m_checkerboard.CreateDIBPatternBrush(&picture, DIB_RGB_COLORS);
 }
@@ -318,16 +313,15 @@ void ColPicker::DrawCustomColours(CWnd* wnd, CDC* dc)
         if (!watch.alive() || !wnd->m_hWnd)
             return;
     }
-    const auto places =
-        swatchRects({.area = {m_customRect.left, m_customRect.top, m_customRect.right, m_customRect.bottom},
-                     .secondEdit = placeOf(m_value2, *wnd),
-                     .thirdEdit = placeOf(m_value3, *wnd),
-                     .borderWidth = ::GetSystemMetrics(SM_CXBORDER),
-                     .borderHeight = ::GetSystemMetrics(SM_CYBORDER)});
+    const auto places = swatchRects({.area = toBox(m_customRect),
+                                     .secondEdit = placeOf(m_value2, *wnd),
+                                     .thirdEdit = placeOf(m_value3, *wnd),
+                                     .borderWidth = ::GetSystemMetrics(SM_CXBORDER),
+                                     .borderHeight = ::GetSystemMetrics(SM_CYBORDER)});
     for (std::size_t i = 0; i < kSwatches; ++i) {
-        m_swatches[i] = rectOf(places[i].inset(1));
+        m_swatches[i] = toRect(inset(places[i], 1));
         drawSunkenEdge(*dc, m_swatches[i]);
-        dc->FillSolidRect(rectOf(places[i].inset(2)), colours[i]);
+        dc->FillSolidRect(CRect(toRect(inset(places[i], 2))), colours[i]);
     }
     drawSwatchMark(dc);
 }

@@ -3,6 +3,7 @@
 
 #include <ovoui/colour/ColPicker.h>
 #include <ovoui/colour/PickerStop.h>
+#include <ovoui/colour/core/KeyedShade.h>
 
 struct ColPicker::Stops
 {
@@ -15,14 +16,7 @@ struct ColPicker::Stops
     std::unique_ptr<ovoui::colour::PickerStop> triangle;
     std::unique_ptr<ovoui::colour::PickerStop> swatches; ///< null without custom colours
 
-    /// Black and white have no saturation of their own: what the keys were at is kept as long as the colour
-    /// is the one that they led to.
-    ovoui::colour::Shade shade;
-    Colour shadeColour;
-
+    ovoui::colour::KeyedShade shade;
     int swatch = 0; ///< the one with the mark
-
-    // What accessibility was told last
-    int toldHue = -1;
-    ovoui::colour::Shade toldShade{-1, -1};
+    ovoui::colour::ToldColour told;
 };

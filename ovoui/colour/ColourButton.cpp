@@ -6,6 +6,10 @@
 #include <ovoui/colour/ColourDrop.h>
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/core/ControlKeys.h>
+#include <ovoui/colour/core/TypedColour.h>
+#include <ovoui/frame/LoadedText.h>
+#include <ovoui/frame/TellParent.h>
+#include <ovoui/frame/core/LabelText.h>
 #include <ovouires/resource.h>
 
 #include <oleacc.h>
@@ -57,18 +61,9 @@ CColourButton::CColourButton()
     , m_identity(std::make_shared<ColourIdentity>())
 {
     m_identity->role = ROLE_SYSTEM_BUTTONDROPDOWN;
-    m_identity->name = [this] {
-        CString text;
-        GetWindowText(text);
-        text.Remove(L'&');
-        return std::wstring(text);
-    };
+    m_identity->name = [this] { return ovoui::frame::withoutMnemonic(ovoui::frame::windowText(*this)); };
     m_identity->value = [this] { return nameOrCodeOfColour(m_colour); };
-    m_identity->action = [] {
-        CString text;
-        text.LoadString(IDS_COLOUR_OPEN);
-        return std::wstring(text);
-    };
+    m_identity->action = [] { return ovoui::frame::loadedText(IDS_COLOUR_OPEN); };
     m_identity->press = [this] { PostMessage(BM_CLICK); };
 }
 
@@ -115,11 +110,8 @@ void CColourButton::DropDown()
     ColourDrop::Content content;
     content.colours = m_palette;
     content.columns = m_columns;
-    if (m_usesDialog) {
-        CString more;
-        more.LoadString(IDS_COLOUR_MORE);
-        content.line = more;
-    }
+    if (m_usesDialog)
+        content.line = ovoui::frame::loadedText(IDS_COLOUR_MORE);
     const auto present = std::ranges::find(m_palette, m_colour.colorref());
     if (present != m_palette.end())
         content.current = static_cast<int>(present - m_palette.begin());
@@ -158,8 +150,7 @@ std::optional<Colour> CColourButton::PointedColour() const
 
 Colour CColourButton::fromPalette(int cell) const
 {
-    const Colour opaque = Colour::colorref(m_palette[static_cast<std::size_t>(cell)]);
-    return Colour::rgba(opaque.r(), opaque.g(), opaque.b(), m_colour.a());
+    return withAlphaOf(Colour::colorref(m_palette[static_cast<std::size_t>(cell)]), m_colour);
 }
 
 /// Of a cell of the palette, or of the line below.
@@ -193,10 +184,7 @@ std::optional<Colour> CColourButton::askForColour(const Colour& colour)
 /// Whether the button still has its window afterwards.
 bool CColourButton::tell(UINT code)
 {
-    const Lifeline::Watch watch(m_lifeline);
-    ::SendMessageW(::GetParent(m_hWnd), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), code),
-                   reinterpret_cast<LPARAM>(m_hWnd));
-    return watch.alive() && m_hWnd;
+    return ovoui::frame::tellParent(*this, code);
 }
 
 // Mouse. While the palette is open it has the mouse.
@@ -278,10 +266,9 @@ void CColourButton::closeAndGoOn()
         ::PostMessageW(parent, WM_NEXTDLGCTL, ::GetKeyState(VK_SHIFT) < 0, FALSE);
 }
 
-/// Space has done all when it went down.
 void CColourButton::OnKeyUp(UINT key, UINT, UINT)
 {
-    if (key != VK_SPACE)
+    if (!actsOnPressAlone(key))
         Default();
 }
 

@@ -1,6 +1,9 @@
 #include <ovoui/colour/ColourButtonFace.h>
 
 #include <ovoui/colour/ColourCells.h>
+#include <ovoui/colour/core/TypedColour.h>
+#include <ovoui/frame/KeptTheme.h>
+#include <ovoui/frame/Resolution.h>
 #include <ovoui/frame/ThemeData.h>
 
 #include <vssym32.h>
@@ -17,18 +20,6 @@ namespace
 constexpr int kMargin = 4;
 constexpr int kArrow = 4; // half of its width
 
-int scaled(CDC& dc, int length)
-{
-    return ::MulDiv(length, dc.GetDeviceCaps(LOGPIXELSX), USER_DEFAULT_SCREEN_DPI);
-}
-
-COLORREF over(const Colour& colour, double ground)
-{
-    const double part = colour.a();
-    const auto mixed = [&](double component) { return component * part + ground * (1 - part); };
-    return Colour::rgb(mixed(colour.r()), mixed(colour.g()), mixed(colour.b())).colorref();
-}
-
 } // namespace
 
 ColourButtonFace::ColourButtonFace(CWnd& button, const Colour& colour, const Look& look)
@@ -42,8 +33,8 @@ void ColourButtonFace::paint(CDC& dc, const CRect& rect, UINT state) const
 {
     const bool enabled = !(state & ODS_DISABLED);
     paintBack(dc, rect, state);
-    const int margin = scaled(dc, kMargin);
-    const int arrow = scaled(dc, kArrow);
+    const int margin = frame::scaledTo(dc, kMargin);
+    const int arrow = frame::scaledTo(dc, kArrow);
     CRect field = rect;
     field.DeflateRect(margin, margin);
     CRect room = field;
@@ -89,8 +80,10 @@ void ColourButtonFace::paintColour(CDC& dc, const CRect& field, bool enabled) co
     dc.FillSolidRect(&field, shown(m_colour.colorref()));
     if (m_colour.a() >= 0 && m_colour.a() < 1) {
         const CPoint middle = field.CenterPoint();
-        dc.FillSolidRect(CRect(middle.x, field.top, field.right, middle.y), shown(over(m_colour, 1)));
-        dc.FillSolidRect(CRect(middle.x, middle.y, field.right, field.bottom), shown(over(m_colour, 0)));
+        dc.FillSolidRect(CRect(middle.x, field.top, field.right, middle.y),
+                         shown(overGround(m_colour, 1).colorref()));
+        dc.FillSolidRect(CRect(middle.x, middle.y, field.right, field.bottom),
+                         shown(overGround(m_colour, 0).colorref()));
     }
     ::FrameRect(dc, &field, ::GetSysColorBrush(enabled ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
 }

@@ -4,9 +4,14 @@
 #include <ovoui/colour/ColourCells.h>
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/core/ControlKeys.h>
+#include <ovoui/colour/core/DropGesture.h>
+#include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/BufferedPaint.h>
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/frame/LoadedText.h>
 #include <ovoui/frame/OwnWindow.h>
+#include <ovoui/frame/Resolution.h>
+#include <ovoui/frame/core/LabelText.h>
 #include <ovouires/resource.h>
 
 #include <oleacc.h>
@@ -15,6 +20,9 @@
 
 namespace ovoui::colour
 {
+
+using frame::toBox;
+using frame::toRect;
 
 BEGIN_MESSAGE_MAP(ColourDrop, CWnd)
     ON_WM_MOUSEMOVE() // mouse
@@ -36,16 +44,6 @@ constexpr int kCell = 18;
 constexpr int kMargin = 6;
 constexpr int kLineMargin = 4; // above and below the line's text
 
-PixelRect pixelRect(const RECT& rect)
-{
-    return {rect.left, rect.top, rect.right, rect.bottom};
-}
-
-CRect rectOf(const PixelRect& rect)
-{
-    return {rect.left, rect.top, rect.right, rect.bottom};
-}
-
 } // namespace
 
 ColourDrop::ColourDrop(Content content, Calls calls)
@@ -58,11 +56,7 @@ ColourDrop::ColourDrop(Content content, Calls calls)
     m_identity->cellName = [this](int cell) { return nameOf(cell); };
     m_identity->cellPlace = [this](int cell) { return cellRect(cell); };
     m_identity->current = [this] { return current(); };
-    m_identity->cellAction = [] {
-        CString text;
-        text.LoadString(IDS_COLOUR_TAKE);
-        return std::wstring(text);
-    };
+    m_identity->cellAction = [] { return frame::loadedText(IDS_COLOUR_TAKE); };
     m_identity->pressCell = m_calls.chosen;
 }
 
@@ -79,9 +73,7 @@ bool ColourDrop::open(CWnd& button)
         return false;
     m_identity->window = m_hWnd;
     CClientDC dc(this);
-    const auto scaled = [&](int length) {
-        return ::MulDiv(length, dc.GetDeviceCaps(LOGPIXELSX), USER_DEFAULT_SCREEN_DPI);
-    };
+    const auto scaled = [&dc](int length) { return frame::scaledTo(dc, length); };
     CFont* const before = dc.SelectObject(font());
     const int lineHeight = dc.GetTextExtent(L"M", 1).cy + 2 * scaled(kLineMargin);
     dc.SelectObject(before);
@@ -91,8 +83,8 @@ bool ColourDrop::open(CWnd& button)
 
     CRect under;
     button.GetWindowRect(&under);
-    const PixelRect place =
-        dropPlace(pixelRect(under), m_layout->width, m_layout->height, pixelRect(GetWorkArea(under)));
+    const frame::Box place =
+        dropPlace(toBox(under), m_layout->width, m_layout->height, toBox(GetWorkArea(under)));
     SetWindowPos(&wndTopMost, place.left, place.top, place.width(), place.height(),
                  SWP_NOACTIVATE | SWP_SHOWWINDOW);
     ::GetCursorPos(&m_pointer);
@@ -108,7 +100,7 @@ CFont* ColourDrop::font() const
 
 CRect ColourDrop::cellRect(int cell) const
 {
-    CRect place = rectOf(m_layout->place(cell));
+    CRect place(toRect(m_layout->place(cell)));
     ClientToScreen(&place);
     return place;
 }
@@ -117,9 +109,7 @@ std::wstring ColourDrop::nameOf(int cell) const
 {
     if (cell < static_cast<int>(m_content.colours.size()))
         return nameOrCodeOfColour(Colour::colorref(m_content.colours[static_cast<std::size_t>(cell)]));
-    std::wstring name = m_content.line;
-    std::erase(name, L'&');
-    return name;
+    return frame::withoutMnemonic(m_content.line);
 }
 
 // What the user does. The calls come last: there may be no popup afterwards.
@@ -157,38 +147,44 @@ void ColourDrop::press(UINT key)
     }
 }
 
-/// A window that opens under a pointer at rest is told that it moves, which would take the mark from the
-/// keys.
 void ColourDrop::OnMouseMove(UINT, CPoint where)
+{
+    mouse(DropInput::Move, where);
+}
+
+void ColourDrop::OnLButtonDown(UINT, CPoint where)
+{
+    mouse(DropInput::Press, where);
+}
+
+void ColourDrop::OnLButtonUp(UINT, CPoint where)
+{
+    mouse(DropInput::Release, where);
+}
+
+void ColourDrop::mouse(DropInput input, CPoint where)
 {
     CPoint pointer = where;
     ClientToScreen(&pointer);
-    if (std::exchange(m_pointer, pointer) == pointer)
-        return;
-    const int cell = m_layout->at(where.x, where.y);
-    if (cell >= 0) // beside the cells the mark stays for the keys
-        point(cell);
-}
-
-/// A press beside the popup closes it, on its button too.
-void ColourDrop::OnLButtonDown(UINT, CPoint where)
-{
+    const bool moved = input == DropInput::Move && std::exchange(m_pointer, pointer) != pointer;
     CRect client;
     GetClientRect(&client);
-    if (client.PtInRect(where))
-        return;
-    const auto tell = m_calls.closed;
-    tell();
-}
-
-/// Of a click, or of a drag from the button.
-void ColourDrop::OnLButtonUp(UINT, CPoint where)
-{
     const int cell = m_layout->at(where.x, where.y);
-    if (cell < 0)
-        return;
-    const auto tell = m_calls.chosen;
-    tell(cell);
+    const auto choose = m_calls.chosen;
+    const auto close = m_calls.closed;
+    switch (dropAction(input, moved, client.PtInRect(where) != FALSE, cell >= 0)) {
+    case DropAction::Point:
+        point(cell);
+        break;
+    case DropAction::Choose:
+        choose(cell);
+        break;
+    case DropAction::Close:
+        close();
+        break;
+    case DropAction::Nothing:
+        break;
+    }
 }
 
 void ColourDrop::OnCaptureChanged(CWnd* wnd)
@@ -228,16 +224,16 @@ void ColourDrop::OnPaint()
     dc.FillSolidRect(&client, ::GetSysColor(COLOR_MENU));
     ::FrameRect(dc, &client, ::GetSysColorBrush(COLOR_BTNSHADOW));
     for (int i = 0; i < m_layout->cells.count; ++i)
-        drawColourCell(dc, rectOf(m_layout->place(i)), m_content.colours[static_cast<std::size_t>(i)], true);
+        drawColourCell(dc, toRect(m_layout->place(i)), m_content.colours[static_cast<std::size_t>(i)], true);
     if (!m_content.line.empty())
         drawLine(dc);
     if (m_content.current >= 0 && m_content.current < m_layout->cells.count)
-        drawCellMark(dc, rectOf(m_layout->place(m_content.current)));
+        drawCellMark(dc, toRect(m_layout->place(m_content.current)));
 }
 
 void ColourDrop::drawLine(CDC& dc) const
 {
-    CRect line = rectOf(m_layout->line);
+    CRect line(toRect(m_layout->line));
     const bool marked = m_content.current == m_layout->cells.count;
     if (marked)
         dc.FillSolidRect(&line, ::GetSysColor(COLOR_HIGHLIGHT));

@@ -15,6 +15,7 @@ namespace ovoui::colour
 {
 
 struct ColourIdentity;
+enum class DropInput;
 
 /// A popup that never takes the activation: its button keeps the focus, and hands it the keys. While it is
 /// open it has the mouse captured.
@@ -62,6 +63,7 @@ protected:
 
 private:
     void point(int cell);
+    void mouse(DropInput input, CPoint where);
     void drawLine(CDC& dc) const;
     std::wstring nameOf(int cell) const;
     CFont* font() const;

@@ -3,6 +3,8 @@
 #include <ovoui/colour/Magnifier.h>
 #include <ovoui/colour/core/ControlKeys.h>
 #include <ovoui/colour/core/ScreenPick.h>
+#include <ovoui/frame/AskedKey.h>
+#include <ovoui/frame/TellParent.h>
 
 using namespace ovoui::colour;
 
@@ -71,8 +73,7 @@ void CColourDropper::take()
     const Lifeline::Watch watch(m_lifeline);
     end();
     if (watch.alive() && m_hWnd)
-        ::SendMessageW(::GetParent(m_hWnd), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), kTaken),
-                       reinterpret_cast<LPARAM>(m_hWnd));
+        ovoui::frame::tellParent(*this, kTaken);
 }
 
 void CColourDropper::giveUp()
@@ -140,11 +141,9 @@ void CColourDropper::OnLButtonUp(UINT, CPoint)
 /// While picking goes on every key is the button's; Enter is at any time.
 UINT CColourDropper::OnGetDlgCode()
 {
-    const MSG* const message = CWnd::GetCurrentMessage();
-    const auto* const asked = message ? reinterpret_cast<const MSG*>(message->lParam) : nullptr;
-    const bool enter = asked && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
+    const bool asksEnter = ovoui::frame::asksForKey(CWnd::GetCurrentMessage()->lParam, VK_RETURN);
     const auto usual = static_cast<UINT>(Default());
-    return IsPicking() || enter ? usual | DLGC_WANTALLKEYS : usual;
+    return dropperWantsKeys(asksEnter, IsPicking()) ? usual | DLGC_WANTALLKEYS : usual;
 }
 
 void CColourDropper::OnKeyDown(UINT key, UINT, UINT)
@@ -171,10 +170,9 @@ void CColourDropper::OnKeyDown(UINT key, UINT, UINT)
     }
 }
 
-/// Space has done all when it went down.
 void CColourDropper::OnKeyUp(UINT key, UINT, UINT)
 {
-    if (key != VK_SPACE)
+    if (!actsOnPressAlone(key))
         Default();
 }
 

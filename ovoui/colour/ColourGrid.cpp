@@ -5,8 +5,13 @@
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/core/CellLayout.h>
 #include <ovoui/colour/core/ControlKeys.h>
+#include <ovoui/colour/core/DropGesture.h>
+#include <ovoui/frame/AskedKey.h>
+#include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/frame/LoadedText.h>
 #include <ovoui/frame/OwnWindow.h>
+#include <ovoui/frame/TellParent.h>
 #include <ovouires/resource.h>
 
 #include <oleacc.h>
@@ -37,11 +42,7 @@ CColourGrid::CColourGrid()
     : m_identity(std::make_shared<ColourIdentity>())
 {
     m_identity->role = ROLE_SYSTEM_LIST;
-    m_identity->name = [this] {
-        CString text;
-        GetWindowText(text);
-        return std::wstring(text);
-    };
+    m_identity->name = [this] { return ovoui::frame::windowText(*this); };
     m_identity->cellName = [this](int cell) {
         return nameOrCodeOfColour(Colour::colorref(m_colours[static_cast<std::size_t>(cell)]));
     };
@@ -51,11 +52,7 @@ CColourGrid::CColourGrid()
         return place;
     };
     m_identity->current = [this] { return Current(); };
-    m_identity->cellAction = [] {
-        CString text;
-        text.LoadString(IDS_COLOUR_TAKE);
-        return std::wstring(text);
-    };
+    m_identity->cellAction = [] { return ovoui::frame::loadedText(IDS_COLOUR_TAKE); };
     m_identity->pressCell = [this](int cell) { choose(cell); };
 }
 
@@ -119,15 +116,14 @@ CellLayout CColourGrid::layout() const
     CRect client;
     GetClientRect(&client);
     // Rows that are not full leave room for what may come.
-    return {.area = {client.left, client.top, client.right, client.bottom},
+    return {.area = ovoui::frame::toBox(client),
             .count = static_cast<int>(m_colours.size()),
             .columns = m_columns};
 }
 
 CRect CColourGrid::CellRect(int index) const
 {
-    const PixelRect cell = layout().cell(index);
-    return {cell.left, cell.top, cell.right, cell.bottom};
+    return ovoui::frame::toRect(layout().cell(index));
 }
 
 int CColourGrid::cellAt(CPoint point) const
@@ -155,10 +151,7 @@ void CColourGrid::choose(int index)
 
 bool CColourGrid::tell(UINT code)
 {
-    const Lifeline::Watch watch(m_lifeline);
-    ::SendMessageW(::GetParent(m_hWnd), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), code),
-                   reinterpret_cast<LPARAM>(m_hWnd));
-    return watch.alive() && m_hWnd;
+    return ovoui::frame::tellParent(*this, code);
 }
 
 void CColourGrid::OnLButtonDown(UINT, CPoint where)
@@ -175,7 +168,7 @@ void CColourGrid::OnLButtonDown(UINT, CPoint where)
 void CColourGrid::OnLButtonUp(UINT, CPoint where)
 {
     const int pressed = std::exchange(m_pressed, -1);
-    if (pressed >= 0 && pressed < m_identity->cells && cellAt(where) == pressed)
+    if (choosesPressed(pressed, cellAt(where), m_identity->cells))
         choose(pressed);
 }
 
@@ -196,10 +189,8 @@ void CColourGrid::OnKeyDown(UINT key, UINT, UINT)
 /// Enter is the grid's while it has the focus and something to choose.
 UINT CColourGrid::OnGetDlgCode()
 {
-    const MSG* const message = CWnd::GetCurrentMessage();
-    const auto* const asked = message ? reinterpret_cast<const MSG*>(message->lParam) : nullptr;
-    const bool enter = asked && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
-    return DLGC_WANTARROWS | (enter && !m_colours.empty() ? DLGC_WANTMESSAGE : 0);
+    const bool asksEnter = ovoui::frame::asksForKey(CWnd::GetCurrentMessage()->lParam, VK_RETURN);
+    return DLGC_WANTARROWS | (gridWantsKey(asksEnter, m_colours.empty()) ? DLGC_WANTMESSAGE : 0);
 }
 
 // Painting

@@ -1,21 +1,13 @@
 #include <ovoui/colour/ColourWheelImage.h>
 
+#include <ovoui/frame/BoxRect.h>
+
 #include <algorithm>
-
-namespace
-{
-
-ovoui::colour::PixelRect pixelRect(const CRect& rect)
-{
-    return {rect.left, rect.top, rect.right, rect.bottom};
-}
-
-} // namespace
 
 ColourWheelImage::ColourWheelImage(const CRect& wheel)
     : m_width(std::max(0, wheel.Width()))
     , m_height(std::max(0, wheel.Height()))
-    , m_raster(pixelRect(wheel))
+    , m_raster(ovoui::frame::toBox(wheel))
     , m_pixels(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height))
     , m_valid(m_width > 0 && m_height > 0)
 {

@@ -2,8 +2,10 @@
 
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/core/ScreenPick.h>
+#include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/BufferedPaint.h>
 #include <ovoui/frame/OwnWindow.h>
+#include <ovoui/frame/Resolution.h>
 
 #include <string>
 
@@ -45,13 +47,12 @@ private:
     HDC m_dc;
 };
 
-PixelRect screenAround(CPoint point)
+frame::Box screenAround(CPoint point)
 {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     ::GetMonitorInfoW(::MonitorFromPoint(point, MONITOR_DEFAULTTONEAREST), &monitor);
-    const RECT& rect = monitor.rcMonitor;
-    return {rect.left, rect.top, rect.right, rect.bottom};
+    return frame::toBox(monitor.rcMonitor);
 }
 
 } // namespace
@@ -73,7 +74,7 @@ bool Magnifier::create(CWnd& owner)
     if (!frame::createPopup(*this, AfxRegisterWndClass(0), owner))
         return false;
     CClientDC dc(this);
-    m_zoom = ::MulDiv(kZoom, dc.GetDeviceCaps(LOGPIXELSX), USER_DEFAULT_SCREEN_DPI);
+    m_zoom = frame::scaledTo(dc, kZoom);
     CGdiObject* const before = dc.SelectStockObject(DEFAULT_GUI_FONT);
     m_textHeight = dc.GetTextExtent(L"#", 1).cy + 2 * kTextMargin;
     dc.SelectObject(static_cast<CFont*>(before));
@@ -86,7 +87,7 @@ void Magnifier::show(CWnd& owner, CPoint point)
         return;
     take(point);
     const int side = kPixels * m_zoom + 2 * kBorder;
-    const PixelRect place =
+    const frame::Box place =
         magnifierPlace(point.x, point.y, side, side + m_textHeight, kGap, screenAround(point));
     SetWindowPos(&wndTopMost, place.left, place.top, place.width(), place.height(),
                  SWP_NOACTIVATE | SWP_SHOWWINDOW);

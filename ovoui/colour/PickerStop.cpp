@@ -17,11 +17,6 @@ BEGIN_MESSAGE_MAP(PickerStop, CWnd)
     ON_MESSAGE(WM_GETOBJECT, &PickerStop::OnGetObject)
 END_MESSAGE_MAP()
 
-HeldKeys heldKeys()
-{
-    return {.shift = ::GetKeyState(VK_SHIFT) < 0, .control = ::GetKeyState(VK_CONTROL) < 0};
-}
-
 PickerStop::PickerStop(Calls calls, std::shared_ptr<ColourIdentity> identity)
     : m_calls(std::move(calls))
     , m_identity(std::move(identity))

@@ -12,9 +12,6 @@
 namespace ovoui::colour
 {
 
-/// The keys that are held down at the message being handled.
-HeldKeys heldKeys();
-
 /// A window over a part of the picker that takes the keyboard focus and nothing else: the dialog draws what
 /// is seen there, and gets the mouse. It tells the dialog of a key as a slider would, by WM_HSCROLL with
 /// SB_ENDSCROLL, so that errors are the dialog's to show.

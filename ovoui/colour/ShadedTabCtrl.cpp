@@ -1,8 +1,11 @@
 #include <ovoui/colour/ShadedTabCtrl.h>
 
+#include <ovoui/colour/core/BrushPlace.h>
 #include <ovoui/frame/ThemeData.h>
 
 #include <string_view>
+
+using namespace ovoui::colour;
 
 IMPLEMENT_DYNAMIC(CShadedTabCtrl, CTabCtrl)
 
@@ -64,6 +67,13 @@ private:
     CDC m_dc;
     HGDIOBJ m_before = nullptr;
 };
+
+BrushFor brushFor(UINT type)
+{
+    if (type == CTLCOLOR_EDIT)
+        return BrushFor::Edit;
+    return type == CTLCOLOR_LISTBOX ? BrushFor::List : BrushFor::Other;
+}
 
 bool isGroupBox(const CWnd& control, UINT type)
 {
@@ -172,14 +182,13 @@ bool CShadedTabCtrl::GetBackgroundBrush(HBRUSH& brush, CPoint& origin, CWnd* rel
 
 HBRUSH CShadedTabCtrl::AmendCtlColor(CDC* dc, CWnd* control, UINT type, HBRUSH defaultBrush)
 {
-    CShadedTabCtrl* const tabs = type == CTLCOLOR_EDIT ? nullptr : above(control);
+    CShadedTabCtrl* const tabs = showsThrough(brushFor(type), true) ? above(control) : nullptr;
     return tabs ? tabs->amended(dc, type, defaultBrush, control) : defaultBrush;
 }
 
 HBRUSH CShadedTabCtrl::AmendCtlColor(CDC* dc, UINT type, HBRUSH defaultBrush, CWnd* control)
 {
-    const bool keepsColours = type == CTLCOLOR_EDIT || type == CTLCOLOR_LISTBOX;
-    return keepsColours ? defaultBrush : amended(dc, type, defaultBrush, control);
+    return showsThrough(brushFor(type), false) ? amended(dc, type, defaultBrush, control) : defaultBrush;
 }
 
 HBRUSH CShadedTabCtrl::amended(CDC* dc, UINT type, HBRUSH defaultBrush, CWnd* control)
@@ -196,22 +205,20 @@ HBRUSH CShadedTabCtrl::amended(CDC* dc, UINT type, HBRUSH defaultBrush, CWnd* co
     return alignedBrush(*dc, *control);
 }
 
-/// The brush for a DC with the coordinates of a control, with its origin set. Brushes are laid out in device
-/// units, from the left. So where the DC or a window is laid out from right to left, what the picture has at
-/// its left may have to be at the right.
+/// The brush for a DC with the coordinates of a control, with its origin set.
 HBRUSH CShadedTabCtrl::alignedBrush(CDC& dc, const CWnd& control)
 {
     // Three points: two would be taken for a rectangle, whose sides are put in order.
     CPoint points[]{CPoint(0, 0), CPoint(1, 0), CPoint(0, 0)};
     ::MapWindowPoints(m_hWnd, control.m_hWnd, points, 3);
-    const int direction = points[1].x - points[0].x; // -1 when one of the two windows is mirrored
     const bool mirroredDc = (dc.GetLayout() & LAYOUT_RTL) != 0;
-    const bool flipped = (direction < 0) != mirroredDc;
+    const TabColumns columns{points[0].x, points[1].x};
+    const bool flipped = wantsMirrorImage(columns, mirroredDc);
     CPoint origin = points[0];
     if (flipped) {
         CRect window;
         GetWindowRect(&window);
-        origin.x += direction * window.Width();
+        origin.x = mirrorImageStart(columns, window.Width());
     }
     // The control's coordinates may be moved: some let their parent paint into their own DC.
     origin = inDeviceUnits(dc, origin);

@@ -1,18 +1,22 @@
 # The colour picker, its dialogs, and the shaded tab control that carries them.
 set(colour_core
+  ${CMAKE_CURRENT_LIST_DIR}/core/BrushPlace.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/CellLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ColourHistory.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ColourModes.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ColourText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/Contrast.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ControlKeys.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/DropGesture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FocusMark.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/HueRing.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/KeyedShade.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/PickerGesture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/RecentColours.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ScreenPick.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ShadeTriangle.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SwatchLayout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/TypedColour.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ValueText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/WheelGeometry.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/WheelKeys.cpp

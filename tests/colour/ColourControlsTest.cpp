@@ -16,6 +16,7 @@
 #include <ovoui/frame/Geometry.h>
 
 #include <afxext.h>
+#include <uxtheme.h>
 
 #include <gtest/gtest.h>
 
@@ -511,6 +512,31 @@ TEST_F(ColourButton, DisabledItIsPaleAndDeaf)
     button->DropDown();
     EXPECT_FALSE(button->IsDropped());
     EXPECT_TRUE(parent.codes().empty());
+}
+
+TEST_F(ColourButton, AloneWithoutVisualStylesItHasTheClassicFrame)
+{
+    show();
+    const Picture before = Picture::ofClient(*button);
+    const auto expectFrame = [&](UINT state) {
+        const Picture shown = Picture::ofClient(*button);
+        const Picture classic(shown.width(), shown.height());
+        CRect rect(0, 0, shown.width(), shown.height());
+        ::DrawFrameControl(classic.dc(), &rect, DFC_BUTTON, DFCS_BUTTONPUSH | state);
+        for (int x = 0; x < shown.width(); ++x) {
+            EXPECT_EQ(shown.at(x, 0), classic.at(x, 0)) << x;
+            EXPECT_EQ(shown.at(x, shown.height() - 1), classic.at(x, shown.height() - 1)) << x;
+        }
+        for (int y = 0; y < shown.height(); ++y)
+            EXPECT_EQ(shown.at(0, y), classic.at(0, y)) << y;
+    };
+    ::SetWindowTheme(*button, L"", L"");
+    expectFrame(0);
+    button->DropDown();
+    expectFrame(DFCS_PUSHED);
+    button->CloseUp();
+    ::SetWindowTheme(*button, nullptr, nullptr);
+    EXPECT_EQ(Picture::ofClient(*button).differences(before), 0) << "with them again";
 }
 
 TEST_F(ColourButton, TheFocusIsShown)

@@ -70,7 +70,7 @@ int g_unlocks = 0;
 class PickerEngine : public PickerScene
 {
 protected:
-    static ovoui::colour::PixelRect rectOf(const CRect& rect)
+    static ovoui::frame::Box rectOf(const CRect& rect)
     {
         return {rect.left, rect.top, rect.right, rect.bottom};
     }

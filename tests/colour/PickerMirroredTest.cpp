@@ -196,7 +196,7 @@ TEST_F(PickerMirrored, TheStopsLieOverRingAndTriangle)
         openMirrored(kOrange, wider);
         CRect triangle;
         host->GetDlgItem(20566)->GetWindowRect(&triangle);
-        const ovoui::colour::PixelRect inner = ovoui::colour::triangleIn(ring()).rect();
+        const ovoui::frame::Box inner = ovoui::colour::triangleIn(ring()).rect();
         EXPECT_EQ(triangle, CRect(inner.left, inner.top, inner.right, inner.bottom)) << wider;
         host->DestroyWindow();
     }

@@ -11,7 +11,6 @@ FIXED = re.compile(r"\bRGB\(\s*(?:\d+|0x[0-9A-Fa-f]+)\s*,|\b(?:WHITE|BLACK|GRAY|
 ALLOWED = {
     "ovoui/colour/ColourButton.cpp": "the palette that is offered",
     "ovoui/colour/ColPickerPaletteDlg.cpp": "the palette that is offered",
-    "ovoui/colour/ColPickerKeys.cpp": "a mark in black and white, one of which shows on every colour",
     "ovoui/colour/ColPickerPaint.cpp": "markers that invert the colour below them",
     "ovoui/colour/ColourCells.cpp": "a mark in black and white, one of which shows on every colour",
     "ovoui/colour/Magnifier.cpp": "a mark in black and white, one of which shows on every colour",

@@ -1,7 +1,7 @@
 #include <ovoui/colour/core/CellLayout.h>
 
 #include <ovoui/colour/core/Round.h>
-#include <ovoui/frame/core/Placement.h>
+#include <ovoui/frame/core/BoxParts.h>
 
 #include <algorithm>
 
@@ -19,11 +19,6 @@ struct Span
     int to;
 };
 
-frame::Box boxOf(const PixelRect& rect)
-{
-    return {rect.left, rect.top, rect.right, rect.bottom};
-}
-
 /// The place of one of `count` equal cells between two ends.
 Span spanOf(int index, int count, int from, int to)
 {
@@ -34,7 +29,7 @@ Span spanOf(int index, int count, int from, int to)
 
 } // namespace
 
-PixelRect CellLayout::cell(int index) const
+frame::Box CellLayout::cell(int index) const
 {
     const Span across = spanOf(index % columns, columns, area.left, area.right);
     const Span down = spanOf(index / columns, std::max(1, rows()), area.top, area.bottom);
@@ -44,7 +39,7 @@ PixelRect CellLayout::cell(int index) const
 int CellLayout::at(int x, int y) const
 {
     for (int index = 0; index < count; ++index)
-        if (cell(index).contains(x, y))
+        if (contains(cell(index), x, y))
             return index;
     return -1;
 }
@@ -71,14 +66,14 @@ int DropLayout::last() const
     return line.height() > 0 ? cells.count : cells.count - 1;
 }
 
-PixelRect DropLayout::place(int index) const
+frame::Box DropLayout::place(int index) const
 {
     return index == cells.count ? line : cells.cell(index);
 }
 
 int DropLayout::at(int x, int y) const
 {
-    return line.contains(x, y) ? cells.count : cells.at(x, y);
+    return contains(line, x, y) ? cells.count : cells.at(x, y);
 }
 
 int DropLayout::after(int index, WheelKey key) const
@@ -97,12 +92,10 @@ int DropLayout::after(int index, WheelKey key) const
     return toLine ? last() : next;
 }
 
-PixelRect dropPlace(const PixelRect& button, int width, int height, const PixelRect& workArea)
+frame::Box dropPlace(const frame::Box& button, int width, int height, const frame::Box& workArea)
 {
-    const frame::Box area = boxOf(workArea);
-    const int top = frame::opensUpwards(boxOf(button), height, area) ? button.top - height : button.bottom;
-    const frame::Box place = frame::movedInto({button.left, top, button.left + width, top + height}, area);
-    return {place.left, place.top, place.right, place.bottom};
+    const int top = frame::opensUpwards(button, height, workArea) ? button.top - height : button.bottom;
+    return frame::movedInto({button.left, top, button.left + width, top + height}, workArea);
 }
 
 } // namespace ovoui::colour

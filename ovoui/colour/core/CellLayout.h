@@ -1,7 +1,7 @@
 /// Where the cells of a grid of colours go. Plain values, no windows.
 #pragma once
 
-#include <ovoui/colour/core/PixelRect.h>
+#include <ovoui/frame/core/Placement.h>
 #include <ovoui/colour/core/WheelKeys.h>
 
 namespace ovoui::colour
@@ -11,12 +11,12 @@ namespace ovoui::colour
 /// takes up with its gap, in both directions.
 struct CellLayout
 {
-    PixelRect area;
+    frame::Box area;
     int count = 0;
     int columns = 1; ///< at least 1
 
     int rows() const { return (count + columns - 1) / columns; }
-    PixelRect cell(int index) const;
+    frame::Box cell(int index) const;
     /// The cell at a point; -1 for none.
     int at(int x, int y) const;
 };
@@ -38,10 +38,10 @@ struct DropLayout
     int width = 0;
     int height = 0;
     CellLayout cells;
-    PixelRect line; ///< empty without one
+    frame::Box line; ///< empty without one
 
     int last() const;
-    PixelRect place(int index) const;
+    frame::Box place(int index) const;
     int at(int x, int y) const;
     /// What a key leads to.
     int after(int index, WheelKey key) const;
@@ -49,6 +49,6 @@ struct DropLayout
 
 /// Where to open what a button drops, in the coordinates of both rectangles: below the button and even with
 /// its left side; above it where there is not enough room below, but more above; moved into the work area.
-PixelRect dropPlace(const PixelRect& button, int width, int height, const PixelRect& workArea);
+frame::Box dropPlace(const frame::Box& button, int width, int height, const frame::Box& workArea);
 
 } // namespace ovoui::colour

@@ -11,6 +11,10 @@ using namespace keys;
 namespace
 {
 
+// Letters, which have the numbers of their characters
+constexpr unsigned kVkY = 'Y';
+constexpr unsigned kVkZ = 'Z';
+
 bool isArrow(unsigned key)
 {
     return key >= kVkLeft && key <= kVkDown;
@@ -81,6 +85,42 @@ DropperKey dropperKey(unsigned key, bool again, bool picking)
     if (key == kVkEscape)
         return DropperKey::GiveUp;
     return isArrow(key) ? DropperKey::MovePointer : DropperKey::Ignore;
+}
+
+bool actsOnPressAlone(unsigned key)
+{
+    return key == kVkSpace;
+}
+
+bool gridWantsKey(bool asksEnter, bool empty)
+{
+    return asksEnter && !empty;
+}
+
+bool dropperWantsKeys(bool asksEnter, bool picking)
+{
+    return asksEnter || picking;
+}
+
+DialogKey dialogKey(unsigned key)
+{
+    switch (key) {
+    case kVkEscape:
+        return DialogKey::CancelDrag;
+    case kVkReturn:
+        return DialogKey::TakeNumbers;
+    default:
+        return DialogKey::None;
+    }
+}
+
+HistoryKey historyKey(unsigned key, const frame::HeldKeys& held, bool canUndo)
+{
+    if (!held.ctrl || held.alt || canUndo)
+        return HistoryKey::None;
+    if (key == kVkZ)
+        return HistoryKey::Back;
+    return key == kVkY ? HistoryKey::Forward : HistoryKey::None;
 }
 
 PointerStep pointerStep(unsigned key, bool shift)

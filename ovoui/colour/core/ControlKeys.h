@@ -2,6 +2,8 @@
 /// values, no windows.
 #pragma once
 
+#include <ovoui/frame/core/HeldKeys.h>
+
 namespace ovoui::colour
 {
 
@@ -57,6 +59,32 @@ enum class DropperKey
 };
 /// `again`: the key is being held. `picking`: picking goes on.
 DropperKey dropperKey(unsigned key, bool again, bool picking);
+
+/// Whether a button has done all for a key when it went down, and does nothing when it comes up.
+bool actsOnPressAlone(unsigned key);
+
+// Which keys belong to the control and not to its dialog. `asksEnter`: the dialog asks about Enter.
+bool gridWantsKey(bool asksEnter, bool empty);
+bool dropperWantsKeys(bool asksEnter, bool picking);
+
+/// In a picker's dialog, wherever the focus is.
+enum class DialogKey
+{
+    None,
+    CancelDrag, ///< where one goes on
+    TakeNumbers ///< before the dialog closes: the focus does not leave the edit
+};
+DialogKey dialogKey(unsigned key);
+
+/// In the dialog with a palette: back to the colour before, and forward again.
+enum class HistoryKey
+{
+    None,
+    Back,
+    Forward
+};
+/// `canUndo`: what has the focus can undo typing, which goes first.
+HistoryKey historyKey(unsigned key, const frame::HeldKeys& held, bool canUndo);
 
 /// How far an arrow moves the pointer, in pixels.
 struct PointerStep

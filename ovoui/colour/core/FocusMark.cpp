@@ -22,7 +22,7 @@ Outline<4> focusMark(const HueRing& ring)
 Outline<3> focusMark(const ShadeTriangle& triangle)
 {
     constexpr double kGap = 2; // pixels between the sides and the mark
-    const PixelRect& rect = triangle.rect();
+    const frame::Box& rect = triangle.rect();
     // Sides move out by the gap; where two of them meet, at 60 degrees, the corner moves by twice as much.
     const double aside = kGap * 2 * Angle::degrees(30).cos();
     const Vector<2> apex((rect.left + rect.right) / 2.0, rect.top - 2 * kGap);

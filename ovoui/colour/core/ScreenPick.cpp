@@ -74,7 +74,7 @@ ScreenPick::Act ScreenPick::interrupt()
     return m_state == State::Idle ? Act::None : end(Act::GiveUp);
 }
 
-PixelRect magnifierPlace(int x, int y, int width, int height, int gap, const PixelRect& screen)
+frame::Box magnifierPlace(int x, int y, int width, int height, int gap, const frame::Box& screen)
 {
     const int left = beside(x, width, gap, screen.left, screen.right);
     const int top = beside(y, height, gap, screen.top, screen.bottom);

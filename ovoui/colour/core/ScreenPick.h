@@ -1,7 +1,7 @@
 /// What leads to what while the user picks a colour from the screen. Plain values, no windows.
 #pragma once
 
-#include <ovoui/colour/core/PixelRect.h>
+#include <ovoui/frame/core/Placement.h>
 
 namespace ovoui::colour
 {
@@ -47,6 +47,6 @@ private:
 
 /// Where the magnifier goes: beside the point of the pointer by `gap`, to the right of it and below, or to
 /// the other side where the screen ends. All of it is on the screen when there is room.
-PixelRect magnifierPlace(int x, int y, int width, int height, int gap, const PixelRect& screen);
+frame::Box magnifierPlace(int x, int y, int width, int height, int gap, const frame::Box& screen);
 
 } // namespace ovoui::colour

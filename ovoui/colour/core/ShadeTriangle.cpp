@@ -25,7 +25,7 @@ double partAlong(Vector<2> from, Vector<2> to, Vector<2> point)
 
 } // namespace
 
-ShadeTriangle::ShadeTriangle(const PixelRect& rect)
+ShadeTriangle::ShadeTriangle(const frame::Box& rect)
     : m_rect(rect)
     , m_apex((rect.left + rect.right) / 2.0, rect.top)
     , m_black(rect.left, rect.bottom)

@@ -1,7 +1,7 @@
 /// The triangle in which lightness and saturation are picked. Plain values, no windows.
 #pragma once
 
-#include <ovoui/colour/core/PixelRect.h>
+#include <ovoui/frame/core/Placement.h>
 
 #include <ovocor/Vector.h>
 
@@ -23,7 +23,7 @@ public:
 
     ShadeTriangle() = default;
     /// The corners of the base are (left, bottom) and (right, bottom).
-    explicit ShadeTriangle(const PixelRect& rect);
+    explicit ShadeTriangle(const frame::Box& rect);
 
     /// What lies at a point. A point outside is given what the nearest point of the nearest side has; it
     /// counts as in the triangle when that is at most `tolerance` pixels away.
@@ -32,7 +32,7 @@ public:
     /// Where a lightness and a saturation are found.
     Vector<2> marker(double lightness, double saturation) const;
 
-    const PixelRect& rect() const { return m_rect; }
+    const frame::Box& rect() const { return m_rect; }
 
     /// The part of the height at which the saturation is 1.
     static double chromaAt(double lightness);
@@ -40,7 +40,7 @@ public:
 private:
     Hit inside(Vector<2> point) const;
 
-    PixelRect m_rect;
+    frame::Box m_rect;
     Vector<2> m_apex;
     Vector<2> m_black;
     Vector<2> m_white;

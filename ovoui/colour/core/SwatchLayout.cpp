@@ -3,11 +3,11 @@
 namespace ovoui::colour
 {
 
-std::array<PixelRect, kSwatches> swatchRects(const SwatchPlaces& places)
+std::array<frame::Box, kSwatches> swatchRects(const SwatchPlaces& places)
 {
     constexpr int kColumns = kSwatches / 2;
     constexpr int kGaps = kColumns - 1;
-    const PixelRect& area = places.area;
+    const frame::Box& area = places.area;
     const int pitch = places.thirdEdit.top - places.secondEdit.top;
     const int height = places.thirdEdit.height() - places.borderHeight;
     int width = places.thirdEdit.width() - places.borderWidth;
@@ -17,7 +17,7 @@ std::array<PixelRect, kSwatches> swatchRects(const SwatchPlaces& places)
         gap = 1;
     }
 
-    std::array<PixelRect, kSwatches> swatches;
+    std::array<frame::Box, kSwatches> swatches;
     for (int i = 0; i < kSwatches; ++i) {
         const int top = area.top + i / kColumns * pitch;
         const int right = places.thirdEdit.right - (kColumns - 1 - i % kColumns) * (width + gap);

@@ -7,7 +7,7 @@
 namespace ovoui::colour
 {
 
-HueRing ringIn(const PixelRect& wheel)
+HueRing ringIn(const frame::Box& wheel)
 {
     constexpr double kInnerPart = 0.8;
     const double outer = std::min(wheel.width() / 2, wheel.height() / 2);

@@ -2,14 +2,14 @@
 #pragma once
 
 #include <ovoui/colour/core/HueRing.h>
-#include <ovoui/colour/core/PixelRect.h>
+#include <ovoui/frame/core/Placement.h>
 #include <ovoui/colour/core/ShadeTriangle.h>
 
 namespace ovoui::colour
 {
 
 /// The ring is as large as the rectangle allows; the triangle lies within its hexagon.
-HueRing ringIn(const PixelRect& wheel);
+HueRing ringIn(const frame::Box& wheel);
 
 /// Lies 5 pixels below the top vertex of the hexagon and beside its sides, and touches the level of the lower
 /// edges. Empty or turned over when the ring is too small for it.

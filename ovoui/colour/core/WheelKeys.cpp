@@ -16,7 +16,7 @@ constexpr int kTurn = 360;
 constexpr int kPercent = 100;
 constexpr int kLargeStep = 10;
 
-int stepOf(HeldKeys held)
+int stepOf(frame::HeldKeys held)
 {
     return held.shift ? kLargeStep : 1;
 }
@@ -65,7 +65,7 @@ WheelKey mirrored(WheelKey key)
     return key == WheelKey::Right ? WheelKey::Left : key;
 }
 
-int hueAfter(int hue, WheelKey key, HeldKeys held)
+int hueAfter(int hue, WheelKey key, frame::HeldKeys held)
 {
     switch (key) {
     case WheelKey::Right:
@@ -86,7 +86,7 @@ int hueAfter(int hue, WheelKey key, HeldKeys held)
     return hue;
 }
 
-Shade shadeAfter(Shade shade, WheelKey key, HeldKeys held)
+Shade shadeAfter(Shade shade, WheelKey key, frame::HeldKeys held)
 {
     const auto lighter = [&](int by) { return Shade{percent(shade.lightness + by), shade.saturation}; };
     const auto purer = [&](int by) { return Shade{shade.lightness, percent(shade.saturation + by)}; };
@@ -104,9 +104,9 @@ Shade shadeAfter(Shade shade, WheelKey key, HeldKeys held)
     case WheelKey::PageDown:
         return purer(-kLargeStep);
     case WheelKey::Home:
-        return held.control ? purer(-kPercent) : lighter(-kPercent);
+        return held.ctrl ? purer(-kPercent) : lighter(-kPercent);
     case WheelKey::End:
-        return held.control ? purer(kPercent) : lighter(kPercent);
+        return held.ctrl ? purer(kPercent) : lighter(kPercent);
     }
     return shade;
 }

@@ -1,6 +1,8 @@
 /// What keys do to hue, shade and swatches. Plain values, no windows.
 #pragma once
 
+#include <ovoui/frame/core/HeldKeys.h>
+
 #include <optional>
 
 namespace ovoui::colour
@@ -23,16 +25,9 @@ std::optional<WheelKey> wheelKeyOf(unsigned virtualKey);
 /// Where rows of cells are mirrored, the next one is at the left.
 WheelKey mirrored(WheelKey key);
 
-/// Keys that are held down with the other one.
-struct HeldKeys
-{
-    bool shift = false;
-    bool control = false;
-};
-
 /// The hue, 0 to 359 degrees, that a key leads to. Arrows go round by one, with Shift by ten, as the page
 /// keys do; Home goes to 0 and End to 359.
-int hueAfter(int hue, WheelKey key, HeldKeys held);
+int hueAfter(int hue, WheelKey key, frame::HeldKeys held);
 
 /// In per cent.
 struct Shade
@@ -46,7 +41,7 @@ struct Shade
 /// Left and right change the lightness, up and down the saturation, by one and with Shift by ten; the page
 /// keys change the saturation by ten. Home and End go to the ends of the lightness, with Ctrl of the
 /// saturation.
-Shade shadeAfter(Shade shade, WheelKey key, HeldKeys held);
+Shade shadeAfter(Shade shade, WheelKey key, frame::HeldKeys held);
 
 /// The place in a grid of `count` cells, rows of `columns`, that a key leads to; where there is none it
 /// stays. Left and right go on in the next row; Home and End go to the first and the last cell, the page keys

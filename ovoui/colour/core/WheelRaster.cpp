@@ -80,7 +80,7 @@ inline bool shade(std::uint32_t* pixels, const std::int32_t* lightness, int coun
 
 } // namespace
 
-WheelRaster::WheelRaster(const PixelRect& wheel)
+WheelRaster::WheelRaster(const frame::Box& wheel)
     : m_wheel(wheel)
     , m_ring(ringIn(wheel))
     , m_triangle(triangleIn(m_ring))
@@ -176,7 +176,7 @@ void WheelRaster::askRing(std::uint32_t& pixel, int x, int y) const
 
 void WheelRaster::drawTriangle(std::uint32_t* pixels, Angle hue) const
 {
-    const PixelRect& rect = m_triangle.rect();
+    const frame::Box& rect = m_triangle.rect();
     if (rect.width() <= 0 || rect.height() <= 0)
         return;
     const Colour pure = Colour::hls(hue, 0.5, 1);

@@ -17,7 +17,7 @@ namespace ovoui::colour
 class WheelRaster
 {
 public:
-    explicit WheelRaster(const PixelRect& wheel);
+    explicit WheelRaster(const frame::Box& wheel);
 
     const HueRing& ring() const { return m_ring; }
     const ShadeTriangle& triangle() const { return m_triangle; }
@@ -39,7 +39,7 @@ private:
     int endOfTriangle(double side, int y) const;
     bool isInTriangle(int column, int y) const;
 
-    PixelRect m_wheel;
+    frame::Box m_wheel;
     HueRing m_ring;
     ShadeTriangle m_triangle;
     std::vector<std::int32_t> m_lightness; // of each column of the triangle, in steps of the raster

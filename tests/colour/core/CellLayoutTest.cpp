@@ -1,4 +1,5 @@
 #include <ovoui/colour/core/CellLayout.h>
+#include <ovoui/frame/core/BoxParts.h>
 
 #include <gtest/gtest.h>
 
@@ -7,12 +8,12 @@ using namespace ovoui::colour;
 namespace
 {
 
-CellLayout grid(int count, int columns, const PixelRect& area)
+CellLayout grid(int count, int columns, const ovoui::frame::Box& area)
 {
     return {.area = area, .count = count, .columns = columns};
 }
 
-bool inside(const PixelRect& inner, const PixelRect& outer)
+bool inside(const ovoui::frame::Box& inner, const ovoui::frame::Box& outer)
 {
     return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
            inner.bottom <= outer.bottom;
@@ -23,9 +24,9 @@ bool inside(const PixelRect& inner, const PixelRect& outer)
 TEST(CellLayout, NineCellsFillTheirRow)
 {
     const CellLayout cells = grid(9, 9, {10, 20, 274, 34});
-    EXPECT_EQ(cells.cell(0), (PixelRect{10, 20, 34, 34}));
-    EXPECT_EQ(cells.cell(1), (PixelRect{40, 20, 64, 34}));
-    EXPECT_EQ(cells.cell(8), (PixelRect{250, 20, 274, 34}));
+    EXPECT_EQ(cells.cell(0), (ovoui::frame::Box{10, 20, 34, 34}));
+    EXPECT_EQ(cells.cell(1), (ovoui::frame::Box{40, 20, 64, 34}));
+    EXPECT_EQ(cells.cell(8), (ovoui::frame::Box{250, 20, 274, 34}));
 }
 
 TEST(CellLayout, ARowThatIsNotFullKeepsItsColumns)
@@ -38,7 +39,7 @@ TEST(CellLayout, ARowThatIsNotFullKeepsItsColumns)
 TEST(CellLayout, CellsAreFoundWhereTheyAreAndNowhereElse)
 {
     for (const int columns : {1, 3, 9}) {
-        const PixelRect area{5, 7, 205, 107};
+        const ovoui::frame::Box area{5, 7, 205, 107};
         const CellLayout cells = grid(9, columns, area);
         int found = 0;
         for (int y = 0; y < 120; ++y)
@@ -47,7 +48,7 @@ TEST(CellLayout, CellsAreFoundWhereTheyAreAndNowhereElse)
                 ASSERT_GE(at, -1);
                 ASSERT_LT(at, 9);
                 found += at >= 0;
-                ASSERT_TRUE(at < 0 || cells.cell(at).contains(x, y));
+                ASSERT_TRUE(at < 0 || contains(cells.cell(at), x, y));
             }
         int pixels = 0;
         for (int i = 0; i < 9; ++i) {
@@ -126,12 +127,14 @@ TEST(DropLayout, KeysReachNothingThatIsNotThere)
 
 TEST(DropPlace, BelowTheButtonWhereThereIsRoom)
 {
-    EXPECT_EQ(dropPlace({100, 100, 140, 120}, 200, 150, {0, 0, 1000, 700}), (PixelRect{100, 120, 300, 270}));
+    EXPECT_EQ(dropPlace({100, 100, 140, 120}, 200, 150, {0, 0, 1000, 700}),
+              (ovoui::frame::Box{100, 120, 300, 270}));
 }
 
 TEST(DropPlace, AboveItAtTheLowerEdgeOfTheScreen)
 {
-    EXPECT_EQ(dropPlace({100, 600, 140, 620}, 200, 150, {0, 0, 1000, 700}), (PixelRect{100, 450, 300, 600}));
+    EXPECT_EQ(dropPlace({100, 600, 140, 620}, 200, 150, {0, 0, 1000, 700}),
+              (ovoui::frame::Box{100, 450, 300, 600}));
 }
 
 TEST(DropPlace, WithoutRoomOnEitherSideWhereThereIsMore)
@@ -142,10 +145,10 @@ TEST(DropPlace, WithoutRoomOnEitherSideWhereThereIsMore)
 
 TEST(DropPlace, NeverBesideTheWorkArea)
 {
-    const PixelRect area{-500, -300, 500, 300};
+    const ovoui::frame::Box area{-500, -300, 500, 300};
     for (int x = -600; x <= 600; x += 37)
         for (int y = -400; y <= 400; y += 23) {
-            const PixelRect place = dropPlace({x, y, x + 40, y + 20}, 200, 150, area);
+            const ovoui::frame::Box place = dropPlace({x, y, x + 40, y + 20}, 200, 150, area);
             ASSERT_TRUE(inside(place, area)) << x << ' ' << y;
             ASSERT_EQ(place.width(), 200);
             ASSERT_EQ(place.height(), 150);

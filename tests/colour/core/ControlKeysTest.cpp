@@ -108,3 +108,48 @@ TEST(ColourKeys, ArrowsMoveThePointerByOneOrTen)
         EXPECT_EQ(pointerStep(kSpace, shift), PointerStep{});
     }
 }
+
+TEST(ControlKeys, SpaceAloneIsDoneWithWhenItGoesDown)
+{
+    for (unsigned key = 0; key <= 0xFF; ++key)
+        EXPECT_EQ(actsOnPressAlone(key), key == 0x20) << key;
+}
+
+TEST(ControlKeys, EnterIsTheGridsWithColoursAndTheDroppersAtAnyTime)
+{
+    for (const bool asksEnter : {false, true})
+        for (const bool other : {false, true}) {
+            EXPECT_EQ(gridWantsKey(asksEnter, other), asksEnter && !other);
+            EXPECT_EQ(dropperWantsKeys(asksEnter, other), asksEnter || other);
+        }
+}
+
+TEST(ControlKeys, EscapeAndEnterMeanSomethingInThePickersDialog)
+{
+    for (unsigned key = 0; key <= 0xFF; ++key) {
+        DialogKey expected = DialogKey::None;
+        if (key == 0x1B)
+            expected = DialogKey::CancelDrag;
+        if (key == 0x0D)
+            expected = DialogKey::TakeNumbers;
+        EXPECT_EQ(dialogKey(key), expected) << key;
+    }
+}
+
+TEST(ControlKeys, CtrlZAndCtrlYGoBackAndForwardWhereNothingIsToBeUndone)
+{
+    for (unsigned key = 0; key <= 0xFF; ++key)
+        for (const bool ctrl : {false, true})
+            for (const bool shift : {false, true})
+                for (const bool alt : {false, true})
+                    for (const bool canUndo : {false, true}) {
+                        HistoryKey expected = HistoryKey::None;
+                        if (ctrl && !alt && !canUndo && key == 'Z')
+                            expected = HistoryKey::Back;
+                        if (ctrl && !alt && !canUndo && key == 'Y')
+                            expected = HistoryKey::Forward;
+                        EXPECT_EQ(historyKey(key, {.ctrl = ctrl, .shift = shift, .alt = alt}, canUndo),
+                                  expected)
+                            << key;
+                    }
+}

@@ -65,7 +65,7 @@ namespace
 /// Edits of 31 by 21 whose rows are 30 apart, so swatches are 30 by 20.
 SwatchPlaces places(int areaWidth)
 {
-    const PixelRect area{10, 200, 10 + areaWidth, 260};
+    const ovoui::frame::Box area{10, 200, 10 + areaWidth, 260};
     return {area, {area.right - 31, 100, area.right, 121}, {area.right - 31, 130, area.right, 151}, 1, 1};
 }
 
@@ -74,10 +74,10 @@ SwatchPlaces places(int areaWidth)
 TEST(SwatchLayout, TwoRowsOfNineFillAWideArea)
 {
     const auto swatches = swatchRects(places(9 * 30 + 8 * 7));
-    EXPECT_EQ(swatches[0], (PixelRect{10, 200, 40, 220}));
-    EXPECT_EQ(swatches[1], (PixelRect{47, 200, 77, 220}));
+    EXPECT_EQ(swatches[0], (ovoui::frame::Box{10, 200, 40, 220}));
+    EXPECT_EQ(swatches[1], (ovoui::frame::Box{47, 200, 77, 220}));
     EXPECT_EQ(swatches[8].right, 10 + 9 * 30 + 8 * 7) << "ends where the third edit does";
-    EXPECT_EQ(swatches[9], (PixelRect{10, 230, 40, 250})) << "the edits' rows";
+    EXPECT_EQ(swatches[9], (ovoui::frame::Box{10, 230, 40, 250})) << "the edits' rows";
     EXPECT_EQ(swatches[17].bottom, 250);
 }
 
@@ -104,7 +104,7 @@ TEST(SwatchLayout, WhatIsLeftOfTheGapsStaysAtTheLeft)
 TEST(SwatchLayout, AGapOfOnePixelIsTheLeast)
 {
     const auto atLeast = swatchRects(places(9 * 30 + 8));
-    EXPECT_EQ(atLeast[0], (PixelRect{10, 200, 40, 220}));
+    EXPECT_EQ(atLeast[0], (ovoui::frame::Box{10, 200, 40, 220}));
     EXPECT_EQ(atLeast[1].left, 41);
 
     const auto narrower = swatchRects(places(9 * 30 + 7));
@@ -127,9 +127,4 @@ TEST(SwatchLayout, SwatchesNeverOverlap)
         }
         EXPECT_GE(swatches[0].left, 10) << width;
     }
-}
-
-TEST(PixelRect, InsetMovesAllSidesIn)
-{
-    EXPECT_EQ((PixelRect{1, 2, 10, 20}.inset(1)), (PixelRect{2, 3, 9, 19}));
 }

@@ -73,27 +73,30 @@ TEST(ScreenPick, EveryDeedInEveryState)
 
 TEST(Magnifier, LiesToTheRightOfThePointerAndBelowIt)
 {
-    EXPECT_EQ(magnifierPlace(100, 100, 80, 90, 20, {0, 0, 1000, 700}), (PixelRect{120, 120, 200, 210}));
+    EXPECT_EQ(magnifierPlace(100, 100, 80, 90, 20, {0, 0, 1000, 700}),
+              (ovoui::frame::Box{120, 120, 200, 210}));
 }
 
 TEST(Magnifier, GoesToTheOtherSideAtTheEndsOfTheScreen)
 {
-    EXPECT_EQ(magnifierPlace(950, 100, 80, 90, 20, {0, 0, 1000, 700}), (PixelRect{850, 120, 930, 210}));
-    EXPECT_EQ(magnifierPlace(100, 650, 80, 90, 20, {0, 0, 1000, 700}), (PixelRect{120, 540, 200, 630}));
+    EXPECT_EQ(magnifierPlace(950, 100, 80, 90, 20, {0, 0, 1000, 700}),
+              (ovoui::frame::Box{850, 120, 930, 210}));
+    EXPECT_EQ(magnifierPlace(100, 650, 80, 90, 20, {0, 0, 1000, 700}),
+              (ovoui::frame::Box{120, 540, 200, 630}));
 }
 
 TEST(Magnifier, IsOnTheScreenAndNeverUnderThePointer)
 {
-    const PixelRect screen{-400, 0, 400, 300};
+    const ovoui::frame::Box screen{-400, 0, 400, 300};
     constexpr int kGap = 20;
     for (int x = screen.left; x < screen.right; ++x)
         for (int y = screen.top; y < screen.bottom; y += 3) {
-            const PixelRect place = magnifierPlace(x, y, 80, 90, kGap, screen);
+            const ovoui::frame::Box place = magnifierPlace(x, y, 80, 90, kGap, screen);
             ASSERT_GE(place.left, screen.left);
             ASSERT_GE(place.top, screen.top);
             ASSERT_LE(place.right, screen.right);
             ASSERT_LE(place.bottom, screen.bottom);
-            const PixelRect near{x - kGap + 1, y - kGap + 1, x + kGap - 1, y + kGap - 1};
+            const ovoui::frame::Box near{x - kGap + 1, y - kGap + 1, x + kGap - 1, y + kGap - 1};
             ASSERT_TRUE(place.left >= near.right || place.right <= near.left || place.top >= near.bottom ||
                         place.bottom <= near.top)
                 << x << ' ' << y;
@@ -103,7 +106,7 @@ TEST(Magnifier, IsOnTheScreenAndNeverUnderThePointer)
 TEST(Magnifier, StaysOnAScreenThatIsTooSmallForIt)
 {
     for (int x = 0; x < 100; x += 9) {
-        const PixelRect place = magnifierPlace(x, 50, 80, 90, 20, {0, 0, 100, 100});
+        const ovoui::frame::Box place = magnifierPlace(x, 50, 80, 90, 20, {0, 0, 100, 100});
         EXPECT_GE(place.left, 0) << x;
         EXPECT_LE(place.right, 100) << x;
         EXPECT_GE(place.top, 0) << x;

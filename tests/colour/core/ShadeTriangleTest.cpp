@@ -112,7 +112,8 @@ TEST(ShadeTriangle, MarkersAreWhereTheTestFindsThem)
 
 TEST(ShadeTriangle, ATriangleOfNoSizeIsNeverHit)
 {
-    for (const PixelRect& rect : {PixelRect{}, PixelRect{5, 0, 3, 10}, PixelRect{0, 10, 9, 10}}) {
+    for (const ovoui::frame::Box& rect :
+         {ovoui::frame::Box{}, ovoui::frame::Box{5, 0, 3, 10}, ovoui::frame::Box{0, 10, 9, 10}}) {
         const ShadeTriangle::Hit hit = ShadeTriangle(rect).test({4, 5}, 100);
         EXPECT_FALSE(hit.inTriangle);
         EXPECT_EQ(hit.lightness, 0);
@@ -160,5 +161,5 @@ TEST(WheelGeometry, TheRingFillsTheShorterSide)
 TEST(WheelGeometry, TheTriangleKeepsItsMarginInTheHexagon)
 {
     const ShadeTriangle inRing = triangleIn(HueRing({200, 300}, 80, 100));
-    EXPECT_EQ(inRing.rect(), (PixelRect{136, 225, 264, 340})); // 80 cos 30 is 69.28
+    EXPECT_EQ(inRing.rect(), (ovoui::frame::Box{136, 225, 264, 340})); // 80 cos 30 is 69.28
 }

@@ -1,6 +1,7 @@
 #include <ovoui/colour/core/FocusMark.h>
 #include <ovoui/colour/core/WheelGeometry.h>
 #include <ovoui/colour/core/WheelKeys.h>
+#include <ovoui/frame/core/BoxParts.h>
 
 #include <gtest/gtest.h>
 
@@ -8,13 +9,14 @@
 #include <vector>
 
 using namespace ovoui::colour;
+using ovoui::frame::HeldKeys;
 
 namespace
 {
 
 constexpr WheelKey kKeys[] = {WheelKey::Left,   WheelKey::Right,    WheelKey::Up,   WheelKey::Down,
                               WheelKey::PageUp, WheelKey::PageDown, WheelKey::Home, WheelKey::End};
-constexpr HeldKeys kHeld[] = {{}, {.shift = true}, {.control = true}, {.shift = true, .control = true}};
+constexpr HeldKeys kHeld[] = {{}, {.shift = true}, {.ctrl = true}, {.ctrl = true, .shift = true}};
 
 /// What a key adds to the hue, or the place that it goes to.
 int hueByHand(int hue, WheelKey key, bool shift)
@@ -65,10 +67,9 @@ TEST(WheelKeys, EveryKeyAtEveryShade)
                 ASSERT_EQ(after(WheelKey::Down), (Shade{lightness, limited(saturation - step)}));
                 ASSERT_EQ(after(WheelKey::PageUp), (Shade{lightness, limited(saturation + 10)}));
                 ASSERT_EQ(after(WheelKey::PageDown), (Shade{lightness, limited(saturation - 10)}));
-                ASSERT_EQ(after(WheelKey::Home),
-                          held.control ? (Shade{lightness, 0}) : (Shade{0, saturation}));
+                ASSERT_EQ(after(WheelKey::Home), held.ctrl ? (Shade{lightness, 0}) : (Shade{0, saturation}));
                 ASSERT_EQ(after(WheelKey::End),
-                          held.control ? (Shade{lightness, 100}) : (Shade{100, saturation}));
+                          held.ctrl ? (Shade{lightness, 100}) : (Shade{100, saturation}));
             }
 }
 
@@ -121,13 +122,13 @@ TEST(WheelKeys, WithoutCellsNothingMoves)
 TEST(FocusMark, LiesAroundTheRingAndInsideOfTheWheel)
 {
     for (const int size : {60, 101, 200, 400}) {
-        const PixelRect wheel{10, 20, 10 + size, 20 + size};
+        const ovoui::frame::Box wheel{10, 20, 10 + size, 20 + size};
         const HueRing ring = ringIn(wheel);
         const auto mark = focusMark(ring);
         EXPECT_EQ(mark.front(), mark.back()) << "closed";
         for (const Vector<2> corner : mark)
-            EXPECT_TRUE(wheel.contains(static_cast<int>(std::lround(corner.x())),
-                                       static_cast<int>(std::lround(corner.y()))))
+            EXPECT_TRUE(contains(wheel, static_cast<int>(std::lround(corner.x())),
+                                 static_cast<int>(std::lround(corner.y()))))
                 << size << ' ' << corner.x() << ' ' << corner.y();
         for (int hue = 0; hue < 360; ++hue) {
             const Vector<2> point = ring.marker(Angle::degrees(hue));

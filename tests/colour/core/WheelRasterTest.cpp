@@ -1,4 +1,5 @@
 #include <ovoui/colour/core/WheelRaster.h>
+#include <ovoui/frame/core/BoxParts.h>
 
 #include <ovocor/Colour.h>
 
@@ -20,13 +21,13 @@ std::uint32_t pixelOf(const Colour& colour)
     return 0xFF000000u | static_cast<std::uint32_t>((value & 0xFF) << 16 | (value & 0xFF00) | value >> 16);
 }
 
-std::size_t count(const PixelRect& wheel)
+std::size_t count(const ovoui::frame::Box& wheel)
 {
     return static_cast<std::size_t>(wheel.width()) * static_cast<std::size_t>(wheel.height());
 }
 
 /// What the tests of ring and triangle say of each pixel.
-Pixels plain(const PixelRect& wheel, Angle hue)
+Pixels plain(const ovoui::frame::Box& wheel, Angle hue)
 {
     const HueRing ring = ringIn(wheel);
     const ShadeTriangle triangle = triangleIn(ring);
@@ -38,7 +39,7 @@ Pixels plain(const PixelRect& wheel, Angle hue)
             const HueRing::Hit onRing = ring.test({x, y}, 0);
             if (onRing.onRing)
                 pixel = pixelOf(Colour::hls(onRing.hue, 0.5, 1.0));
-            if (triangle.rect().contains(x, y)) {
+            if (contains(triangle.rect(), x, y)) {
                 const ShadeTriangle::Hit hit = triangle.test({x, y}, 0);
                 if (hit.inTriangle)
                     pixel = pixelOf(Colour::hls(hue, hit.lightness, hit.saturation));
@@ -48,7 +49,7 @@ Pixels plain(const PixelRect& wheel, Angle hue)
     return pixels;
 }
 
-Pixels drawn(const PixelRect& wheel, Angle hue)
+Pixels drawn(const ovoui::frame::Box& wheel, Angle hue)
 {
     Pixels pixels(count(wheel), 0);
     const WheelRaster raster(wheel);
@@ -57,7 +58,7 @@ Pixels drawn(const PixelRect& wheel, Angle hue)
     return pixels;
 }
 
-void expectSame(const PixelRect& wheel, Angle hue)
+void expectSame(const ovoui::frame::Box& wheel, Angle hue)
 {
     const Pixels expected = plain(wheel, hue);
     const Pixels actual = drawn(wheel, hue);
@@ -81,8 +82,8 @@ TEST(WheelRaster, EveryHeightIsAsPixelByPixel)
         expectSame({0, 0, height + height % 3, height}, Angle::degrees(height * 1.7));
 }
 
-// Sizes up to 300 by 200, a part of them unless all are asked for: each height with widths in steps, which begin
-// elsewhere from height to height.
+// Sizes up to 300 by 200, a part of them unless all are asked for: each height with widths in steps, which
+// begin elsewhere from height to height.
 TEST(WheelRaster, WidthsAndHeightsAreAsPixelByPixel)
 {
     const int step = std::getenv("OVO_ALL_WHEELS") ? 1 : 43;
@@ -94,7 +95,7 @@ TEST(WheelRaster, WidthsAndHeightsAreAsPixelByPixel)
 
 TEST(WheelRaster, EveryHueOfTheTriangleIsAsPixelByPixel)
 {
-    const PixelRect wheel{0, 0, 61, 60};
+    const ovoui::frame::Box wheel{0, 0, 61, 60};
     for (int degrees = -30; degrees < 400; ++degrees)
         expectSame(wheel, Angle::degrees(degrees));
     for (int step = 0; step < 100; ++step)
@@ -114,7 +115,7 @@ TEST(WheelRaster, ComponentsBetweenTwoBytesRoundAsPixelByPixel)
 
 TEST(WheelRaster, ALaterHueReplacesTheWholeTriangle)
 {
-    const PixelRect wheel{0, 0, 90, 80};
+    const ovoui::frame::Box wheel{0, 0, 90, 80};
     Pixels pixels(count(wheel), 0);
     const WheelRaster raster(wheel);
     raster.drawRing(pixels.data());
@@ -125,7 +126,7 @@ TEST(WheelRaster, ALaterHueReplacesTheWholeTriangle)
 
 TEST(WheelRaster, TheRingLeavesWhatIsNotOfIt)
 {
-    const PixelRect wheel{0, 0, 50, 50};
+    const ovoui::frame::Box wheel{0, 0, 50, 50};
     Pixels pixels(count(wheel), 0x12345678);
     const WheelRaster raster(wheel);
     raster.drawRing(pixels.data());

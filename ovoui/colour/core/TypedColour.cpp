@@ -1,0 +1,53 @@
+#include <ovoui/colour/core/TypedColour.h>
+
+#include <ovoui/colour/core/ColourModes.h>
+
+namespace ovoui::colour
+{
+
+bool countsWhenLeft(bool initialised, bool onlyTyped, bool typed)
+{
+    return initialised && (typed || !onlyTyped);
+}
+
+bool evenHueCounts(ColPickerModeType mode)
+{
+    return mode != ColPickerModeRGB;
+}
+
+bool changesColour(const Colour& before, const Colour& typed, bool alphaIsEdited, ColPickerModeType mode)
+{
+    const Colour compared =
+        Colour::hlsa(before.h_hls(), before.l_hls(), before.s_hls(), alphaIsEdited ? before.a() : typed.a());
+    return differ(compared, typed, evenHueCounts(mode));
+}
+
+std::optional<Colour> colourTyped(const std::optional<Colour>& read, const Colour& before, bool alphaIsEdited)
+{
+    if (!read)
+        return std::nullopt;
+    const bool saysAlpha = alphaIsEdited && read->a() >= 0;
+    const Colour colour = Colour::rgba(read->r(), read->g(), read->b(), saysAlpha ? read->a() : before.a());
+    if (colour.colorref() == before.colorref() && !saysAlpha)
+        return std::nullopt;
+    return colour;
+}
+
+Colour withAlphaOf(const Colour& colour, const Colour& other)
+{
+    return Colour::rgba(colour.r(), colour.g(), colour.b(), other.a());
+}
+
+double alphaOr(const Colour& colour, double before)
+{
+    return colour.a() >= 0 ? colour.a() : before;
+}
+
+Colour overGround(const Colour& colour, double ground)
+{
+    const double part = colour.a();
+    const double rest = ground * (1 - part);
+    return Colour::rgb(colour.r() * part + rest, colour.g() * part + rest, colour.b() * part + rest);
+}
+
+} // namespace ovoui::colour
