@@ -1,7 +1,7 @@
-/// Not exported to hosts: where one platform wants to be treated differently from another. Everything that
-/// the library does for the sake of Wine's controls stands behind these switches; with all of them off it
-/// does what is right on Windows. docs/wine.md says what of that is documented. Tests set the switches to try
-/// both sides.
+/// Not exported to hosts: where one platform wants to be treated differently from another. What the library
+/// does for the sake of Wine alone stands behind these switches; with all of them off it does what is right
+/// on Windows. There is none where one way serves both. docs/wine.md says what of that is documented. Tests
+/// set the switches to try both sides.
 #pragma once
 
 #include <ovoui/export.h>
@@ -23,6 +23,11 @@ struct Platform
 
     /// TVM_SETINSERTMARK without an item leaves the mark where it is.
     bool keepsInsertMark;
+
+    // Toolbars
+
+    /// WM_SETREDRAW that turns drawing on again invalidates all of a toolbar.
+    bool invalidatesWholeBar;
 
     // Edit controls
 

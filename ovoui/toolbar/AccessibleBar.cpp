@@ -1,5 +1,6 @@
 #include <ovoui/toolbar/AccessibleBar.h>
 
+#include <ovoui/frame/LoadedText.h>
 #include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/ButtonNames.h>
 #include <ovoui/toolbar/core/ButtonRules.h>
@@ -45,9 +46,7 @@ std::wstring AccessibleBar::name(int part) const
 {
     if (part != kSelf)
         return isSeparator(part) ? std::wstring() : nameOfButton(part);
-    CString title;
-    bar()->GetWindowText(title);
-    return title.GetString();
+    return frame::windowText(*bar());
 }
 
 std::wstring AccessibleBar::description(int part) const
@@ -57,10 +56,7 @@ std::wstring AccessibleBar::description(int part) const
 
 std::wstring AccessibleBar::action(int part) const
 {
-    CString press;
-    if (canPress(part))
-        press.LoadString(IDS_ACTION_PRESS);
-    return press.GetString();
+    return canPress(part) ? frame::loadedText(IDS_ACTION_PRESS) : std::wstring();
 }
 
 std::optional<LONG> AccessibleBar::state(int part) const

@@ -1,4 +1,5 @@
 // CVantorToolBar: its buttons and their images.
+#include <ovoui/frame/Platform.h>
 #include <ovoui/frame/RedrawHold.h>
 #include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/ImageStrip.h>
@@ -7,6 +8,7 @@
 #include <ovoui/toolbar/core/FlyoutGesture.h>
 
 #include <list>
+#include <memory>
 #include <string_view>
 
 using namespace ovoui::toolbar;
@@ -98,13 +100,13 @@ private:
 };
 
 /// A change during which the control does not redraw, and does not tell the owner, which could destroy it in
-/// the middle. Wine's toolbar invalidates all of itself when it may redraw again; that is taken back.
+/// the middle. Where the platform invalidates all of the bar when it may redraw again, that is taken back.
 class QuietChange
 {
 public:
     explicit QuietChange(HWND wnd)
         : m_withoutOwner(wnd)
-        , m_sameInvalid(wnd)
+        , m_sameInvalid(ovoui::platform().invalidatesWholeBar ? std::make_unique<SameInvalid>(wnd) : nullptr)
         , m_hold(wnd, RedrawHold::By::Control)
     {
     }
@@ -112,7 +114,7 @@ public:
 private:
     // They end in the opposite order.
     const WithoutOwner m_withoutOwner;
-    const SameInvalid m_sameInvalid;
+    const std::unique_ptr<SameInvalid> m_sameInvalid;
     const RedrawHold m_hold;
 };
 

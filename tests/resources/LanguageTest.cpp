@@ -1,9 +1,9 @@
 // Which language the texts come in.
 #include "ResourceTexts.h"
+#include "support/PlatformSetting.h"
 
 #include <afxwin.h>
 #include <ovoui/frame/Language.h>
-#include <ovoui/frame/Platform.h>
 #include <ovouires/resource.h>
 
 #include <ovocor/ovocor.h>
@@ -143,6 +143,19 @@ TEST_F(TextLanguage, IsTheSameInEveryRegion)
 {
     ASSERT_TRUE(setTextLanguage(kAustrian));
     EXPECT_EQ(textLanguage(), L"de");
+}
+
+TEST_F(TextLanguage, LeavesTheLocaleOfTheThreadAloneWhereItNeedsNotHaveTheLanguage)
+{
+    ovo::testkit::PlatformSetting setting;
+    setting->takesLanguageFromLocale = false;
+    const LCID before = ::GetThreadLocale();
+    EXPECT_TRUE(setTextLanguage(kGerman));
+    EXPECT_EQ(::GetThreadLocale(), before);
+    EXPECT_FALSE(setTextLanguage(kItalian));
+    setting->takesLanguageFromLocale = true;
+    EXPECT_TRUE(setTextLanguage(kGerman));
+    EXPECT_EQ(PRIMARYLANGID(LANGIDFROMLCID(::GetThreadLocale())), LANG_GERMAN);
 }
 
 TEST_F(TextLanguage, OfAUserFromAnotherRegionIsFound)

@@ -1,5 +1,6 @@
 // Single buttons: hit test, reading, replacing, and what is painted anew.
 #include "ToolBarScene.h"
+#include "support/PlatformSetting.h"
 
 #include <gtest/gtest.h>
 
@@ -103,6 +104,8 @@ TEST(BarButton, AnEqualOneChangesNothing)
 
 TEST(BarButton, AnotherLookPaintsItsRectangleOnly)
 {
+    PlatformSetting setting;
+    setting->invalidatesWholeBar = true; // also where it does not
     BarScene scene;
     TBBUTTON button;
     scene.bar()._getButton(1, &button);
@@ -118,6 +121,22 @@ TEST(BarButton, AnotherLookPaintsItsRectangleOnly)
     EXPECT_EQ(after.fsState, button.fsState);
     EXPECT_EQ(scene.bar().SendMessage(TB_BUTTONCOUNT), 5);
     EXPECT_TRUE(scene.bar().HasFlyout(1)) << "the flyout stays";
+}
+
+TEST(BarButton, WhereThePlatformLeavesTheRestAloneNothingIsTakenBack)
+{
+    PlatformSetting setting;
+    const bool whole = setting->invalidatesWholeBar;
+    setting->invalidatesWholeBar = false;
+    BarScene scene;
+    TBBUTTON button;
+    scene.bar()._getButton(1, &button);
+    button.idCommand = ID_ARC;
+    const CRect invalid = invalidAfter(scene.bar(), [&] { scene.bar()._setButton(1, &button); });
+    EXPECT_EQ(invalid, whole ? clientOf(scene.bar()) : itemRect(scene.bar(), 1));
+    TBBUTTON after;
+    scene.bar()._getButton(1, &after);
+    EXPECT_EQ(after.idCommand, ID_ARC);
 }
 
 TEST(BarButton, WhatWasInvalidBeforeStaysSo)
