@@ -1,9 +1,8 @@
 #include <ovoui/tree/Band.h>
 
 #include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/QueuedMouse.h>
 #include <ovoui/tree/Selection.h>
-
-#include <windowsx.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -109,18 +108,24 @@ bool MultiTreeCtrl::Band::follow(Drawing& drawing)
         const BOOL fetched = ::GetMessageW(&message, window, 0, 0);
         if (fetched == 0)
             ::PostQuitMessage(static_cast<int>(message.wParam)); // for the loop outside
-        if (fetched <= 0 || (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE))
+        const BandStep step = fetched > 0 ? bandStep(queuedMouse(message)) : BandStep::GiveUp;
+        switch (step) {
+        case BandStep::GiveUp:
             return false;
-        if (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST) {
-            drawing.pointer = CPoint(GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam));
-            if (message.message != WM_MOUSEMOVE && message.message != WM_LBUTTONUP)
-                continue;
+        case BandStep::Ignore:
+            break;
+        case BandStep::Show:
+        case BandStep::Finish:
+            drawing.pointer = CPoint(message.lParam);
             show(drawing, drawing.pointer);
-            if (!(message.wParam & MK_LBUTTON))
+            if (step == BandStep::Finish)
                 return host.usable();
-        } else if (isTick(message)) {
-            scroll(drawing);
-        } else {
+            break;
+        case BandStep::PassOn:
+            if (isTick(message)) {
+                scroll(drawing);
+                break;
+            }
             ::TranslateMessage(&message);
             ::DispatchMessageW(&message);
         }

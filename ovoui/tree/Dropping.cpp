@@ -3,6 +3,7 @@
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
 #include <ovoui/frame/Platform.h>
+#include <ovoui/tree/core/DropEffect.h>
 #include <ovoui/tree/core/EdgeScroll.h>
 #include <ovoui/tree/core/HitParts.h>
 
@@ -46,7 +47,7 @@ DWORD MultiTreeCtrl::Dropping::ask(COleDataObject& data, HTREEITEM hovered, Plac
 
     place.target = node;
     const DWORD answer = node->dragInto(data, place.effects, beside, place.zone);
-    if (!host.usable() || !beside || answer != DROPEFFECT_NONE || node->hTreeItem() != hovered)
+    if (!host.usable() || !ovoui::tree::asksAround(beside, answer) || node->hTreeItem() != hovered)
         return answer;
     const HTREEITEM above = view().next(TVGN_PARENT, hovered);
     const OVO::Handle<Node> parent = view().node(above);

@@ -1,9 +1,11 @@
 // The keyboard and the default action.
 #include <ovoui/tree/Keyboard.h>
 
+#include <ovoui/frame/AskedKey.h>
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/Selection.h>
+#include <ovoui/tree/core/SelectRule.h>
 
 #include <ovouires/resource.h>
 
@@ -41,8 +43,7 @@ void MultiTreeCtrl::OnChar(UINT character, UINT repeat, UINT flags)
 
 UINT MultiTreeCtrl::OnGetDlgCode()
 {
-    const auto* const asked = reinterpret_cast<const MSG*>(GetCurrentMessage()->lParam);
-    const bool escape = asked && asked->message == WM_KEYDOWN && asked->wParam == VK_ESCAPE;
+    const bool escape = asksForKey(GetCurrentMessage()->lParam, VK_ESCAPE);
     const UINT searching = escape && m_state->isFinding() ? DLGC_WANTALLKEYS : 0;
     return CTreeCtrl::OnGetDlgCode() | DLGC_WANTARROWS | searching;
 }
@@ -252,15 +253,19 @@ void MultiTreeCtrl::Keyboard::runDefaultAction()
 bool MultiTreeCtrl::Keyboard::translate(MSG& message)
 {
     const bool keyboard = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
-    if (keyboard && view().isEditing()) {
-        // Or a dialog around us would take Enter, Escape and Tab.
+    const HACCEL accelerators = tree().m_accelerators;
+    switch (treeKeyRoute(keyboard, keyboard && view().isEditing(), accelerators != nullptr)) {
+    case TreeKeyRoute::ToEditor:
         ::TranslateMessage(&message);
         ::DispatchMessageW(&message);
         return true;
+    case TreeKeyRoute::Accelerators:
+        if (::TranslateAcceleratorW(tree().m_hWnd, accelerators, &message))
+            return true;
+        break;
+    case TreeKeyRoute::PassOn:
+        break;
     }
-    const HACCEL accelerators = tree().m_accelerators;
-    if (keyboard && accelerators && ::TranslateAcceleratorW(tree().m_hWnd, accelerators, &message))
-        return true;
     if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN)
         return false;
     tree().OnOk();

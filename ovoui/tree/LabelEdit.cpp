@@ -4,6 +4,7 @@
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/Mouse.h>
+#include <ovoui/tree/core/LabelRule.h>
 
 #include <ovouires/resource.h>
 
@@ -146,7 +147,7 @@ bool MultiTreeCtrl::LabelEdit::apply(Node& node, HTREEITEM item, const std::wstr
     const HostCalls host(tree());
     const Tracker old(shared(), item);
     const std::wstring offered = node.renameText(tree());
-    if (typed == offered || !host.usable())
+    if (!isRenamed(offered, typed) || !host.usable())
         return false;
     const std::wstring before = node.text(tree());
     if (!host.usable())
@@ -165,12 +166,16 @@ bool MultiTreeCtrl::LabelEdit::apply(Node& node, HTREEITEM item, const std::wstr
     const std::wstring after = node.text(tree());
     if (!host.usable() || !old)
         return false;
-    if (after == before)
+    switch (afterRename(before, after, typed)) {
+    case AfterRename::EditAgain:
         return true;
-    if (after == typed)
+    case AfterRename::TakeTyped:
         result = TRUE;
-    else
+        break;
+    case AfterRename::ShowNodes:
         node.resetItemText(tree());
+        break;
+    }
     return false;
 }
 
@@ -186,14 +191,17 @@ void MultiTreeCtrl::LabelEdit::editAgain()
 namespace
 {
 
-/// The item that a message to the tree view deletes with all below it, TVI_ROOT for all; null for none.
-HTREEITEM itemDeletedBy(UINT message, bool empties, HTREEITEM item)
+/// What a message to the tree view deletes. `empties`: it closes an item for good.
+ToBeDeleted deletedBy(UINT message, bool empties, HTREEITEM item)
 {
-    if (message == WM_DESTROY)
-        return TVI_ROOT;
+    const bool all = !item || item == TVI_ROOT;
+    if (message == WM_DESTROY || (message == TVM_DELETEITEM && all))
+        return ToBeDeleted::Everything;
     if (message == TVM_DELETEITEM)
-        return item ? item : TVI_ROOT;
-    return empties ? item : nullptr;
+        return ToBeDeleted::Item;
+    if (!empties || !item)
+        return ToBeDeleted::Nothing;
+    return all ? ToBeDeleted::Everything : ToBeDeleted::Children;
 }
 
 } // namespace
@@ -203,12 +211,15 @@ HTREEITEM itemDeletedBy(UINT message, bool empties, HTREEITEM item)
 /// when there is nothing left to delete.
 bool MultiTreeCtrl::LabelEdit::arrives(Message& message)
 {
-    const HTREEITEM top = m_edited ? itemDeletedBy(message.id, message.empties(), message.item()) : nullptr;
-    const bool itselfToo = !message.empties();
-    if (!top || (top != TVI_ROOT && !(itselfToo && m_edited == top) && !view().isBelow(m_edited, top)))
+    if (!m_edited)
+        return true;
+    const HTREEITEM item = message.item();
+    const ToBeDeleted what = deletedBy(message.id, message.empties(), item);
+    const bool counts = what == ToBeDeleted::Item || what == ToBeDeleted::Children;
+    if (!closesEditor(what, m_edited == item, counts && view().isBelow(m_edited, item)))
         return true;
     const HostCalls host(tree());
-    const Tracker going(shared(), top);
+    const Tracker going(shared(), counts ? item : TVI_ROOT);
     tree().DefWindowProc(TVM_ENDEDITLABELNOW, TRUE, 0);
     return m_state.control() && tree().m_hWnd && going;
 }

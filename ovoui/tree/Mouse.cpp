@@ -219,7 +219,7 @@ void MultiTreeCtrl::Mouse::awaitDrag(const Click& click)
         perform(dragged({click.pressedAt(), click.right(), (click.extras & RubberBand) != 0}), click);
         return;
     }
-    const bool editable = (tree().GetStyle() & TVS_EDITLABELS) && (click.hit & kHitLabel) && click.onCaret;
+    const bool editable = editsLabel(click.hit, click.onCaret, (tree().GetStyle() & TVS_EDITLABELS) != 0);
     perform(releasedAfterPress({click.held(), click.pressedAt(), click.right(), tree().m_pending, editable}),
             click);
 }

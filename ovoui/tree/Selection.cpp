@@ -5,12 +5,13 @@
 #include <ovoui/tree/ParentNotificationFilter.h>
 #include <ovoui/tree/SelectionEvents.h>
 #include <ovoui/frame/RedrawHold.h>
+#include <ovoui/tree/core/SelectRule.h>
 
 #include <algorithm>
 #include <optional>
 
 using ovoui::frame::RedrawHold;
-using ovoui::tree::ParentNotificationFilter;
+using namespace ovoui::tree;
 
 namespace
 {
@@ -44,17 +45,23 @@ bool MultiTreeCtrl::Selection::selectAlone(HTREEITEM item)
     if (!host.usable() || (item && !target))
         return done;
     const HTREEITEM caretNow = view().caret();
-    if (caretNow == caretBefore && before > (item ? 1u : 0u)) {
-        // The tree view tells of no change, as its selected item is the same, and yet others were deselected.
-        if (item)
-            view().setSelected(item, true);
+    switch (afterAsking({item != nullptr, item && caretNow == item, caretNow == caretBefore, before})) {
+    case AfterAsking::SelectAndTell:
+        view().setSelected(item, true);
+        [[fallthrough]];
+    case AfterAsking::Tell:
         if (host.usable())
             tree().notifyTvnSelchanged(TVC_UNKNOWN, oldCaret.item(), item, CPoint(0, 0));
-    } else if (item && caretNow == item) {
+        break;
+    case AfterAsking::Select:
         if (!view().isSelected(item))
             view().setSelected(item, true);
-    } else if (item && caretNow == caretBefore) {
-        view().setSelected(item, false); // refused
+        break;
+    case AfterAsking::Deselect:
+        view().setSelected(item, false);
+        break;
+    case AfterAsking::Nothing:
+        break;
     }
     return done;
 }
@@ -70,7 +77,7 @@ void MultiTreeCtrl::Selection::selectForCertain(HTREEITEM item)
     if (!host.usable() || !selected)
         return;
     const HTREEITEM now = view().caret();
-    if (now == item || now == before)
+    if (selectsForCertain(now == item, now == before))
         view().setSelected(item, true);
 }
 

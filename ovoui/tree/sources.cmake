@@ -2,12 +2,15 @@
 set(tree_core
   ${CMAKE_CURRENT_LIST_DIR}/core/BandFrame.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ClickRules.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/DragRule.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/DropEffect.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/EdgeScroll.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ExpansionRule.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/KeyRules.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/LabelRule.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SavedView.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SelectionNews.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/SelectRule.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TreePath.cpp)
 
 if(NOT WIN32)

@@ -22,6 +22,13 @@ inline constexpr unsigned kKeyAlt = 0x20;
 /// anything is allowed.
 unsigned resolveDropEffect(unsigned keyState, unsigned answer, unsigned allowed, bool rightButton);
 
+/// Whether what is around an item is asked next, for a place beside it: the item has not taken the data, and
+/// lets others have them.
+constexpr bool asksAround(bool beside, unsigned answer)
+{
+    return beside && answer == kDropNone;
+}
+
 /// The effect of pasting, which has no keys: what the data's owner prefers (0 for no preference), else a
 /// copy, else what the target would do by itself.
 unsigned resolvePasteEffect(unsigned preferred, unsigned answer, unsigned allowed);

@@ -42,6 +42,12 @@ constexpr bool isNodesOwnPart(unsigned flags)
     return flags != 0 && (flags & 0xFFFF) == 0;
 }
 
+/// Whether a second click edits the label: a press on the label of the caret, where labels can be edited.
+constexpr bool editsLabel(unsigned flags, bool onCaret, bool labelsCanBeEdited)
+{
+    return labelsCanBeEdited && onCaret && (flags & kHitLabel) != 0;
+}
+
 /// What a press that hits no item stands for, where a range of items or an anchor is wanted.
 enum class Beyond
 {

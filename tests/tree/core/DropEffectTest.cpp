@@ -69,3 +69,10 @@ TEST(PasteEffect, IsWhatTheOwnerPrefersIfAllowed)
     EXPECT_EQ(resolvePasteEffect(0, kDropMove, kAll), kDropCopy);
     EXPECT_EQ(resolvePasteEffect(0, kDropNone, 0), kDropNone);
 }
+
+TEST(DropEffect, WhatIsAroundIsAskedWhenTheItemLeavesTheDataToOthers)
+{
+    for (const bool beside : {false, true})
+        for (unsigned answer = 0; answer <= kDropAny; ++answer)
+            EXPECT_EQ(asksAround(beside, answer), beside && answer == kDropNone) << answer;
+}

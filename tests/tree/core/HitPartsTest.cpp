@@ -46,3 +46,12 @@ TEST(HitParts, APressBesideAllItemsStandsForAnEndOfTheTree)
     EXPECT_EQ(beyond(kHitRight), Beyond::Nothing);
     EXPECT_EQ(beyond(kHitLabel), Beyond::Nothing);
 }
+
+TEST(HitParts, ASecondClickOnTheCaretsLabelEditsIt)
+{
+    for (unsigned flags = 0; flags <= 0x3FF; ++flags)
+        for (const bool onCaret : {false, true})
+            for (const bool canBeEdited : {false, true})
+                EXPECT_EQ(editsLabel(flags, onCaret, canBeEdited),
+                          (flags & kHitLabel) && onCaret && canBeEdited);
+}
