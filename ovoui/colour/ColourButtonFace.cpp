@@ -56,19 +56,17 @@ void ColourButtonFace::paintBack(CDC& dc, CRect rect, UINT state) const
 {
     const bool enabled = !(state & ODS_DISABLED);
     const bool pressed = m_look.dropped || (state & ODS_SELECTED);
-    CThemeData& themes = CThemeData::getThemeData();
-    if (themes.IsAppThemed()) {
+    if (CThemeData::getThemeData().IsAppThemed()) {
         // The corners of a themed button show what is behind it.
         const auto behind = reinterpret_cast<HBRUSH>(
             ::SendMessageW(::GetParent(m_button), WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC),
                            reinterpret_cast<LPARAM>(m_button.m_hWnd)));
         ::FillRect(dc, &rect, behind ? behind : ::GetSysColorBrush(COLOR_BTNFACE));
         const int up = m_look.hot ? PBS_HOT : PBS_NORMAL;
-        themes.drawBackground(dc, &rect, m_button, L"Button",
-                              !enabled  ? PBS_DISABLED
-                              : pressed ? PBS_PRESSED
-                                        : up);
-        return;
+        const int usable = pressed ? PBS_PRESSED : up;
+        frame::KeptTheme theme(L"Button");
+        if (theme.draw(m_button, dc, BP_PUSHBUTTON, enabled ? usable : PBS_DISABLED, rect))
+            return;
     }
     ::DrawFrameControl(dc, &rect, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0));
 }

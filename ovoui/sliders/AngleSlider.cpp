@@ -4,6 +4,7 @@
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/frame/OwnWindow.h>
 #include <ovoui/sliders/AngleSliderOptions.h>
+#include <ovoui/sliders/SystemShade.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
 #include <ovoui/sliders/core/CylinderPicture.h>
 
@@ -33,12 +34,6 @@ namespace
 
 constexpr int kEdge = 2;  // the etched edge and the gap outside it
 constexpr int kFocus = 3; // the focus mark from the window's edge
-
-Shade shadeOf(int systemColour)
-{
-    const COLORREF colour = ::GetSysColor(systemColour);
-    return {GetRValue(colour), GetGValue(colour), GetBValue(colour)};
-}
 
 COLORREF colorrefOf(const Shade& shade)
 {

@@ -3,6 +3,7 @@
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/LeftToRight.h>
 #include <ovoui/frame/MemoryBitmap.h>
+#include <ovoui/sliders/SystemShade.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
 #include <ovoui/sliders/core/DialPicture.h>
 #include <ovoui/sliders/core/DialTurn.h>
@@ -19,12 +20,6 @@ struct CDialSlider::Turning
 
 namespace
 {
-
-Shade shadeOf(int systemColour)
-{
-    const COLORREF colour = ::GetSysColor(systemColour);
-    return {GetRValue(colour), GetGValue(colour), GetBValue(colour)};
-}
 
 DialColours systemColours(bool enabled)
 {

@@ -13,6 +13,7 @@ template <class State>
 class JobAnswer
 {
 public:
+    /// `running` is the state until the answer is there.
     explicit JobAnswer(State running) noexcept
         : m_state(running)
     {
@@ -21,7 +22,8 @@ public:
     /// Whether the caller is the first: then its answer is the one that counts, and it gives it.
     bool claim() noexcept { return !m_claimed.exchange(true); }
 
-    /// The answer of the first. Comes last: who sees it may read all that belongs to it.
+    /// Gives the `answer` of the first who came. To be called last: who sees it may read all that belongs to
+    /// it.
     void give(State answer) noexcept { m_state = answer; }
 
     /// May be asked on any thread.

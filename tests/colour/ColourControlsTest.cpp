@@ -530,7 +530,7 @@ TEST_F(ColourButton, AloneWithoutVisualStylesItHasTheClassicFrame)
         for (int y = 0; y < shown.height(); ++y)
             EXPECT_EQ(shown.at(0, y), classic.at(0, y)) << y;
     };
-    ::SetWindowTheme(*button, L"", L"");
+    ::SetWindowTheme(*button, L" ", L" "); // of no class that there is
     expectFrame(0);
     button->DropDown();
     expectFrame(DFCS_PUSHED);

@@ -45,8 +45,9 @@ TEST(SliderPlaces, TheDirectionGrowsClockwiseHoweverTheWindowIsLaidOut)
     EXPECT_DOUBLE_EQ(dialDirection(client, 0, 20, true), 90) << "column 0 is the rightmost one";
     for (int x = 0; x < 41; ++x)
         for (int y = 0; y < 41; ++y)
-            if (x != 20)
-                EXPECT_DOUBLE_EQ(dialDirection(client, x, y, true), dialDirection(client, 40 - x, y, false));
+            EXPECT_TRUE(x == 20 ||
+                        dialDirection(client, x, y, true) == dialDirection(client, 40 - x, y, false))
+                << x << ' ' << y;
 }
 
 TEST(SliderPlaces, TheArrowFitsIntoItsButtonOrIsLeftOut)
