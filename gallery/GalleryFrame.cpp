@@ -197,6 +197,8 @@ BOOL GalleryFrame::PreTranslateMessage(MSG* message)
         return FALSE; // the keys belong to the modal box that is open
     if (CFrameWnd::PreTranslateMessage(message))
         return TRUE;
+    if (m_barKeyboard.offer(bars(), *message))
+        return TRUE;
     if (leavesText(*message)) {
         ::SetFocus(::GetNextDlgTabItem(m_hWnd, message->hwnd, ::GetKeyState(VK_SHIFT) < 0));
         return TRUE;

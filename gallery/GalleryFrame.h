@@ -1,6 +1,7 @@
 // The gallery's window: pages at the left, the open page, a log of notifications at the bottom.
 #pragma once
 
+#include "BarKeyboard.h"
 #include "FrameBar.h"
 #include "FramePalette.h"
 #include "GalleryPage.h"
@@ -42,6 +43,8 @@ public:
     FramePalette& palette() { return m_palette; }
     const PageEntry* openedPage() const { return m_entry; }
     PageTree& pageList() { return m_pageList; }
+    /// Its own bars and those of the open page, in the order of Ctrl+F6.
+    BarKeyboard::Bars bars();
 
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override;
     void RecalcLayout(BOOL notify = TRUE) override;
@@ -109,6 +112,7 @@ private:
     CStatusBar m_statusBar;
     FrameBar m_bar;
     FramePalette m_palette;
+    BarKeyboard m_barKeyboard;
     FramePalette::Values m_sizes; ///< of list and log, and the band's colour
     PageGroup m_group = PageGroup::All;
     bool m_offering = false; ///< a command is offered to the page

@@ -112,9 +112,17 @@ void GalleryFrame::OnClose()
 
 // The toolbar
 
+BarKeyboard::Bars GalleryFrame::bars()
+{
+    BarKeyboard::Bars all{&m_bar, &m_palette};
+    if (m_page)
+        BarKeyboard::collect(*m_page, all);
+    return all;
+}
+
 void GalleryFrame::OnBarKeyboard()
 {
-    m_bar.FocusButtons();
+    m_barKeyboard.step(bars());
 }
 
 void GalleryFrame::OnGroup(UINT command)

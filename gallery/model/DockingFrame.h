@@ -4,6 +4,7 @@
 #include "model/DockedShape.h"
 
 #include <ovoui/images/AlphaImageList.h>
+#include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/toolbar/VantorToolWnd.h>
 
 #include <afxext.h>
@@ -49,7 +50,7 @@ private:
 
     Log m_log;
     CAlphaImageList m_images;
-    std::array<CToolBar, 3> m_bars;
+    std::array<CVantorToolBar, 3> m_bars;
     CVantorToolWnd m_palette;
     DockedShape m_shape;
 };

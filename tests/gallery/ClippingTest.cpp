@@ -2,6 +2,7 @@
 // runs once for each resolution.
 #include "Clipping.h"
 #include "GalleryScene.h"
+#include "Poses.h"
 
 #include "Resolution.h"
 
@@ -19,58 +20,12 @@ std::string utf8(const wchar_t* text)
     return ::testing::PrintToString(std::wstring(text));
 }
 
-/// Looks at each modal dialog that opens while it lives, and cancels it.
-class DialogWatch
-{
-public:
-    DialogWatch()
-    {
-        s_watch = this;
-        m_timer = ::SetTimer(nullptr, 0, kEvery, &look);
-    }
-    ~DialogWatch()
-    {
-        ::KillTimer(nullptr, m_timer);
-        s_watch = nullptr;
-    }
-    DialogWatch(const DialogWatch&) = delete;
-    DialogWatch& operator=(const DialogWatch&) = delete;
-
-    const Problems& problems() const { return m_problems; }
-    std::size_t dialogs() const { return m_seen.size(); }
-
-private:
-    static constexpr UINT kEvery = 20; // milliseconds
-
-    static void CALLBACK look(HWND, UINT, UINT_PTR, DWORD)
-    {
-        const HWND dialog = shownDialog();
-        if (!dialog)
-            return;
-        if (s_watch->m_seen.insert(dialog).second)
-            std::ranges::copy(clippingProblems(dialog), std::back_inserter(s_watch->m_problems));
-        ::PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
-    }
-
-    static DialogWatch* s_watch;
-    UINT_PTR m_timer;
-    std::set<HWND> m_seen;
-    Problems m_problems;
+/// Poses that are to be cut.
+const std::set<std::wstring> kMeant{
+    L"lists/shortened", // columns are too narrow, which cuts texts
+    L"docking/cut",     // bars have too little room
+    L"toolbars/edge",   // a bar is moved to the edge of the screen, and its flyout comes into view
 };
-
-DialogWatch* DialogWatch::s_watch = nullptr;
-
-/// What is left out.
-bool isForTheEye(const std::wstring& page, const std::wstring& pose)
-{
-    static const std::set<std::wstring> kMeant{
-        L"lists/shortened", // columns are too narrow, which cuts texts
-        L"docking/cut",     // bars have too little room
-        L"toolbars/edge",   // a bar is moved to the edge of the screen, and its flyout comes into view
-    };
-    // The dialogs of the system are its own business.
-    return page == L"files" || kMeant.contains(page + L"/" + pose);
-}
 
 class GalleryClipping : public ::testing::Test
 {
@@ -90,22 +45,10 @@ TEST_F(GalleryClipping, EveryPageIsSeenWhole)
 
 TEST_F(GalleryClipping, WhatThePagesCanShowIsSeenWhole)
 {
-    std::size_t dialogs = 0;
-    for (const PageEntry& entry : pageTable()) {
-        scene.frame().openPage(entry);
-        const std::vector<std::wstring> poses = scene.page().poses();
-        for (const std::wstring& pose : poses) {
-            if (isForTheEye(entry.name, pose))
-                continue;
-            scene.frame().openPage(entry);
-            const DialogWatch watch;
-            EXPECT_TRUE(scene.page().pose(pose));
-            EXPECT_EQ(linesOf(clippingProblems(scene.frame())) + linesOf(watch.problems()), "")
-                << utf8(entry.name) << "/" << utf8(pose.c_str());
-            dialogs += watch.dialogs();
-        }
-    }
-    EXPECT_GT(dialogs, 20u);
+    const PosesSeen seen = lookAtPoses(scene, &clippingProblems,
+                                       [](const std::wstring& name) { return !kMeant.contains(name); });
+    EXPECT_EQ(linesOf(seen.problems), "");
+    EXPECT_GT(seen.dialogs, 20u);
 }
 
 TEST_F(GalleryClipping, TheSentenceAboveEachPageIsSeenWhole)

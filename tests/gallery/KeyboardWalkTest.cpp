@@ -1,6 +1,12 @@
-// A user without a mouse: every control of every page is reached by Tab and the arrow keys, and can be left.
+// A user without a mouse: every control of every page is reached by Tab and the arrow keys, every bar by
+// Ctrl+F6, and all of them can be left.
 #include "AccessibleText.h"
 #include "GalleryScene.h"
+#include "resource.h"
+
+#include <testkit/GuiThread.h>
+
+#include <ovoui/toolbar/VantorToolBar.h>
 
 #include <gtest/gtest.h>
 
@@ -13,6 +19,7 @@ namespace
 {
 
 constexpr int kMostStops = 80; // of the frame with its largest page
+constexpr int kOnceRound = 16; // more than a bar has buttons
 
 std::wstring classOf(HWND window)
 {
@@ -63,6 +70,27 @@ bool isAt(HWND control, HWND focus)
     return focus == control || ::IsChild(control, focus);
 }
 
+/// The children of a bar that take input, at any depth.
+std::vector<HWND> controlsOf(HWND bar)
+{
+    std::vector<HWND> found;
+    for (HWND child = ::GetWindow(bar, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))
+        if (takesInput(child))
+            found.push_back(child);
+    return found;
+}
+
+/// The buttons of a bar that can be used.
+std::set<LRESULT> usableButtons(CToolBar& bar)
+{
+    std::set<LRESULT> usable;
+    TBBUTTON button{};
+    for (int i = 0; bar.GetToolBarCtrl().GetButton(i, &button); ++i)
+        if (!(button.fsStyle & BTNS_SEP) && (button.fsState & TBSTATE_ENABLED))
+            usable.insert(i);
+    return usable;
+}
+
 class KeyboardWalk : public ::testing::Test
 {
 protected:
@@ -96,6 +124,51 @@ protected:
         return reached;
     }
 
+    void nextBar() { user.holding(VK_CONTROL).key(VK_F6); }
+
+    /// The bars of a page and of the frame that can be seen, the palette among them.
+    std::vector<CControlBar*> openWithBars(const wchar_t* page)
+    {
+        scene.open(page);
+        scene.frame().ShowControlBar(&scene.frame().palette(), TRUE, FALSE);
+        scene.frame().pageList().SetFocus();
+        GuiThread::settle(); // which buttons can be used is looked at in idle time
+        std::vector<CControlBar*> bars = scene.frame().bars();
+        std::erase_if(bars, [](CControlBar* bar) { return !bar->IsVisible(); });
+        return bars;
+    }
+
+    void walkButtons(CVantorToolBar& bar)
+    {
+        CRect first;
+        CRect second;
+        bar.GetItemRect(0, &first);
+        bar.GetItemRect(1, &second);
+        const WORD onwards = first.left == second.left ? VK_DOWN : VK_RIGHT;
+        std::set<LRESULT> reached;
+        for (int i = 0; i < kOnceRound; ++i) {
+            reached.insert(::SendMessageW(bar, TB_GETHOTITEM, 0, 0));
+            user.key(onwards);
+        }
+        for (const LRESULT button : usableButtons(bar))
+            EXPECT_TRUE(reached.contains(button))
+                << "button " << button << " among " << ::testing::PrintToString(reached);
+    }
+
+    /// Tab leads from control to control, and stays in the bar.
+    void walkControls(CControlBar& bar)
+    {
+        const std::vector<HWND> controls = controlsOf(bar);
+        std::set<HWND> reached;
+        for (std::size_t i = 0; i < controls.size(); ++i) {
+            EXPECT_TRUE(isAt(bar, ::GetFocus())) << nameOf(::GetFocus());
+            reached.insert(::GetFocus());
+            user.key(VK_TAB);
+        }
+        for (const HWND control : controls)
+            EXPECT_TRUE(reached.contains(control)) << "not reached: " << nameOf(control);
+    }
+
     std::string nameOf(HWND window)
     {
         return ::testing::PrintToString(readAloudAlone(window)) + " (" +
@@ -126,4 +199,73 @@ TEST_F(KeyboardWalk, TabAndArrowsReachEveryControlAndLeaveIt)
             }
         }
     }
+}
+
+TEST_F(KeyboardWalk, CtrlF6LeadsThroughAllBarsAndBack)
+{
+    const struct
+    {
+        const wchar_t* page;
+        std::size_t bars;
+    } pages[] = {{L"toolbars", 5}, {L"docking", 6}, {L"tree", 2}};
+    for (const auto& [page, count] : pages) {
+        SCOPED_TRACE(::testing::PrintToString(std::wstring(page)));
+        const std::vector<CControlBar*> bars = openWithBars(page);
+        ASSERT_EQ(bars.size(), count);
+        for (CControlBar* const bar : bars) {
+            nextBar();
+            ASSERT_TRUE(isAt(*bar, ::GetFocus())) << nameOf(::GetFocus()) << " instead of " << nameOf(*bar);
+            if (auto* const buttons = dynamic_cast<CVantorToolBar*>(bar))
+                walkButtons(*buttons);
+            else
+                walkControls(*bar);
+        }
+        nextBar();
+        EXPECT_EQ(::GetFocus(), scene.frame().pageList().m_hWnd);
+    }
+}
+
+TEST_F(KeyboardWalk, TabLeadsIntoTheControlsOfABar)
+{
+    for (CControlBar* const bar : openWithBars(L"toolbars")) {
+        auto* const buttons = dynamic_cast<CVantorToolBar*>(bar);
+        if (!buttons || controlsOf(*bar).empty())
+            continue;
+        for (const WORD modifier : {WORD{0}, WORD{VK_SHIFT}}) {
+            ASSERT_TRUE(buttons->FocusButtons());
+            modifier ? user.holding(modifier).key(VK_TAB) : user.key(VK_TAB);
+            EXPECT_TRUE(isAt(modifier ? controlsOf(*bar).back() : controlsOf(*bar).front(), ::GetFocus()))
+                << nameOf(::GetFocus());
+        }
+    }
+}
+
+TEST_F(KeyboardWalk, EscapeLeadsBackFromEveryBar)
+{
+    for (const wchar_t* const page : {L"toolbars", L"docking"}) {
+        const std::size_t count = openWithBars(page).size();
+        for (std::size_t steps = 1; steps <= count; ++steps) {
+            for (std::size_t i = 0; i < steps; ++i)
+                nextBar();
+            ASSERT_NE(::GetFocus(), scene.frame().pageList().m_hWnd);
+            user.key(VK_ESCAPE);
+            EXPECT_EQ(::GetFocus(), scene.frame().pageList().m_hWnd)
+                << "bar " << steps << " of " << ::testing::PrintToString(std::wstring(page));
+        }
+    }
+}
+
+TEST_F(KeyboardWalk, LettersLeadToTheControlsOfThePalette)
+{
+    openWithBars(L"toolbars");
+    FramePalette& palette = scene.frame().palette();
+    nextBar();
+    nextBar();
+    ASSERT_TRUE(isAt(palette, ::GetFocus()));
+    user.holding(VK_MENU).key('H');
+    EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_FRAME_LOG_HEIGHT);
+    user.holding(VK_MENU).key('C');
+    EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_FRAME_HUE);
+    user.holding(VK_MENU).key('J');
+    EXPECT_FALSE(isAt(palette, ::GetFocus())) << "a letter of the frame's";
 }

@@ -2,6 +2,7 @@
 // tells it.
 #include "Clipping.h"
 #include "GalleryScene.h"
+#include "Poses.h"
 
 #include "Resolution.h"
 #include "resource.h"
@@ -14,6 +15,7 @@
 
 #include <cstdlib>
 #include <map>
+#include <set>
 #include <string_view>
 
 using namespace ovo::testkit;
@@ -30,6 +32,33 @@ constexpr double kGrowth = static_cast<double>(kOther) / kUsual;
 bool isForOneResolution(const PageEntry& entry)
 {
     return std::wstring_view(entry.name) == L"toolbars";
+}
+
+std::wstring classOf(HWND window)
+{
+    wchar_t name[64]{};
+    ::GetClassNameW(window, name, 64);
+    return name;
+}
+
+bool hasCaption(HWND window)
+{
+    return (::GetWindowLongW(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION;
+}
+
+/// Popups that are open beside the gallery, its floating bars and its dialogs.
+std::vector<std::wstring> openPopups()
+{
+    std::vector<std::wstring> found;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM result) -> BOOL {
+            if (::IsWindowVisible(window) && !hasCaption(window))
+                reinterpret_cast<std::vector<std::wstring>*>(result)->push_back(classOf(window));
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&found));
+    return found;
 }
 
 class GalleryMonitor : public ::testing::Test
@@ -129,4 +158,47 @@ TEST_F(GalleryMonitor, ThePageThatWasOpenIsOpen)
     scene.open(L"lists");
     moveTo(kOther);
     EXPECT_EQ(std::wstring(scene.frame().openedPage()->name), L"lists");
+}
+
+TEST_F(GalleryMonitor, APageThatIsOpenFollows)
+{
+    for (const PageEntry& entry : pageTable()) {
+        scene.frame().openPage(entry);
+        moveTo(kOther);
+        EXPECT_EQ(dotsPerInch(scene.page()), kOther);
+        if (!isForOneResolution(entry)) {
+            EXPECT_EQ(linesOf(clippingProblems(scene.frame())), "")
+                << ::testing::PrintToString(std::wstring(entry.name));
+        }
+        moveTo(kUsual);
+        EXPECT_EQ(linesOf(clippingProblems(scene.frame())), "")
+            << ::testing::PrintToString(std::wstring(entry.name));
+    }
+}
+
+/// A flyout, a list, sliders, a palette and a label's editor close, and a dialog stays usable.
+TEST_F(GalleryMonitor, WhatIsOpenBesideThePageIsLeftInOrder)
+{
+    const std::set<std::wstring> poses{L"toolbars/flyout",      L"combo/open",  L"sliders/linear",
+                                       L"colourpicker/button",  L"tree/label",  L"messagebox/extended-1",
+                                       L"colourpicker/palette", L"sysinfo/list"};
+    std::set<std::wstring> closed;
+    const auto look = [&](HWND window) {
+        for (const std::wstring& popup : openPopups())
+            closed.insert(popup);
+        const bool stays = hasCaption(window); // the slider's popup is a dialog, too
+        moveTo(kOther);
+        Problems problems;
+        for (const std::wstring& popup : openPopups())
+            problems.push_back(popup + L" is still open");
+        if (stays && !::IsWindowVisible(window))
+            problems.push_back(L"the window is gone");
+        moveTo(kUsual);
+        return problems;
+    };
+    const PosesSeen seen =
+        lookAtPoses(scene, look, [&](const std::wstring& name) { return poses.contains(name); });
+    EXPECT_EQ(linesOf(seen.problems), "");
+    EXPECT_GE(closed.size(), 3u) << ::testing::PrintToString(closed);
+    EXPECT_EQ(seen.dialogs, 4u);
 }

@@ -1,6 +1,7 @@
 #include "Readability.h"
 
 #include <ovocor/Text.h>
+#include <ovoui/colour/ColourButton.h>
 #include <ovoui/colour/Contrast.h>
 #include <ovoui/images/AlphaImageButton.h>
 
@@ -69,11 +70,19 @@ Places whole(HWND window)
     return {{clientOf(window), textOf(window)}};
 }
 
-/// Without the edges, the rectangle of the focus and the mark. The text of a button with an image is its name
-/// alone.
+/// The text of an icon is its name.
+Places inStatic(HWND window)
+{
+    const LONG type = ::GetWindowLongW(window, GWL_STYLE) & SS_TYPEMASK;
+    return type == SS_ICON || type == SS_BITMAP ? Places{} : whole(window);
+}
+
+/// Without the edges, the rectangle of the focus and the mark. The text of a button with an image or a colour
+/// is its name alone.
 Places inButton(HWND window)
 {
-    if (dynamic_cast<CAlphaImageButton*>(CWnd::FromHandlePermanent(window)))
+    CWnd* const object = CWnd::FromHandlePermanent(window);
+    if (dynamic_cast<CAlphaImageButton*>(object) || dynamic_cast<CColourButton*>(object))
         return {};
     const LONG style = ::GetWindowLongW(window, GWL_STYLE);
     const LONG type = style & BS_TYPEMASK;
@@ -140,6 +149,14 @@ Places inHeader(HWND window)
 {
     Places places;
     for (int i = 0; i < countOf(window, HDM_GETITEMCOUNT); ++i) {
+        wchar_t text[64]{};
+        HDITEMW item{};
+        item.mask = HDI_TEXT;
+        item.pszText = text;
+        item.cchTextMax = 64;
+        ::SendMessageW(window, HDM_GETITEMW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
+        if (!*text)
+            continue;
         CRect rect = itemRect(window, HDM_GETITEMRECT, i);
         rect.DeflateRect(::GetSystemMetrics(SM_CXEDGE) * 2, ::GetSystemMetrics(SM_CYEDGE));
         places.push_back({rect, L"heading " + std::to_wstring(i)});
@@ -186,7 +203,7 @@ Places inList(HWND window)
 Places textsIn(HWND window)
 {
     static const std::map<std::wstring, std::function<Places(HWND)>> kinds{
-        {L"static", &whole},
+        {L"static", &inStatic},
         {L"edit", &whole},
         {L"button", &inButton},
         {L"combobox", &inCombo},
@@ -196,6 +213,8 @@ Places textsIn(HWND window)
         {L"sysheader32", &inHeader},
         {L"systreeview32", &inTree},
         {L"syslistview32", &inList},
+        {L"combolbox", &inListBox},
+        {L"tooltips_class32", &whole},
     };
     const auto kind = kinds.find(classOf(window));
     return kind == kinds.end() ? Places{} : kind->second(window);
@@ -206,20 +225,41 @@ std::wstring colourText(COLORREF colour)
     return stringPrintf(L"%d, %d, %d", GetRValue(colour), GetGValue(colour), GetBValue(colour));
 }
 
-/// The colours that the user has chosen for what is selected, whatever their contrast.
+/// The colours that the user has chosen for what is selected, whatever their contrast; the one behind the
+/// selection may be less frequent than that of the rest of an edit control.
 bool isSelection(const TextLook& look)
 {
-    return look.ground == ::GetSysColor(COLOR_HIGHLIGHT) && look.text == ::GetSysColor(COLOR_HIGHLIGHTTEXT);
+    const COLORREF selection = ::GetSysColor(COLOR_HIGHLIGHT);
+    return look.text == selection ||
+           (look.ground == selection && look.text == ::GetSysColor(COLOR_HIGHLIGHTTEXT));
+}
+
+/// Whether another window of the program is in front.
+bool isCovered(HWND window, const CRect& place)
+{
+    const HWND root = ::GetAncestor(window, GA_ROOT);
+    for (HWND above = ::GetWindow(root, GW_HWNDPREV); above; above = ::GetWindow(above, GW_HWNDPREV)) {
+        CRect rect;
+        ::GetWindowRect(above, &rect);
+        if (::IsWindowVisible(above) &&
+            ::GetWindowThreadProcessId(above, nullptr) == ::GetCurrentThreadId() &&
+            !(rect & place).IsRectEmpty())
+            return true;
+    }
+    return false;
 }
 
 Problems problemsAt(HWND window, const Picture& screen, const Place& place)
 {
     CRect rect = place.rect & clientOf(window);
     ::MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&rect), 2);
-    if (place.what.empty() || rect.IsRectEmpty())
+    if (place.what.empty() || rect.IsRectEmpty() || isCovered(window, rect))
         return {};
     const std::optional<TextLook> look = lookOf(screen, rect);
-    if (!look || look->ratio >= kLeast || isSelection(*look))
+    if (!look)
+        return {stringPrintf(L"%s %d, \"%s\": nothing is seen", classOf(window).c_str(),
+                             ::GetDlgCtrlID(window), place.what.c_str())};
+    if (look->ratio >= kLeast || isSelection(*look))
         return {};
     return {stringPrintf(L"%s %d, \"%s\": %s on %s has %.1f", classOf(window).c_str(), ::GetDlgCtrlID(window),
                          place.what.c_str(), colourText(look->text).c_str(), colourText(look->ground).c_str(),
@@ -266,5 +306,25 @@ Problems readabilityProblems(HWND parent)
     const Picture screen = Picture::ofScreen();
     Problems problems;
     collect(parent, screen, problems);
+    return problems;
+}
+
+Problems readabilityProblemsWithPopups(HWND parent)
+{
+    struct Found
+    {
+        HWND parent;
+        std::vector<HWND> windows;
+    } found{parent, {parent}};
+    const auto collectPopup = [](HWND window, LPARAM result) -> BOOL {
+        auto& found = *reinterpret_cast<Found*>(result);
+        if (window != found.parent && ::IsWindowVisible(window))
+            found.windows.push_back(window);
+        return TRUE;
+    };
+    ::EnumThreadWindows(::GetCurrentThreadId(), collectPopup, reinterpret_cast<LPARAM>(&found));
+    Problems problems;
+    for (const HWND window : found.windows)
+        std::ranges::copy(readabilityProblems(window), std::back_inserter(problems));
     return problems;
 }

@@ -22,5 +22,9 @@ struct TextLook
 std::optional<TextLook> lookOf(const ovo::testkit::Picture& picture, const CRect& part);
 
 /// Texts of enabled controls, shown inside `parent` at any depth, with a ratio below 4.5: labels, buttons,
-/// edit controls, headings and rows of lists, items of trees, tabs and panes.
+/// edit controls, headings and rows of lists, items of trees, tabs, panes and tips. What lies below another
+/// window of the program is left out.
 Problems readabilityProblems(HWND parent);
+
+/// The same of `parent` and of the popups of its thread: tips, lists of combo boxes, floating bars.
+Problems readabilityProblemsWithPopups(HWND parent);
