@@ -1,4 +1,5 @@
 // Modules that were built with known contents, compared with their lines in the dialog.
+#include "FileKinds.h"
 #include "ShownModules.h"
 #include <testkit/TemporaryFiles.h>
 
@@ -50,54 +51,29 @@ std::wstring copyLinkedAt(DWORD time, const TemporaryFiles& files)
     return path;
 }
 
+/// The test's module with a record of this kind.
+std::wstring moduleOf(const FileKind& kind)
+{
+    return stringPrintf(L"sysinfo_kind_%u_%u.dll", kind.type, kind.subtype);
+}
+
 } // namespace
 
 TEST(ModuleRecord, EveryFileTypeAndSubtypeIsNamedInItsLine)
 {
-    const struct
-    {
-        int type;
-        int subtype;
-        const wchar_t* words;
-    } rows[] = {{0, 0, L"unknown"},
-                {0, 7, L"unknown"},
-                {1, 0, L"application"},
-                {2, 0, L"DLL"},
-                {3, 0, L"unknown driver"},
-                {3, 1, L"printer driver"},
-                {3, 2, L"keyboard driver"},
-                {3, 3, L"language driver"},
-                {3, 4, L"display driver"},
-                {3, 5, L"mouse driver"},
-                {3, 6, L"network driver"},
-                {3, 7, L"system driver"},
-                {3, 8, L"installable driver"},
-                {3, 9, L"sound driver"},
-                {3, 10, L"communications driver"},
-                {3, 11, L"0xb device driver"},
-                {4, 0, L"unknown font"},
-                {4, 1, L"raster font"},
-                {4, 2, L"vector font"},
-                {4, 3, L"truetype font"},
-                {4, 4, L"0x4 font"},
-                {5, 0, L"virtual device"},
-                {6, 0, L"0x6/0x0"},
-                {6, 1, L"0x6/0x1"},
-                {7, 0, L"static library"}};
     std::vector<std::unique_ptr<Library>> modules;
-    for (const auto& row : rows)
-        modules.push_back(
-            std::make_unique<Library>(stringPrintf(L"sysinfo_kind_%d_%d.dll", row.type, row.subtype)));
+    for (const FileKind& kind : kFileKinds)
+        modules.push_back(std::make_unique<Library>(moduleOf(kind)));
     Shown shown;
     for (std::size_t i = 0; i < modules.size(); ++i) {
-        const auto& row = rows[i];
-        const std::wstring name = stringPrintf(L"sysinfo_kind_%d_%d.dll", row.type, row.subtype);
+        const FileKind& kind = kFileKinds[i];
+        const std::wstring name = moduleOf(kind);
         const IMAGE_NT_HEADERS& headers = headersOf(modules[i]->get());
         const std::wstring expected = stringPrintf(
-            L"%s\t%s\t0x%x\t%s\t%d.%d.3.4\t%d.%d.7.8\t%s\t%s\t%s\t%s\t%s", name.c_str(),
+            L"%s\t%s\t0x%x\t%s\t%u.%u.3.4\t%u.%u.7.8\t%s\t%s\t%s\t%s\t%s", name.c_str(),
             modules[i]->address().c_str(), static_cast<unsigned>(headers.OptionalHeader.SizeOfImage),
-            localTime(headers.FileHeader.TimeDateStamp).c_str(), row.type, row.subtype, row.subtype, row.type,
-            row.words, L"pre-release", (L"NT/2000" + listSeparator() + L"win32").c_str(),
+            localTime(headers.FileHeader.TimeDateStamp).c_str(), kind.type, kind.subtype, kind.subtype,
+            kind.type, kind.words, L"pre-release", (L"NT/2000" + listSeparator() + L"win32").c_str(),
             modules[i]->path().c_str(), L"Made for tests");
         EXPECT_EQ(lowercase(shown.line(name)), lowercase(expected));
     }

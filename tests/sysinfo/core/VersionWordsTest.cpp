@@ -1,3 +1,5 @@
+#include "../FileKinds.h"
+
 #include <ovoui/sysinfo/core/VersionWords.h>
 
 #include <gtest/gtest.h>
@@ -95,37 +97,8 @@ TEST(VersionWords, EverySystemHasItsWord)
 
 TEST(VersionWords, EveryTypeHasItsWord)
 {
-    const struct
-    {
-        std::uint32_t type;
-        std::uint32_t subtype;
-        const wchar_t* words;
-    } rows[] = {{0, 0, L"unknown"},
-                {0, 7, L"unknown"},
-                {1, 0, L"application"},
-                {2, 0, L"DLL"},
-                {5, 0, L"virtual device"},
-                {7, 0, L"static library"},
-                {3, 0, L"unknown driver"},
-                {3, 1, L"printer driver"},
-                {3, 2, L"keyboard driver"},
-                {3, 3, L"language driver"},
-                {3, 4, L"display driver"},
-                {3, 5, L"mouse driver"},
-                {3, 6, L"network driver"},
-                {3, 7, L"system driver"},
-                {3, 8, L"installable driver"},
-                {3, 9, L"sound driver"},
-                {3, 10, L"communications driver"},
-                {3, 11, L"0xb device driver"},
-                {4, 0, L"unknown font"},
-                {4, 1, L"raster font"},
-                {4, 2, L"vector font"},
-                {4, 3, L"truetype font"},
-                {4, 4, L"0x4 font"},
-                {6, 0, L"0x6/0x0"},
-                {8, 0x1234, L"0x8/0x1234"},
-                {0xFFFFFFFF, 0xFFFFFFFF, L"0xffffffff/0xffffffff"}};
-    for (const auto& [type, subtype, words] : rows)
+    for (const auto& [type, subtype, words] : kFileKinds)
         EXPECT_EQ(typeWords(type, subtype), words) << type << " " << subtype;
+    EXPECT_EQ(typeWords(8, 0x1234), L"0x8/0x1234");
+    EXPECT_EQ(typeWords(0xFFFFFFFF, 0xFFFFFFFF), L"0xffffffff/0xffffffff");
 }
