@@ -4,7 +4,7 @@
 //
 //   OVO_FAULT_LIVES=100 ./test_soak.exe --gtest_filter='*Faults*'     in up to so many lives, 3 by default
 #include "Imports.h"
-#include "Lives.h"
+#include "Uses.h"
 
 #include <testkit/GdiCounter.h>
 #include <testkit/GuiThread.h>
@@ -140,6 +140,10 @@ protected:
         std::printf("%zu functions have failed:", s_failed.size());
         for (const auto& [function, times] : s_failed)
             std::printf(" %s", function.c_str());
+        std::printf("\nnever called:");
+        for (const Import& import : importsOf(::GetModuleHandleW(L"ovoui.dll")))
+            if (canFail(import) && !s_failed.contains(import.function))
+                std::printf(" %s", import.function.c_str());
         std::printf("\n");
         EXPECT_GT(s_failed.size(), 40u);
     }
@@ -202,6 +206,8 @@ TEST_P(Faults, NoCallThatFailsDoesHarm)
 }
 
 INSTANTIATE_TEST_SUITE_P(Controls, Faults, ::testing::ValuesIn(lives()),
+                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Uses, Faults, ::testing::ValuesIn(uses()),
                          [](const auto& info) { return std::string(info.param.name); });
 
 TEST(FaultTable, FindsWhatTheLibraryImports)

@@ -66,6 +66,9 @@ TEST_P(LifeCycle, LeavesNothingBehind)
 INSTANTIATE_TEST_SUITE_P(Controls, LifeCycle, ::testing::ValuesIn(lives()),
                          [](const auto& info) { return std::string(info.param.name); });
 
+INSTANTIATE_TEST_SUITE_P(FileDialogs, LifeCycle, ::testing::ValuesIn(livesOfFileDialogs()),
+                         [](const auto& info) { return std::string(info.param.name); });
+
 TEST(LifeCycleCounter, SeesABlockThatStays)
 {
     const HeapCounter blocks;

@@ -1,11 +1,16 @@
 #include "Lives.h"
 
+#include "LeafTree.h"
+
 #include <support/NextDialog.h>
 
 #include <ovoui/ovoui.h>
 #include <ovouires/resource.h>
 
 #include <gallery/resource.h>
+
+#include <afxdlgs.h>
+#include <shlobj.h>
 
 #include <ostream>
 
@@ -29,26 +34,6 @@ void clickAndType(CWnd& wnd, CPoint point = {5, 5})
     wnd.SendMessage(WM_KEYDOWN, VK_DOWN, 1);
     wnd.SendMessage(WM_KEYUP, VK_DOWN, 0xC0000001);
 }
-
-class Leaf : public MultiTreeCtrl::Node
-{
-public:
-    Leaf() { children = 1; }
-    std::wstring text(const MultiTreeCtrl&) const override { return L"leaf"; }
-    int closedImage() const override { return 0; }
-    int openImage() const override { return 0; }
-    void activate(MultiTreeCtrl&) override {}
-    bool expand(MultiTreeCtrl& tree) override
-    {
-        return (new Leaf)->insert(tree, hTreeItem(), TVI_LAST) != nullptr;
-    }
-};
-
-class LeafTree : public MultiTreeCtrl
-{
-    void reportError(const wchar_t*) override {}
-    bool isCommandDisabled(unsigned) override { return false; }
-};
 
 void liveTree(CWnd& parent)
 {
@@ -97,6 +82,19 @@ void liveCombo(CWnd& parent)
     paint(combo);
 }
 
+/// Opens the flyout of the second button, and closes it without a choice.
+void dragFromFirstToSecondButton(CVantorToolBar& bar)
+{
+    const auto middleOf = [&](int button) {
+        CRect rect;
+        bar.GetItemRect(button, &rect);
+        return MAKELPARAM(rect.CenterPoint().x, rect.CenterPoint().y);
+    };
+    bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, middleOf(0));
+    bar.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, middleOf(1));
+    bar.SendMessage(WM_LBUTTONUP, 0, middleOf(1));
+}
+
 void liveToolBar(CWnd& parent)
 {
     CVantorToolBar bar;
@@ -108,9 +106,11 @@ void liveToolBar(CWnd& parent)
     for (int i = 0; i < 3; ++i, ++button.idCommand)
         bar.InsertButton(i, &button);
     bar.AttachBar(0, 16, {100, 101}, {}, {}, {Quark(L"one"), Quark(L"two")}, false, false);
+    bar.AttachBar(1, 16, {101, 102}, {}, {}, {Quark(L"two"), Quark(L"three")}, false, false);
     bar.ShowFlyoutMarks(true);
     bar.GetToolBarCtrl().AutoSize();
     paint(bar);
+    dragFromFirstToSecondButton(bar);
     bar.DestroyWindow();
 }
 
@@ -240,6 +240,40 @@ void livePalette(CWnd& parent)
     dialog.DoModal();
 }
 
+template <bool newStyle>
+void liveFileDialog(CWnd& parent)
+{
+    COVOFileDialog dialog(TRUE, L".txt", nullptr, OFN_NOCHANGEDIR, L"Text|*.txt||", &parent, newStyle);
+    const NextDialogAnswered answered(IDCANCEL);
+    dialog.DoModal();
+}
+
+/// That of the system, as it is used without the library.
+template <bool newStyle>
+void livePlainFileDialog(CWnd& parent)
+{
+    CFileDialog dialog(TRUE, L".txt", nullptr, OFN_NOCHANGEDIR, L"Text|*.txt||", &parent, 0, newStyle);
+    const NextDialogAnswered answered(IDCANCEL);
+    dialog.DoModal();
+}
+
+void liveFolderDialog(CWnd& parent)
+{
+    wchar_t folder[MAX_PATH] = L"C:\\windows";
+    const NextDialogAnswered answered(IDCANCEL);
+    BrowseForDir(&parent, L"Where to?", folder);
+}
+
+void livePlainFolderDialog(CWnd& parent)
+{
+    const NextDialogAnswered answered(IDCANCEL);
+    BROWSEINFOW browse{};
+    browse.hwndOwner = parent;
+    browse.lpszTitle = L"Where to?";
+    browse.ulFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE;
+    ::SHBrowseForFolderW(&browse);
+}
+
 void liveToolWindow(CWnd&)
 {
     auto* const frame = new CFrameWnd; // deletes itself with its window
@@ -268,10 +302,10 @@ void PrintTo(const Life& life, std::ostream* out)
 const std::vector<Life>& lives()
 {
     static const std::vector<Life> all{
-        Life{"Tree", 4, liveTree},
+        Life{"Tree", 2, liveTree},
         Life{"List", 5, liveList},
         Life{"Combo", 5, liveCombo},
-        Life{"ToolBar", 2, liveToolBar},
+        Life{"ToolBar", 1, liveToolBar},
         Life{"RoundSlider", 1,
              [](CWnd& parent) {
                  CRoundSlider slider(false);
@@ -289,8 +323,8 @@ const std::vector<Life>& lives()
              }},
         Life{"SliderButton", 5, liveSliderButton},
         Life{"Colours", 5, liveColours},
-        Life{"ShadedTabs", 4, liveTabs},
-        Life{"Images", 5, liveImages},
+        Life{"ShadedTabs", 2, liveTabs},
+        Life{"Images", 2, liveImages},
         Life{"Picker", 20, livePicker, livePlainDialog<IDD_COLOUR_PICKER>},
         Life{"Palette", 100, livePalette, livePlainDialog<IDD_COLOUR_PALETTE>},
         Life{"ToolWindow", 40, liveToolWindow, livePlainDialog<IDD_FRAME_PALETTE>},
@@ -298,5 +332,14 @@ const std::vector<Life>& lives()
         Life{"SystemInfo", 100, liveDialog<CSystemInfoDlg>},
         Life{"ProgressBox", 20, liveProgress},
         Life{"MessageBox", 20, liveMessageBox}};
+    return all;
+}
+
+const std::vector<Life>& livesOfFileDialogs()
+{
+    static const std::vector<Life> all{
+        Life{"FileDialog", 100, liveFileDialog<true>, livePlainFileDialog<true>},
+        Life{"ClassicFileDialog", 100, liveFileDialog<false>, livePlainFileDialog<false>},
+        Life{"FolderDialog", 100, liveFolderDialog, livePlainFolderDialog}};
     return all;
 }

@@ -19,3 +19,6 @@ struct Life
 void PrintTo(const Life& life, std::ostream* out);
 
 const std::vector<Life>& lives();
+
+/// Those that show dialogs of the system, which take long.
+const std::vector<Life>& livesOfFileDialogs();
