@@ -68,6 +68,10 @@ TEST(FindRules, BackspaceTakesTheLastCharacterBack)
     EXPECT_EQ(back(kTyping), (FindEffect{true, Search::FromHere, {L"a", false}}));
     EXPECT_EQ(back({L"a", false}), (FindEffect{true, Search::None, kNothing}));
     EXPECT_EQ(back({L"a\xD83C\xDF31", false}), (FindEffect{true, Search::FromHere, {L"a", false}}));
+    for (const wchar_t high : {0xD800, 0xDBFF})
+        for (const wchar_t low : {0xDC00, 0xDFFF})
+            EXPECT_EQ(back({std::wstring{L'a', high, low}, false}),
+                      (FindEffect{true, Search::FromHere, {L"a", false}}));
     EXPECT_EQ(back({L"a\xDF31", false}), (FindEffect{true, Search::FromHere, {L"a", false}}));
     EXPECT_EQ(back(kOver), (FindEffect{false, Search::None, kOver}));
     EXPECT_EQ(back(kNothing), (FindEffect{false, Search::None, kNothing}));

@@ -218,6 +218,21 @@ TEST(CsvParser, KeepsARecordWhileNothingElseIsAsked)
     EXPECT_TRUE((*record)[1].supplied);
 }
 
+TEST(CsvParser, TakesMoreTextBehindARecordThatWasJustRead)
+{
+    CSVParser parser(L"A");
+    parser.feed(L"1\n2\n");
+    const auto next = [&] {
+        const CSVRecord* const record = parser.next();
+        return record ? std::wstring(record->fields[0].text) : L"none";
+    };
+    EXPECT_EQ(next(), L"1");
+    parser.feed(L"3\n");
+    EXPECT_EQ(next(), L"2");
+    EXPECT_EQ(next(), L"3");
+    EXPECT_EQ(next(), L"none");
+}
+
 TEST(CsvParser, SaysOnWhichLineARecordBegins)
 {
     CSVParser parser(L"A,B");
@@ -245,6 +260,26 @@ TEST(CsvParser, ReadsLinesThatAreFedOneByOne)
     parser.finish();
     take(parser, records);
     EXPECT_EQ(records, (Records{{L"1", L"two\nlines"}, {L"3", L"4"}}));
+}
+
+TEST(CsvParser, LetsGoOfTheTextThatHasBeenRead)
+{
+    // Records stand in the text that is kept; it would grow with every row otherwise, and they would move on.
+    CSVParser parser(L"A");
+    const wchar_t* lowest = nullptr;
+    const wchar_t* highest = nullptr;
+    for (int row = 0; row < 10'000; ++row) {
+        parser.feed(L"twenty characters...\n");
+        const CSVRecord* const record = parser.next();
+        ASSERT_NE(record, nullptr);
+        const wchar_t* const at = record->fields[0].text.data();
+        if (row >= 4) { // the buffer has its size by then
+            lowest = lowest ? std::min(lowest, at) : at;
+            highest = highest ? std::max(highest, at) : at;
+        }
+        EXPECT_EQ(parser.next(), nullptr);
+    }
+    EXPECT_LT(highest - lowest, 100);
 }
 
 // What is written by the rules is read back, whatever it is and however it is cut.

@@ -76,8 +76,17 @@ TEST(GetDirectory, GivesTheDirectoryPart)
              {L"\\\\?\\C:\\oak", L"\\\\?\\C:\\"},
              {L"\\\\?\\UNC\\server\\share\\oak", L"\\\\?\\UNC\\server\\share"},
              {L"\\\\.\\pipe\\oak", L"\\\\.\\pipe"},
+             {L"\\\\?\\\\oak", L"\\\\?\\"},
          })
         EXPECT_EQ(getDirectory(row.path), row.directory) << testing::PrintToString(std::wstring(row.path));
+}
+
+TEST(GetDirectory, DrivesAreTheLettersFromAToZ)
+{
+    for (const wchar_t letter : {L'A', L'Z', L'a', L'z'})
+        EXPECT_EQ(getDirectory(std::wstring{letter} + L":oak"), (std::wstring{letter, L':'}));
+    for (const wchar_t other : {L'@', L'[', L'`', L'{', L'1'})
+        EXPECT_EQ(getDirectory(std::wstring{other} + L":oak"), std::wstring{other} + L":oak");
 }
 
 TEST(GetDirectory, GivesBackAPathWithoutParent)

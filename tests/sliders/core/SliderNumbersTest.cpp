@@ -75,6 +75,8 @@ TEST(SliderNumbers, AStepChangesTheNumberThatIsSeen)
     EXPECT_EQ(coarse.stepped(L"5.0", -0.1), L"4.9");
     EXPECT_EQ(coarse.stepped(L"10.0", 0.1), L"10.0");
     EXPECT_EQ(real(Mapping::Linear, 10, 0, 1).stepped(L"5.0", 0.1), L"4.9") << "a range that falls";
+    EXPECT_EQ(real(Mapping::Linear, 0, 10, 0).stepped(L"5", 1), L"6") << "a tenth would not be seen";
+    EXPECT_EQ(real(Mapping::Linear, 0, 10, 0).stepped(L"5", -1), L"4");
 }
 
 TEST(SliderNumbers, StepsOfEveryMappingGoTheRightWay)
