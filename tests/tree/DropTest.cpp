@@ -139,6 +139,19 @@ TEST(TreeDrop, ANodeThatTakesNothingShowsNoDrop)
     EXPECT_EQ(scene.dropped, "nothing");
 }
 
+TEST(TreeDrop, ANodeThatLetsNothingGoBesideItKeepsTheParentOut)
+{
+    DropScene scene({"source", "a"});
+    scene.takeAtTheTop();
+    scene.node("a").draggingInto = [](COleDataObject&, DWORD&, bool&, int) -> DWORD {
+        return DROPEFFECT_NONE; // without a word about its siblings
+    };
+    scene.dragTo(scene.label("a"));
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+    EXPECT_EQ(scene.dropped, "nothing");
+    EXPECT_TRUE(scene.asked.empty());
+}
+
 TEST(TreeDrop, KeysChooseTheEffectAmongThoseAllowed)
 {
     DropScene scene({"source", "target"});
