@@ -47,6 +47,9 @@ TEST(ComboItemLooks, AColourForEachItem)
     for (const COLORREF colour : {kGreen, kRed})
         EXPECT_EQ(list.count(colour, 0, itemRect(scene, 2)), 0);
     EXPECT_EQ(list.count(kRed, 0, itemRect(scene, 0)), 0);
+    const CPoint corner = itemRect(scene, 0).TopLeft() + CSize(2, 2);
+    EXPECT_THAT(list.at(corner), IsColour(::GetSysColor(COLOR_GRAYTEXT))) << "the frame of the swatch";
+    EXPECT_THAT(list.at(corner + CSize(1, 1)), IsColour(kGreen));
 }
 
 TEST(ComboItemLooks, TransparencyOverSquares)

@@ -143,9 +143,11 @@ TEST_F(ListCopying, RowsThatTheParentSelectsWhenItHearsOfTheKeyAreCopied)
     scene.show();
     scene.list.SetFocus();
     select({1});
-    scene.parent.answer(static_cast<UINT>(LVN_KEYDOWN), [&](NMHDR*) -> LRESULT {
-        scene.list.SetItemState(1, 0, LVIS_SELECTED);
-        scene.list.SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);
+    scene.parent.answer(static_cast<UINT>(LVN_KEYDOWN), [&](NMHDR* header) -> LRESULT {
+        if (reinterpret_cast<const NMLVKEYDOWN*>(header)->wVKey == 'C') {
+            scene.list.SetItemState(1, 0, LVIS_SELECTED);
+            scene.list.SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);
+        }
         return 0;
     });
     Robot().holding(VK_CONTROL).key('C');
