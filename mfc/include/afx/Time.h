@@ -55,6 +55,9 @@ public:
     /// Local time; `month` and `day` count from 1. `daylight` is 0 for standard time, 1 for daylight saving
     /// time, -1 to let the system say.
     CTime(int year, int month, int day, int hour, int minute, int second, int daylight = -1);
+    /// Local time as MS-DOS packs it: days, months and years from 1980 in `dosDate`, two seconds, minutes and
+    /// hours in `dosTime`.
+    CTime(WORD dosDate, WORD dosTime, int daylight = -1);
     CTime(const SYSTEMTIME& time, int daylight = -1); ///< Local time.
     CTime(const FILETIME& time, int daylight = -1);   ///< Coordinated universal time.
 

@@ -38,6 +38,11 @@ public:
     /// A message of a menu or a dialog's loop: `code` is MSGF_...
     virtual BOOL ProcessMessageFilter(int code, LPMSG message);
 
+    /// Starts a thread that runs this object, as AfxBeginThread does with one that it makes. FALSE on
+    /// failure, and while a thread still runs it. With m_bAutoDelete FALSE the object can be started again
+    /// when that has ended.
+    BOOL CreateThread(DWORD flags = 0, UINT stackSize = 0, LPSECURITY_ATTRIBUTES security = nullptr);
+
     operator HANDLE() const { return m_hThread; }
     DWORD SuspendThread(); ///< The suspend count of before, 0xFFFFFFFF on failure.
     DWORD ResumeThread();  ///< Likewise. With m_bAutoDelete the object may be gone when this returns.

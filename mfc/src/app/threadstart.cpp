@@ -64,34 +64,52 @@ unsigned __stdcall threadMain(void* given) noexcept
     AfxEndThread(exitCode);
 }
 
-CWinThread* launch(std::unique_ptr<CWinThread> thread, AFX_THREADPROC procedure, LPVOID parameter,
-                   int priority, UINT stackSize, DWORD flags, LPSECURITY_ATTRIBUTES security)
+/// Whether a thread runs the object already, or is about to.
+bool isBusy(const CWinThread& thread)
 {
-    const auto start = std::make_shared<ThreadStart>(thread.get(), procedure, parameter);
+    return thread.m_hThread && ::WaitForSingleObject(thread.m_hThread, 0) == WAIT_TIMEOUT;
+}
+
+bool startThread(CWinThread& thread, AFX_THREADPROC procedure, LPVOID parameter, int priority, UINT stackSize,
+                 DWORD flags, LPSECURITY_ATTRIBUTES security)
+{
+    const auto start = std::make_shared<ThreadStart>(&thread, procedure, parameter);
     auto given = std::make_unique<std::shared_ptr<ThreadStart>>(start);
     unsigned id = 0;
     // Suspended, so that it finds the object complete.
     const auto handle = reinterpret_cast<HANDLE>(
         ::_beginthreadex(security, stackSize, &threadMain, given.get(), CREATE_SUSPENDED, &id));
     if (!handle)
-        return nullptr;
+        return false;
     given.release();
-    thread->m_hThread = handle;
-    thread->m_nThreadID = id;
+    if (thread.m_hThread)
+        ::CloseHandle(thread.m_hThread); // of a thread that has ended
+    thread.m_hThread = handle;
+    thread.m_nThreadID = id;
     const CWinThread* const parent = AfxGetThread();
     if (procedure && parent) {
-        thread->m_pMainWnd = parent->m_pMainWnd;
-        thread->m_pActiveWnd = parent->m_pActiveWnd;
+        thread.m_pMainWnd = parent->m_pMainWnd;
+        thread.m_pActiveWnd = parent->m_pActiveWnd;
     }
     if (priority != THREAD_PRIORITY_NORMAL)
         ::SetThreadPriority(handle, priority);
-    CWinThread* const started = thread.release(); // it deletes itself from now on
     if (flags & CREATE_SUSPENDED)
-        return started;
-    ::ResumeThread(handle);
+        return true;
+    ::ResumeThread(handle); // the object may be gone from now on
     if (!procedure)
         ::WaitForSingleObject(start->ready, INFINITE);
-    return started;
+    return true;
+}
+
+/// The object belongs to its thread once that has been started.
+CWinThread* launch(std::unique_ptr<CWinThread> thread, AFX_THREADPROC procedure, LPVOID parameter,
+                   int priority, UINT stackSize, DWORD flags, LPSECURITY_ATTRIBUTES security)
+{
+    CWinThread* const object = thread.release();
+    if (startThread(*object, procedure, parameter, priority, stackSize, flags, security))
+        return object;
+    delete object;
+    return nullptr;
 }
 
 } // namespace
@@ -113,6 +131,12 @@ CWinThread* AFXAPI AfxBeginThread(CRuntimeClass* threadClass, int priority, UINT
     object.release();
     return launch(std::unique_ptr<CWinThread>(thread), nullptr, nullptr, priority, stackSize, flags,
                   security);
+}
+
+BOOL CWinThread::CreateThread(DWORD flags, UINT stackSize, LPSECURITY_ATTRIBUTES security)
+{
+    return !isBusy(*this) &&
+           startThread(*this, nullptr, nullptr, THREAD_PRIORITY_NORMAL, stackSize, flags, security);
 }
 
 void AFXAPI AfxEndThread(UINT exitCode, BOOL deleteObject)

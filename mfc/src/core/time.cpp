@@ -101,6 +101,12 @@ CTime::CTime(int year, int month, int day, int hour, int minute, int second, int
 {
 }
 
+CTime::CTime(WORD dosDate, WORD dosTime, int daylight)
+    : CTime(1980 + (dosDate >> 9), dosDate >> 5 & 15, dosDate & 31, dosTime >> 11, dosTime >> 5 & 63,
+            2 * (dosTime & 31), daylight)
+{
+}
+
 CTime::CTime(const SYSTEMTIME& time, int daylight)
     : CTime(time.wYear, time.wMonth, time.wDay, time.wHour, time.wMinute, time.wSecond, daylight)
 {

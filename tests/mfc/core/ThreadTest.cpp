@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 #include <testkit/GuiThread.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/MemoryCounter.h>
 #include <testkit/TestApp.h>
 
@@ -343,6 +344,53 @@ TEST_F(ThreadTest, OnlyClassesThatCanBeMadeByNameCanBeStarted)
 {
     EXPECT_EQ(AfxBeginThread(RUNTIME_CLASS(CWinThread)), nullptr) << "not by name";
     EXPECT_EQ(AfxBeginThread(RUNTIME_CLASS(CFrameWnd)), nullptr) << "no thread";
+}
+
+// An object that its owner starts
+
+TEST_F(ThreadTest, AnObjectRunsOneThreadAfterAnother)
+{
+    UiThread::s_hasWindow = false;
+    UiThread reused;
+    reused.m_bAutoDelete = FALSE;
+    for (const DWORD code : {3u, 4u}) {
+        ASSERT_TRUE(reused.CreateThread());
+        const HANDLE handle = own(reused.m_hThread);
+        EXPECT_FALSE(reused.CreateThread()) << "one at a time";
+        EXPECT_TRUE(reused.PostThreadMessage(kThreadQuit, code, 0));
+        EXPECT_EQ(exitCodeOf(handle), code);
+    }
+    EXPECT_EQ(UiThread::s_exits, 2);
+    EXPECT_EQ(UiThread::s_alive, 1) << "the object stays with its owner";
+}
+
+TEST_F(ThreadTest, AnObjectGoesWithTheThreadThatItsOwnerStarted)
+{
+    UiThread::s_hasWindow = false;
+    auto* object = new UiThread;
+    ASSERT_TRUE(object->CreateThread(CREATE_SUSPENDED));
+    const HANDLE handle = own(object->m_hThread);
+    EXPECT_EQ(object->SuspendThread(), 1u) << "it has not begun";
+    object->ResumeThread();
+    EXPECT_EQ(UiThread::s_exits, 0);
+    ::ResumeThread(handle);
+    ASSERT_TRUE(GuiThread::runUntil([] { return UiThread::s_idle > 0; }));
+    EXPECT_TRUE(object->PostThreadMessage(kThreadQuit, 0, 0));
+    exitCodeOf(handle);
+    EXPECT_EQ(UiThread::s_alive, 0);
+}
+
+TEST_F(ThreadTest, AThreadThatIsNotMadeLeavesTheObjectToItsOwner)
+{
+    UiThread object;
+    using Begin =
+        std::uintptr_t (*)(void*, unsigned, unsigned(__stdcall*)(void*), void*, unsigned, unsigned*);
+    const Begin refuse = [](auto...) -> std::uintptr_t { return 0; };
+    const ImportPatch refusing(L"ovomfc.dll", "_beginthreadex", reinterpret_cast<void*>(refuse));
+    EXPECT_FALSE(object.CreateThread());
+    EXPECT_EQ(object.m_hThread, nullptr);
+    EXPECT_EQ(AfxBeginThread(RUNTIME_CLASS(UiThread)), nullptr);
+    EXPECT_EQ(UiThread::s_alive, 1) << "what was made for the thread goes";
 }
 
 // What belongs to a thread

@@ -32,6 +32,20 @@ TEST(Time, OfAFileCountsFrom1970)
     EXPECT_EQ(begin.FormatGmt(L"%Y-%m-%d %H:%M:%S"), L"1970-01-01 00:00:00");
 }
 
+TEST(Time, OfMsDosIsUnpacked)
+{
+    constexpr WORD date = (2009 - 1980) << 9 | 12 << 5 | 31;
+    constexpr WORD time = 23 << 11 | 59 << 5 | 58 / 2;
+    EXPECT_EQ(CTime(date, time), CTime(2009, 12, 31, 23, 59, 58));
+    WORD systemDate = 0;
+    WORD systemTime = 0;
+    SYSTEMTIME parts{2044, 2, 0, 29, 0, 1, 2, 0};
+    FILETIME packed;
+    ASSERT_TRUE(::SystemTimeToFileTime(&parts, &packed));
+    ASSERT_TRUE(::FileTimeToDosDateTime(&packed, &systemDate, &systemTime));
+    EXPECT_EQ(CTime(systemDate, systemTime), CTime(2044, 2, 29, 0, 1, 2)) << "what the system packs";
+}
+
 TEST(Time, IsFormattedAtAnyLength)
 {
     const CTime time(2009, 12, 24, 8, 5, 0);
