@@ -14,7 +14,7 @@ namespace
 
 constexpr UINT kStep = WM_APP + 1;
 constexpr UINT_PTR kPause = 1;
-constexpr UINT kPauseTime = 15; // milliseconds, in which timers and painting get their turn
+constexpr UINT kPauseTime = 10; // milliseconds, in which timers and painting get their turn
 constexpr int kPauseEvery = 40; // steps
 constexpr int kStuck = 400;     // attempts to close what is open
 constexpr size_t kStory = 40;
@@ -87,6 +87,7 @@ void Driver::begin(int steps)
     m_left = steps;
     m_closing = 0;
     m_active = true;
+    openPage(); // the next one: a batch does not begin where all of them begin
     next();
 }
 
@@ -129,28 +130,33 @@ LRESULT Driver::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return CWnd::WindowProc(message, wParam, lParam);
 }
 
-/// The next step is asked for first: this one may not return before a dialog is closed.
+/// Only an input counts as a step. While there is nothing to aim at, such as a dialog that is about to be
+/// shown, the driver waits.
 void Driver::step()
 {
-    --m_left;
-    ++m_done;
-    next();
     const HWND target = pickWindow();
-    if (!target)
-        return;
-    const HWND top = ::GetAncestor(target, GA_ROOT);
-    if (top != m_frame.m_hWnd)
-        ++m_reach.modal;
-    if (showsFiles(top)) {
-        ::PostMessageW(top, WM_COMMAND, IDCANCEL, 0);
+    if (!target || cancelsFiles(::GetAncestor(target, GA_ROOT))) {
+        SetTimer(kPause, kPauseTime, nullptr);
         return;
     }
-    if (isDear(target) && !oneIn(kDearOnce))
+    if (isDear(target) && !oneIn(kDearOnce)) {
+        next();
         return;
+    }
+    --m_left;
+    ++m_done;
+    next(); // asked for first: this step may not return before a dialog is closed
     leaveSilentServer();
+    if (::GetAncestor(target, GA_ROOT) != m_frame.m_hWnd)
+        ++m_reach.modal;
     if (m_frame.openedPage())
         ++m_reach.pages[m_frame.openedPage()->name];
     ++m_reach.controls[classOf(target)];
+    act(target);
+}
+
+void Driver::act(HWND target)
+{
     const int chance = pick(1000);
     if (chance < 330)
         click(target);
@@ -170,6 +176,8 @@ void Driver::step()
         repaint();
     else if (chance < 972)
         resize();
+    else if (!m_frame.IsWindowEnabled())
+        click(target);
     else if (chance < 978)
         showPose();
     else
@@ -195,18 +203,35 @@ void Driver::close()
                            classOf(wnd) == L"#32770" ? IDCANCEL : 0, 0);
 }
 
+/// Cancels a dialog that shows real files.
+bool Driver::cancelsFiles(HWND top) const
+{
+    if (top == m_frame.m_hWnd || !showsFiles(top))
+        return false;
+    ::PostMessageW(top, WM_COMMAND, IDCANCEL, 0);
+    return true;
+}
+
 /// Whether a press may open one of the system's file dialogs, which take a second each and are not what is
 /// looked at.
 bool Driver::isDear(HWND target) const
 {
+    if (!isOpen(L"files"))
+        return false;
     const HWND focus = ::GetFocus();
-    const bool onButton = classOf(target) == L"Button" || (focus && classOf(focus) == L"Button");
-    return onButton && m_frame.openedPage() && m_frame.openedPage()->name == std::wstring(L"files");
+    return classOf(target) == L"Button" || (focus && classOf(focus) == L"Button");
+}
+
+bool Driver::isOpen(std::wstring_view page) const
+{
+    return m_frame.openedPage() && m_frame.openedPage()->name == page;
 }
 
 /// A server that never answers is waited for by the system, three times half a minute.
 void Driver::leaveSilentServer()
 {
+    if (!isOpen(L"updates"))
+        return;
     const HWND outcomes = ::GetDlgItem(m_frame.page().GetSafeHwnd(), IDC_UPDATES_OUTCOME);
     const LRESULT silent = ::SendMessageW(outcomes, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                           reinterpret_cast<LPARAM>(L"A server that never answers"));
@@ -289,8 +314,6 @@ void Driver::pushButton(HWND target)
 
 void Driver::openPage()
 {
-    if (!m_frame.IsWindowEnabled())
-        return;
     const PageEntry& entry = pageTable()[m_pages++ % pageTable().size()];
     note(L"page", m_frame);
     m_frame.openPage(entry);
@@ -298,8 +321,6 @@ void Driver::openPage()
 
 void Driver::showPose()
 {
-    if (!m_frame.IsWindowEnabled())
-        return;
     const std::shared_ptr<GalleryPage> page = m_frame.page().shared_from_this();
     const std::vector<std::wstring> poses = page->poses();
     if (poses.empty())
@@ -387,13 +408,10 @@ HWND Driver::pickWindow()
     if (tops.empty())
         return nullptr;
     const HWND top = oneIn(4) ? tops[pick(static_cast<int>(tops.size()))] : tops.front();
-    std::vector<HWND> within{top};
-    ::EnumChildWindows(top, gather, reinterpret_cast<LPARAM>(&within));
     // The page rather than what stands around it.
-    if (top == m_frame.m_hWnd && m_frame.page().m_hWnd && !oneIn(5)) {
-        within.assign(1, m_frame.page().m_hWnd);
-        ::EnumChildWindows(m_frame.page().m_hWnd, gather, reinterpret_cast<LPARAM>(&within));
-    }
+    const bool onPage = top == m_frame.m_hWnd && m_frame.page().m_hWnd && !oneIn(5);
+    std::vector<HWND> within{onPage ? m_frame.page().m_hWnd : top};
+    ::EnumChildWindows(within.front(), gather, reinterpret_cast<LPARAM>(&within));
     const HWND target = within[pick(static_cast<int>(within.size()))];
     return ::IsWindowEnabled(target) ? target : top;
 }

@@ -17,6 +17,7 @@
 #include <functional>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class GalleryFrame;
@@ -47,8 +48,11 @@ protected:
 private:
     void next();
     void step();
+    void act(HWND target);
     void close();
+    bool cancelsFiles(HWND top) const;
     bool isDear(HWND target) const;
+    bool isOpen(std::wstring_view page) const;
     void leaveSilentServer();
 
     // What the user does
