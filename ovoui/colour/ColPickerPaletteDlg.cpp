@@ -1,12 +1,7 @@
 #include <ovoui/colour/ColPickerPaletteDlg.h>
 
-#include <ovoui/colour/ColourCells.h>
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/Contrast.h>
-#include <ovoui/colour/core/ControlKeys.h>
-#include <ovoui/colour/core/TypedColour.h>
-#include <ovoui/frame/HeldKeysNow.h>
-#include <ovoui/frame/LoadedText.h>
 #include <ovouires/resource.h>
 
 #include <algorithm>
@@ -42,8 +37,11 @@ constexpr int kRecentColours = 9;
 std::wstring gradeText(double contrast)
 {
     const std::wstring_view grade = gradeOf(contrast);
-    return grade == kGradeOfLargeText ? ovoui::frame::loadedText(IDS_COLOUR_GRADE_LARGE)
-                                      : std::wstring(grade);
+    if (grade != kGradeOfLargeText)
+        return std::wstring(grade);
+    CString large;
+    large.LoadString(IDS_COLOUR_GRADE_LARGE);
+    return large.GetString();
 }
 
 constexpr std::array<COLORREF, 18> kFirstColours{
@@ -182,8 +180,9 @@ void ColPickerPaletteDlg::keepAlpha()
 {
     if (!m_alphaEnabled)
         return;
-    m_alpha = alphaOr(m_colour, m_alpha);
-    if (m_colour.a() < 0)
+    if (m_colour.a() >= 0)
+        m_alpha = m_colour.a();
+    else
         SetColour(this, Colour::hlsa(m_colour.h_hls(), m_colour.l_hls(), m_colour.s_hls(), m_alpha), false);
 }
 
@@ -215,10 +214,17 @@ void ColPickerPaletteDlg::OnKillfocusText()
     CString typed;
     m_text.GetWindowText(typed);
     const auto read = colourFromText(std::wstring_view(typed.GetString()));
-    if (const auto colour = colourTyped(read, m_colour, m_alphaEnabled))
-        use(*colour);
-    else
+    if (!read) {
         showColour();
+        return;
+    }
+    // The text has alpha only where it says so; else what the dialog has stays.
+    const bool saysAlpha = m_alphaEnabled && read->a() >= 0;
+    const Colour colour = Colour::rgba(read->r(), read->g(), read->b(), saysAlpha ? read->a() : m_colour.a());
+    if (colour.colorref() == m_colour.colorref() && !saysAlpha)
+        showColour();
+    else
+        use(colour);
 }
 
 void ColPickerPaletteDlg::OnBefore()
@@ -241,7 +247,8 @@ void ColPickerPaletteDlg::OnColourOfScreen()
 /// The alpha stays.
 void ColPickerPaletteDlg::useOpaque(COLORREF colour)
 {
-    use(withAlphaOf(Colour::colorref(colour), m_colour));
+    const Colour opaque = Colour::colorref(colour);
+    use(Colour::rgba(opaque.r(), opaque.g(), opaque.b(), m_colour.a()));
 }
 
 void ColPickerPaletteDlg::OnDrawItem(int id, DRAWITEMSTRUCT* item)
@@ -254,30 +261,27 @@ void ColPickerPaletteDlg::OnDrawItem(int id, DRAWITEMSTRUCT* item)
     ::FillRect(item->hDC, &item->rcItem, brush);
     if (item->itemState & ODS_FOCUS) {
         CRect frame(item->rcItem);
-        frame.DeflateRect(1, 1);
-        drawCellMark(*CDC::FromHandle(item->hDC), frame);
+        for (const int mark : {BLACK_BRUSH, WHITE_BRUSH}) { // one of them shows on every colour
+            frame.DeflateRect(1, 1);
+            ::FrameRect(item->hDC, &frame, static_cast<HBRUSH>(::GetStockObject(mark)));
+        }
     }
 }
 
 BOOL ColPickerPaletteDlg::PreTranslateMessage(MSG* message)
 {
-    if (message->message == WM_KEYDOWN && goBackOrForward(message->wParam))
+    if (message->message == WM_KEYDOWN && ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_MENU) >= 0 &&
+        goBackOrForward(message->wParam))
         return TRUE;
     return ColPickerDlgBase::PreTranslateMessage(message);
 }
 
-/// Whether the key was one of the two.
+/// Whether the key was one of the two. Typing that can be undone goes first, where it is done.
 bool ColPickerPaletteDlg::goBackOrForward(WPARAM key)
 {
-    const auto virtualKey = static_cast<unsigned>(key);
-    const ovoui::frame::HeldKeys held = ovoui::frame::heldKeysNow();
-    if (historyKey(virtualKey, held, false) == HistoryKey::None)
-        return false; // what has the focus need not be asked
-    const bool canUndo = ::SendMessageW(::GetFocus(), EM_CANUNDO, 0, 0) != 0;
-    const HistoryKey meaning = historyKey(virtualKey, held, canUndo);
-    if (meaning == HistoryKey::None)
+    if ((key != 'Z' && key != 'Y') || ::SendMessageW(::GetFocus(), EM_CANUNDO, 0, 0))
         return false;
-    const Colour* const colour = meaning == HistoryKey::Back ? m_history.back() : m_history.forward();
+    const Colour* const colour = key == 'Z' ? m_history.back() : m_history.forward();
     if (colour)
         use(Colour(*colour));
     return true;

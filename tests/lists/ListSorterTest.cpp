@@ -83,9 +83,17 @@ TEST_F(ListSorting, Numbers)
 
 TEST_F(ListSorting, EqualRowsKeepTheirOrderInBothDirections)
 {
-    for (const Kind kind : {Kind::Text, Kind::Number, Kind::Date}) {
+    struct Case
+    {
+        Kind kind;
+        const wchar_t* greater;
+        const wchar_t* less;
+    };
+    for (const auto& [kind, greater, less] : {Case{Kind::Text, L"b", L"a"}, Case{Kind::Number, L"10", L"9"},
+                                              Case{Kind::Date, L"10/1/2023", L"9/1/2023"}}) {
+        SCOPED_TRACE(::testing::PrintToString(std::wstring(greater)));
         scene.list.DeleteAllItems();
-        add({L"2", L"1", L"2", L"1", L"2"});
+        add({greater, less, greater, less, greater});
         sorter.SetKind(1, kind);
         sorter.Sort(1, true);
         EXPECT_EQ(column(0), (Texts{L"row 1", L"row 3", L"row 0", L"row 2", L"row 4"}));

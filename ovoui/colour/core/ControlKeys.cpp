@@ -12,8 +12,6 @@ namespace
 {
 
 // Letters, which have the numbers of their characters
-constexpr unsigned kVkY = 'Y';
-constexpr unsigned kVkZ = 'Z';
 
 bool isArrow(unsigned key)
 {
@@ -112,15 +110,6 @@ DialogKey dialogKey(unsigned key)
     default:
         return DialogKey::None;
     }
-}
-
-HistoryKey historyKey(unsigned key, const frame::HeldKeys& held, bool canUndo)
-{
-    if (!held.ctrl || held.alt || canUndo)
-        return HistoryKey::None;
-    if (key == kVkZ)
-        return HistoryKey::Back;
-    return key == kVkY ? HistoryKey::Forward : HistoryKey::None;
 }
 
 PointerStep pointerStep(unsigned key, bool shift)

@@ -2,8 +2,6 @@
 /// values, no windows.
 #pragma once
 
-#include <ovoui/frame/core/HeldKeys.h>
-
 namespace ovoui::colour
 {
 
@@ -75,16 +73,6 @@ enum class DialogKey
     TakeNumbers ///< before the dialog closes: the focus does not leave the edit
 };
 DialogKey dialogKey(unsigned key);
-
-/// In the dialog with a palette: back to the colour before, and forward again.
-enum class HistoryKey
-{
-    None,
-    Back,
-    Forward
-};
-/// `canUndo`: what has the focus can undo typing, which goes first.
-HistoryKey historyKey(unsigned key, const frame::HeldKeys& held, bool canUndo);
 
 /// How far an arrow moves the pointer, in pixels.
 struct PointerStep

@@ -22,25 +22,9 @@ bool changesColour(const Colour& before, const Colour& typed, bool alphaIsEdited
     return differ(compared, typed, evenHueCounts(mode));
 }
 
-std::optional<Colour> colourTyped(const std::optional<Colour>& read, const Colour& before, bool alphaIsEdited)
-{
-    if (!read)
-        return std::nullopt;
-    const bool saysAlpha = alphaIsEdited && read->a() >= 0;
-    const Colour colour = Colour::rgba(read->r(), read->g(), read->b(), saysAlpha ? read->a() : before.a());
-    if (colour.colorref() == before.colorref() && !saysAlpha)
-        return std::nullopt;
-    return colour;
-}
-
 Colour withAlphaOf(const Colour& colour, const Colour& other)
 {
     return Colour::rgba(colour.r(), colour.g(), colour.b(), other.a());
-}
-
-double alphaOr(const Colour& colour, double before)
-{
-    return colour.a() >= 0 ? colour.a() : before;
 }
 
 Colour overGround(const Colour& colour, double ground)

@@ -5,8 +5,6 @@
 
 #include <ovocor/Colour.h>
 
-#include <optional>
-
 namespace ovoui::colour
 {
 
@@ -20,16 +18,8 @@ bool evenHueCounts(ColPickerModeType mode);
 /// is none.
 bool changesColour(const Colour& before, const Colour& typed, bool alphaIsEdited, ColPickerModeType mode);
 
-/// The colour that a typed text leads to; none where it changes nothing or is none. The text has alpha only
-/// where it says so; else what there was stays, and without `alphaIsEdited` anyway.
-std::optional<Colour> colourTyped(const std::optional<Colour>& read, const Colour& before,
-                                  bool alphaIsEdited);
-
 /// The colour with the alpha of another one.
 Colour withAlphaOf(const Colour& colour, const Colour& other);
-
-/// The alpha of a colour, or the one of before where the colour comes without.
-double alphaOr(const Colour& colour, double before);
 
 /// The colour as it shows over a grey ground, from black (0) to white (1).
 Colour overGround(const Colour& colour, double ground);

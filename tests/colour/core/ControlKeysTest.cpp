@@ -135,21 +135,3 @@ TEST(ControlKeys, EscapeAndEnterMeanSomethingInThePickersDialog)
         EXPECT_EQ(dialogKey(key), expected) << key;
     }
 }
-
-TEST(ControlKeys, CtrlZAndCtrlYGoBackAndForwardWhereNothingIsToBeUndone)
-{
-    for (unsigned key = 0; key <= 0xFF; ++key)
-        for (const bool ctrl : {false, true})
-            for (const bool shift : {false, true})
-                for (const bool alt : {false, true})
-                    for (const bool canUndo : {false, true}) {
-                        HistoryKey expected = HistoryKey::None;
-                        if (ctrl && !alt && !canUndo && key == 'Z')
-                            expected = HistoryKey::Back;
-                        if (ctrl && !alt && !canUndo && key == 'Y')
-                            expected = HistoryKey::Forward;
-                        EXPECT_EQ(historyKey(key, {.ctrl = ctrl, .shift = shift, .alt = alt}, canUndo),
-                                  expected)
-                            << key;
-                    }
-}

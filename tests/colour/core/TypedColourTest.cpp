@@ -35,40 +35,12 @@ TEST(TypedColour, WithoutAnEditForItAlphaIsNoChange)
     EXPECT_TRUE(changesColour(before, Colour::rgba(1, 0.6, 0, 1), false, ColPickerModeRGB));
 }
 
-TEST(TypedColour, ATextWithoutAlphaLeavesWhatThereWas)
-{
-    const Colour before = Colour::rgba(1, 0, 0, 0.25);
-    for (const bool edited : {false, true}) {
-        EXPECT_FALSE(colourTyped(std::nullopt, before, edited)) << "no colour";
-        EXPECT_FALSE(colourTyped(Colour::rgb(1, 0, 0), before, edited)) << "the same one";
-        const auto blue = colourTyped(Colour::rgb(0, 0, 1), before, edited);
-        ASSERT_TRUE(blue);
-        EXPECT_EQ(blue->colorref(), Colour::rgb(0, 0, 1).colorref());
-        EXPECT_EQ(blue->a(), 0.25);
-    }
-}
-
-TEST(TypedColour, ATextWithAlphaCountsWhereAlphaIsEdited)
-{
-    const Colour before = Colour::rgba(1, 0, 0, 0.25);
-    const auto same = colourTyped(Colour::rgba(1, 0, 0, 0.75), before, true);
-    ASSERT_TRUE(same);
-    EXPECT_EQ(same->a(), 0.75);
-    EXPECT_FALSE(colourTyped(Colour::rgba(1, 0, 0, 0.75), before, false)) << "the colour is the same";
-    const auto blue = colourTyped(Colour::rgba(0, 0, 1, 0.75), before, false);
-    ASSERT_TRUE(blue);
-    EXPECT_EQ(blue->a(), 0.25);
-}
-
 TEST(TypedColour, AlphaGoesFromOneColourToAnother)
 {
     const Colour taken = withAlphaOf(Colour::rgb(0, 1, 0), Colour::rgba(1, 0, 0, 0.25));
     EXPECT_EQ(taken.colorref(), Colour::rgb(0, 1, 0).colorref());
     EXPECT_EQ(taken.a(), 0.25);
     EXPECT_LT(withAlphaOf(taken, Colour::rgb(1, 0, 0)).a(), 0) << "none from one that has none";
-    EXPECT_EQ(alphaOr(taken, 0.75), 0.25);
-    EXPECT_EQ(alphaOr(Colour::rgba(1, 0, 0, 0), 0.75), 0);
-    EXPECT_EQ(alphaOr(Colour::rgb(1, 0, 0), 0.75), 0.75);
 }
 
 TEST(TypedColour, OverAGroundAlphaMixesTheTwo)
