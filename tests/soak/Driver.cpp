@@ -39,13 +39,16 @@ BOOL CALLBACK isOfTheShell(HWND wnd, LPARAM found)
 {
     static const std::array<std::wstring, 3> kinds{L"SHELLDLL_DefView", L"ExplorerBrowserControl",
                                                    L"SHBrowseForFolder ShellNameSpace Control"};
-    if (std::find(kinds.begin(), kinds.end(), classOf(wnd)) == kinds.end())
+    // Wine's dialog for folders has a plain tree with this number; `*` in it reads the whole disk.
+    constexpr int kTreeOfFolders = 0x3741;
+    const bool isTree = classOf(wnd) == L"SysTreeView32" && ::GetDlgCtrlID(wnd) == kTreeOfFolders;
+    if (!isTree && std::find(kinds.begin(), kinds.end(), classOf(wnd)) == kinds.end())
         return TRUE;
     *reinterpret_cast<bool*>(found) = true;
     return FALSE;
 }
 
-/// The system's dialogs for files show real files, which Delete, F2 and a drag would change.
+/// The system's dialogs for files and folders show real ones, which Delete, F2 and a drag would change.
 bool showsFiles(HWND top)
 {
     bool found = false;
