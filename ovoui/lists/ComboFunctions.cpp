@@ -1,8 +1,8 @@
 #include <ovoui/lists/ComboFunctions.h>
 
 #include <ovocor/Text.h>
+#include <ovoui/lists/core/TextRoom.h>
 
-#include <array>
 #include <cwctype>
 #include <string>
 #include <string_view>
@@ -11,22 +11,6 @@ namespace
 {
 
 constexpr int kUsualLineHeight = 12;
-
-/// Room for one text: on the stack, unless it is long.
-class TextRoom
-{
-public:
-    explicit TextRoom(std::size_t length)
-        : m_long(length < m_usual.size() ? 0 : length + 1, L'\0')
-    {
-    }
-
-    wchar_t* data() { return m_long.empty() ? m_usual.data() : m_long.data(); }
-
-private:
-    std::array<wchar_t, 128> m_usual{};
-    std::wstring m_long;
-};
 
 void lowerByLocale(wchar_t* text, std::size_t length)
 {
@@ -40,7 +24,7 @@ int selectString(CComboBox& combo, const wchar_t* text, bool ignoreCase)
 {
     const std::wstring key = ignoreCase ? lowercase(text) : std::wstring(text);
     const int length = static_cast<int>(key.size());
-    TextRoom item(key.size());
+    ovoui::lists::TextRoom item(key.size());
     const int count = combo.GetCount();
     for (int i = 0; i < count; ++i) {
         if (combo.GetLBTextLen(i) != length || combo.GetLBText(i, item.data()) != length)
