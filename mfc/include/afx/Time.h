@@ -7,6 +7,8 @@
 #include <compare>
 #include <ctime>
 
+struct tagDBTIMESTAMP; // DBTIMESTAMP of oledb.h
+
 /// A length of time in whole seconds.
 class OVOMFC_API CTimeSpan
 {
@@ -60,6 +62,8 @@ public:
     CTime(WORD dosDate, WORD dosTime, int daylight = -1);
     CTime(const SYSTEMTIME& time, int daylight = -1); ///< Local time.
     CTime(const FILETIME& time, int daylight = -1);   ///< Coordinated universal time.
+    /// Local time of a data source, whose parts of a second are left out. Callers include `oledb.h`.
+    CTime(const tagDBTIMESTAMP& time, int daylight = -1);
 
     static CTime WINAPI GetCurrentTime();
 
@@ -74,6 +78,8 @@ public:
     tm* GetLocalTm(tm* result) const;
     tm* GetGmtTm(tm* result) const;
     bool GetAsSystemTime(SYSTEMTIME& time) const; ///< Local time; false when it cannot be told.
+    /// Local time in whole seconds; false, and `time` as it was, when it cannot be told.
+    bool GetAsDBTIMESTAMP(tagDBTIMESTAMP& time) const;
 
     /// In the manner of strftime.
     CString Format(LPCTSTR format) const;

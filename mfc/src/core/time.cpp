@@ -1,6 +1,8 @@
 // CTime, CTimeSpan.
 #include <afx.h>
 
+#include <oledb.h>
+
 namespace
 {
 
@@ -117,6 +119,11 @@ CTime::CTime(const FILETIME& time, int)
 {
 }
 
+CTime::CTime(const DBTIMESTAMP& time, int daylight)
+    : CTime(time.year, time.month, time.day, time.hour, time.minute, time.second, daylight)
+{
+}
+
 CTime WINAPI CTime::GetCurrentTime()
 {
     return ::_time64(nullptr);
@@ -187,6 +194,21 @@ bool CTime::GetAsSystemTime(SYSTEMTIME& time) const
     time.wHour = static_cast<WORD>(parts.tm_hour);
     time.wMinute = static_cast<WORD>(parts.tm_min);
     time.wSecond = static_cast<WORD>(parts.tm_sec);
+    return true;
+}
+
+bool CTime::GetAsDBTIMESTAMP(DBTIMESTAMP& time) const
+{
+    SYSTEMTIME parts;
+    if (!GetAsSystemTime(parts))
+        return false;
+    time = {};
+    time.year = static_cast<SHORT>(parts.wYear);
+    time.month = parts.wMonth;
+    time.day = parts.wDay;
+    time.hour = parts.wHour;
+    time.minute = parts.wMinute;
+    time.second = parts.wSecond;
     return true;
 }
 

@@ -1,6 +1,8 @@
 // CTime and CTimeSpan.
 #include "Texts.h"
 
+#include <oledb.h>
+
 #include <afx.h>
 
 TEST(Time, KnowsItsDateAndTimeOfDay)
@@ -44,6 +46,26 @@ TEST(Time, OfMsDosIsUnpacked)
     ASSERT_TRUE(::SystemTimeToFileTime(&parts, &packed));
     ASSERT_TRUE(::FileTimeToDosDateTime(&packed, &systemDate, &systemTime));
     EXPECT_EQ(CTime(systemDate, systemTime), CTime(2044, 2, 29, 0, 1, 2)) << "what the system packs";
+}
+
+TEST(Time, OfADataSourceIsLocalAndLosesItsFraction)
+{
+    const DBTIMESTAMP stamp{2012, 2, 29, 23, 59, 58, 999'999'999};
+    const CTime time(stamp);
+    EXPECT_EQ(time, CTime(2012, 2, 29, 23, 59, 58));
+    DBTIMESTAMP again{1, 2, 3, 4, 5, 6, 7};
+    ASSERT_TRUE(time.GetAsDBTIMESTAMP(again));
+    EXPECT_EQ(std::tuple(again.year, again.month, again.day), std::tuple(2012, 2, 29));
+    EXPECT_EQ(std::tuple(again.hour, again.minute, again.second), std::tuple(23, 59, 58));
+    EXPECT_EQ(again.fraction, 0u);
+}
+
+TEST(Time, OfADataSourceTakesTheDaylightThatIsSaid)
+{
+    const DBTIMESTAMP summer{2009, 7, 1, 12, 0, 0, 0};
+    EXPECT_EQ(CTime(summer, 0), CTime(2009, 7, 1, 12, 0, 0, 0));
+    EXPECT_EQ(CTime(summer, 1), CTime(2009, 7, 1, 12, 0, 0, 1));
+    EXPECT_EQ(CTime(summer), CTime(2009, 7, 1, 12, 0, 0));
 }
 
 TEST(Time, IsFormattedAtAnyLength)
@@ -109,6 +131,9 @@ TEST(Time, OutsideOfItsRangeCannotBeWritten)
         EXPECT_TRUE(isRefused([&] { time.FormatGmt(L"%Y"); }));
         SYSTEMTIME parts{};
         EXPECT_FALSE(time.GetAsSystemTime(parts));
+        DBTIMESTAMP stamp{1, 2, 3, 4, 5, 6, 7};
+        EXPECT_FALSE(time.GetAsDBTIMESTAMP(stamp));
+        EXPECT_EQ(stamp.year, 1);
     }
     EXPECT_EQ(CTime(0).FormatGmt(L"%Y-%m-%d %H:%M:%S"), L"1970-01-01 00:00:00");
 }
