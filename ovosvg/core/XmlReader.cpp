@@ -226,7 +226,7 @@ private:
             else if (reference.starts_with('#'))
                 appendUtf8(value, codeOf(reference.substr(1), place));
             else
-                fail("&" + std::string(reference) + ";", place);
+                fail(std::string("&").append(reference).append(";"), place);
             i = end;
         }
         return value;
