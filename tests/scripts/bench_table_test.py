@@ -61,5 +61,33 @@ class Table(unittest.TestCase):
                                                   "selectAll, N": [(1000, 1.1e6), (10000, 24e6)]})
 
 
+class Programs(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        root = pathlib.Path(folder.name)
+        patch = mock.patch.object(bench_all, "ROOT", root)
+        patch.start()
+        self.addCleanup(patch.stop)
+        self.programs = root / "build/bench/bin"
+        self.programs.mkdir(parents=True)
+
+    def add(self, name):
+        (self.programs / name).touch()
+
+    def test_those_that_others_start_are_not_run(self):
+        for name in ("bench_empty_frame.exe", "bench_frame.exe", "bench_module_host.exe", "bench_tree.exe"):
+            self.add(name)
+        self.assertEqual(list(bench_all.programs([])), ["bench_frame", "bench_tree"])
+        self.assertEqual(list(bench_all.programs(["bench_tree"])), ["bench_tree"])
+
+    def test_one_that_fails_takes_no_other_with_it(self):
+        command = lambda code: [sys.executable, "-c", f"print('words of', {code}); raise SystemExit({code})"]
+        with mock.patch("builtins.print"):
+            results, failed = bench_all.run({"first": command(3), "second": command(0)})
+        self.assertEqual(results, {"first": "words of 3\n", "second": "words of 0\n"})
+        self.assertEqual(failed, ["first"])
+
+
 if __name__ == "__main__":
     unittest.main()
