@@ -31,6 +31,18 @@ private:
     void water(int litres);
 };
 """
+GROUP = """\
+/** @defgroup tree Trees
+
+![A bed](bed.svg)
+
+A group.
+
+| key | |
+|---|---|
+| Enter | waters |
+*/
+"""
 README = "# Garden\n\nSee [the beds](docs/beds.md) and [their soil](docs/beds.md#the-soil).\n"
 PAGE = "# Beds\n\n## The soil\n\nLoam.\n"
 
@@ -40,8 +52,8 @@ class Reference(unittest.TestCase):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="the garden "))
         self.addCleanup(shutil.rmtree, self.folder)
         self.write("ovoui/version.h", '#define OVOUI_VERSION_STRING "1.2.3"\n')
-        self.write("docs/reference/groups.dox", "/** @defgroup tree Trees\n\n A group. */\n")
-        (self.folder / "docs/images").mkdir()
+        self.write("docs/reference/groups.dox", GROUP)
+        self.write("docs/images/bed.svg", '<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"/>')
         for name in ("Doxyfile", "style.css"):
             self.write(f"docs/reference/{name}", (ROOT / "docs/reference" / name).read_text(encoding="utf-8"))
 
@@ -114,8 +126,25 @@ class Reference(unittest.TestCase):
                        page=PAGE.replace("## The", "![Soil](images/soil.png)\n\n## The"))
 
     def test_a_reference_to_a_name_that_is_not_there(self):
-        self.write("docs/reference/groups.dox", "/** @defgroup tree Trees\n\n As @ref Garden. */\n")
+        self.write("docs/reference/groups.dox", GROUP.replace("A group", "As @ref Garden"))
         self.complains("Garden")
+
+    def test_a_group_without_a_picture(self):
+        self.write("docs/reference/groups.dox", GROUP.replace("![A bed](bed.svg)", ""))
+        self.complains("groups.dox:1: the group tree has no picture")
+
+    def test_a_group_without_a_table(self):
+        self.write("docs/reference/groups.dox", GROUP.replace("|---|---|\n", ""))
+        self.complains("groups.dox:1: the group tree has no table")
+
+    def test_a_group_that_says_nothing_of_keys(self):
+        self.write("docs/reference/groups.dox", GROUP.replace("| key |", "| part |"))
+        self.complains("neither a table of keys nor a sentence")
+
+    def test_a_group_without_keys_says_so(self):
+        self.write("docs/reference/groups.dox", GROUP.replace("| key |", "| part |").replace("A group.", "It has no\nkeys."))
+        made = self.make()
+        self.assertEqual((made.returncode, made.stderr), (0, ""))
 
     def test_prose_holds_no_commands(self):
         made = self.make(header=GOOD.replace("Rows of plants.", "Rows of C:\\beds\\new, <plants> & #1 @home."))
