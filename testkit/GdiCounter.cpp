@@ -1,6 +1,6 @@
 #include "GdiCounter.h"
+#include "GdiHandles.h"
 
-#include <windows.h>
 #include <winternl.h>
 
 #include <cstdint>
@@ -23,7 +23,7 @@ struct HandleEntry
 };
 static_assert(sizeof(HandleEntry) == 24);
 
-constexpr int kTableSize = 0x10000;
+constexpr std::uintptr_t kTableSize = 0x10000;
 constexpr int kTableInPeb = 0xF8;
 
 bool runsUnderWine()
@@ -31,25 +31,40 @@ bool runsUnderWine()
     return ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
 }
 
-int countTable()
+/// Calls `take` with the handle of each object that is alive. Objects that the system deletes in batches are
+/// gone then.
+template <class Take>
+void eachLive(const Take& take)
 {
+    ::GdiFlush();
     const auto* peb = reinterpret_cast<const char*>(NtCurrentTeb()->ProcessEnvironmentBlock);
     const auto* table = *reinterpret_cast<const HandleEntry* const*>(peb + kTableInPeb);
-    int live = 0;
-    for (int i = 0; table && i < kTableSize; ++i)
-        live += table[i].type != 0;
-    return live;
+    for (std::uintptr_t i = 0; table && i < kTableSize; ++i)
+        if (table[i].type)
+            take(reinterpret_cast<HGDIOBJ>(i | std::uintptr_t{table[i].unique} << 16));
 }
 
 } // namespace
 
 int GdiCounter::live()
 {
-    // Objects that the system deletes in batches are gone after this.
-    ::GdiFlush();
     // Wine answers 0 to GetGuiResources.
     static const bool wine = runsUnderWine();
-    return wine ? countTable() : static_cast<int>(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS));
+    if (!wine) {
+        ::GdiFlush();
+        return static_cast<int>(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS));
+    }
+    int count = 0;
+    eachLive([&count](HGDIOBJ) { ++count; });
+    return count;
+}
+
+std::vector<HGDIOBJ> gdiHandles()
+{
+    std::vector<HGDIOBJ> all;
+    if (runsUnderWine())
+        eachLive([&all](HGDIOBJ object) { all.push_back(object); });
+    return all;
 }
 
 } // namespace ovo::testkit

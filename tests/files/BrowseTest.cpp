@@ -2,6 +2,7 @@
 #include "HostDialog.h"
 
 #include "mfc/cdlg/FakeShellDialog.h"
+#include "support/WindowFacts.h"
 #include <testkit/ImportPatch.h>
 
 #include <ovoui/files/Browse.h>
@@ -15,6 +16,7 @@
 #include <cwctype>
 
 using namespace ovo::testkit;
+using support::textOf;
 
 namespace
 {
@@ -26,13 +28,6 @@ std::wstring workingFolder()
     wchar_t folder[MAX_PATH]{};
     ::GetCurrentDirectoryW(MAX_PATH, folder);
     return folder;
-}
-
-std::wstring textOf(HWND wnd)
-{
-    wchar_t text[512]{};
-    ::GetWindowTextW(wnd, text, 512);
-    return text;
 }
 
 /// The arguments of BrowseForFile, with defaults for what a test does not care about.

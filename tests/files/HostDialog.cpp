@@ -1,11 +1,13 @@
 #include "HostDialog.h"
 #include "resource.h"
+#include "support/WindowFacts.h"
 
 #include <gtest/gtest.h>
 
 #include <dlgs.h>
 
 using namespace ovo::testkit;
+using support::classOf;
 
 namespace
 {
@@ -165,13 +167,6 @@ HWND below(HWND root, const std::function<bool(HWND)>& wanted)
         },
         reinterpret_cast<LPARAM>(&search));
     return search.found;
-}
-
-std::wstring classOf(HWND wnd)
-{
-    wchar_t name[64]{};
-    ::GetClassNameW(wnd, name, 64);
-    return name;
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "Clipping.h"
+#include "support/WindowFacts.h"
 
 #include <afxwin.h>
 
@@ -9,23 +10,10 @@
 #include <map>
 #include <vector>
 
+using support::textOf;
+
 namespace
 {
-
-std::wstring textOf(HWND window)
-{
-    CString text;
-    CWnd::FromHandle(window)->GetWindowText(text);
-    return text.GetString();
-}
-
-std::wstring classOf(HWND window)
-{
-    wchar_t name[64]{};
-    ::GetClassNameW(window, name, 64);
-    ::CharLowerW(name);
-    return name;
-}
 
 LONG styleOf(HWND window)
 {
@@ -49,7 +37,8 @@ CRect placeIn(HWND parent, HWND child)
 
 std::wstring nameOf(HWND window)
 {
-    return classOf(window) + L" " + std::to_wstring(::GetDlgCtrlID(window)) + L" \"" + textOf(window) + L"\"";
+    return support::lowerClassOf(window) + L" " + std::to_wstring(::GetDlgCtrlID(window)) + L" \"" +
+           textOf(window) + L"\"";
 }
 
 std::wstring sizeText(CSize size)
@@ -202,7 +191,7 @@ Problems inControl(HWND window)
         {L"sysdatetimepick32", &inDatePicker},
         {L"syslistview32", &headingProblems},
     };
-    const auto kind = kinds.find(classOf(window));
+    const auto kind = kinds.find(support::lowerClassOf(window));
     return kind == kinds.end() ? Problems{} : kind->second(window);
 }
 
@@ -217,7 +206,7 @@ bool scrolls(HWND window)
 /// control, and what is transparent lets others through.
 bool mayCover(HWND window)
 {
-    const std::wstring name = classOf(window);
+    const std::wstring name = support::lowerClassOf(window);
     return (name == L"button" && (styleOf(window) & BS_TYPEMASK) == BS_GROUPBOX) ||
            name == L"systabcontrol32" || name == L"msctls_updown32" ||
            (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_TRANSPARENT);
@@ -252,7 +241,7 @@ Problems misplaced(HWND parent, const std::vector<HWND>& children)
 /// Those of controls of the system are the system's business.
 bool hasPartsOfOurs(HWND window)
 {
-    const std::wstring name = classOf(window);
+    const std::wstring name = support::lowerClassOf(window);
     return name != L"combobox" && name != L"syslistview32" && name != L"systreeview32";
 }
 

@@ -1,6 +1,7 @@
 // Letters for Alt on every page.
 #include "AccessibleText.h"
 #include "GalleryScene.h"
+#include "support/WindowFacts.h"
 
 #include <gtest/gtest.h>
 
@@ -9,23 +10,11 @@
 #include <optional>
 
 using namespace ovo::testkit;
+using support::classOf;
+using support::textOf;
 
 namespace
 {
-
-std::wstring textOf(HWND window)
-{
-    CString text;
-    CWnd::FromHandle(window)->GetWindowText(text);
-    return text.GetString();
-}
-
-std::wstring classOf(HWND window)
-{
-    wchar_t name[64]{};
-    ::GetClassNameW(window, name, 64);
-    return name;
-}
 
 /// In capitals, as keys are numbered.
 std::optional<wchar_t> letterOf(const std::wstring& text)

@@ -3,6 +3,7 @@
 #include "AccessibleText.h"
 #include "GalleryScene.h"
 #include "resource.h"
+#include "support/WindowFacts.h"
 
 #include <testkit/GuiThread.h>
 
@@ -14,19 +15,13 @@
 #include <set>
 
 using namespace ovo::testkit;
+using support::classOf;
 
 namespace
 {
 
 constexpr int kMostStops = 80; // of the frame with its largest page
 constexpr int kOnceRound = 16; // more than a bar has buttons
-
-std::wstring classOf(HWND window)
-{
-    wchar_t name[64]{};
-    ::GetClassNameW(window, name, 64);
-    return name;
-}
 
 bool hasStyle(HWND window, LONG style)
 {

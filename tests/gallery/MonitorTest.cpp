@@ -6,6 +6,7 @@
 
 #include "Resolution.h"
 #include "resource.h"
+#include "support/WindowFacts.h"
 
 #include <testkit/GuiThread.h>
 
@@ -34,13 +35,6 @@ bool isForOneResolution(const PageEntry& entry)
     return std::wstring_view(entry.name) == L"toolbars";
 }
 
-std::wstring classOf(HWND window)
-{
-    wchar_t name[64]{};
-    ::GetClassNameW(window, name, 64);
-    return name;
-}
-
 bool hasCaption(HWND window)
 {
     return (::GetWindowLongW(window, GWL_STYLE) & WS_CAPTION) == WS_CAPTION;
@@ -54,7 +48,7 @@ std::vector<std::wstring> openPopups()
         ::GetCurrentThreadId(),
         [](HWND window, LPARAM result) -> BOOL {
             if (::IsWindowVisible(window) && !hasCaption(window))
-                reinterpret_cast<std::vector<std::wstring>*>(result)->push_back(classOf(window));
+                reinterpret_cast<std::vector<std::wstring>*>(result)->push_back(support::classOf(window));
             return TRUE;
         },
         reinterpret_cast<LPARAM>(&found));

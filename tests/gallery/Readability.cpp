@@ -1,4 +1,5 @@
 #include "Readability.h"
+#include "support/WindowFacts.h"
 
 #include <ovocor/Text.h>
 #include <ovoui/colour/ColourButton.h>
@@ -13,6 +14,7 @@
 #include <vector>
 
 using ovo::testkit::Picture;
+using support::textOf;
 
 namespace
 {
@@ -21,21 +23,6 @@ constexpr double kLeast = 4.5;
 constexpr int kShare =
     3; // a colour of the text has at least one for so many pixels of the most frequent other colour
 constexpr int kMostRows = 12;
-
-std::wstring textOf(HWND window)
-{
-    CString text;
-    CWnd::FromHandle(window)->GetWindowText(text);
-    return text.GetString();
-}
-
-std::wstring classOf(HWND window)
-{
-    wchar_t name[64]{};
-    ::GetClassNameW(window, name, 64);
-    ::CharLowerW(name);
-    return name;
-}
 
 CRect clientOf(HWND window)
 {
@@ -216,7 +203,7 @@ Places textsIn(HWND window)
         {L"combolbox", &inListBox},
         {L"tooltips_class32", &whole},
     };
-    const auto kind = kinds.find(classOf(window));
+    const auto kind = kinds.find(support::lowerClassOf(window));
     return kind == kinds.end() ? Places{} : kind->second(window);
 }
 
@@ -257,13 +244,13 @@ Problems problemsAt(HWND window, const Picture& screen, const Place& place)
         return {};
     const std::optional<TextLook> look = lookOf(screen, rect);
     if (!look)
-        return {stringPrintf(L"%s %d, \"%s\": nothing is seen", classOf(window).c_str(),
+        return {stringPrintf(L"%s %d, \"%s\": nothing is seen", support::lowerClassOf(window).c_str(),
                              ::GetDlgCtrlID(window), place.what.c_str())};
     if (look->ratio >= kLeast || isSelection(*look))
         return {};
-    return {stringPrintf(L"%s %d, \"%s\": %s on %s has %.1f", classOf(window).c_str(), ::GetDlgCtrlID(window),
-                         place.what.c_str(), colourText(look->text).c_str(), colourText(look->ground).c_str(),
-                         look->ratio)};
+    return {stringPrintf(L"%s %d, \"%s\": %s on %s has %.1f", support::lowerClassOf(window).c_str(),
+                         ::GetDlgCtrlID(window), place.what.c_str(), colourText(look->text).c_str(),
+                         colourText(look->ground).c_str(), look->ratio)};
 }
 
 void collect(HWND window, const Picture& screen, Problems& problems)

@@ -1,25 +1,15 @@
 #include "DialogFit.h"
+#include "support/WindowFacts.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
 
+using support::classOf;
+using support::textOf;
+
 namespace
 {
-
-std::wstring textOf(HWND window)
-{
-    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(
-        static_cast<std::size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
-std::wstring classOf(HWND window)
-{
-    wchar_t name[64];
-    return {name, static_cast<std::size_t>(::GetClassNameW(window, name, 64))};
-}
 
 /// Width of a text in one line, without the mark of its letter.
 int widthOf(HFONT font, const std::wstring& text)

@@ -2,6 +2,7 @@
 
 #include "GalleryFrame.h"
 #include "resource.h"
+#include "support/WindowFacts.h"
 
 #include <afxcmn.h>
 
@@ -22,10 +23,9 @@ constexpr int kDearOnce = 12; ///< of so many presses on a button that opens a d
 
 std::wstring classOf(HWND wnd)
 {
-    wchar_t name[128] = L"";
-    ::GetClassNameW(wnd, name, static_cast<int>(std::size(name)));
+    const std::wstring name = support::classOf(wnd);
     // The framework's own names differ from run to run.
-    return std::wstring(name).starts_with(L"Afx:") ? L"Afx" : name;
+    return name.starts_with(L"Afx:") ? L"Afx" : name;
 }
 
 BOOL CALLBACK gather(HWND wnd, LPARAM found)

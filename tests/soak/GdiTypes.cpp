@@ -1,27 +1,11 @@
 #include "GdiTypes.h"
 
-#include <windows.h>
-#include <winternl.h>
+#include <testkit/GdiHandles.h>
 
-#include <cstdint>
 #include <cstdio>
 
 namespace
 {
-
-// The process's table of GDI handles as Wine lays it out; the test kit's counter reads the same one.
-struct HandleEntry
-{
-    std::uint64_t object;
-    std::uint32_t owner;
-    std::uint16_t unique;
-    std::uint8_t type;
-    std::uint8_t flags;
-    std::uint64_t userPointer;
-};
-
-constexpr int kTableSize = 0x10000;
-constexpr int kTableInPeb = 0xF8;
 
 std::string bitmapText(HGDIOBJ object)
 {
@@ -80,15 +64,8 @@ std::string describe(HGDIOBJ object)
 std::map<std::string, int> gdiObjects()
 {
     std::map<std::string, int> found;
-    if (!::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version"))
-        return found;
-    ::GdiFlush();
-    const auto* peb = reinterpret_cast<const char*>(NtCurrentTeb()->ProcessEnvironmentBlock);
-    const auto* table = *reinterpret_cast<const HandleEntry* const*>(peb + kTableInPeb);
-    for (int i = 0; table && i < kTableSize; ++i)
-        if (table[i].type)
-            ++found[describe(
-                reinterpret_cast<HGDIOBJ>(static_cast<std::uintptr_t>(i | (table[i].unique << 16))))];
+    for (const HGDIOBJ object : ovo::testkit::gdiHandles())
+        ++found[describe(object)];
     return found;
 }
 

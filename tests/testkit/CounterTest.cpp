@@ -1,10 +1,14 @@
 #include <testkit/GdiCounter.h>
+#include <testkit/GdiHandles.h>
 #include <testkit/MemoryCounter.h>
 #include <testkit/WindowCounter.h>
 
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
 
 using namespace ovo::testkit;
 
@@ -29,6 +33,18 @@ TEST(GdiCounter, SeesEveryKindOfObject)
         ::DeleteObject(objects[i]);
     ::DeleteDC(dc);
     EXPECT_EQ(counter.grown(), 0);
+}
+
+TEST(GdiCounter, KnowsTheHandlesWhereThePlatformTellsThem)
+{
+    const HGDIOBJ pen = ::CreatePen(PS_SOLID, 1, RGB(3, 2, 1));
+    const std::vector<HGDIOBJ> handles = gdiHandles();
+    const bool tells = !handles.empty();
+    EXPECT_EQ(std::count(handles.begin(), handles.end(), pen), tells ? 1 : 0);
+    ::DeleteObject(pen);
+    const std::vector<HGDIOBJ> after = gdiHandles();
+    EXPECT_EQ(std::count(after.begin(), after.end(), pen), 0);
+    EXPECT_EQ(static_cast<int>(after.size()), tells ? GdiCounter::live() : 0);
 }
 
 TEST(GdiCounter, StaysTheSameOverManyThatAreFreed)

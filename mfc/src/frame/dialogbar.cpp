@@ -2,9 +2,7 @@
 #include <afxext.h>
 
 #include "../dlg/dialoginit.h"
-#include "../dlg/dialogresource.h"
-
-#include <detail/pending.h>
+#include "templatewindow.h"
 
 IMPLEMENT_DYNAMIC(CDialogBar, CControlBar)
 
@@ -20,11 +18,6 @@ END_MESSAGE_MAP()
 
 namespace
 {
-
-INT_PTR CALLBACK leavesAllToTheSystem(HWND, UINT, WPARAM, LPARAM)
-{
-    return FALSE;
-}
 
 /// What a template's contents need in a window without a caption.
 CSize neededSize(const CWnd& dialog)
@@ -62,17 +55,7 @@ BOOL CDialogBar::Create(CWnd* parent, LPCTSTR templateName, UINT style, UINT id)
     m_lpszTemplateName = templateName;
     m_dwStyle = style & CBRS_ALL;
 
-    afxdetail::CallOut creation;
-    AfxHookWindowCreate(this);
-    const HWND wnd = ::CreateDialogIndirectParamW(resource.module(), resource.get(), parent->GetSafeHwnd(),
-                                                  &leavesAllToTheSystem, 0);
-    if (AfxUnhookWindowCreate())
-        PostNcDestroy(); // no window came to be, so no message ended it
-    const bool complete = ::IsWindow(wnd) && !creation.failed();
-    if (!complete && ::IsWindow(wnd))
-        ::DestroyWindow(wnd);
-    creation.finish();
-    if (!complete)
+    if (!afxdetail::makeFromTemplate(this, resource, parent, [this] { PostNcDestroy(); }))
         return FALSE;
 
     SetDlgCtrlID(static_cast<int>(id));

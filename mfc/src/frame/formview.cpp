@@ -2,9 +2,7 @@
 #include <afxext.h>
 
 #include "../dlg/dialoginit.h"
-#include "../dlg/dialogresource.h"
-
-#include <detail/pending.h>
+#include "templatewindow.h"
 
 IMPLEMENT_DYNAMIC(CFormView, CScrollView)
 
@@ -16,11 +14,6 @@ END_MESSAGE_MAP()
 
 namespace
 {
-
-INT_PTR CALLBACK leavesAllToTheSystem(HWND, UINT, WPARAM, LPARAM)
-{
-    return FALSE;
-}
 
 bool isInput(UINT message)
 {
@@ -57,17 +50,7 @@ BOOL CFormView::Create(LPCTSTR, LPCTSTR, DWORD style, const RECT& rect, CWnd* pa
         PostNcDestroy();
         return FALSE;
     }
-    afxdetail::CallOut creation;
-    AfxHookWindowCreate(this);
-    const HWND wnd = ::CreateDialogIndirectParamW(resource.module(), resource.get(), parent->GetSafeHwnd(),
-                                                  &leavesAllToTheSystem, 0);
-    if (AfxUnhookWindowCreate())
-        PostNcDestroy(); // no window came to be, so no message ended it
-    const bool complete = ::IsWindow(wnd) && !creation.failed();
-    if (!complete && ::IsWindow(wnd))
-        ::DestroyWindow(wnd);
-    creation.finish();
-    if (!complete)
+    if (!afxdetail::makeFromTemplate(this, resource, parent, [this] { PostNcDestroy(); }))
         return FALSE;
 
     SetDlgCtrlID(static_cast<int>(id));

@@ -28,20 +28,13 @@ protected:
 
 IMPLEMENT_DYNCREATE(TestEditView, CEditView)
 
-class EditViewTest : public ::testing::Test
+class EditViewTest : public ::testing::Test, protected FilledFrame<TestEditView>
 {
 protected:
     EditViewTest()
+        : FilledFrame(RUNTIME_CLASS(TestEditView), L"Edits", CSize(400, 250))
     {
-        CCreateContext context;
-        context.m_pNewViewClass = RUNTIME_CLASS(TestEditView);
-        frame = new TestFrame;
-        frame->Create(nullptr, L"Edits", WS_OVERLAPPEDWINDOW, CRect(20, 20, 420, 270), nullptr, nullptr, 0,
-                      &context);
-        frame->InitialUpdateFrame(nullptr, FALSE);
-        view = static_cast<TestEditView*>(frame->GetActiveView());
     }
-    ~EditViewTest() override { frame->DestroyWindow(); }
 
     std::wstring text() const { return textIn(*view); }
 
@@ -71,9 +64,6 @@ protected:
     }
 
     void command(UINT id) { frame->SendMessage(WM_COMMAND, id); }
-
-    TestFrame* frame;
-    TestEditView* view;
 };
 
 using Range = std::pair<int, int>;

@@ -31,29 +31,19 @@ protected:
 
 IMPLEMENT_DYNCREATE(TestScrollView, CScrollView)
 
-class ScrollViewTest : public ::testing::Test
+class ScrollViewTest : public ::testing::Test, protected FilledFrame<TestScrollView>
 {
 protected:
     ScrollViewTest()
+        : FilledFrame(RUNTIME_CLASS(TestScrollView), L"Scrolls", CSize(300, 250))
     {
-        CCreateContext context;
-        context.m_pNewViewClass = RUNTIME_CLASS(TestScrollView);
-        frame = new TestFrame;
-        frame->Create(nullptr, L"Scrolls", WS_OVERLAPPEDWINDOW, CRect(20, 20, 320, 270), nullptr, nullptr, 0,
-                      &context);
-        frame->InitialUpdateFrame(nullptr, FALSE);
-        view = static_cast<TestScrollView*>(frame->GetActiveView());
     }
-    ~ScrollViewTest() override { frame->DestroyWindow(); }
 
     COLORREF colourAt(CPoint point)
     {
         view->UpdateWindow();
         return CClientDC(view).GetPixel(point);
     }
-
-    TestFrame* frame;
-    TestScrollView* view;
 };
 
 } // namespace

@@ -96,4 +96,26 @@ private:
     HWND m_wnd;
 };
 
+/// A frame that a view of a class fills, for the time of a test.
+template <class View>
+struct FilledFrame
+{
+    FilledFrame(CRuntimeClass* viewClass, LPCTSTR title, CSize size)
+        : frame(new TestFrame)
+    {
+        CCreateContext context;
+        context.m_pNewViewClass = viewClass;
+        frame->Create(nullptr, title, WS_OVERLAPPEDWINDOW, CRect(CPoint(20, 20), size), nullptr, nullptr, 0,
+                      &context);
+        frame->InitialUpdateFrame(nullptr, FALSE);
+        view = static_cast<View*>(frame->GetActiveView());
+    }
+    ~FilledFrame() { frame->DestroyWindow(); }
+    FilledFrame(const FilledFrame&) = delete;
+    FilledFrame& operator=(const FilledFrame&) = delete;
+
+    TestFrame* const frame; ///< deletes itself with its window
+    View* view;
+};
+
 std::wstring textIn(const CWnd& wnd);
