@@ -59,6 +59,8 @@ configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/ovouiConfig.cmake.in
 write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/ovouiConfigVersion.cmake
   COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ovouiConfig.cmake ${CMAKE_CURRENT_BINARY_DIR}/ovouiConfigVersion.cmake
+              ${CMAKE_CURRENT_LIST_DIR}/ovouiManifest.cmake ${CMAKE_CURRENT_LIST_DIR}/manifest.rc
+              ${CMAKE_CURRENT_LIST_DIR}/host.manifest ${CMAKE_CURRENT_LIST_DIR}/mingw-w64.cmake
         DESTINATION lib/cmake/ovoui COMPONENT sdk)
 
 foreach(package ovoui ovoui-windowed)

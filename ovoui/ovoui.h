@@ -12,27 +12,34 @@
 #include <ovoui/colour/Contrast.h>
 #include <ovoui/colour/RecentColours.h>
 #include <ovoui/colour/ShadedTabCtrl.h>
+#include <ovoui/colour/ShadedTabPage.h>
 #include <ovoui/files/Browse.h>
 #include <ovoui/files/FileDialog.h>
 #include <ovoui/files/FilePicker.h>
+#include <ovoui/files/ShellImages.h>
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/frame/InPlace.h>
 #include <ovoui/frame/Language.h>
 #include <ovoui/frame/MessageBox.h>
 #include <ovoui/frame/MessageDialog.h>
 #include <ovoui/frame/ModalDialog.h>
 #include <ovoui/frame/NonClientMetrics.h>
+#include <ovoui/frame/ProfileExchange.h>
 #include <ovoui/frame/ProgressBox.h>
 #include <ovoui/frame/TabKeys.h>
 #include <ovoui/frame/ThemeData.h>
+#include <ovoui/frame/UndoHistory.h>
 #include <ovoui/images/AlphaImageButton.h>
 #include <ovoui/images/AlphaImageList.h>
 #include <ovoui/images/DisabledStrip.h>
+#include <ovoui/images/GdiPlusSession.h>
 #include <ovoui/images/ImageStrips.h>
 #include <ovoui/lists/ColourEntry.h>
 #include <ovoui/lists/ComboBox.h>
 #include <ovoui/lists/ComboBoxDeletion.h>
 #include <ovoui/lists/ComboFunctions.h>
 #include <ovoui/lists/ListCellTips.h>
+#include <ovoui/lists/ListColumns.h>
 #include <ovoui/lists/ListCopier.h>
 #include <ovoui/lists/ListCtrlEx.h>
 #include <ovoui/lists/ListFinder.h>
@@ -43,6 +50,7 @@
 #include <ovoui/sysinfo/ModuleListDlg.h>
 #include <ovoui/sysinfo/SystemInfoDlg.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
+#include <ovoui/toolbar/ToolBarCommands.h>
 #include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/sliders/DialSlider.h>
 #include <ovoui/sliders/RoundSlider.h>
@@ -64,3 +72,5 @@
 #include <ovoui/update/UpdateJob.h>
 #include <ovoui/update/UpdateMemory.h>
 #include <ovoui/update/UpdateTrust.h>
+
+#include <afxole.h> // AfxOleInit, which a host calls before its first tree

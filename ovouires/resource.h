@@ -61,6 +61,9 @@
 #define IDB_DOWN_16_CLASSIC 6034
 #define IDB_EDIT_16_CLASSIC 6035
 #define IDB_REFRESH_16_CLASSIC 6036
+#define IDB_FILES_16 6041
+#define IDB_FILES_24 6042
+#define IDB_FILES_32 6043
 
 // Menus and accelerator tables: 7401 to 7499
 #define IDR_TREE_ACCELERATORS 7471

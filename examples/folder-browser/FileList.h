@@ -8,50 +8,43 @@
 class FileList : public COVOListCtrlEx
 {
 public:
-    enum Column
-    {
-        Name,
-        Size,
-        Changed
-    };
+    static constexpr wchar_t kSection[] = L"FolderBrowser"; // of the profile
+    static constexpr int kName = 0, kSize = 1, kChanged = 2; // the columns
 
     bool create(CWnd& parent, UINT id)
     {
         constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS;
-        constexpr int kColumn = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT | LVCF_SUBITEM;
         if (!CreateEx(WS_EX_CLIENTEDGE, kStyle, CRect(), &parent, id))
             return false;
         SetImageList(shellImages(), LVSIL_SMALL);
         UseRowColours(TRUE);
-        AddColumn(L"Name", Name, -1, false, kColumn, LVCFMT_LEFT);
-        AddColumn(L"Size", Size, -1, false, kColumn, LVCFMT_RIGHT);
-        AddColumn(L"Changed", Changed, -1, true, kColumn, LVCFMT_LEFT);
-        SetColumnWidth(Name, GetStringWidth(L"A name of the usual length.document"));
-        SetColumnWidth(Size, GetStringWidth(L"9,999,999 KB"));
-        SetColumnWidth(Changed, GetStringWidth(L"30.12.2000 23:59:59 PM"));
+        addColumns(*this,
+                   {{.heading = L"Name", .sample = L"A name of the usual length.document"},
+                    {.heading = L"Size", .sample = L"9,999,999 KB", .format = LVCFMT_RIGHT},
+                    {.heading = L"Changed", .sample = L"30.12.2000 23:59:59 PM", .showsColour = true}});
         m_sorter.Attach(*this);
-        m_sorter.SetKind(Size, COVOListSorter::Kind::Number);
-        m_sorter.SetKind(Changed, COVOListSorter::Kind::Date);
+        m_sorter.SetKind(kSize, COVOListSorter::Kind::Number);
+        m_sorter.SetKind(kChanged, COVOListSorter::Kind::Date);
         m_finder.Attach(*this);
         m_tips.Attach(*this);
-        if (!restoreColumnLayout(*this, L"FolderBrowser", L"Columns", &m_sorter))
-            sortBy(Name);
+        if (!restoreColumnLayout(*this, kSection, L"Columns", &m_sorter))
+            sortBy(kName);
         return true;
     }
-    void saveLayout() { saveColumnLayout(*this, L"FolderBrowser", L"Columns", &m_sorter); }
+    void saveLayout() { saveColumnLayout(*this, kSection, L"Columns", &m_sorter); }
     void sortBy(int column) { m_sorter.Sort(column, true); }
 
-    /// Throws std::filesystem::filesystem_error when the folder cannot be read; the list is empty then.
-    void show(const std::filesystem::path& folder)
+    /// Throws fs::filesystem_error when the folder cannot be read; the list is empty then.
+    void show(const fs::path& folder)
     {
         DeleteAllItems();
         m_paths.clear();
-        for (const auto& entry : std::filesystem::directory_iterator(folder))
+        for (const auto& entry : fs::directory_iterator(folder))
             add(entry.path());
         m_sorter.Sort(m_sorter.Column(), m_sorter.Ascending());
     }
 
-    const std::filesystem::path& path(int row) const { return m_paths[GetItemData(row)]; }
+    const fs::path& path(int row) const { return m_paths[GetItemData(row)]; }
 
     /// The paths of the selected rows, or of all without any, as lines.
     std::wstring chosenPaths() const
@@ -64,7 +57,7 @@ public:
     }
 
 private:
-    void add(const std::filesystem::path& path)
+    void add(const fs::path& path)
     {
         WIN32_FILE_ATTRIBUTE_DATA data{};
         ::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data);
@@ -76,22 +69,22 @@ private:
         const std::wstring name = path.filename().wstring();
         const int row = static_cast<int>(m_paths.size());
         m_paths.push_back(path);
-        AddItem(row, Name, name, colourOfAge(path), shellImage(name.c_str(), data.dwFileAttributes));
-        AddItem(row, Size, size, 0, -1);
-        AddItem(row, Changed, time, 0, -1);
+        AddItem(row, kName, name, colourOfAge(path), shellImage(name.c_str(), data.dwFileAttributes));
+        AddItem(row, kSize, size, 0, -1);
+        AddItem(row, kChanged, time, 0, -1);
     }
 
     /// Green, and the fresher the stronger; opaque.
-    static DWORD colourOfAge(const std::filesystem::path& path)
+    static DWORD colourOfAge(const fs::path& path)
     {
         using std::chrono::days;
         std::error_code gone;
-        const auto age = std::chrono::file_clock::now() - std::filesystem::last_write_time(path, gone);
+        const auto age = std::chrono::file_clock::now() - fs::last_write_time(path, gone);
         const double lightness = age < days(1) ? 0.75 : age < days(7) ? 0.87 : age < days(30) ? 0.95 : 1;
         return 0xFF000000 | Colour::hls(Angle::degrees(110), lightness, 0.6).colorref();
     }
 
-    std::vector<std::filesystem::path> m_paths; // by item data
+    std::vector<fs::path> m_paths; // by item data
     COVOListSorter m_sorter;
     COVOListFinder m_finder;
     COVOListCellTips m_tips;

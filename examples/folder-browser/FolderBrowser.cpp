@@ -3,22 +3,9 @@
 #include "resource.h"
 
 #include <ovocor/Text.h>
-
-#include <afxole.h>
-#include <gdiplus.h>
+#include <ovouires/resource.h>
 
 #include <fstream>
-
-namespace fs = std::filesystem;
-
-constexpr int kImage = 16; // pixels at 96 dots per inch, as the width
-constexpr int kTreeWidth = 240;
-constexpr wchar_t kSection[] = L"FolderBrowser"; // of the profile
-
-int scaled(int length)
-{
-    return ::MulDiv(length, CClientDC(nullptr).GetDeviceCaps(LOGPIXELSX), 96);
-}
 
 class BrowserFrame : public CFrameWnd
 {
@@ -30,11 +17,12 @@ public:
         CFrameWnd::RecalcLayout(notify);
         if (!m_list.m_hWnd)
             return;
-        CRect area;
-        RepositionBars(0, 0xFFFF, 0, reposQuery, &area);
-        m_tree.MoveWindow(area.left, area.top, scaled(kTreeWidth), area.Height());
-        m_list.MoveWindow(area.left + scaled(kTreeWidth), area.top, area.Width() - scaled(kTreeWidth),
-                          area.Height());
+        CRect tree;
+        RepositionBars(0, 0xFFFF, 0, reposQuery, &tree);
+        CRect list = tree;
+        tree.right = list.left = tree.left + tree.Width() * 3 / 10;
+        m_tree.MoveWindow(&tree);
+        m_list.MoveWindow(&list);
     }
 
     /// Tab goes from the tree to the list and back.
@@ -58,30 +46,23 @@ protected:
 
     bool createBar()
     {
-        constexpr UINT kCommands[] = {ID_FOLDER_OPEN, ID_FOLDER_UP, ID_FOLDER_REFRESH,
-                                      ID_SEPARATOR,   ID_LIST_SAVE, ID_COPY_ROWS,
-                                      ID_SORT_NAME,   ID_SEPARATOR, ID_INFO_SYSTEM};
-        constexpr int kImages[] = {0, 1, 2, 0, 3, 4, 6, 0, 9};
-        if (!m_bar.CreateEx(this, TBSTYLE_FLAT,
-                            WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_TOOLTIPS | CBRS_FLYBY))
+        const std::vector<ToolBarEntry> entries = {
+            {ID_FOLDER_OPEN, 0},
+            {ID_FOLDER_UP, 1},
+            {ID_FOLDER_REFRESH, 2},
+            {},
+            {ID_LIST_SAVE, 3},
+            {ID_COPY_ROWS, 4, {{ID_COPY_ROWS, 4}, {ID_COPY_PATHS, 5}}},
+            {ID_SORT_NAME, 6, {{ID_SORT_NAME, 6}, {ID_SORT_SIZE, 7}, {ID_SORT_CHANGED, 8}}},
+            {},
+            {ID_INFO_SYSTEM, 9, {{ID_INFO_SYSTEM, 9}, {ID_INFO_MODULES, 10}}}};
+        if (!m_bar.CreateEx(this) ||
+            !setCommands(m_bar, entries, {{IDB_FILES_16, 16}, {IDB_FILES_24, 24}, {IDB_FILES_32, 32}}, 16))
             return false;
-        m_bar.SetButtons(kCommands, std::size(kCommands));
-        for (int i = 0; i < static_cast<int>(std::size(kCommands)); ++i)
-            if (kCommands[i] != ID_SEPARATOR)
-                m_bar.SetButtonInfo(i, kCommands[i], TBBS_BUTTON, kImages[i]);
-        m_bar.UseStrips({{IDB_BAR_16, 16}, {IDB_BAR_24, 24}, {IDB_BAR_32, 32}}, kImage);
-        attachFlyout(5, {ID_COPY_ROWS, ID_COPY_PATHS}, {4, 5});
-        attachFlyout(6, {ID_SORT_NAME, ID_SORT_SIZE, ID_SORT_CHANGED}, {6, 7, 8});
-        attachFlyout(8, {ID_INFO_SYSTEM, ID_INFO_MODULES}, {9, 10});
+        m_bar.SetBarStyle(m_bar.GetBarStyle() | CBRS_TOOLTIPS | CBRS_FLYBY);
         m_bar.ShowFlyoutMarks(true);
-        m_bar.LoadChoices(kSection);
+        m_bar.LoadChoices(FileList::kSection);
         return true;
-    }
-
-    void attachFlyout(int button, const std::vector<int>& commands, const std::vector<int>& images)
-    {
-        const std::vector<int> strips(commands.size(), IDB_BAR_16);
-        m_bar.AttachBar(button, scaled(kImage), commands, strips, images, {}, false, false);
     }
 
     afx_msg void OnFolderChosen(NMHDR*, LRESULT*) { OnRefresh(); }
@@ -121,14 +102,7 @@ protected:
     }
 
     afx_msg void OnCopyRows() { copySelectedRows(m_list, true); }
-
-    afx_msg void OnCopyPaths()
-    {
-        auto* const source = new COleDataSource; // the clipboard's
-        cachePlaintext(*source, m_list.chosenPaths().c_str());
-        source->SetClipboard();
-    }
-
+    afx_msg void OnCopyPaths() { copyPlaintext(m_list.chosenPaths()); }
     afx_msg void OnSort(UINT command) { m_list.sortBy(static_cast<int>(command - ID_SORT_NAME)); }
 
     afx_msg void OnSystemInfo()
@@ -150,12 +124,13 @@ protected:
     afx_msg void OnClose()
     {
         m_list.saveLayout();
-        m_bar.SaveChoices(kSection);
+        m_bar.SaveChoices(FileList::kSection);
         CFrameWnd::OnClose();
     }
     DECLARE_MESSAGE_MAP()
 
 private:
+    CGdiPlusSession m_gdiPlus; // for the images of the bar
     FolderTree m_tree;
     FileList m_list;
     CVantorToolBar m_bar;
@@ -188,21 +163,14 @@ class BrowserApp : public CWinApp
     {
         SetRegistryKey(L"ovoui examples");
         AfxOleInit();
-        const Gdiplus::GdiplusStartupInput input;
-        Gdiplus::GdiplusStartup(&m_gdiPlus, &input, nullptr);
         auto* const frame = new BrowserFrame; // deletes itself with its window
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAIN_FRAME))
             return FALSE;
         frame->open(__argc > 1 ? fs::path(__wargv[1]) : fs::current_path());
-        frame->SetWindowPos(nullptr, 0, 0, scaled(800), scaled(420), SWP_NOMOVE | SWP_NOZORDER);
+        const int inch = CClientDC(nullptr).GetDeviceCaps(LOGPIXELSX);
+        frame->SetWindowPos(nullptr, 0, 0, 8 * inch, 4 * inch, SWP_NOMOVE | SWP_NOZORDER);
         frame->ShowWindow(m_nCmdShow);
         return TRUE;
     }
-    int ExitInstance() override
-    {
-        Gdiplus::GdiplusShutdown(m_gdiPlus);
-        return CWinApp::ExitInstance();
-    }
-    ULONG_PTR m_gdiPlus = 0;
 } theApp;

@@ -3,37 +3,19 @@
 
 #include <ovoui/ovoui.h>
 
-#include <shellapi.h>
-
 #include <filesystem>
 
-constexpr UINT kShellSmall = SHGFI_SMALLICON | SHGFI_USEFILEATTRIBUTES | SHGFI_SYSICONINDEX;
-
-/// The shell's small images, in a list that is the system's.
-inline CImageList* shellImages()
-{
-    SHFILEINFOW info{};
-    return CImageList::FromHandle(
-        reinterpret_cast<HIMAGELIST>(::SHGetFileInfoW(L"", 0, &info, sizeof info, kShellSmall)));
-}
-
-/// The one for a name, by its kind alone.
-inline int shellImage(const wchar_t* name, DWORD attributes, UINT how = 0)
-{
-    SHFILEINFOW info{};
-    ::SHGetFileInfoW(name, attributes, &info, sizeof info, kShellSmall | how);
-    return info.iIcon;
-}
+namespace fs = std::filesystem;
 
 class FolderNode : public MultiTreeCtrl::Node
 {
 public:
-    explicit FolderNode(std::filesystem::path path)
+    explicit FolderNode(fs::path path)
         : m_path(std::move(path))
     {
         children = 1; // until opening it shows that there are none
     }
-    const std::filesystem::path& path() const { return m_path; }
+    const fs::path& path() const { return m_path; }
 
     std::wstring text(const MultiTreeCtrl&) const override
     {
@@ -41,21 +23,21 @@ public:
     }
     std::wstring infotip(MultiTreeCtrl&) const override { return m_path.wstring(); }
     int closedImage() const override { return shellImage(L"folder", FILE_ATTRIBUTE_DIRECTORY); }
-    int openImage() const override { return shellImage(L"folder", FILE_ATTRIBUTE_DIRECTORY, SHGFI_OPENICON); }
+    int openImage() const override { return shellImage(L"folder", FILE_ATTRIBUTE_DIRECTORY, true); }
     void activate(MultiTreeCtrl& tree) override { tree.Expand(hTreeItem(), TVE_TOGGLE); }
 
     /// What is thrown here is reported by the tree, and the folder stays closed.
     bool expand(MultiTreeCtrl& tree) override
     {
         children = 0;
-        for (const auto& entry : std::filesystem::directory_iterator(m_path))
+        for (const auto& entry : fs::directory_iterator(m_path))
             if (entry.is_directory())
                 children = (new FolderNode(entry.path()))->insert(tree, hTreeItem(), TVI_SORT) ? 1 : 0;
         return true;
     }
 
 private:
-    std::filesystem::path m_path;
+    fs::path m_path;
 };
 
 class FolderTree : public MultiTreeCtrl
@@ -68,14 +50,14 @@ public:
     bool isCommandDisabled(unsigned) override { return false; }
 
     /// The folder that the caret is on; empty for none.
-    std::filesystem::path folder() const
+    fs::path folder() const
     {
         const auto caret = node(GetSelectedItem());
-        return caret ? static_cast<FolderNode&>(*caret).path() : std::filesystem::path();
+        return caret ? static_cast<FolderNode&>(*caret).path() : fs::path();
     }
 
     /// Shows the folders below this one.
-    void open(const std::filesystem::path& root)
+    void open(const fs::path& root)
     {
         DeleteAllItems();
         const HTREEITEM item = (new FolderNode(root))->insert(*this, TVI_ROOT, TVI_LAST);

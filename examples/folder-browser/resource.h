@@ -1,9 +1,6 @@
 #pragma once
 
 #define IDR_MAIN_FRAME 101
-#define IDB_BAR_16 111
-#define IDB_BAR_24 112
-#define IDB_BAR_32 113
 #define IDC_TREE 1001
 #define IDC_LIST 1002
 

@@ -45,32 +45,3 @@ inline void writePalette(const std::filesystem::path& path, const Palette& palet
     for (const NamedColour& entry : palette)
         file << getMBS(ovoui::colour::textOfColour(entry.colour) + L' ' + entry.name) << '\n';
 }
-
-/// What was there after each gesture of the user, to go back and forward.
-class PaletteHistory
-{
-public:
-    explicit PaletteHistory(Palette first)
-        : m_steps{std::move(first)}
-    {
-    }
-
-    const Palette& present() const { return m_steps[m_present]; }
-
-    /// Forgets what was undone.
-    void keep(const Palette& palette)
-    {
-        m_steps.resize(m_present + 1);
-        m_steps.push_back(palette);
-        ++m_present;
-    }
-
-    bool canUndo() const { return m_present > 0; }
-    bool canRedo() const { return m_present + 1 < m_steps.size(); }
-    void undo() { m_present -= canUndo() ? 1 : 0; }
-    void redo() { m_present += canRedo() ? 1 : 0; }
-
-private:
-    std::vector<Palette> m_steps;
-    std::size_t m_present = 0;
-};

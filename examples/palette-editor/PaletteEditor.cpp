@@ -6,7 +6,6 @@
 #include <ovouires/resource.h>
 
 #include <afxole.h>
-#include <gdiplus.h>
 
 class PaletteEditor : public ColPickerDlgBase
 {
@@ -27,13 +26,9 @@ protected:
         ColPickerDlgBase::OnInitDialog();
         attachList();
         attachButtons();
-        CRect place;
-        GetDlgItem(IDC_TURN)->GetWindowRect(&place);
-        GetDlgItem(IDC_TURN)->DestroyWindow();
-        ScreenToClient(&place);
         m_turn.SetTicks(30);
         m_turn.UseKeyboard(true);
-        m_turn.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, place, this, IDC_TURN);
+        createInPlace(m_turn, *this, IDC_TURN);
         m_grid.createInPlace(*this, IDC_GRID);
         showPalette(0);
         m_list.SetFocus();
@@ -42,18 +37,11 @@ protected:
 
     void attachList()
     {
-        constexpr int kColumn = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT | LVCF_SUBITEM;
         m_list.SubclassDlgItem(IDC_LIST, this);
         m_list.UseRowColours(TRUE);
-        m_list.AddColumn(L"Name", 0, -1, false, kColumn, LVCFMT_LEFT);
-        m_list.AddColumn(L"Colour", 1, -1, true, kColumn, LVCFMT_LEFT);
-        m_list.AddColumn(L"On white", 2, -1, false, kColumn, LVCFMT_RIGHT);
-        CRect client;
-        m_list.GetClientRect(&client);
-        const int scroll = ::GetSystemMetrics(SM_CXVSCROLL);
-        for (const int column : {0, 1, 2})
-            m_list.SetColumnWidth(column, (client.Width() - scroll) * (column == 2 ? 26 : 37) / 100);
-        m_list.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
+        addColumns(m_list, {{.heading = L"Name", .sample = L"A short name"},
+                            {.heading = L"Colour", .sample = L"#FFBF00 ##", .showsColour = true},
+                            {.heading = L"On white", .sample = L"99.9", .format = LVCFMT_RIGHT}});
         m_copier.Attach(m_list, true);
     }
 
@@ -91,7 +79,6 @@ protected:
             const Colour& colour = m_palette[i].colour;
             CString contrast;
             contrast.Format(L"%.1f", ovoui::colour::contrast(colour, Colour::rgb(1, 1, 1)));
-            m_list.setColour(i, 0xFF000000 | colour.colorref());
             m_list.AddItem(i, 1, ovoui::colour::textOfColour(colour), 0, -1);
             m_list.AddItem(i, 2, contrast.GetString(), 0, -1);
             codes.push_back(colour.colorref());
@@ -175,11 +162,9 @@ protected:
         keep(row);
     }
 
-    afx_msg void OnUp() { move(-1); }
-    afx_msg void OnDown() { move(1); }
-    void move(int by)
+    afx_msg void OnMove(UINT command)
     {
-        const int from = current(), to = from + by;
+        const int from = current(), to = command == IDC_UP ? from - 1 : from + 1;
         if (from < 0 || to < 0 || to >= count())
             return;
         std::swap(m_palette[from], m_palette[to]);
@@ -204,18 +189,9 @@ protected:
 
     afx_msg void OnGrid() { showPalette(m_grid.Current()); }
 
-    afx_msg void OnUndo()
+    afx_msg void OnHistory(UINT command)
     {
-        m_history.undo();
-        showHistory();
-    }
-    afx_msg void OnRedo()
-    {
-        m_history.redo();
-        showHistory();
-    }
-    void showHistory()
-    {
+        command == IDC_UNDO ? m_history.undo() : m_history.redo();
         m_palette = m_history.present();
         showPalette(std::max(current(), 0));
     }
@@ -238,22 +214,17 @@ protected:
     /// Ctrl+Z and Ctrl+Y, unless something is being typed; Delete in the list.
     BOOL PreTranslateMessage(MSG* message) override
     {
-        const UINT command = message->message == WM_KEYDOWN ? commandOf(message->wParam) : 0;
-        if (!command)
-            return ColPickerDlgBase::PreTranslateMessage(message);
-        SendMessage(WM_COMMAND, command);
-        return TRUE;
+        const bool isTyping = ::SendMessageW(::GetFocus(), EM_CANUNDO, 0, 0);
+        const UINT command = message->message == WM_KEYDOWN && !isTyping ? commandOf(message->wParam) : 0;
+        if (command)
+            SendMessage(WM_COMMAND, command);
+        return command || ColPickerDlgBase::PreTranslateMessage(message);
     }
 
     UINT commandOf(WPARAM key)
     {
-        const bool control = ::GetKeyState(VK_CONTROL) < 0;
-        if (::SendMessageW(::GetFocus(), EM_CANUNDO, 0, 0))
-            return 0;
-        if (control && key == 'Z')
-            return IDC_UNDO;
-        if (control && key == 'Y')
-            return IDC_REDO;
+        if (::GetKeyState(VK_CONTROL) < 0)
+            return key == 'Z' ? IDC_UNDO : key == 'Y' ? IDC_REDO : 0;
         return key == VK_DELETE && ::GetFocus() == m_list.m_hWnd ? IDC_REMOVE : 0;
     }
 
@@ -268,22 +239,20 @@ private:
     class ColourList : public COVOListCtrlEx
     {
     public:
-        void setColour(int row, DWORD colour)
+        explicit ColourList(const Palette& palette)
+            : m_palette(palette)
         {
-            m_colours.resize(std::max(m_colours.size(), static_cast<std::size_t>(row) + 1));
-            m_colours[row] = colour;
         }
 
-    protected:
-        DWORD rowColour(int row) override { return m_colours[row]; }
-
     private:
-        std::vector<DWORD> m_colours;
+        DWORD rowColour(int row) override { return 0xFF000000 | m_palette[row].colour.colorref(); }
+
+        const Palette& m_palette;
     };
 
     Palette m_palette; // as it is in the middle of a gesture
-    PaletteHistory m_history;
-    ColourList m_list;
+    UndoHistory<Palette> m_history;
+    ColourList m_list{m_palette};
     COVOListCopier m_copier;
     CAlphaImageButton m_buttons[4];
     CDialSlider m_turn;
@@ -296,10 +265,8 @@ BEGIN_MESSAGE_MAP(PaletteEditor, ColPickerDlgBase)
     ON_WM_HSCROLL()
     ON_BN_CLICKED(IDC_ADD, &PaletteEditor::OnAdd)
     ON_BN_CLICKED(IDC_REMOVE, &PaletteEditor::OnRemove)
-    ON_BN_CLICKED(IDC_UP, &PaletteEditor::OnUp)
-    ON_BN_CLICKED(IDC_DOWN, &PaletteEditor::OnDown)
-    ON_BN_CLICKED(IDC_UNDO, &PaletteEditor::OnUndo)
-    ON_BN_CLICKED(IDC_REDO, &PaletteEditor::OnRedo)
+    ON_COMMAND_RANGE(IDC_UP, IDC_DOWN, &PaletteEditor::OnMove)
+    ON_COMMAND_RANGE(IDC_UNDO, IDC_REDO, &PaletteEditor::OnHistory)
     ON_BN_CLICKED(IDC_OPEN, &PaletteEditor::OnOpen)
     ON_BN_CLICKED(IDC_SAVE, &PaletteEditor::OnSave)
     ON_NOTIFY(LVN_ENDLABELEDITW, IDC_LIST, &PaletteEditor::OnRenamed)
@@ -313,11 +280,8 @@ class PaletteApp : public CWinApp
     {
         SetRegistryKey(L"ovoui examples");
         AfxOleInit(); // for the clipboard
-        ULONG_PTR gdiPlus = 0;
-        const Gdiplus::GdiplusStartupInput input;
-        Gdiplus::GdiplusStartup(&gdiPlus, &input, nullptr);
+        const CGdiPlusSession gdiPlus;
         PaletteEditor(*this, __argc > 1 ? readPalette(__wargv[1]) : firstPalette()).DoModal();
-        Gdiplus::GdiplusShutdown(gdiPlus);
         return FALSE;
     }
 } theApp;

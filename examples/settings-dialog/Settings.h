@@ -18,13 +18,14 @@ struct Settings
     /// From the profile, or into it.
     void exchange(bool saving)
     {
-        text(saving, L"Font", font);
-        number(saving, L"Points", points, 10);
-        number(saving, L"Ink", ink, 1);
-        number(saving, L"Paper", paper, 1);
-        text(saving, L"Mark", mark);
-        number(saving, L"Strength", strength, 1000);
-        number(saving, L"Angle", angle, 1);
+        const ProfileExchange entry(L"Reading", saving);
+        entry(L"Font", font);
+        entry(L"Points", points);
+        entry(L"Ink", ink);
+        entry(L"Paper", paper);
+        entry(L"Mark", mark);
+        entry(L"Strength", strength);
+        entry(L"Angle", angle);
     }
 
     void draw(CDC& dc, const CRect& page, const CString& text) const
@@ -45,29 +46,6 @@ struct Settings
     }
 
 private:
-    static constexpr wchar_t kSection[] = L"Reading";
-
-    static void text(bool saving, LPCWSTR entry, CString& value)
-    {
-        if (saving)
-            AfxGetApp()->WriteProfileString(kSection, entry, value);
-        else
-            value = AfxGetApp()->GetProfileString(kSection, entry, value);
-    }
-
-    /// The profile has whole numbers: so many times the value.
-    template <class Number>
-    static void number(bool saving, LPCWSTR entry, Number& value, int times)
-    {
-        const int whole = static_cast<int>(std::lround(1.0 * value * times));
-        if (saving)
-            AfxGetApp()->WriteProfileInt(kSection, entry, whole);
-        else
-            value =
-                static_cast<Number>(static_cast<int>(AfxGetApp()->GetProfileInt(kSection, entry, whole))) /
-                times;
-    }
-
     /// In the middle of the page, in a colour between paper and ink.
     void drawMark(CDC& dc, const CRect& page, int height) const
     {

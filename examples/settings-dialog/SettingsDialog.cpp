@@ -3,29 +3,13 @@
 #include "Settings.h"
 #include "resource.h"
 
-#include <gdiplus.h>
-
-#include <set>
-
-constexpr UINT kChanged = WM_APP; // a page tells the dialog; no parameters
-
-/// A page on the tab control, which shows through it. What is changed on it is seen at once.
-class Page : public CDialog
+/// A page on the tab control. What is changed on it is seen at once.
+class Page : public CShadedTabPage
 {
 public:
     explicit Page(Settings& settings)
         : m_settings(settings)
     {
-    }
-
-    void create(CTabCtrl& tabs, UINT id, LPCWSTR title)
-    {
-        CRect place;
-        tabs.InsertItem(tabs.GetItemCount(), title);
-        tabs.GetClientRect(&place);
-        tabs.AdjustRect(FALSE, &place);
-        Create(id, &tabs);
-        MoveWindow(&place);
     }
 
 protected:
@@ -49,25 +33,17 @@ protected:
         if (!IsWindowVisible())
             return; // it is being filled
         take();
-        GetParent()->GetParent()->SendMessage(kChanged);
+        GetTopLevelParent()->GetDlgItem(IDC_PREVIEW)->Invalidate(FALSE);
     }
-
-    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type)
-    {
-        return CShadedTabCtrl::AmendCtlColor(dc, control, type, CDialog::OnCtlColor(dc, control, type));
-    }
-    void OnOK() override {} // Enter and Escape are the dialog's
-    void OnCancel() override {}
     DECLARE_MESSAGE_MAP()
 
     Settings& m_settings;
 };
 
-BEGIN_MESSAGE_MAP(Page, CDialog)
+BEGIN_MESSAGE_MAP(Page, CShadedTabPage)
     ON_CONTROL_RANGE(EN_CHANGE, 1, 0xFFFE, &Page::OnChange)
     ON_CONTROL_RANGE(CBN_SELENDOK, 1, 0xFFFE, &Page::OnChange)
     ON_CONTROL_RANGE(CColourButton::kChosen, 1, 0xFFFE, &Page::OnChange)
-    ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
 class TextPage : public Page
@@ -82,22 +58,16 @@ protected:
         m_size.SetTicks({8, 10, 12, 16, 24, 36, 48});
         m_font.SubclassDlgItem(IDC_FONT, this);
         m_font.SearchInside(true);
-        for (const std::wstring& name : fonts())
-            m_font.AddString(name.c_str());
+        ::EnumFontFamiliesW(CClientDC(this).m_hDC, nullptr, addFont, reinterpret_cast<LPARAM>(&m_font));
         resizeCombo(m_font, 10);
-        return CDialog::OnInitDialog();
+        return CShadedTabPage::OnInitDialog();
     }
 
-    std::set<std::wstring> fonts()
+    static int CALLBACK addFont(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM combo)
     {
-        std::set<std::wstring> names;
-        const auto add = [](const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM list) {
-            if (font->lfFaceName[0] != L'@') // those are for vertical lines
-                reinterpret_cast<std::set<std::wstring>*>(list)->insert(font->lfFaceName);
-            return 1;
-        };
-        ::EnumFontFamiliesW(CClientDC(this).m_hDC, nullptr, add, reinterpret_cast<LPARAM>(&names));
-        return names;
+        if (font->lfFaceName[0] != L'@') // those are for vertical lines
+            reinterpret_cast<COVOComboBox*>(combo)->AddString(font->lfFaceName);
+        return 1;
     }
 
     void DoDataExchange(CDataExchange* exchange) override
@@ -128,7 +98,7 @@ protected:
     {
         m_ink.SubclassDlgItem(IDC_INK, this);
         m_paper.SubclassDlgItem(IDC_PAPER, this);
-        CDialog::OnInitDialog();
+        CShadedTabPage::OnInitDialog();
         take();
         return TRUE;
     }
@@ -162,15 +132,11 @@ protected:
     BOOL OnInitDialog() override
     {
         attach(m_strength, IDC_STRENGTH, CSliderButton::SliderLinear, 0, 1, 2);
-        CRect place;
-        GetDlgItem(IDC_ANGLE)->GetWindowRect(&place);
-        GetDlgItem(IDC_ANGLE)->DestroyWindow();
-        ScreenToClient(&place);
         m_angle.SetStops(-90, 90);
         m_angle.SetTicks(30);
         m_angle.UseKeyboard(true);
-        m_angle.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, place, this, IDC_ANGLE);
-        return CDialog::OnInitDialog();
+        createInPlace(m_angle, *this, IDC_ANGLE);
+        return CShadedTabPage::OnInitDialog();
     }
 
     void DoDataExchange(CDataExchange* exchange) override
@@ -218,10 +184,9 @@ protected:
     {
         COVOModalDialog::OnInitDialog();
         m_tabs.SubclassDlgItem(IDC_TABS, this);
-        m_text.create(m_tabs, IDD_TEXT, L"Text");
-        m_colours.create(m_tabs, IDD_COLOURS, L"Colours");
-        m_mark.create(m_tabs, IDD_MARK, L"Mark");
-        m_text.ShowWindow(SW_SHOW);
+        m_text.AddTo(m_tabs, IDD_TEXT, L"Text");
+        m_colours.AddTo(m_tabs, IDD_COLOURS, L"Colours");
+        m_mark.AddTo(m_tabs, IDD_MARK, L"Mark");
         return TRUE;
     }
 
@@ -231,18 +196,7 @@ protected:
         return PreTranslateTabControl(*message, m_tabs) || COVOModalDialog::PreTranslateMessage(message);
     }
 
-    afx_msg void OnTab(NMHDR*, LRESULT*)
-    {
-        Page* const pages[] = {&m_text, &m_colours, &m_mark};
-        for (int i = 0; i < static_cast<int>(std::size(pages)); ++i)
-            pages[i]->ShowWindow(i == m_tabs.GetCurSel() ? SW_SHOW : SW_HIDE);
-    }
-
-    afx_msg LRESULT OnSettingChanged(WPARAM, LPARAM)
-    {
-        GetDlgItem(IDC_PREVIEW)->Invalidate(FALSE);
-        return 0;
-    }
+    afx_msg void OnTab(NMHDR*, LRESULT*) { CShadedTabPage::ShowChosen(m_tabs); }
 
     afx_msg void OnDrawItem(int, DRAWITEMSTRUCT* item)
     {
@@ -271,7 +225,6 @@ private:
 
 BEGIN_MESSAGE_MAP(SettingsDialog, COVOModalDialog)
     ON_NOTIFY(TCN_SELCHANGE, IDC_TABS, &SettingsDialog::OnTab)
-    ON_MESSAGE(kChanged, &SettingsDialog::OnSettingChanged)
     ON_WM_DRAWITEM()
 END_MESSAGE_MAP()
 
@@ -280,16 +233,13 @@ class SettingsApp : public CWinApp
     BOOL InitInstance() override
     {
         SetRegistryKey(L"ovoui examples");
-        ULONG_PTR gdiPlus = 0;
-        const Gdiplus::GdiplusStartupInput input;
-        Gdiplus::GdiplusStartup(&gdiPlus, &input, nullptr); // for the dialog behind the colour buttons
+        const CGdiPlusSession gdiPlus; // for the dialog behind the colour buttons
         Settings settings;
         settings.exchange(false);
         SettingsDialog dialog(settings);
         m_pMainWnd = &dialog;
         if (dialog.DoModal() == IDOK)
             settings.exchange(true);
-        Gdiplus::GdiplusShutdown(gdiPlus);
         return FALSE;
     }
 } theApp;

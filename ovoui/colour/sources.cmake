@@ -48,4 +48,5 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ColourWheelImage.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Magnifier.cpp
   ${CMAKE_CURRENT_LIST_DIR}/PickerStop.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/ShadedTabCtrl.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/ShadedTabCtrl.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ShadedTabPage.cpp)

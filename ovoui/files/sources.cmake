@@ -25,5 +25,6 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/FileDialogFolders.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FileDialogImp.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FilePicker.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ShellImages.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ShellPaths.cpp)
 target_link_libraries(ovoui PRIVATE shlwapi)

@@ -44,6 +44,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/NonClientMetrics.cpp
   ${CMAKE_CURRENT_LIST_DIR}/OwnWindow.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Platform.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ProfileExchange.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ProfileSection.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ProgressBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ProgressBoxDlg.cpp

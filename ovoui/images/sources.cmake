@@ -24,6 +24,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/AlphaImageButton.cpp
   ${CMAKE_CURRENT_LIST_DIR}/AlphaImageList.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DisabledStrip.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/GdiPlusSession.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ImageStrips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ResolutionWatch.cpp
   ${CMAKE_CURRENT_LIST_DIR}/StripPainter.cpp

@@ -37,6 +37,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/EmphasisedText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCellTips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCells.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ListColumns.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCopier.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListCtrlEx.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListFinder.cpp

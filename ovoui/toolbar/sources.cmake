@@ -30,6 +30,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarAccess.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarButtons.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarChoices.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ToolBarCommands.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarFlyouts.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarGesture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ToolBarKeyboard.cpp

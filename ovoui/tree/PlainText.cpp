@@ -6,3 +6,8 @@ void cachePlaintext(COleDataSource& source, const std::wstring& text)
 {
     ovoui::frame::offerText(source, text);
 }
+
+void copyPlaintext(const std::wstring& text)
+{
+    ovoui::frame::copyByOle(text);
+}

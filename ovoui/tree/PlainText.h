@@ -10,3 +10,7 @@ class COleDataSource;
 /// Offers `text` on `source` as Unicode text (CF_UNICODETEXT) and in the ANSI code page (CF_TEXT). A format
 /// for which there is no memory is left out.
 OVOUI_API void cachePlaintext(COleDataSource& source, const std::wstring& text);
+
+/// Puts `text` on the clipboard in the same formats, for hosts that have called AfxOleInit. Tries again for a
+/// moment while another program has the clipboard open, and throws OvoError when that does not end.
+OVOUI_API void copyPlaintext(const std::wstring& text);

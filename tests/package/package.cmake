@@ -7,7 +7,6 @@
 set(work ${BUILD}/package-test)
 set(place "${work}/Größe und Maß")
 set(host ${ROOT}/tests/package/host)
-set(toolchain ${ROOT}/cmake/mingw-w64.cmake)
 file(REMOVE_RECURSE ${work})
 file(COPY ${host}/ DESTINATION ${work}/source)
 
@@ -70,6 +69,7 @@ if(NOT ARCHIVE)
 endif()
 file(ARCHIVE_EXTRACT INPUT ${ARCHIVE} DESTINATION ${place})
 file(GLOB prefix ${place}/*)
+set(toolchain ${prefix}/lib/cmake/ovoui/mingw-w64.cmake)
 include(${prefix}/lib/cmake/ovoui/ovouiConfigVersion.cmake)
 run(${ROOT}/tests/package/check-archive ${ROOT} ${prefix} ${PACKAGE_VERSION} ${whole})
 
