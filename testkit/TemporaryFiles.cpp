@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <gtest/gtest.h>
+
 #include <fstream>
 #include <string>
 
@@ -32,7 +34,8 @@ void TemporaryFiles::addFile(const std::wstring& name) const
 {
     const fs::path path = m_folder / name;
     fs::create_directories(path.parent_path());
-    std::ofstream(path) << ' ';
+    if (!std::ofstream(path).put(' '))
+        ADD_FAILURE() << path.string() << " cannot be made";
 }
 
 void TemporaryFiles::addFolder(const std::wstring& name) const

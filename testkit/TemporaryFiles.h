@@ -22,9 +22,9 @@ public:
     /// The path of `name` in it.
     std::wstring path(const std::wstring& name) const { return (m_folder / name).wstring(); }
 
-    /// Makes another file, `name`, with the folders in front.
+    /// Makes another file, `name`, with the folders in front. The test fails when it cannot be made.
     void addFile(const std::wstring& name) const;
-    /// Makes a folder, `name`.
+    /// Makes a folder, `name`. Throws std::filesystem::filesystem_error when it cannot be made.
     void addFolder(const std::wstring& name) const;
 
 private:

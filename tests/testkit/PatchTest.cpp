@@ -4,9 +4,11 @@
 
 #include <afxwin.h>
 
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <optional>
 
 using namespace ovo::testkit;
 
@@ -56,6 +58,22 @@ TEST(DebugOutput, TakesDownWhatIsWritten)
     ::OutputDebugStringW(L"another");
     EXPECT_EQ(output.count(L"a leaf"), 1);
     EXPECT_EQ(output.lines().size(), 2U);
+}
+
+TEST(DebugOutput, HearsNothingAfterItsEnd)
+{
+    std::optional<DebugOutput> output(std::in_place);
+    const std::vector<std::wstring>& lines = output->lines(); // of all objects of the class
+    output.reset();
+    ::OutputDebugStringW(L"unheard");
+    EXPECT_TRUE(lines.empty());
+}
+
+TEST(TemporaryFiles, ThatCannotBeMadeFailTheTest)
+{
+    const TemporaryFiles files{L"beds\\roses.txt"};
+    EXPECT_NONFATAL_FAILURE(files.addFile(L"beds"), "beds cannot be made");
+    EXPECT_THROW(files.addFolder(L"beds\\roses.txt"), std::filesystem::filesystem_error);
 }
 
 TEST(TemporaryFiles, AreGoneAfterwards)

@@ -5,6 +5,8 @@
 #include <objidl.h>
 #include <gdiplus.h>
 
+#include <gtest/gtest-spi.h>
+
 #include <filesystem>
 
 using namespace ovo::testkit;
@@ -52,6 +54,13 @@ TEST(Picture, BeginsInOneColour)
     EXPECT_EQ(picture.height(), 5);
     EXPECT_THAT(picture.at(0, 0), IsColour(kBlue));
     EXPECT_EQ(picture.count(kBlue), 40);
+}
+
+TEST(Picture, OfAnotherColourFailsTheTestAndSaysWhich)
+{
+    const Picture picture{12, 9, RGB(10, 20, 30)};
+    EXPECT_NONFATAL_FAILURE(EXPECT_THAT(picture.at(0, 0), IsColour(RGB(10, 20, 31))),
+                            "red 10, green 20, blue 30");
 }
 
 TEST(Picture, ShowsWhatIsDrawnFromTheTopLeft)
