@@ -1,11 +1,14 @@
 #include "Watchdog.h"
+#include "CallStack.h"
 #include "Snapshot.h"
 
 #include <windows.h>
 
 #include <atomic>
+#include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 namespace ovo::testkit
 {
@@ -16,6 +19,7 @@ namespace
 constexpr UINT kHung = 3;
 std::atomic<Watchdog*> g_watchdog{nullptr};
 constexpr DWORD kSnapshotLimit = 15000; // milliseconds
+HANDLE g_watched = nullptr;             ///< the thread that runs the tests
 
 std::chrono::seconds limitFromEnvironment()
 {
@@ -30,6 +34,38 @@ DWORD WINAPI snapshotThread(void* reason)
     return 0;
 }
 
+DWORD WINAPI callsThread(void*)
+{
+    const std::string calls = describeCalls(g_watched);
+    std::fprintf(stderr, "the test is in these calls:\n%s", calls.c_str());
+    std::fflush(stderr);
+    return 0;
+}
+
+DWORD WINAPI storyThread(void* story)
+{
+    const std::string text = (*static_cast<const std::function<std::string()>*>(story))();
+    std::fprintf(stderr, "%s\n", text.c_str());
+    std::fflush(stderr);
+    return 0;
+}
+
+/// In a thread of its own, since what keeps the test from going on may keep it as well.
+void runApart(LPTHREAD_START_ROUTINE work, void* argument)
+{
+    const HANDLE thread = ::CreateThread(nullptr, 0, work, argument, 0, nullptr);
+    ::WaitForSingleObject(thread, kSnapshotLimit);
+}
+
+/// A handle of the calling thread that other threads can use.
+HANDLE ownThread()
+{
+    HANDLE thread = nullptr;
+    const HANDLE process = ::GetCurrentProcess();
+    ::DuplicateHandle(process, ::GetCurrentThread(), process, &thread, 0, FALSE, DUPLICATE_SAME_ACCESS);
+    return thread;
+}
+
 } // namespace
 
 Watchdog::Watchdog()
@@ -37,6 +73,7 @@ Watchdog::Watchdog()
     , m_thread([this] { watch(); })
 {
     g_watchdog = this;
+    g_watched = ownThread();
 }
 
 Watchdog::~Watchdog()
@@ -48,6 +85,7 @@ Watchdog::~Watchdog()
     }
     m_changed.notify_one();
     m_thread.join();
+    ::CloseHandle(g_watched);
 }
 
 void Watchdog::begin()
@@ -63,6 +101,16 @@ void Watchdog::end()
 {
     const std::lock_guard guard{m_lock};
     m_deadline = Clock::time_point::max();
+    m_story = nullptr;
+}
+
+void Watchdog::tellWhenHung(std::function<std::string()> story)
+{
+    Watchdog* const watchdog = g_watchdog;
+    if (!watchdog)
+        return;
+    const std::lock_guard guard{watchdog->m_lock};
+    watchdog->m_story = std::move(story);
 }
 
 void Watchdog::progress()
@@ -82,20 +130,20 @@ void Watchdog::watch()
         if (m_deadline == Clock::time_point::max())
             m_changed.wait(guard);
         else if (Clock::now() >= m_deadline)
-            bite(m_limit);
+            bite();
         else
             m_changed.wait_until(guard, m_deadline);
     }
 }
 
-// The snapshot is taken in a further thread, since what keeps the test from going on may keep it as well.
-void Watchdog::bite(std::chrono::seconds limit)
+void Watchdog::bite()
 {
     static const std::string reason = "watchdog: the test has not ended within " +
-                                      std::to_string(limit.count()) + " s; the program is ended";
-    const HANDLE thread =
-        ::CreateThread(nullptr, 0, snapshotThread, const_cast<std::string*>(&reason), 0, nullptr);
-    ::WaitForSingleObject(thread, kSnapshotLimit);
+                                      std::to_string(m_limit.count()) + " s; the program is ended";
+    runApart(snapshotThread, const_cast<std::string*>(&reason));
+    runApart(callsThread, nullptr);
+    if (m_story)
+        runApart(storyThread, &m_story);
     ::TerminateProcess(::GetCurrentProcess(), kHung);
     std::abort();
 }

@@ -2,15 +2,17 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <functional>
 #include <mutex>
+#include <string>
 #include <thread>
 
 namespace ovo::testkit
 {
 
-/// Ends the program when a test hangs: takes a snapshot first, then exits with failure. The limit is two
-/// minutes for a test, and again for each step of its stories; the environment variable OVO_TEST_LIMIT sets
-/// another number of seconds.
+/// Ends the program when a test hangs: takes a snapshot and names the calls that the thread is in which has
+/// made the watchdog, then exits with failure. The limit is two minutes for a test, and again for each step
+/// of its stories; the environment variable OVO_TEST_LIMIT sets another number of seconds.
 class Watchdog
 {
 public:
@@ -25,18 +27,23 @@ public:
     /// Stops counting.
     void end();
 
+    /// What is to be told beside the rest when a test hangs, such as what it has done last. Asked from
+    /// another thread, while the test's hangs. Until the test is over.
+    static void tellWhenHung(std::function<std::string()> story);
+
     /// The running test is getting on, however slowly: counts anew. Any thread.
     static void progress();
 
 private:
     void watch();
-    [[noreturn]] static void bite(std::chrono::seconds limit);
+    [[noreturn]] void bite();
 
     using Clock = std::chrono::steady_clock;
 
     const std::chrono::seconds m_limit;
     std::mutex m_lock;
     std::condition_variable m_changed;
+    std::function<std::string()> m_story; ///< of the running test
     Clock::time_point m_deadline = Clock::time_point::max();
     bool m_leaving = false;
     std::thread m_thread; // last: it uses all of the above

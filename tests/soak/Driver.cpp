@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <stdexcept>
 
 namespace
 {
@@ -72,10 +73,15 @@ void setKey(WORD key, bool down)
 
 } // namespace
 
-Driver::Driver(GalleryFrame& frame, unsigned seed)
+Driver::Driver(GalleryFrame& frame, unsigned seed, const std::wstring& onlyPage)
     : m_frame(frame)
     , m_random(seed)
 {
+    for (const PageEntry& entry : pageTable())
+        if (onlyPage.empty() || entry.name == onlyPage)
+            m_table.push_back(&entry);
+    if (m_table.empty())
+        throw std::invalid_argument("no page has this name");
     CreateEx(0, AfxRegisterWndClass(0), L"", 0, CRect(), CWnd::FromHandle(HWND_MESSAGE), 0);
 }
 
@@ -317,9 +323,8 @@ void Driver::pushButton(HWND target)
 
 void Driver::openPage()
 {
-    const PageEntry& entry = pageTable()[m_pages++ % pageTable().size()];
     note(L"page", m_frame);
-    m_frame.openPage(entry);
+    m_frame.openPage(*m_table[m_pages++ % m_table.size()]);
 }
 
 void Driver::showPose()

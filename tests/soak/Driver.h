@@ -21,11 +21,13 @@
 #include <vector>
 
 class GalleryFrame;
+struct PageEntry;
 
 class Driver : private CWnd
 {
 public:
-    Driver(GalleryFrame& frame, unsigned seed);
+    /// Opens one page alone when it is named, else all.
+    Driver(GalleryFrame& frame, unsigned seed, const std::wstring& onlyPage);
     ~Driver() override;
 
     /// Begins a batch of so many inputs.
@@ -81,8 +83,9 @@ private:
     bool m_active = false;
     int m_left = 0;
     int m_done = 0;
-    int m_closing = 0;  ///< attempts since the batch was over
-    size_t m_pages = 0; ///< that were opened, in the order of the table
+    int m_closing = 0;                     ///< attempts since the batch was over
+    std::vector<const PageEntry*> m_table; ///< the pages to open
+    size_t m_pages = 0;                    ///< that were opened, in the order of the table
     Reach m_reach;
     std::deque<std::wstring> m_story;
 };

@@ -183,6 +183,8 @@ protected:
 TEST_P(Faults, NoCallThatFailsDoesHarm)
 {
     m_parent.ShowWindow(SW_SHOWNOACTIVATE);
+    g_failing = "none";
+    Watchdog::tellWhenHung([] { return std::string("the failing call is ") + g_failing; });
     for (int i = 0; i < 3; ++i)
         ASSERT_EQ(liveOnce(GetParam(), m_parent), "");
     for (const Import& import : importsOf(::GetModuleHandleW(L"ovoui.dll"))) {

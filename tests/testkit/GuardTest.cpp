@@ -8,6 +8,8 @@
 #include <gmock/gmock.h>
 
 #include <array>
+#include <cstdint>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -83,12 +85,44 @@ Outcome runAlone(const std::wstring& test)
 
 // The tests that go wrong; run only by those below.
 
+namespace
+{
+
+/// A function that never ends, with its place in this program.
+[[noreturn]] __attribute__((noinline)) void hang()
+{
+    std::printf("hang at 0x%llx\n", static_cast<unsigned long long>(
+                                        reinterpret_cast<std::uintptr_t>(&hang) -
+                                        reinterpret_cast<std::uintptr_t>(::GetModuleHandleW(nullptr))));
+    std::fflush(stdout);
+    for (;;)
+        ::Sleep(INFINITE);
+}
+
+/// Whether one of the calls is in the function that says where it begins.
+bool namesHang(const std::string& output)
+{
+    constexpr unsigned long long kLongest = 256; // bytes
+    const auto begin = output.find("hang at 0x");
+    if (begin == std::string::npos)
+        return false;
+    const unsigned long long hangs = std::stoull(output.substr(begin + 8), nullptr, 16);
+    const std::string own = "test_testkit.exe+";
+    for (size_t at = output.find(own); at != std::string::npos; at = output.find(own, at + 1)) {
+        const unsigned long long call = std::stoull(output.substr(at + own.size()), nullptr, 16);
+        if (call > hangs && call < hangs + kLongest)
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 TEST(DISABLED_Wrong, Hangs)
 {
     RecordingParent parent{{200, 100}, L"The window of the hanging test"};
     present(parent);
-    for (;;)
-        ::Sleep(INFINITE);
+    hang();
 }
 
 // Slower than the limit for a test, but never long at one step.
@@ -125,6 +159,7 @@ TEST(Watchdog, EndsAProgramThatHangsWithAPictureOfWhatItWasAt)
 
     EXPECT_EQ(outcome.exitCode, 3U);
     EXPECT_THAT(outcome.output, HasSubstr("watchdog"));
+    EXPECT_TRUE(namesHang(outcome.output)) << outcome.output;
     EXPECT_THAT(outcome.output, HasSubstr("The window of the hanging test"));
     EXPECT_THAT(contents(failureFile("DISABLED_Wrong.Hangs.txt")),
                 HasSubstr("The window of the hanging test"));
