@@ -1,6 +1,7 @@
 #include <ovoui/tree/Band.h>
 
 #include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/MouseWait.h>
 #include <ovoui/tree/QueuedMouse.h>
 #include <ovoui/tree/Selection.h>
 
@@ -12,33 +13,7 @@ using namespace ovoui::tree;
 namespace
 {
 
-constexpr UINT_PTR kTimer = 1833;
-constexpr UINT kScrollInterval = 50; // milliseconds
-
-/// The mouse, and a timer to scroll by, for as long as the band is drawn.
-class Follower
-{
-public:
-    explicit Follower(HWND window)
-        : m_window(window)
-    {
-        ::SetCapture(window);
-        ::SetTimer(window, kTimer, kScrollInterval, nullptr);
-    }
-    ~Follower()
-    {
-        ::KillTimer(m_window, kTimer);
-        if (holdsMouse())
-            ::ReleaseCapture();
-    }
-    Follower(const Follower&) = delete;
-    Follower& operator=(const Follower&) = delete;
-
-    bool holdsMouse() const { return ::GetCapture() == m_window; }
-
-private:
-    HWND m_window;
-};
+constexpr ULONGLONG kScrollInterval = 50; // milliseconds
 
 std::vector<HTREEITEM> sorted(std::vector<HTREEITEM> items)
 {
@@ -50,11 +25,6 @@ std::vector<HTREEITEM> sorted(std::vector<HTREEITEM> items)
 bool isAmong(const std::vector<HTREEITEM>& sortedItems, HTREEITEM item)
 {
     return std::binary_search(sortedItems.begin(), sortedItems.end(), item);
-}
-
-bool isTick(const MSG& message)
-{
-    return message.message == WM_TIMER && message.wParam == kTimer;
 }
 
 } // namespace
@@ -101,14 +71,19 @@ void MultiTreeCtrl::Band::select(CPoint press, bool ctrl)
 bool MultiTreeCtrl::Band::follow(Drawing& drawing)
 {
     const HostCalls host(tree());
-    const HWND window = tree().m_hWnd;
-    const Follower follower(window);
-    while (host.usable() && follower.holdsMouse()) {
+    const MouseWait wait(tree().m_hWnd);
+    ULONGLONG tick = ::GetTickCount64() + kScrollInterval;
+    while (host.usable() && wait.holdsMouse()) {
         MSG message;
-        const BOOL fetched = ::GetMessageW(&message, window, 0, 0);
-        if (fetched == 0)
-            ::PostQuitMessage(static_cast<int>(message.wParam)); // for the loop outside
-        const BandStep step = fetched > 0 ? bandStep(queuedMouse(message)) : BandStep::GiveUp;
+        const MouseWait::Event event = wait.next(message, tick);
+        if (event == MouseWait::Event::Lost)
+            return false;
+        if (event == MouseWait::Event::Time) {
+            tick = ::GetTickCount64() + kScrollInterval;
+            scroll(drawing);
+            continue;
+        }
+        const BandStep step = bandStep(queuedMouse(message));
         switch (step) {
         case BandStep::GiveUp:
             return false;
@@ -122,10 +97,6 @@ bool MultiTreeCtrl::Band::follow(Drawing& drawing)
                 return host.usable();
             break;
         case BandStep::PassOn:
-            if (isTick(message)) {
-                scroll(drawing);
-                break;
-            }
             ::TranslateMessage(&message);
             ::DispatchMessageW(&message);
         }

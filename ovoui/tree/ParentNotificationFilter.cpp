@@ -65,24 +65,37 @@ WNDPROC currentProcedure(HWND wnd, bool unicode)
                                              : ::GetWindowLongPtrA(wnd, GWLP_WNDPROC));
 }
 
+/// Sets the filter in front of a window's own procedure. False when the system does not.
+bool putInFront(HWND parent)
+{
+    if (!parent)
+        return false;
+    const bool unicode = ::IsWindowUnicode(parent) != FALSE;
+    const WNDPROC procedure = currentProcedure(parent, unicode);
+    if (!procedure)
+        return false;
+    // Entered first: the procedure may be called while it is being set.
+    filteredParents().emplace(parent, FilteredParent{procedure, unicode, {}});
+    if (setProcedure(parent, &filterProcedure, unicode))
+        return true;
+    filteredParents().erase(parent);
+    return false;
+}
+
 } // namespace
+
+// Where the system fails to replace the procedure, the parent hears of each step. Where it fails to put it
+// back, the filter stays, passes everything on, and serves the next change.
 
 ParentNotificationFilter::ParentNotificationFilter(HWND tree)
     : m_tree(tree)
     , m_parent(::GetParent(tree))
 {
-    if (!m_parent)
-        return;
     auto& parents = filteredParents();
-    auto found = parents.find(m_parent);
-    if (found == parents.end()) {
-        const bool unicode = ::IsWindowUnicode(m_parent) != FALSE;
-        // Entered first: the procedure may be called while it is being set.
-        found =
-            parents.emplace(m_parent, FilteredParent{currentProcedure(m_parent, unicode), unicode, {}}).first;
-        setProcedure(m_parent, &filterProcedure, unicode);
-    }
-    found->second.quietTrees.push_back(m_tree);
+    if (!parents.contains(m_parent) && !putInFront(m_parent))
+        m_parent = nullptr;
+    if (m_parent)
+        parents.at(m_parent).quietTrees.push_back(m_tree);
 }
 
 ParentNotificationFilter::~ParentNotificationFilter()
@@ -96,8 +109,8 @@ ParentNotificationFilter::~ParentNotificationFilter()
     // Another procedure may have been set in front of the filter: then it stays, and passes everything on.
     if (!parent.quietTrees.empty() || currentProcedure(m_parent, parent.unicode) != &filterProcedure)
         return;
-    setProcedure(m_parent, parent.procedure, parent.unicode);
-    parents.erase(found);
+    if (setProcedure(m_parent, parent.procedure, parent.unicode))
+        parents.erase(m_parent);
 }
 
 } // namespace ovoui::tree

@@ -45,6 +45,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/LabelEdit.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LayoutHold.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Mouse.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MouseWait.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MultiTreeCtrl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ParentNotificationFilter.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Paste.cpp

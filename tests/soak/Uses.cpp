@@ -4,6 +4,8 @@
 
 #include <support/NextDialog.h>
 
+#include <testkit/GuiThread.h>
+
 #include <ovoui/ovoui.h>
 #include <ovouires/resource.h>
 
@@ -12,6 +14,8 @@
 #include <oleacc.h>
 
 #include <algorithm>
+
+using namespace ovo::testkit;
 
 namespace
 {
@@ -158,6 +162,30 @@ void askTree(CWnd& parent)
     tree.PreTranslateMessage(&key);
 }
 
+/// Presses, moves and lets go, as the queue has it.
+void drag(CWnd& wnd, CPoint from, CPoint to)
+{
+    wnd.PostMessage(WM_LBUTTONDOWN, MK_LBUTTON, at(from.x, from.y));
+    for (const CPoint& point : {from + CSize(1, 1), from + CSize(20, 5), to})
+        wnd.PostMessage(WM_MOUSEMOVE, MK_LBUTTON, at(point.x, point.y));
+    wnd.PostMessage(WM_LBUTTONUP, 0, at(to.x, to.y));
+    GuiThread::settle();
+}
+
+/// Drags a node, and draws a band from the empty space.
+void dragInTree(CWnd& parent)
+{
+    LeafTree tree;
+    tree.Create(kChild | TVS_HASBUTTONS, CRect(0, 0, 200, 150), &parent, 1);
+    tree.setExtras(MultiTreeCtrl::RubberBand);
+    for (int i = 0; i < 3; ++i)
+        (new Leaf)->insert(tree, TVI_ROOT, TVI_LAST);
+    GuiThread::settle();
+    drag(tree, {40, 8}, {60, 40});
+    drag(tree, {150, 140}, {30, 10});
+    tree.SendMessage(WM_CANCELMODE);
+}
+
 // Colours
 
 void pickFromScreen(CWnd& parent)
@@ -203,7 +231,8 @@ const std::vector<Life>& uses()
 {
     static const std::vector<Life> all{Life{"Reader", 1, beRead},         Life{"CopyAndSort", 1, copyAndSort},
                                        Life{"Images", 1, showImages},     Life{"Tree", 1, askTree},
-                                       Life{"Screen", 1, pickFromScreen}, Life{"Palette", 1, dropColours},
-                                       Life{"Machine", 1, tellOfMachine}, Life{"Folder", 20, askForFolder}};
+                                       Life{"DragInTree", 1, dragInTree}, Life{"Screen", 1, pickFromScreen},
+                                       Life{"Palette", 1, dropColours},   Life{"Machine", 1, tellOfMachine},
+                                       Life{"Folder", 20, askForFolder}};
     return all;
 }

@@ -2,6 +2,8 @@
 // off at first.
 #include "TreeScene.h"
 
+#include <testkit/ImportPatch.h>
+
 #include <ovocor/OvoError.h>
 
 #include <gtest/gtest.h>
@@ -43,6 +45,11 @@ public:
             checking();
     }
 };
+
+UINT_PTR WINAPI noTimer(HWND, UINT_PTR, UINT, TIMERPROC)
+{
+    return 0;
+}
 
 CheckedNode& addChecked(Scene& scene, const std::string& name)
 {
@@ -246,6 +253,21 @@ TEST(TreeBand, ShowsItsFrameAndTakesItAway)
         .release()
         .waitFor("no frame", [&] { return !highlighted("b"); });
     EXPECT_TRUE(during);
+}
+
+TEST(TreeBand, IsGivenUpAtOnceWhenAnotherWindowTakesTheMouse)
+{
+    const ImportPatch noTimers(L"ovoui.dll", "SetTimer", reinterpret_cast<void*>(&noTimer));
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.tree.setExtras(Extra::RubberBand);
+    scene.user.press(scene.beside("a"))
+        .moveTo(scene.beside("c"))
+        .waitFor("three rows", [&] { return scene.selected().size() == 3; })
+        .then([&] { scene.parent().SetCapture(); })
+        .waitFor("what was selected before", [&] { return scene.selected().empty(); })
+        .release();
+    ::ReleaseCapture();
+    EXPECT_EQ(scene.selected(), Names{});
 }
 
 /// Messages run while the band is drawn: the host may do anything in them.

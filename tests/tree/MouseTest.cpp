@@ -1,6 +1,8 @@
 // Clicks: plain, with Ctrl, with Shift, on empty space, with the right button, double.
 #include "TreeScene.h"
 
+#include <testkit/ImportPatch.h>
+
 #include <gtest/gtest.h>
 
 using namespace ovo::testkit;
@@ -11,6 +13,36 @@ namespace
 int contextMenus(Scene& scene)
 {
     return scene.tree.contextMenus;
+}
+
+int dragsBegun(Scene& scene)
+{
+    return scene.parent().log().count(static_cast<UINT>(TVN_BEGINDRAGW));
+}
+
+UINT_PTR WINAPI noTimer(HWND, UINT_PTR, UINT, TIMERPROC)
+{
+    return 0;
+}
+
+int g_procedures = 0; ///< that were replaced, or were to be
+int g_refused = 0;    ///< which of these is refused, counted from 1
+
+LONG_PTR WINAPI refuseProcedure(HWND window, int index, LONG_PTR value)
+{
+    if (index == GWLP_WNDPROC && ++g_procedures == g_refused)
+        return 0;
+    return ::SetWindowLongPtrW(window, index, value);
+}
+
+HWND WINAPI noCapture(HWND)
+{
+    return nullptr;
+}
+
+BOOL WINAPI noMessage(LPMSG, HWND, UINT, UINT, UINT)
+{
+    return FALSE;
 }
 
 } // namespace
@@ -152,6 +184,30 @@ TEST(TreeMouse, ShiftClickSelectsFromTheAnchorAndTellsTheParentOnce)
     EXPECT_EQ(scene.changes(), (Changes{{TVC_BYMOUSE, "b", "d"}}));
 }
 
+/// The tree replaces the parent's window procedure for a moment, so that the parent hears of one change.
+TEST(TreeMouse, AProcedureThatCannotBeReplacedOrPutBackDoesNoHarm)
+{
+    for (const int refused : {1, 2}) {
+        SCOPED_TRACE(refused);
+        Scene scene{{"a", "b", "c", "d"}};
+        scene.user.click(scene.label("a"));
+        scene.forget();
+        g_procedures = 0;
+        g_refused = refused;
+        {
+            const ImportPatch patch(L"ovoui.dll", "SetWindowLongPtrW",
+                                    reinterpret_cast<void*>(&refuseProcedure));
+            scene.user.holding(VK_SHIFT).click(scene.label("c"));
+        }
+        ASSERT_GE(g_procedures, refused) << "the tree has another way now";
+        EXPECT_EQ(scene.selected(), (Names{"a", "b", "c"}));
+        scene.forget();
+        scene.user.holding(VK_SHIFT).click(scene.label("b"));
+        EXPECT_EQ(scene.selected(), (Names{"a", "b"}));
+        EXPECT_EQ(scene.changes().size(), 1u);
+    }
+}
+
 TEST(TreeMouse, ShiftClickKeepsTheAnchorAndGoesUpwardsToo)
 {
     Scene scene{{"a", "b", "c", "d"}};
@@ -255,6 +311,54 @@ TEST(TreeMouse, TheMouseIsLetGoAfterTheWait)
         .release();
     EXPECT_TRUE(captured);
     EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST(TreeMouse, AnotherWindowThatTakesTheMouseEndsTheWaitAtOnceWithoutADrag)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.press(scene.label("b"))
+        .then([&] { scene.parent().SetCapture(); })
+        .waitFor("the wait to end", [&] { return scene.selected() == Names{"b"}; })
+        .moveBy(0, 60)
+        .release();
+    ::ReleaseCapture();
+    EXPECT_EQ(dragsBegun(scene), 0);
+}
+
+TEST(TreeMouse, AWindowThatGoesEndsTheWait)
+{
+    Scene scene{{"a", "b"}};
+    scene.user.press(scene.label("b")).then([&] { scene.tree.DestroyWindow(); }).release();
+    EXPECT_EQ(scene.tree.m_hWnd, nullptr);
+}
+
+TEST(TreeMouse, HoldingTheButtonStartsADragWithoutTimersToo)
+{
+    const ImportPatch noTimers(L"ovoui.dll", "SetTimer", reinterpret_cast<void*>(&noTimer));
+    Scene scene{{"a", "b"}};
+    scene.user.press(scene.label("b"))
+        .waitFor("the drag to begin", [&] { return dragsBegun(scene) == 1; })
+        .release();
+    EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+TEST(TreeMouse, AMouseThatCannotBeTakenEndsTheWait)
+{
+    const ImportPatch none(L"ovoui.dll", "SetCapture", reinterpret_cast<void*>(&noCapture));
+    Scene scene{{"a", "b"}};
+    scene.user.press(scene.label("b"))
+        .waitFor("the wait to end", [&] { return scene.selected() == Names{"b"}; })
+        .moveBy(0, 60)
+        .release();
+    EXPECT_EQ(dragsBegun(scene), 0);
+}
+
+TEST(TreeMouse, AQueueThatGivesNothingEndsTheWaitAfterItsTime)
+{
+    const ImportPatch none(L"ovoui.dll", "PeekMessageW", reinterpret_cast<void*>(&noMessage));
+    Scene scene{{"a", "b"}};
+    scene.user.press(scene.label("b")).moveBy(0, 60).release();
+    EXPECT_EQ(dragsBegun(scene), 1) << "as if the button had been held";
 }
 
 TEST(TreeMouse, WithShiftNoDragBegins)
