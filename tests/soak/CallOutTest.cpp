@@ -9,6 +9,7 @@
 #include <testkit/TestApp.h>
 
 #include <ovoui/ovoui.h>
+#include <ovoui/toolbar/core/FlyoutRecords.h>
 
 #include <ovouires/resource.h>
 
@@ -550,6 +551,48 @@ private:
     CEdit edit;
 };
 
+/// A flyout whose entry is clicked.
+class FlyoutScene : public Scene
+{
+public:
+    FlyoutScene()
+    {
+        bar.CreateEx(&parent, TBSTYLE_FLAT, kChild | CBRS_TOP);
+        ovoui::toolbar::FlyoutRecord record;
+        record.hasFlyout = true;
+        record.bitmapSize = 16;
+        record.commands = {kFirst, kSecond};
+        record.bitmapIds = {0, 0};
+        record.images = {0, 0};
+        record.names = {Quark(L"first"), Quark(L"second")};
+        flyout->create(bar, record, true);
+        flyout->whenChosen = [this](const CFlyoutToolbar::Entry& entry) {
+            Raising::here("whenChosen");
+            chosen = entry.command;
+        };
+        flyout->show();
+    }
+    void provoke() override
+    {
+        flyout->SendMessage(WM_COMMAND, kSecond);
+        GuiThread::settle(); // it posts to itself what it tells
+    }
+    void expectSound() override
+    {
+        EXPECT_EQ(chosen, 0);
+        provoke();
+        EXPECT_EQ(chosen, kSecond);
+    }
+
+private:
+    static constexpr int kFirst = 100;
+    static constexpr int kSecond = 101;
+
+    CVantorToolBar bar;
+    const std::shared_ptr<CFlyoutToolbar> flyout = std::make_shared<CFlyoutToolbar>();
+    int chosen = 0;
+};
+
 class RaisingBar : public CVantorToolBar
 {
     void DrawNCGripper(CDC* dc, const CRect& rect) override
@@ -607,6 +650,7 @@ const std::vector<CallOut>& callOuts()
         {"WM_COMMAND", &make<GridScene>, {Passes, Shown, Passes}},
         {"OnComboBoxDeleted", &make<ComboDeletionScene>, {Passes, Shown, Passes}},
         {"ControlCallback", &make<BarScene>, {Passes, Shown, Passes}},
+        {"whenChosen", &make<FlyoutScene>, {Passes, Shown, Passes}},
     };
     return all;
 }
