@@ -6,6 +6,7 @@
 #include <usp10.h>
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 using namespace ovoui::frame;
@@ -30,24 +31,24 @@ END_MESSAGE_MAP()
 namespace
 {
 
-/// Where the platform would break lines: behind blanks, and where else the language allows it.
-std::vector<bool> breaksAllowed(const std::wstring& text)
+/// What the platform knows of the characters; nothing where it fails.
+std::vector<CharacterBreak> platformBreaks(const std::wstring& text)
 {
-    std::vector<bool> allowed(text.size());
-    for (std::size_t i = 1; i < text.size(); ++i)
-        allowed[i] = (text[i - 1] == L' ' || text[i - 1] == L'\t') && text[i] != L' ' && text[i] != L'\t';
-
     const int length = static_cast<int>(text.size());
     SCRIPT_STRING_ANALYSIS analysis = nullptr;
     if (length == 0 ||
         ::ScriptStringAnalyse(nullptr, text.data(), length, length * 3 / 2 + 16, -1, SSA_BREAK, 0, nullptr,
                               nullptr, nullptr, nullptr, nullptr, &analysis) != S_OK)
-        return allowed;
+        return {};
+    std::vector<CharacterBreak> breaks;
     if (const SCRIPT_LOGATTR* attributes = ::ScriptString_pLogAttr(analysis))
-        for (std::size_t i = 0; i < text.size(); ++i)
-            allowed[i] = allowed[i] || (attributes[i].fSoftBreak && !attributes[i].fWhiteSpace);
+        std::transform(attributes, attributes + length, std::back_inserter(breaks),
+                       [](const SCRIPT_LOGATTR& character) {
+                           return CharacterBreak{.before = character.fSoftBreak != 0,
+                                                 .isSpace = character.fWhiteSpace != 0};
+                       });
     ::ScriptStringFree(&analysis);
-    return allowed;
+    return breaks;
 }
 
 } // namespace
@@ -69,7 +70,8 @@ WrappedText MessageText::wrapped(const std::wstring& text, int width, LongWords 
                               return static_cast<int>(extent.cx);
                           },
                           static_cast<int>(8 * font.metrics().tmAveCharWidth)};
-    return WrappedText(text, softBreaks(text, breaksAllowed(text), width, longWords, ruler));
+    return WrappedText(text,
+                       softBreaks(text, lineStarts(text, platformBreaks(text)), width, longWords, ruler));
 }
 
 /// In the text that the control holds; what stands for "none" stays as it is.
@@ -158,8 +160,8 @@ LRESULT MessageText::OnCharFromPos(WPARAM, LPARAM point)
     if (m_wrapped.isPlain() || found == -1)
         return found;
     const LRESULT line = DefWindowProc(EM_LINEINDEX, HIWORD(found), 0);
-    const auto inLine = static_cast<WORD>(LOWORD(found) - LOWORD(line));
-    const std::size_t position = m_wrapped.toText(static_cast<std::size_t>(line) + inLine);
+    const std::size_t position =
+        m_wrapped.toText(positionInLine(static_cast<std::size_t>(line), LOWORD(found)));
     return MAKELONG(position & 0xFFFF, HIWORD(found));
 }
 

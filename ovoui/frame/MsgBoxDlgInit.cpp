@@ -54,12 +54,10 @@ void setFormatRect(CEdit& text, const CRect& rect)
         return;
     CRect actual;
     text.GetRect(&actual);
-    if (actual.Width() >= rect.Width())
-        return;
-    const int edge = actual.top - rect.top;
-    const CRect widened(2 * rect.left - actual.left, rect.top - edge, 2 * rect.right - actual.right,
-                        rect.bottom + edge);
-    text.SetRect(&widened);
+    if (const std::optional<Box> larger = formatToAsk(toBox(rect), toBox(actual))) {
+        const RECT asked = toRect(*larger);
+        text.SetRect(&asked);
+    }
 }
 
 Extent clientExtent(const CWnd& wnd)

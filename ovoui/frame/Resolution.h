@@ -1,6 +1,8 @@
 /// Not exported. Lengths that are given in pixels at the usual resolution.
 #pragma once
 
+#include <ovoui/frame/core/Scaling.h>
+
 #include <afxwin.h>
 
 namespace ovoui::frame
@@ -9,7 +11,7 @@ namespace ovoui::frame
 /// In pixels of the device.
 inline int scaledTo(const CDC& dc, int length)
 {
-    return ::MulDiv(length, dc.GetDeviceCaps(LOGPIXELSX), USER_DEFAULT_SCREEN_DPI);
+    return scaledTo(dc.GetDeviceCaps(LOGPIXELSX), length);
 }
 
 } // namespace ovoui::frame

@@ -1,6 +1,7 @@
 #include <ovoui/lists/ComboBox.h>
 
 #include <ovoui/frame/Lifeline.h>
+#include <ovoui/frame/TellParent.h>
 #include <ovoui/lists/ComboCommands.h>
 #include <ovoui/lists/ComboCompletion.h>
 #include <ovoui/lists/ComboHistory.h>
@@ -257,11 +258,7 @@ void COVOComboBox::carryOut(const Verdict& verdict)
 /// False when the combo box is gone afterwards.
 bool COVOComboBox::tell(UINT code)
 {
-    const HWND window = m_hWnd;
-    const Lifeline::Watch watch(*this);
-    if (CWnd* const parent = GetParent())
-        parent->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), code), reinterpret_cast<LPARAM>(window));
-    return watch.alive();
+    return ovoui::frame::tellParentOrRaise(*this, code);
 }
 
 // Completion

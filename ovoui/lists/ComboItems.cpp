@@ -1,6 +1,7 @@
 #include <ovoui/lists/ComboItems.h>
 
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/DrawnState.h>
 #include <ovoui/lists/ColourEntry.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/core/ComboItemLayout.h>
@@ -14,13 +15,6 @@ namespace ovoui::lists
 
 namespace
 {
-
-COLORREF textColourOf(UINT state)
-{
-    if (state & ODS_DISABLED)
-        return ::GetSysColor(COLOR_GRAYTEXT);
-    return ::GetSysColor(state & ODS_SELECTED ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT);
-}
 
 void drawSwatch(CDC& dc, const frame::Box& box, ColourEntry entry)
 {
@@ -56,13 +50,14 @@ void ComboItems::draw(CDC& dc, const ComboItem& item) const
     const ComboItemLayout layout = layOutComboItem(toBox(item.place), looks.haveColours(), size.cx, size.cy,
                                                    dc.GetDeviceCaps(LOGPIXELSY));
     const bool selected = (item.state & ODS_SELECTED) != 0;
+    const frame::ItemColours colours = frame::itemColoursOf(item.state);
     const int saved = dc.SaveDC();
-    dc.FillSolidRect(&item.place, ::GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    dc.FillSolidRect(&item.place, frame::colorrefOf(colours.background));
     if (item.look.colour)
         drawSwatch(dc, layout.swatch, *item.look.colour);
     if (images && item.look.image >= 0)
         images->Draw(&dc, item.look.image, CPoint(layout.image.left, layout.image.top), ILD_TRANSPARENT);
-    dc.SetTextColor(textColourOf(item.state));
+    dc.SetTextColor(frame::colorrefOf(colours.text));
     dc.SetBkMode(TRANSPARENT);
     CRect text = toRect(layout.text);
     dc.IntersectClipRect(&item.place);
@@ -71,7 +66,7 @@ void ComboItems::draw(CDC& dc, const ComboItem& item) const
         dc.DrawText(item.text.c_str(), -1, &text, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     else
         drawEmphasised(dc, item.text, text, DT_LEFT, places, EmphasisColours(selected));
-    if ((item.state & ODS_FOCUS) && !(item.state & ODS_NOFOCUSRECT))
+    if (frame::showsFocus(item.state))
         dc.DrawFocusRect(&item.place);
     dc.RestoreDC(saved);
 }

@@ -1,6 +1,7 @@
 /// Not exported: parts of a drawn text that stand out.
 #pragma once
 
+#include <ovoui/frame/DrawnState.h>
 #include <ovoui/lists/core/TextSearch.h>
 
 #include <afxwin.h>
@@ -24,8 +25,8 @@ std::vector<TextRange> placesShown(const std::wstring& foldedPart, std::wstring_
 struct EmphasisColours
 {
     explicit EmphasisColours(bool selected)
-        : text(::GetSysColor(selected ? COLOR_WINDOWTEXT : COLOR_HIGHLIGHTTEXT))
-        , background(::GetSysColor(selected ? COLOR_WINDOW : COLOR_HIGHLIGHT))
+        : text(frame::colorrefOf(frame::itemColours(!selected).text))
+        , background(frame::colorrefOf(frame::itemColours(!selected).background))
     {
     }
 

@@ -1,5 +1,6 @@
 #include <ovoui/lists/ListFinder.h>
 
+#include <ovoui/frame/AskedKey.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/RowData.h>
 #include <ovoui/lists/core/FindRules.h>
@@ -31,12 +32,6 @@ std::optional<FindMessage> findMessage(UINT message)
 bool isHeld(int key)
 {
     return ::GetKeyState(key) < 0;
-}
-
-bool asksForEscape(LPARAM lParam)
-{
-    const auto* const asked = reinterpret_cast<const MSG*>(lParam);
-    return asked && asked->message == WM_KEYDOWN && asked->wParam == VK_ESCAPE;
 }
 
 bool hasText(const COVOListCtrlEx& list, int row, int columns, const std::wstring& foldedText)
@@ -111,7 +106,7 @@ const std::wstring& COVOListFinder::Text() const
 
 bool COVOListFinder::takes(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
-    if (message == WM_GETDLGCODE && !Text().empty() && asksForEscape(lParam)) {
+    if (message == WM_GETDLGCODE && !Text().empty() && ovoui::frame::asksForKey(lParam, VK_ESCAPE)) {
         result = DLGC_WANTALLKEYS;
         return true;
     }

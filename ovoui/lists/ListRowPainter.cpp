@@ -1,6 +1,7 @@
 #include <ovoui/lists/ListRowPainter.h>
 
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/DrawnState.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListCells.h>
@@ -156,8 +157,9 @@ bool ListRowPainter::readItem()
 void ListRowPainter::chooseColours()
 {
     const bool selected = looksSelected();
-    m_text = ::GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT);
-    m_background = selected ? ::GetSysColor(COLOR_HIGHLIGHT) : m_look.list.background;
+    const frame::ItemColours usual = frame::itemColours(selected);
+    m_text = frame::colorrefOf(usual.text);
+    m_background = selected ? frame::colorrefOf(usual.background) : m_look.list.background;
     m_colours = m_look.colour ? coloursOf(*m_look.colour)
                               : EntryColours{m_background, m_background, m_background, m_text};
 }

@@ -1,12 +1,15 @@
 #include <ovoui/sliders/AngleSlider.h>
 
+#include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/BufferedPaint.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/frame/OwnWindow.h>
+#include <ovoui/frame/TellParent.h>
 #include <ovoui/sliders/AngleSliderOptions.h>
 #include <ovoui/sliders/SystemShade.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
 #include <ovoui/sliders/core/CylinderPicture.h>
+#include <ovoui/sliders/core/SliderPlaces.h>
 
 using namespace ovoui::sliders;
 
@@ -32,7 +35,6 @@ END_MESSAGE_MAP()
 namespace
 {
 
-constexpr int kEdge = 2;  // the etched edge and the gap outside it
 constexpr int kFocus = 3; // the focus mark from the window's edge
 
 COLORREF colorrefOf(const Shade& shade)
@@ -130,19 +132,15 @@ void CAngleSlider::OnCaptureChanged(CWnd* wnd)
 /// Whether the slider still has its window afterwards.
 bool CAngleSlider::tellParent(UINT code, double degrees)
 {
-    const Lifeline::Watch watch(*this);
     const UINT message = m_axis == Axis::Vertical ? WM_HSCROLL : WM_VSCROLL;
-    ::SendMessageW(::GetParent(m_hWnd), message, MAKEWPARAM(code, messageAngle(degrees)),
-                   reinterpret_cast<LPARAM>(m_hWnd));
-    return watch.alive();
+    return ovoui::frame::tellParent(*this, message, MAKEWPARAM(code, messageAngle(degrees)));
 }
 
 CRect CAngleSlider::cylinder() const
 {
     CRect rect;
     GetClientRect(&rect);
-    rect.DeflateRect(kEdge, kEdge);
-    return rect;
+    return ovoui::frame::toRect(cylinderPlace(ovoui::frame::toBox(rect)));
 }
 
 int CAngleSlider::along(CPoint point) const
@@ -236,9 +234,8 @@ void CAngleSlider::ShadeRect(const CRect& rect, CDC* dc)
             ::SetDCPenColor(*dc, colorrefOf(strip.colour));
             DrawLine(dc, rect, strip.from);
         } else {
-            CRect place = rect;
-            (sideways ? place.left : place.top) = strip.from;
-            (sideways ? place.right : place.bottom) = strip.to;
+            const RECT place =
+                ovoui::frame::toRect(stripPlace(ovoui::frame::toBox(rect), sideways, strip.from, strip.to));
             dc->FillSolidRect(&place, colorrefOf(strip.colour));
         }
     }

@@ -3,6 +3,7 @@
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/sliders/SliderButton.h>
 #include <ovoui/sliders/core/PopupRules.h>
+#include <ovoui/sliders/core/SliderPlaces.h>
 
 #include <ovouires/resource.h>
 
@@ -65,14 +66,13 @@ void CPopupSlider::makeRoomForTicks()
     m_slider.GetWindowRect(&slider);
     CRect popup;
     GetWindowRect(&popup);
-    const int height = slider.Height();
-    const int room = height / 2;
+    const TickRoom room = roomForTicks(slider.Height());
     // The thumb stays as it was instead of growing into the new room.
     m_slider.ModifyStyle(TBS_NOTICKS, TBS_FIXEDLENGTH);
-    m_slider.SendMessage(TBM_SETTHUMBLENGTH, static_cast<WPARAM>(height * 4 / 5));
+    m_slider.SendMessage(TBM_SETTHUMBLENGTH, static_cast<WPARAM>(room.thumb));
     constexpr UINT kSizeOnly = SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE;
-    m_slider.SetWindowPos(nullptr, 0, 0, slider.Width(), height + room, kSizeOnly);
-    SetWindowPos(nullptr, 0, 0, popup.Width(), popup.Height() + room, kSizeOnly);
+    m_slider.SetWindowPos(nullptr, 0, 0, slider.Width(), slider.Height() + room.added, kSizeOnly);
+    SetWindowPos(nullptr, 0, 0, popup.Width(), popup.Height() + room.added, kSizeOnly);
 }
 
 void CPopupSlider::DoDataExchange(CDataExchange* exchange)

@@ -1,19 +1,16 @@
 #include <ovoui/sliders/RoundSlider.h>
 
+#include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/core/Scaling.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
+#include <ovoui/sliders/core/SliderPlaces.h>
 
 #include <ovocor/Text.h>
 
-namespace
-{
-
-constexpr int kInches = 3;
-constexpr int kUsualWidth = 288;
-
-} // namespace
+using namespace ovoui::sliders;
 
 CRoundSlider::CRoundSlider(bool reversed)
-    : CAngleSlider(Axis::Vertical, ovoui::sliders::Turn::Endless, reversed)
+    : CAngleSlider(Axis::Vertical, Turn::Endless, reversed)
 {
 }
 
@@ -24,20 +21,18 @@ BOOL CRoundSlider::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 
 int CRoundSlider::MaxWidth(CDC* dc)
 {
-    return dc ? kInches * dc->GetDeviceCaps(LOGPIXELSX) : kUsualWidth;
+    return usefulLength(dc ? dc->GetDeviceCaps(LOGPIXELSX) : ovoui::frame::kUsualDotsPerInch);
 }
 
 void CRoundSlider::drawOnCylinder(CDC& dc, const CRect& cylinder, double shown)
 {
     CGdiObject* const old = dc.SelectStockObject(DEFAULT_GUI_FONT);
-    const CString text(stringPrintf(L"%d", ovoui::sliders::printedAngle(shown)).c_str());
+    const CString text(stringPrintf(L"%d", printedAngle(shown)).c_str());
     const CSize size = dc.GetTextExtent(text);
-    const CPoint corner((cylinder.Width() - size.cx) / 2 + cylinder.left - 1,
-                        (cylinder.Height() - size.cy) / 2 + cylinder.top);
-    CRect box(corner, CSize(size.cx + 2, size.cy));
-    box.IntersectRect(box, cylinder);
+    const NumberPlace place = numberPlace(ovoui::frame::toBox(cylinder), size.cx, size.cy);
+    const RECT background = ovoui::frame::toRect(place.background);
     dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
     dc.SetBkColor(::GetSysColor(COLOR_WINDOW));
-    dc.ExtTextOut(corner.x + 1, corner.y, ETO_OPAQUE | ETO_CLIPPED, &box, text, nullptr);
+    dc.ExtTextOut(place.text.x, place.text.y, ETO_OPAQUE | ETO_CLIPPED, &background, text, nullptr);
     dc.SelectObject(static_cast<CFont*>(old));
 }

@@ -1,10 +1,9 @@
 #include <ovoui/sliders/SliderButtonFace.h>
 
+#include <ovoui/frame/FilledTriangle.h>
 #include <ovoui/sliders/core/SliderPlaces.h>
 
 #include <vssym32.h>
-
-#include <algorithm>
 
 namespace ovoui::sliders
 {
@@ -39,17 +38,8 @@ void SliderButtonFace::paintBack(CDC& dc, const CRect& client) const
 
 void SliderButtonFace::paintArrow(CDC& dc, const CRect& client) const
 {
-    const auto corners = arrowCorners(client.Width(), client.Height());
-    if (!corners)
-        return;
-    POINT arrow[3];
-    std::ranges::transform(*corners, arrow, [](const Corner& corner) { return POINT{corner.x, corner.y}; });
-    CBrush brush(::GetSysColor(m_enabled ? COLOR_3DDKSHADOW : COLOR_GRAYTEXT));
-    CBrush* const oldBrush = dc.SelectObject(&brush);
-    CGdiObject* const oldPen = dc.SelectStockObject(NULL_PEN);
-    dc.Polygon(arrow, 3);
-    dc.SelectObject(static_cast<CPen*>(oldPen));
-    dc.SelectObject(oldBrush);
+    if (const auto corners = arrowCorners(client.Width(), client.Height()))
+        frame::fillTriangle(dc, *corners, ::GetSysColor(m_enabled ? COLOR_3DDKSHADOW : COLOR_GRAYTEXT));
 }
 
 void SliderButtonFace::paintFocus(CDC& dc, CRect client)

@@ -1,17 +1,13 @@
 #include <ovoui/sliders/WheelSlider.h>
 
+#include <ovoui/frame/core/Scaling.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
+#include <ovoui/sliders/core/SliderPlaces.h>
 
-namespace
-{
-
-constexpr int kInches = 3;
-constexpr int kUsualHeight = 288;
-
-} // namespace
+using namespace ovoui::sliders;
 
 CWheelSlider::CWheelSlider(bool reversed)
-    : CAngleSlider(Axis::Horizontal, ovoui::sliders::Turn::Half, reversed)
+    : CAngleSlider(Axis::Horizontal, Turn::Half, reversed)
 {
 }
 
@@ -22,5 +18,5 @@ BOOL CWheelSlider::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 
 int CWheelSlider::MaxHeight(CDC* dc)
 {
-    return dc ? kInches * dc->GetDeviceCaps(LOGPIXELSY) : kUsualHeight;
+    return usefulLength(dc ? dc->GetDeviceCaps(LOGPIXELSY) : ovoui::frame::kUsualDotsPerInch);
 }

@@ -135,6 +135,16 @@ private:
 
 } // namespace
 
+std::vector<bool> lineStarts(std::wstring_view text, const std::vector<CharacterBreak>& known)
+{
+    std::vector<bool> starts(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool behindBlanks = i > 0 && isBlank(text[i - 1]) && !isBlank(text[i]);
+        starts[i] = behindBlanks || (i < known.size() && known[i].before && !known[i].isSpace);
+    }
+    return starts;
+}
+
 std::vector<SoftBreak> softBreaks(std::wstring_view text, const std::vector<bool>& mayBreakBefore, int width,
                                   LongWords longWords, const TextRuler& ruler)
 {

@@ -34,6 +34,17 @@ enum class LongWords
     Whole   ///< it makes its line wider
 };
 
+/// What the platform knows of a character.
+struct CharacterBreak
+{
+    bool before = false;  ///< the language allows a line to begin with it
+    bool isSpace = false; ///< it belongs to the end of a line rather than to a beginning
+};
+
+/// For each character whether a line may begin with it: behind blanks, and where else the platform allows it.
+/// `known` is empty where it does not tell.
+std::vector<bool> lineStarts(std::wstring_view text, const std::vector<CharacterBreak>& known);
+
 /// The breaks that keep the lines of `text` within `width` pixels. Paragraphs end with CR LF.
 /// `mayBreakBefore` holds for each character whether a line may begin with it. A word that is kept whole is
 /// broken all the same at 16384 pixels, since controls count in 16 bits.

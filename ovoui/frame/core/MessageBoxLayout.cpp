@@ -1,5 +1,7 @@
 #include <ovoui/frame/core/MessageBoxLayout.h>
 
+#include <ovoui/frame/core/Scaling.h>
+
 #include <algorithm>
 
 namespace ovoui::frame
@@ -27,7 +29,7 @@ Point scaled(const Point& point, const BoxMetrics& metrics)
 
 int scaled(int pixels, const BoxMetrics& metrics)
 {
-    return (pixels * metrics.dotsPerInch + 48) / 96;
+    return scaledTo(metrics.dotsPerInch, pixels);
 }
 
 Extent buttonSize(int fontHeight, int averageCharWidth, const std::vector<int>& labelWidths,
@@ -60,6 +62,15 @@ Box grownTextControl(const Box& window, const Extent& from, const TextArea& to, 
     if (to.horizontal)
         grown.bottom -= metrics.scrollBarHeight;
     return grown;
+}
+
+std::optional<Box> formatToAsk(const Box& wanted, const Box& got)
+{
+    if (got.width() >= wanted.width())
+        return std::nullopt;
+    const int edge = got.top - wanted.top; // the same below
+    return Box{2 * wanted.left - got.left, wanted.top - edge, 2 * wanted.right - got.right,
+               wanted.bottom + edge};
 }
 
 Extent dialogSize(int textControlWidth, int textHeight, const Extent& button, int buttonCount,

@@ -19,14 +19,6 @@ struct Extent
     friend bool operator==(const Extent&, const Extent&) = default;
 };
 
-struct Point
-{
-    int x = 0;
-    int y = 0;
-
-    friend bool operator==(const Point&, const Point&) = default;
-};
-
 /// What the layout needs to know of the system. Sizes are in pixels.
 struct BoxMetrics
 {
@@ -72,6 +64,10 @@ TextArea textArea(const Extent& text, int lineHeight, int margins, int widthLimi
 /// `window`, whose client area measures `from` beside the scroll bars, grown to the size that `to` asks for.
 /// The dialog has no room for a horizontal bar of its own: the bar takes it from the lines shown.
 Box grownTextControl(const Box& window, const Extent& from, const TextArea& to, const BoxMetrics& metrics);
+
+/// What to ask an edit control for that takes margins and edge off its formatting rectangle: it has `got`
+/// where `wanted` was asked for. None where nothing is missing.
+std::optional<Box> formatToAsk(const Box& wanted, const Box& got);
 
 /// Outer size of the dialog. `textControlWidth` is that of the grown control, `textHeight` the height of the
 /// text area's client.

@@ -1,5 +1,7 @@
 #include <ovoui/frame/core/Placement.h>
 
+#include <algorithm>
+
 namespace ovoui::frame
 {
 
@@ -21,6 +23,13 @@ Box movedInto(const Box& box, const Box& area)
     if (moved.top < area.top)
         moved = movedBy(moved, 0, area.top - moved.top);
     return moved;
+}
+
+Box intersection(const Box& one, const Box& other)
+{
+    const Box common{std::max(one.left, other.left), std::max(one.top, other.top),
+                     std::min(one.right, other.right), std::min(one.bottom, other.bottom)};
+    return common.empty() ? Box{} : common;
 }
 
 Box tipPlace(const Box& about, int width, int height, const Box& area)

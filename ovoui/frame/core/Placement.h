@@ -4,6 +4,14 @@
 namespace ovoui::frame
 {
 
+struct Point
+{
+    int x = 0;
+    int y = 0;
+
+    friend bool operator==(const Point&, const Point&) = default;
+};
+
 /// A rectangle in pixels; right and bottom are exclusive.
 struct Box
 {
@@ -25,6 +33,9 @@ Box movedInto(const Box& box, const Box& area);
 
 /// `box` moved by the given distances.
 Box movedBy(const Box& box, int dx, int dy);
+
+/// What both boxes have in common; all zero when that is nothing.
+Box intersection(const Box& one, const Box& other);
 
 /// Where a tip of the given size belongs to what it tells about: below it, or above it where the area has no
 /// room below, with a small gap. It may hang over to the sides.

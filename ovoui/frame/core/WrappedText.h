@@ -45,4 +45,11 @@ private:
     std::vector<Piece> m_pieces; ///< in order
 };
 
+/// The position in a line of which a control tells the lower 16 bits alone. `line` is where the line begins;
+/// it is shorter than 65536 characters.
+constexpr std::size_t positionInLine(std::size_t line, std::size_t lowerBits)
+{
+    return line + ((lowerBits - line) & 0xFFFF);
+}
+
 } // namespace ovoui::frame

@@ -1,5 +1,7 @@
 #include <ovoui/lists/core/ComboItemLayout.h>
 
+#include <ovoui/frame/core/Scaling.h>
+
 #include <algorithm>
 
 namespace ovoui::lists
@@ -12,17 +14,12 @@ namespace
 constexpr int kGap = 2;
 constexpr int kTextGap = 3;
 
-constexpr int scaled(int pixels, int dotsPerInch)
-{
-    return (pixels * dotsPerInch + 48) / 96;
-}
-
 } // namespace
 
 ComboItemLayout layOutComboItem(const Box& item, bool hasColours, int imageWidth, int imageHeight,
                                 int dotsPerInch)
 {
-    const int gap = scaled(kGap, dotsPerInch);
+    const int gap = frame::scaledTo(dotsPerInch, kGap);
     ComboItemLayout layout;
     int left = item.left + gap;
     if (hasColours) {
@@ -35,13 +32,14 @@ ComboItemLayout layOutComboItem(const Box& item, bool hasColours, int imageWidth
         layout.image = {left, top, left + imageWidth, top + imageHeight};
         left = layout.image.right + gap;
     }
-    layout.text = {left + scaled(kTextGap, dotsPerInch) - gap, item.top, item.right - gap, item.bottom};
+    layout.text = {left + frame::scaledTo(dotsPerInch, kTextGap) - gap, item.top, item.right - gap,
+                   item.bottom};
     return layout;
 }
 
 int comboItemHeight(int textHeight, int imageHeight, int dotsPerInch)
 {
-    return std::max(textHeight, imageHeight) + scaled(kGap, dotsPerInch);
+    return std::max(textHeight, imageHeight) + frame::scaledTo(dotsPerInch, kGap);
 }
 
 Box placeBeside(const Box& field, const Box& workArea, int height)

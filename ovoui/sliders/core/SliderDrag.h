@@ -2,6 +2,7 @@
 /// pixels. Plain values, no windows.
 #pragma once
 
+#include <ovoui/frame/core/Placement.h>
 #include <ovoui/sliders/core/SliderMapping.h>
 
 #include <optional>
@@ -9,11 +10,7 @@
 namespace ovoui::sliders
 {
 
-struct Point
-{
-    int x = 0;
-    int y = 0;
-};
+using frame::Point;
 
 /// The run of the thumb: from its leftmost to its rightmost place.
 struct Channel

@@ -1,5 +1,6 @@
 #include <ovoui/sliders/core/SliderPlaces.h>
 
+#include <ovoui/frame/core/BoxParts.h>
 #include <ovoui/sliders/core/DialTurn.h>
 
 #include <algorithm>
@@ -8,6 +9,11 @@ namespace ovoui::sliders
 {
 
 using frame::Box;
+
+TickRoom roomForTicks(int sliderHeight)
+{
+    return {.added = sliderHeight / 2, .thumb = sliderHeight * 4 / 5};
+}
 
 Box bubblePlace(const Box& thumb, int width, int height)
 {
@@ -21,6 +27,27 @@ Box popupPlace(int pointer, int thumb, int buttonsBottom, int width, int height)
 {
     const int left = pointer - thumb;
     return {left, buttonsBottom, left + width, buttonsBottom + height};
+}
+
+Box cylinderPlace(const Box& slider)
+{
+    constexpr int kEdge = 2; // the etched edge and the gap outside it
+    return frame::inset(slider, kEdge);
+}
+
+Box stripPlace(const Box& cylinder, bool sideways, int from, int to)
+{
+    return sideways ? Box{from, cylinder.top, to, cylinder.bottom}
+                    : Box{cylinder.left, from, cylinder.right, to};
+}
+
+NumberPlace numberPlace(const Box& cylinder, int textWidth, int textHeight)
+{
+    constexpr int kSide = 1; // of the background, beside the text
+    const int left = (cylinder.width() - textWidth) / 2 + cylinder.left;
+    const int top = (cylinder.height() - textHeight) / 2 + cylinder.top;
+    const Box background{left - kSide, top, left + textWidth + kSide, top + textHeight};
+    return {.text = {left, top}, .background = frame::intersection(background, cylinder)};
 }
 
 Box editPlace(const Box& slider, int characters, int digitWidth, int digitHeight)

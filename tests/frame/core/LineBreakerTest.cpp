@@ -123,6 +123,41 @@ TEST(LineBreaker, ALineMayBeBrokenBetweenCharactersWhereTheLanguageAllowsIt)
     EXPECT_EQ(result.shown(), L"oakelm\r\nash");
 }
 
+TEST(LineStarts, LinesBeginBehindBlanksAndWhereThePlatformAllowsIt)
+{
+    // Every text of three characters, with everything that the platform may say of the second and third.
+    const wchar_t characters[] = {L'a', L' ', L'\t', L'\x4E00'};
+    for (const wchar_t first : characters)
+        for (const wchar_t second : characters)
+            for (const wchar_t third : characters)
+                for (int said = 0; said < 16; ++said) {
+                    const std::wstring text{first, second, third};
+                    const std::vector<CharacterBreak> known{
+                        {}, {(said & 1) != 0, (said & 2) != 0}, {(said & 4) != 0, (said & 8) != 0}};
+                    const std::vector<bool> starts = lineStarts(text, known);
+                    ASSERT_EQ(starts.size(), 3u);
+                    EXPECT_FALSE(starts[0]);
+                    for (std::size_t i = 1; i < 3; ++i) {
+                        const bool word = isBlank(text[i - 1]) && !isBlank(text[i]);
+                        EXPECT_EQ(starts[i], word || (known[i].before && !known[i].isSpace))
+                            << i << ' ' << said;
+                    }
+                    EXPECT_EQ(lineStarts(text, {}), breaksOf(text)) << "the platform does not tell";
+                }
+}
+
+TEST(LineStarts, AnEmptyTextHasNone)
+{
+    EXPECT_TRUE(lineStarts(L"", {}).empty());
+}
+
+TEST(WrappedText, APositionIsFoundByTheLowerHalfOfItsNumber)
+{
+    for (const std::size_t line : {0u, 1u, 0x7FFFu, 0xFFF0u, 0xFFFFu, 0x10000u, 0x1FFFFu, 0x12345678u})
+        for (const std::size_t offset : {0u, 1u, 15u, 16u, 1000u, 0xFFFFu})
+            EXPECT_EQ(positionInLine(line, (line + offset) & 0xFFFF), line + offset) << line << ' ' << offset;
+}
+
 TEST(WrappedText, APlainTextKeepsItsPositions)
 {
     const WrappedText plain;

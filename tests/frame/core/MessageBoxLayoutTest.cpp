@@ -82,6 +82,30 @@ TEST(MessageBoxLayout, AHorizontalBarTakesItsRoomFromTheLines)
               (Box{0, 0, 208 + 17 + 2, 15 * 13 + 16 + 2 - 16}));
 }
 
+TEST(MessageBoxLayout, AControlThatTakesItsMarginsOffHasTheWantedFormatInTheEnd)
+{
+    const Box wanted{10, 5, 210, 70};
+    for (int left = 0; left < 6; ++left)
+        for (int right = 0; right < 6; ++right)
+            for (int edge = 0; edge < 4; ++edge) {
+                const auto given = [&](const Box& asked) {
+                    return Box{asked.left + left, asked.top + edge, asked.right - right, asked.bottom - edge};
+                };
+                const auto larger = formatToAsk(wanted, given(wanted));
+                ASSERT_EQ(larger.has_value(), left + right > 0);
+                const Box got = larger ? given(*larger) : given(wanted);
+                EXPECT_TRUE(got == wanted || left + right == 0) << left << ' ' << right << ' ' << edge;
+            }
+}
+
+TEST(MessageBoxLayout, AFormatThatIsWideEnoughIsNotAskedForAgain)
+{
+    const Box wanted{10, 5, 210, 70};
+    for (int wider = 0; wider < 5; ++wider)
+        for (int higher = -5; higher < 5; ++higher)
+            EXPECT_EQ(formatToAsk(wanted, {10, 5, 210 + wider, 70 + higher}), std::nullopt);
+}
+
 TEST(MessageBoxLayout, TheDialogFitsTheText)
 {
     EXPECT_EQ(dialogSize(400, 100, {75, 22}, 1, metrics()), (Extent{400 + 6 + 62, 8 + 24 + 19 + 100 + 22}));

@@ -99,3 +99,24 @@ TEST(Placement, ABoxContainsItsLeftAndTopEdgeAndNotTheOthers)
         for (int y = 0; y < 9; ++y)
             EXPECT_EQ(contains(box, x, y), x >= 2 && x <= 4 && y >= 3 && y <= 6) << x << ' ' << y;
 }
+
+TEST(Placement, TheIntersectionIsWhatLiesInBothBoxes)
+{
+    const Box area{2, 2, 6, 6};
+    for (int left = 0; left < 8; ++left)
+        for (int top = 0; top < 8; ++top)
+            for (int right = left; right < 9; ++right)
+                for (int bottom = top; bottom < 9; ++bottom) {
+                    const Box box{left, top, right, bottom};
+                    const Box common = intersection(box, area);
+                    int pixels = 0;
+                    for (int x = 0; x < 9; ++x)
+                        for (int y = 0; y < 9; ++y) {
+                            const bool inBoth = contains(box, x, y) && contains(area, x, y);
+                            ASSERT_EQ(contains(common, x, y), inBoth);
+                            pixels += inBoth;
+                        }
+                    ASSERT_TRUE(pixels > 0 || common == Box{});
+                    ASSERT_EQ(intersection(area, box), common);
+                }
+}

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 using namespace ovoui::sliders;
 using ovoui::frame::Box;
 
@@ -67,4 +69,62 @@ TEST(SliderPlaces, TheArrowFitsIntoItsButtonOrIsLeftOut)
             EXPECT_LT((*corners)[1].x, (*corners)[0].x) << "it points to the right";
         }
     EXPECT_EQ(arrowCorners(16, 22), (std::array<Corner, 3>{{{13, 11}, {4, 2}, {4, 20}}}));
+}
+
+TEST(SliderPlaces, ANumberIsInTheMiddleOfItsCylinderAndItsBackgroundAPixelWiderOnBothSides)
+{
+    EXPECT_EQ(numberPlace({2, 2, 102, 22}, 18, 13), (NumberPlace{{43, 5}, {42, 5, 62, 18}}));
+    for (int width = 0; width < 40; ++width)
+        for (int height = 0; height < 30; ++height)
+            for (const int textWidth : {0, 6, 18})
+                for (const int textHeight : {0, 13}) {
+                    const Box cylinder{2, 3, 2 + width, 3 + height};
+                    const auto [text, background] = numberPlace(cylinder, textWidth, textHeight);
+                    const bool fits = width >= textWidth + 2 && height >= textHeight && textHeight > 0;
+                    const Box around{text.x - 1, text.y, text.x + textWidth + 1, text.y + textHeight};
+                    EXPECT_TRUE(!fits || background == around) << width << ' ' << height;
+                    EXPECT_TRUE(background.empty() ||
+                                (background.left >= 2 && background.right <= 2 + width &&
+                                 background.top >= 3 && background.bottom <= 3 + height))
+                        << width << ' ' << height;
+                    const int beside = (cylinder.right - text.x - textWidth) - (text.x - cylinder.left);
+                    EXPECT_LE(std::abs(beside), 1) << width << ' ' << height;
+                    const int below = (cylinder.bottom - text.y - textHeight) - (text.y - cylinder.top);
+                    EXPECT_LE(std::abs(below), 1) << width << ' ' << height;
+                }
+}
+
+TEST(SliderPlaces, StripsOfACylinderStandSideBySideWhicheverWayItTurns)
+{
+    const Box cylinder{2, 4, 52, 24};
+    for (const bool sideways : {false, true}) {
+        const int begin = sideways ? cylinder.left : cylinder.top;
+        const int end = sideways ? cylinder.right : cylinder.bottom;
+        EXPECT_EQ(stripPlace(cylinder, sideways, begin, end), cylinder);
+        for (int from = begin; from < end; ++from)
+            for (int to = from; to <= end; ++to) {
+                const Box strip = stripPlace(cylinder, sideways, from, to);
+                EXPECT_EQ(sideways ? strip.width() : strip.height(), to - from);
+                EXPECT_EQ(sideways ? strip.height() : strip.width(), sideways ? 20 : 50);
+                EXPECT_EQ(sideways ? strip.left : strip.top, from);
+            }
+    }
+}
+
+TEST(SliderPlaces, ACylinderLeavesItsEdgeFree)
+{
+    EXPECT_EQ(cylinderPlace({0, 0, 100, 20}), (Box{2, 2, 98, 18}));
+    EXPECT_EQ(usefulLength(96), 288);
+    EXPECT_EQ(usefulLength(144), 432);
+}
+
+TEST(SliderPlaces, TickMarksGetHalfOfTheSlidersHeightAndTheThumbDoesNotGrow)
+{
+    for (int height = 0; height < 100; ++height) {
+        const TickRoom room = roomForTicks(height);
+        EXPECT_EQ(room.added, height / 2);
+        EXPECT_LE(room.thumb, height);
+        EXPECT_LE(5 * room.thumb, 4 * height);
+        EXPECT_GT(5 * (room.thumb + 1), 4 * height);
+    }
 }
