@@ -8,6 +8,8 @@
 namespace ovoui::colour
 {
 
+struct ButtonFaceLayout;
+
 class ColourButtonFace
 {
 public:
@@ -24,8 +26,7 @@ public:
 
 private:
     void paintBack(CDC& dc, CRect rect, UINT state) const;
-    void paintColour(CDC& dc, const CRect& field, bool enabled) const;
-    void paintArrow(CDC& dc, const CRect& room, bool enabled) const;
+    void paintColour(CDC& dc, const ButtonFaceLayout& layout, bool enabled) const;
 
     CWnd& m_button;
     Colour m_colour;

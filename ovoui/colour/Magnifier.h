@@ -1,6 +1,8 @@
 /// Not exported. The pixels around the pointer, enlarged.
 #pragma once
 
+#include <ovoui/colour/core/MagnifierLayout.h>
+
 #include <afxwin.h>
 
 namespace ovoui::colour
@@ -32,12 +34,12 @@ protected:
 private:
     bool create(CWnd& owner);
     void take(CPoint point);
-    CRect pixelRect() const;
+    void paintPixels(CDC& dc);
+    void paintColour(CDC& dc) const;
 
     CBitmap m_pixels; // those around the point
     COLORREF m_colour = 0;
-    int m_zoom = 0;       // of a pixel, in pixels
-    int m_textHeight = 0; // of the line below the pixels
+    MagnifierLayout m_layout;
 };
 
 } // namespace ovoui::colour

@@ -1,6 +1,7 @@
 # The colour picker, its dialogs, and the shaded tab control that carries them.
 set(colour_core
   ${CMAKE_CURRENT_LIST_DIR}/core/BrushPlace.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ButtonFaceLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/CellLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ColourHistory.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ColourModes.cpp
@@ -11,6 +12,7 @@ set(colour_core
   ${CMAKE_CURRENT_LIST_DIR}/core/FocusMark.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/HueRing.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/KeyedShade.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/MagnifierLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/PickerGesture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/RecentColours.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ScreenPick.cpp
