@@ -178,11 +178,8 @@ void CFlyoutToolbar::placeAt(const CRect& button, bool horizontal)
     SetWindowPos(nullptr, place.left, place.top, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-/// A flyout that is longer than the work area gets several rows, or columns.
 void CFlyoutToolbar::breakRowsFor(const CSize& room, bool horizontal)
 {
-    if (horizontal && sizeOfEntries().cx <= room.cx)
-        return; // one row, as it is
     std::vector<RowItem> items;
     for (int i = 0; i < static_cast<int>(m_entries.size()); ++i) {
         CRect rect;
@@ -192,10 +189,11 @@ void CFlyoutToolbar::breakRowsFor(const CSize& room, bool horizontal)
         item.separator = isSeparator(fieldsOf(m_hWnd, i));
         items.push_back(item);
     }
-    const int height = HIWORD(SendMessage(TB_GETBUTTONSIZE));
-    splitRows(items, horizontal ? room.cx : 0);
-    if (!horizontal && sizeOfRows(items, height).height > room.cy)
-        splitRows(items, widthForHeight(items, height, room.cy));
+    breakFlyout(items,
+                {.horizontal = horizontal,
+                 .width = static_cast<int>(sizeOfEntries().cx),
+                 .rowHeight = HIWORD(SendMessage(TB_GETBUTTONSIZE))},
+                {static_cast<int>(room.cx), static_cast<int>(room.cy)});
     for (int i = 0; i < static_cast<int>(items.size()); ++i)
         if (items[static_cast<std::size_t>(i)].endsRow)
             SetButtonStyle(i, GetButtonStyle(i) | TBBS_WRAPPED);

@@ -1,24 +1,23 @@
 // CVantorToolBar: painting, and controls that draw themselves.
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/DrawnState.h>
 #include <ovoui/frame/ThemeData.h>
 #include <ovoui/toolbar/ToolBarState.h>
 #include <ovoui/toolbar/core/FlyoutPlacement.h>
+#include <ovoui/toolbar/core/GripperDots.h>
 
 using namespace ovoui::toolbar;
 
 namespace
 {
 
-constexpr int kDot = 2;     // pixels of a dot of the gripper, its shadow included
-constexpr int kDotStep = 4; // from dot to dot
-constexpr int kDotMargin = 3;
 constexpr int kFocusMargin = 2; // pixels from a button's edge to the mark of the keyboard
 
 /// A dot with a light edge at its lower right.
-void drawDot(CDC& dc, int x, int y)
+void drawDot(CDC& dc, const ovoui::frame::Point& dot)
 {
-    dc.FillSolidRect(x + 1, y + 1, kDot, kDot, ::GetSysColor(COLOR_BTNHIGHLIGHT));
-    dc.FillSolidRect(x, y, kDot, kDot, ::GetSysColor(COLOR_BTNSHADOW));
+    dc.FillSolidRect(dot.x + 1, dot.y + 1, kDotSize, kDotSize, ::GetSysColor(COLOR_BTNHIGHLIGHT));
+    dc.FillSolidRect(dot.x, dot.y, kDotSize, kDotSize, ::GetSysColor(COLOR_BTNSHADOW));
 }
 
 /// The text of an item of a list or combo box.
@@ -45,21 +44,19 @@ bool hasTexts(const DRAWITEMSTRUCT& item)
 
 void drawTextItem(const DRAWITEMSTRUCT& item)
 {
-    const bool selected = (item.itemState & ODS_SELECTED) != 0;
-    const bool disabled = (item.itemState & ODS_DISABLED) != 0;
+    const ovoui::frame::ItemColours colours = ovoui::frame::itemColoursOf(item.itemState);
     CRect rect(item.rcItem);
     CDC& dc = *CDC::FromHandle(item.hDC);
-    dc.FillSolidRect(rect, ::GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    dc.FillSolidRect(rect, ovoui::frame::colorrefOf(colours.background));
     if (item.itemID != static_cast<UINT>(-1)) {
-        const int colour = disabled ? COLOR_GRAYTEXT : selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT;
-        const COLORREF before = dc.SetTextColor(::GetSysColor(colour));
+        const COLORREF before = dc.SetTextColor(ovoui::frame::colorrefOf(colours.text));
         rect.DeflateRect(2, 0);
         const std::wstring text = itemText(item);
         dc.DrawText(text.c_str(), static_cast<int>(text.size()), &rect,
                     DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
         dc.SetTextColor(before);
     }
-    if ((item.itemState & ODS_FOCUS) && !(item.itemState & ODS_NOFOCUSRECT))
+    if (ovoui::frame::showsFocus(item.itemState))
         ::DrawFocusRect(item.hDC, &item.rcItem);
 }
 
@@ -137,13 +134,9 @@ void CVantorToolBar::DrawNCGripper(CDC* dc, const CRect& rect)
         CToolBar::DrawGripper(dc, rect);
         return;
     }
-    if (m_dwStyle & CBRS_ORIENT_HORZ) {
-        for (int y = rect.top + kDotMargin; y + kDot < rect.bottom - kDotMargin; y += kDotStep)
-            drawDot(*dc, rect.left + kDotMargin, y);
-        return;
-    }
-    for (int x = rect.left + kDotMargin; x + kDot < rect.right - kDotMargin; x += kDotStep)
-        drawDot(*dc, x, rect.top + kDotMargin);
+    const bool horizontal = (m_dwStyle & CBRS_ORIENT_HORZ) != 0;
+    for (const ovoui::frame::Point& dot : gripperDots(ovoui::frame::toBox(rect), horizontal))
+        drawDot(*dc, dot);
 }
 
 // Controls that draw themselves: what neither they nor the owner draws or measures is plain text.

@@ -9,6 +9,7 @@ set(toolbar_core
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutGesture.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutPlacement.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FlyoutRecords.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/GripperDots.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/LayoutRules.cpp)
 
 if(NOT WIN32)

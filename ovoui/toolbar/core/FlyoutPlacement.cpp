@@ -10,6 +10,15 @@ bool isHorizontal(const BarPosition& bar)
     return bar.floating ? bar.rows == 1 : !bar.atTheSide;
 }
 
+void breakFlyout(std::span<RowItem> entries, const FlyoutShape& shape, const RowsSize& room)
+{
+    if (shape.horizontal && shape.width <= room.width)
+        return; // one row, as it is
+    splitRows(entries, shape.horizontal ? room.width : 0);
+    if (!shape.horizontal && sizeOfRows(entries, shape.rowHeight).height > room.height)
+        splitRows(entries, widthForHeight(entries, shape.rowHeight, room.height));
+}
+
 CornerMark cornerMark(const frame::Box& button)
 {
     constexpr int kLeast = 3;

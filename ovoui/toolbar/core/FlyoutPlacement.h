@@ -2,6 +2,9 @@
 #pragma once
 
 #include <ovoui/frame/core/Placement.h>
+#include <ovoui/toolbar/core/ButtonRows.h>
+
+#include <span>
 
 namespace ovoui::toolbar
 {
@@ -21,6 +24,17 @@ bool isHorizontal(const BarPosition& bar);
 /// that of a vertical one. In a mirrored bar it ends at the button's right edge, or at its left one.
 frame::Box flyoutPlace(const frame::Box& button, int width, int height, bool horizontal,
                        bool mirrored = false);
+
+/// A flyout before its entries are broken into rows.
+struct FlyoutShape
+{
+    bool horizontal = false;
+    int width = 0; ///< of all entries as they are
+    int rowHeight = 0;
+};
+
+/// Breaks the entries of a flyout that is longer than the room for it into several rows, or columns.
+void breakFlyout(std::span<RowItem> entries, const FlyoutShape& shape, const RowsSize& room);
 
 /// A right-angled triangle of pixels: `size` rows above one another, the lowest as wide, each one pixel
 /// shorter than the one below it. All end at the right.

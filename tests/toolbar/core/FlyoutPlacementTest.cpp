@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 using namespace ovoui::toolbar;
 using ovoui::frame::Box;
 
@@ -79,4 +81,69 @@ TEST(CornerMarks, LieInsideTheButtonAtEverySize)
         EXPECT_GT(mark.right - mark.size, button.right - size / 2) << size;
     }
     EXPECT_GT(cornerMark({0, 0, 48, 48}).size, cornerMark({0, 0, 24, 24}).size);
+}
+
+namespace
+{
+
+/// Buttons of 20 pixels, and separators of 8 where a bit is set.
+std::vector<RowItem> entriesOf(int count, unsigned separators)
+{
+    std::vector<RowItem> entries;
+    for (int i = 0; i < count; ++i) {
+        RowItem entry;
+        entry.separator = (separators >> i & 1) != 0;
+        entry.width = entry.separator ? 8 : 20;
+        entries.push_back(entry);
+    }
+    return entries;
+}
+
+int widthOf(const std::vector<RowItem>& entries)
+{
+    int width = 0;
+    for (const RowItem& entry : entries)
+        width += entry.width;
+    return width;
+}
+
+} // namespace
+
+TEST(FlyoutRows, AFlyoutBelowItsButtonHasOneRowWhereItFitsElseSeveral)
+{
+    for (int count = 1; count < 8; ++count)
+        for (unsigned separators = 0; separators < (1u << count); ++separators)
+            for (int room = 20; room < 170; room += 7) {
+                std::vector<RowItem> entries = entriesOf(count, separators);
+                const std::vector<RowItem> before = entries;
+                const int width = widthOf(entries);
+                breakFlyout(entries, {.horizontal = true, .width = width, .rowHeight = 22}, {room, 100});
+                if (width <= room) {
+                    EXPECT_EQ(entries, before) << count << ' ' << separators << ' ' << room;
+                    continue;
+                }
+                std::vector<RowItem> split = before;
+                splitRows(split, room);
+                EXPECT_EQ(entries, split) << count << ' ' << separators << ' ' << room;
+                const bool hasButtons = separators != (1u << count) - 1;
+                EXPECT_TRUE(!hasButtons || sizeOfRows(entries, 22).width <= room)
+                    << count << ' ' << separators << ' ' << room;
+            }
+}
+
+TEST(FlyoutRows, AFlyoutBesideItsButtonIsAColumnAndSeveralWhereThatIsTooHigh)
+{
+    for (int count = 1; count < 8; ++count)
+        for (unsigned separators = 0; separators < (1u << count); ++separators)
+            for (int room = 22; room < 200; room += 11) {
+                std::vector<RowItem> entries = entriesOf(count, separators);
+                std::vector<RowItem> column = entries;
+                splitRows(column, 0);
+                const bool fits = sizeOfRows(column, 22).height <= room;
+                breakFlyout(entries, {.horizontal = false, .width = widthOf(entries), .rowHeight = 22},
+                            {1000, room});
+                EXPECT_TRUE(!fits || entries == column) << count << ' ' << separators << ' ' << room;
+                EXPECT_TRUE(fits || sizeOfRows(entries, 22).height < sizeOfRows(column, 22).height)
+                    << count << ' ' << separators << ' ' << room;
+            }
 }
