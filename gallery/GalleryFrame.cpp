@@ -281,6 +281,9 @@ void GalleryFrame::OnActivateApp(BOOL active, DWORD thread)
 
 void GalleryFrame::logLine(const std::wstring& line)
 {
+    constexpr int kLines = 2000; // more are of no use, and each is kept
+    if (m_log.GetCount() >= kLines)
+        m_log.DeleteString(0);
     m_log.SetTopIndex(m_log.AddString(line.c_str()));
 }
 

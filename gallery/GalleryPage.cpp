@@ -4,6 +4,15 @@
 #include "NotificationNames.h"
 #include "Resolution.h"
 
+namespace
+{
+
+constexpr UINT kTurn = WM_APP + 100; ///< the message loop has its turn again
+/// Of the notifications that come at once. A list that deselects a million rows sends two for each.
+constexpr unsigned kLoggedAtOnce = 100;
+
+} // namespace
+
 GalleryPage::GalleryPage(UINT templateId)
     : CDialog(templateId)
 {
@@ -74,6 +83,8 @@ LRESULT GalleryPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         m_log = nullptr; // that the page's controls lose what they hold is no news
     if (scroll(message, wParam, lParam))
         return 0;
+    if (message == kTurn)
+        endTurn();
     const LRESULT result = CDialog::WindowProc(message, wParam, lParam);
     if (message == WM_SIZE)
         m_layout.apply();
@@ -110,6 +121,28 @@ BOOL GalleryPage::OnCommand(WPARAM wParam, LPARAM lParam)
 
 BOOL GalleryPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    log(describeNotify(*reinterpret_cast<const NMHDR*>(lParam)));
+    logNotify(*reinterpret_cast<const NMHDR*>(lParam));
     return CDialog::OnNotify(wParam, lParam, result);
+}
+
+void GalleryPage::logNotify(const NMHDR& header)
+{
+    if (m_notified >= kLoggedAtOnce) {
+        ++m_notified;
+        return;
+    }
+    const std::wstring line = describeNotify(header);
+    if (line.empty())
+        return;
+    log(line);
+    if (++m_notified == 1)
+        PostMessage(kTurn);
+}
+
+/// Tells how many notifications were left out.
+void GalleryPage::endTurn()
+{
+    if (m_notified > kLoggedAtOnce)
+        log(L"and " + std::to_wstring(m_notified - kLoggedAtOnce) + L" more at once");
+    m_notified = 0;
 }

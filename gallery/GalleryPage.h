@@ -63,7 +63,10 @@ protected:
 
 private:
     bool scroll(UINT message, WPARAM wParam, LPARAM lParam);
+    void logNotify(const NMHDR& header);
+    void endTurn();
 
     Log m_log;
+    unsigned m_notified = 0; ///< notifications since the message loop had its turn
     PageLayout m_layout;
 };

@@ -7,6 +7,7 @@
 #include <ovoui/lists/TextExtents.h>
 #include <ovoui/lists/core/ShortText.h>
 
+#include <algorithm>
 #include <cwchar>
 
 using namespace ovoui::lists;
@@ -255,12 +256,17 @@ void COVOListCtrlEx::repaintSelectionUnless(bool inOurChild)
         RepaintSelectedItems();
 }
 
+/// Only rows that are shown are looked at: all of a million may be selected.
 void COVOListCtrlEx::RepaintSelectedItems()
 {
     repaintRow(GetNextItem(-1, LVNI_FOCUSED));
-    if (!(GetStyle() & LVS_SHOWSELALWAYS))
-        for (int item = GetNextItem(-1, LVNI_SELECTED); item != -1; item = GetNextItem(item, LVNI_SELECTED))
-            repaintRow(item);
+    if (!(GetStyle() & LVS_SHOWSELALWAYS)) {
+        const int first = GetTopIndex();
+        const int end = std::min(first + GetCountPerPage() + 1, GetItemCount()); // the last row may be cut
+        for (int item = first; item < end; ++item)
+            if (GetItemState(item, LVIS_SELECTED))
+                repaintRow(item);
+    }
     UpdateWindow();
 }
 

@@ -61,6 +61,26 @@ int askedRow(const COVOListCtrlEx& list, const std::wstring& text, int focused, 
     return row < count ? row : -1;
 }
 
+/// Deselects the rows but one, and asks after each change whether to go on. A list that knows none of its
+/// rows takes a message for all of them, since a million may be selected.
+template <class GoOn>
+bool deselectAllBut(COVOListCtrlEx& list, int row, const GoOn& goOn)
+{
+    if (list.GetStyle() & LVS_OWNERDATA) {
+        const bool isAlone = list.GetSelectedCount() == 1 && list.GetItemState(row, LVIS_SELECTED);
+        if (!isAlone)
+            list.SetItemState(-1, 0, LVIS_SELECTED);
+        return goOn();
+    }
+    for (int item = -1; (item = list.GetNextItem(item, LVNI_SELECTED)) != -1;) {
+        if (item != row)
+            list.SetItemState(item, 0, LVIS_SELECTED);
+        if (!goOn())
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 bool containsText(const std::wstring& text, const std::wstring& part)
@@ -214,12 +234,8 @@ bool COVOListFinder::goTo(int row)
         return watch.alive() && m_window == window && *m_state == state && listWatch.alive() &&
                list.GetItemCount() == count;
     };
-    for (int item = -1; (item = list.GetNextItem(item, LVNI_SELECTED)) != -1;) {
-        if (item != row)
-            list.SetItemState(item, 0, LVIS_SELECTED);
-        if (!isAsBefore())
-            return false;
-    }
+    if (!deselectAllBut(list, row, isAsBefore))
+        return false;
     list.SetItemState(row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     if (!isAsBefore())
         return false;

@@ -3,7 +3,13 @@
 #include "model/MillionList.h"
 #include "resource.h"
 
+#include <testkit/GuiThread.h>
+
 #include <gtest/gtest.h>
+
+#include <string>
+
+using namespace ovo::testkit;
 
 namespace
 {
@@ -34,4 +40,36 @@ TEST(MillionRows, WithATextThatNoneHasAreNotFound)
 {
     EXPECT_EQ(found(L"column"), -1);
     EXPECT_EQ(found(L"\u0663"), -1);
+}
+
+/// Under Wine a list sends two notifications for each row that it deselects.
+TEST(Journal, TellsOfManyNotificationsAtOnceInALine)
+{
+    GalleryScene scene;
+    scene.open(L"lists");
+    auto& journal = static_cast<CListBox&>(*scene.frame().GetDlgItem(IDC_LOG));
+    GuiThread::settle();
+    journal.ResetContent();
+    const NMHDR told{scene.control(IDC_LISTS_MILLION), IDC_LISTS_MILLION, static_cast<UINT>(LVN_ITEMCHANGED)};
+    for (int i = 0; i < 1000; ++i)
+        scene.page().SendMessage(WM_NOTIFY, told.idFrom, reinterpret_cast<LPARAM>(&told));
+    EXPECT_EQ(journal.GetCount(), 100);
+    GuiThread::settle();
+    EXPECT_EQ(journal.GetCount(), 101);
+    EXPECT_EQ(journal.FindStringExact(-1, L"and 900 more at once"), 100);
+    scene.page().SendMessage(WM_NOTIFY, told.idFrom, reinterpret_cast<LPARAM>(&told));
+    EXPECT_EQ(journal.GetCount(), 102) << "the next one is told again";
+}
+
+TEST(Journal, KeepsItsLastLines)
+{
+    constexpr int kLines = 2000;
+    GalleryScene scene;
+    auto& journal = static_cast<CListBox&>(*scene.frame().GetDlgItem(IDC_LOG));
+    for (int line = 0; line < kLines + 50; ++line)
+        scene.frame().logLine(L"line " + std::to_wstring(line));
+    EXPECT_EQ(journal.GetCount(), kLines);
+    CString last;
+    journal.GetText(kLines - 1, last);
+    EXPECT_EQ(last, L"line 2049");
 }

@@ -300,6 +300,24 @@ TEST_F(ListFinding, AListWithoutStorageAsksItsParent)
     EXPECT_FALSE(finder.Find(L"eight"));
 }
 
+TEST_F(ListFinding, AListWithoutStorageDeselectsAllItsRowsAtOnce)
+{
+    List stored;
+    stored.Create(WS_CHILD | WS_VISIBLE | LVS_OWNERDATA, CRect(0, 0, 90, 90), &scene.parent, 40);
+    stored.AddColumn(L"c", 0, -1, false, LVCF_TEXT | LVCF_WIDTH, 0);
+    stored.SetItemCountEx(1000);
+    for (const int found : {700, 20}) {
+        stored.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+        ASSERT_EQ(stored.GetSelectedCount(), 1000u);
+        scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), found);
+        finder.Attach(stored);
+        scene.parent.log().clear();
+        EXPECT_TRUE(finder.Find(L"seven"));
+        EXPECT_EQ(stored.GetCurSel(), found);
+        EXPECT_LE(scene.parent.log().count(static_cast<UINT>(LVN_ITEMCHANGED)), 4);
+    }
+}
+
 TEST_F(ListFinding, TheListMayBeDestroyedFirst)
 {
     robot.type(L"gar");

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace ovo::testkit;
 
 namespace
@@ -67,6 +69,28 @@ protected:
 };
 
 } // namespace
+
+TEST_F(ListFocus, OfManySelectedRowsThoseThatAreShownAreRepainted)
+{
+    ListScene scene{LVS_OWNERDATA};
+    scene.addColumn(L"name", 100);
+    scene.list.SetItemCountEx(20000);
+    scene.list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+    ASSERT_EQ(scene.list.GetSelectedCount(), 20000u);
+    scene.show();
+    scene.list.EnsureVisible(500, FALSE);
+    scene.button.SetFocus();
+    const int top = scene.list.GetTopIndex();
+    const int shown = scene.list.GetCountPerPage() + 1;
+    ofList(scene);
+    scene.list.SetFocus();
+    const std::vector<Invalidated> repainted = ofList(scene);
+    EXPECT_LE(repainted.size(), static_cast<std::size_t>(shown) + 2);
+    for (int row = top; row < top + shown; ++row)
+        EXPECT_TRUE(std::any_of(repainted.begin(), repainted.end(), [&](const Invalidated& one) {
+            return one.rect == rowOf(scene, row);
+        })) << row;
+}
 
 TEST_F(ListFocus, ComingAndGoingRepaintsTheFocusedAndTheSelectedRows)
 {
