@@ -4,6 +4,7 @@
 #include <ovoui/tree/MouseWait.h>
 #include <ovoui/tree/QueuedMouse.h>
 #include <ovoui/tree/Selection.h>
+#include <ovoui/tree/core/ItemSets.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -14,18 +15,6 @@ namespace
 {
 
 constexpr ULONGLONG kScrollInterval = 50; // milliseconds
-
-std::vector<HTREEITEM> sorted(std::vector<HTREEITEM> items)
-{
-    std::sort(items.begin(), items.end());
-    items.erase(std::unique(items.begin(), items.end()), items.end());
-    return items;
-}
-
-bool isAmong(const std::vector<HTREEITEM>& sortedItems, HTREEITEM item)
-{
-    return std::binary_search(sortedItems.begin(), sortedItems.end(), item);
-}
 
 } // namespace
 
@@ -39,7 +28,7 @@ struct MultiTreeCtrl::Band::Drawing
         , firstRow(state, row)
         , fromRow(row != nullptr)
         , ctrl(ctrlHeld)
-        , before(state, sorted(state->selectedItems()))
+        , before(state, setOf(state->selectedItems()))
         , caretBefore(state, state->view.caret())
     {
     }
@@ -120,17 +109,10 @@ std::vector<HTREEITEM> MultiTreeCtrl::Band::wantedBy(const Drawing& drawing, HTR
 {
     const bool knowsBegin = drawing.firstRow || !drawing.fromRow; // else its row has gone
     const std::vector<HTREEITEM> touched =
-        knowsBegin ? sorted(m_state.selection->displayedRange(drawing.firstRow.item(), row))
+        knowsBegin ? setOf(m_state.selection->displayedRange(drawing.firstRow.item(), row))
                    : std::vector<HTREEITEM>();
-    const std::vector<HTREEITEM>& before = drawing.before.items();
-    std::vector<HTREEITEM> wanted = touched;
-    wanted.insert(wanted.end(), before.begin(), before.end());
-    wanted = sorted(std::move(wanted));
-    std::erase_if(wanted, [&](HTREEITEM item) {
-        const bool was = isAmong(before, item) && !drawing.before.isGone(item);
-        return !selectedByBand(was, isAmong(touched, item), drawing.ctrl);
-    });
-    return wanted;
+    return bandSelection(drawing.before.items(), touched, drawing.ctrl,
+                         [&](HTREEITEM item) { return drawing.before.isGone(item); });
 }
 
 /// Beside the tree the pointer scrolls it. The frame is taken away before, or its picture would move along.

@@ -5,11 +5,10 @@
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/Selection.h>
+#include <ovoui/tree/core/RowWalk.h>
 #include <ovoui/tree/core/SelectRule.h>
 
 #include <ovouires/resource.h>
-
-#include <algorithm>
 
 using namespace ovoui::frame;
 using namespace ovoui::tree;
@@ -128,17 +127,11 @@ HTREEITEM MultiTreeCtrl::Keyboard::goalOf(Aim aim) const
     }
 }
 
-/// As many rows on as the window shows, less one that stays in sight.
 HTREEITEM MultiTreeCtrl::Keyboard::pageFrom(HTREEITEM caret, UINT relation) const
 {
-    HTREEITEM item = caret ? view().displayedFor(caret) : nullptr;
-    for (auto rows = std::max<LRESULT>(view().ask(TVM_GETVISIBLECOUNT) - 1, 1); item && rows > 0; --rows) {
-        const HTREEITEM next = view().next(relation, item);
-        if (!next)
-            break;
-        item = next;
-    }
-    return item;
+    return pageOn(caret ? view().displayedFor(caret) : nullptr,
+                  static_cast<int>(view().ask(TVM_GETVISIBLECOUNT)),
+                  [&](HTREEITEM row) { return view().next(relation, row); });
 }
 
 void MultiTreeCtrl::Keyboard::perform(Action action, HTREEITEM goal, const Default& handle)

@@ -191,17 +191,12 @@ void MultiTreeCtrl::LabelEdit::editAgain()
 namespace
 {
 
-/// What a message to the tree view deletes. `empties`: it closes an item for good.
 ToBeDeleted deletedBy(UINT message, bool empties, HTREEITEM item)
 {
-    const bool all = !item || item == TVI_ROOT;
-    if (message == WM_DESTROY || (message == TVM_DELETEITEM && all))
-        return ToBeDeleted::Everything;
-    if (message == TVM_DELETEITEM)
-        return ToBeDeleted::Item;
-    if (!empties || !item)
-        return ToBeDeleted::Nothing;
-    return all ? ToBeDeleted::Everything : ToBeDeleted::Children;
+    return toBeDeleted({.destroysTree = message == WM_DESTROY,
+                        .deletes = message == TVM_DELETEITEM,
+                        .empties = empties,
+                        .all = !item || item == TVI_ROOT});
 }
 
 } // namespace

@@ -5,9 +5,10 @@
 #include <ovoui/tree/ParentNotificationFilter.h>
 #include <ovoui/tree/SelectionEvents.h>
 #include <ovoui/frame/RedrawHold.h>
+#include <ovoui/tree/core/ItemSets.h>
+#include <ovoui/tree/core/RowWalk.h>
 #include <ovoui/tree/core/SelectRule.h>
 
-#include <algorithm>
 #include <optional>
 
 using ovoui::frame::RedrawHold;
@@ -148,30 +149,11 @@ void MultiTreeCtrl::Selection::addRange(HTREEITEM a, HTREEITEM b)
     setAll(displayedRange(a, b), true);
 }
 
-/// The displayed items from one to the other. Both ends go on downwards in turn until one meets the other:
-/// which stands first is not known, and the rest of the tree is no matter.
 std::vector<HTREEITEM> MultiTreeCtrl::Selection::displayedRange(HTREEITEM a, HTREEITEM b) const
 {
-    struct Walk
-    {
-        HTREEITEM at;
-        HTREEITEM goal;
-        std::vector<HTREEITEM> passed{};
-    };
-    Walk walks[] = {{view().isDisplayed(a) ? a : nullptr, b}, {view().isDisplayed(b) ? b : nullptr, a}};
-    Walk* toTheEnd = nullptr; // the one that went furthest without meeting the other
-    while (walks[0].at || walks[1].at)
-        for (Walk& walk : walks) {
-            if (!walk.at)
-                continue;
-            walk.passed.push_back(walk.at);
-            if (walk.at == walk.goal)
-                return walk.passed;
-            walk.at = view().next(TVGN_NEXTVISIBLE, walk.at);
-            if (!walk.at)
-                toTheEnd = &walk;
-        }
-    return toTheEnd ? toTheEnd->passed : std::vector<HTREEITEM>();
+    const auto displayed = [this](HTREEITEM item) { return view().isDisplayed(item) ? item : nullptr; };
+    return rowRange(displayed(a), displayed(b),
+                    [this](HTREEITEM row) { return view().next(TVGN_NEXTVISIBLE, row); });
 }
 
 void MultiTreeCtrl::Selection::selectRange(HTREEITEM end, const Way& way)
@@ -234,19 +216,14 @@ void MultiTreeCtrl::Selection::keepWhile(const std::function<void()>& moveFocus)
 void MultiTreeCtrl::Selection::become(const ItemList& wanted)
 {
     const HostCalls host(tree());
-    std::vector<HTREEITEM> then = wanted.items();
-    std::vector<HTREEITEM> now = items();
-    std::sort(then.begin(), then.end());
-    std::sort(now.begin(), now.end());
-    std::vector<HTREEITEM> changed;
-    std::set_symmetric_difference(then.begin(), then.end(), now.begin(), now.end(),
-                                  std::back_inserter(changed));
+    const std::vector<HTREEITEM> then = setOf(wanted.items());
+    const std::vector<HTREEITEM> changed = differing(then, setOf(items()));
     std::optional<RedrawHold> hold;
     if (changed.size() > kFewItems)
         hold.emplace(tree().m_hWnd);
     for (const HTREEITEM each : changed)
         if (host.usable() && !wanted.isGone(each))
-            view().setSelected(each, std::binary_search(then.begin(), then.end(), each));
+            view().setSelected(each, isIn(then, each));
 }
 
 /// Where no others than the caret are selected, the tree view's own way is right, and it tells the parent.
@@ -255,8 +232,8 @@ void MultiTreeCtrl::Selection::follow(bool range, const Way& way, const std::fun
     const HostCalls host(tree());
     const Tracker oldCaret(shared(), view().caret());
     const std::vector<HTREEITEM> selected = items();
-    const bool alone = selected.empty() || (selected.size() == 1 && selected.front() == oldCaret.item());
-    if (alone && !range) {
+    const bool caretAlone = selected.size() == 1 && selected.front() == oldCaret.item();
+    if (treeViewSelects(selected.size(), caretAlone, range)) {
         handle();
         return;
     }

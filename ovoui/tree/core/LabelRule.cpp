@@ -15,6 +15,17 @@ AfterRename afterRename(std::wstring_view before, std::wstring_view after, std::
     return after == typed ? AfterRename::TakeTyped : AfterRename::ShowNodes;
 }
 
+ToBeDeleted toBeDeleted(const DeletingMessage& message)
+{
+    if (message.destroysTree)
+        return ToBeDeleted::Everything;
+    if (message.deletes)
+        return message.all ? ToBeDeleted::Everything : ToBeDeleted::Item;
+    if (message.empties)
+        return message.all ? ToBeDeleted::Everything : ToBeDeleted::Children;
+    return ToBeDeleted::Nothing;
+}
+
 bool closesEditor(ToBeDeleted what, bool isItem, bool isBelow)
 {
     switch (what) {

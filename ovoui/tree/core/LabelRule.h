@@ -28,6 +28,17 @@ enum class ToBeDeleted
     Children ///< of an item that stays
 };
 
+/// What a message to the tree view says of that.
+struct DeletingMessage
+{
+    bool destroysTree = false;
+    bool deletes = false; ///< the item that it names, with all below it
+    bool empties = false; ///< closes the item that it names for good
+    bool all = false;     ///< the item named stands for all, or there is none
+};
+
+ToBeDeleted toBeDeleted(const DeletingMessage& message);
+
 /// Whether the editor must be closed first, which must not outlive its item. `isItem`: the edited item is the
 /// one that the message names; `isBelow`: it is somewhere below that.
 bool closesEditor(ToBeDeleted what, bool isItem, bool isBelow);

@@ -20,6 +20,11 @@ bool selectsForCertain(bool caretReached, bool caretStayed)
     return caretReached || caretStayed;
 }
 
+bool treeViewSelects(std::size_t selected, bool caretAlone, bool range)
+{
+    return !range && (selected == 0 || caretAlone);
+}
+
 TreeKeyRoute treeKeyRoute(bool keyboard, bool editing, bool hasAccelerators)
 {
     if (!keyboard)

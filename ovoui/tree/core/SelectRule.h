@@ -1,6 +1,8 @@
 /// What is left to do when the tree view was asked to make an item the caret. Plain values, no windows.
 #pragma once
 
+#include <cstddef>
+
 namespace ovoui::tree
 {
 
@@ -29,6 +31,10 @@ AfterAsking afterAsking(const CaretAsked& asked);
 /// Whether an item that the parent may have refused is selected all the same: not when the parent has chosen
 /// another caret instead.
 bool selectsForCertain(bool caretReached, bool caretStayed);
+
+/// Whether a caret that follows a key is left to the tree view alone, which tells the parent: where nothing
+/// but the caret is selected, and no range is to be. `caretAlone`: the caret is the one item selected.
+bool treeViewSelects(std::size_t selected, bool caretAlone, bool range);
 
 /// Which way the message of a key goes on its way to a window in the tree.
 enum class TreeKeyRoute

@@ -44,3 +44,21 @@ TEST(LabelRule, TheEditorIsClosedBeforeItsItemGoes)
             EXPECT_EQ(closesEditor(ToBeDeleted::Children, isItem, isBelow), isBelow);
         }
 }
+
+TEST(LabelRule, AMessageDeletesEverythingAnItemOrWhatIsBelowIt)
+{
+    for (const bool destroys : {false, true})
+        for (const bool deletes : {false, true})
+            for (const bool empties : {false, true})
+                for (const bool all : {false, true}) {
+                    ToBeDeleted expected = ToBeDeleted::Nothing;
+                    if (destroys || (all && (deletes || empties)))
+                        expected = ToBeDeleted::Everything;
+                    else if (deletes)
+                        expected = ToBeDeleted::Item;
+                    else if (empties)
+                        expected = ToBeDeleted::Children;
+                    EXPECT_EQ(toBeDeleted({destroys, deletes, empties, all}), expected)
+                        << destroys << deletes << empties << all;
+                }
+}

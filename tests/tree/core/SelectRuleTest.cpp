@@ -69,3 +69,16 @@ TEST(SelectRule, KeysGoToTheEditorFirstAndElseToTheAccelerators)
                 EXPECT_EQ(treeKeyRoute(keyboard, editing, accelerators), expected);
             }
 }
+
+TEST(SelectRule, TheTreeViewMovesTheCaretAloneWhereNothingElseIsSelected)
+{
+    for (std::size_t selected = 0; selected < 4; ++selected)
+        for (const bool caretAlone : {false, true})
+            for (const bool range : {false, true}) {
+                if (caretAlone && selected != 1)
+                    continue; // then it is not alone
+                const bool nothingElse = selected == 0 || caretAlone;
+                EXPECT_EQ(treeViewSelects(selected, caretAlone, range), nothingElse && !range)
+                    << selected << caretAlone << range;
+            }
+}
