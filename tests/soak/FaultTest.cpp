@@ -113,21 +113,6 @@ LONG WINAPI nameFailing(EXCEPTION_POINTERS*)
     return EXCEPTION_CONTINUE_SEARCH;
 }
 
-/// Lives a life; gives a complaint about an exception that is not one of the documented kinds.
-std::string liveOnce(const Life& life, CWnd& parent)
-{
-    try {
-        life.live(parent);
-        GuiThread::settle();
-    } catch (const std::exception&) {
-    } catch (CException* error) {
-        error->Delete();
-    } catch (...) {
-        return "an exception of no known kind";
-    }
-    return "";
-}
-
 class Faults : public ::testing::TestWithParam<Life>
 {
 protected:

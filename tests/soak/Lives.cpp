@@ -3,6 +3,7 @@
 #include "LeafTree.h"
 
 #include <support/NextDialog.h>
+#include <testkit/GuiThread.h>
 
 #include <ovoui/ovoui.h>
 #include <ovouires/resource.h>
@@ -293,6 +294,20 @@ void liveToolWindow(CWnd&)
 }
 
 } // namespace
+
+std::string liveOnce(const Life& life, CWnd& parent)
+{
+    try {
+        life.live(parent);
+        ovo::testkit::GuiThread::settle();
+    } catch (const std::exception&) {
+    } catch (CException* error) {
+        error->Delete();
+    } catch (...) {
+        return "an exception of no known kind";
+    }
+    return "";
+}
 
 void PrintTo(const Life& life, std::ostream* out)
 {

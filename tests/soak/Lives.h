@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <iosfwd>
+#include <string>
 #include <vector>
 
 struct Life
@@ -17,6 +18,9 @@ struct Life
 };
 
 void PrintTo(const Life& life, std::ostream* out);
+
+/// Lives a life; gives a complaint about an exception that is not one of the documented kinds.
+std::string liveOnce(const Life& life, CWnd& parent);
 
 const std::vector<Life>& lives();
 

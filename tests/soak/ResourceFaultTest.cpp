@@ -19,26 +19,6 @@
 
 using namespace ovo::testkit;
 
-namespace
-{
-
-/// Lives a life; gives a complaint about an exception that is not one of the documented kinds.
-std::string liveOnce(const Life& life, CWnd& parent)
-{
-    try {
-        life.live(parent);
-        GuiThread::settle();
-    } catch (const std::exception&) {
-    } catch (CException* error) {
-        error->Delete();
-    } catch (...) {
-        return "an exception of no known kind";
-    }
-    return "";
-}
-
-} // namespace
-
 TEST(DamagedResources, AModuleCutAnywhereIsRefused)
 {
     const ProbeFolder folder;
