@@ -3,11 +3,12 @@
 # Components: runtime, gallery, sdk, doc, examples.
 include(CMakePackageConfigHelpers)
 
-set(targets ovoui ovocor ovomsg ovomfc)
+set(targets ovoui ovocor ovomsg ovomfc ovosvg)
 set_target_properties(ovoui PROPERTIES EXPORT_NAME ui)
 set_target_properties(ovocor PROPERTIES EXPORT_NAME cor)
 set_target_properties(ovomsg PROPERTIES EXPORT_NAME msg)
 set_target_properties(ovomfc PROPERTIES EXPORT_NAME mfc)
+set_target_properties(ovosvg PROPERTIES EXPORT_NAME svg)
 set_target_properties(ovomfcmain PROPERTIES EXPORT_NAME mfcmain)
 
 install(TARGETS ${targets} ovomfcmain EXPORT ovouiTargets
@@ -50,6 +51,7 @@ endfunction()
 ovo_install_headers(ovocor)
 ovo_install_headers(ovomsg)
 ovo_install_headers(ovoui)
+ovo_install_headers(ovosvg)
 install(FILES ${PROJECT_SOURCE_DIR}/ovouires/resource.h DESTINATION include/ovouires COMPONENT sdk)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/mfc/include/ DESTINATION include/mfc COMPONENT sdk)
 
@@ -63,7 +65,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ovouiConfig.cmake ${CMAKE_CURRENT_BINA
               ${CMAKE_CURRENT_LIST_DIR}/host.manifest ${CMAKE_CURRENT_LIST_DIR}/mingw-w64.cmake
         DESTINATION lib/cmake/ovoui COMPONENT sdk)
 
-foreach(package ovoui ovoui-windowed)
+foreach(package ovoui ovoui-windowed ovoui-svg)
   configure_file(${CMAKE_CURRENT_LIST_DIR}/${package}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc DESTINATION lib/pkgconfig COMPONENT sdk)
 endforeach()

@@ -40,7 +40,7 @@ const std::vector<PageEntry>& pageTable()
         {L"themes", L"Themes", L"CThemeData: colours and button backgrounds, with visual styles or without.",
          &make<ThemesPage>, PageGroup::Frame},
         {L"images", L"Alpha images",
-         L"CAlphaImageList scales strips of images and keeps their alpha; CAlphaImageButton shows one.",
+         L"CAlphaImageList and CImageStrips scale images and keep their alpha; CAlphaImageButton shows one.",
          &make<ImagesPage>, PageGroup::Frame},
         {L"tree", L"Multi-selection tree",
          L"MultiTreeCtrl: select several, drag them with either button, rename, delete, copy and paste.",
@@ -59,7 +59,8 @@ const std::vector<PageEntry>& pageTable()
          L"COVOComboBox completes what is typed, and accepts it or brings back what was there before.",
          &make<ComboPage>, PageGroup::Lists},
         {L"files", L"Files",
-         L"COVOFileDialog: one class for both of the system's file dialogs; functions that ask for files and folders.",
+         L"COVOFileDialog: one class for both of the system's file dialogs; functions that ask for files and "
+         L"folders.",
          &make<FilesPage>},
         {L"colourpicker", L"Colour picker",
          L"ColPickerDlg: a ring of hues, a triangle of shades, and the numbers of three colour models.",

@@ -16,6 +16,12 @@
 #define IDB_ADD_24 131
 #define IDB_ADD_32 141
 #define IDR_SHAPES 151 // a bitmap and a toolbar
+#define IDB_DRAWINGS_16 161
+#define IDB_DRAWINGS_24 162
+#define IDB_DRAWINGS_32 163
+#define IDR_DRAWING_SUN 171 // drawings, the same as in the strips before
+#define IDR_DRAWING_CLOCK 172
+#define IDR_DRAWING_CHART 173
 
 #define IDD_PAGE_GEOMETRY 201
 #define IDD_PAGE_MESSAGE_BOX 202
@@ -93,6 +99,8 @@
 #define IDC_IMAGES_SAMPLES 1401
 #define IDC_IMAGES_BUTTON 1402 // the first of seven
 #define IDC_IMAGES_BUTTONS_LABEL 1409
+#define IDC_IMAGES_DRAWINGS 1410
+#define IDC_IMAGES_DRAWING_SAMPLES 1411
 
 #define IDC_TREE_PROJECT 1501
 #define IDC_TREE_ARCHIVE 1502

@@ -48,4 +48,8 @@ enum OvoMessageId : unsigned
     OVOMSG_CSV_NO_COLUMNS = 355,      ///< a header without names of columns
     OVOMSG_CSV_HEADER_ROWS = 356,     ///< a header of several rows
     OVOMSG_NUMBER_RANGE = 361,        ///< a number that does not fit its type
+    OVOMSG_SVG_NOT_WELL_FORMED = 362, ///< a drawing that is no well-formed XML: line and column
+    OVOMSG_SVG_NOT_SVG = 363,         ///< a file that is no drawing: its outermost element
+    OVOMSG_SVG_TOO_LARGE = 364,       ///< a drawing that is beyond the limits as a whole
+    OVOMSG_SVG_TOO_INTRICATE = 365,   ///< a drawing that is beyond a limit at a line and column
 };

@@ -19,9 +19,9 @@ enum class SvgIssue
 /// A remark about a place in a drawing.
 struct SvgNote
 {
-    SvgIssue issue;
-    int line;         ///< from 1
-    int column;       ///< from 1, in characters
+    SvgIssue issue;   ///< what is the matter
+    int line;         ///< from 1; 0 when it is about the drawing as a whole
+    int column;       ///< from 1, in characters; 0 as above
     std::string what; ///< the element, attribute or limit that it is about, in UTF-8
 
     friend bool operator==(const SvgNote&, const SvgNote&) = default;

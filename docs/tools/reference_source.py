@@ -9,6 +9,7 @@ from markdown_text import headings, link_targets
 GROUPS = (  # the first prefix that fits names the group of a header
     ("ovocor/", "core"),
     ("ovomsg/", "messages"),
+    ("ovosvg/", "svg"),
     ("ovoui/frame/", "frame"),
     ("ovoui/images/", "images"),
     ("ovoui/colour/", "colour"),

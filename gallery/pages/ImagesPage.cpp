@@ -177,6 +177,10 @@ int ImageSamples::drawStates(CDC& dc, int top)
 
 // The page
 
+BEGIN_MESSAGE_MAP(ImagesPage, GalleryPage)
+    ON_BN_CLICKED(IDC_IMAGES_DRAWINGS, &ImagesPage::OnDrawings)
+END_MESSAGE_MAP()
+
 ImagesPage::ImagesPage()
     : GalleryPage(IDD_PAGE_IMAGES)
 {
@@ -189,12 +193,38 @@ BOOL ImagesPage::OnInitDialog()
     GalleryPage::OnInitDialog();
     m_samples.create(*this);
     replace(IDC_IMAGES_SAMPLES, m_samples);
+    m_drawings.create(*this);
+    replace(IDC_IMAGES_DRAWING_SAMPLES, m_drawings);
     loadButtons();
     stretch(IDC_IMAGES_SAMPLES, {.growX = 100, .growY = 100});
+    stretch(IDC_IMAGES_DRAWING_SAMPLES, {.growX = 100, .growY = 100});
     stretch(IDC_IMAGES_BUTTONS_LABEL, {.moveY = 100});
+    stretch(IDC_IMAGES_DRAWINGS, {.moveY = 100});
     for (int i = 0; i < static_cast<int>(m_buttons.size()); ++i)
         stretch(IDC_IMAGES_BUTTON + i, {.moveY = 100});
     return FALSE;
+}
+
+std::vector<std::wstring> ImagesPage::poses() const
+{
+    return {L"drawings"};
+}
+
+bool ImagesPage::pose(const std::wstring& name)
+{
+    if (name != L"drawings")
+        return false;
+    CheckDlgButton(IDC_IMAGES_DRAWINGS, BST_CHECKED);
+    OnDrawings();
+    return true;
+}
+
+void ImagesPage::OnDrawings()
+{
+    const bool drawings = IsDlgButtonChecked(IDC_IMAGES_DRAWINGS) == BST_CHECKED;
+    m_samples.ShowWindow(drawings ? SW_HIDE : SW_SHOWNA);
+    m_drawings.ShowWindow(drawings ? SW_SHOWNA : SW_HIDE);
+    log(drawings ? L"The images are drawn for each size." : L"The images come from strips.");
 }
 
 void ImagesPage::loadButtons()
@@ -204,6 +234,7 @@ void ImagesPage::loadButtons()
     for (std::size_t i = 0; i < m_buttons.size(); ++i) {
         m_buttons[i].SubclassDlgItem(IDC_IMAGES_BUTTON + static_cast<UINT>(i), this);
         m_buttons[i].setSize(static_cast<unsigned>(size));
+        m_buttons[i].useDisabledImage(true);
         m_buttons[i].loadImage((themed ? first : IDB_ADD_16_CLASSIC) + static_cast<UINT>(i) % kButtonImages);
     }
 }

@@ -1,6 +1,7 @@
 // Alpha images at several sizes and in all their states, and buttons that show them.
 #pragma once
 
+#include "DrawingSamples.h"
 #include "GalleryPage.h"
 
 #include <ovoui/images/AlphaImageButton.h>
@@ -35,12 +36,18 @@ public:
     ImagesPage();
     ~ImagesPage() override;
 
+    std::vector<std::wstring> poses() const override;
+    bool pose(const std::wstring& name) override;
+
 protected:
     BOOL OnInitDialog() override;
+    afx_msg void OnDrawings();
+    DECLARE_MESSAGE_MAP()
 
 private:
     void loadButtons();
 
     ImageSamples m_samples;
+    DrawingSamples m_drawings;
     std::array<CAlphaImageButton, 7> m_buttons;
 };

@@ -16,7 +16,7 @@ Canvas Drawing::draw(int width, int height, std::uint32_t currentColour, std::ve
                      const Budget& budget) const
 {
     if (width < 1 || height < 1 || width > kMostPixels / height)
-        throw SvgFailure{{SvgIssue::TooLarge, 1, 1, "size"}};
+        throw SvgFailure{{SvgIssue::TooLarge, 0, 0, "size"}};
     Renderer renderer(m_root, width, height, notes, budget);
     return renderer.render(currentColour);
 }

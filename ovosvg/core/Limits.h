@@ -37,7 +37,7 @@ public:
     {
         m_steps -= steps;
         if (m_steps < 0)
-            throw SvgFailure{{SvgIssue::TooLarge, 1, 1, "work"}};
+            throw SvgFailure{{SvgIssue::TooLarge, 0, 0, "work"}};
     }
 
 private:

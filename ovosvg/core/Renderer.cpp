@@ -166,7 +166,7 @@ void Renderer::inLayer(double opacity, const Draw& draw)
     }
     const auto pixels = static_cast<std::int64_t>(m_width) * m_height;
     if (static_cast<std::int64_t>(m_layers.size() + 1) * pixels > kMostPixels)
-        throw SvgFailure{{SvgIssue::TooLarge, m_root.place.line, m_root.place.column, "layers"}};
+        throw SvgFailure{{SvgIssue::TooLarge, 0, 0, "layers"}};
     m_budget.spend(pixels);
     m_layers.emplace_back(m_width, m_height);
     draw();

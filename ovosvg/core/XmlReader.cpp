@@ -307,7 +307,7 @@ const std::string* XmlElement::find(std::string_view attribute) const
 XmlElement readXml(std::string_view text)
 {
     if (text.size() > kMostBytes)
-        throw SvgFailure{{SvgIssue::TooLarge, 1, 1, "bytes"}};
+        throw SvgFailure{{SvgIssue::TooLarge, 0, 0, "bytes"}};
     return Reader(text).document();
 }
 

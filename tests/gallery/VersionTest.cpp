@@ -46,8 +46,8 @@ private:
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(All, ShippedFile,
-                         testing::Values(L"ovoui.dll", L"ovouires.dll", L"ovomfc.dll", L"ovocor11.dll",
-                                         L"ovomsg11.dll", L"gallery.exe", L"ovo-update-lint.exe"));
+                         testing::Values(L"ovoui.dll", L"ovosvg11.dll", L"ovouires.dll", L"ovomfc.dll",
+                                         L"ovocor11.dll", L"ovomsg11.dll", L"gallery.exe", L"ovo-update-lint.exe"));
 
 TEST_P(ShippedFile, TellsItsVersionAndItsName)
 {

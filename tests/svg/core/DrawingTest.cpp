@@ -396,8 +396,8 @@ TEST(SvgDrawing, WhatIsNoDrawingIsAFailure)
 {
     EXPECT_EQ(failureOf("<svg>"), "1:1 0 svg without an end");
     EXPECT_EQ(failureOf("\n <html/>"), "2:2 1 html");
-    EXPECT_EQ(failureOf("<svg/>", 0), "1:1 2 size");
-    EXPECT_EQ(failureOf("<svg/>", 4000), "1:1 2 size");
+    EXPECT_EQ(failureOf("<svg/>", 0), "0:0 2 size");
+    EXPECT_EQ(failureOf("<svg/>", 4000), "0:0 2 size");
 }
 
 // Limits
@@ -428,7 +428,7 @@ TEST(SvgDrawing, LayersEnd)
     for (int i = 0; i < 60; ++i)
         nested += "</g>";
     EXPECT_EQ(failureOf(svg(nested), 16), "");
-    EXPECT_EQ(failureOf(svg(nested), 1000), "1:1 2 layers");
+    EXPECT_EQ(failureOf(svg(nested), 1000), "0:0 2 layers");
 }
 
 TEST(SvgDrawing, NumbersBeyondAllBoundsDoNoHarm)
