@@ -14,7 +14,7 @@ namespace
 constexpr int kImage = 16; // pixels at 96 dots per inch, as are the others
 constexpr int kFilterWidth = 110;
 constexpr int kPosesWidth = 130;
-constexpr int kControlHeight = 20;
+constexpr int kControlHeight = 22; // that of the buttons
 constexpr int kDropHeight = 200;
 
 /// Images of the strip.

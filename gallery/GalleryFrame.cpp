@@ -316,6 +316,7 @@ bool GalleryFrame::shoot(const PageEntry& entry, const std::wstring& pose, const
     // Whatever a pose before has done
     arrangeBars();
     moveIntoView();
+    SetForegroundWindow(); // a box before may have left another window active
     openPage(entry);
     settle();
     if (pose.empty())

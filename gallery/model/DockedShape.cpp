@@ -51,6 +51,6 @@ void DockedShape::OnPaint()
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(ink);
     CRect text(shape);
-    dc.DrawText(m_text.c_str(), -1, &text, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
+    dc.DrawText(m_text.c_str(), -1, &text, DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS);
     dc.SelectObject(font);
 }

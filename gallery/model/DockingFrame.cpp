@@ -64,7 +64,7 @@ bool DockingFrame::createParts()
 {
     createImages(m_images, {IDB_TOOLBAR_16, IDB_TOOLBAR_24, IDB_TOOLBAR_32}, m_hWnd);
     EnableDocking(CBRS_ALIGN_ANY);
-    constexpr UINT kPalette = WS_CHILD | WS_VISIBLE | CBRS_LEFT | CBRS_GRIPPER;
+    constexpr UINT kPalette = WS_CHILD | WS_VISIBLE | CBRS_ALIGN_LEFT | CBRS_GRIPPER;
     const bool made = m_shape.create(*this) && createBar(m_bars[0], kFirstBar, L"File", ID_DOCK_FIRST, 5) &&
                       createBar(m_bars[1], kFirstBar + 1, L"Edit", ID_DOCK_FIRST + 5, 4) &&
                       createBar(m_bars[2], kFirstBar + 2, L"View", ID_DOCK_FIRST + 9, 3) &&

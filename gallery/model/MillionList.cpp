@@ -1,6 +1,7 @@
 #include "MillionList.h"
 
 #include "ColourTable.h"
+#include "ColumnWidth.h"
 #include "Resolution.h"
 
 #include <ovocor/Colour.h>
@@ -71,8 +72,9 @@ void MillionList::fill()
     AddColumn(L"Row", 0, -1, false, kColumn, LVCFMT_LEFT);
     AddColumn(L"Square", 1, -1, false, kColumn, LVCFMT_RIGHT);
     AddColumn(L"Colour", 2, -1, true, kColumn, LVCFMT_LEFT);
-    for (int column = 0; column < 3; ++column)
+    for (int column = 0; column < 2; ++column)
         SetColumnWidth(column, scaled(m_hWnd, 110));
+    SetColumnWidth(2, columnWidth(*this, 110, L"#E61919#E61919")); // the text on a half
     SetItemCountEx(kRows);
 }
 

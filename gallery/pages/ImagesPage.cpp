@@ -131,7 +131,7 @@ int ImageSamples::drawScaled(CDC& dc, int top)
     {
         const wchar_t* text;
         int images[2];
-    } rows[] = {{L"16 to 24 pixels,", {2, 3}}, {L"soft and sharp", {4, 9}}};
+    } rows[] = {{L"Soft and sharp", {2, 3}}, {L"(16 to 24 pixels)", {4, 9}}};
     for (const auto& [text, images] : rows) {
         drawLabel(dc, text, top, side);
         int left = scaled(m_hWnd, kLabel);

@@ -1,5 +1,6 @@
 #include "ListsPage.h"
 
+#include "ColumnWidth.h"
 #include "ImageStrip.h"
 #include "model/ColourTable.h"
 #include "resource.h"
@@ -105,10 +106,10 @@ void ListsPage::arrange()
     stretch(IDC_LISTS_PROCESSES, {.moveX = 60, .growX = 40, .growY = 60});
     stretch(IDC_LISTS_MILLION_LABEL, {.moveY = 60});
     stretch(IDC_LISTS_MILLION, {.moveY = 60, .growX = 100, .growY = 40});
-    stretch(IDC_LISTS_SAVE, {.moveX = 60});
-    stretch(IDC_LISTS_RESTORE, {.moveX = 60});
-    for (const int bottom : {IDC_LISTS_ROW_COLOURS, IDC_LISTS_FILTER_LABEL, IDC_LISTS_FILTER})
-        stretch(bottom, {.moveX = bottom == IDC_LISTS_ROW_COLOURS ? 0 : 100, .moveY = 100});
+    for (const int left : {IDC_LISTS_ROW_COLOURS, IDC_LISTS_SAVE, IDC_LISTS_RESTORE})
+        stretch(left, {.moveY = 100});
+    for (const int right : {IDC_LISTS_FILTER_LABEL, IDC_LISTS_FILTER})
+        stretch(right, {.moveX = 100, .moveY = 100});
 }
 
 void ListsPage::createColours()
@@ -120,7 +121,7 @@ void ListsPage::createColours()
     m_colours.AddColumn(L"Colour", 1, -1, true, kColumn, LVCFMT_LEFT);
     m_colours.AddColumn(L"Opacity", 2, -1, false, kColumn, LVCFMT_RIGHT);
     m_colours.SetColumnWidth(0, scaled(110));
-    m_colours.SetColumnWidth(1, scaled(110));
+    m_colours.SetColumnWidth(1, columnWidth(m_colours, 110, L"#F9C8C8#F9C8C8")); // the text on a half
     fillColours(L"");
     replace(IDC_LISTS_COLOURS, m_colours);
 }
@@ -155,7 +156,7 @@ void ListsPage::createProcesses()
     m_processes.AddColumn(L"Memory", 1, -1, false, kColumn, LVCFMT_RIGHT);
     m_processes.AddColumn(L"Owner", 2, -1, false, kColumn, LVCFMT_CENTER);
     m_processes.SetColumnWidth(0, scaled(130));
-    m_processes.SetColumnWidth(1, scaled(75));
+    m_processes.SetColumnWidth(1, columnWidth(m_processes, 75, L"268 435 456"));
     m_processes.SetColumnWidth(2, scaled(70));
     int row = 0;
     for (const Process& process : kProcesses) {

@@ -32,8 +32,8 @@ constexpr wchar_t kChoices[] = L"ToolBarPage"; // section of the profile
 constexpr int kImage = 16; // pixels at 96 dots per inch
 constexpr int kEditWidth = 90;
 constexpr int kComboWidth = 100;
-constexpr int kControlHeight = 20;
-constexpr int kTag = 14; // a number beside a part
+constexpr int kControlHeight = 22; // that of the buttons
+constexpr int kTag = 14;           // a number beside a part
 constexpr int kTagGap = 4;
 constexpr int kBesideFlyout = 120;
 
@@ -54,8 +54,8 @@ enum Image
     Help
 };
 
-constexpr UINT kCommands[] = {ID_BAR_OPEN, ID_BAR_PASTE, ID_SEPARATOR, ID_BAR_UNDO,
-                              ID_BAR_REDO, ID_SEPARATOR, ID_BAR_EDIT,  ID_BAR_COMBO};
+constexpr UINT kCommands[] = {ID_BAR_OPEN,  ID_BAR_PASTE, ID_SEPARATOR, ID_BAR_UNDO, ID_BAR_REDO,
+                              ID_SEPARATOR, ID_BAR_EDIT,  ID_SEPARATOR, ID_BAR_COMBO};
 constexpr int kCommandImages[] = {Image::Open, Image::Paste, 0, Image::Undo, Image::Redo};
 constexpr UINT kShapes[] = {ID_BAR_BOX, ID_BAR_LINE};
 
@@ -64,7 +64,7 @@ enum CommandButton
     FileButton,
     PasteButton,
     EditPlace = 6,
-    ComboPlace = 7
+    ComboPlace = 8
 };
 
 std::vector<int> strips(std::size_t count)
@@ -110,14 +110,14 @@ BOOL ToolBarPage::OnInitDialog()
 {
     GalleryPage::OnInitDialog();
     if (createBar(m_commands, CBRS_ALIGN_TOP, IDC_BARS_COMMANDS)) {
-        fillCommands(m_commands);
+        fillCommands(m_commands, static_cast<int>(std::size(kCommands)));
         addControls();
         m_commands.SetControlCallback(&onControl);
         m_commands.calcLayout(LM_HORZ);
     }
     if (createBar(m_mirrored, CBRS_ALIGN_TOP, IDC_BARS_MIRRORED)) {
         m_mirrored.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
-        fillCommands(m_mirrored);
+        fillCommands(m_mirrored, static_cast<int>(std::size(kCommandImages))); // without the controls
         m_mirrored.calcLayout(LM_HORZ);
     }
     if (createBar(m_shapes, CBRS_ALIGN_LEFT, IDC_BARS_SHAPES)) {
@@ -143,17 +143,15 @@ bool ToolBarPage::createBar(ShownBar& bar, DWORD side, int placeholder)
     return true;
 }
 
-void ToolBarPage::fillCommands(ShownBar& bar)
+/// The first `count` of the commands.
+void ToolBarPage::fillCommands(ShownBar& bar, int count)
 {
     const int size = scaled(kImage);
-    bar.SetButtons(kCommands, static_cast<int>(std::size(kCommands)));
+    bar.SetButtons(kCommands, count);
     for (int i = 0; i < static_cast<int>(std::size(kCommandImages)); ++i)
         if (kCommands[i] != ID_SEPARATOR)
             bar.SetButtonInfo(i, kCommands[i], TBBS_BUTTON, kCommandImages[i]);
     bar.UseStrips({{IDB_TOOLBAR_16, 16}, {IDB_TOOLBAR_24, 24}, {IDB_TOOLBAR_32, 32}}, kImage);
-    // Without the controls, which one bar alone has
-    bar.SetButtonInfo(EditPlace, ID_BAR_EDIT, TBBS_SEPARATOR, 1);
-    bar.SetButtonInfo(ComboPlace, ID_BAR_COMBO, TBBS_SEPARATOR, 1);
     bar.AttachBar(FileButton, size, {ID_BAR_NEW, ID_BAR_OPEN, ID_BAR_SAVE, 0, ID_BAR_PRINT}, strips(5),
                   {Image::New, Image::Open, Image::Save, 0, Image::Print}, {}, false, false);
     bar.AttachBar(PasteButton, size, {ID_BAR_CUT, ID_BAR_COPY, ID_BAR_PASTE, ID_BAR_DELETE}, strips(4),
@@ -302,14 +300,16 @@ bool ToolBarPage::pose(const std::wstring& name)
     return true;
 }
 
-/// The gallery at the right edge of the work area, and the bar at its right edge, where a flyout has no room.
+/// The gallery at the edge of the work area where lines of text end, and the bar at its edge, where a flyout
+/// has no room.
 void ToolBarPage::showAtScreenEdge()
 {
     CWnd& frame = *GetTopLevelParent();
     CRect place;
     frame.GetWindowRect(&place);
     const CRect area(GetWorkArea(place));
-    frame.SetWindowPos(nullptr, area.right - place.Width(), place.top, 0, 0,
+    const bool mirrored = (frame.GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+    frame.SetWindowPos(nullptr, mirrored ? area.left : area.right - place.Width(), place.top, 0, 0,
                        SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     CRect room;
     GetClientRect(&room);

@@ -40,7 +40,7 @@ protected:
 
 private:
     bool createBar(ShownBar& bar, DWORD side, int placeholder);
-    void fillCommands(ShownBar& bar);
+    void fillCommands(ShownBar& bar, int count);
     void fillShapes(ShownBar& bar);
     void addControls();
     template <class Do>

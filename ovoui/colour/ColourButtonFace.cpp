@@ -17,7 +17,7 @@ namespace ovoui::colour
 namespace
 {
 
-int themedState(ButtonLook look)
+int themeStateOf(ButtonLook look)
 {
     switch (look) {
     case ButtonLook::Hot:
@@ -30,11 +30,6 @@ int themedState(ButtonLook look)
         break;
     }
     return PBS_NORMAL;
-}
-
-COLORREF lineColour(bool enabled)
-{
-    return ::GetSysColor(enabled ? COLOR_BTNTEXT : COLOR_GRAYTEXT);
 }
 
 } // namespace
@@ -51,9 +46,10 @@ void ColourButtonFace::paint(CDC& dc, const CRect& rect, UINT state) const
     const bool enabled = !(state & ODS_DISABLED);
     paintBack(dc, rect, state);
     const ButtonFaceLayout layout = layOutButtonFace(frame::toBox(rect), dc.GetDeviceCaps(LOGPIXELSX));
+    const COLORREF lines = ink(state);
     if (layout.showsSwatch())
-        paintColour(dc, layout, enabled);
-    frame::fillTriangle(dc, layout.arrow, lineColour(enabled));
+        paintColour(dc, layout, enabled, lines);
+    frame::fillTriangle(dc, layout.arrow, lines);
     if (frame::showsFocus(state)) {
         const CRect focus(frame::toRect(layout.focus));
         dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));
@@ -64,23 +60,38 @@ void ColourButtonFace::paint(CDC& dc, const CRect& rect, UINT state) const
 
 void ColourButtonFace::paintBack(CDC& dc, CRect rect, UINT state) const
 {
-    const bool pressed = m_look.dropped || (state & ODS_SELECTED);
     if (CThemeData::getThemeData().IsAppThemed()) {
         // The corners of a themed button show what is behind it.
         const auto behind = reinterpret_cast<HBRUSH>(
             ::SendMessageW(::GetParent(m_button), WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC),
                            reinterpret_cast<LPARAM>(m_button.m_hWnd)));
         ::FillRect(dc, &rect, behind ? behind : ::GetSysColorBrush(COLOR_BTNFACE));
-        const ButtonLook look = buttonLook(!(state & ODS_DISABLED), pressed, m_look.hot);
         frame::KeptTheme theme(L"Button");
-        if (theme.draw(m_button, dc, BP_PUSHBUTTON, themedState(look), rect))
+        if (theme.draw(m_button, dc, BP_PUSHBUTTON, themedState(state), rect))
             return;
     }
-    ::DrawFrameControl(dc, &rect, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0));
+    ::DrawFrameControl(dc, &rect, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed(state) ? DFCS_PUSHED : 0));
+}
+
+bool ColourButtonFace::pressed(UINT state) const
+{
+    return m_look.dropped || (state & ODS_SELECTED);
+}
+
+int ColourButtonFace::themedState(UINT state) const
+{
+    return themeStateOf(buttonLook(!(state & ODS_DISABLED), pressed(state), m_look.hot));
+}
+
+COLORREF ColourButtonFace::ink(UINT state) const
+{
+    const COLORREF classic = ::GetSysColor((state & ODS_DISABLED) ? COLOR_GRAYTEXT : COLOR_BTNTEXT);
+    frame::KeptTheme theme(L"Button");
+    return theme.textColour(m_button, BP_PUSHBUTTON, themedState(state), classic);
 }
 
 /// A colour with alpha is opaque on the left, and over white and black on the right.
-void ColourButtonFace::paintColour(CDC& dc, const ButtonFaceLayout& layout, bool enabled) const
+void ColourButtonFace::paintColour(CDC& dc, const ButtonFaceLayout& layout, bool enabled, COLORREF ink) const
 {
     const auto fill = [&](const frame::Box& box, const Colour& colour) {
         const COLORREF shown = enabled ? colour.colorref() : paleColour(colour.colorref());
@@ -92,7 +103,8 @@ void ColourButtonFace::paintColour(CDC& dc, const ButtonFaceLayout& layout, bool
         fill(layout.dark, overGround(m_colour, 0));
     }
     const RECT edge = frame::toRect(layout.swatch);
-    ::FrameRect(dc, &edge, ::GetSysColorBrush(enabled ? COLOR_BTNTEXT : COLOR_GRAYTEXT));
+    CBrush brush(ink);
+    dc.FrameRect(&edge, &brush);
 }
 
 } // namespace ovoui::colour

@@ -26,7 +26,13 @@ public:
 
 private:
     void paintBack(CDC& dc, CRect rect, UINT state) const;
-    void paintColour(CDC& dc, const ButtonFaceLayout& layout, bool enabled) const;
+    void paintColour(CDC& dc, const ButtonFaceLayout& layout, bool enabled, COLORREF ink) const;
+
+    bool pressed(UINT state) const;
+    /// The state of a themed push button, one of PBS_.
+    int themedState(UINT state) const;
+    /// The colour of a text on the button, which the arrow and the frame of the swatch have.
+    COLORREF ink(UINT state) const;
 
     CWnd& m_button;
     Colour m_colour;

@@ -27,10 +27,17 @@ public:
     /// when that window has no theme, although others may have one.
     bool draw(HWND wnd, HDC dc, int part, int state, const RECT& rect);
 
+    /// The colour of texts on a part in the theme of `wnd`, always the same window; `other` where it has
+    /// none.
+    COLORREF textColour(HWND wnd, int part, int state, COLORREF other);
+
     /// To be called at WM_THEMECHANGED, and when the window goes.
     void forget();
 
 private:
+    /// The theme of `wnd`, opened at the first call; null without one.
+    HTHEME theme(HWND wnd);
+
     const wchar_t* m_classList;
     HTHEME m_theme = nullptr;
     bool m_asked = false;

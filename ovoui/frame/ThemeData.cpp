@@ -97,9 +97,15 @@ bool CThemeData::drawBackground(HDC dc, const RECT* rect, HWND wnd, const wchar_
     return true;
 }
 
+/// The theme opened last for a window becomes that of the window, and some controls go on drawing with it. So
+/// the window is only asked whether it has one.
 bool CThemeData::drawCheckBox(HDC dc, const RECT* rect, HWND wnd, int state) const
 {
-    const HTHEME theme = m_module ? m_openThemeData(wnd, L"Button") : nullptr;
+    decltype(&::GetWindowTheme) windowTheme = nullptr;
+    if (m_module)
+        fetch(m_module, "GetWindowTheme", windowTheme);
+    const bool themed = windowTheme && windowTheme(wnd);
+    const HTHEME theme = themed ? m_openThemeData(nullptr, L"Button") : nullptr;
     if (!theme)
         return false;
     m_drawThemeBackground(theme, dc, BP_CHECKBOX, state, rect, nullptr);

@@ -55,8 +55,8 @@ public:
     /// is no UxTheme: true means that the theme engine is present, not that something was drawn.
     bool drawBackground(HDC dc, const RECT* rect, HWND wnd, const wchar_t* classList, int state);
 
-    /// Draws a check box in `state` (one of CBS_) into `rect` on `dc`. False when the window `wnd` has no
-    /// theme: then nothing was drawn.
+    /// Draws a check box in `state` (one of CBS_) into `rect` on `dc`. False when the window `wnd` draws
+    /// itself without a theme: then nothing was drawn. The window keeps the theme that it has opened.
     bool drawCheckBox(HDC dc, const RECT* rect, HWND wnd, int state) const;
 
 private:

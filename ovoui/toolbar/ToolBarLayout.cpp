@@ -159,6 +159,8 @@ void CVantorToolBar::putIntoPlace(HWND control, int index)
     CRect size;
     ::GetWindowRect(control, &size);
     const Box middle = centredIn(toBox(place), size.Width(), size.Height());
+    // Wine moves the pixels in a mirrored window to a wrong place.
+    const UINT bits = (GetExStyle() & WS_EX_LAYOUTRTL) ? SWP_NOCOPYBITS : 0;
     ::SetWindowPos(control, nullptr, middle.left, middle.top, 0, 0,
-                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | bits);
 }

@@ -539,6 +539,22 @@ TEST_F(ColourButton, AloneWithoutVisualStylesItHasTheClassicFrame)
     EXPECT_EQ(Picture::ofClient(*button).differences(before), 0) << "with them again";
 }
 
+/// A theme may have light buttons where the system's colours are dark.
+TEST_F(ColourButton, WithVisualStylesItsArrowHasTheThemesColourOfTexts)
+{
+    show();
+    constexpr COLORREF kSystems = RGB(1, 254, 2);
+    const int element = COLOR_BTNTEXT;
+    const COLORREF before = ::GetSysColor(element);
+    ::SetSysColors(1, &element, &kSystems);
+    const Picture themed = Picture::ofClient(*button);
+    ::SetWindowTheme(*button, L" ", L" ");
+    const Picture classic = Picture::ofClient(*button);
+    ::SetSysColors(1, &element, &before);
+    EXPECT_EQ(themed.count(kSystems), 0);
+    EXPECT_GT(classic.count(kSystems), 10);
+}
+
 TEST_F(ColourButton, TheFocusIsShown)
 {
     show();

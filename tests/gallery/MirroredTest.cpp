@@ -57,6 +57,18 @@ std::map<std::wstring, CRect> placesOfAll(GalleryScene& scene)
     return places;
 }
 
+/// What the screen shows of a window, without a margin of so many pixels.
+Picture shownBy(HWND window, int margin = 0)
+{
+    CRect place = onScreen(window);
+    place.DeflateRect(margin, margin);
+    const Picture screen = Picture::ofScreen();
+    Picture picture(place.Width(), place.Height());
+    ::BitBlt(picture.dc(), 0, 0, picture.width(), picture.height(), screen.dc(), place.left, place.top,
+             SRCCOPY);
+    return picture;
+}
+
 HWND flyout()
 {
     const HWND found = ::FindWindowW(L"OvoFlyoutToolbar", nullptr);
@@ -114,6 +126,30 @@ TEST(GalleryRightToLeft, EveryPageIsSeenWhole)
     }
 }
 
+/// Bars and the controls in them move while the frame and its bars are laid out, and their pixels with them.
+TEST(GalleryRightToLeft, BarsThatMoveArePaintedWhereTheyGo)
+{
+    GalleryScene scene(From::Right);
+    const auto lookAgain = [&](const std::wstring& what) {
+        GuiThread::settle();
+        for (const HWND window : {scene.frame().bar().m_hWnd, scene.frame().page().m_hWnd}) {
+            const Picture shown = shownBy(window);
+            ::RedrawWindow(window, nullptr, nullptr,
+                           RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+            GuiThread::settle();
+            EXPECT_EQ(shownBy(window).differences(shown), 0) << ::testing::PrintToString(what);
+        }
+    };
+    for (const wchar_t* const page : {L"toolbars", L"docking"}) {
+        scene.open(page);
+        lookAgain(page);
+    }
+    for (const wchar_t* const pose : {L"sides", L"cut"}) {
+        scene.frame().page().pose(pose);
+        lookAgain(pose);
+    }
+}
+
 /// Pictures of something are not turned round.
 TEST(GalleryRightToLeft, PicturesStayAsTheyAre)
 {
@@ -130,12 +166,7 @@ TEST(GalleryRightToLeft, PicturesStayAsTheyAre)
         GuiThread::settle();
         const HWND window = scene.control(control);
         ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-        const CRect place = onScreen(window, CRect(CPoint(0, 0), scene.placeOnPage(window).Size()));
-        const Picture screen = Picture::ofScreen();
-        Picture picture(place.Width() - 4, place.Height() - 4);
-        ::BitBlt(picture.dc(), 0, 0, picture.width(), picture.height(), screen.dc(), place.left + 2,
-                 place.top + 2, SRCCOPY);
-        return picture;
+        return shownBy(window, 2);
     };
     for (const auto& [page, control] : pictures) {
         auto usual = std::make_unique<GalleryScene>();

@@ -6,6 +6,8 @@
 
 #include <ovocor/OvoError.h>
 
+#include <uxtheme.h>
+
 #include <gtest/gtest.h>
 
 #include <utility>
@@ -418,6 +420,16 @@ TEST(TreeCheckBoxes, AreShownOnlyWhereTheHostAsksAndTheNodeHasOne)
     scene.tree.setExtras(0);
     EXPECT_EQ(shownBy(scene, "box"), Check::None);
     EXPECT_EQ(scene.tree.GetImageList(TVSIL_STATE), nullptr);
+}
+
+/// The boxes are drawn with another theme than the tree.
+TEST(TreeCheckBoxes, LeaveTheTreeTheThemeThatItDrawsWith)
+{
+    Scene scene;
+    const HTHEME theme = ::GetWindowTheme(scene.tree);
+    ASSERT_NE(theme, nullptr);
+    scene.tree.setExtras(Extra::CheckBoxes);
+    EXPECT_EQ(::GetWindowTheme(scene.tree), theme);
 }
 
 TEST(TreeCheckBoxes, CanBeAskedForBeforeThereIsAWindow)

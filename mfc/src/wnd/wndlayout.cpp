@@ -37,6 +37,12 @@ void keepInside(CRect& rect, const CRect& area)
         rect.OffsetRect(0, area.top - rect.top);
 }
 
+/// The flag for windows that move in `parent` when it is mirrored: Wine moves their pixels to a wrong place.
+UINT paintedAnew(HWND parent)
+{
+    return (::GetWindowLongPtrW(parent, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) ? SWP_NOCOPYBITS : 0;
+}
+
 } // namespace
 
 void CWnd::CenterWindow(CWnd* alternate)
@@ -60,7 +66,8 @@ void CWnd::CenterWindow(CWnd* alternate)
 
     CRect rect = screenRectOf(m_hWnd);
     const CSize size = rect.Size();
-    rect = CRect(CPoint((around.left + around.right - size.cx) / 2, (around.top + around.bottom - size.cy) / 2), size);
+    rect = CRect(
+        CPoint((around.left + around.right - size.cx) / 2, (around.top + around.bottom - size.cy) / 2), size);
     keepInside(rect, area);
     SetWindowPos(nullptr, rect.left, rect.top, -1, -1, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -81,14 +88,14 @@ void AFXAPI AfxRepositionWindow(AFX_SIZEPARENTPARAMS* layout, HWND wnd, LPCRECT 
     ::MapWindowPoints(nullptr, ::GetParent(wnd), reinterpret_cast<POINT*>(&old), 2);
     if (old == *rect)
         return;
-    constexpr UINT kFlags = SWP_NOACTIVATE | SWP_NOZORDER;
+    const UINT flags = SWP_NOACTIVATE | SWP_NOZORDER | paintedAnew(::GetParent(wnd));
     const CRect place(rect);
     if (layout)
         layout->hDWP = ::DeferWindowPos(layout->hDWP, wnd, nullptr, place.left, place.top, place.Width(),
-                                        place.Height(), kFlags);
+                                        place.Height(), flags);
     else
         callOut([&] {
-            ::SetWindowPos(wnd, nullptr, place.left, place.top, place.Width(), place.Height(), kFlags);
+            ::SetWindowPos(wnd, nullptr, place.left, place.top, place.Width(), place.Height(), flags);
         });
 }
 
@@ -131,7 +138,8 @@ public:
 
 } // namespace
 
-void CWnd::RepositionBars(UINT first, UINT last, UINT leftOver, UINT flag, LPRECT rect, LPCRECT client, BOOL stretch)
+void CWnd::RepositionBars(UINT first, UINT last, UINT leftOver, UINT flag, LPRECT rect, LPCRECT client,
+                          BOOL stretch)
 {
     const UINT kind = flag & ~static_cast<UINT>(CBRS_ALIGN_ANY);
     CRect area;
