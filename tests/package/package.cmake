@@ -1,5 +1,5 @@
 # Unpacks the SDK's archive into another folder, builds hosts against it alone, with CMake and with what pkg-config reads, and the
-# examples that it holds, and runs them all.
+# examples that it holds and the first host of the guides, and runs them all.
 #
 #   cmake -D BUILD=... -D ROOT=... -D CXX=... -D WINE=... [-D ARCHIVE=FILE] [-D EXAMPLES=N] -P package.cmake
 #
@@ -119,6 +119,15 @@ foreach(example IN LISTS examples)
     under_wine(${work}/build/visitor.exe ${program})
   endforeach()
 endforeach()
+
+# The first host, as its guide has it.
+foreach(name host.cpp CMakeLists.txt)
+  file(MAKE_DIRECTORY ${work}/first-host)
+  run(${ROOT}/docs/tools/take-example ${ROOT} docs/guides/first-host.md ${name} ${work}/first-host/${name})
+endforeach()
+configure_and_build(${work}/first-host ${work}/first-host/build)
+under_wine(${work}/build/visitor.exe ${work}/first-host/build/host.exe)
+
 # An example and its robot test, with the kit of the archive.
 set(robot ${work}/robot)
 file(COPY ${ROOT}/tests/package/robot ${prefix}/examples/settings-dialog DESTINATION ${work})
