@@ -3,6 +3,7 @@
 
 #include <testkit/GdiCounter.h>
 #include <testkit/GdiPlusSession.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/TemporaryFiles.h>
 
 #include <ovosvg/ovosvg.h>
@@ -85,6 +86,17 @@ SvgDrawing filled(const std::string& fill)
 {
     return SvgDrawing::fromText("<svg viewBox='0 0 4 4'><rect width='4' height='2' fill='" + fill +
                                 "'/></svg>");
+}
+
+HBITMAP WINAPI noBitmap(HDC, const BITMAPINFO*, UINT, void**, HANDLE, DWORD)
+{
+    return nullptr;
+}
+
+BOOL WINAPI noBytes(HANDLE, void*, DWORD, DWORD*, OVERLAPPED*)
+{
+    ::SetLastError(ERROR_CRC);
+    return FALSE;
 }
 
 /// What a call raises.
@@ -219,6 +231,35 @@ TEST(SvgModule, ReadsFilesAndResources)
     std::ofstream(std::filesystem::path(files.path(L"large.svg"))) << std::string(5 << 20, ' ');
     EXPECT_EQ(errorOf([&] { SvgDrawing::fromFile(files.path(L"large.svg")); }).note().issue,
               SvgIssue::TooLarge);
+}
+
+TEST(SvgModule, WithoutABitmapThereIsNoneAndNothingIsLoaded)
+{
+    const GdiPlusSession gdiPlus;
+    CImageStrips images(SvgStrip({filled("red")}), 16);
+    ASSERT_TRUE(images.Load(96));
+    const HIMAGELIST before = images.GetImageList();
+    const ImportPatch patch(L"ovosvg11.dll", "CreateDIBSection", reinterpret_cast<void*>(&noBitmap));
+    EXPECT_EQ(filled("red").draw(4, 4), nullptr);
+    EXPECT_EQ(svgStrip({filled("red")}, 4), nullptr);
+    EXPECT_FALSE(images.Load(144));
+    EXPECT_EQ(images.GetImageList(), before) << "what was loaded stays";
+    EXPECT_EQ(images.GetSize(), 16);
+}
+
+TEST(SvgModule, AFileThatCannotBeReadIsAnError)
+{
+    const TemporaryFiles files;
+    const std::wstring path = files.path(L"a.svg");
+    std::ofstream(std::filesystem::path(path)) << "<svg/>";
+    const ImportPatch patch(L"ovosvg11.dll", "ReadFile", reinterpret_cast<void*>(&noBytes));
+    try {
+        SvgDrawing::fromFile(path);
+        FAIL() << "nothing was raised";
+    } catch (const WinError& error) {
+        EXPECT_EQ(error.code(), static_cast<DWORD>(ERROR_CRC));
+        EXPECT_NE(std::wstring(error.wwhat()).find(L"a.svg"), std::wstring::npos);
+    }
 }
 
 TEST(SvgModule, ErrorsNameThePlace)
