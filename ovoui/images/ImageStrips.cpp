@@ -185,11 +185,11 @@ BOOL CImageStrips::Follow(CWnd& window, std::function<void()> changed)
         m_state->watch->stop();
     const auto heard = [weak = std::weak_ptr(m_state), changed = std::move(changed)](int dotsPerInch) {
         const std::shared_ptr<State> state = weak.lock();
-        if (!state || (dotsPerInch == 0 && !state->goesByColours()))
+        if (!state)
             return;
-        const int size = dotsPerInch ? atResolution(state->imageSize, dotsPerInch) : state->size;
-        const bool same = dotsPerInch && size == state->size;
-        if (!same && state->load(size) && changed)
+        const LoadedImages loaded{state->imageSize, state->size, state->goesByColours()};
+        const std::optional<int> size = sizeAfterChange(dotsPerInch, loaded);
+        if (size && state->load(*size) && changed)
             changed();
     };
     m_state->watch = ResolutionWatch::begin(window.m_hWnd, heard);

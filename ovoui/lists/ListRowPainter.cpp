@@ -8,6 +8,7 @@
 #include <ovoui/lists/RowData.h>
 #include <ovoui/lists/SolidFill.h>
 #include <ovoui/lists/core/RowLayout.h>
+#include <ovoui/lists/core/RowLooks.h>
 
 using ovoui::frame::toRect;
 
@@ -166,9 +167,10 @@ void ListRowPainter::chooseColours()
 
 bool ListRowPainter::looksSelected() const
 {
-    if (m_item.state & LVIS_DROPHILITED)
-        return true;
-    return (m_item.state & LVIS_SELECTED) && (m_look.list.focused || (m_list.GetStyle() & LVS_SHOWSELALWAYS));
+    return lists::looksSelected({.selected = (m_item.state & LVIS_SELECTED) != 0,
+                                 .dropTarget = (m_item.state & LVIS_DROPHILITED) != 0,
+                                 .listFocused = m_look.list.focused,
+                                 .alwaysShown = (m_list.GetStyle() & LVS_SHOWSELALWAYS) != 0});
 }
 
 bool ListRowPainter::isColourColumn(int column) const

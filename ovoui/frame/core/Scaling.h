@@ -6,10 +6,11 @@ namespace ovoui::frame
 
 inline constexpr int kUsualDotsPerInch = 96;
 
-/// In pixels at another resolution, to the nearest one. No length is negative.
+/// In pixels at another resolution, rounded half away from zero.
 constexpr int scaledTo(int dotsPerInch, int length)
 {
-    return (length * dotsPerInch + kUsualDotsPerInch / 2) / kUsualDotsPerInch;
+    const int half = length < 0 ? -kUsualDotsPerInch / 2 : kUsualDotsPerInch / 2;
+    return (length * dotsPerInch + half) / kUsualDotsPerInch;
 }
 
 } // namespace ovoui::frame

@@ -3,10 +3,12 @@
 namespace ovoui::images
 {
 
-int atResolution(int length, int dotsPerInch)
+std::optional<int> sizeAfterChange(int dotsPerInch, const LoadedImages& images)
 {
-    const int half = length < 0 ? -kUsualResolution / 2 : kUsualResolution / 2;
-    return (length * dotsPerInch + half) / kUsualResolution;
+    if (dotsPerInch == 0)
+        return images.byColours ? std::optional(images.size) : std::nullopt;
+    const int size = atResolution(images.usualSize, dotsPerInch);
+    return size != images.size ? std::optional(size) : std::nullopt;
 }
 
 std::size_t chooseStrip(std::span<const int> sizes, int wanted)

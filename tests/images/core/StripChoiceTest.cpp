@@ -30,3 +30,17 @@ TEST(StripChoice, TheLeastThatIsLargeEnoughElseTheLargest)
     const int one[] = {20};
     EXPECT_EQ(chooseStrip(one, 99), 0u);
 }
+
+TEST(StripChoice, ImagesAreLoadedAnewForAnotherSizeAndForOtherColoursThatTheyShow)
+{
+    for (const int dotsPerInch : {0, 96, 120, 144})
+        for (const int usualSize : {16, 24})
+            for (const int size : {16, 20, 24, 36})
+                for (const bool byColours : {false, true}) {
+                    const auto now = sizeAfterChange(dotsPerInch, {usualSize, size, byColours});
+                    const int wanted = usualSize * dotsPerInch / 96;
+                    const bool loads = dotsPerInch == 0 ? byColours : wanted != size;
+                    ASSERT_EQ(now.has_value(), loads) << dotsPerInch << ' ' << usualSize << ' ' << size;
+                    EXPECT_EQ(now.value_or(0), !loads ? 0 : dotsPerInch == 0 ? size : wanted);
+                }
+}
