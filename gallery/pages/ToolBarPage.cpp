@@ -337,7 +337,7 @@ void ToolBarPage::nameParts()
         ScreenToClient(&rect);
         return above(rect.left + scaled(kTagGap));
     };
-    addTag(1, above(bar.left - scaled(kTag / 2))); // the gripper is narrower
+    addTag(1, above(bar.left + scaled(kTagGap - kTag / 2))); // the gripper is narrower
     addTag(2, overButton(FileButton));
     addTag(3, overButton(EditPlace));
     addTag(4, overButton(ComboPlace));
