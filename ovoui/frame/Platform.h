@@ -29,6 +29,11 @@ struct Platform
     /// WM_SETREDRAW that turns drawing on again invalidates all of a toolbar.
     bool invalidatesWholeBar;
 
+    // The list view
+
+    /// A virtual list that selects or deselects a range of rows asks the display for each of them.
+    bool asksForEachRow;
+
     // Edit controls
 
     /// EM_SETRECT takes the control's margins and edge off the rectangle.

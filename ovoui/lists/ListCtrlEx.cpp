@@ -4,6 +4,7 @@
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListRowPainter.h>
 #include <ovoui/lists/OwnChange.h>
+#include <ovoui/lists/RangeInput.h>
 #include <ovoui/lists/TextExtents.h>
 #include <ovoui/lists/core/ShortText.h>
 
@@ -40,6 +41,12 @@ BOOL COVOListCtrlEx::PreCreateWindow(CREATESTRUCT& cs)
     cs.style &= ~static_cast<LONG>(LVS_SMALLICON);
     cs.style |= LVS_REPORT | LVS_OWNERDRAWFIXED;
     return CWnd::PreCreateWindow(cs);
+}
+
+LRESULT COVOListCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const RangeInput input(*this, message);
+    return CListCtrl::WindowProc(message, wParam, lParam);
 }
 
 // Contents

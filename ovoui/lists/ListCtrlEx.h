@@ -95,6 +95,7 @@ public:
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     /// The colour of the row `item`, as AddItem takes it; asked for while drawing, when row colours are in
     /// use. By default the one given to AddItem, or 0. Lists with LVS_OWNERDATA, which have no AddItem,

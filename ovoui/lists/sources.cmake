@@ -46,5 +46,6 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ListRowPainter.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ListSorter.cpp
   ${CMAKE_CURRENT_LIST_DIR}/LocaleOrder.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/RangeInput.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RowData.cpp)
 target_link_libraries(ovoui PRIVATE oleaut32)

@@ -2,6 +2,8 @@
 // columns.
 #include "ListScene.h"
 
+#include <support/PlatformSetting.h>
+
 #include <testkit/ImportPatch.h>
 
 #include <gtest/gtest.h>
@@ -90,6 +92,51 @@ TEST_F(ListFocus, OfManySelectedRowsThoseThatAreShownAreRepainted)
         EXPECT_TRUE(std::any_of(repainted.begin(), repainted.end(), [&](const Invalidated& one) {
             return one.rect == rowOf(scene, row);
         })) << row;
+}
+
+/// How often the platform's list view has asked for a part of a window to be drawn.
+int g_asked = 0;
+
+BOOL WINAPI countAsked(HWND window, const RECT* rect, BOOL erase)
+{
+    ++g_asked;
+    return ::InvalidateRect(window, rect, erase);
+}
+
+class ListRanges : public ::testing::TestWithParam<bool>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Platforms, ListRanges, ::testing::Bool());
+
+TEST_P(ListRanges, OfAVirtualListAreSelectedAndDeselectedWithoutDrawingEachRow)
+{
+    PlatformSetting setting;
+    const bool isWine = setting->asksForEachRow;
+    setting->asksForEachRow = GetParam();
+    constexpr UINT kRows = 20000;
+    ListScene scene{LVS_OWNERDATA};
+    scene.addColumn(L"name", 100);
+    scene.list.SetItemCountEx(kRows);
+    scene.show();
+    scene.list.SetFocus();
+    const ImportPatch patch(L"comctl32.dll", "InvalidateRect", reinterpret_cast<void*>(&countAsked));
+    Robot robot;
+    robot.key(VK_HOME);
+    g_asked = 0;
+    robot.holding(VK_SHIFT).key(VK_END);
+    EXPECT_EQ(scene.list.GetSelectedCount(), kRows);
+    robot.holding(VK_SHIFT).key(VK_UP);
+    EXPECT_EQ(scene.list.GetSelectedCount(), kRows - 1);
+    robot.key(VK_HOME);
+    EXPECT_EQ(scene.list.GetCurSel(), 0);
+    if (GetParam() == isWine) {
+        EXPECT_LT(g_asked, 1000);
+    }
+    scene.list.RedrawWindow();
+    const CRect row = scene.itemRect(0);
+    EXPECT_GT(Picture::ofClient(scene.list).count(::GetSysColor(COLOR_HIGHLIGHT), 0, row), 0)
+        << "what is selected is drawn";
 }
 
 TEST_F(ListFocus, ComingAndGoingRepaintsTheFocusedAndTheSelectedRows)

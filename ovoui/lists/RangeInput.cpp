@@ -1,0 +1,42 @@
+#include <ovoui/lists/RangeInput.h>
+
+#include <ovoui/frame/Platform.h>
+#include <ovoui/lists/ListCtrlEx.h>
+
+namespace ovoui::lists
+{
+
+namespace
+{
+
+constexpr int kMany = 1000; ///< rows, which take a tenth of a second
+
+bool isInput(UINT message)
+{
+    switch (message) {
+    case WM_KEYDOWN:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_RBUTTONDOWN:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Whether rows between two others may be selected, or many deselected.
+bool maySelectMany(const COVOListCtrlEx& list)
+{
+    return (list.GetStyle() & LVS_OWNERDATA) && list.GetItemCount() > kMany &&
+           (::GetKeyState(VK_SHIFT) < 0 || list.GetSelectedCount() > static_cast<UINT>(kMany));
+}
+
+} // namespace
+
+RangeInput::RangeInput(const COVOListCtrlEx& list, UINT message)
+{
+    if (platform().asksForEachRow && isInput(message) && maySelectMany(list))
+        m_hold.emplace(list.m_hWnd, frame::RedrawHold::By::ControlThenAll);
+}
+
+} // namespace ovoui::lists
