@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/AskedKey.h>
 #include <ovoui/lists/EmphasisedText.h>
+#include <ovoui/lists/RangeInput.h>
 #include <ovoui/lists/RowData.h>
 #include <ovoui/lists/core/FindRules.h>
 
@@ -68,8 +69,10 @@ bool deselectAllBut(COVOListCtrlEx& list, int row, const GoOn& goOn)
 {
     if (list.GetStyle() & LVS_OWNERDATA) {
         const bool isAlone = list.GetSelectedCount() == 1 && list.GetItemState(row, LVIS_SELECTED);
-        if (!isAlone)
+        if (!isAlone) {
+            const RangeInput range(list);
             list.SetItemState(-1, 0, LVIS_SELECTED);
+        }
         return goOn();
     }
     for (int item = -1; (item = list.GetNextItem(item, LVNI_SELECTED)) != -1;) {

@@ -24,18 +24,27 @@ bool isInput(UINT message)
     }
 }
 
-/// Whether rows between two others may be selected, or many deselected.
-bool maySelectMany(const COVOListCtrlEx& list)
+bool hasManyRows(const COVOListCtrlEx& list)
 {
-    return (list.GetStyle() & LVS_OWNERDATA) && list.GetItemCount() > kMany &&
-           (::GetKeyState(VK_SHIFT) < 0 || list.GetSelectedCount() > static_cast<UINT>(kMany));
+    return platform().asksForEachRow && (list.GetStyle() & LVS_OWNERDATA) && list.GetItemCount() > kMany;
+}
+
+bool hasManySelected(const COVOListCtrlEx& list)
+{
+    return list.GetSelectedCount() > static_cast<UINT>(kMany);
 }
 
 } // namespace
 
 RangeInput::RangeInput(const COVOListCtrlEx& list, UINT message)
 {
-    if (platform().asksForEachRow && isInput(message) && maySelectMany(list))
+    if (isInput(message) && hasManyRows(list) && (::GetKeyState(VK_SHIFT) < 0 || hasManySelected(list)))
+        m_hold.emplace(list.m_hWnd, frame::RedrawHold::By::ControlThenAll);
+}
+
+RangeInput::RangeInput(const COVOListCtrlEx& list)
+{
+    if (hasManyRows(list) && hasManySelected(list))
         m_hold.emplace(list.m_hWnd, frame::RedrawHold::By::ControlThenAll);
 }
 
