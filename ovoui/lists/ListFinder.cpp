@@ -67,12 +67,10 @@ int askedRow(const COVOListCtrlEx& list, const std::wstring& text, int focused, 
 template <class GoOn>
 bool deselectAllBut(COVOListCtrlEx& list, int row, const GoOn& goOn)
 {
-    if (list.GetStyle() & LVS_OWNERDATA) {
-        const bool isAlone = list.GetSelectedCount() == 1 && list.GetItemState(row, LVIS_SELECTED);
-        if (!isAlone) {
-            const RangeInput range(list);
-            list.SetItemState(-1, 0, LVIS_SELECTED);
-        }
+    constexpr UINT kFew = 16; // each looks at the rows up to the next one; all at once looks at all rows
+    if ((list.GetStyle() & LVS_OWNERDATA) && list.GetSelectedCount() > kFew) {
+        const RangeInput range(list);
+        list.SetItemState(-1, 0, LVIS_SELECTED);
         return goOn();
     }
     for (int item = -1; (item = list.GetNextItem(item, LVNI_SELECTED)) != -1;) {
