@@ -1,6 +1,5 @@
 #include "ListsPage.h"
 
-#include "ColumnWidth.h"
 #include "ImageStrip.h"
 #include "model/ColourTable.h"
 #include "resource.h"
@@ -121,7 +120,7 @@ void ListsPage::createColours()
     m_colours.AddColumn(L"Colour", 1, -1, true, kColumn, LVCFMT_LEFT);
     m_colours.AddColumn(L"Opacity", 2, -1, false, kColumn, LVCFMT_RIGHT);
     m_colours.SetColumnWidth(0, scaled(110));
-    m_colours.SetColumnWidth(1, columnWidth(m_colours, 110, L"#F9C8C8#F9C8C8")); // the text on a half
+    m_colours.SetColumnWidth(1, scaled(110));
     fillColours(L"");
     replace(IDC_LISTS_COLOURS, m_colours);
 }
@@ -156,7 +155,7 @@ void ListsPage::createProcesses()
     m_processes.AddColumn(L"Memory", 1, -1, false, kColumn, LVCFMT_RIGHT);
     m_processes.AddColumn(L"Owner", 2, -1, false, kColumn, LVCFMT_CENTER);
     m_processes.SetColumnWidth(0, scaled(130));
-    m_processes.SetColumnWidth(1, columnWidth(m_processes, 75, L"268 435 456"));
+    m_processes.SetColumnWidth(1, scaled(75));
     m_processes.SetColumnWidth(2, scaled(70));
     int row = 0;
     for (const Process& process : kProcesses) {
