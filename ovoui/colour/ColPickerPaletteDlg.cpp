@@ -1,10 +1,7 @@
 #include <ovoui/colour/ColPickerPaletteDlg.h>
 
-#include <ovoui/colour/ColourCells.h>
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/Contrast.h>
-#include <ovoui/colour/core/ControlKeys.h>
-#include <ovoui/colour/core/TypedColour.h>
 #include <ovouires/resource.h>
 
 #include <algorithm>
@@ -217,10 +214,17 @@ void ColPickerPaletteDlg::OnKillfocusText()
     CString typed;
     m_text.GetWindowText(typed);
     const auto read = colourFromText(std::wstring_view(typed.GetString()));
-    if (const auto colour = afterTypedCode(read, m_colour, m_alphaEnabled))
-        use(*colour);
-    else
+    if (!read) {
         showColour();
+        return;
+    }
+    // The text has alpha only where it says so; else what the dialog has stays.
+    const bool saysAlpha = m_alphaEnabled && read->a() >= 0;
+    const Colour colour = Colour::rgba(read->r(), read->g(), read->b(), saysAlpha ? read->a() : m_colour.a());
+    if (colour.colorref() == m_colour.colorref() && !saysAlpha)
+        showColour();
+    else
+        use(colour);
 }
 
 void ColPickerPaletteDlg::OnBefore()
@@ -243,7 +247,8 @@ void ColPickerPaletteDlg::OnColourOfScreen()
 /// The alpha stays.
 void ColPickerPaletteDlg::useOpaque(COLORREF colour)
 {
-    use(withAlphaOf(Colour::colorref(colour), m_colour));
+    const Colour opaque = Colour::colorref(colour);
+    use(Colour::rgba(opaque.r(), opaque.g(), opaque.b(), m_colour.a()));
 }
 
 void ColPickerPaletteDlg::OnDrawItem(int id, DRAWITEMSTRUCT* item)
@@ -255,15 +260,18 @@ void ColPickerPaletteDlg::OnDrawItem(int id, DRAWITEMSTRUCT* item)
     CBrush brush(m_before.colorref());
     ::FillRect(item->hDC, &item->rcItem, brush);
     if (item->itemState & ODS_FOCUS) {
-        CRect mark(item->rcItem);
-        mark.DeflateRect(1, 1);
-        ovoui::colour::drawCellMark(*CDC::FromHandle(item->hDC), mark);
+        CRect frame(item->rcItem);
+        for (const int mark : {BLACK_BRUSH, WHITE_BRUSH}) { // one of them shows on every colour
+            frame.DeflateRect(1, 1);
+            ::FrameRect(item->hDC, &frame, static_cast<HBRUSH>(::GetStockObject(mark)));
+        }
     }
 }
 
 BOOL ColPickerPaletteDlg::PreTranslateMessage(MSG* message)
 {
-    if (message->message == WM_KEYDOWN && goBackOrForward(message->wParam))
+    if (message->message == WM_KEYDOWN && ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_MENU) >= 0 &&
+        goBackOrForward(message->wParam))
         return TRUE;
     return ColPickerDlgBase::PreTranslateMessage(message);
 }
@@ -271,11 +279,9 @@ BOOL ColPickerPaletteDlg::PreTranslateMessage(MSG* message)
 /// Whether the key was one of the two. Typing that can be undone goes first, where it is done.
 bool ColPickerPaletteDlg::goBackOrForward(WPARAM key)
 {
-    const HistoryKey meaning =
-        historyKey(static_cast<unsigned>(key), ::GetKeyState(VK_CONTROL) < 0, ::GetKeyState(VK_MENU) < 0);
-    if (meaning == HistoryKey::None || ::SendMessageW(::GetFocus(), EM_CANUNDO, 0, 0))
+    if ((key != 'Z' && key != 'Y') || ::SendMessageW(::GetFocus(), EM_CANUNDO, 0, 0))
         return false;
-    const Colour* const colour = meaning == HistoryKey::Back ? m_history.back() : m_history.forward();
+    const Colour* const colour = key == 'Z' ? m_history.back() : m_history.forward();
     if (colour)
         use(Colour(*colour));
     return true;

@@ -13,7 +13,6 @@ ALLOWED = {
     "ovoui/colour/ColPickerPaletteDlg.cpp": "the palette that is offered",
     "ovoui/colour/ColPickerPaint.cpp": "markers that invert the colour below them",
     "ovoui/colour/ColourCells.cpp": "a mark in black and white, one of which shows on every colour",
-    "ovoui/colour/Magnifier.cpp": "a mark in black and white, one of which shows on every colour",
     "mfc/src/frame/toolbarimages.cpp": "the colours of pictures that the system's take the place of",
     "gallery/model/PickerDialogs.cpp": "the swatches of a host",
     "gallery/pages/ColourSample.cpp": "a colour is shown on white and on black",

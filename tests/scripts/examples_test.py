@@ -45,7 +45,7 @@ class Examples(unittest.TestCase):
     def setUp(self):
         self.folder = pathlib.Path(tempfile.mkdtemp())
         self.addCleanup(shutil.rmtree, self.folder)
-        for name in ("mfc", "ovoui", "ovocor", "ovomsg", "ovouires", "testkit"):
+        for name in ("mfc", "ovoui", "ovocor", "ovomsg", "ovosvg", "ovouires", "testkit"):
             (self.folder / name).symlink_to(ROOT / name)
         (self.folder / "docs").mkdir()
 

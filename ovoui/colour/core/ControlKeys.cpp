@@ -112,15 +112,6 @@ DialogKey dialogKey(unsigned key)
     }
 }
 
-HistoryKey historyKey(unsigned key, bool ctrl, bool alt)
-{
-    if (!ctrl || alt)
-        return HistoryKey::None;
-    if (key == kVkZ)
-        return HistoryKey::Back;
-    return key == kVkY ? HistoryKey::Forward : HistoryKey::None;
-}
-
 PointerStep pointerStep(unsigned key, bool shift)
 {
     const int length = shift ? 10 : 1;

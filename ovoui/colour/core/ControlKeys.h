@@ -74,15 +74,6 @@ enum class DialogKey
 };
 DialogKey dialogKey(unsigned key);
 
-/// In the palette dialog, wherever the focus is.
-enum class HistoryKey
-{
-    None,
-    Back,   ///< to the colour before
-    Forward ///< to the one that was gone back from
-};
-HistoryKey historyKey(unsigned key, bool ctrl, bool alt);
-
 /// How far an arrow moves the pointer, in pixels.
 struct PointerStep
 {

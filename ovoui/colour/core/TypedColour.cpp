@@ -22,18 +22,6 @@ bool changesColour(const Colour& before, const Colour& typed, bool alphaIsEdited
     return differ(compared, typed, evenHueCounts(mode));
 }
 
-std::optional<Colour> afterTypedCode(const std::optional<Colour>& read, const Colour& shown,
-                                     bool alphaIsEdited)
-{
-    if (!read)
-        return std::nullopt;
-    const bool saysAlpha = alphaIsEdited && read->a() >= 0;
-    const Colour colour = withAlphaOf(*read, saysAlpha ? *read : shown);
-    if (!saysAlpha && colour.colorref() == shown.colorref())
-        return std::nullopt;
-    return colour;
-}
-
 Colour withAlphaOf(const Colour& colour, const Colour& other)
 {
     return Colour::rgba(colour.r(), colour.g(), colour.b(), other.a());

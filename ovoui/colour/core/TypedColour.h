@@ -5,8 +5,6 @@
 
 #include <ovocor/Colour.h>
 
-#include <optional>
-
 namespace ovoui::colour
 {
 
@@ -19,11 +17,6 @@ bool evenHueCounts(ColPickerModeType mode);
 /// Whether the numbers typed are a change by the user. Where alpha is not edited, that the colour now has one
 /// is none.
 bool changesColour(const Colour& before, const Colour& typed, bool alphaIsEdited, ColPickerModeType mode);
-
-/// The colour that a typed code leads to; none when the shown one stays. A code has alpha only where it says
-/// so, else that of the shown colour stays. `read`: none when the code was no colour.
-std::optional<Colour> afterTypedCode(const std::optional<Colour>& read, const Colour& shown,
-                                     bool alphaIsEdited);
 
 /// The colour with the alpha of another one.
 Colour withAlphaOf(const Colour& colour, const Colour& other);

@@ -135,17 +135,3 @@ TEST(ControlKeys, EscapeAndEnterMeanSomethingInThePickersDialog)
         EXPECT_EQ(dialogKey(key), expected) << key;
     }
 }
-
-TEST(ControlKeys, CtrlZGoesBackInThePaletteDialogAndCtrlYForwardAgain)
-{
-    for (unsigned key = 0; key < 256; ++key)
-        for (const bool ctrl : {false, true})
-            for (const bool alt : {false, true}) {
-                HistoryKey expected = HistoryKey::None;
-                if (ctrl && !alt && key == 'Z')
-                    expected = HistoryKey::Back;
-                if (ctrl && !alt && key == 'Y')
-                    expected = HistoryKey::Forward;
-                EXPECT_EQ(historyKey(key, ctrl, alt), expected) << key << ctrl << alt;
-            }
-}

@@ -54,27 +54,3 @@ TEST(TypedColour, OverAGroundAlphaMixesTheTwo)
     EXPECT_EQ(overGround(Colour::rgba(1, 0, 0, 0.5), 1).colorref(), Colour::rgb(1, 0.5, 0.5).colorref());
     EXPECT_EQ(overGround(Colour::rgba(1, 0, 0, 0.5), 0).colorref(), Colour::rgb(0.5, 0, 0).colorref());
 }
-
-TEST(TypedColour, ACodeLeadsToItsColourAndAlphaStaysUnlessItSaysSo)
-{
-    const Colour bases[] = {Colour::rgb(1, 0, 0), Colour::rgba(1, 0, 0, 0.5), Colour::rgba(1, 0, 0, 1),
-                            Colour::rgb(0, 0, 1), Colour::rgba(0, 0, 1, 0.25)};
-    for (const Colour& read : bases)
-        for (const Colour& shown : bases)
-            for (const bool alphaIsEdited : {false, true}) {
-                const bool saysAlpha = alphaIsEdited && read.a() >= 0;
-                const auto colour = afterTypedCode(read, shown, alphaIsEdited);
-                const bool same = read.colorref() == shown.colorref();
-                ASSERT_EQ(colour.has_value(), saysAlpha || !same);
-                if (!colour)
-                    continue;
-                EXPECT_EQ(colour->colorref(), read.colorref());
-                EXPECT_EQ(colour->a(), saysAlpha ? read.a() : shown.a());
-            }
-}
-
-TEST(TypedColour, WhatIsNoColourLeavesTheShownOne)
-{
-    for (const bool alphaIsEdited : {false, true})
-        EXPECT_FALSE(afterTypedCode(std::nullopt, Colour::rgb(1, 0, 0), alphaIsEdited).has_value());
-}
