@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -34,6 +35,14 @@ void checkPlace(const SvgNote& note, std::string_view text)
     demand(!note.what.empty(), "it says what is the matter");
 }
 
+/// What is too large as a whole has no place.
+bool isAboutAll(const SvgNote& note)
+{
+    constexpr std::string_view kLimits[] = {"bytes", "layers", "size", "work"};
+    return note.issue == SvgIssue::TooLarge && note.line == 0 && note.column == 0 &&
+           std::find(std::begin(kLimits), std::end(kLimits), note.what) != std::end(kLimits);
+}
+
 /// None when it is no drawing or too intricate.
 std::optional<Result> drawn(std::string_view text, int width, int height)
 {
@@ -45,7 +54,8 @@ std::optional<Result> drawn(std::string_view text, int width, int height)
         return result;
     } catch (const SvgFailure& failure) {
         demand(failure.note.issue <= SvgIssue::TooLarge, "a failure");
-        checkPlace(failure.note, text);
+        if (!isAboutAll(failure.note))
+            checkPlace(failure.note, text);
         return std::nullopt;
     }
 }
