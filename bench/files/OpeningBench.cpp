@@ -1,5 +1,6 @@
 // Opening and cancelling a file dialog with five controls of the host, against the system's calls by hand.
 #include "resource.h"
+#include "support/DialogAnswer.h"
 
 #include <ovoui/files/FileDialog.h>
 
@@ -9,38 +10,8 @@
 
 #include <catch2/catch.hpp>
 
-#include <string>
-
 namespace
 {
-
-/// Cancels the next file dialog of this thread as soon as it is activated.
-class Cancelling
-{
-public:
-    Cancelling()
-        : m_hook(::SetWindowsHookExW(WH_CBT, &hook, nullptr, ::GetCurrentThreadId()))
-    {
-    }
-    ~Cancelling() { ::UnhookWindowsHookEx(m_hook); }
-    Cancelling(const Cancelling&) = delete;
-    Cancelling& operator=(const Cancelling&) = delete;
-
-private:
-    static LRESULT CALLBACK hook(int code, WPARAM wParam, LPARAM lParam)
-    {
-        if (code == HCBT_ACTIVATE) {
-            const HWND wnd = reinterpret_cast<HWND>(wParam);
-            wchar_t name[16]{};
-            ::GetClassNameW(wnd, name, 16);
-            if (std::wstring(name) == L"#32770")
-                ::PostMessageW(wnd, WM_COMMAND, IDCANCEL, 0);
-        }
-        return ::CallNextHookEx(nullptr, code, wParam, lParam);
-    }
-
-    HHOOK m_hook;
-};
 
 /// The template's dialog, which has the labels.
 class Labels : public CDialog
@@ -130,7 +101,7 @@ TEST_CASE("opening and cancelling: the new-style dialog")
 {
     ::OleInitialize(nullptr);
     {
-        const Cancelling cancelling;
+        const DialogAnswer<IDCANCEL> cancelling;
         const Labels labels;
         REQUIRE(FAILED(showInterface()));
         REQUIRE(showNewStyle(labels) == IDCANCEL);
@@ -148,7 +119,7 @@ TEST_CASE("opening and cancelling: the new-style dialog")
 
 TEST_CASE("opening and cancelling: the classic dialog")
 {
-    const Cancelling cancelling;
+    const DialogAnswer<IDCANCEL> cancelling;
     REQUIRE(!showGetOpenFileName());
     REQUIRE(showClassic() == IDCANCEL);
     BENCHMARK("GetOpenFileName with the same template")

@@ -1,5 +1,7 @@
 // Opening and closing the message box with a two-line text, against the platform's own dialog made from an
 // equal template: the same window, text, icon and button at the same places.
+#include "support/DialogAnswer.h"
+
 #include <ovoui/frame/MessageBox.h>
 
 #include <afxwin.h>
@@ -14,34 +16,6 @@ namespace
 
 constexpr wchar_t kText[] = L"The document has been changed.\r\nSave the changes before closing?";
 constexpr UINT kType = MB_OKCANCEL | MB_ICONQUESTION;
-
-/// Answers the next dialog of this thread as soon as it is activated, and notes how it is built.
-class Answering
-{
-public:
-    Answering()
-        : m_hook(::SetWindowsHookExW(WH_CBT, &hook, nullptr, ::GetCurrentThreadId()))
-    {
-    }
-    ~Answering() { ::UnhookWindowsHookEx(m_hook); }
-    Answering(const Answering&) = delete;
-    Answering& operator=(const Answering&) = delete;
-
-private:
-    static LRESULT CALLBACK hook(int code, WPARAM wParam, LPARAM lParam)
-    {
-        if (code == HCBT_ACTIVATE) {
-            const HWND wnd = reinterpret_cast<HWND>(wParam);
-            wchar_t name[16]{};
-            ::GetClassNameW(wnd, name, 16);
-            if (std::wstring(name) == L"#32770")
-                ::PostMessageW(wnd, WM_COMMAND, IDOK, 0);
-        }
-        return ::CallNextHookEx(nullptr, code, wParam, lParam);
-    }
-
-    HHOOK m_hook;
-};
 
 /// A dialog template in memory, written item by item.
 class Template
@@ -105,7 +79,8 @@ constexpr WORD kStaticClass = 0x0082;
 Template equalTemplate()
 {
     Template result(L"Message", {60, 60, 250, 125}, 4);
-    result.item(ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | WS_TABSTOP, {30, 5, 180, 22}, 100, kEditClass, kText);
+    result.item(ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | WS_TABSTOP, {30, 5, 180, 22}, 100, kEditClass,
+                kText);
     result.item(BS_DEFPUSHBUTTON | WS_TABSTOP, {70, 40, 125, 54}, IDOK, kButtonClass, L"OK");
     result.item(BS_PUSHBUTTON | WS_TABSTOP, {130, 40, 185, 54}, IDCANCEL, kButtonClass, L"Cancel");
     result.item(SS_ICON, {7, 5, 27, 25}, 101, kStaticClass, L"");
@@ -115,7 +90,8 @@ Template equalTemplate()
 INT_PTR CALLBACK plainDialog(HWND wnd, UINT message, WPARAM wParam, LPARAM)
 {
     if (message == WM_INITDIALOG) {
-        ::SendDlgItemMessageW(wnd, 101, STM_SETICON, reinterpret_cast<WPARAM>(::LoadIconW(nullptr, IDI_QUESTION)), 0);
+        ::SendDlgItemMessageW(wnd, 101, STM_SETICON,
+                              reinterpret_cast<WPARAM>(::LoadIconW(nullptr, IDI_QUESTION)), 0);
         return TRUE;
     }
     if (message == WM_COMMAND && LOWORD(wParam) == IDOK)
@@ -127,7 +103,7 @@ INT_PTR CALLBACK plainDialog(HWND wnd, UINT message, WPARAM wParam, LPARAM)
 
 TEST_CASE("Opening and closing a message box with two lines")
 {
-    const Answering answering;
+    const DialogAnswer<IDOK> answering;
     const Template plain = equalTemplate();
     const HINSTANCE instance = ::GetModuleHandleW(nullptr);
     REQUIRE(::DialogBoxIndirectParamW(instance, plain.get(), nullptr, &plainDialog, 0) == IDOK);
@@ -137,5 +113,8 @@ TEST_CASE("Opening and closing a message box with two lines")
     {
         return ::DialogBoxIndirectParamW(instance, plain.get(), nullptr, &plainDialog, 0);
     };
-    BENCHMARK("OVOMessageBox [at most 1.5]") { return OVOMessageBox(nullptr, kText, nullptr, kType, nullptr, 0); };
+    BENCHMARK("OVOMessageBox [at most 1.5]")
+    {
+        return OVOMessageBox(nullptr, kText, nullptr, kType, nullptr, 0);
+    };
 }

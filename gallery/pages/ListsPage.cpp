@@ -1,11 +1,13 @@
 #include "ListsPage.h"
 
+#include "ColumnWidth.h"
 #include "ImageStrip.h"
 #include "model/ColourTable.h"
 #include "resource.h"
 
 #include <ovoui/lists/ListLayout.h>
 
+#include <algorithm>
 #include <array>
 #include <initializer_list>
 
@@ -52,6 +54,8 @@ constexpr Process kProcesses[] = {
     {L"updater", 0, L"system", 3, true, true},
     {L"weather", 1048576, L"someone with a long name", 2, false, false},
 };
+
+constexpr unsigned long kMostMemory = std::ranges::max(kProcesses, {}, &Process::memory).memory;
 
 // Images of the strip, and the overlay that one of them is made.
 constexpr int kPlain = 2;
@@ -155,7 +159,7 @@ void ListsPage::createProcesses()
     m_processes.AddColumn(L"Memory", 1, -1, false, kColumn, LVCFMT_RIGHT);
     m_processes.AddColumn(L"Owner", 2, -1, false, kColumn, LVCFMT_CENTER);
     m_processes.SetColumnWidth(0, scaled(130));
-    m_processes.SetColumnWidth(1, scaled(75));
+    m_processes.SetColumnWidth(1, columnWidth(m_processes, 75, grouped(kMostMemory).c_str()));
     m_processes.SetColumnWidth(2, scaled(70));
     int row = 0;
     for (const Process& process : kProcesses) {

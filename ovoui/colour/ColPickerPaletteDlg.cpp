@@ -2,6 +2,7 @@
 
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/Contrast.h>
+#include <ovoui/sliders/UnitNumbers.h>
 #include <ovouires/resource.h>
 
 #include <algorithm>
@@ -42,6 +43,16 @@ std::wstring gradeText(double contrast)
     CString large;
     large.LoadString(IDS_COLOUR_GRADE_LARGE);
     return large.GetString();
+}
+
+/// With one digit behind the user's decimal sign.
+std::wstring ratioText(double contrast)
+{
+    CString machine;
+    machine.Format(L"%.1f", contrast);
+    std::wstring text;
+    CUnitNumbers(L"", false).toDisplay(text, machine.GetString());
+    return text;
 }
 
 constexpr std::array<COLORREF, 18> kFirstColours{
@@ -203,8 +214,8 @@ void ColPickerPaletteDlg::showColour()
     const double onWhite = contrast(m_colour, Colour::rgb(1, 1, 1));
     const double onBlack = contrast(m_colour, Colour::rgb(0, 0, 0));
     CString text;
-    text.Format(IDS_COLOUR_CONTRAST, onWhite, gradeText(onWhite).c_str(), onBlack,
-                gradeText(onBlack).c_str());
+    text.Format(IDS_COLOUR_CONTRAST, ratioText(onWhite).c_str(), gradeText(onWhite).c_str(),
+                ratioText(onBlack).c_str(), gradeText(onBlack).c_str());
     SetDlgItemText(IDC_COLOUR_CONTRAST, text);
 }
 

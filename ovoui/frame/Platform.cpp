@@ -9,7 +9,7 @@ Platform& platform()
 {
     static const bool wine =
         ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-    static Platform current{wine, wine, wine, wine, wine, wine, wine};
+    static Platform current{wine, wine, wine, wine, wine, wine, wine, wine};
     return current;
 }
 

@@ -34,6 +34,9 @@ struct Platform
     /// A virtual list that selects or deselects a range of rows asks the display for each of them.
     bool asksForEachRow;
 
+    /// A column of a virtual list that is to be as wide as its texts is measured by the texts of all rows.
+    bool measuresEachRow;
+
     // Edit controls
 
     /// EM_SETRECT takes the control's margins and edge off the rectangle.

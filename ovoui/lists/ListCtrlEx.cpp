@@ -1,11 +1,13 @@
 #include <ovoui/lists/ListCtrlEx.h>
 
 #include <ovoui/frame/Lifeline.h>
+#include <ovoui/lists/ColumnFit.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListRowPainter.h>
 #include <ovoui/lists/OwnChange.h>
 #include <ovoui/lists/RangeInput.h>
 #include <ovoui/lists/TextExtents.h>
+#include <ovoui/lists/core/RowLayout.h>
 #include <ovoui/lists/core/ShortText.h>
 
 #include <algorithm>
@@ -47,6 +49,27 @@ LRESULT COVOListCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const RangeInput input(*this, message);
     return CListCtrl::WindowProc(message, wParam, lParam);
+}
+
+/// What the host has not handled.
+LRESULT COVOListCtrlEx::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (const auto fit = ColumnFit::wanted(*this, message, wParam, lParam))
+        return fitColumn(*fit, message, wParam, lParam);
+    return CListCtrl::DefWindowProc(message, wParam, lParam);
+}
+
+/// The parent hears of a double click as it does from the platform: afterwards.
+LRESULT COVOListCtrlEx::fitColumn(const ColumnFit& fit, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const Lifeline::Watch watch(*this);
+    LRESULT done = FALSE;
+    if (const std::optional<int> width = fit.width(*this, m_stateImageWidth))
+        done = CListCtrl::DefWindowProc(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(fit.column()),
+                                        MAKELPARAM(*width, 0));
+    if (message != WM_NOTIFY || !watch.alive())
+        return done;
+    return ::SendMessage(::GetParent(m_hWnd), message, wParam, lParam);
 }
 
 // Contents
@@ -134,7 +157,10 @@ int COVOListCtrlEx::GetSelItems(int nMaxItems, int* rgIndex)
 
 int COVOListCtrlEx::GetCurSel()
 {
-    return GetSelectedCount() == 1 ? GetNextItem(-1, LVNI_SELECTED) : -1;
+    if (GetSelectedCount() != 1)
+        return -1;
+    const int focused = GetNextItem(-1, LVNI_FOCUSED | LVNI_SELECTED); // found without going through the rows
+    return focused != -1 ? focused : GetNextItem(-1, LVNI_SELECTED);
 }
 
 // Drawing
@@ -268,9 +294,8 @@ void COVOListCtrlEx::RepaintSelectedItems()
 {
     repaintRow(GetNextItem(-1, LVNI_FOCUSED));
     if (!(GetStyle() & LVS_SHOWSELALWAYS)) {
-        const int first = GetTopIndex();
-        const int end = std::min(first + GetCountPerPage() + 1, GetItemCount()); // the last row may be cut
-        for (int item = first; item < end; ++item)
+        const RowRange shown = rowsShown(GetTopIndex(), GetCountPerPage(), GetItemCount());
+        for (int item = shown.first; item < shown.end; ++item)
             if (GetItemState(item, LVIS_SELECTED))
                 repaintRow(item);
     }

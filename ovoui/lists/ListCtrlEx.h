@@ -21,6 +21,7 @@
 
 namespace ovoui::lists
 {
+class ColumnFit;
 class DirectList;
 class ListCells;
 struct ColumnShape;
@@ -96,6 +97,7 @@ protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     /// The colour of the row `item`, as AddItem takes it; asked for while drawing, when row colours are in
     /// use. By default the one given to AddItem, or 0. Lists with LVS_OWNERDATA, which have no AddItem,
@@ -117,6 +119,7 @@ private:
     friend class ovoui::lists::ListCells;
 
     bool inReportView() const;
+    LRESULT fitColumn(const ovoui::lists::ColumnFit& fit, UINT message, WPARAM wParam, LPARAM lParam);
     ovoui::lists::ListLook lookNow() const;
     std::vector<ovoui::lists::ColumnShape> columnShapes() const;
     bool isOurs(const CWnd* window) const;

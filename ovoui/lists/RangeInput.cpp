@@ -1,15 +1,13 @@
 #include <ovoui/lists/RangeInput.h>
 
 #include <ovoui/frame/Platform.h>
-#include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/ManyRows.h>
 
 namespace ovoui::lists
 {
 
 namespace
 {
-
-constexpr int kMany = 1000; ///< rows, which take a tenth of a second
 
 bool isInput(UINT message)
 {
@@ -24,27 +22,27 @@ bool isInput(UINT message)
     }
 }
 
-bool hasManyRows(const COVOListCtrlEx& list)
+bool isAskedForEachRow(const COVOListCtrlEx& list)
 {
-    return platform().asksForEachRow && (list.GetStyle() & LVS_OWNERDATA) && list.GetItemCount() > kMany;
+    return platform().asksForEachRow && hasManyRows(list);
 }
 
 bool hasManySelected(const COVOListCtrlEx& list)
 {
-    return list.GetSelectedCount() > static_cast<UINT>(kMany);
+    return list.GetSelectedCount() > static_cast<UINT>(kManyRows);
 }
 
 } // namespace
 
 RangeInput::RangeInput(const COVOListCtrlEx& list, UINT message)
 {
-    if (isInput(message) && hasManyRows(list) && (::GetKeyState(VK_SHIFT) < 0 || hasManySelected(list)))
+    if (isInput(message) && isAskedForEachRow(list) && (::GetKeyState(VK_SHIFT) < 0 || hasManySelected(list)))
         m_hold.emplace(list.m_hWnd, frame::RedrawHold::By::ControlThenAll);
 }
 
 RangeInput::RangeInput(const COVOListCtrlEx& list)
 {
-    if (hasManyRows(list) && hasManySelected(list))
+    if (isAskedForEachRow(list) && hasManySelected(list))
         m_hold.emplace(list.m_hWnd, frame::RedrawHold::By::ControlThenAll);
 }
 

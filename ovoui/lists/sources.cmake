@@ -26,6 +26,7 @@ endif()
 target_sources(ovoui PRIVATE
   ${lists_core}
   ${CMAKE_CURRENT_LIST_DIR}/ColourEntry.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ColumnFit.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboBoxExtras.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ComboCompletion.cpp

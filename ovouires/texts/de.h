@@ -38,7 +38,7 @@
 #define TEXT_COLOUR_SATURATION "&Sättigung:"
 #define TEXT_COLOUR_VALUE "Hell&wert:"
 #define TEXT_COLOUR_LIGHTNESS "&Helligkeit:"
-#define TEXT_COLOUR_CONTRAST "Kontrast als Text: auf Weiß %.1f (%s), auf Schwarz %.1f (%s)"
+#define TEXT_COLOUR_CONTRAST "Kontrast als Text: auf Weiß %s (%s), auf Schwarz %s (%s)"
 #define TEXT_COLOUR_GRADE_LARGE "AA groß"
 #define TEXT_COLOUR_RING "Farbton"
 #define TEXT_COLOUR_TRIANGLE "Helligkeit und Sättigung"

@@ -46,7 +46,7 @@
 #define TEXT_COLOUR_VALUE "&Value:"
 #define TEXT_COLOUR_LIGHTNESS "&Lightness:"
 // Ratio and grade on white, and on black
-#define TEXT_COLOUR_CONTRAST "Contrast as text: on white %.1f (%s), on black %.1f (%s)"
+#define TEXT_COLOUR_CONTRAST "Contrast as text: on white %s (%s), on black %s (%s)"
 #define TEXT_COLOUR_GRADE_LARGE "AA large" // the grade AA, which large text alone reaches
 // What accessibility is told: names, the value of the triangle, and actions
 #define TEXT_COLOUR_RING "Hue"

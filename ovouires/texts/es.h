@@ -38,7 +38,7 @@
 #define TEXT_COLOUR_SATURATION "&Saturación:"
 #define TEXT_COLOUR_VALUE "&Valor:"
 #define TEXT_COLOUR_LIGHTNESS "&Luminosidad:"
-#define TEXT_COLOUR_CONTRAST "Contraste de texto: sobre blanco %.1f (%s), sobre negro %.1f (%s)"
+#define TEXT_COLOUR_CONTRAST "Contraste de texto: sobre blanco %s (%s), sobre negro %s (%s)"
 #define TEXT_COLOUR_GRADE_LARGE "AA grande"
 #define TEXT_COLOUR_RING "Matiz"
 #define TEXT_COLOUR_TRIANGLE "Luminosidad y saturación"

@@ -38,7 +38,7 @@
 #define TEXT_COLOUR_SATURATION "&Saturation :"
 #define TEXT_COLOUR_VALUE "&Valeur :"
 #define TEXT_COLOUR_LIGHTNESS "&Luminosité :"
-#define TEXT_COLOUR_CONTRAST "Contraste du texte : sur blanc %.1f (%s), sur noir %.1f (%s)"
+#define TEXT_COLOUR_CONTRAST "Contraste du texte : sur blanc %s (%s), sur noir %s (%s)"
 #define TEXT_COLOUR_GRADE_LARGE "AA grand"
 #define TEXT_COLOUR_RING "Teinte"
 #define TEXT_COLOUR_TRIANGLE "Luminosité et saturation"

@@ -38,7 +38,7 @@
 #define TEXT_COLOUR_SATURATION "彩度(&S):"
 #define TEXT_COLOUR_VALUE "明度(&V):"
 #define TEXT_COLOUR_LIGHTNESS "輝度(&L):"
-#define TEXT_COLOUR_CONTRAST "文字のコントラスト: 白地 %.1f (%s)、黒地 %.1f (%s)"
+#define TEXT_COLOUR_CONTRAST "文字のコントラスト: 白地 %s (%s)、黒地 %s (%s)"
 #define TEXT_COLOUR_GRADE_LARGE "AA 大きな文字"
 #define TEXT_COLOUR_RING "色相"
 #define TEXT_COLOUR_TRIANGLE "輝度と彩度"

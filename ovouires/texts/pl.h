@@ -38,7 +38,7 @@
 #define TEXT_COLOUR_SATURATION "Na&sycenie:"
 #define TEXT_COLOUR_VALUE "War&tość:"
 #define TEXT_COLOUR_LIGHTNESS "&Jasność:"
-#define TEXT_COLOUR_CONTRAST "Kontrast tekstu: na białym %.1f (%s), na czarnym %.1f (%s)"
+#define TEXT_COLOUR_CONTRAST "Kontrast tekstu: na białym %s (%s), na czarnym %s (%s)"
 #define TEXT_COLOUR_GRADE_LARGE "AA duży"
 #define TEXT_COLOUR_RING "Odcień"
 #define TEXT_COLOUR_TRIANGLE "Jasność i nasycenie"

@@ -1,6 +1,7 @@
 // The picker with a palette of the user's own.
 #include <testkit/Desktop.h>
 #include <testkit/GdiPlusSession.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
 #include <testkit/Robot.h>
 #include <testkit/TemporaryProfile.h>
@@ -33,6 +34,14 @@ public:
     using ColPickerPaletteDlg::m_wheelRect;
     using ColPickerPaletteDlg::SetSliderMode;
 };
+
+int WINAPI commaForPoint(LCID locale, LCTYPE type, LPWSTR text, int room)
+{
+    if (type != LOCALE_SDECIMAL)
+        return ::GetLocaleInfoW(locale, type, text, room);
+    ::lstrcpynW(text, L",", room);
+    return 2;
+}
 
 class PickerPalette : public ::testing::Test
 {
@@ -320,6 +329,13 @@ TEST_F(PickerPalette, SpoiltSettingsLeaveTheFirstColours)
     EXPECT_EQ(now(), RGB(0x10, 0x20, 0x30));
     user.click(Spot{*dialog, dialog->m_swatches[1].CenterPoint()});
     EXPECT_EQ(now(), RGB(127, 127, 127));
+}
+
+TEST_F(PickerPalette, TheContrastHasTheUsersDecimalSign)
+{
+    const ImportPatch patch(L"ovoui.dll", "GetLocaleInfoW", reinterpret_cast<void*>(&commaForPoint));
+    open(Colour::rgb(1, 0, 0));
+    EXPECT_EQ(text(kContrast), L"Contrast as text: on white 4,0 (AA large), on black 5,3 (AA)");
 }
 
 TEST_F(PickerPalette, TheContrastIsTold)

@@ -2,6 +2,8 @@
 #include "TestStrip.h"
 #include "resource.h"
 
+#include <support/OwnedDib.h>
+
 #include <testkit/GdiCounter.h>
 #include <testkit/GdiPlusSession.h>
 
@@ -13,31 +15,6 @@ using namespace ovo::testkit;
 
 namespace
 {
-
-/// A strip that was made, freed with this object.
-class Made
-{
-public:
-    explicit Made(HBITMAP bitmap)
-        : m_bitmap(bitmap)
-    {
-        ::GetObjectW(m_bitmap, sizeof m_dib, &m_dib);
-    }
-    ~Made() { ::DeleteObject(m_bitmap); }
-    Made(const Made&) = delete;
-    Made& operator=(const Made&) = delete;
-
-    CSize size() const { return CSize(m_dib.dsBm.bmWidth, m_dib.dsBm.bmHeight); }
-    int bits() const { return m_dib.dsBm.bmBitsPixel; }
-    std::uint32_t at(int x, int y) const
-    {
-        return static_cast<const std::uint32_t*>(m_dib.dsBm.bmBits)[y * m_dib.dsBm.bmWidth + x];
-    }
-
-private:
-    HBITMAP m_bitmap;
-    DIBSECTION m_dib{};
-};
 
 /// Two images of 8 by 8 pixels and a part of a third one.
 std::uint32_t redAndGreen(int x, int y)
@@ -51,7 +28,7 @@ TEST(DisabledStrip, IsGreyAtHalfItsAlphaWhicheverWayUpItIsStored)
 {
     for (const auto rows : {TestStrip::Rows::BottomUp, TestStrip::Rows::TopDown}) {
         const TestStrip strip(20, 9, 32, redAndGreen, rows);
-        const Made made(disabledStrip(strip.handle(), 8));
+        const OwnedDib made(disabledStrip(strip.handle(), 8));
         EXPECT_EQ(made.size(), CSize(16, 8)) << "the whole images alone";
         EXPECT_EQ(made.bits(), 32);
         EXPECT_EQ(made.at(3, 0) >> 24, 0u);
@@ -66,12 +43,12 @@ TEST(DisabledStrip, WithoutAlphaHasWhatIsTransparentThere)
     const TestStrip strip(16, 8, 24, [](int x, int) {
         return x == 0 ? 0x00FF00u : x == 1 ? 0xFF0000u : 0x00FF00u;
     });
-    const Made made(disabledStrip(strip.handle(), 8));
+    const OwnedDib made(disabledStrip(strip.handle(), 8));
     EXPECT_EQ(made.at(0, 0) >> 24, 0u) << "the colour of the top left pixel";
     EXPECT_EQ(made.at(5, 5) >> 24, 0u);
     EXPECT_EQ(made.at(1, 3), 0x80363636u);
 
-    const Made resource(disabledStrip(TESTSTRIP_24, 8));
+    const OwnedDib resource(disabledStrip(TESTSTRIP_24, 8));
     ASSERT_EQ(resource.size(), CSize(16, 8));
     int grey = 0;
     for (int y = 0; y < 8; ++y)
@@ -89,6 +66,6 @@ TEST(DisabledStrip, OfNothingIsNone)
     EXPECT_EQ(disabledStrip(strip.handle(), -8), nullptr);
     EXPECT_EQ(disabledStrip(strip.handle(), 9), nullptr) << "higher than the strip";
     const GdiCounter gdi;
-    const Made made(disabledStrip(strip.handle(), 8));
+    const OwnedDib made(disabledStrip(strip.handle(), 8));
     EXPECT_EQ(gdi.grown(), 1);
 }

@@ -73,8 +73,8 @@ TEST_P(Fit, WhatCodePutsIntoADialog)
     const std::wstring grade = string(IDS_COLOUR_GRADE_LARGE);
     const HiddenDialog palette(module(), IDD_COLOUR_PALETTE, GetParam());
     EXPECT_EQ(linesOf(fitProblems(::GetDlgItem(palette.handle(), IDC_COLOUR_CONTRAST),
-                                  stringPrintf(string(IDS_COLOUR_CONTRAST).c_str(), 21.0, grade.c_str(), 21.0,
-                                               grade.c_str()))),
+                                  stringPrintf(string(IDS_COLOUR_CONTRAST).c_str(), L"21.0", grade.c_str(),
+                                               L"21.0", grade.c_str()))),
               "");
     const HiddenDialog modules(module(), IDD_MODULE_LIST, GetParam());
     EXPECT_EQ(linesOf(fitProblems(

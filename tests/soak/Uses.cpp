@@ -5,6 +5,9 @@
 #include <support/NextDialog.h>
 
 #include <testkit/GuiThread.h>
+#include <testkit/TemporaryFiles.h>
+
+#include <ovosvg/ovosvg.h>
 
 #include <ovoui/ovoui.h>
 #include <ovouires/resource.h>
@@ -211,6 +214,17 @@ void dropColours(CWnd& parent)
     paint(button);
 }
 
+// Drawings
+
+void makeDrawings(CWnd&)
+{
+    const TemporaryFiles files({L"drawing.svg"}); // an empty file, which is none
+    const auto sun = ovosvg::SvgDrawing::fromResource(IDR_DRAWING_SUN);
+    ::DeleteObject(sun.draw(16, 16));
+    ::DeleteObject(ovosvg::svgStrip({sun, sun}, 16));
+    ovosvg::SvgDrawing::fromFile(files.path(L"drawing.svg"));
+}
+
 // Folders and the machine
 
 void askForFolder(CWnd& parent)
@@ -233,6 +247,6 @@ const std::vector<Life>& uses()
                                        Life{"Images", 1, showImages},     Life{"Tree", 1, askTree},
                                        Life{"DragInTree", 1, dragInTree}, Life{"Screen", 1, pickFromScreen},
                                        Life{"Palette", 1, dropColours},   Life{"Machine", 1, tellOfMachine},
-                                       Life{"Folder", 20, askForFolder}};
+                                       Life{"Drawings", 1, makeDrawings}, Life{"Folder", 20, askForFolder}};
     return all;
 }

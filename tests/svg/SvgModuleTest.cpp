@@ -1,6 +1,8 @@
 // The module of drawings as hosts use it: bitmaps, strips, image lists, errors.
 #include "resource.h"
 
+#include <support/OwnedDib.h>
+
 #include <testkit/GdiCounter.h>
 #include <testkit/GdiPlusSession.h>
 #include <testkit/ImportPatch.h>
@@ -25,31 +27,6 @@ using namespace ovosvg;
 
 namespace
 {
-
-/// A bitmap that was made, freed with this object.
-class Made
-{
-public:
-    explicit Made(HBITMAP bitmap)
-        : m_bitmap(bitmap)
-    {
-        ::GetObjectW(m_bitmap, sizeof m_dib, &m_dib);
-    }
-    ~Made() { ::DeleteObject(m_bitmap); }
-    Made(const Made&) = delete;
-    Made& operator=(const Made&) = delete;
-
-    HBITMAP handle() const { return m_bitmap; }
-    CSize size() const { return CSize(m_dib.dsBm.bmWidth, m_dib.dsBm.bmHeight); }
-    std::uint32_t at(int x, int y) const
-    {
-        return static_cast<const std::uint32_t*>(m_dib.dsBm.bmBits)[y * m_dib.dsBm.bmWidth + x];
-    }
-
-private:
-    HBITMAP m_bitmap;
-    DIBSECTION m_dib{};
-};
 
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 constexpr COLORREF kLime = RGB(0, 255, 0);
@@ -116,12 +93,12 @@ SvgError errorOf(const Call& call)
 
 TEST(SvgModule, DrawsBitmapsInBothForms)
 {
-    const Made straight(filled("#ff804080").draw(8, 4));
+    const OwnedDib straight(filled("#ff804080").draw(8, 4));
     EXPECT_EQ(straight.size(), CSize(8, 4));
     EXPECT_EQ(straight.at(4, 0), 0x80FF8040u) << "from the top";
     EXPECT_EQ(straight.at(4, 3), 0u);
     EXPECT_EQ(straight.at(0, 0), 0u) << "the square picture is in the middle";
-    const Made premultiplied(filled("#ff804080").draw(8, 4, CLR_DEFAULT, SvgPixels::Premultiplied));
+    const OwnedDib premultiplied(filled("#ff804080").draw(8, 4, CLR_DEFAULT, SvgPixels::Premultiplied));
     EXPECT_EQ(premultiplied.at(4, 0), 0x80804020u);
     EXPECT_EQ(filled("red").draw(0, 4), nullptr);
     EXPECT_EQ(filled("red").draw(4, -1), nullptr);
@@ -129,10 +106,10 @@ TEST(SvgModule, DrawsBitmapsInBothForms)
 
 TEST(SvgModule, CurrentColourIsTheHostsOrTheSystems)
 {
-    const Made own(filled("currentColor").draw(4, 4, RGB(1, 2, 3)));
+    const OwnedDib own(filled("currentColor").draw(4, 4, RGB(1, 2, 3)));
     EXPECT_EQ(own.at(1, 1), 0xFF010203u);
     const COLORREF text = ::GetSysColor(COLOR_BTNTEXT);
-    const Made system(filled("currentColor").draw(4, 4));
+    const OwnedDib system(filled("currentColor").draw(4, 4));
     EXPECT_EQ(system.at(1, 1), 0xFF000000u | RGB(GetBValue(text), GetGValue(text), GetRValue(text)));
 }
 
@@ -140,7 +117,7 @@ TEST(SvgModule, StripsHaveTheirDrawingsFromTheLeft)
 {
     const std::vector<SvgDrawing> three{filled("red"), filled("lime"), filled("blue")};
     for (const int size : {4, 20}) {
-        const Made strip(svgStrip(three, size));
+        const OwnedDib strip(svgStrip(three, size));
         ASSERT_EQ(strip.size(), CSize(3 * size, size));
         EXPECT_EQ(strip.at(size - 1, 1), 0xFFFF0000u);
         EXPECT_EQ(strip.at(size, 1), 0xFF00FF00u);
@@ -194,7 +171,7 @@ TEST(SvgModule, StripsCanBeAddedToOtherLists)
     const GdiPlusSession gdiPlus;
     CAlphaImageList list;
     list.Create(24, 24, 2);
-    const Made strip(svgStrip({filled("red"), filled("lime")}, 24));
+    const OwnedDib strip(svgStrip({filled("red"), filled("lime")}, 24));
     EXPECT_EQ(list.AddBitmap(0, false, -1, CSize(24, 24), CSize(24, 24), strip.handle(), nullptr), 0);
     EXPECT_EQ(::ImageList_GetImageCount(list.GetImageList()), 2);
 }
@@ -205,9 +182,9 @@ TEST(SvgModule, ReadsFilesAndResources)
     const std::wstring path = files.path(L"größe.svg");
     std::ofstream(std::filesystem::path(path))
         << "<svg viewBox='0 0 4 4'><rect width='4' height='2' fill='red'/></svg>";
-    const Made fromFile(SvgDrawing::fromFile(path).draw(4, 4));
+    const OwnedDib fromFile(SvgDrawing::fromFile(path).draw(4, 4));
     EXPECT_EQ(fromFile.at(1, 1), 0xFFFF0000u);
-    const Made fromResource(SvgDrawing::fromResource(TESTDRAWING).draw(4, 4));
+    const OwnedDib fromResource(SvgDrawing::fromResource(TESTDRAWING).draw(4, 4));
     EXPECT_EQ(fromResource.at(1, 1), 0xFF0000FFu);
 
     try {
@@ -301,8 +278,8 @@ TEST(SvgModule, LeavesNothingBehind)
     const auto endless = SvgDrawing::fromText("<svg><g id='a'><use href='#a'/></g></svg>");
     const GdiCounter gdi;
     for (int i = 0; i < 20; ++i) {
-        const Made strip(svgStrip({filled("red")}, 16));
-        const Made bitmap(filled("red").draw(8, 8));
+        const OwnedDib strip(svgStrip({filled("red")}, 16));
+        const OwnedDib bitmap(filled("red").draw(8, 8));
         EXPECT_THROW(SvgDrawing::fromText("<svg"), SvgError);
         EXPECT_THROW(svgStrip({filled("red"), endless}, 16), SvgError) << "with a bitmap half filled";
         EXPECT_THROW(endless.draw(16, 16), SvgError);

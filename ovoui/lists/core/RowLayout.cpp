@@ -25,4 +25,9 @@ Box textBox(const Box& cell, int inset)
     return {cell.left + inset, cell.top, cell.right - inset, cell.bottom};
 }
 
+RowRange rowsShown(int top, int whole, int count)
+{
+    return {top, std::min(top + whole + 1, count)};
+}
+
 } // namespace ovoui::lists

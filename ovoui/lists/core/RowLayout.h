@@ -26,4 +26,17 @@ Box cellAfter(const Box& before, int width);
 /// A cell without its insets.
 Box textBox(const Box& cell, int inset);
 
+/// The rows from `first` to the one before `end`.
+struct RowRange
+{
+    int first;
+    int end;
+
+    friend bool operator==(const RowRange&, const RowRange&) = default;
+};
+
+/// What is shown of `count` rows from the row `top` on, where `whole` of them have room: the one behind may be
+/// cut.
+RowRange rowsShown(int top, int whole, int count);
+
 } // namespace ovoui::lists

@@ -36,3 +36,16 @@ TEST(RowLayout, ATextMayUseWhatTheInsetsLeave)
     EXPECT_EQ(kLabelInset, 2);
     EXPECT_EQ(kCellInset, 6);
 }
+
+TEST(RowLayout, TheRowBehindThoseThatHaveRoomIsShownToo)
+{
+    for (int count = 0; count <= 8; ++count)
+        for (int top = 0; top <= count; ++top)
+            for (int whole = 0; whole <= 9; ++whole) {
+                const RowRange shown = rowsShown(top, whole, count);
+                EXPECT_EQ(shown.first, top);
+                const bool reachesTheEnd = count - top <= whole;
+                EXPECT_EQ(shown.end - shown.first, reachesTheEnd ? count - top : whole + 1)
+                    << count << ' ' << top << ' ' << whole;
+            }
+}
