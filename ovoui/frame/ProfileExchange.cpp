@@ -1,31 +1,6 @@
 #include <ovoui/frame/ProfileExchange.h>
 
-#include <charconv>
-#include <cmath>
-#include <optional>
-
-namespace
-{
-
-CString textOf(double value)
-{
-    char digits[32];
-    const auto end = std::to_chars(std::begin(digits), std::end(digits), value).ptr;
-    return CString(std::wstring(digits, end).c_str());
-}
-
-/// A text that is nothing but a number.
-std::optional<double> numberIn(const CString& text)
-{
-    const std::string digits(text.GetString(),
-                             text.GetString() + text.GetLength()); // others than ASCII spoil it
-    double value = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    const bool isWhole = error == std::errc() && end == digits.data() + digits.size();
-    return isWhole && std::isfinite(value) ? std::optional(value) : std::nullopt;
-}
-
-} // namespace
+#include <ovoui/frame/core/ProfileNumber.h>
 
 ProfileExchange::ProfileExchange(std::wstring section, bool saving)
     : m_section(std::move(section))
@@ -65,7 +40,8 @@ void ProfileExchange::operator()(LPCWSTR entry, bool& value) const
 
 void ProfileExchange::operator()(LPCWSTR entry, double& value) const
 {
-    CString text = textOf(value);
+    CString text(ovoui::frame::numberText(value).c_str());
     (*this)(entry, text);
-    value = numberIn(text).value_or(value);
+    const std::wstring_view kept(text.GetString(), static_cast<std::size_t>(text.GetLength()));
+    value = ovoui::frame::numberIn(kept).value_or(value);
 }

@@ -11,6 +11,7 @@ set(frame_core
   ${CMAKE_CURRENT_LIST_DIR}/core/MessageBoxLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/MessageBoxStyle.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/Placement.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/ProfileNumber.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ProgressRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SavedPosition.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TabStep.cpp

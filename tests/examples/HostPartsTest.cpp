@@ -80,8 +80,8 @@ TEST(ProfileExchange, LeavesWhatIsMissing)
 TEST(ProfileExchange, LeavesANumberThatIsNone)
 {
     const TemporaryProfile profile;
-    for (const wchar_t* text :
-         {L"", L"much", L"1,5", L"1.5 cm", L" 1.5", L"inf", L"nan", L"1e999", L"\x0661"}) {
+    for (const wchar_t* text : {L"", L"much", L"1,5", L"1.5 cm", L" 1.5", L"inf", L"nan", L"1e999", L"\x0661",
+                                L"\x0131"}) { // whose last byte is that of "1"
         AfxGetApp()->WriteProfileString(L"Values", L"Share", text);
         Values read;
         read.exchange(false);
