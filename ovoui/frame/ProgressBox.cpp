@@ -2,10 +2,13 @@
 
 #include <ovoui/frame/ProgressBoxDlg.h>
 
+#include <memory>
+
 COVOProgressBox::COVOProgressBox(HWND owner, const std::wstring& text, const std::wstring& caption)
-    : m_dialog(new COVOProgressBoxDlg(owner, text, caption))
 {
-    m_dialog->open();
+    auto dialog = std::make_unique<COVOProgressBoxDlg>(owner, text, caption);
+    dialog->open(); // may throw, which ends the dialog
+    m_dialog = dialog.release();
 }
 
 COVOProgressBox::~COVOProgressBox()

@@ -19,7 +19,8 @@ class OVOUI_API COVOProgressBox
 {
 public:
     /// Shows `text`, which may have several lines. `owner` may be null. An empty `caption` gives the default
-    /// caption. When the box cannot be created, the work cannot be cancelled.
+    /// caption. When the box cannot be created, the work cannot be cancelled. Throws WinError when the font
+    /// cannot be measured.
     explicit COVOProgressBox(HWND owner, const std::wstring& text, const std::wstring& caption = {});
     ~COVOProgressBox();
     COVOProgressBox(const COVOProgressBox&) = delete;

@@ -54,12 +54,6 @@ int screenWidth()
     return width;
 }
 
-BOOL WINAPI noTextMetrics(HDC, LPTEXTMETRICW)
-{
-    ::SetLastError(ERROR_INVALID_HANDLE);
-    return FALSE;
-}
-
 } // namespace
 
 TEST(MessageBoxLayout, TheTextAndTheIconStandAtTheirPlaces)

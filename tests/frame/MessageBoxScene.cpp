@@ -29,6 +29,12 @@ int inspect(const BoxArguments& arguments, const std::function<void(HWND)>& look
     return show(arguments);
 }
 
+BOOL WINAPI noTextMetrics(HDC, LPTEXTMETRICW)
+{
+    ::SetLastError(ERROR_INVALID_HANDLE);
+    return FALSE;
+}
+
 HWND textControl(HWND box)
 {
     return ::GetDlgItem(box, IDC_MESSAGE_TEXT);

@@ -33,6 +33,9 @@ ovo::testkit::Story whenOpen();
 /// Shows a box, hands it to `look`, and closes it with Escape. Gives the box's answer.
 int inspect(const BoxArguments& arguments, const std::function<void(HWND box)>& look);
 
+/// Takes the place of GetTextMetricsW: the font cannot be measured.
+BOOL WINAPI noTextMetrics(HDC dc, LPTEXTMETRICW metrics);
+
 /// The control that shows the text.
 HWND textControl(HWND box);
 /// The control that shows the icon.

@@ -2,8 +2,11 @@
 #include "MessageBoxScene.h"
 
 #include <testkit/GdiCounter.h>
+#include <testkit/ImportPatch.h>
+#include <testkit/MemoryCounter.h>
 #include <testkit/WindowCounter.h>
 
+#include <ovocor/WinError.h>
 #include <ovoui/frame/ProgressBox.h>
 #include <ovoui/frame/MessageBoxIds.h>
 
@@ -194,4 +197,26 @@ TEST(ProgressBox, LeavesNothingBehind)
         once();
     EXPECT_EQ(windows.grown(), 0);
     EXPECT_LE(gdi.grown(), 2);
+}
+
+TEST(ProgressBox, AFontThatCannotBeMeasuredThrowsAndLeavesNothingBehind)
+{
+    constexpr int kRounds = 30;
+    constexpr int kMostLeft = 8 * 1024; // bytes a round, much less than the text
+    const std::wstring text(20'000, L'x');
+    Owner owner;
+    const auto fail = [&] { const COVOProgressBox progress(owner, text, L"Box"); };
+    {
+        const ImportPatch patch{L"ovomfc.dll", "GetTextMetricsW", reinterpret_cast<void*>(&noTextMetrics)};
+        EXPECT_THROW(fail(), WinError);
+        const MemoryCounter memory;
+        const WindowCounter windows;
+        for (int i = 0; i < kRounds; ++i)
+            EXPECT_THROW(fail(), WinError);
+        EXPECT_EQ(windows.grown(), 0);
+        EXPECT_LT(memory.grown(), kRounds * kMostLeft);
+    }
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    COVOProgressBox progress(owner, L"Working", L"Box");
+    EXPECT_TRUE(openBox()) << "the next box works";
 }
