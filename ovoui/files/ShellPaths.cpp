@@ -1,7 +1,7 @@
 #include <ovoui/files/ShellPaths.h>
 
 #include <ovoui/files/core/NearestFolder.h>
-#include <ovoui/frame/Module.h>
+#include <ovoui/frame/EntryPoint.h>
 
 #include <shlwapi.h>
 
@@ -82,8 +82,7 @@ std::unique_ptr<IShellItem, ReleaseItem> shellItemOf(const std::wstring& path)
     if (!library)
         return nullptr;
     using Create = HRESULT(WINAPI*)(PCWSTR, IBindCtx*, REFIID, void**);
-    const auto create = reinterpret_cast<Create>(
-        reinterpret_cast<void*>(::GetProcAddress(library, "SHCreateItemFromParsingName")));
+    const auto create = frame::entryPoint<Create>(library, "SHCreateItemFromParsingName");
     void* item = nullptr;
     if (!create || FAILED(create(path.c_str(), nullptr, IID_IShellItem, &item)))
         return nullptr;

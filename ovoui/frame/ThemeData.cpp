@@ -1,5 +1,7 @@
 #include <ovoui/frame/ThemeData.h>
 
+#include <ovoui/frame/EntryPoint.h>
+
 #include <ovocor/ovocor.h>
 #include <vsstyle.h>
 #include <vssym32.h>
@@ -15,7 +17,7 @@ HMODULE loadFromSystem(const wchar_t* name)
 template <class Function>
 void fetch(HMODULE module, const char* name, Function& function)
 {
-    function = reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(module, name)));
+    function = ovoui::frame::entryPoint<Function>(module, name);
 }
 
 // Made while the module is being loaded, before any code of the host runs.
@@ -101,9 +103,8 @@ bool CThemeData::drawBackground(HDC dc, const RECT* rect, HWND wnd, const wchar_
 /// the window is only asked whether it has one.
 bool CThemeData::drawCheckBox(HDC dc, const RECT* rect, HWND wnd, int state) const
 {
-    decltype(&::GetWindowTheme) windowTheme = nullptr;
-    if (m_module)
-        fetch(m_module, "GetWindowTheme", windowTheme);
+    const auto windowTheme =
+        ovoui::frame::entryPoint<decltype(&::GetWindowTheme)>(m_module, "GetWindowTheme");
     const bool themed = windowTheme && windowTheme(wnd);
     const HTHEME theme = themed ? m_openThemeData(nullptr, L"Button") : nullptr;
     if (!theme)

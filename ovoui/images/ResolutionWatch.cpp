@@ -1,5 +1,7 @@
 #include <ovoui/images/ResolutionWatch.h>
 
+#include <ovoui/frame/EntryPoint.h>
+
 #include <commctrl.h>
 
 #include <utility>
@@ -10,8 +12,7 @@ namespace ovoui::images
 int resolutionOf(HWND window)
 {
     using GetDpi = UINT(WINAPI*)(HWND);
-    const FARPROC entry = ::GetProcAddress(::GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
-    const auto getDpi = reinterpret_cast<GetDpi>(reinterpret_cast<void*>(entry));
+    const auto getDpi = frame::entryPoint<GetDpi>(::GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
     if (const UINT dpi = getDpi ? getDpi(window) : 0)
         return static_cast<int>(dpi);
     const HDC screen = ::GetDC(nullptr);

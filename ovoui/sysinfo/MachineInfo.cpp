@@ -1,5 +1,6 @@
 #include <ovoui/sysinfo/MachineInfo.h>
 
+#include <ovoui/frame/EntryPoint.h>
 #include <ovoui/frame/ThemeData.h>
 #include <ovoui/sysinfo/core/MachineText.h>
 
@@ -8,27 +9,20 @@
 #include <windows.h>
 
 using namespace ovoui::sysinfo;
+using ovoui::frame::entryPoint;
 
 namespace
 {
-
-/// An entry point of a library that is loaded anyway; null when it has none of this name.
-template <class Function>
-Function entryPoint(const wchar_t* library, const char* name)
-{
-    const HMODULE module = ::GetModuleHandleW(library);
-    return module ? reinterpret_cast<Function>(reinterpret_cast<void*>(::GetProcAddress(module, name)))
-                  : nullptr;
-}
 
 /// GetVersionEx tells a program only of systems that its manifest names.
 std::wstring systemOf()
 {
     OSVERSIONINFOW version{};
     version.dwOSVersionInfoSize = sizeof version;
-    if (const auto get = entryPoint<LONG(WINAPI*)(OSVERSIONINFOW*)>(L"ntdll.dll", "RtlGetVersion"))
+    const HMODULE kernel = ::GetModuleHandleW(L"ntdll.dll");
+    if (const auto get = entryPoint<LONG(WINAPI*)(OSVERSIONINFOW*)>(kernel, "RtlGetVersion"))
         get(&version);
-    const auto wine = entryPoint<const char*(__cdecl*)()>(L"ntdll.dll", "wine_get_version");
+    const auto wine = entryPoint<const char*(__cdecl*)()>(kernel, "wine_get_version");
     return systemText(version.dwMajorVersion, version.dwMinorVersion, version.dwBuildNumber,
                       wine ? wine() : "");
 }
@@ -39,7 +33,7 @@ unsigned dotsPerInch(HMONITOR monitor)
 {
     // Present from Windows 8.1 on; the library stays loaded, which costs nothing more at the next call.
     static const HMODULE library = OVO::LoadSystemLibrary(L"shcore.dll");
-    const auto get = library ? entryPoint<DpiForMonitor>(L"shcore.dll", "GetDpiForMonitor") : nullptr;
+    const auto get = entryPoint<DpiForMonitor>(library, "GetDpiForMonitor");
     constexpr int kEffective = 0;
     UINT x = 0;
     UINT y = 0;
