@@ -1,13 +1,11 @@
 #include <ovoui/update/BrowseUrl.h>
 
+#include <ovoui/update/Refusal.h>
 #include <ovoui/update/core/AddressRules.h>
 
 #include <ovocor/IntCast.h>
-#include <ovocor/OvoError.h>
-#include <ovocor/Text.h>
 #include <ovocor/Url.h>
 #include <ovocor/WinError.h>
-#include <ovomsg/ovomsg.h>
 
 #include <windows.h>
 #include <shellapi.h>
@@ -15,17 +13,15 @@
 
 #include <limits>
 
+using ovoui::update::refuse;
+
 namespace
 {
 
-[[noreturn]] void refuse(unsigned message, const std::wstring& address)
+/// What one of WinINet's errors means.
+std::wstring reasonOf(DWORD error)
 {
-    throw OvoError(stringPrintf(ovoMsg(message).c_str(), address.c_str()));
-}
-
-[[noreturn]] void refuse(unsigned message, const std::wstring& address, const std::wstring& reason)
-{
-    throw OvoError(stringPrintf(ovoMsg(message).c_str(), address.c_str(), reason.c_str()));
+    return formatMessage(error, ::GetModuleHandleW(L"wininet.dll"));
 }
 
 INTERNET_SCHEME schemeOf(const std::wstring& canonical, const std::wstring& address)
@@ -35,8 +31,7 @@ INTERNET_SCHEME schemeOf(const std::wstring& canonical, const std::wstring& addr
     URL_COMPONENTSW parts{};
     parts.dwStructSize = sizeof parts;
     if (!::InternetCrackUrlW(canonical.c_str(), static_cast<DWORD>(canonical.size()), 0, &parts))
-        refuse(OVOMSG_URL_INVALID, address,
-               formatMessage(::GetLastError(), ::GetModuleHandleW(L"wininet.dll")));
+        refuse(OVOMSG_URL_INVALID, address, reasonOf(::GetLastError()));
     return parts.nScheme;
 }
 
@@ -45,8 +40,7 @@ INTERNET_SCHEME schemeOf(const std::wstring& canonical, const std::wstring& addr
 void browseUrl(const std::wstring& address)
 {
     if (!ovoui::update::isSeenWhole(address))
-        refuse(OVOMSG_URL_INVALID, address,
-               formatMessage(ERROR_INTERNET_INVALID_URL, ::GetModuleHandleW(L"wininet.dll")));
+        refuse(OVOMSG_URL_INVALID, address, reasonOf(ERROR_INTERNET_INVALID_URL));
     const std::wstring canonical = canonicalizeUrl(address);
     if (!ovoui::update::mayBeOpened(schemeOf(canonical, address)))
         refuse(OVOMSG_URL_SCHEME, address);

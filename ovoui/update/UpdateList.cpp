@@ -1,15 +1,14 @@
 #include <ovoui/update/UpdateList.h>
 
 #include <ovoui/update/CachedCopy.h>
+#include <ovoui/update/Refusal.h>
 #include <ovoui/update/SignedFile.h>
 #include <ovoui/update/core/AddressRules.h>
 #include <ovoui/update/core/ListSearch.h>
 
 #include <ovocor/OvoError.h>
-#include <ovocor/Text.h>
 #include <ovocor/TextReader.h>
 #include <ovocor/Url.h>
-#include <ovomsg/ovomsg.h>
 
 #include <algorithm>
 #include <stdexcept>
@@ -20,11 +19,6 @@ namespace
 {
 
 constexpr std::size_t kSignatureLimit = 1024; // bytes; a signature has about 70
-
-[[noreturn]] void refuse(unsigned message, const std::wstring& address)
-{
-    throw OvoError(stringPrintf(ovoMsg(message).c_str(), address.c_str()));
-}
 
 void readInto(ListSearch& search, const std::wstring& path, const std::wstring& address)
 {
