@@ -1,5 +1,7 @@
 #include <ovoui/sysinfo/VersionRecord.h>
 
+#include <ovoui/sysinfo/core/WordList.h>
+
 #include <ovocor/Text.h>
 
 #include <cstring>
@@ -8,8 +10,6 @@ namespace ovoui::sysinfo
 {
 namespace
 {
-
-constexpr DWORD kSignature = 0xFEEF04BD;
 
 /// The system's own version of the record may need more room than the file's.
 constexpr DWORD kRoom = 2;
@@ -35,7 +35,7 @@ const VS_FIXEDFILEINFO* VersionRecord::fixedInfo() const
         length < sizeof(VS_FIXEDFILEINFO))
         return nullptr;
     const auto* const info = static_cast<const VS_FIXEDFILEINFO*>(block);
-    return info->dwSignature == kSignature ? info : nullptr;
+    return info->dwSignature == VS_FFI_SIGNATURE ? info : nullptr;
 }
 
 std::vector<VersionRecord::Translation> VersionRecord::translations() const
@@ -63,14 +63,10 @@ std::wstring VersionRecord::description(const Translation& translation) const
 
 std::wstring VersionRecord::descriptions() const
 {
-    std::wstring all;
-    for (const Translation& translation : translations()) {
-        const std::wstring one = description(translation);
-        if (!all.empty() && !one.empty())
-            all += L'\t';
-        all += one;
-    }
-    return all;
+    WordList all(L"\t");
+    for (const Translation& translation : translations())
+        all.add(description(translation));
+    return all.take();
 }
 
 } // namespace ovoui::sysinfo

@@ -1,5 +1,7 @@
 #include <ovoui/sysinfo/core/VersionWords.h>
 
+#include <ovoui/sysinfo/core/WordList.h>
+
 #include <iterator>
 
 namespace ovoui::sysinfo
@@ -55,27 +57,6 @@ const wchar_t* wordFor(std::uint32_t value, const Word (&words)[N])
             return word.text;
     return nullptr;
 }
-
-/// Texts with a separator between them.
-class WordList
-{
-public:
-    explicit WordList(std::wstring_view separator)
-        : m_separator(separator)
-    {
-    }
-    void add(std::wstring_view word)
-    {
-        if (!m_text.empty())
-            m_text += m_separator;
-        m_text += word;
-    }
-    std::wstring take() { return std::move(m_text); }
-
-private:
-    std::wstring_view m_separator;
-    std::wstring m_text;
-};
 
 } // namespace
 
