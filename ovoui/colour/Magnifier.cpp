@@ -6,6 +6,7 @@
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/BufferedPaint.h>
 #include <ovoui/frame/OwnWindow.h>
+#include <ovoui/frame/ScreenDc.h>
 
 #include <string>
 
@@ -21,24 +22,6 @@ END_MESSAGE_MAP()
 namespace
 {
 
-/// The whole of the screen's device context.
-class ScreenDc
-{
-public:
-    ScreenDc()
-        : m_dc(::GetDC(nullptr))
-    {
-    }
-    ~ScreenDc() { ::ReleaseDC(nullptr, m_dc); }
-    ScreenDc(const ScreenDc&) = delete;
-    ScreenDc& operator=(const ScreenDc&) = delete;
-
-    HDC dc() const { return m_dc; }
-
-private:
-    HDC m_dc;
-};
-
 frame::Box screenAround(CPoint point)
 {
     MONITORINFO monitor{};
@@ -51,8 +34,8 @@ frame::Box screenAround(CPoint point)
 
 COLORREF screenColour(CPoint point)
 {
-    const ScreenDc screen;
-    const COLORREF colour = ::GetPixel(screen.dc(), point.x, point.y);
+    const frame::ScreenDc screen;
+    const COLORREF colour = ::GetPixel(screen.get(), point.x, point.y);
     return colour == CLR_INVALID ? 0 : colour;
 }
 
@@ -94,15 +77,15 @@ void Magnifier::hide()
 /// Copies the pixels before the window moves, so that it never shows itself.
 void Magnifier::take(CPoint point)
 {
-    const ScreenDc screen;
+    const frame::ScreenDc screen;
     if (!m_pixels.m_hObject)
-        m_pixels.Attach(::CreateCompatibleBitmap(screen.dc(), kMagnified, kMagnified));
+        m_pixels.Attach(::CreateCompatibleBitmap(screen.get(), kMagnified, kMagnified));
     CDC memory;
     memory.CreateCompatibleDC(nullptr);
     CBitmap* const before = memory.SelectObject(&m_pixels);
     memory.PatBlt(0, 0, kMagnified, kMagnified, BLACKNESS); // what is beside the screen
     const CPoint first(firstMagnified(point.x), firstMagnified(point.y));
-    ::BitBlt(memory, 0, 0, kMagnified, kMagnified, screen.dc(), first.x, first.y, SRCCOPY);
+    ::BitBlt(memory, 0, 0, kMagnified, kMagnified, screen.get(), first.x, first.y, SRCCOPY);
     m_colour = memory.GetPixel(point.x - first.x, point.y - first.y);
     memory.SelectObject(before);
 }

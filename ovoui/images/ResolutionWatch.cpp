@@ -1,6 +1,7 @@
 #include <ovoui/images/ResolutionWatch.h>
 
 #include <ovoui/frame/EntryPoint.h>
+#include <ovoui/frame/ScreenDc.h>
 
 #include <commctrl.h>
 
@@ -15,10 +16,7 @@ int resolutionOf(HWND window)
     const auto getDpi = frame::entryPoint<GetDpi>(::GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
     if (const UINT dpi = getDpi ? getDpi(window) : 0)
         return static_cast<int>(dpi);
-    const HDC screen = ::GetDC(nullptr);
-    const int dots = ::GetDeviceCaps(screen, LOGPIXELSY);
-    ::ReleaseDC(nullptr, screen);
-    return dots;
+    return frame::screenResolution();
 }
 
 std::shared_ptr<ResolutionWatch> ResolutionWatch::begin(HWND window, Heard heard)

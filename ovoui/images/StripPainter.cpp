@@ -1,6 +1,7 @@
 #include <ovoui/images/StripPainter.h>
 
 #include <ovoui/frame/MemoryBitmap.h>
+#include <ovoui/frame/ScreenDc.h>
 #include <ovoui/images/AlphaImageList.h>
 #include <ovoui/images/core/PictureSize.h>
 #include <ovoui/images/core/SharpenFilter.h>
@@ -62,9 +63,8 @@ std::unique_ptr<Gdiplus::Bitmap> withAlpha(HBITMAP dib, int width, int height)
     Gdiplus::BitmapData data{};
     if (picture->LockBits(&all, Gdiplus::ImageLockModeWrite, PixelFormat32bppARGB, &data) != Gdiplus::Ok)
         return picture;
-    const HDC dc = ::GetDC(nullptr);
-    ::GetDIBits(dc, dib, 0, static_cast<UINT>(height), data.Scan0, &info, DIB_RGB_COLORS);
-    ::ReleaseDC(nullptr, dc);
+    const frame::ScreenDc screen;
+    ::GetDIBits(screen.get(), dib, 0, static_cast<UINT>(height), data.Scan0, &info, DIB_RGB_COLORS);
     picture->UnlockBits(&data);
     return picture;
 }

@@ -1,6 +1,7 @@
 #include <ovoui/images/StripReader.h>
 
 #include <ovoui/frame/MemoryBitmap.h>
+#include <ovoui/frame/ScreenDc.h>
 #include <ovoui/images/core/DisabledPixels.h>
 #include <ovoui/images/core/PictureSize.h>
 
@@ -19,10 +20,9 @@ Pixels bitsOf(HBITMAP bitmap, int width, int height)
 {
     Pixels pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     BITMAPINFO info = frame::topDownInfo(width, height);
-    const HDC dc = ::GetDC(nullptr);
+    const frame::ScreenDc screen;
     const int rows =
-        ::GetDIBits(dc, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
-    ::ReleaseDC(nullptr, dc);
+        ::GetDIBits(screen.get(), bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
     return rows == height ? pixels : Pixels{};
 }
 

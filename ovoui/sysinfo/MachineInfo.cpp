@@ -1,6 +1,7 @@
 #include <ovoui/sysinfo/MachineInfo.h>
 
 #include <ovoui/frame/EntryPoint.h>
+#include <ovoui/frame/ScreenDc.h>
 #include <ovoui/frame/ThemeData.h>
 #include <ovoui/sysinfo/core/MachineText.h>
 
@@ -39,10 +40,7 @@ unsigned dotsPerInch(HMONITOR monitor)
     UINT y = 0;
     if (get && get(monitor, kEffective, &x, &y) == S_OK)
         return x;
-    const HDC screen = ::GetDC(nullptr);
-    const int dots = ::GetDeviceCaps(screen, LOGPIXELSX);
-    ::ReleaseDC(nullptr, screen);
-    return static_cast<unsigned>(dots);
+    return static_cast<unsigned>(ovoui::frame::screenResolution());
 }
 
 BOOL CALLBACK addMonitor(HMONITOR monitor, HDC, RECT*, LPARAM monitors)
