@@ -44,12 +44,13 @@ Pixels bitsOf(Gdiplus::Bitmap& bitmap, int width, int height)
     return pixels;
 }
 
-/// The upper left part of a picture that is `width` pixels wide, as the strip's pixels.
-void takePart(const Pixels& picture, int width, StripPixels& strip)
+/// The bits of the whole images of a strip without alpha, side by side. Empty when they cannot be had.
+Pixels bitsWithAlpha(const Strip& strip, int size, int count)
 {
-    auto to = strip.pixels.begin();
-    for (int y = 0; y < strip.image.height; ++y)
-        to = std::copy_n(picture.begin() + static_cast<std::ptrdiff_t>(y) * width, strip.width(), to);
+    const SIZE same{size, size};
+    const StripPainter painter(strip, same, same, Gdiplus::InterpolationModeNearestNeighbor, true);
+    const std::unique_ptr<Gdiplus::Bitmap> painted = painter.paint(-1, nullptr);
+    return painted ? bitsOf(*painted, size * count, size) : Pixels{};
 }
 
 COLORREF exchanged(COLORREF colour)
@@ -69,25 +70,15 @@ bool isHighContrast()
 
 std::optional<StripPixels> pixelsOf(const Strip& strip, int size)
 {
-    const int count = size > 0 && strip.facts.bmHeight >= size ? strip.count(size) : 0;
+    const int count = wholeImages(size, strip.facts.bmWidth, strip.facts.bmHeight);
     if (count == 0)
         return std::nullopt;
-    StripPixels result({size, size}, count);
-    int width = strip.facts.bmWidth;
-    Pixels picture;
-    if (strip.hasAlpha()) {
-        picture = bitsOf(strip.bitmap, width, strip.facts.bmHeight);
-    } else {
-        const SIZE same{size, size};
-        const StripPainter painter(strip, same, same, Gdiplus::InterpolationModeNearestNeighbor, true);
-        width = result.width();
-        if (const auto painted = painter.paint(-1, nullptr))
-            picture = bitsOf(*painted, width, size);
-    }
+    const int width = strip.hasAlpha() ? strip.facts.bmWidth : size * count;
+    const Pixels picture = strip.hasAlpha() ? bitsOf(strip.bitmap, width, strip.facts.bmHeight)
+                                            : bitsWithAlpha(strip, size, count);
     if (picture.empty())
         return std::nullopt;
-    takePart(picture, width, result);
-    return result;
+    return upperLeftOf(picture, width, {size, size}, count);
 }
 
 UniqueBitmap bitmapOf(const StripPixels& pixels)

@@ -3,6 +3,7 @@ set(images_core
   ${CMAKE_CURRENT_LIST_DIR}/core/DisabledPixels.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SharpenFilter.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/StripChoice.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/StripPixels.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/StripRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/StripScaling.cpp)
 if(WIN32)

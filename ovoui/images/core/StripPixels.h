@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace ovoui::images
@@ -36,5 +37,10 @@ struct StripPixels
     int count;       ///< how many images
     std::vector<std::uint32_t> pixels;
 };
+
+/// The strip of so many images that lies in the upper left corner of a picture. The picture's rows are
+/// `width` pixels long, no shorter than the strip's, and it has no fewer of them.
+StripPixels upperLeftOf(std::span<const std::uint32_t> picture, int width, const ImageSize& image,
+                        int images);
 
 } // namespace ovoui::images

@@ -3,6 +3,11 @@
 namespace ovoui::images
 {
 
+int wholeImages(int size, int stripWidth, int stripHeight)
+{
+    return size > 0 && stripHeight >= size ? stripWidth / size : 0;
+}
+
 ImageRange imagesAsked(long index, int inStrip)
 {
     if (index < 0)

@@ -23,6 +23,10 @@ struct ImageRange
     friend bool operator==(const ImageRange&, const ImageRange&) = default;
 };
 
+/// How many whole images of `size` by `size` pixels stand side by side in a strip of this size; 0 when the
+/// strip is lower than an image, and for a size that is none.
+int wholeImages(int size, int stripWidth, int stripHeight);
+
 /// The images that an index asks for: one, which may lie beyond the strip's end, or all for a negative index.
 ImageRange imagesAsked(long index, int inStrip);
 

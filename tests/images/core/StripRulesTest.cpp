@@ -4,6 +4,19 @@
 
 using namespace ovoui::images;
 
+TEST(StripRules, OnlyWholeImagesCount)
+{
+    for (int size = -2; size < 12; ++size)
+        for (int width = 0; width < 40; ++width)
+            for (int height = 0; height < 14; ++height) {
+                int expected = 0;
+                while (size > 0 && height >= size && liesInStrip(expected, size, width))
+                    ++expected;
+                EXPECT_EQ(wholeImages(size, width, height), expected)
+                    << size << " in " << width << 'x' << height;
+            }
+}
+
 TEST(StripRules, OneImageOrAll)
 {
     for (long index = -3; index < 8; ++index)
