@@ -23,24 +23,24 @@ public:
     void Enable(BOOL on) override
     {
         m_bEnableChanged = TRUE;
-        show(on ? 0 : TBBS_DISABLED, TBBS_DISABLED);
+        show([on](unsigned style) { return withEnabled(style, on != FALSE); });
     }
     void SetCheck(int check) override
     {
-        const UINT state = check == 2 ? TBBS_INDETERMINATE : check ? TBBS_CHECKED : 0;
-        show(state | TBBS_CHECKBOX, TBBS_CHECKED | TBBS_INDETERMINATE | TBBS_CHECKBOX);
+        show([check](unsigned style) { return withCheck(style, check); });
     }
     void SetText(LPCTSTR) override {}
 
 private:
     /// Asks for the button anew: the handler may have changed the bar.
-    void show(UINT bits, UINT among)
+    template <class Change>
+    void show(Change change)
     {
         TBBUTTON button;
         if (!m_usable() || !readButton(m_bar, static_cast<int>(m_nIndex), button))
             return;
-        const UINT style = static_cast<UINT>(MAKELONG(button.fsStyle, button.fsState ^ TBSTATE_ENABLED));
-        const UINT wanted = (style & ~among) | bits;
+        const unsigned style = frameworkStyle(fieldsOf(button));
+        const unsigned wanted = change(style);
         if (wanted != style)
             m_bar.SetButtonStyle(static_cast<int>(m_nIndex), wanted);
     }

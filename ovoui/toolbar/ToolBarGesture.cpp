@@ -245,8 +245,7 @@ void CVantorToolBar::releaseQuietly(UINT flags, CPoint point)
     const auto setDisabled = [&](bool disabled) {
         if (!quiet || !state->usable() || !hasButton(index))
             return;
-        const UINT style = GetButtonStyle(index);
-        SetButtonStyle(index, disabled ? style | TBBS_DISABLED : style & ~static_cast<UINT>(TBBS_DISABLED));
+        SetButtonStyle(index, withEnabled(GetButtonStyle(index), !disabled));
     };
     setDisabled(true);
     const std::exception_ptr foreign =

@@ -8,11 +8,19 @@ namespace ovoui::toolbar
 namespace
 {
 
-constexpr unsigned char kEnabled = 0x04; // TBSTATE_
+constexpr unsigned char kChecked = 0x01; // TBSTATE_
+constexpr unsigned char kEnabled = 0x04;
 constexpr unsigned char kHidden = 0x08;
+constexpr unsigned char kIndeterminate = 0x10;
 constexpr unsigned char kWrap = 0x20;
 constexpr unsigned char kSeparator = 0x01; // BTNS_
 constexpr unsigned char kCheck = 0x02;
+
+/// In the framework's form, where the bit of enabled buttons stands for disabled ones.
+constexpr unsigned stateBits(unsigned state)
+{
+    return state << 16;
+}
 
 bool hasState(const ButtonFields& button, unsigned char bit)
 {
@@ -75,6 +83,26 @@ ButtonFields withChoice(const ButtonFields& button, int command, int image)
 bool tellsOfDoubleClick(const ButtonFields& button, bool commandEnabled)
 {
     return button.command != 0 && commandEnabled;
+}
+
+unsigned frameworkStyle(const ButtonFields& button)
+{
+    return stateBits(button.state ^ kEnabled) | button.style;
+}
+
+unsigned withEnabled(unsigned style, bool enabled)
+{
+    constexpr unsigned kDisabled = stateBits(kEnabled);
+    return enabled ? style & ~kDisabled : style | kDisabled;
+}
+
+unsigned withCheck(unsigned style, int check)
+{
+    constexpr int kNeither = 2;
+    const unsigned off = (style & ~stateBits(kChecked | kIndeterminate)) | kCheck;
+    if (check == 0)
+        return off;
+    return off | stateBits(check == kNeither ? kIndeterminate : kChecked);
 }
 
 ButtonRole roleOf(const ButtonFields& button, bool opensFlyout)

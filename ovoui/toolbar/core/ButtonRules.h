@@ -31,6 +31,13 @@ ButtonFields withChoice(const ButtonFields& button, int command, int image);
 /// Whether the main window is told of a double click.
 bool tellsOfDoubleClick(const ButtonFields& button, bool commandEnabled);
 
+/// Style and state in the framework's form, as bits TBBS_.
+unsigned frameworkStyle(const ButtonFields& button);
+/// The same when the command can be used, or not.
+unsigned withEnabled(unsigned style, bool enabled);
+/// The same when the command is off (0), on (1) or neither (2). It is that of a check button from then on.
+unsigned withCheck(unsigned style, int check);
+
 /// What the button is for accessibility.
 enum class ButtonRole
 {

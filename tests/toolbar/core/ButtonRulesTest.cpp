@@ -10,8 +10,10 @@ using namespace ovoui::toolbar;
 namespace
 {
 
+constexpr unsigned kChecked = 0x01;
 constexpr unsigned kEnabled = 0x04;
 constexpr unsigned kHidden = 0x08;
+constexpr unsigned kIndeterminate = 0x10;
 constexpr unsigned kWrap = 0x20;
 constexpr unsigned kSeparator = 0x01;
 constexpr unsigned kCheck = 0x02;
@@ -88,6 +90,39 @@ TEST(ButtonRules, ADoubleClickIsToldOfAnEnabledCommand)
     for (const ButtonFields& button : everyButton())
         for (const bool enabled : {false, true})
             EXPECT_EQ(tellsOfDoubleClick(button, enabled), button.command == 100 && enabled);
+}
+
+TEST(ButtonRules, TheFrameworkKeepsStateAboveStyleAndTellsOfDisabledButtons)
+{
+    for (const ButtonFields& button : everyButton()) {
+        const unsigned style = frameworkStyle(button);
+        EXPECT_EQ(style & 0xFFFF, button.style);
+        EXPECT_EQ(style >> 16, button.state ^ kEnabled);
+    }
+}
+
+TEST(ButtonRules, ACommandThatIsEnabledOrDisabledChangesThatAlone)
+{
+    for (const ButtonFields& button : everyButton())
+        for (const bool enabled : {false, true}) {
+            ButtonFields expected = button;
+            const unsigned others = button.state & ~kEnabled;
+            expected.state = static_cast<unsigned char>(enabled ? others | kEnabled : others);
+            EXPECT_EQ(withEnabled(frameworkStyle(button), enabled), frameworkStyle(expected));
+        }
+}
+
+TEST(ButtonRules, ACommandThatIsCheckedMakesACheckButton)
+{
+    for (const ButtonFields& button : everyButton())
+        for (const int check : {0, 1, 2}) {
+            const unsigned shown = check == 0 ? 0u : check == 1 ? kChecked : kIndeterminate;
+            ButtonFields expected = button;
+            expected.state =
+                static_cast<unsigned char>((button.state & ~(kChecked | kIndeterminate)) | shown);
+            expected.style = static_cast<unsigned char>(button.style | kCheck);
+            EXPECT_EQ(withCheck(frameworkStyle(button), check), frameworkStyle(expected));
+        }
 }
 
 TEST(ButtonRules, EveryButtonHasOneRole)
