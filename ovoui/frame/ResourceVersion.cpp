@@ -1,11 +1,11 @@
 #include <ovoui/frame/ResourceVersion.h>
 
+#include <ovoui/frame/core/VersionBlock.h>
 #include <ovoui/version.h>
 
 #include <ovocor/Text.h>
 
-#include <array>
-#include <cstring>
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -14,34 +14,18 @@ namespace ovoui
 namespace
 {
 
-using Version = std::array<unsigned, 3>;
+using frame::ModuleVersion;
 
-constexpr Version kOwn{OVOUI_VERSION_MAJOR, OVOUI_VERSION_MINOR, OVOUI_VERSION_PATCH};
+constexpr ModuleVersion kOwn{OVOUI_VERSION_MAJOR, OVOUI_VERSION_MINOR, OVOUI_VERSION_PATCH};
 
-/// A version record begins with three words and its name; the fixed part follows at the next multiple of
-/// four.
-constexpr std::size_t kFixedPart = 40;
-
-std::optional<Version> versionOf(HMODULE module)
+std::optional<ModuleVersion> versionOf(HMODULE module)
 {
     const HRSRC found = ::FindResourceW(module, MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
     const HGLOBAL loaded = found ? ::LoadResource(module, found) : nullptr;
-    const auto* const record = loaded ? static_cast<const char*>(::LockResource(loaded)) : nullptr;
-    VS_FIXEDFILEINFO info;
-    if (!record || ::SizeofResource(module, found) < kFixedPart + sizeof info)
+    const auto* const record = loaded ? static_cast<const std::byte*>(::LockResource(loaded)) : nullptr;
+    if (!record)
         return std::nullopt;
-    std::memcpy(&info, record + kFixedPart, sizeof info);
-    if (info.dwSignature != VS_FFI_SIGNATURE)
-        return std::nullopt;
-    return Version{HIWORD(info.dwFileVersionMS), LOWORD(info.dwFileVersionMS), HIWORD(info.dwFileVersionLS)};
-}
-
-std::wstring textOf(const std::optional<Version>& version)
-{
-    if (!version)
-        return L"(unknown)";
-    const auto [major, minor, patch] = *version;
-    return std::to_wstring(major) + L'.' + std::to_wstring(minor) + L'.' + std::to_wstring(patch);
+    return frame::moduleVersion({record, ::SizeofResource(module, found)});
 }
 
 void tell(const std::wstring& text)
@@ -57,14 +41,14 @@ void tell(const std::wstring& text)
 
 bool isOfOwnVersion(HMODULE resources)
 {
-    const std::optional<Version> version = versionOf(resources);
+    const std::optional<ModuleVersion> version = versionOf(resources);
     if (version == kOwn)
         return true;
     // In English: the translations are in the module that is refused.
     tell(stringPrintf(
         L"ovoui.dll has version %s, but ovouires.dll beside it has version %s. Both must have the same "
         L"version. Install the program again.",
-        textOf(kOwn).c_str(), textOf(version).c_str()));
+        frame::textOf(kOwn).c_str(), frame::textOf(version).c_str()));
     return false;
 }
 

@@ -15,6 +15,7 @@ set(frame_core
   ${CMAKE_CURRENT_LIST_DIR}/core/ProgressRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/SavedPosition.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/TabStep.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/VersionBlock.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/WrappedText.cpp)
 
 if(NOT WIN32)
