@@ -1,18 +1,20 @@
 #include <ovoui/toolbar/ImageStrip.h>
 
+#include <afxwin.h>
+
 namespace ovoui::toolbar
 {
 
 namespace
 {
 
+/// 0 when there is no such bitmap.
 int widthOfBitmap(HINSTANCE module, int bitmapId)
 {
-    const HANDLE bitmap =
-        ::LoadImageW(module, MAKEINTRESOURCEW(bitmapId), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
+    CBitmap bitmap;
+    bitmap.Attach(::LoadImageW(module, MAKEINTRESOURCEW(bitmapId), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
     BITMAP info{};
-    ::GetObjectW(bitmap, sizeof info, &info);
-    ::DeleteObject(bitmap);
+    bitmap.GetBitmap(&info);
     return static_cast<int>(info.bmWidth);
 }
 
