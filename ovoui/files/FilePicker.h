@@ -25,15 +25,11 @@ struct FileQuestion
     std::wstring extension{}; ///< as ".png": chooses a type to begin with, and is added to names without one
 };
 
-// As the browse functions: they leave the working directory as it is, and nothing comes back when the user
-// cancels. Paths may have any length that the system's dialog can give.
-
-/// Asks for one file that exists, as `question` says; nothing when the user cancels. As the browse functions
-/// it leaves the working directory as it is. The path may have any length that the system's dialog can give.
-OVOUI_API std::optional<std::filesystem::path> pickFile(const FileQuestion& question); ///< One that exists.
+/// Asks for one file that exists, as `question` says; nothing when the user cancels. As all functions here it
+/// leaves the working directory as it is, and the path may have any length that the system's dialog can give.
+OVOUI_API std::optional<std::filesystem::path> pickFile(const FileQuestion& question);
 /// Asks for at least one file, all of which exist, as `question` says; none when the user cancels.
-OVOUI_API std::vector<std::filesystem::path>
-pickFiles(const FileQuestion& question); ///< At least one, which exist.
+OVOUI_API std::vector<std::filesystem::path> pickFiles(const FileQuestion& question);
 /// Asks where to save, as `question` says; the user is asked before a file is replaced. Nothing when the user
 /// cancels.
 OVOUI_API std::optional<std::filesystem::path> pickFileToSave(const FileQuestion& question);

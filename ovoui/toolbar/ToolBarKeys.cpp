@@ -1,4 +1,5 @@
 // CVantorToolBar: the keys of embedded controls.
+#include <ovoui/frame/HeldKeysNow.h>
 #include <ovoui/toolbar/ToolBarState.h>
 #include <ovoui/toolbar/core/ControlKeys.h>
 
@@ -31,7 +32,7 @@ BOOL CVantorToolBar::PreTranslateMessage(MSG* message)
     ControlKey key;
     key.key = static_cast<unsigned>(message->wParam);
     key.down = message->message == WM_KEYDOWN;
-    key.ctrl = ::GetKeyState(VK_CONTROL) < 0;
+    key.ctrl = ovoui::frame::heldKeysNow().ctrl;
     key.wantsKeys = wantsKeys(*message); // asks the host's control
     if (!state->usable())
         return TRUE;

@@ -1,4 +1,4 @@
-#include "VantorToolWnd.h"
+#include <ovoui/toolbar/VantorToolWnd.h>
 
 #include <utility>
 
@@ -23,8 +23,8 @@ CVantorToolWnd::~CVantorToolWnd() = default;
 BOOL CVantorToolWnd::Create(CFrameWnd* frame, UINT templateId, UINT style, UINT titleId, UINT barId)
 {
     const UINT id = barId ? barId : templateId;
-    if (const BOOL made = CDialogBar::Create(frame, templateId, style, id); !made)
-        return made;
+    if (!CDialogBar::Create(frame, templateId, style, id))
+        return FALSE;
     CString title;
     title.LoadString(titleId);
     SetWindowText(title);
