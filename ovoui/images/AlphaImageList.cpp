@@ -1,6 +1,7 @@
 #include <ovoui/images/AlphaImageList.h>
 
 #include <ovoui/frame/MemoryBitmap.h>
+#include <ovoui/images/PicturePixels.h>
 #include <ovoui/images/StripPainter.h>
 #include <ovoui/images/core/PictureSize.h>
 
@@ -69,16 +70,8 @@ HBITMAP CAlphaImageList::GetHBitmap(Gdiplus::Bitmap& bitmap)
     const HBITMAP handle = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
     if (!handle)
         return nullptr;
-    Gdiplus::BitmapData data{};
-    data.Width = width;
-    data.Height = height;
-    data.Stride = static_cast<INT>(width * sizeof(Gdiplus::ARGB));
-    data.PixelFormat = PixelFormat32bppARGB;
-    data.Scan0 = bits;
-    const Gdiplus::Rect all(0, 0, static_cast<INT>(width), static_cast<INT>(height));
-    constexpr UINT kMode = Gdiplus::ImageLockModeRead | Gdiplus::ImageLockModeUserInputBuf;
-    if (bitmap.LockBits(&all, kMode, PixelFormat32bppARGB, &data) == Gdiplus::Ok)
-        bitmap.UnlockBits(&data);
+    // A picture that does not give its pixels leaves them all transparent.
+    ovoui::images::copyPixels(bitmap, static_cast<int>(width), static_cast<int>(height), bits);
     return handle;
 }
 

@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/MemoryBitmap.h>
 #include <ovoui/frame/ScreenDc.h>
+#include <ovoui/images/PicturePixels.h>
 #include <ovoui/images/core/DisabledPixels.h>
 #include <ovoui/images/core/PictureSize.h>
 
@@ -30,17 +31,8 @@ Pixels bitsOf(HBITMAP bitmap, int width, int height)
 Pixels bitsOf(Gdiplus::Bitmap& bitmap, int width, int height)
 {
     Pixels pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-    Gdiplus::BitmapData data{};
-    data.Width = static_cast<UINT>(width);
-    data.Height = static_cast<UINT>(height);
-    data.Stride = static_cast<INT>(data.Width * sizeof pixels[0]);
-    data.PixelFormat = PixelFormat32bppARGB;
-    data.Scan0 = pixels.data();
-    const Gdiplus::Rect all(0, 0, width, height);
-    constexpr UINT kMode = Gdiplus::ImageLockModeRead | Gdiplus::ImageLockModeUserInputBuf;
-    if (bitmap.LockBits(&all, kMode, PixelFormat32bppARGB, &data) != Gdiplus::Ok)
+    if (!copyPixels(bitmap, width, height, pixels.data()))
         return {};
-    bitmap.UnlockBits(&data);
     return pixels;
 }
 
