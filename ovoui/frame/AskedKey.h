@@ -6,8 +6,8 @@
 namespace ovoui::frame
 {
 
-/// Whether the question is about a key that goes down, whom it belongs to: the dialog or the control.
-/// `lParam` is that of WM_GETDLGCODE.
+/// Whether the dialog asks if this key, which goes down, is for the control. `lParam` is that of
+/// WM_GETDLGCODE.
 inline bool asksForKey(LPARAM lParam, UINT virtualKey)
 {
     const auto* const asked = reinterpret_cast<const MSG*>(lParam);

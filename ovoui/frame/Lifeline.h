@@ -6,7 +6,8 @@
 #include <memory>
 
 /// A host that is called (a notification, a callback, a virtual operation, a question for a text) may destroy
-/// the window or delete the object that called it. Whoever goes on afterwards keeps a watch on its stack:
+/// the window or delete the object that called it. A caller that goes on afterwards keeps a watch on its
+/// stack:
 ///
 ///     const Lifeline::Watch watch(*this);
 ///     tellParent();

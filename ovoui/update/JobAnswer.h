@@ -7,8 +7,8 @@
 namespace ovoui::update
 {
 
-/// The answer to be given once, by whoever comes first: the work that has ended, or the user who has
-/// cancelled it.
+/// The answer of work that the user can cancel. It is given once: by the work when it has ended, or by the
+/// user's cancelling it, whichever comes first.
 template <class State>
 class JobAnswer
 {
@@ -22,8 +22,8 @@ public:
     /// Whether the caller is the first: then its answer is the one that counts, and it gives it.
     bool claim() noexcept { return !m_claimed.exchange(true); }
 
-    /// Gives the `answer` of the first who came. To be called last: who sees it may read all that belongs to
-    /// it.
+    /// Gives the `answer` of the caller that came first. To be called last: a thread that sees the answer may
+    /// read all that belongs to it.
     void give(State answer) noexcept { m_state = answer; }
 
     /// May be asked on any thread.
