@@ -267,7 +267,7 @@ std::vector<Polygon> strokeOutline(const std::vector<Polyline>& lines, const Pen
 std::vector<Polyline> dashed(const std::vector<Polyline>& lines, const Pen& pen, Budget& budget)
 {
     const double period = std::accumulate(pen.dashes.begin(), pen.dashes.end(), 0.0);
-    if (!(period > 0) || !std::isfinite(period))
+    if (!(period > 0) || !std::isfinite(2 * period)) // an odd list counts twice
         return lines;
     Dasher dasher(pen, budget);
     for (const Polyline& line : lines)

@@ -207,6 +207,16 @@ TEST(Dashes, WithoutALengthAreDotsUnderRoundCaps)
     EXPECT_NEAR(areaOf("M10 20H31", dots), 5 * kPi, 0.02);
 }
 
+TEST(Dashes, BeyondAllBoundsDoNotCount)
+{
+    for (const double offset : {-1.0, 0.0, 1.0, -1e308}) {
+        EXPECT_EQ(spans(dashesOf("M0 0H10", {1e308}, offset)), (Spans{0, 10}))
+            << "twice its length is no number";
+        EXPECT_EQ(spans(dashesOf("M0 0H10", {1e308, 1e308}, offset)), (Spans{0, 10}));
+    }
+    EXPECT_EQ(spans(dashesOf("M0 0H10", {4e307, 1}, -1)), (Spans{1, 10}));
+}
+
 TEST(Dashes, TooManyAreAFailure)
 {
     EXPECT_THROW(dashesOf("M0 0H1e6", {1e-3, 1e-3}), SvgFailure);
