@@ -57,7 +57,18 @@ Canvas Renderer::render(std::uint32_t currentColour)
     } else if (context.style.displayed) {
         inLayer(context.style.opacity, [&] { drawViewport(m_root, context, room); });
     }
+    noteStyleSheets(m_root);
     return std::move(m_layers.front());
+}
+
+/// Style sheets count wherever they stand, and editors put them among what is not drawn there.
+void Renderer::noteStyleSheets(const XmlElement& element)
+{
+    for (const XmlElement& child : element.children) {
+        if (child.name == m_prefix + "style")
+            note(SvgIssue::NotSupported, child, "style");
+        noteStyleSheets(child);
+    }
 }
 
 void Renderer::drawChildren(const XmlElement& element, const Context& context)

@@ -73,6 +73,7 @@ private:
     Matrix transformOf(const XmlElement& element);
     std::optional<Box> viewBoxOf(const XmlElement& element);
     Style styleFor(const XmlElement& element, const Style& parent);
+    void noteStyleSheets(const XmlElement& element);
     void note(SvgIssue issue, const XmlElement& element, std::string what);
     void note(SvgIssue issue, XmlPlace place, std::string what);
 

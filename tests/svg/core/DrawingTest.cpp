@@ -222,7 +222,8 @@ TEST(SvgDrawing, RadialGradientsGoFromTheFocusToTheCircle)
     EXPECT_NEAR(at("gradientUnits='userSpaceOnUse' cx='4' cy='4' r='8'", 6, 9), std::hypot(2.5, 5.5) / 8,
                 0.003);
     // With a focus at the left the way to the right of it is longer.
-    EXPECT_NEAR(at("gradientUnits='userSpaceOnUse' cx='8' cy='8' r='8' fx='4' fy='7.5'", 10, 7), 0.5424, 0.003);
+    EXPECT_NEAR(at("gradientUnits='userSpaceOnUse' cx='8' cy='8' r='8' fx='4' fy='7.5'", 10, 7), 0.5424,
+                0.003);
     EXPECT_NEAR(at("gradientUnits='userSpaceOnUse' cx='8' cy='8' r='8' fx='-20' fy='8'", 15, 7), 1, 0.07)
         << "a focus outside comes to the circle";
 }
@@ -355,6 +356,13 @@ TEST(SvgDrawing, SaysWhatItDoesNotDraw)
     EXPECT_THAT(notesOf("<pattern id='p'/><rect width='9' height='9' fill='url(#p)'/>"),
                 ElementsAre("not supported: #p"));
     EXPECT_THAT(notesOf("<defs><filter id='f'/><clipPath id='c'/></defs>"), IsEmpty()) << "what is not used";
+    EXPECT_THAT(notesOf("<defs><style>.a{fill:red}</style></defs><rect class='a' width='9' height='9'/>"),
+                ElementsAre("not supported: style"))
+        << "among the definitions it counts as well";
+    EXPECT_THAT(notesOf("<g display='none'><style/></g><metadata><x:style/></metadata>"),
+                ElementsAre("not supported: style"));
+    EXPECT_THAT(notesOf("<symbol id='a'><style/></symbol><use href='#a'/><use href='#a'/>"),
+                ElementsAre("not supported: style"));
     const Pixels pixels(svg("\n <g>\n  <text/></g>"), 16);
     EXPECT_THAT(pixels.notes, ElementsAre(SvgNote{SvgIssue::NotSupported, 3, 3, "text"}));
 }
