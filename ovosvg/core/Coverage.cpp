@@ -238,16 +238,18 @@ private:
         return std::adjacent_find(m_active.begin(), m_active.end(), crosses) == m_active.end();
     }
 
-    static void addCrossing(const Strand& one, const Strand& other, double top, double bottom,
-                            std::vector<double>& cuts)
+    void addCrossing(const Strand& one, const Strand& other, double top, double bottom,
+                     std::vector<double>& cuts)
     {
         const double above = other.above - one.above;
         const double below = other.below - one.below;
         if (!((above < 0 && below > 0) || (above > 0 && below < 0)))
             return;
         const double y = top + (bottom - top) * (above / (above - below));
-        if (y > top && y < bottom)
+        if (y > top && y < bottom) {
+            m_budget.spend(kPointCost);
             cuts.push_back(y);
+        }
     }
 
     bool isInside(int winding) const { return m_rule == FillRule::NonZero ? winding != 0 : winding % 2 != 0; }

@@ -61,8 +61,8 @@ double Gradient::spreadShare(double share) const
 
 Rgba Gradient::atShare(double share) const
 {
-    const auto after = std::find_if(stops.begin(), stops.end(),
-                                    [share](const GradientStop& stop) { return stop.offset > share; });
+    const auto after = std::upper_bound(stops.begin(), stops.end(), share,
+                                        [](double at, const GradientStop& stop) { return at < stop.offset; });
     if (after == stops.begin())
         return stops.front().colour;
     if (after == stops.end())

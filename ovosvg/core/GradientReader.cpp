@@ -22,8 +22,10 @@ public:
         , m_note(note)
     {
         for (const XmlElement* next = &element; next && m_chain.size() < kMostReferences;
-             next = definitions.referredBy(*next))
+             next = definitions.referredBy(*next)) {
+            m_use.budget.spend(next->cost());
             m_chain.push_back(next);
+        }
     }
 
     std::optional<Gradient> read()
@@ -132,9 +134,11 @@ private:
     {
         for (const XmlElement* const element : m_chain) {
             std::vector<GradientStop> stops;
-            for (const XmlElement& child : element->children)
+            for (const XmlElement& child : element->children) {
+                m_use.budget.spend(child.cost());
                 if (localName(child.name) == "stop")
                     stops.push_back(stop(child, stops.empty() ? 0 : stops.back().offset));
+            }
             if (!stops.empty())
                 return stops;
         }

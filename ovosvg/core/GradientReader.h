@@ -3,6 +3,7 @@
 
 #include <ovosvg/core/Definitions.h>
 #include <ovosvg/core/Gradient.h>
+#include <ovosvg/core/Limits.h>
 
 #include <cstdint>
 #include <functional>
@@ -18,6 +19,7 @@ struct GradientUse
     Box viewport;         ///< what percentages refer to
     Matrix toPicture;     ///< from these units to the picture
     std::uint32_t colour; ///< for currentColor
+    Budget& budget;       ///< what reading costs is taken from it
 };
 
 /// The gradient of an element, with what it takes over from others by reference. None for one without stops

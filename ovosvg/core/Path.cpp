@@ -44,6 +44,7 @@ public:
     void begin(Point p)
     {
         end(false);
+        m_budget.spend(kPointCost);
         m_line.points.push_back(p);
         m_line.smooth.push_back(false);
         m_drawn = false;

@@ -88,7 +88,7 @@ void Renderer::drawElement(const XmlElement& element, const Context& parent)
         throw SvgFailure{{SvgIssue::TooLarge, element.place.line, element.place.column, "depth"}};
     if (++m_elements > kMostElements)
         throw SvgFailure{{SvgIssue::TooLarge, element.place.line, element.place.column, "elements"}};
-    m_budget.spend(kPointCost);
+    m_budget.spend(element.cost() + parent.style.cost());
     Context context = parent;
     ++context.depth;
     context.style = styleFor(element, parent.style);
@@ -135,6 +135,7 @@ void Renderer::drawReference(const XmlElement& use, const Context& context)
     if (moved.depth >= kMostDepth)
         throw SvgFailure{{SvgIssue::TooLarge, use.place.line, use.place.column, "depth"}};
     ++moved.depth;
+    m_budget.spend(target->cost() + context.style.cost());
     moved.style = styleFor(*target, context.style);
     moved.matrix = moved.matrix * transformOf(*target);
     const auto side = [&](const char* attribute, Axis axis) {

@@ -159,7 +159,8 @@ void Renderer::paintArea(const std::vector<Polygon>& area, FillRule rule, const 
             return;
         }
         gradient = readGradient(
-            *server, m_definitions, {bounds, context.viewport, context.matrix, context.style.colour},
+            *server, m_definitions,
+            {bounds, context.viewport, context.matrix, context.style.colour, m_budget},
             [this](const char* attribute, const XmlElement& of) { note(SvgIssue::BadValue, of, attribute); });
         if (!gradient)
             return;

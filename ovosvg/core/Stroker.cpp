@@ -181,6 +181,7 @@ public:
 
     void cut(const Polyline& line)
     {
+        m_budget.spend(static_cast<std::int64_t>(m_pen.dashes.size()));
         DashWalk walk(m_pen);
         const std::size_t first = m_dashes.size();
         const bool beginsOn = walk.isOn();

@@ -109,6 +109,11 @@ Setting notSupported(std::string_view name, std::string_view value)
 
 } // namespace
 
+std::int64_t Style::cost() const
+{
+    return static_cast<std::int64_t>(fill.id.size() + stroke.id.size() + dashes.size() * sizeof(Length));
+}
+
 Setting setProperty(Style& style, std::string_view name, std::string_view raw)
 {
     const std::string_view value = trimmed(raw);

@@ -51,6 +51,9 @@ struct Style
     // Of the element alone
     double opacity = 1;
     bool displayed = true;
+
+    /// What a copy costs of a drawing's budget.
+    std::int64_t cost() const;
 };
 
 /// What comes of a property that is set.

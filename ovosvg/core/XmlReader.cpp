@@ -304,6 +304,14 @@ const std::string* XmlElement::find(std::string_view attribute) const
     return nullptr;
 }
 
+std::int64_t XmlElement::cost() const
+{
+    std::size_t bytes = 0;
+    for (const XmlAttribute& own : attributes)
+        bytes += own.value.size();
+    return kPointCost + static_cast<std::int64_t>(bytes);
+}
+
 XmlElement readXml(std::string_view text)
 {
     if (text.size() > kMostBytes)

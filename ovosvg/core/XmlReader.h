@@ -3,6 +3,7 @@
 
 #include <ovosvg/core/Limits.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +34,9 @@ struct XmlElement
 
     /// Null without the attribute.
     const std::string* find(std::string_view attribute) const;
+
+    /// What it costs of a drawing's budget to read the attributes.
+    std::int64_t cost() const;
 };
 
 /// The outermost element of a document in UTF-8. Comments, processing instructions and a document type

@@ -428,6 +428,39 @@ TEST(SvgDrawing, ReferencesThatMultiplyEnd)
     EXPECT_NE(failureOf(svg(laughs + "</defs><use href='#a11'/>")), "");
 }
 
+TEST(SvgDrawing, WhatIsReadAgainAndAgainEnds)
+{
+    const auto many = [](const char* text) {
+        std::string all;
+        for (int i = 0; i < 2000; ++i)
+            all += text;
+        return all;
+    };
+    const auto isTooMuch = [](const std::string& content) {
+        std::vector<SvgNote> notes;
+        try {
+            Drawing(svg(content)).draw(16, 16, 0xFF000000, notes, Budget(2'000'000));
+            return false;
+        } catch (const SvgFailure& failure) {
+            return failure.note.what == "work";
+        }
+    };
+    const std::string uses = many("<use href='#a'/>");
+    EXPECT_FALSE(isTooMuch("<g id='a'/>" + uses)) << "little, often";
+    EXPECT_TRUE(isTooMuch("<g id='a' transform='" + many(" ") + "'/>" + uses));
+    EXPECT_TRUE(isTooMuch("<path id='a' visibility='hidden' d='M0 0" + many("m0 0") + "'/>" + uses));
+    EXPECT_TRUE(isTooMuch("<symbol id='a' x='0" + many(" ") + "'/>" + uses));
+    EXPECT_TRUE(isTooMuch("<g stroke-dasharray='" + many("1 ") + "'>" + many("<g/>") + "</g>"));
+    EXPECT_TRUE(isTooMuch("<g fill='url(#" + many("x") + ")'>" + many("<g/>") + "</g>"));
+    const std::string rows = many("m-1 1h1");
+    EXPECT_FALSE(isTooMuch("<path fill='none' stroke='red' stroke-dasharray='1' d='M1 0" + rows + "'/>"));
+    EXPECT_TRUE(isTooMuch("<path fill='none' stroke='red' stroke-dasharray='" + many("1 ") + "' d='M1 0" +
+                          rows + "'/>"));
+    const std::string squares = many("<path d='M0 0h1v1z' fill='url(#b)'/>");
+    EXPECT_FALSE(isTooMuch("<linearGradient id='b'/>" + squares));
+    EXPECT_TRUE(isTooMuch("<linearGradient id='b'>" + many("<stop/>") + "</linearGradient>" + squares));
+}
+
 TEST(SvgDrawing, LayersEnd)
 {
     std::string nested;
