@@ -58,8 +58,8 @@ struct Matrix
     Point map(Point p) const { return {a * p.x + c * p.y + e, b * p.x + d * p.y + f}; }
     double determinant() const { return a * d - b * c; }
 
-    /// How much longer lengths become, in the mean of the directions.
-    double scale() const { return std::sqrt(std::abs(determinant())); }
+    /// How much longer a length becomes at most, in whichever direction.
+    double stretch() const { return (std::hypot(a + d, b - c) + std::hypot(a - d, b + c)) / 2; }
 
     /// Whether it can be undone.
     bool invertible() const { return std::isfinite(determinant()) && determinant() != 0 && isFinite({e, f}); }

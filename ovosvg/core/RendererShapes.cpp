@@ -95,15 +95,14 @@ Path Renderer::linesOf(const XmlElement& element, bool closed)
 
 void Renderer::drawShape(const Path& path, const XmlElement& element, const Context& context, bool hasArea)
 {
-    const double scale = context.matrix.scale();
     if (path.empty() || !context.style.visible)
         return;
-    if (!context.matrix.invertible() || !std::isfinite(scale)) {
-        if (!std::isfinite(scale))
+    if (!context.matrix.invertible()) {
+        if (!std::isfinite(context.matrix.determinant()))
             note(SvgIssue::BadValue, element, "transform");
         return;
     }
-    const double tolerance = kTolerance / scale;
+    const double tolerance = kTolerance / context.matrix.stretch();
     const std::vector<Polyline> lines = path.flattened(tolerance, m_budget);
     const Box bounds = boundsOf(lines);
     if (hasArea)

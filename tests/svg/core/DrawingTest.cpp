@@ -81,6 +81,15 @@ TEST(SvgDrawing, TurnedShapesCoverAsMuch)
     }
 }
 
+TEST(SvgDrawing, CurvesStayRoundWhereTheyAreStretched)
+{
+    // Two thirds of 12 by 6, whichever way the drawing is stretched.
+    EXPECT_NEAR(drawn("<path d='M2 2q6 12 12 0z'/>").area(), 48, kArea);
+    EXPECT_NEAR(drawn("<path d='M2 .002q6 .012 12 0z' transform='scale(1 1000)'/>").area(), 48, kArea);
+    EXPECT_NEAR(drawn("<path d='M.002 2q.012 6 0 12z' transform='scale(1000 1)'/>").area(), 48, kArea);
+    EXPECT_NEAR(drawn("<path d='M.02 200q.12 600 0 1200z' transform='scale(100 .01)'/>").area(), 48, kArea);
+}
+
 TEST(SvgDrawing, EdgesOnPixelsAreSharp)
 {
     const Pixels pixels = drawn("<rect x='2' y='3' width='4' height='5' fill='red'/>");

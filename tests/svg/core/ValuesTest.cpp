@@ -119,6 +119,14 @@ TEST(Transforms, AreUndoneByTheirInverse)
     EXPECT_FALSE((Matrix{1, 2, 2, 4, 0, 0}).invertible());
 }
 
+TEST(Transforms, HaveAGreatestStretch)
+{
+    EXPECT_NEAR(transformFrom("scale(3 -5)")->stretch(), 5, 1e-12);
+    EXPECT_NEAR(transformFrom("rotate(20) scale(3 5) rotate(40)")->stretch(), 5, 1e-12);
+    EXPECT_NEAR(transformFrom("skewX(45)")->stretch(), (1 + std::sqrt(5)) / 2, 1e-12);
+    EXPECT_EQ(transformFrom("scale(0)")->stretch(), 0);
+}
+
 TEST(Fits, PutAPictureIntoARoom)
 {
     const Box from{10, 20, 40, 20};
