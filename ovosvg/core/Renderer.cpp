@@ -44,7 +44,7 @@ Canvas Renderer::render(std::uint32_t currentColour)
     context.style = styleFor(m_root, context.style);
     context.viewport = {0, 0, static_cast<double>(m_width), static_cast<double>(m_height)};
     Box room = context.viewport;
-    if (!m_root.find("viewBox")) {
+    if (!viewBoxOf(m_root)) {
         // A drawing without a view box has that of its size, if it says one.
         const auto width = maybeLength(m_root, "width", room, Axis::X);
         const auto height = maybeLength(m_root, "height", room, Axis::Y);
@@ -213,14 +213,18 @@ double Renderer::size(const XmlElement& element, const char* attribute, const Bo
     return 0;
 }
 
-/// None without the attribute.
+/// None without the attribute, and where it cannot be read.
 std::optional<double> Renderer::maybeLength(const XmlElement& element, const char* attribute,
                                             const Box& viewport, Axis axis)
 {
     const std::string* const text = element.find(attribute);
     if (!text || trimmed(*text) == "auto")
         return std::nullopt;
-    return size(element, attribute, viewport, axis);
+    const std::optional<Length> written = lengthFrom(*text);
+    if (written && written->value >= 0)
+        return length(element, attribute, viewport, axis);
+    note(SvgIssue::BadValue, element, attribute);
+    return std::nullopt;
 }
 
 Matrix Renderer::transformOf(const XmlElement& element)

@@ -403,6 +403,25 @@ TEST(SvgDrawing, SaysWhatItCannotRead)
         << "a path as far as it can be read";
 }
 
+TEST(SvgDrawing, WhatCannotBeReadIsAsIfItWereNotThere)
+{
+    const std::pair<const char*, const char*> same[] = {
+        {"<rect width='9' height='9' rx='1em' ry='3'/>", "<rect width='9' height='9' ry='3'/>"},
+        {"<rect width='9' height='9' rx='3' ry='-3'/>", "<rect width='9' height='9' rx='3'/>"},
+        {"<ellipse cx='8' cy='8' rx='5' ry='wide'/>", "<ellipse cx='8' cy='8' rx='5'/>"}};
+    for (const auto& [content, without] : same) {
+        EXPECT_TRUE(drawn(content) == drawn(without)) << content;
+        EXPECT_EQ(notesOf(content).size(), 1u) << content;
+    }
+    const auto root = [](const std::string& attributes) {
+        return Pixels("<svg " + attributes + "><rect width='50%' height='8'/></svg>", 32);
+    };
+    EXPECT_TRUE(root("viewBox='0 0 16' width='16' height='16'") == root("width='16' height='16'"));
+    EXPECT_THAT(root("viewBox='0 0 16' width='16' height='16'").notes,
+                ElementsAre(SvgNote{SvgIssue::BadValue, 1, 1, "viewBox"}));
+    EXPECT_TRUE(root("width='1em' height='1em'") == root(""));
+}
+
 TEST(SvgDrawing, WhatIsNotedTwiceIsNotedOnce)
 {
     EXPECT_THAT(notesOf("<g id='a'><text/></g><use href='#a'/><use href='#a'/>"),
