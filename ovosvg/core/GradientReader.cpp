@@ -165,7 +165,7 @@ private:
     std::uint32_t colourOf(const XmlElement& element) const
     {
         const std::string_view text = propertyOf(element, "stop-color");
-        if (text == "currentColor")
+        if (isCurrentColour(text))
             return colourFrom(propertyOf(element, "color")).value_or(m_use.colour);
         const std::optional<std::uint32_t> colour = text.empty() ? 0xFF000000 : colourFrom(text);
         if (!colour)

@@ -14,7 +14,7 @@ std::optional<Paint> paintFrom(std::string_view text)
 {
     if (text == "none")
         return Paint{};
-    if (text == "currentColor" || text == "currentcolor")
+    if (isCurrentColour(text))
         return Paint{Paint::Kind::Current, 0, {}};
     if (text.starts_with("url(")) {
         const std::size_t end = text.find(')');
@@ -78,7 +78,7 @@ std::optional<std::vector<Length>> dashesFrom(std::string_view text)
 /// The color property: with currentColor it stays.
 std::optional<std::uint32_t> colourProperty(std::string_view text, std::uint32_t parent)
 {
-    return text == "currentColor" ? parent : colourFrom(text);
+    return isCurrentColour(text) ? parent : colourFrom(text);
 }
 
 template <class Value>
@@ -105,6 +105,15 @@ Setting notSupported(std::string_view name, std::string_view value)
     if (!harmless)
         return Setting::Unknown;
     return value == *harmless ? Setting::Done : Setting::NotSupported;
+}
+
+/// A value without the "!important" at its end, which no style sheet contests here.
+std::string_view withoutImportance(std::string_view value)
+{
+    const std::size_t mark = value.rfind('!');
+    return mark != std::string_view::npos && trimmed(value.substr(mark + 1)) == "important"
+               ? trimmed(value.substr(0, mark))
+               : value;
 }
 
 } // namespace
@@ -162,7 +171,8 @@ void forEachDeclaration(std::string_view style,
         const std::string_view declaration = style.substr(0, end);
         const std::size_t colon = declaration.find(':');
         if (colon != std::string_view::npos)
-            see(trimmed(declaration.substr(0, colon)), trimmed(declaration.substr(colon + 1)));
+            see(trimmed(declaration.substr(0, colon)),
+                withoutImportance(trimmed(declaration.substr(colon + 1))));
         style.remove_prefix(std::min(end + 1, style.size()));
     }
 }

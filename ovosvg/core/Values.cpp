@@ -225,6 +225,11 @@ std::optional<std::uint32_t> colourFrom(std::string_view text)
     return namedColour(view);
 }
 
+bool isCurrentColour(std::string_view text)
+{
+    return lowercase(trimmed(text)) == "currentcolor";
+}
+
 std::optional<Matrix> transformFrom(std::string_view text)
 {
     Matrix result;

@@ -40,6 +40,9 @@ std::optional<std::vector<Length>> lengthsFrom(std::string_view text);
 /// of currentColor, which is no colour by itself.
 std::optional<std::uint32_t> colourFrom(std::string_view text);
 
+/// Whether it is currentColor, in capitals or not.
+bool isCurrentColour(std::string_view text);
+
 /// A list of matrix, translate, scale, rotate, skewX and skewY.
 std::optional<Matrix> transformFrom(std::string_view text);
 

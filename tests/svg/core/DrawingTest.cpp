@@ -121,6 +121,9 @@ TEST(SvgDrawing, StyleComesFromTheElementAndWhatItLiesIn)
         "<rect width='16' height='16' fill='blue' style=' stroke : none ; fill : #f00 ;'/>",
         "<g fill='red'><rect width='16' height='16'/></g>",
         "<g style='fill:red'><rect width='16' height='16' fill='inherit'/></g>",
+        "<rect width='16' height='16' fill='blue' style='fill:red !important'/>",
+        "<rect width='16' height='16' fill='red'/><g style='display:none! important'><circle r='99'/></g>",
+        "<g style='color:red'><rect width='16' height='16' color='currentcolor' fill='CurrentColor'/></g>",
         "<g color='red'><rect width='16' height='16' fill='currentColor'/></g>",
         "<g color='red' fill='currentColor'><rect width='16' height='16' color='inherit'/></g>",
         "<g fill='blue'><g fill='red'><rect width='16' height='16'/></g></g>",
@@ -252,6 +255,7 @@ TEST(SvgDrawing, StopsHaveColoursOfTheirOwn)
     EXPECT_EQ(at("<stop style='stop-color:red;stop-opacity:.5'/>", 3), 0x80800000u);
     EXPECT_EQ(at("<stop stop-color='currentColor'/>", 3), kRed);
     EXPECT_EQ(at("<stop stop-color='currentColor' color='blue'/>", 3), kBlue);
+    EXPECT_EQ(at("<stop stop-color='currentcolor' style='color:blue!important'/>", 3), kBlue);
     EXPECT_EQ(at("", 3), 0u) << "without stops nothing is painted";
 }
 
