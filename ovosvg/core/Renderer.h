@@ -54,6 +54,7 @@ private:
                 const Box& bounds, double tolerance);
     void paintArea(const std::vector<Polygon>& area, FillRule rule, const Paint& paint, double opacity,
                    const XmlElement& element, const Context& context, const Box& bounds);
+    const XmlElement* gradientOf(const Paint& paint, const XmlElement& element);
     Pen penOf(const Style& style, const Box& viewport) const;
 
     // Values

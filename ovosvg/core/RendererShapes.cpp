@@ -142,6 +142,17 @@ Pen Renderer::penOf(const Style& style, const Box& viewport) const
     return pen;
 }
 
+/// The gradient that a paint of an element refers to; null when there is none.
+const XmlElement* Renderer::gradientOf(const Paint& paint, const XmlElement& element)
+{
+    const XmlElement* const server = m_definitions.find(paint.id);
+    const std::string_view name = server ? localName(server->name) : std::string_view();
+    if (name == "linearGradient" || name == "radialGradient")
+        return server;
+    note(server ? SvgIssue::NotSupported : SvgIssue::BadValue, element, "#" + paint.id);
+    return nullptr;
+}
+
 /// Polygons in pixels.
 void Renderer::paintArea(const std::vector<Polygon>& area, FillRule rule, const Paint& paint, double opacity,
                          const XmlElement& element, const Context& context, const Box& bounds)
@@ -149,21 +160,22 @@ void Renderer::paintArea(const std::vector<Polygon>& area, FillRule rule, const 
     if (area.empty() || opacity <= 0)
         return;
     std::optional<Gradient> gradient;
-    std::uint32_t colour = paint.kind == Paint::Kind::Current ? context.style.colour : paint.colour;
-    if (paint.kind == Paint::Kind::Server) {
-        const XmlElement* const server = m_definitions.find(paint.id);
-        const std::string_view name = server ? localName(server->name) : std::string_view();
-        if (name != "linearGradient" && name != "radialGradient") {
-            note(server ? SvgIssue::NotSupported : SvgIssue::BadValue, element, "#" + paint.id);
-            return;
-        }
-        gradient = readGradient(
-            *server, m_definitions,
-            {bounds, context.viewport, context.matrix, context.style.colour, m_budget},
-            [this](const char* attribute, const XmlElement& of) { note(SvgIssue::BadValue, of, attribute); });
-        if (!gradient)
+    Paint::Kind kind = paint.kind;
+    if (kind == Paint::Kind::Server) {
+        const XmlElement* const server = gradientOf(paint, element);
+        if (!server)
+            kind = paint.otherwise;
+        else
+            gradient =
+                readGradient(*server, m_definitions,
+                             {bounds, context.viewport, context.matrix, context.style.colour, m_budget},
+                             [this](const char* attribute, const XmlElement& of) {
+                                 note(SvgIssue::BadValue, of, attribute);
+                             });
+        if (server ? !gradient : kind == Paint::Kind::None)
             return;
     }
+    const std::uint32_t colour = kind == Paint::Kind::Current ? context.style.colour : paint.colour;
     m_budget.spend(static_cast<std::int64_t>(m_width) * m_height / 8);
     const std::vector<float> covered = coverage(area, rule, m_width, m_height, m_budget);
     Canvas& canvas = m_layers.back();

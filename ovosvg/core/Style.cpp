@@ -10,23 +10,32 @@ namespace ovosvg
 namespace
 {
 
-std::optional<Paint> paintFrom(std::string_view text)
+/// A paint without a reference.
+std::optional<Paint> plainPaintFrom(std::string_view text)
 {
     if (text == "none")
         return Paint{};
     if (isCurrentColour(text))
         return Paint{Paint::Kind::Current, 0, {}};
-    if (text.starts_with("url(")) {
-        const std::size_t end = text.find(')');
-        std::string_view address = trimmed(text.substr(4, end == std::string_view::npos ? end : end - 4));
-        if (address.size() >= 2 && (address.front() == '"' || address.front() == '\''))
-            address = address.substr(1, address.size() - 2);
-        if (end == std::string_view::npos || !address.starts_with('#'))
-            return std::nullopt;
-        return Paint{Paint::Kind::Server, 0, std::string(address.substr(1))};
-    }
     const std::optional<std::uint32_t> colour = colourFrom(text);
     return colour ? std::optional(Paint{Paint::Kind::Solid, *colour, {}}) : std::nullopt;
+}
+
+std::optional<Paint> paintFrom(std::string_view text)
+{
+    if (!text.starts_with("url("))
+        return plainPaintFrom(text);
+    const std::size_t end = text.find(')');
+    if (end == std::string_view::npos)
+        return std::nullopt;
+    std::string_view address = trimmed(text.substr(4, end - 4));
+    if (address.size() >= 2 && (address.front() == '"' || address.front() == '\''))
+        address = address.substr(1, address.size() - 2);
+    const std::string_view rest = trimmed(text.substr(end + 1));
+    const std::optional<Paint> otherwise = rest.empty() ? Paint{} : plainPaintFrom(rest);
+    if (!address.starts_with('#') || !otherwise)
+        return std::nullopt;
+    return Paint{Paint::Kind::Server, otherwise->colour, std::string(address.substr(1)), otherwise->kind};
 }
 
 template <class Value>

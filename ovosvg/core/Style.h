@@ -25,8 +25,9 @@ struct Paint
         Server   ///< what has an id
     };
     Kind kind = Kind::None;
-    std::uint32_t colour = 0; ///< 0xAARRGGBB, of Solid
-    std::string id;           ///< of Server
+    std::uint32_t colour = 0;    ///< 0xAARRGGBB, of Solid
+    std::string id;              ///< of Server
+    Kind otherwise = Kind::None; ///< of Server, when no gradient has the id; Solid with `colour`
 };
 
 /// Properties that children take over, and what an element has for itself.

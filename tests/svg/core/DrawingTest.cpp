@@ -273,6 +273,27 @@ TEST(SvgDrawing, GradientsTakeOverFromOthers)
     EXPECT_EQ(pixels.at(3, 11), 0u) << "one that refers to itself has no stops";
 }
 
+TEST(SvgDrawing, AReferenceThatLeadsNowhereGivesWayToTheColourBehindIt)
+{
+    const auto at = [](const std::string& fill) {
+        return drawn("<linearGradient id='a'><stop stop-color='red'/></linearGradient><pattern id='p'/>"
+                     "<g color='blue'><rect width='16' height='16' fill='" +
+                     fill + "'/></g>")
+            .at(3, 3);
+    };
+    EXPECT_EQ(at("url(#a) blue"), kRed);
+    EXPECT_EQ(at("url(#b) blue"), kBlue);
+    EXPECT_EQ(at("url(#b)blue"), kBlue);
+    EXPECT_EQ(at("url(&quot;#b&quot;) currentColor"), kBlue);
+    EXPECT_EQ(at("url(#p) #00f"), kBlue) << "what is not drawn is not there";
+    EXPECT_EQ(at("url(#b) none"), 0u);
+    EXPECT_EQ(at("url(#b)"), 0u);
+    EXPECT_EQ(at("url(#a) blueish"), 0xFF000000u) << "which cannot be read";
+    EXPECT_THAT(notesOf("<rect width='9' height='9' fill='url(#b) blue'/>"), ElementsAre("bad value: #b"));
+    EXPECT_THAT(notesOf("<rect width='9' height='9' fill='url(#b) url(#c)'/>"),
+                ElementsAre("bad value: fill"));
+}
+
 TEST(SvgDrawing, AStrokeWithAGradientGoesByTheShape)
 {
     const Pixels pixels = drawn(
