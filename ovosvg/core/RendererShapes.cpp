@@ -69,8 +69,6 @@ Path Renderer::pathOf(const XmlElement& element)
     PathReading reading = readPath(*text);
     if (!reading.complete)
         note(SvgIssue::BadValue, element, "d"); // as far as it can be read it is drawn
-    if (element.find("pathLength"))
-        note(SvgIssue::NotSupported, element, "pathLength");
     return std::move(reading.path);
 }
 
@@ -95,6 +93,8 @@ Path Renderer::linesOf(const XmlElement& element, bool closed)
 
 void Renderer::drawShape(const Path& path, const XmlElement& element, const Context& context, bool hasArea)
 {
+    if (element.find("pathLength"))
+        note(SvgIssue::NotSupported, element, "pathLength");
     if (path.empty() || !context.style.visible)
         return;
     if (!context.matrix.invertible()) {

@@ -387,6 +387,8 @@ TEST(SvgDrawing, SaysWhatItDoesNotDraw)
                 ElementsAre("not supported: mask"));
     EXPECT_THAT(notesOf("<path d='M0 0H9' marker-end='url(#m)' pathLength='9'/>"),
                 ElementsAre("not supported: marker-end", "not supported: pathLength"));
+    EXPECT_THAT(notesOf("<circle r='9' pathLength='9'/><line x2='9' pathLength='9'/>"),
+                ElementsAre("not supported: pathLength", "not supported: pathLength"));
     EXPECT_THAT(notesOf("<pattern id='p'/><rect width='9' height='9' fill='url(#p)'/>"),
                 ElementsAre("not supported: #p"));
     EXPECT_THAT(notesOf("<defs><filter id='f'/><clipPath id='c'/></defs>"), IsEmpty()) << "what is not used";
