@@ -260,8 +260,11 @@ private:
         for (const Strand& strand : m_active) {
             const bool before = isInside(winding);
             winding += strand.edge->winding;
-            if (isInside(winding) != before)
-                m_target.addRightOf({strand.above, top}, {strand.below, bottom}, before ? -1 : 1);
+            if (isInside(winding) == before)
+                continue;
+            const double cells = bottom - top + std::abs(strand.below - strand.above);
+            m_budget.spend(static_cast<std::int64_t>(cells));
+            m_target.addRightOf({strand.above, top}, {strand.below, bottom}, before ? -1 : 1);
         }
     }
 

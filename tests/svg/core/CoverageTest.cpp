@@ -212,6 +212,20 @@ TEST(Coverage, OfNothingIsNothing)
     EXPECT_NEAR(sum(covered({box(1, 1, none, 5), box(1, 1, 3, 3)})), 4, kNear);
 }
 
+TEST(Coverage, LongEdgesAreMoreWorkThanShortOnes)
+{
+    constexpr int kWidth = 10'000;
+    const auto draw = [](double right) {
+        std::vector<Polygon> rows;
+        for (double y = 0; y < 0.99; y += 0.005)
+            rows.push_back({{0, y}, {right, y + 0.002}, {0, y + 0.004}});
+        Budget budget(1'000'000);
+        return sum(coverage(rows, FillRule::NonZero, kWidth, 1, budget));
+    };
+    EXPECT_NEAR(draw(10), 198 * 10 * 0.004 / 2, 0.05);
+    EXPECT_THROW(draw(kWidth), SvgFailure);
+}
+
 TEST(Coverage, TooMuchWorkIsAFailure)
 {
     std::mt19937 random(1);
