@@ -189,7 +189,8 @@ BOOL CImageStrips::Follow(CWnd& window, std::function<void()> changed)
             return;
         const LoadedImages loaded{state->imageSize, state->size, state->goesByColours()};
         const std::optional<int> size = sizeAfterChange(dotsPerInch, loaded);
-        if (size && state->load(*size) && changed)
+        const std::shared_ptr<ResolutionWatch> watch = state->watch; // the drawing may end it
+        if (size && state->load(*size) && changed && !watch->isStopped())
             changed();
     };
     m_state->watch = ResolutionWatch::begin(window.m_hWnd, heard);

@@ -23,6 +23,7 @@ public:
     /// Until the window goes or `stop` is called. Null when the window cannot be watched.
     static std::shared_ptr<ResolutionWatch> begin(HWND window, Heard heard);
     void stop() { m_heard = nullptr; }
+    bool isStopped() const { return !m_heard; }
 
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,

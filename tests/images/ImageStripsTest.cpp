@@ -478,6 +478,31 @@ TEST_F(ImageStrips, TheHostMayDoAnythingWhenItIsTold)
     EXPECT_EQ(raising.story, "images 24; images 32; window; ") << "as good as before";
 }
 
+TEST_F(ImageStrips, ADrawingMayEndThatTheyFollow)
+{
+    RecordingParent other;
+    std::function<void(Follower&)> mischief;
+    Follower* drawnFor = nullptr;
+    const auto draw = [&](int size) {
+        if (drawnFor)
+            mischief(*drawnFor);
+        return bitmapOfSize(size);
+    };
+    const auto storyOf = [&](std::function<void(Follower&)> deed) {
+        mischief = std::move(deed);
+        Follower window(CImageStrips(draw, 16));
+        drawnFor = &window;
+        window.moveTo(144);
+        drawnFor = nullptr;
+        return window.story;
+    };
+    EXPECT_EQ(storyOf([](Follower&) {}), "images 24; window; ");
+    EXPECT_EQ(storyOf([&other](Follower& window) { window.images->Follow(other, nullptr); }), "window; ");
+    EXPECT_EQ(storyOf([](Follower& window) { window.images.reset(); }), "window; ");
+    EXPECT_EQ(storyOf([](Follower& window) { *window.images = CImageStrips(); }), "window; ");
+    EXPECT_EQ(storyOf([](Follower& window) { window.DestroyWindow(); }), "");
+}
+
 TEST_F(ImageStrips, AnotherLifeLeavesNothingBehind)
 {
     const auto live = [this] {
