@@ -2,6 +2,7 @@
 
 #include <ovoui/images/ResolutionWatch.h>
 #include <ovoui/images/StripReader.h>
+#include <ovoui/images/core/PictureSize.h>
 #include <ovoui/images/core/StripChoice.h>
 #include <ovoui/images/core/StripScaling.h>
 
@@ -95,7 +96,11 @@ std::optional<StripPixels> CImageStrips::State::chosen(int wanted) const
                                                          ? ovoui::images::Strip::resource(best.bitmapId)
                                                          : ovoui::images::Strip::fromFile(best.file);
     std::optional<StripPixels> own = read ? pixelsOf(*read, best.size) : std::nullopt;
-    return own && best.size != wanted ? scaledStrip(*own, {wanted, wanted}) : own;
+    if (!own || best.size == wanted)
+        return own;
+    if (!isPictureSize(std::int64_t{wanted} * own->count, wanted))
+        return std::nullopt;
+    return scaledStrip(*own, {wanted, wanted});
 }
 
 CImageStrips::CImageStrips()

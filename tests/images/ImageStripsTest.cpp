@@ -231,6 +231,7 @@ TEST_F(ImageStrips, WhatCannotBeLoadedLeavesWhatWasLoadedBefore)
     EXPECT_FALSE(CImageStrips({{IDB_TOOLBAR_16, 17}}, 17).Load(96)) << "higher than the strip";
     EXPECT_FALSE(CImageStrips({{IDB_TOOLBAR_16, 0}}, 16).Load(96));
     EXPECT_FALSE(strips(0).Load(96));
+    EXPECT_FALSE(strips().Load(96 * 10'000)) << "larger than a picture may be";
 
     CImageStrips images({{.size = 16, .file = files.path(L"16.bmp")}, {.size = 24, .file = L"C:\\none.bmp"}},
                         16);
