@@ -19,8 +19,10 @@ void Definitions::add(const XmlElement& element)
 {
     if (const std::string* const id = element.find("id"))
         m_all.emplace(*id, &element);
-    for (const XmlElement& child : element.children)
+    for (const XmlElement& child : element.children) {
+        m_parents.emplace(&child, &element);
         add(child);
+    }
 }
 
 const XmlElement* Definitions::find(std::string_view id) const
@@ -36,6 +38,12 @@ const XmlElement* Definitions::referredBy(const XmlElement& element) const
         address = element.find("xlink:href");
     const std::string_view text = address ? trimmed(*address) : std::string_view();
     return text.starts_with('#') ? find(text.substr(1)) : nullptr;
+}
+
+const XmlElement* Definitions::parentOf(const XmlElement& element) const
+{
+    const auto found = m_parents.find(&element);
+    return found == m_parents.end() ? nullptr : found->second;
 }
 
 } // namespace ovosvg

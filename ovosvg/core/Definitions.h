@@ -5,6 +5,7 @@
 
 #include <map>
 #include <string_view>
+#include <unordered_map>
 
 namespace ovosvg
 {
@@ -12,8 +13,8 @@ namespace ovosvg
 /// A name without its prefix.
 std::string_view localName(std::string_view name);
 
-/// The elements that have an id; the first one of those with the same. It refers to the elements, which must
-/// stay.
+/// The elements that have an id, the first one of those with the same, and what elements lie in. It refers to
+/// the elements, which must stay.
 class Definitions
 {
 public:
@@ -23,11 +24,14 @@ public:
     const XmlElement* find(std::string_view id) const;
     /// What the element refers to by href or xlink:href; null without it and for what lies outside.
     const XmlElement* referredBy(const XmlElement& element) const;
+    /// What the element lies in; null for the outermost one.
+    const XmlElement* parentOf(const XmlElement& element) const;
 
 private:
     void add(const XmlElement& element);
 
     std::map<std::string_view, const XmlElement*> m_all;
+    std::unordered_map<const XmlElement*, const XmlElement*> m_parents;
 };
 
 } // namespace ovosvg

@@ -18,7 +18,8 @@ class GradientReader
 public:
     GradientReader(const XmlElement& element, const Definitions& definitions, const GradientUse& use,
                    const std::function<void(const char*, const XmlElement&)>& note)
-        : m_use(use)
+        : m_definitions(definitions)
+        , m_use(use)
         , m_note(note)
     {
         for (const XmlElement* next = &element; next && m_chain.size() < kMostReferences;
@@ -162,17 +163,29 @@ private:
         return {std::max(at, least), colour};
     }
 
+    /// The color of a stop, its own or that of what it lies in: what is painted with it has no say.
+    std::uint32_t currentColourOf(const XmlElement& stop) const
+    {
+        for (const XmlElement* each = &stop; each; each = m_definitions.parentOf(*each)) {
+            m_use.budget.spend(each->cost());
+            if (const std::optional<std::uint32_t> colour = colourFrom(propertyOf(*each, "color")))
+                return *colour;
+        }
+        return m_use.colour;
+    }
+
     std::uint32_t colourOf(const XmlElement& element) const
     {
         const std::string_view text = propertyOf(element, "stop-color");
         if (isCurrentColour(text))
-            return colourFrom(propertyOf(element, "color")).value_or(m_use.colour);
+            return currentColourOf(element);
         const std::optional<std::uint32_t> colour = text.empty() ? 0xFF000000 : colourFrom(text);
         if (!colour)
             m_note("stop-color", element);
         return colour.value_or(0xFF000000);
     }
 
+    const Definitions& m_definitions;
     const GradientUse& m_use;
     const std::function<void(const char*, const XmlElement&)>& m_note;
     std::vector<const XmlElement*> m_chain; ///< the gradient and what it refers to

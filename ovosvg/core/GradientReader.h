@@ -18,7 +18,7 @@ struct GradientUse
     Box bounds;           ///< of what is painted, in its own units
     Box viewport;         ///< what percentages refer to
     Matrix toPicture;     ///< from these units to the picture
-    std::uint32_t colour; ///< for currentColor
+    std::uint32_t colour; ///< for currentColor where no element around a stop has a color
     Budget& budget;       ///< what reading costs is taken from it
 };
 

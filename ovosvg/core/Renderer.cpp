@@ -40,6 +40,7 @@ Canvas Renderer::render(std::uint32_t currentColour)
 {
     m_layers.emplace_back(m_width, m_height);
     Context context;
+    m_currentColour = currentColour;
     context.style.colour = currentColour;
     context.style = styleFor(m_root, context.style);
     context.viewport = {0, 0, static_cast<double>(m_width), static_cast<double>(m_height)};

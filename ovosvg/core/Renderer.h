@@ -86,7 +86,8 @@ private:
     std::vector<SvgNote>& m_notes;
     Budget m_budget;
     int m_elements = 0;
-    std::vector<Canvas> m_layers; ///< the picture, and on it those that are laid over it as a whole
+    std::uint32_t m_currentColour = 0; ///< the host's
+    std::vector<Canvas> m_layers;      ///< the picture, and on it those that are laid over it as a whole
 };
 
 } // namespace ovosvg

@@ -166,12 +166,11 @@ void Renderer::paintArea(const std::vector<Polygon>& area, FillRule rule, const 
         if (!server)
             kind = paint.otherwise;
         else
-            gradient =
-                readGradient(*server, m_definitions,
-                             {bounds, context.viewport, context.matrix, context.style.colour, m_budget},
-                             [this](const char* attribute, const XmlElement& of) {
-                                 note(SvgIssue::BadValue, of, attribute);
-                             });
+            gradient = readGradient(*server, m_definitions,
+                                    {bounds, context.viewport, context.matrix, m_currentColour, m_budget},
+                                    [this](const char* attribute, const XmlElement& of) {
+                                        note(SvgIssue::BadValue, of, attribute);
+                                    });
         if (server ? !gradient : kind == Paint::Kind::None)
             return;
     }

@@ -253,10 +253,26 @@ TEST(SvgDrawing, StopsHaveColoursOfTheirOwn)
     EXPECT_EQ(at("<stop offset='.5' stop-color='red'/><stop offset='.2' stop-color='blue'/>", 8), kBlue)
         << "an offset is no less than the one before";
     EXPECT_EQ(at("<stop style='stop-color:red;stop-opacity:.5'/>", 3), 0x80800000u);
-    EXPECT_EQ(at("<stop stop-color='currentColor'/>", 3), kRed);
+    EXPECT_EQ(at("<stop stop-color='currentColor'/>", 3), 0xFF000000u) << "what is painted has no say";
     EXPECT_EQ(at("<stop stop-color='currentColor' color='blue'/>", 3), kBlue);
     EXPECT_EQ(at("<stop stop-color='currentcolor' style='color:blue!important'/>", 3), kBlue);
     EXPECT_EQ(at("", 3), 0u) << "without stops nothing is painted";
+}
+
+TEST(SvgDrawing, AStopHasTheCurrentColourOfWhatItLiesIn)
+{
+    const auto at = [](const std::string& gradients) {
+        return Pixels(svg(gradients + "<rect width='16' height='16' fill='url(#a)' color='lime'/>"), 16,
+                      kBlue)
+            .at(3, 3);
+    };
+    const std::string stop = "<stop stop-color='currentColor'/></linearGradient>";
+    EXPECT_EQ(at("<linearGradient id='a'>" + stop), kBlue) << "the host's";
+    EXPECT_EQ(at("<linearGradient id='a' color='red'>" + stop), kRed);
+    EXPECT_EQ(at("<defs style='color:red'><linearGradient id='a' color='inherit'>" + stop + "</defs>"), kRed);
+    EXPECT_EQ(at("<g color='red'><linearGradient id='b'>" + stop + "</g><radialGradient id='a' href='#b'/>"),
+              kRed)
+        << "of the gradient that it stands in";
 }
 
 TEST(SvgDrawing, GradientsTakeOverFromOthers)
