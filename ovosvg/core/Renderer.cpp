@@ -66,9 +66,29 @@ Canvas Renderer::render(std::uint32_t currentColour)
 void Renderer::noteStyleSheets(const XmlElement& element)
 {
     for (const XmlElement& child : element.children) {
-        if (child.name == m_prefix + "style")
+        if (nameOf(child) == "style")
             note(SvgIssue::NotSupported, child, "style");
         noteStyleSheets(child);
+    }
+}
+
+/// The name without the drawing's prefix; empty for an element of another name space.
+std::string_view Renderer::nameOf(const XmlElement& element) const
+{
+    if (!element.name.starts_with(m_prefix))
+        return {};
+    const std::string_view name = std::string_view(element.name).substr(m_prefix.size());
+    return name.find(':') == std::string_view::npos ? name : std::string_view();
+}
+
+/// What stands in a shape, such as animations.
+void Renderer::noteContent(const XmlElement& shape)
+{
+    m_budget.spend(static_cast<std::int64_t>(shape.children.size()));
+    for (const XmlElement& child : shape.children) {
+        const std::string_view name = nameOf(child);
+        if (!name.empty() && !isOneOf(name, kNotDrawn))
+            note(SvgIssue::NotSupported, child, std::string(name));
     }
 }
 
@@ -80,10 +100,8 @@ void Renderer::drawChildren(const XmlElement& element, const Context& context)
 
 void Renderer::drawElement(const XmlElement& element, const Context& parent)
 {
-    if (!element.name.starts_with(m_prefix))
-        return;
-    const std::string_view name = std::string_view(element.name).substr(m_prefix.size());
-    if (name.find(':') != std::string_view::npos || isOneOf(name, kNotDrawn))
+    const std::string_view name = nameOf(element);
+    if (name.empty() || isOneOf(name, kNotDrawn))
         return; // an editor's own, or drawn elsewhere
     if (parent.depth >= kMostDepth)
         throw SvgFailure{{SvgIssue::TooLarge, element.place.line, element.place.column, "depth"}};
@@ -111,6 +129,7 @@ void Renderer::drawByName(std::string_view name, const XmlElement& element, cons
                       size(element, "width", view, Axis::X, {1, true}),
                       size(element, "height", view, Axis::Y, {1, true})});
     } else if (const std::optional<Path> shape = shapeOf(name, element, context)) {
+        noteContent(element);
         drawShape(*shape, element, context, name != "line");
     } else {
         note(SvgIssue::NotSupported, element, std::string(name));

@@ -74,7 +74,9 @@ private:
     Matrix transformOf(const XmlElement& element);
     std::optional<Box> viewBoxOf(const XmlElement& element);
     Style styleFor(const XmlElement& element, const Style& parent);
+    std::string_view nameOf(const XmlElement& element) const;
     void noteStyleSheets(const XmlElement& element);
+    void noteContent(const XmlElement& shape);
     void note(SvgIssue issue, const XmlElement& element, std::string what);
     void note(SvgIssue issue, XmlPlace place, std::string what);
 

@@ -387,6 +387,7 @@ TEST(SvgDrawing, PrefixesAndForeignElements)
                           16);
     EXPECT_EQ(prefixed.at(4, 4), kRed);
     EXPECT_THAT(prefixed.notes, IsEmpty());
+    EXPECT_THAT(Pixels("<s:svg><s:/></s:svg>", 16).notes, IsEmpty()) << "a prefix alone is no name";
     EXPECT_THAT(notesOf("<title>t</title><desc/><metadata><x:y/></metadata><edit:view a='b'/>"), IsEmpty());
 }
 
@@ -408,6 +409,8 @@ TEST(SvgDrawing, SaysWhatItDoesNotDraw)
     EXPECT_THAT(notesOf("<pattern id='p'/><rect width='9' height='9' fill='url(#p)'/>"),
                 ElementsAre("not supported: #p"));
     EXPECT_THAT(notesOf("<defs><filter id='f'/><clipPath id='c'/></defs>"), IsEmpty()) << "what is not used";
+    EXPECT_THAT(notesOf("<circle r='9'><title>t</title><animate/><x:y/></circle>"),
+                ElementsAre("not supported: animate"));
     EXPECT_THAT(notesOf("<defs><style>.a{fill:red}</style></defs><rect class='a' width='9' height='9'/>"),
                 ElementsAre("not supported: style"))
         << "among the definitions it counts as well";
