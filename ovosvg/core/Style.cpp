@@ -101,15 +101,24 @@ Setting put(Value& property, const std::optional<Value>& value)
 
 /// Properties that change the looks and that nothing here draws, with the value under which they do nothing.
 constexpr Word<std::string_view> kNotSupported[] = {
-    {"clip-path", "none"},       {"mask", "none"},
-    {"filter", "none"},          {"marker", "none"},
-    {"marker-start", "none"},    {"marker-mid", "none"},
-    {"marker-end", "none"},      {"mix-blend-mode", "normal"},
-    {"paint-order", "normal"},   {"vector-effect", "none"},
-    {"transform-origin", "0 0"}, {"transform-box", "view-box"}};
+    {"clip-path", "none"},        {"mask", "none"},
+    {"filter", "none"},           {"marker", "none"},
+    {"marker-start", "none"},     {"marker-mid", "none"},
+    {"marker-end", "none"},       {"mix-blend-mode", "normal"},
+    {"vector-effect", "none"},    {"transform-origin", "0 0"},
+    {"transform-box", "view-box"}};
+
+/// Whether the fill is painted before the stroke, as it is here. What an order does not name follows in the
+/// usual one.
+bool isUsualOrder(std::string_view order)
+{
+    return order.find("fill") <= order.find("stroke");
+}
 
 Setting notSupported(std::string_view name, std::string_view value)
 {
+    if (name == "paint-order")
+        return isUsualOrder(value) ? Setting::Done : Setting::NotSupported;
     const auto harmless = wordFrom(name, kNotSupported);
     if (!harmless)
         return Setting::Unknown;

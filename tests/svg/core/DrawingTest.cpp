@@ -409,6 +409,13 @@ TEST(SvgDrawing, SaysWhatItDoesNotDraw)
     EXPECT_THAT(notesOf("<pattern id='p'/><rect width='9' height='9' fill='url(#p)'/>"),
                 ElementsAre("not supported: #p"));
     EXPECT_THAT(notesOf("<defs><filter id='f'/><clipPath id='c'/></defs>"), IsEmpty()) << "what is not used";
+    EXPECT_THAT(
+        notesOf("<g style='paint-order:markers fill stroke'/><g paint-order='fill'/><g paint-order='normal'/>"
+                "<g paint-order='markers'/>"),
+        IsEmpty())
+        << "as it is drawn here";
+    EXPECT_THAT(notesOf("<g style='paint-order:stroke fill markers'/><g paint-order='markers stroke'/>"),
+                ElementsAre("not supported: paint-order", "not supported: paint-order"));
     EXPECT_THAT(notesOf("<circle r='9'><title>t</title><animate/><x:y/></circle>"),
                 ElementsAre("not supported: animate"));
     EXPECT_THAT(notesOf("<defs><style>.a{fill:red}</style></defs><rect class='a' width='9' height='9'/>"),
