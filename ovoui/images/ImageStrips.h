@@ -67,9 +67,10 @@ public:
     /// for the new resolution and calls `changed`, before the window itself gets the message. `changed` gives
     /// the new lists to the controls; it is not called when the size stays. Where disabled images are asked
     /// for or a drawing makes the images, they are made anew and it is called after a change of the system's
-    /// colours, too. It may destroy the window and this object; what it raises passes on to the sender of the
-    /// message. Ends with the window, with this object, and when another window is followed. Null for
-    /// `changed` just loads. FALSE when the window cannot be followed.
+    /// colours, too. It and the drawing may destroy the window and this object, and when the drawing has, it
+    /// is not called; what they raise passes on to the sender of the message. Ends with the window, with this
+    /// object, and when another window is followed. Null for `changed` just loads. FALSE when the window
+    /// cannot be followed.
     BOOL Follow(CWnd& window, std::function<void()> changed);
 
 private:
