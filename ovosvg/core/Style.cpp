@@ -84,7 +84,7 @@ std::optional<std::vector<Length>> dashesFrom(std::string_view text)
     return lengths;
 }
 
-/// The color property: with currentColor it stays.
+/// The color property, in which currentColor is inherit.
 std::optional<std::uint32_t> colourProperty(std::string_view text, std::uint32_t parent)
 {
     return isCurrentColour(text) ? parent : colourFrom(text);
@@ -125,6 +125,49 @@ Setting notSupported(std::string_view name, std::string_view value)
     return value == *harmless ? Setting::Done : Setting::NotSupported;
 }
 
+template <class Value>
+Setting take(Style& style, const Style& parent, Value Style::*property)
+{
+    style.*property = parent.*property;
+    return Setting::Done;
+}
+
+/// What inherit stands for, whatever an attribute has set before.
+Setting inherit(Style& style, const Style& parent, std::string_view name)
+{
+    if (name == "fill")
+        return take(style, parent, &Style::fill);
+    if (name == "fill-opacity")
+        return take(style, parent, &Style::fillOpacity);
+    if (name == "fill-rule")
+        return take(style, parent, &Style::fillRule);
+    if (name == "stroke")
+        return take(style, parent, &Style::stroke);
+    if (name == "stroke-opacity")
+        return take(style, parent, &Style::strokeOpacity);
+    if (name == "stroke-width")
+        return take(style, parent, &Style::strokeWidth);
+    if (name == "stroke-linecap")
+        return take(style, parent, &Style::cap);
+    if (name == "stroke-linejoin")
+        return take(style, parent, &Style::join);
+    if (name == "stroke-miterlimit")
+        return take(style, parent, &Style::miterLimit);
+    if (name == "stroke-dasharray")
+        return take(style, parent, &Style::dashes);
+    if (name == "stroke-dashoffset")
+        return take(style, parent, &Style::dashOffset);
+    if (name == "color")
+        return take(style, parent, &Style::colour);
+    if (name == "visibility")
+        return take(style, parent, &Style::visible);
+    if (name == "opacity")
+        return take(style, parent, &Style::opacity);
+    if (name == "display")
+        return take(style, parent, &Style::displayed);
+    return notSupported(name, "none") == Setting::Unknown ? Setting::Unknown : Setting::NotSupported;
+}
+
 /// A value without the "!important" at its end, which no style sheet contests here.
 std::string_view withoutImportance(std::string_view value)
 {
@@ -141,21 +184,21 @@ std::int64_t Style::cost() const
     return static_cast<std::int64_t>(fill.id.size() + stroke.id.size() + dashes.size() * sizeof(Length));
 }
 
-Setting setProperty(Style& style, std::string_view name, std::string_view raw)
+Setting setProperty(Style& style, const Style& parent, std::string_view name, std::string_view raw)
 {
     const std::string_view value = trimmed(raw);
+    if (value == "inherit")
+        return inherit(style, parent, name);
     if (name == "fill")
-        return value == "inherit" ? Setting::Done : put(style.fill, paintFrom(value));
+        return put(style.fill, paintFrom(value));
     if (name == "stroke")
-        return value == "inherit" ? Setting::Done : put(style.stroke, paintFrom(value));
+        return put(style.stroke, paintFrom(value));
     if (name == "opacity")
         return put(style.opacity, shareFrom(value));
     if (name == "display") {
         style.displayed = value != "none";
         return Setting::Done;
     }
-    if (value == "inherit")
-        return notSupported(name, "none") == Setting::Unknown ? Setting::Done : Setting::NotSupported;
     if (name == "fill-opacity")
         return put(style.fillOpacity, shareFrom(value));
     if (name == "fill-rule")
@@ -175,7 +218,7 @@ Setting setProperty(Style& style, std::string_view name, std::string_view raw)
     if (name == "stroke-dashoffset")
         return put(style.dashOffset, lengthFrom(value));
     if (name == "color")
-        return put(style.colour, colourProperty(value, style.colour));
+        return put(style.colour, colourProperty(value, parent.colour));
     if (name == "visibility")
         return put(style.visible, wordFrom(value, kVisibility));
     return notSupported(name, value);
@@ -201,7 +244,7 @@ Style styleOf(const XmlElement& element, const Style& parent, const Report& repo
     style.opacity = 1;
     style.displayed = true;
     const auto set = [&](std::string_view name, std::string_view value, XmlPlace place) {
-        const Setting setting = setProperty(style, name, value);
+        const Setting setting = setProperty(style, parent, name, value);
         if (setting == Setting::BadValue || setting == Setting::NotSupported)
             report(std::string(name), setting, place);
     };

@@ -67,7 +67,8 @@ enum class Setting
 };
 
 /// Sets one property of a presentation attribute or a style declaration; what cannot be read changes nothing.
-Setting setProperty(Style& style, std::string_view name, std::string_view value);
+/// `parent` is the style of what the element lies in.
+Setting setProperty(Style& style, const Style& parent, std::string_view name, std::string_view value);
 
 /// Told of a property and what has come of it.
 using Report = std::function<void(const std::string& name, Setting setting, XmlPlace place)>;

@@ -121,6 +121,11 @@ TEST(SvgDrawing, StyleComesFromTheElementAndWhatItLiesIn)
         "<rect width='16' height='16' fill='blue' style=' stroke : none ; fill : #f00 ;'/>",
         "<g fill='red'><rect width='16' height='16'/></g>",
         "<g style='fill:red'><rect width='16' height='16' fill='inherit'/></g>",
+        "<g fill='red'><rect width='16' height='16' fill='blue' style='fill:inherit'/></g>",
+        "<g color='red'><rect width='16' height='16' fill='currentColor' color='blue' "
+        "style='color:currentColor'/></g>",
+        "<path stroke='red' stroke-width='16' d='M0 8H16' stroke-dasharray='0 9' "
+        "style='stroke-dasharray:inherit;display:inherit;opacity:inherit'/>",
         "<rect width='16' height='16' fill='blue' style='fill:red !important'/>",
         "<rect width='16' height='16' fill='red'/><g style='display:none! important'><circle r='99'/></g>",
         "<g style='color:red'><rect width='16' height='16' color='currentcolor' fill='CurrentColor'/></g>",
@@ -149,6 +154,7 @@ TEST(SvgDrawing, OpacityMultiplies)
     EXPECT_EQ(alpha("<rect width='16' height='16' fill-opacity='.5'/>"), 128);
     EXPECT_EQ(alpha("<rect width='16' height='16' opacity='50%'/>"), 128);
     EXPECT_EQ(alpha("<g opacity='.5'><rect width='16' height='16' fill-opacity='.5'/></g>"), 64);
+    EXPECT_EQ(alpha("<g opacity='.5'><rect width='16' height='16' opacity='inherit'/></g>"), 64);
     EXPECT_EQ(alpha("<rect width='16' height='16' fill='#00000040' fill-opacity='.5'/>"), 32);
     EXPECT_EQ(alpha("<path d='M0 8H16' stroke='red' stroke-width='9' stroke-opacity='.25'/>"), 64);
     // Of a group as a whole: where its shapes overlap nothing is seen of it.
