@@ -49,9 +49,6 @@
 #include <ovoui/sysinfo/MachineInfo.h>
 #include <ovoui/sysinfo/ModuleListDlg.h>
 #include <ovoui/sysinfo/SystemInfoDlg.h>
-#include <ovoui/toolbar/FlyoutToolbar.h>
-#include <ovoui/toolbar/ToolBarCommands.h>
-#include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/sliders/DialSlider.h>
 #include <ovoui/sliders/RoundSlider.h>
 #include <ovoui/sliders/Separators.h>
@@ -60,6 +57,7 @@
 #include <ovoui/sliders/UnitNumbers.h>
 #include <ovoui/sliders/WheelSlider.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
+#include <ovoui/toolbar/ToolBarCommands.h>
 #include <ovoui/toolbar/VantorToolBar.h>
 #include <ovoui/toolbar/VantorToolWnd.h>
 #include <ovoui/tree/DropMenu.h>
