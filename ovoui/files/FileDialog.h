@@ -12,8 +12,11 @@
 ///                 ofn->Flags |= OFN_ENABLETEMPLATE, ofn->lpTemplateName = MAKEINTRESOURCE(IDD_CONTROLS);
 ///         }
 ///     protected:
-///         BOOL OnFileNameOK(BOOL refused) override { m_backup = GetCheckButtonState(IDC_BACKUP); return
-///         refused; }
+///         BOOL OnFileNameOK(BOOL refused) override
+///         {
+///             m_backup = GetCheckButtonState(IDC_BACKUP);
+///             return refused;
+///         }
 ///     };
 #pragma once
 
@@ -70,7 +73,8 @@ protected:
     virtual void OnFolderChange();
     /// The dialog is ready to be shown.
     virtual void OnInitDone();
-    /// A list box or combo box `nIDBox` has another selection, `iCurSel`; `nCode` says how it changed.
+    /// Classic only: the list box or combo box `nIDBox` has another selection, `iCurSel`; `nCode` says how it
+    /// changed.
     virtual void OnLBSelChangedNotify(UINT nIDBox, UINT iCurSel, UINT nCode);
     /// Another file type was chosen.
     virtual void OnTypeChange();
