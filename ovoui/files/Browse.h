@@ -1,8 +1,8 @@
 /// Asks the user for a folder, a file or several files in one call.
 ///
 ///     std::wstring path = L"untitled.txt";
-///     if (BrowseForFile(this, L"Save the notes", lastFolder, L".txt", L"Text (*.txt)|*.txt|All files|*.*|",
-///     path, 0, 1))
+///     const std::wstring filter = L"Text (*.txt)|*.txt|All files|*.*|";
+///     if (BrowseForFile(this, L"Save the notes", lastFolder, L".txt", filter, path, 0, 1))
 ///         save(path);
 ///
 /// The dialogs begin in the nearest folder that exists, choose the filter's entry for the default extension,

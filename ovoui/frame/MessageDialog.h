@@ -1,7 +1,8 @@
 /// A message box with buttons, details and a memory of its own.
 ///
-///     COVOMessageDialog box(m_hWnd, L"The document contains fonts that are not installed.", L"Open",
-///     MB_ICONEXCLAMATION); box.AddButton(IDC_REPLACE, L"&Replace"); box.AddButton(IDCANCEL, L"Cancel");
+///     COVOMessageDialog box(m_hWnd, L"The plan uses fonts that are missing.", L"Open", MB_ICONEXCLAMATION);
+///     box.AddButton(IDC_REPLACE, L"&Replace");
+///     box.AddButton(IDCANCEL, L"Cancel");
 ///     box.SetDetails(listOfFonts);
 ///     box.OfferNotToAsk(L"ReplaceFonts");
 ///     if (box.DoModal() == IDC_REPLACE) ...

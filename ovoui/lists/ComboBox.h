@@ -5,7 +5,7 @@
 ///     name.AddString(L"Herbs");
 ///     name.ConfirmAnyText(true); // names that are not in the list are fine
 ///
-///     ON_CBN_SELENDOK(IDC_NAME, OnNameChosen)
+///     ON_CBN_SELENDOK(IDC_NAME, &NameDlg::OnNameChosen)
 #pragma once
 
 #include <ovoui/export.h>

@@ -1,9 +1,8 @@
 /// The buttons of a toolbar as a table of commands.
 ///
-///     setCommands(m_bar, {{.command = ID_FILE_OPEN, .image = 0},
+///     setCommands(m_bar, {{ID_FILE_OPEN, 0},
 ///                         {}, // a separator
-///                         {.command = ID_EDIT_COPY, .image = 1, .flyout = {{ID_EDIT_COPY, 1}, {ID_COPY_ALL,
-///                         2}}}},
+///                         {ID_EDIT_COPY, 1, {{ID_EDIT_COPY, 1}, {ID_COPY_ALL, 2}}}},
 ///                 {{IDB_BAR_16, 16}, {IDB_BAR_24, 24}, {IDB_BAR_32, 32}}, 16);
 #pragma once
 
