@@ -26,8 +26,8 @@ OVOUI_API void offerUpdate(const std::wstring& product, const AvailableUpdate& u
 
 /// Looks for a newer version when that is due, and offers it unless the user skips it. Silent when there is
 /// nothing new, and when the list cannot be fetched or used: then the next call tries again. Waits for the
-/// server; a host that does not want that asks `UpdateMemory::isDue`, starts an `UpdateJob`, and calls
-/// `offerUpdate` with its answer.
+/// server; a host that does not want that asks `UpdateMemory::isDue`, starts an `UpdateJob`, and with its
+/// answer calls `UpdateMemory::noteCheck`, and `offerUpdate` for a version that is not skipped.
 /// `address`, `product`, `options` and `version` are those of findUpdate, `politeness` says when a look is
 /// due.
 OVOUI_API void checkPolitely(const std::wstring& address, const std::wstring& product,
