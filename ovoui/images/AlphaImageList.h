@@ -1,9 +1,8 @@
 /// Images with an alpha channel, scaled to the size that is wanted.
 ///
-///     CAlphaImageList images;
-///     images.Create(24, 24, 16);
-///     images.AddBitmap(IDB_TOOLBAR_24, false, -1, CSize(24, 24), CSize(24, 24), nullptr, nullptr);
-///     toolBar.GetToolBarCtrl().SetImageList(images.ImageList());
+///     m_images.Create(24, 24, 16); // a member, which lives as long as the bar shows it
+///     m_images.AddBitmap(IDB_TOOLBAR_24, false, -1, CSize(24, 24), CSize(24, 24), nullptr, nullptr);
+///     m_bar.GetToolBarCtrl().SetImageList(m_images.ImageList());
 #pragma once
 
 #include <ovoui/export.h>

@@ -1,8 +1,8 @@
 /// The same images in several sizes, and image lists of the size that a monitor wants.
 ///
-///     CImageStrips images({{IDB_TOOLS_16, 16}, {IDB_TOOLS_24, 24}, {IDB_TOOLS_32, 32}}, 16);
-///     images.Load(*this);
-///     m_tree.SetImageList(images.ImageList(), TVSIL_NORMAL);
+///     m_images = CImageStrips({{IDB_TOOLS_16, 16}, {IDB_TOOLS_24, 24}, {IDB_TOOLS_32, 32}}, 16);
+///     m_images.Load(*this);
+///     m_tree.SetImageList(m_images.ImageList(), TVSIL_NORMAL); // as long as the object lives
 #pragma once
 
 #include <ovoui/export.h>
