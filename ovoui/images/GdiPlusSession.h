@@ -1,6 +1,6 @@
 /// GDI+, which hosts start before the first alpha image and end after the last.
 ///
-///     const CGdiPlusSession gdiPlus; // in InitInstance, or a member of the main window
+///     const CGdiPlusSession gdiPlus; // the first member of the main window, or around a modal dialog
 #pragma once
 
 #include <ovoui/export.h>

@@ -1,6 +1,6 @@
 /// A combo box that completes what is typed and decides whether to accept it.
 ///
-///     COVOComboBox name;
+///     COVOComboBox name; // a member of the parent
 ///     name.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | CBS_DROPDOWN, rect, this, IDC_NAME);
 ///     name.AddString(L"Herbs");
 ///     name.ConfirmAnyText(true); // names that are not in the list are fine

@@ -1,6 +1,6 @@
 /// A report list that draws its rows itself: colour swatches, cut texts, a selection across the whole window.
 ///
-///     COVOListCtrlEx list;
+///     COVOListCtrlEx list; // a member of the parent
 ///     list.Create(WS_CHILD | WS_VISIBLE | LVS_SHOWSELALWAYS, rect, this, IDC_COLOURS);
 ///     list.UseRowColours(TRUE);
 ///     list.AddColumn(L"Name", 0, -1, false, LVCF_TEXT | LVCF_WIDTH | LVCF_FMT | LVCF_SUBITEM, LVCFMT_LEFT);
