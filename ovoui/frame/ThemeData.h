@@ -1,6 +1,7 @@
 /// Visual styles, used only where the platform has them.
 ///
-///     if (!CThemeData::getThemeData().drawBackground(dc, &rect, wnd, L"Button", PBS_NORMAL))
+///     CThemeData& theme = CThemeData::getThemeData();
+///     if (!theme.IsAppThemed() || !theme.drawBackground(dc, &rect, wnd, L"Button", PBS_NORMAL))
 ///         ::DrawFrameControl(dc, &rect, DFC_BUTTON, DFCS_BUTTONPUSH);
 #pragma once
 
