@@ -1,6 +1,6 @@
 # The install tree: bin/ the DLLs, the gallery and ovo-update-lint, lib/ import libraries and the packages for CMake and
 # pkg-config, include/ the public headers, doc/ the reference, examples/, licences/, share/gdb/ the debugger's views.
-# Components: runtime, gallery, sdk, doc, examples.
+# Components: runtime, gallery, sdk, testkit, doc, examples.
 include(CMakePackageConfigHelpers)
 
 set(targets ovoui ovocor ovomsg ovomfc ovosvg)
