@@ -20,7 +20,11 @@ PopupWatcher::PopupWatcher(Calls calls)
 PopupWatcher::~PopupWatcher()
 {
     ::UnhookWindowsHookEx(m_hook);
-    s_current = m_before;
+    // Watchers go in any order.
+    PopupWatcher** place = &s_current;
+    while (*place != this)
+        place = &(*place)->m_before;
+    *place = m_before;
 }
 
 /// Hears of every message that the thread takes from its queue, before its window does.

@@ -6,7 +6,7 @@
 
 #include <functional>
 
-/// One at a time: a second watcher takes the first one's place until it goes.
+/// One hears at a time: a second watcher takes the first one's place until it goes. They may go in any order.
 class PopupWatcher
 {
 public:

@@ -31,6 +31,15 @@ protected:
     }
 };
 
+int shownPopups()
+{
+    int count = 0;
+    HWND dialog = nullptr;
+    while ((dialog = ::FindWindowExW(nullptr, dialog, L"#32770", nullptr)) != nullptr)
+        count += ::IsWindowVisible(dialog) ? 1 : 0;
+    return count;
+}
+
 } // namespace
 
 // Opening and closing
@@ -106,6 +115,22 @@ TEST_F(SliderButton, AClickOnTheWindowsBackgroundClosesIt)
     open();
     user.click(Spot{parent, CPoint(250, 100)}).waitFor("the popup to go", &isClosed);
     EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+}
+
+TEST_F(SliderButton, AClickElsewhereClosesThePopupThatStayedOpenLonger)
+{
+    CSliderButton second(utils);
+    second.SubclassWindow(::CreateWindowExW(0, L"Static", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 102, 60,
+                                            16, 22, parent, reinterpret_cast<HMENU>(10), nullptr, nullptr));
+    second.SetBuddy(other);
+    show();
+    open();
+    second.SetFocus();
+    user.key(VK_SPACE).waitFor("the second popup", [] { return shownPopups() == 2; });
+    button->SetFocus();
+    user.key(VK_SPACE).waitFor("the first popup to go", [] { return shownPopups() == 1; });
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+    user.click(Spot{parent, CPoint(250, 12)}).waitFor("the second popup to go", &isClosed);
 }
 
 TEST_F(SliderButton, LosingTheProgramsActivationClosesIt)
