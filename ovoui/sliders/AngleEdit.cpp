@@ -1,6 +1,7 @@
 #include <ovoui/sliders/AngleEdit.h>
 
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/sliders/core/SliderPlaces.h>
 
 #include <string>
@@ -56,8 +57,10 @@ void AngleEdit::OnKeyDown(UINT key, UINT repeat, UINT flags)
 
 void AngleEdit::OnKillFocus(CWnd* other)
 {
+    const Lifeline::Watch watch(*this); // the slider is told, which a host may have derived
     CEdit::OnKillFocus(other);
-    finish(EditEnd::Accept);
+    if (watch.alive())
+        finish(EditEnd::Accept);
 }
 
 /// Destroying the window takes the focus from it: the second time there is nothing left to do.

@@ -1,6 +1,7 @@
 #include <ovoui/sliders/PopupSlider.h>
 
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/sliders/SliderButton.h>
 #include <ovoui/sliders/core/PopupRules.h>
 #include <ovoui/sliders/core/SliderPlaces.h>
@@ -130,6 +131,8 @@ void CPopupSlider::OnActivateApp(BOOL active, DWORD thread)
 void CPopupSlider::putAway()
 {
     const ActivationGuard guard;
+    const Lifeline::Watch watch(*this); // another window is activated, whose host may destroy the popup
     ShowWindow(SW_HIDE);
-    m_owner->PostMessage(kDeactivated);
+    if (watch.alive())
+        m_owner->PostMessage(kDeactivated);
 }

@@ -1,5 +1,6 @@
 #include <ovoui/sliders/PopupSliderCtrl.h>
 
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/sliders/core/PopupRules.h>
 
 BEGIN_MESSAGE_MAP(CPopupSliderCtrl, CSliderCtrl)
@@ -14,7 +15,10 @@ UINT CPopupSliderCtrl::OnGetDlgCode()
 
 void CPopupSliderCtrl::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
+    // Another window is activated then, and the host may destroy the popup when it hears of that.
+    const Lifeline::Watch watch(*this);
     if (ovoui::sliders::hidesPopup(key))
         GetParent()->ShowWindow(SW_HIDE);
-    CSliderCtrl::OnKeyDown(key, repeat, flags);
+    if (watch.alive())
+        CSliderCtrl::OnKeyDown(key, repeat, flags);
 }
