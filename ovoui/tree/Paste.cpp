@@ -2,6 +2,7 @@
 
 #include <ovoui/tree/Dropping.h>
 #include <ovoui/tree/HostCalls.h>
+#include <ovoui/frame/GlobalMemory.h>
 #include <ovoui/tree/core/DropEffect.h>
 
 #include <afxole.h>
@@ -14,16 +15,15 @@ namespace
 DWORD preferredEffect(COleDataObject& data)
 {
     static const auto format = static_cast<CLIPFORMAT>(::RegisterClipboardFormatW(CFSTR_PREFERREDDROPEFFECT));
-    const HGLOBAL memory = data.IsDataAvailable(format) ? data.GetGlobalData(format) : nullptr;
-    if (!memory)
-        return 0;
+    const ovoui::frame::GlobalMemory memory(data.IsDataAvailable(format) ? data.GetGlobalData(format)
+                                                                         : nullptr);
     DWORD effect = 0;
-    if (::GlobalSize(memory) >= sizeof effect)
-        if (const auto* stored = static_cast<const DWORD*>(::GlobalLock(memory))) {
-            effect = *stored;
-            ::GlobalUnlock(memory);
-        }
-    ::GlobalFree(memory);
+    if (!memory || ::GlobalSize(memory.get()) < sizeof effect)
+        return effect;
+    if (const auto* stored = static_cast<const DWORD*>(::GlobalLock(memory.get()))) {
+        effect = *stored;
+        ::GlobalUnlock(memory.get());
+    }
     return effect;
 }
 
@@ -45,7 +45,10 @@ MultiTreeCtrl::Paste::Place MultiTreeCtrl::Paste::find(COleDataObject& data) con
     const DWORD answer = dropping.ask(data, itemToAsk(), place.drop);
     if (!host.usable())
         return place;
-    place.effect = ovoui::tree::resolvePasteEffect(preferredEffect(data), answer, place.drop.effects);
+    const DWORD preferred = preferredEffect(data); // asks the owner of the data, which may be the host
+    if (!host.usable())
+        return place;
+    place.effect = ovoui::tree::resolvePasteEffect(preferred, answer, place.drop.effects);
     if (place.effect)
         place.point = place.drop.target ? place.drop.target.get() : dropping.root();
     return place;

@@ -24,12 +24,13 @@ void MultiTreeCtrl::updateUI(Node& node)
         return;
     const OVO::Handle<Node> held(&node); // without an item it may have no reference to share
     const HostCalls host(*this);
+    const std::shared_ptr<State> state = m_state;
     std::wstring label = node.text(*this);
     TVITEM changes{};
     changes.mask = TVIF_HANDLE | TVIF_TEXT | TVIF_STATE | TVIF_CHILDREN | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     changes.hItem = item;
     changes.pszText = label.data();
-    const TVITEM box = m_state->checkBoxes->stateImage(node);
+    const TVITEM box = state->checkBoxes->stateImage(node);
     changes.state = (node.state & kNodesState) | box.state;
     changes.stateMask = kNodesState | box.stateMask;
     changes.cChildren = node.children;
@@ -38,7 +39,7 @@ void MultiTreeCtrl::updateUI(Node& node)
     if (!host.usable() || node.hTreeItem() != item) // the questions above have changed the tree
         return;
     DefWindowProc(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changes));
-    if (host.usable() && node.hTreeItem() == item && item == m_state->view.caret())
+    if (host.usable() && node.hTreeItem() == item && item == state->view.caret())
         notifyTvnSelchanged(TVC_UNKNOWN, item, item, CPoint(0, 0));
 }
 

@@ -10,9 +10,11 @@ void MultiTreeCtrl::OnGetinfotip(NMHDR* header, LRESULT* result)
     const OVO::Handle<Node> node = this->node(request.hItem);
     if (!node)
         return;
-    HostCalls(*this).report([&] {
+    const HostCalls host(*this);
+    host.report([&] {
         const std::wstring tip = node->infotip(*this);
-        if (!tip.empty() && request.cchTextMax > 0)
+        // The buffer may be the tree view's, which has gone when the node has destroyed the tree.
+        if (host.usable() && !tip.empty() && request.cchTextMax > 0)
             packTo(request.pszText, static_cast<std::size_t>(request.cchTextMax), tip);
     });
 }

@@ -97,6 +97,14 @@ void inDropInto(TestNode& node, const Deed& deed)
     };
 }
 
+void inInfotip(TestNode& node, const Deed& deed)
+{
+    node.tipping = [=] {
+        deed();
+        return std::wstring(L"tip");
+    };
+}
+
 // What causes them. Messages go through the window: the object may be gone when they return.
 
 CPoint onFirstItem(TestTree& tree)
@@ -146,6 +154,18 @@ void drop(TestTree& tree)
     tree.m_pDropTarget->OnDropEx(&tree, &data, DROPEFFECT_COPY, DROPEFFECT_COPY, onFirstItem(tree));
 }
 
+void askForTip(TestTree& tree)
+{
+    wchar_t buffer[20] = L"?";
+    NMTVGETINFOTIPW request{};
+    request.hdr = {tree.m_hWnd, 1, static_cast<UINT>(TVN_GETINFOTIPW)};
+    request.pszText = buffer;
+    request.cchTextMax = 20;
+    request.hItem = tree.GetRootItem();
+    ::SendMessageW(::GetParent(tree.m_hWnd), WM_NOTIFY, 1, reinterpret_cast<LPARAM>(&request));
+    EXPECT_STREQ(buffer, L"?") << "the tree view's buffer may have gone with the tree";
+}
+
 const Call kCalls[] = {
     {"hitTest", inHitTest, [](TestTree& tree) { tree.HitTest(onFirstItem(tree)); }},
     {"hitTestOfAPress", inHitTest, clicking(WM_LBUTTONDOWN, MK_LBUTTON)},
@@ -160,6 +180,7 @@ const Call kCalls[] = {
     {"text", inText, [](TestTree& tree) { tree.updateUI(tree.GetRootItem()); }},
     {"textOfAPath", inText, [](TestTree& tree) { tree.selectedPath(); }},
     {"compareChildren", inText, insertSorted},
+    {"infotip", inInfotip, askForTip},
     {"dragInto", inDragInto, dragOver},
     {"dropInto", inDropInto, drop},
 };
