@@ -188,19 +188,6 @@ void MultiTreeCtrl::LabelEdit::editAgain()
 
 // Items that go
 
-namespace
-{
-
-ToBeDeleted deletedBy(UINT message, bool empties, HTREEITEM item)
-{
-    return toBeDeleted({.destroysTree = message == WM_DESTROY,
-                        .deletes = message == TVM_DELETEITEM,
-                        .empties = empties,
-                        .all = !item || item == TVI_ROOT});
-}
-
-} // namespace
-
 /// An editor must not outlive its item. It is closed before the tree view begins to delete, since the node
 /// hears of it, and the tree view in the middle of a deletion could not stand what the node may do. False
 /// when there is nothing left to delete.
@@ -209,7 +196,7 @@ bool MultiTreeCtrl::LabelEdit::arrives(Message& message)
     if (!m_edited)
         return true;
     const HTREEITEM item = message.item();
-    const ToBeDeleted what = deletedBy(message.id, message.empties(), item);
+    const ToBeDeleted what = message.toBeDeleted();
     const bool counts = what == ToBeDeleted::Item || what == ToBeDeleted::Children;
     if (!closesEditor(what, m_edited == item, counts && view().isBelow(m_edited, item)))
         return true;

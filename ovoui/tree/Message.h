@@ -2,6 +2,7 @@
 #pragma once
 
 #include <ovoui/tree/MultiTreeCtrl.h>
+#include <ovoui/tree/core/LabelRule.h>
 
 namespace ovoui::tree
 {
@@ -47,4 +48,12 @@ struct MultiTreeCtrl::Message
 
     /// Closes an item and deletes what is in it.
     bool empties() const { return id == TVM_EXPAND && (wParam & TVE_COLLAPSERESET) && lParam; }
+
+    ovoui::tree::ToBeDeleted toBeDeleted() const
+    {
+        return ovoui::tree::toBeDeleted({.destroysTree = id == WM_DESTROY,
+                                         .deletes = id == TVM_DELETEITEM,
+                                         .empties = empties(),
+                                         .all = !item() || item() == TVI_ROOT});
+    }
 };

@@ -1,16 +1,18 @@
 #include <ovoui/tree/UnreportedNodes.h>
 
+using ovoui::tree::ToBeDeleted;
+
 MultiTreeCtrl::UnreportedNodes::UnreportedNodes(State& state, const Message& message)
     : m_state(state)
 {
-    const bool deletes = message.id == TVM_DELETEITEM || message.id == WM_DESTROY;
-    if ((!deletes && !message.empties()) || CWnd::FromHandlePermanent(::GetParent(state.control()->m_hWnd)))
+    const ToBeDeleted what = message.toBeDeleted();
+    if (what == ToBeDeleted::Nothing || CWnd::FromHandlePermanent(::GetParent(state.control()->m_hWnd)))
         return;
-    const HTREEITEM item = message.item();
-    if (message.id == TVM_DELETEITEM && item && item != TVI_ROOT)
-        collect(item);
+    if (what == ToBeDeleted::Item)
+        collect(message.item());
     else
-        for (const HTREEITEM child : state.view.childrenOf(message.empties() ? item : TVI_ROOT))
+        for (const HTREEITEM child :
+             state.view.childrenOf(what == ToBeDeleted::Children ? message.item() : TVI_ROOT))
             collect(child);
 }
 
