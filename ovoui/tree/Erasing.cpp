@@ -49,10 +49,7 @@ public:
     ~Drag()
     {
         while (m_ended < m_started)
-            try {
-                end();
-            } catch (...) {
-            }
+            ovoui::frame::dropping([this] { end(); });
     }
     Drag(const Drag&) = delete;
     Drag& operator=(const Drag&) = delete;

@@ -15,5 +15,5 @@ MultiTreeCtrl::LayoutHold::~LayoutHold()
 {
     // What windows raise that hear of the new layout must not leave a destructor.
     if (m_holds && m_state->usable())
-        ovoui::frame::keeping([this] { m_state->control()->DefWindowProc(WM_SETREDRAW, TRUE, 0); });
+        ovoui::frame::dropping([this] { m_state->control()->DefWindowProc(WM_SETREDRAW, TRUE, 0); });
 }

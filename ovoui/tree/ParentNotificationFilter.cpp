@@ -105,7 +105,10 @@ ParentNotificationFilter::~ParentNotificationFilter()
     if (found == parents.end()) // destroyed meanwhile
         return;
     FilteredParent& parent = found->second;
-    parent.quietTrees.erase(std::find(parent.quietTrees.begin(), parent.quietTrees.end(), m_tree));
+    const auto quiet = std::find(parent.quietTrees.begin(), parent.quietTrees.end(), m_tree);
+    if (quiet == parent.quietTrees.end()) // it has gone, and its handle is that of another parent now
+        return;
+    parent.quietTrees.erase(quiet);
     // Another procedure may have been set in front of the filter: then it stays, and passes everything on.
     if (!parent.quietTrees.empty() || currentProcedure(m_parent, parent.unicode) != &filterProcedure)
         return;
