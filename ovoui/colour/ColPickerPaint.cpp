@@ -7,6 +7,7 @@
 #include <ovoui/colour/core/SwatchLayout.h>
 #include <ovoui/colour/core/TypedColour.h>
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/LeftToRight.h>
 #include <ovoui/frame/core/BoxParts.h>
 
@@ -14,6 +15,7 @@
 
 using namespace ovoui::colour;
 using ovoui::frame::LeftToRight;
+using ovoui::frame::SavedContext;
 using ovoui::frame::toBox;
 using ovoui::frame::toRect;
 
@@ -44,24 +46,6 @@ ovoui::frame::Box placeOf(const CWnd& control, const CWnd& wnd)
     return toBox(place);
 }
 
-/// Puts a DC back into its state.
-class DcState
-{
-public:
-    explicit DcState(CDC& dc)
-        : m_dc(dc)
-        , m_state(dc.SaveDC())
-    {
-    }
-    ~DcState() { m_dc.RestoreDC(m_state); }
-    DcState(const DcState&) = delete;
-    DcState& operator=(const DcState&) = delete;
-
-private:
-    CDC& m_dc;
-    int m_state;
-};
-
 /// Pen and brush for outlines that invert what is under them.
 class Inverting
 {
@@ -75,7 +59,7 @@ public:
     }
 
 private:
-    DcState m_state;
+    SavedContext m_state;
 };
 
 RGBQUAD quadOf(const Colour& colour)
@@ -198,7 +182,7 @@ bool ColPicker::fillMarkerAreas(CWnd* wnd, CDC* dc)
     if (!m_hueMarkerDrawn && !m_triMarkerDrawn)
         return true;
     const Lifeline::Watch watch(m_lifeline);
-    const DcState state(*dc);
+    const SavedContext state(*dc);
     const HBRUSH face = ::GetSysColorBrush(COLOR_BTNFACE);
     CShadedTabCtrl* const tabs = tabCtrl();
     if (!watch.alive() || !wnd->m_hWnd)

@@ -1,6 +1,7 @@
 #include <ovoui/lists/ComboItems.h>
 
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/DrawnState.h>
 #include <ovoui/lists/ColourEntry.h>
 #include <ovoui/lists/EmphasisedText.h>
@@ -51,7 +52,7 @@ void ComboItems::draw(CDC& dc, const ComboItem& item) const
                                                    dc.GetDeviceCaps(LOGPIXELSY));
     const bool selected = (item.state & ODS_SELECTED) != 0;
     const frame::ItemColours colours = frame::itemColoursOf(item.state);
-    const int saved = dc.SaveDC();
+    const frame::SavedContext saved(dc);
     dc.FillSolidRect(&item.place, frame::colorrefOf(colours.background));
     if (item.look.colour)
         drawSwatch(dc, layout.swatch, *item.look.colour);
@@ -68,7 +69,6 @@ void ComboItems::draw(CDC& dc, const ComboItem& item) const
         drawEmphasised(dc, item.text, text, DT_LEFT, places, EmphasisColours(selected));
     if (frame::showsFocus(item.state))
         dc.DrawFocusRect(&item.place);
-    dc.RestoreDC(saved);
 }
 
 } // namespace ovoui::lists

@@ -1,5 +1,6 @@
 #include <ovoui/lists/EmphasisedText.h>
 
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/lists/TextExtents.h>
 #include <ovoui/lists/core/ShortText.h>
 
@@ -28,24 +29,6 @@ std::vector<int> stepsOf(std::span<const int> beginnings)
     std::adjacent_difference(beginnings.begin(), beginnings.end(), steps.begin());
     return steps;
 }
-
-/// The context as it was comes back at the end of the scope.
-class SavedContext
-{
-public:
-    explicit SavedContext(CDC& dc)
-        : m_dc(dc)
-        , m_saved(dc.SaveDC())
-    {
-    }
-    ~SavedContext() { m_dc.RestoreDC(m_saved); }
-    SavedContext(const SavedContext&) = delete;
-    SavedContext& operator=(const SavedContext&) = delete;
-
-private:
-    CDC& m_dc;
-    const int m_saved;
-};
 
 } // namespace
 
@@ -79,7 +62,7 @@ void drawEmphasised(CDC& dc, std::wstring_view shown, const CRect& place, UINT a
     draw();
     const bool mirrored = (dc.GetLayout() & LAYOUT_RTL) != 0;
     for (const TextRange& range : places) {
-        const SavedContext saved(dc);
+        const frame::SavedContext saved(dc);
         const Reach reach = reachOf(range, extents.beginnings(), mirrored);
         const CRect part(corner.x + reach.left, place.top, corner.x + reach.right, place.bottom);
         dc.IntersectClipRect(&part);
