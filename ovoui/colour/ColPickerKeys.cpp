@@ -5,6 +5,7 @@
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/core/ControlKeys.h>
 #include <ovoui/colour/core/FocusMark.h>
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/HeldKeysNow.h>
 #include <ovoui/frame/LoadedText.h>
 #include <ovouires/resource.h>
@@ -26,14 +27,13 @@ void drawDots(CDC& dc, const std::array<Vector<2>, Points>& outline, CSize offse
 {
     const LOGBRUSH ink{BS_SOLID, ::GetSysColor(COLOR_BTNTEXT), 0};
     CPen pen(PS_COSMETIC | PS_ALTERNATE, 1, &ink);
-    CPen* const before = dc.SelectObject(&pen);
+    const ovoui::frame::SelectedTool selected(dc, &pen);
     const int mode = dc.SetBkMode(TRANSPARENT);
     POINT points[Points];
     for (std::size_t i = 0; i < Points; ++i)
         points[i] = {std::lround(outline[i].x()) + offset.cx, std::lround(outline[i].y()) + offset.cy};
     dc.Polyline(points, static_cast<int>(Points));
     dc.SetBkMode(mode);
-    dc.SelectObject(before);
 }
 
 } // namespace

@@ -16,6 +16,7 @@
 using namespace ovoui::colour;
 using ovoui::frame::LeftToRight;
 using ovoui::frame::SavedContext;
+using ovoui::frame::SelectedTool;
 using ovoui::frame::toBox;
 using ovoui::frame::toRect;
 
@@ -91,11 +92,10 @@ void drawSunkenEdge(CDC& dc, const CRect& rect)
 {
     const auto line = [&dc](int colour, CPoint from, CPoint corner, CPoint to) {
         CPen pen(PS_SOLID, 1, ::GetSysColor(colour));
-        CPen* const before = dc.SelectObject(&pen);
+        const SelectedTool selected(dc, &pen);
         dc.MoveTo(from);
         dc.LineTo(corner);
         dc.LineTo(to);
-        dc.SelectObject(before);
     };
     const int right = rect.right - 1;
     const int bottom = rect.bottom - 1;

@@ -7,6 +7,7 @@
 #include <ovoui/colour/core/DropGesture.h>
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/LoadedText.h>
 #include <ovoui/frame/OwnWindow.h>
@@ -74,9 +75,8 @@ bool ColourDrop::open(CWnd& button)
     m_identity->window = m_hWnd;
     CClientDC dc(this);
     const auto scaled = [&dc](int length) { return frame::scaledTo(dc, length); };
-    CFont* const before = dc.SelectObject(font());
+    const frame::SelectedTool selected(dc, font());
     const int lineHeight = dc.GetTextExtent(L"M", 1).cy + 2 * scaled(kLineMargin);
-    dc.SelectObject(before);
     m_layout = std::make_unique<DropLayout>(
         static_cast<int>(m_content.colours.size()), m_content.columns, !m_content.line.empty(),
         DropLayout::Lengths{.cell = scaled(kCell), .margin = scaled(kMargin), .line = lineHeight});
@@ -237,12 +237,11 @@ void ColourDrop::drawLine(CDC& dc) const
     const bool marked = m_content.current == m_layout->cells.count;
     if (marked)
         dc.FillSolidRect(&line, ::GetSysColor(COLOR_HIGHLIGHT));
-    CFont* const before = dc.SelectObject(font());
+    const frame::SelectedTool selected(dc, font());
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(::GetSysColor(marked ? COLOR_HIGHLIGHTTEXT : COLOR_MENUTEXT));
     dc.DrawText(m_content.line.c_str(), static_cast<int>(m_content.line.size()), &line,
                 DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_HIDEPREFIX);
-    dc.SelectObject(before);
 }
 
 } // namespace ovoui::colour

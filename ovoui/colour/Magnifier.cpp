@@ -5,6 +5,7 @@
 #include <ovoui/colour/core/ScreenPick.h>
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/OwnWindow.h>
 #include <ovoui/frame/ScreenDc.h>
 
@@ -49,9 +50,8 @@ bool Magnifier::create(CWnd& owner)
     if (!frame::createPopup(*this, AfxRegisterWndClass(0), owner))
         return false;
     CClientDC dc(this);
-    CGdiObject* const before = dc.SelectStockObject(DEFAULT_GUI_FONT);
+    const frame::SelectedTool font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
     m_layout = layOutMagnifier(dc.GetDeviceCaps(LOGPIXELSX), dc.GetTextExtent(L"#", 1).cy);
-    dc.SelectObject(static_cast<CFont*>(before));
     return true;
 }
 
@@ -82,12 +82,11 @@ void Magnifier::take(CPoint point)
         m_pixels.Attach(::CreateCompatibleBitmap(screen.get(), kMagnified, kMagnified));
     CDC memory;
     memory.CreateCompatibleDC(nullptr);
-    CBitmap* const before = memory.SelectObject(&m_pixels);
+    const frame::SelectedTool pixels(memory, &m_pixels);
     memory.PatBlt(0, 0, kMagnified, kMagnified, BLACKNESS); // what is beside the screen
     const CPoint first(firstMagnified(point.x), firstMagnified(point.y));
     ::BitBlt(memory, 0, 0, kMagnified, kMagnified, screen.get(), first.x, first.y, SRCCOPY);
     m_colour = memory.GetPixel(point.x - first.x, point.y - first.y);
-    memory.SelectObject(before);
 }
 
 void Magnifier::OnPaint()
@@ -107,11 +106,10 @@ void Magnifier::paintPixels(CDC& dc)
     const frame::Box& place = m_layout.pixels;
     CDC memory;
     memory.CreateCompatibleDC(&dc);
-    CBitmap* const before = memory.SelectObject(&m_pixels);
+    const frame::SelectedTool pixels(memory, &m_pixels);
     dc.SetStretchBltMode(COLORONCOLOR);
     dc.StretchBlt(place.left, place.top, place.width(), place.height(), &memory, 0, 0, kMagnified, kMagnified,
                   SRCCOPY);
-    memory.SelectObject(before);
     drawCellMark(dc, frame::toRect(m_layout.mark));
 }
 
@@ -123,11 +121,10 @@ void Magnifier::paintColour(CDC& dc) const
     ::FrameRect(dc, &swatch, ::GetSysColorBrush(COLOR_WINDOWFRAME));
     CRect place(frame::toRect(m_layout.code));
     const std::wstring code = textOfColour(Colour::colorref(m_colour));
-    CGdiObject* const font = dc.SelectStockObject(DEFAULT_GUI_FONT);
+    const frame::SelectedTool font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(::GetSysColor(COLOR_INFOTEXT));
     dc.DrawText(code.c_str(), static_cast<int>(code.size()), &place, DT_SINGLELINE | DT_VCENTER);
-    dc.SelectObject(static_cast<CFont*>(font));
 }
 
 } // namespace ovoui::colour

@@ -1,6 +1,7 @@
 /// Not exported. The arrows on the library's own buttons.
 #pragma once
 
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/core/Placement.h>
 
 #include <afxwin.h>
@@ -16,11 +17,9 @@ inline void fillTriangle(CDC& dc, const std::array<Point, 3>& corners, COLORREF 
     POINT places[3];
     std::ranges::transform(corners, places, [](const Point& corner) { return POINT{corner.x, corner.y}; });
     CBrush brush(colour);
-    CBrush* const brushBefore = dc.SelectObject(&brush);
-    CGdiObject* const penBefore = dc.SelectStockObject(NULL_PEN);
+    const SelectedTool inside(dc, &brush);
+    const SelectedTool edge(dc, ::GetStockObject(NULL_PEN));
     dc.Polygon(places, 3);
-    dc.SelectObject(static_cast<CPen*>(penBefore));
-    dc.SelectObject(brushBefore);
 }
 
 } // namespace ovoui::frame

@@ -1,6 +1,7 @@
 #include <ovoui/frame/TipWindow.h>
 
 #include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/frame/DcScopes.h>
 
 namespace ovoui::frame
 {
@@ -29,10 +30,9 @@ HGDIOBJ TipWindow::font() const
 CSize TipWindow::sizeAroundText()
 {
     CClientDC dc(this);
-    const HGDIOBJ before = ::SelectObject(dc.m_hDC, font());
+    const frame::SelectedTool selected(dc, font());
     CRect text;
     dc.DrawText(m_text.c_str(), static_cast<int>(m_text.size()), &text, DT_CALCRECT | DT_NOPREFIX);
-    ::SelectObject(dc.m_hDC, before);
     return CSize(text.Width() + 2 * m_margins.cx, text.Height() + 2 * m_margins.cy);
 }
 
@@ -58,11 +58,10 @@ void TipWindow::OnPaint()
     dc.FillSolidRect(&rect, ::GetSysColor(COLOR_INFOBK));
     dc.Draw3dRect(&rect, ::GetSysColor(COLOR_INFOTEXT), ::GetSysColor(COLOR_INFOTEXT));
     rect.DeflateRect(m_margins.cx, m_margins.cy);
-    const HGDIOBJ before = ::SelectObject(dc.m_hDC, font());
+    const frame::SelectedTool selected(dc, font());
     dc.SetTextColor(::GetSysColor(COLOR_INFOTEXT));
     dc.SetBkMode(TRANSPARENT);
     dc.DrawText(m_text.c_str(), static_cast<int>(m_text.size()), &rect, DT_NOPREFIX);
-    ::SelectObject(dc.m_hDC, before);
 }
 
 BOOL TipWindow::OnEraseBkgnd(CDC*)

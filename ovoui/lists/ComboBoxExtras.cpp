@@ -1,5 +1,6 @@
 // What a completing combo box does when the host asks for it: search inside, history, cue, looks of items.
 #include <ovoui/lists/ComboBox.h>
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ComboCommands.h>
 #include <ovoui/lists/ComboHistory.h>
@@ -242,12 +243,8 @@ LRESULT COVOComboBox::OnResetItems(WPARAM, LPARAM)
 int COVOComboBox::listItemHeight()
 {
     CClientDC dc(this);
-    CFont* const font = GetFont();
-    CFont* const old = font ? dc.SelectObject(font) : nullptr;
-    const int height = m_items->heightFor(dc);
-    if (old)
-        dc.SelectObject(old);
-    return height;
+    const ovoui::frame::SelectedTool font(dc, GetFont());
+    return m_items->heightFor(dc);
 }
 
 void COVOComboBox::MeasureItem(LPMEASUREITEMSTRUCT item)

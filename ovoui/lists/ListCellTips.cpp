@@ -1,6 +1,7 @@
 #include <ovoui/lists/ListCellTips.h>
 
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/Tip.h>
 #include <ovoui/lists/ListCells.h>
 #include <ovoui/lists/RowData.h>
@@ -104,10 +105,9 @@ std::wstring COVOListCellTips::cutText(const Cell& cell, CRect& textPlace) const
     const bool isLabel = cell.column == 0;
     textPlace = toRect(textBox(*area, isLabel ? kLabelInset : kCellInset));
     CClientDC dc(&list);
-    CFont* const old = dc.SelectObject(list.GetFont());
+    const ovoui::frame::SelectedTool font(dc, list.GetFont());
     const std::wstring shown = COVOListCtrlEx::MakeShortString(&dc, text.c_str(), area->width(),
                                                                isLabel ? kLabelOffset : kCellOffset);
-    dc.SelectObject(old);
     return shown == text ? std::wstring() : text;
 }
 

@@ -1,6 +1,7 @@
 #include <ovoui/sliders/AngleEdit.h>
 
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/sliders/core/SliderPlaces.h>
 
@@ -21,16 +22,20 @@ namespace
 
 constexpr int kCharacters = 7; // room for "-360.25"
 
+CSize digitSize(CWnd& window)
+{
+    CClientDC dc(&window);
+    const frame::SelectedTool font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+    return dc.GetTextExtent(L"0", 1);
+}
+
 } // namespace
 
 void AngleEdit::open(CWnd& over, wchar_t first, Done done)
 {
     CRect client;
     over.GetClientRect(&client);
-    CClientDC dc(&over);
-    CGdiObject* const old = dc.SelectStockObject(DEFAULT_GUI_FONT);
-    const CSize digit = dc.GetTextExtent(L"0", 1);
-    dc.SelectObject(static_cast<CFont*>(old));
+    const CSize digit = digitSize(over);
     const RECT place = frame::toRect(editPlace(frame::toBox(client), kCharacters, digit.cx, digit.cy));
     if (!Create(WS_CHILD | WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL | ES_CENTER, place, &over, 1))
         return;

@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/BufferedPaint.h>
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/frame/OwnWindow.h>
 #include <ovoui/frame/TellParent.h>
@@ -228,7 +229,7 @@ void CAngleSlider::ShadeRect(const CRect& rect, CDC* dc)
     const int from = sideways ? rect.left : rect.top;
     const int to = sideways ? rect.right : rect.bottom;
     const CylinderPicture picture = cylinderPicture(from, to, rotation, systemColours(enabled), enabled);
-    CGdiObject* const old = dc->SelectStockObject(DC_PEN);
+    const ovoui::frame::SelectedTool pen(*dc, ::GetStockObject(DC_PEN));
     for (const Strip& strip : seenStrips(picture)) {
         if (strip.from > from && strip.to - strip.from == 1) {
             ::SetDCPenColor(*dc, colorrefOf(strip.colour));
@@ -239,7 +240,6 @@ void CAngleSlider::ShadeRect(const CRect& rect, CDC* dc)
             dc->FillSolidRect(&place, colorrefOf(strip.colour));
         }
     }
-    dc->SelectObject(static_cast<CPen*>(old));
 }
 
 /// In the DC's pen, only strictly inside the rectangle.

@@ -1,6 +1,7 @@
 #include <ovoui/sliders/RoundSlider.h>
 
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/core/Scaling.h>
 #include <ovoui/sliders/core/CylinderDrag.h>
 #include <ovoui/sliders/core/SliderPlaces.h>
@@ -26,7 +27,7 @@ int CRoundSlider::MaxWidth(CDC* dc)
 
 void CRoundSlider::drawOnCylinder(CDC& dc, const CRect& cylinder, double shown)
 {
-    CGdiObject* const old = dc.SelectStockObject(DEFAULT_GUI_FONT);
+    const ovoui::frame::SelectedTool font(dc, ::GetStockObject(DEFAULT_GUI_FONT));
     const CString text(stringPrintf(L"%d", printedAngle(shown)).c_str());
     const CSize size = dc.GetTextExtent(text);
     const NumberPlace place = numberPlace(ovoui::frame::toBox(cylinder), size.cx, size.cy);
@@ -34,5 +35,4 @@ void CRoundSlider::drawOnCylinder(CDC& dc, const CRect& cylinder, double shown)
     dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
     dc.SetBkColor(::GetSysColor(COLOR_WINDOW));
     dc.ExtTextOut(place.text.x, place.text.y, ETO_OPAQUE | ETO_CLIPPED, &background, text, nullptr);
-    dc.SelectObject(static_cast<CFont*>(old));
 }

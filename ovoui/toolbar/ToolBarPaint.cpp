@@ -1,5 +1,6 @@
 // CVantorToolBar: painting, and controls that draw themselves.
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/DrawnState.h>
 #include <ovoui/frame/ThemeData.h>
 #include <ovoui/toolbar/ToolBarState.h>
@@ -64,11 +65,9 @@ int textHeight(HWND control)
 {
     CClientDC dc(CWnd::FromHandle(control));
     const auto font = reinterpret_cast<HFONT>(::SendMessageW(control, WM_GETFONT, 0, 0));
-    const HGDIOBJ before = font ? ::SelectObject(dc.m_hDC, font) : nullptr;
+    const ovoui::frame::SelectedTool selected(dc, font);
     TEXTMETRIC metrics{};
     dc.GetTextMetrics(&metrics);
-    if (before)
-        ::SelectObject(dc.m_hDC, before);
     return metrics.tmHeight;
 }
 
