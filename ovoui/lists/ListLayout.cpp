@@ -1,19 +1,18 @@
 #include <ovoui/lists/ListLayout.h>
 
 #include <ovoui/frame/ProfileSection.h>
+#include <ovoui/frame/core/Scaling.h>
 #include <ovoui/lists/ListSorter.h>
 #include <ovoui/lists/ReportColumns.h>
 #include <ovoui/lists/core/ColumnLayout.h>
 
-#include <algorithm>
-
 using namespace ovoui::lists;
 using ovoui::frame::ProfileSection;
+using ovoui::frame::scaledFrom;
+using ovoui::frame::scaledTo;
 
 namespace
 {
-
-constexpr int kUsualDpi = 96;
 
 int dotsPerInch(CWnd& window)
 {
@@ -34,10 +33,9 @@ void restoreWidths(CListCtrl& list, const ColumnLayout& layout, const std::vecto
 {
     const int dpi = dotsPerInch(list);
     const Lifeline::Watch watch(list);
-    for (const auto& [heading, width] : layout.shown)
-        for (std::size_t column = 0; watch.alive() && column < headings.size(); ++column)
-            if (headings[column] == heading)
-                list.SetColumnWidth(static_cast<int>(column), ::MulDiv(width, dpi, kUsualDpi));
+    for (const auto& [column, width] : widthsOfColumns(layout, headings))
+        if (watch.alive())
+            list.SetColumnWidth(column, scaledTo(dpi, width));
 }
 
 } // namespace
@@ -47,8 +45,7 @@ bool saveColumnLayout(CListCtrl& list, LPCWSTR section, LPCWSTR entry, const COV
     ColumnLayout layout;
     const int dpi = dotsPerInch(list);
     for (const int column : columnsAsShown(list))
-        layout.shown.push_back(
-            {headingOf(list, column), ::MulDiv(list.GetColumnWidth(column), kUsualDpi, dpi)});
+        layout.shown.push_back({headingOf(list, column), scaledFrom(dpi, list.GetColumnWidth(column))});
     if (sorter && sorter->Column() >= 0) {
         layout.sortedBy = headingOf(list, sorter->Column());
         layout.ascending = sorter->Ascending();
@@ -71,8 +68,8 @@ bool restoreColumnLayout(CListCtrl& list, LPCWSTR section, LPCWSTR entry, COVOLi
     if (!watch.alive())
         return false;
     list.Invalidate();
-    const auto sorted = std::find(headings.begin(), headings.end(), layout.sortedBy);
-    if (sorter && !layout.sortedBy.empty() && sorted != headings.end())
-        sorter->Sort(static_cast<int>(sorted - headings.begin()), layout.ascending);
-    return true;
+    const std::optional<int> sorted = sortedColumn(layout, headings);
+    if (sorter && sorted)
+        sorter->Sort(*sorted, layout.ascending);
+    return watch.alive();
 }

@@ -18,6 +18,6 @@ OVOUI_API bool saveColumnLayout(CListCtrl& list, LPCWSTR section, LPCWSTR entry,
 
 /// Brings back what was saved in `section` under `entry`, and with a `sorter` sorts the list. Columns that
 /// were not saved keep their widths and come last; saved ones that the list does not have are left out. False
-/// when nothing was saved, or when the parent, which hears of the changes, destroyed the list. The sorter
-/// must live meanwhile.
+/// when nothing was saved, or when the host destroyed the list: the parent hears of the changes, and the
+/// sorter may ask for comparisons. The sorter must live meanwhile.
 OVOUI_API bool restoreColumnLayout(CListCtrl& list, LPCWSTR section, LPCWSTR entry, COVOListSorter* sorter);

@@ -137,6 +137,25 @@ TEST(ListLayout, AColumnWithoutAHeadingIsNotSortedByAListThatWasNot)
     EXPECT_EQ(sorter.Column(), -1);
 }
 
+TEST(ListLayout, AListThatAComparisonDestroysGetsNoLayout)
+{
+    const TemporaryProfile profile;
+    ListScene scene;
+    addColumns(scene, {L"a"});
+    for (const wchar_t* text : {L"x", L"z", L"y"})
+        scene.list.AddItem(scene.list.GetItemCount(), 0, text, 0, -1);
+    COVOListSorter sorter;
+    sorter.Attach(scene.list);
+    sorter.Sort(0, true);
+    ASSERT_TRUE(saveColumnLayout(scene.list, L"Lists", L"test", &sorter));
+    sorter.SetCompare(0, [](COVOListCtrlEx& list, int, int) {
+        list.DestroyWindow();
+        return 0;
+    });
+    EXPECT_FALSE(restoreColumnLayout(scene.list, L"Lists", L"test", &sorter));
+    EXPECT_EQ(scene.list.m_hWnd, nullptr);
+}
+
 TEST(ListLayout, WithoutSavedLayoutNothingChanges)
 {
     const TemporaryProfile profile;

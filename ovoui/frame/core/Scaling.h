@@ -13,4 +13,14 @@ constexpr int scaledTo(int dotsPerInch, int length)
     return (length * dotsPerInch + half) / kUsualDotsPerInch;
 }
 
+/// The way back: the length at the usual resolution that these pixels stand for, rounded likewise. A
+/// resolution that is not known, 0, counts as the usual one.
+constexpr int scaledFrom(int dotsPerInch, int pixels)
+{
+    if (dotsPerInch <= 0)
+        return pixels;
+    const int half = pixels < 0 ? -dotsPerInch / 2 : dotsPerInch / 2;
+    return (pixels * kUsualDotsPerInch + half) / dotsPerInch;
+}
+
 } // namespace ovoui::frame

@@ -105,4 +105,24 @@ std::vector<int> orderOfColumns(const ColumnLayout& layout, const std::vector<st
     return order;
 }
 
+std::vector<WidthOfColumn> widthsOfColumns(const ColumnLayout& layout,
+                                           const std::vector<std::wstring>& headings)
+{
+    std::vector<WidthOfColumn> widths;
+    const int count = static_cast<int>(headings.size());
+    for (const auto& [heading, width] : layout.shown)
+        for (int column = 0; column < count; ++column)
+            if (headings[static_cast<std::size_t>(column)] == heading)
+                widths.push_back({column, width});
+    return widths;
+}
+
+std::optional<int> sortedColumn(const ColumnLayout& layout, const std::vector<std::wstring>& headings)
+{
+    const auto sorted = std::find(headings.begin(), headings.end(), layout.sortedBy);
+    if (layout.sortedBy.empty() || sorted == headings.end())
+        return std::nullopt;
+    return static_cast<int>(sorted - headings.begin());
+}
+
 } // namespace ovoui::lists

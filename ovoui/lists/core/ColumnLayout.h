@@ -1,6 +1,7 @@
 /// Order, widths and sorting of a list's columns, as a text for the profile.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,5 +37,23 @@ ColumnLayout parseLayout(std::wstring_view text);
 /// The present columns, given by their headings, in the order of a layout. Those that the layout does not
 /// know keep their order behind the others; headings that are not present are left out.
 std::vector<int> orderOfColumns(const ColumnLayout& layout, const std::vector<std::wstring>& headings);
+
+/// A present column that gets a width.
+struct WidthOfColumn
+{
+    int column = 0;
+    int width = 0; ///< pixels at 96 dots per inch
+
+    friend bool operator==(const WidthOfColumn&, const WidthOfColumn&) = default;
+};
+
+/// What a layout does to the widths of the present columns, from its first column on. A column of which it
+/// has several widths gets the last one in the end.
+std::vector<WidthOfColumn> widthsOfColumns(const ColumnLayout& layout,
+                                           const std::vector<std::wstring>& headings);
+
+/// The first of the present columns with the heading that a layout is sorted by; none when it is unsorted or
+/// there is no such column.
+std::optional<int> sortedColumn(const ColumnLayout& layout, const std::vector<std::wstring>& headings);
 
 } // namespace ovoui::lists

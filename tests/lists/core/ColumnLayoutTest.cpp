@@ -31,3 +31,28 @@ TEST(ColumnLayout, OrdersTheColumnsThatAreThere)
     EXPECT_EQ(orderOfColumns(layout, {}), std::vector<int>{});
     EXPECT_EQ(orderOfColumns(layout, {L"x", L"c", L"c"}), (std::vector<int>{1, 2, 0})) << "one heading twice";
 }
+
+TEST(ColumnLayout, WidthsGoToTheColumnsThatAreThere)
+{
+    using Widths = std::vector<WidthOfColumn>;
+    const ColumnLayout layout{{{L"c", 1}, {L"gone", 2}, {L"a", 3}, {L"c", 4}}, L"", true};
+    EXPECT_EQ(widthsOfColumns(layout, {L"a", L"b", L"c"}), (Widths{{2, 1}, {0, 3}, {2, 4}}));
+    EXPECT_EQ(widthsOfColumns(layout, {L"c", L"c"}), (Widths{{0, 1}, {1, 1}, {0, 4}, {1, 4}}))
+        << "one heading twice";
+    EXPECT_EQ(widthsOfColumns(layout, {L"b"}), Widths{});
+    EXPECT_EQ(widthsOfColumns(layout, {}), Widths{});
+    EXPECT_EQ(widthsOfColumns({}, {L"a", L"b"}), Widths{});
+}
+
+TEST(ColumnLayout, TheSortedColumnIsTheFirstWithItsHeading)
+{
+    const std::vector<std::wstring> present[] = {{}, {L"a"}, {L"b", L"a"}, {L"", L"b"}, {L"a", L"b", L"b"}};
+    for (const wchar_t* sortedBy : {L"", L"a", L"b"})
+        for (const std::vector<std::wstring>& headings : present) {
+            std::optional<int> expected;
+            for (std::size_t column = headings.size(); column-- > 0;)
+                if (*sortedBy && headings[column] == sortedBy)
+                    expected = static_cast<int>(column);
+            EXPECT_EQ(sortedColumn({{}, sortedBy, true}, headings), expected);
+        }
+}
