@@ -5,8 +5,6 @@
 #include <ovoui/lists/RowData.h>
 #include <ovoui/lists/core/RowLayout.h>
 
-#include <algorithm>
-
 using ovoui::frame::toBox;
 
 namespace ovoui::lists
@@ -32,11 +30,7 @@ frame::Box cellBox(COVOListCtrlEx& list, int row, int column, int width, const f
 int ListCells::rowAt(int y) const
 {
     const int top = m_list.GetTopIndex();
-    const frame::Box first = itemBox(m_list, top, LVIR_BOUNDS);
-    if (first.height() <= 0 || y < first.top)
-        return -1;
-    const int row = top + (y - first.top) / first.height();
-    return row < m_list.GetItemCount() ? row : -1;
+    return lists::rowAt(y, top, itemBox(m_list, top, LVIR_BOUNDS), m_list.GetItemCount());
 }
 
 std::vector<frame::Box> ListCells::cellsOf(int row) const
@@ -50,10 +44,7 @@ std::vector<frame::Box> ListCells::cellsOf(int row) const
 
 int ListCells::columnAt(int row, int x) const
 {
-    const std::vector<frame::Box> cells = cellsOf(row);
-    const auto found = std::find_if(cells.begin(), cells.end(),
-                                    [x](const frame::Box& cell) { return cell.left <= x && x < cell.right; });
-    return found == cells.end() ? -1 : static_cast<int>(found - cells.begin());
+    return cellAt(cellsOf(row), x);
 }
 
 std::optional<frame::Box> ListCells::textArea(int row, int column) const

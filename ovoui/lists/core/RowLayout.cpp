@@ -25,6 +25,21 @@ Box textBox(const Box& cell, int inset)
     return {cell.left + inset, cell.top, cell.right - inset, cell.bottom};
 }
 
+int cellAt(const std::vector<Box>& cells, int x)
+{
+    const auto found = std::find_if(cells.begin(), cells.end(),
+                                    [x](const Box& cell) { return cell.left <= x && x < cell.right; });
+    return found == cells.end() ? -1 : static_cast<int>(found - cells.begin());
+}
+
+int rowAt(int y, int top, const Box& topRow, int count)
+{
+    if (topRow.height() <= 0 || y < topRow.top)
+        return -1;
+    const int row = top + (y - topRow.top) / topRow.height();
+    return row < count ? row : -1;
+}
+
 RowRange rowsShown(int top, int whole, int count)
 {
     return {top, std::min(top + whole + 1, count)};

@@ -3,6 +3,8 @@
 
 #include <ovoui/frame/core/Placement.h>
 
+#include <vector>
+
 namespace ovoui::lists
 {
 
@@ -26,6 +28,13 @@ Box cellAfter(const Box& before, int width);
 /// A cell without its insets.
 Box textBox(const Box& cell, int inset);
 
+/// The cell of a row at a horizontal place; -1 beside the cells. Where cells overlap, the first one counts.
+int cellAt(const std::vector<Box>& cells, int x);
+
+/// The row at a vertical place, of `count` rows of which `top` is the first that is shown, in the box
+/// `topRow`; -1 above and below the rows.
+int rowAt(int y, int top, const Box& topRow, int count);
+
 /// The rows from `first` to the one before `end`.
 struct RowRange
 {
@@ -35,8 +44,8 @@ struct RowRange
     friend bool operator==(const RowRange&, const RowRange&) = default;
 };
 
-/// What is shown of `count` rows from the row `top` on, where `whole` of them have room: the one behind may be
-/// cut.
+/// What is shown of `count` rows from the row `top` on, where `whole` of them have room: the one behind may
+/// be cut.
 RowRange rowsShown(int top, int whole, int count);
 
 } // namespace ovoui::lists

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 using namespace ovoui::lists;
 
 TEST(RowLayout, ARowReachesFromItsLabelToTheFurtherOfColumnsAndWindow)
@@ -48,4 +50,37 @@ TEST(RowLayout, TheRowBehindThoseThatHaveRoomIsShownToo)
                 EXPECT_EQ(shown.end - shown.first, reachesTheEnd ? count - top : whole + 1)
                     << count << ' ' << top << ' ' << whole;
             }
+}
+
+TEST(RowLayout, EveryPlaceOfARowBelongsToIt)
+{
+    constexpr int kHeight = 3;
+    const auto rowBelow = [](int top, int row) { return 20 + (row - top) * kHeight; };
+    for (int count = 0; count <= 5; ++count)
+        for (int top = 0; top < std::max(count, 1); ++top)
+            for (int y = 0; y < 50; ++y) {
+                int expected = -1;
+                for (int row = top; row < count; ++row)
+                    if (rowBelow(top, row) <= y && y < rowBelow(top, row + 1))
+                        expected = row;
+                EXPECT_EQ(rowAt(y, top, {0, 20, 100, 20 + kHeight}, count), expected)
+                    << y << ' ' << top << ' ' << count;
+            }
+}
+
+TEST(RowLayout, AListWithoutRowsHasNoneAnywhere)
+{
+    for (const int y : {-1, 0, 1})
+        EXPECT_EQ(rowAt(y, 0, {}, 0), -1);
+}
+
+TEST(RowLayout, ACellReachesToTheNextOne)
+{
+    const std::vector<Box> cells{{20, 5, 30, 22}, {30, 5, 30, 22}, {30, 5, 33, 22}, {10, 5, 15, 22}};
+    for (int x = 0; x < 40; ++x) {
+        const int expected = 20 <= x && x < 30 ? 0 : 30 <= x && x < 33 ? 2 : 10 <= x && x < 15 ? 3 : -1;
+        EXPECT_EQ(cellAt(cells, x), expected) << x;
+        EXPECT_EQ(cellAt({}, x), -1);
+    }
+    EXPECT_EQ(cellAt({{0, 0, 9, 9}, {5, 0, 20, 9}}, 7), 0) << "the first one counts";
 }
