@@ -16,12 +16,6 @@ namespace ovoui::lists
 namespace
 {
 
-int columnCount(const COVOListCtrlEx& list)
-{
-    const CHeaderCtrl* const header = list.GetHeaderCtrl();
-    return header ? header->GetItemCount() : 0;
-}
-
 bool isMeasuredByAllRows(const COVOListCtrlEx& list, int column)
 {
     return platform().measuresEachRow && hasManyRows(list) &&
@@ -31,12 +25,11 @@ bool isMeasuredByAllRows(const COVOListCtrlEx& list, int column)
 /// The column whose divider a notification tells of; -1 for other notifications.
 int doubleClickedDivider(const COVOListCtrlEx& list, const NMHDR& header)
 {
-    const CHeaderCtrl* const sender = list.GetHeaderCtrl();
-    if (!sender || header.hwndFrom != sender->m_hWnd)
-        return -1;
     const bool isDivider = header.code == static_cast<UINT>(HDN_DIVIDERDBLCLICKW) ||
                            header.code == static_cast<UINT>(HDN_DIVIDERDBLCLICKA);
-    return isDivider ? reinterpret_cast<const NMHEADER&>(header).iItem : -1;
+    if (!isDivider || header.hwndFrom != ListView_GetHeader(list.m_hWnd))
+        return -1;
+    return reinterpret_cast<const NMHEADER&>(header).iItem;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include <ovoui/lists/ListColumns.h>
 
 #include <ovoui/lists/ListCtrlEx.h>
+#include <ovoui/lists/ReportColumns.h>
 
 #include <algorithm>
 
@@ -8,8 +9,8 @@ bool addColumns(COVOListCtrlEx& list, const std::vector<ListColumn>& columns)
 {
     constexpr int kMask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT | LVCF_SUBITEM;
     for (const ListColumn& column : columns) {
-        const int last = list.GetHeaderCtrl() ? list.GetHeaderCtrl()->GetItemCount() : 0;
-        const int index = list.AddColumn(column.heading, last, -1, column.showsColour, kMask, column.format);
+        const int index = list.AddColumn(column.heading, ovoui::lists::columnCount(list), -1,
+                                         column.showsColour, kMask, column.format);
         if (index < 0)
             return false;
         const int margins = list.GetColumnWidth(index) - list.GetStringWidth(column.heading.c_str());

@@ -23,7 +23,7 @@ int dotsPerInch(CWnd& window)
 std::vector<std::wstring> headingsOf(CListCtrl& list)
 {
     std::vector<std::wstring> headings;
-    const int count = static_cast<int>(columnsAsShown(list).size());
+    const int count = columnCount(list);
     for (int column = 0; column < count; ++column)
         headings.push_back(headingOf(list, column));
     return headings;

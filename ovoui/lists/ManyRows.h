@@ -6,8 +6,8 @@
 namespace ovoui::lists
 {
 
-constexpr int kManyRows =
-    1000; ///< which take a tenth of a second where the host or the display is asked for each
+/// They take a tenth of a second where the host or the display is asked for each.
+constexpr int kManyRows = 1000;
 
 /// Whether a list is virtual and has many rows.
 inline bool hasManyRows(const COVOListCtrlEx& list)

@@ -10,11 +10,17 @@
 namespace ovoui::lists
 {
 
+/// 0 without a header.
+inline int columnCount(const CListCtrl& list)
+{
+    const HWND header = ListView_GetHeader(list.m_hWnd);
+    return header ? Header_GetItemCount(header) : 0;
+}
+
 /// From left to right. Empty without a header.
 inline std::vector<int> columnsAsShown(CListCtrl& list)
 {
-    const CHeaderCtrl* const header = list.GetHeaderCtrl();
-    std::vector<int> order(header ? static_cast<std::size_t>(header->GetItemCount()) : 0);
+    std::vector<int> order(static_cast<std::size_t>(columnCount(list)));
     if (!order.empty() && !list.GetColumnOrderArray(order.data(), static_cast<int>(order.size())))
         std::iota(order.begin(), order.end(), 0);
     return order;
