@@ -2,7 +2,6 @@
 
 #include <ovoui/frame/DcScopes.h>
 #include <ovoui/lists/TextExtents.h>
-#include <ovoui/lists/core/ShortText.h>
 
 #include <numeric>
 
@@ -42,11 +41,7 @@ std::wstring folded(std::wstring_view text)
 std::vector<TextRange> placesShown(const std::wstring& foldedPart, std::wstring_view text,
                                    std::wstring_view shown)
 {
-    std::vector<TextRange> places = placesOf(foldedPart, folded(text));
-    if (places.empty() || shown == text)
-        return places;
-    const std::size_t dots = shown.ends_with(kDots) ? kDots.size() : 0;
-    return shownOf(places, shown.size() - dots, dots);
+    return shownOf(placesOf(foldedPart, folded(text)), text, shown);
 }
 
 void drawEmphasised(CDC& dc, std::wstring_view shown, const CRect& place, UINT alignment,

@@ -1,5 +1,7 @@
 #include <ovoui/lists/core/TextSearch.h>
 
+#include <ovoui/lists/core/ShortText.h>
+
 #include <algorithm>
 
 namespace ovoui::lists
@@ -28,6 +30,15 @@ std::vector<TextRange> shownOf(const std::vector<TextRange>& places, std::size_t
             break; // the dots stand for all that follow
     }
     return shown;
+}
+
+std::vector<TextRange> shownOf(const std::vector<TextRange>& places, std::wstring_view text,
+                               std::wstring_view shown)
+{
+    if (shown == text)
+        return places;
+    const std::size_t dots = shown.ends_with(kDots) ? kDots.size() : 0;
+    return shownOf(places, shown.size() - dots, dots);
 }
 
 Reach reachOf(const TextRange& range, std::span<const int> extents, bool mirrored)

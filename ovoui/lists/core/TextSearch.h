@@ -28,6 +28,11 @@ std::vector<TextRange> placesOf(std::wstring_view part, std::wstring_view text);
 /// with the text.
 std::vector<TextRange> shownOf(const std::vector<TextRange>& places, std::size_t kept, std::size_t dots);
 
+/// The same by what was drawn: `shown` is `text` itself, or its beginning with kDots behind it or without
+/// them.
+std::vector<TextRange> shownOf(const std::vector<TextRange>& places, std::wstring_view text,
+                               std::wstring_view shown);
+
 /// From the text's left edge to both edges of a part, in the unit of the extents.
 struct Reach
 {

@@ -60,6 +60,25 @@ TEST(TextSearch, WithoutDotsPlacesEndWithTheText)
     EXPECT_EQ(shownOf({{2, 4}}, 1, 0), Ranges{});
 }
 
+TEST(TextSearch, WhatWasDrawnTellsHowMuchWasCutOff)
+{
+    const std::wstring text = L"banana";
+    const Ranges places = placesOf(L"an", text);
+    EXPECT_EQ(shownOf(places, text, text), places);
+    for (std::size_t kept = 0; kept < text.size(); ++kept) {
+        const std::wstring beginning = text.substr(0, kept);
+        EXPECT_EQ(shownOf(places, text, beginning), shownOf(places, kept, 0)) << kept;
+        EXPECT_EQ(shownOf(places, text, beginning + L"..."), shownOf(places, kept, 3)) << kept;
+    }
+}
+
+TEST(TextSearch, DotsOfTheTextItselfCutNothingOff)
+{
+    const Ranges places = placesOf(L".", L"wait...");
+    EXPECT_EQ(places.size(), 3u);
+    EXPECT_EQ(shownOf(places, L"wait...", L"wait..."), places);
+}
+
 TEST(TextSearch, EveryResultLiesWithinWhatIsShown)
 {
     for (std::size_t kept = 0; kept < 8; ++kept)
