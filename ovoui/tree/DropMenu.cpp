@@ -1,6 +1,7 @@
 #include <ovoui/tree/DropMenu.h>
 
 #include <ovoui/frame/Module.h>
+#include <ovoui/frame/core/LabelText.h>
 #include <ovoui/tree/core/DropEffect.h>
 
 #include <ovocor/Text.h>
@@ -23,24 +24,12 @@ constexpr Choice kChoices[] = {
     {ID_DROP_LINK, DROPEFFECT_LINK},
 };
 
-/// A text as a menu shows it, where an ampersand would underline what follows.
-std::wstring forMenu(const std::wstring& text)
-{
-    std::wstring shown;
-    for (const wchar_t character : text) {
-        shown += character;
-        if (character == L'&')
-            shown += character;
-    }
-    return shown;
-}
-
 /// Puts the label into a line, whose text is a format for it.
 void name(CMenu& menu, UINT command, const std::wstring& label)
 {
     CString format;
     menu.GetMenuString(command, format, MF_BYCOMMAND);
-    const std::wstring text = stringPrintf(format, forMenu(label).c_str());
+    const std::wstring text = stringPrintf(format, ovoui::frame::asLabel(label).c_str());
     menu.ModifyMenu(command, MF_BYCOMMAND | MF_STRING, command, text.c_str());
 }
 

@@ -16,6 +16,14 @@ std::wstring withoutMnemonic(std::wstring_view label)
     return text;
 }
 
+std::wstring asLabel(std::wstring_view text)
+{
+    std::wstring label;
+    for (const wchar_t character : text)
+        label.append(character == L'&' ? 2 : 1, character);
+    return label;
+}
+
 std::wstring nameFromLabel(std::wstring_view label)
 {
     std::wstring name = withoutMnemonic(label);

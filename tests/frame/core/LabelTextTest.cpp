@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 using namespace ovoui::frame;
 
 TEST(LabelText, TheMarkOfALetterGoes)
@@ -27,4 +30,20 @@ TEST(LabelText, ANameHasNoColonAtItsEnd)
     EXPECT_EQ(nameFromLabel(L"Ratio 1:2"), L"Ratio 1:2");
     EXPECT_EQ(nameFromLabel(L":"), L"");
     EXPECT_EQ(nameFromLabel(L""), L"");
+}
+
+TEST(LabelText, EveryTextIsShownWholeAsALabel)
+{
+    EXPECT_EQ(asLabel(L"salt & pepper"), L"salt && pepper");
+    const wchar_t letters[] = {L'a', L'&', L':'};
+    std::vector<std::wstring> texts{L""};
+    for (std::size_t i = 0; i < texts.size() && texts[i].size() < 5; ++i)
+        for (const wchar_t letter : letters)
+            texts.push_back(texts[i] + letter);
+    for (const std::wstring& text : texts) {
+        EXPECT_EQ(withoutMnemonic(asLabel(text)), text);
+        if (text.find(L'&') == text.npos) {
+            EXPECT_EQ(asLabel(text), text);
+        }
+    }
 }
