@@ -1,5 +1,6 @@
 #include <ovoui/sliders/AccessibleSlider.h>
 
+#include <ovoui/frame/WindowText.h>
 #include <ovoui/frame/core/LabelText.h>
 
 #include <oleacc.h>
@@ -56,23 +57,17 @@ void AccessibleSlider::act(int)
 std::wstring labelBefore(HWND control)
 {
     const HWND label = ::GetWindow(control, GW_HWNDPREV);
-    wchar_t text[200]{};
     wchar_t kind[16]{};
     ::GetClassNameW(label, kind, 16);
     if (::lstrcmpiW(kind, L"Static") != 0)
         return {};
-    ::GetWindowTextW(label, text, 200);
-    return frame::nameFromLabel(text);
+    return frame::nameFromLabel(frame::windowText(label));
 }
 
 std::wstring labelOrText(HWND control)
 {
-    std::wstring name = labelBefore(control);
-    if (!name.empty())
-        return name;
-    wchar_t text[200]{};
-    ::GetWindowTextW(control, text, 200);
-    return text;
+    const std::wstring name = labelBefore(control);
+    return name.empty() ? frame::windowText(control) : name;
 }
 
 } // namespace ovoui::sliders

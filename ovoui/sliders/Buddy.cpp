@@ -1,16 +1,13 @@
 #include <ovoui/sliders/Buddy.h>
 
-#include <cstddef>
+#include <ovoui/frame/WindowText.h>
 
 namespace ovoui::sliders
 {
 
 std::wstring Buddy::text() const
 {
-    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(m_window)), L'\0');
-    const int length = ::GetWindowTextW(m_window, text.data(), static_cast<int>(text.size()) + 1);
-    text.resize(static_cast<std::size_t>(length));
-    return text;
+    return frame::windowText(m_window);
 }
 
 void Buddy::show(const std::wstring& text) const

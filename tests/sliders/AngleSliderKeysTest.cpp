@@ -254,6 +254,12 @@ TEST_F(AngleSliderKeys, TheLabelInFrontIsTheName)
     EXPECT_EQ(AccessibleView(*wheel).name(), L"WheelSlider") << "behind another slider it is its own text";
     wheel->SetWindowText(L"Tilt");
     EXPECT_EQ(AccessibleView(*wheel).name(), L"Tilt");
+    const std::wstring longName(300, L't');
+    wheel->SetWindowText(longName.c_str());
+    EXPECT_EQ(AccessibleView(*wheel).name(), longName);
+    label.SetWindowText(longName.c_str());
+    namedRound.SetWindowPos(&label, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    EXPECT_EQ(AccessibleView(namedRound).name(), longName);
 }
 
 TEST_F(AngleSliderKeys, AccessibilityHearsOfEveryChangeOfTheAngle)
