@@ -16,7 +16,10 @@ BOOL CShadedTabPage::AddTo(CTabCtrl& tabs, UINT templateId, LPCTSTR title)
     item.mask = TCIF_TEXT | TCIF_PARAM;
     item.pszText = const_cast<LPTSTR>(title);
     item.lParam = reinterpret_cast<LPARAM>(m_hWnd);
-    tabs.InsertItem(tabs.GetItemCount(), &item);
+    if (tabs.InsertItem(tabs.GetItemCount(), &item) == -1) {
+        DestroyWindow();
+        return FALSE;
+    }
     CRect place;
     tabs.GetClientRect(&place);
     tabs.AdjustRect(FALSE, &place); // with the tabs, which may be the first
@@ -27,7 +30,7 @@ BOOL CShadedTabPage::AddTo(CTabCtrl& tabs, UINT templateId, LPCTSTR title)
 
 void CShadedTabPage::ShowChosen(CTabCtrl& tabs)
 {
-    const HWND wnd = tabs.m_hWnd;
+    const HWND wnd = tabs.m_hWnd; // which a page may destroy when it hears that it is shown
     const int chosen = tabs.GetCurSel();
     for (int i = 0; ::IsWindow(wnd) && i < tabs.GetItemCount(); ++i) {
         TCITEMW item{};

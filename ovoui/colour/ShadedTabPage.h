@@ -25,7 +25,7 @@ class OVOUI_API CShadedTabPage : public CDialog
 public:
     /// Adds a tab with the text `title` at the end of `tabs`, and makes the page of the template `templateId`
     /// in its area. It is shown when its tab is the chosen one, as the first is. The item's parameter
-    /// (TCIF_PARAM) holds the page. FALSE, without a tab, when the window cannot be made.
+    /// (TCIF_PARAM) holds the page's window. FALSE, without a tab and a window, when either cannot be made.
     BOOL AddTo(CTabCtrl& tabs, UINT templateId, LPCTSTR title);
 
     /// Shows the page of the chosen tab of `tabs` and hides the others; tabs without a page are left out.

@@ -273,6 +273,23 @@ TEST_F(TabScene, AddsNoTabWithoutAPage)
     EXPECT_EQ(m_tabs.GetItemCount(), 2);
 }
 
+TEST_F(TabScene, MakesNoPageWithoutATab)
+{
+    class FullTabs : public CTabCtrl
+    {
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            return message == TCM_INSERTITEMW ? -1 : CTabCtrl::WindowProc(message, wParam, lParam);
+        }
+    } full;
+    full.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 390, 290), &m_parent, 2);
+    CShadedTabPage page;
+    EXPECT_FALSE(page.AddTo(full, IDD_HOST_PAGE, L"Page"));
+    EXPECT_EQ(page.m_hWnd, nullptr);
+    EXPECT_EQ(full.GetItemCount(), 0);
+}
+
 TEST_F(TabScene, LeavesTabsAloneThatHaveNoPage)
 {
     m_tabs.InsertItem(2, L"Plain");
