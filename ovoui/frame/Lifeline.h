@@ -39,24 +39,31 @@ public:
             : m_life(lifeline.m_life)
         {
         }
-        /// Alive as long as the object has the window that it has now. It may be of any class: what counts is
-        /// the framework's map of windows, which deleted objects are not in.
+        /// Alive as long as the object has the window that it has now. It may be of any class: what counts
+        /// are the framework's maps of windows, which deleted objects are not in. One that the framework has
+        /// lent, as CWnd::GetDlgItem does, is alive as long as its window.
         explicit Watch(const CWnd& window)
             : m_object(&window)
             , m_window(window.m_hWnd)
+            , m_isLent(!CWnd::FromHandlePermanent(m_window))
         {
         }
 
         /// Whether it is still there.
         bool alive() const
         {
-            return m_object ? CWnd::FromHandlePermanent(m_window) == m_object : !m_life.expired();
+            if (!m_object)
+                return !m_life.expired();
+            if (m_isLent)
+                return ::IsWindow(m_window) && CWnd::FromHandle(m_window) == m_object;
+            return CWnd::FromHandlePermanent(m_window) == m_object;
         }
 
     private:
         std::weak_ptr<char> m_life;
         const CWnd* m_object = nullptr; // for comparison alone: it may be deleted
         HWND m_window = nullptr;
+        bool m_isLent = false;
     };
 
 private:

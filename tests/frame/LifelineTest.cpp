@@ -86,6 +86,17 @@ TEST(Lifeline, AnotherObjectOfTheSameWindowIsNotTheOne)
     EXPECT_TRUE(Lifeline::Watch(other).alive());
 }
 
+TEST(Lifeline, AWindowThatTheFrameworkLendsIsAliveUntilItIsGone)
+{
+    RecordingParent parent;
+    const HWND window = ::CreateWindowExW(0, L"Static", L"", WS_CHILD, 0, 0, 10, 10, parent,
+                                          reinterpret_cast<HMENU>(5), nullptr, nullptr);
+    const Lifeline::Watch watch(*parent.GetDlgItem(5));
+    EXPECT_TRUE(watch.alive());
+    ::DestroyWindow(window);
+    EXPECT_FALSE(watch.alive());
+}
+
 TEST(Lifeline, WithoutAWindowThereIsNothingToWatch)
 {
     CStatic none;

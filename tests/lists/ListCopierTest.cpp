@@ -169,3 +169,15 @@ TEST_F(ListCopying, TheListMayBeDestroyedBeforeTheCopier)
     Robot().holding(VK_CONTROL).key('C');
     EXPECT_EQ(clipboardText(), L"0.0\r\n");
 }
+
+TEST_F(ListCopying, AListThatIsNoObjectOfTheHosts)
+{
+    const HWND plain = ::CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | LVS_REPORT, 0, 0, 100, 100,
+                                         scene.parent, nullptr, nullptr, nullptr);
+    auto& lent = *static_cast<CListCtrl*>(CWnd::FromHandle(plain)); // as GetDlgItem gives it
+    lent.InsertColumn(0, L"Name", LVCFMT_LEFT, 50);
+    lent.InsertItem(0, L"plain");
+    lent.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_TRUE(copySelectedRows(lent, true));
+    EXPECT_EQ(clipboardText(), L"Name\r\nplain\r\n");
+}
