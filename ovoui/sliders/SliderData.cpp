@@ -8,6 +8,8 @@
 
 #include <cmath>
 
+using namespace ovoui::sliders;
+
 namespace
 {
 
@@ -21,27 +23,31 @@ namespace
     std::terminate(); // Fail throws
 }
 
+double takenNumber(CDataExchange& exchange, const CSliderButton& button,
+                   const std::pair<double, double>& limits)
+{
+    const std::optional<double> number = button.Number();
+    if (!isTaken(number, limits.first, limits.second))
+        refuse(exchange, button.Buddy(), limits.first, limits.second);
+    return *number;
+}
+
 } // namespace
 
 void DDX_SliderNumber(CDataExchange* exchange, CSliderButton& button, double& value)
 {
-    if (!exchange->m_bSaveAndValidate) {
+    if (exchange->m_bSaveAndValidate)
+        value = takenNumber(*exchange, button, button.Limits());
+    else
         button.ShowNumber(value);
-        return;
-    }
-    const std::optional<double> number = button.Number();
-    const auto [low, high] = button.Limits();
-    if (!ovoui::sliders::isTaken(number, low, high))
-        refuse(*exchange, button.Buddy(), low, high);
-    value = *number;
 }
 
 void DDX_SliderNumber(CDataExchange* exchange, CSliderButton& button, int& value)
 {
-    double number = value;
-    DDX_SliderNumber(exchange, button, number);
     if (exchange->m_bSaveAndValidate)
-        value = static_cast<int>(std::lround(number));
+        value = static_cast<int>(std::lround(takenNumber(*exchange, button, limitsOfWhole(button.Limits()))));
+    else
+        button.ShowNumber(value);
 }
 
 void DDX_Angle(CDataExchange* exchange, CAngleSlider& slider, double& degrees)

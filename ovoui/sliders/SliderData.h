@@ -11,8 +11,9 @@
 #include <afxwin.h>
 
 /// The number in the buddy of a slider button, through the button's conversions, into `value` and back. When
-/// the dialog is read, a text that is no number, or one beyond the button's range, is reported with a message
-/// box, the buddy gets the focus, and the `exchange` ends as that of DDX_Text does.
+/// the dialog is read, a text that is no number, or one beyond the button's range or what `value` can hold,
+/// is reported with a message box, the buddy gets the focus, and the `exchange` ends as that of DDX_Text
+/// does.
 OVOUI_API void DDX_SliderNumber(CDataExchange* exchange, CSliderButton& button, double& value);
 OVOUI_API void DDX_SliderNumber(CDataExchange* exchange, CSliderButton& button, int& value);
 

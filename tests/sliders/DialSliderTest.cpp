@@ -184,6 +184,26 @@ TEST_F(SliderExchange, WhatIsNoNumberOfTheRangeIsRefused)
     }
 }
 
+TEST_F(SliderExchange, WhatAnIntCannotHoldIsRefused)
+{
+    button.SetRange(-1e10, 1e10, 0);
+    buddy.SetWindowText(L"2147483647");
+    CDataExchange reading(&parent, TRUE);
+    int number = 7;
+    DDX_SliderNumber(&reading, button, number);
+    EXPECT_EQ(number, 2147483647);
+    buddy.SetWindowText(L"5000000000");
+    TestApp::instance().forget();
+    try {
+        DDX_SliderNumber(&reading, button, number);
+        ADD_FAILURE() << "taken as " << number;
+    } catch (CUserException* error) {
+        error->Delete();
+    }
+    EXPECT_EQ(number, 2147483647) << "the member stays";
+    EXPECT_EQ(TestApp::instance().boxes().size(), 1u);
+}
+
 TEST_F(SliderExchange, AnglesGoBothWays)
 {
     CDialSlider dial;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace ovoui::sliders
 {
@@ -44,6 +45,12 @@ int steppedWhole(int from, double steps, int low, int high)
 bool isTaken(std::optional<double> typed, double low, double high)
 {
     return typed && *typed >= low && *typed <= high;
+}
+
+std::pair<double, double> limitsOfWhole(const std::pair<double, double>& limits)
+{
+    using Whole = std::numeric_limits<int>;
+    return {std::max<double>(limits.first, Whole::min()), std::min<double>(limits.second, Whole::max())};
 }
 
 bool isUsable(const HostMapping& mapping, const Positions& positions)

@@ -26,6 +26,9 @@ struct HostMapping
 /// Whether data exchange takes what the user has typed: a number, and one from `low` to `high`.
 bool isTaken(std::optional<double> typed, double low, double high);
 
+/// What an int can hold of a range. Where it holds nothing of it, the first is greater than the second.
+std::pair<double, double> limitsOfWhole(const std::pair<double, double>& limits);
+
 /// Whether the numbers of all positions rise, or all fall, and `shareOf` leads each of them back to its
 /// position.
 bool isUsable(const HostMapping& mapping, const Positions& positions);

@@ -162,3 +162,18 @@ TEST(SliderNumbers, DataExchangeTakesANumberThatIsNotBeyondTheEnds)
     EXPECT_FALSE(isTaken(std::nullopt, -1, 1));
     EXPECT_FALSE(isTaken(std::numeric_limits<double>::quiet_NaN(), -1, 1));
 }
+
+TEST(SliderNumbers, AnIntTakesThePartOfARangeThatItCanHold)
+{
+    constexpr double kLeast = std::numeric_limits<int>::min();
+    constexpr double kMost = std::numeric_limits<int>::max();
+    const double ends[] = {-1e300, kLeast - 1, kLeast, -0.5, 0, 7.5, kMost, kMost + 1, 1e300};
+    for (const double low : ends)
+        for (const double high : ends) {
+            const auto [first, last] = limitsOfWhole({low, high});
+            for (const double number : ends)
+                EXPECT_EQ(isTaken(number, first, last),
+                          isTaken(number, low, high) && number >= kLeast && number <= kMost)
+                    << number << " of " << low << " to " << high;
+        }
+}
