@@ -74,10 +74,10 @@ std::optional<int> ColumnFit::width(COVOListCtrlEx& list, int stateImageWidth) c
     if (!text || m_column >= columnCount(list))
         return std::nullopt;
     if (m_column != 0)
-        return *text + kCellOffset;
+        return columnWidthFor(*text);
     const int row = list.GetTopIndex();
-    const int images = itemBox(list, row, LVIR_LABEL).left - itemBox(list, row, LVIR_BOUNDS).left;
-    return images + *text + stateImageWidth + kCellOffset;
+    const int beforeLabel = itemBox(list, row, LVIR_LABEL).left - itemBox(list, row, LVIR_BOUNDS).left;
+    return labelColumnWidthFor(*text, beforeLabel, stateImageWidth);
 }
 
 } // namespace ovoui::lists

@@ -23,7 +23,7 @@ public:
 
     int column() const { return m_column; }
 
-    /// In pixels. Asks the host for the texts; none when the list has gone or changed its columns meanwhile.
+    /// In pixels. Asks the host for the texts; none when the list has gone or the column meanwhile.
     std::optional<int> width(COVOListCtrlEx& list, int stateImageWidth) const;
 
 private:

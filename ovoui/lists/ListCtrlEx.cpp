@@ -51,7 +51,7 @@ LRESULT COVOListCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return CListCtrl::WindowProc(message, wParam, lParam);
 }
 
-/// What the host has not handled.
+/// Gets the messages that neither the host nor a handler has answered.
 LRESULT COVOListCtrlEx::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (const auto fit = ColumnFit::wanted(*this, message, wParam, lParam))

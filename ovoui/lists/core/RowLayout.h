@@ -28,6 +28,18 @@ Box cellAfter(const Box& before, int width);
 /// A cell without its insets.
 Box textBox(const Box& cell, int inset);
 
+/// How wide a column is that shows a text of this extent whole.
+constexpr int columnWidthFor(int extent)
+{
+    return extent + kCellOffset;
+}
+
+/// The same for the first column, whose label begins `beforeLabel` behind the column's left edge.
+constexpr int labelColumnWidthFor(int extent, int beforeLabel, int stateImageWidth)
+{
+    return beforeLabel + columnWidthFor(extent) + stateImageWidth;
+}
+
 /// The cell of a row at a horizontal place; -1 beside the cells. Where cells overlap, the first one counts.
 int cellAt(const std::vector<Box>& cells, int x);
 

@@ -1,5 +1,6 @@
 // Where the parts of a row lie.
 #include <ovoui/lists/core/RowLayout.h>
+#include <ovoui/lists/core/ShortText.h>
 
 #include <gtest/gtest.h>
 
@@ -83,4 +84,18 @@ TEST(RowLayout, ACellReachesToTheNextOne)
         EXPECT_EQ(cellAt({}, x), -1);
     }
     EXPECT_EQ(cellAt({{0, 0, 9, 9}, {5, 0, 20, 9}}, 7), 0) << "the first one counts";
+}
+
+TEST(RowLayout, AColumnThatIsFittedShowsItsTextWhole)
+{
+    for (int extent = 0; extent < 50; ++extent) {
+        EXPECT_TRUE(fits(extent, columnWidthFor(extent), kCellOffset));
+        EXPECT_FALSE(fits(extent, columnWidthFor(extent) - 1, kCellOffset)) << "no wider than needed";
+        for (const int beforeLabel : {0, 2, 18})
+            for (const int stateImage : {0, 16}) {
+                const Box label{beforeLabel, 0, labelColumnWidthFor(extent, beforeLabel, stateImage), 20};
+                EXPECT_TRUE(fits(extent, labelTextBox(label, stateImage).width(), kLabelOffset))
+                    << extent << ' ' << beforeLabel << ' ' << stateImage;
+            }
+    }
 }
