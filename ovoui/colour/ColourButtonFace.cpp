@@ -7,32 +7,11 @@
 #include <ovoui/frame/DrawnState.h>
 #include <ovoui/frame/FilledTriangle.h>
 #include <ovoui/frame/KeptTheme.h>
+#include <ovoui/frame/PushButtonState.h>
 #include <ovoui/frame/ThemeData.h>
-
-#include <vssym32.h>
 
 namespace ovoui::colour
 {
-
-namespace
-{
-
-int themeStateOf(ButtonLook look)
-{
-    switch (look) {
-    case ButtonLook::Hot:
-        return PBS_HOT;
-    case ButtonLook::Pressed:
-        return PBS_PRESSED;
-    case ButtonLook::Disabled:
-        return PBS_DISABLED;
-    case ButtonLook::Normal:
-        break;
-    }
-    return PBS_NORMAL;
-}
-
-} // namespace
 
 ColourButtonFace::ColourButtonFace(CWnd& button, const Colour& colour, const Look& look)
     : m_button(button)
@@ -80,7 +59,7 @@ bool ColourButtonFace::pressed(UINT state) const
 
 int ColourButtonFace::themedState(UINT state) const
 {
-    return themeStateOf(buttonLook(!(state & ODS_DISABLED), pressed(state), m_look.hot));
+    return frame::pushButtonState(frame::buttonLook(!(state & ODS_DISABLED), pressed(state), m_look.hot));
 }
 
 COLORREF ColourButtonFace::ink(UINT state) const

@@ -1,9 +1,8 @@
 #include <ovoui/sliders/SliderButtonFace.h>
 
 #include <ovoui/frame/FilledTriangle.h>
+#include <ovoui/frame/PushButtonState.h>
 #include <ovoui/sliders/core/SliderPlaces.h>
-
-#include <vssym32.h>
 
 namespace ovoui::sliders
 {
@@ -28,8 +27,8 @@ void SliderButtonFace::paint(CDC& dc, const CRect& client) const
 
 void SliderButtonFace::paintBack(CDC& dc, const CRect& client) const
 {
-    const int idle = m_enabled ? PBS_NORMAL : PBS_DISABLED;
-    if (m_theme.draw(m_wnd, dc, BP_PUSHBUTTON, m_pressed ? PBS_PRESSED : idle, client))
+    const int state = frame::pushButtonState(frame::buttonLook(m_enabled, m_pressed, false));
+    if (m_theme.draw(m_wnd, dc, BP_PUSHBUTTON, state, client))
         return;
     const COLORREF highlight = ::GetSysColor(COLOR_BTNHIGHLIGHT);
     const COLORREF shadow = ::GetSysColor(COLOR_BTNSHADOW);

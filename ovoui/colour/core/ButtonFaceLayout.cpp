@@ -45,13 +45,4 @@ ButtonFaceLayout layOutButtonFace(const frame::Box& button, int dotsPerInch)
     return layout;
 }
 
-ButtonLook buttonLook(bool enabled, bool pressed, bool hot)
-{
-    if (!enabled)
-        return ButtonLook::Disabled;
-    if (pressed)
-        return ButtonLook::Pressed;
-    return hot ? ButtonLook::Hot : ButtonLook::Normal;
-}
-
 } // namespace ovoui::colour

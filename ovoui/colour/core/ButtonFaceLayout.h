@@ -1,4 +1,4 @@
-/// Where the parts of a colour button go, and which look it has. Plain values, no windows. Lengths in pixels.
+/// Where the parts of a colour button go. Plain values, no windows. Lengths in pixels.
 #pragma once
 
 #include <ovoui/frame/core/Placement.h>
@@ -21,15 +21,5 @@ struct ButtonFaceLayout
 
 /// The arrow stands at the right; the swatch has what is left.
 ButtonFaceLayout layOutButtonFace(const frame::Box& button, int dotsPerInch);
-
-enum class ButtonLook
-{
-    Normal,
-    Hot, ///< the pointer is over it
-    Pressed,
-    Disabled,
-};
-
-ButtonLook buttonLook(bool enabled, bool pressed, bool hot);
 
 } // namespace ovoui::colour

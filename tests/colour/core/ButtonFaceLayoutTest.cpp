@@ -108,13 +108,3 @@ TEST(ButtonFaceLayout, TheArrowPointsDownAndStaysInTheButtonWhileThereIsRoomForI
         ASSERT_LE(std::abs(above - (button.bottom - tip.y)), 2) << "in the middle";
     });
 }
-
-TEST(ButtonFaceLayout, ADisabledButtonLooksDisabledAndAPressedOnePressed)
-{
-    for (const bool pressed : {false, true})
-        for (const bool hot : {false, true}) {
-            EXPECT_EQ(buttonLook(false, pressed, hot), ButtonLook::Disabled);
-            const ButtonLook up = hot ? ButtonLook::Hot : ButtonLook::Normal;
-            EXPECT_EQ(buttonLook(true, pressed, hot), pressed ? ButtonLook::Pressed : up);
-        }
-}
