@@ -9,6 +9,7 @@
 #include <ovoui/colour/core/TypedColour.h>
 #include <ovoui/frame/LoadedText.h>
 #include <ovoui/frame/TellParent.h>
+#include <ovoui/frame/WindowText.h>
 #include <ovoui/frame/core/LabelText.h>
 #include <ovouires/resource.h>
 

@@ -12,6 +12,7 @@
 #include <ovoui/frame/LoadedText.h>
 #include <ovoui/frame/OwnWindow.h>
 #include <ovoui/frame/TellParent.h>
+#include <ovoui/frame/WindowText.h>
 #include <ovouires/resource.h>
 
 #include <oleacc.h>

@@ -17,12 +17,4 @@ inline std::wstring loadedText(UINT id)
     return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
 }
 
-/// The text of a window.
-inline std::wstring windowText(const CWnd& window)
-{
-    CString text;
-    window.GetWindowText(text);
-    return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
-}
-
 } // namespace ovoui::frame

@@ -3,6 +3,7 @@
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/Lifeline.h>
+#include <ovoui/frame/WindowText.h>
 #include <ovoui/sliders/core/SliderPlaces.h>
 
 #include <string>
@@ -74,10 +75,9 @@ void AngleEdit::finish(EditEnd end)
     const Done done = std::exchange(m_done, nullptr);
     if (!done)
         return;
-    CString text;
-    GetWindowText(text);
+    const std::wstring text = frame::windowText(m_hWnd);
     DestroyWindow();
-    done(typedAngle(end, text.GetString()));
+    done(typedAngle(end, text));
 }
 
 } // namespace ovoui::sliders

@@ -1,4 +1,4 @@
-/// What the two angle sliders share: a ribbed cylinder that the user turns with the mouse.
+/// What the angle sliders share: a ribbed cylinder, or a knob, that the user turns with the mouse.
 #pragma once
 
 #include <ovoui/export.h>
@@ -15,11 +15,11 @@ enum class Turn;
 
 /// Accessibility sees a slider with the name of the label in front of it, else with its window's text.
 ///
-/// Hosts use CRoundSlider and CWheelSlider. The parent gets a scroll message, sent, with SB_THUMBTRACK while
-/// the user drags and SB_THUMBPOSITION when the button is released; the high word is the angle in whole
-/// degrees, cut to 16 bits, and lParam the slider's window. The slider does not paint itself anew after the
-/// release: the parent is to call SetPos with what it accepts. The parent may destroy the slider in either
-/// message.
+/// Hosts use CRoundSlider, CWheelSlider and CDialSlider. The parent gets a scroll message, sent, with
+/// SB_THUMBTRACK while the user drags and SB_THUMBPOSITION when the button is released; the high word is the
+/// angle in whole degrees, cut to 16 bits, and lParam the slider's window. The slider does not paint itself
+/// anew after the release: the parent is to call SetPos with what it accepts. The parent may destroy the
+/// slider in either message.
 class OVOUI_API CAngleSlider : public CWnd
 {
 public:
@@ -50,8 +50,8 @@ protected:
         Horizontal, ///< turned up and down
     };
 
-    /// `axis` says how the cylinder lies, `turn` limits the angle. `reversed` turns the sense: to the right or downwards makes the angle
-    /// greater.
+    /// `axis` says how the cylinder lies, `turn` limits the angle. `reversed`: turning to the right or
+    /// downwards makes the angle greater.
     CAngleSlider(Axis axis, ovoui::sliders::Turn turn, bool reversed);
 
     /// Makes a child window of `parent` with the number `id` at `rect` in its client coordinates, of a class

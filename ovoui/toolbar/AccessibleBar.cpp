@@ -1,6 +1,7 @@
 #include <ovoui/toolbar/AccessibleBar.h>
 
 #include <ovoui/frame/LoadedText.h>
+#include <ovoui/frame/WindowText.h>
 #include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/ButtonNames.h>
 #include <ovoui/toolbar/core/ButtonRules.h>
