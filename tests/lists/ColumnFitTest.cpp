@@ -7,7 +7,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 using namespace ovo::testkit;
 
