@@ -51,7 +51,7 @@ std::wstring ratioText(double contrast)
     CString machine;
     machine.Format(L"%.1f", contrast);
     std::wstring text;
-    CUnitNumbers(L"", false).toDisplay(text, machine.GetString());
+    CUnitNumbers(std::wstring(), false).toDisplay(text, machine.GetString());
     return text;
 }
 
