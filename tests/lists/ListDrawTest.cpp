@@ -665,6 +665,7 @@ namespace
 class Vanishing : public List
 {
 public:
+    static void* operator new(std::size_t size) { return ::operator new(size); }
     static void operator delete(void* memory, std::size_t size)
     {
         std::fill_n(static_cast<volatile unsigned char*>(memory), size, static_cast<unsigned char>(0xDD));
