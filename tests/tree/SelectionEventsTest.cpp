@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <utility>
 
 using namespace ovo::testkit;
@@ -86,6 +87,7 @@ protected:
     {
         ::SetWindowSubclass(scene.tree, &number, 1, reinterpret_cast<DWORD_PTR>(&m_numbers));
         scene.tree.SetFocus();
+        listener.emplace();
         scene.tree.clearselection(scene.item("a"));
         take();
     }
@@ -100,7 +102,7 @@ protected:
                                                         {EVENT_OBJECT_SELECTIONWITHIN, "within "}};
         GuiThread::settle();
         Journal all;
-        for (const Listener::Heard& each : m_listener.take())
+        for (const Listener::Heard& each : listener->take())
             if (each.window == scene.tree.m_hWnd)
                 all.push_back(names.at(each.event) + nameOf(each.child));
         return all;
@@ -124,10 +126,10 @@ protected:
     }
 
     Scene scene;
+    std::optional<Listener> listener;
 
 private:
     std::vector<HTREEITEM> m_numbers;
-    const Listener m_listener;
 };
 
 /// For items that are told in no order.
@@ -212,6 +214,31 @@ TEST_F(TreeSelectionEvents, WhatTheHostDoesIsToldToo)
     select("h", true);
     scene.tree.SetItemState(scene.item("a"), TVIS_BOLD, TVIS_BOLD);
     EXPECT_EQ(take(), Journal{});
+}
+
+TEST_F(TreeSelectionEvents, TheItemWithTheCaretIsToldFirst)
+{
+    scene.tree.SelectItem(scene.item("d"));
+    select("b", true);
+    select("e", true);
+    const Journal heard = take();
+    ASSERT_EQ(heard.size(), 3u);
+    EXPECT_EQ(heard.front(), "selected d");
+    EXPECT_EQ(sorted(heard), (Journal{"added b", "added e", "selected d"}));
+}
+
+TEST_F(TreeSelectionEvents, AClientKnowsWhatWasSelectedBeforeItCame)
+{
+    listener.reset();
+    scene.user.click(scene.label("b")).holding(VK_SHIFT).click(scene.label("d"));
+    listener.emplace();
+    scene.user.holding(VK_CONTROL).click(scene.label("f"));
+    EXPECT_EQ(take(), Journal{"added f"});
+    listener.reset();
+    scene.user.click(scene.label("h"));
+    listener.emplace();
+    scene.user.holding(VK_CONTROL).click(scene.label("j"));
+    EXPECT_EQ(take(), Journal{"added j"}) << "what was selected while nobody listened";
 }
 
 TEST_F(TreeSelectionEvents, AnItemThatGoesIsNotTakenOutFirst)
