@@ -168,7 +168,9 @@ TEST_F(LongColumnFits, IconsAndStateImagesHaveTheirRoomInTheFirstColumn)
     fillImages(states, 20, {RGB(0, 255, 0)});
     fitted.scene.list.SetImageList(&states, LVSIL_STATE);
     fitted.scene.list.SetColumnWidth(0, LVSCW_AUTOSIZE);
-    EXPECT_GE(fitted.scene.list.GetColumnWidth(0), withIcon + 20);
+    const int label = fitted.scene.rect(kFirstShown, LVIR_LABEL).Width();
+    EXPECT_GE(label, fitted.widestShown(0) + 20 + 4)
+        << "the state image takes its room from the label once more";
     fitted.scene.list.SetColumnWidth(1, LVSCW_AUTOSIZE);
     EXPECT_EQ(fitted.scene.list.GetColumnWidth(1), fitted.widestShown(1) + kPadding) << "not in the others";
     fitted.scene.list.SetImageList(nullptr, LVSIL_STATE);
