@@ -238,3 +238,36 @@ TEST(DialogKeys, TheDialogIsToldItsFont)
         << "the one that its controls have";
     dialog.DestroyWindow();
 }
+
+TEST(DialogKeys, ACharacterForAWindowWithinSomethingHiddenIsLeftAlone)
+{
+    TestDialog dialog;
+    ASSERT_TRUE(dialog.createModeless());
+    dialog.ShowWindow(SW_SHOWNOACTIVATE);
+    CWnd bar;
+    bar.CreateEx(WS_EX_CONTROLPARENT, L"Static", L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 80, 40), &dialog,
+                 200);
+    CEdit edit;
+    edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 60, 20), &bar, 201);
+    const auto takes = [&](UINT message) {
+        MSG character{};
+        character.hwnd = edit;
+        character.message = message;
+        character.wParam = 'x'; // no mnemonic of the dialog
+        return dialog.IsDialogMessage(&character) != FALSE;
+    };
+    for (const UINT message : {static_cast<UINT>(WM_CHAR), static_cast<UINT>(WM_SYSCHAR)}) {
+        EXPECT_TRUE(takes(message));
+        bar.ShowWindow(SW_HIDE);
+        EXPECT_FALSE(takes(message)) << "hidden";
+        bar.ShowWindow(SW_SHOWNOACTIVATE);
+        bar.EnableWindow(FALSE);
+        EXPECT_FALSE(takes(message)) << "disabled";
+        bar.EnableWindow(TRUE);
+        edit.ShowWindow(SW_HIDE);
+        EXPECT_TRUE(takes(message)) << "what is hidden itself is found";
+        edit.ShowWindow(SW_SHOWNOACTIVATE);
+    }
+    EXPECT_EQ(textOf(edit), L"xx") << "of the characters that were taken";
+    dialog.DestroyWindow();
+}
