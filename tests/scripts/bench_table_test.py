@@ -82,10 +82,12 @@ class Programs(unittest.TestCase):
         self.assertEqual(list(bench_all.programs(["bench_tree"])), ["bench_tree"])
 
     def test_one_that_fails_takes_no_other_with_it(self):
-        command = lambda code: [sys.executable, "-c", f"print('words of', {code}); raise SystemExit({code})"]
+        command = lambda code: [sys.executable, "-c", f"import sys; print(sys.argv[1:]); raise SystemExit({code})"]
+        results = []
         with mock.patch("builtins.print"):
-            results, failed = bench_all.run({"first": command(3), "second": command(0)})
-        self.assertEqual(results, {"first": "words of 3\n", "second": "words of 0\n"})
+            failed = bench_all.run({"first": command(3), "second": command(0)}, ["--samples", "9"],
+                                   lambda name, output: results.append((name, output)))
+        self.assertEqual(results, [("first", "['--samples', '9']\n"), ("second", "['--samples', '9']\n")])
         self.assertEqual(failed, ["first"])
 
 
