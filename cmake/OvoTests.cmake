@@ -17,6 +17,9 @@ include_guard(GLOBAL)
 
 set(OVO_UNDER_WINE ${PROJECT_SOURCE_DIR}/cmake/under-wine)
 set(OVO_TEST_RESULTS ${PROJECT_BINARY_DIR}/results)
+# Optimising the tests themselves, and describing all their variables, would take half of their compilation; the sanitizers'
+# reports need the lines alone.
+set(OVO_NATIVE_TEST_OPTIONS -O0 -g1)
 # Seconds for a whole program; on a busy machine it takes many times as long as alone. What hangs, the watchdog ends.
 set(OVO_TEST_TIMEOUT 1500)
 
@@ -125,10 +128,11 @@ function(ovo_native_test name)
   endif()
   add_executable(${name} ${arg_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
-  target_link_libraries(${name} PRIVATE ovo_flags ${arg_LIBS} gmock gtest gtest_main)
-  # Optimising the tests themselves, and describing all their variables, would take half of their compilation; the sanitizers'
-  # reports need the lines alone.
-  target_compile_options(${name} PRIVATE -O1 -g1)
+  target_link_libraries(${name} PRIVATE ovo_flags ${arg_LIBS} native_main)
+  target_compile_options(${name} PRIVATE ${OVO_NATIVE_TEST_OPTIONS})
+  target_precompile_headers(${name} REUSE_FROM native_main)
+  # A library's own definitions may keep the shared header from being reused; that costs time only.
+  set_target_properties(${name} PROPERTIES PCH_WARN_INVALID OFF)
   _ovo_register(${name} ${name} ${arg_TIMEOUT})
   set_tests_properties(${name} PROPERTIES ENVIRONMENT
     "ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1;UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1")
