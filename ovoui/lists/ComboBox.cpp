@@ -200,6 +200,9 @@ BOOL COVOComboBox::OnCommand(WPARAM wParam, LPARAM lParam)
         case kHit:
             onHit();
             break;
+        case kFindHits:
+            onFindHits();
+            break;
         }
     }
     return !watch.alive() || CWnd::OnCommand(wParam, lParam);

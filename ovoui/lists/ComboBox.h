@@ -152,6 +152,8 @@ private:
     void onRemember();
     void takeHit(int item);
     void onHit();
+    void onFindHits();
+    void itemsChange();
     void showTyped(const std::wstring& text);
     int itemWith(const std::wstring& text) const;
     void insertItem(int place, const std::wstring& text);

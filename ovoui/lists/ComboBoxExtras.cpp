@@ -65,6 +65,21 @@ void COVOComboBox::onHit()
     carryOut(afterChoice());
 }
 
+void COVOComboBox::onFindHits()
+{
+    if (m_search)
+        m_search->findAgain();
+}
+
+/// Hits are items by their indices, which mean others now. They are looked for again when the host has done
+/// all that it wanted.
+void COVOComboBox::itemsChange()
+{
+    m_clickedHit = -1;
+    if (m_search && m_search->doubts())
+        PostMessage(WM_COMMAND, kFindHits, 0);
+}
+
 void COVOComboBox::showTyped(const std::wstring& text)
 {
     const OwnChange change(*this, m_completing);
@@ -219,6 +234,7 @@ void COVOComboBox::drawItems()
 LRESULT COVOComboBox::OnAddItem(WPARAM, LPARAM)
 {
     const Lifeline::Watch watch(*this);
+    itemsChange();
     const LRESULT item = Default();
     if (watch.alive())
         m_items->looks.inserted(static_cast<int>(item));
@@ -228,6 +244,7 @@ LRESULT COVOComboBox::OnAddItem(WPARAM, LPARAM)
 LRESULT COVOComboBox::OnDeleteItem(WPARAM wParam, LPARAM)
 {
     const Lifeline::Watch watch(*this);
+    itemsChange();
     const LRESULT left = Default();
     if (left != CB_ERR && watch.alive())
         m_items->looks.deleted(static_cast<int>(wParam));
@@ -236,6 +253,7 @@ LRESULT COVOComboBox::OnDeleteItem(WPARAM wParam, LPARAM)
 
 LRESULT COVOComboBox::OnResetItems(WPARAM, LPARAM)
 {
+    itemsChange();
     m_items->looks.clear();
     return Default();
 }

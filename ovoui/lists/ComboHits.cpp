@@ -133,13 +133,16 @@ void ComboHits::show(std::vector<int> items, const std::wstring& foldedPart)
 {
     m_items = std::move(items);
     m_part = foldedPart;
-    if (m_items.empty() || !create()) {
+    const bool isWanted = !m_items.empty() && create();
+    // Also while nothing is to be shown: others can show the window.
+    if (m_list.m_hWnd)
+        m_list.SendMessage(LB_SETCOUNT, static_cast<WPARAM>(count()), 0);
+    if (!isWanted) {
         hide();
         return;
     }
     m_list.SetFont(m_combo.GetFont(), FALSE);
     m_list.SetItemHeight(0, static_cast<UINT>(m_combo.listItemHeight()));
-    m_list.SendMessage(LB_SETCOUNT, static_cast<WPARAM>(count()), 0);
     m_list.SetCurSel(-1);
     place();
     m_list.Invalidate();

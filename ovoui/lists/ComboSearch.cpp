@@ -4,6 +4,8 @@
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/core/HitRules.h>
 
+#include <utility>
+
 namespace ovoui::lists
 {
 
@@ -16,6 +18,7 @@ ComboSearch::ComboSearch(COVOComboBox& combo)
 void ComboSearch::typed(const std::wstring& text)
 {
     m_typed = text;
+    m_doubted = false;
     const std::wstring part = folded(text);
     m_hits.show(hitsOf(part, m_combo.GetCount(), [this](int item) { return folded(m_combo.itemText(item)); }),
                 part);
@@ -42,6 +45,17 @@ void ComboSearch::choose(int index)
         m_combo.SetCurSel(m_hits.itemAt(index));
     else
         m_combo.showTyped(m_typed);
+}
+
+bool ComboSearch::doubts()
+{
+    return m_hits.isShown() && !std::exchange(m_doubted, true);
+}
+
+void ComboSearch::findAgain()
+{
+    if (m_doubted && m_hits.isShown())
+        typed(std::wstring(m_typed));
 }
 
 void ComboSearch::end()

@@ -18,6 +18,12 @@ public:
     /// Whether a key that is on its way to the edit field is done with.
     bool takesKey(WPARAM virtualKey);
 
+    /// The items are about to change. True when that concerns the hits, for the first time since they were found.
+    bool doubts();
+
+    /// Finds the hits once more, if some are still shown.
+    void findAgain();
+
     /// Shows nothing any more.
     void end();
 
@@ -26,6 +32,7 @@ private:
 
     COVOComboBox& m_combo;
     std::wstring m_typed;
+    bool m_doubted = false; ///< the items have changed since the hits were found
     ComboHits m_hits;
 };
 

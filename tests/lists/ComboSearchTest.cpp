@@ -223,6 +223,55 @@ TEST_F(ComboSearching, AReleaseThatArrivesAfterTheyHaveGoneChoosesNothing)
     EXPECT_EQ(scene.text(), L"errx");
 }
 
+TEST_F(ComboSearching, WithoutHitsAWindowThatOthersShowIsEmpty)
+{
+    scene.robot.type(L"err");
+    const HWND list = hitsList();
+    const HWND window = hitsWindow();
+    const CPoint third(5, static_cast<int>(::SendMessageW(list, LB_GETITEMHEIGHT, 0, 0)) * 5 / 2);
+    scene.robot.type(L"x");
+    ASSERT_FALSE(hitsWindow());
+    ::SendMessageW(window, WM_SETREDRAW, TRUE, 0); // by which the system shows a hidden window
+    ASSERT_TRUE(hitsWindow());
+    ::SendMessageW(list, WM_LBUTTONUP, 0, MAKELPARAM(third.x, third.y));
+    GuiThread::settle();
+    scene.robot.key(VK_DOWN);
+    EXPECT_EQ(::SendMessageW(list, LB_GETCOUNT, 0, 0), 0);
+    EXPECT_EQ(scene.text(), L"errx");
+}
+
+TEST_F(ComboSearching, FollowsItemsThatTheHostChanges)
+{
+    scene.robot.type(L"err");
+    ASSERT_EQ(hitCount(), 3);
+    scene.combo.InsertString(0, L"raspberry");
+    scene.combo.InsertString(1, L"plum");
+    EXPECT_EQ(hitCount(), 3) << "before it has done all that it wanted";
+    GuiThread::settle();
+    ASSERT_EQ(hitCount(), 4);
+    scene.robot.click(overHit(1));
+    EXPECT_EQ(scene.text(), L"berry");
+}
+
+TEST_F(ComboSearching, GoesWhenTheHostTakesTheItemsAway)
+{
+    scene.robot.type(L"err");
+    scene.combo.ResetContent();
+    GuiThread::settle();
+    EXPECT_FALSE(hitsWindow());
+}
+
+TEST_F(ComboSearching, AClickedHitWhoseItemTheHostDeletesMeanwhileIsNotTaken)
+{
+    scene.robot.type(L"err");
+    const CPoint second(5, static_cast<int>(::SendMessageW(hitsList(), LB_GETITEMHEIGHT, 0, 0)) * 3 / 2);
+    ::SendMessageW(hitsList(), WM_LBUTTONUP, 0, MAKELPARAM(second.x, second.y));
+    scene.combo.DeleteString(2); // "blackberry", before the click is handled
+    GuiThread::settle();
+    EXPECT_EQ(scene.text(), L"err");
+    EXPECT_FALSE(hitsWindow());
+}
+
 TEST_F(ComboSearching, ThePointerShowsWhereAClickWouldGo)
 {
     scene.robot.type(L"err");
