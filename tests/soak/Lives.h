@@ -11,7 +11,7 @@
 struct Life
 {
     const char* name;
-    int share; ///< one of so many cycles: lives that take long are lived less often
+    int share; ///< one of so many of the usual cycles: lives that take long are lived less often
     std::function<void(CWnd& parent)> live;
     /// The same without the library, for windows that the system itself does not clean up.
     std::function<void(CWnd& parent)> platform{};
