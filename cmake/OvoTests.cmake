@@ -26,7 +26,7 @@ set(OVO_TEST_TIMEOUT 1500)
 # Seconds of the runs that take longest. They begin first, so that none of them goes on alone at the end; CTest knows that by itself
 # only in a folder where it has run them before.
 set(OVO_TEST_COSTS
-  test_soak=90 test_toolbar=60 test_tree=55 test_gallery=45 test_lists=40 package=40 reproducible=35
+  test_soak=160 test_lives=100 test_toolbar=60 test_tree=55 test_gallery=45 test_lists=40 package=40 reproducible=35
   test_update=35 test_files=35 test_colour=30 test_frame_plain=30 test_frame=30 test_testkit=25 test_colour.classic=25
   test_colour.dpi144=25 test_frame.classic=20 test_mfc_wnd=15 test_mfc_cdlg=15 test_sliders=10 test_mfc_dlg=10)
 

@@ -1,10 +1,10 @@
 // The gallery under random inputs: no crash, hang or exception, and what is alive does not grow.
 //
-//   OVO_SOAK_STEPS=1000000 OVO_SEED=7 ./test_soak.exe     as many inputs as wanted, 5,000 by default
+//   OVO_SOAK_STEPS=1000000 OVO_SEED=7 ./test_soak.exe     as many inputs as wanted, 20,000 by default
 //   OVO_SOAK_PAGE=lists ./test_soak.exe                   on one page alone
 #include "Driver.h"
 #include "GdiTypes.h"
-#include "HeapCounter.h"
+#include "support/HeapCounter.h"
 #include "WindowKinds.h"
 #include "gallery/GalleryScene.h"
 
@@ -217,7 +217,7 @@ protected:
 
 TEST_F(Soak, TheGalleryStandsRandomInputs)
 {
-    const int steps = numberFrom("OVO_SOAK_STEPS", 5000);
+    const int steps = numberFrom("OVO_SOAK_STEPS", 20000);
     const unsigned seed = static_cast<unsigned>(numberFrom("OVO_SEED", 1));
     std::printf("seed %u, %d inputs\n", seed, steps);
     std::fflush(stdout);

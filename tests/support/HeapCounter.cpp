@@ -1,4 +1,4 @@
-#include "HeapCounter.h"
+#include "support/HeapCounter.h"
 
 #include <windows.h>
 

@@ -1,9 +1,9 @@
 // Every control is created, shown, used and destroyed many times: nothing grows.
 //
-//   OVO_LIFE_CYCLES=10000 ./test_soak.exe --gtest_filter='*LifeCycle*'     so many lives of each control
+//   OVO_LIFE_CYCLES=10000 ./test_lives.exe --gtest_filter='*LifeCycle*'     so many lives of each control
 //
 // By default they are 1,000, and of those that take long as small a part of it as their table says.
-#include "HeapCounter.h"
+#include "support/HeapCounter.h"
 #include "Lives.h"
 
 #include <testkit/GdiCounter.h>
