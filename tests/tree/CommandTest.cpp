@@ -20,6 +20,12 @@ class CommandParent : public RecordingParent
 public:
     using RecordingParent::RecordingParent;
     int printed = 0;
+    std::function<BOOL(UINT, int, void*, AFX_CMDHANDLERINFO*)> routing; ///< where commands go instead
+
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override
+    {
+        return routing ? routing(id, code, extra, info) : RecordingParent::OnCmdMsg(id, code, extra, info);
+    }
 
 protected:
     afx_msg void OnPrint() { ++printed; }
@@ -38,7 +44,8 @@ public:
     {
     }
 
-    int printed() { return static_cast<CommandParent&>(parent()).printed; }
+    int printed() { return host().printed; }
+    CommandParent& host() { return static_cast<CommandParent&>(parent()); }
     void command(UINT id) { tree.SendMessage(WM_COMMAND, id); }
     void select(const Names& names)
     {
@@ -135,6 +142,21 @@ TEST(TreeCommands, GoOnToTheParentInTheRoutingItself)
     EXPECT_TRUE(scene.tree.OnCmdMsg(kPrint, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &scene.parent());
     EXPECT_EQ(scene.printed(), 1) << "asked only";
+}
+
+TEST(TreeCommands, AParentThatAsksTheTreeIsAskedOnce)
+{
+    CommandScene scene({"a"});
+    int asked = 0;
+    scene.host().routing = [&](UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) {
+        ++asked;
+        return scene.tree.OnCmdMsg(id, code, extra, info);
+    };
+    EXPECT_FALSE(scene.tree.OnCmdMsg(4003, CN_COMMAND, nullptr, nullptr));
+    EXPECT_EQ(asked, 1);
+    AFX_CMDHANDLERINFO info{};
+    EXPECT_FALSE(scene.tree.OnCmdMsg(4003, CN_COMMAND, nullptr, &info));
+    EXPECT_EQ(asked, 2) << "the next question is another one";
 }
 
 TEST(TreeCommands, ThatAreForbiddenDoNothing)

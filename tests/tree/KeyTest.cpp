@@ -316,10 +316,12 @@ TEST(TreeKeys, ARefreshThatThrowsIsReported)
 
 // Dialogs
 
-TEST(TreeKeys, TheDialogLeavesTheArrowsToTheTree)
+TEST(TreeKeys, TheDialogLeavesTheArrowsAndTheLettersToTheTree)
 {
     Scene scene{{"a"}};
-    EXPECT_TRUE(scene.tree.SendMessage(WM_GETDLGCODE) & DLGC_WANTARROWS);
+    const LRESULT wanted = scene.tree.SendMessage(WM_GETDLGCODE);
+    EXPECT_TRUE(wanted & DLGC_WANTARROWS);
+    EXPECT_TRUE(wanted & DLGC_WANTCHARS) << "they would be mnemonics";
 }
 
 TEST(TreeKeys, EnterIsTheTreesBeforeADialogTakesIt)
