@@ -43,7 +43,7 @@
 #define TEXT_COLOUR_RING "Farbton"
 #define TEXT_COLOUR_TRIANGLE "Helligkeit und Sättigung"
 #define TEXT_COLOUR_SHADE "Helligkeit %d, Sättigung %d"
-#define TEXT_COLOUR_CUSTOM "Eigene Farben"
+#define TEXT_COLOUR_CUSTOM "Benutzerdefinierte Farben"
 #define TEXT_COLOUR_RECENT "Zuletzt verwendete Farben"
 #define TEXT_COLOUR_TAKE "Übernehmen"
 #define TEXT_COLOUR_OPEN "Öffnen"

@@ -43,7 +43,7 @@
 #define TEXT_COLOUR_RING "Odcień"
 #define TEXT_COLOUR_TRIANGLE "Jasność i nasycenie"
 #define TEXT_COLOUR_SHADE "jasność %d, nasycenie %d"
-#define TEXT_COLOUR_CUSTOM "Własne kolory"
+#define TEXT_COLOUR_CUSTOM "Kolory niestandardowe"
 #define TEXT_COLOUR_RECENT "Ostatnio używane kolory"
 #define TEXT_COLOUR_TAKE "Wybierz"
 #define TEXT_COLOUR_OPEN "Otwórz"

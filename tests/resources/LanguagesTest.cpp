@@ -101,6 +101,12 @@ TEST_P(Language, HasALetterWhereEnglishHasOne)
     compare(missingMnemonics);
 }
 
+TEST_P(Language, HasNoBlankBesideAMarkAtWhichALineCouldBeBroken)
+{
+    for (const HMODULE module : {strings(), messages(), framework()})
+        EXPECT_EQ(linesOf(blankProblems(textsOf(module, GetParam()))), "");
+}
+
 TEST_P(Language, HasNoStringThatIsCutWhenItIsLoaded)
 {
     for (const HMODULE module : {strings(), framework()})

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <optional>
 #include <regex>
+#include <string_view>
 
 namespace
 {
@@ -121,6 +122,20 @@ Problems missingMnemonics(const Texts& english, const Texts& other)
         if (mnemonicOf(one).has_value() != mnemonicOf(two).has_value())
             problems.push_back(place + L": \"" + one + L"\" and \"" + two + L"\"");
     });
+    return problems;
+}
+
+Problems blankProblems(const Texts& texts)
+{
+    constexpr std::wstring_view kClosing = L":;?!»";
+    Problems problems;
+    for (const auto& [place, text] : texts)
+        for (std::size_t at = text.find(L' '); at != text.npos; at = text.find(L' ', at + 1)) {
+            const bool opens = at > 0 && text[at - 1] == L'«';
+            const bool closes = at + 1 < text.size() && kClosing.find(text[at + 1]) != kClosing.npos;
+            if (opens || closes)
+                problems.push_back(place + L" has an ordinary blank beside a mark: " + text);
+        }
     return problems;
 }
 

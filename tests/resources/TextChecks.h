@@ -26,5 +26,9 @@ Problems mnemonicProblems(const TextGroup& group);
 /// Texts that have a letter in English and none here, or the other way round.
 Problems missingMnemonics(const Texts& english, const Texts& other);
 
+/// Ordinary blanks before : ; ? ! and », or behind «, at which a line could be broken: French has no-break
+/// spaces there, the other languages none.
+Problems blankProblems(const Texts& texts);
+
 /// Strings and formats that are longer than what takes them.
 Problems lengthProblems(const Texts& texts);

@@ -31,6 +31,7 @@ TEST(TextChecks, FindNothingWrongWithEqualTexts)
     EXPECT_TRUE(specifierProblems(kEnglish, kEnglish).empty());
     EXPECT_TRUE(lineProblems(kEnglish, kEnglish).empty());
     EXPECT_TRUE(missingMnemonics(kEnglish, kEnglish).empty());
+    EXPECT_TRUE(blankProblems(kEnglish).empty());
     EXPECT_TRUE(lengthProblems(kEnglish).empty());
 }
 
@@ -72,6 +73,13 @@ TEST(TextChecks, FindALetterThatTwoTextsWant)
     EXPECT_TRUE(mnemonicProblems({L"menu", {L"&Copy", L"Clo&se", L"Cut && carry", L"Cancel"}}).empty());
     EXPECT_EQ(missingMnemonics(kEnglish, changed(L"string 2", L"Öffnen")).size(), 1u);
     EXPECT_EQ(missingMnemonics(kEnglish, changed(L"string 1", L"%d &von %s")).size(), 1u);
+}
+
+TEST(TextChecks, FindAnOrdinaryBlankBesideAMark)
+{
+    for (const wchar_t* text : {L"Nom :", L"Ouvrir ?", L"«\u00a0%s »", L"« %s\u00a0»", L"Attention !", L"un ; deux"})
+        EXPECT_EQ(blankProblems(changed(L"string 2", text)).size(), 1u) << text;
+    EXPECT_TRUE(blankProblems(changed(L"string 2", L"«\u00a0%s\u00a0»\u00a0: https:, ici")).empty());
 }
 
 TEST(TextChecks, FindStringsThatAreTooLong)
