@@ -5,10 +5,26 @@
 
 #include <ovoui/lists/ListFinder.h>
 
+namespace
+{
+
+constexpr wchar_t kSection[] = L"tree"; // of the profile
+constexpr wchar_t kProjectView[] = L"ProjectView";
+constexpr wchar_t kArchiveView[] = L"ArchiveView";
+
+std::wstring savedView(const wchar_t* entry)
+{
+    return AfxGetApp()->GetProfileString(kSection, entry).GetString();
+}
+
+} // namespace
+
 BEGIN_MESSAGE_MAP(TreePage, GalleryPage)
     ON_BN_CLICKED(IDC_TREE_READ_ONLY, &TreePage::OnReadOnly)
     ON_BN_CLICKED(IDC_TREE_EXTRAS, &TreePage::OnExtras)
     ON_EN_CHANGE(IDC_TREE_FILTER, &TreePage::OnFilter)
+    ON_BN_CLICKED(IDC_TREE_SAVE_VIEW, &TreePage::OnSaveView)
+    ON_BN_CLICKED(IDC_TREE_RESTORE_VIEW, &TreePage::OnRestoreView)
 END_MESSAGE_MAP()
 
 TreePage::TreePage()
@@ -35,6 +51,8 @@ BOOL TreePage::OnInitDialog()
     stretch(IDC_TREE_PROJECT, {.growX = 50, .growY = 100});
     stretch(IDC_TREE_ARCHIVE_LABEL, {.moveX = 50});
     stretch(IDC_TREE_ARCHIVE, {.moveX = 50, .growX = 50, .growY = 100});
+    for (const int id : {IDC_TREE_SAVE_VIEW, IDC_TREE_RESTORE_VIEW})
+        stretch(id, {.moveX = 100, .moveY = 100});
     stretch(IDC_TREE_TEXT_LABEL, {.moveY = 100});
     stretch(IDC_TREE_TEXT, {.moveY = 100, .growX = 100});
     for (const int id : {IDC_TREE_READ_ONLY, IDC_TREE_EXTRAS, IDC_TREE_FILTER_LABEL})
@@ -77,6 +95,22 @@ void TreePage::OnFilter()
     for (ProjectPane* const pane : {&m_project, &m_archive})
         pane->tree().setFilter(part.empty() ? nullptr
                                             : std::function<bool(const MultiTreeCtrl::Node&)>(keeps));
+}
+
+// What the trees show, also when the page is opened again
+
+void TreePage::OnSaveView()
+{
+    AfxGetApp()->WriteProfileString(kSection, kProjectView, m_project.tree().saveView().c_str());
+    AfxGetApp()->WriteProfileString(kSection, kArchiveView, m_archive.tree().saveView().c_str());
+    log(L"what is open and selected in the trees is in the profile");
+}
+
+void TreePage::OnRestoreView()
+{
+    m_project.tree().restoreView(savedView(kProjectView));
+    m_archive.tree().restoreView(savedView(kArchiveView));
+    log(savedView(kProjectView).empty() ? L"no view was saved" : L"the trees show what was saved");
 }
 
 // Pictures

@@ -20,6 +20,8 @@ protected:
     afx_msg void OnReadOnly();
     afx_msg void OnExtras();
     afx_msg void OnFilter();
+    afx_msg void OnSaveView();
+    afx_msg void OnRestoreView();
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -7,8 +7,6 @@
 
 #include <vssym32.h>
 
-#include <optional>
-
 using Check = MultiTreeCtrl::Checkable::Check;
 
 namespace
@@ -147,8 +145,13 @@ void MultiTreeCtrl::CheckBoxConcern::ends(const Message& message, LRESULT)
 
 void MultiTreeCtrl::CheckBoxConcern::toggle(HTREEITEM item)
 {
-    if (has(item))
-        set({item}, wanted(item));
+    if (!has(item))
+        return;
+    const HostCalls host(tree());
+    const Tracker clicked(shared(), item);
+    const std::optional<bool> on = wanted(item);
+    if (on && host.usable() && clicked)
+        set({clicked.item()}, *on);
 }
 
 void MultiTreeCtrl::CheckBoxConcern::toggleCaret()
@@ -157,19 +160,19 @@ void MultiTreeCtrl::CheckBoxConcern::toggleCaret()
     const Tracker caret(shared(), view().caret());
     if (!has(caret.item()))
         return;
-    const bool on = wanted(caret.item());
-    if (!host.usable() || !caret)
+    const std::optional<bool> on = wanted(caret.item());
+    if (!on || !host.usable() || !caret)
         return;
     if (view().isSelected(caret.item()))
-        set(m_state.selectedItems(), on);
+        set(m_state.selectedItems(), *on);
     else
-        set({caret.item()}, on);
+        set({caret.item()}, *on);
 }
 
 /// A mixed box becomes checked.
-bool MultiTreeCtrl::CheckBoxConcern::wanted(HTREEITEM item) const
+std::optional<bool> MultiTreeCtrl::CheckBoxConcern::wanted(HTREEITEM item) const
 {
-    bool on = false;
+    std::optional<bool> on;
     HostCalls(tree()).report([&] {
         const OVO::Handle<Node> node = view().node(item);
         on = checkable(node.get())->check() != Check::On;

@@ -3,6 +3,8 @@
 
 #include <ovoui/tree/Concern.h>
 
+#include <optional>
+
 class MultiTreeCtrl::CheckBoxConcern final : public Concern
 {
 public:
@@ -26,7 +28,8 @@ private:
     void showAll();
     void show(HTREEITEM item) const;
     void set(const std::vector<HTREEITEM>& items, bool on);
-    bool wanted(HTREEITEM item) const;
+    /// What a box is to become; nothing when the node raises an error instead of an answer.
+    std::optional<bool> wanted(HTREEITEM item) const;
     static Checkable* checkable(const Node* node);
 
     bool m_on = false;

@@ -7,6 +7,7 @@
 #include <ovoui/tree/core/FilterRule.h>
 
 using ovoui::frame::keepFirst;
+using ovoui::frame::keeping;
 using ovoui::frame::raise;
 using ovoui::tree::FilteredItem;
 using ovoui::tree::ParentNotificationFilter;
@@ -15,26 +16,30 @@ using ovoui::tree::ParentNotificationFilter;
 
 void MultiTreeCtrl::setFilter(std::function<bool(const Node&)> keeps)
 {
-    m_state->filter->set(std::move(keeps));
+    const std::shared_ptr<State> state = m_state; // a node may delete the tree
+    state->filter->set(std::move(keeps));
 }
 
 /// The host may set another filter while it is asked: then that one counts.
 void MultiTreeCtrl::Filter::set(Test keeps)
 {
+    std::exception_ptr foreign;
+    keepFirst(foreign, [this] { closeEditor(); });
     const unsigned version = ++m_version;
     m_keeps = std::move(keeps);
-    if (!m_state.usable())
+    if (!m_state.usable()) {
+        raise(foreign);
         return;
+    }
     const HostCalls host(tree());
     const Tracker caret(shared(), view().caret());
     const std::size_t selected = m_state.selectedItems().size();
-    std::exception_ptr foreign;
     {
         const LayoutHold hold(tree());
         const ParentNotificationFilter quiet(tree().m_hWnd);
         keepFirst(foreign, [&] { showAll(); });
         if (host.usable() && version == m_version && m_keeps)
-            keepFirst(foreign, [&] { hideBelow(TVI_ROOT); });
+            keepFirst(foreign, [&] { hideAll(version); });
     }
     if (host.usable() && (caret.moved() || m_state.selectedItems().size() != selected))
         keepFirst(foreign,
@@ -42,7 +47,28 @@ void MultiTreeCtrl::Filter::set(Test keeps)
     raise(foreign);
 }
 
+/// The node whose label is edited hears of its end, and may set a filter: not when items are being taken out
+/// already.
+void MultiTreeCtrl::Filter::closeEditor() const
+{
+    if (m_state.usable() && view().isEditing())
+        tree().DefWindowProc(TVM_ENDEDITLABELNOW, FALSE, 0);
+}
+
 // Hiding
+
+/// Where a node gives no answer there is no filter.
+void MultiTreeCtrl::Filter::hideAll(unsigned version)
+{
+    const HostCalls host(tree());
+    std::vector<HTREEITEM> items;
+    const std::exception_ptr error = keeping([&] { items = itemsToHide(TVI_ROOT, version); });
+    if (error && version == m_version)
+        m_keeps = nullptr;
+    raise(error);
+    if (host.usable() && version == m_version)
+        hide(items);
+}
 
 void MultiTreeCtrl::Filter::hideBelow(HTREEITEM parent)
 {
@@ -91,18 +117,20 @@ std::vector<HTREEITEM> MultiTreeCtrl::Filter::itemsToHide(HTREEITEM parent, unsi
 void MultiTreeCtrl::Filter::hide(const std::vector<HTREEITEM>& items)
 {
     const HostCalls host(tree());
+    const unsigned version = m_version;
     std::exception_ptr foreign;
     ItemList(shared(), items).forEach([&](HTREEITEM item) {
-        if (!host.usable())
+        if (!host.usable() || version != m_version)
             return;
         const HTREEITEM above = view().next(TVGN_PARENT, item);
+        const bool aboveOpen = above && view().isOpen(above);
         const Tracker parent(shared(), above);
         Hidden hidden = remembered(item);
         Family& family = familyOf(above ? above : TVI_ROOT);
         family.hidden.emplace(hidden.node.get(), std::move(hidden));
         keepFirst(foreign, [&] { view().remove(item); });
         if (host.usable() && parent)
-            keepFirst(foreign, [&] { keepButton(parent.item()); });
+            keepFirst(foreign, [&] { keepLooks(parent.item(), aboveOpen); });
     });
     raise(foreign);
 }
@@ -126,8 +154,8 @@ MultiTreeCtrl::Filter::Family& MultiTreeCtrl::Filter::familyOf(HTREEITEM parent)
     return found->second;
 }
 
-/// Without its last child the tree view takes the button from an item.
-void MultiTreeCtrl::Filter::keepButton(HTREEITEM parent) const
+/// Without its last child the tree view takes the button from an item, and may close it.
+void MultiTreeCtrl::Filter::keepLooks(HTREEITEM parent, bool open) const
 {
     const OVO::Handle<Node> node = view().node(parent);
     if (!node || view().firstChild(parent))
@@ -136,6 +164,10 @@ void MultiTreeCtrl::Filter::keepButton(HTREEITEM parent) const
     changes.mask = TVIF_HANDLE | TVIF_CHILDREN;
     changes.hItem = parent;
     changes.cChildren = node->children;
+    if (open && !view().isOpen(parent)) {
+        changes.mask |= TVIF_STATE;
+        changes.state = changes.stateMask = TVIS_EXPANDED;
+    }
     tree().DefWindowProc(TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&changes));
 }
 

@@ -37,6 +37,8 @@ private:
     };
     using Families = std::unordered_map<HTREEITEM, Family>; ///< by parent, TVI_ROOT for the top level
 
+    void closeEditor() const;
+    void hideAll(unsigned version);
     void hideBelow(HTREEITEM parent);
     std::vector<HTREEITEM> itemsToHide(HTREEITEM parent, unsigned version) const;
     void hide(const std::vector<HTREEITEM>& items);
@@ -45,7 +47,7 @@ private:
     void showAll();
     void showFamily(HTREEITEM parent, const Family& family);
     HTREEITEM show(const Hidden& hidden, HTREEITEM parent, HTREEITEM after);
-    void keepButton(HTREEITEM parent) const;
+    void keepLooks(HTREEITEM parent, bool open) const;
     void letGo(Families::iterator family);
     void letGo(Hidden& hidden);
 

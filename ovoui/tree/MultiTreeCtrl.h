@@ -198,10 +198,11 @@ public:
     void setFilter(std::function<bool(const Node&)> keeps);
 
     /// Which items are open and selected, where the caret is and how far the tree is scrolled, as a text of
-    /// paths, for the host to keep.
+    /// paths, for the host to keep. It has a line for each item, which an entry of the registry holds and one
+    /// of an ini file does not. What a filter hides is not in it.
     std::wstring saveView();
     /// Opens, selects and scrolls to what saveView found in `view`, as far as it is there. Items that are
-    /// open stay so.
+    /// open stay so. A text that saveView did not write, such as an empty one, changes nothing.
     void restoreView(const std::wstring& view);
 
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override;

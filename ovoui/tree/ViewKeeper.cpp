@@ -76,6 +76,8 @@ void MultiTreeCtrl::ViewKeeper::restore(const std::wstring& text) const
 {
     const HostCalls host(m_tree);
     const SavedView saved = parseView(text);
+    if (saved == SavedView{})
+        return; // no text of ours: what the tree shows is not given up for nothing
     open(saved.open);
     if (host.usable())
         select(saved);

@@ -514,10 +514,52 @@ TEST(TreeCheckBoxes, WhatANodeRaisesIsReported)
     scene.user.click(boxOf(scene, "box"));
     EXPECT_EQ(scene.tree.errors, Journal{"locked"});
     node.checking = nullptr;
-    node.asking = [] { throw std::runtime_error("unknown"); };
-    scene.user.click(boxOf(scene, "box"));
-    EXPECT_EQ(scene.tree.errors.back(), "unknown");
-    node.asking = nullptr;
+    scene.journal.clear();
+    for (const bool byKey : {false, true}) {
+        node.asking = [] { throw std::runtime_error("unknown"); };
+        scene.tree.SelectItem(scene.item("box"));
+        scene.tree.errors.clear();
+        if (byKey)
+            scene.user.key(VK_SPACE);
+        else
+            scene.user.click(boxOf(scene, "box"));
+        EXPECT_EQ(scene.tree.errors, Journal{"unknown"});
+        EXPECT_EQ(scene.journal, Journal{}) << "what it is to become is not known";
+        node.asking = nullptr;
+    }
+}
+
+/// Not only its window.
+TEST(TreeCheckBoxes, OutliveATreeThatIsDeletedWhenANodeIsAsked)
+{
+    for (const bool byKey : {false, true}) {
+        RecordingParent parent;
+        auto tree = std::make_unique<TestTree>();
+        tree->setExtras(Extra::CheckBoxes);
+        tree->Create(Scene::kStyle, CRect(0, 0, 200, 200), &parent, 1);
+        auto* const node = new CheckedNode("box");
+        const HTREEITEM item = node->insert(*tree, TVI_ROOT, TVI_LAST);
+        tree->SelectItem(item);
+        CRect label;
+        tree->GetItemRect(item, &label, TRUE);
+        const int y = label.CenterPoint().y;
+        const auto isOnBox = [&](int x) {
+            UINT flags = 0;
+            tree->CTreeCtrl::HitTest(CPoint(x, y), &flags);
+            return (flags & TVHT_ONITEMSTATEICON) != 0;
+        };
+        int x = 0;
+        while (x < label.left && !isOnBox(x))
+            ++x;
+        ASSERT_LT(x, label.left);
+        node->asking = [&] { tree.reset(); };
+        if (byKey)
+            tree->SendMessage(WM_KEYDOWN, VK_SPACE, 1);
+        else
+            tree->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+        EXPECT_EQ(tree, nullptr);
+        EXPECT_EQ(TestNode::live(), 0);
+    }
 }
 
 TEST(TreeCheckBoxes, OutliveWhatANodeDoes)

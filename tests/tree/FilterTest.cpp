@@ -46,6 +46,28 @@ struct Garden : Scene
                            "rowan", "sheds", "spade", "rope",   "gate"};
 };
 
+/// A tree view that closes an item with its last child.
+LRESULT CALLBACK closingWithTheLastChild(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                         DWORD_PTR)
+{
+    const auto item = reinterpret_cast<HTREEITEM>(lParam);
+    if (message != TVM_DELETEITEM || !item || item == TVI_ROOT)
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    const auto next = [window](WPARAM relation, LPARAM from) {
+        return ::DefSubclassProc(window, TVM_GETNEXTITEM, relation, from);
+    };
+    const LPARAM parent = next(TVGN_PARENT, lParam);
+    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+    if (parent && !next(TVGN_CHILD, parent)) {
+        TVITEMW closed{};
+        closed.mask = TVIF_HANDLE | TVIF_STATE;
+        closed.hItem = reinterpret_cast<HTREEITEM>(parent);
+        closed.stateMask = TVIS_EXPANDED;
+        ::DefSubclassProc(window, TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&closed));
+    }
+    return result;
+}
+
 } // namespace
 
 TEST(TreeFilter, KeepsTheHitsAndWhatTheyAreIn)
@@ -149,6 +171,30 @@ TEST(TreeFilter, KeepsTheButtonOfAHitWhoseChildrenAreHidden)
     EXPECT_EQ(item.cChildren, 1);
 }
 
+TEST(TreeFilter, AnItemWhoseChildrenAreHiddenStaysOpenWhateverTheTreeViewDoes)
+{
+    RecordingParent parent;
+    const HWND plain = ::CreateWindowExW(0, WC_TREEVIEWW, L"", Scene::kStyle, 0, 0, 200, 200, parent.m_hWnd,
+                                         reinterpret_cast<HMENU>(1), nullptr, nullptr);
+    ASSERT_TRUE(::SetWindowSubclass(plain, &closingWithTheLastChild, 1, 0));
+    TestTree tree;
+    ASSERT_TRUE(tree.SubclassWindow(plain));
+    auto* const sheds = new TestNode("sheds");
+    sheds->children = 1;
+    sheds->childNames = {"spade", "rope"};
+    const HTREEITEM item = sheds->insert(tree, TVI_ROOT, TVI_LAST);
+    tree.Expand(item, TVE_EXPAND);
+    const auto isOpen = [&] { return (tree.GetItemState(item, TVIS_EXPANDED) & TVIS_EXPANDED) != 0; };
+    ASSERT_TRUE(isOpen());
+    tree.setFilter(with("sheds"));
+    EXPECT_EQ(tree.GetChildItem(item), nullptr);
+    EXPECT_TRUE(isOpen());
+    tree.setFilter(nullptr);
+    EXPECT_EQ(tree.GetCount(), 3u);
+    EXPECT_TRUE(isOpen());
+    tree.DestroyWindow();
+}
+
 TEST(TreeFilter, WhatIsInsertedStaysUntilTheNextFilter)
 {
     Garden scene;
@@ -202,6 +248,27 @@ TEST(TreeFilter, WhatTheFunctionRaisesPassesOnAndAllIsShown)
     }),
                  std::runtime_error);
     EXPECT_EQ(scene.all(), scene.everything);
+    // And there is no filter for what is opened later.
+    scene.tree.Expand(scene.item("sheds"), TVE_COLLAPSE);
+    scene.tree.Expand(scene.item("sheds"), TVE_EXPAND);
+    EXPECT_EQ(scene.all(), scene.everything);
+    EXPECT_EQ(scene.tree.errors, Journal{});
+}
+
+TEST(TreeFilter, WhatANodeDoesWhenItsEditorClosesLosesNoNode)
+{
+    Garden scene;
+    TestNode& rope = scene.node("rope");
+    rope.renamable = true;
+    rope.editEnds = [](MultiTreeCtrl& tree) { tree.setFilter(nullptr); };
+    scene.tree.SetFocus();
+    ASSERT_NE(scene.tree.EditLabel(scene.item("rope")), nullptr);
+    scene.tree.setFilter(with("rose"));
+    EXPECT_EQ(scene.tree.GetEditControl(), nullptr);
+    EXPECT_EQ(scene.all(), (Names{"beds", "rose"}));
+    scene.tree.setFilter(nullptr);
+    EXPECT_EQ(scene.all(), scene.everything);
+    EXPECT_EQ(TestNode::live(), 10);
 }
 
 TEST(TreeFilter, OutlivesWhatTheHostDoesMeanwhile)

@@ -120,6 +120,20 @@ TEST(TreeView, TakesAnyText)
     }
 }
 
+/// An entry of the profile that is missing or damaged.
+TEST(TreeView, LeavesTheTreeAloneWhereNothingIsSaved)
+{
+    Scene scene;
+    fill(scene);
+    const std::wstring shown = arranged(scene);
+    scene.forget();
+    for (const wchar_t* const text : {L"", L"nonsense", L"open ", L"\\\n\\", L"caret"}) {
+        scene.tree.restoreView(text);
+        EXPECT_EQ(scene.tree.saveView(), shown) << narrow(text);
+    }
+    EXPECT_EQ(scene.changes(), Changes{});
+}
+
 /// Nodes are asked for their texts, and may do anything.
 TEST(TreeView, OutlivesWhatANodeDoes)
 {

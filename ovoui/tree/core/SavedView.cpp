@@ -44,6 +44,8 @@ void readLine(std::wstring_view line, SavedView& view)
         return;
     const std::wstring_view kind = line.substr(0, blank);
     TreePath path = parsePath(line.substr(blank + 1));
+    if (path.empty())
+        return; // the line is cut off
     if (kind == kOpen)
         view.open.push_back(std::move(path));
     else if (kind == kSelected)

@@ -19,6 +19,7 @@ TEST(SavedView, LeavesOutWhatItDoesNotKnow)
 {
     EXPECT_EQ(parseView(L"zoom /a\nopen\n\nopen /b\ngarbage"), (SavedView{{{{L"b"}}}, {}, {}, {}, {}}));
     EXPECT_EQ(parseView(L"open /b"), (SavedView{{{{L"b"}}}, {}, {}, {}, {}})); // no line end
+    EXPECT_EQ(parseView(L"open \nselected \ncaret "), SavedView{});
 }
 
 /// Texts of whatever characters come back, those with a meaning among them.
