@@ -2,9 +2,11 @@
 
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/FontDC.h>
+#include <ovoui/frame/HeldKeysNow.h>
 #include <ovoui/frame/MessageBoxIds.h>
 #include <ovoui/frame/Module.h>
 #include <ovoui/frame/core/BoxAnswers.h>
+#include <ovoui/frame/core/BoxKeys.h>
 #include <ovoui/frame/core/LineEnds.h>
 #include <ovouires/resource.h>
 
@@ -87,6 +89,10 @@ BOOL COVOMessageDialogBox::PreTranslateMessage(MSG* message)
 {
     if (endsCountdown(message->message))
         stopCountdown();
+    if (copiesDetails(*message)) {
+        GetDlgItem(kDetailsId)->SendMessage(WM_COPY);
+        return TRUE;
+    }
     return COVOMsgBoxDlg::PreTranslateMessage(message);
 }
 
@@ -194,6 +200,19 @@ void COVOMessageDialogBox::placeControls()
 }
 
 // Details
+
+/// Whether a key copies what is selected in the details, where it goes to, and not the message.
+bool COVOMessageDialogBox::copiesDetails(const MSG& message)
+{
+    const CWnd* const details = GetDlgItem(kDetailsId);
+    if (message.message != WM_KEYDOWN || !details || message.hwnd != details->m_hWnd ||
+        !isCopyKey(static_cast<unsigned>(message.wParam), heldKeysNow()))
+        return false;
+    DWORD begin = 0;
+    DWORD end = 0;
+    details->SendMessage(EM_GETSEL, reinterpret_cast<WPARAM>(&begin), reinterpret_cast<LPARAM>(&end));
+    return begin != end;
+}
 
 void COVOMessageDialogBox::OnDetails()
 {

@@ -33,6 +33,7 @@ private:
     static ovoui::frame::MessageBoxButtons buttonsOf(const COVOMessageDialog& message);
     ovoui::frame::Extent measuredLabel(const std::wstring& label);
     int detailsHeight();
+    bool copiesDetails(const MSG& message);
 
     // countdown
     void showCount(const std::wstring& label);

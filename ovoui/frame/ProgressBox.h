@@ -13,8 +13,9 @@
 
 class COVOProgressBoxDlg;
 
-/// The box is shown as long as the object lives, with its owner disabled. The work goes on in the thread that
-/// made it, which lets the messages of its windows through in Advance.
+/// The box is shown as long as the object lives, with its owner disabled; in place of a child, the window
+/// around it. The work goes on in the thread that made it, which lets the messages of its windows through in
+/// Advance.
 class OVOUI_API COVOProgressBox
 {
 public:

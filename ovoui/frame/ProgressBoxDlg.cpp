@@ -32,7 +32,7 @@ END_MESSAGE_MAP()
 
 COVOProgressBoxDlg::COVOProgressBoxDlg(HWND owner, const std::wstring& text, const std::wstring& caption)
     : COVOMsgBoxDlg({owner, text.c_str(), caption.c_str(), MB_ICONASTERISK, L"", 0}, cancelAlone())
-    , m_owner(owner)
+    , m_owner(owner ? ::GetAncestor(owner, GA_ROOT) : nullptr) // a child owns nothing: its window does
 {
 }
 
@@ -44,9 +44,12 @@ void COVOProgressBoxDlg::open()
     if (m_disablesOwner)
         ::EnableWindow(m_owner, FALSE);
     m_opened = Create(IDD_MESSAGE_BOX, FromHandle(m_owner)) != FALSE;
-    if (m_opened)
+    if (m_opened) {
         ShowWindow(SW_SHOW);
-    else if (m_disablesOwner)
+        return;
+    }
+    m_cancelled = false; // by the end of a window that was not finished
+    if (m_disablesOwner)
         ::EnableWindow(m_owner, TRUE);
 }
 
@@ -56,9 +59,11 @@ void COVOProgressBoxDlg::close()
         DestroyWindow();
 }
 
-/// The owner is enabled before the box goes, or another program's window would be activated.
+/// The owner is enabled before the box goes, or another program's window would be activated. A box that goes
+/// with its owner cannot be cancelled any more: the work is to stop.
 void COVOProgressBoxDlg::OnDestroy()
 {
+    m_cancelled = true;
     if (m_disablesOwner && ::IsWindow(m_owner))
         ::EnableWindow(m_owner, TRUE);
     COVOMsgBoxDlg::OnDestroy();
@@ -146,7 +151,8 @@ bool COVOProgressBoxDlg::letMessagesThrough()
         return true;
     const Lifeline::Watch watch(m_lifeline);
     MSG message;
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) {
+    while (goesOnWithMessages(::GetTickCount64(), now) &&
+           ::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) {
         const bool goesOn = dispatchOne();
         if (!watch.alive())
             return false;
@@ -155,7 +161,6 @@ bool COVOProgressBoxDlg::letMessagesThrough()
             break;
         }
     }
-    m_cancelled = m_cancelled || !m_hWnd;
     m_lastMessages = ::GetTickCount64();
     return true;
 }
@@ -163,9 +168,8 @@ bool COVOProgressBoxDlg::letMessagesThrough()
 /// False when the program is to end, which its own loop is to learn as well.
 bool COVOProgressBoxDlg::dispatchOne()
 {
-    CWinThread& thread = *AfxGetThread();
-    if (thread.PumpMessage())
+    if (AfxPumpMessage())
         return true;
-    ::PostQuitMessage(static_cast<int>(thread.m_msgCur.wParam));
+    ::PostQuitMessage(static_cast<int>(AfxGetCurrentMessage()->wParam));
     return false;
 }

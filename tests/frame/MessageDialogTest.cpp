@@ -1,6 +1,7 @@
 // COVOMessageDialog: the host's buttons, details, answers that are kept, the count.
 #include "MessageBoxScene.h"
 
+#include <testkit/Clipboard.h>
 #include <testkit/GdiCounter.h>
 #include <testkit/TemporaryProfile.h>
 #include <testkit/WindowCounter.h>
@@ -189,6 +190,28 @@ TEST_F(MessageDialogTest, DetailsAreShownAndHiddenByTheirButton)
     EXPECT_EQ(open.TopLeft(), closed.TopLeft());
     EXPECT_EQ(buttonWhileOpen, button);
     EXPECT_EQ(again, closed);
+}
+
+TEST_F(MessageDialogTest, CtrlCCopiesWhatIsSelectedInTheDetails)
+{
+    COVOMessageDialog box(nullptr, L"The message.", L"Box", MB_OK);
+    box.SetDetails(L"Garden Sans\nHedge Serif");
+    const auto copied = [&](int begin, int end) {
+        emptyClipboard();
+        answerBy(box,
+                 whenOpen()
+                     .click([] { return control(kDetailsButtonId); })
+                     .waitFor("the details", &detailsShown)
+                     .click([] { return details(); })
+                     .waitFor("the focus", focusOn(kDetailsId))
+                     .then([=] { ::SendMessageW(details(), EM_SETSEL, static_cast<WPARAM>(begin), end); })
+                     .chordUntil("the text on the clipboard", VK_CONTROL, 'C',
+                                 [] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE; })
+                     .key(VK_ESCAPE));
+        return clipboardText();
+    };
+    EXPECT_EQ(copied(7, 11), L"Sans");
+    EXPECT_EQ(copied(7, 7), L"The message.");
 }
 
 // At the lower edge of the screen the box moves up to make room.

@@ -84,6 +84,20 @@ TEST(ProgressBox, LeavesAnOwnerDisabledThatWasDisabled)
     EXPECT_FALSE(owner.IsWindowEnabled());
 }
 
+TEST(ProgressBox, OfAChildDisablesTheWindowThatItIsIn)
+{
+    Owner owner;
+    CStatic child;
+    child.Create(L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 50), &owner);
+    {
+        const COVOProgressBox progress(child, L"Working", L"Box");
+        EXPECT_FALSE(owner.IsWindowEnabled());
+        EXPECT_EQ(::GetWindow(openBox(), GW_OWNER), owner.m_hWnd);
+    }
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_TRUE(child.IsWindowEnabled());
+}
+
 TEST(ProgressBox, ShowsTheShareThatIsDone)
 {
     COVOProgressBox progress(nullptr, L"Working", L"Box");
@@ -154,9 +168,37 @@ TEST(ProgressBox, AnOwnerDestroyedMeanwhileCancels)
     COVOProgressBox progress(*owner, L"Working", L"Box");
     EXPECT_TRUE(progress.Advance(1, 2));
     owner.reset();
-    workUntilCancelled(progress);
-    EXPECT_TRUE(progress.IsCancelled());
+    EXPECT_TRUE(progress.IsCancelled()) << "at once";
+    EXPECT_FALSE(progress.Advance(1, 2));
     progress.SetText(L"Nowhere");
+}
+
+/// Hangs where the work waits for a queue without messages.
+TEST(ProgressBox, TheWorkGoesOnBesideAWindowThatKeepsSendingItselfMessages)
+{
+    class Restless : public CStatic
+    {
+    public:
+        int heard = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message != WM_APP)
+                return CStatic::WindowProc(message, wParam, lParam);
+            ++heard;
+            PostMessage(WM_APP);
+            return 0;
+        }
+    };
+    Owner owner;
+    Restless restless;
+    restless.Create(L"", WS_CHILD, CRect(0, 0, 10, 10), &owner);
+    restless.PostMessage(WM_APP);
+    COVOProgressBox progress(nullptr, L"Working", L"Box");
+    EXPECT_TRUE(progress.Advance(1, 2));
+    EXPECT_GT(restless.heard, 0);
+    restless.DestroyWindow();
 }
 
 TEST(ProgressBox, MayBeDeletedByAMessageThatItLetsThrough)

@@ -77,7 +77,8 @@ TEST(TextChecks, FindALetterThatTwoTextsWant)
 
 TEST(TextChecks, FindAnOrdinaryBlankBesideAMark)
 {
-    for (const wchar_t* text : {L"Nom :", L"Ouvrir ?", L"«\u00a0%s »", L"« %s\u00a0»", L"Attention !", L"un ; deux"})
+    for (const wchar_t* text :
+         {L"Nom :", L"Ouvrir ?", L"«\u00a0%s »", L"« %s\u00a0»", L"Attention !", L"un ; deux"})
         EXPECT_EQ(blankProblems(changed(L"string 2", text)).size(), 1u) << text;
     EXPECT_TRUE(blankProblems(changed(L"string 2", L"«\u00a0%s\u00a0»\u00a0: https:, ici")).empty());
 }

@@ -7,7 +7,9 @@ namespace ovoui::frame
 namespace
 {
 
-constexpr std::uint64_t kPause = 20; // milliseconds for which the work is left alone
+// Milliseconds
+constexpr std::uint64_t kPause = 20;    // for which the work is left alone
+constexpr std::uint64_t kLongest = 200; // for which it waits, beside the last message
 
 } // namespace
 
@@ -22,6 +24,11 @@ std::optional<int> barPosition(std::uint64_t done, std::uint64_t total)
 bool letsMessagesThrough(std::uint64_t now, std::uint64_t last)
 {
     return now - last >= kPause;
+}
+
+bool goesOnWithMessages(std::uint64_t now, std::uint64_t begin)
+{
+    return now - begin < kLongest;
 }
 
 } // namespace ovoui::frame

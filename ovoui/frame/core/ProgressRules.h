@@ -17,4 +17,8 @@ std::optional<int> barPosition(std::uint64_t done, std::uint64_t total);
 /// Whether messages are let through again, at a time in milliseconds and after the last time.
 bool letsMessagesThrough(std::uint64_t now, std::uint64_t last);
 
+/// Whether one more waiting message is let through, at a time in milliseconds, when the first one was at
+/// `begin`. A window that keeps sending itself messages must not keep the work waiting for ever.
+bool goesOnWithMessages(std::uint64_t now, std::uint64_t begin);
+
 } // namespace ovoui::frame

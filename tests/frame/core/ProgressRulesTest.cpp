@@ -38,3 +38,10 @@ TEST(ProgressRules, MessagesPassAfterAPause)
         for (std::uint64_t later = 0; later < 100; ++later)
             EXPECT_EQ(letsMessagesThrough(last + later, last), later >= 20) << later;
 }
+
+TEST(ProgressRules, MessagesDoNotKeepTheWorkWaitingForEver)
+{
+    for (const std::uint64_t begin : {std::uint64_t{0}, std::uint64_t{1'000'000}})
+        for (std::uint64_t later = 0; later < 1000; ++later)
+            EXPECT_EQ(goesOnWithMessages(begin + later, begin), later < 200) << later;
+}
