@@ -83,6 +83,11 @@ Spot boxOf(Scene& scene, const std::string& name)
     });
 }
 
+/// With this extended style.
+class TreeBandInLayout : public ::testing::TestWithParam<DWORD>
+{
+};
+
 void type(Scene& scene, const std::string& text)
 {
     for (const char letter : text)
@@ -233,9 +238,13 @@ TEST(TreeBand, EscapeBringsTheSelectionBack)
     EXPECT_EQ(scene.changes(), Changes{});
 }
 
-TEST(TreeBand, ShowsItsFrameAndTakesItAway)
+/// Laid out from right to left, the tree counts its coordinates from its right edge.
+TEST_P(TreeBandInLayout, ShowsItsFrameAndTakesItAway)
 {
+    const bool mirrored = GetParam() != 0;
     Scene scene{{"a", "b", "c", "d"}};
+    scene.tree.ModifyStyleEx(0, GetParam(), SWP_FRAMECHANGED);
+    scene.tree.RedrawWindow();
     scene.tree.setExtras(Extra::RubberBand);
     const auto highlighted = [&](const std::string& name) {
         CRect rect;
@@ -249,13 +258,17 @@ TEST(TreeBand, ShowsItsFrameAndTakesItAway)
     bool during = false;
     scene.user.press(scene.beside("a"))
         .moveTo(scene.beside("d"))
-        .moveBy(30, 0)
+        .moveBy(mirrored ? -30 : 30, 0)
         .waitFor("all", [&] { return scene.selected().size() == 4; })
         .waitFor("the frame", [&] { return during = highlighted("b"); })
         .release()
         .waitFor("no frame", [&] { return !highlighted("b"); });
     EXPECT_TRUE(during);
+    EXPECT_EQ(scene.selected(), (Names{"a", "b", "c", "d"}));
 }
+
+INSTANTIATE_TEST_SUITE_P(Layouts, TreeBandInLayout, ::testing::Values(DWORD{0}, DWORD{WS_EX_LAYOUTRTL}),
+                         [](const auto& info) { return info.param ? "RightToLeft" : "LeftToRight"; });
 
 TEST(TreeBand, IsGivenUpAtOnceWhenAnotherWindowTakesTheMouse)
 {
