@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <utility>
 
 using namespace ovo::testkit;
@@ -76,6 +77,30 @@ TEST(TreeRules, KeysOfTheTreeViewLeaveOneItemSelected)
     scene.user.holding(VK_SHIFT).key(VK_END);
     EXPECT_EQ(scene.selected(), (Names{"a", "b", "c", "d"}));
     EXPECT_EQ(scene.changes(), (Changes{{TVC_BYKEYBOARD, "a", "d"}}));
+}
+
+TEST(TreeRules, ShiftWithPageKeysSelectsFromTheAnchor)
+{
+    Names names;
+    for (int i = 0; i < 60; ++i)
+        names.push_back(std::to_string(100 + i));
+    const auto range = [&](const std::string& first, const std::string& last) {
+        return Names(std::ranges::find(names, first), std::next(std::ranges::find(names, last)));
+    };
+    Scene scene{names};
+    scene.tree.SetFocus();
+    scene.user.click(scene.label("105"));
+    scene.forget();
+    scene.user.holding(VK_SHIFT).key(VK_NEXT);
+    const std::string below = scene.caret();
+    EXPECT_GT(below, "106");
+    EXPECT_EQ(scene.selected(), range("105", below));
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYKEYBOARD, "105", below}}));
+    scene.user.holding(VK_SHIFT).key(VK_END);
+    EXPECT_EQ(scene.selected(), range("105", "159"));
+    for (int i = 0; i < 60 && scene.caret() != "100"; ++i)
+        scene.user.holding(VK_SHIFT).key(VK_PRIOR);
+    EXPECT_EQ(scene.selected(), range("100", "105"));
 }
 
 TEST(TreeRules, ACommandThatANodeOffersIsTheNodesThoughTheParentDisablesIt)
