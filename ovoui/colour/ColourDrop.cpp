@@ -43,7 +43,7 @@ namespace
 // Pixels at 96 dots per inch
 constexpr int kCell = 18;
 constexpr int kMargin = 6;
-constexpr int kLineMargin = 4; // above and below the line's text
+constexpr int kLineMargin = 4; // around the line's text
 
 } // namespace
 
@@ -76,10 +76,14 @@ bool ColourDrop::open(CWnd& button)
     CClientDC dc(this);
     const auto scaled = [&dc](int length) { return frame::scaledTo(dc, length); };
     const frame::SelectedTool selected(dc, font());
-    const int lineHeight = dc.GetTextExtent(L"M", 1).cy + 2 * scaled(kLineMargin);
+    const std::wstring line = frame::withoutMnemonic(m_content.line);
+    const CSize text = dc.GetTextExtent(line.c_str(), static_cast<int>(line.size()));
     m_layout = std::make_unique<DropLayout>(
-        static_cast<int>(m_content.colours.size()), m_content.columns, !m_content.line.empty(),
-        DropLayout::Lengths{.cell = scaled(kCell), .margin = scaled(kMargin), .line = lineHeight});
+        static_cast<int>(m_content.colours.size()), m_content.columns, !line.empty(),
+        DropLayout::Lengths{.cell = scaled(kCell),
+                            .margin = scaled(kMargin),
+                            .line = text.cy + 2 * scaled(kLineMargin),
+                            .lineWidth = text.cx + 2 * scaled(kLineMargin)});
 
     CRect under;
     button.GetWindowRect(&under);

@@ -14,6 +14,7 @@
 #include <ovoui/colour/ColourDropper.h>
 #include <ovoui/colour/ColourGrid.h>
 #include <ovoui/frame/Geometry.h>
+#include <ovoui/frame/Language.h>
 #include <ovoui/frame/ThemeData.h>
 
 #include <afxext.h>
@@ -718,6 +719,30 @@ TEST_F(ColourButton, ItsOwnDialogGivesTheColour)
         .key(VK_RETURN)
         .waitFor("its end", [this] { return parent.log().count(kGridChosen) == 1; });
     EXPECT_EQ(now(), RGB(0, 128, 128));
+}
+
+TEST_F(ColourButton, TheLineHasRoomForItsTextInEveryLanguage)
+{
+    show();
+    for (const int columns : {1, 3, 8}) {
+        button->SetPalette({kLeaf, kRust, kSky}, columns);
+        for (const LANGID language : textLanguages()) {
+            ASSERT_TRUE(setTextLanguage(language));
+            button->DropDown();
+            const AccessibleView list(shownPopup());
+            const std::wstring text = list.name(4);
+            CClientDC dc(button.get());
+            CFont* const own = button->GetFont();
+            CFont* const before = dc.SelectObject(
+                own ? own : CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))));
+            EXPECT_GE(list.place(4).Width(), dc.GetTextExtent(text.c_str(), static_cast<int>(text.size())).cx)
+                << columns << " columns, language " << language;
+            EXPECT_FALSE(text.empty());
+            dc.SelectObject(before);
+            button->CloseUp();
+        }
+    }
+    setTextLanguage(0);
 }
 
 TEST_F(ColourButton, WithoutADialogThereAreOnlyColours)

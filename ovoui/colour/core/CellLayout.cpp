@@ -53,7 +53,7 @@ DropLayout::DropLayout(int count, int columns, bool hasLine, const Lengths& leng
     };
     const int across = extent(cells.columns);
     const int down = extent(cells.rows());
-    width = across + 2 * lengths.margin;
+    width = std::max(across, hasLine ? lengths.lineWidth : 0) + 2 * lengths.margin;
     height = down + 2 * lengths.margin + (hasLine ? lengths.line + lengths.margin : 0);
     cells.area = {lengths.margin, lengths.margin, lengths.margin + across, lengths.margin + down};
     if (hasLine)

@@ -30,7 +30,8 @@ struct DropLayout
     {
         int cell = 18; ///< a cell without its gap, both ways
         int margin = 6;
-        int line = 20; ///< the height of the line
+        int line = 20;     ///< the height of the line
+        int lineWidth = 0; ///< what it needs: few columns do not cut its text
     };
 
     DropLayout(int count, int columns, bool hasLine, const Lengths& lengths);

@@ -27,8 +27,10 @@ std::wstring asLabel(std::wstring_view text)
 std::wstring nameFromLabel(std::wstring_view label)
 {
     std::wstring name = withoutMnemonic(label);
-    if (name.ends_with(L':'))
+    if (name.ends_with(L':') || name.ends_with(L'\uFF1A')) {
         name.pop_back();
+        name.resize(name.find_last_not_of(L" \u00A0\u202F") + 1); // as French has before it
+    }
     return name;
 }
 

@@ -13,7 +13,8 @@ std::wstring withoutMnemonic(std::wstring_view label);
 /// A text as a label or a menu shows it whole, where a single ampersand would underline what follows.
 std::wstring asLabel(std::wstring_view text);
 
-/// What accessibility calls a control that stands behind a label: without the colon at its end, too.
+/// What accessibility calls a control that stands behind a label: without the colon at its end, too, and the
+/// blank that some languages have before it.
 std::wstring nameFromLabel(std::wstring_view label);
 
 } // namespace ovoui::frame

@@ -83,6 +83,21 @@ TEST(DropLayout, CellsAreSquareAndTheLineIsBelowThem)
     EXPECT_EQ(drop.at(1, 1), -1);
 }
 
+TEST(DropLayout, IsWideEnoughForItsLine)
+{
+    for (const int columns : {1, 2, 8}) {
+        const DropLayout::Lengths lengths{.cell = 20, .margin = 6, .line = 22, .lineWidth = 100};
+        const DropLayout drop(16, columns, true, lengths);
+        const DropLayout plain(16, columns, false, lengths);
+        EXPECT_EQ(drop.line.width(), columns == 8 ? plain.cells.area.width() : 100) << columns;
+        EXPECT_EQ(drop.width, drop.line.width() + 12) << columns;
+        EXPECT_EQ(drop.cells.area, plain.cells.area) << "the colours stay where they are";
+        EXPECT_EQ(plain.width, plain.cells.area.width() + 12) << "nothing needs more";
+    }
+    const DropLayout none(0, 1, true, {.cell = 20, .margin = 6, .line = 22, .lineWidth = 100});
+    EXPECT_EQ(none.line.width(), 100);
+}
+
 TEST(DropLayout, WithoutADialogThereIsNoLine)
 {
     const DropLayout drop(40, 8, false, {});

@@ -27,6 +27,11 @@ TEST(LabelText, TwoMarksAreOneAmpersand)
 TEST(LabelText, ANameHasNoColonAtItsEnd)
 {
     EXPECT_EQ(nameFromLabel(L"&Size:"), L"Size");
+    EXPECT_EQ(nameFromLabel(L"&Taille\u00A0:"), L"Taille");
+    EXPECT_EQ(nameFromLabel(L"Taille :"), L"Taille");
+    EXPECT_EQ(nameFromLabel(L"\u5927\u304D\u3055\uFF1A"), L"\u5927\u304D\u3055");
+    EXPECT_EQ(nameFromLabel(L"Size "), L"Size ");
+    EXPECT_EQ(nameFromLabel(L" :"), L"");
     EXPECT_EQ(nameFromLabel(L"Ratio 1:2"), L"Ratio 1:2");
     EXPECT_EQ(nameFromLabel(L":"), L"");
     EXPECT_EQ(nameFromLabel(L""), L"");
