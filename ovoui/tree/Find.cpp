@@ -46,8 +46,10 @@ bool MultiTreeCtrl::Find::takesKey(UINT message, UINT key)
         return !ctrlSpace && afterFindKey(m_finding, FindKey::Character, L' ').taken;
     case VK_BACK:
         return afterFindKey(m_finding, FindKey::Backspace).taken;
-    case VK_ESCAPE:
-        return press(FindKey::Escape);
+    case VK_ESCAPE: { // one that is over is not seen: the key goes on, and closes the dialog
+        const bool searching = isSearching();
+        return press(FindKey::Escape) && searching;
+    }
     case VK_F3:
         return press(isDown(VK_SHIFT) ? FindKey::Previous : FindKey::Next);
     default:

@@ -14,7 +14,10 @@ public:
     void extrasChange() override;
     bool takesKey(UINT message, UINT key) override;
     /// Whether Escape ends a search, and is not the dialog's.
-    bool isSearching() const { return m_on && !m_finding.text.empty(); }
+    bool isSearching() const
+    {
+        return m_on && !m_finding.over && !m_finding.text.empty() && m_found == view().caret();
+    }
 
     void itemGoes(HTREEITEM item) override;
     void allGo() override;

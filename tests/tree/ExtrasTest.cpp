@@ -368,6 +368,28 @@ TEST(TreeFind, EscapeAndAStepEndTheSearch)
     EXPECT_EQ(scene.caret(), "two");
 }
 
+TEST(TreeFind, EscapeIsWantedWhileSearchingOnly)
+{
+    Scene scene{{"one", "two", "three"}};
+    scene.tree.setExtras(Extra::FindAnywhere);
+    scene.tree.SetFocus();
+    MSG escape{scene.tree, WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
+    const auto wants = [&] {
+        return (scene.tree.SendMessage(WM_GETDLGCODE, VK_ESCAPE, reinterpret_cast<LPARAM>(&escape)) &
+                DLGC_WANTALLKEYS) != 0;
+    };
+    EXPECT_FALSE(wants());
+    type(scene, "tw");
+    EXPECT_TRUE(wants());
+    scene.user.key(VK_DOWN);
+    EXPECT_EQ(scene.caret(), "three");
+    EXPECT_FALSE(wants()) << "a step elsewhere has ended the search";
+    type(scene, "e");
+    EXPECT_TRUE(wants());
+    scene.user.key(VK_ESCAPE);
+    EXPECT_FALSE(wants());
+}
+
 TEST(TreeFind, LeavesSpaceToTheTreeUntilSomethingIsLookedFor)
 {
     Scene scene{{"a b", "ab"}};
