@@ -222,18 +222,20 @@ void COVOMessageDialogBox::OnDetails()
 /// The box grows and shrinks at its lower edge; its buttons stay where they are unless the screen ends there.
 void COVOMessageDialogBox::showDetails(bool show)
 {
+    CWnd* const details = GetDlgItem(kDetailsId);
+    if (!details)
+        return; // they could not be made
     const int before = boxExtras(m_controls, systemMetrics()).below;
     m_controls.detailsHeight = show ? detailsHeight() : 0;
     const int grown = boxExtras(m_controls, systemMetrics()).below - before;
 
-    CWnd& details = *GetDlgItem(kDetailsId);
-    if (!show && GetFocus() == &details)
+    if (!show && GetFocus() == details)
         GetDlgItem(kDetailsButtonId)->SetFocus();
     CRect window;
     GetWindowRect(&window);
     resize({window.Width(), window.Height() + grown});
     placeControls();
-    details.ShowWindow(show ? SW_SHOWNA : SW_HIDE);
+    details->ShowWindow(show ? SW_SHOWNA : SW_HIDE);
     SetDlgItemText(kDetailsButtonId,
                    ovoui::resourceString(show ? IDS_MESSAGE_HIDE_DETAILS : IDS_MESSAGE_SHOW_DETAILS).c_str());
 }

@@ -3,6 +3,7 @@
 
 #include <testkit/Clipboard.h>
 #include <testkit/GdiCounter.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/TemporaryProfile.h>
 #include <testkit/WindowCounter.h>
 
@@ -60,6 +61,16 @@ CRect workArea()
 Story clicking(int id)
 {
     return whenOpen().click([id] { return control(id); });
+}
+
+HWND WINAPI makeAllButDetails(DWORD extendedStyle, LPCWSTR windowClass, LPCWSTR name, DWORD style, int x,
+                              int y, int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
+                              void* data)
+{
+    if (reinterpret_cast<INT_PTR>(menu) == kDetailsId)
+        return nullptr;
+    return ::CreateWindowExW(extendedStyle, windowClass, name, style, x, y, width, height, parent, menu,
+                             instance, data);
 }
 
 int answerBy(const COVOMessageDialog& box, Story story)
@@ -190,6 +201,23 @@ TEST_F(MessageDialogTest, DetailsAreShownAndHiddenByTheirButton)
     EXPECT_EQ(open.TopLeft(), closed.TopLeft());
     EXPECT_EQ(buttonWhileOpen, button);
     EXPECT_EQ(again, closed);
+}
+
+TEST_F(MessageDialogTest, DetailsThatCannotBeMadeAreNotShown)
+{
+    const ImportPatch patch(L"ovoui.dll", "CreateWindowExW", reinterpret_cast<void*>(&makeAllButDetails));
+    COVOMessageDialog box(nullptr, L"The message.", L"Box", MB_OKCANCEL);
+    box.SetDetails(L"More");
+    CRect closed;
+    CRect after;
+    EXPECT_EQ(answerBy(box, whenOpen()
+                                .then([&] { closed = screenRect(openBox()); })
+                                .click([] { return control(kDetailsButtonId); })
+                                .waitFor("the focus", focusOn(kDetailsButtonId))
+                                .then([&] { after = screenRect(openBox()); })
+                                .key(VK_ESCAPE)),
+              IDCANCEL);
+    EXPECT_EQ(after, closed);
 }
 
 TEST_F(MessageDialogTest, CtrlCCopiesWhatIsSelectedInTheDetails)
