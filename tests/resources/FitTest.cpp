@@ -5,6 +5,7 @@
 
 #include <ovoui/colour/ColPickerPaletteDlg.h>
 #include <ovoui/frame/Language.h>
+#include <ovoui/frame/MessageBoxIds.h>
 #include <ovoui/frame/MessageDialog.h>
 #include <ovoui/sysinfo/ModuleListDlg.h>
 #include <ovouires/resource.h>
@@ -12,6 +13,9 @@
 #include <ovocor/Text.h>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -108,9 +112,13 @@ TEST_P(Fit, WhatAMessageDialogAdds)
                        .waitFor("the box",
                                 [&] {
                                     const HWND box = ovo::testkit::shownDialog();
-                                    if (box)
-                                        problems = fitProblems(box);
-                                    return box != nullptr;
+                                    if (!box)
+                                        return false;
+                                    problems = fitProblems(box);
+                                    const HWND details = ::GetDlgItem(box, ovoui::frame::kDetailsButtonId);
+                                    std::ranges::copy(fitProblems(details, string(IDS_MESSAGE_HIDE_DETAILS)),
+                                                      std::back_inserter(problems));
+                                    return true;
                                 })
                        .key(VK_ESCAPE)
                        .start();

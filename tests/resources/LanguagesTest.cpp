@@ -147,10 +147,12 @@ TEST_P(Language, HasDifferentLettersForTheButtonsOfEachMessageBox)
         {IDS_BUTTON_RETRY, IDS_BUTTON_CANCEL},
         {IDS_BUTTON_OK, IDS_BUTTON_CANCEL},
         {IDS_BUTTON_YES, IDS_BUTTON_YES_TO_ALL, IDS_BUTTON_NO, IDS_BUTTON_NO_TO_ALL, IDS_BUTTON_CANCEL}};
-    for (std::vector<UINT> set : sets) {
-        set.insert(set.end(), {IDS_BUTTON_HELP, IDS_MESSAGE_NOT_AGAIN, IDS_MESSAGE_SHOW_DETAILS});
-        EXPECT_EQ(linesOf(mnemonicProblems(group(L"the message box", set))), "");
-    }
+    for (const std::vector<UINT>& set : sets)
+        for (const UINT details : {IDS_MESSAGE_SHOW_DETAILS, IDS_MESSAGE_HIDE_DETAILS}) {
+            std::vector<UINT> together = set;
+            together.insert(together.end(), {IDS_BUTTON_HELP, IDS_MESSAGE_NOT_AGAIN, details});
+            EXPECT_EQ(linesOf(mnemonicProblems(group(L"the message box", together))), "");
+        }
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, Language, testing::ValuesIn(kLanguages));
