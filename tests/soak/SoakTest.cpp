@@ -3,7 +3,7 @@
 //   OVO_SOAK_STEPS=1000000 OVO_SEED=7 ./test_soak.exe     as many inputs as wanted, 20,000 by default
 //   OVO_SOAK_PAGE=lists ./test_soak.exe                   on one page alone
 #include "Driver.h"
-#include "GdiTypes.h"
+#include "support/GdiTypes.h"
 #include "support/HeapCounter.h"
 #include "WindowKinds.h"
 #include "gallery/GalleryScene.h"

@@ -1,4 +1,4 @@
-#include "GdiTypes.h"
+#include "support/GdiTypes.h"
 
 #include <testkit/GdiHandles.h>
 
