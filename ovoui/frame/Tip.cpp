@@ -38,7 +38,10 @@ bool Tip::create(HWND owner, Tool tool)
                               nullptr);
     m_tool = tool == Tool::Owner ? owner : m_tip;
     TOOLINFOW added = info();
-    return m_tip && ::SendMessageW(m_tip, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&added));
+    if (m_tip && ::SendMessageW(m_tip, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&added)))
+        return true;
+    destroy(); // without a tool it would never show anything
+    return false;
 }
 
 void Tip::destroy()

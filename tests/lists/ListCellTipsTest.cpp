@@ -1,6 +1,8 @@
 // Tips for cells whose text was cut.
 #include "ListScene.h"
 
+#include <testkit/ImportPatch.h>
+
 #include <ovoui/lists/ListCellTips.h>
 
 #include <gtest/gtest.h>
@@ -282,6 +284,31 @@ TEST_F(ListTips, TheTipHasTheListsFont)
     ::GetWindowRect(tips.Window(), &tip);
     EXPECT_GE(tip.Width(), width);
     scene.list.SetFont(nullptr);
+}
+
+static LRESULT WINAPI refuseTools(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return message == TTM_ADDTOOLW ? FALSE : ::SendMessageW(window, message, wParam, lParam);
+}
+
+TEST_F(ListTips, OneThatCouldNotBeMadeComesTheNextTime)
+{
+    const auto pointAt = [this](int row, int column) {
+        const CPoint middle = scene.cell(row, column).CenterPoint();
+        scene.list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(middle.x, middle.y));
+    };
+    rest(1, 1, false); // the pointer stays there
+    tips.Detach();     // it may have passed a cell with a tip
+    tips.Attach(scene.list);
+    {
+        const ImportPatch failing(L"ovoui.dll", "SendMessageW", reinterpret_cast<void*>(&refuseTools));
+        pointAt(0, 1);
+        EXPECT_FALSE(shows());
+    }
+    pointAt(1, 1);
+    pointAt(0, 1);
+    EXPECT_TRUE(shows());
+    EXPECT_EQ(shownText(), L"a cell with no room");
 }
 
 TEST_F(ListTips, TheListMayBeDestroyedFirst)
