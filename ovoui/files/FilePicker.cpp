@@ -44,11 +44,12 @@ public:
 
     bool isNewStyle() const { return m_bVistaStyle != FALSE; }
 
-    void askForFolders()
+    /// New style only. False when the dialog does not take it: it would give files.
+    bool askForFolders()
     {
         FILEOPENDIALOGOPTIONS options{};
-        m_pIFileDialog->GetOptions(&options);
-        m_pIFileDialog->SetOptions(options | FOS_PICKFOLDERS);
+        return SUCCEEDED(m_pIFileDialog->GetOptions(&options)) &&
+               SUCCEEDED(m_pIFileDialog->SetOptions(options | FOS_PICKFOLDERS));
     }
 
     /// Empty when the user cancels.
@@ -72,7 +73,7 @@ std::optional<fs::path> firstOf(const std::vector<fs::path>& paths)
     return paths.empty() ? std::nullopt : std::optional(paths.front());
 }
 
-/// Without a new-style dialog.
+/// Without a new-style dialog for folders.
 std::vector<fs::path> browseForFolder(const FolderQuestion& question)
 {
     wchar_t path[MAX_PATH]{};
@@ -85,9 +86,8 @@ std::vector<fs::path> browseForFolder(const FolderQuestion& question)
 std::vector<fs::path> foldersFor(const FileWish& wish, const FolderQuestion& question)
 {
     Picker picker(wish, {.parent = question.parent, .title = question.title, .folder = question.folder});
-    if (!picker.isNewStyle())
+    if (!picker.isNewStyle() || !picker.askForFolders())
         return browseForFolder(question);
-    picker.askForFolders();
     return picker.paths();
 }
 

@@ -125,3 +125,15 @@ TEST_F(FilePicker, AsksInTheClassicDialogsWhereThereAreNoOthers)
     auto cancelling = whenAsked().key(VK_ESCAPE).start();
     EXPECT_EQ(pickFolder({.folder = files.folder()}), std::nullopt);
 }
+
+TEST_F(FilePicker, ADialogThatDoesNotTakeFoldersIsNotAskedForOne)
+{
+    FakeShellDialog fake;
+    fake.results = {files.path(L"a.txt")}; // a file, which it would give
+    fake.optionsAnswer = E_INVALIDARG;
+    for (const bool several : {false, true}) {
+        auto cancelling = whenAsked().key(VK_ESCAPE).start();
+        const FolderQuestion question{.folder = files.folder()};
+        EXPECT_TRUE(several ? pickFolders(question).empty() : !pickFolder(question)) << several;
+    }
+}

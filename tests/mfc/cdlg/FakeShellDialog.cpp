@@ -112,8 +112,9 @@ public:
     }
     STDMETHODIMP SetOptions(FILEOPENDIALOGOPTIONS options) override
     {
-        s_current->options = static_cast<DWORD>(options);
-        return S_OK;
+        if (SUCCEEDED(s_current->optionsAnswer))
+            s_current->options = static_cast<DWORD>(options);
+        return s_current->optionsAnswer;
     }
     STDMETHODIMP GetOptions(FILEOPENDIALOGOPTIONS* options) override
     {

@@ -21,6 +21,7 @@ public:
     std::vector<std::wstring> results;                 ///< what the user accepts
     HRESULT creation = S_OK;                           ///< what making the dialog gives
     std::function<HRESULT(IFileDialogEvents&)> onShow; ///< instead of accepting the results
+    HRESULT optionsAnswer = S_OK;                      ///< what setting the options gives
 
     DWORD options = 0; ///< as they were set last
     GUID client{};     ///< likewise
