@@ -1,4 +1,6 @@
 // The context menu: the edit commands, greyed by the routing.
+#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/TreeState.h>
 
 #include <ovoui/frame/Module.h>
@@ -25,14 +27,12 @@ constexpr MenuLine kLines[] = {
     {ID_EDIT_SELECT_ALL, IDS_MENU_SELECT_ALL},
 };
 
-/// Below the caret's label, or in the corner of the tree, in screen coordinates.
-CPoint placeAt(CTreeCtrl& tree, HTREEITEM caret)
+/// Below the item's label or, without an item, in the corner of the tree, in screen coordinates.
+CPoint placeAt(const CTreeCtrl& tree, HTREEITEM item)
 {
     CRect label;
-    if (caret) {
-        tree.EnsureVisible(caret);
-        tree.GetItemRect(caret, &label, TRUE);
-    }
+    if (!item || !tree.GetItemRect(item, &label, TRUE))
+        label.SetRectEmpty();
     CPoint place(label.left, label.bottom);
     tree.ClientToScreen(&place);
     return place;
@@ -40,15 +40,25 @@ CPoint placeAt(CTreeCtrl& tree, HTREEITEM caret)
 
 } // namespace
 
+/// To show the caret, nodes around it may be asked to open, which may do anything to the tree. Where they
+/// refuse, the menu opens at the item that hides the caret.
 void MultiTreeCtrl::OnContextMenu(CWnd*, CPoint screen)
 {
+    const HostCalls host(*this);
+    const std::shared_ptr<State> state = m_state;
+    const bool keyboard = screen == CPoint(-1, -1);
+    const Tracker caret(state, keyboard ? state->view.caret() : nullptr);
+    if (caret)
+        EnsureVisible(caret.item());
+    if (!host.usable())
+        return;
+    const HTREEITEM shown = caret ? state->view.displayedFor(caret.item()) : nullptr;
     CMenu menu;
     menu.CreatePopupMenu();
     for (const MenuLine& line : kLines)
         menu.AppendMenu(line.text ? MF_STRING : MF_SEPARATOR, line.command,
                         line.text ? ovoui::resourceString(line.text).c_str() : nullptr);
-    const bool keyboard = screen == CPoint(-1, -1);
-    const CPoint place = keyboard ? placeAt(*this, m_state->view.caret()) : screen;
+    const CPoint place = keyboard ? placeAt(*this, shown) : screen;
     const UINT layout = (GetExStyle() & WS_EX_LAYOUTRTL) ? TPM_LAYOUTRTL : 0;
     menu.TrackPopupMenu(TPM_LEFTALIGN | TPM_RIGHTBUTTON | layout, place.x, place.y, this);
 }

@@ -329,6 +329,72 @@ TEST(TreeMenus, TheContextMenuOpensByKeyboardAtTheCaretAndRunsTheCommand)
     EXPECT_NEAR(menu.top, label.bottom, 8);
 }
 
+/// A tree whose caret "c" is in "a", which refuses to open.
+class HiddenCaret
+{
+public:
+    HiddenCaret()
+    {
+        tree->Create(Scene::kStyle, CRect(0, 0, 200, 200), &parent, 1);
+        (new TestNode("top"))->insert(*tree, TVI_ROOT, TVI_LAST);
+        (new TestNode("a"))->insert(*tree, TVI_ROOT, TVI_LAST);
+        around = tree->GetNextSiblingItem(tree->GetRootItem());
+        (new TestNode("c"))->insert(*tree, around, TVI_LAST);
+        tree->SelectItem(tree->GetChildItem(around));
+    }
+
+    TestNode& nodeAround() { return static_cast<TestNode&>(*tree->node(around)); }
+    void askForTheMenu()
+    {
+        const HWND wnd = tree->m_hWnd;
+        ::SendMessageW(wnd, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(wnd), MAKELPARAM(-1, -1));
+    }
+
+    RecordingParent parent{CSize(200, 200), L"Tree"};
+    std::unique_ptr<TestTree> tree = std::make_unique<TestTree>();
+    HTREEITEM around = nullptr;
+};
+
+TEST(TreeMenus, ANodeThatDestroysTheTreeWhenTheCaretIsToBeShownDoesNoHarm)
+{
+    for (const bool wholeObject : {false, true}) {
+        SCOPED_TRACE(wholeObject);
+        HiddenCaret scene;
+        bool asked = false;
+        scene.nodeAround().expanding = [&](MultiTreeCtrl&) {
+            asked = true;
+            if (wholeObject)
+                scene.tree.reset();
+            else
+                scene.tree->DestroyWindow();
+            return false;
+        };
+        scene.askForTheMenu();
+        EXPECT_TRUE(asked);
+        EXPECT_EQ(TestNode::live(), 0);
+    }
+}
+
+TEST(TreeMenus, TheContextMenuOpensAtTheClosedItemThatHidesTheCaret)
+{
+    HiddenCaret scene;
+    present(scene.parent);
+    CRect menu;
+    {
+        auto closing = Robot()
+                           .waitFor("the menu", [] { return shownMenu() != nullptr; })
+                           .then([&] { ::GetWindowRect(shownMenu(), &menu); })
+                           .key(VK_ESCAPE)
+                           .start();
+        scene.askForTheMenu();
+    }
+    CRect label;
+    scene.tree->GetItemRect(scene.around, &label, TRUE);
+    scene.tree->ClientToScreen(&label);
+    EXPECT_NEAR(menu.left, label.left, 8);
+    EXPECT_NEAR(menu.top, label.bottom, 8);
+}
+
 // Deleting
 
 TEST(TreeErasing, DeleteAsksAndErasesTheSelectedNodesThatAgree)
