@@ -20,7 +20,8 @@ struct UpdatePoliteness
 
 /// Shows the newer version `update` of `product` with the choices to open its page, to be reminded later, or
 /// to skip it; `memory` keeps the choice, and `politeness` says when later is. Closing the dialog puts it off
-/// too. `parent` may be null. Errors of `browseUrl` come out of here.
+/// too, and so does one that cannot be shown: the version is offered again later, and the server is not asked
+/// at every start meanwhile. `parent` may be null. Errors of `browseUrl` come out of here.
 OVOUI_API void offerUpdate(const std::wstring& product, const AvailableUpdate& update, UpdateMemory& memory,
                            const UpdatePoliteness& politeness = {}, CWnd* parent = nullptr);
 
