@@ -22,6 +22,37 @@ constexpr std::string_view kNotDrawn[] = {"defs",   "symbol",  "linearGradient",
                                           "title",  "desc",    "metadata",       "clipPath",       "mask",
                                           "marker", "pattern", "filter"};
 
+/// What drawings may ask for as a condition: the parts of the recommendation that are drawn here.
+constexpr std::string_view kFeatures[] = {"CoreAttribute",    "BasicStructure",        "Shape",
+                                          "PaintAttribute",   "BasicPaintAttribute",   "Gradient",
+                                          "OpacityAttribute", "ConditionalProcessing", "XlinkAttribute"};
+
+/// Addresses of features, apart by blanks. An empty list is a condition that does not hold.
+bool hasFeatures(std::string_view list)
+{
+    std::string_view rest = trimmed(list);
+    if (rest.empty())
+        return false;
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find_first_of(" \t\r\n\f"), rest.size());
+        const std::string_view address = rest.substr(0, end);
+        const std::size_t mark = std::min(address.find('#'), address.size() - 1);
+        if (!isOneOf(address.substr(mark + 1), kFeatures))
+            return false;
+        rest = trimmed(rest.substr(end));
+    }
+    return true;
+}
+
+/// Whether a child of a `switch` may be the one that is drawn. No extension is known, and a drawing looks the
+/// same in every language.
+bool conditionsHold(const XmlElement& element)
+{
+    const std::string* const features = element.find("requiredFeatures");
+    return !element.find("requiredExtensions") && !element.find("systemLanguage") &&
+           (!features || hasFeatures(*features));
+}
+
 } // namespace
 
 Renderer::Renderer(const XmlElement& root, int width, int height, std::vector<SvgNote>& notes,
@@ -120,6 +151,8 @@ void Renderer::drawByName(std::string_view name, const XmlElement& element, cons
 {
     if (name == "g" || name == "a") {
         drawChildren(element, context);
+    } else if (name == "switch") {
+        drawFirstChoice(element, context);
     } else if (name == "use") {
         drawReference(element, context);
     } else if (name == "svg") {
@@ -133,6 +166,19 @@ void Renderer::drawByName(std::string_view name, const XmlElement& element, cons
         drawShape(*shape, element, context, name != "line");
     } else {
         note(SvgIssue::NotSupported, element, std::string(name));
+    }
+}
+
+/// The first child that shows something and whose conditions hold; no other, even if it cannot be drawn.
+void Renderer::drawFirstChoice(const XmlElement& element, const Context& context)
+{
+    for (const XmlElement& child : element.children) {
+        m_budget.spend(child.cost());
+        const std::string_view name = nameOf(child);
+        if (name.empty() || isOneOf(name, kNotDrawn) || !conditionsHold(child))
+            continue;
+        drawElement(child, context);
+        return;
     }
 }
 

@@ -37,6 +37,7 @@ private:
     void drawElement(const XmlElement& element, const Context& parent);
     void drawChildren(const XmlElement& element, const Context& context);
     void drawByName(std::string_view name, const XmlElement& element, const Context& context);
+    void drawFirstChoice(const XmlElement& element, const Context& context);
     void drawReference(const XmlElement& use, const Context& context);
     void drawViewport(const XmlElement& element, const Context& context, const Box& room);
     template <class Draw>

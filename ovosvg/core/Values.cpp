@@ -63,12 +63,29 @@ std::optional<double> component(Scanner& scanner, double whole)
     const std::optional<double> value = scanner.number();
     if (!value)
         return std::nullopt;
-    const double result = scanner.take('%') ? *value / 100 * whole : *value;
+    return scanner.take('%') ? *value / 100 * whole : *value;
+}
+
+/// The hue of a colour function, in degrees.
+std::optional<double> hueFrom(Scanner& scanner)
+{
+    constexpr std::pair<std::string_view, double> kWholeTurns[] = {
+        {"", 360}, {"deg", 360}, {"grad", 400}, {"rad", 2 * kPi}, {"turn", 1}};
+    const std::optional<double> value = scanner.number();
+    const std::string_view unit = scanner.word();
+    for (const auto& [name, turn] : kWholeTurns)
+        if (value && unit == name)
+            return std::fmod(*value, turn) * (360 / turn);
+    return std::nullopt;
+}
+
+/// What stands between the numbers of a colour function.
+void skipSeparator(Scanner& scanner)
+{
     scanner.skipBlanks();
     if (!scanner.take(','))
         scanner.take('/');
     scanner.skipBlanks();
-    return result;
 }
 
 /// Red, green and blue from 0 to 255, of a hue in degrees and shares of 1.
@@ -97,9 +114,10 @@ std::optional<std::uint32_t> functionColour(std::string_view name, std::string_v
         if (i == 3 && scanner.atEnd())
             break;
         const double whole = i == 3 || isHsl ? 1 : 255;
-        const std::optional<double> value = component(scanner, whole);
+        const std::optional<double> value = isHsl && i == 0 ? hueFrom(scanner) : component(scanner, whole);
         if (!value)
             return std::nullopt;
+        skipSeparator(scanner);
         values[i] = *value;
     }
     if (!scanner.atEnd())

@@ -397,6 +397,44 @@ TEST(SvgDrawing, PrefixesAndForeignElements)
     EXPECT_THAT(notesOf("<title>t</title><desc/><metadata><x:y/></metadata><edit:view a='b'/>"), IsEmpty());
 }
 
+TEST(SvgDrawing, OfASwitchTheFirstChildThatMayBeIsDrawn)
+{
+    const std::string red = " width='16' height='16' fill='red'/>";
+    const std::string blue = "<rect width='16' height='16' fill='blue'/>";
+    const auto chosen = [&](const std::string& first) {
+        return drawn("<switch>" + first + blue + "</switch>");
+    };
+    const char* const holding[] = {"", "requiredFeatures='http://www.w3.org/TR/SVG11/feature#Shape'",
+                                   "requiredFeatures=' http://www.w3.org/TR/SVG11/feature#Shape\n"
+                                   "http://www.w3.org/TR/SVG11/feature#Gradient '"};
+    for (const char* condition : holding)
+        EXPECT_EQ(chosen(std::string("<rect ") + condition + red).at(4, 4), kRed) << condition;
+    const char* const failing[] = {"requiredExtensions='http://example.org/extension'",
+                                   "requiredExtensions=''",
+                                   "systemLanguage='en, de'",
+                                   "requiredFeatures=''",
+                                   "requiredFeatures='Shape#'",
+                                   "requiredFeatures='http://www.w3.org/TR/SVG11/feature#Text'",
+                                   "requiredFeatures='http://www.w3.org/TR/SVG11/feature#Shape "
+                                   "http://www.w3.org/TR/SVG11/feature#Text'"};
+    for (const char* condition : failing) {
+        const Pixels pixels = chosen(std::string("<rect ") + condition + red);
+        EXPECT_EQ(pixels.at(4, 4), kBlue) << condition;
+        EXPECT_THAT(pixels.notes, IsEmpty()) << condition;
+    }
+    EXPECT_EQ(chosen("<title>t</title><defs/><x:rect" + red).at(4, 4), kBlue) << "what shows nothing";
+    EXPECT_EQ(chosen("<g display='none'/>").area(), 0) << "chosen, and not displayed";
+    EXPECT_EQ(drawn("<switch transform='translate(8)' opacity='.5'>" + blue + "</switch>").at(4, 4), 0u);
+    EXPECT_EQ(drawn("<switch/>").area(), 0);
+}
+
+TEST(SvgDrawing, OfASwitchWhatIsNotChosenIsNotMissed)
+{
+    EXPECT_THAT(notesOf("<switch><foreignObject requiredExtensions='x'/><g/></switch>"), IsEmpty());
+    EXPECT_THAT(notesOf("<switch><g/><text/></switch>"), IsEmpty());
+    EXPECT_THAT(notesOf("<switch><text/><g/></switch>"), ElementsAre("not supported: text"));
+}
+
 // What is not drawn
 
 TEST(SvgDrawing, SaysWhatItDoesNotDraw)
@@ -546,6 +584,17 @@ TEST(SvgDrawing, WhatIsReadAgainAndAgainEnds)
     const std::string squares = many("<path d='M0 0h1v1z' fill='url(#b)'/>");
     EXPECT_FALSE(isTooMuch("<linearGradient id='b'/>" + squares));
     EXPECT_TRUE(isTooMuch("<linearGradient id='b'>" + many("<stop/>") + "</linearGradient>" + squares));
+}
+
+TEST(SvgDrawing, ThousandsOfSmallShapesFitIntoALargePicture)
+{
+    std::string dots;
+    for (int i = 0; i < 4000; ++i)
+        dots += "<rect x='" + std::to_string(i % 100 * 10) + "' y='" + std::to_string(i / 100 * 10) +
+                "' width='4' height='4' fill='red'/>";
+    const Pixels pixels(svg(dots, 1000), 1000);
+    EXPECT_EQ(pixels.area(), 4000 * 16);
+    EXPECT_EQ(pixels.at(993, 393), kRed);
 }
 
 TEST(SvgDrawing, LayersEnd)

@@ -73,12 +73,36 @@ TEST(Colours, AreWrittenInManyWays)
         {"hsl(-120, 100%, 50%)", 0xFF0000FF},
         {"hsla(60, 100%, 50%, 0.2)", 0x33FFFF00},
         {"hsl(77, 0%, 50%)", 0xFF808080},
+        {"hsl(120deg, 100%, 50%)", 0xFF00FF00},
+        {"HSL(240DEG 100% 50% / 50%)", 0x800000FF},
+        {"hsl(-240deg 100% 50%)", 0xFF00FF00},
+        {"hsl(133.33333grad, 100%, 50%)", 0xFF00FF00},
+        {"hsl(4.1887902rad, 100%, 50%)", 0xFF0000FF},
+        {"hsla(.5turn, 100%, 50%, 1)", 0xFF00FFFF},
+        {"hsl(1e300turn, 0%, 50%)", 0xFF808080},
     };
     for (const auto& [text, value] : known)
         EXPECT_EQ(colourFrom(text), value) << text;
-    for (const char* text :
-         {"", "#", "#12", "#12345", "#gggggg", "reddish", "rgb(1,2)", "rgb(1,2,3", "rgb(1,2,3,4,5)",
-          "rgb(a,b,c)", "currentColor", "none", "url(#a)", "cmyk(1,2,3)"})
+    for (const char* text : {"",
+                             "#",
+                             "#12",
+                             "#12345",
+                             "#gggggg",
+                             "reddish",
+                             "rgb(1,2)",
+                             "rgb(1,2,3",
+                             "rgb(1,2,3,4,5)",
+                             "rgb(a,b,c)",
+                             "currentColor",
+                             "none",
+                             "url(#a)",
+                             "cmyk(1,2,3)",
+                             "hsl(120 deg, 100%, 50%)",
+                             "hsl(120px, 100%, 50%)",
+                             "hsl(50%, 100%, 50%)",
+                             "hsl(deg, 100%, 50%)",
+                             "rgb(1deg, 2, 3)",
+                             "hsl(0, 1deg, 50%)"})
         EXPECT_FALSE(colourFrom(text)) << text;
 }
 
