@@ -1,8 +1,10 @@
 /// A picture in the making. Plain values, no windows.
 #pragma once
 
+#include <ovosvg/core/Coverage.h>
 #include <ovosvg/core/Gradient.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -19,15 +21,17 @@ public:
     int width() const { return m_width; }
     int height() const { return m_height; }
 
-    /// Lays a colour over all pixels, each as far as `coverage` says, which has a value for each of them.
+    /// Lays a colour over all pixels, each as far as it is covered.
     template <class ColourAt>
-    void paint(const std::vector<float>& coverage, double opacity, const ColourAt& colourAt)
+    void paint(const Covered& covered, double opacity, const ColourAt& colourAt)
     {
+        const Part& part = covered.part;
         std::size_t i = 0;
-        for (int y = 0; y < m_height; ++y)
-            for (int x = 0; x < m_width; ++x, ++i)
-                if (coverage[i] > 0)
-                    lay(i, colourAt(Point{x + 0.5, y + 0.5}), opacity * static_cast<double>(coverage[i]));
+        for (int y = part.top; y < part.top + part.height; ++y)
+            for (int x = part.left; x < part.left + part.width; ++x, ++i)
+                if (covered.values[i] > 0)
+                    lay(pixelAt(x, y), colourAt(Point{x + 0.5, y + 0.5}),
+                        opacity * static_cast<double>(covered.values[i]));
     }
 
     /// Lays another canvas of the same size over this one.
@@ -39,6 +43,10 @@ public:
     std::vector<std::uint32_t> straight() const;
 
 private:
+    std::size_t pixelAt(int x, int y) const
+    {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) + static_cast<std::size_t>(x);
+    }
     void lay(std::size_t pixel, const Rgba& colour, double share);
 
     int m_width;

@@ -74,15 +74,38 @@ private:
     const double m_height;
 };
 
+/// The pixels that edges reach, and another one at each side, where rounding may lead to.
+Part partReached(const std::vector<Edge>& edges, int width, int height)
+{
+    if (edges.empty())
+        return {};
+    double left = width;
+    double right = 0;
+    double top = height;
+    double bottom = 0;
+    for (const Edge& edge : edges) {
+        left = std::min({left, edge.top.x, edge.bottom.x});
+        right = std::max({right, edge.top.x, edge.bottom.x});
+        top = std::min(top, edge.top.y);
+        bottom = std::max(bottom, edge.bottom.y);
+    }
+    Part part;
+    part.left = std::max(0, static_cast<int>(left) - 1);
+    part.top = static_cast<int>(top);
+    part.width = std::min(width, static_cast<int>(right) + 2) - part.left;
+    part.height = static_cast<int>(std::ceil(bottom)) - part.top;
+    return part;
+}
+
 /// Collects what lies to the right of lines. Each pixel of `m_changes` is what it has more than the pixel to
 /// its left.
 class Accumulator
 {
 public:
-    Accumulator(int width, int height)
-        : m_width(width)
-        , m_stride(static_cast<std::size_t>(width) + 2)
-        , m_changes(m_stride * static_cast<std::size_t>(height))
+    explicit Accumulator(const Part& part)
+        : m_part(part)
+        , m_stride(static_cast<std::size_t>(part.width) + 2)
+        , m_changes(m_stride * static_cast<std::size_t>(part.height))
     {
     }
 
@@ -99,7 +122,7 @@ public:
                                      ? bottom.x
                                      : std::clamp(top.x + slope * (nextY - top.y), std::min(top.x, bottom.x),
                                                   std::max(top.x, bottom.x));
-            addInRow(static_cast<std::size_t>(row), std::min(x, nextX), std::max(x, nextX),
+            addInRow(static_cast<std::size_t>(row - m_part.top), std::min(x, nextX), std::max(x, nextX),
                      sign * (nextY - y));
             y = nextY;
             x = nextX;
@@ -109,10 +132,10 @@ public:
     std::vector<float> coverage() const
     {
         std::vector<float> result;
-        result.reserve(static_cast<std::size_t>(m_width) * (m_changes.size() / m_stride));
+        result.reserve(static_cast<std::size_t>(m_part.width) * static_cast<std::size_t>(m_part.height));
         for (std::size_t row = 0; row < m_changes.size(); row += m_stride) {
             double sum = 0;
-            for (std::size_t x = 0; x < static_cast<std::size_t>(m_width); ++x) {
+            for (std::size_t x = 0; x < static_cast<std::size_t>(m_part.width); ++x) {
                 sum += m_changes[row + x];
                 result.push_back(static_cast<float>(std::clamp(sum, 0.0, 1.0)));
             }
@@ -128,17 +151,18 @@ private:
         const double perX = right > left ? height / (right - left) : 0;
         double x = left;
         do {
-            const double column = std::min(std::floor(x), static_cast<double>(m_width));
+            const double column = std::min(std::floor(x), static_cast<double>(m_part.left + m_part.width));
             const double next = std::min(column + 1, right);
             const double part = right > left ? perX * (next - x) : height;
             const double covered = part * (1 - ((x + next) / 2 - column)); // of this column
-            changes[static_cast<std::size_t>(column)] += covered;
-            changes[static_cast<std::size_t>(column) + 1] += part - covered;
+            double* const change = changes + static_cast<std::size_t>(column - m_part.left);
+            change[0] += covered;
+            change[1] += part - covered;
             x = next;
         } while (x < right);
     }
 
-    const int m_width;
+    const Part m_part;
     const std::size_t m_stride;
     std::vector<double> m_changes;
 };
@@ -284,8 +308,7 @@ Point nearer(Point p)
 
 } // namespace
 
-std::vector<float> coverage(const std::vector<Polygon>& polygons, FillRule rule, int width, int height,
-                            Budget& budget)
+Covered coverage(const std::vector<Polygon>& polygons, FillRule rule, int width, int height, Budget& budget)
 {
     Clipper clipper(width, height);
     for (const Polygon& polygon : polygons) {
@@ -294,10 +317,12 @@ std::vector<float> coverage(const std::vector<Polygon>& polygons, FillRule rule,
         for (std::size_t i = 0; i < polygon.size(); ++i)
             clipper.add(nearer(polygon[i]), nearer(polygon[(i + 1) % polygon.size()]));
     }
-    budget.spend(static_cast<std::int64_t>(clipper.edges.size()) + width);
-    Accumulator accumulator(width, height);
+    const Part part = partReached(clipper.edges, width, height);
+    const auto pixels = static_cast<std::int64_t>(part.width) * part.height;
+    budget.spend(static_cast<std::int64_t>(clipper.edges.size()) + part.width + pixels / kPixelsAStep);
+    Accumulator accumulator(part);
     Sweep(std::move(clipper.edges), rule, accumulator, budget).run();
-    return accumulator.coverage();
+    return {part, accumulator.coverage()};
 }
 
 } // namespace ovosvg

@@ -24,6 +24,7 @@ inline constexpr int kMostPixels = 2048 * 2048;     ///< of the picture and of i
 // What the parts of a drawing cost of its budget, with their memory in mind.
 inline constexpr std::int64_t kPointCost = 100;
 inline constexpr std::int64_t kDashCost = 400;
+inline constexpr std::int64_t kPixelsAStep = 8; ///< of an area that is painted
 
 /// The work of one drawing. Each `spend` counts some of it; too much is a failure.
 class Budget

@@ -175,8 +175,7 @@ void Renderer::paintArea(const std::vector<Polygon>& area, FillRule rule, const 
             return;
     }
     const std::uint32_t colour = kind == Paint::Kind::Current ? context.style.colour : paint.colour;
-    m_budget.spend(static_cast<std::int64_t>(m_width) * m_height / 8);
-    const std::vector<float> covered = coverage(area, rule, m_width, m_height, m_budget);
+    const Covered covered = coverage(area, rule, m_width, m_height, m_budget);
     Canvas& canvas = m_layers.back();
     if (gradient)
         canvas.paint(covered, opacity, [&gradient](Point p) { return gradient->at(p); });

@@ -16,11 +16,19 @@ namespace
 
 constexpr double kNear = 1e-6; // results are of single precision
 
+/// Of all pixels of a picture.
 std::vector<float> covered(const std::vector<Polygon>& polygons, FillRule rule = FillRule::NonZero,
                            int size = 8)
 {
     Budget budget;
-    return coverage(polygons, rule, size, size, budget);
+    const auto [part, values] = coverage(polygons, rule, size, size, budget);
+    std::vector<float> all(static_cast<std::size_t>(size * size));
+    std::size_t i = 0;
+    for (int y = part.top; y < part.top + part.height; ++y)
+        for (int x = part.left; x < part.left + part.width; ++x)
+            all.at(static_cast<std::size_t>(y * size + x)) = values.at(i++);
+    EXPECT_EQ(i, values.size());
+    return all;
 }
 
 double sum(const std::vector<float>& values)
@@ -220,10 +228,30 @@ TEST(Coverage, LongEdgesAreMoreWorkThanShortOnes)
         for (double y = 0; y < 0.99; y += 0.005)
             rows.push_back({{0, y}, {right, y + 0.002}, {0, y + 0.004}});
         Budget budget(1'000'000);
-        return sum(coverage(rows, FillRule::NonZero, kWidth, 1, budget));
+        return sum(coverage(rows, FillRule::NonZero, kWidth, 1, budget).values);
     };
     EXPECT_NEAR(draw(10), 198 * 10 * 0.004 / 2, 0.05);
     EXPECT_THROW(draw(kWidth), SvgFailure);
+}
+
+TEST(Coverage, OfSmallAreasInALargePictureIsLittleWork)
+{
+    constexpr int kSize = 2000;
+    std::mt19937 random(13);
+    std::uniform_real_distribution<double> at(0, kSize - 4);
+    for (int round = 0; round < 100; ++round) {
+        const double x = at(random);
+        const double y = at(random);
+        Budget budget(100);
+        const auto [part, values] =
+            coverage({box(x, y, x + 2.5, y + 3)}, FillRule::NonZero, kSize, kSize, budget);
+        ASSERT_NEAR(sum(values), 7.5, 1e-5);
+        ASSERT_LE(part.left, x);
+        ASSERT_GE(part.left + part.width, x + 2.5);
+        ASSERT_LE(part.top, y);
+        ASSERT_GE(part.top + part.height, y + 3);
+        ASSERT_LE(values.size(), 7u * 5u);
+    }
 }
 
 TEST(Coverage, TooMuchWorkIsAFailure)

@@ -22,7 +22,7 @@ double areaOf(const Path& path, const Pen& pen, double tolerance = 1e-4)
 {
     Budget budget;
     const auto pieces = strokeOutline(path.flattened(tolerance, budget), pen, tolerance, budget);
-    const std::vector<float> values = coverage(pieces, FillRule::NonZero, kSize, kSize, budget);
+    const std::vector<float> values = coverage(pieces, FillRule::NonZero, kSize, kSize, budget).values;
     return std::accumulate(values.begin(), values.end(), 0.0);
 }
 
