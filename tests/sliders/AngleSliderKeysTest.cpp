@@ -1,6 +1,8 @@
 // The angle sliders by keyboard and wheel, snapping, typing, and what accessibility sees.
+#include <support/Perishing.h>
 #include <testkit/AccessibleView.h>
 #include <testkit/Desktop.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
 #include <testkit/RecordingParent.h>
 #include <testkit/Robot.h>
@@ -215,6 +217,63 @@ TEST_F(AngleSliderKeys, TheParentMayDestroyItInEveryMessage)
     wheel->SetFocus();
     user.type(L"5").key(VK_RETURN);
     EXPECT_EQ(wheel, nullptr);
+}
+
+/// A slider that a host has derived.
+class LeavingSlider : public CRoundSlider
+{
+public:
+    using CRoundSlider::CRoundSlider;
+    std::function<void()> onLeft; ///< its edit has lost the focus
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message != WM_COMMAND || HIWORD(wParam) != EN_KILLFOCUS || !onLeft)
+            return CRoundSlider::WindowProc(message, wParam, lParam);
+        const std::function<void()> deed = onLeft;
+        deed();
+        return 0;
+    }
+};
+
+/// An edit control tells its parent when it loses the focus. Some platforms' go on with what they know of
+/// themselves then, which this one does not.
+static LRESULT WINAPI tellAlone(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    wchar_t name[20]{};
+    ::GetClassNameW(window, name, 20);
+    if (message != WM_KILLFOCUS || ::lstrcmpiW(name, L"Edit") != 0)
+        return ::CallWindowProcW(procedure, window, message, wParam, lParam);
+    ::SendMessageW(::GetParent(window), WM_COMMAND, MAKEWPARAM(1, EN_KILLFOCUS),
+                   reinterpret_cast<LPARAM>(window));
+    return 0;
+}
+
+TEST_F(AngleSliderKeys, ASliderMayGoWhenItsEditLosesTheFocus)
+{
+    const ImportPatch telling(L"ovomfc.dll", "CallWindowProcW", reinterpret_cast<void*>(&tellAlone));
+    for (const bool deletes : {false, true}) {
+        SCOPED_TRACE(deletes);
+        auto slider = std::make_unique<Perishing<LeavingSlider>>(false);
+        slider->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(10, 230, 214, 270), &parent, 7);
+        slider->UseKeyboard(true);
+        bool left = false;
+        slider->onLeft = [&] {
+            left = true;
+            if (deletes)
+                slider.reset();
+            else
+                slider->DestroyWindow();
+        };
+        slider->SetFocus();
+        const HWND window = slider->m_hWnd;
+        user.type(L"5").waitFor("the edit", [&] { return ::GetParent(::GetFocus()) == window; });
+        wheel->SetFocus();
+        EXPECT_TRUE(left);
+        EXPECT_FALSE(::IsWindow(window));
+        EXPECT_EQ(::GetFocus(), wheel->m_hWnd);
+    }
 }
 
 TEST_F(AngleSliderKeys, AccessibilitySeesASliderWithItsAngle)

@@ -2,6 +2,7 @@
 // and what the host may do meanwhile.
 #include "SliderButtonScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/GdiCounter.h>
 #include <testkit/GuiThread.h>
 #include <testkit/ImportPatch.h>
@@ -9,9 +10,12 @@
 
 #include <ovoui/frame/Geometry.h>
 
+#include <commctrl.h>
+
 #include <atomic>
 #include <stdexcept>
 #include <thread>
+#include <utility>
 
 using namespace ovo::testkit;
 
@@ -29,6 +33,37 @@ protected:
         user.click(Spot{*button}).waitFor("the popup", &isOpen);
         parent.log().clear();
     }
+};
+
+/// Does a deed when a window becomes the active one, the first time.
+class WhenActivated
+{
+public:
+    WhenActivated(HWND window, std::function<void()> deed)
+        : m_window(window)
+        , m_deed(std::move(deed))
+    {
+        ::SetWindowSubclass(window, &hear, 1, reinterpret_cast<DWORD_PTR>(this));
+    }
+    ~WhenActivated() { ::RemoveWindowSubclass(m_window, &hear, 1); }
+    WhenActivated(const WhenActivated&) = delete;
+    WhenActivated& operator=(const WhenActivated&) = delete;
+
+    bool isDone() const { return m_deed == nullptr; }
+
+private:
+    static LRESULT CALLBACK hear(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                 DWORD_PTR self)
+    {
+        auto& waiting = reinterpret_cast<WhenActivated*>(self)->m_deed;
+        if (message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE)
+            if (const auto deed = std::exchange(waiting, nullptr))
+                deed();
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    }
+
+    HWND m_window;
+    std::function<void()> m_deed;
 };
 
 int shownPopups()
@@ -926,6 +961,33 @@ TEST_F(SliderButton, AHostMayDeleteItInAConversion)
                 .release();
         }
         EXPECT_EQ(button, nullptr);
+        EXPECT_TRUE(isClosed());
+    }
+}
+
+TEST_F(SliderButton, AHostMayDeleteItWhenItsWindowBecomesActiveAgain)
+{
+    // Hiding the popup, which is active, activates the window that owns it.
+    const std::pair<const char*, std::function<void()>> ways[] = {
+        {"Space", [this] { user.key(VK_SPACE); }},
+        {"Tab", [this] { user.key(VK_TAB); }},
+        {"Enter", [this] { user.key(VK_RETURN); }},
+        {"another window", [this] { parent.SetActiveWindow(); }}};
+    for (const auto& [name, putAway] : ways) {
+        SCOPED_TRACE(name);
+        button.reset();
+        CStatic plain;
+        plain.Create(L"", WS_CHILD | WS_VISIBLE, CRect(102, 10, 118, 32), &parent, 9);
+        button = std::make_unique<Perishing<CSliderButton>>(utils);
+        button->SubclassWindow(plain.Detach());
+        button->SetBuddy(buddy);
+        show();
+        open();
+        user.click(Spot{[] { return CPoint(thumbX(), middleOfSlider()); }})
+            .waitFor("the focus in the slider", [] { return ::GetFocus() == slider(); });
+        const WhenActivated deletes(parent, [this] { button.reset(); });
+        putAway();
+        user.waitFor("the deed", [&] { return deletes.isDone(); });
         EXPECT_TRUE(isClosed());
     }
 }
