@@ -1,6 +1,9 @@
 // Drag and drop, from end to end: real drags by the robot, out of one tree into another.
 #include "TreeScene.h"
 
+#include <support/Perishing.h>
+#include <testkit/Clipboard.h>
+
 #include <ovoui/tree/DropMenu.h>
 #include <ovoui/tree/PlainText.h>
 
@@ -8,6 +11,10 @@
 #include <ovouires/resource.h>
 
 #include <gtest/gtest.h>
+
+#include <shlobj.h>
+
+#include <utility>
 
 using namespace ovo::testkit;
 
@@ -457,6 +464,57 @@ TEST(TreePaste, GoesToTheSelectedNodeThatWouldTakeTheData)
     EXPECT_EQ(scene.dropped, "pasted");
     EXPECT_EQ(scene.last(), "dropInto 1 zone -1 target");
     COleDataSource::FlushClipboard();
+}
+
+/// Data whose owner does a deed when it is asked what is to be done with it, and does not say.
+class BusyOwner : public COleDataSource
+{
+public:
+    explicit BusyOwner(std::function<void()> deed)
+        : m_deed(std::move(deed))
+    {
+        DelayRenderData(static_cast<CLIPFORMAT>(::RegisterClipboardFormatW(CFSTR_PREFERREDDROPEFFECT)));
+    }
+
+protected:
+    BOOL OnRenderGlobalData(LPFORMATETC, HGLOBAL*) override
+    {
+        if (const auto deed = std::exchange(m_deed, nullptr))
+            deed();
+        return FALSE;
+    }
+
+private:
+    std::function<void()> m_deed;
+};
+
+TEST(TreePaste, TheOwnerOfTheDataMayDestroyTheTree)
+{
+    for (const bool wholeObject : {false, true}) {
+        SCOPED_TRACE(wholeObject);
+        RecordingParent parent;
+        std::unique_ptr<TestTree> tree = std::make_unique<Perishing<TestTree>>();
+        tree->Create(Scene::kStyle, CRect(0, 0, 200, 200), &parent, 1);
+        auto* const node = new TestNode("a");
+        bool dropped = false;
+        node->draggingInto = [](COleDataObject&, DWORD& effects, bool&, int) {
+            return effects = DROPEFFECT_COPY;
+        };
+        node->droppingInto = [&](COleDataObject&, DWORD, MultiTreeCtrl&, int) { return dropped = true; };
+        node->insert(*tree, TVI_ROOT, TVI_LAST);
+        tree->SelectItem(tree->GetRootItem());
+        auto* const source = new BusyOwner([&] {
+            if (wholeObject)
+                tree.reset();
+            else
+                tree->DestroyWindow();
+        });
+        source->SetClipboard();
+        ::SendMessageW(tree->m_hWnd, WM_COMMAND, ID_EDIT_PASTE, 0);
+        EXPECT_EQ(TestNode::live(), 0) << "the owner was asked";
+        EXPECT_FALSE(dropped);
+        emptyClipboard();
+    }
 }
 
 TEST(TreePaste, IsGreyWhereTheDataIsNotTaken)

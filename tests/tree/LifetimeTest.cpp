@@ -1,6 +1,10 @@
 // The tree is destroyed inside the calls of its nodes, and nodes go with their items under any parent.
 #include "TreeScene.h"
 
+#include <support/Perishing.h>
+
+#include <ovoui/tree/PlainText.h>
+
 #include <ovouires/resource.h>
 
 #include <gtest/gtest.h>
@@ -166,6 +170,15 @@ void askForTip(TestTree& tree)
     EXPECT_STREQ(buffer, L"?") << "the tree view's buffer may have gone with the tree";
 }
 
+void paste(TestTree& tree)
+{
+    auto* const source = new COleDataSource;
+    cachePlaintext(*source, L"pasted");
+    source->SetClipboard();
+    ::SendMessageW(tree.m_hWnd, WM_COMMAND, ID_EDIT_PASTE, 0);
+    COleDataSource::FlushClipboard();
+}
+
 const Call kCalls[] = {
     {"hitTest", inHitTest, [](TestTree& tree) { tree.HitTest(onFirstItem(tree)); }},
     {"hitTestOfAPress", inHitTest, clicking(WM_LBUTTONDOWN, MK_LBUTTON)},
@@ -183,6 +196,8 @@ const Call kCalls[] = {
     {"infotip", inInfotip, askForTip},
     {"dragInto", inDragInto, dragOver},
     {"dropInto", inDropInto, drop},
+    {"dragIntoOfAPaste", inDragInto, paste},
+    {"dropIntoOfAPaste", inDropInto, paste},
 };
 
 class TreeDestroyed : public ::testing::TestWithParam<std::tuple<Call, bool>>
@@ -195,7 +210,7 @@ TEST_P(TreeDestroyed, InsideACallOfANodeDoesNoHarm)
 {
     const auto& [call, wholeObject] = GetParam();
     RecordingParent parent;
-    auto tree = std::make_unique<TestTree>();
+    std::unique_ptr<TestTree> tree = std::make_unique<Perishing<TestTree>>();
     tree->Create(Scene::kStyle, CRect(0, 0, 200, 200), &parent, 1);
     for (const char* name : {"a", "b"})
         (new TestNode(name))->insert(*tree, TVI_ROOT, TVI_LAST);
