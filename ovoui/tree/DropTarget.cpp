@@ -47,6 +47,8 @@ DROPEFFECT MultiTreeCtrl::DropTarget::OnDragEnter(CWnd* window, COleDataObject* 
 DROPEFFECT MultiTreeCtrl::DropTarget::OnDragOver(CWnd*, COleDataObject* data, DWORD keys, CPoint point)
 {
     const HostCalls host(m_tree);
+    if (!host.usable())
+        return DROPEFFECT_NONE; // the host has destroyed the tree in the middle of a drag
     Dropping& dropping = *m_tree.m_state->dropping;
     const bool rightButton = m_rightButton;
     Dropping::Place place;
@@ -80,11 +82,17 @@ DROPEFFECT MultiTreeCtrl::DropTarget::OnDragScroll(CWnd* window, DWORD keys, CPo
     noteEntering(keys);
     COleDataObject data;
     data.Attach(m_lpDataObject, FALSE);
+    const HostCalls host(m_tree);
     const bool wasScrolling = m_scroll.running();
     const unsigned code = directionAt(point);
-    if (code != kScrollNone && m_tree.dragScroll(code, 0, false)) {
+    const bool scrolls = code != kScrollNone && m_tree.dragScroll(code, 0, false);
+    if (!host.usable())
+        return DROPEFFECT_NONE;
+    if (scrolls) {
         if (m_scroll.stepDue(code, ::GetTickCount()))
             m_tree.dragScroll(code, 0, true);
+        if (!host.usable())
+            return DROPEFFECT_NONE;
         if (!wasScrolling)
             m_tree.m_state->dropping->showMark(nullptr, nullptr);
         return OnDragOver(window, &data, keys, point) | DROPEFFECT_SCROLL;

@@ -2,6 +2,7 @@
 #include "TreeScene.h"
 
 #include <support/Perishing.h>
+#include <testkit/GuiThread.h>
 
 #include <ovoui/tree/PlainText.h>
 
@@ -235,6 +236,50 @@ INSTANTIATE_TEST_SUITE_P(Calls, TreeDestroyed,
                              return std::string(std::get<0>(info.param).name) +
                                     (std::get<1>(info.param) ? "Object" : "Window");
                          });
+
+/// A tree whose window its host destroys when a drag is to scroll it.
+class ScrolledAway : public TestTree
+{
+public:
+    bool when = false; ///< asked whether it can scroll, or when it is to
+
+protected:
+    bool dragScroll(unsigned, unsigned, bool doIt) override
+    {
+        if (doIt == when)
+            DestroyWindow();
+        return true;
+    }
+};
+
+TEST(TreeDropScroll, AHostMayDestroyTheTreeInsteadOfScrollingIt)
+{
+    auto* const source = new COleDataSource;
+    cachePlaintext(*source, L"dragged");
+    const auto data = static_cast<IDataObject*>(source->GetInterface(&IID_IDataObject));
+    for (const bool when : {false, true}) {
+        SCOPED_TRACE(when);
+        RecordingParent parent;
+        ScrolledAway tree;
+        tree.when = when;
+        tree.Create(Scene::kStyle, CRect(0, 0, 200, 200), &parent, 1);
+        (new TestNode("a"))->insert(tree, TVI_ROOT, TVI_LAST);
+        CPoint edge(30, 3);
+        tree.ClientToScreen(&edge);
+        auto* const target = static_cast<IDropTarget*>(tree.m_pDropTarget->GetInterface(&IID_IDropTarget));
+        target->AddRef();
+        DWORD effect = DROPEFFECT_COPY;
+        target->DragEnter(data, MK_LBUTTON, POINTL{edge.x, edge.y}, &effect);
+        EXPECT_TRUE(GuiThread::runUntil([&] { // scrolling begins after a while
+            effect = DROPEFFECT_COPY;
+            target->DragOver(MK_LBUTTON, POINTL{edge.x, edge.y}, &effect);
+            return tree.m_hWnd == nullptr;
+        }));
+        EXPECT_EQ(effect, DWORD{DROPEFFECT_NONE});
+        target->Release();
+    }
+    source->InternalRelease();
+}
 
 // Parents of another make
 
