@@ -1,5 +1,5 @@
-// What stands in front of a parent while a change is made in steps. Under a parent as a host makes it, the tests
-// of the selection see to it; here is what no host can bring about on request.
+// What stands in front of a parent while a change is made in steps. Under a parent as a host makes it, the
+// tests of the selection see to it; here is what no host can bring about on request.
 #include <ovoui/tree/ParentNotificationFilter.h>
 
 #include <gtest/gtest.h>
