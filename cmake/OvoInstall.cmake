@@ -25,7 +25,7 @@ file(MAKE_DIRECTORY ${export_lists})
 foreach(target ${targets})
   get_target_property(name ${target} OUTPUT_NAME)
   add_custom_command(OUTPUT ${export_lists}/${name}.lib ${export_lists}/${name}.def
-    COMMAND ${PROJECT_SOURCE_DIR}/sdk/module-definition $<TARGET_FILE:${target}> ${export_lists}/${name}.def
+    COMMAND ${OVO_PYTHON} ${PROJECT_SOURCE_DIR}/sdk/module-definition $<TARGET_FILE:${target}> ${export_lists}/${name}.def
     COMMAND ${OVO_DLLTOOL} -m i386:x86-64 -d ${export_lists}/${name}.def -l ${export_lists}/${name}.lib
     DEPENDS ${target} ${PROJECT_SOURCE_DIR}/sdk/module-definition ${PROJECT_SOURCE_DIR}/sdk/pe.py
     COMMENT "Making ${name}.lib" VERBATIM)
@@ -77,13 +77,16 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/build/doc/html/ DESTINATION doc COMPONEN
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/ DESTINATION examples COMPONENT examples OPTIONAL
         REGEX "/examples/CMakeLists.txt$" EXCLUDE) # which builds them as part of the project
 
-# The runtime's licences demand that their texts travel with the DLLs; Debian keeps them beside the compiler.
+# The runtime's licences demand that their texts travel with the DLLs; Debian keeps them beside the compiler. What is built on
+# Windows is for that machine: docs/building-on-windows.md.
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION licences RENAME ovoui.txt COMPONENT runtime)
-install(FILES ${CMAKE_CURRENT_LIST_DIR}/runtime-notices.txt
-        DESTINATION licences/runtime RENAME NOTICES.txt COMPONENT runtime)
-install(FILES /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright
-        DESTINATION licences/runtime RENAME gcc-copyright.txt COMPONENT runtime)
-install(FILES /usr/share/doc/mingw-w64-x86-64-dev/copyright
-        DESTINATION licences/runtime RENAME mingw-w64-copyright.txt COMPONENT runtime)
-install(FILES /usr/share/common-licenses/GPL-3
-        DESTINATION licences/runtime RENAME GPL-3.txt COMPONENT runtime)
+if(NOT CMAKE_HOST_WIN32)
+  install(FILES ${CMAKE_CURRENT_LIST_DIR}/runtime-notices.txt
+          DESTINATION licences/runtime RENAME NOTICES.txt COMPONENT runtime)
+  install(FILES /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright
+          DESTINATION licences/runtime RENAME gcc-copyright.txt COMPONENT runtime)
+  install(FILES /usr/share/doc/mingw-w64-x86-64-dev/copyright
+          DESTINATION licences/runtime RENAME mingw-w64-copyright.txt COMPONENT runtime)
+  install(FILES /usr/share/common-licenses/GPL-3
+          DESTINATION licences/runtime RENAME GPL-3.txt COMPONENT runtime)
+endif()

@@ -8,8 +8,14 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 
+# What is made while building is made by scripts, which not every system can start by themselves.
+find_program(OVO_PYTHON NAMES python3 python REQUIRED DOC "Python 3")
+
 add_library(ovo_flags INTERFACE)
-target_compile_options(ovo_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra -Werror>)
+target_compile_options(ovo_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wall -Wextra>)
+if(OVO_WERROR)
+  target_compile_options(ovo_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Werror>)
+endif()
 if(OVO_ASSERTIONS)
   target_compile_options(ovo_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-UNDEBUG>)
   target_compile_definitions(ovo_flags INTERFACE OVO_ASSERTIONS)

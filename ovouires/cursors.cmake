@@ -9,7 +9,7 @@ function(add_cursor name hotspot)
   set(svg ${CMAKE_CURRENT_SOURCE_DIR}/cursors/${name}.svg)
   set(cur ${cursor_folder}/${name}.cur)
   add_custom_command(OUTPUT ${cur}
-    COMMAND ${make_ico} --hotspot ${hotspot} ${cur} ${svg} 32 48 64
+    COMMAND ${OVO_PYTHON} ${make_ico} --hotspot ${hotspot} ${cur} ${svg} 32 48 64
     DEPENDS ${svg} ${make_ico} ${PROJECT_SOURCE_DIR}/ovoui/tools/svgpixels.py
     VERBATIM)
   set(cursor_files ${cursor_files} ${cur} PARENT_SCOPE)

@@ -18,7 +18,7 @@ function(add_strip file size)
   list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/strips/)
   list(TRANSFORM ARGN APPEND .svg)
   add_custom_command(OUTPUT ${strip_folder}/${file}
-    COMMAND ${make_strip} ${strip_folder}/${file} ${size} ${how} ${ARGN}
+    COMMAND ${OVO_PYTHON} ${make_strip} ${strip_folder}/${file} ${size} ${how} ${ARGN}
     DEPENDS ${ARGN} ${make_strip} ${PROJECT_SOURCE_DIR}/ovoui/tools/svgpixels.py
     VERBATIM)
   set(strip_files ${strip_files} ${strip_folder}/${file} PARENT_SCOPE)

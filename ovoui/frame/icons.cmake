@@ -10,7 +10,7 @@ foreach(icon ${icon_names})
   set(svg ${CMAKE_CURRENT_LIST_DIR}/icons/${icon}.svg)
   set(ico ${icon_folder}/${icon}.ico)
   add_custom_command(OUTPUT ${ico}
-    COMMAND ${PROJECT_SOURCE_DIR}/ovoui/tools/make-ico ${ico} ${svg} 16 32 48
+    COMMAND ${OVO_PYTHON} ${PROJECT_SOURCE_DIR}/ovoui/tools/make-ico ${ico} ${svg} 16 32 48
     DEPENDS ${svg} ${PROJECT_SOURCE_DIR}/ovoui/tools/make-ico ${PROJECT_SOURCE_DIR}/ovoui/tools/svgpixels.py
     VERBATIM)
   string(TOUPPER ${icon} resource)
