@@ -1,6 +1,8 @@
 // Commands: the tree's own, those of the nodes, and the way on to the parent; menus.
 #include "TreeScene.h"
 
+#include <support/Perishing.h>
+
 #include <ovocor/OvoError.h>
 #include <ovouires/resource.h>
 
@@ -329,6 +331,23 @@ TEST(TreeMenus, TheContextMenuOpensByKeyboardAtTheCaretAndRunsTheCommand)
     EXPECT_NEAR(menu.top, label.bottom, 8);
 }
 
+/// A tree whose host does a deed instead of bringing an item into view.
+class BusyTree : public TestTree
+{
+public:
+    std::function<void()> deed;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message != TVM_ENSUREVISIBLE || !deed)
+            return TestTree::WindowProc(message, wParam, lParam);
+        const std::function<void()> own = deed;
+        own();
+        return FALSE;
+    }
+};
+
 /// A tree whose caret "c" is in "a", which refuses to open.
 class HiddenCaret
 {
@@ -343,34 +362,43 @@ public:
         tree->SelectItem(tree->GetChildItem(around));
     }
 
-    TestNode& nodeAround() { return static_cast<TestNode&>(*tree->node(around)); }
     void askForTheMenu()
     {
         const HWND wnd = tree->m_hWnd;
         ::SendMessageW(wnd, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(wnd), MAKELPARAM(-1, -1));
     }
+    /// Where the corner of the menu appears, on the screen.
+    CPoint cornerOfTheMenu()
+    {
+        present(parent);
+        CRect menu;
+        auto closing = Robot()
+                           .waitFor("the menu", [] { return shownMenu() != nullptr; })
+                           .then([&] { ::GetWindowRect(shownMenu(), &menu); })
+                           .key(VK_ESCAPE)
+                           .start();
+        askForTheMenu();
+        closing.finish();
+        return menu.TopLeft();
+    }
 
     RecordingParent parent{CSize(200, 200), L"Tree"};
-    std::unique_ptr<TestTree> tree = std::make_unique<TestTree>();
+    std::unique_ptr<BusyTree> tree = std::make_unique<Perishing<BusyTree>>();
     HTREEITEM around = nullptr;
 };
 
-TEST(TreeMenus, ANodeThatDestroysTheTreeWhenTheCaretIsToBeShownDoesNoHarm)
+TEST(TreeMenus, AHostThatDestroysTheTreeWhenTheCaretIsToBeShownDoesNoHarm)
 {
     for (const bool wholeObject : {false, true}) {
         SCOPED_TRACE(wholeObject);
         HiddenCaret scene;
-        bool asked = false;
-        scene.nodeAround().expanding = [&](MultiTreeCtrl&) {
-            asked = true;
+        scene.tree->deed = [&] {
             if (wholeObject)
                 scene.tree.reset();
             else
                 scene.tree->DestroyWindow();
-            return false;
         };
         scene.askForTheMenu();
-        EXPECT_TRUE(asked);
         EXPECT_EQ(TestNode::live(), 0);
     }
 }
@@ -378,21 +406,26 @@ TEST(TreeMenus, ANodeThatDestroysTheTreeWhenTheCaretIsToBeShownDoesNoHarm)
 TEST(TreeMenus, TheContextMenuOpensAtTheClosedItemThatHidesTheCaret)
 {
     HiddenCaret scene;
-    present(scene.parent);
-    CRect menu;
-    {
-        auto closing = Robot()
-                           .waitFor("the menu", [] { return shownMenu() != nullptr; })
-                           .then([&] { ::GetWindowRect(shownMenu(), &menu); })
-                           .key(VK_ESCAPE)
-                           .start();
-        scene.askForTheMenu();
-    }
+    const CPoint menu = scene.cornerOfTheMenu();
     CRect label;
     scene.tree->GetItemRect(scene.around, &label, TRUE);
     scene.tree->ClientToScreen(&label);
-    EXPECT_NEAR(menu.left, label.left, 8);
-    EXPECT_NEAR(menu.top, label.bottom, 8);
+    EXPECT_NEAR(menu.x, label.left, 8);
+    EXPECT_NEAR(menu.y, label.bottom, 8);
+}
+
+TEST(TreeMenus, TheContextMenuOpensInTheCornerWhereTheCaretGoesWhenItIsToBeShown)
+{
+    HiddenCaret scene;
+    static_cast<TestNode&>(*scene.tree->node(scene.around)).expanding = [](MultiTreeCtrl& tree) {
+        tree.DeleteAllItems();
+        return false;
+    };
+    const CPoint menu = scene.cornerOfTheMenu();
+    CPoint corner(0, 0);
+    scene.tree->ClientToScreen(&corner);
+    EXPECT_NEAR(menu.x, corner.x, 8);
+    EXPECT_NEAR(menu.y, corner.y, 8);
 }
 
 // Deleting

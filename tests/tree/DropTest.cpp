@@ -2,7 +2,6 @@
 #include "TreeScene.h"
 
 #include <support/Perishing.h>
-#include <testkit/Clipboard.h>
 
 #include <ovoui/tree/DropMenu.h>
 #include <ovoui/tree/PlainText.h>
@@ -513,7 +512,7 @@ TEST(TreePaste, TheOwnerOfTheDataMayDestroyTheTree)
         ::SendMessageW(tree->m_hWnd, WM_COMMAND, ID_EDIT_PASTE, 0);
         EXPECT_EQ(TestNode::live(), 0) << "the owner was asked";
         EXPECT_FALSE(dropped);
-        emptyClipboard();
+        ::OleSetClipboard(nullptr);
     }
 }
 
