@@ -20,13 +20,25 @@ unsigned setting(const wchar_t* name, int standard)
 } // namespace
 
 MultiTreeCtrl::DropTarget::DropTarget(MultiTreeCtrl& tree)
-    : m_tree(tree)
+    : m_tree(&tree)
     , m_scroll(setting(L"DragScrollDelay", DD_DEFSCROLLDELAY),
                setting(L"DragScrollInterval", DD_DEFSCROLLINTERVAL))
 {
 }
 
 MultiTreeCtrl::DropTarget::~DropTarget() = default;
+
+void MultiTreeCtrl::DropTarget::leave()
+{
+    Revoke();
+    m_tree = nullptr;
+}
+
+/// The host may have destroyed the tree, or its window, in the middle of a drag.
+bool MultiTreeCtrl::DropTarget::isUsable() const
+{
+    return m_tree && m_tree->m_state->usable();
+}
 
 /// A drag comes in over the middle of the tree, or over an edge, where it scrolls at once. Which button it is
 /// made with can be seen only while the button is down, not at the drop.
@@ -46,10 +58,10 @@ DROPEFFECT MultiTreeCtrl::DropTarget::OnDragEnter(CWnd* window, COleDataObject* 
 
 DROPEFFECT MultiTreeCtrl::DropTarget::OnDragOver(CWnd*, COleDataObject* data, DWORD keys, CPoint point)
 {
-    const HostCalls host(m_tree);
-    if (!host.usable())
-        return DROPEFFECT_NONE; // the host has destroyed the tree in the middle of a drag
-    Dropping& dropping = *m_tree.m_state->dropping;
+    if (!isUsable())
+        return DROPEFFECT_NONE;
+    const HostCalls host(*m_tree);
+    Dropping& dropping = *m_tree->m_state->dropping;
     const bool rightButton = m_rightButton;
     Dropping::Place place;
     const DWORD answer = dropping.dragHitTest(*data, point, place);
@@ -63,7 +75,8 @@ void MultiTreeCtrl::DropTarget::OnDragLeave(CWnd*)
 {
     m_inside = false;
     m_scroll.stop();
-    m_tree.m_state->dropping->showMark(nullptr, nullptr);
+    if (isUsable())
+        m_tree->m_state->dropping->showMark(nullptr, nullptr);
 }
 
 // Scrolling
@@ -71,7 +84,7 @@ void MultiTreeCtrl::DropTarget::OnDragLeave(CWnd*)
 unsigned MultiTreeCtrl::DropTarget::directionAt(CPoint point) const
 {
     CRect client;
-    m_tree.GetClientRect(&client);
+    m_tree->GetClientRect(&client);
     const auto inset = static_cast<int>(setting(L"DragScrollInset", DD_DEFSCROLLINSET));
     return ovoui::tree::scrollCode(point.x, point.y, {client.left, client.top, client.right, client.bottom},
                                    inset);
@@ -79,22 +92,24 @@ unsigned MultiTreeCtrl::DropTarget::directionAt(CPoint point) const
 
 DROPEFFECT MultiTreeCtrl::DropTarget::OnDragScroll(CWnd* window, DWORD keys, CPoint point)
 {
+    if (!isUsable())
+        return DROPEFFECT_NONE;
     noteEntering(keys);
     COleDataObject data;
     data.Attach(m_lpDataObject, FALSE);
-    const HostCalls host(m_tree);
+    const HostCalls host(*m_tree);
     const bool wasScrolling = m_scroll.running();
     const unsigned code = directionAt(point);
-    const bool scrolls = code != kScrollNone && m_tree.dragScroll(code, 0, false);
+    const bool scrolls = code != kScrollNone && m_tree->dragScroll(code, 0, false);
     if (!host.usable())
         return DROPEFFECT_NONE;
     if (scrolls) {
         if (m_scroll.stepDue(code, ::GetTickCount()))
-            m_tree.dragScroll(code, 0, true);
+            m_tree->dragScroll(code, 0, true);
         if (!host.usable())
             return DROPEFFECT_NONE;
         if (!wasScrolling)
-            m_tree.m_state->dropping->showMark(nullptr, nullptr);
+            m_tree->m_state->dropping->showMark(nullptr, nullptr);
         return OnDragOver(window, &data, keys, point) | DROPEFFECT_SCROLL;
     }
     if (!wasScrolling)
@@ -110,10 +125,12 @@ DROPEFFECT MultiTreeCtrl::DropTarget::OnDropEx(CWnd*, COleDataObject* data, DROP
 {
     m_inside = false;
     m_scroll.stop();
-    m_tree.m_state->dropping->showMark(nullptr, nullptr);
+    if (!isUsable())
+        return DROPEFFECT_NONE;
+    m_tree->m_state->dropping->showMark(nullptr, nullptr);
     DROPEFFECT effect = standard;
     bool taken = false;
-    const bool good = HostCalls(m_tree).report([&] { taken = drop(*data, effect, allowed, point); });
+    const bool good = HostCalls(*m_tree).report([&] { taken = drop(*data, effect, allowed, point); });
     return good && taken ? effect : DROPEFFECT_NONE;
 }
 
@@ -121,7 +138,7 @@ DROPEFFECT MultiTreeCtrl::DropTarget::OnDropEx(CWnd*, COleDataObject* data, DROP
 bool MultiTreeCtrl::DropTarget::drop(COleDataObject& data, DROPEFFECT& effect, DROPEFFECT allowed,
                                      CPoint point)
 {
-    MultiTreeCtrl& tree = m_tree; // this object goes with the tree
+    MultiTreeCtrl& tree = *m_tree; // this object may go with the tree
     const HostCalls host(tree);
     const bool rightButton = m_rightButton;
     Dropping& dropping = *tree.m_state->dropping;

@@ -70,6 +70,8 @@ MultiTreeCtrl::~MultiTreeCtrl()
     // the member function either: an exception must not leave a destructor.
     if (m_hWnd)
         ::DestroyWindow(m_hWnd);
+    m_dropTarget->leave();
+    m_dropTarget.release()->InternalRelease(); // a drag may hold it still
     m_state->controlGoes();
 }
 

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 using namespace ovo::testkit;
@@ -236,6 +237,57 @@ INSTANTIATE_TEST_SUITE_P(Calls, TreeDestroyed,
                              return std::string(std::get<0>(info.param).name) +
                                     (std::get<1>(info.param) ? "Object" : "Window");
                          });
+
+TEST(TreeDropTarget, StaysForADragWhoseHostDestroysTheTree)
+{
+    auto* const source = new COleDataSource;
+    cachePlaintext(*source, L"dragged");
+    const auto data = static_cast<IDataObject*>(source->GetInterface(&IID_IDataObject));
+    constexpr int kAtTheDrop =
+        3; // before that the node is asked as the drag comes in, and twice for the drop
+    for (int step = 0; step <= kAtTheDrop; ++step)
+        for (const bool wholeObject : {false, true}) {
+            SCOPED_TRACE(std::to_string(step) + (wholeObject ? " object" : " window"));
+            RecordingParent parent;
+            std::unique_ptr<TestTree> tree = std::make_unique<Perishing<TestTree>>();
+            tree->Create(Scene::kStyle, CRect(0, 0, 200, 200), &parent, 1);
+            auto* const node = new TestNode("a");
+            node->insert(*tree, TVI_ROOT, TVI_LAST);
+            int asked = 0;
+            const auto destroy = [&] {
+                if (wholeObject)
+                    tree.reset();
+                else
+                    tree->DestroyWindow();
+            };
+            node->draggingInto = [&](COleDataObject&, DWORD& effects, bool&, int) {
+                if (asked++ == step)
+                    destroy();
+                return effects = DROPEFFECT_COPY;
+            };
+            node->droppingInto = [&](COleDataObject&, DWORD, MultiTreeCtrl&, int) {
+                destroy();
+                return true;
+            };
+            CPoint at = onFirstItem(*tree);
+            tree->ClientToScreen(&at);
+            auto* const target =
+                static_cast<IDropTarget*>(tree->m_pDropTarget->GetInterface(&IID_IDropTarget));
+            target->AddRef(); // as a drag does
+            DWORD effect = DROPEFFECT_COPY;
+            target->DragEnter(data, MK_LBUTTON, POINTL{at.x, at.y}, &effect);
+            effect = DROPEFFECT_COPY;
+            target->Drop(data, MK_LBUTTON, POINTL{at.x, at.y}, &effect);
+            EXPECT_EQ(effect, step == kAtTheDrop ? DWORD{DROPEFFECT_COPY} : DWORD{DROPEFFECT_NONE});
+            EXPECT_EQ(asked, std::min(step + 1, kAtTheDrop));
+            EXPECT_EQ(TestNode::live(), 0);
+            const ULONG left = target->Release();
+            if (wholeObject) {
+                EXPECT_EQ(left, 0u);
+            }
+        }
+    source->InternalRelease();
+}
 
 /// A tree whose window its host destroys when a drag is to scroll it.
 class ScrolledAway : public TestTree
