@@ -465,7 +465,7 @@ TEST(TreePaste, GoesToTheSelectedNodeThatWouldTakeTheData)
     COleDataSource::FlushClipboard();
 }
 
-/// Data whose owner does a deed when it is asked what is to be done with it, and does not say.
+/// Data whose owner does a deed each time when it is asked what is to be done with it, and does not say.
 class BusyOwner : public COleDataSource
 {
 public:
@@ -478,8 +478,7 @@ public:
 protected:
     BOOL OnRenderGlobalData(LPFORMATETC, HGLOBAL*) override
     {
-        if (const auto deed = std::exchange(m_deed, nullptr))
-            deed();
+        m_deed();
         return FALSE;
     }
 
@@ -489,31 +488,37 @@ private:
 
 TEST(TreePaste, TheOwnerOfTheDataMayDestroyTheTree)
 {
-    for (const bool wholeObject : {false, true}) {
-        SCOPED_TRACE(wholeObject);
-        RecordingParent parent;
-        std::unique_ptr<TestTree> tree = std::make_unique<Perishing<TestTree>>();
-        tree->Create(Scene::kStyle, CRect(0, 0, 200, 200), &parent, 1);
-        auto* const node = new TestNode("a");
-        bool dropped = false;
-        node->draggingInto = [](COleDataObject&, DWORD& effects, bool&, int) {
-            return effects = DROPEFFECT_COPY;
-        };
-        node->droppingInto = [&](COleDataObject&, DWORD, MultiTreeCtrl&, int) { return dropped = true; };
-        node->insert(*tree, TVI_ROOT, TVI_LAST);
-        tree->SelectItem(tree->GetRootItem());
-        auto* const source = new BusyOwner([&] {
-            if (wholeObject)
-                tree.reset();
-            else
-                tree->DestroyWindow();
-        });
-        source->SetClipboard();
-        ::SendMessageW(tree->m_hWnd, WM_COMMAND, ID_EDIT_PASTE, 0);
-        EXPECT_EQ(TestNode::live(), 0) << "the owner was asked";
-        EXPECT_FALSE(dropped);
-        ::OleSetClipboard(nullptr);
-    }
+    for (const int when : {1, 2}) // is it possible, and the command itself
+        for (const bool wholeObject : {false, true}) {
+            SCOPED_TRACE(std::to_string(when) + (wholeObject ? " object" : " window"));
+            RecordingParent parent;
+            std::unique_ptr<TestTree> tree = std::make_unique<Perishing<TestTree>>();
+            tree->Create(Scene::kStyle, CRect(0, 0, 200, 200), &parent, 1);
+            auto* const node = new TestNode("a");
+            int asked = 0;
+            bool dropped = false;
+            node->draggingInto = [&](COleDataObject&, DWORD& effects, bool&, int) {
+                ++asked;
+                return effects = DROPEFFECT_COPY;
+            };
+            node->droppingInto = [&](COleDataObject&, DWORD, MultiTreeCtrl&, int) { return dropped = true; };
+            node->insert(*tree, TVI_ROOT, TVI_LAST);
+            tree->SelectItem(tree->GetRootItem());
+            auto* const source = new BusyOwner([&] {
+                if (asked != when || !tree)
+                    return;
+                if (wholeObject)
+                    tree.reset();
+                else
+                    tree->DestroyWindow();
+            });
+            source->SetClipboard();
+            ::SendMessageW(tree->m_hWnd, WM_COMMAND, ID_EDIT_PASTE, 0);
+            EXPECT_EQ(asked, when);
+            EXPECT_EQ(TestNode::live(), 0) << "the owner was asked";
+            EXPECT_FALSE(dropped);
+            ::OleSetClipboard(nullptr);
+        }
 }
 
 TEST(TreePaste, IsGreyWhereTheDataIsNotTaken)

@@ -92,6 +92,15 @@ void inDragInto(TestNode& node, const Deed& deed)
     };
 }
 
+void inSecondDragInto(TestNode& node, const Deed& deed)
+{
+    node.draggingInto = [=, asked = 0](COleDataObject&, DWORD& effects, bool&, int) mutable -> DWORD {
+        if (++asked == 2)
+            deed();
+        return effects = DROPEFFECT_COPY;
+    };
+}
+
 void inDropInto(TestNode& node, const Deed& deed)
 {
     node.draggingInto = [](COleDataObject&, DWORD& effects, bool&, int) -> DWORD {
@@ -198,7 +207,8 @@ const Call kCalls[] = {
     {"infotip", inInfotip, askForTip},
     {"dragInto", inDragInto, dragOver},
     {"dropInto", inDropInto, drop},
-    {"dragIntoOfAPaste", inDragInto, paste},
+    {"dragIntoOfAPaste", inDragInto, paste}, // which asks first whether it is possible
+    {"secondDragIntoOfAPaste", inSecondDragInto, paste},
     {"dropIntoOfAPaste", inDropInto, paste},
 };
 
