@@ -1,5 +1,6 @@
 #include "GalleryFrame.h"
 
+#include "Direction.h"
 #include "Resolution.h"
 #include "Screenshot.h"
 #include "VisualStyles.h"
@@ -152,12 +153,12 @@ void GalleryFrame::RecalcLayout(BOOL notify)
     if (!m_log.m_hWnd)
         return;
     const Places at = places();
-    m_log.MoveWindow(&at.log);
-    m_logLabel.MoveWindow(&at.label);
-    m_pageList.MoveWindow(&at.list);
-    m_header.MoveWindow(&at.header);
+    moveChild(m_log, at.log);
+    moveChild(m_logLabel, at.label);
+    moveChild(m_pageList, at.list);
+    moveChild(m_header, at.header);
     if (m_page && m_page->m_hWnd)
-        m_page->MoveWindow(&at.page);
+        moveChild(*m_page, at.page);
 }
 
 LRESULT GalleryFrame::OnResolutionChanged(WPARAM dots, LPARAM place)

@@ -27,8 +27,7 @@ END_MESSAGE_MAP()
 
 bool PageHeader::create(CWnd& parent)
 {
-    const LPCTSTR cls = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW),
-                                            ::GetSysColorBrush(COLOR_WINDOW));
+    const LPCTSTR cls = AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, ::LoadCursorW(nullptr, IDC_ARROW));
     return CreateEx(0, cls, L"", WS_CHILD | WS_VISIBLE, CRect(), &parent, 0) != FALSE;
 }
 
@@ -63,11 +62,14 @@ void PageHeader::setAccent(COLORREF colour)
     Invalidate();
 }
 
+/// The ground too, which has no brush: where the window moves between erasing and painting, as it does when a
+/// bar is docked, the two would be of different places.
 void PageHeader::OnPaint()
 {
     CPaintDC dc(this);
     CRect place;
     GetClientRect(&place);
+    dc.FillSolidRect(&place, ::GetSysColor(COLOR_WINDOW));
     const int line = m_accent ? scaled(m_hWnd, kAccent) : 1;
     dc.FillSolidRect(place.left, place.bottom - line, place.Width(), line,
                      m_accent.value_or(::GetSysColor(COLOR_BTNSHADOW)));

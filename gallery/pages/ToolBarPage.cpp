@@ -1,5 +1,6 @@
 #include "ToolBarPage.h"
 
+#include "Direction.h"
 #include "GalleryFrame.h"
 #include "resource.h"
 
@@ -314,8 +315,7 @@ void ToolBarPage::showAtScreenEdge()
     CRect room;
     GetClientRect(&room);
     const CRect bar = placeOf(IDC_BARS_COMMANDS);
-    m_commands.SetWindowPos(nullptr, room.right - scaled(70), bar.top, 0, 0,
-                            SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    moveChild(m_commands, CRect(CPoint(room.right - scaled(70), bar.top), bar.Size()));
     UpdateWindow();
     m_commands.open(PasteButton, 1);
 }
@@ -327,7 +327,7 @@ void ToolBarPage::nameParts()
     m_shapes.ShowWindow(SW_HIDE);
     CRect bar = placeOf(IDC_BARS_COMMANDS);
     bar.OffsetRect(0, scaled(kTag + kTagGap));
-    m_commands.SetWindowPos(nullptr, bar.left, bar.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    moveChild(m_commands, bar);
     m_commands.open(FileButton, 2);
     const auto above = [&](int x) { return CPoint(x, bar.top - scaled(kTag)); };
     const auto overButton = [&](int index) {
@@ -351,6 +351,7 @@ void ToolBarPage::addTag(int number, CPoint place)
     tag->Create(std::to_wstring(number).c_str(), WS_CHILD | WS_VISIBLE | SS_CENTER | SS_CENTERIMAGE,
                 CRect(place, size), this);
     tag->SetFont(GetFont());
-    tag->SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    tag->SetWindowPos(&CWnd::wndTop, 0, 0, 0, 0,
+                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOCOPYBITS); // as in moveChild
     m_tags.push_back(std::move(tag));
 }

@@ -218,6 +218,22 @@ TEST_F(GalleryBar, WhatMovesWhenItFloatsIsPaintedWhole)
     EXPECT_EQ(asItIs.differences(Picture::ofClient(scene.frame())), 0);
 }
 
+/// The frame lays itself out again in the middle of opening a page, which moves what is being painted.
+TEST_F(GalleryBar, WhatMovesWhenItDocksIsPaintedWhole)
+{
+    scene.open(L"toolbars");
+    scene.frame().floatBar(3);
+    GuiThread::settle();
+    scene.frame().DockControlBar(&bar(), AFX_IDW_DOCKBAR_TOP);
+    scene.open(L"toolbars");
+    GuiThread::settle();
+    scene.frame().floatPalette();
+    GuiThread::settle();
+    const Picture asItIs = Picture::ofClient(scene.frame());
+    scene.frame().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    EXPECT_EQ(asItIs.differences(Picture::ofClient(scene.frame())), 0);
+}
+
 // The palette
 
 TEST_F(GalleryBar, ThePaletteShowsTheSizesAsTheyAre)

@@ -148,6 +148,15 @@ TEST(GalleryRightToLeft, BarsThatMoveArePaintedWhereTheyGo)
         scene.frame().page().pose(pose);
         lookAgain(pose);
     }
+    scene.open(L"toolbars");
+    scene.frame().page().pose(L"parts");
+    scene.frame().SendMessage(WM_ACTIVATEAPP, FALSE, 0); // the flyout closes
+    lookAgain(L"parts");
+    scene.open(L"toolbars");
+    scene.frame().floatBar(3);
+    lookAgain(L"floating");
+    scene.frame().DockControlBar(&scene.frame().bar(), AFX_IDW_DOCKBAR_TOP);
+    lookAgain(L"docked again");
 }
 
 /// Pictures of something are not turned round.
