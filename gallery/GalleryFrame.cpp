@@ -89,7 +89,8 @@ BOOL GalleryFrame::OnCreateClient(LPCREATESTRUCT, CCreateContext*)
 
 bool GalleryFrame::createParts()
 {
-    constexpr DWORD kLog = LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP | WS_VISIBLE | WS_CHILD;
+    constexpr DWORD kLog =
+        LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_HSCROLL | WS_TABSTOP | WS_VISIBLE | WS_CHILD;
     return m_pageList.create(*this, IDC_PAGE_LIST) && m_header.create(*this) &&
            m_logLabel.Create(L"&Journal of notifications:", WS_CHILD | WS_VISIBLE, CRect(), this) &&
            m_log.CWnd::CreateEx(WS_EX_CLIENTEDGE, L"LISTBOX", nullptr, kLog, CRect(), this, IDC_LOG) &&
@@ -108,6 +109,7 @@ void GalleryFrame::useResolution()
     font->CreateFontIndirect(&face);
     for (CWnd* wnd : std::initializer_list<CWnd*>{&m_pageList, &m_logLabel, &m_log})
         wnd->SetFont(font.get());
+    widenLog();
     m_bar.useFont(*font);
     m_font = std::move(font);
     m_header.useFont(face);
@@ -285,12 +287,37 @@ void GalleryFrame::logLine(const std::wstring& line)
     constexpr int kLines = 2000; // more are of no use, and each is kept
     if (m_log.GetCount() >= kLines)
         m_log.DeleteString(0);
+    widenLog(line.c_str());
     m_log.SetTopIndex(m_log.AddString(line.c_str()));
+}
+
+/// Lines wider than the log are reached with its scroll bar.
+void GalleryFrame::widenLog(const CString& line)
+{
+    constexpr int kMargin = 4;
+    CClientDC dc(&m_log);
+    CFont* const old = dc.SelectObject(m_log.GetFont());
+    const int needed = dc.GetTextExtent(line).cx + scaled(m_hWnd, kMargin);
+    dc.SelectObject(old);
+    if (needed > m_log.GetHorizontalExtent())
+        m_log.SetHorizontalExtent(needed);
+}
+
+/// The same for all lines, in another font.
+void GalleryFrame::widenLog()
+{
+    m_log.SetHorizontalExtent(0);
+    CString line;
+    for (int i = 0; i < m_log.GetCount(); ++i) {
+        m_log.GetText(i, line);
+        widenLog(line);
+    }
 }
 
 void GalleryFrame::OnLogClear()
 {
     m_log.ResetContent();
+    m_log.SetHorizontalExtent(0);
 }
 
 void GalleryFrame::OnUpdateLogClear(CCmdUI* ui)

@@ -100,6 +100,8 @@ private:
     bool offerToPage(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
     void useResolution();
     void makeRoomForPages();
+    void widenLog(const CString& line);
+    void widenLog();
     Places places();
     void stepPage(int step);
     void settle();

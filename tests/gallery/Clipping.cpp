@@ -116,6 +116,25 @@ Problems inCombo(HWND window)
     return problems;
 }
 
+/// A line may be as wide as the scroll bar reaches.
+Problems inListBox(HWND window)
+{
+    if (styleOf(window) & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE | LBS_MULTICOLUMN))
+        return {};
+    CListBox& box = *static_cast<CListBox*>(CWnd::FromHandle(window));
+    const CSize room(std::max(clientOf(window).Width(), box.GetHorizontalExtent()),
+                     clientOf(window).Height());
+    Problems problems;
+    for (int i = 0; i < box.GetCount(); ++i) {
+        CString text;
+        box.GetText(i, text);
+        const Problems found = compare(window, L"the line \"" + std::wstring(text.GetString()) + L"\"",
+                                       sizeIn(window, text.GetString(), DT_SINGLELINE | DT_NOPREFIX), room);
+        problems.insert(problems.end(), found.begin(), found.end());
+    }
+    return problems;
+}
+
 Problems inTabs(HWND window)
 {
     Problems problems;
@@ -185,6 +204,7 @@ Problems inControl(HWND window)
         {L"button", &inButton},
         {L"edit", &inEdit},
         {L"combobox", &inCombo},
+        {L"listbox", &inListBox},
         {L"systabcontrol32", &inTabs},
         {L"msctls_statusbar32", &inStatusBar},
         {L"toolbarwindow32", &inToolBar},

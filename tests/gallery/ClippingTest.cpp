@@ -101,6 +101,13 @@ TEST(Clipping, IsFound)
     box.AddString(L"an entry that is too long");
     EXPECT_NE(problems().find("the entry"), std::string::npos) << problems();
     box.DestroyWindow();
+    CListBox list;
+    list.Create(WS_CHILD | WS_VISIBLE | WS_HSCROLL, at(0, 0, 60, 100), &parent, 5);
+    list.AddString(L"a line that is too long");
+    EXPECT_NE(problems().find("the line"), std::string::npos) << problems();
+    list.SetHorizontalExtent(scaled(parent, 300));
+    EXPECT_EQ(problems(), "") << "it is reached with the scroll bar";
+    list.DestroyWindow();
     CTabCtrl tabs;
     tabs.Create(WS_CHILD | WS_VISIBLE, at(0, 0, 60, 60), &parent, 4);
     tabs.InsertItem(0, L"a tab that is too long");

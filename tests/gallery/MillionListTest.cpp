@@ -61,6 +61,28 @@ TEST(Journal, TellsOfManyNotificationsAtOnceInALine)
     EXPECT_EQ(journal.GetCount(), 102) << "the next one is told again";
 }
 
+TEST(Journal, LongLinesAreReachedWithItsScrollBar)
+{
+    GalleryScene scene;
+    auto& journal = static_cast<CListBox&>(*scene.frame().GetDlgItem(IDC_LOG));
+    scene.frame().logLine(L"short");
+    EXPECT_FALSE(journal.GetStyle() & WS_HSCROLL);
+    const std::wstring line(400, L'W');
+    scene.frame().logLine(line);
+    CClientDC dc(&journal);
+    CFont* const old = dc.SelectObject(journal.GetFont());
+    const int width = dc.GetTextExtent(line.c_str()).cx;
+    dc.SelectObject(old);
+    CRect client;
+    journal.GetClientRect(&client);
+    ASSERT_GT(width, client.Width());
+    ASSERT_TRUE(journal.GetStyle() & WS_HSCROLL);
+    journal.SendMessage(WM_HSCROLL, SB_RIGHT);
+    EXPECT_GE(journal.GetScrollPos(SB_HORZ) + client.Width(), width);
+    scene.frame().SendMessage(WM_COMMAND, ID_LOG_CLEAR);
+    EXPECT_FALSE(journal.GetStyle() & WS_HSCROLL) << "nothing is long any more";
+}
+
 TEST(Journal, KeepsItsLastLines)
 {
     constexpr int kLines = 2000;
