@@ -15,7 +15,9 @@
 #define IDB_ADD_20 121 // six images each: add, remove, up, down, edit, refresh
 #define IDB_ADD_24 131
 #define IDB_ADD_32 141
-#define IDR_SHAPES 151 // a bitmap and a toolbar
+#define IDR_SHAPES_16 151 // a bitmap and a toolbar each
+#define IDR_SHAPES_24 152
+#define IDR_SHAPES_32 153
 #define IDB_DRAWINGS_16 161
 #define IDB_DRAWINGS_24 162
 #define IDB_DRAWINGS_32 163

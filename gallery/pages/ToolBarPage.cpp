@@ -9,6 +9,7 @@
 
 #include <ovouires/resource.h>
 
+#include <algorithm>
 #include <iterator>
 #include <string>
 
@@ -59,6 +60,14 @@ constexpr UINT kCommands[] = {ID_BAR_OPEN,  ID_BAR_PASTE, ID_SEPARATOR, ID_BAR_U
                               ID_SEPARATOR, ID_BAR_EDIT,  ID_SEPARATOR, ID_BAR_COMBO};
 constexpr int kCommandImages[] = {Image::Open, Image::Paste, 0, Image::Undo, Image::Redo};
 constexpr UINT kShapes[] = {ID_BAR_BOX, ID_BAR_LINE};
+
+/// A toolbar resource and the side of its images, which the framework does not scale.
+struct ShapeResource
+{
+    int id;
+    int side; // pixels
+};
+constexpr ShapeResource kShapeResources[] = {{IDR_SHAPES_32, 32}, {IDR_SHAPES_24, 24}, {IDR_SHAPES_16, 16}};
 
 enum CommandButton
 {
@@ -161,11 +170,15 @@ void ToolBarPage::fillCommands(ShownBar& bar, int count)
 
 void ToolBarPage::fillShapes(ShownBar& bar)
 {
-    bar.LoadToolBar(IDR_SHAPES);
+    // The largest images that are not too large; the last are the smallest.
+    const ShapeResource& shapes =
+        *std::find_if(std::begin(kShapeResources), std::end(kShapeResources) - 1,
+                      [&](const ShapeResource& one) { return one.side <= scaled(kImage); });
+    bar.LoadToolBar(static_cast<UINT>(shapes.id));
     bar.SetButtons(kShapes, static_cast<int>(std::size(kShapes)));
     bar.SetButtonInfo(1, ID_BAR_LINE, TBBS_BUTTON, 3);
-    bar.AttachBar(0, IDR_SHAPES, 16, {0, 1, 2}, false);
-    bar.AttachBar(1, IDR_SHAPES, 16, {3, 4, 5}, true);
+    bar.AttachBar(0, shapes.id, shapes.side, {0, 1, 2}, false);
+    bar.AttachBar(1, shapes.id, shapes.side, {3, 4, 5}, true);
 }
 
 void ToolBarPage::addControls()

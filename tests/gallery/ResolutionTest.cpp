@@ -20,13 +20,18 @@ int dotsOfScreen()
     return screen.GetDeviceCaps(LOGPIXELSX);
 }
 
-CSize imageSizeOf(HWND tree)
+CSize imageSizeOf(HWND window, UINT question)
 {
-    const auto images = reinterpret_cast<HIMAGELIST>(::SendMessageW(tree, TVM_GETIMAGELIST, TVSIL_NORMAL, 0));
+    const auto images = reinterpret_cast<HIMAGELIST>(::SendMessageW(window, question, TVSIL_NORMAL, 0));
     int width = 0;
     int height = 0;
     ::ImageList_GetIconSize(images, &width, &height);
     return {width, height};
+}
+
+CSize imageSizeOf(HWND tree)
+{
+    return imageSizeOf(tree, TVM_GETIMAGELIST);
 }
 
 /// What the manifest of the program names: the systems that it was written for.
@@ -73,6 +78,15 @@ TEST(GalleryResolution, ImagesAreAsLargeAs16PixelsAreAt96)
     EXPECT_EQ(imageSizeOf(::GetDlgItem(scene.frame(), IDC_PAGE_LIST)), CSize(size, size));
     EXPECT_EQ(imageSizeOf(::GetDlgItem(scene.control(IDC_TREE_PROJECT), IDC_PROJECT_TREE)),
               CSize(size, size));
+}
+
+TEST(GalleryResolution, PicturesThatAreNotScaledAreTheLargestThatFit)
+{
+    GalleryScene scene;
+    scene.open(L"toolbars");
+    const int room = scaled(scene.frame(), 16);
+    const int size = room >= 32 ? 32 : room >= 24 ? 24 : 16;
+    EXPECT_EQ(imageSizeOf(scene.control(IDC_BARS_SHAPES), TB_GETIMAGELIST), CSize(size, size));
 }
 
 TEST(GalleryResolution, TheWindowOpensAsLargeAsThePagesAre)
