@@ -102,6 +102,7 @@ bool ComboHits::create()
     const LPCTSTR windowClass = frame::arrowClass(CS_DROPSHADOW, reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
     if (!top || !frame::createPopup(*this, windowClass, *top, WS_BORDER))
         return false;
+    ModifyStyleEx(0, m_combo.GetExStyle() & WS_EX_LAYOUTRTL); // the list inherits it
     m_top = top->m_hWnd;
     ::SetWindowSubclass(m_top, &topProcedure, reinterpret_cast<UINT_PTR>(this),
                         reinterpret_cast<DWORD_PTR>(this));

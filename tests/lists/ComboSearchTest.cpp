@@ -335,6 +335,24 @@ TEST_F(ComboSearching, InTheFontOfTheComboBox)
     scene.combo.SetFont(nullptr);
 }
 
+TEST_F(ComboSearching, TheHitsReadFromTheRightWhereTheComboBoxDoes)
+{
+    scene.combo.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    scene.robot.type(L"err");
+    ASSERT_TRUE(hitsWindow());
+    CRect list;
+    ::GetWindowRect(hitsList(), &list);
+    const CRect right(list.CenterPoint().x, list.top, list.right, list.bottom);
+    const CRect left(list.left, list.top, right.left, list.bottom);
+    const auto letters = [](const CRect& place) {
+        return Picture::ofScreen().count(::GetSysColor(COLOR_WINDOWTEXT), 0, place);
+    };
+    EXPECT_TRUE(GuiThread::runUntil([&] { return letters(right) > 0; }));
+    EXPECT_EQ(letters(left), 0);
+    scene.robot.click(overHit(1));
+    EXPECT_EQ(scene.text(), L"blackberry") << "the mouse finds them there";
+}
+
 TEST_F(ComboSearching, WhatAHostWritesShowsNone)
 {
     scene.setText(L"err");
