@@ -11,6 +11,6 @@
 /// have chosen a large one.
 inline int columnWidth(CListCtrl& list, int usual, LPCTSTR text)
 {
-    constexpr int kMargins = 14; // of a cell
+    constexpr int kMargins = 18; // of a heading without visual styles; those of a cell are narrower
     return std::max(scaled(list, usual), list.GetStringWidth(text) + scaled(list, kMargins));
 }

@@ -123,8 +123,9 @@ void ListsPage::createColours()
     m_colours.AddColumn(L"Name", 0, -1, false, kColumn, LVCFMT_LEFT);
     m_colours.AddColumn(L"Colour", 1, -1, true, kColumn, LVCFMT_LEFT);
     m_colours.AddColumn(L"Opacity", 2, -1, false, kColumn, LVCFMT_RIGHT);
-    m_colours.SetColumnWidth(0, scaled(110));
+    m_colours.SetColumnWidth(0, columnWidth(m_colours, 110, L"Misty malachite"));
     m_colours.SetColumnWidth(1, scaled(110));
+    m_colours.SetColumnWidth(2, columnWidth(m_colours, 60, L"Opacity"));
     fillColours(L"");
     replace(IDC_LISTS_COLOURS, m_colours);
 }
@@ -160,7 +161,7 @@ void ListsPage::createProcesses()
     m_processes.AddColumn(L"Owner", 2, -1, false, kColumn, LVCFMT_CENTER);
     m_processes.SetColumnWidth(0, scaled(130));
     m_processes.SetColumnWidth(1, columnWidth(m_processes, 75, grouped(kMostMemory).c_str()));
-    m_processes.SetColumnWidth(2, scaled(70));
+    m_processes.SetColumnWidth(2, columnWidth(m_processes, 70, L"gardener"));
     int row = 0;
     for (const Process& process : kProcesses) {
         m_processes.AddItem(row, 0, process.name, 0, process.isLocked ? kLocked : kPlain);

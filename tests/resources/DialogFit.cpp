@@ -2,6 +2,7 @@
 #include "support/WindowFacts.h"
 
 #include <commctrl.h>
+#include <uxtheme.h>
 
 #include <algorithm>
 
@@ -119,7 +120,8 @@ Problems headingProblems(HWND list)
     Problems problems;
     const auto header = reinterpret_cast<HWND>(::SendMessageW(list, LVM_GETHEADER, 0, 0));
     const int columns = static_cast<int>(::SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
-    const int beside = 6 * ::GetSystemMetrics(SM_CXEDGE);
+    // The margins at both ends, and without visual styles the edges.
+    const int beside = (::IsAppThemed() ? 6 : 8) * ::GetSystemMetrics(SM_CXEDGE);
     for (int i = 0; i < columns; ++i) {
         wchar_t text[256];
         HDITEMW item{};
