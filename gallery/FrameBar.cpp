@@ -14,7 +14,7 @@ namespace
 constexpr int kImage = 16; // pixels at 96 dots per inch, as are the others
 constexpr int kFilterWidth = 110;
 constexpr int kPosesWidth = 130;
-constexpr int kControlHeight = 22; // that of the buttons
+constexpr int kButtonHeight = 22;
 constexpr int kDropHeight = 200;
 
 /// Images of the strip.
@@ -87,12 +87,14 @@ void FrameBar::useFont(CFont& font)
 {
     const auto place = [&](int button, UINT id, CWnd& control, int width, int height) {
         control.SetFont(&font);
-        control.SetWindowPos(nullptr, 0, 0, scaled(m_hWnd, width), scaled(m_hWnd, height),
+        control.SetWindowPos(nullptr, 0, 0, scaled(m_hWnd, width), height,
                              SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
         SetButtonInfo(button, id, TBBS_SEPARATOR, scaled(m_hWnd, width));
     };
-    place(FilterPlace, IDC_FRAME_FILTER, m_filter, kFilterWidth, kControlHeight);
-    place(PosesPlace, IDC_FRAME_POSES, m_poses, kPosesWidth, kDropHeight);
+    place(PosesPlace, IDC_FRAME_POSES, m_poses, kPosesWidth, scaled(m_hWnd, kDropHeight));
+    CRect closed; // as high as that, the filter has its text on the same line
+    m_poses.GetWindowRect(&closed);
+    place(FilterPlace, IDC_FRAME_FILTER, m_filter, kFilterWidth, closed.Height());
 }
 
 int FrameBar::rowsShown() const
@@ -102,7 +104,7 @@ int FrameBar::rowsShown() const
     for (int i = 0; i < count; ++i) {
         CRect rect;
         GetItemRect(i, &rect);
-        if (GetItemID(i) != ID_SEPARATOR || rect.Width() > kControlHeight) // or a control's place
+        if (GetItemID(i) != ID_SEPARATOR || rect.Width() > kButtonHeight) // or a control's place
             tops.insert(rect.top);
     }
     return static_cast<int>(tops.size());

@@ -34,8 +34,7 @@ constexpr wchar_t kChoices[] = L"ToolBarPage"; // section of the profile
 constexpr int kImage = 16; // pixels at 96 dots per inch
 constexpr int kEditWidth = 90;
 constexpr int kComboWidth = 100;
-constexpr int kControlHeight = 22; // that of the buttons
-constexpr int kTag = 14;           // a number beside a part
+constexpr int kTag = 14; // a number beside a part
 constexpr int kTagGap = 4;
 constexpr int kBesideFlyout = 120;
 
@@ -186,11 +185,15 @@ void ToolBarPage::addControls()
     m_commands.SetButtonInfo(EditPlace, ID_BAR_EDIT, TBBS_SEPARATOR, scaled(kEditWidth));
     m_commands.SetButtonInfo(ComboPlace, ID_BAR_COMBO, TBBS_SEPARATOR, scaled(kComboWidth));
     m_edit.CreateEx(WS_EX_CLIENTEDGE, L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL,
-                    CRect(0, 0, scaled(kEditWidth), scaled(kControlHeight)), &m_commands, ID_BAR_EDIT);
+                    CRect(), &m_commands, ID_BAR_EDIT);
     m_combo.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWN,
                    CRect(0, 0, scaled(kComboWidth), scaled(160)), &m_commands, ID_BAR_COMBO);
     for (CWnd* const control : {static_cast<CWnd*>(&m_edit), static_cast<CWnd*>(&m_combo)})
         control->SetFont(GetFont());
+    CRect closed; // as high as that, the edit has its text on the same line
+    m_combo.GetWindowRect(&closed);
+    m_edit.SetWindowPos(nullptr, 0, 0, scaled(kEditWidth), closed.Height(),
+                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     for (const wchar_t* const zoom : {L"50 %", L"100 %", L"200 %"})
         m_combo.AddString(zoom);
     m_combo.SetCurSel(1);

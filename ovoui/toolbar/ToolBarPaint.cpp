@@ -3,6 +3,7 @@
 #include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/DrawnState.h>
 #include <ovoui/frame/ThemeData.h>
+#include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/ToolBarState.h>
 #include <ovoui/toolbar/core/FlyoutPlacement.h>
 #include <ovoui/toolbar/core/GripperDots.h>
@@ -77,10 +78,32 @@ void CVantorToolBar::OnPaint()
 {
     const std::shared_ptr<State> state = m_state;
     CToolBar::OnPaint(); // asks the owner about custom drawing
+    if (state->usable())
+        erasePlaces();
     if (state->usable() && state->marksFlyouts)
         drawFlyoutMarks();
     if (state->usable() && state->keyboard.on)
         drawFocus();
+}
+
+/// Separators that keep the places of controls have the line of a separator, which would be seen above and
+/// below a control that is lower than the buttons.
+void CVantorToolBar::erasePlaces()
+{
+    const std::shared_ptr<State> state = m_state;
+    for (int i = 0; state->usable() && i < buttonCount(); ++i) {
+        const HWND control = controlAt(buttonOf(m_hWnd, i));
+        CRect place;
+        if (!control || !::IsWindowVisible(control) || !GetToolBarCtrl().GetItemRect(i, &place))
+            continue;
+        CRect covered;
+        ::GetWindowRect(control, &covered);
+        ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(&covered), 2);
+        CClientDC dc(this);
+        dc.IntersectClipRect(&place);
+        dc.ExcludeClipRect(&covered);
+        SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC)); // the bar's ground, whoever draws it
+    }
 }
 
 /// The button that the keyboard is at.

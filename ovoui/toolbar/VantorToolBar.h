@@ -241,6 +241,7 @@ private:
     void releaseQuietly(UINT flags, CPoint point);
     void showChoice(int index, int command, int image);
     void restoreChoice(int index, int command);
+    void erasePlaces();
     void drawFlyoutMarks();
     void drawFocus();
     UINT holdDelay() const;

@@ -110,6 +110,29 @@ TEST_F(BarLayout, TheHeightThatWasSetIsThatOfTheHorizontalBar)
     EXPECT_EQ(scene.bar().CalcFixedLayout(FALSE, TRUE), plain.CalcFixedLayout(FALSE, TRUE));
 }
 
+TEST_F(BarLayout, AControlLowerThanTheButtonsHasNoLineBehindIt)
+{
+    addEdit();
+    scene.bar().calcLayout(LM_HORZ);
+    CRect place;
+    scene.bar().GetItemRect(BarScene::Other, &place);
+    CRect covered;
+    edit.GetWindowRect(&covered);
+    scene.bar().ScreenToClient(&covered);
+    ASSERT_LT(covered.Height(), place.Height() - 1);
+    ASSERT_GT(covered.top, place.top);
+    const COLORREF ground = ::GetSysColor(COLOR_BTNFACE);
+    const auto plainPixels = [&](int top, int bottom) {
+        return Picture::ofClient(scene.bar()).count(ground, 0, CRect(place.left, top, place.right, bottom));
+    };
+    EXPECT_EQ(plainPixels(place.top, covered.top), place.Width() * (covered.top - place.top));
+    EXPECT_EQ(plainPixels(covered.bottom, place.bottom), place.Width() * (place.bottom - covered.bottom));
+    CRect gap;
+    scene.bar().GetItemRect(BarScene::Gap, &gap);
+    EXPECT_LT(Picture::ofClient(scene.bar()).count(ground, 0, gap), gap.Width() * gap.Height())
+        << "the line of a plain separator stays";
+}
+
 TEST_F(BarLayout, ALengthAloneChangesNothing)
 {
     style(CBRS_SIZE_DYNAMIC);
