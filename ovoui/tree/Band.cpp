@@ -178,13 +178,16 @@ void MultiTreeCtrl::Band::setFrame(const std::optional<CRect>& frame)
     tree().UpdateWindow();
 }
 
-/// The lines alone: what is between them need not be painted.
+/// The lines, and the pixels beside them, where a mirrored window may have drawn them: what is between them need
+/// not be painted.
 void MultiTreeCtrl::Band::invalidate(const CRect& frame) const
 {
+    CRect outside(frame);
+    outside.InflateRect(1, 1);
     CRect inside(frame);
-    inside.DeflateRect(1, 1);
+    inside.DeflateRect(2, 2);
     CRgn lines;
-    lines.CreateRectRgnIndirect(&frame);
+    lines.CreateRectRgnIndirect(&outside);
     if (!inside.IsRectEmpty()) {
         CRgn hole;
         hole.CreateRectRgnIndirect(&inside);
