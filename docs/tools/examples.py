@@ -30,6 +30,6 @@ class Example:
 
 def examples(root, path):
     text = path.read_text(encoding="utf-8")
-    for match in re.finditer(r"^```(\w+)\n(.*?)^```$", text, re.DOTALL | re.MULTILINE):
+    for match in re.finditer(r"^([ \t]*)```(\S+)[^\n]*\n(.*?)^\1```$", text, re.DOTALL | re.MULTILINE):
         before = text[: match.start()]
-        yield Example(str(path.relative_to(root)), before.count("\n") + 2, match[1], match[2], before[-6000:])
+        yield Example(str(path.relative_to(root)), before.count("\n") + 2, match[2], match[3], before[-6000:])
