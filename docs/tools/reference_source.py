@@ -20,9 +20,9 @@ GROUPS = (  # the first prefix that fits names the group of a header
     ("ovoui/sliders/", "sliders"),
     ("ovoui/sysinfo/", "sysinfo"),
     ("ovoui/update/", "update"),
-    ("ovoui/", "frame"),
     ("testkit/", "testkit"),
 )
+GROUP_WITHOUT_FOLDER = "frame"  # of the headers that lie in ovoui itself
 PAGES = ("README.md", "CONTRIBUTING.md", "CHANGELOG.md", "docs/*.md", "docs/guides/*.md")
 
 # What needs no comment of its own: the framework's business, and what every class has.
@@ -36,6 +36,13 @@ FUNCTION = re.compile(r"([\w~]+|operator\s*[^\s\w(]+|operator\(\)|operator bool)
 
 def version(root):
     return re.search(r'OVOUI_VERSION_STRING "(.+)"', (root / "ovoui/version.h").read_text(encoding="utf-8"))[1]
+
+
+def group_of(name):
+    """The group of a header, or None for a folder that belongs to none."""
+    if name.count("/") == 1 and name.startswith("ovoui/"):
+        return GROUP_WITHOUT_FOLDER
+    return next((group for prefix, group in GROUPS if name.startswith(prefix)), None)
 
 
 def escaped(prose):
@@ -82,7 +89,9 @@ class Header:
         return i
 
     def convert(self):
-        group = next(name for prefix, name in GROUPS if self.name.startswith(prefix))
+        group = group_of(self.name)
+        if not group:
+            self.problems.append((1, "the folder belongs to no group of the reference"))
         comment, comment_of = [], None  # the last comment, and the function that it was for
         self.head = []  # the comment at the head of the file, which is also that of a class that has none
         i = 0

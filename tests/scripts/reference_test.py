@@ -1,5 +1,6 @@
 """docs/tools/make-reference on a small project of its own: what it takes, and each mistake that it has to find."""
 import pathlib
+import re
 import shutil
 import subprocess
 import tempfile
@@ -47,6 +48,21 @@ README = "# Garden\n\nSee [the beds](docs/beds.md) and [their soil](docs/beds.md
 PAGE = "# Beds\n\n## The soil\n\nLoam.\n"
 
 
+def luminance(colour):
+    """Of a colour such as "#16191d", relative to white."""
+    def linear(part):
+        share = int(part, 16) / 255
+        return share / 12.92 if share <= 0.04045 else ((share + 0.055) / 1.055) ** 2.4
+
+    red, green, blue = (linear(colour[at:at + 2]) for at in (1, 3, 5))
+    return 0.2126 * red + 0.7152 * green + 0.0722 * blue
+
+
+def contrast(one, other):
+    light, dark = sorted((luminance(one), luminance(other)), reverse=True)
+    return (light + 0.05) / (dark + 0.05)
+
+
 class Reference(unittest.TestCase):
     def setUp(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="the garden "))
@@ -62,11 +78,11 @@ class Reference(unittest.TestCase):
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(text, encoding="utf-8")
 
-    def make(self, header=GOOD, readme=README, page=PAGE):
-        self.write("ovoui/tree/Bed.h", header)
+    def make(self, header=GOOD, readme=README, page=PAGE, name="ovoui/tree/Bed.h"):
+        self.write(name, header)
         self.write("README.md", readme)
         self.write("docs/beds.md", page)
-        return subprocess.run([ROOT / "docs/tools/make-reference", self.folder, self.folder / "out", "ovoui/tree/Bed.h"],
+        return subprocess.run([ROOT / "docs/tools/make-reference", self.folder, self.folder / "out", name],
                               capture_output=True, text=True)
 
     def complains(self, words, **files):
@@ -81,6 +97,25 @@ class Reference(unittest.TestCase):
         self.assertIn("Rows of plants", page)
         self.assertNotIn("OnPaint", page)
         self.assertNotIn("water", page)
+
+    def test_the_pages_can_be_searched_and_are_dark_where_the_reader_wants_it(self):
+        self.assertEqual(self.make().returncode, 0)
+        html = self.folder / "out/html"
+        page = (html / "classBed.html").read_text(encoding="utf-8")
+        self.assertIn('src="search/search.js"', page)
+        found = "".join(path.read_text(encoding="utf-8") for path in (html / "search").glob("all_*.js"))
+        for name in ("Bed", "put", "Beds", "Trees"):
+            self.assertIn(f"'{name}'", found)
+        self.assertIn('href="style.css"', page)
+        self.assertIn("@media (prefers-color-scheme: dark)", (html / "style.css").read_text(encoding="utf-8"))
+
+    def test_colours_of_text_can_be_read_on_the_page_and_on_the_panels_in_both_schemes(self):
+        style = (ROOT / "docs/reference/style.css").read_text(encoding="utf-8")
+        schemes = [dict(re.findall(r"--(\w+): (#\w{6});", part)) for part in style.split("@media (prefers-color-scheme: dark)")]
+        for colours in schemes:
+            for text in ("text", "dim", "link"):
+                for ground in ("back", "panel"):
+                    self.assertGreaterEqual(contrast(colours[text], colours[ground]), 4.5, f"{text} on {ground}")
 
     def test_a_name_without_a_comment(self):
         self.complains("ovoui/tree/Bed.h:16: Member weeds (variable) of class Bed is not documented",
@@ -145,6 +180,16 @@ class Reference(unittest.TestCase):
         self.write("docs/reference/groups.dox", GROUP.replace("| key |", "| part |").replace("A group.", "It has no\nkeys."))
         made = self.make()
         self.assertEqual((made.returncode, made.stderr), (0, ""))
+
+    def test_a_folder_without_a_group(self):
+        self.complains("ovoui/herbs/Bed.h:1: the folder belongs to no group", name="ovoui/herbs/Bed.h")
+
+    def test_a_header_beside_the_folders_is_in_the_first_group(self):
+        self.complains("the group frame is not defined", name="ovoui/Bed.h")
+
+    def test_a_group_that_is_not_defined(self):
+        self.write("docs/reference/groups.dox", GROUP.replace("defgroup tree", "defgroup shrubs"))
+        self.complains("the group tree is not defined in reference")
 
     def test_prose_holds_no_commands(self):
         made = self.make(header=GOOD.replace("Rows of plants.", "Rows of C:\\beds\\new, <plants> & #1 @home."))
