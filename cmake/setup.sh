@@ -9,6 +9,7 @@ packages=(
   gdb                                                    # the debugger's views
   librsvg2-bin imagemagick python3                       # icons from drawings, scripts
   doxygen                                                # the reference
+  pkgconf                                                # hosts that are built by hand
 )
 
 trap 'echo; echo "Interrupted." >&2; exit 130' INT

@@ -1,9 +1,9 @@
-# Unpacks the SDK's archive into another folder, builds hosts against it alone, with CMake and with what pkg-config reads, and the
+# Unpacks the SDK's archive into another folder, builds hosts against it alone, with CMake and with what pkg-config says, and the
 # examples that it holds and the first host of the guides, and runs them all.
 #
-#   cmake -D BUILD=... -D ROOT=... -D CXX=... -D WINE=... [-D ARCHIVE=FILE] [-D EXAMPLES=N] -P package.cmake
+#   cmake -D BUILD=... -D ROOT=... -D CXX=... -D WINE=... [-D ARCHIVE=FILE] -P package.cmake
 #
-# Without ARCHIVE, a file that ./package has made, it is packed from BUILD first. With EXAMPLES at most so many of them are built.
+# Without ARCHIVE, a file that ./package has made, it is packed from BUILD first.
 set(work ${BUILD}/package-test)
 set(place "${work}/Größe und Maß")
 set(host ${ROOT}/tests/package/host)
@@ -42,25 +42,6 @@ function(configure_and_build source build)
   run(${CMAKE_COMMAND} --build ${build})
 endfunction()
 
-# pkg_config(OUT PACKAGE FIELD): the words of a field, as pkg-config would give them.
-function(pkg_config out package field)
-  set(file ${prefix}/lib/pkgconfig/${package}.pc)
-  file(STRINGS ${file} lines)
-  set(pcfiledir ${prefix}/lib/pkgconfig)
-  foreach(line IN LISTS lines)
-    if(line MATCHES "^([a-z]+)=(.*)$")
-      set(name ${CMAKE_MATCH_1})
-      string(CONFIGURE "${CMAKE_MATCH_2}" ${name})
-    elseif(line MATCHES "^${field}: (.*)$")
-      string(CONFIGURE "${CMAKE_MATCH_1}" words)
-      separate_arguments(words UNIX_COMMAND "${words}")
-      set(${out} ${words} PARENT_SCOPE)
-      return()
-    endif()
-  endforeach()
-  message(FATAL_ERROR "${package}.pc has no ${field}")
-endfunction()
-
 set(whole --whole)
 if(NOT ARCHIVE)
   set(whole "")
@@ -78,22 +59,14 @@ foreach(program host windowed palette drawing)
   under_wine(${work}/build/${program}.exe)
 endforeach()
 
-# By hand, as a makefile would.
+# By hand, as a makefile would, with what pkg-config says.
 file(MAKE_DIRECTORY ${work}/by-hand)
-pkg_config(version ovoui Version)
+set(packages_of_host ovoui)
+set(packages_of_windowed ovoui-windowed)
+set(packages_of_drawing ovoui-svg ovoui)
 foreach(program host windowed drawing)
-  set(package ovoui)
-  if(program STREQUAL windowed)
-    set(package ovoui-windowed)
-  endif()
-  pkg_config(flags ${package} Cflags)
-  pkg_config(libs ${package} Libs)
-  if(program STREQUAL drawing)
-    pkg_config(module ovoui-svg Libs)
-    list(PREPEND libs ${module})
-  endif()
-  run(${CXX} -O1 "-DPACKAGE_VERSION=\"${version}\"" ${flags} ${host}/${program}.cpp ${libs}
-      -o ${work}/by-hand/${program}.exe)
+  run(${ROOT}/tests/package/build-by-hand ${prefix} ${CXX} ${host}/${program}.cpp ${work}/by-hand/${program}.exe
+      ${packages_of_${program}})
   under_wine(${work}/by-hand/${program}.exe)
 endforeach()
 
@@ -104,8 +77,9 @@ under_wine(${work}/by-hand/by-name.exe)
 
 # The examples, each in a build folder of its own; a program is started, shows its window, and ends when that is closed.
 file(GLOB examples RELATIVE ${prefix}/examples ${prefix}/examples/*/CMakeLists.txt)
-if(EXAMPLES)
-  list(SUBLIST examples 0 ${EXAMPLES} examples)
+file(GLOB in_the_project RELATIVE ${ROOT}/examples ${ROOT}/examples/*/CMakeLists.txt)
+if(NOT examples STREQUAL in_the_project)
+  message(FATAL_ERROR "the archive has the examples ${examples}, the project ${in_the_project}")
 endif()
 foreach(example IN LISTS examples)
   get_filename_component(name ${example} DIRECTORY)
@@ -128,13 +102,13 @@ endforeach()
 configure_and_build(${work}/first-host ${work}/first-host/build)
 under_wine(${work}/build/visitor.exe ${work}/first-host/build/host.exe)
 
-# An example and its robot test, with the kit of the archive.
+# The robot test of an example, with the kit of the archive, on the program that was built with it.
 set(robot ${work}/robot)
-file(COPY ${ROOT}/tests/package/robot ${prefix}/examples/settings-dialog DESTINATION ${work})
-file(RENAME ${work}/settings-dialog ${robot}/settings-dialog)
+file(COPY ${ROOT}/tests/package/robot DESTINATION ${work})
+file(COPY ${prefix}/examples/settings-dialog/resource.h DESTINATION ${robot}/settings-dialog)
 file(COPY ${ROOT}/tests/examples/SettingsDialogTest.cpp ${ROOT}/tests/examples/ExampleScene.h DESTINATION ${robot})
 configure_and_build(${robot} ${robot}/build)
-under_wine(${robot}/build/robot.exe ${robot}/build/settings-dialog.exe)
+under_wine(${robot}/build/robot.exe ${work}/examples/settings-dialog/settings-dialog.exe)
 
 list(LENGTH examples count)
 message(STATUS "the SDK builds and runs its hosts and ${count} examples")
