@@ -15,6 +15,7 @@ COMPILER = "x86_64-w64-mingw32-g++-posix"
 
 HEADER = """
 #pragma once
+#include <stdexcept>
 class API Base
 {
 public:
@@ -31,7 +32,14 @@ public:
     int answer() const override;
 };
 namespace house { class API Room { public: Room(); class API Door { public: Door(); char open; }; double size; }; }
-class Hidden { virtual void unseen(); int size; };
+struct Question final { int most; };
+class Asked
+{
+public:
+    virtual void first() = 0;
+    virtual void second() = 0;
+};
+enum class Answer { Yes };
 API int count(Base&);
 """
 
@@ -101,7 +109,7 @@ class Snapshot(unittest.TestCase):
         for sentence in sentences:
             self.assertIn(sentence, said)
 
-    def test_the_record_has_what_is_exported_and_nothing_else(self):
+    def test_the_record_has_what_programs_rely_on_and_nothing_else(self):
         self.run_command("compare", HEADER, SOURCE)
         record = (self.folder / "record.txt").read_text().splitlines()
         self.assertIn("class Base = size 16", record)
@@ -109,7 +117,10 @@ class Snapshot(unittest.TestCase):
         self.assertIn("virtual Base   2 = _ZN4Base3askEv", record)
         self.assertIn("virtual Derived   4 = _ZNK7Derived6answerEv", record)
         self.assertIn("export _Z5countR4Base", record)
-        self.assertFalse([line for line in record if "Hidden" in line])
+        self.assertIn("class Question = size 4", record)
+        self.assertIn("virtual Asked   1 = _ZN5Asked6secondEv", record)
+        classes = {line.split()[1] for line in record if line.startswith("class ")}
+        self.assertEqual(classes, {"Base", "Derived", "house::Room", "house::Room::Door", "Question", "Asked"})
 
     def test_nothing_changed(self):
         self.assertEqual(self.compare(), (0, ""))
@@ -119,12 +130,22 @@ class Snapshot(unittest.TestCase):
                            "export count(Base&) is gone")
 
     def test_a_removed_class(self):
-        self.assert_broken(self.compare("class API Door", "class Door"),
-                           "class house::Room::Door had size 1, now is gone", "export house::Room::Door::Door() is gone")
+        self.assert_broken(self.compare("struct Question final { int most; };", ""), "class Question had size 4, now is gone")
+
+    def test_a_class_that_is_exported_no_more(self):
+        self.assert_broken(self.compare("class API Door", "class Door"), "export house::Room::Door::Door() is gone")
 
     def test_a_grown_class(self):
         self.assert_broken(self.compare("int number = 0;", "int number = 0; double more = 0;"),
                            "class Base had size 16, now has size 24", "class Derived had size 16, now has size 24")
+
+    def test_a_grown_structure_that_exports_nothing(self):
+        self.assert_broken(self.compare("int most;", "int most; int least;"), "class Question had size 4, now has size 8")
+
+    def test_swapped_virtual_functions_of_a_class_that_exports_nothing(self):
+        self.assert_broken(self.compare("virtual void first() = 0;\n    virtual void second() = 0;",
+                                        "virtual void second() = 0;\n    virtual void first() = 0;"),
+                           "virtual function at place 0 of Asked was Asked::first(), now is Asked::second()")
 
     def test_swapped_virtual_functions(self):
         self.assert_broken(self.compare("virtual void ask() = 0;\n    virtual void ask(int);",
