@@ -34,12 +34,12 @@ public:
     void saveLayout() { saveColumnLayout(*this, kSection, L"Columns", &m_sorter); }
     void sortBy(int column) { m_sorter.Sort(column, true); }
 
-    /// Throws fs::filesystem_error when the folder cannot be read; the list is empty then.
+    /// Throws fs::filesystem_error when the folder cannot be read; the list is empty then, and for no folder.
     void show(const fs::path& folder)
     {
         DeleteAllItems();
         m_paths.clear();
-        for (const auto& entry : fs::directory_iterator(folder))
+        for (const auto& entry : folder.empty() ? fs::directory_iterator() : fs::directory_iterator(folder))
             add(entry.path());
         m_sorter.Sort(m_sorter.Column(), m_sorter.Ascending());
     }

@@ -79,7 +79,7 @@ protected:
     afx_msg void OnRowOpened(NMHDR*, LRESULT*)
     {
         const int row = m_list.GetNextItem(-1, LVNI_FOCUSED | LVNI_SELECTED);
-        if (row >= 0 && fs::is_directory(m_list.path(row)))
+        if (row >= 0 && ::PathIsDirectoryW(m_list.path(row).c_str()))
             m_tree.selectPath(m_tree.selectedPath() + L"/" + m_list.path(row).filename().wstring());
         else if (row >= 0)
             ::ShellExecuteW(m_hWnd, nullptr, m_list.path(row).c_str(), nullptr, nullptr, SW_SHOWNORMAL);
@@ -96,9 +96,11 @@ protected:
 
     afx_msg void OnSave()
     {
-        if (const auto path =
-                pickFileToSave({.parent = this, .types = {{L"Texts", {L"*.txt"}}}, .extension = L".txt"}))
-            std::ofstream(*path) << getMBS(m_list.chosenPaths()); // in UTF-8
+        const auto path = pickFileToSave({.types = {{L"Texts", {L"*.txt"}}}, .extension = L".txt"});
+        const std::wstring text = L"\xFEFF" + m_list.chosenPaths(); // UTF-16 has every name
+        const auto* const bytes = reinterpret_cast<const char*>(text.data());
+        if (path && !std::ofstream(*path, std::ios::binary).write(bytes, 2 * text.size()).flush())
+            m_tree.reportError(L"The file cannot be written.");
     }
 
     afx_msg void OnCopyRows() { copySelectedRows(m_list, true); }

@@ -1,9 +1,7 @@
 #pragma once
-
 #define IDR_MAIN_FRAME 101
 #define IDC_TREE 1001
 #define IDC_LIST 1002
-
 #define ID_FOLDER_OPEN 32771
 #define ID_FOLDER_UP 32772
 #define ID_FOLDER_REFRESH 32773

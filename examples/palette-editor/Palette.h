@@ -1,4 +1,4 @@
-// A palette: named colours in order, as texts with a line for each, "#FFBF00 Amber".
+// A palette: named colours in order, as texts with a line for each, "#FFBF00 Amber", in UTF-16.
 #pragma once
 
 #include <ovocor/ovocor.h>
@@ -25,23 +25,25 @@ inline Palette firstPalette()
         {L"Pebble", Colour::colorref(RGB(158, 154, 146))}, {L"Chalk", Colour::colorref(RGB(242, 238, 228))}};
 }
 
-/// Lines without a colour are left out.
+/// Lines without a colour are left out. As the other one it throws an OvoError when the file refuses.
 inline Palette readPalette(const std::filesystem::path& path)
 {
     Palette palette;
-    std::ifstream file(path);
-    for (std::string line; std::getline(file, line);) {
-        const std::wstring text = getWCS(line);
-        const std::size_t blank = std::min(text.find(L' '), text.size());
-        if (const auto colour = ovoui::colour::colourFromText(std::wstring_view(text).substr(0, blank)))
-            palette.push_back({text.substr(std::min(blank + 1, text.size())), *colour});
+    OVO::TextReader file(path.wstring());
+    for (std::wstring line; file.readLine(line);) {
+        const std::size_t blank = std::min(line.find(L' '), line.size());
+        if (const auto colour = ovoui::colour::colourFromText(std::wstring_view(line).substr(0, blank)))
+            palette.push_back({line.substr(std::min(blank + 1, line.size())), *colour});
     }
     return palette;
 }
 
 inline void writePalette(const std::filesystem::path& path, const Palette& palette)
 {
-    std::ofstream file(path);
+    std::wstring text = L"\xFEFF"; // the mark
     for (const NamedColour& entry : palette)
-        file << getMBS(ovoui::colour::textOfColour(entry.colour) + L' ' + entry.name) << '\n';
+        text += ovoui::colour::textOfColour(entry.colour) + L' ' + entry.name + L"\r\n";
+    const auto* const bytes = reinterpret_cast<const char*>(text.data());
+    if (!std::ofstream(path, std::ios::binary).write(bytes, 2 * text.size()).flush())
+        throw OvoError(L"The file \"" + path.wstring() + L"\" cannot be written.");
 }

@@ -5,8 +5,6 @@
 
 #include <ovouires/resource.h>
 
-#include <afxole.h>
-
 class PaletteEditor : public ColPickerDlgBase
 {
 public:
@@ -277,11 +275,14 @@ END_MESSAGE_MAP()
 class PaletteApp : public CWinApp
 {
     BOOL InitInstance() override
-    {
+    try {
         SetRegistryKey(L"ovoui examples");
         AfxOleInit(); // for the clipboard
         const CGdiPlusSession gdiPlus;
         PaletteEditor(*this, __argc > 1 ? readPalette(__wargv[1]) : firstPalette()).DoModal();
+        return FALSE;
+    } catch (const OvoError& error) {
+        AfxMessageBox(error.wwhat()); // of the file that it was to begin with
         return FALSE;
     }
 } theApp;

@@ -1,7 +1,5 @@
 #pragma once
-
 #define IDD_PALETTE_EDITOR 101
-
 #define IDC_LIST 1001
 #define IDC_ADD 1002
 #define IDC_REMOVE 1003

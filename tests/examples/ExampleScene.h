@@ -4,12 +4,16 @@
 #include <testkit/Picture.h>
 #include <testkit/RunningProgram.h>
 
+#include <ovocor/TextReader.h>
+
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <iterator>
 #include <string>
+#include <vector>
 
 /// An example that runs, without settings of earlier runs.
 class Example : public ::testing::Test
@@ -25,6 +29,38 @@ protected:
         return static_cast<int>(::SendMessageW(window, message, wParam, 0));
     }
 };
+
+/// Types `path` into the file dialog that the program is about to open, and presses Enter. The dialog is the
+/// system's, so it is known by its owner, and ready once the keyboard is in a field of it.
+inline void answerFileDialog(ovo::testkit::RunningProgram& program, const std::wstring& path)
+{
+    HWND dialog = nullptr;
+    program.waitFor("the file dialog", [&] {
+        GUITHREADINFO thread{};
+        thread.cbSize = sizeof thread;
+        wchar_t focused[16]{};
+        dialog = ::GetForegroundWindow();
+        return dialog != program.main() && ::GetWindow(dialog, GW_OWNER) == program.main() &&
+               ::GetGUIThreadInfo(::GetWindowThreadProcessId(dialog, nullptr), &thread) &&
+               ::IsChild(dialog, thread.hwndFocus) &&
+               ::GetClassNameW(thread.hwndFocus, focused, static_cast<int>(std::size(focused))) != 0 &&
+               ::lstrcmpiW(focused, L"Edit") == 0;
+    });
+    program.type(path);
+    program.key(VK_RETURN);
+    program.waitFor("the end of the file dialog", [&] { return !::IsWindow(dialog); });
+    program.waitFor("the program to go on", [&] { return ::IsWindowEnabled(program.main()) != FALSE; });
+}
+
+/// The lines of a file that a program has saved.
+inline std::vector<std::wstring> linesOf(const std::wstring& path)
+{
+    std::vector<std::wstring> lines;
+    OVO::TextReader reader(path);
+    for (std::wstring line; reader.readLine(line);)
+        lines.push_back(line);
+    return lines;
+}
 
 /// What the screen shows of a window.
 inline ovo::testkit::Picture seen(HWND window)

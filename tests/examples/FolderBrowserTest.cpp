@@ -9,6 +9,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
@@ -56,26 +57,29 @@ protected:
         m_program->waitFor("the folder", [&] { return textOf(m_program->main()) == title; });
     }
 
-    /// What Ctrl+Shift+C puts on the clipboard: names in the order of the list, a blank behind each.
-    std::wstring copiedNames()
+    /// What these keys put on the clipboard.
+    std::wstring copied(const std::vector<WORD>& held, WORD key)
     {
         std::wstring text;
         emptyClipboard();
-        m_program->tryUntil(
-            "the paths", [this] { copy(); },
-            [&] {
-                return ::IsClipboardFormatAvailable(CF_UNICODETEXT) && !(text = clipboardText()).empty();
-            });
+        const auto copy = [&] {
+            ::SetForegroundWindow(m_program->main());
+            m_program->chord(held, key);
+        };
+        m_program->tryUntil("the text", copy, [&] {
+            return ::IsClipboardFormatAvailable(CF_UNICODETEXT) && !(text = clipboardText()).empty();
+        });
+        return text;
+    }
+
+    /// What Ctrl+Shift+C puts on the clipboard: names in the order of the list, a blank behind each.
+    std::wstring copiedNames()
+    {
+        const std::wstring text = copied({VK_CONTROL, VK_SHIFT}, 'C');
         std::wstring names;
         for (std::size_t at = 0, end; (end = text.find(L"\r\n", at)) != std::wstring::npos; at = end + 2)
             names += text.substr(at, end - at).substr(folder().size() + 1) + L' ';
         return names;
-    }
-
-    void copy()
-    {
-        ::SetForegroundWindow(m_program->main());
-        m_program->chord({VK_CONTROL, VK_SHIFT}, 'C');
     }
 
     void close()
@@ -141,6 +145,65 @@ TEST_F(FolderBrowser, SeesWhatIsNewWhenItReadsAgain)
     m_program->key(VK_TAB); // to the list: in the tree, F5 is the tree's own
     m_program->key(VK_F5);
     m_program->waitFor("the new file", [this] { return ask(list(), LVM_GETITEMCOUNT) == kEntries + 1; });
+    close();
+}
+
+TEST_F(FolderBrowser, OpensAnotherFolderThatTheUserIsAskedFor)
+{
+    m_program->chord(VK_CONTROL, 'O');
+    answerFileDialog(*m_program, folder(L"beds"));
+    waitForTitle(folder(L"beds"));
+    m_program->waitFor("the list", [this] { return ask(list(), LVM_GETITEMCOUNT) == 2; });
+    EXPECT_EQ(ask(tree(), TVM_GETCOUNT), 1) << "the tree begins with that folder";
+    close();
+}
+
+TEST_F(FolderBrowser, SavesThePathsOfAllRowsOrOfTheSelectedOnes)
+{
+    const TemporaryFiles saved;
+    m_program->chord(VK_CONTROL, 'S');
+    answerFileDialog(*m_program, saved.path(L"all"));
+    const std::wstring all = saved.path(L"all.txt");
+    m_program->waitFor("the file", [&] { return std::filesystem::exists(all); });
+    EXPECT_EQ(linesOf(all),
+              (std::vector<std::wstring>{folder(L"a plan.md"), folder(L"beds"), folder(L"big.txt"),
+                                         folder(L"harvest.csv"), folder(L"hedge.jpg"), folder(L"notes.txt"),
+                                         folder(L"pond.png"), folder(L"seeds")}));
+
+    m_program->key(VK_TAB); // to the list
+    m_program->key(VK_HOME);
+    m_program->chord(VK_SHIFT, VK_DOWN);
+    m_program->waitFor("the selection", [this] { return ask(list(), LVM_GETSELECTEDCOUNT) == 2; });
+    m_program->chord(VK_CONTROL, 'S');
+    answerFileDialog(*m_program, saved.path(L"some"));
+    const std::wstring some = saved.path(L"some.txt");
+    m_program->waitFor("the other file", [&] { return std::filesystem::exists(some); });
+    EXPECT_EQ(linesOf(some), (std::vector<std::wstring>{folder(L"a plan.md"), folder(L"beds")}));
+    close();
+}
+
+TEST_F(FolderBrowser, CopiesTheSelectedRowsAsATable)
+{
+    m_program->key(VK_TAB); // to the list
+    m_program->key(VK_HOME);
+    m_program->waitFor("the selection", [this] { return ask(list(), LVM_GETSELECTEDCOUNT) == 1; });
+    const std::wstring table = copied({VK_CONTROL}, 'C');
+    EXPECT_TRUE(table.starts_with(L"Name\tSize\tChanged\r\na plan.md\t")) << ::testing::PrintToString(table);
+    EXPECT_EQ(std::ranges::count(table, L'\n'), 2) << "the headings and the row";
+    close();
+}
+
+TEST_F(FolderBrowser, ListsTheModulesFromTheFlyout)
+{
+    m_program->key(VK_F6); // the toolbar; its last button tells about the machine
+    m_program->key(VK_END);
+    m_program->key(VK_DOWN);
+    m_program->key(VK_RIGHT);
+    m_program->key(VK_RETURN);
+    const HWND dialog = m_program->window(L"Loaded Modules");
+    EXPECT_EQ(::GetWindow(dialog, GW_OWNER), m_program->main());
+    m_program->key(VK_ESCAPE);
+    m_program->waitFor("its end", [this] { return ::IsWindowEnabled(m_program->main()) != FALSE; });
     close();
 }
 

@@ -147,6 +147,60 @@ TEST_F(PaletteEditor, TurnsTheHuesOfAllColours)
     close();
 }
 
+TEST_F(PaletteEditor, MovesASliderAndGoesBack)
+{
+    const std::wstring before = hue();
+    const auto press = [this] { m_program.click(item(IDC_COLOUR_SLIDER_1)); }; // beside the thumb
+    m_program.tryUntil("a change", press, [this] { return canUndo(); });
+    m_program.waitFor("another hue", [&] { return hue() != before; });
+    pressUntil(IDC_UNDO, [this] { return !canUndo(); });
+    m_program.waitFor("the hue of before", [&] { return hue() == before; });
+    close();
+}
+
+TEST_F(PaletteEditor, SavesWhatWasMovedAndAddedAndOpensItAgain)
+{
+    const TemporaryFiles files;
+    m_program.click(item(IDC_DOWN)); // the first colour goes below the second
+    m_program.waitFor("the move", [this] { return canUndo(); });
+    m_program.click(item(IDC_ADD)); // behind it
+    waitForRows(11);
+    m_program.waitFor("the name's editor",
+                      [this] { return m_program.child(item(IDC_LIST), L"Edit") != nullptr; });
+    m_program.type(L"Gr\u00FCn \u4E2D");
+    m_program.key(VK_RETURN);
+    m_program.waitFor("the editor's end", [this] { return !m_program.child(item(IDC_LIST), L"Edit"); });
+
+    m_program.click(item(IDC_SAVE));
+    answerFileDialog(m_program, files.path(L"saved"));
+    const std::wstring path = files.path(L"saved.txt");
+    m_program.waitFor("the file", [&] { return std::filesystem::exists(path); });
+    const std::vector<std::wstring> lines = linesOf(path);
+    ASSERT_EQ(lines.size(), 11u);
+    EXPECT_TRUE(lines[0].ends_with(L" Fern")) << ::testing::PrintToString(lines[0]);
+    EXPECT_EQ(lines[1], L"#5B7B3E Moss");
+    EXPECT_TRUE(lines[2].ends_with(L" Gr\u00FCn \u4E2D")) << "no letter is lost, whatever the code page";
+
+    pressUntil(IDC_REMOVE, [this] { return rows() < 11; });
+    m_program.click(item(IDC_OPEN));
+    answerFileDialog(m_program, path);
+    waitForRows(11);
+    close();
+}
+
+TEST(PaletteFile, ThatCannotBeReadIsTold)
+{
+    const TemporaryFiles files;
+    RunningProgram program(L"palette-editor", L"\"" + files.path(L"gone.txt") + L"\"");
+    EXPECT_EQ(::GetDlgItem(program.main(), IDC_LIST), nullptr) << "a message instead of the editor";
+    std::wstring said;
+    for (HWND part = ::GetWindow(program.main(), GW_CHILD); part; part = ::GetWindow(part, GW_HWNDNEXT))
+        said += textOf(part);
+    EXPECT_NE(said.find(L"gone.txt"), std::wstring::npos) << ::testing::PrintToString(said);
+    program.key(VK_RETURN);
+    EXPECT_TRUE(program.endsByItself());
+}
+
 TEST(PaletteFile, IsReadAtTheStart)
 {
     const TemporaryFiles files;
