@@ -14,9 +14,8 @@ namespace ovo::testkit
 namespace
 {
 
-constexpr auto kLimit = 20s;
-constexpr UINT kAnswerLimit = 5000; // milliseconds
-constexpr auto kPatience = 1s;      // of a user who tries again
+constexpr UINT kAnswerLimit = 5000;    // milliseconds
+constexpr auto kUntilTryingAgain = 1s; // of a user
 constexpr int kStartAttempts = 5;
 constexpr COLORREF kBareScreen = RGB(0, 0, 0); // the display's, where no window is
 
@@ -81,7 +80,7 @@ RunningProgram::~RunningProgram()
 /// for shown because of them.
 void RunningProgram::leaveABareScreen() const
 {
-    const auto end = std::chrono::steady_clock::now() + kLimit;
+    const auto end = std::chrono::steady_clock::now() + kPatience;
     while (colourAt(m_place) != kBareScreen && std::chrono::steady_clock::now() < end)
         std::this_thread::sleep_for(5ms);
 }
@@ -124,15 +123,16 @@ bool RunningProgram::shows(const std::wstring& title) const
     return false;
 }
 
-HWND RunningProgram::window(const std::wstring& title)
+HWND RunningProgram::window(const std::wstring& title, Limit limit)
 {
     HWND found = nullptr;
-    waitFor("the window \"" + fs::path(title).string() + "\"", [&] {
+    const auto find = [&] {
         for (const HWND wnd : shownWindows())
             if (textOf(wnd) == title && ::IsWindowEnabled(wnd) && ::GetForegroundWindow() == wnd)
                 found = wnd;
         return found != nullptr;
-    });
+    };
+    waitFor("the window \"" + fs::path(title).string() + "\"", find, limit);
     return found;
 }
 
@@ -256,18 +256,19 @@ void RunningProgram::waitFor(const std::string& what, const std::function<bool()
 }
 
 void RunningProgram::tryUntil(const std::string& what, const std::function<void()>& act,
-                              const std::function<bool()>& condition)
+                              const std::function<bool()>& condition, Limit limit)
 {
     auto next = std::chrono::steady_clock::now();
-    waitFor(what, [&] {
+    const auto actInTime = [&] {
         if (condition())
             return true;
         if (std::chrono::steady_clock::now() >= next) {
             act();
-            next = std::chrono::steady_clock::now() + kPatience;
+            next = std::chrono::steady_clock::now() + kUntilTryingAgain;
         }
         return false;
-    });
+    };
+    waitFor(what, actInTime, limit);
 }
 
 void RunningProgram::closeByKeys()

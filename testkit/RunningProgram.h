@@ -19,6 +19,7 @@ class RunningProgram
 public:
     /// How long something is waited for.
     using Limit = std::chrono::milliseconds;
+    static constexpr Limit kPatience{20000}; ///< unless a test says otherwise
 
     /// `name`: the file beside the tests, without its ending. `arguments` stand behind it on
     /// the command line. Waits until the program shows its main window.
@@ -30,8 +31,9 @@ public:
     // Windows
     /// The program's main window, as it was first shown.
     HWND main() const { return m_main; }
-    /// The shown window with this title, once there is one and it can be used.
-    HWND window(const std::wstring& title);
+    /// The shown window with this title, once there is one and it can be used. Throws when there is none
+    /// within `limit`.
+    HWND window(const std::wstring& title, Limit limit = kPatience);
     /// The shown window of the class `windowClass`, or null.
     HWND shown(const std::wstring& windowClass) const;
     /// Whether a shown window has this `title`.
@@ -57,11 +59,11 @@ public:
     void type(const std::wstring& text);
 
     /// Throws with the words of `what` when the condition does not hold within `limit`.
-    void waitFor(const std::string& what, const std::function<bool()>& condition, Limit limit = Limit{20000});
-    /// Does `act`, and again as long as `condition` does not hold. For what a late movement of the pointer,
-    /// which the display reports in its own time, can undo.
+    void waitFor(const std::string& what, const std::function<bool()>& condition, Limit limit = kPatience);
+    /// Does `act`, and again as long as `condition` does not hold; throws as waitFor does. For what a late
+    /// movement of the pointer, which the display reports in its own time, can undo.
     void tryUntil(const std::string& what, const std::function<void()>& act,
-                  const std::function<bool()>& condition);
+                  const std::function<bool()>& condition, Limit limit = kPatience);
     /// Alt+F4 until the program has ended.
     void closeByKeys();
     /// Waits until the program has ended; gives its exit code.

@@ -36,6 +36,64 @@ TEST(RunningProgram, WaitsInVainInTheWordsOfTheCondition)
     }
 }
 
+TEST(RunningProgram, FindsWindowsAndControlsByTitleAndClassWhereThereAreAny)
+{
+    RunningProgram program{kProgram};
+    const std::wstring title = textOf(program.main());
+    EXPECT_FALSE(title.empty());
+    EXPECT_TRUE(program.shows(title));
+    EXPECT_EQ(program.window(title), program.main());
+    EXPECT_FALSE(program.shows(title + L"?"));
+    EXPECT_EQ(program.shown(L"#32770"), program.main());
+    EXPECT_EQ(program.shown(L"no such class"), nullptr);
+    const HWND button = program.child(program.main(), L"Button");
+    EXPECT_EQ(::GetAncestor(button, GA_ROOT), program.main());
+    EXPECT_EQ(program.child(program.main(), L"no such class"), nullptr);
+    EXPECT_EQ(textOf(program.main(), 0x7FFF), L"") << "there is no such control";
+}
+
+TEST(RunningProgram, WaitsInVainForAWindowThatDoesNotCome)
+{
+    RunningProgram program{kProgram};
+    try {
+        program.window(L"The moon", 50ms);
+        FAIL() << "nothing was thrown";
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "waited in vain for the window \"The moon\"");
+    }
+}
+
+TEST(RunningProgram, TriesAgainAndGivesUpInTheEnd)
+{
+    RunningProgram program{kProgram};
+    int tries = 0;
+    const auto act = [&] { ++tries; };
+    program.tryUntil("two tries", act, [&] { return tries == 2; });
+    EXPECT_EQ(tries, 2);
+    EXPECT_THROW(program.tryUntil(
+                     "the sun", act, [] { return false; }, 50ms),
+                 std::runtime_error);
+    EXPECT_EQ(tries, 3) << "not without trying";
+}
+
+TEST(RunningProgram, ClicksAndPressesKeysAsAUserDoes)
+{
+    RunningProgram program{kProgram};
+    program.click(program.child(program.main(), L"Button")); // which asks for a number in a dialog
+    const HWND dialog = program.window(L"Convert");
+    EXPECT_FALSE(::IsWindowEnabled(program.main()));
+    const HWND number = program.child(dialog, L"Edit");
+    program.chord(VK_CONTROL, 'A');
+    program.type(L"1x\u00FC");
+    program.key(VK_BACK, 2);
+    program.waitFor("the typed number", [&] { return textOf(number) == L"1"; });
+    program.key(VK_ESCAPE);
+    program.waitFor("the end of the dialog", [&] { return !::IsWindow(dialog); });
+    program.closeByKeys();
+    EXPECT_TRUE(program.endsByItself());
+    ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\ovoui test programs"); // where it remembers a number
+}
+
 TEST(RunningProgram, EndsWithItsObject)
 {
     HWND window = nullptr;
