@@ -13,6 +13,7 @@ reg query HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall\ovoui /v Disp
 if errorlevel 1 echo it is not registered & exit /b 1
 start /wait "" "%folder%\uninstall.exe" /S _?=%folder%
 if exist "%folder%\bin\ovoui.dll" echo it is not removed & exit /b 1
+dir /s /b /a-d "%folder%" > left.txt
 reg query HKLM\Software\Microsoft\Windows\CurrentVersion\Uninstall\ovoui
 if not errorlevel 1 echo it is still registered & exit /b 1
 exit /b 0
