@@ -5,7 +5,7 @@ packages=(
   g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64   # cross build
   wine wine64 fonts-wine fonts-liberation xvfb           # running what was built
   fonts-vlgothic                                         # Japanese texts
-  googletest catch2 clang libclang-rt-14-dev llvm        # tests, benchmarks, fuzzing, import libraries
+  googletest catch2 clang libclang-rt-14-dev llvm lld    # tests, benchmarks, fuzzing, import libraries
   gdb                                                    # the debugger's views
   librsvg2-bin imagemagick python3                       # icons from drawings, scripts
   doxygen                                                # the reference

@@ -75,6 +75,13 @@ run(${CLANG} --target=x86_64-pc-windows-msvc -x c -c ${ROOT}/tests/package/by-na
 run(${CXX} ${work}/by-hand/by-name.obj ${prefix}/lib/by-export-list/ovoui.lib -o ${work}/by-hand/by-name.exe)
 under_wine(${work}/by-hand/by-name.exe)
 
+# And by a linker of Microsoft's kind, without any runtime.
+find_program(LLD NAMES lld-link lld-link-14 REQUIRED)
+execute_process(COMMAND ${CXX} -print-file-name=libkernel32.a OUTPUT_VARIABLE kernel OUTPUT_STRIP_TRAILING_WHITESPACE)
+run(${LLD} /nodefaultlib /entry:begin /subsystem:console /out:${work}/by-hand/by-name-alone.exe
+    ${work}/by-hand/by-name.obj ${prefix}/lib/by-export-list/ovoui.lib ${kernel})
+under_wine(${work}/by-hand/by-name-alone.exe)
+
 # The examples, each in a build folder of its own; a program is started, shows its window, and ends when that is closed.
 file(GLOB examples RELATIVE ${prefix}/examples ${prefix}/examples/*/CMakeLists.txt)
 file(GLOB in_the_project RELATIVE ${ROOT}/examples ${ROOT}/examples/*/CMakeLists.txt)
