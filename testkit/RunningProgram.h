@@ -60,8 +60,8 @@ public:
 
     /// Throws with the words of `what` when the condition does not hold within `limit`.
     void waitFor(const std::string& what, const std::function<bool()>& condition, Limit limit = kPatience);
-    /// Does `act`, and again as long as `condition` does not hold; throws as waitFor does. For what a late
-    /// movement of the pointer, which the display reports in its own time, can undo.
+    /// Does `act`, and again as long as `condition` does not hold; throws as waitFor does, after `limit`. For
+    /// what a late movement of the pointer, which the display reports in its own time, can undo.
     void tryUntil(const std::string& what, const std::function<void()>& act,
                   const std::function<bool()>& condition, Limit limit = kPatience);
     /// Alt+F4 until the program has ended.
