@@ -123,6 +123,39 @@ class Examples(unittest.TestCase):
         missing = subprocess.run([*take, "herbs.txt", self.folder / "none"], capture_output=True, text=True)
         self.assertIn("docs/beds.md has 0 blocks called herbs.txt", missing.stderr)
 
+    def test_the_tests_of_a_page_become_a_source_file(self):
+        page = """\
+```cpp
+#include <garden.h>
+TEST(Bed, HasRows) {}
+```
+
+```cpp
+int rows = 0;
+```
+
+<!-- compiled as
+struct Oak {};
+{code}
+-->
+```cpp
+#include <garden.h>
+#include <trees.h>
+TEST_F(Tree, Grows) {}
+```
+"""
+        (self.folder / "docs/beds.md").write_text(page, encoding="utf-8")
+        take = [ROOT / "docs/tools/take-tests", self.folder, "docs/beds.md", self.folder / "taken.cpp", "first.h"]
+        subprocess.run(take, check=True)
+        taken = (self.folder / "taken.cpp").read_text(encoding="utf-8")
+        self.assertTrue(taken.startswith("#include <first.h>\n#include <garden.h>\n#include <trees.h>\nnamespace example_0\n"), taken)
+        self.assertIn('#line 2 "docs/beds.md"\n\nTEST(Bed, HasRows) {}\n', taken)
+        self.assertRegex(taken, r"namespace example_1\n\{\nstruct Oak \{\};\n\n#line 15 .*\n\n\nTEST_F\(Tree, Grows\) \{\}")
+        self.assertNotIn("rows = 0", taken)
+        (self.folder / "docs/beds.md").write_text("# Beds\n", encoding="utf-8")
+        without = subprocess.run(take, capture_output=True, text=True)
+        self.assertIn("docs/beds.md shows no tests", without.stderr)
+
 
 if __name__ == "__main__":
     unittest.main()
