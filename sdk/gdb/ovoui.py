@@ -78,6 +78,17 @@ class AngleView:
         return f"{float(self.value['m_degrees']):g} degrees"
 
 
+class VectorView:
+    """Vector<N>: its components."""
+
+    def __init__(self, value):
+        self.components = value["m_components"]["_M_elems"]
+
+    def to_string(self):
+        first, last = self.components.type.strip_typedefs().range()
+        return "(" + ", ".join(f"{float(self.components[i]):g}" for i in range(first, last + 1)) + ")"
+
+
 class NodeView:
     """A node of a tree, by its own class: its item, and the states that it has."""
 
@@ -122,6 +133,7 @@ def views():
     collection.add_printer("Handle", "^OVO::Handle<.*>$", HandleView)
     collection.add_printer("Colour", "^Colour$", ColourView)
     collection.add_printer("Angle", "^Angle$", AngleView)
+    collection.add_printer("Vector", "^(OVO::)?Vector<.*>$", VectorView)
     return collection
 
 

@@ -3,6 +3,7 @@
 #include <ovocor/Colour.h>
 #include <ovocor/Handle.h>
 #include <ovocor/Quark.h>
+#include <ovocor/Vector.h>
 
 namespace
 {
@@ -14,6 +15,14 @@ struct Place : OVO::Handlable
 struct Folder : Place
 {
     int files = 3;
+};
+
+/// Counts nothing, and is no Handlable.
+struct Ground : OVO::IHandlable
+{
+    void addRef() const noexcept override {}
+    void release() const noexcept override {}
+    int beds = 5;
 };
 
 void stopHere(const void*) {}
@@ -30,9 +39,13 @@ int main()
     const OVO::Handle<Place> folder(new Folder);
     const OVO::Handle<Folder> same(static_cast<Folder*>(folder.get()));
     const OVO::Handle<Place> nothing;
+    Ground ground;
+    const OVO::Handle<Ground> uncounted(&ground);
+    const Vector<3> vector(3, 2.5, -1);
     for (const void* value : {static_cast<const void*>(&warm), static_cast<const void*>(&glass),
                               static_cast<const void*>(&quarter), static_cast<const void*>(&quark),
                               static_cast<const void*>(&noQuark), static_cast<const void*>(&folder),
-                              static_cast<const void*>(&same), static_cast<const void*>(&nothing)})
+                              static_cast<const void*>(&same), static_cast<const void*>(&nothing),
+                              static_cast<const void*>(&uncounted), static_cast<const void*>(&vector)})
         stopHere(value);
 }

@@ -40,6 +40,8 @@ public:
     virtual void second() = 0;
 };
 enum class Answer { Yes };
+template <class Key, class Value> struct Pairs { struct Pair { Key key; Value value; virtual void turn() {} }; Pair first; };
+inline Pairs<int, double> somePairs;
 API int count(Base&);
 """
 
