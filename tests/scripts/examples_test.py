@@ -145,7 +145,7 @@ TEST_F(Tree, Grows) {}
 ```
 """
         (self.folder / "docs/beds.md").write_text(page, encoding="utf-8")
-        take = [ROOT / "docs/tools/take-tests", self.folder, "docs/beds.md", self.folder / "taken.cpp", "first.h"]
+        take = [ROOT / "docs/tools/take-tests", self.folder, self.folder / "taken.cpp", "--pages", "docs/beds.md", "--headers", "first.h"]
         subprocess.run(take, check=True)
         taken = (self.folder / "taken.cpp").read_text(encoding="utf-8")
         self.assertTrue(taken.startswith("#include <first.h>\n#include <garden.h>\n#include <trees.h>\nnamespace example_0\n"), taken)
