@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -52,9 +53,14 @@ inline void answerFileDialog(ovo::testkit::RunningProgram& program, const std::w
     program.waitFor("the program to go on", [&] { return ::IsWindowEnabled(program.main()) != FALSE; });
 }
 
-/// The lines of a file that a program has saved.
-inline std::vector<std::wstring> linesOf(const std::wstring& path)
+/// The lines of a file that the program saves, once they are there.
+inline std::vector<std::wstring> savedLines(ovo::testkit::RunningProgram& program, const std::wstring& path)
 {
+    program.waitFor("the file", [&] {
+        std::error_code missing;
+        const auto size = std::filesystem::file_size(path, missing);
+        return !missing && size > 0;
+    });
     std::vector<std::wstring> lines;
     OVO::TextReader reader(path);
     for (std::wstring line; reader.readLine(line);)

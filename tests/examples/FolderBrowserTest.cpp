@@ -163,9 +163,7 @@ TEST_F(FolderBrowser, SavesThePathsOfAllRowsOrOfTheSelectedOnes)
     const TemporaryFiles saved;
     m_program->chord(VK_CONTROL, 'S');
     answerFileDialog(*m_program, saved.path(L"all"));
-    const std::wstring all = saved.path(L"all.txt");
-    m_program->waitFor("the file", [&] { return std::filesystem::exists(all); });
-    EXPECT_EQ(linesOf(all),
+    EXPECT_EQ(savedLines(*m_program, saved.path(L"all.txt")),
               (std::vector<std::wstring>{folder(L"a plan.md"), folder(L"beds"), folder(L"big.txt"),
                                          folder(L"harvest.csv"), folder(L"hedge.jpg"), folder(L"notes.txt"),
                                          folder(L"pond.png"), folder(L"seeds")}));
@@ -176,9 +174,8 @@ TEST_F(FolderBrowser, SavesThePathsOfAllRowsOrOfTheSelectedOnes)
     m_program->waitFor("the selection", [this] { return ask(list(), LVM_GETSELECTEDCOUNT) == 2; });
     m_program->chord(VK_CONTROL, 'S');
     answerFileDialog(*m_program, saved.path(L"some"));
-    const std::wstring some = saved.path(L"some.txt");
-    m_program->waitFor("the other file", [&] { return std::filesystem::exists(some); });
-    EXPECT_EQ(linesOf(some), (std::vector<std::wstring>{folder(L"a plan.md"), folder(L"beds")}));
+    EXPECT_EQ(savedLines(*m_program, saved.path(L"some.txt")),
+              (std::vector<std::wstring>{folder(L"a plan.md"), folder(L"beds")}));
     close();
 }
 

@@ -174,8 +174,7 @@ TEST_F(PaletteEditor, SavesWhatWasMovedAndAddedAndOpensItAgain)
     m_program.click(item(IDC_SAVE));
     answerFileDialog(m_program, files.path(L"saved"));
     const std::wstring path = files.path(L"saved.txt");
-    m_program.waitFor("the file", [&] { return std::filesystem::exists(path); });
-    const std::vector<std::wstring> lines = linesOf(path);
+    const std::vector<std::wstring> lines = savedLines(m_program, path);
     ASSERT_EQ(lines.size(), 11u);
     EXPECT_TRUE(lines[0].ends_with(L" Fern")) << ::testing::PrintToString(lines[0]);
     EXPECT_EQ(lines[1], L"#5B7B3E Moss");
