@@ -112,10 +112,14 @@ class Reference(unittest.TestCase):
     def test_colours_of_text_can_be_read_on_the_page_and_on_the_panels_in_both_schemes(self):
         style = (ROOT / "docs/reference/style.css").read_text(encoding="utf-8")
         schemes = [dict(re.findall(r"--(\w+): (#\w{6});", part)) for part in style.split("@media (prefers-color-scheme: dark)")]
+        self.assertEqual([len(colours) for colours in schemes], [11, 11])
         for colours in schemes:
-            for text in ("text", "dim", "link"):
+            for text in set(colours) - {"back", "panel", "line", "mark"}:
                 for ground in ("back", "panel"):
                     self.assertGreaterEqual(contrast(colours[text], colours[ground]), 4.5, f"{text} on {ground}")
+            self.assertGreaterEqual(contrast(colours["text"], colours["mark"]), 4.5)
+        rules = re.sub(r"--\w+: #\w{6};", "", style)
+        self.assertEqual(re.findall(r"color: *#\w+|background: *#\w+", rules), [], "a colour that the schemes do not know")
 
     def test_a_name_without_a_comment(self):
         self.complains("ovoui/tree/Bed.h:16: Member weeds (variable) of class Bed is not documented",
