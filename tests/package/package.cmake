@@ -26,13 +26,24 @@ function(run)
   endif()
 endfunction()
 
-# under_wine(PROGRAM [VISITED]): runs it beside the libraries; file names are UTF-8. A program that is visited is copied there too.
+# under_wine(PROGRAM): runs it beside the archive's libraries.
 function(under_wine program)
-  file(COPY ${program} ${ARGN} DESTINATION ${prefix}/bin)
+  file(COPY ${program} DESTINATION ${prefix}/bin)
   get_filename_component(name ${program} NAME)
-  get_filename_component(visited "${ARGN}" NAME)
-  run(${CMAKE_COMMAND} -E env LC_ALL=C.UTF-8
-      ${WINE} --home ${BUILD}/wine --apart ${prefix}/bin/${name} ${visited})
+  run_where_it_is(${prefix}/bin/${name})
+endfunction()
+
+# run_where_it_is(PROGRAM [ARGUMENT]): its libraries have been put beside it when it was built; file names are UTF-8.
+function(run_where_it_is program)
+  run(${CMAKE_COMMAND} -E env LC_ALL=C.UTF-8 ${WINE} --home ${BUILD}/wine --apart ${program} ${ARGN})
+endfunction()
+
+# visit(PROGRAM): starts a program with a window where it was built.
+function(visit program)
+  get_filename_component(folder ${program} DIRECTORY)
+  get_filename_component(name ${program} NAME)
+  file(COPY ${work}/build/visitor.exe DESTINATION ${folder})
+  run_where_it_is(${folder}/visitor.exe ${name})
 endfunction()
 
 # configure_and_build(SOURCE BUILD): with the compiler's own default for the language, which is older than what the headers need.
@@ -82,7 +93,9 @@ run(${LLD} /nodefaultlib /entry:begin /subsystem:console /out:${work}/by-hand/by
     ${work}/by-hand/by-name.obj ${prefix}/lib/by-export-list/ovoui.lib ${kernel})
 under_wine(${work}/by-hand/by-name-alone.exe)
 
-# The examples, each in a build folder of its own; a program is started, shows its window, and ends when that is closed.
+# The examples, each in a build folder of its own, where its DLLs are put, too; a program is started, shows its window, and ends when
+# that is closed.
+set(built "${work}/Bäume und Blätter")
 file(GLOB examples RELATIVE ${prefix}/examples ${prefix}/examples/*/CMakeLists.txt)
 file(GLOB in_the_project RELATIVE ${ROOT}/examples ${ROOT}/examples/*/CMakeLists.txt)
 if(NOT examples STREQUAL in_the_project)
@@ -90,14 +103,14 @@ if(NOT examples STREQUAL in_the_project)
 endif()
 foreach(example IN LISTS examples)
   get_filename_component(name ${example} DIRECTORY)
-  configure_and_build(${prefix}/examples/${name} ${work}/examples/${name})
-  file(GLOB programs ${work}/examples/${name}/*.exe)
+  configure_and_build(${prefix}/examples/${name} ${built}/${name})
+  file(GLOB programs ${built}/${name}/*.exe)
   list(LENGTH programs count)
   if(count EQUAL 0)
     message(FATAL_ERROR "the example ${name} makes no program")
   endif()
   foreach(program IN LISTS programs)
-    under_wine(${work}/build/visitor.exe ${program})
+    visit(${program})
   endforeach()
 endforeach()
 
@@ -107,7 +120,7 @@ foreach(name host.cpp CMakeLists.txt)
   run(${ROOT}/docs/tools/take-example ${ROOT} docs/guides/first-host.md ${name} ${work}/first-host/${name})
 endforeach()
 configure_and_build(${work}/first-host ${work}/first-host/build)
-under_wine(${work}/build/visitor.exe ${work}/first-host/build/host.exe)
+visit(${work}/first-host/build/host.exe)
 
 # The robot test of an example, with the kit of the archive, on the program that was built with it.
 set(robot ${work}/robot)
@@ -115,7 +128,8 @@ file(COPY ${ROOT}/tests/package/robot DESTINATION ${work})
 file(COPY ${prefix}/examples/settings-dialog/resource.h DESTINATION ${robot}/settings-dialog)
 file(COPY ${ROOT}/tests/examples/SettingsDialogTest.cpp ${ROOT}/tests/examples/ExampleScene.h DESTINATION ${robot})
 configure_and_build(${robot} ${robot}/build)
-under_wine(${robot}/build/robot.exe ${work}/examples/settings-dialog/settings-dialog.exe)
+file(COPY ${built}/settings-dialog/settings-dialog.exe DESTINATION ${robot}/build)
+run_where_it_is(${robot}/build/robot.exe)
 
 list(LENGTH examples count)
 message(STATUS "the SDK builds and runs its hosts and ${count} examples")
