@@ -11,9 +11,9 @@ namespace ovo::testkit
 /// A button of the mouse.
 enum class Button
 {
-    Left,
-    Right,
-    Middle
+    Left,  ///< the usual one
+    Right, ///< the one for context menus
+    Middle ///< the wheel, pressed
 };
 
 /// The keyboard and the mouse as the system sees them: every call is one SendInput. It remembers what is

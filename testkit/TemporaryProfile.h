@@ -15,8 +15,8 @@ public:
     /// Where profiles are kept.
     enum class Kind
     {
-        Registry,
-        IniFile
+        Registry, ///< below HKEY_CURRENT_USER
+        IniFile   ///< in a file
     };
 
     /// Of this `kind`.

@@ -1,4 +1,4 @@
-"""Finds parameters that no comment mentions."""
+"""Finds parameters that no comment mentions, and values of enumerations without a comment, of which Doxygen says nothing."""
 import re
 import xml.etree.ElementTree as ElementTree
 
@@ -46,10 +46,21 @@ def functions(compound):
     return sorted(found, key=lambda member: (member.find("location").get("file"), line_of(member)))
 
 
+def values_without_comment(compound, seen):
+    """Places and names; those of a group are in the file's description, too."""
+    for member in compound.iter("memberdef"):
+        if member.get("kind") == "enum" and member.get("prot") != "private" and member.get("id") not in seen:
+            seen.add(member.get("id"))
+            yield from ((member, value.findtext("name")) for value in member.findall("enumvalue") if not comment(value).strip())
+
+
 def check(xml, source):
-    seen = set()
+    seen, enumerations = set(), set()
     for path in sorted(xml.glob("*.xml")):
         for compound in ElementTree.parse(path).getroot().findall("compounddef"):
+            for member, name in values_without_comment(compound, enumerations):
+                yield (f"{source}/{member.find('location').get('file')}:{line_of(member)}: warning: the value {name} of "
+                       f"{member.findtext('name')} is not documented")
             of_class = names_in_backticks(compound) if compound.get("kind") in ("class", "struct") else set()
             above = set()  # the parameters of the function before, which "the same" refers to
             for member in functions(compound):

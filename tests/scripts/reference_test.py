@@ -135,8 +135,26 @@ class Reference(unittest.TestCase):
         self.complains("ovoui/tree/Bed.h:14: enum class Soil is not documented",
                        header=GOOD.replace("    int rows", "    enum class Soil\n    {\n        Loam\n    };\n\n    int rows"))
 
+    def test_a_value_of_an_enumeration(self):
+        soil = "    /// What grows well.\n    enum class Soil\n    {\n        Loam, ///< heavy\n        Sand\n    };\n\n    int rows"
+        self.complains("ovoui/tree/Bed.h:15: the value Sand of Soil is not documented", header=GOOD.replace("    int rows", soil))
+        made = self.make(header=GOOD.replace("    int rows", soil.replace("Sand", "Sand ///< light")))
+        self.assertEqual((made.returncode, made.stderr), (0, ""))
+
+    def test_every_kind_of_name_outside_of_classes(self):
+        for name, declaration in {"OVOUI_BEDS": "#define OVOUI_BEDS 3", "bedsOf": "int bedsOf(int garden);", "Row": "using Row = int;",
+                                  "kBeds": "inline constexpr int kBeds = 3;", "beds": "extern int beds;",
+                                  "grown": "template <class T>\nT grown(T plant);"}.items():
+            with self.subTest(name):
+                self.complains(f"Member {name}", header=f"{GOOD}\n{declaration}\n")
+
+    def test_what_deriving_classes_see(self):
+        self.complains("Member m_depth (variable) of class Bed", header=GOOD.replace("protected:\n", "protected:\n    int m_depth = 0;\n\n"))
+
     def test_a_private_type_needs_no_comment(self):
-        made = self.make(header=GOOD.replace("    void water", "    struct Pipe\n    {\n    };\n    void water"))
+        made = self.make(header=GOOD.replace("    void water", "    struct Pipe\n    {\n    };\n    enum class Tap\n    {\n        Open\n    };\n"
+                                                       "    /// With a comment, which it need not have.\n    enum class Can\n    {\n        Full\n    };\n"
+                                                       "    void water"))
         self.assertEqual((made.returncode, made.stderr), (0, ""))
 
     def test_the_comment_of_the_file_is_that_of_its_class(self):
