@@ -28,6 +28,13 @@ class Example:
         return f'{start}\n#line {self.line} "{self.page}"\n{self.code}\n#line 1 "around {self.page}:{self.line}"\n{end}\n'
 
 
+def unnamed(path):
+    """The lines of a page in which a block begins that names no language."""
+    fences = [(number, line) for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1)
+              if line.lstrip().startswith("```")]
+    return [number for number, line in fences[::2] if line.strip() == "```"]
+
+
 def examples(root, path):
     text = path.read_text(encoding="utf-8")
     for match in re.finditer(r"^([ \t]*)```(\S+)[^\n]*\n(.*?)^\1```$", text, re.DOTALL | re.MULTILINE):

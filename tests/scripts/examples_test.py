@@ -115,6 +115,14 @@ class Examples(unittest.TestCase):
     def test_a_language_that_nothing_reads(self):
         self.refuses("```sh", "```c++", "docs/beds.md:17: nothing reads blocks of c++")
 
+    def test_a_block_of_a_guide_that_names_no_language(self):
+        (self.folder / "docs/guides").mkdir()
+        (self.folder / "docs/guides/hedges.md").write_text("# Hedges\n\n```text\na\n```\n\n```\nint rows = none;\n```\n", encoding="utf-8")
+        done = self.compile("# Beds\n\n```\na drawing\n```\n")
+        self.assertNotEqual(done.returncode, 0)
+        self.assertIn("docs/guides/hedges.md:7: the block names no language", done.stderr)
+        self.assertNotIn("beds.md", done.stderr)
+
     def test_a_file_of_an_example_is_taken_out(self):
         (self.folder / "docs/beds.md").write_text(GOOD, encoding="utf-8")
         take = [ROOT / "docs/tools/take-example", self.folder, "docs/beds.md"]
