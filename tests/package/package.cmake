@@ -65,6 +65,7 @@ set(toolchain ${prefix}/lib/cmake/ovoui/mingw-w64.cmake)
 include(${prefix}/lib/cmake/ovoui/ovouiConfigVersion.cmake)
 run(${ROOT}/tests/package/check-archive ${ROOT} ${prefix} ${PACKAGE_VERSION} ${whole})
 
+run_where_it_is(${prefix}/bin/gallery.exe --list)
 configure_and_build(${work}/source ${work}/build)
 foreach(program host windowed palette drawing)
   under_wine(${work}/build/${program}.exe)
