@@ -178,22 +178,15 @@ void MultiTreeCtrl::Band::setFrame(const std::optional<CRect>& frame)
     tree().UpdateWindow();
 }
 
-/// The lines, and the pixels beside them, where a mirrored window may have drawn them: what is between them need
-/// not be painted.
+/// The lines alone: what is between them need not be painted.
 void MultiTreeCtrl::Band::invalidate(const CRect& frame) const
 {
-    CRect outside(frame);
-    outside.InflateRect(1, 1);
-    CRect inside(frame);
-    inside.DeflateRect(2, 2);
-    CRgn lines;
-    lines.CreateRectRgnIndirect(&outside);
-    if (!inside.IsRectEmpty()) {
-        CRgn hole;
-        hole.CreateRectRgnIndirect(&inside);
-        lines.CombineRgn(&lines, &hole, RGN_DIFF);
-    }
-    tree().InvalidateRgn(&lines, TRUE);
+    const CRect sides[] = {{frame.left, frame.top, frame.left + 1, frame.bottom},
+                           {frame.right - 1, frame.top, frame.right, frame.bottom},
+                           {frame.left, frame.top, frame.right, frame.top + 1},
+                           {frame.left, frame.bottom - 1, frame.right, frame.bottom}};
+    for (const CRect& side : sides)
+        tree().InvalidateRect(&side, TRUE);
 }
 
 /// What the tree view has painted has lost the frame.

@@ -121,15 +121,16 @@ TEST_F(BarLayout, AControlLowerThanTheButtonsHasNoLineBehindIt)
     scene.bar().ScreenToClient(&covered);
     ASSERT_LT(covered.Height(), place.Height() - 1);
     ASSERT_GT(covered.top, place.top);
-    const COLORREF ground = ::GetSysColor(COLOR_BTNFACE);
+    const Picture picture = Picture::ofClient(scene.bar());
+    const COLORREF ground = picture.at(picture.width() - 1, picture.height() - 1); // where there is no button
     const auto plainPixels = [&](int top, int bottom) {
-        return Picture::ofClient(scene.bar()).count(ground, 0, CRect(place.left, top, place.right, bottom));
+        return picture.count(ground, 0, CRect(place.left, top, place.right, bottom));
     };
     EXPECT_EQ(plainPixels(place.top, covered.top), place.Width() * (covered.top - place.top));
     EXPECT_EQ(plainPixels(covered.bottom, place.bottom), place.Width() * (place.bottom - covered.bottom));
     CRect gap;
     scene.bar().GetItemRect(BarScene::Gap, &gap);
-    EXPECT_LT(Picture::ofClient(scene.bar()).count(ground, 0, gap), gap.Width() * gap.Height())
+    EXPECT_LT(picture.count(ground, 0, gap), gap.Width() * gap.Height())
         << "the line of a plain separator stays";
 }
 
