@@ -123,11 +123,8 @@ TEST_F(BarLayout, AControlLowerThanTheButtonsHasNoLineBehindIt)
     ASSERT_GT(covered.top, place.top);
     const Picture picture = Picture::ofClient(scene.bar());
     const COLORREF ground = picture.at(picture.width() - 1, picture.height() - 1); // where there is no button
-    const auto plainPixels = [&](int top, int bottom) {
-        return picture.count(ground, 0, CRect(place.left, top, place.right, bottom));
-    };
-    EXPECT_EQ(plainPixels(place.top, covered.top), place.Width() * (covered.top - place.top));
-    EXPECT_EQ(plainPixels(covered.bottom, place.bottom), place.Width() * (place.bottom - covered.bottom));
+    const int beside = place.Width() * place.Height() - covered.Width() * covered.Height();
+    EXPECT_EQ(picture.count(ground, 0, place) - picture.count(ground, 0, covered), beside);
     CRect gap;
     scene.bar().GetItemRect(BarScene::Gap, &gap);
     EXPECT_LT(picture.count(ground, 0, gap), gap.Width() * gap.Height())
