@@ -168,10 +168,12 @@ Places inTree(HWND window)
     return places;
 }
 
-/// Cells with a text.
+/// Cells with a text, of rows that are not cut at the lower edge.
 Places inList(HWND window)
 {
     Places places;
+    CRect client;
+    ::GetClientRect(window, &client);
     const int columns =
         countOf(reinterpret_cast<HWND>(::SendMessageW(window, LVM_GETHEADER, 0, 0)), HDM_GETITEMCOUNT);
     const int rows = std::min(countOf(window, LVM_GETITEMCOUNT), kMostRows);
@@ -180,7 +182,7 @@ Places inList(HWND window)
             CListCtrl& list = *static_cast<CListCtrl*>(CWnd::FromHandle(window));
             CRect cell;
             if (list.GetItemText(row, column).IsEmpty() ||
-                !list.GetSubItemRect(row, column, LVIR_LABEL, cell))
+                !list.GetSubItemRect(row, column, LVIR_LABEL, cell) || cell.bottom > client.bottom)
                 continue;
             places.push_back({cell, L"cell " + std::to_wstring(row) + L", " + std::to_wstring(column)});
         }

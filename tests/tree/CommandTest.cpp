@@ -417,10 +417,7 @@ TEST(TreeMenus, TheContextMenuOpensAtTheClosedItemThatHidesTheCaret)
 TEST(TreeMenus, TheContextMenuOpensInTheCornerWhereTheCaretGoesWhenItIsToBeShown)
 {
     HiddenCaret scene;
-    static_cast<TestNode&>(*scene.tree->node(scene.around)).expanding = [](MultiTreeCtrl& tree) {
-        tree.DeleteAllItems();
-        return false;
-    };
+    scene.tree->deed = [&] { scene.tree->DeleteAllItems(); };
     const CPoint menu = scene.cornerOfTheMenu();
     CPoint corner(0, 0);
     scene.tree->ClientToScreen(&corner);
