@@ -81,6 +81,11 @@ class Programs(unittest.TestCase):
         self.assertEqual(list(bench_all.programs([])), ["bench_frame", "bench_tree"])
         self.assertEqual(list(bench_all.programs(["bench_tree"])), ["bench_tree"])
 
+    def test_a_name_that_no_program_has_is_refused(self):
+        self.add("bench_tree.exe")
+        with self.assertRaisesRegex(SystemExit, "bench_tre$"):
+            bench_all.programs(["bench_tree", "bench_tre"])
+
     def test_one_that_fails_takes_no_other_with_it(self):
         command = lambda code: [sys.executable, "-c", f"import sys; print(sys.argv[1:]); raise SystemExit({code})"]
         results = []
