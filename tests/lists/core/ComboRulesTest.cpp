@@ -55,6 +55,16 @@ TEST(ComboRules, OtherKeysPass)
         EXPECT_EQ(effectOf(ComboKey::Other, bits & 1, bits & 2), KeyEffect::PassOn);
 }
 
+TEST(ComboRules, EscapeRestoresAndAChosenHitIsAccepted)
+{
+    const Verdict escaped = afterEscape();
+    EXPECT_TRUE(escaped.restores);
+    EXPECT_EQ(escaped.told, (Words{Told::SelChange, Told::SelEndCancel}));
+    const Verdict chosen = afterChoice();
+    EXPECT_FALSE(chosen.restores);
+    EXPECT_EQ(chosen.told, (Words{Told::SelChange, Told::SelEndOk}));
+}
+
 TEST(ComboRules, AnOpenListGivesItsSelectionOrElseTheTextIsLookedUp)
 {
     forAllOf3([](bool a, bool b, bool c) {

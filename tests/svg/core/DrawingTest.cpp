@@ -148,6 +148,41 @@ TEST(SvgDrawing, StyleComesFromTheElementAndWhatItLiesIn)
     EXPECT_EQ(drawn("<rect width='16' height='16'/>").at(3, 3), 0xFF000000u) << "black unless told";
 }
 
+TEST(SvgDrawing, EachPropertyCanBeInheritedInsteadOfItsAttribute)
+{
+    struct Property
+    {
+        const char* name;
+        const char* ofTheGroup;
+        const char* ofTheShape;
+    };
+    const Property properties[] = {{"fill", "red", "blue"},
+                                   {"fill-opacity", "0.5", "1"},
+                                   {"fill-rule", "evenodd", "nonzero"},
+                                   {"stroke", "lime", "blue"},
+                                   {"stroke-opacity", "0.25", "1"},
+                                   {"stroke-width", "3", "1"},
+                                   {"stroke-linecap", "square", "butt"},
+                                   {"stroke-linejoin", "bevel", "round"},
+                                   {"stroke-miterlimit", "1", "9"},
+                                   {"stroke-dasharray", "1 2", "none"},
+                                   {"stroke-dashoffset", "1", "0"},
+                                   {"color", "red", "blue"},
+                                   {"visibility", "hidden", "visible"},
+                                   {"opacity", "0.5", "1"}};
+    const std::string base = "fill='currentColor' stroke='black' stroke-width='2' stroke-dasharray='9 1' ";
+    for (const auto& [name, ofTheGroup, ofTheShape] : properties) {
+        const std::string group = "<g " + base + "><g " + name + "='" + ofTheGroup + "'>";
+        const auto with = [&](const std::string& own) {
+            return drawn(group + "<path " + own + " d='M2 14V2L14 14zM4 12V8L8 12z'/></g></g>");
+        };
+        const std::string attribute = std::string(name) + "='" + ofTheShape + "'";
+        const std::string inherit = " style='" + std::string(name) + ":inherit'";
+        EXPECT_FALSE(with(attribute + inherit) == with(attribute)) << name << " counts";
+        EXPECT_TRUE(with(attribute + inherit) == with(inherit)) << name;
+    }
+}
+
 TEST(SvgDrawing, OpacityMultiplies)
 {
     const auto alpha = [](const char* content) { return channel(drawn(content).at(8, 8), 24); };
