@@ -86,10 +86,19 @@ std::wstring textOf(HWND window)
     return {text.data(), static_cast<std::size_t>(length)};
 }
 
+// What stands before a control, or before the window that it fills, as a tree fills its pane.
+HWND windowBefore(HWND control)
+{
+    const HWND before = ::GetWindow(control, GW_HWNDPREV);
+    const HWND parent = ::GetParent(control);
+    const bool onDialog = classOf(parent) == L"#32770"; // whose own neighbours are no labels
+    return before || onDialog ? before : ::GetWindow(parent, GW_HWNDPREV);
+}
+
 // A button is called by its text, another control by the label before it.
 std::wstring labelOf(HWND control)
 {
-    const HWND before = ::GetWindow(control, GW_HWNDPREV);
+    const HWND before = windowBefore(control);
     std::wstring text = classOf(control) == L"Button"  ? textOf(control)
                         : classOf(before) == L"Static" ? textOf(before)
                                                        : std::wstring();
