@@ -276,8 +276,7 @@ bool ListsPage::pose(const std::wstring& name)
         return true;
     }
     if (name == L"alpha") {
-        m_colours.SetColumnWidth(0, scaled(90));
-        m_colours.SetColumnWidth(1, scaled(160));
+        m_colours.SetColumnWidth(1, scaled(135)); // all columns are seen beside the names
         return m_colours.EnsureVisible(m_colours.GetItemCount() - 1, FALSE) &&
                m_colours.EnsureVisible(80, FALSE);
     }
