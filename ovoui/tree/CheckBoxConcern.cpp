@@ -7,6 +7,8 @@
 
 #include <vssym32.h>
 
+#include <algorithm>
+
 using Check = MultiTreeCtrl::Checkable::Check;
 
 namespace
@@ -87,10 +89,10 @@ void MultiTreeCtrl::CheckBoxConcern::windowMade()
         makeImages();
 }
 
-/// Of the size of the check boxes in menus.
+/// Of the size of the check boxes in menus, which goes by the font of menus, as far as the rows have room.
 void MultiTreeCtrl::CheckBoxConcern::makeImages()
 {
-    const int size = ::GetSystemMetrics(SM_CXMENUCHECK);
+    const int size = std::min(::GetSystemMetrics(SM_CXMENUCHECK), static_cast<int>(tree().GetItemHeight()));
     CImageList images;
     images.Create(size, size, ILC_COLOR24, kImages, 0);
     CClientDC screen(&tree());

@@ -48,6 +48,11 @@ public:
     }
 };
 
+int WINAPI largeMenus(int metric)
+{
+    return metric == SM_CXMENUCHECK ? 60 : ::GetSystemMetrics(metric);
+}
+
 UINT_PTR WINAPI noTimer(HWND, UINT_PTR, UINT, TIMERPROC)
 {
     return 0;
@@ -465,6 +470,16 @@ TEST(TreeCheckBoxes, LeaveTheTreeTheThemeThatItDrawsWith)
     ASSERT_NE(theme, nullptr);
     scene.tree.setExtras(Extra::CheckBoxes);
     EXPECT_EQ(::GetWindowTheme(scene.tree), theme);
+}
+
+TEST(TreeCheckBoxes, AreNoHigherThanTheRowsWhereTheFontOfMenusIsLarge)
+{
+    const ImportPatch large(L"ovoui.dll", "GetSystemMetrics", reinterpret_cast<void*>(&largeMenus));
+    Scene scene{{"a"}};
+    scene.tree.setExtras(Extra::CheckBoxes);
+    IMAGEINFO box{};
+    ASSERT_TRUE(scene.tree.GetImageList(TVSIL_STATE)->GetImageInfo(1, &box));
+    EXPECT_EQ(box.rcImage.bottom - box.rcImage.top, static_cast<LONG>(scene.tree.GetItemHeight()));
 }
 
 TEST(TreeCheckBoxes, CanBeAskedForBeforeThereIsAWindow)
