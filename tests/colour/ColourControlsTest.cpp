@@ -198,7 +198,13 @@ TEST_F(ColourGrid, TakesThePlaceOfAControl)
     CStatic place;
     place.Create(L"Leaves", WS_CHILD | WS_VISIBLE, CRect(30, 40, 130, 60), &parent, 9);
     grid = std::make_unique<CColourGrid>();
+    CString before;
+    parent.GetDlgItemText(9, before);
     ASSERT_TRUE(grid->createInPlace(parent, 9));
+    CString text;
+    grid->GetWindowText(text);
+    EXPECT_FALSE(before.IsEmpty());
+    EXPECT_EQ(text, before);
     EXPECT_FALSE(place.m_hWnd);
     EXPECT_EQ(parent.GetDlgItem(9), grid.get());
     CRect rect = placeOf(*grid);

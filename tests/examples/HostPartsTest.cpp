@@ -8,6 +8,7 @@
 #include <testkit/Clipboard.h>
 #include <testkit/Desktop.h>
 #include <testkit/GdiCounter.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/RecordingParent.h>
 #include <testkit/TemporaryProfile.h>
 
@@ -418,6 +419,21 @@ TEST(ShellImages, TellFoldersFromFiles)
         EXPECT_GE(image, 0);
         EXPECT_LT(image, images->GetImageCount());
     }
+}
+
+TEST(GdiPlusSession, EndsWhatItHasBegun)
+{
+    static int s_ended;
+    s_ended = 0;
+    const ImportPatch patch(L"ovoui.dll", "GdiplusShutdown", reinterpret_cast<void*>(+[](ULONG_PTR token) {
+        ++s_ended;
+        Gdiplus::GdiplusShutdown(token);
+    }));
+    {
+        const CGdiPlusSession session;
+        ASSERT_TRUE(session.IsStarted());
+    }
+    EXPECT_EQ(s_ended, 1);
 }
 
 TEST(GdiPlusSession, StartsBesideAnother)

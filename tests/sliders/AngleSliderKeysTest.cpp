@@ -179,6 +179,9 @@ TEST_F(AngleSliderKeys, ANumberIsTypedIntoASmallEdit)
 {
     round->SetFocus();
     user.type(L"-47.5").waitFor("the edit", [&] { return edit() != nullptr; });
+    const LONG style = ::GetWindowLongW(edit(), GWL_STYLE);
+    EXPECT_TRUE(style & ES_CENTER);
+    EXPECT_TRUE(style & ES_AUTOHSCROLL) << "long numbers are taken";
     EXPECT_TRUE(parent.told.empty());
     user.key(VK_RETURN).waitFor("the edit to go", [&] { return edit() == nullptr; });
     EXPECT_EQ(round->GetPos(), -47.5);

@@ -35,6 +35,20 @@ protected:
     }
 };
 
+int s_hooks = 0; ///< those that the library has set and not removed
+
+HHOOK WINAPI countingSet(int kind, HOOKPROC procedure, HINSTANCE module, DWORD thread)
+{
+    ++s_hooks;
+    return ::SetWindowsHookExW(kind, procedure, module, thread);
+}
+
+BOOL WINAPI countingUnhook(HHOOK hook)
+{
+    --s_hooks;
+    return ::UnhookWindowsHookEx(hook);
+}
+
 /// Does a deed when a window becomes the active one, the first time.
 class WhenActivated
 {
@@ -76,6 +90,18 @@ int shownPopups()
 }
 
 } // namespace
+
+TEST_F(SliderButton, ThePopupWatchesMessagesOnlyWhileItIsOpen)
+{
+    const ImportPatch set(L"ovoui.dll", "SetWindowsHookExW", reinterpret_cast<void*>(&countingSet));
+    const ImportPatch unhook(L"ovoui.dll", "UnhookWindowsHookEx", reinterpret_cast<void*>(&countingUnhook));
+    s_hooks = 0;
+    show();
+    open();
+    EXPECT_EQ(s_hooks, 1);
+    user.key(VK_ESCAPE).waitFor("no popup", &isClosed);
+    EXPECT_EQ(s_hooks, 0);
+}
 
 // Opening and closing
 

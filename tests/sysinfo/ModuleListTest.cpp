@@ -74,6 +74,7 @@ protected:
 
 TEST_F(ModuleList, ShowsEveryModuleByName)
 {
+    dialog.SendMessage(WM_COMMAND, IDC_MODULES_REFRESH, 0); // to show the first dialog loads one more
     const std::vector<std::wstring> names = column(0);
     EXPECT_EQ(names.size(), loadedModules().size());
     EXPECT_TRUE(std::ranges::is_sorted(
@@ -148,16 +149,22 @@ TEST_F(ModuleList, CopiesWhatIsShownOrSelected)
 TEST_F(ModuleList, TheButtonOpensTheMenuOfForms)
 {
     int items = 0;
+    CRect button;
+    CRect menu;
+    dialog.GetDlgItem(IDC_MODULES_COPY)->GetWindowRect(&button);
     Robot()
         .click(Spot{dialog.GetDlgItem(IDC_MODULES_COPY)->m_hWnd})
         .waitFor("the menu", [] { return shownMenu() != nullptr; })
         .then([&] {
             items =
                 ::GetMenuItemCount(reinterpret_cast<HMENU>(::SendMessageW(shownMenu(), MN_GETHMENU, 0, 0)));
+            ::GetWindowRect(shownMenu(), &menu);
         })
         .key(VK_ESCAPE)
         .waitFor("no menu", [] { return shownMenu() == nullptr; });
     EXPECT_EQ(items, 3);
+    EXPECT_NEAR(menu.left, button.left, 4);
+    EXPECT_NEAR(menu.top, button.bottom, 4);
 }
 
 TEST_F(ModuleList, AFailureIsShownAndTheListStays)
