@@ -10,32 +10,36 @@ class PaletteEditor : public ColPickerDlgBase
 public:
     PaletteEditor(CWinApp& app, Palette palette)
         : ColPickerDlgBase(IDD_PALETTE_EDITOR, app, Colour::rgb(0, 0, 0), nullptr, nullptr)
-        , m_palette(palette)
-        , m_history(std::move(palette))
+        , m_palette(std::move(palette))
     {
         m_mode = ColPickerModeHLS;
         m_keysEnabled = true;
         m_onlyTypedNumbers = true; // a colour that is only looked at keeps all its digits
     }
 
-protected:
+private:
     BOOL OnInitDialog() override
     {
         ColPickerDlgBase::OnInitDialog();
         attachList();
-        attachButtons();
+        const UINT images[] = {IDB_ADD_16, IDB_REMOVE_16, IDB_UP_16, IDB_DOWN_16};
+        for (int i = 0; i < 4; ++i) {
+            m_buttons[i].SubclassDlgItem(IDC_ADD + i, this);
+            m_buttons[i].setSize(16); // as they are drawn
+            m_buttons[i].loadImage(images[i]);
+        }
         m_turn.SetTicks(30);
         m_turn.UseKeyboard(true);
         createInPlace(m_turn, *this, IDC_TURN);
         m_grid.createInPlace(*this, IDC_GRID);
         showPalette(0);
-        m_list.SetFocus();
-        return FALSE;
+        return TRUE;
     }
 
     void attachList()
     {
         m_list.SubclassDlgItem(IDC_LIST, this);
+        m_list.palette = &m_palette;
         m_list.UseRowColours(TRUE);
         addColumns(m_list, {{.heading = L"Name", .sample = L"A short name"},
                             {.heading = L"Colour", .sample = L"#FFBF00 ##", .showsColour = true},
@@ -43,33 +47,19 @@ protected:
         m_copier.Attach(m_list, true);
     }
 
-    void attachButtons()
-    {
-        const UINT ids[] = {IDC_ADD, IDC_REMOVE, IDC_UP, IDC_DOWN};
-        const UINT images[] = {IDB_ADD_16, IDB_REMOVE_16, IDB_UP_16, IDB_DOWN_16};
-        for (std::size_t i = 0; i < std::size(ids); ++i) {
-            m_buttons[i].SubclassDlgItem(ids[i], this);
-            m_buttons[i].setSize(16); // as they are drawn
-            m_buttons[i].loadImage(images[i]);
-        }
-    }
-
     /// Shows all of it, with one row selected.
     void showPalette(int row)
     {
-        m_showing = true;
         m_list.DeleteAllItems();
         for (int i = 0; i < count(); ++i)
             m_list.AddItem(i, 0, m_palette[i].name, 0, -1);
+        showColours();
         const int last = std::min(row, count() - 1);
         m_list.SetItemState(last, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
         m_list.EnsureVisible(last, FALSE);
-        m_showing = false;
-        showColours();
-        showCurrent();
     }
 
-    /// The colours of all rows, which stay as they are otherwise.
+    /// The colours of all rows, which stay as they are otherwise, and that of the focused one in the picker.
     void showColours()
     {
         std::vector<COLORREF> codes;
@@ -83,7 +73,7 @@ protected:
         }
         m_list.Invalidate(FALSE);
         m_grid.SetColours(codes, 10);
-        m_grid.SetCurrent(current());
+        showCurrent();
         GetDlgItem(IDC_UNDO)->EnableWindow(m_history.canUndo());
         GetDlgItem(IDC_REDO)->EnableWindow(m_history.canRedo());
     }
@@ -106,8 +96,6 @@ protected:
         showPalette(row);
     }
 
-    // Gestures
-
     /// The picker has another colour; `final` at the end of a drag.
     void UpdateExternalColours(bool final) override
     {
@@ -121,25 +109,21 @@ protected:
 
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar)
     {
-        if (!bar || bar->m_hWnd != m_turn.m_hWnd) {
-            ColPickerDlgBase::OnHScroll(code, position, bar);
-            return;
-        }
+        if (!bar || bar->m_hWnd != m_turn.m_hWnd)
+            return ColPickerDlgBase::OnHScroll(code, position, bar);
         m_palette = m_history.present();
         const bool all = m_list.GetSelectedCount() < 2;
         for (int i = 0; i < count(); ++i)
             if (all || m_list.GetItemState(i, LVIS_SELECTED)) {
                 Colour& colour = m_palette[i].colour;
                 const double hue = colour.h_hls().degrees() + static_cast<short>(position);
-                colour =
-                    Colour::hls(Angle::degrees(hue < 0 ? hue + 360 : hue), colour.l_hls(), colour.s_hls());
+                colour = Colour::hls(Angle::degrees(hue), colour.l_hls(), colour.s_hls());
             }
         if (code == SB_THUMBPOSITION) {
             m_history.keep(m_palette);
             m_turn.SetPos(0); // for the next turn
         }
         showColours();
-        showCurrent();
     }
 
     afx_msg void OnAdd()
@@ -181,7 +165,7 @@ protected:
     afx_msg void OnRowChanged(NMHDR* header, LRESULT*)
     {
         const auto& change = *reinterpret_cast<NMLISTVIEW*>(header);
-        if (!m_showing && (change.uNewState & ~change.uOldState & LVIS_FOCUSED))
+        if (change.uNewState & ~change.uOldState & LVIS_FOCUSED)
             showCurrent();
     }
 
@@ -196,7 +180,7 @@ protected:
 
     afx_msg void OnOpen()
     {
-        if (const auto path = pickFile({.parent = this, .types = {{L"Palettes", {L"*.txt"}}}})) {
+        if (const auto path = pickFile(m_question)) {
             m_palette = readPalette(*path);
             keep(0);
         }
@@ -204,8 +188,7 @@ protected:
 
     afx_msg void OnSave()
     {
-        if (const auto path =
-                pickFileToSave({.parent = this, .types = {{L"Palettes", {L"*.txt"}}}, .extension = L".txt"}))
+        if (const auto path = pickFileToSave(m_question))
             writePalette(*path, m_palette);
     }
 
@@ -230,33 +213,24 @@ protected:
     void OnOK() override { DoKillfocusColpickerValues(this); }
 
     COLORREF& customCols(int) override { return m_noSwatch; }
-    DECLARE_MESSAGE_MAP()
 
-private:
     /// A list whose colours come from the palette.
-    class ColourList : public COVOListCtrlEx
+    struct ColourList : COVOListCtrlEx
     {
-    public:
-        explicit ColourList(const Palette& palette)
-            : m_palette(palette)
-        {
-        }
-
-    private:
-        DWORD rowColour(int row) override { return 0xFF000000 | m_palette[row].colour.colorref(); }
-
-        const Palette& m_palette;
+        DWORD rowColour(int row) override { return 0xFF000000 | (*palette)[row].colour.colorref(); }
+        const Palette* palette = nullptr;
     };
 
+    const FileQuestion m_question{.parent = this, .types = {{L"Palettes", {L"*.txt"}}}, .extension = L".txt"};
     Palette m_palette; // as it is in the middle of a gesture
-    UndoHistory<Palette> m_history;
-    ColourList m_list{m_palette};
+    UndoHistory<Palette> m_history{m_palette};
+    ColourList m_list;
     COVOListCopier m_copier;
     CAlphaImageButton m_buttons[4];
     CDialSlider m_turn;
     CColourGrid m_grid;
     COLORREF m_noSwatch = 0;
-    bool m_showing = false;
+    DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(PaletteEditor, ColPickerDlgBase)
