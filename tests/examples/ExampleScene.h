@@ -31,9 +31,9 @@ protected:
     }
 };
 
-/// Types `path` into the file dialog that the program is about to open, and presses Enter. The dialog is the
-/// system's, so it is known by its owner, and ready once the keyboard is in a field of it.
-inline void answerFileDialog(ovo::testkit::RunningProgram& program, const std::wstring& path)
+/// The file dialog that the program is about to open, once it can be typed into. It is the system's, so it is
+/// known by its owner, and ready once the keyboard is in a field of it.
+inline HWND openedFileDialog(ovo::testkit::RunningProgram& program)
 {
     HWND dialog = nullptr;
     program.waitFor("the file dialog", [&] {
@@ -47,6 +47,14 @@ inline void answerFileDialog(ovo::testkit::RunningProgram& program, const std::w
                ::GetClassNameW(thread.hwndFocus, focused, static_cast<int>(std::size(focused))) != 0 &&
                ::lstrcmpiW(focused, L"Edit") == 0;
     });
+    return dialog;
+}
+
+/// Types `path` into the file dialog that the program is about to open, and presses Enter. The program goes
+/// on afterwards.
+inline void answerFileDialog(ovo::testkit::RunningProgram& program, const std::wstring& path)
+{
+    const HWND dialog = openedFileDialog(program);
     program.type(path);
     program.key(VK_RETURN);
     program.waitFor("the end of the file dialog", [&] { return !::IsWindow(dialog); });
