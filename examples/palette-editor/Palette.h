@@ -11,6 +11,9 @@ struct NamedColour
 {
     std::wstring name;
     Colour colour;
+
+    std::wstring line() const { return ovoui::colour::textOfColour(colour) + L' ' + name + L"\r\n"; }
+    bool operator==(const NamedColour& other) const { return line() == other.line(); }
 };
 
 using Palette = std::vector<NamedColour>;
@@ -42,7 +45,7 @@ inline void writePalette(const std::filesystem::path& path, const Palette& palet
 {
     std::wstring text = L"\xFEFF"; // the mark
     for (const NamedColour& entry : palette)
-        text += ovoui::colour::textOfColour(entry.colour) + L' ' + entry.name + L"\r\n";
+        text += entry.line();
     const auto* const bytes = reinterpret_cast<const char*>(text.data());
     if (!std::ofstream(path, std::ios::binary).write(bytes, 2 * text.size()).flush())
         throw OvoError(L"The file \"" + path.wstring() + L"\" cannot be written.");

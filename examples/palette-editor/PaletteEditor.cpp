@@ -180,17 +180,40 @@ private:
 
     afx_msg void OnOpen()
     {
-        if (const auto path = pickFile(m_question)) {
-            m_palette = readPalette(*path);
+        if (const auto path = mayGo() ? pickFile(m_question) : std::nullopt) {
+            m_palette = m_saved = readPalette(*path);
             keep(0);
         }
     }
 
     afx_msg void OnSave()
     {
-        if (const auto path = pickFileToSave(m_question))
+        if (const auto path = pickFileToSave(m_question)) {
             writePalette(*path, m_palette);
+            m_saved = m_palette;
+        }
     }
+
+    /// Whether the palette is saved, or the user, whom nothing else asks now, gives up what has changed.
+    bool mayGo()
+    {
+        m_list.SetFocus(); // ends typing
+        if (m_palette == m_saved)
+            return true;
+        const UINT type = MB_YESNOCANCEL | MB_ICONQUESTION;
+        const int answer = OVOMessageBox(m_hWnd, L"Save the changes?", nullptr, type, L"SaveChanges", 0);
+        if (answer == IDYES)
+            OnSave();
+        return answer == IDNO || m_palette == m_saved;
+    }
+
+    void OnCancel() override
+    {
+        if (mayGo())
+            ColPickerDlgBase::OnCancel();
+    }
+
+    afx_msg BOOL OnQueryEndSession() { return IsWindowEnabled() ? mayGo() : m_palette == m_saved; }
 
     /// Ctrl+Z and Ctrl+Y, unless something is being typed; Delete in the list.
     BOOL PreTranslateMessage(MSG* message) override
@@ -222,7 +245,8 @@ private:
     };
 
     const FileQuestion m_question{.parent = this, .types = {{L"Palettes", {L"*.txt"}}}, .extension = L".txt"};
-    Palette m_palette; // as it is in the middle of a gesture
+    Palette m_palette;           // as it is in the middle of a gesture
+    Palette m_saved = m_palette; // as in its file
     UndoHistory<Palette> m_history{m_palette};
     ColourList m_list;
     COVOListCopier m_copier;
@@ -235,6 +259,7 @@ private:
 
 BEGIN_MESSAGE_MAP(PaletteEditor, ColPickerDlgBase)
     ON_WM_HSCROLL()
+    ON_WM_QUERYENDSESSION()
     ON_BN_CLICKED(IDC_ADD, &PaletteEditor::OnAdd)
     ON_BN_CLICKED(IDC_REMOVE, &PaletteEditor::OnRemove)
     ON_COMMAND_RANGE(IDC_UP, IDC_DOWN, &PaletteEditor::OnMove)

@@ -11,11 +11,44 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <future>
 
 using namespace ovo::testkit;
 
 namespace
 {
+
+// The keys for the buttons of the question whether to save
+const std::vector<WORD> kYes{VK_RETURN};
+const std::vector<WORD> kNo{VK_TAB, VK_SPACE};
+const std::vector<WORD> kCancel{VK_ESCAPE};
+
+/// All that a message box says.
+std::wstring said(HWND box)
+{
+    std::wstring text;
+    for (HWND part = ::GetWindow(box, GW_CHILD); part; part = ::GetWindow(part, GW_HWNDNEXT))
+        text += textOf(part);
+    return text;
+}
+
+/// A file that nobody else can open.
+class HeldFile
+{
+public:
+    explicit HeldFile(const std::wstring& path)
+        : m_file(::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr))
+    {
+        EXPECT_NE(m_file, INVALID_HANDLE_VALUE);
+    }
+    ~HeldFile() { ::CloseHandle(m_file); }
+    HeldFile(const HeldFile&) = delete;
+    HeldFile& operator=(const HeldFile&) = delete;
+
+private:
+    HANDLE m_file;
+};
 
 class PaletteEditor : public Example
 {
@@ -55,9 +88,69 @@ protected:
                CSize(std::lround(radius * std::cos(angle)), std::lround(radius * std::sin(angle)));
     }
 
+    /// Moves the first colour below the second.
+    void change()
+    {
+        m_program.click(item(IDC_DOWN));
+        m_program.waitFor("the change", [this] { return canUndo(); });
+    }
+
+    /// The question whether to save, once it can be answered.
+    HWND question()
+    {
+        HWND box = nullptr;
+        m_program.waitFor("the question whether to save", [&] {
+            box = ::GetForegroundWindow();
+            return ::GetWindow(box, GW_OWNER) == m_program.main() && ::GetDlgItem(box, IDYES) &&
+                   ::GetDlgItem(box, IDNO) && ::GetDlgItem(box, IDCANCEL);
+        });
+        return box;
+    }
+
+    void answer(const std::vector<WORD>& keys)
+    {
+        const HWND box = question();
+        for (const WORD key : keys)
+            m_program.key(key);
+        m_program.waitFor("the end of the question", [box] { return !::IsWindow(box); });
+    }
+
+    void waitForEditor()
+    {
+        m_program.waitFor("the editor", [this] { return ::IsWindowEnabled(m_program.main()) != FALSE; });
+    }
+
+    void cancelFileDialog(HWND dialog)
+    {
+        m_program.key(VK_ESCAPE);
+        m_program.waitFor("the end of the file dialog", [dialog] { return !::IsWindow(dialog); });
+        waitForEditor();
+    }
+
+    /// What the program answers to the system, which wants to end the session: 1 for yes, 0 for no, -1 when
+    /// there is no answer in time.
+    std::future<int> askedForTheSession() const
+    {
+        return std::async(std::launch::async, [main = m_program.main()] {
+            DWORD_PTR agrees = 0;
+            const UINT limit = static_cast<UINT>(RunningProgram::kPatience.count());
+            const LRESULT answered =
+                ::SendMessageTimeoutW(main, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, limit, &agrees);
+            return answered ? static_cast<int>(agrees) : -1;
+        });
+    }
+
+    /// Nothing is asked: all that was changed has been saved or undone.
     void close()
     {
         m_program.click(item(IDCANCEL));
+        EXPECT_TRUE(m_program.endsByItself());
+    }
+
+    void closeWithoutSaving()
+    {
+        m_program.click(item(IDCANCEL));
+        answer(kNo);
         EXPECT_TRUE(m_program.endsByItself());
     }
 
@@ -88,7 +181,7 @@ TEST_F(PaletteEditor, UndoesADragAtOnce)
     pressUntil(IDC_UNDO, [&] { return hue() == before; });
     EXPECT_FALSE(canUndo()) << "the drag was one step";
     pressUntil(IDC_REDO, isAnother);
-    close();
+    closeWithoutSaving();
 }
 
 TEST_F(PaletteEditor, TakesATypedNumber)
@@ -99,7 +192,7 @@ TEST_F(PaletteEditor, TakesATypedNumber)
     m_program.key(VK_TAB);
     m_program.waitFor("the change", [this] { return canUndo(); });
     waitForHue(L"200");
-    close();
+    closeWithoutSaving();
 }
 
 TEST_F(PaletteEditor, AddsAndRemovesColours)
@@ -161,9 +254,8 @@ TEST_F(PaletteEditor, MovesASliderAndGoesBack)
 TEST_F(PaletteEditor, SavesWhatWasMovedAndAddedAndOpensItAgain)
 {
     const TemporaryFiles files;
-    m_program.click(item(IDC_DOWN)); // the first colour goes below the second
-    m_program.waitFor("the move", [this] { return canUndo(); });
-    m_program.click(item(IDC_ADD)); // behind it
+    change();
+    m_program.click(item(IDC_ADD)); // behind what was moved
     waitForRows(11);
     m_program.waitFor("the name's editor",
                       [this] { return m_program.child(item(IDC_LIST), L"Edit") != nullptr; });
@@ -182,9 +274,142 @@ TEST_F(PaletteEditor, SavesWhatWasMovedAndAddedAndOpensItAgain)
 
     pressUntil(IDC_REMOVE, [this] { return rows() < 11; });
     m_program.click(item(IDC_OPEN));
+    answer(kNo);
     answerFileDialog(m_program, path);
     waitForRows(11);
     close();
+}
+
+TEST_F(PaletteEditor, AsksBeforeChangesAreLostHoweverItIsClosed)
+{
+    change();
+    const std::function<void()> ways[] = {[this] { m_program.key(VK_ESCAPE); },
+                                          [this] { m_program.chord(VK_MENU, VK_F4); },
+                                          [this] { m_program.click(item(IDCANCEL)); }};
+    for (const auto& closing : ways) {
+        closing();
+        answer(kCancel);
+    }
+    EXPECT_TRUE(canUndo()) << "the change is still there";
+    m_program.key(VK_ESCAPE);
+    answer(kNo);
+    EXPECT_TRUE(m_program.endsByItself());
+}
+
+TEST_F(PaletteEditor, ClosesAtOnceWhereTheChangesAreUndone)
+{
+    change();
+    pressUntil(IDC_UNDO, [this] { return !canUndo(); });
+    m_program.key(VK_ESCAPE);
+    EXPECT_TRUE(m_program.endsByItself());
+}
+
+TEST_F(PaletteEditor, TakesOverWhatIsBeingTypedWhenItIsClosed)
+{
+    m_program.click(item(IDC_COLOUR_VALUE_1));
+    m_program.chord(VK_CONTROL, 'A');
+    m_program.type(L"200");
+    waitForHue(L"200");
+    EXPECT_FALSE(canUndo()) << "it is only typed";
+    m_program.key(VK_ESCAPE);
+    answer(kCancel);
+    EXPECT_TRUE(canUndo());
+    EXPECT_EQ(hue(), L"200");
+    closeWithoutSaving();
+}
+
+TEST_F(PaletteEditor, SavesWhenItIsClosedAndTheUserWantsIt)
+{
+    const TemporaryFiles files;
+    change();
+    m_program.key(VK_ESCAPE);
+    answer(kYes);
+    openedFileDialog(m_program);
+    m_program.type(files.path(L"kept"));
+    m_program.key(VK_RETURN);
+    EXPECT_TRUE(m_program.endsByItself());
+    const std::vector<std::wstring> lines = savedLines(m_program, files.path(L"kept.txt"));
+    ASSERT_EQ(lines.size(), 10u);
+    EXPECT_EQ(lines[1], L"#5B7B3E Moss");
+}
+
+TEST_F(PaletteEditor, StaysWhenTheFileDialogIsCancelled)
+{
+    change();
+    m_program.key(VK_ESCAPE);
+    answer(kYes);
+    cancelFileDialog(openedFileDialog(m_program));
+    EXPECT_TRUE(canUndo());
+    closeWithoutSaving();
+}
+
+TEST_F(PaletteEditor, StaysWithTheChangesWhenTheFileCannotBeWritten)
+{
+    const TemporaryFiles files{L"busy.txt"};
+    change();
+    m_program.key(VK_ESCAPE);
+    {
+        const HeldFile held(files.path(L"busy.txt"));
+        answer(kYes);
+        const HWND dialog = openedFileDialog(m_program);
+        m_program.type(files.path(L"busy.txt"));
+        m_program.key(VK_RETURN);
+        HWND replacing = nullptr;
+        m_program.waitFor("the question whether to replace the file", [&] {
+            replacing = ::GetForegroundWindow();
+            return replacing != dialog && ::GetDlgItem(replacing, IDYES);
+        });
+        m_program.click(::GetDlgItem(replacing, IDYES));
+        m_program.waitFor("the end of the file dialog", [dialog] { return !::IsWindow(dialog); });
+        m_program.waitFor("the message that names the file", [] {
+            return said(::GetForegroundWindow()).find(L"busy.txt") != std::wstring::npos;
+        });
+    }
+    m_program.key(VK_RETURN);
+    waitForEditor();
+    EXPECT_TRUE(canUndo());
+
+    m_program.key(VK_ESCAPE);
+    answer(kYes);
+    openedFileDialog(m_program);
+    m_program.type(files.path(L"free.txt"));
+    m_program.key(VK_RETURN);
+    EXPECT_TRUE(m_program.endsByItself());
+    EXPECT_EQ(savedLines(m_program, files.path(L"free.txt")).at(1), L"#5B7B3E Moss");
+}
+
+TEST_F(PaletteEditor, AsksBeforeItOpensAnotherPalette)
+{
+    const TemporaryFiles files;
+    std::ofstream(std::filesystem::path(files.path(L"two.txt"))) << "#102030 Night\nsteelblue Steel\n";
+    change();
+    m_program.click(item(IDC_OPEN));
+    answer(kCancel);
+    m_program.click(item(IDC_OPEN)); // the first time no file was asked for, or the editor would be disabled
+    answer(kNo);
+    answerFileDialog(m_program, files.path(L"two.txt"));
+    waitForRows(2);
+    m_program.key(VK_ESCAPE); // what was opened has not changed
+    EXPECT_TRUE(m_program.endsByItself());
+}
+
+TEST_F(PaletteEditor, AsksBeforeTheSessionEnds)
+{
+    EXPECT_EQ(askedForTheSession().get(), 1) << "nothing would be lost";
+    m_program.click(item(IDC_OPEN));
+    const HWND dialog = openedFileDialog(m_program);
+    EXPECT_EQ(askedForTheSession().get(), 1) << "nor while a file is asked for";
+    cancelFileDialog(dialog);
+    change();
+    std::future<int> answered = askedForTheSession();
+    question();
+    EXPECT_EQ(askedForTheSession().get(), 0) << "the user is asked once at a time";
+    answer(kCancel);
+    EXPECT_EQ(answered.get(), 0);
+    EXPECT_TRUE(canUndo());
+    answered = askedForTheSession();
+    answer(kNo);
+    EXPECT_EQ(answered.get(), 1);
 }
 
 TEST(PaletteFile, ThatCannotBeReadIsTold)
@@ -192,10 +417,8 @@ TEST(PaletteFile, ThatCannotBeReadIsTold)
     const TemporaryFiles files;
     RunningProgram program(L"palette-editor", L"\"" + files.path(L"gone.txt") + L"\"");
     EXPECT_EQ(::GetDlgItem(program.main(), IDC_LIST), nullptr) << "a message instead of the editor";
-    std::wstring said;
-    for (HWND part = ::GetWindow(program.main(), GW_CHILD); part; part = ::GetWindow(part, GW_HWNDNEXT))
-        said += textOf(part);
-    EXPECT_NE(said.find(L"gone.txt"), std::wstring::npos) << ::testing::PrintToString(said);
+    const std::wstring message = said(program.main());
+    EXPECT_NE(message.find(L"gone.txt"), std::wstring::npos) << ::testing::PrintToString(message);
     program.key(VK_RETURN);
     EXPECT_TRUE(program.endsByItself());
 }
