@@ -1,10 +1,16 @@
 #include "PickerDialogs.h"
 
+#include "Pointer.h"
 #include "resource.h"
 
 #include <cmath>
+#include <utility>
 
 // The library's own dialog
+
+BEGIN_MESSAGE_MAP(LivePicker, ColPickerDlg)
+    ON_WM_SHOWWINDOW()
+END_MESSAGE_MAP()
 
 LivePicker::LivePicker(const PickerHost& host, ColPickerModeType mode, const Colour& colour, CWnd* parent)
     : ColPickerDlg(*AfxGetApp(), mode, colour, parent, parent)
@@ -17,16 +23,21 @@ void LivePicker::UpdateExternalColours(bool final)
     m_host.changed(GetColour(), final);
 }
 
-BOOL LivePicker::OnInitDialog()
+/// The dialog has its place now.
+void LivePicker::OnShowWindow(BOOL shown, UINT status)
 {
-    const BOOL result = ColPickerDlg::OnInitDialog();
-    if (m_dragTo >= 0) {
-        const CPoint from = onRing(GetColour().h_hls().degrees());
-        const CPoint to = onRing(m_dragTo);
-        SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from.x, from.y));
-        SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to.x, to.y));
-    }
-    return result;
+    ColPickerDlg::OnShowWindow(shown, status);
+    if (shown && m_dragTo >= 0)
+        drag(GetColour().h_hls().degrees(), std::exchange(m_dragTo, -1));
+}
+
+void LivePicker::drag(double fromHue, double toHue)
+{
+    const CPoint from = onRing(fromHue);
+    const CPoint to = onRing(toHue);
+    pointAt(*this, to);
+    SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from.x, from.y));
+    SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to.x, to.y));
 }
 
 /// Red is at the top, and hues go anticlockwise.

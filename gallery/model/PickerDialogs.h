@@ -20,14 +20,17 @@ class LivePicker : public ColPickerDlg
 public:
     LivePicker(const PickerHost& host, ColPickerModeType mode, const Colour& colour, CWnd* parent);
 
-    /// Presses on the ring as soon as the dialog is open and moves on to this hue, in degrees.
+    /// Presses on the ring as soon as the dialog is open and moves on to this hue, in degrees. The pointer
+    /// goes there.
     void dragTo(double hue) { m_dragTo = hue; }
 
 protected:
     void UpdateExternalColours(bool final) override;
-    BOOL OnInitDialog() override;
+    afx_msg void OnShowWindow(BOOL shown, UINT status);
+    DECLARE_MESSAGE_MAP()
 
 private:
+    void drag(double fromHue, double toHue);
     CPoint onRing(double hue) const;
 
     const PickerHost& m_host;

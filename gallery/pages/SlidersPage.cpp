@@ -1,5 +1,6 @@
 #include "SlidersPage.h"
 
+#include "Pointer.h"
 #include "resource.h"
 
 #include <ovoui/frame/Geometry.h>
@@ -106,6 +107,14 @@ UINT buddyOf(std::size_t row)
 std::size_t rowOf(WPARAM buddy)
 {
     return static_cast<std::size_t>(::GetDlgCtrlID(reinterpret_cast<HWND>(buddy)) - IDC_SLIDERS_BUDDY);
+}
+
+/// With the mouse, near the upper left corner.
+void press(CWnd& button)
+{
+    constexpr int kInside = 4;
+    pointAt(button, {kInside, kInside});
+    button.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(kInside, kInside));
 }
 
 } // namespace
@@ -339,7 +348,7 @@ bool SlidersPage::pose(const std::wstring& name)
     } else if (name == L"at-screen-edge") {
         openAtScreenEdge();
     } else if (name == L"pressed") {
-        m_buttons[Integer].SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(4, 4));
+        press(m_buttons[Integer]);
     } else if (name == L"extras") {
         CheckDlgButton(IDC_SLIDERS_EXTRAS, BST_CHECKED);
         OnExtras();
