@@ -94,6 +94,23 @@ void TabContent::fillMore()
         button.iString = reinterpret_cast<INT_PTR>(name);
         SendDlgItemMessage(IDC_CONTENT_TOOLS, TB_ADDBUTTONS, 1, reinterpret_cast<LPARAM>(&button));
     }
+    alignTools();
+}
+
+/// The system decides how high the buttons are; their texts are to stand in one line with the link.
+void TabContent::alignTools()
+{
+    CWnd& tools = *GetDlgItem(IDC_CONTENT_TOOLS);
+    CRect bar;
+    tools.GetWindowRect(&bar);
+    ScreenToClient(&bar);
+    CRect line;
+    GetDlgItem(IDC_CONTENT_LINK)->GetWindowRect(&line);
+    ScreenToClient(&line);
+    CRect button;
+    tools.SendMessage(TB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&button));
+    tools.SetWindowPos(nullptr, bar.left, line.CenterPoint().y - button.CenterPoint().y, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void TabContent::fit()

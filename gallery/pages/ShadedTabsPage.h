@@ -29,6 +29,7 @@ protected:
 private:
     void fill();
     void fillMore();
+    void alignTools();
 };
 
 class ShadedTabsPage : public GalleryPage

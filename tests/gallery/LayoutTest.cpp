@@ -232,3 +232,20 @@ TEST_F(GalleryLayout, TheSecondTabsShowOtherControls)
         }
     }
 }
+
+TEST_F(GalleryLayout, TheToolsOfTheSecondTabsStandInOneLineWithTheLink)
+{
+    scene.open(L"shadedtabs");
+    ASSERT_TRUE(scene.page().pose(L"more-controls"));
+    for (const int id : {IDC_SHADED_TABS, IDC_PLAIN_TABS}) {
+        const HWND content = ::FindWindowExW(scene.control(id), nullptr, L"#32770", nullptr);
+        const HWND tools = ::GetDlgItem(content, IDC_CONTENT_TOOLS);
+        CRect button;
+        ::SendMessageW(tools, TB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&button));
+        ::MapWindowPoints(tools, nullptr, reinterpret_cast<POINT*>(&button), 2);
+        CRect link;
+        ::GetWindowRect(::GetDlgItem(content, IDC_CONTENT_LINK), &link);
+        EXPECT_FALSE(button.IsRectEmpty());
+        EXPECT_NEAR(button.CenterPoint().y, link.CenterPoint().y, 1);
+    }
+}
