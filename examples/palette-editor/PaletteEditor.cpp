@@ -65,10 +65,9 @@ private:
         std::vector<COLORREF> codes;
         for (int i = 0; i < count(); ++i) {
             const Colour& colour = m_palette[i].colour;
-            CString contrast;
-            contrast.Format(L"%.1f", ovoui::colour::contrast(colour, Colour::rgb(1, 1, 1)));
+            const double contrast = ovoui::colour::contrast(colour, Colour::rgb(1, 1, 1));
             m_list.AddItem(i, 1, ovoui::colour::textOfColour(colour), 0, -1);
-            m_list.AddItem(i, 2, contrast.GetString(), 0, -1);
+            m_list.AddItem(i, 2, stringPrintf(L"%.1f", contrast), 0, -1);
             codes.push_back(colour.colorref());
         }
         m_list.Invalidate(FALSE);
@@ -176,6 +175,8 @@ private:
         command == IDC_UNDO ? m_history.undo() : m_history.redo();
         m_palette = m_history.present();
         showPalette(std::max(current(), 0));
+        if (const CWnd* const focus = GetFocus(); !focus || !focus->IsWindowEnabled())
+            m_list.SetFocus(); // a button with nothing left to do takes no keys
     }
 
     afx_msg void OnOpen()

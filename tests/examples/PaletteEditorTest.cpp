@@ -361,8 +361,9 @@ TEST_F(PaletteEditor, StaysWithTheChangesWhenTheFileCannotBeWritten)
         });
         m_program.click(::GetDlgItem(replacing, IDYES));
         m_program.waitFor("the end of the file dialog", [dialog] { return !::IsWindow(dialog); });
-        m_program.waitFor("the message that names the file", [] {
-            return said(::GetForegroundWindow()).find(L"busy.txt") != std::wstring::npos;
+        m_program.waitFor("the message that names the file", [replacing] {
+            const HWND box = ::GetForegroundWindow();
+            return box != replacing && said(box).find(L"busy.txt") != std::wstring::npos;
         });
     }
     m_program.key(VK_RETURN);

@@ -13,8 +13,17 @@ UINT withIcon(UINT type)
     return (type & MB_ICONMASK) ? type : type | MB_ICONEXCLAMATION;
 }
 
+/// A task-modal box is gone before the system enables the thread's other windows again, so that none of them
+/// could become active.
+void activateAgain(HWND wnd)
+{
+    if (!::GetActiveWindow() && ::IsWindow(wnd) && ::IsWindowEnabled(wnd))
+        ::SetActiveWindow(wnd);
+}
+
 int show(LPCTSTR text, UINT type)
 {
+    const HWND active = ::GetActiveWindow();
     HWND topLevel = nullptr;
     CWnd* owner = CWnd::GetSafeOwner(nullptr, &topLevel);
     const HWND ownerWnd = owner->GetSafeHwnd();
@@ -26,6 +35,7 @@ int show(LPCTSTR text, UINT type)
         const int answer = ::MessageBoxW(given, text, AfxGetAppName(), withIcon(type));
         if (topLevel)
             ::EnableWindow(topLevel, TRUE);
+        activateAgain(active);
         return answer;
     });
 }

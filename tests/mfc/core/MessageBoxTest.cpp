@@ -112,6 +112,22 @@ TEST(MessageBoxes, TheMainWindowIsDisabledMeanwhileAndOwnsTheBox)
     EXPECT_EQ(::GetActiveWindow(), window.m_hWnd);
 }
 
+TEST(MessageBoxes, ATaskModalOneDisablesTheThreadsWindowsAndGivesTheActiveOneItsPlaceAgain)
+{
+    TestApp::instance().showBoxes();
+    RecordingParent window;
+    present(window);
+    BOOL enabledMeanwhile = TRUE;
+    Robot robot;
+    auto answering = robot.waitFor("the box", [] { return openBox() != nullptr; })
+                         .then([&] { enabledMeanwhile = window.IsWindowEnabled(); })
+                         .key(VK_RETURN)
+                         .start();
+    EXPECT_EQ(AfxMessageBox(L"text", MB_OK | MB_TASKMODAL), IDOK);
+    EXPECT_FALSE(enabledMeanwhile);
+    EXPECT_EQ(::GetActiveWindow(), window.m_hWnd);
+}
+
 TEST(MessageBoxes, GivesTheButtonThatWasPressed)
 {
     TestApp::instance().showBoxes();
