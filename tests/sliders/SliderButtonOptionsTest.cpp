@@ -39,8 +39,6 @@ protected:
     }
 };
 
-constexpr UINT kChanged = CSliderButton::kValueChanged;
-
 } // namespace
 
 // Mappings

@@ -32,7 +32,7 @@ SliderButtonScene::SliderButtonScene()
     button->SubclassWindow(::CreateWindowExW(0, L"Static", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 102, 10,
                                              16, 22, parent, reinterpret_cast<HMENU>(9), nullptr, nullptr));
     button->SetBuddy(buddy);
-    for (const UINT message : {CSliderButton::kValueChanged, CSliderButton::kReleased})
+    for (const UINT message : {kChanged, kReleased})
         parent.log().record(message);
 }
 
@@ -80,9 +80,15 @@ std::vector<UINT> SliderButtonScene::told()
 {
     std::vector<UINT> messages;
     for (const Notification& note : parent.log().all())
-        if (note.message == CSliderButton::kValueChanged || note.message == CSliderButton::kReleased)
+        if (note.message == kChanged || note.message == kReleased)
             messages.push_back(note.message);
     return messages;
+}
+
+void SliderButton::open()
+{
+    user.click(Spot{*button}).waitFor("the popup", &isOpen);
+    parent.log().clear();
 }
 
 } // namespace ovo::testkit

@@ -20,6 +20,8 @@ namespace ovo::testkit
 
 constexpr UINT kBuddyId = 7; // whose string is a tip
 constexpr UINT kOtherId = 8; // which has none
+constexpr UINT kChanged = CSliderButton::kValueChanged;
+constexpr UINT kReleased = CSliderButton::kReleased;
 
 /// Shows a decimal comma and a unit, and writes down its calls.
 class HostUtils : public SliderButtonUtils
@@ -66,6 +68,13 @@ protected:
     CEdit other;
     std::unique_ptr<CSliderButton> button = std::make_unique<CSliderButton>(utils);
     Robot user;
+};
+
+/// What every slider button does, whatever its host asks for.
+class SliderButton : public SliderButtonScene
+{
+protected:
+    void open();
 };
 
 } // namespace ovo::testkit
