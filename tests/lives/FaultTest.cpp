@@ -4,14 +4,12 @@
 //
 //   OVO_FAULT_LIVES=100 ./test_lives.exe --gtest_filter='*Faults*'     in up to so many lives, 3 by default
 #include "Imports.h"
+#include "Leftovers.h"
 #include "Uses.h"
 
-#include <testkit/GdiCounter.h>
-#include <testkit/GuiThread.h>
 #include <testkit/RecordingParent.h>
 #include <testkit/TestApp.h>
 #include <testkit/Watchdog.h>
-#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
@@ -197,11 +195,9 @@ TEST_P(Faults, NoCallThatFailsDoesHarm)
         if (kLetGo.contains(import.function))
             continue;
         // The first time the framework or the system may have made something that it keeps.
-        const GdiCounter gdi;
-        const WindowCounter windows;
+        const Leftovers leftovers;
         liveWithout(import);
-        EXPECT_LE(gdi.grown(), 0);
-        EXPECT_EQ(windows.grown(), 0);
+        leftovers.expectNone();
     }
 }
 

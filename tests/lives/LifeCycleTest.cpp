@@ -3,15 +3,13 @@
 //   OVO_LIFE_CYCLES=10000 ./test_lives.exe --gtest_filter='*LifeCycle*'     so many lives of each control
 //
 // By default they are 1,000, and of those that take long as small a part of it as their table says.
+#include "Leftovers.h"
 #include "Lives.h"
-#include "support/GdiTypes.h"
 #include "support/HeapCounter.h"
 
-#include <testkit/GdiCounter.h>
 #include <testkit/GuiThread.h>
 #include <testkit/RecordingParent.h>
 #include <testkit/Watchdog.h>
-#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
@@ -60,12 +58,9 @@ TEST_P(LifeCycle, LeavesNothingBehind)
     const int times = cyclesOf(GetParam());
     growth(GetParam().live, std::min(kWarm, std::max(kWarmLeast, times)));
     const int platform = GetParam().platform ? growth(GetParam().platform, times) : 0;
-    const auto objects = gdiObjects();
-    const GdiCounter gdi;
-    const WindowCounter windows;
+    const Leftovers leftovers;
     EXPECT_LE(growth(GetParam().live, times), platform + kSlack);
-    EXPECT_LE(gdi.grown(), 0) << gdiGrowth(objects, gdiObjects());
-    EXPECT_EQ(windows.grown(), 0);
+    leftovers.expectNone();
 }
 
 INSTANTIATE_TEST_SUITE_P(Controls, LifeCycle, ::testing::ValuesIn(lives()),

@@ -4,8 +4,6 @@
 #include "ProbeFolder.h"
 #include "ResourceGap.h"
 
-#include <testkit/GdiCounter.h>
-#include <testkit/GuiThread.h>
 #include <testkit/RecordingParent.h>
 #include <testkit/Watchdog.h>
 #include <testkit/WindowCounter.h>
