@@ -1,6 +1,7 @@
 // Embedded controls: their keys before the accelerators, and what the callback is told.
 #include "ToolBarScene.h"
 
+#include <support/HeldCtrl.h>
 #include <testkit/RecordingParent.h>
 
 #include <gtest/gtest.h>
@@ -40,25 +41,6 @@ public:
         }
         return CWnd::WindowProc(message, wParam, lParam);
     }
-};
-
-/// Ctrl as the thread sees it.
-class HeldCtrl
-{
-public:
-    explicit HeldCtrl(bool held)
-    {
-        BYTE keys[256]{};
-        ::GetKeyboardState(m_before);
-        keys[VK_CONTROL] = held ? 0x80 : 0;
-        ::SetKeyboardState(keys);
-    }
-    ~HeldCtrl() { ::SetKeyboardState(m_before); }
-    HeldCtrl(const HeldCtrl&) = delete;
-    HeldCtrl& operator=(const HeldCtrl&) = delete;
-
-private:
-    BYTE m_before[256];
 };
 
 class BarKeys : public ::testing::Test
