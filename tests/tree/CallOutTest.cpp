@@ -209,6 +209,15 @@ public:
     }
     ~TreeHost() { parent.DestroyWindow(); }
 
+    /// Lets the parent raise in a notification of the tree.
+    void raiseIn(UINT notification, const char* name)
+    {
+        parent.answer(notification, [name](NMHDR*) -> LRESULT {
+            Raising::here(name);
+            return 0;
+        });
+    }
+
     LRESULT press(UINT key) { return tree.SendMessage(WM_KEYDOWN, key, 1); }
     LRESULT command(UINT id) { return tree.SendMessage(WM_COMMAND, id); }
 
@@ -271,6 +280,7 @@ public:
     RecordingParent parent;
     RaisingTree tree;
     RaisingPlace place;
+    const EVSubscription gestures = tree.gestureEV().subscribe([](const int&) { Raising::here("gesture"); });
     RaisingNode* node = nullptr; ///< behind the first item
     HTREEITEM first = nullptr;
     HTREEITEM second = nullptr;
@@ -410,6 +420,44 @@ const std::vector<TreeCallOut>& callOuts()
         {"isCommandDisabled", [](TreeHost& host) { host.showMenu(); }, kAsAHandler},
         {"doSelectItem", [](TreeHost& host) { host.tree.SelectItem(host.second); }, kToCaller},
         {"doSelectItem", [](TreeHost& host) { host.press(VK_DOWN); }, kAsAHandler},
+        {"gesture", [](TreeHost& host) { host.command(kPaint); }, kAsAHandler},
+        {"gesture", [](TreeHost& host) { host.press(VK_RETURN); }, kAsAHandler},
+        {"TVN_SELCHANGING",
+         [](TreeHost& host) {
+             host.raiseIn(TVN_SELCHANGINGW, "TVN_SELCHANGING");
+             host.press(VK_DOWN);
+         },
+         kAsAHandler},
+        {"TVN_SELCHANGED",
+         [](TreeHost& host) {
+             host.raiseIn(TVN_SELCHANGEDW, "TVN_SELCHANGED");
+             host.press(VK_DOWN);
+         },
+         kAsAHandler},
+        {"TVN_SELCHANGED",
+         [](TreeHost& host) {
+             host.raiseIn(TVN_SELCHANGEDW, "TVN_SELCHANGED");
+             host.tree.SelectItem(host.second);
+         },
+         kAsAHandler},
+        {"TVN_ITEMEXPANDING",
+         [](TreeHost& host) {
+             host.raiseIn(TVN_ITEMEXPANDINGW, "TVN_ITEMEXPANDING");
+             host.tree.Expand(host.first, TVE_EXPAND);
+         },
+         kAsAHandler},
+        {"TVN_ITEMEXPANDED",
+         [](TreeHost& host) {
+             host.raiseIn(TVN_ITEMEXPANDEDW, "TVN_ITEMEXPANDED");
+             host.tree.Expand(host.first, TVE_EXPAND);
+         },
+         kAsAHandler},
+        {"TVN_BEGINLABELEDIT",
+         [](TreeHost& host) {
+             host.raiseIn(TVN_BEGINLABELEDITW, "TVN_BEGINLABELEDIT");
+             host.rename();
+         },
+         kAsAHandler},
     };
     return all;
 }
