@@ -1,7 +1,9 @@
 // Call-outs of the toolbar and its flyouts.
 #include "CallOutScene.h"
+#include "RaisingParent.h"
 
 #include <testkit/GuiThread.h>
+#include <testkit/Picture.h>
 
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/VantorToolBar.h>
@@ -153,11 +155,69 @@ private:
     CVantorToolBar bar;
 };
 
+/// A bar with a control that its owner draws and measures, or else the bar.
+class DrawnItemScene : public CallOutScene
+{
+public:
+    DrawnItemScene()
+    {
+        bar.CreateEx(&owner, TBSTYLE_FLAT, kChild | CBRS_TOP);
+        combo = ::CreateWindowExW(0, L"COMBOBOX", nullptr,
+                                  kChild | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 0, 0, 100,
+                                  120, bar, reinterpret_cast<HMENU>(kCombo), nullptr, nullptr);
+        ::SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"text"));
+    }
+    void provoke() override { draw(); }
+    void expectSound() override { EXPECT_LT(draw().count(kGround), kWidth * kHeight) << "by the bar"; }
+
+protected:
+    static constexpr UINT_PTR kCombo = 100;
+    static constexpr int kWidth = 80;
+    static constexpr int kHeight = 20;
+    static constexpr COLORREF kGround = RGB(1, 2, 3);
+
+    Picture draw()
+    {
+        Picture picture(kWidth, kHeight, kGround);
+        DRAWITEMSTRUCT item{};
+        item.CtlType = ODT_COMBOBOX;
+        item.CtlID = kCombo;
+        item.hwndItem = combo;
+        item.hDC = picture.dc();
+        item.rcItem = CRect(0, 0, kWidth, kHeight);
+        bar.SendMessage(WM_DRAWITEM, kCombo, reinterpret_cast<LPARAM>(&item));
+        return picture;
+    }
+
+    RaisingParent owner{{{WM_DRAWITEM, "WM_DRAWITEM"}, {WM_MEASUREITEM, "WM_MEASUREITEM"}}};
+    CVantorToolBar bar;
+    HWND combo = nullptr; ///< without an object, which would draw itself
+};
+
+class MeasuredItemScene : public DrawnItemScene
+{
+public:
+    void provoke() override { measure(); }
+    void expectSound() override { EXPECT_GT(measure(), 0u) << "by the bar"; }
+
+private:
+    UINT measure()
+    {
+        MEASUREITEMSTRUCT item{};
+        item.CtlType = ODT_COMBOBOX;
+        item.CtlID = kCombo;
+        bar.SendMessage(WM_MEASUREITEM, kCombo, reinterpret_cast<LPARAM>(&item));
+        return item.itemHeight;
+    }
+};
+
 const std::vector<CallOut> kBars{
     {"ControlCallback", &make<BarScene>, kAsAHandler},
     {"whenChosen", &make<FlyoutScene>, kAsAHandler},
     {"DrawNCGripper", &make<GripperScene>, kAsAHandler},
     {"ON_UPDATE_COMMAND_UI", &make<UpdateScene>, kAsAHandler},
+    {"WM_DRAWITEM", &make<DrawnItemScene>, kAsAHandler},
+    {"WM_MEASUREITEM", &make<MeasuredItemScene>, kAsAHandler},
 };
 
 } // namespace

@@ -8,7 +8,7 @@
 namespace
 {
 
-/// What a control tells by a message; none in messages of the system.
+/// What a control tells or asks by a message; none in other messages of the system.
 std::optional<UINT> told(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
@@ -18,6 +18,8 @@ std::optional<UINT> told(UINT message, WPARAM wParam, LPARAM lParam)
         return reinterpret_cast<const NMHDR*>(lParam)->code;
     case WM_HSCROLL:
     case WM_VSCROLL:
+    case WM_DRAWITEM:
+    case WM_MEASUREITEM:
         return message;
     default:
         return message >= WM_USER ? std::optional(message) : std::nullopt;
