@@ -421,7 +421,7 @@ const std::vector<TreeCallOut>& callOuts()
         {"doSelectItem", [](TreeHost& host) { host.tree.SelectItem(host.second); }, kToCaller},
         {"doSelectItem", [](TreeHost& host) { host.press(VK_DOWN); }, kAsAHandler},
         {"gesture", [](TreeHost& host) { host.command(kPaint); }, kAsAHandler},
-        {"gesture", [](TreeHost& host) { host.press(VK_RETURN); }, kAsAHandler},
+        {"gesture", [](TreeHost& host) { host.press(VK_RETURN); }, kReported},
         {"TVN_SELCHANGING",
          [](TreeHost& host) {
              host.raiseIn(TVN_SELCHANGINGW, "TVN_SELCHANGING");
