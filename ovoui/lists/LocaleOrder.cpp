@@ -1,6 +1,7 @@
 #include <ovoui/lists/LocaleOrder.h>
 
 #include <algorithm>
+#include <cwchar>
 
 namespace ovoui::lists
 {
@@ -8,19 +9,15 @@ namespace ovoui::lists
 namespace
 {
 
+/// The system takes no text of length 0: of an empty one it gets the terminator, which adds nothing to a key.
 int mapText(LPCWSTR text, char* room, int size)
 {
-    return ::LCMapStringW(LOCALE_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, text, -1,
+    const auto length = static_cast<int>(std::max<std::size_t>(1, std::wcslen(text)));
+    return ::LCMapStringW(LOCALE_USER_DEFAULT, LCMAP_SORTKEY | NORM_IGNORECASE, text, length,
                           reinterpret_cast<LPWSTR>(room), size);
 }
 
 } // namespace
-
-void LocaleOrder::reserve(std::size_t rows)
-{
-    constexpr std::size_t kUsualKey = 32; // bytes
-    m_keys.reserve(rows, rows * kUsualKey);
-}
 
 void LocaleOrder::add(LPCWSTR text)
 {

@@ -14,7 +14,7 @@ namespace ovoui::lists
 class LocaleOrder
 {
 public:
-    void reserve(std::size_t rows);
+    void reserve(std::size_t rows) { m_keys.reserve(rows); }
     void add(LPCWSTR text);
 
     /// The rows sorted by their texts. Rows with equal texts keep their order, descending too.

@@ -8,6 +8,7 @@ set(lists_core
   ${CMAKE_CURRENT_LIST_DIR}/core/EntryColours.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/FindRules.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/HitRules.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/core/KeyHeads.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/NumberText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/RowLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/core/ShortText.cpp
