@@ -1,11 +1,10 @@
-/// Not exported: the children of items that get many, in the order in which the tree shows them. Kept only
-/// for hosts that promise to keep sorted children in order; see MultiTreeCtrl::setSortedInsertion.
+/// Not exported: the children of items that get many, in the order in which the tree shows them, and their
+/// nodes. Kept only for hosts that promise to keep sorted children in order; see
+/// MultiTreeCtrl::setSortedInsertion.
 #pragma once
 
+#include <ovoui/tree/MultiTreeCtrl.h>
 #include <ovoui/tree/core/BlockList.h>
-
-#include <windows.h>
-#include <commctrl.h>
 
 #include <optional>
 #include <unordered_map>
@@ -13,10 +12,19 @@
 namespace ovoui::tree
 {
 
-using Children = BlockList<HTREEITEM>;
+/// One of the children of an item.
+struct Child
+{
+    HTREEITEM item;
+    /// What the tree view has answered when it was first asked; null before, and for an item without a node.
+    /// The tree's own reference to the node keeps it alive.
+    mutable MultiTreeCtrl::Node* node = nullptr;
+};
+
+using Children = BlockList<Child>;
 
 /// What is remembered of the children of some items, from one insertion to the next. It is forgotten when
-/// their order or number changes in another way.
+/// their order, number or nodes change in another way.
 class ChildOrders
 {
 public:

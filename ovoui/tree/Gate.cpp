@@ -79,7 +79,7 @@ void MultiTreeCtrl::NativeCall::begin()
 {
     if (m_message.id == WM_SETREDRAW)
         m_state.redraws = m_message.wParam != FALSE;
-    if (m_message.change == Change::Order)
+    if (m_message.change == Change::Order || m_message.setsData())
         ++m_state.structure;
     for (Concern* concern : m_state.listeners)
         concern->begins(m_message);
@@ -88,7 +88,7 @@ void MultiTreeCtrl::NativeCall::begin()
 void MultiTreeCtrl::NativeCall::finish(LRESULT result)
 {
     m_finished = true;
-    if (m_message.change == Change::Insert && result)
+    if ((m_message.change == Change::Insert && result) || m_message.setsData())
         ++m_state.structure;
     for (Concern* concern : m_state.listeners)
         concern->ends(m_message, result);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+using ovoui::tree::Child;
 using ovoui::tree::Children;
 using ovoui::tree::sortStably;
 
@@ -74,15 +75,15 @@ HTREEITEM MultiTreeCtrl::Inserter::insertHalving(Node& node, bool& unused)
     const HTREEITEM parent = m_parent.item();
     const unsigned structure = m_state->structure;
     const auto unchanged = [&](unsigned since) { return m_state->usable() && m_state->structure == since; };
-    const auto compare = [&](HTREEITEM child) {
-        const OVO::Handle<Node> other = unchanged(structure) ? m_state->view.node(child) : nullptr;
+    const auto compare = [&](const Child& child) {
+        const OVO::Handle<Node> other = unchanged(structure) ? m_state->insertion->nodeOf(child) : nullptr;
         return other ? m_where.compareChildren(m_tree, *other, node) : -1;
     };
 
     Children children = m_state->insertion->takeChildren(parent);
     const Children::Place place =
-        children.partitionPoint([&](HTREEITEM child) { return compare(child) < 0; });
-    const HTREEITEM* const behind = children.after(place);
+        children.partitionPoint([&](const Child& child) { return compare(child) < 0; });
+    const Child* const behind = children.after(place);
     unused = behind && compare(*behind) == 0;
     // A comparison has changed the tree: what was found is of no use.
     if (!unchanged(structure))
@@ -90,13 +91,13 @@ HTREEITEM MultiTreeCtrl::Inserter::insertHalving(Node& node, bool& unused)
 
     HTREEITEM item = nullptr;
     if (unused) {
-        item = *behind;
+        item = behind->item;
     } else {
-        const HTREEITEM* const before = children.before(place);
-        item = node.insert(m_tree, parent, !behind ? TVI_LAST : before ? *before : TVI_FIRST);
+        const Child* const before = children.before(place);
+        item = node.insert(m_tree, parent, !behind ? TVI_LAST : before ? before->item : TVI_FIRST);
         if (!item || !unchanged(structure + 1)) // the node was asked for its text meanwhile
             return item;
-        children.insert(place, item);
+        children.insert(place, Child{item, &node});
     }
     m_state->insertion->remember(parent, std::move(children));
     return item;

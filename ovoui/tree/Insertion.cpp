@@ -8,7 +8,9 @@
 using ovoui::frame::keeping;
 using ovoui::tree::BorrowedNode;
 using ovoui::tree::Change;
+using ovoui::tree::Child;
 using ovoui::tree::Children;
+using ovoui::tree::ToBeDeleted;
 
 namespace
 {
@@ -91,6 +93,13 @@ HTREEITEM MultiTreeCtrl::Insertion::select(HTREEITEM item, bool& first)
 
 // What is remembered
 
+/// Otherwise than by inserting one.
+bool MultiTreeCtrl::Insertion::changesChildren(const Message& message)
+{
+    return message.change == Change::Order || message.setsData() ||
+           message.toBeDeleted() != ToBeDeleted::Nothing;
+}
+
 void MultiTreeCtrl::Insertion::setHalves(bool halves)
 {
     m_halves = halves;
@@ -103,13 +112,20 @@ Children MultiTreeCtrl::Insertion::takeChildren(HTREEITEM parent)
         return std::move(*known);
     Children children;
     for (HTREEITEM child = view().firstChild(parent); child; child = view().nextSibling(child))
-        children.push_back(child);
+        children.push_back(Child{child, nullptr});
     return children;
 }
 
 void MultiTreeCtrl::Insertion::remember(HTREEITEM parent, Children children)
 {
     m_children.remember(parent, std::move(children));
+}
+
+OVO::Handle<MultiTreeCtrl::Node> MultiTreeCtrl::Insertion::nodeOf(const Child& child) const
+{
+    if (!child.node)
+        child.node = view().node(child.item).get();
+    return OVO::Handle<Node>(child.node);
 }
 
 void MultiTreeCtrl::Insertion::itemGoes(HTREEITEM)
@@ -122,14 +138,23 @@ void MultiTreeCtrl::Insertion::allGo()
     m_children.forgetAll();
 }
 
+/// What is remembered is of the tree view before.
+void MultiTreeCtrl::Insertion::windowMade()
+{
+    m_children.forgetAll();
+}
+
 void MultiTreeCtrl::Insertion::begins(const Message& message)
 {
-    if (message.change == Change::Order)
+    if (changesChildren(message))
         m_children.forgetAll();
 }
 
+/// Once more: who was told on the way may have inserted.
 void MultiTreeCtrl::Insertion::ends(const Message& message, LRESULT result)
 {
+    if (changesChildren(message))
+        m_children.forgetAll();
     if (message.change != Change::Insert || !result)
         return;
     const HTREEITEM parent = message.insertion().hParent;

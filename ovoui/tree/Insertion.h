@@ -27,9 +27,12 @@ public:
     /// be given back by remember() when they are still right.
     ovoui::tree::Children takeChildren(HTREEITEM parent);
     void remember(HTREEITEM parent, ovoui::tree::Children children);
+    /// The node of a child. To be asked as long as nothing has changed (State::structure).
+    OVO::Handle<Node> nodeOf(const ovoui::tree::Child& child) const;
 
     void itemGoes(HTREEITEM item) override;
     void allGo() override;
+    void windowMade() override;
     void begins(const Message& message) override;
     void ends(const Message& message, LRESULT result) override;
     void fails() override;
@@ -37,6 +40,7 @@ public:
 private:
     HTREEITEM send(const TVINSERTSTRUCT& insert, const Node& node);
     void takeBack(HTREEITEM item) const;
+    static bool changesChildren(const Message& message);
 
     bool m_halves = false;
     ovoui::tree::ChildOrders m_children;

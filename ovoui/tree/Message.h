@@ -46,6 +46,11 @@ struct MultiTreeCtrl::Message
     /// Of TVM_INSERTITEM.
     const TVINSERTSTRUCT& insertion() const { return *reinterpret_cast<const TVINSERTSTRUCT*>(lParam); }
 
+    /// Puts something else behind an item, which a node may have been behind.
+    bool setsData() const
+    {
+        return change == ovoui::tree::Change::State && lParam && (changes().mask & TVIF_PARAM);
+    }
     /// Closes an item and deletes what is in it.
     bool empties() const { return id == TVM_EXPAND && (wParam & TVE_COLLAPSERESET) && lParam; }
 

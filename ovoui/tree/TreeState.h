@@ -79,7 +79,7 @@ struct MultiTreeCtrl::State : ovoui::frame::SharedState<MultiTreeCtrl>
 
     unsigned extras = 0; ///< what the host has asked for
 
-    unsigned structure = 0; ///< grows with every item that comes, goes or changes its place
+    unsigned structure = 0; ///< grows with every item that comes, goes, changes its place or its node
 };
 
 template <>

@@ -97,6 +97,121 @@ TEST(TreeChanges, ANodeThatDeletesItselfInItsTextDoesNoHarm)
     }
 }
 
+// What is remembered of children that the host keeps in order
+
+namespace
+{
+
+/// Fifty children in order. Every one that a node is compared with must be shown.
+class OrderedScene : public Scene
+{
+public:
+    OrderedScene()
+    {
+        tree.setSortedInsertion(MultiTreeCtrl::SortedInsertion::Halve);
+        m_place.comparing = [this](MultiTreeCtrl&, const MultiTreeCtrl::Node& a,
+                                   const MultiTreeCtrl::Node& b) { return compare(a, b); };
+        for (int number = 1000; number < 1050; ++number)
+            insert(new TestNode(std::to_string(number)));
+    }
+
+    HTREEITEM insert(TestNode* node) { return tree.insert(node, m_place, 0); }
+
+    std::function<void()> meanwhile; ///< happens in the next comparison
+
+private:
+    int compare(const MultiTreeCtrl::Node& a, const MultiTreeCtrl::Node& b)
+    {
+        if (!shows(a)) {
+            ADD_FAILURE() << "compared with a node that is behind no item";
+            return -1;
+        }
+        if (const auto happens = std::exchange(meanwhile, nullptr))
+            happens();
+        return static_cast<const TestNode&>(a).name.compare(static_cast<const TestNode&>(b).name);
+    }
+
+    bool shows(const MultiTreeCtrl::Node& node) const
+    {
+        HTREEITEM item = tree.GetRootItem();
+        while (item && tree.GetItemData(item) != reinterpret_cast<DWORD_PTR>(&node))
+            item = tree.GetNextSiblingItem(item);
+        return item != nullptr;
+    }
+
+    TestPlace m_place;
+};
+
+/// As a host does that keeps the references itself.
+void putAnotherNodeBehind(OrderedScene& scene, const std::string& name)
+{
+    MultiTreeCtrl::Node& before = scene.node(name);
+    MultiTreeCtrl::Node* const now = new TestNode(name);
+    now->addRef();
+    scene.tree.SetItemData(scene.item(name), reinterpret_cast<DWORD_PTR>(now));
+    before.release();
+}
+
+struct ChangeOfChildren
+{
+    const char* what;
+    std::function<void(OrderedScene&)> happens;
+};
+
+const ChangeOfChildren kChangesOfChildren[] = {
+    {"another node behind an item", [](OrderedScene& scene) { putAnotherNodeBehind(scene, "1025"); }},
+    {"an item deleted", [](OrderedScene& scene) { scene.tree.DeleteItem(scene.item("1025")); }},
+    {"an item in place of another",
+     [](OrderedScene& scene) {
+         scene.tree.DeleteItem(scene.item("1025"));
+         (new TestNode("1025"))->insert(scene.tree, TVI_ROOT, scene.item("1024"));
+     }},
+    {"an item more",
+     [](OrderedScene& scene) { (new TestNode("10255"))->insert(scene.tree, TVI_ROOT, scene.item("1025")); }},
+    {"all items deleted", [](OrderedScene& scene) { scene.tree.DeleteAllItems(); }},
+    {"sorted", [](OrderedScene& scene) { scene.tree.SortChildren(TVI_ROOT); }},
+};
+
+enum class When
+{
+    Before,
+    InAComparison,
+    InTheText
+};
+
+} // namespace
+
+TEST(TreeChanges, SortedChildrenAreFoundAfterEveryChangeOfThem)
+{
+    for (const ChangeOfChildren& change : kChangesOfChildren)
+        for (const When when : {When::Before, When::InAComparison, When::InTheText}) {
+            SCOPED_TRACE(std::string(change.what) + ", when " + std::to_string(static_cast<int>(when)));
+            {
+                OrderedScene scene;
+                const auto happens = [&] { change.happens(scene); };
+                auto* const node = new TestNode("10405");
+                if (when == When::Before)
+                    happens();
+                else if (when == When::InAComparison)
+                    scene.meanwhile = happens;
+                else
+                    node->texting = [&, done = false]() mutable {
+                        if (!std::exchange(done, true))
+                            happens();
+                        return std::wstring(L"10405");
+                    };
+                EXPECT_NE(scene.insert(node), nullptr);
+                for (const char* const name : {"10245", "10005", "10495", "1024", "1026"})
+                    scene.insert(new TestNode(name));
+                const Names names = scene.childrenOf("");
+                EXPECT_TRUE(std::is_sorted(names.begin(), names.end())) << testing::PrintToString(names);
+                for (const char* const name : {"10405", "10245", "10005", "10495", "1024", "1026"})
+                    EXPECT_EQ(std::count(names.begin(), names.end(), name), 1) << name;
+            }
+            EXPECT_EQ(TestNode::live(), 0);
+        }
+}
+
 // An exception that a window keeps
 
 TEST(TreeChanges, AnExceptionOfAnotherWindowLeavesTheTreeInOrder)

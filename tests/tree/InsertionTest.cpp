@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <random>
 
+using ovo::testkit::RecordingParent;
+
 namespace
 {
 
@@ -20,6 +22,21 @@ Names sortedNumbers(int count)
     for (int i = 0; i < count; ++i)
         names.push_back(std::to_string(1000 + i));
     return names;
+}
+
+HWND plainTreeView(CWnd& parent)
+{
+    return ::CreateWindowExW(0, WC_TREEVIEWW, L"", Scene::kStyle, 0, 0, 200, 200, parent.m_hWnd,
+                             reinterpret_cast<HMENU>(1), nullptr, nullptr);
+}
+
+/// Between the tree and the tree view's own procedure.
+LRESULT CALLBACK countingQuestions(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                   DWORD_PTR count)
+{
+    if (message == TVM_GETITEMW)
+        ++*reinterpret_cast<int*>(count);
+    return ::DefSubclassProc(window, message, wParam, lParam);
 }
 
 } // namespace
@@ -242,6 +259,47 @@ TEST(TreeInsertion, AHostThatKeepsItsChildrenInOrderGetsFewComparisons)
         ASSERT_NE(scene.tree.insert(fresh(name), root, 0), nullptr);
     EXPECT_EQ(scene.childrenOf(""), names);
     EXPECT_LT(root.comparisons, 700 * 60);
+}
+
+TEST(TreeInsertion, ChildrenThatAreRememberedAreNotAskedForTheirNodesAgain)
+{
+    RecordingParent parent;
+    const HWND plain = plainTreeView(parent);
+    int asked = 0;
+    ASSERT_TRUE(::SetWindowSubclass(plain, &countingQuestions, 1, reinterpret_cast<DWORD_PTR>(&asked)));
+    TestTree tree;
+    tree.setSortedInsertion(MultiTreeCtrl::SortedInsertion::Halve);
+    ASSERT_TRUE(tree.SubclassWindow(plain));
+    TestPlace root;
+    const Names names = sortedNumbers(200);
+    for (const std::string& name : names)
+        (new TestNode(name))->insert(tree, TVI_ROOT, TVI_LAST);
+    asked = 0;
+    for (const std::string& name : names)
+        ASSERT_NE(tree.insert(fresh(name + "+"), root, 0), nullptr);
+    EXPECT_GT(root.comparisons, 200 * 5);
+    EXPECT_LE(asked, 200);
+    tree.DestroyWindow();
+}
+
+TEST(TreeInsertion, NothingIsRememberedOfTheTreeViewBefore)
+{
+    RecordingParent parent;
+    const HWND one = plainTreeView(parent);
+    TestTree tree;
+    tree.setSortedInsertion(MultiTreeCtrl::SortedInsertion::Halve);
+    ASSERT_TRUE(tree.SubclassWindow(one));
+    TestPlace root;
+    tree.insert(fresh("b"), root, 0);
+    tree.UnsubclassWindow();
+    ASSERT_TRUE(tree.SubclassWindow(plainTreeView(parent)));
+    EXPECT_NE(tree.insert(fresh("a"), root, 0), nullptr);
+    EXPECT_EQ(root.comparisons, 0) << "with a child of the other tree view";
+    tree.DeleteAllItems();
+    tree.UnsubclassWindow();
+    ASSERT_TRUE(tree.SubclassWindow(one));
+    tree.DestroyWindow();
+    EXPECT_EQ(TestNode::live(), 0);
 }
 
 TEST(TreeInsertion, ATextThatChangedMeanwhileIsFoundOutAbout)
