@@ -59,8 +59,11 @@ function(ovo_library name)
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:include>)
 endfunction()
 
-# The compiler's runtime travels with the programs: exceptions cross the DLLs, so it is always shared.
+# The compiler's runtime travels with the programs: exceptions cross the DLLs, so it is always shared. Debugging information is nine
+# tenths of it and most of the time that it takes to load, so only tests, whose call stacks may end there, have it. --preserve-dates: two
+# builds give the same file.
 if(WIN32)
+  file(MAKE_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY} ${PROJECT_BINARY_DIR}/runtime)
   foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
     execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
                     OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
@@ -70,8 +73,12 @@ if(WIN32)
       set(path "${path_${dll}}")
     endif()
     file(REAL_PATH "${path}" path)
-    file(MAKE_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
-    file(COPY_FILE "${path}" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${dll}" ONLY_IF_DIFFERENT)
-    list(APPEND OVO_RUNTIME_DLLS "${path}")
+    set(runtime "${PROJECT_BINARY_DIR}/runtime/${dll}")
+    file(COPY_FILE "${path}" "${runtime}")
+    if(CMAKE_STRIP AND NOT OVO_TESTS)
+      execute_process(COMMAND ${CMAKE_STRIP} --preserve-dates "${runtime}" COMMAND_ERROR_IS_FATAL ANY)
+    endif()
+    file(COPY_FILE "${runtime}" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${dll}" ONLY_IF_DIFFERENT)
+    list(APPEND OVO_RUNTIME_DLLS "${runtime}")
   endforeach()
 endif()
