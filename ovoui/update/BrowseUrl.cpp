@@ -1,6 +1,8 @@
 #include <ovoui/update/BrowseUrl.h>
 
+#include <ovoui/frame/EntryPoint.h>
 #include <ovoui/update/Refusal.h>
+#include <ovoui/update/WinInetModule.h>
 #include <ovoui/update/core/AddressRules.h>
 
 #include <ovocor/IntCast.h>
@@ -14,6 +16,7 @@
 #include <limits>
 
 using ovoui::update::refuse;
+using ovoui::update::winInet;
 
 namespace
 {
@@ -21,16 +24,18 @@ namespace
 /// What one of WinINet's errors means.
 std::wstring reasonOf(DWORD error)
 {
-    return formatMessage(error, ::GetModuleHandleW(L"wininet.dll"));
+    return formatMessage(error, winInet());
 }
 
 INTERNET_SCHEME schemeOf(const std::wstring& canonical, const std::wstring& address)
 {
     if (canonical.size() > std::numeric_limits<DWORD>::max())
         throwIntCast();
+    const auto crack =
+        ovoui::frame::entryPoint<decltype(&::InternetCrackUrlW)>(winInet(), "InternetCrackUrlW");
     URL_COMPONENTSW parts{};
     parts.dwStructSize = sizeof parts;
-    if (!::InternetCrackUrlW(canonical.c_str(), static_cast<DWORD>(canonical.size()), 0, &parts))
+    if (!crack || !crack(canonical.c_str(), static_cast<DWORD>(canonical.size()), 0, &parts))
         refuse(OVOMSG_URL_INVALID, address, reasonOf(::GetLastError()));
     return parts.nScheme;
 }

@@ -1,5 +1,8 @@
 #include <ovoui/update/CachedCopy.h>
 
+#include <ovoui/frame/EntryPoint.h>
+#include <ovoui/update/WinInetModule.h>
+
 #include <ovocor/Url.h>
 
 #include <windows.h>
@@ -10,7 +13,10 @@ namespace ovoui::update
 
 CachedCopy::Entry::~Entry()
 {
-    ::DeleteUrlCacheEntryW(address.c_str());
+    const auto remove =
+        frame::entryPoint<decltype(&::DeleteUrlCacheEntryW)>(winInet(), "DeleteUrlCacheEntryW");
+    if (remove)
+        remove(address.c_str());
 }
 
 CachedCopy::CachedCopy(const std::wstring& address, DownloadControl& control)

@@ -28,8 +28,9 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/UpdateList.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UpdateMemory.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UpdateOffer.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/UpdateText.cpp)
-target_link_libraries(ovoui PRIVATE bcrypt wininet shell32)
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/WinInetModule.cpp)
+target_link_libraries(ovoui PRIVATE bcrypt shell32)
 
 # The examination of lists for those who publish one.
 add_executable(ovo-update-lint ${CMAKE_CURRENT_LIST_DIR}/lint/Main.cpp ${update_core})

@@ -14,6 +14,7 @@
 #include <shellapi.h>
 #include <wininet.h>
 
+#include <string_view>
 #include <vector>
 
 using ovo::testkit::ImportPatch;
@@ -182,11 +183,18 @@ BOOL WINAPI crackNothing(LPCWSTR, DWORD, DWORD, LPURL_COMPONENTSW parts)
     return FALSE;
 }
 
+FARPROC WINAPI crackingNothing(HMODULE module, LPCSTR name)
+{
+    if (std::string_view(name) == "InternetCrackUrlW")
+        return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(&crackNothing));
+    return ::GetProcAddress(module, name);
+}
+
 } // namespace
 
 TEST_F(BrowseUrl, AnAddressThatCannotBeSplitIsReportedWithTheReason)
 {
-    const ImportPatch cracking(L"ovoui.dll", "InternetCrackUrlW", reinterpret_cast<void*>(&crackNothing));
+    const ImportPatch cracking(L"ovoui.dll", "GetProcAddress", reinterpret_cast<void*>(&crackingNothing));
     EXPECT_EQ(refusal(L"http://example.org/a b"),
               message(OVOMSG_URL_INVALID, L"http://example.org/a b",
                       formatMessage(ERROR_INTERNET_UNRECOGNIZED_SCHEME, ::GetModuleHandleW(L"wininet.dll"))));
