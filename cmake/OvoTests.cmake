@@ -8,6 +8,8 @@
 #       N dots per inch instead of 96, or with the system's colours and fonts of a scheme in cmake/schemes.
 #   ovo_native_test(NAME SOURCES a.cpp ... LIBS target ...)
 #       A GoogleTest program for this machine under AddressSanitizer and UndefinedBehaviorSanitizer.
+#   ovo_long_native_tests(a.cpp ...)
+#       Sources of native tests in this folder that take longer to run than to compile: they are optimised.
 #   ovo_file_test(NAME INPUTS path ... COMMAND words ... [TIMEOUT SECONDS])
 #       A test of files and folders. It is run again when one of them, the command or the compiler has changed since it
 #       passed, or where OVO_ALL_TESTS is in the environment.
@@ -37,6 +39,10 @@ function(_ovo_set_cost name)
       set_tests_properties(${name} PROPERTIES COST ${CMAKE_MATCH_2})
     endif()
   endforeach()
+endfunction()
+
+function(ovo_long_native_tests)
+  set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -O1 SKIP_PRECOMPILE_HEADERS ON)
 endfunction()
 
 # Registers one run of a test program with CTest; the counts are read from its XML afterwards.

@@ -2,8 +2,7 @@
 
 #include <ovoui/frame/EntryPoint.h>
 #include <ovoui/frame/ScreenDc.h>
-
-#include <commctrl.h>
+#include <ovoui/images/WatchedWindow.h>
 
 #include <utility>
 
@@ -21,30 +20,19 @@ int resolutionOf(HWND window)
 
 std::shared_ptr<ResolutionWatch> ResolutionWatch::begin(HWND window, Heard heard)
 {
-    const auto watch = std::make_shared<ResolutionWatch>();
-    const auto self = reinterpret_cast<DWORD_PTR>(watch.get());
-    if (!::SetWindowSubclass(window, &procedure, self, self))
+    const std::shared_ptr<WatchedWindow> watched = WatchedWindow::of(window);
+    if (!watched)
         return nullptr;
+    const auto watch = std::make_shared<ResolutionWatch>();
     watch->m_heard = std::move(heard);
-    watch->m_keepsItself = watch;
+    watched->add(watch);
     return watch;
 }
 
-LRESULT CALLBACK ResolutionWatch::procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                            UINT_PTR id, DWORD_PTR self)
+void ResolutionWatch::tell(int dotsPerInch) const
 {
-    const auto watch = reinterpret_cast<ResolutionWatch*>(self)->shared_from_this();
-    if (message == WM_NCDESTROY) {
-        ::RemoveWindowSubclass(window, &procedure, id);
-        watch->stop();
-        watch->m_keepsItself.reset();
-    } else if (message == WM_DPICHANGED || message == WM_SYSCOLORCHANGE) {
-        if (const Heard heard = watch->m_heard)
-            heard(message == WM_DPICHANGED ? LOWORD(wParam) : 0);
-        if (!::IsWindow(window))
-            return 0;
-    }
-    return ::DefSubclassProc(window, message, wParam, lParam);
+    if (const Heard heard = m_heard) // which may stop this watch
+        heard(dotsPerInch);
 }
 
 } // namespace ovoui::images

@@ -29,4 +29,5 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ImageStrips.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ResolutionWatch.cpp
   ${CMAKE_CURRENT_LIST_DIR}/StripPainter.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/StripReader.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/StripReader.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/WatchedWindow.cpp)

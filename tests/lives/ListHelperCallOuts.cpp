@@ -4,12 +4,10 @@
 
 #include <support/HeldCtrl.h>
 #include <testkit/Clipboard.h>
-#include <testkit/TemporaryProfile.h>
 
 #include <ovoui/lists/ListCellTips.h>
 #include <ovoui/lists/ListCopier.h>
 #include <ovoui/lists/ListFinder.h>
-#include <ovoui/lists/ListLayout.h>
 #include <ovoui/lists/ListSorter.h>
 
 using namespace ovo::testkit;
@@ -185,22 +183,6 @@ private:
     CPoint cell;
 };
 
-/// Changes the headings.
-class LayoutScene : public ListCallOutScene
-{
-public:
-    LayoutScene() { AfxGetApp()->WriteProfileString(L"Lists", L"test", L"+Text/Text=80/Name=70"); }
-    void provoke() override { restoreColumnLayout(list, L"Lists", L"test", nullptr); }
-    void expectSound() override
-    {
-        provoke();
-        EXPECT_EQ(list.GetColumnWidth(1), 80);
-    }
-
-private:
-    TemporaryProfile profile;
-};
-
 const std::vector<CallOut> kHelpers{
     {"Compare", &make<CompareScene>, kToCaller},
     {"LVN_GETDISPINFO", &make<SortScene>, kAsAHandler},
@@ -219,7 +201,6 @@ const std::vector<CallOut> kHelpers{
     {"LVN_GETDISPINFO", &make<CopyKeyScene>, kAsAHandler},
     {"LVN_KEYDOWN", &make<CopyKeyScene>, kAsAHandler},
     {"LVN_GETDISPINFO", &make<TipScene>, kAsAHandler},
-    {"heading", &make<LayoutScene>, kAsAHandler},
 };
 
 } // namespace

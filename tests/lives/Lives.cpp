@@ -184,6 +184,16 @@ void liveImages(CWnd& parent)
     button.DestroyWindow();
 }
 
+/// They go, the window that they follow stays.
+void liveStrips(CWnd& parent)
+{
+    CImageStrips strips({{IDB_TOOLBAR_16, 16}}, 16);
+    strips.Load(parent);
+    strips.UseDisabledImages(true);
+    strips.Follow(parent, nullptr);
+    parent.SendMessage(WM_SYSCOLORCHANGE);
+}
+
 void livePicker(CWnd& parent)
 {
     ColPickerDlg dialog(*AfxGetApp(), ColPickerModeHLS, Colour::rgba(0.2, 0.4, 0.6, 0.5), nullptr, &parent);
@@ -199,16 +209,33 @@ INT_PTR CALLBACK doNothing(HWND, UINT, WPARAM, LPARAM)
     return FALSE;
 }
 
-/// A template as the system alone shows it.
+/// A template as the system alone shows it, and `use` of it.
 template <int id>
-void livePlainDialog(CWnd& parent)
+void usePlainDialog(CWnd& parent, const std::function<void(HWND)>& use)
 {
     const LPCWSTR name = MAKEINTRESOURCEW(id);
     const HWND dialog =
         ::CreateDialogParamW(AfxFindResourceHandle(name, RT_DIALOG), name, parent, &doNothing, 0);
+    if (use)
+        use(dialog);
     ::ShowWindow(dialog, SW_SHOW);
     ::UpdateWindow(dialog);
     ::DestroyWindow(dialog);
+}
+
+template <int id>
+void livePlainDialog(CWnd& parent)
+{
+    usePlainDialog<id>(parent, nullptr);
+}
+
+/// Wine keeps the tab stops of an edit.
+void livePlainSystemInfo(CWnd& parent)
+{
+    usePlainDialog<IDD_SYSTEM_INFO>(parent, [](HWND dialog) {
+        const int stop = 92;
+        ::SendDlgItemMessageW(dialog, IDC_SYSTEM_INFO_TEXT, EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&stop));
+    });
 }
 
 void liveProgress(CWnd& parent)
@@ -317,9 +344,9 @@ void PrintTo(const Life& life, std::ostream* out)
 const std::vector<Life>& lives()
 {
     static const std::vector<Life> all{
-        Life{"Tree", 2, liveTree},
-        Life{"List", 5, liveList},
-        Life{"Combo", 5, liveCombo},
+        Life{"Tree", 1, liveTree},
+        Life{"List", 1, liveList},
+        Life{"Combo", 1, liveCombo},
         Life{"ToolBar", 1, liveToolBar},
         Life{"RoundSlider", 1,
              [](CWnd& parent) {
@@ -336,25 +363,26 @@ const std::vector<Life>& lives()
                  CDialSlider slider;
                  turn(slider, parent);
              }},
-        Life{"SliderButton", 5, liveSliderButton},
-        Life{"Colours", 5, liveColours},
-        Life{"ShadedTabs", 2, liveTabs},
-        Life{"Images", 2, liveImages},
-        Life{"Picker", 20, livePicker, livePlainDialog<IDD_COLOUR_PICKER>},
-        Life{"Palette", 100, livePalette, livePlainDialog<IDD_COLOUR_PALETTE>},
-        Life{"ToolWindow", 40, liveToolWindow, livePlainDialog<IDD_FRAME_PALETTE>},
-        Life{"ModuleList", 100, liveDialog<CModuleListDlg>},
-        Life{"SystemInfo", 100, liveDialog<CSystemInfoDlg>},
-        Life{"ProgressBox", 20, liveProgress},
-        Life{"MessageBox", 20, liveMessageBox}};
+        Life{"SliderButton", 1, liveSliderButton},
+        Life{"Colours", 1, liveColours},
+        Life{"ShadedTabs", 1, liveTabs},
+        Life{"Images", 1, liveImages},
+        Life{"ImageStrips", 1, liveStrips},
+        Life{"Picker", 1, livePicker, livePlainDialog<IDD_COLOUR_PICKER>},
+        Life{"Palette", 5, livePalette, livePlainDialog<IDD_COLOUR_PALETTE>},
+        Life{"ToolWindow", 1, liveToolWindow, livePlainDialog<IDD_FRAME_PALETTE>},
+        Life{"ModuleList", 5, liveDialog<CModuleListDlg>, livePlainDialog<IDD_MODULE_LIST>},
+        Life{"SystemInfo", 5, liveDialog<CSystemInfoDlg>, livePlainSystemInfo},
+        Life{"ProgressBox", 1, liveProgress},
+        Life{"MessageBox", 1, liveMessageBox}};
     return all;
 }
 
 const std::vector<Life>& livesOfFileDialogs()
 {
     static const std::vector<Life> all{
-        Life{"FileDialog", 100, liveFileDialog<true>, livePlainFileDialog<true>},
-        Life{"ClassicFileDialog", 100, liveFileDialog<false>, livePlainFileDialog<false>},
-        Life{"FolderDialog", 100, liveFolderDialog, livePlainFolderDialog}};
+        Life{"FileDialog", 20, liveFileDialog<true>, livePlainFileDialog<true>},
+        Life{"ClassicFileDialog", 20, liveFileDialog<false>, livePlainFileDialog<false>},
+        Life{"FolderDialog", 20, liveFolderDialog, livePlainFolderDialog}};
     return all;
 }
