@@ -37,8 +37,6 @@ ListHost::ListHost()
                      {static_cast<UINT>(LVN_COLUMNCLICK), "LVN_COLUMNCLICK"},
                      {static_cast<UINT>(LVN_ODFINDITEMW), "LVN_ODFINDITEM"},
                      {static_cast<UINT>(LVN_KEYDOWN), "LVN_KEYDOWN"},
-                     {static_cast<UINT>(HDN_ITEMCHANGINGW), "heading"},
-                     {static_cast<UINT>(HDN_ITEMCHANGEDW), "heading"},
                      {static_cast<UINT>(HDN_DIVIDERDBLCLICKW), "HDN_DIVIDERDBLCLICK"}})
 {
 }

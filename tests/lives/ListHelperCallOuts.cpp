@@ -190,7 +190,6 @@ const std::vector<CallOut> kHelpers{
     {"LVN_ITEMCHANGED", &make<SameDataScene>, kAsAHandler},
     {"LVN_GETDISPINFO", &make<HeadingScene>, kAsAHandler},
     {"LVN_COLUMNCLICK", &make<HeadingScene>, kAsAHandler},
-    {"heading", &make<HeadingScene>, kAsAHandler},
     {"LVN_GETDISPINFO", &make<TypingScene>, kAsAHandler},
     {"LVN_ITEMCHANGING", &make<TypingScene>, kAsAHandler},
     {"LVN_ITEMCHANGED", &make<TypingScene>, kAsAHandler},
