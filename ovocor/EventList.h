@@ -12,6 +12,7 @@
 #include <ovocor/Handle.h>
 #include <ovocor/export.h>
 
+#include <exception>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -82,7 +83,7 @@ template <class T>
 class EVSubscriptionList : public OVO::Handlable
 {
 public:
-    /// What a subscriber is; an exception out of it reaches the caller of `notify`.
+    /// What a subscriber is; the first exception of a notification reaches the caller of `notify`.
     using Function = std::function<void(const T&)>;
 
     /// A new list without subscribers; it lives while a handle refers to it.
@@ -102,16 +103,24 @@ public:
         return EVSubscription(m_slots.back());
     }
 
-    /// Calls every subscriber with `event`. An exception out of one ends the notification and reaches the
-    /// caller; the subscriptions stay.
+    /// Calls every subscriber with `event`, also when one raises an exception. The first exception reaches
+    /// the caller when all have been called, others are lost; the subscriptions stay.
     void notify(const T& event)
     {
         const OVO::Handle<EVSubscriptionList> alive(this);
         forgetCancelled();
         // A copy, since subscribers may change the list.
         const std::vector<std::shared_ptr<Slot>> slots = m_slots;
+        std::exception_ptr raised;
         for (const std::shared_ptr<Slot>& slot : slots)
-            slot->call(event);
+            try {
+                slot->call(event);
+            } catch (...) {
+                if (!raised)
+                    raised = std::current_exception();
+            }
+        if (raised)
+            std::rethrow_exception(raised);
     }
 
 protected:

@@ -204,7 +204,7 @@ TEST_F(EventList, MayGoBeforeItsSubscriptions)
     a.unsubscribe();
 }
 
-TEST_F(EventList, PassesOnTheExceptionOfASubscriberAndStaysUsable)
+TEST_F(EventList, PassesOnTheExceptionOfASubscriberWhenAllHaveBeenCalled)
 {
     bool throwing = true;
     const EVSubscription a = list->subscribe([&](const int&) {
@@ -213,10 +213,37 @@ TEST_F(EventList, PassesOnTheExceptionOfASubscriberAndStaysUsable)
     });
     const EVSubscription b = recorder("b");
     EXPECT_THROW(list->notify(1), std::runtime_error);
-    EXPECT_TRUE(calls.empty());
+    EXPECT_EQ(calls, (Calls{"b 1"}));
     throwing = false;
     list->notify(2);
-    EXPECT_EQ(calls, (Calls{"b 2"}));
+    EXPECT_EQ(calls, (Calls{"b 1", "b 2"}));
+}
+
+TEST_F(EventList, PassesOnTheFirstOfSeveralExceptions)
+{
+    const EVSubscription a = list->subscribe([](const int&) { throw 1; });
+    const EVSubscription b = list->subscribe([](const int&) { throw 2; });
+    const EVSubscription c = recorder("c");
+    int raised = 0;
+    try {
+        list->notify(1);
+    } catch (int number) {
+        raised = number;
+    }
+    EXPECT_EQ(raised, 1);
+    EXPECT_EQ(calls, (Calls{"c 1"}));
+}
+
+TEST_F(EventList, FinishesANotificationInWhichItsLastHandleGoesWithAnException)
+{
+    const EVSubscription a = list->subscribe([&](const int&) {
+        list.reset();
+        throw std::runtime_error("stumbled");
+    });
+    const EVSubscription b = recorder("b");
+    EXPECT_THROW(list->notify(1), std::runtime_error);
+    EXPECT_EQ(calls, (Calls{"b 1"}));
+    EXPECT_FALSE(b) << "ended with the list";
 }
 
 TEST_F(EventList, LetsGoOfAFunctionThatUnsubscribesAndThrows)
