@@ -1,5 +1,6 @@
 #include <ovoui/tree/Commands.h>
 
+#include <ovoui/tree/Gesture.h>
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/Paste.h>
 
@@ -165,7 +166,6 @@ bool MultiTreeCtrl::Commands::isOffered(UINT id) const
 bool MultiTreeCtrl::Commands::routeToNodes(UINT id)
 {
     const HostCalls host(tree());
-    const OVO::Handle<EVSubscriptionList<int>> gestures = tree().m_gestures;
     std::vector<OVO::Handle<Node>> takers = m_state.selectedNodes();
     const bool asked =
         host.report([&] { std::erase_if(takers, [id](const auto& node) { return !offers(*node, id); }); });
@@ -173,15 +173,12 @@ bool MultiTreeCtrl::Commands::routeToNodes(UINT id)
         return true;
     if (takers.empty())
         return false;
-    gestures->notify(static_cast<int>(id));
-    std::exception_ptr foreign;
-    host.reportKeeping(foreign, [&] {
+    const auto doCommands = [&] {
         for (const OVO::Handle<Node>& node : takers)
             if (host.usable())
                 node->doCommand(tree(), id);
-    });
-    gestures->notify(0);
-    raise(foreign);
+    };
+    raise(ovoui::tree::asGesture(tree().m_gestures, static_cast<int>(id), [&] { host.report(doCommands); }));
     return true;
 }
 

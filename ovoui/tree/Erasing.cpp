@@ -1,6 +1,6 @@
 #include <ovoui/tree/Erasing.h>
 
-#include <ovoui/tree/HostCalls.h>
+#include <ovoui/tree/Gesture.h>
 #include <ovoui/tree/ParentNotificationFilter.h>
 
 #include <ovoui/frame/MessageBox.h>
@@ -13,24 +13,17 @@
 
 void MultiTreeCtrl::eraseSelectedNodes()
 {
-    const HostCalls host(*this);
-    if (Erasing(*this).run() && host.usable())
-        notifyTvnSelchanged(TVC_UNKNOWN, nullptr, m_state->view.caret(), CPoint(0, 0));
+    Erasing erasing(*this);
+    erasing.finish(ovoui::frame::keeping([&] { erasing.run(); }));
 }
 
 /// The command: the whole is one gesture, and the parent hears of the new selection when it is over.
 void MultiTreeCtrl::OnEditDelete()
 {
     const HostCalls host(*this);
-    const OVO::Handle<EVSubscriptionList<int>> gestures = m_gestures;
-    bool erased = false;
-    std::exception_ptr foreign;
-    gestures->notify(kGestureDelete);
-    host.reportKeeping(foreign, [&] { erased = host.usable() && Erasing(*this).run(); });
-    gestures->notify(0);
-    if (erased && host.usable())
-        notifyTvnSelchanged(TVC_UNKNOWN, nullptr, m_state->view.caret(), CPoint(0, 0));
-    ovoui::frame::raise(foreign);
+    Erasing erasing(*this);
+    erasing.finish(
+        ovoui::tree::asGesture(m_gestures, kGestureDelete, [&] { host.report([&] { erasing.run(); }); }));
 }
 
 // Erasing
@@ -81,27 +74,35 @@ private:
     std::size_t m_ended = 0;
 };
 
-/// Asks, and erases. False when there was nothing to erase, or the user did not want it.
-bool MultiTreeCtrl::Erasing::run() const
+void MultiTreeCtrl::Erasing::run()
 {
-    const HostCalls host(m_tree);
+    if (!m_host.usable())
+        return;
     Nodes nodes = m_tree.m_state->selectedNodes();
     std::erase_if(nodes, [](const OVO::Handle<Node>& node) { return !node->canErase(); });
-    if (nodes.empty() || !host.usable() || !isConfirmed(nodes) || !host.usable())
-        return false;
+    if (nodes.empty() || !m_host.usable() || !isConfirmed(nodes) || !m_host.usable())
+        return;
+    m_begun = true;
     Drag drag(m_tree, nodes);
     drag.start();
-    if (host.usable())
+    if (m_host.usable())
         erase(nodes);
     drag.endAll();
-    return true;
+}
+
+void MultiTreeCtrl::Erasing::finish(std::exception_ptr raised) const
+{
+    if (m_begun && m_host.usable())
+        ovoui::frame::keepFirst(raised, [this] {
+            m_tree.notifyTvnSelchanged(TVC_UNKNOWN, nullptr, m_tree.m_state->view.caret(), CPoint(0, 0));
+        });
+    ovoui::frame::raise(raised);
 }
 
 bool MultiTreeCtrl::Erasing::isConfirmed(const Nodes& nodes) const
 {
-    const HostCalls host(m_tree);
     const std::wstring name = nodes.size() == 1 ? nodes.front()->text(m_tree) : std::wstring();
-    if (!host.usable())
+    if (!m_host.usable())
         return false;
     const std::wstring question =
         nodes.size() == 1
@@ -114,12 +115,11 @@ bool MultiTreeCtrl::Erasing::isConfirmed(const Nodes& nodes) const
 
 void MultiTreeCtrl::Erasing::erase(const Nodes& nodes) const
 {
-    const HostCalls host(m_tree);
     for (const OVO::Handle<Node>& node : nodes) {
-        if (!host.usable())
+        if (!m_host.usable())
             return;
         const bool agreed = node->erase(m_tree);
-        if (!host.usable() || !agreed || !node->hTreeItem())
+        if (!m_host.usable() || !agreed || !node->hTreeItem())
             continue;
         // The caret may go from one deleted item to the next; the parent is told at the end.
         const ovoui::tree::ParentNotificationFilter quiet(m_tree.m_hWnd);

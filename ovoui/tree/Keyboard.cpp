@@ -2,6 +2,7 @@
 #include <ovoui/tree/Keyboard.h>
 
 #include <ovoui/frame/AskedKey.h>
+#include <ovoui/tree/Gesture.h>
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
 #include <ovoui/tree/Selection.h>
@@ -205,14 +206,10 @@ void MultiTreeCtrl::Keyboard::defaultAction()
     const HostCalls host(tree());
     if (tree().isCommandDisabled(kGestureDefaultAction) || !host.usable())
         return;
-    const OVO::Handle<EVSubscriptionList<int>> gestures = tree().m_gestures;
-    gestures->notify(kGestureDefaultAction);
-    const std::exception_ptr error = keeping([&] {
+    raise(asGesture(tree().m_gestures, kGestureDefaultAction, [&] {
         if (host.usable())
             activateSelection();
-    });
-    gestures->notify(0);
-    raise(error);
+    }));
 }
 
 void MultiTreeCtrl::Keyboard::activateSelection()

@@ -171,7 +171,8 @@ public:
     void defaultAction();
 
     /// Tells when a user's gesture begins (its number) and ends (0), so that all it does can be made undone
-    /// at once.
+    /// at once. All subscribers hear of the end, whatever is raised meanwhile; when one raises at the
+    /// beginning, nothing is done.
     EVSubscriptionList<int>& gestureEV();
 
     // What is off unless the host asks for it

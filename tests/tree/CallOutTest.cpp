@@ -422,6 +422,7 @@ const std::vector<TreeCallOut>& callOuts()
         {"doSelectItem", [](TreeHost& host) { host.press(VK_DOWN); }, kAsAHandler},
         {"gesture", [](TreeHost& host) { host.command(kPaint); }, kAsAHandler},
         {"gesture", [](TreeHost& host) { host.press(VK_RETURN); }, kReported},
+        {"gesture", [](TreeHost& host) { host.eraseSelected(); }, kAsAHandler},
         {"TVN_SELCHANGING",
          [](TreeHost& host) {
              host.raiseIn(TVN_SELCHANGINGW, "TVN_SELCHANGING");
