@@ -56,9 +56,12 @@ int askedRow(const COVOListCtrlEx& list, const std::wstring& text, int focused, 
     wanted.iStart = *start;
     wanted.lvfi.flags = LVFI_STRING | LVFI_PARTIAL | LVFI_WRAP;
     wanted.lvfi.psz = text.c_str();
-    const HWND parent = ::GetParent(list);
+    CWnd* const parent = list.GetParent();
+    if (!parent)
+        return -1;
+    // By the framework, so that what the parent raises comes out here instead of counting as the first row.
     const auto row = static_cast<int>(
-        ::SendMessageW(parent, WM_NOTIFY, wanted.hdr.idFrom, reinterpret_cast<LPARAM>(&wanted)));
+        parent->SendMessage(WM_NOTIFY, wanted.hdr.idFrom, reinterpret_cast<LPARAM>(&wanted)));
     return row < count ? row : -1;
 }
 

@@ -300,6 +300,29 @@ TEST_F(ListFinding, AListWithoutStorageAsksItsParent)
     EXPECT_FALSE(finder.Find(L"eight"));
 }
 
+TEST_F(ListFinding, AListWithoutStorageKeepsItsSelectionWhenItsParentRaises)
+{
+    constexpr UINT kSelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
+    List stored;
+    stored.Create(WS_CHILD | WS_VISIBLE | LVS_OWNERDATA, CRect(0, 0, 90, 90), &scene.parent, 40);
+    stored.AddColumn(L"c", 0, -1, false, LVCF_TEXT | LVCF_WIDTH, 0);
+    stored.SetItemCountEx(1000);
+    stored.SetItemState(500, kSelectedAndFocused, kSelectedAndFocused);
+    stored.SetFocus();
+    finder.Attach(stored);
+    scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM),
+                        [](NMHDR*) -> LRESULT { throw std::runtime_error("host"); });
+    EXPECT_THROW(finder.Find(L"seven"), std::runtime_error);
+    EXPECT_EQ(stored.GetCurSel(), 500);
+    EXPECT_THROW(robot.type(L"s"), std::runtime_error);
+    EXPECT_EQ(stored.GetCurSel(), 500);
+    EXPECT_EQ(finder.Text(), L"");
+    scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), 0);
+    robot.type(L"s");
+    EXPECT_EQ(stored.GetCurSel(), 0) << "the first row can be found";
+    EXPECT_EQ(finder.Text(), L"s");
+}
+
 TEST_F(ListFinding, AListWithoutStorageDeselectsAllItsRowsAtOnce)
 {
     List stored;
