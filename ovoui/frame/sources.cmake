@@ -28,6 +28,7 @@ endif()
 target_sources(ovoui PRIVATE
   ${frame_core}
   ${CMAKE_CURRENT_LIST_DIR}/Accessible.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/AsHandler.cpp
   ${CMAKE_CURRENT_LIST_DIR}/BufferedPaint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ClipboardText.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Geometry.cpp

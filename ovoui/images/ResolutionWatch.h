@@ -18,7 +18,8 @@ class ResolutionWatch
 {
 public:
     /// Gets the resolution in dots per inch, or 0 when the system's colours have changed. It may destroy the
-    /// window and stop the watch.
+    /// window and stop the watch. What it raises goes the way of what message handlers raise; the window has
+    /// the message all the same.
     using Heard = std::function<void(int dotsPerInch)>;
 
     /// Null when the window cannot be watched.

@@ -1,5 +1,6 @@
 #include <ovoui/images/WatchedWindow.h>
 
+#include <ovoui/frame/AsHandler.h>
 #include <ovoui/images/ResolutionWatch.h>
 
 #include <commctrl.h>
@@ -35,13 +36,17 @@ void WatchedWindow::add(const std::shared_ptr<ResolutionWatch>& watch)
     m_watches.insert(m_watches.begin(), watch);
 }
 
-/// Any of them may end, and the window be destroyed, while another one is told.
-void WatchedWindow::tell(int dotsPerInch) const
+/// Any of them may end, and the window be destroyed, while another one is told. What one raises keeps nothing from
+/// the others.
+void WatchedWindow::tell(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const
 {
     const std::vector<std::weak_ptr<ResolutionWatch>> watches = m_watches;
     for (const auto& each : watches)
-        if (const auto watch = each.lock())
-            watch->tell(dotsPerInch);
+        frame::asHandler(window, message, wParam, lParam, [&]() -> LRESULT {
+            if (const auto watch = each.lock())
+                watch->tell(message == WM_DPICHANGED ? LOWORD(wParam) : 0);
+            return 0;
+        });
 }
 
 void WatchedWindow::end(HWND window)
@@ -61,7 +66,7 @@ LRESULT CALLBACK WatchedWindow::procedure(HWND window, UINT message, WPARAM wPar
     if (message == WM_NCDESTROY) {
         watched->end(window);
     } else if (message == WM_DPICHANGED || message == WM_SYSCOLORCHANGE) {
-        watched->tell(message == WM_DPICHANGED ? LOWORD(wParam) : 0);
+        watched->tell(window, message, wParam, lParam);
         if (!::IsWindow(window))
             return 0;
     }

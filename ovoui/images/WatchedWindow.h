@@ -26,7 +26,7 @@ public:
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                       DWORD_PTR self);
-    void tell(int dotsPerInch) const;
+    void tell(HWND window, UINT message, WPARAM wParam, LPARAM lParam) const;
     void end(HWND window);
 
     std::vector<std::weak_ptr<ResolutionWatch>> m_watches; // the newest first

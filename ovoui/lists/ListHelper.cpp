@@ -1,5 +1,7 @@
 #include <ovoui/lists/ListHelper.h>
 
+#include <ovoui/frame/AsHandler.h>
+
 #include <commctrl.h>
 
 #include <algorithm>
@@ -27,6 +29,7 @@ private:
                                       DWORD_PTR messages);
     template <class Tell>
     bool eachUntil(const Tell& tell);
+    LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     void end(HWND window);
 
     static std::map<HWND, std::shared_ptr<ListMessages>> s_all;
@@ -80,11 +83,18 @@ LRESULT CALLBACK ListMessages::procedure(HWND window, UINT message, WPARAM wPara
     const auto self = reinterpret_cast<ListMessages*>(messages)->shared_from_this();
     if (message == WM_NCDESTROY)
         self->end(window);
+    return frame::asHandler(window, message, wParam, lParam,
+                            [&] { return self->handle(window, message, wParam, lParam); });
+}
+
+/// The host raises what it likes when a helper asks or tells it something.
+LRESULT ListMessages::handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
     LRESULT result = 0;
-    if (self->eachUntil([&](ListHelper& helper) { return helper.takes(message, wParam, lParam, result); }))
+    if (eachUntil([&](ListHelper& helper) { return helper.takes(message, wParam, lParam, result); }))
         return result;
     result = ::DefSubclassProc(window, message, wParam, lParam);
-    self->eachUntil([&](ListHelper& helper) {
+    eachUntil([&](ListHelper& helper) {
         helper.heard(message, wParam, lParam);
         return false;
     });

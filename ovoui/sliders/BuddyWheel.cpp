@@ -1,5 +1,7 @@
 #include <ovoui/sliders/BuddyWheel.h>
 
+#include <ovoui/frame/AsHandler.h>
+
 #include <commctrl.h>
 
 #include <utility>
@@ -27,8 +29,10 @@ LRESULT CALLBACK BuddyWheel::hear(HWND wnd, UINT message, WPARAM wParam, LPARAM 
     auto& wheel = *reinterpret_cast<BuddyWheel*>(self);
     if (message == WM_MOUSEWHEEL) {
         const auto turned = wheel.m_turned; // a copy, since the object may go
-        turned(GET_WHEEL_DELTA_WPARAM(wParam));
-        return 0;
+        return frame::asHandler(wnd, message, wParam, lParam, [&]() -> LRESULT {
+            turned(GET_WHEEL_DELTA_WPARAM(wParam));
+            return 0;
+        });
     }
     if (message == WM_NCDESTROY) {
         ::RemoveWindowSubclass(wnd, &BuddyWheel::hear, id);

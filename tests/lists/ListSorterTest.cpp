@@ -9,6 +9,7 @@
 
 #include <random>
 #include <stdexcept>
+#include <utility>
 
 using namespace ovo::testkit;
 
@@ -269,6 +270,26 @@ TEST_F(ListSorting, AComparisonMayDoAnything)
     });
     EXPECT_FALSE(sorter.Sort(1, true));
     EXPECT_FALSE(scene.list.m_hWnd);
+}
+
+TEST_F(ListSorting, WhatAComparisonRaisesAtAClickLeavesTheHeadingsInOrder)
+{
+    add({L"c", L"b", L"a"});
+    scene.show();
+    bool raises = true;
+    sorter.SetCompare(1, [&raises](COVOListCtrlEx& list, int row, int other) {
+        if (std::exchange(raises, false))
+            throw std::runtime_error("host");
+        return list.GetItemText(row, 1).Compare(list.GetItemText(other, 1));
+    });
+    Robot robot;
+    const auto clickHeading = [&] { robot.click(Spot{*scene.list.GetHeaderCtrl(), CPoint(160, 8)}); };
+    EXPECT_THROW(clickHeading(), std::runtime_error);
+    EXPECT_FALSE(raises);
+    EXPECT_EQ(::GetCapture(), nullptr) << "the header has ended the click";
+    EXPECT_EQ(column(1), (Texts{L"c", L"b", L"a"}));
+    clickHeading();
+    EXPECT_EQ(column(1), (Texts{L"a", L"b", L"c"}));
 }
 
 TEST_F(ListSorting, TheParentMayDestroyListOrSorterWhenAHeadingIsClicked)

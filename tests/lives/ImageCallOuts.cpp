@@ -62,8 +62,8 @@ private:
 
 const std::vector<CallOut> kImages{
     {"Drawing", &make<LoadScene>, kToCaller},
-    {"Drawing", &make<FollowScene>, kToCaller},
-    {"changed", &make<FollowScene>, kToCaller},
+    {"Drawing", &make<FollowScene>, kAsAHandler},
+    {"changed", &make<FollowScene>, kAsAHandler},
 };
 
 } // namespace

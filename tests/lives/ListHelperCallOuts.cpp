@@ -50,6 +50,13 @@ public:
     }
 };
 
+/// Compares when a heading is clicked.
+class CompareByHeadingScene : public CompareScene
+{
+public:
+    void provoke() override { notifyOfHeading(HDN_ITEMCLICKW, 1); }
+};
+
 /// Rows of the same data: they have others while they are sorted, of which the host hears.
 class SameDataScene : public SortScene
 {
@@ -185,6 +192,7 @@ private:
 
 const std::vector<CallOut> kHelpers{
     {"Compare", &make<CompareScene>, kToCaller},
+    {"Compare", &make<CompareByHeadingScene>, kAsAHandler},
     {"LVN_GETDISPINFO", &make<SortScene>, kAsAHandler},
     {"LVN_ITEMCHANGING", &make<SameDataScene>, kAsAHandler},
     {"LVN_ITEMCHANGED", &make<SameDataScene>, kAsAHandler},

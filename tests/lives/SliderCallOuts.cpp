@@ -97,6 +97,14 @@ public:
     }
 };
 
+/// Steps by the wheel over the buddy, too.
+class BuddyWheelScene : public SliderButtonScene
+{
+public:
+    BuddyWheelScene() { button.StepByWheel(true); }
+    void provoke() override { edit.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA)); }
+};
+
 /// Made before the controls in it.
 struct ValueHost
 {
@@ -212,6 +220,8 @@ const std::vector<CallOut> kSliders{
     {"toDisplay", &make<SliderButtonScene>, kAsAHandler},
     {"showTip", &make<SliderButtonScene>, kAsAHandler},
     {"hideTip", &make<SliderButtonScene>, kAsAHandler},
+    {"fromDisplay", &make<BuddyWheelScene>, kAsAHandler},
+    {"toDisplay", &make<BuddyWheelScene>, kAsAHandler},
     {"shareOf", &make<MappingScene>, kAsAHandler},
     {"numberAt", &make<MappingScene>, kAsAHandler},
     {"kValueChanged", &make<ValueScene>, kAsAHandler},
