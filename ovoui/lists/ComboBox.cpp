@@ -1,5 +1,6 @@
 #include <ovoui/lists/ComboBox.h>
 
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/frame/TellParent.h>
 #include <ovoui/lists/ComboCommands.h>
@@ -13,6 +14,8 @@
 #include <utility>
 
 using namespace ovoui::lists;
+using ovoui::frame::keepFirst;
+using ovoui::frame::raise;
 
 BEGIN_MESSAGE_MAP(COVOComboBox, CComboBox)
     ON_CONTROL_REFLECT(CBN_EDITUPDATE, &COVOComboBox::OnEditUpdate)
@@ -307,14 +310,24 @@ void COVOComboBox::selectTail(DWORD before, std::size_t typed)
 
 BOOL COVOComboBox::OnSetFocus()
 {
-    // A parent may fill the list when it is about to open: that is needed before anything is typed.
-    if (m_autoComplete && !GetDroppedState())
-        if (!tell(CBN_DROPDOWN) || !tell(CBN_CLOSEUP))
-            return TRUE;
+    // A parent may fill the list when it is about to open: that is needed before anything is typed. One that
+    // raises then hears all the same that the list closes.
+    const Lifeline::Watch watch(*this);
+    std::exception_ptr raised;
+    if (m_autoComplete && !GetDroppedState()) {
+        keepFirst(raised, [this] { tell(CBN_DROPDOWN); });
+        if (watch.alive())
+            keepFirst(raised, [this] { tell(CBN_CLOSEUP); });
+    }
+    if (!watch.alive()) {
+        raise(raised);
+        return TRUE;
+    }
     m_savedSelection = GetCurSel();
     m_savedText = m_savedSelection == -1 ? editText() : std::wstring();
     if (m_autoComplete && itemsHaveTexts())
         m_completion->watch();
+    raise(raised);
     return FALSE;
 }
 

@@ -270,6 +270,22 @@ class ComboMischief : public ::testing::TestWithParam<std::tuple<Occasion, Misde
 
 } // namespace
 
+TEST(ComboFocus, AParentThatRaisesWhenTheListIsToOpenHearsThatItCloses)
+{
+    ComboScene scene{L"anise"};
+    scene.combo.AutoComplete(true);
+    scene.show();
+    scene.parent.hearing = [](const std::string& what) {
+        if (what == "DROPDOWN")
+            throw std::runtime_error("host");
+    };
+    EXPECT_THROW(scene.combo.SetFocus(), std::runtime_error);
+    const Heard heard = scene.take();
+    ASSERT_GE(heard.size(), 2u);
+    EXPECT_EQ(heard[0], "DROPDOWN");
+    EXPECT_EQ(heard[1], "CLOSEUP");
+}
+
 TEST_P(ComboMischief, DoesNoHarm)
 {
     const auto& [occasion, misdeed] = GetParam();
