@@ -10,6 +10,7 @@
 #include <ovouires/resource.h>
 
 using namespace ovoui::sliders;
+using ovoui::frame::keepFirst;
 using ovoui::frame::keeping;
 using ovoui::frame::raise;
 
@@ -185,9 +186,9 @@ bool CSliderButton::press(const CPoint& at)
     SetPressed(true);
     if (!watch.alive())
         return false;
-    const std::exception_ptr raised = keeping([&] { ShowPopup(at); });
+    std::exception_ptr raised = keeping([&] { ShowPopup(at); });
     if (raised && watch.alive())
-        dismiss();
+        keepFirst(raised, [this] { dismiss(); });
     raise(raised);
     return watch.alive() && m_parts->pressed;
 }

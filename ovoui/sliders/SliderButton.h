@@ -138,6 +138,7 @@ private:
     void placePopup(const CPoint& at);
     void dismiss();
     void dismissFor(HWND pressed);
+    void putTextBack();
     void showTicks();
     void updateBubble();
 

@@ -1,10 +1,14 @@
 // The popup of a slider button: where it opens, and how it goes.
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/sliders/SliderButtonParts.h>
 #include <ovoui/sliders/core/PopupRules.h>
 #include <ovoui/sliders/core/SliderPlaces.h>
 
 using namespace ovoui::sliders;
+using ovoui::frame::keepFirst;
+using ovoui::frame::keeping;
+using ovoui::frame::raise;
 
 void CSliderButton::ShowPopup(const CPoint& at)
 {
@@ -68,15 +72,16 @@ void CSliderButton::HidePopup()
         m_popup.ShowWindow(SW_HIDE);
 }
 
-/// The popup goes, and the button comes up.
+/// The popup goes, and the button comes up, of which the parent is told.
 void CSliderButton::dismiss()
 {
     if (!m_parts->pressed)
         return;
     const Lifeline::Watch watch(*this);
-    HidePopup();
+    std::exception_ptr raised = keeping([this] { HidePopup(); });
     if (watch.alive())
-        SetPressed(false);
+        keepFirst(raised, [this] { SetPressed(false); });
+    raise(raised);
 }
 
 /// A press of the mouse on another window than the popup and the button ends the popup.
@@ -91,12 +96,24 @@ void CSliderButton::cancelPopup()
 {
     const Lifeline::Watch watch(*this);
     const bool isOpen = m_parts->pressed; // otherwise the text before is that of another time
+    std::exception_ptr raised;
     if (isOpen && m_parts->buddy.exists() && readBuddy() != m_parts->textBefore) {
-        setBuddyText(std::wstring(m_parts->textBefore));
-        if (!watch.alive() || !tellParent(kValueChanged))
+        raised = keeping([this] { putTextBack(); });
+        if (!watch.alive()) {
+            raise(raised);
             return;
+        }
     }
-    dismiss();
+    keepFirst(raised, [this] { dismiss(); });
+    raise(raised);
+}
+
+void CSliderButton::putTextBack()
+{
+    const Lifeline::Watch watch(*this);
+    setBuddyText(std::wstring(m_parts->textBefore));
+    if (watch.alive())
+        tellParent(kValueChanged);
 }
 
 // Ticks and bubble

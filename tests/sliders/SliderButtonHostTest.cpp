@@ -15,6 +15,32 @@ using namespace ovo::testkit;
 namespace
 {
 
+/// A parent of the buddy that writes down what it is told, and may raise then.
+class ToldPanel : public CWnd
+{
+public:
+    ToldPanel(CWnd& parent, CEdit& buddy)
+    {
+        Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 90, 300, 120), &parent, 20);
+        buddy.SetParent(this);
+        buddy.SetWindowPos(nullptr, 10, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    }
+    ~ToldPanel() override { DestroyWindow(); }
+
+    std::vector<UINT> told;
+    UINT raisesWhen = 0; ///< an int
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == kChanged || message == kReleased)
+            told.push_back(message);
+        if (raisesWhen != 0 && message == raisesWhen)
+            throw 42;
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
 /// Does a deed when a window becomes the active one, the first time.
 class WhenActivated
 {
@@ -217,6 +243,35 @@ TEST_F(SliderButton, WhatAConversionThrowsReachesTheHostAndTheButtonStaysUsable)
     EXPECT_EQ(buddyText(), L"5");
     utils.misdeed = nullptr;
     user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+}
+
+TEST_F(SliderButton, AParentThatRaisesWhenItIsCancelledHearsOfTheEnd)
+{
+    setBuddyText(L"50");
+    ToldPanel panel(parent, buddy);
+    show();
+    open();
+    setBuddyText(L"60");
+    panel.told.clear();
+    panel.raisesWhen = kChanged;
+    EXPECT_THROW(button->cancelPopup(), int);
+    EXPECT_EQ(buddyText(), L"50");
+    EXPECT_TRUE(isClosed());
+    EXPECT_EQ(panel.told, (std::vector<UINT>{kChanged, kReleased}));
+}
+
+TEST_F(SliderButton, WhatIsRaisedFirstComesOutWhenThePopupDoesNotOpen)
+{
+    button->SetType(CSliderButton::SliderLinear);
+    button->SetRange(0.0, 10.0, 1);
+    setBuddyText(L"5");
+    ToldPanel panel(parent, buddy);
+    show();
+    utils.misdeed = [] { throw std::runtime_error("no such unit"); };
+    panel.raisesWhen = kReleased;
+    EXPECT_THROW(button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5)), std::runtime_error);
+    EXPECT_TRUE(isClosed());
+    EXPECT_EQ(panel.told, std::vector<UINT>{kReleased});
 }
 
 TEST_F(SliderButton, AHostMayChangeTextAndFocusWhenTheValueChanges)
