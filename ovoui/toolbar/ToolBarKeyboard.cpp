@@ -1,5 +1,6 @@
 // CVantorToolBar: the keyboard in the bar itself.
 #include <ovoui/frame/BoxRect.h>
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/ToolBarState.h>
@@ -194,7 +195,7 @@ void CVantorToolBar::pressByKey()
 }
 
 /// As the mouse does it: the control presses the button, checks it if it is one to be checked, and tells the
-/// owner.
+/// owner. It lets go of the button whatever the owner raises at the press.
 void CVantorToolBar::clickButton(int index)
 {
     const std::shared_ptr<State> state = m_state;
@@ -202,9 +203,11 @@ void CVantorToolBar::clickButton(int index)
     if (!hasButton(index) || !GetToolBarCtrl().GetItemRect(index, &rect))
         return;
     const LPARAM middle = MAKELPARAM(rect.CenterPoint().x, rect.CenterPoint().y);
-    DefWindowProc(WM_LBUTTONDOWN, MK_LBUTTON, middle);
+    std::exception_ptr raised =
+        ovoui::frame::keeping([&] { DefWindowProc(WM_LBUTTONDOWN, MK_LBUTTON, middle); });
     if (state->usable())
-        DefWindowProc(WM_LBUTTONUP, 0, middle);
+        ovoui::frame::keepFirst(raised, [&] { DefWindowProc(WM_LBUTTONUP, 0, middle); });
+    ovoui::frame::raise(raised);
 }
 
 void CVantorToolBar::chooseEntry(const CFlyoutToolbar::Entry& entry)

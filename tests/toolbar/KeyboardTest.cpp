@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 using namespace ovo::testkit;
 
 namespace
@@ -125,6 +127,26 @@ TEST_F(BarKeyboard, EnterAndSpacePressTheButton)
         EXPECT_EQ(scene.frame().issued, (std::vector<Issued>{{ID_OTHER, scene.bar().m_hWnd}}));
         EXPECT_TRUE(paneHasFocus());
     }
+}
+
+TEST_F(BarKeyboard, AnOwnerThatRaisesAtThePressHearsOfTheRelease)
+{
+    constexpr auto kPressed = static_cast<UINT>(TBN_BEGINDRAG);
+    constexpr auto kLetGo = static_cast<UINT>(TBN_ENDDRAG);
+    std::vector<UINT> told;
+    scene.frame().onNotify = [&](NMHDR* header) -> LRESULT {
+        if (header->code == kPressed || header->code == kLetGo)
+            told.push_back(header->code);
+        if (header->code == kPressed)
+            throw std::runtime_error("misdeed");
+        return 0;
+    };
+    scene.bar().FocusButtons();
+    EXPECT_THROW(scene.user.key(VK_END).key(VK_RETURN), std::runtime_error);
+    scene.frame().onNotify = nullptr;
+    EXPECT_EQ(told, (std::vector<UINT>{kPressed, kLetGo}));
+    EXPECT_NE(::GetCapture(), scene.bar().m_hWnd);
+    EXPECT_EQ(scene.commands(), Ids{ID_OTHER});
 }
 
 TEST_F(BarKeyboard, ADisabledButtonIsLeftOutUnlessItHasAFlyout)
