@@ -8,6 +8,7 @@
 #include <ovoui/frame/FilledTriangle.h>
 #include <ovoui/frame/KeptTheme.h>
 #include <ovoui/frame/PushButtonState.h>
+#include <ovoui/frame/TellParent.h>
 #include <ovoui/frame/ThemeData.h>
 
 namespace ovoui::colour
@@ -42,8 +43,8 @@ void ColourButtonFace::paintBack(CDC& dc, CRect rect, UINT state) const
     if (CThemeData::getThemeData().IsAppThemed()) {
         // The corners of a themed button show what is behind it.
         const auto behind = reinterpret_cast<HBRUSH>(
-            ::SendMessageW(::GetParent(m_button), WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC),
-                           reinterpret_cast<LPARAM>(m_button.m_hWnd)));
+            frame::sendToHost(::GetParent(m_button), WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC),
+                              reinterpret_cast<LPARAM>(m_button.m_hWnd)));
         ::FillRect(dc, &rect, behind ? behind : ::GetSysColorBrush(COLOR_BTNFACE));
         frame::KeptTheme theme(L"Button");
         if (theme.draw(m_button, dc, BP_PUSHBUTTON, themedState(state), rect))

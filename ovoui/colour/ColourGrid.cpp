@@ -203,9 +203,9 @@ void CColourGrid::OnPaint()
     CRect client;
     GetClientRect(&client);
     const Lifeline::Watch watch(m_lifeline);
-    const auto brush = reinterpret_cast<HBRUSH>(::SendMessageW(::GetParent(m_hWnd), WM_CTLCOLORSTATIC,
-                                                               reinterpret_cast<WPARAM>(dc.m_hDC),
-                                                               reinterpret_cast<LPARAM>(m_hWnd)));
+    const auto brush = reinterpret_cast<HBRUSH>(
+        ovoui::frame::sendToHost(::GetParent(m_hWnd), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC),
+                                 reinterpret_cast<LPARAM>(m_hWnd)));
     if (!watch.alive() || !m_hWnd)
         return;
     ::FillRect(dc, &client, brush ? brush : ::GetSysColorBrush(COLOR_BTNFACE));

@@ -1,5 +1,7 @@
 #include <ovoui/colour/PickerStop.h>
 
+#include <ovoui/frame/TellParent.h>
+
 #include <utility>
 
 namespace ovoui::colour
@@ -69,7 +71,7 @@ void PickerStop::OnKeyDown(UINT key, UINT, UINT)
         Lifeline::Watch watch;
     } telling{*this, Lifeline::Watch(m_lifeline)};
     m_key = key;
-    ::SendMessageW(::GetParent(m_hWnd), WM_HSCROLL, SB_ENDSCROLL, reinterpret_cast<LPARAM>(m_hWnd));
+    frame::sendToHost(::GetParent(m_hWnd), WM_HSCROLL, SB_ENDSCROLL, reinterpret_cast<LPARAM>(m_hWnd));
 }
 
 void PickerStop::OnSetFocus(CWnd*)

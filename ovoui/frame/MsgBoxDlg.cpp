@@ -4,6 +4,7 @@
 #include <ovoui/frame/HeldKeysNow.h>
 #include <ovoui/frame/Module.h>
 #include <ovoui/frame/ProfileSection.h>
+#include <ovoui/frame/TellParent.h>
 #include <ovoui/frame/UncountedMoves.h>
 #include <ovoui/frame/core/BoxAnswers.h>
 #include <ovoui/frame/core/BoxKeys.h>
@@ -105,7 +106,7 @@ void COVOMsgBoxDlg::OnClose()
 
 void COVOMsgBoxDlg::OnHelp()
 {
-    ::SendMessageW(m_owner, m_helpMessage, reinterpret_cast<WPARAM>(m_hWnd), 0);
+    ovoui::frame::sendToHost(m_owner, m_helpMessage, reinterpret_cast<WPARAM>(m_hWnd), 0);
 }
 
 BOOL COVOMsgBoxDlg::OnHelpInfo(HELPINFO* info)

@@ -8,13 +8,21 @@
 namespace ovoui::frame
 {
 
+/// Sends a window of the host a message; 0 without a window. What the host raises is raised here, when the system
+/// has returned: it does not fly through the system's code.
+inline LRESULT sendToHost(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const CWnd* const host = CWnd::FromHandle(window);
+    return host ? host->SendMessage(message, wParam, lParam) : 0;
+}
+
 /// Sends the parent a message about a control. The parent may do anything: whether the control still has its
-/// window afterwards. What the parent raises waits until the control's handler is done.
+/// window afterwards.
 inline bool tellParent(const CWnd& control, UINT message, WPARAM wParam)
 {
     const Lifeline::Watch watch(control);
     const HWND window = control.m_hWnd;
-    ::SendMessageW(::GetParent(window), message, wParam, reinterpret_cast<LPARAM>(window));
+    sendToHost(::GetParent(window), message, wParam, reinterpret_cast<LPARAM>(window));
     return watch.alive();
 }
 
@@ -27,16 +35,6 @@ inline WPARAM notification(const CWnd& control, UINT code)
 inline bool tellParent(const CWnd& control, UINT code)
 {
     return tellParent(control, WM_COMMAND, notification(control, code));
-}
-
-/// The same for handlers that end with what the parent raises.
-inline bool tellParentOrRaise(const CWnd& control, UINT code)
-{
-    const Lifeline::Watch watch(control);
-    const HWND window = control.m_hWnd;
-    if (CWnd* const parent = control.GetParent())
-        parent->SendMessage(WM_COMMAND, notification(control, code), reinterpret_cast<LPARAM>(window));
-    return watch.alive();
 }
 
 } // namespace ovoui::frame

@@ -264,7 +264,7 @@ void COVOComboBox::carryOut(const Verdict& verdict)
 /// False when the combo box is gone afterwards.
 bool COVOComboBox::tell(UINT code)
 {
-    return ovoui::frame::tellParentOrRaise(*this, code);
+    return ovoui::frame::tellParent(*this, code);
 }
 
 // Completion

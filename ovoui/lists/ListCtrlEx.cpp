@@ -1,6 +1,7 @@
 #include <ovoui/lists/ListCtrlEx.h>
 
 #include <ovoui/frame/Lifeline.h>
+#include <ovoui/frame/TellParent.h>
 #include <ovoui/lists/ColumnFit.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/ListRowPainter.h>
@@ -69,7 +70,7 @@ LRESULT COVOListCtrlEx::fitColumn(const ColumnFit& fit, UINT message, WPARAM wPa
                                         MAKELPARAM(*width, 0));
     if (message != WM_NOTIFY || !watch.alive())
         return done;
-    return ::SendMessage(::GetParent(m_hWnd), message, wParam, lParam);
+    return ovoui::frame::sendToHost(::GetParent(m_hWnd), message, wParam, lParam);
 }
 
 // Contents

@@ -1,5 +1,6 @@
 #include <ovoui/sliders/Buddy.h>
 
+#include <ovoui/frame/TellParent.h>
 #include <ovoui/frame/WindowText.h>
 
 namespace ovoui::sliders
@@ -17,7 +18,7 @@ void Buddy::show(const std::wstring& text) const
 
 void Buddy::tellParent(UINT message) const
 {
-    ::SendMessageW(::GetParent(m_window), message, reinterpret_cast<WPARAM>(m_window), 0);
+    frame::sendToHost(::GetParent(m_window), message, reinterpret_cast<WPARAM>(m_window), 0);
 }
 
 } // namespace ovoui::sliders

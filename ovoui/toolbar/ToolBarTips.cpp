@@ -67,7 +67,7 @@ std::wstring CVantorToolBar::tipOfButton(int index) const
     asked.hdr.idFrom = GetItemID(index);
     asked.hdr.code = TTN_GETDISPINFOW;
     asked.lpszText = asked.szText;
-    ::SendMessageW(m_hWnd, WM_NOTIFY, asked.hdr.idFrom, reinterpret_cast<LPARAM>(&asked));
+    SendMessage(WM_NOTIFY, asked.hdr.idFrom, reinterpret_cast<LPARAM>(&asked));
     if (!asked.lpszText || !IS_INTRESOURCE(asked.lpszText))
         return asked.lpszText ? asked.lpszText : std::wstring();
     CString text;

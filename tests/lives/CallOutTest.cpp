@@ -2,11 +2,13 @@
 // documented happens, and the control is as good as before.
 #include "CallOutScene.h"
 
+#include <support/NestedMessages.h>
 #include <testkit/GuiThread.h>
 
 TEST_P(CallOuts, DoWithAnExceptionWhatIsDocumented)
 {
     const CallOut& callOut = GetParam();
+    const int nested = nestedMessages();
     for (const Raising::Kind& kind : Raising::kinds()) {
         SCOPED_TRACE(kind.name);
         const std::unique_ptr<CallOutScene> scene = callOut.make();
@@ -15,5 +17,6 @@ TEST_P(CallOuts, DoWithAnExceptionWhatIsDocumented)
         EXPECT_TRUE(raising.happened()) << "it was not called";
         scene->expectSound();
         ovo::testkit::GuiThread::settle();
+        ASSERT_EQ(nestedMessages(), nested) << "what was raised flew through the system's code";
     }
 }

@@ -38,6 +38,7 @@ SliderButtonScene::SliderButtonScene()
 
 void SliderButtonScene::show(CPoint at)
 {
+    ::SetCursorPos(0, 0); // where the test before has left it, the button may show its tip
     parent.SetWindowPos(nullptr, at.x, at.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     present(parent);
     other.SetFocus();

@@ -1,6 +1,7 @@
 // What the tree calls in its host raises every kind of exception: what is documented happens, and the tree is
 // as good as before.
 #include <support/NextDialog.h>
+#include <support/NestedMessages.h>
 #include <support/Raising.h>
 #include <testkit/Desktop.h>
 #include <testkit/GuiThread.h>
@@ -490,6 +491,7 @@ protected:
 TEST_P(TreeCallOuts, DoWithAnExceptionWhatIsDocumented)
 {
     const TreeCallOut& callOut = GetParam();
+    const int nested = nestedMessages();
     for (const Raising::Kind& kind : Raising::kinds()) {
         SCOPED_TRACE(kind.name);
         TreeHost host;
@@ -500,6 +502,7 @@ TEST_P(TreeCallOuts, DoWithAnExceptionWhatIsDocumented)
             EXPECT_TRUE(raising.happened()) << "it was not called";
         }
         expectSound(host);
+        ASSERT_EQ(nestedMessages(), nested) << "what was raised flew through the system's code";
     }
     EXPECT_EQ(RaisingNode::live(), 0);
 }
