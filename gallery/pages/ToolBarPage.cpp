@@ -353,8 +353,10 @@ void ToolBarPage::nameParts()
         ScreenToClient(&rect);
         return above(rect.left + scaled(kTagGap));
     };
-    addTag(1, above(bar.left + scaled(kTagGap - kTag / 2))); // the gripper is narrower
-    addTag(2, overButton(FileButton));
+    const CPoint first = overButton(FileButton);
+    const int overGripper = bar.left + scaled(kTagGap - kTag / 2); // which is narrower than the number's place
+    addTag(1, above(std::min<int>(overGripper, first.x - scaled(kTag))));
+    addTag(2, first);
     addTag(3, overButton(EditPlace));
     addTag(4, overButton(ComboPlace));
     addTag(5, CPoint(bar.left + scaled(kBesideFlyout), bar.bottom + scaled(kTagGap)));

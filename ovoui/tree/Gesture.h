@@ -14,7 +14,7 @@ namespace ovoui::tree
 /// and, whatever they and the call raise, of its end afterwards; when one has raised at the beginning the
 /// call is left out. Gives what was raised first, for the caller to raise when it has cleaned up.
 template <class Call>
-std::exception_ptr asGesture(OVO::Handle<EVSubscriptionList<int>> gestures, int code, Call&& call)
+std::exception_ptr asGesture(OVO::Handle<EVSubscriptionList<int>> gestures, const int& code, Call&& call)
 {
     std::exception_ptr raised = frame::keeping([&] { gestures->notify(code); });
     if (!raised)
