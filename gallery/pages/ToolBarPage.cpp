@@ -354,7 +354,8 @@ void ToolBarPage::nameParts()
         return above(rect.left + scaled(kTagGap));
     };
     const CPoint first = overButton(FileButton);
-    const int overGripper = bar.left + scaled(kTagGap - kTag / 2); // which is narrower than the number's place
+    const int overGripper =
+        bar.left + scaled(kTagGap - kTag / 2); // which is narrower than the number's place
     addTag(1, above(std::min<int>(overGripper, first.x - scaled(kTag))));
     addTag(2, first);
     addTag(3, overButton(EditPlace));

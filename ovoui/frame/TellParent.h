@@ -8,8 +8,8 @@
 namespace ovoui::frame
 {
 
-/// Sends a window of the host a message; 0 without a window. What the host raises is raised here, when the system
-/// has returned: it does not fly through the system's code.
+/// Sends a window of the host a message; 0 without a window. What the host raises is raised here, when the
+/// system has returned: it does not fly through the system's code.
 inline LRESULT sendToHost(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     const CWnd* const host = CWnd::FromHandle(window);

@@ -20,7 +20,7 @@ int resolutionOf(HWND window)
 
 std::shared_ptr<ResolutionWatch> ResolutionWatch::begin(HWND window, Heard heard)
 {
-    const std::shared_ptr<WatchedWindow> watched = WatchedWindow::of(window);
+    WatchedWindow* const watched = WatchedWindow::madeFor(window);
     if (!watched)
         return nullptr;
     const auto watch = std::make_shared<ResolutionWatch>();

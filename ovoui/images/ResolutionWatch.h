@@ -12,8 +12,8 @@ namespace ovoui::images
 /// Dots per inch where a window is; those of the system on platforms that have but one resolution.
 int resolutionOf(HWND window);
 
-/// Tells of WM_DPICHANGED and WM_SYSCOLORCHANGE to a window, before the window itself has them, for as long as
-/// this object and the window live.
+/// Tells of WM_DPICHANGED and WM_SYSCOLORCHANGE to a window, before the window itself has them, for as long
+/// as this object and the window live.
 class ResolutionWatch
 {
 public:

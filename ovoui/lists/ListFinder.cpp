@@ -1,6 +1,7 @@
 #include <ovoui/lists/ListFinder.h>
 
 #include <ovoui/frame/AskedKey.h>
+#include <ovoui/frame/TellParent.h>
 #include <ovoui/lists/EmphasisedText.h>
 #include <ovoui/lists/RangeInput.h>
 #include <ovoui/lists/RowData.h>
@@ -56,12 +57,12 @@ int askedRow(const COVOListCtrlEx& list, const std::wstring& text, int focused, 
     wanted.iStart = *start;
     wanted.lvfi.flags = LVFI_STRING | LVFI_PARTIAL | LVFI_WRAP;
     wanted.lvfi.psz = text.c_str();
-    CWnd* const parent = list.GetParent();
+    const HWND parent = ::GetParent(list);
     if (!parent)
         return -1;
-    // By the framework, so that what the parent raises comes out here instead of counting as the first row.
+    // What the parent raises comes out here instead of counting as the first row.
     const auto row = static_cast<int>(
-        parent->SendMessage(WM_NOTIFY, wanted.hdr.idFrom, reinterpret_cast<LPARAM>(&wanted)));
+        ovoui::frame::sendToHost(parent, WM_NOTIFY, wanted.hdr.idFrom, reinterpret_cast<LPARAM>(&wanted)));
     return row < count ? row : -1;
 }
 

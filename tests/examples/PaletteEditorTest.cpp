@@ -154,6 +154,16 @@ protected:
         EXPECT_TRUE(m_program.endsByItself());
     }
 
+    void closeAndSave(const std::wstring& path)
+    {
+        m_program.key(VK_ESCAPE);
+        answer(kYes);
+        openedFileDialog(m_program);
+        m_program.type(path);
+        m_program.key(VK_RETURN);
+        EXPECT_TRUE(m_program.endsByItself());
+    }
+
     RunningProgram m_program{L"palette-editor"};
 };
 
@@ -322,12 +332,7 @@ TEST_F(PaletteEditor, SavesWhenItIsClosedAndTheUserWantsIt)
 {
     const TemporaryFiles files;
     change();
-    m_program.key(VK_ESCAPE);
-    answer(kYes);
-    openedFileDialog(m_program);
-    m_program.type(files.path(L"kept"));
-    m_program.key(VK_RETURN);
-    EXPECT_TRUE(m_program.endsByItself());
+    closeAndSave(files.path(L"kept"));
     const std::vector<std::wstring> lines = savedLines(m_program, files.path(L"kept.txt"));
     ASSERT_EQ(lines.size(), 10u);
     EXPECT_EQ(lines[1], L"#5B7B3E Moss");
@@ -370,12 +375,7 @@ TEST_F(PaletteEditor, StaysWithTheChangesWhenTheFileCannotBeWritten)
     waitForEditor();
     EXPECT_TRUE(canUndo());
 
-    m_program.key(VK_ESCAPE);
-    answer(kYes);
-    openedFileDialog(m_program);
-    m_program.type(files.path(L"free.txt"));
-    m_program.key(VK_RETURN);
-    EXPECT_TRUE(m_program.endsByItself());
+    closeAndSave(files.path(L"free.txt"));
     EXPECT_EQ(savedLines(m_program, files.path(L"free.txt")).at(1), L"#5B7B3E Moss");
 }
 

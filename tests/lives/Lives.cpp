@@ -234,7 +234,8 @@ void livePlainSystemInfo(CWnd& parent)
 {
     usePlainDialog<IDD_SYSTEM_INFO>(parent, [](HWND dialog) {
         const int stop = 92;
-        ::SendDlgItemMessageW(dialog, IDC_SYSTEM_INFO_TEXT, EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&stop));
+        ::SendDlgItemMessageW(dialog, IDC_SYSTEM_INFO_TEXT, EM_SETTABSTOPS, 1,
+                              reinterpret_cast<LPARAM>(&stop));
     });
 }
 

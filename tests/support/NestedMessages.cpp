@@ -19,7 +19,8 @@ LRESULT CALLBACK answer(HWND wnd, UINT message, WPARAM left, LPARAM lParam)
 
 int nestedMessages()
 {
-    const HWND wnd = ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    const HWND wnd =
+        ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     ::SetWindowLongPtrW(wnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&answer));
     const LRESULT deep = ::SendMessageW(wnd, kDeeper, kMost, 0);
     ::DestroyWindow(wnd);
