@@ -168,6 +168,23 @@ const ChangeOfChildren kChangesOfChildren[] = {
      }},
     {"an item more",
      [](OrderedScene& scene) { (new TestNode("10255"))->insert(scene.tree, TVI_ROOT, scene.item("1025")); }},
+    {"an item deleted, and one more while the parent hears of it",
+     [](OrderedScene& scene) {
+         scene.parent().answer(TVN_DELETEITEMW, [&scene, done = false](NMHDR*) mutable {
+             if (!std::exchange(done, true))
+                 scene.insert(new TestNode("10255"));
+             return LRESULT{0};
+         });
+         scene.tree.DeleteItem(scene.item("1025"));
+     }},
+    {"an item deleted, and one more while its node goes",
+     [](OrderedScene& scene) {
+         scene.node("1025").onDestroyed = [&scene] {
+             scene.insert(new TestNode("10255"));
+             return 0;
+         };
+         scene.tree.DeleteItem(scene.item("1025"));
+     }},
     {"all items deleted", [](OrderedScene& scene) { scene.tree.DeleteAllItems(); }},
     {"sorted", [](OrderedScene& scene) { scene.tree.SortChildren(TVI_ROOT); }},
 };
