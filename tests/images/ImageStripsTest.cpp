@@ -481,6 +481,21 @@ TEST_F(ImageStrips, TheHostMayDoAnythingWhenItIsTold)
     EXPECT_EQ(raising.story, "images 32; window; ") << "as good as before";
 }
 
+TEST_F(ImageStrips, AllThatFollowAWindowAreToldThoughOneRaises)
+{
+    RecordingParent window;
+    CImageStrips first = strips();
+    CImageStrips last = strips();
+    std::string story;
+    EXPECT_TRUE(first.Follow(window, [&] { story += "first; "; }));
+    EXPECT_TRUE(last.Follow(window, [&] {
+        story += "last; ";
+        throw std::runtime_error("no");
+    }));
+    EXPECT_THROW(window.SendMessage(WM_DPICHANGED, MAKEWPARAM(144, 144)), std::runtime_error);
+    EXPECT_EQ(story, "last; first; ");
+}
+
 TEST_F(ImageStrips, ADrawingMayEndThatTheyFollow)
 {
     RecordingParent other;
