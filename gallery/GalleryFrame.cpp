@@ -89,12 +89,9 @@ BOOL GalleryFrame::OnCreateClient(LPCREATESTRUCT, CCreateContext*)
 
 bool GalleryFrame::createParts()
 {
-    constexpr DWORD kLog =
-        LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_HSCROLL | WS_TABSTOP | WS_VISIBLE | WS_CHILD;
     return m_pageList.create(*this, IDC_PAGE_LIST) && m_header.create(*this) &&
-           m_logLabel.Create(L"&Journal of notifications:", WS_CHILD | WS_VISIBLE, CRect(), this) &&
-           m_log.CWnd::CreateEx(WS_EX_CLIENTEDGE, L"LISTBOX", nullptr, kLog, CRect(), this, IDC_LOG) &&
-           m_statusBar.Create(this) && createBars();
+           m_journalLabel.Create(L"&Journal of notifications:", WS_CHILD | WS_VISIBLE, CRect(), this) &&
+           m_journal.create(*this, IDC_LOG) && m_statusBar.Create(this) && createBars();
 }
 
 // Fonts and images for the monitor that the window is on.
@@ -107,9 +104,9 @@ void GalleryFrame::useResolution()
     ::lstrcpynW(face.lfFaceName, L"MS Shell Dlg 2", LF_FACESIZE);
     auto font = std::make_unique<CFont>();
     font->CreateFontIndirect(&face);
-    for (CWnd* wnd : std::initializer_list<CWnd*>{&m_pageList, &m_logLabel, &m_log})
+    for (CWnd* wnd : std::initializer_list<CWnd*>{&m_pageList, &m_journalLabel})
         wnd->SetFont(font.get());
-    widenLog();
+    m_journal.useFont(*font);
     m_bar.useFont(*font);
     m_font = std::move(font);
     m_header.useFont(face);
@@ -152,11 +149,11 @@ GalleryFrame::Places GalleryFrame::places()
 void GalleryFrame::RecalcLayout(BOOL notify)
 {
     CFrameWnd::RecalcLayout(notify);
-    if (!m_log.m_hWnd)
+    if (!m_journal.m_hWnd)
         return;
     const Places at = places();
-    moveChild(m_log, at.log);
-    moveChild(m_logLabel, at.label);
+    moveChild(m_journal, at.log);
+    moveChild(m_journalLabel, at.label);
     moveChild(m_pageList, at.list);
     moveChild(m_header, at.header);
     if (m_page && m_page->m_hWnd)
@@ -280,49 +277,21 @@ void GalleryFrame::OnActivateApp(BOOL active, DWORD thread)
     CVantorToolBar::ActivateApp(active);
 }
 
-// Log
+// Journal
 
 void GalleryFrame::logLine(const std::wstring& line)
 {
-    constexpr int kLines = 2000; // more are of no use, and each is kept
-    if (m_log.GetCount() >= kLines)
-        m_log.DeleteString(0);
-    widenLog(line.c_str());
-    m_log.SetTopIndex(m_log.AddString(line.c_str()));
-}
-
-/// Lines wider than the log are reached with its scroll bar.
-void GalleryFrame::widenLog(const CString& line)
-{
-    constexpr int kMargin = 4;
-    CClientDC dc(&m_log);
-    CFont* const old = dc.SelectObject(m_log.GetFont());
-    const int needed = dc.GetTextExtent(line).cx + scaled(m_hWnd, kMargin);
-    dc.SelectObject(old);
-    if (needed > m_log.GetHorizontalExtent())
-        m_log.SetHorizontalExtent(needed);
-}
-
-/// The same for all lines, in another font.
-void GalleryFrame::widenLog()
-{
-    m_log.SetHorizontalExtent(0);
-    CString line;
-    for (int i = 0; i < m_log.GetCount(); ++i) {
-        m_log.GetText(i, line);
-        widenLog(line);
-    }
+    m_journal.add(line);
 }
 
 void GalleryFrame::OnLogClear()
 {
-    m_log.ResetContent();
-    m_log.SetHorizontalExtent(0);
+    m_journal.clear();
 }
 
 void GalleryFrame::OnUpdateLogClear(CCmdUI* ui)
 {
-    ui->Enable(m_log.GetCount() > 0);
+    ui->Enable(!m_journal.isEmpty());
 }
 
 // Pictures

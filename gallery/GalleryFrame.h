@@ -5,6 +5,7 @@
 #include "FrameBar.h"
 #include "FramePalette.h"
 #include "GalleryPage.h"
+#include "Journal.h"
 #include "PageHeader.h"
 #include "PageTable.h"
 #include "PageTree.h"
@@ -100,8 +101,6 @@ private:
     bool offerToPage(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
     void useResolution();
     void makeRoomForPages();
-    void widenLog(const CString& line);
-    void widenLog();
     Places places();
     void stepPage(int step);
     void settle();
@@ -109,8 +108,8 @@ private:
     std::unique_ptr<CFont> m_font; // first, since the windows below use it
     PageTree m_pageList;
     PageHeader m_header;
-    CStatic m_logLabel;
-    CListBox m_log;
+    CStatic m_journalLabel;
+    Journal m_journal;
     CStatusBar m_statusBar;
     FrameBar m_bar;
     FramePalette m_palette;

@@ -69,6 +69,7 @@ TEST(Journal, LongLinesAreReachedWithItsScrollBar)
     EXPECT_FALSE(journal.GetStyle() & WS_HSCROLL);
     const std::wstring line(400, L'W');
     scene.frame().logLine(line);
+    journal.UpdateWindow();
     CClientDC dc(&journal);
     CFont* const old = dc.SelectObject(journal.GetFont());
     const int width = dc.GetTextExtent(line.c_str()).cx;
@@ -88,10 +89,60 @@ TEST(Journal, KeepsItsLastLines)
     constexpr int kLines = 2000;
     GalleryScene scene;
     auto& journal = static_cast<CListBox&>(*scene.frame().GetDlgItem(IDC_LOG));
-    for (int line = 0; line < kLines + 50; ++line)
+    const auto textOf = [&](int line) {
+        CString text;
+        journal.GetText(line, text);
+        return text;
+    };
+    for (int line = 0; line < 60; ++line)
+        scene.frame().logLine(L"line " + std::to_wstring(line));
+    EXPECT_EQ(journal.GetCount(), 60);
+    for (int line = 60; line < kLines + 50; ++line)
         scene.frame().logLine(L"line " + std::to_wstring(line));
     EXPECT_EQ(journal.GetCount(), kLines);
-    CString last;
-    journal.GetText(kLines - 1, last);
-    EXPECT_EQ(last, L"line 2049");
+    EXPECT_EQ(textOf(0), L"line 50") << "the oldest went";
+    EXPECT_EQ(textOf(kLines - 1), L"line 2049");
+    for (int line = 0; line < 2 * kLines; ++line)
+        scene.frame().logLine(L"then " + std::to_wstring(line));
+    EXPECT_EQ(textOf(0), L"then 2000") << "more at once than it keeps";
+    EXPECT_EQ(journal.GetCount(), kLines);
+}
+
+TEST(Journal, ShowsItsLastLineWhenItIsPainted)
+{
+    GalleryScene scene;
+    auto& journal = static_cast<CListBox&>(*scene.frame().GetDlgItem(IDC_LOG));
+    for (int line = 0; line < 100; ++line)
+        scene.frame().logLine(L"line " + std::to_wstring(line));
+    ASSERT_TRUE(::GetUpdateRect(journal, nullptr, FALSE)) << "due to be painted";
+    journal.UpdateWindow();
+    EXPECT_FALSE(::GetUpdateRect(journal, nullptr, FALSE));
+    CRect last;
+    CRect client;
+    journal.GetItemRect(99, &last);
+    journal.GetClientRect(&client);
+    EXPECT_TRUE(CRect().IntersectRect(&last, &client));
+}
+
+TEST(Journal, IsClearedOfWhatItHasNotShownYet)
+{
+    GalleryScene scene;
+    auto& journal = static_cast<CListBox&>(*scene.frame().GetDlgItem(IDC_LOG));
+    const auto canBeCleared = [&] {
+        CMenu menu;
+        menu.CreatePopupMenu();
+        menu.AppendMenu(MF_STRING, ID_LOG_CLEAR, L"");
+        CCmdUI ui;
+        ui.m_nID = ID_LOG_CLEAR;
+        ui.m_pMenu = &menu;
+        ui.DoUpdate(&scene.frame(), FALSE);
+        return !(menu.GetMenuState(ID_LOG_CLEAR, MF_BYCOMMAND) & MF_GRAYED);
+    };
+    scene.frame().SendMessage(WM_COMMAND, ID_LOG_CLEAR);
+    EXPECT_FALSE(canBeCleared());
+    scene.frame().logLine(L"a line");
+    EXPECT_TRUE(canBeCleared());
+    scene.frame().SendMessage(WM_COMMAND, ID_LOG_CLEAR);
+    EXPECT_FALSE(canBeCleared());
+    EXPECT_EQ(journal.GetCount(), 0);
 }

@@ -170,10 +170,24 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
     SendMessageToDescendants(m_hWnd, message, wParam, lParam, deep, onlyPermanent);
 }
 
+static BOOL CALLBACK collect(HWND wnd, LPARAM found)
+{
+    reinterpret_cast<std::vector<HWND>*>(found)->push_back(wnd);
+    return TRUE;
+}
+
+/// Each child followed by its own descendants.
+static std::vector<HWND> descendantsOf(HWND wnd)
+{
+    std::vector<HWND> found;
+    ::EnumChildWindows(wnd, &collect, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
 void PASCAL CWnd::SendMessageToDescendants(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL deep,
                                            BOOL onlyPermanent)
 {
-    for (const HWND child : childrenOf(wnd)) {
+    for (const HWND child : deep ? descendantsOf(wnd) : childrenOf(wnd)) {
         if (!::IsWindow(child)) // another's handler has destroyed it
             continue;
         CWnd* const object = FromHandlePermanent(child);
@@ -183,7 +197,5 @@ void PASCAL CWnd::SendMessageToDescendants(HWND wnd, UINT message, WPARAM wParam
             else if (object)
                 AfxCallWndProc(object, child, message, wParam, lParam);
         });
-        if (deep)
-            SendMessageToDescendants(child, message, wParam, lParam, deep, onlyPermanent);
     }
 }
