@@ -28,9 +28,9 @@ set(OVO_TEST_TIMEOUT 1500)
 # Seconds of the runs that take longest. They begin first, so that none of them goes on alone at the end; CTest knows that by itself
 # only in a folder where it has run them before.
 set(OVO_TEST_COSTS
-  test_soak=160 test_lives=100 test_toolbar=60 test_tree=55 test_gallery=45 test_lists=40 package=40 reproducible=35
-  test_update=35 test_files=35 test_colour=30 test_frame_plain=30 test_frame=30 test_testkit=25 test_colour.classic=25
-  test_colour.dpi144=25 test_frame.classic=20 test_mfc_wnd=15 test_mfc_cdlg=15 test_sliders=10 test_mfc_dlg=10)
+  test_lives=170 package=100 test_soak=90 test_gallery=80 test_faults=60 reproducible=55 test_tree=50 test_toolbar=40 test_lists=40
+  test_update=35 test_files=25 test_colour=25 test_frame=25 test_testkit=20 test_colour.classic=20 test_colour.dpi144=20
+  test_frame_plain=15 test_frame.classic=15 test_mfc_wnd=15 test_mfc_cdlg=15 test_sliders=10 test_mfc_dlg=10)
 
 # _ovo_set_cost(NAME): tells CTest how long the run takes, where that is known.
 function(_ovo_set_cost name)

@@ -1,36 +1,12 @@
-// COVOFileDialog: its end, and what it leaves behind.
+// COVOFileDialog: its end.
 #include "HostDialog.h"
 #include "resource.h"
 
-#include <testkit/GdiCounter.h>
 #include <testkit/ImportPatch.h>
-#include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
 
 using namespace ovo::testkit;
-
-TEST(FileDialogLife, LeavesNothingBehind)
-{
-    const TemporaryFiles files{L"a.txt"};
-    for (const Kind kind : {Kind::Classic, Kind::NewStyle}) {
-        SCOPED_TRACE(nameOf(kind));
-        const auto show = [&] {
-            HostDialog dialog(kind);
-            dialog.startIn(files.folder());
-            auto answering = whenAsked().key(VK_ESCAPE).start();
-            dialog.DoModal();
-        };
-        for (int i = 0; i < 3; ++i)
-            show(); // what the system keeps for good
-        const WindowCounter windows;
-        const GdiCounter gdi;
-        for (int i = 0; i < 100; ++i)
-            show();
-        EXPECT_EQ(windows.grown(), 0);
-        EXPECT_LE(gdi.grown(), 5);
-    }
-}
 
 TEST(FileDialogLife, EndsWithoutHavingBeenShown)
 {

@@ -2,7 +2,7 @@
 // controls: no crash, no exception but the documented ones, nothing left behind, and the next life is as good
 // as ever.
 //
-//   OVO_FAULT_LIVES=100 ./test_lives.exe --gtest_filter='*Faults*'     in up to so many lives, 3 by default
+//   OVO_FAULT_LIVES=100 ./test_faults.exe --gtest_filter='*Faults*'     in up to so many lives, 3 by default
 #include "Imports.h"
 #include "Leftovers.h"
 #include "Uses.h"

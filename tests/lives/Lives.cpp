@@ -382,8 +382,8 @@ const std::vector<Life>& lives()
 const std::vector<Life>& livesOfFileDialogs()
 {
     static const std::vector<Life> all{
-        Life{"FileDialog", 20, liveFileDialog<true>, livePlainFileDialog<true>},
-        Life{"ClassicFileDialog", 20, liveFileDialog<false>, livePlainFileDialog<false>},
-        Life{"FolderDialog", 20, liveFolderDialog, livePlainFolderDialog}};
+        Life{"FileDialog", 10, liveFileDialog<true>, livePlainFileDialog<true>},
+        Life{"ClassicFileDialog", 10, liveFileDialog<false>, livePlainFileDialog<false>},
+        Life{"FolderDialog", 10, liveFolderDialog, livePlainFolderDialog}};
     return all;
 }
