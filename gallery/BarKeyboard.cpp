@@ -81,8 +81,16 @@ void BarKeyboard::step(const Bars& bars)
     std::find_if(next, bars.end(), [](CControlBar* bar) { return giveFocus(*bar); });
 }
 
+bool BarKeyboard::isForBars(const MSG& message)
+{
+    return message.message == WM_SYSCHAR ||
+           (message.message == WM_KEYDOWN && (message.wParam == VK_ESCAPE || message.wParam == VK_TAB));
+}
+
 bool BarKeyboard::offer(const Bars& bars, MSG& message)
 {
+    if (!isForBars(message))
+        return false;
     const auto found = std::ranges::find_if(bars, &hasFocus);
     if (found == bars.end() || dynamic_cast<CVantorToolBar*>(*found)) // which has keys of its own
         return false;
@@ -92,8 +100,7 @@ bool BarKeyboard::offer(const Bars& bars, MSG& message)
         leave();
         return true;
     }
-    const bool letter = message.message == WM_SYSCHAR && hasLetter(bar, static_cast<wchar_t>(message.wParam));
-    return ((key && message.wParam == VK_TAB) || letter) && bar.IsDialogMessage(&message);
+    return (key || hasLetter(bar, static_cast<wchar_t>(message.wParam))) && bar.IsDialogMessage(&message);
 }
 
 void BarKeyboard::leave()

@@ -18,6 +18,9 @@ public:
     /// nothing to use are left out. Behind the last one the focus goes back to where it was before the first.
     void step(const Bars& bars);
 
+    /// Whether `offer` may do something with it, whatever bars there are.
+    static bool isForBars(const MSG& message);
+
     /// Where a bar with the controls of a template has the focus: Tab walks over them, the letter of a label
     /// leads to its control, Escape leads back. True when the message is done with.
     bool offer(const Bars& bars, MSG& message);

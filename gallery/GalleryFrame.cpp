@@ -197,7 +197,7 @@ BOOL GalleryFrame::PreTranslateMessage(MSG* message)
         return FALSE; // the keys belong to the modal box that is open
     if (CFrameWnd::PreTranslateMessage(message))
         return TRUE;
-    if (m_barKeyboard.offer(bars(), *message))
+    if (BarKeyboard::isForBars(*message) && m_barKeyboard.offer(bars(), *message))
         return TRUE;
     if (leavesText(*message)) {
         ::SetFocus(::GetNextDlgTabItem(m_hWnd, message->hwnd, ::GetKeyState(VK_SHIFT) < 0));
