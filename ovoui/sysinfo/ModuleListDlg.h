@@ -21,7 +21,8 @@ struct ModuleOrder;
 /// A click on a heading sorts, another one turns the order round; the filter leaves the modules that hold all
 /// of its words. Modules without a version record or from other folders than the program's and the system's
 /// have a remark and another colour. The user copies what the list shows as text with tabs, as a Markdown
-/// table or as JSON: the selected modules, or all when none is selected.
+/// table or as JSON: the selected modules, or all when none is selected. For that the host has called
+/// AfxOleInit.
 class OVOUI_API CModuleListDlg : public COVOModalDialog
 {
     DECLARE_DYNAMIC(CModuleListDlg)

@@ -17,8 +17,8 @@ class StretchedControls;
 }
 
 /// The text has a line for each module: name, address, size, link time, versions, type, path and description,
-/// with tabs between them. It is made anew whenever the dialog is shown. The user can copy it, and make the
-/// dialog larger.
+/// with tabs between them. It is made anew whenever the dialog is shown. The user can copy it, for which the
+/// host has called AfxOleInit, and make the dialog larger.
 class OVOUI_API CSystemInfoDlg : public COVOModalDialog
 {
     DECLARE_DYNCREATE(CSystemInfoDlg)
