@@ -1,5 +1,5 @@
-/// Colours as numbers, and their conversions between red/green/blue, hue/lightness/saturation,
-/// hue/saturation/ value and the platform's integers.
+/// Colours as numbers, and their conversions between red, green and blue; hue, lightness and saturation; hue,
+/// saturation and value; and the platform's integers.
 ///
 ///     const Colour warm = Colour::hls(Angle::degrees(30), 0.5, 1.0);
 ///     dc.SetTextColor(warm.colorref());
@@ -22,18 +22,15 @@ public:
     /// The same with alpha `a`.
     static Colour rgba(double r, double g, double b, double a);
 
-    /// From a hue, and a lightness and saturation from 0 to 1.
-    /// The colour has no alpha.
+    /// From a hue, and a lightness and saturation from 0 to 1. The colour has no alpha.
     static Colour hls(Angle hue, double lightness, double saturation);
     /// The same with alpha `a`.
     static Colour hlsa(Angle hue, double lightness, double saturation, double a);
 
-    /// From a hue, and a saturation and value from 0 to 1.
-    /// `a` is its alpha.
+    /// From a hue, and a saturation and value from 0 to 1, with alpha `a`.
     static Colour hsva(Angle hue, double saturation, double value, double a);
 
-    /// From a COLORREF, 0x00bbggrr. The colour has no alpha; the highest byte is ignored.
-    /// `value` is not limited to colours of a palette.
+    /// From a COLORREF, `value`, 0x00bbggrr. The colour has no alpha; the highest byte is ignored.
     static Colour colorref(unsigned long value);
 
     /// Red.

@@ -1,4 +1,4 @@
-/// The error for results that do not fit 32 bits.
+/// The error for numbers that do not fit the type that has to hold them.
 #pragma once
 
 #include <ovocor/OvoError.h>
