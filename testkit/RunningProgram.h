@@ -21,8 +21,8 @@ public:
     using Limit = std::chrono::milliseconds;
     static constexpr Limit kPatience{20000}; ///< unless a test says otherwise
 
-    /// `name`: the file beside the tests, without its ending. `arguments` stand behind it on
-    /// the command line. Waits until the program shows its main window.
+    /// `name`: the file beside the tests, or the path of another one, without its ending. `arguments` stand
+    /// behind it on the command line. Waits until the program shows its main window.
     explicit RunningProgram(const std::wstring& name, const std::wstring& arguments = L"");
     ~RunningProgram();
     RunningProgram(const RunningProgram&) = delete;
