@@ -277,7 +277,7 @@ class PaletteApp : public CWinApp
     BOOL InitInstance() override
     try {
         SetRegistryKey(L"ovoui examples");
-        AfxOleInit(); // for the clipboard
+        AfxOleInit(); // COM, for accessibility
         const CGdiPlusSession gdiPlus;
         PaletteEditor(*this, __argc > 1 ? readPalette(__wargv[1]) : firstPalette()).DoModal();
         return FALSE;
