@@ -33,10 +33,10 @@ public:
     /// A text below the box, of any length, which the user shows and hides by a button.
     void SetDetails(std::wstring text);
 
-    /// A check box; when it is checked, the answer is kept in the application's profile, section "answers",
-    /// under this entry, and DoModal gives it from then on without showing the box. IDCANCEL is never kept,
-    /// and an answer is given only while the box has a button for it. An empty label gives "Do not show this
-    /// message again".
+    /// A check box with this `label`; when it is checked, the answer is kept in the application's profile,
+    /// section "answers", under this `entry`, and DoModal gives it from then on without showing the box.
+    /// IDCANCEL is never kept, and an answer is given only while the box has a button for it. An empty label
+    /// gives "Do not show this message again".
     void OfferNotToAsk(std::wstring entry, std::wstring label = {});
 
     /// Presses the default button after so many seconds, at most a day, which its label counts. A key or a

@@ -61,16 +61,17 @@ protected:
 
     // What makes a slider another one than a cylinder
 
-    /// The angle under the pointer at a client `point`. `pressed` when a drag begins with it.
+    /// The angle in degrees under the pointer at a client `point`. `pressed` when a drag begins with it.
     virtual double angleAt(CPoint point, bool pressed);
     /// What the user's angle `degrees` is limited to: nothing but the turn.
     virtual double limited(double degrees) const;
-    /// Paints all of the `client` area on `dc`; `shown` is the angle to be seen.
+    /// Paints all of the `client` area on `dc`; `shown` is the angle to be seen, in degrees.
     virtual void paintBody(CDC& dc, const CRect& client, double shown);
     /// Whether a click without a movement nudges the slider. It does at first.
     void useClicks(bool nudge);
 
-    /// Draws on `dc` over the `cylinder` of an enabled slider: nothing. `shown` is the angle to be seen.
+    /// Draws on `dc` over the `cylinder` of an enabled slider: nothing. `shown` is the angle to be seen, in
+    /// degrees.
     virtual void drawOnCylinder(CDC& dc, const CRect& cylinder, double shown);
 
     afx_msg void OnCaptureChanged(CWnd* wnd);

@@ -90,8 +90,8 @@ public:
 
 protected:
     UINT m_tipDelay;     ///< in milliseconds, until the first tip is shown
-    UINT m_nextTipDelay; ///< until one is shown after it
-    UINT m_tipTime;      ///< how long a tip stays
+    UINT m_nextTipDelay; ///< in milliseconds, until one is shown after it
+    UINT m_tipTime;      ///< in milliseconds, how long a tip stays
 
     afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnTimer(UINT_PTR id);

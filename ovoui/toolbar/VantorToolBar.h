@@ -157,17 +157,17 @@ public:
 
     // Layout, in pixels
 
-    /// The bar's height while it is horizontal, borders included; 0 follows the buttons.
+    /// The bar's height in pixels while it is horizontal, borders included; 0 follows the buttons.
     void SetHeight(int height);
 
-    /// The size of `count` `buttons` in rows that are broken where TBSTATE_WRAP says.
+    /// The size in pixels of `count` `buttons` in rows that are broken where TBSTATE_WRAP says.
     CSize calcSize(const TBBUTTON* buttons, int count) const;
     /// Breaks the rows of `count` buttons, in `buttons` only, so that they are no wider, or with `vertical`
-    /// no higher, than `length`.
+    /// no higher, than `length` in pixels.
     void sizeToolBar(TBBUTTON* buttons, int count, int length, bool vertical = false) const;
-    /// The bar's size for the LM_ bits of `mode`. Without a `length`, or with LM_COMMIT, the bar takes this
-    /// layout on: rows are broken, embedded controls moved to their places, and hidden while the bar is
-    /// vertical.
+    /// The bar's size in pixels for the LM_ bits of `mode`. Without a `length`, or with LM_COMMIT, the bar
+    /// takes this layout on: rows are broken, embedded controls moved to their places, and hidden while the
+    /// bar is vertical.
     CSize calcLayout(DWORD mode, int length = -1);
     CSize CalcFixedLayout(BOOL stretch, BOOL horizontal) override;
     CSize CalcDynamicLayout(int length, DWORD mode) override;
