@@ -100,7 +100,8 @@ public:
     void SetItemColour(int item, DWORD colour);
     /// The image of the item `item`, of the list of images, or -1 for none.
     void SetItemImage(int item, int image);
-    /// The list that `image` of SetItemImage counts in: the host's, which keeps it alive; null for none.
+    /// The list that `image` of SetItemImage counts in: the host's, which keeps it alive; null for none. The
+    /// items of the list are at least as high as its images, also when it is set before the window is made.
     void SetImageList(CImageList* images);
 
     BOOL PreTranslateMessage(MSG* pMsg) override;

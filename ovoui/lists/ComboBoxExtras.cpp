@@ -17,6 +17,7 @@ namespace
 {
 
 constexpr UINT kWithFocusToo = TRUE;
+constexpr auto kField = static_cast<UINT>(-1); ///< in place of an item's number
 
 } // namespace
 
@@ -265,9 +266,10 @@ int COVOComboBox::listItemHeight()
     return m_items->heightFor(dc);
 }
 
+/// The platform measures the field, too, which shows texts only.
 void COVOComboBox::MeasureItem(LPMEASUREITEMSTRUCT item)
 {
-    if (m_items->asked)
+    if (m_items->asked && item->itemID != kField)
         item->itemHeight = static_cast<UINT>(listItemHeight());
 }
 
