@@ -622,6 +622,23 @@ TEST(ListDraw, CellsFollowTheirHeadingsWhenTheHostAsksForIt)
     scene.expectRow(0, facts);
 }
 
+TEST(ListDraw, CellsThatFollowTheirHeadingsMoveAtOnce)
+{
+    ListScene scene;
+    scene.fill({100, 80}, 2);
+    int order[] = {1, 0};
+    scene.list.SetColumnOrderArray(2, order);
+    scene.show();
+    for (const bool follow : {true, false}) {
+        GuiThread::settle();
+        scene.list.drawn.clear();
+        scene.list.FollowColumnOrder(follow);
+        GuiThread::settle();
+        for (const int row : {0, 1})
+            EXPECT_GT(std::ranges::count(scene.list.drawn, row), 0) << follow;
+    }
+}
+
 namespace
 {
 
