@@ -122,6 +122,7 @@ protected:
     afx_msg LRESULT OnAddItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnResetItems(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnFont(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -163,6 +164,7 @@ private:
     template <class Change, class IndexAfter>
     void changeItems(const Change& change, const IndexAfter& indexAfter);
     void drawItems();
+    void setListItemHeight();
     int listItemHeight();
     void drawListItem(const DRAWITEMSTRUCT& draw, int item, const std::wstring& foldedFound);
 

@@ -219,17 +219,31 @@ void COVOComboBox::SetItemImage(int item, int image)
 void COVOComboBox::SetImageList(CImageList* images)
 {
     m_items->images = images;
-    m_items->asked = false; // the height is another one now
-    drawItems();
+    m_items->asked = true;
+    setListItemHeight();
 }
 
 /// From now on the control draws the items, and not the host.
 void COVOComboBox::drawItems()
 {
-    if (std::exchange(m_items->asked, true) || !m_hWnd)
-        return;
-    if (GetStyle() & CBS_OWNERDRAWFIXED)
+    if (!std::exchange(m_items->asked, true))
+        setListItemHeight();
+}
+
+void COVOComboBox::setListItemHeight()
+{
+    if (m_hWnd && (GetStyle() & CBS_OWNERDRAWFIXED))
         SetItemHeight(0, static_cast<UINT>(listItemHeight()));
+}
+
+/// The platform leaves the height of items that it does not draw alone.
+LRESULT COVOComboBox::OnFont(WPARAM, LPARAM)
+{
+    const Lifeline::Watch watch(*this);
+    const LRESULT result = Default();
+    if (watch.alive() && m_items->asked)
+        setListItemHeight();
+    return result;
 }
 
 LRESULT COVOComboBox::OnAddItem(WPARAM, LPARAM)

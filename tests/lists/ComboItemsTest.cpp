@@ -121,6 +121,28 @@ TEST(ComboItemLooks, TheHeightIsThatOfTheImagesOfNow)
     EXPECT_EQ(scene.combo.GetItemHeight(0), without);
 }
 
+TEST(ComboItemLooks, TheHeightIsThatOfTheFontOfNow)
+{
+    CFont font;
+    font.CreatePointFont(400, L"Tahoma");
+    ComboScene scene({L"leaf"}, kOwnerDrawn);
+    scene.combo.SetItemColour(0, kOpaque | kGreen);
+    const int before = scene.combo.GetItemHeight(0);
+    scene.combo.SetFont(&font);
+    EXPECT_GE(scene.combo.GetItemHeight(0), 40);
+    scene.combo.SetFont(nullptr);
+    EXPECT_EQ(scene.combo.GetItemHeight(0), before);
+
+    // Where the host draws, it is the host's.
+    COVOComboBox hosts;
+    CComboBox platforms;
+    hosts.Create(WS_CHILD | kOwnerDrawn, CRect(220, 10, 390, 160), &scene.parent, 33);
+    platforms.Create(WS_CHILD | kOwnerDrawn, CRect(220, 10, 390, 160), &scene.parent, 34);
+    for (CComboBox* const combo : {static_cast<CComboBox*>(&hosts), &platforms})
+        combo->SetFont(&font);
+    EXPECT_EQ(hosts.GetItemHeight(0), platforms.GetItemHeight(0));
+}
+
 TEST(ComboItemLooks, ImagesThatAreThereBeforeTheWindowMakeItemsAsHighAndNotTheField)
 {
     CImageList images;

@@ -83,6 +83,18 @@ TEST(ComboSearch, OffAtFirstAndOffAgain)
     EXPECT_FALSE(hitsWindow());
 }
 
+TEST(ComboSearch, ItemsWithoutTextsAreNoHits)
+{
+    ComboScene scene({}, CBS_DROPDOWN | CBS_OWNERDRAWFIXED);
+    // Such an item is a number of the host's, here with the bytes of letters.
+    scene.combo.AddString(reinterpret_cast<LPCWSTR>(0x0062006200620062));
+    scene.combo.SearchInside(true);
+    scene.enter();
+    scene.robot.type(L"b");
+    EXPECT_EQ(scene.text(), L"b");
+    EXPECT_FALSE(hitsWindow());
+}
+
 TEST_F(ComboSearching, ShowsTheItemsThatHaveTheTextAnywhere)
 {
     scene.robot.type(L"ERR");

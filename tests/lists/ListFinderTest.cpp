@@ -248,6 +248,7 @@ TEST_F(ListFinding, WithoutTheHelperLettersGoToThePlatform)
     robot.type(L"hill");
     EXPECT_EQ(selected(), Rows{}) << "no row's label begins so";
     EXPECT_FALSE(finder.Find(L"hill"));
+    EXPECT_FALSE(finder.Find(L"")) << "there is no search to end";
 }
 
 TEST_F(ListFinding, DetachingEndsTheSearch)
