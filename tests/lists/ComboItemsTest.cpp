@@ -318,3 +318,9 @@ TEST(ComboCue, ShowsWhileTheFieldIsEmpty)
     scene.setText(L"");
     EXPECT_EQ(greyPixels(), 0);
 }
+
+TEST(ComboCue, ThereIsNoneWithoutAField)
+{
+    ComboScene scene({L"fir"}, CBS_DROPDOWNLIST);
+    EXPECT_FALSE(scene.combo.CueText(L"A plant"));
+}
