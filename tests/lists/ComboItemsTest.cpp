@@ -178,9 +178,18 @@ TEST(ComboItemLooks, TheTextStandsInTheMiddleOfAHighItem)
 
 TEST(ComboItemLooks, AnAmpersandIsACharacter)
 {
-    ComboScene scene({L"&"}, kOwnerDrawn);
-    scene.combo.SetItemImage(0, -1);
-    EXPECT_GT(firstItem(scene, 20, 0).count(::GetSysColor(COLOR_WINDOWTEXT)), 0);
+    const auto endOf = [](const wchar_t* text) {
+        ComboScene scene({text}, kOwnerDrawn);
+        scene.combo.SetItemImage(0, -1);
+        const Picture item = firstItem(scene, 20, 0);
+        int x = item.width();
+        while (x > 0 && item.count(::GetSysColor(COLOR_WINDOWTEXT), 0, CRect(x - 1, 0, x, 20)) == 0)
+            --x;
+        return x;
+    };
+    const int without = endOf(L"MM");
+    ASSERT_GT(without, 0);
+    EXPECT_GE(endOf(L"M&M"), without + 4);
 }
 
 TEST(ComboItemLooks, AnotherWindowHasOtherItems)
