@@ -30,6 +30,7 @@ BEGIN_MESSAGE_MAP(COVOComboBox, CComboBox)
     ON_MESSAGE(CB_INSERTSTRING, &COVOComboBox::OnAddItem)
     ON_MESSAGE(CB_DELETESTRING, &COVOComboBox::OnDeleteItem)
     ON_MESSAGE(CB_RESETCONTENT, &COVOComboBox::OnResetItems)
+    ON_MESSAGE(WM_SETFONT, &COVOComboBox::OnFont)
 END_MESSAGE_MAP()
 
 namespace
@@ -276,7 +277,9 @@ void COVOComboBox::OnEditUpdate()
     const Lifeline::Watch watch(*this);
     const std::wstring typed = m_search ? editText() : std::wstring();
     m_editedInList = true;
-    if (m_autoComplete && m_completionAllowed && itemsHaveTexts())
+    if (!itemsHaveTexts())
+        return;
+    if (m_autoComplete && m_completionAllowed)
         complete();
     if (watch.alive() && m_search && m_keyed && !GetDroppedState())
         m_search->typed(typed);

@@ -100,7 +100,8 @@ public:
     void SetItemColour(int item, DWORD colour);
     /// The image of the item `item`, of the list of images, or -1 for none.
     void SetItemImage(int item, int image);
-    /// The list that `image` of SetItemImage counts in: the host's, which keeps it alive; null for none.
+    /// The list that `image` of SetItemImage counts in: the host's, which keeps it alive; null for none. The
+    /// items of the list are at least as high as its images, also when it is set before the window is made.
     void SetImageList(CImageList* images);
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
@@ -121,6 +122,7 @@ protected:
     afx_msg LRESULT OnAddItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnResetItems(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnFont(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -162,6 +164,7 @@ private:
     template <class Change, class IndexAfter>
     void changeItems(const Change& change, const IndexAfter& indexAfter);
     void drawItems();
+    void setListItemHeight();
     int listItemHeight();
     void drawListItem(const DRAWITEMSTRUCT& draw, int item, const std::wstring& foldedFound);
 

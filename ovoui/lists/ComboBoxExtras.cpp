@@ -17,6 +17,7 @@ namespace
 {
 
 constexpr UINT kWithFocusToo = TRUE;
+constexpr auto kField = static_cast<UINT>(-1); ///< in place of an item's number
 
 } // namespace
 
@@ -218,17 +219,31 @@ void COVOComboBox::SetItemImage(int item, int image)
 void COVOComboBox::SetImageList(CImageList* images)
 {
     m_items->images = images;
-    m_items->asked = false; // the height is another one now
-    drawItems();
+    m_items->asked = true;
+    setListItemHeight();
 }
 
 /// From now on the control draws the items, and not the host.
 void COVOComboBox::drawItems()
 {
-    if (std::exchange(m_items->asked, true) || !m_hWnd)
-        return;
-    if (GetStyle() & CBS_OWNERDRAWFIXED)
+    if (!std::exchange(m_items->asked, true))
+        setListItemHeight();
+}
+
+void COVOComboBox::setListItemHeight()
+{
+    if (m_hWnd && (GetStyle() & CBS_OWNERDRAWFIXED))
         SetItemHeight(0, static_cast<UINT>(listItemHeight()));
+}
+
+/// The platform leaves the height of items that it does not draw alone.
+LRESULT COVOComboBox::OnFont(WPARAM, LPARAM)
+{
+    const Lifeline::Watch watch(*this);
+    const LRESULT result = Default();
+    if (watch.alive() && m_items->asked)
+        setListItemHeight();
+    return result;
 }
 
 LRESULT COVOComboBox::OnAddItem(WPARAM, LPARAM)
@@ -265,9 +280,10 @@ int COVOComboBox::listItemHeight()
     return m_items->heightFor(dc);
 }
 
+/// The platform measures the field, too, which shows texts only.
 void COVOComboBox::MeasureItem(LPMEASUREITEMSTRUCT item)
 {
-    if (m_items->asked)
+    if (m_items->asked && item->itemID != kField)
         item->itemHeight = static_cast<UINT>(listItemHeight());
 }
 

@@ -28,7 +28,6 @@ BEGIN_MESSAGE_MAP(HitList, CListBox)
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
     ON_WM_MOUSEMOVE()
-    ON_WM_MOUSEACTIVATE()
 END_MESSAGE_MAP()
 
 void HitList::DrawItem(LPDRAWITEMSTRUCT item)
@@ -62,11 +61,6 @@ void HitList::OnMouseMove(UINT, CPoint point)
     const int item = itemAt(point);
     if (item != -1 && item != GetCurSel())
         SetCurSel(item);
-}
-
-int HitList::OnMouseActivate(CWnd*, UINT, UINT)
-{
-    return MA_NOACTIVATE;
 }
 
 // The window
@@ -125,6 +119,7 @@ LRESULT CALLBACK ComboHits::topProcedure(HWND window, UINT message, WPARAM wPara
     return ::DefSubclassProc(window, message, wParam, lParam);
 }
 
+/// The list asks it, too.
 int ComboHits::OnMouseActivate(CWnd*, UINT, UINT)
 {
     return MA_NOACTIVATE;

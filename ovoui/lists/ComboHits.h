@@ -24,7 +24,6 @@ protected:
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
-    afx_msg int OnMouseActivate(CWnd* top, UINT hitTest, UINT message);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -111,14 +111,16 @@ std::wstring COVOListCellTips::cutText(const Cell& cell, CRect& textPlace) const
     return shown == text ? std::wstring() : text;
 }
 
+/// The pointer may have moved on, or the list been left, when the host has given the text.
 void COVOListCellTips::show(const Cell& cell)
 {
     CRect place;
     const Lifeline::Watch watch(m_lifeline);
+    const HWND window = m_window;
     const std::wstring text = cutText(cell, place);
-    if (!watch.alive())
+    if (!watch.alive() || m_window != window || m_cell != cell)
         return;
-    if (text.empty() || !m_list || !m_tip->create(m_window, ovoui::frame::Tip::Tool::Owner))
+    if (text.empty() || !m_tip->create(m_window, ovoui::frame::Tip::Tool::Owner))
         return;
     // The tip's text lies over the cell's.
     m_list->ClientToScreen(&place);

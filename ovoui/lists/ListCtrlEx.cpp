@@ -281,7 +281,7 @@ void COVOListCtrlEx::OnKillFocus(CWnd* pNewWnd)
 /// Whether a window is a child of this list, such as the editor of a label.
 bool COVOListCtrlEx::isOurs(const CWnd* window) const
 {
-    return window && ::IsWindow(window->GetSafeHwnd()) && ::GetParent(window->GetSafeHwnd()) == m_hWnd;
+    return window && ::GetParent(window->m_hWnd) == m_hWnd;
 }
 
 void COVOListCtrlEx::repaintSelectionUnless(bool inOurChild)

@@ -131,15 +131,13 @@ void ListRowPainter::fillRow(const frame::Box& row)
     fill(row);
 }
 
-/// Where other cells lie before or behind the label, the row reaches from the first to the last one shown.
+/// Other cells may lie before the label: the row begins with the first one shown.
 frame::Box ListRowPainter::rowBoxOf(const frame::Box& label) const
 {
     frame::Box row = rowBox(itemBox(m_list, m_index, LVIR_BOUNDS), label, m_look.clientWidth);
     const CHeaderCtrl* const header = m_look.followsOrder ? m_list.GetHeaderCtrl() : nullptr;
-    if (!header)
-        return row;
-    row.left = cellOf(header->OrderToIndex(0), 0, label).left;
-    row.right = std::max(row.right, cellOf(header->OrderToIndex(header->GetItemCount() - 1), 0, label).right);
+    if (header)
+        row.left = cellOf(header->OrderToIndex(0), 0, label).left;
     return row;
 }
 

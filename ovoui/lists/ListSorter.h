@@ -48,8 +48,9 @@ public:
     /// Makes a column's kind Custom.
     void SetCompare(int column, Compare compare);
 
-    /// Sorts by a `column`, the least row first if `ascending`. False when there is no list, no such column,
-    /// or rows came or went during a comparison of the host's.
+    /// Sorts by a `column`, the least row first if `ascending`. False when there is no list or no such
+    /// column, when the list has LVS_OWNERDATA, and when rows came or went, or the list was left, while the
+    /// host was asked or told.
     bool Sort(int column, bool ascending);
 
     int Column() const { return m_column; } ///< -1 before the first sorting

@@ -67,8 +67,8 @@ std::vector<int> placesByNumber(const std::vector<SortRow>& rows)
     constexpr int kNone = -1;
     std::vector<int> places(rows.size(), kNone);
     for (const SortRow& row : rows) {
-        const auto at = static_cast<std::size_t>(row.data);
-        if (row.data < 0 || at >= places.size() || places[at] != kNone)
+        const auto at = static_cast<std::size_t>(row.data); // behind all rows when the data is negative
+        if (at >= places.size() || places[at] != kNone)
             return {};
         places[at] = row.place;
     }

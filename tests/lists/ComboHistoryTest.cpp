@@ -160,6 +160,43 @@ TEST_F(ComboRemembering, RejectedTextsDoNotCount)
     EXPECT_EQ(inProfile(), Texts{});
 }
 
+TEST_F(ComboRemembering, AnEmptyTextThatIsAcceptedIsNotKept)
+{
+    ComboScene scene{L"fir"};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene);
+    scene.enter();
+    scene.robot.key(VK_RETURN);
+    EXPECT_EQ(scene.take(), (Heard{"SELCHANGE", "SELENDOK"}));
+    EXPECT_EQ(items(scene), Texts{L"fir"});
+    EXPECT_EQ(inProfile(), Texts{});
+}
+
+TEST_F(ComboRemembering, ALimitOf0KeepsNothing)
+{
+    ComboScene scene{L"fir", L"ash"};
+    keep(scene, 0);
+    scene.enter();
+    accept(scene, L"ash");
+    EXPECT_EQ(scene.combo.GetCurSel(), 1);
+    EXPECT_EQ(items(scene), (Texts{L"fir", L"ash"}));
+    EXPECT_EQ(inProfile(), Texts{});
+}
+
+TEST_F(ComboRemembering, TextsThatDifferInCaseOnlyAreToldApart)
+{
+    ComboScene scene{L"fir", L"Oak", L"oak"};
+    scene.combo.AutoComplete(false); // it would take the one that is there
+    scene.combo.ConfirmAnyText(true);
+    keep(scene);
+    scene.enter();
+    accept(scene, L"oak");
+    EXPECT_EQ(items(scene), (Texts{L"oak", L"fir", L"Oak"}));
+    accept(scene, L"OAK");
+    EXPECT_EQ(items(scene), (Texts{L"OAK", L"oak", L"fir", L"Oak"}));
+    EXPECT_EQ(inProfile(), (Texts{L"OAK", L"oak"}));
+}
+
 TEST_F(ComboRemembering, WhatHasNoRoomGoes)
 {
     ComboScene scene{L"fir", L"ash"};
@@ -213,6 +250,43 @@ TEST_F(ComboRemembering, DelInTheOpenListForgets)
     EXPECT_EQ(scene.text(), L"oak") << "the next one is selected";
     scene.robot.key(VK_DELETE).key(VK_DELETE);
     EXPECT_EQ(items(scene), (Texts{L"yew", L"fir"})) << "an item of the host's is not removed";
+}
+
+TEST_F(ComboRemembering, AfterTheLastItemIsForgottenTheOneBeforeIsSelected)
+{
+    ComboScene scene{};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene);
+    scene.enter();
+    accept(scene, L"oak");
+    accept(scene, L"elm");
+    scene.robot.moveTo(Spot{scene.button}).key(VK_F4).key(VK_DOWN);
+    ASSERT_EQ(scene.text(), L"oak");
+    scene.robot.key(VK_DELETE);
+    EXPECT_EQ(items(scene), Texts{L"elm"});
+    EXPECT_EQ(scene.text(), L"elm");
+    EXPECT_EQ(scene.combo.GetCurSel(), 0);
+    scene.robot.key(VK_DELETE);
+    EXPECT_EQ(items(scene), Texts{});
+    EXPECT_EQ(scene.text(), L"");
+}
+
+TEST_F(ComboRemembering, EscapeBringsBackATextThatWasForgottenMeanwhile)
+{
+    ComboScene scene{};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene);
+    scene.enter();
+    accept(scene, L"elm");
+    accept(scene, L"oak");
+    accept(scene, L"oak"); // the item, now that it is one
+    ASSERT_EQ(scene.combo.GetCurSel(), 0);
+    scene.robot.moveTo(Spot{scene.button}).key(VK_F4).key(VK_DELETE);
+    ASSERT_EQ(items(scene), Texts{L"elm"});
+    ASSERT_EQ(scene.text(), L"elm");
+    scene.robot.key(VK_ESCAPE);
+    EXPECT_EQ(scene.text(), L"oak");
+    EXPECT_EQ(scene.combo.GetCurSel(), -1);
 }
 
 TEST_F(ComboRemembering, DelForgetsNoTextThatIsBeingEdited)

@@ -25,6 +25,22 @@ Picture openList(ComboScene& scene)
     return Picture::ofClient(scene.listBox());
 }
 
+/// The first item as it is drawn, 120 pixels wide.
+Picture firstItem(ComboScene& scene, int height, UINT state)
+{
+    Picture picture(120, height);
+    DRAWITEMSTRUCT draw{};
+    draw.CtlType = ODT_COMBOBOX;
+    draw.itemState = state;
+    draw.hDC = picture.dc();
+    draw.hwndItem = scene.combo;
+    draw.rcItem = {0, 0, 120, height};
+    const HGDIOBJ old = ::SelectObject(picture.dc(), scene.combo.GetFont()->GetSafeHandle());
+    scene.parent.SendMessage(WM_DRAWITEM, 21, reinterpret_cast<LPARAM>(&draw));
+    ::SelectObject(picture.dc(), old);
+    return picture;
+}
+
 CRect itemRect(ComboScene& scene, int item)
 {
     CRect rect;
@@ -90,6 +106,108 @@ TEST(ComboItemLooks, ItemsAreAsHighAsTheirImages)
     const Picture list = openList(scene);
     EXPECT_GE(itemRect(scene, 0).Height(), 40);
     EXPECT_EQ(list.count(kGreen, 0, itemRect(scene, 0)), 36 * 36);
+}
+
+TEST(ComboItemLooks, TheHeightIsThatOfTheImagesOfNow)
+{
+    CImageList images;
+    fillImages(images, 40, {kGreen});
+    ComboScene scene({L"leaf"}, kOwnerDrawn);
+    scene.combo.SetItemColour(0, kOpaque | kGreen);
+    const int without = scene.combo.GetItemHeight(0);
+    scene.combo.SetImageList(&images);
+    EXPECT_GE(scene.combo.GetItemHeight(0), 40);
+    scene.combo.SetImageList(nullptr);
+    EXPECT_EQ(scene.combo.GetItemHeight(0), without);
+}
+
+TEST(ComboItemLooks, TheHeightIsThatOfTheFontOfNow)
+{
+    CFont font;
+    font.CreatePointFont(400, L"Tahoma");
+    ComboScene scene({L"leaf"}, kOwnerDrawn);
+    scene.combo.SetItemColour(0, kOpaque | kGreen);
+    const int before = scene.combo.GetItemHeight(0);
+    scene.combo.SetFont(&font);
+    EXPECT_GE(scene.combo.GetItemHeight(0), 40);
+    scene.combo.SetFont(nullptr);
+    EXPECT_EQ(scene.combo.GetItemHeight(0), before);
+
+    // Where the host draws, it is the host's.
+    COVOComboBox hosts;
+    CComboBox platforms;
+    hosts.Create(WS_CHILD | kOwnerDrawn, CRect(220, 10, 390, 160), &scene.parent, 33);
+    platforms.Create(WS_CHILD | kOwnerDrawn, CRect(220, 10, 390, 160), &scene.parent, 34);
+    for (CComboBox* const combo : {static_cast<CComboBox*>(&hosts), &platforms})
+        combo->SetFont(&font);
+    EXPECT_EQ(hosts.GetItemHeight(0), platforms.GetItemHeight(0));
+}
+
+TEST(ComboItemLooks, ImagesThatAreThereBeforeTheWindowMakeItemsAsHighAndNotTheField)
+{
+    CImageList images;
+    fillImages(images, 40, {kGreen});
+    ComboScene scene({L"leaf"}, kOwnerDrawn);
+    const int field = scene.combo.GetItemHeight(-1);
+    scene.combo.SetImageList(&images);
+    COVOComboBox early;
+    early.SetImageList(&images);
+    early.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | kOwnerDrawn, CRect(220, 10, 390, 160), &scene.parent,
+                 33);
+    EXPECT_EQ(early.GetItemHeight(0), scene.combo.GetItemHeight(0));
+    EXPECT_EQ(early.GetItemHeight(-1), field) << "it shows the text only";
+    EXPECT_EQ(scene.combo.GetItemHeight(-1), field);
+}
+
+TEST(ComboItemLooks, TheTextStandsInTheMiddleOfAHighItem)
+{
+    ComboScene scene({L"MMM"}, kOwnerDrawn);
+    scene.combo.SetItemImage(0, -1);
+    constexpr int kHeight = 60;
+    const Picture item = firstItem(scene, kHeight, 0);
+    int ink = 0;
+    int sum = 0;
+    for (int y = 0; y < kHeight; ++y) {
+        const int here = item.count(::GetSysColor(COLOR_WINDOWTEXT), 0, CRect(0, y, 120, y + 1));
+        ink += here;
+        sum += here * y;
+    }
+    ASSERT_GT(ink, 0);
+    EXPECT_NEAR(sum / ink, kHeight / 2, 5);
+}
+
+TEST(ComboItemLooks, AnAmpersandIsACharacter)
+{
+    const auto endOf = [](const wchar_t* text) {
+        ComboScene scene({text}, kOwnerDrawn);
+        scene.combo.SetItemImage(0, -1);
+        const Picture item = firstItem(scene, 20, 0);
+        int x = item.width();
+        while (x > 0 && item.count(::GetSysColor(COLOR_WINDOWTEXT), 0, CRect(x - 1, 0, x, 20)) == 0)
+            --x;
+        return x;
+    };
+    const int without = endOf(L"MM");
+    ASSERT_GT(without, 0);
+    EXPECT_GE(endOf(L"M&M"), without + 4);
+}
+
+TEST(ComboItemLooks, AnotherWindowHasOtherItems)
+{
+    ComboScene scene({L"MMM"}, kOwnerDrawn);
+    scene.combo.SetItemImage(0, -1);
+    const auto reachesTheLeft = [&] {
+        return firstItem(scene, 20, 0).count(::GetSysColor(COLOR_WINDOWTEXT), 0, CRect(0, 0, 12, 20)) > 0;
+    };
+    ASSERT_TRUE(reachesTheLeft());
+    scene.combo.SetItemColour(0, kOpaque | kRed);
+    ASSERT_FALSE(reachesTheLeft()) << "the swatch stands there";
+    scene.combo.DestroyWindow();
+    scene.combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | kOwnerDrawn, CRect(10, 10, 210, 160),
+                       &scene.parent, 21);
+    scene.combo.AddString(L"MMM");
+    EXPECT_TRUE(reachesTheLeft()) << "none of these items has a colour";
+    EXPECT_EQ(firstItem(scene, 20, 0).count(kRed), 0);
 }
 
 TEST(ComboItemLooks, StayWithTheirItems)
@@ -176,16 +294,7 @@ TEST(ComboItemLooks, TextsOfADisabledListAreGrey)
     ComboScene scene({L"MMM"}, kOwnerDrawn);
     scene.combo.SetItemColour(0, kOpaque | kGreen);
     for (const UINT state : {0u, UINT{ODS_SELECTED}, UINT{ODS_DISABLED}}) {
-        Picture picture(120, 20);
-        DRAWITEMSTRUCT draw{};
-        draw.CtlType = ODT_COMBOBOX;
-        draw.itemState = state;
-        draw.hDC = picture.dc();
-        draw.hwndItem = scene.combo;
-        draw.rcItem = {0, 0, 120, 20};
-        const HGDIOBJ old = ::SelectObject(picture.dc(), scene.combo.GetFont()->GetSafeHandle());
-        scene.parent.SendMessage(WM_DRAWITEM, 21, reinterpret_cast<LPARAM>(&draw));
-        ::SelectObject(picture.dc(), old);
+        const Picture picture = firstItem(scene, 20, state);
         const CRect text(45, 0, 120, 20);
         const int colour = state == ODS_DISABLED   ? COLOR_GRAYTEXT
                            : state == ODS_SELECTED ? COLOR_HIGHLIGHTTEXT
@@ -217,4 +326,10 @@ TEST(ComboCue, ShowsWhileTheFieldIsEmpty)
     EXPECT_TRUE(scene.combo.CueText(L""));
     scene.setText(L"");
     EXPECT_EQ(greyPixels(), 0);
+}
+
+TEST(ComboCue, ThereIsNoneWithoutAField)
+{
+    ComboScene scene({L"fir"}, CBS_DROPDOWNLIST);
+    EXPECT_FALSE(scene.combo.CueText(L"A plant"));
 }

@@ -83,6 +83,18 @@ TEST(ComboSearch, OffAtFirstAndOffAgain)
     EXPECT_FALSE(hitsWindow());
 }
 
+TEST(ComboSearch, ItemsWithoutTextsAreNoHits)
+{
+    ComboScene scene({}, CBS_DROPDOWN | CBS_OWNERDRAWFIXED);
+    // Such an item is a number of the host's, here with the bytes of letters.
+    scene.combo.AddString(reinterpret_cast<LPCWSTR>(0x0062006200620062));
+    scene.combo.SearchInside(true);
+    scene.enter();
+    scene.robot.type(L"b");
+    EXPECT_EQ(scene.text(), L"b");
+    EXPECT_FALSE(hitsWindow());
+}
+
 TEST_F(ComboSearching, ShowsTheItemsThatHaveTheTextAnywhere)
 {
     scene.robot.type(L"ERR");
@@ -253,6 +265,16 @@ TEST_F(ComboSearching, FollowsItemsThatTheHostChanges)
     EXPECT_EQ(scene.text(), L"berry");
 }
 
+TEST_F(ComboSearching, FollowsItemsThatTheHostChangesAgain)
+{
+    scene.robot.type(L"err");
+    for (int more = 1; more <= 3; ++more) {
+        scene.combo.InsertString(0, L"raspberry");
+        GuiThread::settle();
+        EXPECT_EQ(hitCount(), 3 + more);
+    }
+}
+
 TEST_F(ComboSearching, GoesWhenTheHostTakesTheItemsAway)
 {
     scene.robot.type(L"err");
@@ -323,6 +345,40 @@ TEST_F(ComboSearching, NoMoreThanTwelveRowsAreShownAtOnce)
     CRect client;
     ::GetClientRect(hitsList(), &client);
     EXPECT_EQ(client.Height(), 12 * ::SendMessageW(hitsList(), LB_GETITEMHEIGHT, 0, 0));
+}
+
+TEST_F(ComboSearching, PageKeysGoOnByTheRowsThatAreShownAndABarByAny)
+{
+    for (int i = 0; i < 40; ++i)
+        scene.combo.AddString((L"xerr" + std::to_wstring(i)).c_str());
+    scene.robot.type(L"err").key(VK_NEXT);
+    EXPECT_EQ(chosenHit(), 11) << "of twelve rows the last one";
+    scene.robot.key(VK_NEXT);
+    EXPECT_EQ(chosenHit(), 22);
+    scene.robot.key(VK_PRIOR);
+    EXPECT_EQ(chosenHit(), 11);
+    EXPECT_TRUE(::GetWindowLongW(hitsList(), GWL_STYLE) & WS_VSCROLL);
+}
+
+TEST_F(ComboSearching, LiesAboveTheFieldWhereTheScreenEndsBelow)
+{
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    CRect window;
+    CRect field;
+    scene.parent.GetWindowRect(&window);
+    scene.combo.GetWindowRect(&field);
+    scene.parent.SetWindowPos(nullptr, window.left, window.top + work.bottom - field.bottom, 0, 0,
+                              SWP_NOSIZE | SWP_NOZORDER);
+    scene.robot.type(L"err");
+    ASSERT_TRUE(hitsWindow());
+    CRect hits;
+    ::GetWindowRect(hitsWindow(), &hits);
+    scene.combo.GetWindowRect(&field);
+    EXPECT_EQ(hits.bottom, field.top);
+    EXPECT_EQ(hits.left, field.left);
+    EXPECT_EQ(hits.right, field.right);
+    EXPECT_GT(hits.Height(), 0);
 }
 
 TEST_F(ComboSearching, InTheFontOfTheComboBox)

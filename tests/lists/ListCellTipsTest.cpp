@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using namespace ovo::testkit;
 
 namespace
@@ -49,6 +51,10 @@ protected:
             return shows() == shown;
         });
     }
+
+    /// A move of the pointer that is over at once.
+    void pointAt(CPoint point) { scene.list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(point.x, point.y)); }
+    void pointAt(int row, int column) { pointAt(scene.cell(row, column).CenterPoint()); }
 
     int extent(const std::wstring& text)
     {
@@ -239,9 +245,87 @@ TEST_F(ListTips, ThePointerThatComesBackToTheSameCellBringsItBack)
     rest(0, 1, true);
     scene.list.SendMessage(WM_MOUSELEAVE);
     EXPECT_FALSE(shows());
-    const CPoint middle = scene.cell(0, 1).CenterPoint();
-    scene.list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(middle.x, middle.y));
+    pointAt(0, 1);
     EXPECT_TRUE(shows());
+}
+
+TEST_F(ListTips, OneThatWentByAKeyComesBackInAnotherCellOnly)
+{
+    rest(1, 1, false); // the pointer may be there already, and would not move
+    rest(0, 1, true);
+    scene.list.SendMessage(WM_KEYDOWN, VK_F2);
+    ASSERT_FALSE(shows());
+    pointAt(scene.cell(0, 1).CenterPoint() + CSize(1, 0));
+    EXPECT_FALSE(shows()) << "the user has typed something there";
+    pointAt(0, 0);
+    EXPECT_TRUE(shows());
+    pointAt(0, 1);
+    EXPECT_TRUE(shows());
+    EXPECT_EQ(shownText(), L"a cell with no room");
+}
+
+TEST_F(ListTips, AttachedAgainTheyKnowOfNoCellOfBefore)
+{
+    rest(1, 1, false); // the pointer may be there already, and would not move
+    rest(0, 1, true);
+    tips.Detach();
+    EXPECT_FALSE(tips.Window());
+    tips.Attach(scene.list);
+    pointAt(0, 1);
+    EXPECT_TRUE(shows());
+}
+
+TEST_F(ListTips, APointerThatMovesOnWhileTheHostIsAskedDecides)
+{
+    rest(1, 0, false);
+    scene.list.SetItemText(0, 1, LPSTR_TEXTCALLBACK);
+    scene.list.SetItemText(1, 1, L"another cell with no room");
+    const CPoint first = scene.cell(0, 1).CenterPoint();
+    const CPoint second = scene.cell(1, 1).CenterPoint();
+    scene.list.ValidateRect(nullptr); // drawing would ask, too
+    bool asked = false;
+    scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), [&](NMHDR* header) -> LRESULT {
+        if (!std::exchange(asked, true))
+            pointAt(second);
+        LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(header)->item;
+        if (item.mask & LVIF_TEXT)
+            ::lstrcpynW(item.pszText, L"a cell with no room", item.cchTextMax);
+        return 0;
+    });
+    pointAt(first);
+    EXPECT_TRUE(asked);
+    EXPECT_TRUE(shows());
+    EXPECT_EQ(shownText(), L"another cell with no room");
+}
+
+TEST_F(ListTips, AHostThatDetachesThemWhenItIsAskedGetsNone)
+{
+    rest(1, 0, false);
+    scene.list.SetItemText(0, 1, LPSTR_TEXTCALLBACK);
+    const CPoint cell = scene.cell(0, 1).CenterPoint();
+    scene.list.ValidateRect(nullptr); // drawing would ask, too
+    List other;
+    other.Create(WS_CHILD | WS_VISIBLE, CRect(420, 10, 520, 110), &scene.parent, 9);
+    for (const bool takesAnother : {false, true}) {
+        SCOPED_TRACE(takesAnother);
+        tips.Attach(scene.list);
+        bool asked = false;
+        scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), [&](NMHDR* header) -> LRESULT {
+            if (!std::exchange(asked, true)) {
+                tips.Detach();
+                if (takesAnother)
+                    tips.Attach(other);
+            }
+            LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(header)->item;
+            if (item.mask & LVIF_TEXT)
+                ::lstrcpynW(item.pszText, L"a cell with no room", item.cchTextMax);
+            return 0;
+        });
+        pointAt(cell);
+        EXPECT_TRUE(asked);
+        EXPECT_FALSE(tips.Window());
+    }
+    other.DestroyWindow();
 }
 
 TEST_F(ListTips, SoDoScrollingAndALossOfTheFocus)
@@ -293,10 +377,6 @@ static LRESULT WINAPI refuseTools(HWND window, UINT message, WPARAM wParam, LPAR
 
 TEST_F(ListTips, OneThatCouldNotBeMadeComesTheNextTime)
 {
-    const auto pointAt = [this](int row, int column) {
-        const CPoint middle = scene.cell(row, column).CenterPoint();
-        scene.list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(middle.x, middle.y));
-    };
     rest(1, 1, false); // the pointer stays there
     tips.Detach();     // it may have passed a cell with a tip
     tips.Attach(scene.list);

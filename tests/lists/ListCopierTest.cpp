@@ -1,6 +1,8 @@
 // Selected rows on the clipboard.
 #include "ListScene.h"
 
+#include <testkit/ImportPatch.h>
+
 #include <ovoui/lists/ListCopier.h>
 
 #include <gtest/gtest.h>
@@ -58,6 +60,38 @@ TEST_F(ListCopying, SelectedRowsAsTextAndHtml)
     EXPECT_EQ(clipboardText(), L"1.0\t1.1\t1.2\r\n3.0\t3.1\t3.2\r\n");
     const std::string html = clipboardBytes(::RegisterClipboardFormatW(L"HTML Format"));
     EXPECT_NE(html.find("<tr><td>1.0</td><td>1.1</td><td>1.2</td></tr>"), std::string::npos);
+}
+
+TEST_F(ListCopying, HtmlIsInUtf8AndHasItsHeadings)
+{
+    scene.list.SetItemText(1, 1, L"\u00C4pfel \u6F22");
+    select({1});
+    EXPECT_TRUE(copySelectedRows(scene.list, true));
+    const std::string html = clipboardBytes(::RegisterClipboardFormatW(L"HTML Format"));
+    EXPECT_NE(html.find("<tr><th>c</th><th>c</th><th>c</th></tr>"), std::string::npos);
+    EXPECT_NE(html.find("<td>1.0</td><td>\xC3\x84pfel \xE6\xBC\xA2</td><td>1.2</td>"), std::string::npos);
+}
+
+namespace
+{
+
+BOOL WINAPI refuseClipboard(HWND)
+{
+    return FALSE;
+}
+
+} // namespace
+
+TEST_F(ListCopying, AClipboardThatAnotherProgramHasOpenKeepsWhatItHas)
+{
+    select({0});
+    ASSERT_TRUE(copySelectedRows(scene.list, false));
+    select({1});
+    {
+        const ImportPatch patch(L"ovoui.dll", "OpenClipboard", reinterpret_cast<void*>(&refuseClipboard));
+        EXPECT_FALSE(copySelectedRows(scene.list, false));
+    }
+    EXPECT_EQ(clipboardText(), L"0.0\t0.1\t0.2\r\n");
 }
 
 TEST_F(ListCopying, ColumnsInTheOrderInWhichTheyAreShown)
@@ -152,6 +186,25 @@ TEST_F(ListCopying, RowsThatTheParentSelectsWhenItHearsOfTheKeyAreCopied)
     });
     Robot().holding(VK_CONTROL).key('C');
     EXPECT_EQ(clipboardText(), L"2.0\t2.1\t2.2\r\n");
+}
+
+TEST_F(ListCopying, ACopierThatIsDetachedAtTheKeyCopiesNothingNorLater)
+{
+    COVOListCopier copier;
+    copier.Attach(scene.list, false);
+    scene.show();
+    scene.list.SetFocus();
+    select({1});
+    scene.parent.answer(static_cast<UINT>(LVN_KEYDOWN), [&](NMHDR* header) -> LRESULT {
+        if (reinterpret_cast<const NMLVKEYDOWN*>(header)->wVKey == 'C')
+            copier.Detach();
+        return 0;
+    });
+    Robot().holding(VK_CONTROL).key('C');
+    EXPECT_EQ(clipboardText(), L"");
+    copier.Attach(scene.list, false);
+    Robot().key(VK_F2);
+    EXPECT_EQ(clipboardText(), L"") << "the key of before is over";
 }
 
 TEST_F(ListCopying, TheListMayBeDestroyedBeforeTheCopier)

@@ -622,6 +622,42 @@ TEST(ListDraw, CellsFollowTheirHeadingsWhenTheHostAsksForIt)
     scene.expectRow(0, facts);
 }
 
+TEST(ListDraw, ASelectionReachesFromTheFirstMovedColumnToTheLast)
+{
+    ListScene scene;
+    scene.fill({150, 200, 250}, 2);
+    int order[] = {1, 2, 0};
+    scene.list.SetColumnOrderArray(3, order);
+    scene.list.FollowColumnOrder(true);
+    scene.list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+    scene.show();
+    scene.list.SetFocus();
+    for (const int right : {0, 100, 100}) { // at last to the end
+        scene.list.Scroll(CSize(right, 0));
+        scene.list.RedrawWindow();
+        const Picture shown = Picture::ofClient(scene.list);
+        for (int x = 0; x < shown.width(); x += 10)
+            EXPECT_THAT(shown.at(x, scene.itemRect(0).top), IsColour(::GetSysColor(COLOR_HIGHLIGHT))) << x;
+    }
+}
+
+TEST(ListDraw, CellsThatFollowTheirHeadingsMoveAtOnce)
+{
+    ListScene scene;
+    scene.fill({100, 80}, 2);
+    int order[] = {1, 0};
+    scene.list.SetColumnOrderArray(2, order);
+    scene.show();
+    for (const bool follow : {true, false}) {
+        GuiThread::settle();
+        scene.list.drawn.clear();
+        scene.list.FollowColumnOrder(follow);
+        GuiThread::settle();
+        for (const int row : {0, 1})
+            EXPECT_GT(std::ranges::count(scene.list.drawn, row), 0) << follow;
+    }
+}
+
 namespace
 {
 

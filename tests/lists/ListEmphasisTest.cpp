@@ -111,6 +111,45 @@ TEST_F(ListEmphasis, InASelectedRowItIsTheOtherWayRound)
     expectMarked(spans, ::GetSysColor(COLOR_WINDOW));
 }
 
+TEST_F(ListEmphasis, IsSeenAtOnce)
+{
+    const auto highlighted = [&] {
+        GuiThread::settle(); // the list paints what it has to, and nothing else
+        return Picture::ofClient(scene.list).count(highlight, 0, scene.itemRect(0));
+    };
+    ASSERT_EQ(highlighted(), 0);
+    scene.list.EmphasiseText(L"nan");
+    EXPECT_GT(highlighted(), 30);
+    scene.list.EmphasiseText(L"");
+    EXPECT_EQ(highlighted(), 0);
+}
+
+TEST_F(ListEmphasis, TheOtherLettersStayWhereTheyAre)
+{
+    scene.list.RedrawWindow();
+    const Picture before = Picture::ofClient(scene.list);
+    scene.list.EmphasiseText(L"nan");
+    scene.list.RedrawWindow();
+    const Picture after = Picture::ofClient(scene.list);
+    const CRect row = scene.itemRect(0);
+    for (int column = 0; column < 3; ++column) {
+        // A letter may reach a little beyond its place.
+        const std::pair<int, int> others[] = {{edge(column, L""), edge(column, L"Ba") - 2},
+                                              {edge(column, L"Banan") + 2, edge(column, L"Banana")}};
+        for (const auto& [from, to] : others) {
+            int ink = 0;
+            int changed = 0;
+            for (int x = from; x < to; ++x)
+                for (int y = row.top; y < row.bottom; ++y) {
+                    ink += before.at(x, y) != ::GetSysColor(COLOR_WINDOW);
+                    changed += before.at(x, y) != after.at(x, y);
+                }
+            EXPECT_GT(ink, 0) << column;
+            EXPECT_EQ(changed, 0) << column;
+        }
+    }
+}
+
 TEST_F(ListEmphasis, DotsStandForWhatWasCutOff)
 {
     scene.list.SetColumnWidth(0, extent(L"Ban...") + extent(L"l"));

@@ -248,6 +248,7 @@ TEST_F(ListFinding, WithoutTheHelperLettersGoToThePlatform)
     robot.type(L"hill");
     EXPECT_EQ(selected(), Rows{}) << "no row's label begins so";
     EXPECT_FALSE(finder.Find(L"hill"));
+    EXPECT_FALSE(finder.Find(L"")) << "there is no search to end";
 }
 
 TEST_F(ListFinding, DetachingEndsTheSearch)
@@ -270,6 +271,37 @@ TEST_F(ListFinding, EscapeIsWantedWhileSearchingOnly)
     EXPECT_TRUE(wants());
     robot.key(VK_ESCAPE);
     EXPECT_FALSE(wants());
+}
+
+TEST_F(ListFinding, OtherKeysStayTheDialogsWhileSearching)
+{
+    robot.type(L"gar");
+    for (const WORD key : {VK_TAB, VK_RETURN}) {
+        MSG down{scene.list, WM_KEYDOWN, key, 1, 0, {}};
+        const LRESULT code = scene.list.SendMessage(WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&down));
+        EXPECT_FALSE(code & DLGC_WANTALLKEYS) << key;
+    }
+    EXPECT_FALSE(scene.list.SendMessage(WM_GETDLGCODE) & DLGC_WANTALLKEYS);
+}
+
+TEST_F(ListFinding, AListWithoutStorageAsksAsThePlatformDoes)
+{
+    constexpr int kRows = 1000;
+    List stored;
+    stored.Create(WS_CHILD | WS_VISIBLE | LVS_OWNERDATA, CRect(0, 0, 90, 90), &scene.parent, 40);
+    stored.AddColumn(L"c", 0, -1, false, LVCF_TEXT | LVCF_WIDTH, 0);
+    stored.SetItemCountEx(kRows);
+    finder.Attach(stored);
+    NMLVFINDITEM asked{};
+    scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), [&](NMHDR* header) -> LRESULT {
+        asked = *reinterpret_cast<const NMLVFINDITEM*>(header);
+        return kRows;
+    });
+    EXPECT_FALSE(finder.Find(L"seven"));
+    EXPECT_EQ(finder.Text(), L"") << "there is no row behind the last one";
+    EXPECT_EQ(asked.hdr.hwndFrom, stored.m_hWnd);
+    EXPECT_EQ(asked.hdr.idFrom, 40u);
+    EXPECT_EQ(asked.lvfi.flags, UINT{LVFI_STRING | LVFI_PARTIAL | LVFI_WRAP});
 }
 
 TEST_F(ListFinding, AListWithoutStorageAsksItsParent)
@@ -435,3 +467,14 @@ INSTANTIATE_TEST_SUITE_P(
                 {}},
         Misdeed{"finds something else", [](ListScene&, auto& finder) { finder->Find(L"other"); }, {0}, {0}},
         Misdeed{"throws", [](ListScene&, auto&) { throw std::runtime_error("host"); }, {0, 1, 3}, {1, 3}}));
+
+TEST(ContainsText, AnywhereWhateverTheCase)
+{
+    EXPECT_TRUE(containsText(L"Garage", L"RAG"));
+    EXPECT_TRUE(containsText(L"GARAGE", L"rag"));
+    EXPECT_TRUE(containsText(L"\u00C4pfel", L"\u00E4P"));
+    EXPECT_FALSE(containsText(L"Garage", L"rags"));
+    EXPECT_FALSE(containsText(L"", L"a"));
+    EXPECT_TRUE(containsText(L"Garage", L"")) << "an empty part stands everywhere";
+    EXPECT_TRUE(containsText(L"", L""));
+}

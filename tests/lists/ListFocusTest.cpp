@@ -151,6 +151,60 @@ TEST_P(ListRanges, OfAVirtualListAreSelectedAndDeselectedWithoutDrawingEachRow)
         << "what is selected is drawn";
 }
 
+TEST_P(ListRanges, OfAVirtualListByTheMouse)
+{
+    PlatformSetting setting;
+    const bool isWine = setting->asksForEachRow;
+    setting->asksForEachRow = GetParam();
+    constexpr int kRows = 5000;
+    constexpr int kLast = kRows - 1;
+    ListScene scene{LVS_OWNERDATA};
+    scene.addColumn(L"name", 100);
+    scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), [](NMHDR* header) -> LRESULT {
+        LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(header)->item;
+        if (item.mask & LVIF_TEXT)
+            ::lstrcpynW(item.pszText, L"a name", item.cchTextMax);
+        return 0;
+    });
+    scene.list.SetItemCountEx(kRows);
+    scene.show();
+    scene.list.SetFocus();
+    const auto name = [&](int row) {
+        const CRect label = scene.rect(row, LVIR_LABEL);
+        return Spot{scene.list, CPoint(label.left + 6, label.CenterPoint().y)};
+    };
+    const auto expectFewAsked = [&](const char* what) {
+        if (GetParam() == isWine) {
+            EXPECT_LT(g_asked, 1000) << what;
+        }
+        g_asked = 0;
+    };
+    const ImportPatch patch(L"comctl32.dll", "InvalidateRect", reinterpret_cast<void*>(&countAsked));
+    Robot robot;
+    robot.click(name(0));
+    scene.list.EnsureVisible(kLast, FALSE);
+    scene.list.UpdateWindow();
+    g_asked = 0;
+
+    robot.holding(VK_SHIFT).click(name(kLast));
+    EXPECT_EQ(scene.list.GetSelectedCount(), UINT{kRows});
+    expectFewAsked("a range");
+
+    robot.click(name(kLast - 3)); // a selected row stays the only one when the button goes up
+    EXPECT_EQ(scene.list.GetCurSel(), kLast - 3);
+    expectFewAsked("a click on a selected row");
+
+    for (const bool right : {false, true}) {
+        scene.list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+        scene.list.SetItemState(kLast - 1, 0, LVIS_SELECTED);
+        scene.list.UpdateWindow();
+        g_asked = 0;
+        robot.click(name(kLast - 1), right ? Button::Right : Button::Left);
+        EXPECT_EQ(scene.list.GetCurSel(), kLast - 1);
+        expectFewAsked(right ? "a click with the right button" : "a click on another row");
+    }
+}
+
 TEST_F(ListFocus, ComingAndGoingRepaintsTheFocusedAndTheSelectedRows)
 {
     ListScene scene;

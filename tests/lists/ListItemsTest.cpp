@@ -4,6 +4,8 @@
 #include <testkit/GdiCounter.h>
 #include <testkit/WindowCounter.h>
 
+#include <ovoui/lists/ListColumns.h>
+
 #include <gtest/gtest.h>
 
 using namespace ovo::testkit;
@@ -175,6 +177,46 @@ TEST(ListColumns, ThatThePlatformInsertedHaveNoColour)
         EXPECT_THAT(shown.at(cell.left + 1, cell.top + 1),
                     IsColour(column == 2 ? RGB(200, 0, 0) : ::GetSysColor(COLOR_WINDOW)));
     }
+}
+
+TEST(ListColumns, ThatThePlatformInsertedHaveNoColourWithoutOthersToo)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    for (const int index : {0, 1})
+        scene.list.InsertColumn(index, L"plain", LVCFMT_LEFT, 60);
+    for (const int column : {0, 1})
+        scene.list.AddItem(0, column, L"x", kOpaque | RGB(200, 0, 0), -1);
+    scene.show();
+    scene.list.RedrawWindow();
+    EXPECT_EQ(Picture::ofClient(scene.list).count(RGB(200, 0, 0)), 0);
+}
+
+TEST(ListColumns, OfATableSuitTheirSamplesShowColoursAndReachAcrossTheWindow)
+{
+    RecordingParent parent;
+    const HWND item =
+        ::CreateWindowExW(0, WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT | LVS_OWNERDRAWFIXED, 0, 0,
+                          300, 150, parent, reinterpret_cast<HMENU>(77), nullptr, nullptr);
+    List list;
+    list.SubclassWindow(item);
+    list.UseRowColours(TRUE);
+    ASSERT_TRUE(addColumns(list, {{.heading = L"Name", .sample = L"A longer name"},
+                                  {.heading = L"Colour", .sample = L"1", .showsColour = true}}));
+    EXPECT_EQ(list.GetColumnWidth(0), list.GetStringWidth(L"A longer name") + 15);
+    EXPECT_EQ(list.GetColumnWidth(1), list.GetStringWidth(L"Colour") + 15);
+    list.AddItem(0, 0, L"A longer name", kOpaque | RGB(200, 0, 0), -1);
+    list.AddItem(0, 1, L".", 0, -1);
+    list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
+    present(parent);
+    list.SetFocus();
+    list.RedrawWindow();
+    CRect label;
+    list.GetItemRect(0, &label, LVIR_LABEL);
+    const Picture shown = Picture::ofClient(list);
+    EXPECT_THAT(shown.at(label.right + 1, label.top + 1), IsColour(RGB(200, 0, 0)));
+    EXPECT_THAT(shown.at(290, label.CenterPoint().y), IsColour(::GetSysColor(COLOR_HIGHLIGHT)));
+    list.DestroyWindow();
 }
 
 TEST(ListColumns, BeyondTheLastOneIsTheLast)

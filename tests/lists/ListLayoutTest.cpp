@@ -156,6 +156,28 @@ TEST(ListLayout, AListThatAComparisonDestroysGetsNoLayout)
     EXPECT_EQ(scene.list.m_hWnd, nullptr);
 }
 
+namespace
+{
+
+LSTATUS WINAPI refuseValue(HKEY, LPCWSTR, DWORD, DWORD, const BYTE*, DWORD)
+{
+    return ERROR_ACCESS_DENIED;
+}
+
+} // namespace
+
+TEST(ListLayout, SaysWhenItCannotBeSaved)
+{
+    const TemporaryProfile profile;
+    ListScene scene;
+    addColumns(scene, {L"a"});
+    {
+        const ImportPatch patch(L"ovomfc.dll", "RegSetValueExW", reinterpret_cast<void*>(&refuseValue));
+        EXPECT_FALSE(saveColumnLayout(scene.list, L"Lists", L"test", nullptr));
+    }
+    EXPECT_TRUE(saveColumnLayout(scene.list, L"Lists", L"test", nullptr));
+}
+
 TEST(ListLayout, WithoutSavedLayoutNothingChanges)
 {
     const TemporaryProfile profile;

@@ -48,13 +48,15 @@ protected:
         return texts;
     }
 
-    int arrow(int index)
+    int format(int index)
     {
         HDITEM item{};
         item.mask = HDI_FORMAT;
         scene.list.GetHeaderCtrl()->GetItem(index, &item);
-        return item.fmt & (HDF_SORTUP | HDF_SORTDOWN);
+        return item.fmt;
     }
+
+    int arrow(int index) { return format(index) & (HDF_SORTUP | HDF_SORTDOWN); }
 
     ListScene scene;
     COVOListSorter sorter;
@@ -139,6 +141,41 @@ TEST_F(ListSorting, ClicksOnHeadings)
     EXPECT_EQ(arrow(0), HDF_SORTUP);
     EXPECT_EQ(scene.parent.log().count(static_cast<UINT>(LVN_COLUMNCLICK)), 3)
         << "the parent hears of it too";
+}
+
+TEST_F(ListSorting, AnArrowLeavesTheRestOfTheHeadingAsItWas)
+{
+    scene.addColumn(L"right", 80, false, LVCFMT_RIGHT);
+    add({L"b", L"a"});
+    const int before = format(2);
+    EXPECT_TRUE(sorter.Sort(2, true));
+    EXPECT_EQ(format(2), before | HDF_SORTUP);
+    EXPECT_TRUE(sorter.Sort(2, false));
+    EXPECT_EQ(format(2), before | HDF_SORTDOWN);
+    EXPECT_TRUE(sorter.Sort(1, true));
+    EXPECT_EQ(format(2), before);
+}
+
+TEST_F(ListSorting, AListThatIsAttachedAgainBeginsAnew)
+{
+    add({L"b", L"a"});
+    EXPECT_TRUE(sorter.Sort(1, true));
+    sorter.Detach();
+    EXPECT_EQ(sorter.Column(), -1);
+    sorter.Attach(scene.list);
+    scene.show();
+    Robot().click(Spot{*scene.list.GetHeaderCtrl(), CPoint(160, 8)});
+    EXPECT_TRUE(sorter.Ascending());
+    EXPECT_EQ(column(1), (Texts{L"a", L"b"}));
+}
+
+TEST_F(ListSorting, AnOwnKindWithoutAComparisonLeavesTheRows)
+{
+    add({L"b", L"c", L"a"});
+    sorter.SetKind(1, Kind::Custom);
+    EXPECT_TRUE(sorter.Sort(1, true));
+    EXPECT_EQ(column(1), (Texts{L"b", L"c", L"a"}));
+    EXPECT_EQ(arrow(1), HDF_SORTUP);
 }
 
 TEST_F(ListSorting, SelectionFocusDataAndColoursGoWithTheRows)
@@ -226,6 +263,21 @@ TEST_F(ListSorting, TheSignsOfNumbersAreTheLocales)
     EXPECT_EQ(column(1), (Texts{L"2,25", L"2,5", L"10", L"1.000"}));
 }
 
+TEST_F(ListSorting, SignsThatTheLocaleDoesNotTellArePointAndComma)
+{
+    const auto refuse = [](LCID locale, LCTYPE type, LPWSTR data, int room) {
+        return type == LOCALE_SDECIMAL || type == LOCALE_STHOUSAND
+                   ? 0
+                   : ::GetLocaleInfoW(locale, type, data, room);
+    };
+    using Answer = int(WINAPI*)(LCID, LCTYPE, LPWSTR, int);
+    const ImportPatch patch(L"ovoui.dll", "GetLocaleInfoW", reinterpret_cast<void*>(Answer(refuse)));
+    add({L"1,000", L"2.5", L"2.25", L"10"});
+    sorter.SetKind(1, Kind::Number);
+    EXPECT_TRUE(sorter.Sort(1, true));
+    EXPECT_EQ(column(1), (Texts{L"2.25", L"2.5", L"10", L"1,000"}));
+}
+
 TEST_F(ListSorting, WhatCannotBeSortedStays)
 {
     EXPECT_TRUE(sorter.Sort(1, true)) << "no rows";
@@ -270,6 +322,36 @@ TEST_F(ListSorting, AComparisonMayDoAnything)
     });
     EXPECT_FALSE(sorter.Sort(1, true));
     EXPECT_FALSE(scene.list.m_hWnd);
+}
+
+TEST_F(ListSorting, AHostThatDetachesTheSorterInAComparisonKeepsItsRows)
+{
+    add({L"c", L"b", L"a"});
+    sorter.SetCompare(1, [this](COVOListCtrlEx& list, int row, int other) {
+        sorter.Detach();
+        return list.GetItemText(row, 1).Compare(list.GetItemText(other, 1));
+    });
+    EXPECT_FALSE(sorter.Sort(1, true));
+    EXPECT_EQ(column(1), (Texts{L"c", L"b", L"a"}));
+    EXPECT_EQ(sorter.Column(), -1);
+}
+
+TEST_F(ListSorting, ASorterThatIsDetachedWhileRowsGetTheirPlacesHasSortedNone)
+{
+    add({L"c", L"b", L"a"});
+    for (int row = 0; row < 3; ++row)
+        scene.list.SetItemData(row, 7); // the parent hears of the changes that this needs
+    bool told = false;
+    scene.parent.answer(static_cast<UINT>(LVN_ITEMCHANGED), [&](NMHDR*) -> LRESULT {
+        told = true;
+        sorter.Detach();
+        return 0;
+    });
+    EXPECT_FALSE(sorter.Sort(1, true));
+    EXPECT_TRUE(told);
+    EXPECT_EQ(sorter.Column(), -1);
+    for (int row = 0; row < 3; ++row)
+        EXPECT_EQ(scene.list.GetItemData(row), 7u);
 }
 
 TEST_F(ListSorting, WhatAComparisonRaisesAtAClickLeavesTheHeadingsInOrder)
