@@ -234,11 +234,12 @@ void CVantorToolBar::goToControl(bool previous)
 
 void CVantorToolBar::giveFocusBack()
 {
-    const HWND before = m_state->keyboard.before;
-    leaveKeyboard();
+    const std::shared_ptr<State> state = m_state;
+    const HWND before = state->keyboard.before;
+    leaveKeyboard(); // tells the owner of the hot button
     if (takesFocus(before))
         ::SetFocus(before);
-    else if (CFrameWnd* const frame = GetTopLevelFrame())
+    else if (CFrameWnd* const frame = state->usable() ? GetTopLevelFrame() : nullptr)
         frame->SetFocus();
 }
 
