@@ -183,7 +183,6 @@ public:
     void DrawGripper(CDC* dc, const CRect& rect) override;
 
 protected:
-    // One flyout is open at a time, whichever bar it belongs to.
     /// The flyout that is open. One is open at a time, whichever bar it belongs to.
     static std::shared_ptr<CFlyoutToolbar> ms_popupBar;
     static bool ms_dragging;         ///< from the press on a flyout button to the release
@@ -275,7 +274,7 @@ private:
     void renewImages();
     void showImages(int dotsPerInch, int sizeBefore);
     bool isPlacedBy(const CFrameWnd& frame) const;
-    void onResolutionChanged(int resolution);
+    bool onResolutionChanged(int resolution);
     bool isHorizontal() const;
     LRESULT onControlCommand(WPARAM wParam, LPARAM lParam);
     void postEndOfInput(HWND target);
