@@ -77,8 +77,8 @@ public:
     void DetachBar(int button);
     /// Takes all flyouts away.
     void DetachAllBars();
-    /// The flyout of another bar's button `fromButton`, or none if that has none. Nothing is done without
-    /// `from`.
+    /// The flyout of another bar's button `fromButton`, or none if that has none; the image list stays the
+    /// other bar's and is not followed when that gets another one. Nothing is done without `from`.
     void CopyBar(int button, const CVantorToolBar* from, int fromButton);
     /// Whether a button has a flyout.
     bool HasFlyout(int button) const;

@@ -142,9 +142,9 @@ TEST_F(DockedBar, AtEveryEdgeOfTheWorkAreaTheFlyoutIsPulledInside)
         makeFloat(rows);
         const CSize size = onScreen(*scene.bar().GetParentFrame()).Size();
         const CPoint middle = area.CenterPoint();
-        for (const CPoint place :
-             {CPoint(area.left, middle.y), CPoint(area.right - size.cx, middle.y), CPoint(middle.x, area.top),
-              CPoint(middle.x, area.bottom - size.cy), CPoint(area.right - size.cx, area.bottom - size.cy)}) {
+        for (const CPoint place : {CPoint(area.left, middle.y), CPoint(area.right - size.cx, middle.y),
+                                   CPoint(middle.x, area.top), CPoint(middle.x, area.bottom - size.cy),
+                                   CPoint(area.right - size.cx, area.bottom - size.cy)}) {
             scene.frame().FloatControlBar(&scene.bar(), place);
             scene.frame().RecalcLayout();
             GuiThread::settle();

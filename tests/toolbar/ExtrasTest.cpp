@@ -8,6 +8,8 @@
 #include <testkit/RecordingParent.h>
 #include <testkit/TemporaryProfile.h>
 
+#include <ovoui/toolbar/ToolBarCommands.h>
+
 #include <ovouires/resource.h>
 
 #include <afxpriv.h>
@@ -474,6 +476,25 @@ TEST(BarStrips, ADrawingThatDestroysTheBarMakesNoOtherWindowInvalid)
     bar.SendMessage(WM_SETTINGCHANGE);
     EXPECT_EQ(bar.m_hWnd, nullptr);
     EXPECT_FALSE(other.GetUpdateRect(nullptr));
+}
+
+TEST(BarTable, GivesButtonsAndChosenEntriesTheirImages)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    ASSERT_TRUE(setCommands(scene.bar(), {{ID_PLAIN, 3}, {ID_LINE, 5, {{ID_LINE, 5}, {ID_ARC, 9}}}}, kStrips,
+                            16));
+    scene.frame().RecalcLayout();
+    GuiThread::settle();
+    EXPECT_EQ(scene.image(0), 3);
+    EXPECT_EQ(scene.image(1), 5);
+    scene.user.press(scene.button(1))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(0)) // off the bar first
+        .moveTo(scene.entry(1))
+        .release();
+    EXPECT_EQ(scene.commands(), std::vector<UINT>{ID_ARC});
+    EXPECT_EQ(scene.image(1), 9);
 }
 
 // Disabled images

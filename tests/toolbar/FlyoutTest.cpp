@@ -291,7 +291,7 @@ TEST(FlyoutEntries, OfACommandListHaveTheSizeThatUpdateBarBitmapSizeSays)
     bare.AttachBar(1, IDR_SHAPES, 16, {0, 1}, false);
     scene.frame().RecalcLayout();
     bare.UpdateBarBitmapSize(8);
-    const auto widthAndCount = [&](int button) {
+    const auto sizeAndCount = [&](int button) {
         bare.CreatePopup(button, onScreen(bare, button), 0);
         int width = 0;
         int height = 0;
@@ -299,10 +299,10 @@ TEST(FlyoutEntries, OfACommandListHaveTheSizeThatUpdateBarBitmapSizeSays)
         ::ImageList_GetIconSize(list, &width, &height);
         const int count = ::ImageList_GetImageCount(list);
         TestBar::ms_popupBar.reset();
-        return std::pair(width, count);
+        return std::pair(CSize(width, height), count);
     };
-    EXPECT_EQ(widthAndCount(0), std::pair(8, 16)) << "the strip has 128 pixels";
-    EXPECT_EQ(widthAndCount(1).first, 16) << "the resource's own";
+    EXPECT_EQ(sizeAndCount(0), std::pair(CSize(8, 8), 16)) << "the strip has 128 pixels";
+    EXPECT_EQ(sizeAndCount(1).first, CSize(16, 15)) << "the resource's own";
 }
 
 TEST(FlyoutEntries, ACopiedFlyoutIsTheSame)
