@@ -482,8 +482,8 @@ TEST(BarTable, GivesButtonsAndChosenEntriesTheirImages)
 {
     const GdiPlusSession gdiPlus;
     BarScene scene;
-    ASSERT_TRUE(setCommands(scene.bar(), {{ID_PLAIN, 3}, {ID_LINE, 5, {{ID_LINE, 5}, {ID_ARC, 9}}}}, kStrips,
-                            16));
+    ASSERT_TRUE(
+        setCommands(scene.bar(), {{ID_PLAIN, 3}, {ID_LINE, 5, {{ID_LINE, 5}, {ID_ARC, 9}}}}, kStrips, 16));
     scene.frame().RecalcLayout();
     GuiThread::settle();
     EXPECT_EQ(scene.image(0), 3);
