@@ -247,7 +247,6 @@ BOOL CFlyoutToolbar::DestroyWindow()
         return FALSE;
     if (m_hot >= 0)
         showPrompt(AFX_IDS_IDLEMESSAGE);
-    m_tip.reset();
     return CToolBar::DestroyWindow();
 }
 
@@ -263,7 +262,7 @@ LRESULT CFlyoutToolbar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_NOTIFY:
         return 0;    // of this control itself
     case WM_COMMAND: // the control tells itself of a click, and must not be destroyed in the middle
-        PostMessage(pressMessage(), static_cast<WPARAM>(CommandToIndex(LOWORD(wParam))));
+        PostMessage(pressMessage(), static_cast<WPARAM>(clickedButton(LOWORD(wParam))));
         return 0;
     case WM_GETOBJECT:
         if (const LRESULT object = onGetObject(wParam, lParam))
@@ -271,6 +270,15 @@ LRESULT CFlyoutToolbar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         break;
     }
     return CToolBar::WindowProc(message, wParam, lParam);
+}
+
+/// The control tells a command, which several entries may have.
+int CFlyoutToolbar::clickedButton(int command) const
+{
+    const int under = buttonUnder(CPoint(static_cast<LPARAM>(::GetMessagePos())));
+    return under != kNoEntry && buttonAt(under).idCommand == command
+               ? under
+               : CommandToIndex(static_cast<UINT>(command));
 }
 
 void CFlyoutToolbar::onPressed(int index)

@@ -1,5 +1,5 @@
 /// The flyout of a toolbar's button: a small flat toolbar that pops up beside it. CVantorToolBar opens it and
-/// moves it along with the mouse, which the bar has captured.
+/// tells it where the mouse is, which the bar has captured.
 #pragma once
 
 #include <ovoui/export.h>
@@ -112,6 +112,7 @@ private:
     void showPressed(int index, bool pressed);
     void showPrompt(UINT id) const;
     LRESULT onGetObject(WPARAM wParam, LPARAM lParam);
+    int clickedButton(int command) const;
     void onPressed(int index);
     void showTip();
     void hideTip();

@@ -145,7 +145,8 @@ BOOL CVantorToolBar::InsertButton(int index, TBBUTTON* button)
     if (!button)
         return 1;
     const std::shared_ptr<State> state = m_state;
-    state->keyboard.button = afterInsertion(state->keyboard.button, index);
+    if (index >= 0) // else it comes last
+        state->keyboard.button = afterInsertion(state->keyboard.button, index);
     const auto inserted = static_cast<BOOL>(
         SendMessage(TB_INSERTBUTTON, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(button)));
     if (state->usable())

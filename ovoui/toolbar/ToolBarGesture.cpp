@@ -104,7 +104,7 @@ void CVantorToolBar::CreatePopup(int index, const CRect& rect, int held)
         return;
     const auto flyout = std::make_shared<CFlyoutToolbar>();
     const bool horizontal = isHorizontal();
-    const bool showsOwnImages = record->imageList && record->imageList == state->images.GetImageList();
+    const bool showsOwnImages = record->imageList == state->images.GetImageList();
     if (!flyout->create(*this, FlyoutRecord(*record), horizontal))
         return;
     ms_popupBar = flyout;

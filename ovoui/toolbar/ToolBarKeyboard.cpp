@@ -76,7 +76,8 @@ void CVantorToolBar::goToButton(int index)
     redrawButton(std::exchange(state->keyboard.button, index));
     redrawButton(index);
     const UINT prompt = hasButton(index) ? GetItemID(index) : AFX_IDS_IDLEMESSAGE;
-    ::PostMessageW(promptFrame(), WM_SETMESSAGESTRING, prompt, 0);
+    if (const HWND frame = promptFrame())
+        ::PostMessageW(frame, WM_SETMESSAGESTRING, prompt, 0);
     SendMessage(TB_SETHOTITEM, static_cast<WPARAM>(index));
     if (state->usable())
         awaitTip();
@@ -149,7 +150,7 @@ bool CVantorToolBar::onOperatingKey(UINT key, bool alt)
         goToControl(outcome.action == BarKeyAction::PreviousControl);
         break;
     }
-    return takesBarKey(outcome, alt);
+    return true;
 }
 
 void CVantorToolBar::walkBar(WalkKey key)
@@ -234,11 +235,12 @@ void CVantorToolBar::goToControl(bool previous)
 
 void CVantorToolBar::giveFocusBack()
 {
-    const HWND before = m_state->keyboard.before;
-    leaveKeyboard();
+    const std::shared_ptr<State> state = m_state;
+    const HWND before = state->keyboard.before;
+    leaveKeyboard(); // tells the owner of the hot button
     if (takesFocus(before))
         ::SetFocus(before);
-    else if (CFrameWnd* const frame = GetTopLevelFrame())
+    else if (CFrameWnd* const frame = state->usable() ? GetTopLevelFrame() : nullptr)
         frame->SetFocus();
 }
 
@@ -265,9 +267,14 @@ void CVantorToolBar::OnKeyDown(UINT key, UINT repeat, UINT flags)
         CToolBar::OnKeyDown(key, repeat, flags);
 }
 
+/// The system hears of the key, too: else it would take Alt for the only one, and open the menu when Alt is
+/// let go of.
 void CVantorToolBar::OnSysKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    if (!onOperatingKey(key, (flags & KF_ALTDOWN) != 0))
+    const std::shared_ptr<State> state = m_state;
+    if (flags & KF_ALTDOWN) // without Alt it is F10, which is the menu's
+        onOperatingKey(key, true);
+    if (state->usable())
         CToolBar::OnSysKeyDown(key, repeat, flags);
 }
 

@@ -22,7 +22,7 @@ void drawDot(CDC& dc, const ovoui::frame::Point& dot)
     dc.FillSolidRect(dot.x, dot.y, kDotSize, kDotSize, ::GetSysColor(COLOR_BTNSHADOW));
 }
 
-/// The text of an item of a list or combo box.
+/// The text of an item of a list or combo box; empty where there is none.
 std::wstring itemText(const DRAWITEMSTRUCT& item)
 {
     const bool combo = item.CtlType == ODT_COMBOBOX;
@@ -50,14 +50,12 @@ void drawTextItem(const DRAWITEMSTRUCT& item)
     CRect rect(item.rcItem);
     CDC& dc = *CDC::FromHandle(item.hDC);
     dc.FillSolidRect(rect, ovoui::frame::colorrefOf(colours.background));
-    if (item.itemID != static_cast<UINT>(-1)) {
-        const COLORREF before = dc.SetTextColor(ovoui::frame::colorrefOf(colours.text));
-        rect.DeflateRect(2, 0);
-        const std::wstring text = itemText(item);
-        dc.DrawText(text.c_str(), static_cast<int>(text.size()), &rect,
-                    DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
-        dc.SetTextColor(before);
-    }
+    const COLORREF before = dc.SetTextColor(ovoui::frame::colorrefOf(colours.text));
+    rect.DeflateRect(2, 0);
+    const std::wstring text = itemText(item);
+    dc.DrawText(text.c_str(), static_cast<int>(text.size()), &rect,
+                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    dc.SetTextColor(before);
     if (ovoui::frame::showsFocus(item.itemState))
         ::DrawFocusRect(item.hDC, &item.rcItem);
 }
@@ -195,6 +193,6 @@ void CVantorToolBar::OnMeasureItem(int id, LPMEASUREITEMSTRUCT item)
 void CVantorToolBar::OnSettingChange(UINT flags, LPCTSTR section)
 {
     CToolBar::OnSettingChange(flags, section);
-    onResolutionChanged(0);
-    Invalidate();
+    if (onResolutionChanged(0))
+        Invalidate();
 }

@@ -95,8 +95,11 @@ bool CVantorToolBar::isPlacedBy(const CFrameWnd& frame) const
     return parent == &frame || dynamic_cast<const CDockBar*>(parent);
 }
 
-/// `resolution` is 0 when the message does not tell it.
-void CVantorToolBar::onResolutionChanged(int resolution)
+/// `resolution` is 0 when the message does not tell it. False when a drawing of the host's has destroyed the
+/// bar.
+bool CVantorToolBar::onResolutionChanged(int resolution)
 {
+    const std::shared_ptr<State> state = m_state;
     loadStrip(resolution ? resolution : resolutionOf(m_hWnd));
+    return state->usable();
 }

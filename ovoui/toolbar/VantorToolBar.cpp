@@ -136,10 +136,12 @@ LRESULT CVantorToolBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             return object;
         break;
     case WM_DPICHANGED:
-        onResolutionChanged(LOWORD(wParam));
+        if (!onResolutionChanged(LOWORD(wParam)))
+            return 0;
         break;
     case kDpiChangedAfterParent:
-        onResolutionChanged(0);
+        if (!onResolutionChanged(0))
+            return 0;
         break;
     case WM_SYSCOLORCHANGE: {
         const std::shared_ptr<State> state = m_state;

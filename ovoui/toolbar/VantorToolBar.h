@@ -77,8 +77,8 @@ public:
     void DetachBar(int button);
     /// Takes all flyouts away.
     void DetachAllBars();
-    /// The flyout of another bar's button `fromButton`, or none if that has none. Nothing is done without
-    /// `from`.
+    /// The flyout of another bar's button `fromButton`, or none if that has none; the image list stays the
+    /// other bar's and is not followed when that gets another one. Nothing is done without `from`.
     void CopyBar(int button, const CVantorToolBar* from, int fromButton);
     /// Whether a button has a flyout.
     bool HasFlyout(int button) const;
@@ -183,7 +183,6 @@ public:
     void DrawGripper(CDC* dc, const CRect& rect) override;
 
 protected:
-    // One flyout is open at a time, whichever bar it belongs to.
     /// The flyout that is open. One is open at a time, whichever bar it belongs to.
     static std::shared_ptr<CFlyoutToolbar> ms_popupBar;
     static bool ms_dragging;         ///< from the press on a flyout button to the release
@@ -275,7 +274,7 @@ private:
     void renewImages();
     void showImages(int dotsPerInch, int sizeBefore);
     bool isPlacedBy(const CFrameWnd& frame) const;
-    void onResolutionChanged(int resolution);
+    bool onResolutionChanged(int resolution);
     bool isHorizontal() const;
     LRESULT onControlCommand(WPARAM wParam, LPARAM lParam);
     void postEndOfInput(HWND target);

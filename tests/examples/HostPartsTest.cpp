@@ -405,6 +405,17 @@ TEST_F(BarScene, TakesAnotherTableInPlaceOfTheFirst)
     EXPECT_EQ(m_bar.GetItemID(0), 201u);
 }
 
+TEST_F(BarScene, SaysWhenTheBarRefusesTheButtons)
+{
+    const WNDPROC refusing = [](HWND wnd, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+        return message == TB_INSERTBUTTON ? FALSE : ::DefWindowProcW(wnd, message, wParam, lParam);
+    };
+    const LONG_PTR own =
+        ::SetWindowLongPtrW(m_bar.m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(refusing));
+    EXPECT_FALSE(setTable());
+    ::SetWindowLongPtrW(m_bar.m_hWnd, GWLP_WNDPROC, own);
+}
+
 // The system's images, GDI+, the clipboard
 
 TEST(ShellImages, TellFoldersFromFiles)

@@ -115,6 +115,59 @@ TEST_F(BarAccess, TheKeyboardIsTheFocus)
     EXPECT_FALSE(bar.state(kPlain) & STATE_SYSTEM_FOCUSED);
 }
 
+TEST_F(BarAccess, EveryStateOfAButtonIsTold)
+{
+    const AccessibleView bar(scene.bar());
+    EXPECT_TRUE(bar.state(kPlain) & STATE_SYSTEM_FOCUSABLE);
+    EXPECT_FALSE(bar.state(kGap) & STATE_SYSTEM_FOCUSABLE);
+    EXPECT_FALSE(bar.state(kPlain) & (STATE_SYSTEM_MIXED | STATE_SYSTEM_PRESSED));
+    scene.bar().SetButtonStyle(BarScene::Plain, TBBS_CHECKBOX | TBBS_INDETERMINATE);
+    EXPECT_TRUE(bar.state(kPlain) & STATE_SYSTEM_MIXED);
+    scene.bar().SetButtonStyle(BarScene::Plain, TBBS_BUTTON);
+    scene.bar().SendMessage(TB_PRESSBUTTON, ID_PLAIN, TRUE);
+    EXPECT_TRUE(bar.state(kPlain) & STATE_SYSTEM_PRESSED);
+    EXPECT_FALSE(bar.state(kLines) & STATE_SYSTEM_PRESSED);
+}
+
+TEST_F(BarAccess, WhenTheKeyboardLeavesTheBarHasNoFocus)
+{
+    CWnd pane;
+    pane.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 100, 200, 200), &scene.frame(),
+                AFX_IDW_PANE_FIRST);
+    pane.SetFocus();
+    scene.bar().FocusButtons();
+    WinEvents focused(EVENT_OBJECT_FOCUS);
+    scene.user.key(VK_ESCAPE);
+    ASSERT_EQ(::GetFocus(), pane.m_hWnd);
+    EXPECT_EQ(focused.of(scene.bar()), 0);
+}
+
+TEST_F(BarAccess, ClientsHearOfTheEntryThatTheKeyboardIsAt)
+{
+    scene.bar().FocusButtons();
+    WinEvents focused(EVENT_OBJECT_FOCUS);
+    scene.user.key(VK_RIGHT).key(VK_DOWN).waitFor("the flyout", &BarScene::flyoutShown).key(VK_RIGHT);
+    ASSERT_TRUE(BarScene::flyoutShown());
+    const HWND flyout = BarScene::flyout()->m_hWnd;
+    EXPECT_EQ(focused.of(flyout, 1), 1);
+    EXPECT_EQ(focused.of(flyout, 2), 1);
+    EXPECT_EQ(AccessibleView(flyout).focused(), 2);
+    scene.user.key(VK_ESCAPE);
+}
+
+TEST_F(BarAccess, AFlyoutIsThePlatformsToo)
+{
+    const auto answers = [&](bool use) {
+        scene.bar().UseAccessibleNames(use);
+        scene.bar().CreatePopup(BarScene::Lines, onScreen(scene.bar(), BarScene::Lines), 0);
+        const bool own = BarScene::flyout()->SendMessage(WM_GETOBJECT, 0, OBJID_CLIENT) != 0;
+        TestBar::ms_popupBar.reset();
+        return own;
+    };
+    EXPECT_FALSE(answers(false));
+    EXPECT_TRUE(answers(true));
+}
+
 TEST_F(BarAccess, TheEntriesOfAFlyoutHaveNamesAndCanBeChosen)
 {
     scene.frame().disabled = {ID_CURVE};
@@ -126,6 +179,7 @@ TEST_F(BarAccess, TheEntriesOfAFlyoutHaveNamesAndCanBeChosen)
         EXPECT_EQ(flyout.name(1), L"Line");
         EXPECT_EQ(flyout.name(2), L"Curve");
         EXPECT_EQ(flyout.role(3), ROLE_SYSTEM_SEPARATOR);
+        EXPECT_FALSE(flyout.state(3) & STATE_SYSTEM_UNAVAILABLE) << "no more than in the bar";
         EXPECT_EQ(flyout.name(5), L"nameless") << "it has a name, though no string";
         EXPECT_TRUE(flyout.state(1) & STATE_SYSTEM_FOCUSED);
         EXPECT_TRUE(flyout.state(2) & STATE_SYSTEM_UNAVAILABLE);

@@ -200,6 +200,21 @@ TEST(BarButton, ItsTextSurvivesTheReplacement)
     EXPECT_EQ(scene.image(0), 3);
 }
 
+TEST(BarButton, TheSameWordsElsewhereAreNoChangeOtherWordsAre)
+{
+    BarScene scene;
+    scene.bar().SetButtonText(0, L"Words");
+    TBBUTTON button;
+    scene.bar()._getButton(0, &button);
+    const std::wstring same = L"Words";
+    button.iString = reinterpret_cast<INT_PTR>(same.c_str());
+    EXPECT_TRUE(invalidAfter(scene.bar(), [&] { scene.bar()._setButton(0, &button); }).IsRectEmpty());
+    const std::wstring other = L"Others";
+    button.iString = reinterpret_cast<INT_PTR>(other.c_str());
+    EXPECT_EQ(invalidAfter(scene.bar(), [&] { scene.bar()._setButton(0, &button); }), clientOf(scene.bar()));
+    EXPECT_STREQ(scene.bar().GetButtonText(0), L"Others");
+}
+
 TEST(BarButton, BeyondTheLastNothingHappens)
 {
     BarScene scene;

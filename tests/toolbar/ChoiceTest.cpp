@@ -43,6 +43,18 @@ TEST(FlyoutChoice, AnEntryOfAResourceGivesItsIndexAsTheImage)
     EXPECT_EQ(scene.image(BarScene::Shapes), 3) << "separators are counted";
 }
 
+TEST(FlyoutChoice, EntriesThatTheResourceLacksAreCountedAllTheSame)
+{
+    BarScene scene;
+    scene.bar().AttachBar(BarScene::Shapes, IDR_SHAPES, 16, {99, 4, 0}, false);
+    scene.user.press(scene.button(BarScene::Shapes))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(0))
+        .release();
+    EXPECT_EQ(scene.commands(), Ids{ID_RING});
+    EXPECT_EQ(scene.image(BarScene::Shapes), 4);
+}
+
 TEST(FlyoutChoice, TheCommandIsPosted)
 {
     BarScene scene;

@@ -1,10 +1,14 @@
 // What hosts may ask for besides: marks, the hold delay, remembered choices.
 #include "ToolBarScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/GdiPlusSession.h>
 #include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
 #include <testkit/TemporaryProfile.h>
+
+#include <ovoui/toolbar/ToolBarCommands.h>
 
 #include <ovouires/resource.h>
 
@@ -178,6 +182,28 @@ TEST(FlyoutHoldDelay, IsThatOfTheBarOrOfTheSystemsMenus)
     EXPECT_EQ(held, (std::vector<UINT>{200, 750, menuDelay}));
 }
 
+namespace
+{
+
+BOOL WINAPI noMenuDelay(UINT action, UINT number, void* data, UINT flags)
+{
+    return action != SPI_GETMENUSHOWDELAY && ::SystemParametersInfoW(action, number, data, flags);
+}
+
+} // namespace
+
+TEST(FlyoutHoldDelay, IsTheUsualOneWhereTheSystemNamesNone)
+{
+    BarScene scene;
+    held.clear();
+    const ImportPatch setTimer{L"ovoui.dll", "SetTimer", reinterpret_cast<void*>(&noteHold)};
+    const ImportPatch settings{L"ovoui.dll", "SystemParametersInfoW", reinterpret_cast<void*>(&noMenuDelay)};
+    scene.bar().SetHoldDelay(CVantorToolBar::kMenuDelay);
+    scene.bar().CreatePopup(BarScene::Lines, CRect(300, 300, 320, 320), 1);
+    TestBar::ms_popupBar.reset();
+    EXPECT_EQ(held, std::vector<UINT>{200});
+}
+
 // Remembered choices
 
 TEST(FlyoutChoices, ComeBackInANewBar)
@@ -194,6 +220,7 @@ TEST(FlyoutChoices, ComeBackInANewBar)
             .moveTo(scene.entry(1))
             .release();
         scene.bar().SaveChoices(kSection);
+        EXPECT_EQ(AfxGetApp()->GetProfileInt(kSection, L"Button0", 4711), 4711u) << "it has no flyout";
     }
     BarScene scene;
     scene.bar().LoadChoices(kSection);
@@ -216,6 +243,17 @@ TEST(FlyoutChoices, ThatAreGoneOrWereNeverSavedAreSkipped)
     scene.bar().LoadChoices(kSection);
     EXPECT_EQ(scene.command(BarScene::Lines), ID_LINE);
     EXPECT_EQ(scene.command(BarScene::Plain), ID_PLAIN);
+}
+
+TEST(FlyoutChoices, ComeWithTheirImagesWhereTheResourceLacksEntries)
+{
+    const TemporaryProfile profile;
+    BarScene scene;
+    scene.bar().AttachBar(BarScene::Shapes, IDR_SHAPES, 16, {99, 4, 0}, false);
+    AfxGetApp()->WriteProfileInt(kSection, L"Button2", ID_RING);
+    scene.bar().LoadChoices(kSection);
+    EXPECT_EQ(scene.command(BarScene::Shapes), ID_RING);
+    EXPECT_EQ(scene.image(BarScene::Shapes), 4);
 }
 
 // Strips by resolution
@@ -282,6 +320,36 @@ TEST(BarStrips, AChangeOfSettingsAsksTheMonitorAgain)
     scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(240, 240));
     scene.bar().SendMessage(WM_SETTINGCHANGE);
     EXPECT_EQ(imageSize(scene.bar()), size);
+}
+
+TEST(BarStrips, AChangeOfTheParentsResolutionAsksTheMonitorAgain)
+{
+    constexpr UINT kChangedAfterParent = 0x02E3; // what windows in others get on Windows 10
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    scene.bar().UseStrips(kStrips, 16);
+    const CSize size = imageSize(scene.bar());
+    scene.bar().SendMessage(WM_DPICHANGED, MAKEWPARAM(240, 240));
+    ASSERT_NE(imageSize(scene.bar()), size);
+    scene.bar().SendMessage(kChangedAfterParent);
+    EXPECT_EQ(imageSize(scene.bar()), size);
+}
+
+TEST(BarStrips, TheFrameMakesRoomForADockedBar)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    scene.frame().EnableDocking(CBRS_ALIGN_ANY);
+    scene.bar().EnableDocking(CBRS_ALIGN_ANY);
+    scene.frame().DockControlBar(&scene.bar(), AFX_IDW_DOCKBAR_TOP);
+    scene.frame().RecalcLayout();
+    ASSERT_NE(scene.bar().GetParent(), &scene.frame());
+    CRect before;
+    scene.bar().GetWindowRect(&before);
+    scene.bar().UseStrips(kStrips, 32);
+    CRect after;
+    scene.bar().GetWindowRect(&after);
+    EXPECT_GT(after.Height(), before.Height());
 }
 
 TEST(BarStrips, TheFrameMakesRoomForABarOfItsOwnAlone)
@@ -359,6 +427,76 @@ TEST(BarStrips, ADrawingMayRaiseAndDestroyTheBar)
     EXPECT_EQ(bar->m_hWnd, nullptr);
 }
 
+TEST(BarStrips, ADrawingMayDeleteTheBar)
+{
+    const GdiPlusSession gdiPlus;
+    constexpr UINT kChangedAfterParent = 0x02E3;
+    for (const UINT message :
+         {UINT{WM_DPICHANGED}, kChangedAfterParent, UINT{WM_SETTINGCHANGE}, UINT{WM_SYSCOLORCHANGE}}) {
+        SCOPED_TRACE(message);
+        BarScene scene;
+        std::unique_ptr<TestBar> bar = std::make_unique<Perishing<TestBar>>();
+        bar->CreateEx(&scene.frame(), TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP);
+        bool deletes = false;
+        bar->UseStrips(CImageStrips(
+            [&](int size) {
+                if (deletes)
+                    bar.reset();
+                return ::CreateBitmap(3 * size, size, 1, 32, nullptr);
+            },
+            16));
+        bar->SendMessage(WM_DPICHANGED, MAKEWPARAM(240, 240));
+        deletes = true;
+        const HWND window = bar->m_hWnd;
+        ::SendMessageW(window, message, message == WM_DPICHANGED ? MAKEWPARAM(288, 288) : 0, 0);
+        EXPECT_EQ(bar, nullptr);
+        EXPECT_FALSE(::IsWindow(window));
+    }
+}
+
+TEST(BarStrips, ADrawingThatDestroysTheBarMakesNoOtherWindowInvalid)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    RecordingParent other({200, 100}, L"Another window");
+    other.SetWindowPos(&CWnd::wndTop, 850, 300, 0, 0, SWP_NOSIZE | SWP_SHOWWINDOW | SWP_NOACTIVATE);
+    TestBar& bar = scene.bar();
+    bool destroys = false;
+    bar.UseStrips(CImageStrips(
+        [&](int size) {
+            if (destroys)
+                bar.DestroyWindow();
+            return ::CreateBitmap(3 * size, size, 1, 32, nullptr);
+        },
+        16));
+    bar.SendMessage(WM_DPICHANGED, MAKEWPARAM(240, 240));
+    GuiThread::settle();
+    other.UpdateWindow();
+    destroys = true;
+    bar.SendMessage(WM_SETTINGCHANGE);
+    EXPECT_EQ(bar.m_hWnd, nullptr);
+    EXPECT_FALSE(other.GetUpdateRect(nullptr));
+}
+
+TEST(BarTable, GivesButtonsAndChosenEntriesTheirImages)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    ASSERT_TRUE(
+        setCommands(scene.bar(), {{ID_PLAIN, 3}, {ID_LINE, 5, {{ID_LINE, 5}, {ID_ARC, 9}}}}, kStrips, 16));
+    scene.frame().RecalcLayout();
+    GuiThread::settle();
+    EXPECT_EQ(scene.image(0), 3);
+    EXPECT_EQ(scene.image(1), 5);
+    scene.user.press(scene.button(1))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(0)) // off the bar first
+        .moveTo(scene.entry(1))
+        .release();
+    EXPECT_EQ(scene.commands(), std::vector<UINT>{ID_ARC});
+    EXPECT_EQ(scene.image(1), 9);
+}
+
 // Disabled images
 
 namespace
@@ -394,6 +532,20 @@ TEST(BarDisabledImages, AreMadeFromTheStripsOnRequest)
 
     scene.bar().UseDisabledImages(false);
     EXPECT_EQ(disabledListOf(scene.bar()), nullptr);
+}
+
+TEST(BarDisabledImages, AreNotForFlyoutsWithImagesOfTheirOwn)
+{
+    const GdiPlusSession gdiPlus;
+    BarScene scene;
+    scene.bar().UseDisabledImages(true);
+    scene.bar().UseStrips(kStrips, 16);
+    ASSERT_NE(disabledListOf(scene.bar()), nullptr);
+    scene.bar().CreatePopup(BarScene::Shapes, CRect(300, 300, 320, 320), 0);
+    ASSERT_NE(BarScene::flyout(), nullptr);
+    EXPECT_NE(listOf(*BarScene::flyout()), listOf(scene.bar()));
+    EXPECT_EQ(disabledListOf(*BarScene::flyout()), nullptr);
+    TestBar::ms_popupBar.reset();
 }
 
 TEST(BarDisabledImages, FollowTheSystemsColours)

@@ -105,6 +105,29 @@ TEST(FlyoutWindow, IsAlignedAsItsBarLies)
     }
 }
 
+TEST(FlyoutWindow, HasALineAroundItsEntries)
+{
+    for (const SideCase& side : kSides) {
+        SCOPED_TRACE(side.name);
+        BarScene scene(side.side);
+        const OpenFlyout flyout(scene);
+        CRect client;
+        flyout->GetClientRect(&client);
+        flyout->ClientToScreen(&client);
+        CRect inside = flyout.rect();
+        inside.DeflateRect(2, 2); // the line, and a pixel of ground
+        EXPECT_EQ(client, inside);
+        const Picture picture = Picture::ofWindow(flyout->m_hWnd);
+        const COLORREF line = ::GetSysColor(COLOR_BTNSHADOW);
+        const int width = picture.width();
+        const int height = picture.height();
+        EXPECT_EQ(picture.count(line, 0, CRect(0, 0, width, 1)), width);
+        EXPECT_EQ(picture.count(line, 0, CRect(0, height - 1, width, height)), width);
+        EXPECT_EQ(picture.count(line, 0, CRect(0, 0, 1, height)), height);
+        EXPECT_EQ(picture.count(line, 0, CRect(width - 1, 0, width, height)), height);
+    }
+}
+
 TEST(FlyoutWindow, GoesWithTheBarsHoldOnIt)
 {
     BarScene scene;
@@ -268,7 +291,7 @@ TEST(FlyoutEntries, OfACommandListHaveTheSizeThatUpdateBarBitmapSizeSays)
     bare.AttachBar(1, IDR_SHAPES, 16, {0, 1}, false);
     scene.frame().RecalcLayout();
     bare.UpdateBarBitmapSize(8);
-    const auto widthAndCount = [&](int button) {
+    const auto sizeAndCount = [&](int button) {
         bare.CreatePopup(button, onScreen(bare, button), 0);
         int width = 0;
         int height = 0;
@@ -276,10 +299,10 @@ TEST(FlyoutEntries, OfACommandListHaveTheSizeThatUpdateBarBitmapSizeSays)
         ::ImageList_GetIconSize(list, &width, &height);
         const int count = ::ImageList_GetImageCount(list);
         TestBar::ms_popupBar.reset();
-        return std::pair(width, count);
+        return std::pair(CSize(width, height), count);
     };
-    EXPECT_EQ(widthAndCount(0), std::pair(8, 16)) << "the strip has 128 pixels";
-    EXPECT_EQ(widthAndCount(1).first, 16) << "the resource's own";
+    EXPECT_EQ(sizeAndCount(0), std::pair(CSize(8, 8), 16)) << "the strip has 128 pixels";
+    EXPECT_EQ(sizeAndCount(1).first, CSize(16, 15)) << "the resource's own";
 }
 
 TEST(FlyoutEntries, ACopiedFlyoutIsTheSame)
@@ -314,6 +337,22 @@ TEST(FlyoutEntries, AreEnabledAsTheUpdateHandlersSay)
     scene.bar().SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     EXPECT_TRUE(flyout->GetButtonStyle(0) & TBBS_DISABLED) << "and go on following them";
     EXPECT_FALSE(flyout->GetButtonStyle(1) & TBBS_DISABLED);
+}
+
+TEST(FlyoutEntries, ThatNobodyHandlesAreDisabledAtOnce)
+{
+    BarScene scene;
+    attachMany(scene, 2);
+    const OpenFlyout flyout(scene);
+    EXPECT_TRUE(flyout->GetButtonStyle(0) & TBBS_DISABLED);
+    EXPECT_TRUE(flyout->GetButtonStyle(1) & TBBS_DISABLED);
+}
+
+TEST(FlyoutEntries, ThatAreSeparatorsAreAsWideAsThoseOfTheBar)
+{
+    BarScene scene;
+    const OpenFlyout flyout(scene);
+    EXPECT_EQ(flyout.entry(2).Width(), onScreen(scene.bar(), BarScene::Gap).Width());
 }
 
 // Place

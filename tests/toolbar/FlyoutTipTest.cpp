@@ -39,6 +39,16 @@ TEST(FlyoutPrompt, OfTheHotEntryIsInTheMessageLineAndGoesAgain)
     EXPECT_EQ(scene.prompt(), L"Ready");
 }
 
+TEST(FlyoutPrompt, OfTheHostStaysWhereNoEntryWasHot)
+{
+    BarScene scene;
+    scene.frame().SetMessageText(L"Saving");
+    scene.bar().CreatePopup(BarScene::Lines, onScreen(scene.bar(), BarScene::Lines), 0);
+    TestBar::ms_popupBar.reset();
+    GuiThread::settle();
+    EXPECT_EQ(scene.prompt(), L"Saving");
+}
+
 // Tips
 
 namespace
@@ -129,6 +139,17 @@ TEST_F(FlyoutTips, TheFirstWaitsLongerThanTheNext)
         .moveTo(scene.outside())
         .release();
     EXPECT_EQ(timers[42], std::vector<UINT>{});
+}
+
+TEST_F(FlyoutTips, ComeOnce)
+{
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(0))
+        .waitFor("the tip", [] { return shownTip() != nullptr; })
+        .then([] { EXPECT_FALSE(::KillTimer(BarScene::flyout()->m_hWnd, 43)) << "nothing is awaited now"; })
+        .moveTo(scene.outside())
+        .release();
 }
 
 TEST_F(FlyoutTips, AMoveWithinTheEntryStartsNothingAnew)

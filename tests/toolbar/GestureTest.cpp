@@ -183,6 +183,38 @@ TEST(FlyoutSlide, OverTheEntriesInEveryDirectionOneIsHot)
     EXPECT_EQ(seen, (std::vector{0, 4, 1, -1, 3}));
 }
 
+TEST(FlyoutSlide, AFlyoutThatIsNotShownYetCoversNoButton)
+{
+    BarScene scene;
+    pressAtOnce(scene.bar(), BarScene::Lines);
+    CRect bar;
+    scene.bar().GetWindowRect(&bar);
+    BarScene::flyout()->SetWindowPos(nullptr, bar.left, bar.top, bar.Width(), bar.Height(),
+                                     SWP_NOZORDER | SWP_NOACTIVATE);
+    CPoint shapes = scene.button(BarScene::Shapes).find();
+    scene.bar().ScreenToClient(&shapes);
+    scene.bar().SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(shapes.x, shapes.y));
+    EXPECT_EQ(TestBar::ms_dragButton, BarScene::Shapes);
+    EXPECT_TRUE(BarScene::flyoutShown());
+    releaseAtOnce(scene.bar(), scene.outside().find());
+}
+
+TEST(FlyoutSlide, FromAButtonWhoseFlyoutHasNoEntriesLeadsToTheOthers)
+{
+    BarScene scene;
+    scene.bar().AttachBar(BarScene::Lines, 16, {}, {}, {}, {}, false, false);
+    scene.user.press(scene.button(BarScene::Lines))
+        .then([] {
+            EXPECT_TRUE(TestBar::ms_dragging);
+            EXPECT_EQ(BarScene::flyout(), nullptr);
+        })
+        .moveTo(scene.button(BarScene::Shapes))
+        .then([] { EXPECT_TRUE(BarScene::flyoutShown()); })
+        .moveTo(scene.outside())
+        .release();
+    EXPECT_EQ(scene.commands(), Ids{});
+}
+
 TEST(FlyoutSlide, ASecondPressDuringTheFirstChangesNothing)
 {
     BarScene scene;
@@ -329,6 +361,36 @@ TEST(FlyoutInterrupted, ADisabledButtonOpensItsFlyoutToo)
         .moveTo(scene.entry(1))
         .release();
     EXPECT_EQ(scene.commands(), Ids{ID_CURVE});
+}
+
+TEST(FlyoutInterrupted, AfterThePressOfADisabledButtonTheMouseIsFree)
+{
+    BarScene scene;
+    scene.frame().disabled = {ID_LINE};
+    GuiThread::settle();
+    scene.bar().SendMessage(TB_ENABLEBUTTON, ID_LINE, FALSE);
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .then([&] { EXPECT_EQ(::GetCapture(), scene.bar().m_hWnd); })
+        .moveTo(scene.outside())
+        .release();
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST(FlyoutInterrupted, ABarThatTakesTheMouseOnceMoreGoesOn)
+{
+    BarScene scene;
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .then([&] {
+            const auto bar = reinterpret_cast<LPARAM>(scene.bar().m_hWnd);
+            scene.bar().SendMessage(WM_CAPTURECHANGED, 0, bar);
+            EXPECT_TRUE(BarScene::flyoutShown());
+            EXPECT_TRUE(TestBar::ms_dragging);
+        })
+        .moveTo(scene.outside())
+        .release();
+    EXPECT_TRUE(BarScene::idle());
 }
 
 // Double clicks

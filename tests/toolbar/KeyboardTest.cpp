@@ -1,10 +1,15 @@
 // The keyboard in the bar itself: walking, opening flyouts, choosing, and where the focus goes.
 #include "ToolBarScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/Picture.h>
+#include <testkit/RecordingParent.h>
+
+#include <afxpriv.h>
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <stdexcept>
 
 using namespace ovo::testkit;
@@ -118,6 +123,65 @@ TEST_F(BarKeyboard, EscapeGivesTheFocusBack)
     EXPECT_EQ(::GetFocus(), scene.frame().m_hWnd) << "what had it is gone";
 }
 
+TEST_F(BarKeyboard, AskedForTwiceItKnowsWhereTheFocusWas)
+{
+    EXPECT_TRUE(scene.bar().FocusButtons());
+    EXPECT_TRUE(scene.bar().FocusButtons());
+    scene.user.key(VK_ESCAPE);
+    EXPECT_TRUE(paneHasFocus());
+}
+
+TEST_F(BarKeyboard, WhatCannotTakeTheFocusAnyMoreDoesNotGetIt)
+{
+    scene.bar().FocusButtons();
+    pane.ShowWindow(SW_HIDE);
+    scene.user.key(VK_ESCAPE);
+    EXPECT_EQ(::GetFocus(), scene.frame().m_hWnd) << "it is hidden";
+    pane.ShowWindow(SW_SHOW);
+    pane.SetFocus();
+    scene.bar().FocusButtons();
+    pane.EnableWindow(FALSE);
+    scene.user.key(VK_ESCAPE);
+    EXPECT_EQ(::GetFocus(), scene.frame().m_hWnd) << "it is disabled";
+}
+
+TEST_F(BarKeyboard, TheCommandFindsTheFocusWhereItWas)
+{
+    HWND focus = nullptr;
+    scene.frame().onCommand = [&](UINT) { focus = ::GetFocus(); };
+    scene.bar().FocusButtons();
+    scene.user.key(VK_END).key(VK_RETURN);
+    EXPECT_EQ(scene.commands(), Ids{ID_OTHER});
+    EXPECT_EQ(focus, pane.m_hWnd);
+}
+
+TEST_F(BarKeyboard, F10IsTheMenus)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_F10);
+    EXPECT_EQ(scene.frame().menusAsked, 1);
+}
+
+TEST_F(BarKeyboard, AltAloneIsTheMenusAndWithAnArrowTheBars)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT);
+    constexpr LPARAM kWithAlt = 1 | KF_ALTDOWN << 16;
+    const auto holdAlt = [&](WPARAM key) {
+        scene.bar().SendMessage(WM_SYSKEYDOWN, VK_MENU, kWithAlt);
+        if (key)
+            scene.bar().SendMessage(WM_SYSKEYDOWN, key, kWithAlt);
+        scene.bar().SendMessage(WM_SYSKEYUP, VK_MENU, 1);
+    };
+    holdAlt(0);
+    EXPECT_EQ(scene.frame().menusAsked, 1);
+    holdAlt(VK_DOWN);
+    EXPECT_TRUE(BarScene::flyoutShown());
+    holdAlt(VK_UP);
+    EXPECT_TRUE(BarScene::idle());
+    EXPECT_EQ(scene.frame().menusAsked, 1);
+}
+
 TEST_F(BarKeyboard, EnterAndSpacePressTheButton)
 {
     for (const UINT key : {VK_RETURN, VK_SPACE}) {
@@ -160,6 +224,14 @@ TEST_F(BarKeyboard, ADisabledButtonIsLeftOutUnlessItHasAFlyout)
     EXPECT_EQ(scene.commands(), Ids{}) << "its own command is disabled";
     scene.user.key(VK_DOWN).waitFor("the flyout", &BarScene::flyoutShown).key(VK_ESCAPE).key(VK_ESCAPE);
     EXPECT_TRUE(paneHasFocus());
+}
+
+TEST_F(BarKeyboard, AHiddenButtonIsPassedOver)
+{
+    scene.bar().SetButtonStyle(BarScene::Lines, TBBS_BUTTON | TBBS_HIDDEN);
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT);
+    EXPECT_EQ(hot(), BarScene::Shapes);
 }
 
 TEST_F(BarKeyboard, DownOpensTheFlyoutAndArrowsWalkItsEntries)
@@ -246,6 +318,20 @@ TEST_F(BarKeyboard, AFlyoutOpenedByKeyCanBeClicked)
     EXPECT_TRUE(BarScene::idle());
 }
 
+TEST_F(BarKeyboard, OfEntriesWithOneCommandTheClickedOneIsChosen)
+{
+    scene.bar().AttachBar(BarScene::Lines, 16, {ID_LINE, ID_LINE, ID_ARC},
+                          {IDR_SHAPES, IDR_SHAPES, IDR_SHAPES}, {4, 5, 6}, {}, false, false);
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT)
+        .key(VK_DOWN)
+        .waitFor("the flyout", &BarScene::flyoutShown)
+        .click(scene.entry(1))
+        .waitFor("the command", [&] { return !scene.commands().empty(); });
+    EXPECT_EQ(scene.commands(), Ids{ID_LINE});
+    EXPECT_EQ(scene.image(BarScene::Lines), 5);
+}
+
 TEST_F(BarKeyboard, TheTipOfAnEntryShowsAsWithTheMouse)
 {
     scene.bar().FocusButtons();
@@ -319,6 +405,48 @@ TEST_F(BarKeyboard, WithoutAButtonOrAWindowThereIsNoFocus)
     EXPECT_TRUE(paneHasFocus());
 }
 
+TEST_F(BarKeyboard, AHiddenBarDoesNotTakeTheFocus)
+{
+    scene.bar().ShowWindow(SW_HIDE);
+    EXPECT_FALSE(scene.bar().FocusButtons());
+    EXPECT_TRUE(paneHasFocus());
+}
+
+TEST(BarKeyboardAlone, WithoutAFrameThereIsNobodyToShowThePrompt)
+{
+    RecordingParent parent;
+    TestBar bar;
+    bar.CreateEx(&parent, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP);
+    static constexpr UINT kButton[] = {ID_PLAIN};
+    bar.SetButtons(kButton, 1);
+    bar.SetWindowPos(nullptr, 0, 0, 200, 40, SWP_NOZORDER);
+    present(parent);
+    EXPECT_TRUE(bar.FocusButtons());
+    MSG message;
+    const auto toTheThread = reinterpret_cast<HWND>(-1);
+    EXPECT_FALSE(::PeekMessageW(&message, toTheThread, WM_SETMESSAGESTRING, WM_SETMESSAGESTRING, PM_REMOVE));
+}
+
+TEST_F(BarKeyboard, TheOwnerMayDeleteTheBarWhenTheFocusLeaves)
+{
+    std::unique_ptr<TestBar> bar = std::make_unique<Perishing<TestBar>>();
+    bar->CreateEx(&scene.frame(), TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP);
+    static constexpr UINT kButton[] = {ID_PLAIN};
+    bar->SetButtons(kButton, 1);
+    scene.frame().RecalcLayout();
+    ASSERT_TRUE(bar->FocusButtons());
+    pane.DestroyWindow(); // so that the bar looks for another window
+    scene.frame().onNotify = [&, from = bar->m_hWnd](NMHDR* header) -> LRESULT {
+        if (header->hwndFrom != from || header->code != static_cast<UINT>(TBN_HOTITEMCHANGE))
+            return 0;
+        bar.reset();
+        return 1; // leave the hot button as it is
+    };
+    scene.user.key(VK_ESCAPE);
+    scene.frame().onNotify = nullptr;
+    EXPECT_EQ(bar, nullptr);
+}
+
 TEST_F(BarKeyboard, HostsMayDestroyTheBarOnTheWay)
 {
     scene.bar().FocusButtons();
@@ -359,6 +487,19 @@ TEST_F(BarKeyboard, ButtonsThatComeAndGoKeepItsPlace)
     scene.bar().FocusButtons();
     scene.user.key(VK_END);
     scene.bar().DeleteButton(BarScene::Plain);
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.commands(), Ids{ID_OTHER});
+}
+
+TEST_F(BarKeyboard, ButtonsThatAreInsertedLeaveItAtItsButton)
+{
+    TBBUTTON button{};
+    button.idCommand = ID_PLAIN;
+    button.fsState = TBSTATE_ENABLED;
+    scene.bar().FocusButtons();
+    scene.user.key(VK_END);
+    scene.bar().InsertButton(0, &button);
+    scene.bar().InsertButton(-1, &button); // which makes it the last one
     scene.user.key(VK_RETURN);
     EXPECT_EQ(scene.commands(), Ids{ID_OTHER});
 }

@@ -103,6 +103,19 @@ TEST_F(BarKeyboardTips, GoWithTheKeyboardAndWhenAFlyoutOpens)
         .key(VK_ESCAPE);
 }
 
+TEST_F(BarKeyboardTips, DoNotComeOverAFlyoutThatIsOpenedBefore)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT)
+        .key(VK_DOWN)
+        .waitFor("the flyout", &BarScene::flyoutShown)
+        .then([&] {
+            EXPECT_FALSE(::KillTimer(scene.bar().m_hWnd, 43)) << "none is awaited";
+            EXPECT_EQ(tip(), nullptr);
+        })
+        .key(VK_ESCAPE);
+}
+
 TEST_F(BarKeyboardTips, NeedTheStyleAndAText)
 {
     scene.bar().FocusButtons();
@@ -132,6 +145,21 @@ TEST_F(BarKeyboardTips, TheOwnerIsAskedForTheTextAsWithTheMouse)
     };
     scene.bar().FocusButtons();
     scene.user.waitFor("the owner's words", tipSays(kLong.c_str()));
+    scene.frame().onNotify = nullptr;
+}
+
+TEST_F(BarKeyboardTips, TheOwnerMayNameAString)
+{
+    scene.frame().onNotify = [&](NMHDR* header) -> LRESULT {
+        if (header->code != TTN_GETDISPINFOW || header->idFrom != ID_PLAIN)
+            return 0;
+        auto& asked = *reinterpret_cast<NMTTDISPINFOW*>(header);
+        asked.hinst = ::GetModuleHandleW(nullptr);
+        asked.lpszText = MAKEINTRESOURCEW(IDS_PALETTE);
+        return 1;
+    };
+    scene.bar().FocusButtons();
+    scene.user.waitFor("the string", tipSays(L"Palette"));
     scene.frame().onNotify = nullptr;
 }
 

@@ -4,6 +4,8 @@
 #include <testkit/Picture.h>
 #include <testkit/RecordingParent.h>
 
+#include <ovoui/frame/ThemeData.h>
+
 #include <gtest/gtest.h>
 
 using namespace ovo::testkit;
@@ -203,10 +205,82 @@ TEST_F(BarLayout, AControlThatTheHostHasHiddenStaysHidden)
     EXPECT_FALSE(editShown());
 }
 
+TEST_F(BarLayout, AControlThatTheHostHidesLaterStaysHiddenToo)
+{
+    addEdit();
+    scene.bar().calcLayout(0);
+    scene.bar().calcLayout(LM_HORZ);
+    ASSERT_TRUE(editShown());
+    edit.ShowWindow(SW_HIDE);
+    scene.bar().calcLayout(LM_HORZ);
+    EXPECT_FALSE(editShown());
+}
+
+TEST_F(BarLayout, AControlOfAHiddenBarComesBackToo)
+{
+    addEdit();
+    scene.bar().ShowWindow(SW_HIDE);
+    scene.bar().calcLayout(0);
+    EXPECT_FALSE(editShown());
+    scene.bar().calcLayout(LM_HORZ);
+    EXPECT_TRUE(editShown());
+}
+
+TEST_F(BarLayout, ThePlaceOfAControlGoesWithIt)
+{
+    addEdit();
+    scene.bar().calcLayout(0);
+    EXPECT_TRUE(scene.bar().GetButtonStyle(BarScene::Other) & TBBS_HIDDEN);
+    EXPECT_FALSE(scene.bar().GetButtonStyle(BarScene::Gap) & TBBS_HIDDEN) << "nothing lies there";
+    scene.bar().calcLayout(LM_HORZ);
+    EXPECT_FALSE(scene.bar().GetButtonStyle(BarScene::Other) & TBBS_HIDDEN);
+}
+
 // Controls that draw themselves
 
 namespace
 {
+
+constexpr COLORREF kGround = RGB(1, 2, 3);
+
+/// A control in a bar, without an object of the framework, which would have to draw it. It goes with the bar.
+HWND createDrawn(TestBar& bar, const wchar_t* windowClass, DWORD style)
+{
+    return ::CreateWindowExW(0, windowClass, nullptr, WS_CHILD | style, 150, 0, 110, 120, bar.m_hWnd,
+                             reinterpret_cast<HMENU>(IDC_BAR_COMBO), nullptr, nullptr);
+}
+
+/// What the bar draws of the first item.
+Picture drawnBy(const TestBar& bar, HWND control, UINT type, UINT state = 0)
+{
+    Picture picture(80, 20, kGround);
+    DRAWITEMSTRUCT item{};
+    item.CtlType = type;
+    item.CtlID = IDC_BAR_COMBO;
+    item.itemState = state;
+    item.hwndItem = control;
+    item.hDC = picture.dc();
+    item.rcItem = CRect(0, 0, 80, 20);
+    bar.SendMessage(WM_DRAWITEM, IDC_BAR_COMBO, reinterpret_cast<LPARAM>(&item));
+    return picture;
+}
+
+/// Pixels of letters on the ground of items that are not selected.
+int inkOf(const Picture& picture)
+{
+    return picture.width() * picture.height() - picture.count(::GetSysColor(COLOR_WINDOW));
+}
+
+/// What the bar draws of a text in a combo box.
+Picture drawnText(BarScene& scene, const wchar_t* text, UINT state = 0)
+{
+    const HWND combo =
+        createDrawn(scene.bar(), L"COMBOBOX", CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
+    ::SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+    Picture picture = drawnBy(scene.bar(), combo, ODT_COMBOBOX, state);
+    ::DestroyWindow(combo);
+    return picture;
+}
 
 class SelfDrawn : public CComboBox
 {
@@ -250,6 +324,42 @@ TEST_F(BarLayout, AnOwnerDrawnComboThatIsNotDrawnOtherwiseShowsItsText)
     scene.bar().SendMessage(WM_DRAWITEM, IDC_BAR_COMBO, reinterpret_cast<LPARAM>(&item));
     EXPECT_EQ(dc.GetPixel(78, 1), ::GetSysColor(COLOR_HIGHLIGHT));
     dc.SelectObject(before);
+}
+
+TEST_F(BarLayout, AnOwnerDrawnListShowsItsTextsToo)
+{
+    const HWND list = createDrawn(scene.bar(), L"LISTBOX", LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
+    ::SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"MM"));
+    const Picture picture = drawnBy(scene.bar(), list, ODT_LISTBOX);
+    EXPECT_EQ(picture.differences(drawnText(scene, L"MM")), 0) << "as those of a combo box";
+    EXPECT_GT(inkOf(picture), 8);
+}
+
+TEST_F(BarLayout, ItemsThatAreNoTextsAreLeftAlone)
+{
+    const HWND list = createDrawn(scene.bar(), L"LISTBOX", LBS_OWNERDRAWFIXED);
+    ::SendMessageW(list, LB_ADDSTRING, 0, 4711);
+    EXPECT_EQ(drawnBy(scene.bar(), list, ODT_LISTBOX).count(kGround), 80 * 20);
+    const HWND combo = createDrawn(scene.bar(), L"COMBOBOX", CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED);
+    ::SendMessageW(combo, CB_ADDSTRING, 0, 4711);
+    EXPECT_EQ(drawnBy(scene.bar(), combo, ODT_COMBOBOX).count(kGround), 80 * 20);
+}
+
+TEST_F(BarLayout, AnItemShowsItsTextAsItIsAndInTheColourOfItsState)
+{
+    EXPECT_GT(inkOf(drawnText(scene, L"&&")), inkOf(drawnText(scene, L"&"))) << "no letters for Alt";
+    EXPECT_EQ(inkOf(drawnText(scene, L"")), 0);
+    const Picture selected = drawnText(scene, L"MMMM", ODS_SELECTED);
+    EXPECT_GT(selected.count(::GetSysColor(COLOR_HIGHLIGHTTEXT), 40), 8);
+    EXPECT_EQ(selected.count(kGround), 0);
+}
+
+TEST_F(BarLayout, AnItemWithTheFocusHasItsRectangle)
+{
+    const CRect topRow(0, 0, 80, 1);
+    const COLORREF ground = ::GetSysColor(COLOR_WINDOW);
+    EXPECT_EQ(drawnText(scene, L"M").count(ground, 0, topRow), 80);
+    EXPECT_LT(drawnText(scene, L"M", ODS_FOCUS).count(ground, 0, topRow), 80);
 }
 
 TEST_F(BarLayout, AControlThatDrawsItselfIsAsked)
@@ -311,28 +421,69 @@ TEST_F(BarLayout, AChangeOfTheSystemsSettingsPaintsTheBarAnew)
     EXPECT_EQ(invalid, client);
 }
 
-TEST_F(BarLayout, TheGripperIsDrawnWhileTheBarDoesNotFloat)
+namespace
 {
-    class Gripping : public TestBar
+
+class Gripping : public TestBar
+{
+public:
+    int drawn = 0;
+    void DrawNCGripper(CDC* dc, const CRect& rect) override
     {
-    public:
-        int drawn = 0;
-        void DrawNCGripper(CDC* dc, const CRect& rect) override
-        {
-            ++drawn;
-            TestBar::DrawNCGripper(dc, rect);
-        }
-    } bar;
+        ++drawn;
+        TestBar::DrawNCGripper(dc, rect);
+    }
+    /// How often it is drawn when its frame is painted.
+    int drawnAnew()
+    {
+        drawn = 0;
+        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+        return drawn;
+    }
+};
+
+} // namespace
+
+TEST_F(BarLayout, TheGripperIsDrawnWhileTheBarHasOneAndDoesNotFloat)
+{
+    Gripping bar;
     bar.CreateEx(&scene.frame(), TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_GRIPPER);
     static constexpr UINT kButton[] = {ID_PLAIN};
     bar.SetButtons(kButton, 1);
     scene.frame().RecalcLayout();
     GuiThread::settle();
-    bar.drawn = 0;
-    bar.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-    EXPECT_EQ(bar.drawn, 1);
+    EXPECT_EQ(bar.drawnAnew(), 1);
     bar.SetBarStyle(bar.GetBarStyle() | CBRS_FLOATING);
-    bar.drawn = 0;
-    bar.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-    EXPECT_EQ(bar.drawn, 0);
+    EXPECT_EQ(bar.drawnAnew(), 0);
+    bar.SetBarStyle(bar.GetBarStyle() & ~(CBRS_FLOATING | CBRS_GRIPPER));
+    EXPECT_EQ(bar.drawnAnew(), 0);
+}
+
+TEST_F(BarLayout, TheGripperIsARowOfDotsWithVisualStylesAndTheFrameworksWithoutThem)
+{
+    Gripping bar;
+    bar.CreateEx(&scene.frame(), TBSTYLE_FLAT, WS_CHILD | CBRS_TOP | CBRS_GRIPPER);
+    const COLORREF shadow = ::GetSysColor(COLOR_BTNSHADOW);
+    const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT);
+    for (const bool horizontal : {true, false}) {
+        SCOPED_TRACE(horizontal);
+        bar.SetBarStyle((horizontal ? CBRS_TOP : CBRS_LEFT) | CBRS_GRIPPER);
+        const Picture picture(40, 40, kGround);
+        bar.DrawNCGripper(CDC::FromHandle(picture.dc()), CRect(0, 0, 40, 40));
+        if (!CThemeData::getThemeData().IsAppThemed()) {
+            const Picture framework(40, 40, kGround);
+            bar.CToolBar::DrawGripper(CDC::FromHandle(framework.dc()), CRect(0, 0, 40, 40));
+            EXPECT_EQ(picture.differences(framework), 0);
+            EXPECT_LT(picture.count(kGround), 40 * 40);
+            continue;
+        }
+        EXPECT_EQ(picture.at(3, 3), shadow);
+        EXPECT_EQ(picture.at(4, 4), shadow);
+        EXPECT_EQ(picture.at(5, 5), light) << "its edge at the lower right";
+        EXPECT_EQ(picture.at(2, 2), kGround);
+        const CPoint along = horizontal ? CPoint(3, 7) : CPoint(7, 3);
+        const CPoint across = horizontal ? CPoint(7, 3) : CPoint(3, 7);
+        EXPECT_EQ(picture.at(along), shadow) << "the next dot";
+        EXPECT_EQ(picture.at(across), kGround);
+    }
 }

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string_view>
+
 using namespace ovo::testkit;
 
 namespace
@@ -127,6 +129,36 @@ TEST(FlyoutMischief, TheOwnerIsNotToldOfTheReplacement)
     EXPECT_EQ(told, 1) << "the host's own deletion is";
 }
 
+TEST(FlyoutMischief, TheOwnerHearsNothingOfTheFlyoutsOwnControl)
+{
+    BarScene scene;
+    int told = 0;
+    scene.frame().onNotify = [&](NMHDR* header) {
+        wchar_t name[64] = L"";
+        ::GetClassNameW(header->hwndFrom, name, 64);
+        told += std::wstring_view(name) == kFlyoutClass;
+        return 0;
+    };
+    scene.user.press(scene.button(BarScene::Shapes))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(0))
+        .moveTo(scene.entry(1))
+        .release();
+    EXPECT_EQ(scene.commands(), Ids{ID_DISC});
+    EXPECT_EQ(told, 0);
+}
+
+TEST(FlyoutMischief, ABarWithoutAWindowTakesItsFlyoutAlong)
+{
+    BarScene scene;
+    const CRect place = onScreen(scene.bar(), BarScene::Shapes);
+    scene.bar().DestroyWindow();
+    scene.bar().CreatePopup(BarScene::Shapes, place, 0);
+    ASSERT_NE(BarScene::flyout(), nullptr);
+    scene.deleteBar();
+    EXPECT_EQ(BarScene::flyout(), nullptr);
+}
+
 TEST(FlyoutMischief, TheBarMayGoWhileItsFlyoutIsOpen)
 {
     for (const bool shown : {false, true}) {
@@ -200,6 +232,23 @@ TEST(FlyoutMischief, ButtonsMayComeAndGoDuringThePress)
         .release();
     EXPECT_EQ(scene.command(BarScene::Lines - 1), ID_CURVE);
     EXPECT_EQ(scene.commands(), Ids{ID_CURVE});
+}
+
+TEST(FlyoutMischief, WhatIsNoButtonIsNotDeletedDuringThePress)
+{
+    BarScene scene;
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(0))
+        .then([&] {
+            for (const int index : {-1, 77})
+                EXPECT_FALSE(scene.bar().DeleteButton(index));
+            EXPECT_EQ(TestBar::ms_dragButton, BarScene::Lines);
+        })
+        .moveTo(scene.entry(1))
+        .release();
+    EXPECT_EQ(scene.command(BarScene::Lines), ID_CURVE);
+    EXPECT_EQ(scene.command(BarScene::Plain), ID_PLAIN);
 }
 
 TEST(FlyoutMischief, AButtonMayBeInsertedDuringThePress)

@@ -230,6 +230,7 @@ TEST_F(FlyoutAttach, AStripThatDoesNotExistIsNotAdded)
     EXPECT_EQ(bar.AddBitmap(IDR_SHAPES, -16), -1);
     EXPECT_EQ(bar.AddBitmap(IDR_SHAPES, 1000), -1) << "narrower than one image";
     EXPECT_EQ(listOf(bar), nullptr);
+    EXPECT_EQ(bar.AddBitmap(IDR_SHAPES, 16), 0) << "another time it may";
 }
 
 namespace

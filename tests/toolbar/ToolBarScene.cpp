@@ -75,6 +75,10 @@ LRESULT BarFrame::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_COMMAND && HIWORD(wParam) <= 1) // of a bar, or of an accelerator
         issued.push_back({LOWORD(wParam), reinterpret_cast<HWND>(lParam)});
+    if (message == WM_SYSCOMMAND && (wParam & 0xFFF0) == SC_KEYMENU) {
+        ++menusAsked;
+        return 0;
+    }
     if (message == WM_ACTIVATEAPP && passesActivation)
         CVantorToolBar::ActivateApp(wParam != 0);
     if (message == WM_NOTIFY && onNotify)

@@ -61,6 +61,7 @@ public:
     std::vector<std::wstring> prompts; ///< what the message line showed
     int askedFor = 0;                  ///< update requests
     int pretranslated = 0;             ///< messages that it was asked about
+    int menusAsked = 0;                ///< for the keyboard; none opens
     bool passesActivation = false;     ///< WM_ACTIVATEAPP on to the bars
     std::function<void(UINT id)> onCommand;
     std::function<void(UINT id)> onUpdate;

@@ -8,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <ostream>
+
 using namespace ovo::testkit;
 
 namespace
@@ -155,4 +158,125 @@ TEST_F(BarUpdate, AsksTheOwnerAndNotTheWindowNamed)
     scene.bar().OnUpdateCmdUI(nullptr, TRUE);
     EXPECT_EQ(owner.asked, 4);
     EXPECT_EQ(scene.frame().askedFor, 4);
+}
+
+namespace
+{
+
+/// What an owner is asked with.
+struct Asked
+{
+    UINT id;
+    CWnd* about;
+    UINT index; ///< of a button, and how many there are
+    UINT count;
+
+    friend bool operator==(const Asked&, const Asked&) = default;
+    friend std::ostream& operator<<(std::ostream& out, const Asked& asked)
+    {
+        return out << asked.id << " at " << asked.index << " of " << asked.count;
+    }
+};
+
+/// An owner that takes down what it is asked, and answers.
+class Looking : public RecordingParent
+{
+public:
+    std::vector<Asked> asked;
+    std::function<void(CCmdUI&)> answer;
+
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override
+    {
+        if (code != static_cast<int>(CN_UPDATE_COMMAND_UI))
+            return RecordingParent::OnCmdMsg(id, code, extra, info);
+        auto& ui = *static_cast<CCmdUI*>(extra);
+        asked.push_back({ui.m_nID, ui.m_pOther, ui.m_nIndex, ui.m_nIndexMax});
+        if (answer)
+            answer(ui);
+        return TRUE;
+    }
+};
+
+/// A bar that knows itself how one of its commands stands.
+class Knowing : public TestBar
+{
+private:
+    void onPlain(CCmdUI* ui) { ui->Enable(FALSE); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Knowing, TestBar)
+    ON_UPDATE_COMMAND_UI(ID_PLAIN, &Knowing::onPlain)
+END_MESSAGE_MAP()
+
+} // namespace
+
+TEST_F(BarUpdate, AHandlerSeesEachButtonAndThenTheControlsInTheBar)
+{
+    TBBUTTON place{};
+    place.idCommand = IDC_BAR_EDIT;
+    place.iBitmap = 100;
+    place.fsStyle = TBSTYLE_SEP;
+    place.fsState = TBSTATE_ENABLED;
+    scene.bar().InsertButton(BarScene::Other, &place);
+    CEdit edit;
+    edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 90, 18), &scene.bar(), IDC_BAR_EDIT);
+    Looking owner;
+    scene.bar().SetOwner(&owner);
+    scene.bar().OnUpdateCmdUI(nullptr, TRUE);
+    scene.bar().SetOwner(&scene.frame());
+    CWnd* const bar = &scene.bar();
+    EXPECT_EQ(owner.asked, (std::vector<Asked>{{ID_PLAIN, bar, 0, 6},
+                                               {ID_LINE, bar, 1, 6},
+                                               {ID_BOX, bar, 2, 6},
+                                               {ID_OTHER, bar, 5, 6},
+                                               {IDC_BAR_EDIT, &edit, 0, 0}}));
+}
+
+TEST_F(BarUpdate, ABarThatKnowsItselfIsAskedInPlaceOfItsOwner)
+{
+    Knowing bar;
+    bar.CreateEx(&scene.frame(), TBSTYLE_FLAT, WS_CHILD | CBRS_TOP);
+    static constexpr UINT kButtons[] = {ID_PLAIN, ID_OTHER};
+    bar.SetButtons(kButtons, 2);
+    Looking owner;
+    bar.SetOwner(&owner);
+    bar.OnUpdateCmdUI(nullptr, TRUE);
+    EXPECT_TRUE(bar.GetButtonStyle(0) & TBBS_DISABLED);
+    EXPECT_EQ(owner.asked, (std::vector<Asked>{{ID_OTHER, &bar, 1, 2}}));
+}
+
+TEST_F(BarUpdate, ButtonsShowWhatTheHandlersSayAndKeepTheirTexts)
+{
+    scene.bar().SetWindowText(L"Drawing");
+    Looking owner;
+    bool on = true;
+    owner.answer = [&](CCmdUI& ui) {
+        if (ui.m_nID == ID_PLAIN)
+            ui.SetCheck(on ? 1 : 0);
+        else if (ui.m_nID == ID_LINE)
+            ui.SetCheck(on ? 2 : 0);
+        else if (ui.m_nID == ID_BOX)
+            ui.SetRadio(on);
+        else
+            ui.SetText(L"Words for a menu");
+    };
+    const auto shown = [&] {
+        constexpr UINT kChecks = TBBS_CHECKBOX | TBBS_CHECKED | TBBS_INDETERMINATE;
+        scene.bar().OnUpdateCmdUI(nullptr, TRUE);
+        std::vector<UINT> styles;
+        for (const int index : {BarScene::Plain, BarScene::Lines, BarScene::Shapes, BarScene::Other})
+            styles.push_back(scene.bar().GetButtonStyle(index) & kChecks);
+        return styles;
+    };
+    scene.bar().SetOwner(&owner);
+    EXPECT_EQ(shown(), (std::vector<UINT>{TBBS_CHECKBOX | TBBS_CHECKED, TBBS_CHECKBOX | TBBS_INDETERMINATE,
+                                          TBBS_CHECKBOX | TBBS_CHECKED, 0}));
+    on = false;
+    EXPECT_EQ(shown(), (std::vector<UINT>{TBBS_CHECKBOX, TBBS_CHECKBOX, TBBS_CHECKBOX, 0}));
+    scene.bar().SetOwner(&scene.frame());
+    CString title;
+    scene.bar().GetWindowText(title);
+    EXPECT_STREQ(title, L"Drawing");
+    EXPECT_STREQ(scene.bar().GetButtonText(BarScene::Other), L"");
 }

@@ -144,9 +144,4 @@ BarKeyOutcome onBarKey(const PressedKey& pressed, const KeyView& view)
     return {BarKeyAction::WalkBar, walk};
 }
 
-bool takesBarKey(const BarKeyOutcome& outcome, bool alt)
-{
-    return outcome.action != BarKeyAction::None || !alt;
-}
-
 } // namespace ovoui::toolbar

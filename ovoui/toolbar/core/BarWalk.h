@@ -75,7 +75,4 @@ struct PressedKey
 
 BarKeyOutcome onBarKey(const PressedKey& pressed, const KeyView& view);
 
-/// Whether the bar keeps a key with this outcome to itself. With Alt it may be one of the system's.
-bool takesBarKey(const BarKeyOutcome& outcome, bool alt);
-
 } // namespace ovoui::toolbar
