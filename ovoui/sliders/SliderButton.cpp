@@ -216,9 +216,13 @@ void CSliderButton::OnKillFocus(CWnd* other)
     Invalidate();
 }
 
+/// A parent that asks for it (SS_NOTIFY) is told, and may do anything.
 void CSliderButton::OnEnable(BOOL enable)
 {
+    const Lifeline::Watch watch(*this);
     CStatic::OnEnable(enable);
+    if (!watch.alive())
+        return;
     Invalidate();
     if (!enable)
         dismiss();
