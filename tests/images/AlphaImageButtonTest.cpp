@@ -1,4 +1,6 @@
 // A push button with an image, with visual styles and without.
+#include "resource.h"
+
 #include <testkit/Desktop.h>
 #include <testkit/GdiCounter.h>
 #include <testkit/GdiPlusSession.h>
@@ -279,6 +281,28 @@ TEST_F(AlphaImageButton, AClassicBitmapTakesTheSystemsColours)
     const HDC dc = ::CreateCompatibleDC(nullptr);
     const HGDIOBJ old = ::SelectObject(dc, bitmap);
     EXPECT_EQ(::GetPixel(dc, 0, 0), ::GetSysColor(COLOR_BTNFACE)) << "light grey before";
+    ::SelectObject(dc, old);
+    ::DeleteDC(dc);
+}
+
+TEST_F(AlphaImageButton, TheBlackOfAClassicBitmapIsTheColourOfTexts)
+{
+    const int element = COLOR_BTNTEXT;
+    const COLORREF before = ::GetSysColor(element);
+    const COLORREF text = RGB(10, 20, 200);
+    ::SetSysColors(1, &element, &text);
+    {
+        const WithoutThemes plain;
+        button.loadImage(TESTSTRIP_4);
+    }
+    ::SetSysColors(1, &element, &before);
+    const auto bitmap = reinterpret_cast<HBITMAP>(button.SendMessage(BM_GETIMAGE, IMAGE_BITMAP));
+    ASSERT_NE(bitmap, nullptr);
+    const HDC dc = ::CreateCompatibleDC(nullptr);
+    const HGDIOBJ old = ::SelectObject(dc, bitmap);
+    EXPECT_EQ(::GetPixel(dc, 3, 0), text) << "black before";
+    EXPECT_EQ(::GetPixel(dc, 7, 3), ::GetSysColor(COLOR_BTNFACE)) << "light grey before";
+    EXPECT_EQ(::GetPixel(dc, 0, 0), RGB(255, 0, 0)) << "all else is as it was";
     ::SelectObject(dc, old);
     ::DeleteDC(dc);
 }
