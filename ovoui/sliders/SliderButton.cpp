@@ -190,6 +190,8 @@ bool CSliderButton::press(const CPoint& at)
     if (raised && watch.alive())
         keepFirst(raised, [this] { dismiss(); });
     raise(raised);
+    if (watch.alive() && !m_popup.m_hWnd)
+        dismiss(); // the system has no window for it
     return watch.alive() && m_parts->pressed;
 }
 
