@@ -16,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vssym32.h>
+
 using namespace ovo::testkit;
 
 namespace
@@ -186,6 +188,26 @@ TEST_F(AlphaImageButton, ADisabledImageIsMadeFromTheNormalOneOnRequest)
     const Picture disabled = shown();
     button.loadImage(60001);
     EXPECT_GT(shown().differences(disabled), 20) << "it was seen";
+}
+
+TEST_F(AlphaImageButton, OnlyTheDisabledStateHasTheGreyImage)
+{
+    if (!themed())
+        return; // the classic image is the system's
+    button.useDisabledImage(true);
+    button.loadImage(strip());
+    BUTTON_IMAGELIST list{};
+    ASSERT_TRUE(button.SendMessage(BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&list)));
+    ASSERT_EQ(::ImageList_GetImageCount(list.himl), 6);
+    for (int state = PBS_NORMAL; state <= 6; ++state) {
+        const Picture picture(16, 16);
+        ::ImageList_Draw(list.himl, state - PBS_NORMAL, picture.dc(), 0, 0, ILD_NORMAL);
+        int found = 0;
+        for (int y = 0; y < 16; ++y)
+            for (int x = 0; x < 16; ++x)
+                found += green(picture.at(x, y)) ? 1 : 0;
+        EXPECT_EQ(found > 10, state != PBS_DISABLED) << state;
+    }
 }
 
 namespace

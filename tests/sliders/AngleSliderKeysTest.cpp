@@ -83,6 +83,26 @@ TEST_F(AngleSliderKeys, EachKeyTurnsAndTells)
     EXPECT_TRUE(parent.told.empty()) << "nothing has changed";
 }
 
+TEST_F(AngleSliderKeys, WhatAKeyTurnsShowsAtOnce)
+{
+    round->SetFocus();
+    const Picture before = Picture::ofClient(*round);
+    user.key(VK_PRIOR);
+    EXPECT_GT(Picture::ofClient(*round).differences(before), 100);
+    user.key(VK_HOME);
+    EXPECT_EQ(Picture::ofClient(*round).differences(before), 0);
+}
+
+TEST_F(AngleSliderKeys, TheFocusIsMarkedWhileTheKeyboardIsAskedFor)
+{
+    round->SetFocus();
+    const Picture marked = Picture::ofClient(*round);
+    round->UseKeyboard(false);
+    EXPECT_GT(Picture::ofClient(*round).differences(marked), 20);
+    round->UseKeyboard(true);
+    EXPECT_EQ(Picture::ofClient(*round).differences(marked), 0);
+}
+
 TEST_F(AngleSliderKeys, TheWheelSliderStopsAtItsLimits)
 {
     wheel->SetPos(85);

@@ -124,6 +124,16 @@ TEST_F(DialSlider, ThePointerShowsTheAngle)
     EXPECT_EQ(Picture::ofClient(dial).at(70, 50), ::GetSysColor(COLOR_GRAYTEXT));
 }
 
+TEST_F(DialSlider, TicksBeyondTheStopsAreLeftOutAtOnce)
+{
+    dial.SetTicks(30);
+    const Picture all = Picture::ofClient(dial);
+    dial.SetStops(-45, 45);
+    EXPECT_GT(Picture::ofClient(dial).differences(all), 10);
+    dial.RemoveStops();
+    EXPECT_EQ(Picture::ofClient(dial).differences(all), 0);
+}
+
 // Data exchange
 
 namespace
