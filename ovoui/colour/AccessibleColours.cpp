@@ -53,7 +53,7 @@ public:
     {
         if (m_identity->cells == 0)
             return std::nullopt;
-        return ::GetFocus() == m_identity->window ? m_identity->current() : kNone;
+        return hasFocus() ? m_identity->current() : kNone;
     }
     void act(int part) override
     {
@@ -67,6 +67,10 @@ public:
     }
 
 private:
+    bool hasFocus() const
+    {
+        return m_identity->hasFocus ? m_identity->hasFocus() : ::GetFocus() == m_identity->window;
+    }
     static std::wstring told(const std::function<std::wstring()>& text)
     {
         return text ? text() : std::wstring();

@@ -24,7 +24,8 @@ struct ColourIdentity
     int cells = 0;
     std::function<std::wstring(int)> cellName;
     std::function<CRect(int)> cellPlace; ///< on the screen
-    std::function<int()> current;        ///< the cell with the focus mark
+    std::function<int()> current;        ///< the cell with the focus mark; kSelf when there is none
+    std::function<bool()> hasFocus;      ///< null where it is the window's own
     std::function<std::wstring()> cellAction;
     std::function<void(int)> pressCell;
 };

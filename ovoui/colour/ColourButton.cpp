@@ -7,6 +7,7 @@
 #include <ovoui/colour/ColourText.h>
 #include <ovoui/colour/core/ControlKeys.h>
 #include <ovoui/colour/core/TypedColour.h>
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/frame/LoadedText.h>
 #include <ovoui/frame/TellParent.h>
 #include <ovoui/frame/WindowText.h>
@@ -19,6 +20,9 @@
 #include <utility>
 
 using namespace ovoui::colour;
+using ovoui::frame::keepFirst;
+using ovoui::frame::keeping;
+using ovoui::frame::raise;
 
 IMPLEMENT_DYNAMIC(CColourButton, CButton)
 
@@ -64,7 +68,9 @@ CColourButton::CColourButton()
     m_identity->role = ROLE_SYSTEM_BUTTONDROPDOWN;
     m_identity->name = [this] { return ovoui::frame::withoutMnemonic(ovoui::frame::windowText(*this)); };
     m_identity->value = [this] { return nameOrCodeOfColour(m_colour); };
-    m_identity->action = [] { return ovoui::frame::loadedText(IDS_COLOUR_OPEN); };
+    m_identity->action = [this] {
+        return IsWindowEnabled() ? ovoui::frame::loadedText(IDS_COLOUR_OPEN) : std::wstring();
+    };
     m_identity->press = [this] { PostMessage(BM_CLICK); };
 }
 
@@ -99,7 +105,7 @@ void CColourButton::SetColour(const Colour& colour)
 void CColourButton::SetPalette(std::vector<COLORREF> colours, int columns)
 {
     m_palette = std::move(colours);
-    m_columns = std::max(1, columns);
+    m_columns = columns;
 }
 
 // The palette
@@ -157,13 +163,30 @@ Colour CColourButton::fromPalette(int cell) const
 /// Of a cell of the palette, or of the line below.
 void CColourButton::choose(int cell)
 {
-    const bool line = cell >= static_cast<int>(m_palette.size());
-    const std::optional<Colour> colour = line ? std::nullopt : std::optional(fromPalette(cell));
+    if (cell < static_cast<int>(m_palette.size()))
+        closeAndTake(fromPalette(cell));
+    else
+        closeAndAsk();
+}
+
+/// The user has chosen the colour, whatever the parent raises when it hears that the palette has closed: it
+/// is told of both.
+void CColourButton::closeAndTake(const Colour& colour)
+{
+    const Lifeline::Watch watch(m_lifeline);
+    std::exception_ptr raised = keeping([this] { CloseUp(); });
+    if (watch.alive() && m_hWnd)
+        keepFirst(raised, [&] { take(colour); });
+    raise(raised);
+}
+
+void CColourButton::closeAndAsk()
+{
     const Lifeline::Watch watch(m_lifeline);
     CloseUp();
     if (!watch.alive() || !m_hWnd)
         return;
-    const std::optional<Colour> answer = line ? askForColour(Colour(m_colour)) : colour;
+    const std::optional<Colour> answer = askForColour(Colour(m_colour));
     if (answer && watch.alive() && m_hWnd)
         take(*answer);
 }
@@ -278,10 +301,13 @@ void CColourButton::OnSysKeyDown(UINT key, UINT, UINT)
     carryOut(dropButtonKey(key, true, m_drop != nullptr), key);
 }
 
+/// A parent that asks for it (BS_NOTIFY) is told, and may do anything.
 void CColourButton::OnKillFocus(CWnd*)
 {
+    const Lifeline::Watch watch(m_lifeline);
     Default();
-    CloseUp();
+    if (watch.alive())
+        CloseUp();
 }
 
 /// As a mnemonic or accessibility presses the button.

@@ -40,7 +40,9 @@ public:
     static constexpr UINT kPointed =
         0x51; ///< the mark in the palette has moved: for a preview of PointedColour
     static constexpr UINT kDropped = 0x54; ///< the palette has opened
-    static constexpr UINT kClosed = 0x55;  ///< the palette has closed, before kChosen if a colour was chosen
+    /// The palette has closed, before kChosen if a colour was chosen. A colour of the palette is told of
+    /// whatever the parent raises here.
+    static constexpr UINT kClosed = 0x55;
 
     CColourButton();
     ~CColourButton() override;
@@ -50,8 +52,8 @@ public:
     /// Shows a `colour`. Tells no one.
     void SetColour(const Colour& colour);
 
-    /// The colours that are dropped from the next time on; 40 common ones in rows of 8 at first. `columns` is
-    /// at least 1.
+    /// The colours that are dropped from the next time on; 40 common ones in rows of 8 at first. Fewer than
+    /// one of `columns` count as one.
     void SetPalette(std::vector<COLORREF> colours, int columns);
     /// Whether there is a line that opens the dialog; at first there is.
     void UseDialog(bool use) { m_usesDialog = use; }
@@ -92,6 +94,8 @@ protected:
 
 private:
     void choose(int cell);
+    void closeAndTake(const Colour& colour);
+    void closeAndAsk();
     void take(const Colour& colour);
     bool tell(UINT code);
     Colour fromPalette(int cell) const;

@@ -57,6 +57,7 @@ ColourDrop::ColourDrop(Content content, Calls calls)
     m_identity->cellName = [this](int cell) { return nameOf(cell); };
     m_identity->cellPlace = [this](int cell) { return cellRect(cell); };
     m_identity->current = [this] { return current(); };
+    m_identity->hasFocus = [this] { return ::GetFocus() == m_button->m_hWnd; };
     m_identity->cellAction = [] { return frame::loadedText(IDS_COLOUR_TAKE); };
     m_identity->pressCell = m_calls.chosen;
 }
@@ -124,8 +125,6 @@ void ColourDrop::point(int cell)
         return;
     m_content.current = cell;
     Invalidate(FALSE);
-    if (cell < 0)
-        return;
     frame::announce(EVENT_OBJECT_FOCUS, m_hWnd, cell);
     const auto tell = m_calls.pointed;
     tell(cell);

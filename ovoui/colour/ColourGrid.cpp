@@ -53,7 +53,9 @@ CColourGrid::CColourGrid()
         return place;
     };
     m_identity->current = [this] { return Current(); };
-    m_identity->cellAction = [] { return ovoui::frame::loadedText(IDS_COLOUR_TAKE); };
+    m_identity->cellAction = [this] {
+        return IsWindowEnabled() ? ovoui::frame::loadedText(IDS_COLOUR_TAKE) : std::wstring();
+    };
     m_identity->pressCell = [this](int cell) { choose(cell); };
 }
 

@@ -22,9 +22,6 @@ public:
     void show(CWnd& owner, CPoint point);
     void hide();
 
-    /// The colour of the point that is shown.
-    COLORREF colour() const { return m_colour; }
-
 protected:
     afx_msg BOOL OnEraseBkgnd(CDC*) { return TRUE; }
     afx_msg LRESULT OnNcHitTest(CPoint) { return HTTRANSPARENT; }

@@ -190,6 +190,8 @@ bool CSliderButton::press(const CPoint& at)
     if (raised && watch.alive())
         keepFirst(raised, [this] { dismiss(); });
     raise(raised);
+    if (watch.alive() && !m_popup.m_hWnd)
+        dismiss(); // the system has no window for it
     return watch.alive() && m_parts->pressed;
 }
 
@@ -216,9 +218,13 @@ void CSliderButton::OnKillFocus(CWnd* other)
     Invalidate();
 }
 
+/// A parent that asks for it (SS_NOTIFY) is told, and may do anything.
 void CSliderButton::OnEnable(BOOL enable)
 {
+    const Lifeline::Watch watch(*this);
     CStatic::OnEnable(enable);
+    if (!watch.alive())
+        return;
     Invalidate();
     if (!enable)
         dismiss();

@@ -73,10 +73,11 @@ bool CSliderButton::machineText(std::wstring& text) const
         text = shown;
         return true;
     }
-    const Lifeline::Watch watch(*this);
+    const Lifeline::Watch watch(m_lifeline);
+    const HWND window = m_hWnd; // there may be none yet
     text.clear();
     m_parts->utils.fromDisplay(text, shown);
-    return watch.alive();
+    return watch.alive() && m_hWnd == window;
 }
 
 /// A number in machine form as the buddy shows it; none when the host's conversion has deleted the button.

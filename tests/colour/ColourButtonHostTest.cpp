@@ -2,6 +2,7 @@
 // when it is told.
 #include "ColourButtonScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/GdiCounter.h>
 #include <testkit/Picture.h>
 #include <testkit/WinEvents.h>
@@ -33,6 +34,35 @@ TEST_F(ColourButton, AccessibilitySeesAButtonWithItsColour)
     EXPECT_EQ(moves.of(shownPopup(), 3), 1);
     EXPECT_EQ(list->accDoDefaultAction(AccessibleView::numbered(5)), S_OK);
     EXPECT_EQ(now(), RGB(0, 0, 255));
+}
+
+TEST_F(ColourButton, AccessibilityOpensItAndSeesTheMark)
+{
+    show();
+    button->SetFocus();
+    const VARIANT whole = AccessibleView::numbered(CHILDID_SELF);
+    const AccessibleView seen(*button);
+    ASSERT_EQ(seen->accDoDefaultAction(whole), S_OK);
+    user.waitFor("the palette", [this] { return button->IsDropped(); });
+
+    const AccessibleView list(shownPopup());
+    EXPECT_EQ(list.role(), ROLE_SYSTEM_LIST);
+    EXPECT_EQ(list.action(3), L"Take");
+    EXPECT_EQ(list.focused(), 3) << "though the button has the keyboard";
+    EXPECT_TRUE(list.state(3) & STATE_SYSTEM_FOCUSED);
+    EXPECT_TRUE(list.state(3) & STATE_SYSTEM_SELECTED);
+    EXPECT_FALSE(list.state(2) & STATE_SYSTEM_FOCUSED);
+    user.key(VK_LEFT);
+    EXPECT_EQ(list.focused(), 2);
+    button->CloseUp();
+    BSTR text = nullptr;
+    EXPECT_EQ(list->get_accName(AccessibleView::numbered(1), &text), CO_E_OBJNOTCONNECTED);
+
+    button->EnableWindow(FALSE);
+    EXPECT_EQ(seen.action(), L"") << "disabled";
+    EXPECT_EQ(seen->accDoDefaultAction(whole), DISP_E_MEMBERNOTFOUND);
+    button->DestroyWindow();
+    EXPECT_EQ(seen->get_accName(whole, &text), CO_E_OBJNOTCONNECTED);
 }
 
 TEST_F(ColourButton, DataIsExchanged)
@@ -82,6 +112,65 @@ TEST_F(ColourButton, TheParentMayDestroyOrDeleteItInEveryCall)
             EXPECT_EQ(::GetCapture(), nullptr);
             parent.onCode = nullptr;
         }
+}
+
+TEST_F(ColourButton, TheParentMayDestroyOrDeleteItWhenItLosesTheFocus)
+{
+    for (const bool erase : {false, true}) {
+        SCOPED_TRACE(erase);
+        show();
+        button = std::make_unique<Perishing<PenButton>>();
+        button->Create(L"Pen", WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_NOTIFY, CRect(20, 20, 80, 44), &parent,
+                       7);
+        button->SetFocus();
+        button->DropDown();
+        bool left = false;
+        parent.onMessage = [&](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
+            if (message == WM_COMMAND && HIWORD(wParam) == BN_KILLFOCUS && !left) {
+                left = true;
+                erase ? button.reset() : static_cast<void>(button->DestroyWindow());
+            }
+            return std::nullopt;
+        };
+        parent.SetFocus();
+        parent.onMessage = nullptr;
+        EXPECT_TRUE(left);
+        EXPECT_TRUE(!button || !button->m_hWnd);
+        EXPECT_EQ(shownPopup(), nullptr);
+        EXPECT_EQ(::GetCapture(), nullptr);
+    }
+}
+
+/// Chooses the colour to the left of the button's own.
+TEST_F(ColourButton, AParentThatRaisesWhenThePaletteClosesHearsOfTheChoice)
+{
+    show();
+    bool raisesTwice = false;
+    parent.onCode = [&](UINT code) {
+        if (code == kClosed)
+            throw 42;
+        if (code == kGridChosen && raisesTwice)
+            throw L"the second";
+    };
+    const auto choose = [this](WPARAM key) {
+        button->SetColour(Colour::colorref(kSky));
+        parent.log().clear();
+        button->DropDown();
+        button->SendMessage(WM_KEYDOWN, key);
+        button->SendMessage(WM_KEYDOWN, VK_RETURN);
+    };
+    for (const bool twice : {false, true}) {
+        raisesTwice = twice;
+        EXPECT_THROW(choose(VK_LEFT), int) << "what was raised first";
+        EXPECT_EQ(parent.codes(), (std::vector<UINT>{kDropped, kGridPointed, kClosed, kGridChosen}));
+        EXPECT_EQ(now(), kRust);
+        EXPECT_FALSE(button->IsDropped());
+        EXPECT_EQ(shownPopup(), nullptr);
+    }
+    EXPECT_THROW(choose(VK_END), int);
+    EXPECT_EQ(button->asked, 0) << "no dialog covers the error";
+    EXPECT_EQ(parent.log().count(kGridChosen), 0);
+    parent.onCode = nullptr;
 }
 
 TEST_F(ColourButton, TheDialogMayDestroyOrDeleteIt)

@@ -310,3 +310,160 @@ TEST_F(ColourButton, APointerAtRestDoesNotMoveTheMark)
     user.moveBy(2, 0);
     EXPECT_EQ(button->PointedColour()->colorref(), RGB(0, 0, 255));
 }
+
+TEST_F(ColourButton, UnderThePointerItIsHotAndAfterwardsNot)
+{
+    if (!CThemeData::getThemeData().IsAppThemed())
+        GTEST_SKIP() << "visual styles are off";
+    const CPoint corner(5, 5);          // of the screen
+    ::SetCursorPos(corner.x, corner.y); // the button does not come up under it
+    show();
+    const Spot elsewhere{corner};
+    const Picture usual = Picture::ofClient(*button);
+    const auto differs = [&] { return Picture::ofClient(*button).differences(usual) > 0; };
+    user.moveTo(Spot{*button}).waitFor("the hot look", differs);
+    user.moveTo(elsewhere).waitFor("the usual look", [&] { return !differs(); });
+    user.moveTo(Spot{*button}).waitFor("the hot look again", differs);
+}
+
+TEST_F(ColourButton, AQuickSecondPressIsOneLikeTheFirst)
+{
+    show();
+    parent.onCode = [this](UINT code) { // so that the button gets the second press, and not the palette
+        if (code == kDropped)
+            button->CloseUp();
+    };
+    user.doubleClick(Spot{*button});
+    EXPECT_EQ(parent.codes(), (std::vector<UINT>{kDropped, kClosed, kDropped, kClosed}));
+    EXPECT_EQ(parent.log().count(BN_CLICKED), 0);
+    EXPECT_EQ(parent.log().count(BN_DOUBLECLICKED), 0);
+}
+
+TEST_F(ColourButton, EnterWithoutAMarkClosesThePalette)
+{
+    show();
+    button->SetColour(Colour::rgb(0.1, 0.2, 0.3));
+    const COLORREF before = now();
+    button->SetFocus();
+    user.key(VK_DOWN).key(VK_RETURN);
+    EXPECT_FALSE(button->IsDropped());
+    EXPECT_EQ(now(), before);
+    EXPECT_EQ(parent.codes(), (std::vector<UINT>{kDropped, kClosed}));
+}
+
+TEST_F(ColourButton, APaletteWithoutColoursOpensAndCloses)
+{
+    show();
+    button->SetPalette({}, 0);
+    button->UseDialog(false);
+    button->SetFocus();
+    user.key(VK_DOWN).key(VK_HOME).key(VK_END).key(VK_RIGHT);
+    EXPECT_TRUE(button->IsDropped());
+    EXPECT_FALSE(button->PointedColour());
+    user.key(VK_RETURN);
+    EXPECT_FALSE(button->IsDropped());
+    EXPECT_EQ(parent.codes(), (std::vector<UINT>{kDropped, kClosed}));
+}
+
+TEST_F(ColourButton, AMarkThatStaysTellsNoOne)
+{
+    show();
+    button->SetFocus();
+    user.key(VK_DOWN).key(VK_HOME, 2).key(VK_LEFT);
+    EXPECT_EQ(parent.codes(), (std::vector<UINT>{kDropped, kGridPointed}));
+}
+
+TEST_F(ColourButton, ThePaletteShowsItsColoursItsMarkAndItsLine)
+{
+    show();
+    user.moveTo(Spot{parent, CPoint(400, 300)});
+    button->SetFocus();
+    user.key(VK_DOWN);
+    const HWND palette = shownPopup();
+    ASSERT_NE(palette, nullptr);
+    const AccessibleView list(palette);
+    const auto place = [&](int index) {
+        CRect rect = list.place(index + 1);
+        rect.OffsetRect(-placeOf(palette).left, -placeOf(palette).top);
+        return rect;
+    };
+    const auto expectCells = [&](const Picture& shown, int marked) {
+        constexpr COLORREF kColours[] = {kLeaf, kRust, kSky, RGB(255, 0, 0), RGB(0, 0, 255), RGB(0, 0, 0)};
+        for (int i = 0; i < kLine; ++i) {
+            const CRect cell = place(i);
+            EXPECT_EQ(shown.at(cell.CenterPoint()), kColours[i]) << i;
+            const bool mark = shown.at(cell.left, cell.top) == RGB(0, 0, 0) &&
+                              shown.at(cell.left + 1, cell.top + 1) == RGB(255, 255, 255);
+            EXPECT_EQ(mark, i == marked) << i;
+        }
+        EXPECT_EQ(shown.at(0, 0), ::GetSysColor(COLOR_BTNSHADOW)) << "its edge";
+    };
+    const CRect line = place(kLine);
+    constexpr int kSmooth = 60; // of the edges of letters
+    const Picture first = Picture::ofWindow(palette);
+    expectCells(first, 2);
+    EXPECT_EQ(first.at(line.TopLeft()), ::GetSysColor(COLOR_MENU));
+    EXPECT_GT(first.count(::GetSysColor(COLOR_MENUTEXT), kSmooth, line), 5);
+
+    user.key(VK_LEFT);
+    expectCells(Picture::ofWindow(palette), 1);
+
+    user.key(VK_END);
+    const Picture last = Picture::ofWindow(palette);
+    expectCells(last, -1);
+    EXPECT_EQ(last.at(line.TopLeft()), ::GetSysColor(COLOR_HIGHLIGHT)) << "without a mark as colours have it";
+    EXPECT_GT(last.count(::GetSysColor(COLOR_HIGHLIGHT), 0, line), line.Width() * line.Height() / 2);
+    EXPECT_GT(last.count(::GetSysColor(COLOR_HIGHLIGHTTEXT), kSmooth, line), 5);
+}
+
+TEST_F(ColourButton, InADialogTheKeysAreThePalettesWhileItIsOpen)
+{
+    class Form : public CDialog
+    {
+    public:
+        void create()
+        {
+            struct
+            {
+                DLGTEMPLATE head{WS_POPUP | WS_VISIBLE | WS_CAPTION, WS_EX_CONTROLPARENT, 0, 60, 60, 160, 90};
+                WORD menu = 0;
+                WORD windowClass = 0;
+                WORD title = 0;
+            } empty;
+            CreateIndirect(&empty.head, nullptr);
+        }
+    } form;
+    form.create();
+    constexpr DWORD kStop = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+    CEdit before;
+    before.Create(kStop | WS_BORDER, CRect(10, 10, 100, 30), &form, 1001);
+    button = std::make_unique<PenButton>();
+    button->Create(L"&Pen", kStop, CRect(10, 40, 70, 64), &form, 7);
+    button->SetPalette({kLeaf, kRust, kSky}, 3);
+    button->SetColour(Colour::colorref(kSky));
+    CEdit after;
+    after.Create(kStop | WS_BORDER, CRect(10, 70, 100, 90), &form, 1002);
+    present(form);
+
+    button->SetFocus();
+    user.key(VK_DOWN);
+    ASSERT_TRUE(button->IsDropped()) << "the dialog does not take the arrow";
+    user.key(VK_ESCAPE);
+    EXPECT_FALSE(button->IsDropped());
+    EXPECT_TRUE(form.IsWindowVisible()) << "Escape closes the palette alone";
+    user.key(VK_DOWN).key(VK_LEFT).key(VK_RETURN);
+    EXPECT_EQ(now(), kRust);
+    EXPECT_TRUE(form.IsWindowVisible()) << "Enter chooses";
+    EXPECT_EQ(::GetFocus(), button->m_hWnd);
+
+    user.key(VK_DOWN).key(VK_HOME).key(VK_TAB).waitFor("the next control",
+                                                       [&] { return ::GetFocus() == after.m_hWnd; });
+    EXPECT_FALSE(button->IsDropped());
+    EXPECT_EQ(now(), kRust) << "Tab chooses nothing";
+    button->SetFocus();
+    user.key(VK_DOWN).holding(VK_SHIFT).key(VK_TAB).letGo(VK_SHIFT).waitFor(
+        "the control before", [&] { return ::GetFocus() == before.m_hWnd; });
+    EXPECT_FALSE(button->IsDropped());
+    button.reset();
+    form.DestroyWindow();
+}

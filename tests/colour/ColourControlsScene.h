@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace ovo::testkit
@@ -30,6 +31,8 @@ class ColourHost : public RecordingParent
 public:
     using RecordingParent::RecordingParent;
     std::function<void(UINT code)> onCode;
+    /// Hears every message first, and may answer in the window's place.
+    std::function<std::optional<LRESULT>(UINT message, WPARAM wParam, LPARAM lParam)> onMessage;
 
     std::vector<UINT> codes()
     {
@@ -43,6 +46,9 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
+        if (const auto hear = onMessage)
+            if (const std::optional<LRESULT> answer = hear(message, wParam, lParam))
+                return *answer;
         const LRESULT result = RecordingParent::WindowProc(message, wParam, lParam);
         if (message == WM_COMMAND && HIWORD(wParam) >= 0x50)
             if (const auto act = onCode)

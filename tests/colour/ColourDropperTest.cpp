@@ -193,3 +193,75 @@ TEST_F(ColourDropper, TheParentMayDestroyOrDeleteItWhenItIsTold)
         sky.DestroyWindow();
     }
 }
+
+TEST_F(ColourDropper, ItIsPressedWithACrossForAPointerWhileTheUserPicks)
+{
+    show();
+    const auto isPressed = [this] { return (dropper->SendMessage(BM_GETSTATE) & BST_PUSHED) != 0; };
+    user.press(Spot{*dropper}).then([&] { EXPECT_TRUE(isPressed()); }).moveTo(inTarget()).then([&] {
+        EXPECT_TRUE(isPressed());
+        EXPECT_EQ(::GetCursor(), ::LoadCursorW(nullptr, IDC_CROSS));
+    });
+    EXPECT_FALSE(isPressed());
+    user.click(Spot{*dropper});
+    EXPECT_FALSE(isPressed()) << "a click picks nothing";
+    EXPECT_EQ(::GetCapture(), nullptr);
+    dropper->SetFocus();
+    user.key(VK_SPACE);
+    EXPECT_TRUE(isPressed()) << "though the key has been let go of";
+    user.key(VK_ESCAPE);
+    EXPECT_FALSE(isPressed());
+    EXPECT_EQ(parent.log().count(BN_CLICKED), 0);
+}
+
+TEST_F(ColourDropper, AKeyThatIsHeldBeginsAndNoMore)
+{
+    show();
+    dropper->SetFocus();
+    constexpr LPARAM kPressed = 0x00000001;
+    constexpr LPARAM kHeld = 0x40000001;
+    for (const WPARAM key : {VK_SPACE, VK_RETURN}) {
+        dropper->SendMessage(WM_KEYDOWN, key, kPressed);
+        dropper->SendMessage(WM_KEYDOWN, key, kHeld);
+        EXPECT_TRUE(dropper->IsPicking()) << key;
+        EXPECT_TRUE(parent.codes().empty()) << key;
+        dropper->SendMessage(WM_KEYDOWN, VK_ESCAPE, kPressed);
+    }
+}
+
+TEST_F(ColourDropper, AQuickSecondPressPicksToo)
+{
+    show();
+    ::SetCursorPos(750, 230); // in the target
+    const auto send = [this](UINT message, CPoint at) {
+        dropper->SendMessage(message, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    };
+    send(WM_LBUTTONDBLCLK, {5, 5});
+    EXPECT_TRUE(dropper->IsPicking());
+    send(WM_MOUSEMOVE, {630, 130});
+    send(WM_LBUTTONUP, {630, 130});
+    EXPECT_EQ(parent.codes(), (std::vector<UINT>{kTaken}));
+    EXPECT_EQ(dropper->TakenColour(), kSky);
+}
+
+TEST_F(ColourDropper, BelowThePixelsAreTheColourOfThePointAndItsCode)
+{
+    show();
+    const auto look = [](bool onTarget) {
+        const Picture picture = Picture::ofWindow(shownPopup());
+        const int side = picture.width();
+        const CRect below(1, side - 1, side - 1, picture.height() - 1);
+        EXPECT_GT(picture.count(kSky, 2, CRect(0, 0, side, side - 1)), 100) << "among the pixels it is";
+        const int swatch = picture.count(kSky, 2, below);
+        EXPECT_EQ(swatch > 50, onTarget);
+        EXPECT_EQ(swatch == 0, !onTarget);
+        const CRect beside(below.left + below.Height() + 6, below.top + 1, below.right, below.bottom);
+        EXPECT_GT(picture.count(::GetSysColor(COLOR_INFOTEXT), 60, beside), 5) << "the code";
+    };
+    user.press(Spot{*dropper})
+        .moveTo(Spot{CPoint(720, 230)}) // the first column of the target
+        .then([&] { look(true); })
+        .moveTo(Spot{CPoint(719, 230)})
+        .then([&] { look(false); })
+        .key(VK_ESCAPE);
+}

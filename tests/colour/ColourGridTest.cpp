@@ -127,6 +127,88 @@ TEST_F(ColourGrid, TakesThePlaceOfAControl)
     EXPECT_FALSE(CColourGrid().createInPlace(parent, 10)) << "there is no such control";
 }
 
+TEST_F(ColourGrid, TakesTheStateAndTheTurnOfTheControl)
+{
+    for (const DWORD state : {DWORD{WS_VISIBLE}, DWORD{WS_VISIBLE | WS_DISABLED}, DWORD{WS_DISABLED}}) {
+        CStatic before;
+        CStatic place;
+        CStatic after;
+        before.Create(L"", WS_CHILD, CRect(0, 0, 10, 10), &parent, 20);
+        place.Create(L"", WS_CHILD | state, CRect(30, 40, 130, 60), &parent, 9);
+        after.Create(L"", WS_CHILD, CRect(0, 80, 10, 90), &parent, 21);
+        CColourGrid own;
+        ASSERT_TRUE(own.createInPlace(parent, 9));
+        EXPECT_EQ(own.GetStyle() & (WS_VISIBLE | WS_DISABLED), state);
+        EXPECT_EQ(::GetWindow(own, GW_HWNDPREV), before.m_hWnd);
+        EXPECT_EQ(::GetWindow(own, GW_HWNDNEXT), after.m_hWnd);
+    }
+}
+
+TEST_F(ColourGrid, NewColoursBeginWithTheFirstInAColumnAtLeast)
+{
+    show();
+    grid->SetCurrent(4);
+    Picture::ofClient(*grid); // all is painted
+    grid->SetColours({kLeaf, kRust}, 0);
+    EXPECT_EQ(grid->Current(), 0);
+    EXPECT_EQ(grid->CellRect(0).left, grid->CellRect(1).left);
+    EXPECT_LT(grid->CellRect(0).bottom, grid->CellRect(1).top);
+    EXPECT_EQ(Picture::ofClient(*grid).at(grid->CellRect(1).CenterPoint()), kRust) << "at once";
+}
+
+TEST_F(ColourGrid, ColoursThatAreExchangedDuringAPressAreNotChosen)
+{
+    show();
+    parent.onCode = [this](UINT code) {
+        if (code == kGridPointed)
+            grid->SetColours({kSky, kRust, kLeaf, kSky, kRust}, 3);
+    };
+    user.click(cell(3));
+    EXPECT_EQ(parent.codes(), (std::vector<UINT>{kGridPointed}));
+    EXPECT_EQ(grid->Current(), 0);
+}
+
+TEST_F(ColourGrid, BesideItsColoursIsTheBrushOfTheParent)
+{
+    show();
+    const CPoint beside(grid->CellRect(2).CenterPoint().x, grid->CellRect(3).CenterPoint().y);
+    EXPECT_EQ(Picture::ofClient(*grid).at(beside), ::GetSysColor(COLOR_BTNFACE));
+    constexpr COLORREF kPink = RGB(255, 0, 200);
+    const CBrush brush(kPink);
+    parent.onMessage = [&](UINT message, WPARAM, LPARAM control) -> std::optional<LRESULT> {
+        if (message != WM_CTLCOLORSTATIC || reinterpret_cast<HWND>(control) != grid->m_hWnd)
+            return std::nullopt;
+        return reinterpret_cast<LRESULT>(brush.GetSafeHandle());
+    };
+    grid->Invalidate(FALSE);
+    EXPECT_EQ(Picture::ofClient(*grid).at(beside), kPink);
+    parent.onMessage = nullptr;
+}
+
+TEST_F(ColourGrid, AccessibilityHearsOfTheColourWhenTheFocusComes)
+{
+    show();
+    grid->SetCurrent(3);
+    WinEvents moves(EVENT_OBJECT_FOCUS);
+    grid->SetFocus();
+    EXPECT_EQ(moves.of(*grid, 4), 1);
+}
+
+TEST_F(ColourGrid, DisabledItsColoursAreNotTakenByAccessibilityEither)
+{
+    show();
+    const AccessibleView list(*grid);
+    EXPECT_EQ(list.action(4), L"Take");
+    grid->EnableWindow(FALSE);
+    EXPECT_EQ(list.action(4), L"");
+    EXPECT_EQ(list->accDoDefaultAction(AccessibleView::numbered(4)), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(grid->Current(), 0);
+    EXPECT_TRUE(parent.codes().empty());
+    grid->DestroyWindow();
+    BSTR text = nullptr;
+    EXPECT_EQ(list->get_accName(AccessibleView::numbered(1), &text), CO_E_OBJNOTCONNECTED);
+}
+
 TEST_F(ColourGrid, AccessibilitySeesAList)
 {
     show();

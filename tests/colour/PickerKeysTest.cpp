@@ -328,6 +328,13 @@ TEST_F(PickerKeys, AccessibilitySeesTwoSlidersWithNamesAndValues)
     CRect wheel = picker->m_wheelRect;
     picker->ClientToScreen(&wheel);
     EXPECT_EQ(hue.place(), wheel);
+    CRect inner = picker->m_wheelRect;
+    const ovoui::frame::Box triangleBox =
+        ovoui::colour::triangleIn(ovoui::colour::ringIn({inner.left, inner.top, inner.right, inner.bottom}))
+            .rect();
+    inner = CRect(triangleBox.left, triangleBox.top, triangleBox.right, triangleBox.bottom);
+    picker->ClientToScreen(&inner);
+    EXPECT_EQ(shade.place(), inner);
     user.key(VK_HOME);
     EXPECT_EQ(shade.value(), L"lightness 0, saturation 50");
     picker->DestroyWindow();

@@ -345,3 +345,49 @@ TEST_F(PickerPalette, TheContrastIsTold)
     enter(L"red");
     EXPECT_EQ(text(kContrast), L"Contrast as text: on white 4.0 (AA large), on black 5.3 (AA)");
 }
+
+TEST_F(PickerPalette, EnterTakesARecentColourAndLeavesTheDialogOpen)
+{
+    TestApp::instance().WriteProfileString(L"settings", L"RecentColours", L"#102030");
+    open();
+    dialog->GetDlgItem(kRecent)->SetFocus();
+    user.key(VK_RETURN);
+    EXPECT_TRUE(dialog->IsWindowVisible());
+    EXPECT_EQ(now(), RGB(0x10, 0x20, 0x30));
+}
+
+TEST_F(PickerPalette, TheKeyboardPicksFromTheScreenAndLeavesTheDialogOpen)
+{
+    open();
+    auto& dropper = static_cast<CColourDropper&>(*dialog->GetDlgItem(kDropper));
+    dropper.SetFocus();
+    user.key(VK_RETURN);
+    EXPECT_TRUE(dropper.IsPicking()) << "Enter does not close the dialog";
+    user.key(VK_RIGHT);
+    EXPECT_EQ(::GetFocus(), dropper.m_hWnd) << "the arrow moves the pointer";
+    user.key(VK_ESCAPE);
+    EXPECT_FALSE(dropper.IsPicking());
+    EXPECT_TRUE(dialog->IsWindowVisible());
+    EXPECT_EQ(now(), RGB(255, 0, 0));
+}
+
+TEST_F(PickerPalette, WhileSomethingIsTypedCtrlZIsTheFieldsOwn)
+{
+    open();
+    enter(L"lime");
+    dialog->GetDlgItem(kText)->SetFocus();
+    user.type(L"x").holding(VK_CONTROL).key('Z');
+    EXPECT_EQ(now(), RGB(0, 255, 0)) << "typing is undone first";
+}
+
+TEST_F(PickerPalette, AWalkThroughItByTabChangesNothing)
+{
+    open(Colour::rgb(0.3, 0.2, 0.7));
+    dialog->SetSliderMode(dialog.get(), ColPickerModeHLS); // whose whole numbers would round the colour
+    dialog->UpdateWindow();
+    dialog->GetDlgItem(IDCANCEL)->SetFocus();
+    user.key(VK_TAB, 16);
+    EXPECT_EQ(dialog->GetColour().r(), 0.3);
+    EXPECT_EQ(dialog->GetColour().g(), 0.2);
+    EXPECT_EQ(dialog->GetColour().b(), 0.7);
+}

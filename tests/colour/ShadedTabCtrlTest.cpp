@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 using namespace ovo::testkit;
 
@@ -417,6 +418,35 @@ TEST_F(ShadedTabCtrl, ControlsGetThePatternAlignedAndTransparentTexts)
         EXPECT_EQ(used, origin);
     }
     EXPECT_EQ(amendAsMember(child, CTLCOLOR_STATIC), brush);
+}
+
+TEST_F(ShadedTabCtrl, TheBrushIsAlignedHoweverTheCoordinatesAreMoved)
+{
+    NEEDS_THEMES();
+    const std::pair<std::function<void(HDC)>, CPoint> moves[] = {
+        {[](HDC dc) { ::SetWindowOrgEx(dc, 5, 7, nullptr); }, CPoint(-35, -47)},
+        {[](HDC dc) { ::SetViewportOrgEx(dc, 5, 7, nullptr); }, CPoint(-25, -33)},
+        {[](HDC dc) {
+             ::SetMapMode(dc, MM_ANISOTROPIC);
+             ::SetWindowExtEx(dc, 1, 1, nullptr);
+             ::SetViewportExtEx(dc, 2, 3, nullptr);
+         },
+         CPoint(-60, -120)},
+        {[](HDC dc) {
+             const XFORM moved{1, 0, 0, 1, 10, 20};
+             ::SetGraphicsMode(dc, GM_ADVANCED);
+             ::SetWorldTransform(dc, &moved);
+         },
+         CPoint(-20, -20)},
+    };
+    for (const auto& [move, origin] : moves) {
+        CClientDC dc(&child); // which is at 30, 40
+        move(dc.m_hDC);
+        EXPECT_NE(CShadedTabCtrl::AmendCtlColor(&dc, &child, CTLCOLOR_STATIC, white()), white());
+        CPoint used;
+        ::GetBrushOrgEx(dc.m_hDC, &used);
+        EXPECT_EQ(used, origin);
+    }
 }
 
 TEST_F(ShadedTabCtrl, AControlThatOnlyLiesOnItIsServedWhereTheTabControlIsKnown)

@@ -1,4 +1,6 @@
 // A push button with an image, with visual styles and without.
+#include "resource.h"
+
 #include <testkit/Desktop.h>
 #include <testkit/GdiCounter.h>
 #include <testkit/GdiPlusSession.h>
@@ -13,6 +15,8 @@
 #include <ovouires/resource.h>
 
 #include <gtest/gtest.h>
+
+#include <vssym32.h>
 
 using namespace ovo::testkit;
 
@@ -186,6 +190,26 @@ TEST_F(AlphaImageButton, ADisabledImageIsMadeFromTheNormalOneOnRequest)
     EXPECT_GT(shown().differences(disabled), 20) << "it was seen";
 }
 
+TEST_F(AlphaImageButton, OnlyTheDisabledStateHasTheGreyImage)
+{
+    if (!themed())
+        return; // the classic image is the system's
+    button.useDisabledImage(true);
+    button.loadImage(strip());
+    BUTTON_IMAGELIST list{};
+    ASSERT_TRUE(button.SendMessage(BCM_GETIMAGELIST, 0, reinterpret_cast<LPARAM>(&list)));
+    ASSERT_EQ(::ImageList_GetImageCount(list.himl), 6);
+    for (int state = PBS_NORMAL; state <= 6; ++state) {
+        const Picture picture(16, 16);
+        ::ImageList_Draw(list.himl, state - PBS_NORMAL, picture.dc(), 0, 0, ILD_NORMAL);
+        int found = 0;
+        for (int y = 0; y < 16; ++y)
+            for (int x = 0; x < 16; ++x)
+                found += green(picture.at(x, y)) ? 1 : 0;
+        EXPECT_EQ(found > 10, state != PBS_DISABLED) << state;
+    }
+}
+
 namespace
 {
 
@@ -279,6 +303,28 @@ TEST_F(AlphaImageButton, AClassicBitmapTakesTheSystemsColours)
     const HDC dc = ::CreateCompatibleDC(nullptr);
     const HGDIOBJ old = ::SelectObject(dc, bitmap);
     EXPECT_EQ(::GetPixel(dc, 0, 0), ::GetSysColor(COLOR_BTNFACE)) << "light grey before";
+    ::SelectObject(dc, old);
+    ::DeleteDC(dc);
+}
+
+TEST_F(AlphaImageButton, TheBlackOfAClassicBitmapIsTheColourOfTexts)
+{
+    const int element = COLOR_BTNTEXT;
+    const COLORREF before = ::GetSysColor(element);
+    const COLORREF text = RGB(10, 20, 200);
+    ::SetSysColors(1, &element, &text);
+    {
+        const WithoutThemes plain;
+        button.loadImage(TESTSTRIP_4);
+    }
+    ::SetSysColors(1, &element, &before);
+    const auto bitmap = reinterpret_cast<HBITMAP>(button.SendMessage(BM_GETIMAGE, IMAGE_BITMAP));
+    ASSERT_NE(bitmap, nullptr);
+    const HDC dc = ::CreateCompatibleDC(nullptr);
+    const HGDIOBJ old = ::SelectObject(dc, bitmap);
+    EXPECT_EQ(::GetPixel(dc, 3, 0), text) << "black before";
+    EXPECT_EQ(::GetPixel(dc, 7, 3), ::GetSysColor(COLOR_BTNFACE)) << "light grey before";
+    EXPECT_EQ(::GetPixel(dc, 0, 0), RGB(255, 0, 0)) << "all else is as it was";
     ::SelectObject(dc, old);
     ::DeleteDC(dc);
 }

@@ -83,6 +83,26 @@ TEST_F(AngleSliderKeys, EachKeyTurnsAndTells)
     EXPECT_TRUE(parent.told.empty()) << "nothing has changed";
 }
 
+TEST_F(AngleSliderKeys, WhatAKeyTurnsShowsAtOnce)
+{
+    round->SetFocus();
+    const Picture before = Picture::ofClient(*round);
+    user.key(VK_PRIOR);
+    EXPECT_GT(Picture::ofClient(*round).differences(before), 100);
+    user.key(VK_HOME);
+    EXPECT_EQ(Picture::ofClient(*round).differences(before), 0);
+}
+
+TEST_F(AngleSliderKeys, TheFocusIsMarkedWhileTheKeyboardIsAskedFor)
+{
+    round->SetFocus();
+    const Picture marked = Picture::ofClient(*round);
+    round->UseKeyboard(false);
+    EXPECT_GT(Picture::ofClient(*round).differences(marked), 20);
+    round->UseKeyboard(true);
+    EXPECT_EQ(Picture::ofClient(*round).differences(marked), 0);
+}
+
 TEST_F(AngleSliderKeys, TheWheelSliderStopsAtItsLimits)
 {
     wheel->SetPos(85);
@@ -195,6 +215,25 @@ TEST_F(AngleSliderKeys, ANumberIsTypedIntoASmallEdit)
     EXPECT_EQ(edit(), nullptr) << "leaving it accepts";
     EXPECT_EQ(round->GetPos(), 1);
     EXPECT_EQ(::GetFocus(), wheel->m_hWnd);
+}
+
+TEST_F(AngleSliderKeys, TheSmallEditHasAFrameAndTheUsualFontInTheMiddle)
+{
+    round->SetFocus();
+    user.type(L"4").waitFor("the edit", [&] { return edit() != nullptr; });
+    EXPECT_EQ(::GetFocus(), edit());
+    EXPECT_TRUE(::GetWindowLongW(edit(), GWL_STYLE) & WS_BORDER);
+    EXPECT_EQ(::SendMessageW(edit(), WM_GETFONT, 0, 0),
+              reinterpret_cast<LRESULT>(::GetStockObject(DEFAULT_GUI_FONT)));
+    CRect place;
+    ::GetWindowRect(edit(), &place);
+    CRect slider;
+    round->GetWindowRect(&slider);
+    EXPECT_EQ(CRect(place & slider), place);
+    EXPECT_NEAR(place.CenterPoint().x, slider.CenterPoint().x, 1);
+    EXPECT_NEAR(place.CenterPoint().y, slider.CenterPoint().y, 1);
+    user.key(VK_ESCAPE).waitFor("the edit to go", [&] { return edit() == nullptr; });
+    EXPECT_TRUE(parent.told.empty());
 }
 
 TEST_F(AngleSliderKeys, CharactersThatAreOnTheirWayWhenTheEditOpensGoIntoIt)

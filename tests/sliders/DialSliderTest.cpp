@@ -75,6 +75,16 @@ TEST_F(DialSlider, ItTurnsWithoutEnd)
     EXPECT_NEAR(dial.GetPos(), 450, 0.01);
 }
 
+TEST_F(DialSlider, FromRightToLeftClockwiseIsTheSameWay)
+{
+    dial.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    CRect place;
+    dial.GetWindowRect(&place);
+    const CPoint middle = place.CenterPoint();
+    user.press(Spot{middle - CSize(0, 40)}).moveTo(Spot{middle + CSize(40, 0)}).release();
+    EXPECT_NEAR(dial.GetPos(), 90, 2);
+}
+
 TEST_F(DialSlider, StopsHoldIt)
 {
     dial.SetStops(-45, 45);
@@ -112,6 +122,16 @@ TEST_F(DialSlider, ThePointerShowsTheAngle)
     EXPECT_GT(right.differences(Picture::ofClient(dial)), 20);
     dial.EnableWindow(FALSE);
     EXPECT_EQ(Picture::ofClient(dial).at(70, 50), ::GetSysColor(COLOR_GRAYTEXT));
+}
+
+TEST_F(DialSlider, TicksBeyondTheStopsAreLeftOutAtOnce)
+{
+    dial.SetTicks(30);
+    const Picture all = Picture::ofClient(dial);
+    dial.SetStops(-45, 45);
+    EXPECT_GT(Picture::ofClient(dial).differences(all), 10);
+    dial.RemoveStops();
+    EXPECT_EQ(Picture::ofClient(dial).differences(all), 0);
 }
 
 // Data exchange
@@ -181,6 +201,39 @@ TEST_F(SliderExchange, WhatIsNoNumberOfTheRangeIsRefused)
         EXPECT_EQ(number, 7) << "the member stays";
         ASSERT_EQ(TestApp::instance().boxes().size(), 1u);
         EXPECT_EQ(TestApp::instance().boxes()[0].text, L"Enter a number from 0 to 50.");
+    }
+}
+
+TEST_F(SliderExchange, WhatIsRefusedGetsTheFocusAndIsSelected)
+{
+    buddy.SetWindowText(L"51");
+    parent.SetFocus();
+    CDataExchange reading(&parent, TRUE);
+    double number = 7;
+    try {
+        DDX_SliderNumber(&reading, button, number);
+        ADD_FAILURE() << "taken as " << number;
+    } catch (CUserException* error) {
+        error->Delete();
+    }
+    EXPECT_EQ(::GetFocus(), buddy.m_hWnd);
+    int from = 0;
+    int to = 0;
+    buddy.GetSel(from, to);
+    EXPECT_EQ(from, 0);
+    EXPECT_EQ(to, 2);
+    ASSERT_EQ(TestApp::instance().boxes().size(), 1u);
+    EXPECT_EQ(TestApp::instance().boxes()[0].type & MB_ICONMASK, UINT{MB_ICONEXCLAMATION});
+}
+
+TEST_F(SliderExchange, AWholeNumberIsTheNearestOne)
+{
+    CDataExchange reading(&parent, TRUE);
+    for (const auto& [text, expected] : {std::pair(L"33.25", 33), {L"33.75mm", 34}, {L"0.5", 1}}) {
+        buddy.SetWindowText(text);
+        int number = 7;
+        DDX_SliderNumber(&reading, button, number);
+        EXPECT_EQ(number, expected);
     }
 }
 

@@ -83,6 +83,48 @@ TEST_F(SliderButton, DisablingItClosesThePopup)
     EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
 }
 
+TEST_F(SliderButton, AHostMayDeleteItWhenItHearsThatItIsDisabled)
+{
+    class Hearing : public CWnd
+    {
+    public:
+        std::function<void()> deed;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_COMMAND && HIWORD(wParam) == STN_DISABLE)
+                deed();
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    };
+    for (const bool deletes : {false, true}) {
+        SCOPED_TRACE(deletes);
+        Hearing panel;
+        panel.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 90, 300, 120), &parent, 20);
+        CStatic plain;
+        plain.Create(L"", WS_CHILD | WS_VISIBLE | SS_NOTIFY, CRect(102, 0, 118, 22), &panel, 9);
+        std::unique_ptr<CSliderButton> slider = std::make_unique<Perishing<CSliderButton>>(utils);
+        slider->SubclassWindow(plain.Detach());
+        slider->SetBuddy(buddy);
+        bool told = false;
+        panel.deed = [&] {
+            told = true;
+            if (deletes)
+                slider.reset();
+            else
+                slider->DestroyWindow();
+        };
+        show();
+        slider->SendMessage(WM_KEYDOWN, VK_SPACE);
+        EXPECT_TRUE(isOpen());
+        ::EnableWindow(slider->m_hWnd, FALSE);
+        EXPECT_TRUE(told);
+        EXPECT_TRUE(isClosed());
+        panel.DestroyWindow();
+    }
+}
+
 TEST_F(SliderButton, TheBuddyMayVanish)
 {
     show();

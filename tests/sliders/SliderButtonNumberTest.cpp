@@ -127,6 +127,17 @@ TEST_F(SliderButton, WithoutABuddyNothingIsWritten)
     EXPECT_TRUE(told().empty());
 }
 
+TEST_F(SliderButton, TheNumberIsReadAndShownBeforeTheButtonHasAWindow)
+{
+    CSliderButton early(utils);
+    early.SetBuddy(buddy);
+    early.SetType(CSliderButton::SliderLinear);
+    setBuddyText(L"2,5");
+    EXPECT_EQ(early.Number().value_or(0), 2.5);
+    early.ShowNumber(7);
+    EXPECT_EQ(buddyText(), L"7,00 mm");
+}
+
 // The tip
 
 TEST_F(SliderButton, TheTipIsTheStringOfTheBuddysNumberUpToTheLineFeed)

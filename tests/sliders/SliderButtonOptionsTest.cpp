@@ -3,9 +3,11 @@
 #include "SliderButtonScene.h"
 
 #include <testkit/AccessibleView.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/TestApp.h>
 #include <testkit/WinEvents.h>
 
+#include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/ModalDialog.h>
 #include <ovoui/sliders/UnitNumbers.h>
 
@@ -147,6 +149,22 @@ TEST_F(SliderButtonOptions, TheBubbleGoesWithThePopupThatAnotherProgramCloses)
     EXPECT_TRUE(isClosed());
 }
 
+TEST_F(SliderButtonOptions, TheBubbleStaysOnTheScreen)
+{
+    const CRect work(GetWorkArea(CRect(0, 0, 10, 10)));
+    button->ShowBubble(true);
+    setBuddyText(L"50");
+    show({300, work.top - 120}); // the popup opens at the upper edge, where there is no room above its thumb
+    button->SetFocus();
+    button->SendMessage(WM_KEYDOWN, VK_SPACE);
+    ASSERT_NE(bubble(), nullptr);
+    CRect place;
+    ::GetWindowRect(bubble(), &place);
+    EXPECT_EQ(CRect(place & work), place);
+    button->SendMessage(WM_KEYDOWN, VK_SPACE);
+    EXPECT_EQ(bubble(), nullptr);
+}
+
 TEST_F(SliderButtonOptions, WithoutBeingAskedThereIsNoBubble)
 {
     show();
@@ -175,6 +193,18 @@ TEST_F(SliderButtonOptions, TheWheelStepsOverButtonAndBuddy)
 
 TEST_F(SliderButtonOptions, TheWheelDoesNothingUnasked)
 {
+    setBuddyText(L"50");
+    show();
+    button->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
+    buddy.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
+    EXPECT_EQ(buddyText(), L"50");
+    EXPECT_TRUE(told().empty());
+}
+
+TEST_F(SliderButtonOptions, WhenItIsNoLongerAskedForTheWheelDoesNothing)
+{
+    button->StepByWheel(true);
+    button->StepByWheel(false);
     setBuddyText(L"50");
     show();
     button->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 120), 0);
@@ -285,6 +315,37 @@ TEST_F(SliderButtonOptions, NumbersWithUnitsAreReadyToUse)
     EXPECT_EQ(shown, L"50 %");
 }
 
+namespace
+{
+
+int WINAPI signsOfTheTest(LCID locale, LCTYPE type, LPWSTR text, int room)
+{
+    if (type != LOCALE_SDECIMAL && type != LOCALE_STHOUSAND)
+        return ::GetLocaleInfoW(locale, type, text, room);
+    ::lstrcpynW(text, type == LOCALE_SDECIMAL ? L"," : L"'", room);
+    return 2;
+}
+
+} // namespace
+
+TEST_F(SliderButtonOptions, NumbersWithUnitsHaveTheUsersSigns)
+{
+    const ImportPatch patch(L"ovoui.dll", "GetLocaleInfoW", reinterpret_cast<void*>(&signsOfTheTest));
+    CUnitNumbers grouped(L"mm");
+    CUnitNumbers plain(L"mm", false);
+    CUnitNumbers percent(CUnitNumbers::Percent);
+    std::wstring shown;
+    grouped.toDisplay(shown, L"12345.5");
+    EXPECT_EQ(shown, L"12'345,5 mm");
+    plain.toDisplay(shown, L"12345.5");
+    EXPECT_EQ(shown, L"12345,5 mm");
+    percent.toDisplay(shown, L"123.456");
+    EXPECT_EQ(shown, L"12'345,6 %");
+    std::wstring machine;
+    grouped.fromDisplay(machine, L"12'345,5 mm");
+    EXPECT_EQ(machine, L"12345.5");
+}
+
 // Accessibility
 
 TEST_F(SliderButtonOptions, AccessibilitySeesASliderWithTheBuddysText)
@@ -353,6 +414,17 @@ TEST_F(SliderButtonOptions, AccessibilityHearsOfEveryChangeOfTheValue)
     button->ShowNumber(8);
     button->SetValue();
     EXPECT_EQ(changes.of(*button), 2) << "without a buddy there is no value";
+}
+
+TEST_F(SliderButtonOptions, AccessibilityHearsOfANumberThatTakesThePlaceOfWhatWasTyped)
+{
+    show();
+    button->ShowNumber(7);
+    WinEvents changes(EVENT_OBJECT_VALUECHANGE);
+    setBuddyText(L"8");
+    button->ShowNumber(7);
+    EXPECT_EQ(buddyText(), L"7");
+    EXPECT_EQ(changes.of(*button), 1);
 }
 
 // In a dialog

@@ -27,6 +27,11 @@ BOOL WINAPI countingUnhook(HHOOK hook)
     return ::UnhookWindowsHookEx(hook);
 }
 
+HWND WINAPI noDialog(HINSTANCE, LPCDLGTEMPLATEW, HWND, DLGPROC, LPARAM)
+{
+    return nullptr;
+}
+
 int shownPopups()
 {
     int count = 0;
@@ -61,6 +66,22 @@ TEST_F(SliderButton, AClickOpensThePopupAndASecondOneClosesIt)
     user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
     EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
     EXPECT_EQ(::GetFocus(), buddy.m_hWnd);
+}
+
+TEST_F(SliderButton, WithoutAPopupItComesUpAgain)
+{
+    show();
+    const Picture released = Picture::ofClient(*button);
+    {
+        const ImportPatch patch(L"ovomfc.dll", "CreateDialogIndirectParamW",
+                                reinterpret_cast<void*>(&noDialog));
+        button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+        EXPECT_NE(::GetCapture(), button->m_hWnd);
+        EXPECT_EQ(Picture::ofClient(*button).differences(released), 0);
+        EXPECT_EQ(told(), (std::vector<UINT>{kReleased})) << "though there was nothing to be seen";
+    }
+    open(); // by the next click already
+    EXPECT_TRUE(isOpen());
 }
 
 TEST_F(SliderButton, AQuickSecondClickClosesItToo)
