@@ -237,6 +237,21 @@ TEST(TreeKeys, ActivatingTakesOverTheItemsState)
     EXPECT_FALSE(a.expanded());
 }
 
+TEST(TreeKeys, WhatANodeMakesOfItselfWhenActivatedIsShown)
+{
+    KeyScene scene({"a"}, "a");
+    TestNode& a = scene.node("a");
+    UINT once = TVIS_EXPANDEDONCE;
+    a.activating = [&](MultiTreeCtrl& tree) {
+        once = tree.GetItemState(a.hTreeItem(), TVIS_EXPANDEDONCE);
+        a.name = "done";
+    };
+    scene.tree.SetItemState(a.hTreeItem(), TVIS_EXPANDEDONCE, TVIS_EXPANDEDONCE);
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.all(), Names{"done"});
+    EXPECT_EQ(once, 0u) << "so that the tree view asks the node when it opens";
+}
+
 TEST(TreeKeys, AnErrorOfANodeIsReportedAndTheGestureEnds)
 {
     KeyScene scene({"a"}, "a");
