@@ -3,6 +3,8 @@
 
 #include <support/Perishing.h>
 
+#include <testkit/TemporaryProfile.h>
+
 #include <ovocor/OvoError.h>
 #include <ovouires/resource.h>
 
@@ -114,6 +116,8 @@ public:
 
     std::wstring text;
     std::wstring caption;
+    std::wstring icon; ///< its name
+    CRect yes;         ///< where the button is, on the screen
 
 private:
     void read()
@@ -124,6 +128,9 @@ private:
         caption = buffer;
         ::GetDlgItemTextW(box, IDC_MESSAGE_TEXT, buffer, 256);
         text = buffer;
+        ::GetWindowTextW(::FindWindowExW(box, nullptr, L"STATIC", nullptr), buffer, 256);
+        icon = buffer;
+        ::GetWindowRect(::GetDlgItem(box, IDYES), &yes);
     }
 
     Performance m_performance;
@@ -638,6 +645,20 @@ TEST(TreeErasing, TheQuestionNamesASingleNode)
     scene.tree.eraseSelectedNodes();
     EXPECT_EQ(no.text, L"Are you sure you want to delete \u201Cplan\u201D?");
     EXPECT_EQ(scene.all(), (Names{"a", "plan"}));
+}
+
+TEST(TreeErasing, TheQuestionOpensWhereTheUserHasPutMessages)
+{
+    const TemporaryProfile profile;
+    AfxGetApp()->WriteProfileString(L"settings", L"MsgWindow", L"310,260");
+    CommandScene scene({"a", "b"});
+    scene.node("a").erasable = true;
+    scene.select({"a"});
+    const Answer yes(scene.user, VK_RETURN);
+    scene.command(5146);
+    EXPECT_EQ(yes.icon, L"QUERY");
+    EXPECT_EQ(yes.yes.TopLeft(), CPoint(310, 260));
+    EXPECT_EQ(scene.all(), Names{"b"});
 }
 
 TEST(TreeErasing, TheDeleteKeyDoesTheSame)

@@ -883,6 +883,25 @@ TEST(TreeCheckBoxes, SpaceLetsAllSelectedBoxesFollowTheCarets)
     EXPECT_EQ(scene.selected(), (Names{"plain", "x", "y"}));
 }
 
+TEST(TreeCheckBoxes, ANodeMayHaveNoneAtTheMoment)
+{
+    Scene scene;
+    scene.tree.setExtras(Extra::CheckBoxes);
+    CheckedNode& x = addChecked(scene, "x");
+    addChecked(scene, "y");
+    x.shown = Check::None;
+    scene.tree.updateUI(x);
+    scene.user.click(scene.label("x"));
+    scene.journal.clear();
+    scene.user.key(VK_SPACE);
+    EXPECT_EQ(scene.journal, (Journal{"gesture 1118", "activate x", "gesture 0"}));
+    scene.user.holding(VK_SHIFT).click(scene.label("y")); // the caret at y
+    scene.journal.clear();
+    scene.user.key(VK_SPACE);
+    EXPECT_EQ(scene.journal, Journal{"check y"});
+    EXPECT_EQ(shownBy(scene, "x"), Check::None);
+}
+
 TEST(TreeCheckBoxes, SpaceTogglesACaretThatIsNotSelectedAlone)
 {
     Scene scene;

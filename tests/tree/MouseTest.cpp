@@ -138,6 +138,20 @@ TEST(TreeMouse, CtrlClickAddsToTheSelectionAndKeepsTheCaret)
     EXPECT_EQ(scene.changes(), (Changes{{TVC_BYMOUSE, "a", "a"}}));
 }
 
+TEST(TreeMouse, TheParentHearsWhereTheClickWas)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.user.click(scene.label("a"));
+    for (const auto& [key, name] : {std::pair<WORD, const char*>{VK_CONTROL, "c"}, {VK_SHIFT, "d"}}) {
+        const CPoint place = scene.labelPoint(name);
+        scene.user.holding(key).click(scene.label(name));
+        EXPECT_EQ(CPoint(scene.parent().log().last(static_cast<UINT>(TVN_SELCHANGEDW)).point), place) << name;
+    }
+    scene.user.holding(VK_SHIFT).key(VK_UP);
+    EXPECT_EQ(CPoint(scene.parent().log().last(static_cast<UINT>(TVN_SELCHANGEDW)).point), CPoint(0, 0))
+        << "a key has no place";
+}
+
 TEST(TreeMouse, CtrlClickOnASelectedItemTakesItOutOnRelease)
 {
     Scene scene{{"a", "b"}};
@@ -545,6 +559,19 @@ TEST(TreeMouse, TheHitTestTellsWhatTheNodeMadeOfIt)
     EXPECT_EQ(scene.tree.HitTest(scene.labelPoint("a"), &flags), scene.item("a"));
     EXPECT_EQ(flags, 0x40000u);
     EXPECT_EQ(scene.tree.HitTest(scene.labelPoint("a")), scene.item("a"));
+}
+
+TEST(TreeMouse, AnItemThatGoesWhenItIsHitIsNotHit)
+{
+    Scene scene{{"a", "b"}};
+    const CPoint place = scene.labelPoint("a");
+    scene.node("a").hitting = [&](CPoint, unsigned& flags) {
+        flags = TVHT_ONITEMICON;
+        scene.tree.DeleteItem(scene.item("a"));
+    };
+    unsigned flags = 0;
+    EXPECT_EQ(scene.tree.HitTest(place, &flags), nullptr);
+    EXPECT_EQ(flags, unsigned{TVHT_NOWHERE});
 }
 
 // Harm
