@@ -180,7 +180,7 @@ TEST(TreeExpansion, DeletionsThatHaveToWaitAreCarriedOutAfterAForeignExceptionTo
     EXPECT_THROW(scene.tree.Expand(scene.item("a"), TVE_EXPAND), int);
     EXPECT_EQ(scene.tree.GetCount(), 2u);
     a.expanding = [&](MultiTreeCtrl& tree) {
-        tree.DeleteItem(scene.item("c"));
+        EXPECT_TRUE(tree.DeleteItem(scene.item("c"))) << "it goes for certain";
         return false;
     };
     scene.tree.SetItemState(scene.item("a"), 0, TVIS_EXPANDED);
