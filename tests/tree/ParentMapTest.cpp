@@ -28,7 +28,7 @@ protected:
     {
         TVITEM& item = reinterpret_cast<NMTVDISPINFO*>(header)->item;
         if (item.mask & TVIF_TEXT)
-            ::lstrcpynW(item.pszText, L"asked", item.cchTextMax);
+            item.pszText = const_cast<LPWSTR>(L"asked");
     }
     DECLARE_MESSAGE_MAP()
 };
