@@ -73,13 +73,15 @@ void MultiTreeCtrl::CheckBoxConcern::extrasChange()
     m_on = on;
     if (!m_state.usable())
         return;
+    const HostCalls host(tree());
     if (on) {
         takeImages();
     } else {
         setStateImages(m_hostsImages);
         m_images.DeleteImageList();
     }
-    showAll();
+    if (host.usable())
+        showAll();
 }
 
 void MultiTreeCtrl::CheckBoxConcern::windowMade()
@@ -95,10 +97,12 @@ void MultiTreeCtrl::CheckBoxConcern::takeImages()
     const auto there = reinterpret_cast<HIMAGELIST>(tree().SendMessage(TVM_GETIMAGELIST, TVSIL_STATE));
     if (!there || there != m_images.GetSafeHandle())
         m_hostsImages = there;
-    makeImages();
+    if (m_state.usable())
+        makeImages();
 }
 
-/// By a message: while a window is being taken over, its own procedure is not known yet.
+/// By a message, which the host may hear: while a window is being taken over, its own procedure is not known
+/// yet.
 void MultiTreeCtrl::CheckBoxConcern::setStateImages(HIMAGELIST images) const
 {
     tree().SendMessage(TVM_SETIMAGELIST, TVSIL_STATE, reinterpret_cast<LPARAM>(images));

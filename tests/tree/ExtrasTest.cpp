@@ -2,6 +2,8 @@
 // off at first.
 #include "TreeScene.h"
 
+#include <support/Perishing.h>
+
 #include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
 
@@ -972,6 +974,45 @@ TEST(TreeCheckBoxes, OutliveATreeThatIsDeletedWhenANodeIsAsked)
         EXPECT_EQ(tree, nullptr);
         EXPECT_EQ(TestNode::live(), 0);
     }
+}
+
+/// A tree whose host does a deed when the tree view gets images.
+class ImagesTree : public TestTree
+{
+public:
+    std::function<void()> deed;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message != TVM_SETIMAGELIST || !deed)
+            return TestTree::WindowProc(message, wParam, lParam);
+        const std::function<void()> own = deed;
+        own();
+        return 0;
+    }
+};
+
+TEST(TreeCheckBoxes, OutliveAHostThatDestroysTheTreeWhenItGetsItsImages)
+{
+    for (const bool wholeObject : {false, true})
+        for (const bool on : {false, true}) {
+            SCOPED_TRACE(std::string(wholeObject ? "object" : "window") + (on ? " on" : " off"));
+            RecordingParent parent;
+            std::unique_ptr<ImagesTree> tree = std::make_unique<Perishing<ImagesTree>>();
+            tree->Create(Scene::kStyle, CRect(0, 0, 200, 200), &parent, 1);
+            (new CheckedNode("box"))->insert(*tree, TVI_ROOT, TVI_LAST);
+            if (!on)
+                tree->setExtras(Extra::CheckBoxes);
+            tree->deed = [&] {
+                if (wholeObject)
+                    tree.reset();
+                else
+                    tree->DestroyWindow();
+            };
+            tree->setExtras(on ? unsigned{Extra::CheckBoxes} : 0u);
+            EXPECT_EQ(TestNode::live(), 0);
+        }
 }
 
 TEST(TreeCheckBoxes, OutliveWhatANodeDoes)
