@@ -73,20 +73,39 @@ void MultiTreeCtrl::CheckBoxConcern::extrasChange()
     m_on = on;
     if (!m_state.usable())
         return;
+    const HostCalls host(tree());
     if (on) {
-        m_hostsImages = reinterpret_cast<HIMAGELIST>(view().ask(TVM_GETIMAGELIST, TVSIL_STATE));
-        makeImages();
+        takeImages();
     } else {
-        view().ask(TVM_SETIMAGELIST, TVSIL_STATE, reinterpret_cast<LPARAM>(m_hostsImages));
+        setStateImages(m_hostsImages);
         m_images.DeleteImageList();
     }
-    showAll();
+    if (host.usable())
+        showAll();
 }
 
 void MultiTreeCtrl::CheckBoxConcern::windowMade()
 {
     if (m_on)
+        takeImages();
+}
+
+/// Puts the boxes in the place of the state images that are there. Those are the host's, unless the boxes
+/// have stayed in a window that was let go of.
+void MultiTreeCtrl::CheckBoxConcern::takeImages()
+{
+    const auto there = reinterpret_cast<HIMAGELIST>(tree().SendMessage(TVM_GETIMAGELIST, TVSIL_STATE));
+    if (!there || there != m_images.GetSafeHandle())
+        m_hostsImages = there;
+    if (m_state.usable())
         makeImages();
+}
+
+/// By a message, which the host may hear: while a window is being taken over, its own procedure is not known
+/// yet.
+void MultiTreeCtrl::CheckBoxConcern::setStateImages(HIMAGELIST images) const
+{
+    tree().SendMessage(TVM_SETIMAGELIST, TVSIL_STATE, reinterpret_cast<LPARAM>(images));
 }
 
 /// Of the size of the check boxes in menus, which goes by the font of menus, as far as the rows have room.
@@ -106,7 +125,7 @@ void MultiTreeCtrl::CheckBoxConcern::makeImages()
         paintBox(memory, CRect(image * size, 0, (image + 1) * size, size), tree().m_hWnd, image);
     memory.SelectObject(before);
     images.Add(&strip, static_cast<CBitmap*>(nullptr));
-    view().ask(TVM_SETIMAGELIST, TVSIL_STATE, reinterpret_cast<LPARAM>(images.m_hImageList));
+    setStateImages(images.m_hImageList);
     m_images.DeleteImageList();
     m_images.Attach(images.Detach());
 }

@@ -24,7 +24,9 @@ public:
     void ends(const Message& message, LRESULT result) override;
 
 private:
+    void takeImages();
     void makeImages();
+    void setStateImages(HIMAGELIST images) const;
     void showAll();
     void show(HTREEITEM item) const;
     void set(const std::vector<HTREEITEM>& items, bool on);

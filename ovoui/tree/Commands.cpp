@@ -194,8 +194,9 @@ bool MultiTreeCtrl::Commands::canPaste(UINT id) const
 
 // Menus
 
-/// Has the selected nodes that offer a command show how it stands. False when there are none. When that
-/// destroys the tree, the command is disabled: nothing is left to do it.
+/// Has the selected nodes that offer a command show how it stands; it is enabled unless they say otherwise,
+/// also in a menu that has shown it grey before. False when there are none. When that destroys the tree, the
+/// command is disabled: nothing is left to do it.
 bool MultiTreeCtrl::Commands::updateByNodes(CCmdUI& ui, UINT id)
 {
     const HostCalls host(tree());
@@ -204,7 +205,8 @@ bool MultiTreeCtrl::Commands::updateByNodes(CCmdUI& ui, UINT id)
     quietly([&] {
         for (const OVO::Handle<Node>& node : nodes)
             if (host.usable() && offers(*node, id) && host.usable()) {
-                taken = true;
+                if (!std::exchange(taken, true))
+                    ui.Enable(TRUE);
                 node->doUpdateCmd(&ui, nodes.size() == 1);
             }
     });

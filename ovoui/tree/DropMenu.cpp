@@ -51,8 +51,9 @@ DWORD nondefaultDrop(CWnd& wnd, DWORD defaultEffect, DWORD allowedEffects, const
     }
     CPoint screen = point;
     wnd.ClientToScreen(&screen);
+    const UINT layout = (wnd.GetExStyle() & WS_EX_LAYOUTRTL) ? TPM_LAYOUTRTL : 0;
     const auto chosen = static_cast<UINT>(menu.TrackPopupMenu(
-        TPM_LEFTALIGN | TPM_RIGHTBUTTON | TPM_RETURNCMD | TPM_NONOTIFY, screen.x, screen.y, &wnd));
+        TPM_LEFTALIGN | TPM_RIGHTBUTTON | TPM_RETURNCMD | TPM_NONOTIFY | layout, screen.x, screen.y, &wnd));
     for (const auto& [command, effect] : kChoices)
         if (chosen == command)
             return effect;

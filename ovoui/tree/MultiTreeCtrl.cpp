@@ -98,8 +98,9 @@ void MultiTreeCtrl::setUp()
     // Without OLE the tree works, but for drops.
     m_dropTarget->Register(this);
     const LPCTSTR name = MAKEINTRESOURCE(IDR_TREE_ACCELERATORS);
-    m_state->windowMade();
     m_accelerators = ::LoadAccelerators(AfxFindResourceHandle(name, RT_ACCELERATOR), name);
+    const std::shared_ptr<State> state = m_state; // the host may hear of messages, and delete the tree
+    state->windowMade();
 }
 
 OVO::Handle<MultiTreeCtrl::Node> MultiTreeCtrl::node(HTREEITEM item) const

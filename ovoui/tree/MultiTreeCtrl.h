@@ -198,9 +198,9 @@ public:
     /// Asks every node that is in the tree at once. What `keeps` raises passes on, and all is shown then.
     void setFilter(std::function<bool(const Node&)> keeps);
 
-    /// Which items are open and selected, where the caret is and how far the tree is scrolled, as a text of
-    /// paths, for the host to keep. It has a line for each item, which an entry of the registry holds and one
-    /// of an ini file does not. What a filter hides is not in it.
+    /// Which items are open and selected, where the caret and the anchor are and how far the tree is scrolled,
+    /// as a text of paths, for the host to keep. It has a line for each item, which an entry of the registry
+    /// holds and one of an ini file does not. What a filter hides is not in it.
     std::wstring saveView();
     /// Opens, selects and scrolls to what saveView found in `view`, as far as it is there. Items that are
     /// open stay so. A text that saveView did not write, such as an empty one, changes nothing.

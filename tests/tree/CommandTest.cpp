@@ -3,6 +3,8 @@
 
 #include <support/Perishing.h>
 
+#include <testkit/TemporaryProfile.h>
+
 #include <ovocor/OvoError.h>
 #include <ovouires/resource.h>
 
@@ -65,6 +67,12 @@ public:
         m_menu.CreatePopupMenu();
         for (const UINT id : commands)
             m_menu.AppendMenu(id ? MF_STRING : MF_SEPARATOR, id, L"text");
+        askAgain(tree);
+    }
+
+    /// As when the same menu is opened once more.
+    void askAgain(CWnd& tree)
+    {
         tree.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(m_menu.m_hMenu), 0);
     }
 
@@ -73,6 +81,25 @@ public:
 
 private:
     CMenu m_menu;
+};
+
+/// A button outside of menus that shows how a command stands.
+class AskedButton : public CCmdUI
+{
+public:
+    AskedButton(CCmdTarget& target, UINT id)
+    {
+        m_nID = id;
+        DoUpdate(&target, TRUE);
+    }
+
+    void Enable(BOOL on) override
+    {
+        m_bEnableChanged = TRUE;
+        isGrey = !on;
+    }
+
+    bool isGrey = false;
 };
 
 /// Answers the question before a deletion.
@@ -89,6 +116,8 @@ public:
 
     std::wstring text;
     std::wstring caption;
+    std::wstring icon; ///< its name
+    CRect yes;         ///< where the button is, on the screen
 
 private:
     void read()
@@ -99,6 +128,9 @@ private:
         caption = buffer;
         ::GetDlgItemTextW(box, IDC_MESSAGE_TEXT, buffer, 256);
         text = buffer;
+        ::GetWindowTextW(::FindWindowExW(box, nullptr, L"STATIC", nullptr), buffer, 256);
+        icon = buffer;
+        ::GetWindowRect(::GetDlgItem(box, IDYES), &yes);
     }
 
     Performance m_performance;
@@ -139,7 +171,8 @@ TEST(TreeCommands, GoOnToTheParentInTheRoutingItself)
     CommandScene scene({"a"});
     EXPECT_TRUE(scene.tree.OnCmdMsg(kPrint, CN_COMMAND, nullptr, nullptr));
     EXPECT_EQ(scene.printed(), 1);
-    EXPECT_FALSE(scene.tree.OnCmdMsg(4003, CN_COMMAND, nullptr, nullptr)) << "no node and no handler knows it";
+    EXPECT_FALSE(scene.tree.OnCmdMsg(4003, CN_COMMAND, nullptr, nullptr))
+        << "no node and no handler knows it";
     AFX_CMDHANDLERINFO info{};
     EXPECT_TRUE(scene.tree.OnCmdMsg(kPrint, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &scene.parent());
@@ -170,6 +203,66 @@ TEST(TreeCommands, ThatAreForbiddenDoNothing)
     scene.command(kPrint);
     EXPECT_EQ(scene.journal, Journal{});
     EXPECT_EQ(scene.printed(), 0);
+}
+
+TEST(TreeCommands, AButtonShowsWhatTheSelectedNodesOffer)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("a").offer(kPaint);
+    int asked = 0;
+    scene.host().routing = [&](UINT, int code, void* extra, AFX_CMDHANDLERINFO*) -> BOOL {
+        if (static_cast<UINT>(code) != CN_UPDATE_COMMAND_UI)
+            return FALSE;
+        ++asked;
+        static_cast<CCmdUI*>(extra)->Enable(FALSE);
+        return TRUE;
+    };
+    scene.tree.SelectItem(scene.item("a"));
+    EXPECT_FALSE(AskedButton(scene.tree, kPaint).isGrey);
+    EXPECT_EQ(asked, 0) << "the command is the node's";
+    scene.tree.disabled = {kPaint};
+    EXPECT_TRUE(AskedButton(scene.tree, kPaint).isGrey);
+    EXPECT_EQ(asked, 0) << "the host has forbidden it";
+    scene.tree.disabled = {};
+    scene.tree.SelectItem(scene.item("b"));
+    EXPECT_TRUE(AskedButton(scene.tree, kPaint).isGrey);
+    EXPECT_EQ(asked, 1);
+}
+
+TEST(TreeCommands, WhoDoesACommandThatANodeOffersIsTheTree)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("a").offer(kPrint); // which the parent knows too
+    const auto target = [&]() -> CCmdTarget* {
+        AFX_CMDHANDLERINFO info{};
+        return scene.tree.OnCmdMsg(kPrint, CN_COMMAND, nullptr, &info) ? info.pTarget : nullptr;
+    };
+    scene.tree.SelectItem(scene.item("a"));
+    EXPECT_EQ(target(), &scene.tree);
+    scene.tree.SelectItem(scene.item("b"));
+    EXPECT_EQ(target(), &scene.parent());
+    EXPECT_EQ(scene.journal, Journal{});
+}
+
+TEST(TreeCommands, APasteThatNoNodeTakesGoesToTheParent)
+{
+    CommandScene scene({"a"});
+    scene.tree.SelectItem(scene.item("a"));
+    int pasted = 0;
+    scene.host().routing = [&](UINT id, int code, void*, AFX_CMDHANDLERINFO* info) -> BOOL {
+        if (id != ID_EDIT_PASTE || code != CN_COMMAND)
+            return FALSE;
+        pasted += info ? 0 : 1;
+        return TRUE;
+    };
+    EXPECT_FALSE(AskedMenu(scene.tree, {ID_EDIT_PASTE}).isGrey(ID_EDIT_PASTE));
+    EXPECT_EQ(pasted, 0) << "asked only";
+    scene.command(ID_EDIT_PASTE);
+    EXPECT_EQ(pasted, 1);
+    scene.node("a").offer(ID_EDIT_PASTE);
+    scene.command(ID_EDIT_PASTE);
+    EXPECT_EQ(pasted, 1) << "the node's";
+    EXPECT_EQ(scene.journal, (Journal{"gesture 57637", "doCommand 57637 a", "gesture 0"}));
 }
 
 TEST(TreeCommands, ANodeThatDeletesTheOthersDoesNoHarm)
@@ -287,6 +380,74 @@ TEST(TreeMenus, GreyDeleteUnlessEverySelectedNodeCanBeErased)
     EXPECT_TRUE(AskedMenu(scene.tree, {5146}).isGrey(5146));
 }
 
+TEST(TreeMenus, GreyRenameUnlessTheCaretCanBeRenamed)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("a").renamable = true;
+    const auto isGrey = [&] { return AskedMenu(scene.tree, {5598}).isGrey(5598); };
+    scene.tree.SelectItem(scene.item("a"));
+    EXPECT_FALSE(isGrey());
+    scene.tree.SelectItem(scene.item("b"));
+    EXPECT_TRUE(isGrey());
+    scene.tree.SelectItem(nullptr);
+    EXPECT_TRUE(isGrey()) << "there is no caret";
+    scene.tree.SelectItem(scene.item("a"));
+    scene.tree.ModifyStyle(TVS_EDITLABELS, 0);
+    EXPECT_TRUE(isGrey()) << "labels cannot be edited";
+}
+
+/// A menu that the host keeps.
+TEST(TreeMenus, ACommandThatWasGreyIsEnabledWhenANodeOffersIt)
+{
+    CommandScene scene({"a", "b"});
+    scene.node("a").offer(kPaint);
+    AskedMenu menu(scene.tree, {kPaint});
+    EXPECT_TRUE(menu.isGrey(kPaint)) << "nothing is selected";
+    scene.tree.SelectItem(scene.item("a"));
+    menu.askAgain(scene.tree);
+    EXPECT_FALSE(menu.isGrey(kPaint));
+    scene.tree.disabled = {kPaint};
+    menu.askAgain(scene.tree);
+    EXPECT_TRUE(menu.isGrey(kPaint));
+    scene.tree.disabled = {};
+    menu.askAgain(scene.tree);
+    EXPECT_FALSE(menu.isGrey(kPaint));
+    scene.node("a").updating = [](CCmdUI* ui, bool) { ui->Enable(FALSE); };
+    menu.askAgain(scene.tree);
+    EXPECT_TRUE(menu.isGrey(kPaint)) << "the node says so";
+}
+
+/// It stands for all in there, whatever becomes of the first command.
+TEST(TreeMenus, AnEntryThatOpensAnotherMenuCanBeOpened)
+{
+    CommandScene scene({"a"});
+    scene.node("a").offer(kPaint);
+    scene.tree.SelectItem(scene.item("a"));
+    scene.tree.disabled = {kPaint};
+    std::vector<UINT> asked; // about such an entry
+    scene.host().routing = [&](UINT id, int code, void* extra, AFX_CMDHANDLERINFO*) -> BOOL {
+        if (static_cast<UINT>(code) != CN_UPDATE_COMMAND_UI || !static_cast<CCmdUI*>(extra)->m_pSubMenu)
+            return FALSE;
+        asked.push_back(id);
+        static_cast<CCmdUI*>(extra)->Enable(FALSE); // which means nothing to an entry
+        return TRUE;
+    };
+    CMenu menu;
+    menu.CreatePopupMenu();
+    for (const UINT first : {kPaint, kPrint}) {
+        CMenu inner;
+        inner.CreatePopupMenu();
+        inner.AppendMenu(MF_STRING, first, L"first");
+        inner.AppendMenu(MF_STRING, 4003, L"second");
+        menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(inner.Detach()), L"more");
+    }
+    scene.tree.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
+    for (const UINT entry : {0u, 1u})
+        EXPECT_FALSE(menu.GetMenuState(entry, MF_BYPOSITION) & MF_GRAYED) << entry;
+    EXPECT_EQ(scene.journal, Journal{}) << "the node is asked about its command when that menu opens";
+    EXPECT_EQ(asked, std::vector<UINT>{kPrint});
+}
+
 TEST(TreeMenus, TheContextMenuOffersTheEditCommands)
 {
     CommandScene scene({"a"});
@@ -294,20 +455,42 @@ TEST(TreeMenus, TheContextMenuOffersTheEditCommands)
     scene.node("a").renamable = true;
     scene.node("a").offer(ID_EDIT_COPY);
     Names lines;
+    CRect place;
+    CPoint pointer;
     const auto read = [&] {
+        ::GetCursorPos(&pointer);
+        ::GetWindowRect(shownMenu(), &place);
         const auto menu = reinterpret_cast<HMENU>(::SendMessageW(shownMenu(), MN_GETHMENU, 0, 0));
         for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
             const UINT id = ::GetMenuItemID(menu, i);
             const bool grey = (::GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION) & MF_GRAYED) != 0;
-            if (id)
-                lines.push_back(std::to_string(id) + (grey ? " grey" : ""));
+            wchar_t text[64]{};
+            ::GetMenuStringW(menu, static_cast<UINT>(i), text, 64, MF_BYPOSITION);
+            lines.push_back(id ? std::to_string(id) + " " + narrow(text) + (grey ? " grey" : "") : "-");
         }
     };
     scene.user.rightClick(scene.label("a"))
         .waitFor("the menu", [] { return shownMenu() != nullptr; })
         .then(read)
         .key(VK_ESCAPE);
-    EXPECT_EQ(lines, (Names{"57635 grey", "57634", "57637 grey", "5146", "5598", "57642"}));
+    EXPECT_EQ(lines, (Names{"57635 Cu&t\tCtrl+X grey", "57634 &Copy\tCtrl+C", "57637 &Paste\tCtrl+V grey",
+                            "-", "5146 &Delete\tDel", "5598 Rena&me\tF2", "-", "57642 Select &All\tCtrl+A"}));
+    EXPECT_NEAR(place.left, pointer.x, 4);
+    EXPECT_NEAR(place.top, pointer.y, 4);
+}
+
+TEST(TreeMenus, TheContextMenuReadsFromTheRightWhereTheTreeDoes)
+{
+    for (const bool mirrored : {false, true}) {
+        CommandScene scene({"a"});
+        scene.tree.ModifyStyleEx(0, mirrored ? WS_EX_LAYOUTRTL : 0, SWP_FRAMECHANGED);
+        DWORD style = 0;
+        scene.user.rightClick(scene.label("a"))
+            .waitFor("the menu", [] { return shownMenu() != nullptr; })
+            .then([&] { style = static_cast<DWORD>(::GetWindowLongPtrW(shownMenu(), GWL_EXSTYLE)); })
+            .key(VK_ESCAPE);
+        EXPECT_EQ((style & WS_EX_LAYOUTRTL) != 0, mirrored);
+    }
 }
 
 TEST(TreeMenus, TheContextMenuOpensByKeyboardAtTheCaretAndRunsTheCommand)
@@ -462,6 +645,20 @@ TEST(TreeErasing, TheQuestionNamesASingleNode)
     scene.tree.eraseSelectedNodes();
     EXPECT_EQ(no.text, L"Are you sure you want to delete \u201Cplan\u201D?");
     EXPECT_EQ(scene.all(), (Names{"a", "plan"}));
+}
+
+TEST(TreeErasing, TheQuestionOpensWhereTheUserHasPutMessages)
+{
+    const TemporaryProfile profile;
+    AfxGetApp()->WriteProfileString(L"settings", L"MsgWindow", L"310,260");
+    CommandScene scene({"a", "b"});
+    scene.node("a").erasable = true;
+    scene.select({"a"});
+    const Answer yes(scene.user, VK_RETURN);
+    scene.command(5146);
+    EXPECT_EQ(yes.icon, L"QUERY");
+    EXPECT_EQ(yes.yes.TopLeft(), CPoint(310, 260));
+    EXPECT_EQ(scene.all(), Names{"b"});
 }
 
 TEST(TreeErasing, TheDeleteKeyDoesTheSame)

@@ -3,6 +3,8 @@
 
 #include <support/Perishing.h>
 
+#include <testkit/Picture.h>
+
 #include <ovoui/tree/DropMenu.h>
 #include <ovoui/tree/PlainText.h>
 
@@ -29,6 +31,67 @@ std::wstring textOf(COleDataObject& data)
     ::GlobalUnlock(memory);
     ::GlobalFree(memory);
     return text;
+}
+
+/// What is dragged over a tree from another program, by OLE's own calls.
+class Visitor
+{
+public:
+    explicit Visitor(TestTree& tree)
+        : m_tree(tree)
+    {
+        cachePlaintext(m_data, L"from elsewhere");
+    }
+
+    /// Comes in, or goes on, to a client point. Gives the effect that the pointer shows.
+    DWORD enter(CPoint point)
+    {
+        DWORD effect = kAllowed;
+        target().DragEnter(&m_data.m_xDataObject, MK_LBUTTON, onScreen(point), &effect);
+        return effect;
+    }
+    DWORD moveTo(CPoint point)
+    {
+        DWORD effect = kAllowed;
+        target().DragOver(MK_LBUTTON, onScreen(point), &effect);
+        return effect;
+    }
+    void leave() { target().DragLeave(); }
+    DWORD drop(CPoint point)
+    {
+        DWORD effect = kAllowed;
+        target().Drop(&m_data.m_xDataObject, 0, onScreen(point), &effect);
+        return effect;
+    }
+
+private:
+    static constexpr DWORD kAllowed = DROPEFFECT_COPY | DROPEFFECT_MOVE;
+
+    IDropTarget& target() const { return m_tree.m_pDropTarget->m_xDropTarget; }
+    POINTL onScreen(CPoint point) const
+    {
+        m_tree.ClientToScreen(&point);
+        return {point.x, point.y};
+    }
+
+    TestTree& m_tree;
+    COleDataSource m_data;
+};
+
+/// Puts a text on the clipboard, with what its owner wants done with it; DROPEFFECT_NONE when it does not
+/// say.
+void copyText(const wchar_t* text, DWORD preferred = DROPEFFECT_NONE)
+{
+    auto* const source = new COleDataSource;
+    cachePlaintext(*source, text);
+    if (preferred) {
+        const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, sizeof preferred);
+        *static_cast<DWORD*>(::GlobalLock(memory)) = preferred;
+        ::GlobalUnlock(memory);
+        source->CacheGlobalData(
+            static_cast<CLIPFORMAT>(::RegisterClipboardFormatW(CFSTR_PREFERREDDROPEFFECT)), memory);
+    }
+    source->SetClipboard();
 }
 
 /// What a target was asked, each time it differs from the time before.
@@ -105,13 +168,39 @@ public:
     std::vector<Asked> asked;
     std::string dropped = "nothing";
     DWORD result = kNotDone;
+    DWORD offered = DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK; ///< by the source
+
+    /// Drags the first item to another one with the right button, and chooses from the menu there by a
+    /// letter. Gives its lines.
+    Names chooseAt(const std::string& name, const wchar_t* letter)
+    {
+        Names lines;
+        result = kNotDone;
+        user.press(label(source), Button::Right)
+            .moveTo(label(name))
+            .waitFor("the target to be asked", [&] { return !asked.empty(); })
+            .release(Button::Right)
+            .waitFor("the menu", [] { return shownMenu() != nullptr; })
+            .then([&] {
+                const auto menu = reinterpret_cast<HMENU>(::SendMessageW(shownMenu(), MN_GETHMENU, 0, 0));
+                for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
+                    const UINT state = ::GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION);
+                    lines.push_back(std::to_string(::GetMenuItemID(menu, i)) +
+                                    ((state & MF_GRAYED) ? " grey" : "") +
+                                    ((state & MF_DEFAULT) ? " default" : ""));
+                }
+            })
+            .type(letter)
+            .waitFor("the end of the drag", [&] { return result != kNotDone; });
+        return lines;
+    }
 
 private:
     void drag()
     {
         COleDataSource data;
         cachePlaintext(data, L"from the tree");
-        result = data.DoDragDrop(DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK);
+        result = data.DoDragDrop(offered);
     }
     void ask(const Asked& one)
     {
@@ -295,32 +384,78 @@ TEST(TreeDrop, APressOnASelectedItemThatBecomesADragKeepsTheAnchor)
     EXPECT_EQ(scene.selected(), (Names{"a", "source", "c"}));
 }
 
+TEST(TreeDrop, WhatTheTargetMakesOfItselfIsShown)
+{
+    for (const bool takes : {true, false}) {
+        DropScene scene({"source", "target"});
+        scene.take("target");
+        TestNode& target = scene.node("target");
+        target.droppingInto = [&](COleDataObject&, DWORD, MultiTreeCtrl&, int) {
+            target.name = "full";
+            return takes;
+        };
+        scene.dragTo(scene.label("target"));
+        EXPECT_EQ(scene.result, takes ? DWORD{DROPEFFECT_MOVE} : DWORD{DROPEFFECT_NONE});
+        EXPECT_EQ(scene.all(), (Names{"source", "full"}));
+    }
+}
+
+TEST(TreeDrop, TheMarkIsBehindTheItemAndGoesWithTheDrag)
+{
+    constexpr COLORREF kRed = RGB(255, 0, 0);
+    for (const bool drops : {false, true}) {
+        SCOPED_TRACE(drops);
+        Scene scene{{"folder", "b"}};
+        TestNode& folder = scene.node("folder");
+        folder.childNames = {"x", "y"};
+        folder.children = 1;
+        scene.tree.updateUI(folder);
+        scene.open("folder");
+        folder.draggingInto = [](COleDataObject&, DWORD& effects, bool&, int) -> DWORD {
+            return effects = DROPEFFECT_COPY;
+        };
+        scene.tree.SetInsertMarkColor(kRed);
+        const auto red = [&](const CRect& within) {
+            return Picture::ofClient(scene.tree).count(kRed, 0, within);
+        };
+        CRect row;
+        scene.tree.GetItemRect(scene.item("x"), &row, FALSE);
+        const int middle = row.CenterPoint().y;
+        Visitor visitor(scene.tree);
+        EXPECT_EQ(visitor.enter(scene.labelPoint("x")), DWORD{DROPEFFECT_COPY});
+        EXPECT_GT(red(CRect(row.left, middle, row.right, row.bottom + 4)), 0);
+        EXPECT_EQ(red(CRect(row.left, row.top - 4, row.right, middle)), 0);
+        EXPECT_EQ(scene.tree.GetDropHilightItem(), folder.hTreeItem());
+        if (drops)
+            visitor.drop(scene.labelPoint("x"));
+        else
+            visitor.leave();
+        CRect client;
+        scene.tree.GetClientRect(&client);
+        EXPECT_EQ(red(client), 0);
+        EXPECT_EQ(scene.tree.GetDropHilightItem(), nullptr);
+        EXPECT_EQ(scene.all(), (Names{"folder", "x", "y", "b"}));
+    }
+}
+
 // The right button
 
 TEST(TreeDrop, TheRightButtonEndsInAMenu)
 {
     DropScene scene({"source", "target"});
     scene.take("target");
-    Names lines;
-    scene.user.press(scene.label("source"), Button::Right)
-        .moveTo(scene.label("target"))
-        .waitFor("the target to be asked", [&] { return !scene.asked.empty(); })
-        .release(Button::Right)
-        .waitFor("the menu", [] { return shownMenu() != nullptr; })
-        .then([&] {
-            const auto menu = reinterpret_cast<HMENU>(::SendMessageW(shownMenu(), MN_GETHMENU, 0, 0));
-            for (int i = 0; i < ::GetMenuItemCount(menu); ++i) {
-                const UINT state = ::GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION);
-                lines.push_back(std::to_string(::GetMenuItemID(menu, i)) +
-                                ((state & MF_GRAYED) ? " grey" : "") +
-                                ((state & MF_DEFAULT) ? " default" : ""));
-            }
-        })
-        .type(L"c")
-        .waitFor("the end of the drag", [&] { return scene.result != DropScene::kNotDone; });
-    EXPECT_EQ(lines, (Names{"5610 default", "1191", "1194 grey"}));
+    EXPECT_EQ(scene.chooseAt("target", L"c"), (Names{"5610 default", "1191", "1194 grey"}));
     EXPECT_EQ(scene.result, DWORD{DROPEFFECT_COPY});
     EXPECT_EQ(scene.last(), "dropInto 1 zone -1 target");
+}
+
+TEST(TreeDrop, TheMenuOffersWhatBothTheSourceAndTheTargetAllow)
+{
+    DropScene scene({"source", "target"});
+    scene.take("target", DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK, DROPEFFECT_COPY);
+    scene.offered = DROPEFFECT_COPY;
+    EXPECT_EQ(scene.chooseAt("target", L"c"), (Names{"5610 grey", "1191 default", "1194 grey"}));
+    EXPECT_EQ(scene.result, DWORD{DROPEFFECT_COPY});
 }
 
 TEST(TreeDrop, AMenuThatIsDismissedRefusesTheDrop)
@@ -390,6 +525,34 @@ TEST(TreeDropMenu, DismissedIsNoEffect)
     EXPECT_TRUE(parent.log().empty()) << "the window is not told of the command";
 }
 
+TEST(TreeDropMenu, OpensAtThePointAndReadsAsTheWindowDoes)
+{
+    for (const bool mirrored : {false, true}) {
+        SCOPED_TRACE(mirrored);
+        RecordingParent parent;
+        parent.ModifyStyleEx(0, mirrored ? WS_EX_LAYOUTRTL : 0, SWP_FRAMECHANGED);
+        present(parent);
+        parent.SetWindowPos(nullptr, 150, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        CRect menu;
+        DWORD style = 0;
+        Robot user;
+        auto leaving = user.waitFor("the menu", [] { return shownMenu() != nullptr; })
+                           .then([&] {
+                               ::GetWindowRect(shownMenu(), &menu);
+                               style = static_cast<DWORD>(::GetWindowLongPtrW(shownMenu(), GWL_EXSTYLE));
+                           })
+                           .key(VK_ESCAPE)
+                           .start();
+        CPoint point(70, 40);
+        nondefaultDrop(parent, DROPEFFECT_COPY, DROPEFFECT_COPY, point, L"");
+        leaving.finish();
+        parent.ClientToScreen(&point);
+        EXPECT_NEAR(mirrored ? menu.right : menu.left, point.x, 4);
+        EXPECT_NEAR(menu.top, point.y, 4);
+        EXPECT_EQ((style & WS_EX_LAYOUTRTL) != 0, mirrored);
+    }
+}
+
 // Scrolling
 
 TEST(TreeDropScroll, GoesOneItemUpOrDown)
@@ -429,6 +592,30 @@ TEST(TreeDropScroll, ADragNearTheEdgeScrolls)
     EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
 }
 
+TEST(TreeDropScroll, ThePointerShowsWhereTheTreeScrolls)
+{
+    Scene scene;
+    for (int i = 0; i < 60; ++i)
+        scene.add(std::to_string(100 + i)).draggingInto = [](COleDataObject&, DWORD& effects, bool&, int) {
+            return effects = DROPEFFECT_COPY;
+        };
+    CRect client;
+    scene.tree.GetClientRect(&client);
+    const CPoint middle = client.CenterPoint();
+    const CPoint bottom(middle.x, client.bottom - 2);
+    const CPoint top(middle.x, client.top + 1);
+    constexpr DWORD kCopy = DROPEFFECT_COPY;
+    constexpr DWORD kScroll = DROPEFFECT_SCROLL;
+    Visitor visitor(scene.tree);
+    EXPECT_EQ(visitor.enter(bottom), kCopy | kScroll);
+    EXPECT_EQ(visitor.moveTo(middle), kCopy);
+    EXPECT_EQ(visitor.moveTo(top), kCopy) << "there is nothing above";
+    scene.tree.EnsureVisible(scene.item("159"));
+    EXPECT_EQ(visitor.moveTo(top), kCopy | kScroll);
+    EXPECT_EQ(visitor.moveTo(bottom), kCopy) << "there is nothing below";
+    visitor.leave();
+}
+
 // Text
 
 TEST(TreePlainText, IsOfferedAsUnicodeAndInTheCodePage)
@@ -462,6 +649,69 @@ TEST(TreePaste, GoesToTheSelectedNodeThatWouldTakeTheData)
     scene.user.holding(VK_CONTROL).key('V');
     EXPECT_EQ(scene.dropped, "pasted");
     EXPECT_EQ(scene.last(), "dropInto 1 zone -1 target");
+    COleDataSource::FlushClipboard();
+}
+
+TEST(TreePaste, DoesWithTheDataWhatItsOwnerPrefers)
+{
+    DropScene scene({"target"});
+    scene.take("target", DROPEFFECT_COPY | DROPEFFECT_MOVE, DROPEFFECT_COPY);
+    scene.tree.SelectItem(scene.item("target"));
+    copyText(L"cut", DROPEFFECT_MOVE);
+    scene.tree.SendMessage(WM_COMMAND, ID_EDIT_PASTE);
+    EXPECT_EQ(scene.last(), "dropInto 2 zone -1 target");
+    EXPECT_EQ(scene.dropped, "cut");
+    copyText(L"copied");
+    scene.tree.SendMessage(WM_COMMAND, ID_EDIT_PASTE);
+    EXPECT_EQ(scene.last(), "dropInto 1 zone -1 target");
+    COleDataSource::FlushClipboard();
+}
+
+TEST(TreePaste, GoesToTheOneSelectedItemElseToTheCaret)
+{
+    DropScene scene({"a", "b", "c"});
+    for (const char* const name : {"a", "b", "c"})
+        scene.take(name, DROPEFFECT_COPY, DROPEFFECT_COPY);
+    copyText(L"pasted");
+    scene.user.click(scene.label("a"));
+    scene.user.holding(VK_CONTROL).key(VK_DOWN);
+    ASSERT_EQ(scene.caret(), "b");
+    scene.tree.SendMessage(WM_COMMAND, ID_EDIT_PASTE);
+    EXPECT_EQ(scene.last(), "dropInto 1 zone -1 a");
+    scene.tree.SetItemState(scene.item("b"), TVIS_SELECTED, TVIS_SELECTED);
+    scene.user.holding(VK_CONTROL).key(VK_DOWN);
+    ASSERT_EQ(scene.selected(), (Names{"a", "b"}));
+    scene.tree.SendMessage(WM_COMMAND, ID_EDIT_PASTE);
+    EXPECT_EQ(scene.last(), "dropInto 1 zone -1 c");
+    COleDataSource::FlushClipboard();
+}
+
+TEST(TreePaste, GoesToTheTopLevelWithoutACaret)
+{
+    DropScene scene({"a"});
+    scene.take("a");
+    scene.takeAtTheTop();
+    scene.tree.SelectItem(nullptr);
+    copyText(L"pasted");
+    scene.tree.SendMessage(WM_COMMAND, ID_EDIT_PASTE);
+    EXPECT_EQ(scene.last(), "dropInto 1 zone -1 root");
+    EXPECT_EQ(scene.dropped, "pasted");
+    COleDataSource::FlushClipboard();
+}
+
+TEST(TreePaste, WhatTheTargetMakesOfItselfIsShown)
+{
+    DropScene scene({"target"});
+    scene.take("target");
+    TestNode& target = scene.node("target");
+    target.droppingInto = [&](COleDataObject&, DWORD, MultiTreeCtrl&, int) {
+        target.name = "full";
+        return true;
+    };
+    scene.tree.SelectItem(target.hTreeItem());
+    copyText(L"pasted");
+    scene.tree.SendMessage(WM_COMMAND, ID_EDIT_PASTE);
+    EXPECT_EQ(scene.all(), Names{"full"});
     COleDataSource::FlushClipboard();
 }
 

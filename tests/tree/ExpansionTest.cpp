@@ -121,6 +121,24 @@ TEST(TreeExpansion, OpeningAnOpenItemAsksNoNode)
     EXPECT_EQ(scene.all(), (Names{"a", "x"}));
 }
 
+TEST(TreeExpansion, WhatTheTreeViewSaysOfTheChildrenIsTheNodesWord)
+{
+    Scene scene{{"a"}};
+    TestNode& a = folder(scene, "a", {"x"});
+    NMTREEVIEW told{};
+    told.hdr = {scene.tree.m_hWnd, 7, static_cast<UINT>(TVN_ITEMEXPANDEDW)};
+    told.action = TVE_EXPAND;
+    told.itemNew.mask = TVIF_HANDLE | TVIF_STATE;
+    told.itemNew.hItem = a.hTreeItem();
+    const auto tell = [&] { scene.parent().SendMessage(WM_NOTIFY, 7, reinterpret_cast<LPARAM>(&told)); };
+    tell();
+    EXPECT_EQ(a.children, 1) << "nothing was said";
+    told.itemNew.mask |= TVIF_CHILDREN;
+    tell();
+    EXPECT_EQ(a.children, 0);
+    EXPECT_FALSE(scene.tree.ItemHasChildren(a.hTreeItem()));
+}
+
 TEST(TreeExpansion, AnErrorIsReportedAndTheItemShowsTheNodesState)
 {
     Scene scene{{"a"}};
@@ -162,7 +180,7 @@ TEST(TreeExpansion, DeletionsThatHaveToWaitAreCarriedOutAfterAForeignExceptionTo
     EXPECT_THROW(scene.tree.Expand(scene.item("a"), TVE_EXPAND), int);
     EXPECT_EQ(scene.tree.GetCount(), 2u);
     a.expanding = [&](MultiTreeCtrl& tree) {
-        tree.DeleteItem(scene.item("c"));
+        EXPECT_TRUE(tree.DeleteItem(scene.item("c"))) << "it goes for certain";
         return false;
     };
     scene.tree.SetItemState(scene.item("a"), 0, TVIS_EXPANDED);

@@ -2,14 +2,19 @@
 // off at first.
 #include "TreeScene.h"
 
+#include <support/Perishing.h>
+
 #include <testkit/ImportPatch.h>
+#include <testkit/Picture.h>
 
 #include <ovocor/OvoError.h>
 
 #include <uxtheme.h>
+#include <vssym32.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <utility>
 
 using namespace ovo::testkit;
@@ -88,6 +93,39 @@ Spot boxOf(Scene& scene, const std::string& name)
     });
 }
 
+Names numbered(int count)
+{
+    Names names;
+    for (int i = 0; i < count; ++i)
+        names.push_back(std::to_string(100 + i));
+    return names;
+}
+
+/// Outside the tree, in the middle of its left half, so many pixels above or below it.
+Spot outside(Scene& scene, bool below, int pixels)
+{
+    return Spot([&scene, below, pixels] {
+        CRect rect;
+        scene.tree.GetWindowRect(&rect);
+        return CPoint(rect.left + rect.Width() / 3, below ? rect.bottom + pixels : rect.top - pixels);
+    });
+}
+
+/// The state images that a tree view has.
+HIMAGELIST stateImages(HWND treeView)
+{
+    return reinterpret_cast<HIMAGELIST>(::SendMessageW(treeView, TVM_GETIMAGELIST, TVSIL_STATE, 0));
+}
+
+/// The height of the check boxes.
+int boxHeight(Scene& scene)
+{
+    int width = 0;
+    int height = 0;
+    ::ImageList_GetIconSize(stateImages(scene.tree), &width, &height);
+    return height;
+}
+
 /// With this extended style.
 class TreeBandInLayout : public ::testing::TestWithParam<DWORD>
 {
@@ -143,6 +181,37 @@ TEST(TreeExtras, CtrlShiftWithKeysAddsARange)
     scene.user.holding(VK_CONTROL).holding(VK_SHIFT).key(VK_PRIOR);
     EXPECT_EQ(scene.caret(), "a");
     EXPECT_EQ(scene.selected(), (Names{"a", "b", "c", "d", "e", "f"}));
+}
+
+TEST(TreeExtras, CtrlShiftWithPageKeysGoesAPageOnAndBack)
+{
+    Scene scene{numbered(60)};
+    scene.tree.setExtras(Extra::AddRanges);
+    scene.user.click(scene.label("105"));
+    scene.forget();
+    scene.user.holding(VK_CONTROL).holding(VK_SHIFT).key(VK_NEXT);
+    const std::string end = scene.caret();
+    EXPECT_GT(end, "106");
+    const Names names = numbered(60);
+    const Names range(std::ranges::find(names, "105"), std::next(std::ranges::find(names, end)));
+    EXPECT_EQ(scene.selected(), range);
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYKEYBOARD, "105", end}}));
+    scene.user.holding(VK_CONTROL).holding(VK_SHIFT).key(VK_PRIOR);
+    EXPECT_EQ(scene.caret(), "105");
+    EXPECT_EQ(scene.selected(), range);
+}
+
+TEST(TreeExtras, CtrlShiftClickBelowTheLastItemAddsTheRangeToIt)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.tree.setExtras(Extra::AddRanges);
+    scene.user.click(scene.label("a"));
+    scene.user.holding(VK_CONTROL).click(scene.label("c"));
+    scene.forget();
+    scene.user.holding(VK_CONTROL).holding(VK_SHIFT).click(scene.below());
+    EXPECT_EQ(scene.selected(), (Names{"a", "c", "d"}));
+    EXPECT_EQ(scene.caret(), "d");
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYMOUSE, "a", "d"}}));
 }
 
 // The band
@@ -241,6 +310,80 @@ TEST(TreeBand, EscapeBringsTheSelectionBack)
     EXPECT_EQ(scene.selected(), Names{"a"});
     EXPECT_EQ(scene.caret(), "a");
     EXPECT_EQ(scene.changes(), Changes{});
+}
+
+TEST(TreeBand, EndsWithTheCaretAtItsEndAndTheAnchorWhereItBegan)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.tree.setExtras(Extra::RubberBand);
+    scene.tree.SelectItem(scene.item("b")); // a press on a selected item leaves the anchor alone
+    scene.tree.selectItemAnchor(scene.item("d"));
+    scene.user.press(scene.beside("b"))
+        .moveTo(scene.below())
+        .waitFor("three rows", [&] { return scene.selected().size() == 3; })
+        .release();
+    EXPECT_EQ(scene.selected(), (Names{"b", "c", "d"}));
+    EXPECT_EQ(scene.caret(), "d") << "the last one, when the band ends below it";
+    scene.user.holding(VK_SHIFT).click(scene.label("c"));
+    EXPECT_EQ(scene.selected(), (Names{"b", "c"}));
+}
+
+TEST(TreeBand, TellsTheParentOfTheCaretsBeforeAndAfter)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.tree.setExtras(Extra::RubberBand);
+    scene.user.click(scene.label("a"));
+    scene.forget();
+    scene.user.holding(VK_CONTROL)
+        .press(scene.below())
+        .moveTo(scene.beside("c"))
+        .waitFor("three rows", [&] { return scene.selected().size() == 3; })
+        .release();
+    EXPECT_EQ(scene.selected(), (Names{"a", "c", "d"}));
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYMOUSE, "a", "c"}}));
+}
+
+/// The frame goes along with the rows: where it began is out of sight then, and only its sides are seen.
+TEST(TreeBand, ScrollsWhileThePointerIsBesideTheTree)
+{
+    const Names names = numbered(40);
+    Scene scene{names};
+    scene.tree.setExtras(Extra::RubberBand);
+    const auto range = [&](const std::string& first, const std::string& last) {
+        return Names(std::ranges::find(names, first), std::next(std::ranges::find(names, last)));
+    };
+    const auto isFrame = [&](int x, int y) {
+        CClientDC dc(&scene.tree);
+        return dc.GetPixel(x, y) == ::GetSysColor(COLOR_HIGHLIGHT);
+    };
+    CRect client;
+    scene.tree.GetClientRect(&client);
+    CPoint begin = scene.beside("103").find();
+    scene.tree.ScreenToClient(&begin);
+    const int between = (begin.x + client.Width() / 3) / 2;
+    bool side = false;
+    int across = 0;
+    scene.user.press(scene.beside("103"))
+        .moveTo(outside(scene, true, 8))
+        .waitFor("all below", [&] { return scene.selected() == range("103", "139"); })
+        .waitFor("the last row",
+                 [&] {
+                     CRect row;
+                     return scene.tree.GetItemRect(scene.item("139"), &row, FALSE) &&
+                            row.bottom <= client.bottom;
+                 })
+        .then([&] {
+            side = isFrame(begin.x, client.Height() / 2);
+            for (int y = 0; y < client.bottom; ++y)
+                across += isFrame(between, y);
+        })
+        .moveTo(outside(scene, false, 4))
+        .waitFor("all above", [&] { return scene.selected() == range("100", "103"); })
+        .release();
+    EXPECT_TRUE(side);
+    EXPECT_EQ(across, 0);
+    EXPECT_EQ(scene.nameOf(scene.tree.GetFirstVisibleItem()), "100");
+    EXPECT_EQ(scene.caret(), "100");
 }
 
 /// Laid out from right to left, the tree counts its coordinates from its right edge.
@@ -411,6 +554,73 @@ TEST(TreeFind, LeavesSpaceToTheTreeUntilSomethingIsLookedFor)
     EXPECT_EQ(scene.caret(), "a b");
 }
 
+TEST(TreeFind, ShiftF3GoesToTheOneBefore)
+{
+    Scene scene{{"carrot", "rose", "Rotunda", "otter"}};
+    scene.tree.setExtras(Extra::FindAnywhere);
+    scene.tree.SetFocus();
+    scene.tree.SelectItem(scene.item("carrot"));
+    type(scene, "ot");
+    scene.user.key(VK_F3, 2);
+    ASSERT_EQ(scene.selected(), Names{"otter"});
+    scene.user.holding(VK_SHIFT).key(VK_F3);
+    EXPECT_EQ(scene.selected(), Names{"Rotunda"});
+    scene.user.holding(VK_SHIFT).key(VK_F3);
+    EXPECT_EQ(scene.selected(), Names{"carrot"});
+}
+
+TEST(TreeFind, LosingTheFocusEndsTheSearch)
+{
+    Scene scene{{"one", "two", "three", "four"}};
+    scene.tree.setExtras(Extra::FindAnywhere);
+    scene.tree.SetFocus();
+    type(scene, "r");
+    ASSERT_EQ(scene.caret(), "three");
+    scene.parent().SetFocus();
+    scene.tree.SetFocus();
+    type(scene, "o"); // not "ro"
+    EXPECT_EQ(scene.caret(), "four");
+}
+
+TEST(TreeFind, CtrlSpaceTogglesInTheMiddleOfASearch)
+{
+    Scene scene{{"a b", "ab"}};
+    scene.tree.setExtras(Extra::FindAnywhere);
+    scene.tree.SetFocus();
+    scene.tree.SelectItem(scene.item("ab"));
+    type(scene, "a");
+    ASSERT_EQ(scene.selected(), Names{"ab"});
+    scene.journal.clear();
+    scene.user.holding(VK_CONTROL).key(VK_SPACE);
+    EXPECT_EQ(scene.selected(), Names{});
+    EXPECT_EQ(scene.caret(), "ab") << "nothing with \"a \" was looked for";
+    EXPECT_EQ(scene.journal, Journal{});
+}
+
+/// Though it is the caret already.
+TEST(TreeFind, WhatIsFoundIsSelectedAloneSeenAndTheAnchor)
+{
+    Scene scene{numbered(60)};
+    scene.tree.setExtras(Extra::FindAnywhere);
+    scene.tree.SetFocus();
+    scene.tree.SelectItem(scene.item("150"));
+    scene.tree.SetItemState(scene.item("152"), TVIS_SELECTED, TVIS_SELECTED);
+    scene.tree.selectItemAnchor(scene.item("155"));
+    type(scene, "15");
+    EXPECT_EQ(scene.selected(), Names{"150"});
+    scene.tree.EnsureVisible(scene.item("100"));
+    type(scene, "0");
+    EXPECT_EQ(scene.caret(), "150");
+    CRect row;
+    scene.tree.GetItemRect(scene.item("150"), &row, FALSE);
+    CRect client;
+    scene.tree.GetClientRect(&client);
+    EXPECT_GE(row.top, 0);
+    EXPECT_LE(row.bottom, client.bottom);
+    scene.user.holding(VK_SHIFT).key(VK_DOWN);
+    EXPECT_EQ(scene.selected(), (Names{"150", "151"}));
+}
+
 TEST(TreeFind, LooksAtDisplayedItemsOnly)
 {
     Scene scene{{"a", "b"}};
@@ -482,6 +692,113 @@ TEST(TreeCheckBoxes, AreNoHigherThanTheRowsWhereTheFontOfMenusIsLarge)
     EXPECT_EQ(box.rcImage.bottom - box.rcImage.top, static_cast<LONG>(scene.tree.GetItemHeight()));
 }
 
+/// Each as the system draws it, by the theme of the tree where it has one.
+TEST(TreeCheckBoxes, ShowHowTheyStand)
+{
+    struct Look
+    {
+        Check check;
+        int themed;
+        UINT classic;
+    };
+    const Look looks[] = {{Check::Off, CBS_UNCHECKEDNORMAL, DFCS_BUTTONCHECK},
+                          {Check::On, CBS_CHECKEDNORMAL, DFCS_BUTTONCHECK | DFCS_CHECKED},
+                          {Check::Mixed, CBS_MIXEDNORMAL, DFCS_BUTTON3STATE | DFCS_CHECKED}};
+    for (const bool classic : {false, true}) {
+        SCOPED_TRACE(classic);
+        Scene scene;
+        if (classic)
+            ::SetWindowTheme(scene.tree, L" ", L" "); // of no class that there is
+        scene.tree.setExtras(Extra::CheckBoxes);
+        CheckedNode& node = addChecked(scene, "box");
+        const int size = boxHeight(scene);
+        std::vector<Picture> systems;
+        for (const Look& look : looks) {
+            node.shown = look.check;
+            scene.tree.updateUI(node);
+            Picture shown(size, size);
+            ::ImageList_Draw(stateImages(scene.tree), static_cast<int>(shownBy(scene, "box")), shown.dc(), 0,
+                             0, ILD_NORMAL);
+            Picture& system = systems.emplace_back(size, size, ::GetSysColor(COLOR_WINDOW));
+            RECT all{0, 0, size, size};
+            if (::GetWindowTheme(scene.tree)) {
+                const HTHEME theme = ::OpenThemeData(nullptr, L"Button");
+                ::DrawThemeBackground(theme, system.dc(), BP_CHECKBOX, look.themed, &all, nullptr);
+                ::CloseThemeData(theme);
+            } else {
+                ::DrawFrameControl(system.dc(), &all, DFC_BUTTON, look.classic | DFCS_FLAT);
+            }
+            EXPECT_EQ(shown.differences(system, 8), 0) << look.themed;
+        }
+        EXPECT_GT(systems[0].differences(systems[1], 8), 0);
+        EXPECT_GT(systems[1].differences(systems[2], 8), 0);
+    }
+}
+
+TEST(TreeCheckBoxes, AreDrawnAnewWhenTheLooksOfTheSystemChange)
+{
+    for (const UINT change : {WM_THEMECHANGED, WM_SYSCOLORCHANGE}) {
+        SCOPED_TRACE(change);
+        Scene scene{{"a"}};
+        scene.tree.setExtras(Extra::CheckBoxes);
+        const int rows = static_cast<int>(scene.tree.GetItemHeight());
+        ASSERT_LT(boxHeight(scene), rows);
+        {
+            const ImportPatch large(L"ovoui.dll", "GetSystemMetrics", reinterpret_cast<void*>(&largeMenus));
+            scene.tree.SendMessage(change);
+        }
+        EXPECT_EQ(boxHeight(scene), rows);
+        scene.tree.setExtras(0);
+        scene.tree.SendMessage(change);
+        EXPECT_EQ(stateImages(scene.tree), nullptr) << "there are no boxes any more";
+    }
+}
+
+TEST(TreeCheckBoxes, GiveTheHostItsOwnStateImagesBack)
+{
+    CImageList own;
+    own.Create(12, 12, ILC_COLOR24, 4, 0);
+    Scene scene{{"plain"}};
+    const HTREEITEM plain = scene.item("plain");
+    scene.tree.SetImageList(&own, TVSIL_STATE);
+    scene.tree.SetItemState(plain, INDEXTOSTATEIMAGEMASK(2), TVIS_STATEIMAGEMASK);
+    for (int i = 0; i < 2; ++i) {
+        scene.tree.setExtras(Extra::CheckBoxes);
+        EXPECT_NE(stateImages(scene.tree), own.GetSafeHandle());
+        scene.tree.setExtras(0);
+        EXPECT_EQ(stateImages(scene.tree), own.GetSafeHandle());
+        EXPECT_EQ(scene.tree.GetItemState(plain, TVIS_STATEIMAGEMASK), INDEXTOSTATEIMAGEMASK(2u));
+    }
+}
+
+/// As in a dialog, whose class asks for them when it is made, and which takes its controls over later.
+TEST(TreeCheckBoxes, CanBeAskedForBeforeATreeViewIsTakenOver)
+{
+    RecordingParent parent;
+    CImageList own;
+    own.Create(12, 12, ILC_COLOR24, 4, 0);
+    TestTree tree;
+    tree.setExtras(Extra::CheckBoxes);
+    for (const bool hasImages : {true, false}) {
+        SCOPED_TRACE(hasImages);
+        const HWND plain = ::CreateWindowExW(0, WC_TREEVIEWW, L"", Scene::kStyle, 0, 0, 200, 200,
+                                             parent.m_hWnd, reinterpret_cast<HMENU>(5), nullptr, nullptr);
+        const HIMAGELIST before = hasImages ? own.GetSafeHandle() : nullptr;
+        ::SendMessageW(plain, TVM_SETIMAGELIST, TVSIL_STATE, reinterpret_cast<LPARAM>(before));
+        for (int i = 0; i < 2; ++i) { // let go of and taken over again, it has them still
+            ASSERT_TRUE(tree.SubclassWindow(plain));
+            EXPECT_NE(stateImages(plain), nullptr);
+            EXPECT_NE(stateImages(plain), own.GetSafeHandle());
+            if (i == 0)
+                tree.UnsubclassWindow();
+        }
+        tree.setExtras(0);
+        EXPECT_EQ(stateImages(plain), before);
+        tree.setExtras(Extra::CheckBoxes);
+        tree.DestroyWindow();
+    }
+}
+
 TEST(TreeCheckBoxes, CanBeAskedForBeforeThereIsAWindow)
 {
     RecordingParent parent;
@@ -509,6 +826,19 @@ TEST(TreeCheckBoxes, AClickTogglesTheBoxAndLeavesTheSelectionAlone)
     EXPECT_EQ(scene.changes(), Changes{});
     scene.user.click(boxOf(scene, "box"));
     EXPECT_EQ(shownBy(scene, "box"), Check::Off);
+}
+
+TEST(TreeCheckBoxes, ARightClickOnTheBoxIsOneOnTheItem)
+{
+    Scene scene{{"plain"}};
+    scene.tree.swallowsContextMenu = true;
+    scene.tree.setExtras(Extra::CheckBoxes);
+    addChecked(scene, "box");
+    scene.journal.clear();
+    scene.user.rightClick(boxOf(scene, "box"));
+    EXPECT_EQ(scene.journal, Journal{}) << "not toggled";
+    EXPECT_EQ(scene.selected(), Names{"box"});
+    EXPECT_EQ(scene.tree.contextMenus, 1);
 }
 
 TEST(TreeCheckBoxes, ADoubleClickTogglesTwiceAndActivatesNothing)
@@ -553,6 +883,40 @@ TEST(TreeCheckBoxes, SpaceLetsAllSelectedBoxesFollowTheCarets)
     EXPECT_EQ(shownBy(scene, "y"), Check::On);
     EXPECT_EQ(shownBy(scene, "z"), Check::Off);
     EXPECT_EQ(scene.selected(), (Names{"plain", "x", "y"}));
+}
+
+TEST(TreeCheckBoxes, ANodeMayHaveNoneAtTheMoment)
+{
+    Scene scene;
+    scene.tree.setExtras(Extra::CheckBoxes);
+    CheckedNode& x = addChecked(scene, "x");
+    addChecked(scene, "y");
+    x.shown = Check::None;
+    scene.tree.updateUI(x);
+    scene.user.click(scene.label("x"));
+    scene.journal.clear();
+    scene.user.key(VK_SPACE);
+    EXPECT_EQ(scene.journal, (Journal{"gesture 1118", "activate x", "gesture 0"}));
+    scene.user.holding(VK_SHIFT).click(scene.label("y")); // the caret at y
+    scene.journal.clear();
+    scene.user.key(VK_SPACE);
+    EXPECT_EQ(scene.journal, Journal{"check y"});
+    EXPECT_EQ(shownBy(scene, "x"), Check::None);
+}
+
+TEST(TreeCheckBoxes, SpaceTogglesACaretThatIsNotSelectedAlone)
+{
+    Scene scene;
+    scene.tree.setExtras(Extra::CheckBoxes);
+    for (const char* const name : {"x", "y"})
+        addChecked(scene, name);
+    scene.user.click(scene.label("x"));
+    scene.user.holding(VK_CONTROL).key(VK_DOWN);
+    ASSERT_EQ(scene.caret(), "y");
+    scene.journal.clear();
+    scene.user.key(VK_SPACE);
+    EXPECT_EQ(scene.journal, Journal{"check y"});
+    EXPECT_EQ(scene.selected(), Names{"x"});
 }
 
 TEST(TreeCheckBoxes, WhatANodeRaisesIsReported)
@@ -610,6 +974,45 @@ TEST(TreeCheckBoxes, OutliveATreeThatIsDeletedWhenANodeIsAsked)
         EXPECT_EQ(tree, nullptr);
         EXPECT_EQ(TestNode::live(), 0);
     }
+}
+
+/// A tree whose host does a deed when the tree view gets images.
+class ImagesTree : public TestTree
+{
+public:
+    std::function<void()> deed;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message != TVM_SETIMAGELIST || !deed)
+            return TestTree::WindowProc(message, wParam, lParam);
+        const std::function<void()> own = deed;
+        own();
+        return 0;
+    }
+};
+
+TEST(TreeCheckBoxes, OutliveAHostThatDestroysTheTreeWhenItGetsItsImages)
+{
+    for (const bool wholeObject : {false, true})
+        for (const bool on : {false, true}) {
+            SCOPED_TRACE(std::string(wholeObject ? "object" : "window") + (on ? " on" : " off"));
+            RecordingParent parent;
+            std::unique_ptr<ImagesTree> tree = std::make_unique<Perishing<ImagesTree>>();
+            tree->Create(Scene::kStyle, CRect(0, 0, 200, 200), &parent, 1);
+            (new CheckedNode("box"))->insert(*tree, TVI_ROOT, TVI_LAST);
+            if (!on)
+                tree->setExtras(Extra::CheckBoxes);
+            tree->deed = [&] {
+                if (wholeObject)
+                    tree.reset();
+                else
+                    tree->DestroyWindow();
+            };
+            tree->setExtras(on ? unsigned{Extra::CheckBoxes} : 0u);
+            EXPECT_EQ(TestNode::live(), 0);
+        }
 }
 
 TEST(TreeCheckBoxes, OutliveWhatANodeDoes)

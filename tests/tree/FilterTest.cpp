@@ -117,6 +117,17 @@ TEST(TreeFilter, AHiddenNodeHasNoItemAndIsNotSelected)
     EXPECT_EQ(std::count(selected.begin(), selected.end(), "spade"), 0);
 }
 
+TEST(TreeFilter, ASelectedItemThatIsHiddenIsToldThoughTheCaretStays)
+{
+    Garden scene;
+    scene.tree.SelectItem(scene.item("rose"));
+    scene.tree.SetItemState(scene.item("spade"), TVIS_SELECTED, TVIS_SELECTED);
+    scene.forget();
+    scene.tree.setFilter(with("rose"));
+    EXPECT_EQ(scene.selected(), Names{"rose"});
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_UNKNOWN, "-", "rose"}}));
+}
+
 TEST(TreeFilter, WithoutAChangeOfTheSelectionTheParentHearsNothing)
 {
     Garden scene;
@@ -204,7 +215,45 @@ TEST(TreeFilter, WhatIsInsertedStaysUntilTheNextFilter)
     scene.tree.setFilter(with("rose"));
     EXPECT_EQ(scene.all(), (Names{"beds", "rose"}));
     scene.tree.setFilter(nullptr);
-    EXPECT_EQ(scene.childrenOf("beds").size(), 4u);
+    EXPECT_EQ(scene.childrenOf("beds"), (Names{"rose", "herbs", "rowan", "new"}));
+}
+
+TEST(TreeFilter, WhatTheHostHasPutElsewhereStaysThere)
+{
+    Garden scene;
+    TestNode& rose = scene.node("rose");
+    scene.tree.setFilter(with("rowan"));
+    rose.insert(scene.tree, TVI_ROOT, TVI_LAST);
+    scene.tree.setFilter(nullptr);
+    EXPECT_EQ(scene.childrenOf(""), (Names{"beds", "sheds", "gate", "rose"}));
+    EXPECT_EQ(scene.childrenOf("beds"), (Names{"herbs", "rowan"}));
+}
+
+TEST(TreeFilter, LeavesItemsWithoutANodeAlone)
+{
+    Garden scene;
+    scene.tree.InsertItem(L"bare");
+    scene.tree.setFilter(with("nowhere"));
+    EXPECT_EQ(scene.all(), Names{"bare"});
+    scene.tree.setFilter(nullptr);
+    Names all = scene.everything;
+    all.push_back("bare");
+    EXPECT_EQ(scene.all(), all);
+}
+
+TEST(TreeFilter, AnOpenItemThatComesBackHasItsOpenImage)
+{
+    Garden scene;
+    TestNode& beds = scene.node("beds");
+    beds.closed = 1;
+    beds.open = 2;
+    scene.tree.setFilter(with("nowhere"));
+    scene.tree.setFilter(nullptr);
+    int image = 0;
+    int selectedImage = 0;
+    scene.tree.GetItemImage(beds.hTreeItem(), image, selectedImage);
+    EXPECT_EQ(image, 2);
+    EXPECT_EQ(selectedImage, 2);
 }
 
 TEST(TreeFilter, ANodeThatTheHostInsertsItselfIsNotInsertedTwice)

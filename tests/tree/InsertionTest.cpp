@@ -343,6 +343,10 @@ TEST(TreeInsertion, ANullNodeIsNothing)
     Scene scene{{"a"}};
     TestPlace root;
     EXPECT_EQ(scene.tree.insert(nullptr, root, 0), nullptr);
+    bool first = true;
+    EXPECT_EQ(scene.tree.insertAndSelect(nullptr, first, TVI_ROOT, TVI_LAST), nullptr);
+    EXPECT_EQ(scene.tree.insertAndSelect(nullptr, first, root, 0), nullptr);
+    EXPECT_TRUE(first);
     EXPECT_EQ(scene.all(), Names{"a"});
 }
 
@@ -440,6 +444,16 @@ TEST(TreeInsertion, APositionalBatchIsOneBlock)
     TestPlace root(TVI_ROOT, false);
     scene.tree.insertBatch({fresh("3"), fresh("2")}, root, 1);
     EXPECT_EQ(scene.childrenOf(""), (Names{"1", "3", "2", "4"}));
+}
+
+TEST(TreeInsertion, PositionsOfABatchCountAsThoseOfANode)
+{
+    Scene scene{{"1", "2"}};
+    TestPlace root(TVI_ROOT, false);
+    scene.tree.insertBatch({fresh("3"), fresh("4")}, root, -1);
+    scene.tree.insertBatch({fresh("0")}, root, 0);
+    scene.tree.insertBatch({fresh("5")}, root, 99);
+    EXPECT_EQ(scene.childrenOf(""), (Names{"0", "1", "2", "3", "4", "5"}));
 }
 
 TEST(TreeInsertion, ARefusedBatchIsDestroyedWhole)

@@ -1,6 +1,8 @@
 // The keyboard: moving, selecting, activating, and what dialogs leave to the tree.
 #include "TreeScene.h"
 
+#include <support/NextDialog.h>
+
 #include <gtest/gtest.h>
 
 using namespace ovo::testkit;
@@ -237,6 +239,21 @@ TEST(TreeKeys, ActivatingTakesOverTheItemsState)
     EXPECT_FALSE(a.expanded());
 }
 
+TEST(TreeKeys, WhatANodeMakesOfItselfWhenActivatedIsShown)
+{
+    KeyScene scene({"a"}, "a");
+    TestNode& a = scene.node("a");
+    UINT once = TVIS_EXPANDEDONCE;
+    a.activating = [&](MultiTreeCtrl& tree) {
+        once = tree.GetItemState(a.hTreeItem(), TVIS_EXPANDEDONCE);
+        a.name = "done";
+    };
+    scene.tree.SetItemState(a.hTreeItem(), TVIS_EXPANDEDONCE, TVIS_EXPANDEDONCE);
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.all(), Names{"done"});
+    EXPECT_EQ(once, 0u) << "so that the tree view asks the node when it opens";
+}
+
 TEST(TreeKeys, AnErrorOfANodeIsReportedAndTheGestureEnds)
 {
     KeyScene scene({"a"}, "a");
@@ -271,6 +288,19 @@ TEST(TreeKeys, AForbiddenDefaultActionActivatesNothing)
     scene.tree.disabled = {1118};
     scene.user.key(VK_RETURN);
     EXPECT_EQ(scene.journal, Journal{});
+}
+
+TEST(TreeKeys, DeleteAndRedrawThatAreForbiddenDoNothing)
+{
+    KeyScene scene({"a"}, "a");
+    scene.node("a").erasable = true;
+    scene.tree.disabled = {5146, 5234};
+    const NextDialogAnswered no(IDNO); // there should be none
+    scene.user.key(VK_DELETE).key(VK_F5);
+    EXPECT_EQ(scene.journal, Journal{});
+    scene.tree.disabled = {};
+    scene.user.key(VK_F5);
+    EXPECT_EQ(scene.journal, Journal{"refresh a"});
 }
 
 // Redraw

@@ -138,6 +138,20 @@ TEST(TreeMouse, CtrlClickAddsToTheSelectionAndKeepsTheCaret)
     EXPECT_EQ(scene.changes(), (Changes{{TVC_BYMOUSE, "a", "a"}}));
 }
 
+TEST(TreeMouse, TheParentHearsWhereTheClickWas)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.user.click(scene.label("a"));
+    for (const auto& [key, name] : {std::pair<WORD, const char*>{VK_CONTROL, "c"}, {VK_SHIFT, "d"}}) {
+        const CPoint place = scene.labelPoint(name);
+        scene.user.holding(key).click(scene.label(name));
+        EXPECT_EQ(CPoint(scene.parent().log().last(static_cast<UINT>(TVN_SELCHANGEDW)).point), place) << name;
+    }
+    scene.user.holding(VK_SHIFT).key(VK_UP);
+    EXPECT_EQ(CPoint(scene.parent().log().last(static_cast<UINT>(TVN_SELCHANGEDW)).point), CPoint(0, 0))
+        << "a key has no place";
+}
+
 TEST(TreeMouse, CtrlClickOnASelectedItemTakesItOutOnRelease)
 {
     Scene scene{{"a", "b"}};
@@ -361,6 +375,19 @@ TEST(TreeMouse, AQueueThatGivesNothingEndsTheWaitAfterItsTime)
     EXPECT_EQ(dragsBegun(scene), 1) << "as if the button had been held";
 }
 
+TEST(TreeMouse, TheEndOfTheProgramEndsTheWaitAndIsNotLost)
+{
+    Scene scene{{"a", "b"}};
+    const CPoint at = scene.labelPoint("b");
+    ::PostQuitMessage(7);
+    scene.tree.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    EXPECT_EQ(dragsBegun(scene), 0);
+    MSG message{};
+    ASSERT_TRUE(::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, 7u);
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
 TEST(TreeMouse, WithShiftNoDragBegins)
 {
     Scene scene{{"a", "b"}};
@@ -491,6 +518,28 @@ TEST(TreeMouse, APlaceOfTheNodesOwnTakesThePress)
     EXPECT_EQ(scene.changes(), Changes{});
 }
 
+/// The release of the left button only is the node's.
+TEST(TreeMouse, APlaceOfTheNodesOwnHearsWhichButtonAndKeysPressIt)
+{
+    Scene scene{{"a", "b"}};
+    scene.tree.swallowsContextMenu = true;
+    TestNode& b = scene.node("b");
+    b.hitting = [](CPoint, unsigned& flags) { flags = 0x10000; };
+    unsigned keys = 0;
+    CPoint place;
+    b.pressing = [&](unsigned held, CPoint point, unsigned) {
+        keys = held;
+        place = point;
+        return true;
+    };
+    b.releasing = [](CPoint, unsigned) { return true; };
+    scene.user.holding(VK_CONTROL).rightClick(scene.label("b"));
+    EXPECT_EQ(keys, unsigned{MK_RBUTTON | MK_CONTROL});
+    EXPECT_EQ(place, scene.labelPoint("b"));
+    EXPECT_EQ(scene.journal, Journal{"buttonDown b"});
+    EXPECT_EQ(scene.selected(), Names{});
+}
+
 TEST(TreeMouse, AFlagOfTheNodesOwnBesideTheTreeViewsChangesNothing)
 {
     Scene scene{{"a", "b"}};
@@ -510,6 +559,19 @@ TEST(TreeMouse, TheHitTestTellsWhatTheNodeMadeOfIt)
     EXPECT_EQ(scene.tree.HitTest(scene.labelPoint("a"), &flags), scene.item("a"));
     EXPECT_EQ(flags, 0x40000u);
     EXPECT_EQ(scene.tree.HitTest(scene.labelPoint("a")), scene.item("a"));
+}
+
+TEST(TreeMouse, AnItemThatGoesWhenItIsHitIsNotHit)
+{
+    Scene scene{{"a", "b"}};
+    const CPoint place = scene.labelPoint("a");
+    scene.node("a").hitting = [&](CPoint, unsigned& flags) {
+        flags = TVHT_ONITEMICON;
+        scene.tree.DeleteItem(scene.item("a"));
+    };
+    unsigned flags = 0;
+    EXPECT_EQ(scene.tree.HitTest(place, &flags), nullptr);
+    EXPECT_EQ(flags, unsigned{TVHT_NOWHERE});
 }
 
 // Harm
@@ -543,5 +605,16 @@ TEST(TreeMouse, AParentThatRefusesTheChangeKeepsTheSelection)
     scene.user.click(scene.label("a"));
     scene.parent().answer(static_cast<UINT>(TVN_SELCHANGINGW), TRUE);
     EXPECT_FALSE(scene.tree.SelectItem(scene.item("b")));
+    EXPECT_EQ(scene.caret(), "a");
+}
+
+/// What is clicked is selected all the same.
+TEST(TreeMouse, AParentThatRefusesTheCaretOfAClickKeepsTheCaretOnly)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.click(scene.label("a"));
+    scene.parent().answer(static_cast<UINT>(TVN_SELCHANGINGW), TRUE);
+    scene.user.click(scene.label("b"));
+    EXPECT_EQ(scene.selected(), Names{"b"});
     EXPECT_EQ(scene.caret(), "a");
 }

@@ -15,8 +15,17 @@ public:
     RowScene()
         : Scene({"p", "q", "r"})
     {
-        grow("p", {"c"});
-        grow("c", {"x", "y"});
+        growAll();
+    }
+
+    /// The same in another window.
+    void makeAnew()
+    {
+        tree.DestroyWindow();
+        tree.Create(kStyle, CRect(10, 10, 400, 360), &parent(), 7);
+        for (const char* const name : {"p", "q", "r"})
+            add(name);
+        growAll();
     }
 
     /// Hides what is below an item as a host may, without a word to the tree view.
@@ -39,6 +48,11 @@ public:
     }
 
 private:
+    void growAll()
+    {
+        grow("p", {"c"});
+        grow("c", {"x", "y"});
+    }
     void grow(const std::string& name, const Names& children)
     {
         node(name).children = 1;
@@ -116,6 +130,15 @@ TEST(TreeRows, WhileRedrawingIsHeldTheLayoutWaits)
     scene.closeByState("p");
     scene.tree.DeleteItem(scene.item("y"));
     scene.tree.SetRedraw(TRUE);
+    EXPECT_EQ(scene.rows(), (Names{"p", "q", "r"}));
+}
+
+TEST(TreeRows, AWindowMadeAnewIsNotHeldAsTheOneBefore)
+{
+    RowScene scene;
+    scene.tree.SetRedraw(FALSE);
+    scene.makeAnew();
+    scene.closeByState("p");
     EXPECT_EQ(scene.rows(), (Names{"p", "q", "r"}));
 }
 

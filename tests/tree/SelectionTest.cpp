@@ -111,6 +111,33 @@ TEST(TreeSelection, ClearingFromAChildLeavesTheRestAlone)
     EXPECT_EQ(scene.selected(), (Names{"a", "x", "b"}));
 }
 
+TEST(TreeSelection, WhatWasSelectedBeforeATreeViewIsTakenOverCounts)
+{
+    RecordingParent parent;
+    const HWND plain = ::CreateWindowExW(0, WC_TREEVIEWW, L"", Scene::kStyle, 0, 0, 200, 200, parent.m_hWnd,
+                                         reinterpret_cast<HMENU>(5), nullptr, nullptr);
+    for (const UINT state : {0u, UINT{TVIS_SELECTED}, UINT{TVIS_SELECTED}}) {
+        TVINSERTSTRUCTW insert{};
+        insert.hParent = TVI_ROOT;
+        insert.hInsertAfter = TVI_LAST;
+        insert.item.mask = TVIF_TEXT | TVIF_STATE;
+        insert.item.pszText = const_cast<LPWSTR>(L"item");
+        insert.item.state = state;
+        insert.item.stateMask = TVIS_SELECTED;
+        ::SendMessageW(plain, TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insert));
+    }
+    TestTree tree;
+    ASSERT_TRUE(tree.SubclassWindow(plain));
+    const HTREEITEM first = tree.GetRootItem();
+    tree.SelectItem(first);
+    int selected = 0;
+    for (HTREEITEM item = first; item; item = tree.GetNextSiblingItem(item))
+        selected += tree.GetItemState(item, TVIS_SELECTED) ? 1 : 0;
+    EXPECT_EQ(selected, 1);
+    EXPECT_EQ(tree.clearselection(first), 1u);
+    tree.DestroyWindow();
+}
+
 // Ranges
 
 TEST(TreeSelection, ARangeAddsTheDisplayedItemsInEitherDirection)
@@ -275,6 +302,36 @@ TEST(TreeSelection, AllSelectedRowsShowItWithAndWithoutTheFocus)
     EXPECT_NE(unfocused, plain);
     EXPECT_NE(unfocused, focused);
     EXPECT_EQ(coloursOf("a"), unfocused);
+    scene.tree.SetFocus();
+    EXPECT_EQ(coloursOf("c"), focused);
+}
+
+TEST(TreeSelection, ASelectedRowThatIsCutOffShowsTheFocusToo)
+{
+    Scene scene{manyNames(20)};
+    CButton other;
+    other.Create(L"other", WS_CHILD | WS_VISIBLE, CRect(0, 360, 60, 380), &scene.parent(), 9);
+    scene.tree.SetItemHeight(40);
+    scene.user.click(scene.label("100")).holding(VK_CONTROL).key('A');
+    CRect client;
+    scene.tree.GetClientRect(&client);
+    CRect label;
+    scene.tree.GetItemRect(scene.item("108"), &label, TRUE);
+    ASSERT_LT(label.top, client.bottom);
+    ASSERT_GT(label.bottom, client.bottom);
+    const auto shown = [&] {
+        const Picture picture = Picture::ofClient(scene.tree.m_hWnd);
+        std::set<COLORREF> colours;
+        for (int y = label.top + 2; y < client.bottom; ++y)
+            for (int x = label.left + 1; x < label.right - 1; ++x)
+                colours.insert(picture.at(x, y));
+        return colours;
+    };
+    const std::set<COLORREF> focused = shown();
+    other.SetFocus();
+    EXPECT_NE(shown(), focused);
+    scene.tree.SetFocus();
+    EXPECT_EQ(shown(), focused);
 }
 
 // Paths
@@ -289,6 +346,26 @@ TEST(TreePath, NamesTheSelectedItemFromTheTop)
     EXPECT_EQ(scene.tree.selectedPath(), L"");
     scene.tree.SelectItem(scene.item("y/z"));
     EXPECT_EQ(scene.tree.selectedPath(), L"/b/y\\/z");
+}
+
+TEST(TreePath, NamesTheFirstSelectedItemWhereTheCaretIsNotSelected)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.click(scene.label("a"));
+    scene.user.holding(VK_CONTROL).key(VK_DOWN);
+    ASSERT_EQ(scene.caret(), "b");
+    EXPECT_EQ(scene.tree.selectedPath(), L"/a");
+    scene.tree.SetItemState(scene.item("b"), TVIS_SELECTED, TVIS_SELECTED);
+    EXPECT_EQ(scene.tree.selectedPath(), L"/b");
+}
+
+TEST(TreePath, LeadsToTheAnchorOfTheNextRange)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.tree.selectItemAnchor(scene.item("c"));
+    scene.tree.selectPath(L"/a");
+    scene.user.holding(VK_SHIFT).click(scene.label("b"));
+    EXPECT_EQ(scene.selected(), (Names{"a", "b"}));
 }
 
 TEST(TreePath, OpensWhatIsOnTheWay)

@@ -86,6 +86,21 @@ TEST(TreeChanges, AnIteratorGoesOnBehindADeletedItem)
     }
 }
 
+TEST(TreeChanges, ACopyOfAnIteratorGoesOnBehindTheSameDeletedItem)
+{
+    Scene scene{{"a", "b", "c"}};
+    auto at = scene.tree.beginAll();
+    scene.tree.DeleteItem(scene.item("a"));
+    auto copy = at;
+    EXPECT_TRUE(copy == at);
+    EXPECT_EQ(nameAt(copy), "a") << "the node is there still";
+    ++copy;
+    EXPECT_EQ(nameAt(copy), "b");
+    EXPECT_FALSE(copy == at) << "which stands in front of it";
+    EXPECT_EQ(nameAt(++at), "b");
+    EXPECT_TRUE(copy == at);
+}
+
 TEST(TreeChanges, AWalkInsideExpandLeavesOutWhatIsDeleted)
 {
     Scene scene{{"a", "b", "c"}};
