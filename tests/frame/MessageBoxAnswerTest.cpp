@@ -48,15 +48,6 @@ int focusedId(HWND box)
     return ::GetParent(focus) == box ? ::GetDlgCtrlID(focus) : 0;
 }
 
-HRSRC WINAPI noDialogs(HMODULE module, LPCWSTR name, LPCWSTR type)
-{
-    if (type == RT_DIALOG) {
-        ::SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
-        return nullptr;
-    }
-    return ::FindResourceW(module, name, type);
-}
-
 } // namespace
 
 namespace
@@ -137,6 +128,16 @@ TEST(MessageBoxAnswer, EscapeAnswersCancelEvenWithoutACancelButton)
     for (const UINT type :
          {MB_OK, MB_OKCANCEL, MB_ABORTRETRYIGNORE, MB_YESNOCANCEL, MB_YESNO, MB_RETRYCANCEL})
         EXPECT_EQ(answerByKey(type, VK_ESCAPE), IDCANCEL) << type;
+}
+
+TEST(MessageBoxAnswer, EscapeInTheTextAnswersCancelToo)
+{
+    auto answering = whenOpen()
+                         .click([] { return textControl(openBox()); })
+                         .waitFor("focus in the text", [] { return ::GetFocus() == textControl(openBox()); })
+                         .key(VK_ESCAPE)
+                         .start();
+    EXPECT_EQ(show({.type = MB_YESNO}), IDCANCEL) << "the close box would answer No";
 }
 
 TEST(MessageBoxAnswer, TheCloseBoxAnswersTheMildestButtonThereIs)
