@@ -167,7 +167,8 @@ public:
     bool GetControlStateVisible(DWORD id) const;
     /// The text of the edit box `id`.
     std::wstring GetEditBoxText(DWORD id) const;
-    /// The number at the beginning of the text of the edit box `id`; 0 without one.
+    /// The number at the beginning of the text of the edit box `id`; 0 without one. On the classic path what
+    /// GetDlgItemInt gives: with other characters behind the number 0.
     int GetEditBoxInt(DWORD id) const;
     /// Puts the number `value` into the edit box `id`.
     void SetEditBoxInt(DWORD id, int value);
