@@ -145,7 +145,11 @@ public:
         return S_OK;
     }
     STDMETHODIMP SetDefaultExtension(LPCWSTR) override { return S_OK; }
-    STDMETHODIMP Close(HRESULT) override { return S_OK; }
+    STDMETHODIMP Close(HRESULT result) override
+    {
+        s_current->closed = result;
+        return S_OK;
+    }
     STDMETHODIMP SetClientGuid(REFGUID client) override
     {
         s_current->client = client;

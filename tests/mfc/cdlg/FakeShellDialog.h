@@ -23,8 +23,9 @@ public:
     std::function<HRESULT(IFileDialogEvents&)> onShow; ///< instead of accepting the results
     HRESULT optionsAnswer = S_OK;                      ///< what setting the options gives
 
-    DWORD options = 0; ///< as they were set last
-    GUID client{};     ///< likewise
+    DWORD options = 0;     ///< as they were set last
+    GUID client{};         ///< likewise
+    HRESULT closed = S_OK; ///< what the program has closed it with
     int topPlaces = 0;
     int bottomPlaces = 0;
     int defaultFolders = 0;
