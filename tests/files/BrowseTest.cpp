@@ -331,6 +331,31 @@ TEST_F(BrowseTest, AsksWithTheAgreedFlags)
     EXPECT_EQ(fake.options, kAlways | FOS_FILEMUSTEXIST | FOS_ALLOWMULTISELECT);
 }
 
+TEST_F(BrowseTest, HandsOverNameTypeAndExtensionAsTheyStand)
+{
+    FakeShellDialog fake;
+    fake.results = {L"C:\\a"};
+    File file{.extension = L".png", .path = L"b.txt"};
+    EXPECT_TRUE(file.ask());
+    EXPECT_EQ(fake.kind, CLSID_FileOpenDialog);
+    EXPECT_EQ(fake.name, L"b.txt");
+    EXPECT_EQ(fake.type, 2u);
+    EXPECT_EQ(fake.extension, L".png");
+    File saved{.save = 1};
+    EXPECT_TRUE(saved.ask());
+    EXPECT_EQ(fake.kind, CLSID_FileSaveDialog);
+
+    fake.name.clear();
+    fake.type = 0;
+    fake.extension.clear();
+    std::vector<std::wstring> paths;
+    EXPECT_TRUE(BrowseForFiles(nullptr, nullptr, L"", L".JPG", kFilter, paths));
+    EXPECT_EQ(fake.kind, CLSID_FileOpenDialog);
+    EXPECT_EQ(fake.name, L"");
+    EXPECT_EQ(fake.type, 2u);
+    EXPECT_EQ(fake.extension, L".JPG");
+}
+
 // A folder
 
 namespace

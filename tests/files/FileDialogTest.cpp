@@ -5,6 +5,7 @@
 #include "mfc/cdlg/FakeClassicDialog.h"
 #include "mfc/cdlg/FakeShellDialog.h"
 #include <testkit/GuiThread.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/MemoryCounter.h>
 #include <testkit/TestApp.h>
 
@@ -351,6 +352,45 @@ TEST(PlainHost, TakesTheFileInEitherDialog)
         ::SendMessageW(::GetParent(child), WM_COMMAND, IDOK, 0);
     };
     EXPECT_EQ(classic.DoModal(), IDOK);
+}
+
+namespace
+{
+
+int s_saves = 0;
+
+BOOL WINAPI countSave(OPENFILENAMEW*)
+{
+    ++s_saves;
+    return FALSE;
+}
+
+} // namespace
+
+TEST(PlainHost, HandsItsArgumentsToTheSystem)
+{
+    const auto made = [](Kind kind) {
+        return std::make_unique<COVOFileDialog>(FALSE, L"txt", L"plan", OFN_OVERWRITEPROMPT, L"Text|*.txt||",
+                                                nullptr, kind == Kind::NewStyle);
+    };
+    FakeShellDialog shell;
+    shell.results = {L"C:\\plan.txt"};
+    EXPECT_EQ(made(Kind::NewStyle)->DoModal(), IDOK);
+    EXPECT_EQ(shell.kind, CLSID_FileSaveDialog);
+    EXPECT_EQ(shell.extension, L"txt");
+    EXPECT_EQ(shell.name, L"plan");
+    EXPECT_NE(shell.options & FOS_OVERWRITEPROMPT, 0u);
+
+    const ImportPatch saving(L"ovomfc.dll", "GetSaveFileNameW", reinterpret_cast<void*>(&countSave));
+    s_saves = 0;
+    const auto classic = made(Kind::Classic);
+    EXPECT_EQ(classic->DoModal(), IDCANCEL);
+    EXPECT_EQ(s_saves, 1);
+    const OPENFILENAME& record = *classic->ofn;
+    EXPECT_STREQ(record.lpstrDefExt, L"txt");
+    EXPECT_STREQ(record.lpstrFile, L"plan");
+    EXPECT_EQ(std::wstring(record.lpstrFilter, 12), std::wstring(L"Text\0*.txt\0", 12));
+    EXPECT_NE(record.Flags & OFN_OVERWRITEPROMPT, 0u);
 }
 
 // The classic path

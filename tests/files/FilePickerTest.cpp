@@ -179,6 +179,23 @@ TEST_F(FilePicker, AFolderOfTheOlderDialogIsGiven)
     EXPECT_EQ(pickFolders(question), std::vector<fs::path>{files.path(L"below")});
 }
 
+TEST_F(FilePicker, HandsOverNameTypeAndTheExtensionWithoutItsPeriod)
+{
+    FakeShellDialog fake;
+    fake.results = {L"C:\\a"};
+    const std::wstring name(400, L'n');
+    pickFile({.name = name, .types = types, .extension = L".JPG"});
+    EXPECT_EQ(fake.kind, CLSID_FileOpenDialog);
+    EXPECT_EQ(fake.name, name);
+    EXPECT_EQ(fake.type, 2u);
+    EXPECT_EQ(fake.extension, L"JPG");
+    pickFileToSave({.name = L"b.txt", .types = types, .extension = L".txt"});
+    EXPECT_EQ(fake.kind, CLSID_FileSaveDialog);
+    EXPECT_EQ(fake.name, L"b.txt");
+    EXPECT_EQ(fake.type, 1u);
+    EXPECT_EQ(fake.extension, L"txt");
+}
+
 TEST_F(FilePicker, EachFunctionAsksInItsWay)
 {
     constexpr DWORD kAlways = FOS_NOCHANGEDIR | FOS_PATHMUSTEXIST | FOS_SHAREAWARE | FOS_FORCEFILESYSTEM;

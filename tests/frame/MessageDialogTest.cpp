@@ -5,6 +5,7 @@
 #include <testkit/GdiCounter.h>
 #include <testkit/ImportPatch.h>
 #include <testkit/TemporaryProfile.h>
+#include <testkit/TestApp.h>
 #include <testkit/WindowCounter.h>
 
 #include <ovoui/frame/MessageDialog.h>
@@ -116,6 +117,36 @@ TEST_F(MessageDialogTest, WithoutMoreIsTheMessageBox)
     EXPECT_EQ(answer, IDCANCEL);
     EXPECT_EQ(dialog, plain);
     EXPECT_EQ(dialogPlace, plainPlace);
+}
+
+TEST_F(MessageDialogTest, OwnerCaptionIconAndHelpAreTheHosts)
+{
+    CWnd owner;
+    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 300, 200,
+                   nullptr, nullptr);
+    COVOMessageDialog box(owner, L"The message.", L"Own", MB_OK | MB_ICONHAND);
+    box.SetHelp(4711);
+    EXPECT_EQ(answerBy(box, whenOpen()
+                                .then([&owner] {
+                                    EXPECT_FALSE(owner.IsWindowEnabled());
+                                    EXPECT_EQ(windowText(openBox()), L"Own");
+                                    EXPECT_EQ(windowText(iconControl(openBox())), L"STOP");
+                                    EXPECT_EQ(windowText(textControl(openBox())), L"The message.");
+                                })
+                                .key(VK_F1)
+                                .waitFor("the help", [] { return !TestApp::instance().helps().empty(); })
+                                .key(VK_ESCAPE)),
+              IDCANCEL);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    owner.DestroyWindow();
+    ASSERT_EQ(TestApp::instance().helps().size(), 1u);
+    EXPECT_EQ(TestApp::instance().helps()[0].data, 4711u);
+    const COVOMessageDialog plain(nullptr, L"The message.");
+    EXPECT_EQ(answerBy(plain,
+                       whenOpen()
+                           .then([] { EXPECT_EQ(windowText(openBox()), libraryString(IDS_MESSAGE_CAPTION)); })
+                           .key(VK_ESCAPE)),
+              IDCANCEL);
 }
 
 TEST_F(MessageDialogTest, ButtonsOfTheHostAnswerWithTheirIds)

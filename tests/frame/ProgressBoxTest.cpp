@@ -9,6 +9,7 @@
 #include <ovocor/WinError.h>
 #include <ovoui/frame/ProgressBox.h>
 #include <ovoui/frame/MessageBoxIds.h>
+#include <ovouires/resource.h>
 
 #include <commctrl.h>
 
@@ -226,6 +227,16 @@ TEST(ProgressBox, LiesBetweenTextAndButton)
     EXPECT_LE(button.bottom, client.bottom);
     EXPECT_LE(place.right, client.right);
     EXPECT_FALSE(place.IsRectEmpty());
+}
+
+TEST(ProgressBox, HasTheCaptionOfTheHostOrTheDefaultOne)
+{
+    {
+        const COVOProgressBox progress(nullptr, L"Working", L"Own");
+        EXPECT_EQ(windowText(openBox()), L"Own");
+    }
+    const COVOProgressBox progress(nullptr, L"Working");
+    EXPECT_EQ(windowText(openBox()), libraryString(IDS_MESSAGE_CAPTION));
 }
 
 TEST(ProgressBox, IsCancelledByButtonKeysAndCloseBox)
