@@ -165,6 +165,17 @@ TEST(MessageBoxWrap, AWordThatFitsNoLineIsScrolledWhileTheRestIsWrapped)
     }
 }
 
+TEST(MessageBoxWrap, AScriptWithoutBlanksIsBrokenAtAnyOfItsCharacters)
+{
+    const std::wstring message = std::wstring(10, L'\u6728') + L' ' + std::wstring(600, L'\u6728');
+    inspect({.text = message.c_str()}, [&message](HWND box) {
+        const HWND text = textControl(box);
+        EXPECT_EQ(windowText(text), message);
+        EXPECT_GT(send(text, EM_LINEINDEX, 1), 11)
+            << "the first line is filled, and does not end at the blank";
+    });
+}
+
 TEST(MessageBoxWrap, TheBarsComeAsSoonAsTheLinesAndTheWidthAskForThem)
 {
     // Wrapped prose reaches the width limit, so more than 15 lines of it have both bars.
