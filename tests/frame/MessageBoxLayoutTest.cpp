@@ -92,6 +92,7 @@ TEST(MessageBoxLayout, TheTextAndTheIconStandAtTheirPlaces)
         EXPECT_EQ(placeInParent(iconControl(box)).TopLeft(), CPoint(10, 8));
         EXPECT_EQ(placeInParent(iconControl(box)).Size(), CSize(metric(SM_CXICON), metric(SM_CYICON)));
         EXPECT_EQ(::GetDlgCtrlID(iconControl(box)), -1);
+        EXPECT_EQ(style(iconControl(box)), 0x50000003u);
     });
 }
 
@@ -140,6 +141,7 @@ TEST(MessageBoxLayout, ButtonsAreAsTallAsTheFontSaysAndHoldEveryLabel)
         const TEXTMETRICW font = guiFont();
         for (const int id : buttonsFromTheLeft(box)) {
             const HWND button = ::GetDlgItem(box, id);
+            EXPECT_EQ(style(button) & ~DWORD{BS_TYPEMASK}, 0x50014000u) << "shown, for Tab, and notifying";
             EXPECT_EQ(placeInParent(button).Height(), font.tmHeight * 14 / 8);
             EXPECT_GE(placeInParent(button).Width(), font.tmAveCharWidth * 50 / 4);
             EXPECT_EQ(::SendMessageW(button, WM_GETFONT, 0, 0),
