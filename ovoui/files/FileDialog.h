@@ -81,8 +81,7 @@ protected:
     /// Classic only: once, when the dialog is shown. `wParam` and `lParam` mean nothing, nor does the result.
     virtual LRESULT OnPostInit(WPARAM wParam, LPARAM lParam);
 
-    // The host's controls. On the classic path the item is the index; a push button is told as a check
-    // button, unless AddPushButton has named it.
+    // The host's controls
     /// The item `dwIDItem` of the host's control `dwIDCtl` was chosen. On the classic path the item is the
     /// index.
     virtual void OnItemSelected(DWORD dwIDCtl, DWORD dwIDItem);
@@ -134,9 +133,7 @@ public:
     /// Classic only: checks the button `nIDButton` as `nCheck` says, a BST_ value.
     void CheckDlgButton(int nIDButton, UINT nCheck);
 
-    // New style only: it is an error of the host to call them on the classic path. `dlg` is a dialog of the
-    // template that the classic path has; its window must exist, since the labels are the texts of its
-    // controls.
+    // New style only
     /// A check button with the number `id`, and whether it is `checked` at first. New style only, as the
     /// operations up to SetSelectedControlItem: it is an error of the host to call them on the classic path.
     /// `dlg` is a dialog of the template that the classic path has; its window must exist, since the labels
@@ -157,6 +154,7 @@ public:
     /// Chooses the item `itemId` of the combo box `id`.
     void SetSelectedControlItem(DWORD id, DWORD itemId);
 
+    // Both
     /// Of the combo box `id`: the item, or 0; on the classic path the index, or CB_ERR.
     LONG_PTR GetSelectedControlItem(DWORD id) const;
     /// Whether the check button `id` is checked.
@@ -167,7 +165,8 @@ public:
     bool GetControlStateVisible(DWORD id) const;
     /// The text of the edit box `id`.
     std::wstring GetEditBoxText(DWORD id) const;
-    /// The number at the beginning of the text of the edit box `id`; 0 without one.
+    /// The number at the beginning of the text of the edit box `id`; 0 without one. On the classic path what
+    /// GetDlgItemInt gives: with other characters behind the number 0.
     int GetEditBoxInt(DWORD id) const;
     /// Puts the number `value` into the edit box `id`.
     void SetEditBoxInt(DWORD id, int value);

@@ -55,8 +55,8 @@ INT_PTR COVOFileDialogImp::ask()
         beginInFolder();
     const INT_PTR result = DoModal();
     ovoui::frame::raise(std::exchange(m_kept, nullptr));
-    if (result == IDOK && !m_bVistaStyle)
-        keepFolder();
+    if (result == IDOK)
+        keepFolder(); // the classic dialog alone has a name for it
     return result;
 }
 

@@ -5,12 +5,14 @@
 #include <ovoui/files/ShellPaths.h>
 #include <ovoui/files/core/FileTypes.h>
 
+#include <algorithm>
+
 namespace fs = std::filesystem;
 
 namespace
 {
 
-constexpr DWORD kRoomForFiles = 0x40000; ///< in the classic dialog, whose buffer does not grow
+constexpr std::size_t kRoomForFiles = 0x40000; ///< in the classic dialog, whose buffer does not grow
 
 using ovoui::FileWish;
 
@@ -36,9 +38,10 @@ public:
         if (!question.extension.empty())
             m_ofn.lpstrDefExt = m_extension.c_str();
         if (!isNewStyle() && wish.several) {
-            m_room.resize(kRoomForFiles);
+            m_room = question.name;
+            m_room.resize(std::max(kRoomForFiles, m_room.size() + 1));
             m_ofn.lpstrFile = m_room.data();
-            m_ofn.nMaxFile = kRoomForFiles;
+            m_ofn.nMaxFile = static_cast<DWORD>(m_room.size());
         }
     }
 
@@ -65,7 +68,7 @@ private:
     const ovoui::Beginning m_beginning;
     std::wstring m_types;
     std::wstring m_extension;
-    std::vector<wchar_t> m_room;
+    std::wstring m_room;
 };
 
 std::optional<fs::path> firstOf(const std::vector<fs::path>& paths)

@@ -56,7 +56,7 @@ int COVOMessageDialog::DoModal() const
     if (box.mayBeKept(known))
         return known;
     const int answer = static_cast<int>(box.DoModal());
-    if (!m_entry.empty() && box.keepsAnswer() && box.mayBeKept(answer))
+    if (box.keepsAnswer() && box.mayBeKept(answer))
         answers().write(m_entry, answer);
     return answer;
 }

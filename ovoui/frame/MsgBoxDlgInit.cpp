@@ -142,10 +142,8 @@ Extent COVOMsgBoxDlg::fitText()
 
     CRect window;
     m_text.GetWindowRect(&window);
-    ScreenToClient(&window);
     const Box grown = grownTextControl(toBox(window), clientExtent(m_text), area, metrics);
-    const RECT place = toRect(grown);
-    m_text.MoveWindow(&place);
+    m_text.SetWindowPos(nullptr, 0, 0, grown.width(), grown.height(), SWP_NOMOVE | SWP_NOZORDER);
     // No taller than what is shown: a control takes what lies in this rectangle for visible and would not
     // scroll to it.
     const int height = std::min(area.client.height, clientExtent(m_text).height);
@@ -195,15 +193,11 @@ Extent COVOMsgBoxDlg::measureText(CDC& dc)
 void COVOMsgBoxDlg::addScrollBars(const TextArea& area)
 {
     const DWORD style = m_text.GetStyle() | WS_VSCROLL | (area.horizontal ? WS_HSCROLL : 0);
-    const HWND plain = m_text.UnsubclassWindow();
-    CRect place;
-    ::GetWindowRect(plain, &place);
-    ScreenToClient(&place);
-    ::DestroyWindow(plain);
+    ::DestroyWindow(m_text.UnsubclassWindow());
 
-    const HWND framed = ::CreateWindowExW(
-        WS_EX_CLIENTEDGE, L"EDIT", L"", style, place.left, place.top, area.client.width, area.client.height,
-        m_hWnd, reinterpret_cast<HMENU>(IDC_MESSAGE_TEXT), ovoui::ownInstance(), nullptr);
+    const HWND framed =
+        ::CreateWindowExW(WS_EX_CLIENTEDGE, L"EDIT", L"", style, 0, 0, area.client.width, area.client.height,
+                          m_hWnd, reinterpret_cast<HMENU>(IDC_MESSAGE_TEXT), ovoui::ownInstance(), nullptr);
     m_text.SubclassWindow(framed);
     m_text.SetFont(CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))));
 }

@@ -9,6 +9,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 using namespace ovoui::frame;
 
 namespace
@@ -49,23 +51,29 @@ void COVOProgressBoxDlg::open()
         return;
     }
     m_cancelled = false; // by the end of a window that was not finished
-    if (m_disablesOwner)
-        ::EnableWindow(m_owner, TRUE);
+    enableOwner();
 }
 
+/// The owner is enabled before the box goes: the system looks for the next active window before it tells the
+/// box of its end, and would take another one, maybe another program's.
 void COVOProgressBoxDlg::close()
 {
+    enableOwner();
     if (m_hWnd)
         DestroyWindow();
 }
 
-/// The owner is enabled before the box goes, or another program's window would be activated. A box that goes
-/// with its owner cannot be cancelled any more: the work is to stop.
+void COVOProgressBoxDlg::enableOwner()
+{
+    if (std::exchange(m_disablesOwner, false) && ::IsWindow(m_owner))
+        ::EnableWindow(m_owner, TRUE);
+}
+
+/// A box that goes with its owner cannot be cancelled any more: the work is to stop.
 void COVOProgressBoxDlg::OnDestroy()
 {
     m_cancelled = true;
-    if (m_disablesOwner && ::IsWindow(m_owner))
-        ::EnableWindow(m_owner, TRUE);
+    enableOwner();
     COVOMsgBoxDlg::OnDestroy();
 }
 

@@ -32,6 +32,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void enableOwner();
     void showUnknown();
     bool dispatchOne();
 

@@ -331,6 +331,31 @@ TEST_F(BrowseTest, AsksWithTheAgreedFlags)
     EXPECT_EQ(fake.options, kAlways | FOS_FILEMUSTEXIST | FOS_ALLOWMULTISELECT);
 }
 
+TEST_F(BrowseTest, HandsOverNameTypeAndExtensionAsTheyStand)
+{
+    FakeShellDialog fake;
+    fake.results = {L"C:\\a"};
+    File file{.extension = L".png", .path = L"b.txt"};
+    EXPECT_TRUE(file.ask());
+    EXPECT_EQ(fake.kind, CLSID_FileOpenDialog);
+    EXPECT_EQ(fake.name, L"b.txt");
+    EXPECT_EQ(fake.type, 2u);
+    EXPECT_EQ(fake.extension, L".png");
+    File saved{.save = 1};
+    EXPECT_TRUE(saved.ask());
+    EXPECT_EQ(fake.kind, CLSID_FileSaveDialog);
+
+    fake.name.clear();
+    fake.type = 0;
+    fake.extension.clear();
+    std::vector<std::wstring> paths;
+    EXPECT_TRUE(BrowseForFiles(nullptr, nullptr, L"", L".JPG", kFilter, paths));
+    EXPECT_EQ(fake.kind, CLSID_FileOpenDialog);
+    EXPECT_EQ(fake.name, L"");
+    EXPECT_EQ(fake.type, 2u);
+    EXPECT_EQ(fake.extension, L".JPG");
+}
+
 // A folder
 
 namespace
@@ -474,6 +499,94 @@ TEST_F(BrowseTest, AFolderOutsideOfTheFileSystemIsNone)
     wchar_t path[MAX_PATH] = L"C:\\";
     EXPECT_EQ(BrowseForDir(nullptr, L"", path), 0);
     EXPECT_STREQ(path, L"C:\\");
+}
+
+namespace
+{
+
+/// The shell's allocator, which takes down what is freed.
+class CountingAllocator : public IMalloc
+{
+public:
+    static inline std::vector<void*> freed;
+    static inline int uses = 0;
+
+    static HRESULT WINAPI get(IMalloc** allocator)
+    {
+        ++uses;
+        static CountingAllocator s_only;
+        *allocator = &s_only;
+        return S_OK;
+    }
+
+    STDMETHODIMP QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
+    STDMETHODIMP_(ULONG) AddRef() override { return static_cast<ULONG>(++uses); }
+    STDMETHODIMP_(ULONG) Release() override { return static_cast<ULONG>(--uses); }
+    STDMETHODIMP_(void*) Alloc(SIZE_T size) override { return ::CoTaskMemAlloc(size); }
+    STDMETHODIMP_(void*) Realloc(void* memory, SIZE_T size) override
+    {
+        return ::CoTaskMemRealloc(memory, size);
+    }
+    STDMETHODIMP_(void) Free(void* memory) override
+    {
+        freed.push_back(memory);
+        ::CoTaskMemFree(memory);
+    }
+    STDMETHODIMP_(SIZE_T) GetSize(void*) override { return 0; }
+    STDMETHODIMP_(int) DidAlloc(void*) override { return -1; }
+    STDMETHODIMP_(void) HeapMinimize() override {}
+};
+
+/// OLE as a thread starts it, whose uses are counted.
+struct Ole
+{
+    static inline HRESULT answer = S_OK;
+    static inline int uses = 0;
+    static inline int usesWhileAsked = 0;
+
+    static HRESULT WINAPI begin(void*)
+    {
+        uses += SUCCEEDED(answer);
+        return answer;
+    }
+    static void WINAPI end() { --uses; }
+    static LPITEMIDLIST WINAPI ask(LPBROWSEINFOW)
+    {
+        usesWhileAsked = uses;
+        return nullptr;
+    }
+};
+
+} // namespace
+
+TEST_F(BrowseTest, WhatTheFolderDialogGivesIsFreedByTheShellsAllocator)
+{
+    const ImportPatch asking(L"ovoui.dll", "SHBrowseForFolderW", reinterpret_cast<void*>(&AskedFolder::ask));
+    const ImportPatch patch(L"ovoui.dll", "SHGetMalloc", reinterpret_cast<void*>(&CountingAllocator::get));
+    LPITEMIDLIST outside = nullptr;
+    ASSERT_HRESULT_SUCCEEDED(::SHGetSpecialFolderLocation(nullptr, CSIDL_CONTROLS, &outside));
+    for (const LPITEMIDLIST answer : {::ILCreateFromPathW(files.folder().c_str()), outside, LPITEMIDLIST{}}) {
+        CountingAllocator::freed.clear();
+        AskedFolder::answer = answer;
+        wchar_t path[MAX_PATH] = L"C:\\";
+        EXPECT_EQ(BrowseForDir(nullptr, L"", path), answer && answer != outside ? 1 : 0);
+        EXPECT_EQ(CountingAllocator::freed, answer ? std::vector<void*>{answer} : std::vector<void*>{});
+        EXPECT_EQ(CountingAllocator::uses, 0) << "it is released";
+    }
+}
+
+TEST_F(BrowseTest, TheFolderDialogIsShownWithOleStarted)
+{
+    const ImportPatch asking(L"ovoui.dll", "SHBrowseForFolderW", reinterpret_cast<void*>(&Ole::ask));
+    const ImportPatch begin(L"ovoui.dll", "OleInitialize", reinterpret_cast<void*>(&Ole::begin));
+    const ImportPatch end(L"ovoui.dll", "OleUninitialize", reinterpret_cast<void*>(&Ole::end));
+    for (const HRESULT answer : {S_OK, S_FALSE, RPC_E_CHANGED_MODE}) {
+        Ole::answer = answer;
+        wchar_t path[MAX_PATH] = L"C:\\";
+        EXPECT_EQ(BrowseForDir(nullptr, L"", path), 0);
+        EXPECT_EQ(Ole::usesWhileAsked, SUCCEEDED(answer) ? 1 : 0);
+        EXPECT_EQ(Ole::uses, 0) << "what was not started is not ended";
+    }
 }
 
 // Folders that are not to be read, and folders of other machines

@@ -148,6 +148,7 @@ TEST_P(ExtraControls, ARadioGroupTellsItsButton)
     DWORD before = 1;
     DWORD after = 0;
     DWORD set = 0;
+    DWORD setBack = 0;
     auto answering = whenAsked()
                          .then([&] { before = dialog.GetSelectedRadioButton(IDC_SIZES); })
                          .click([] { return controlWithText(L"&Large"); })
@@ -156,6 +157,8 @@ TEST_P(ExtraControls, ARadioGroupTellsItsButton)
                              after = dialog.GetSelectedRadioButton(IDC_SIZES);
                              dialog.SetSelectedRadioButton(IDC_SIZES, IDC_SMALL);
                              set = dialog.GetSelectedRadioButton(IDC_SIZES);
+                             dialog.SetSelectedRadioButton(IDC_SIZES, IDC_LARGE);
+                             setBack = dialog.GetSelectedRadioButton(IDC_SIZES);
                          })
                          .key(VK_ESCAPE)
                          .start();
@@ -163,6 +166,7 @@ TEST_P(ExtraControls, ARadioGroupTellsItsButton)
     EXPECT_EQ(before, 0u);
     EXPECT_EQ(after, static_cast<DWORD>(IDC_LARGE));
     EXPECT_EQ(set, static_cast<DWORD>(IDC_SMALL));
+    EXPECT_EQ(setBack, static_cast<DWORD>(IDC_LARGE)) << "one at a time";
 }
 
 TEST_P(ExtraControls, ATextIsShown)
@@ -187,6 +191,34 @@ TEST_P(ExtraControls, AnExceptionClosesTheDialogAndComesOut)
     comesOut([] { return controlWithText(L"Deta&ils"); });
     comesOut([] { return controlWithText(L"&Large"); });
     comesOut(&onMenuButton);
+}
+
+TEST(ExtraControlsOfTheNewDialog, AreThereBeforeItIsShown)
+{
+    const WithExtras dialog(Kind::NewStyle);
+    for (const DWORD id : {IDC_NOTE, IDC_DETAILS, IDC_OPEN_LIST, IDC_SIZES, IDC_LINE})
+        EXPECT_TRUE(dialog.GetControlStateVisible(id)) << id;
+    EXPECT_FALSE(dialog.GetControlStateVisible(IDC_LINE + 100));
+}
+
+TEST(ExtraControlsOfTheClassicDialog, OpenTheirMenuBelowItsButton)
+{
+    WithExtras dialog(Kind::Classic);
+    CRect button;
+    CRect menu;
+    auto answering = whenAsked()
+                         .click(&onMenuButton)
+                         .waitFor("the menu", [] { return shownMenu() != nullptr; })
+                         .then([&] {
+                             ::GetWindowRect(menuButton(), &button);
+                             ::GetWindowRect(shownMenu(), &menu);
+                         })
+                         .key(VK_ESCAPE)
+                         .waitFor("the menu's end", [] { return shownMenu() == nullptr; })
+                         .key(VK_ESCAPE)
+                         .start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(menu.TopLeft(), CPoint(button.left, button.bottom));
 }
 
 TEST(ExtraControlsOfTheClassicDialog, MayDestroyTheOwnerBeforeTheirMenuOpens)

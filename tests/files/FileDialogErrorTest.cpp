@@ -13,6 +13,7 @@
 
 #include <commdlg.h>
 
+#include <stdexcept>
 #include <vector>
 
 using namespace ovo::testkit;
@@ -315,6 +316,60 @@ TEST(NewStyleEvents, EachCarriesAnExceptionToTheCaller)
                 EXPECT_TRUE(raising.happened());
             }
         }
+}
+
+namespace
+{
+
+/// A host whose handlers raise at every event.
+class Unlucky : public COVOFileDialog
+{
+public:
+    Unlucky()
+        : COVOFileDialog(TRUE, nullptr, nullptr, 0, nullptr, nullptr, TRUE)
+    {
+    }
+
+protected:
+    BOOL OnFileNameOK(BOOL) override { throw std::runtime_error("of the file"); }
+    void OnItemSelected(DWORD, DWORD item) override { throw static_cast<int>(item); }
+};
+
+void selectItem(IFileDialogEvents& events, DWORD item)
+{
+    IFileDialogControlEvents* controls = nullptr;
+    events.QueryInterface(IID_IFileDialogControlEvents, reinterpret_cast<void**>(&controls));
+    controls->OnItemSelected(nullptr, 1, item);
+    controls->Release();
+}
+
+} // namespace
+
+TEST(NewStyleEvents, OfSeveralExceptionsTheFirstComesOutAndNoneIsLeft)
+{
+    constexpr HRESULT kCancelled = HRESULT_FROM_WIN32(ERROR_CANCELLED);
+    FakeShellDialog fake;
+    const Unlucky dialog;
+    fake.onShow = [&](IFileDialogEvents& events) {
+        selectItem(events, 7);
+        EXPECT_EQ(fake.closed, kCancelled) << "it has no window that a timer could close";
+        selectItem(events, 8);
+        return kCancelled;
+    };
+    try {
+        dialog.DoModal();
+        ADD_FAILURE() << "nothing was raised";
+    } catch (const int item) {
+        EXPECT_EQ(item, 7);
+    }
+    fake.onShow = [&](IFileDialogEvents& events) {
+        selectItem(events, 9);
+        events.OnFileOk(fake.dialog()); // what this raises comes out, since the framework's goes first
+        return kCancelled;
+    };
+    EXPECT_ANY_THROW(dialog.DoModal());
+    fake.onShow = [](IFileDialogEvents&) { return kCancelled; };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL) << "of the other one nothing is left";
 }
 
 TEST(ClassicSelection, OfNothingRaisesTheErrorOfIntegers)

@@ -2,7 +2,11 @@
 #include "HostDialog.h"
 #include "resource.h"
 
+#include "mfc/cdlg/FakeClassicDialog.h"
+#include "mfc/cdlg/FakeShellDialog.h"
+#include <testkit/GuiThread.h>
 #include <testkit/ImportPatch.h>
+#include <testkit/MemoryCounter.h>
 #include <testkit/TestApp.h>
 
 #include <gtest/gtest.h>
@@ -28,6 +32,19 @@ protected:
 std::string idOf(int id)
 {
     return std::to_string(id);
+}
+
+constexpr UINT kPostInit = 0x0E18;
+
+/// Lets the message loop run for several of the shortest periods of a timer.
+void waitForTicks()
+{
+    static int s_ticks;
+    s_ticks = 0;
+    const UINT_PTR timer =
+        ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR, DWORD) { ++s_ticks; });
+    EXPECT_TRUE(GuiThread::runUntil([] { return s_ticks >= 5; }));
+    ::KillTimer(nullptr, timer);
 }
 
 } // namespace
@@ -319,7 +336,103 @@ TEST_P(FileDialogTest, BeginsInOrder)
                                                                     "PostInit 0 0"}));
 }
 
+TEST(PlainHost, TakesTheFileInEitherDialog)
+{
+    FakeShellDialog shell;
+    shell.results = {L"C:\\a.txt"};
+    const COVOFileDialog newer(TRUE, nullptr, nullptr, 0, nullptr, nullptr, TRUE);
+    EXPECT_EQ(newer.DoModal(), IDOK);
+
+    FakeClassicDialog fake;
+    const COVOFileDialog classic(TRUE, nullptr, nullptr, OFN_ENABLETEMPLATE, nullptr, nullptr, FALSE);
+    classic.ofn->lpTemplateName = MAKEINTRESOURCE(IDD_CONTROLS);
+    fake.onShow = [&fake](HWND child) {
+        EXPECT_EQ(fake.notify(CDN_FILEOK), 0) << "not refused";
+        EXPECT_EQ(::SendMessageW(child, kPostInit, 0, 0), 1);
+        ::SendMessageW(::GetParent(child), WM_COMMAND, IDOK, 0);
+    };
+    EXPECT_EQ(classic.DoModal(), IDOK);
+}
+
+namespace
+{
+
+int s_saves = 0;
+
+BOOL WINAPI countSave(OPENFILENAMEW*)
+{
+    ++s_saves;
+    return FALSE;
+}
+
+} // namespace
+
+TEST(PlainHost, HandsItsArgumentsToTheSystem)
+{
+    const auto made = [](Kind kind) {
+        return std::make_unique<COVOFileDialog>(FALSE, L"txt", L"plan", OFN_OVERWRITEPROMPT, L"Text|*.txt||",
+                                                nullptr, kind == Kind::NewStyle);
+    };
+    FakeShellDialog shell;
+    shell.results = {L"C:\\plan.txt"};
+    EXPECT_EQ(made(Kind::NewStyle)->DoModal(), IDOK);
+    EXPECT_EQ(shell.kind, CLSID_FileSaveDialog);
+    EXPECT_EQ(shell.extension, L"txt");
+    EXPECT_EQ(shell.name, L"plan");
+    EXPECT_NE(shell.options & FOS_OVERWRITEPROMPT, 0u);
+
+    const ImportPatch saving(L"ovomfc.dll", "GetSaveFileNameW", reinterpret_cast<void*>(&countSave));
+    s_saves = 0;
+    const auto classic = made(Kind::Classic);
+    EXPECT_EQ(classic->DoModal(), IDCANCEL);
+    EXPECT_EQ(s_saves, 1);
+    const OPENFILENAME& record = *classic->ofn;
+    EXPECT_STREQ(record.lpstrDefExt, L"txt");
+    EXPECT_STREQ(record.lpstrFile, L"plan");
+    EXPECT_EQ(std::wstring(record.lpstrFilter, 12), std::wstring(L"Text\0*.txt\0", 12));
+    EXPECT_NE(record.Flags & OFN_OVERWRITEPROMPT, 0u);
+}
+
 // The classic path
+
+TEST(ClassicHost, IsToldThatTheDialogIsShownOnlyWhenItIs)
+{
+    FakeClassicDialog fake;
+    HostDialog dialog(Kind::Classic);
+    fake.onShow = [&](HWND child) {
+        ::ShowWindow(child, SW_HIDE);
+        dialog.forgetEvents();
+        EXPECT_EQ(::SendMessageW(child, kPostInit, 3, 4), 0);
+        waitForTicks();
+        EXPECT_EQ(dialog.count("PostInit 3 4") + dialog.count("PostInit 0 0"), 0);
+        ::ShowWindow(child, SW_SHOW);
+        EXPECT_TRUE(GuiThread::runUntil([&] { return dialog.count("PostInit 0 0") > 0; }));
+        waitForTicks();
+        EXPECT_EQ(dialog.count("PostInit 0 0"), 1);
+        EXPECT_EQ(::SendMessageW(child, kPostInit, 3, 4), 1) << "the host's answer";
+        EXPECT_EQ(dialog.count("PostInit 3 4"), 1);
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+}
+
+TEST(ClassicHost, ReadsControlsAsAWindowDoes)
+{
+    FakeClassicDialog fake;
+    HostDialog dialog(Kind::Classic);
+    fake.onShow = [&](HWND child) {
+        ::SetDlgItemTextW(child, IDC_QUALITY, L"4000000000");
+        BOOL understood = FALSE;
+        EXPECT_EQ(dialog.GetDlgItemInt(IDC_QUALITY, &understood, FALSE), 4'000'000'000u);
+        EXPECT_TRUE(understood);
+        dialog.GetDlgItemInt(IDC_QUALITY, &understood, TRUE);
+        EXPECT_FALSE(understood) << "too large for a number with a sign";
+        wchar_t text[8] = L"#######";
+        EXPECT_EQ(dialog.GetDlgItemText(IDC_QUALITY, text, 3), 2);
+        EXPECT_STREQ(text, L"40");
+        EXPECT_EQ(text[3], L'#');
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+}
 
 TEST(ClassicHost, TellsAPushButtonAsACheckBox)
 {
@@ -595,6 +708,62 @@ TEST(NewStyleHost, PutsTheLabelInFrontOfTheComboBox)
         whenAsked().then([&] { shown = controlWithText(L"&Format:") != nullptr; }).key(VK_ESCAPE).start();
     dialog.DoModal();
     EXPECT_TRUE(shown);
+}
+
+TEST(NewStyleHost, PutsControlsIntoGroupsAndTakesThemAsTheHostSays)
+{
+    COVOFileDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY | OFN_NOCHANGEDIR, nullptr, nullptr, TRUE);
+    constexpr DWORD kOptions = 90;
+    constexpr DWORD kMore = 91;
+    constexpr DWORD kUnlabelled = 92;
+    constexpr DWORD kEmpty = 93;
+    {
+        const Labels labels(IDD_CONTROLS);
+        dialog.StartVisualGroup(kOptions, L"Options:");
+        dialog.AddCheckButton(labels, IDC_BACKUP, true);
+        dialog.EndVisualGroup();
+        dialog.AddComboBox(labels, IDC_FORMAT_LABEL, IDC_FORMAT);
+        dialog.StartVisualGroup(kMore, L"More:");
+        dialog.AddComboBox(kUnlabelled);
+        dialog.AddControlItem(kUnlabelled, 4, L"Four");
+        dialog.AddControlItem(kUnlabelled, 5, L"Five");
+        dialog.SetSelectedControlItem(kUnlabelled, 5);
+        dialog.EndVisualGroup();
+        ::SetWindowLongPtrW(labels.GetDlgItem(IDC_QUALITY_TEXT)->m_hWnd, GWLP_ID, 0);
+        dialog.AddEditBox(labels, 0, kEmpty);
+    }
+    std::vector<std::wstring> missing{L"Options:", L"&Format:", L"More:"};
+    auto answering = whenAsked()
+                         .then([&] {
+                             std::erase_if(missing, [](const auto& label) {
+                                 return controlWithText(label.c_str()) != nullptr;
+                             });
+                         })
+                         .key(VK_ESCAPE)
+                         .start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(missing, std::vector<std::wstring>{});
+    EXPECT_TRUE(dialog.GetCheckButtonState(IDC_BACKUP)) << "as it was added";
+    EXPECT_EQ(dialog.GetSelectedControlItem(kUnlabelled), 5);
+    EXPECT_EQ(dialog.GetEditBoxText(kEmpty), L"")
+        << "0 stands for no text, not for a control with that number";
+}
+
+TEST(NewStyleHost, KeepsNothingOfTheTextsThatItReads)
+{
+    constexpr std::size_t kLength = 5000;
+    constexpr int kRounds = 200;
+    COVOFileDialog dialog(TRUE, nullptr, nullptr, 0, nullptr, nullptr, TRUE);
+    {
+        const Labels labels(IDD_CONTROLS);
+        labels.GetDlgItem(IDC_QUALITY_TEXT)->SetWindowText(std::wstring(kLength, L'x').c_str());
+        dialog.AddEditBox(labels, IDC_QUALITY_TEXT, IDC_QUALITY);
+    }
+    ASSERT_EQ(dialog.GetEditBoxText(IDC_QUALITY).size(), kLength);
+    const MemoryCounter memory;
+    for (int i = 0; i < kRounds; ++i)
+        dialog.GetEditBoxText(IDC_QUALITY);
+    EXPECT_LT(memory.grown(), kRounds * static_cast<long long>(kLength));
 }
 
 TEST(NewStyleHost, BeginsInTheFolderThatWasSet)

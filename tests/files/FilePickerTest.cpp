@@ -2,10 +2,13 @@
 #include "HostDialog.h"
 
 #include "mfc/cdlg/FakeShellDialog.h"
+#include <testkit/ImportPatch.h>
 
 #include <ovoui/files/FilePicker.h>
 
 #include <gtest/gtest.h>
+
+#include <shlobj.h>
 
 using namespace ovo::testkit;
 namespace fs = std::filesystem;
@@ -18,6 +21,21 @@ class FilePicker : public testing::Test
 protected:
     TemporaryFiles files{L"a.txt", L"b.txt", L"p.png", L"below\\deep.txt"};
     const std::vector<FileType> types{{L"Text", {L"*.txt"}}, {L"Pictures", {L"*.png", L"*.jpg"}}};
+};
+
+/// The system's older dialog for folders, which the test answers.
+struct OlderDialog
+{
+    static inline std::wstring title;
+    static inline std::wstring start;
+    static inline std::wstring answer;
+
+    static LPITEMIDLIST WINAPI ask(LPBROWSEINFOW question)
+    {
+        title = question->lpszTitle;
+        start = reinterpret_cast<const wchar_t*>(question->lParam);
+        return ::ILCreateFromPathW(answer.c_str());
+    }
 };
 
 std::wstring titleOf(HWND wnd)
@@ -124,6 +142,80 @@ TEST_F(FilePicker, AsksInTheClassicDialogsWhereThereAreNoOthers)
     }
     auto cancelling = whenAsked().key(VK_ESCAPE).start();
     EXPECT_EQ(pickFolder({.folder = files.folder()}), std::nullopt);
+}
+
+TEST_F(FilePicker, SeveralFilesOfTheClassicDialogBeginWithTheNameAndHaveRoom)
+{
+    FakeShellDialog fake;
+    fake.creation = REGDB_E_CLASSNOTREG;
+    {
+        auto taking = whenAsked().key(VK_RETURN).start();
+        EXPECT_EQ(pickFiles({.folder = files.folder(), .name = L"b.txt", .types = types}),
+                  std::vector<fs::path>{files.path(L"b.txt")});
+    }
+    std::vector<fs::path> expected;
+    std::wstring typed;
+    for (int i = 100; i < 140; ++i) { // their names take more than 260 characters
+        const std::wstring name = L"f " + std::to_wstring(i) + L".txt";
+        files.addFile(name);
+        expected.emplace_back(files.path(name));
+        typed += L'"' + name + L"\" ";
+    }
+    auto answering =
+        whenAsked().then([&] { ::SetWindowTextW(nameBox(), typed.c_str()); }).key(VK_RETURN).start();
+    EXPECT_EQ(pickFiles({.folder = files.folder(), .types = types}), expected);
+}
+
+TEST_F(FilePicker, AFolderOfTheOlderDialogIsGiven)
+{
+    FakeShellDialog fake;
+    fake.creation = REGDB_E_CLASSNOTREG;
+    const ImportPatch patch(L"ovoui.dll", "SHBrowseForFolderW", reinterpret_cast<void*>(&OlderDialog::ask));
+    OlderDialog::answer = files.path(L"below");
+    const FolderQuestion question{.title = L"Where to?", .folder = files.path(L"gone")};
+    EXPECT_EQ(pickFolder(question), fs::path(files.path(L"below")));
+    EXPECT_EQ(OlderDialog::title, L"Where to?");
+    EXPECT_EQ(OlderDialog::start, files.folder());
+    EXPECT_EQ(pickFolders(question), std::vector<fs::path>{files.path(L"below")});
+}
+
+TEST_F(FilePicker, HandsOverNameTypeAndTheExtensionWithoutItsPeriod)
+{
+    FakeShellDialog fake;
+    fake.results = {L"C:\\a"};
+    const std::wstring name(400, L'n');
+    pickFile({.name = name, .types = types, .extension = L".JPG"});
+    EXPECT_EQ(fake.kind, CLSID_FileOpenDialog);
+    EXPECT_EQ(fake.name, name);
+    EXPECT_EQ(fake.type, 2u);
+    EXPECT_EQ(fake.extension, L"JPG");
+    pickFileToSave({.name = L"b.txt", .types = types, .extension = L".txt"});
+    EXPECT_EQ(fake.kind, CLSID_FileSaveDialog);
+    EXPECT_EQ(fake.name, L"b.txt");
+    EXPECT_EQ(fake.type, 1u);
+    EXPECT_EQ(fake.extension, L"txt");
+}
+
+TEST_F(FilePicker, EachFunctionAsksInItsWay)
+{
+    constexpr DWORD kAlways = FOS_NOCHANGEDIR | FOS_PATHMUSTEXIST | FOS_SHAREAWARE | FOS_FORCEFILESYSTEM;
+    FakeShellDialog fake;
+    fake.results = {L"C:\\a"};
+    struct Case
+    {
+        void (*ask)();
+        DWORD flags;
+    };
+    for (const Case& c :
+         {Case{[] { pickFile({}); }, FOS_FILEMUSTEXIST},
+          Case{[] { pickFiles({}); }, FOS_FILEMUSTEXIST | FOS_ALLOWMULTISELECT},
+          Case{[] { pickFileToSave({}); }, FOS_OVERWRITEPROMPT},
+          Case{[] { pickFolder({}); }, FOS_FILEMUSTEXIST | FOS_PICKFOLDERS},
+          Case{[] { pickFolders({}); }, FOS_FILEMUSTEXIST | FOS_ALLOWMULTISELECT | FOS_PICKFOLDERS}}) {
+        fake.options = 0;
+        c.ask();
+        EXPECT_EQ(fake.options, kAlways | c.flags);
+    }
 }
 
 TEST_F(FilePicker, ADialogThatDoesNotTakeFoldersIsNotAskedForOne)

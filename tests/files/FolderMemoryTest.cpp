@@ -1,6 +1,7 @@
 // Where a dialog begins: default folders, remembered ones, places.
 #include "HostDialog.h"
 
+#include "mfc/cdlg/FakeClassicDialog.h"
 #include "mfc/cdlg/FakeShellDialog.h"
 #include <testkit/TemporaryProfile.h>
 
@@ -85,6 +86,27 @@ TEST_F(FolderMemory, ARememberedFolderThatIsGoneGivesTheNearest)
     HostDialog dialog(Kind::Classic);
     dialog.RememberFolder(kPictures);
     EXPECT_EQ(beginningOf(dialog), files.folder());
+}
+
+TEST_F(FolderMemory, ADialogThatIsShownAgainBeginsWhereItWasLeft)
+{
+    FakeClassicDialog fake;
+    HostDialog dialog(Kind::Classic);
+    dialog.RememberFolder(kPictures);
+    std::vector<std::wstring> beginnings;
+    fake.onShow = [&](HWND child) {
+        const OPENFILENAME& record = *dialog.ofn;
+        beginnings.emplace_back(record.lpstrInitialDir ? record.lpstrInitialDir : L"(the system's)");
+        ::lstrcpynW(record.lpstrFile, files.path(L"below\\deep.txt").c_str(),
+                    static_cast<int>(record.nMaxFile));
+        ::SendMessageW(::GetParent(child), WM_COMMAND, IDOK, 0);
+    };
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    AfxGetApp()->WriteProfileString(L"settings", kEntry, nullptr);
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(beginnings,
+              (std::vector<std::wstring>{L"(the system's)", files.path(L"below"), L"(the system's)"}));
 }
 
 TEST_F(FolderMemory, PlacesAreTakenSilently)

@@ -201,6 +201,31 @@ TEST_F(AccessibleControl, AWindowInAPartsPlaceIsAnObjectOfItsOwn)
     object->Release();
 }
 
+TEST_F(AccessibleControl, AmongWindowsItAnswersAsItsWindowAndItsPartsNot)
+{
+    const AccessibleView seen(control);
+    IAccessible* window = nullptr;
+    ASSERT_HRESULT_SUCCEEDED(::CreateStdAccessibleObject(control, OBJID_CLIENT, __uuidof(IAccessible),
+                                                         reinterpret_cast<void**>(&window)));
+    const VARIANT self = AccessibleView::numbered(CHILDID_SELF);
+    const VARIANT first = AccessibleView::numbered(1);
+    VARIANT found{};
+    VARIANT expected{};
+    const HRESULT navigated = window->accNavigate(NAVDIR_NEXT, self, &expected);
+    EXPECT_NE(navigated, DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(seen->accNavigate(NAVDIR_NEXT, self, &found), navigated);
+    EXPECT_EQ(found.vt, expected.vt);
+    ::VariantClear(&found);
+    ::VariantClear(&expected);
+    EXPECT_EQ(seen->accSelect(SELFLAG_TAKEFOCUS, self), window->accSelect(SELFLAG_TAKEFOCUS, self));
+    window->Release();
+
+    EXPECT_EQ(seen->accNavigate(NAVDIR_NEXT, first, &found), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(seen->accSelect(SELFLAG_TAKEFOCUS, first), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(seen->get_accSelection(&found), S_FALSE);
+    EXPECT_EQ(found.vt, VT_EMPTY);
+}
+
 TEST_F(AccessibleControl, NumbersThatItDoesNotHaveAreRefused)
 {
     const AccessibleView seen(control);

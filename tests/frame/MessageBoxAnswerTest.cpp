@@ -48,15 +48,6 @@ int focusedId(HWND box)
     return ::GetParent(focus) == box ? ::GetDlgCtrlID(focus) : 0;
 }
 
-HRSRC WINAPI noDialogs(HMODULE module, LPCWSTR name, LPCWSTR type)
-{
-    if (type == RT_DIALOG) {
-        ::SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
-        return nullptr;
-    }
-    return ::FindResourceW(module, name, type);
-}
-
 } // namespace
 
 namespace
@@ -139,6 +130,16 @@ TEST(MessageBoxAnswer, EscapeAnswersCancelEvenWithoutACancelButton)
         EXPECT_EQ(answerByKey(type, VK_ESCAPE), IDCANCEL) << type;
 }
 
+TEST(MessageBoxAnswer, EscapeInTheTextAnswersCancelToo)
+{
+    auto answering = whenOpen()
+                         .click([] { return textControl(openBox()); })
+                         .waitFor("focus in the text", [] { return ::GetFocus() == textControl(openBox()); })
+                         .key(VK_ESCAPE)
+                         .start();
+    EXPECT_EQ(show({.type = MB_YESNO}), IDCANCEL) << "the close box would answer No";
+}
+
 TEST(MessageBoxAnswer, TheCloseBoxAnswersTheMildestButtonThereIs)
 {
     EXPECT_EQ(answerByClosing(MB_OK), IDOK);
@@ -214,6 +215,7 @@ TEST(MessageBoxAnswer, TheHelpButtonTellsTheOwnerAndLeavesTheBoxOpen)
 {
     static UINT s_help = 0;
     static WPARAM s_box = 0;
+    static LPARAM s_more = 0;
     static int s_times = 0;
     class HelpfulOwner : public CWnd
     {
@@ -223,12 +225,14 @@ TEST(MessageBoxAnswer, TheHelpButtonTellsTheOwnerAndLeavesTheBoxOpen)
             if (message == s_help) {
                 ++s_times;
                 s_box = wParam;
+                s_more = lParam;
             }
             return CWnd::WindowProc(message, wParam, lParam);
         }
     };
     s_help = ::RegisterWindowMessageW(L"commdlg_help");
     s_times = 0;
+    s_more = -1;
     HelpfulOwner owner;
     owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP, 0, 0, 200, 200, nullptr, nullptr);
 
@@ -244,6 +248,7 @@ TEST(MessageBoxAnswer, TheHelpButtonTellsTheOwnerAndLeavesTheBoxOpen)
     story.finish();
     EXPECT_EQ(s_times, 1);
     EXPECT_EQ(reinterpret_cast<HWND>(s_box), box);
+    EXPECT_EQ(s_more, 0);
     owner.DestroyWindow();
 }
 

@@ -3,6 +3,7 @@
 #include "MessageBoxScene.h"
 
 #include <ovocor/ovocor.h>
+#include <ovoui/frame/Geometry.h>
 #include <ovouires/resource.h>
 
 #include <gtest/gtest.h>
@@ -54,6 +55,34 @@ int screenWidth()
     return width;
 }
 
+/// The size of a text in the font that the box uses, in lines of its own.
+CSize sizeOf(const wchar_t* text)
+{
+    const HDC dc = ::GetDC(nullptr);
+    const HGDIOBJ previous = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
+    CRect size(0, 0, 0, 0);
+    ::DrawTextW(dc, text, -1, &size, DT_CALCRECT | DT_NOPREFIX | DT_EXTERNALLEADING);
+    ::SelectObject(dc, previous);
+    ::ReleaseDC(nullptr, dc);
+    return size.Size();
+}
+
+constexpr wchar_t kLongLabel[] = L"No to all of the others that are still to come";
+
+/// A language in which one button has much to say.
+int WINAPI longNoToAll(HINSTANCE module, UINT id, LPWSTR buffer, int size)
+{
+    if (id != IDS_BUTTON_NO_TO_ALL)
+        return ::LoadStringW(module, id, buffer, size);
+    ::lstrcpynW(buffer, kLongLabel, size);
+    return ::lstrlenW(buffer);
+}
+
+BOOL WINAPI noWorkArea(UINT action, UINT parameter, void* value, UINT how)
+{
+    return action != SPI_GETWORKAREA && ::SystemParametersInfoW(action, parameter, value, how);
+}
+
 } // namespace
 
 TEST(MessageBoxLayout, TheTextAndTheIconStandAtTheirPlaces)
@@ -63,6 +92,7 @@ TEST(MessageBoxLayout, TheTextAndTheIconStandAtTheirPlaces)
         EXPECT_EQ(placeInParent(iconControl(box)).TopLeft(), CPoint(10, 8));
         EXPECT_EQ(placeInParent(iconControl(box)).Size(), CSize(metric(SM_CXICON), metric(SM_CYICON)));
         EXPECT_EQ(::GetDlgCtrlID(iconControl(box)), -1);
+        EXPECT_EQ(style(iconControl(box)), 0x50000003u);
     });
 }
 
@@ -111,6 +141,7 @@ TEST(MessageBoxLayout, ButtonsAreAsTallAsTheFontSaysAndHoldEveryLabel)
         const TEXTMETRICW font = guiFont();
         for (const int id : buttonsFromTheLeft(box)) {
             const HWND button = ::GetDlgItem(box, id);
+            EXPECT_EQ(style(button) & ~DWORD{BS_TYPEMASK}, 0x50014000u) << "shown, for Tab, and notifying";
             EXPECT_EQ(placeInParent(button).Height(), font.tmHeight * 14 / 8);
             EXPECT_GE(placeInParent(button).Width(), font.tmAveCharWidth * 50 / 4);
             EXPECT_EQ(::SendMessageW(button, WM_GETFONT, 0, 0),
@@ -127,12 +158,44 @@ TEST(MessageBoxLayout, ButtonsAreAsTallAsTheFontSaysAndHoldEveryLabel)
     });
 }
 
+TEST(MessageBoxLayout, ButtonsAreAsWideAsTheWidestLabelOfAllSets)
+{
+    const ImportPatch patch{L"ovoui.dll", "LoadStringW", reinterpret_cast<void*>(&longNoToAll)};
+    inspect({.type = MB_OK}, [](HWND box) {
+        EXPECT_EQ(placeInParent(::GetDlgItem(box, IDOK)).Width(),
+                  sizeOf(kLongLabel).cx + 2 * metric(SM_CXEDGE));
+    });
+}
+
+TEST(MessageBoxLayout, TheTextControlHasTheRoomOfItsText)
+{
+    inspect({.text = L"Two lines,\nof which the second is the longer one."}, [](HWND box) {
+        const HWND text = textControl(box);
+        const CSize needed = sizeOf(L"Two lines,\r\nof which the second is the longer one.");
+        const auto margins = static_cast<DWORD>(::SendMessageW(text, EM_GETMARGINS, 0, 0));
+        EXPECT_EQ(clientRect(text).Width(),
+                  needed.cx + LOWORD(margins) + HIWORD(margins) + 2 * metric(SM_CXBORDER));
+        EXPECT_EQ(clientRect(text).Height(), needed.cy + 2 * metric(SM_CYBORDER));
+    });
+}
+
+TEST(MessageBoxLayout, AShortTextAndAScrolledOneHaveTheSystemsFont)
+{
+    const std::wstring scrolled = numberedLines(20);
+    for (const wchar_t* text : {L"Short.", scrolled.c_str()})
+        inspect({.text = text}, [](HWND box) {
+            EXPECT_EQ(::SendMessageW(textControl(box), WM_GETFONT, 0, 0),
+                      reinterpret_cast<LRESULT>(::GetStockObject(DEFAULT_GUI_FONT)));
+        });
+}
+
 TEST(MessageBoxLayout, TheDialogIsSizedToTheText)
 {
-    inspect({.text = L"A message of one line that is a good deal wider than its only button is."}, [](HWND box) {
-        const CRect text = placeInParent(textControl(box));
-        EXPECT_EQ(screenRect(box).Width(), text.Width() + 2 * metric(SM_CXDLGFRAME) + 62);
-    });
+    inspect({.text = L"A message of one line that is a good deal wider than its only button is."},
+            [](HWND box) {
+                const CRect text = placeInParent(textControl(box));
+                EXPECT_EQ(screenRect(box).Width(), text.Width() + 2 * metric(SM_CXDLGFRAME) + 62);
+            });
 }
 
 TEST(MessageBoxLayout, TheDialogIsSizedToManyButtons)
@@ -197,7 +260,8 @@ TEST(MessageBoxLayout, AnUnbreakableLineWiderThanTwoThirdsOfTheScreenIsScrolledS
             [](HWND box) { EXPECT_EQ(style(textControl(box)) & (WS_VSCROLL | WS_HSCROLL), 0u); });
     const std::wstring tall = wide + L"\n" + numberedLines(20);
     inspect({.text = tall.c_str()}, [](HWND box) {
-        EXPECT_EQ(style(textControl(box)) & (WS_VSCROLL | WS_HSCROLL), static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL));
+        EXPECT_EQ(style(textControl(box)) & (WS_VSCROLL | WS_HSCROLL),
+                  static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL));
     });
 }
 
@@ -208,6 +272,18 @@ TEST(MessageBoxLayout, ALongLineIsWrappedAtTwoThirdsOfTheScreen)
         text += L"words ";
     inspect({.text = text.c_str()}, [](HWND box) {
         EXPECT_LE(clientRect(textControl(box)).Width(), screenWidth() * 2 / 3 + 20);
+        EXPECT_GT(::SendMessageW(textControl(box), EM_GETLINECOUNT, 0, 0), 1);
+    });
+}
+
+TEST(MessageBoxLayout, AWordWiderThanTwoThirdsOfTheScreenGoesOnInTheNextLine)
+{
+    const std::wstring word(400, L'W');
+    inspect({.text = word.c_str()}, [](HWND box) {
+        const int limit = screenWidth() * 2 / 3;
+        const int width = clientRect(textControl(box)).Width();
+        EXPECT_LE(width, limit + 20);
+        EXPECT_GT(width, limit - 60) << "as much of it as may be";
         EXPECT_GT(::SendMessageW(textControl(box), EM_GETLINECOUNT, 0, 0), 1);
     });
 }
@@ -226,7 +302,8 @@ TEST(MessageBoxLayout, WithoutAnOwnerTheBoxIsCentredInTheWorkArea)
 TEST(MessageBoxLayout, WithAnOwnerTheBoxIsCentredOnItsClientSizeAtTheScreensOrigin)
 {
     CWnd owner;
-    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP | WS_VISIBLE, 300, 200, 700, 600, nullptr, nullptr);
+    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP | WS_VISIBLE, 300, 200, 700, 600, nullptr,
+                   nullptr);
     inspect({.owner = owner.m_hWnd}, [](HWND box) {
         const CRect place = screenRect(box);
         EXPECT_EQ(place.left, (700 - place.Width()) / 2);
@@ -238,7 +315,8 @@ TEST(MessageBoxLayout, WithAnOwnerTheBoxIsCentredOnItsClientSizeAtTheScreensOrig
 TEST(MessageBoxLayout, AnEmptyOwnerDoesNotCount)
 {
     CWnd owner;
-    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP | WS_VISIBLE, 300, 200, 0, 0, nullptr, nullptr);
+    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP | WS_VISIBLE, 300, 200, 0, 0, nullptr,
+                   nullptr);
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
     inspect({.owner = owner.m_hWnd}, [&work](HWND box) {
@@ -248,10 +326,33 @@ TEST(MessageBoxLayout, AnEmptyOwnerDoesNotCount)
     owner.DestroyWindow();
 }
 
+TEST(MessageBoxLayout, ABoxLargerThanItsOwnerIsPulledIntoView)
+{
+    CWnd owner;
+    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP | WS_VISIBLE, 300, 200, 60, 40, nullptr,
+                   nullptr);
+    CRect work;
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    inspect({.owner = owner.m_hWnd},
+            [&work](HWND box) { EXPECT_EQ(screenRect(box).TopLeft(), work.TopLeft()); });
+    owner.DestroyWindow();
+}
+
+TEST(MessageBoxLayout, WithoutAWorkAreaTheBoxIsCentredInAScreenOfTheUsualSize)
+{
+    const ImportPatch patch{L"ovoui.dll", "SystemParametersInfoW", reinterpret_cast<void*>(&noWorkArea)};
+    inspect({}, [](HWND box) {
+        const CRect place = screenRect(box);
+        CRect expected(CPoint((1280 - place.Width()) / 2, (1024 - place.Height()) / 2), place.Size());
+        EnsureRectVisible(expected);
+        EXPECT_EQ(place, expected);
+    });
+}
+
 TEST(MessageBoxLayout, NoCaptionIsTheDefaultCaption)
 {
-    wchar_t expected[256];
-    ASSERT_GT(::LoadStringW(::GetModuleHandleW(L"ovouires.dll"), IDS_MESSAGE_CAPTION, expected, 256), 0);
+    const std::wstring expected = libraryString(IDS_MESSAGE_CAPTION);
+    ASSERT_FALSE(expected.empty());
     for (const wchar_t* caption : {static_cast<const wchar_t*>(nullptr), L""})
         inspect({.caption = caption}, [&](HWND box) { EXPECT_EQ(windowText(box), expected); });
     inspect({.caption = L"Own"}, [](HWND box) { EXPECT_EQ(windowText(box), L"Own"); });
@@ -260,7 +361,8 @@ TEST(MessageBoxLayout, NoCaptionIsTheDefaultCaption)
 TEST(MessageBoxLayout, AFontThatCannotBeMeasuredThrowsAndLeavesNothingBehind)
 {
     CWnd owner;
-    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP | WS_VISIBLE, 0, 0, 300, 300, nullptr, nullptr);
+    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP | WS_VISIBLE, 0, 0, 300, 300, nullptr,
+                   nullptr);
     {
         const ImportPatch patch{L"ovomfc.dll", "GetTextMetricsW", reinterpret_cast<void*>(&noTextMetrics)};
         try {

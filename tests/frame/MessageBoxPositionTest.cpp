@@ -63,6 +63,16 @@ std::wstring asText(CPoint point)
     return std::to_wstring(point.x) + L"," + std::to_wstring(point.y);
 }
 
+HWND WINAPI makeAllButButtons(DWORD extendedStyle, LPCWSTR windowClass, LPCWSTR name, DWORD style, int x,
+                              int y, int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
+                              void* data)
+{
+    if (!IS_INTRESOURCE(windowClass) && ::lstrcmpiW(windowClass, L"BUTTON") == 0)
+        return nullptr;
+    return ::CreateWindowExW(extendedStyle, windowClass, name, style, x, y, width, height, parent, menu,
+                             instance, data);
+}
+
 } // namespace
 
 TEST_F(MessageBoxPosition, ABoxThatWasNotMovedIsNotRemembered)
@@ -145,6 +155,21 @@ TEST_F(MessageBoxPosition, NegativePlacesAreReadAndWritten)
         EXPECT_EQ(screenRect(box).left, 0) << "pulled back from the left";
         EXPECT_EQ(defaultButtonPlace(box, IDOK).y, 200);
     });
+}
+
+TEST_F(MessageBoxPosition, ABoxWhoseButtonsCannotBeMadeIsUsableAndRemembersItsCorner)
+{
+    const ImportPatch patch{L"ovoui.dll", "CreateWindowExW", reinterpret_cast<void*>(&makeAllButButtons)};
+    CPoint corner;
+    const int answer = inspect({.settingsKey = L"bare"}, [&corner](HWND box) {
+        EXPECT_TRUE(buttonsFromTheLeft(box).empty());
+        EXPECT_EQ(::GetFocus(), textControl(box)) << "the keys go somewhere";
+        ::SetWindowPos(box, nullptr, 150, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        corner = screenRect(box).TopLeft();
+    });
+    EXPECT_EQ(answer, IDCANCEL);
+    EXPECT_EQ(saved(L"bare").GetString(), asText(corner));
+    inspect({.settingsKey = L"bare"}, [&corner](HWND box) { EXPECT_EQ(screenRect(box).TopLeft(), corner); });
 }
 
 namespace

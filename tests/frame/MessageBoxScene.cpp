@@ -35,6 +35,15 @@ BOOL WINAPI noTextMetrics(HDC, LPTEXTMETRICW)
     return FALSE;
 }
 
+HRSRC WINAPI noDialogs(HMODULE module, LPCWSTR name, LPCWSTR type)
+{
+    if (type == RT_DIALOG) {
+        ::SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
+        return nullptr;
+    }
+    return ::FindResourceW(module, name, type);
+}
+
 HWND textControl(HWND box)
 {
     return ::GetDlgItem(box, IDC_MESSAGE_TEXT);
@@ -77,6 +86,13 @@ CRect placeInParent(HWND wnd)
     CRect rect = screenRect(wnd);
     ::MapWindowPoints(nullptr, ::GetParent(wnd), reinterpret_cast<POINT*>(&rect), 2);
     return rect;
+}
+
+std::wstring libraryString(UINT id)
+{
+    wchar_t text[256];
+    const int length = ::LoadStringW(::GetModuleHandleW(L"ovouires.dll"), id, text, 256);
+    return {text, static_cast<std::size_t>(length)};
 }
 
 std::wstring numberedLines(int count)

@@ -36,6 +36,9 @@ int inspect(const BoxArguments& arguments, const std::function<void(HWND box)>& 
 /// Takes the place of GetTextMetricsW: the font cannot be measured.
 BOOL WINAPI noTextMetrics(HDC dc, LPTEXTMETRICW metrics);
 
+/// Takes the place of FindResourceW: there is no template of a dialog.
+HRSRC WINAPI noDialogs(HMODULE module, LPCWSTR name, LPCWSTR type);
+
 /// The control that shows the text.
 HWND textControl(HWND box);
 /// The control that shows the icon.
@@ -47,5 +50,7 @@ std::wstring windowText(HWND wnd);
 /// A child's rectangle in the client coordinates of its parent.
 CRect placeInParent(HWND wnd);
 CRect screenRect(HWND wnd);
+/// A string of the library's resources.
+std::wstring libraryString(UINT id);
 /// `count` lines that say their number.
 std::wstring numberedLines(int count);

@@ -2,10 +2,30 @@
 #include "MessageBoxScene.h"
 
 #include <testkit/Clipboard.h>
+#include <testkit/ImportPatch.h>
 
 #include <gtest/gtest.h>
 
 using namespace ovo::testkit;
+
+namespace
+{
+
+int s_refusals = 0;
+
+HGLOBAL WINAPI noMemory(UINT, SIZE_T)
+{
+    ++s_refusals;
+    ::SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return nullptr;
+}
+
+Story copyUntil(std::function<bool()> condition)
+{
+    return whenOpen().chordUntil("the copying", VK_CONTROL, 'C', std::move(condition)).key(VK_ESCAPE);
+}
+
+} // namespace
 
 TEST(MessageBoxText, EveryKindOfLineEndStartsANewLine)
 {
@@ -18,6 +38,18 @@ TEST(MessageBoxText, EveryKindOfLineEndStartsANewLine)
 TEST(MessageBoxText, AmpersandsAreText)
 {
     inspect({.text = L"Oak & elm"}, [](HWND box) { EXPECT_EQ(windowText(textControl(box)), L"Oak & elm"); });
+}
+
+TEST(MessageBoxText, TabsAndAmpersandsHaveTheRoomInWhichTheyAreShown)
+{
+    const auto linesOf = [](const wchar_t* message) {
+        LRESULT lines = 0;
+        inspect({.text = message},
+                [&](HWND box) { lines = ::SendMessageW(textControl(box), EM_GETLINECOUNT, 0, 0); });
+        return lines;
+    };
+    EXPECT_EQ(linesOf(L"Name\tColour\tSize\nOak\tbrown\tlarge"), 2);
+    EXPECT_EQ(linesOf(L"Oak & elm & ash & fir & yew & box"), 1);
 }
 
 TEST(MessageBoxText, NoTextIsAnEmptyMessage)
@@ -68,6 +100,22 @@ TEST(MessageBoxText, CtrlCCopiesTheSelectionWhereverTheFocusIs)
         copying.finish();
         EXPECT_EQ(clipboardText(), L"elm");
     }
+}
+
+TEST(MessageBoxText, WithoutMemoryForACopyTheClipboardKeepsWhatItHas)
+{
+    emptyClipboard();
+    {
+        auto first = copyUntil([] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE; }).start();
+        show({.text = L"oak"});
+    }
+    s_refusals = 0;
+    {
+        const ImportPatch patch{L"ovoui.dll", "GlobalAlloc", reinterpret_cast<void*>(&noMemory)};
+        auto second = copyUntil([] { return s_refusals > 0; }).start();
+        show({.text = L"elm"});
+    }
+    EXPECT_EQ(clipboardText(), L"oak");
 }
 
 TEST(MessageBoxText, CanBeSelectedWithTheMouse)

@@ -1,4 +1,5 @@
 // Long texts in the message box: wrapping, scrolling, and what programs read out of the text control.
+#include <testkit/Clipboard.h>
 #include <testkit/ImportPatch.h>
 #include "MessageBoxScene.h"
 
@@ -164,6 +165,17 @@ TEST(MessageBoxWrap, AWordThatFitsNoLineIsScrolledWhileTheRestIsWrapped)
     }
 }
 
+TEST(MessageBoxWrap, AScriptWithoutBlanksIsBrokenAtAnyOfItsCharacters)
+{
+    const std::wstring message = std::wstring(10, L'\u6728') + L' ' + std::wstring(600, L'\u6728');
+    inspect({.text = message.c_str()}, [&message](HWND box) {
+        const HWND text = textControl(box);
+        EXPECT_EQ(windowText(text), message);
+        EXPECT_GT(send(text, EM_LINEINDEX, 1), 11)
+            << "the first line is filled, and does not end at the blank";
+    });
+}
+
 TEST(MessageBoxWrap, TheBarsComeAsSoonAsTheLinesAndTheWidthAskForThem)
 {
     // Wrapped prose reaches the width limit, so more than 15 lines of it have both bars.
@@ -239,6 +251,36 @@ TEST(MessageBoxWrap, SelectionsAreThoseOfTheMessage)
     });
 }
 
+TEST(MessageBoxWrap, ASelectionIsAnsweredAsFarAs16BitsGo)
+{
+    const std::wstring message = prose(9000);
+    ASSERT_GT(message.size(), 0x10000u);
+    inspect({.text = message.c_str()}, [](HWND box) {
+        const HWND text = textControl(box);
+        const auto answered = [text](WPARAM start, LPARAM end) {
+            send(text, EM_SETSEL, start, end);
+            return send(text, EM_GETSEL);
+        };
+        EXPECT_EQ(answered(3, 10), MAKELONG(3, 10));
+        EXPECT_EQ(answered(4, 0xFFFF), MAKELONG(4, 0xFFFF));
+        EXPECT_EQ(answered(4, 0x10000), -1);
+    });
+}
+
+TEST(MessageBoxWrap, CopyingNothingLeavesTheClipboardAsItIs)
+{
+    const std::wstring message = prose(700);
+    emptyClipboard();
+    inspect({.text = message.c_str()}, [](HWND box) {
+        const HWND text = textControl(box);
+        send(text, EM_SETSEL, 0, 12);
+        send(text, WM_COPY);
+        send(text, EM_SETSEL, 30, 30);
+        send(text, WM_COPY);
+    });
+    EXPECT_EQ(clipboardText(), message.substr(0, 12));
+}
+
 TEST(MessageBoxWrap, WhatIsCopiedHasNoLineBreaksOfTheBox)
 {
     const std::wstring message = prose(700);
@@ -269,8 +311,15 @@ TEST(MessageBoxWrap, PositionsAndPointsBelongTogether)
         }
         const auto second = static_cast<std::size_t>(send(text, EM_LINEINDEX, 1));
         EXPECT_EQ(message[second - 1], L' ') << "the second line begins with a word";
-        EXPECT_GT(send(text, EM_LINELENGTH, second), 0);
+        const LRESULT lines = send(text, EM_GETLINECOUNT);
+        for (LRESULT line = 0; line + 1 < lines; ++line) {
+            const auto begin = static_cast<WPARAM>(send(text, EM_LINEINDEX, static_cast<WPARAM>(line)));
+            const LRESULT next = send(text, EM_LINEINDEX, static_cast<WPARAM>(line + 1));
+            EXPECT_EQ(send(text, EM_LINELENGTH, begin), next - static_cast<LRESULT>(begin) - 1)
+                << "but for the blank at the end of line " << line;
+        }
         EXPECT_EQ(send(text, EM_LINEINDEX, 100000), -1);
+        EXPECT_EQ(send(text, EM_CHARFROMPOS, 0, MAKELPARAM(5000, 5000)), -1) << "outside of the control";
     });
 }
 
@@ -281,6 +330,8 @@ TEST(MessageBoxWrap, TheTextCanBeReadInPieces)
         const HWND text = textControl(box);
         EXPECT_EQ(send(text, WM_GETTEXTLENGTH), static_cast<LRESULT>(message.size()));
         wchar_t buffer[8] = L"#######";
+        EXPECT_EQ(send(text, WM_GETTEXT, 0, reinterpret_cast<LPARAM>(buffer)), 0);
+        EXPECT_EQ(buffer[0], L'#') << "no room for anything";
         EXPECT_EQ(send(text, WM_GETTEXT, 5, reinterpret_cast<LPARAM>(buffer)), 4);
         EXPECT_EQ(std::wstring(buffer), message.substr(0, 4));
         EXPECT_EQ(buffer[5], L'#');

@@ -5,6 +5,7 @@
 #include <testkit/GdiCounter.h>
 #include <testkit/ImportPatch.h>
 #include <testkit/TemporaryProfile.h>
+#include <testkit/TestApp.h>
 #include <testkit/WindowCounter.h>
 
 #include <ovoui/frame/MessageDialog.h>
@@ -116,6 +117,36 @@ TEST_F(MessageDialogTest, WithoutMoreIsTheMessageBox)
     EXPECT_EQ(answer, IDCANCEL);
     EXPECT_EQ(dialog, plain);
     EXPECT_EQ(dialogPlace, plainPlace);
+}
+
+TEST_F(MessageDialogTest, OwnerCaptionIconAndHelpAreTheHosts)
+{
+    CWnd owner;
+    owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 300, 200,
+                   nullptr, nullptr);
+    COVOMessageDialog box(owner, L"The message.", L"Own", MB_OK | MB_ICONHAND);
+    box.SetHelp(4711);
+    EXPECT_EQ(answerBy(box, whenOpen()
+                                .then([&owner] {
+                                    EXPECT_FALSE(owner.IsWindowEnabled());
+                                    EXPECT_EQ(windowText(openBox()), L"Own");
+                                    EXPECT_EQ(windowText(iconControl(openBox())), L"STOP");
+                                    EXPECT_EQ(windowText(textControl(openBox())), L"The message.");
+                                })
+                                .key(VK_F1)
+                                .waitFor("the help", [] { return !TestApp::instance().helps().empty(); })
+                                .key(VK_ESCAPE)),
+              IDCANCEL);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    owner.DestroyWindow();
+    ASSERT_EQ(TestApp::instance().helps().size(), 1u);
+    EXPECT_EQ(TestApp::instance().helps()[0].data, 4711u);
+    const COVOMessageDialog plain(nullptr, L"The message.");
+    EXPECT_EQ(answerBy(plain,
+                       whenOpen()
+                           .then([] { EXPECT_EQ(windowText(openBox()), libraryString(IDS_MESSAGE_CAPTION)); })
+                           .key(VK_ESCAPE)),
+              IDCANCEL);
 }
 
 TEST_F(MessageDialogTest, ButtonsOfTheHostAnswerWithTheirIds)
@@ -242,6 +273,87 @@ TEST_F(MessageDialogTest, CtrlCCopiesWhatIsSelectedInTheDetails)
     EXPECT_EQ(copied(7, 7), L"The message.");
 }
 
+TEST_F(MessageDialogTest, CtrlCElsewhereCopiesTheMessageWhateverTheDetailsHaveSelected)
+{
+    COVOMessageDialog box(nullptr, L"The message.", L"Box", MB_OK);
+    box.SetDetails(L"Garden Sans\nHedge Serif");
+    emptyClipboard();
+    answerBy(box, whenOpen()
+                      .click([] { return control(kDetailsButtonId); })
+                      .waitFor("the details", &detailsShown)
+                      .waitFor("the focus", focusOn(kDetailsButtonId))
+                      .then([] { ::SendMessageW(details(), EM_SETSEL, 7, 11); })
+                      .chordUntil("the text on the clipboard", VK_CONTROL, 'C',
+                                  [] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE; })
+                      .key(VK_ESCAPE));
+    EXPECT_EQ(clipboardText(), L"The message.");
+}
+
+TEST_F(MessageDialogTest, DetailsShowEightLinesAreReachedByTabAndCannotBeTypedOver)
+{
+    const std::wstring lines = numberedLines(30);
+    COVOMessageDialog box(nullptr, L"The message.", L"Box", MB_OK);
+    box.SetDetails(lines);
+    std::wstring text;
+    int shown = 0;
+    answerBy(box, whenOpen()
+                      .click([] { return control(kDetailsButtonId); })
+                      .waitFor("the details", &detailsShown)
+                      .key(VK_TAB)
+                      .waitFor("the focus", focusOn(kDetailsId))
+                      .type(L"elm")
+                      .then([&] {
+                          text = windowText(details());
+                          ::SendMessageW(details(), WM_VSCROLL, SB_BOTTOM, 0);
+                          shown =
+                              30 - static_cast<int>(::SendMessageW(details(), EM_GETFIRSTVISIBLELINE, 0, 0));
+                      })
+                      .key(VK_ESCAPE));
+    EXPECT_EQ(shown, 8);
+    EXPECT_EQ(text.substr(0, 16), L"Line 1\r\nLine 2\r\n");
+    EXPECT_EQ(text.find(L"elm"), text.npos);
+}
+
+TEST_F(MessageDialogTest, WhatStandsBelowTheButtonsHasItsWordsAndItsSide)
+{
+    for (const wchar_t* words : {L"", L"&Always do this"}) {
+        COVOMessageDialog box = withOwnButtons();
+        box.SetDetails(L"More");
+        box.OfferNotToAsk(L"Fonts", words);
+        std::vector<std::wstring> labels;
+        const auto look = [&labels] { labels.push_back(windowText(control(kDetailsButtonId))); };
+        std::wstring offer;
+        CRect client;
+        CRect check;
+        CRect button;
+        CRect answer;
+        answerBy(box, whenOpen()
+                          .then(look)
+                          .then([&] {
+                              ::GetClientRect(openBox(), &client);
+                              offer = windowText(control(kNotAgainId));
+                              check = placeInParent(control(kNotAgainId));
+                              button = placeInParent(control(kDetailsButtonId));
+                              answer = placeInParent(control(kKeep));
+                          })
+                          .click([] { return control(kDetailsButtonId); })
+                          .waitFor("the details", &detailsShown)
+                          .then(look)
+                          .click([] { return control(kDetailsButtonId); })
+                          .waitFor("their end", [] { return !detailsShown(); })
+                          .then(look)
+                          .key(VK_ESCAPE));
+        EXPECT_EQ(offer, *words ? std::wstring(words) : libraryString(IDS_MESSAGE_NOT_AGAIN));
+        const std::wstring closed = libraryString(IDS_MESSAGE_SHOW_DETAILS);
+        EXPECT_EQ(labels, (std::vector{closed, libraryString(IDS_MESSAGE_HIDE_DETAILS), closed}));
+        EXPECT_EQ(check.left, client.right - button.right) << "one at either side";
+        EXPECT_LT(check.right, button.left);
+        EXPECT_GE(check.top, answer.bottom);
+        EXPECT_GE(button.top, answer.bottom);
+        EXPECT_LE(button.bottom, client.bottom);
+    }
+}
+
 // At the lower edge of the screen the box moves up to make room.
 TEST_F(MessageDialogTest, OpeningTheDetailsIsNoMoveByTheUser)
 {
@@ -284,6 +396,30 @@ TEST_F(MessageDialogTest, AnAnswerIsKeptAndGivenWithoutABox)
     EXPECT_EQ(kept(L"Fonts"), -1);
 }
 
+TEST_F(MessageDialogTest, AMarkThatIsTakenBackKeepsNothing)
+{
+    const auto marked = [](WPARAM state) {
+        return [state] {
+            return ::SendMessageW(control(kNotAgainId), BM_GETCHECK, 0, 0) == static_cast<LRESULT>(state);
+        };
+    };
+    COVOMessageDialog box = withOwnButtons();
+    box.OfferNotToAsk(L"Fonts");
+    EXPECT_EQ(answerBy(box, clicking(kNotAgainId)
+                                .waitFor("the mark", marked(BST_CHECKED))
+                                .key(VK_SPACE)
+                                .waitFor("its end", marked(BST_UNCHECKED))
+                                .click([] { return control(kKeep); })),
+              kKeep);
+    EXPECT_EQ(kept(L"Fonts"), -1);
+}
+
+TEST_F(MessageDialogTest, ABoxThatOffersNothingIsShownWhateverIsKept)
+{
+    keep(L"", kReplace);
+    EXPECT_EQ(answerBy(withOwnButtons(), clicking(kKeep)), kKeep);
+}
+
 TEST_F(MessageDialogTest, ForgettingAllShowsEveryBoxAgain)
 {
     keep(L"One", kKeep);
@@ -321,6 +457,47 @@ TEST_F(MessageDialogTest, TheCountPressesTheDefaultButton)
     std::wstring label;
     EXPECT_EQ(answerBy(box, whenOpen().then([&] { label = windowText(control(kKeep)); })), kKeep);
     EXPECT_EQ(label, L"&Keep (1)");
+}
+
+TEST_F(MessageDialogTest, ACountOnHelpAsksForItAndLeavesTheBoxOpen)
+{
+    COVOMessageDialog box(nullptr, L"The message.", L"Box", MB_OK | MB_HELP | MB_DEFBUTTON2);
+    box.PressDefaultAfter(1);
+    const std::wstring help = libraryString(IDS_BUTTON_HELP);
+    const auto labelled = [](std::wstring label) {
+        return [label] { return windowText(control(IDHELP)) == label; };
+    };
+    EXPECT_EQ(answerBy(box, whenOpen()
+                                .waitFor("the end of the count", labelled(help))
+                                .then([] { EXPECT_NE(openBox(), nullptr); })
+                                .key(VK_ESCAPE)),
+              IDCANCEL);
+}
+
+TEST_F(MessageDialogTest, TheCountIsOfADayAtMostAndItsButtonHasTheRoom)
+{
+    COVOMessageDialog box = withOwnButtons();
+    box.PressDefaultAfter(24 * 60 * 60 + 5000);
+    int width = 0;
+    int needed = 0;
+    EXPECT_EQ(
+        answerBy(
+            box,
+            whenOpen()
+                .waitFor("a count",
+                         [] { return windowText(control(kReplace)).starts_with(L"&Replace them all (86"); })
+                .then([&] {
+                    CWnd* const button = CWnd::FromHandle(control(kReplace));
+                    width = screenRect(*button).Width();
+                    CClientDC dc(button);
+                    CFont* const before = dc.SelectObject(button->GetFont());
+                    needed = dc.GetTextExtent(L"Replace them all (86400)", 24).cx;
+                    dc.SelectObject(before);
+                })
+                .key(VK_ESCAPE)),
+        IDCANCEL);
+    EXPECT_GT(needed, 0);
+    EXPECT_GE(width, needed);
 }
 
 TEST_F(MessageDialogTest, AKeyOrAClickEndsTheCount)

@@ -9,12 +9,15 @@
 #include <ovocor/WinError.h>
 #include <ovoui/frame/ProgressBox.h>
 #include <ovoui/frame/MessageBoxIds.h>
+#include <ovouires/resource.h>
 
 #include <commctrl.h>
 
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <utility>
+#include <vector>
 
 using namespace ovo::testkit;
 using namespace ovoui::frame;
@@ -53,6 +56,45 @@ public:
     ~Owner() override { DestroyWindow(); }
 };
 
+/// Takes down what the bar is told of its position and of running without an end.
+class BarLog
+{
+public:
+    using Told = std::pair<UINT, WPARAM>;
+
+    BarLog()
+        : m_hook(::SetWindowsHookExW(WH_CALLWNDPROC, &onMessage, nullptr, ::GetCurrentThreadId()))
+    {
+        s_told.clear();
+    }
+    ~BarLog() { ::UnhookWindowsHookEx(m_hook); }
+    BarLog(const BarLog&) = delete;
+    BarLog& operator=(const BarLog&) = delete;
+
+    const std::vector<Told>& told() const { return s_told; }
+
+private:
+    static LRESULT CALLBACK onMessage(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        const bool tells = message.message == PBM_SETPOS || message.message == PBM_SETMARQUEE;
+        if (tells && message.hwnd == bar())
+            s_told.emplace_back(message.message, message.wParam);
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    const HHOOK m_hook;
+    inline static std::vector<Told> s_told;
+};
+
+/// Takes the place of CreateDialogIndirectParamW: the dialog does not outlive its initialisation.
+HWND WINAPI endAtOnce(HINSTANCE instance, LPCDLGTEMPLATEW shape, HWND owner, DLGPROC procedure,
+                      LPARAM parameter)
+{
+    ::DestroyWindow(::CreateDialogIndirectParamW(instance, shape, owner, procedure, parameter));
+    return nullptr;
+}
+
 void workUntilCancelled(COVOProgressBox& progress)
 {
     while (progress.Advance(1, 2))
@@ -72,6 +114,42 @@ TEST(ProgressBox, DisablesItsOwnerAsLongAsItLives)
     }
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(openBox(), nullptr);
+}
+
+/// The system looks for another active window before the box hears of its end; the owner must be enabled by
+/// then.
+TEST(ProgressBox, ItsOwnerIsActiveAgainAfterwards)
+{
+    Owner other;
+    present(other);
+    Owner owner;
+    present(owner);
+    {
+        const COVOProgressBox progress(owner, L"Working", L"Box");
+        EXPECT_EQ(::GetActiveWindow(), openBox());
+    }
+    EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
+}
+
+TEST(ProgressBox, ABoxThatCannotBeCreatedLeavesOwnerAndWorkAlone)
+{
+    const auto work = [](Owner& owner) {
+        COVOProgressBox progress(owner, L"Working", L"Box");
+        EXPECT_EQ(openBox(), nullptr);
+        EXPECT_TRUE(owner.IsWindowEnabled());
+        EXPECT_FALSE(progress.IsCancelled());
+        EXPECT_TRUE(progress.Advance(1, 2));
+        EXPECT_TRUE(progress.Advance(1, 0));
+        progress.SetText(L"Nowhere");
+        EXPECT_FALSE(progress.IsCancelled());
+    };
+    Owner owner;
+    {
+        const ImportPatch patch{L"ovomfc.dll", "FindResourceW", reinterpret_cast<void*>(&noDialogs)};
+        work(owner);
+    }
+    const ImportPatch patch{L"ovomfc.dll", "CreateDialogIndirectParamW", reinterpret_cast<void*>(&endAtOnce)};
+    work(owner);
 }
 
 TEST(ProgressBox, LeavesAnOwnerDisabledThatWasDisabled)
@@ -123,9 +201,22 @@ TEST(ProgressBox, OfUnknownLengthRunsWithoutAnEnd)
     EXPECT_EQ(position(), 500);
 }
 
+TEST(ProgressBox, TellsItsBarOnlyWhatChanges)
+{
+    COVOProgressBox progress(nullptr, L"Working", L"Box");
+    const BarLog log;
+    const std::pair<ULONGLONG, ULONGLONG> steps[] = {{1, 4}, {1, 4}, {1, 0}, {2, 0}, {2, 4}, {2, 4}};
+    for (const auto& [done, total] : steps)
+        progress.Advance(done, total);
+    EXPECT_EQ(log.told(),
+              (std::vector<BarLog::Told>{
+                  {PBM_SETPOS, 250}, {PBM_SETMARQUEE, TRUE}, {PBM_SETMARQUEE, FALSE}, {PBM_SETPOS, 500}}));
+}
+
 TEST(ProgressBox, LiesBetweenTextAndButton)
 {
     const COVOProgressBox progress(nullptr, L"Working", L"Box");
+    EXPECT_EQ(windowText(iconControl(openBox())), L"INFO");
     const CRect text = placeInParent(textControl(openBox()));
     const CRect place = placeInParent(bar());
     const CRect button = placeInParent(cancelButton());
@@ -136,6 +227,16 @@ TEST(ProgressBox, LiesBetweenTextAndButton)
     EXPECT_LE(button.bottom, client.bottom);
     EXPECT_LE(place.right, client.right);
     EXPECT_FALSE(place.IsRectEmpty());
+}
+
+TEST(ProgressBox, HasTheCaptionOfTheHostOrTheDefaultOne)
+{
+    {
+        const COVOProgressBox progress(nullptr, L"Working", L"Own");
+        EXPECT_EQ(windowText(openBox()), L"Own");
+    }
+    const COVOProgressBox progress(nullptr, L"Working");
+    EXPECT_EQ(windowText(openBox()), libraryString(IDS_MESSAGE_CAPTION));
 }
 
 TEST(ProgressBox, IsCancelledByButtonKeysAndCloseBox)
@@ -160,6 +261,19 @@ TEST(ProgressBox, TellsAnotherText)
     COVOProgressBox progress(nullptr, L"Working on the first", L"Box");
     progress.SetText(L"Second");
     EXPECT_EQ(windowText(textControl(openBox())), L"Second");
+    progress.SetText(L"Third\nof all");
+    EXPECT_EQ(windowText(textControl(openBox())), L"Third\r\nof all") << "with the line ends of the control";
+}
+
+/// What the dialog manager sends for Enter where no button is the default one.
+TEST(ProgressBox, EnterWithoutAButtonAnswersNothing)
+{
+    COVOProgressBox progress(nullptr, L"Working", L"Box");
+    const HWND box = openBox();
+    ASSERT_NE(box, nullptr);
+    ::SendMessageW(box, WM_COMMAND, IDOK, 0);
+    EXPECT_EQ(openBox(), box);
+    EXPECT_TRUE(progress.Advance(1, 2));
 }
 
 TEST(ProgressBox, AnOwnerDestroyedMeanwhileCancels)

@@ -129,6 +129,26 @@ TEST_F(ThemeDataAnyTheme, AClassWithoutAThemeDrawsNothingAndStillAnswersTrue)
     EXPECT_EQ(drawnPixels(), 0);
 }
 
+TEST_F(ThemeDataAnyTheme, ACheckBoxIsDrawnForAWindowWithAThemeWhichItKeeps)
+{
+    constexpr int kChecked = 5; // CBS_CHECKEDNORMAL
+    CThemeData& themes = CThemeData::getThemeData();
+    CWnd plain;
+    plain.CreateEx(0, AfxRegisterWndClass(0), L"plain", WS_POPUP, 0, 0, 80, 30, nullptr, nullptr);
+    EXPECT_FALSE(themes.drawCheckBox(m_dc, &kArea, plain, kChecked)) << "a window without a theme";
+    EXPECT_EQ(drawnPixels(), 0);
+
+    const HTHEME own = ::OpenThemeData(plain, L"Edit");
+    EXPECT_EQ(own != nullptr, themesAreOn());
+    EXPECT_EQ(themes.drawCheckBox(m_dc, &kArea, plain, kChecked), themesAreOn());
+    EXPECT_EQ(drawnPixels() > 0, themesAreOn());
+    EXPECT_EQ(::GetPixel(m_dc, 1, 1), kBackground);
+    EXPECT_EQ(::GetWindowTheme(plain), own);
+    if (own)
+        ::CloseThemeData(own);
+    plain.DestroyWindow();
+}
+
 TEST_F(ThemeDataAnyTheme, NothingIsDrawnOutsideTheRectangle)
 {
     draw(CThemeData::getThemeData(), L"Button");

@@ -95,7 +95,11 @@ public:
         return s_current->onShow ? s_current->onShow(*m_events) : s_current->accept(*m_events);
     }
     STDMETHODIMP SetFileTypes(UINT, const COMDLG_FILTERSPEC*) override { return S_OK; }
-    STDMETHODIMP SetFileTypeIndex(UINT) override { return S_OK; }
+    STDMETHODIMP SetFileTypeIndex(UINT index) override
+    {
+        s_current->type = index;
+        return S_OK;
+    }
     STDMETHODIMP GetFileTypeIndex(UINT*) override { return E_NOTIMPL; }
     STDMETHODIMP Advise(IFileDialogEvents* events, DWORD* cookie) override
     {
@@ -129,7 +133,11 @@ public:
     STDMETHODIMP SetFolder(IShellItem*) override { return S_OK; }
     STDMETHODIMP GetFolder(IShellItem**) override { return E_FAIL; }
     STDMETHODIMP GetCurrentSelection(IShellItem**) override { return E_FAIL; }
-    STDMETHODIMP SetFileName(LPCWSTR) override { return S_OK; }
+    STDMETHODIMP SetFileName(LPCWSTR name) override
+    {
+        s_current->name = name;
+        return S_OK;
+    }
     STDMETHODIMP GetFileName(LPWSTR*) override { return E_FAIL; }
     STDMETHODIMP SetTitle(LPCWSTR) override { return S_OK; }
     STDMETHODIMP SetOkButtonLabel(LPCWSTR) override { return S_OK; }
@@ -144,8 +152,16 @@ public:
         ++(where == FDAP_TOP ? s_current->topPlaces : s_current->bottomPlaces);
         return S_OK;
     }
-    STDMETHODIMP SetDefaultExtension(LPCWSTR) override { return S_OK; }
-    STDMETHODIMP Close(HRESULT) override { return S_OK; }
+    STDMETHODIMP SetDefaultExtension(LPCWSTR extension) override
+    {
+        s_current->extension = extension;
+        return S_OK;
+    }
+    STDMETHODIMP Close(HRESULT result) override
+    {
+        s_current->closed = result;
+        return S_OK;
+    }
     STDMETHODIMP SetClientGuid(REFGUID client) override
     {
         s_current->client = client;
@@ -192,8 +208,9 @@ HRESULT FakeShellDialog::accept(IFileDialogEvents& events) const
     return events.OnFileOk(m_dialog) == S_OK ? S_OK : HRESULT_FROM_WIN32(ERROR_CANCELLED);
 }
 
-HRESULT WINAPI FakeShellDialog::create(REFCLSID, LPUNKNOWN, DWORD, REFIID iid, LPVOID* object)
+HRESULT WINAPI FakeShellDialog::create(REFCLSID kind, LPUNKNOWN, DWORD, REFIID iid, LPVOID* object)
 {
+    s_current->kind = kind;
     *object = nullptr;
     return FAILED(s_current->creation) ? s_current->creation
                                        : s_current->m_dialog->QueryInterface(iid, object);

@@ -23,8 +23,13 @@ public:
     std::function<HRESULT(IFileDialogEvents&)> onShow; ///< instead of accepting the results
     HRESULT optionsAnswer = S_OK;                      ///< what setting the options gives
 
-    DWORD options = 0; ///< as they were set last
-    GUID client{};     ///< likewise
+    DWORD options = 0;      ///< as they were set last
+    GUID client{};          ///< likewise
+    HRESULT closed = S_OK;  ///< what the program has closed it with
+    CLSID kind{};           ///< which dialog was made
+    std::wstring name;      ///< of the file, as it was set last
+    std::wstring extension; ///< likewise
+    UINT type = 0;          ///< the number of the file type, likewise
     int topPlaces = 0;
     int bottomPlaces = 0;
     int defaultFolders = 0;
