@@ -79,8 +79,19 @@ void MultiTreeCtrl::Dropping::showMark(HTREEITEM markBehind, HTREEITEM highlight
         return;
     if (markBehind || m_markShown)
         setMark(markBehind);
-    if (highlighted != view().next(TVGN_DROPHILITE))
-        tree().SelectDropTarget(highlighted);
+    highlight(highlighted);
+}
+
+/// Wine's tree view goes on showing the item that was highlighted when none is to be.
+void MultiTreeCtrl::Dropping::highlight(HTREEITEM item)
+{
+    const HTREEITEM before = view().next(TVGN_DROPHILITE);
+    const bool shown = before && (view().stateOf(before) & TVIS_DROPHILITED);
+    if (item == before && shown == (item != nullptr))
+        return;
+    tree().SelectDropTarget(item);
+    if (!item && shown && view().next(TVGN_DROPHILITE) == before)
+        tree().SetItemState(before, 0, TVIS_DROPHILITED);
 }
 
 void MultiTreeCtrl::Dropping::setMark(HTREEITEM behind)

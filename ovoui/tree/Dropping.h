@@ -32,6 +32,7 @@ public:
 private:
     int placeAmongSiblings(HTREEITEM item) const;
     void setMark(HTREEITEM behind);
+    void highlight(HTREEITEM item);
 
     bool m_markShown = false;
 };

@@ -102,10 +102,22 @@ TEST_F(SliderButton, AHostMayDeleteItWhenItHearsThatItIsDisabled)
         SCOPED_TRACE(deletes);
         Hearing panel;
         panel.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 90, 300, 120), &parent, 20);
-        CStatic plain;
-        plain.Create(L"", WS_CHILD | WS_VISIBLE | SS_NOTIFY, CRect(102, 0, 118, 22), &panel, 9);
+        // As the label of Windows does; that of Wine tells nothing.
+        static WNDPROC label;
+        const WNDPROC telling = [](HWND wnd, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+            const LRESULT result = ::CallWindowProcW(label, wnd, message, wParam, lParam);
+            if (message == WM_ENABLE && !wParam)
+                ::SendMessageW(::GetParent(wnd), WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(wnd), STN_DISABLE),
+                               reinterpret_cast<LPARAM>(wnd));
+            return result;
+        };
+        const HWND window =
+            ::CreateWindowW(L"STATIC", L"", WS_CHILD | WS_VISIBLE | SS_NOTIFY, 102, 0, 16, 22, panel,
+                            reinterpret_cast<HMENU>(9), nullptr, nullptr);
+        label = reinterpret_cast<WNDPROC>(
+            ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(telling)));
         std::unique_ptr<CSliderButton> slider = std::make_unique<Perishing<CSliderButton>>(utils);
-        slider->SubclassWindow(plain.Detach());
+        slider->SubclassWindow(window);
         slider->SetBuddy(buddy);
         bool told = false;
         panel.deed = [&] {
@@ -118,7 +130,7 @@ TEST_F(SliderButton, AHostMayDeleteItWhenItHearsThatItIsDisabled)
         show();
         slider->SendMessage(WM_KEYDOWN, VK_SPACE);
         EXPECT_TRUE(isOpen());
-        ::EnableWindow(slider->m_hWnd, FALSE);
+        ::SendMessageW(window, WM_ENABLE, FALSE, 0); // as EnableWindow does, out of which a crash would not come
         EXPECT_TRUE(told);
         EXPECT_TRUE(isClosed());
         panel.DestroyWindow();

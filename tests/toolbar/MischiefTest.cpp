@@ -148,17 +148,6 @@ TEST(FlyoutMischief, TheOwnerHearsNothingOfTheFlyoutsOwnControl)
     EXPECT_EQ(told, 0);
 }
 
-TEST(FlyoutMischief, ABarWithoutAWindowTakesItsFlyoutAlong)
-{
-    BarScene scene;
-    const CRect place = onScreen(scene.bar(), BarScene::Shapes);
-    scene.bar().DestroyWindow();
-    scene.bar().CreatePopup(BarScene::Shapes, place, 0);
-    ASSERT_NE(BarScene::flyout(), nullptr);
-    scene.deleteBar();
-    EXPECT_EQ(BarScene::flyout(), nullptr);
-}
-
 TEST(FlyoutMischief, TheBarMayGoWhileItsFlyoutIsOpen)
 {
     for (const bool shown : {false, true}) {

@@ -433,8 +433,16 @@ TEST(TreeDrop, TheMarkIsBehindTheItemAndGoesWithTheDrag)
         CRect client;
         scene.tree.GetClientRect(&client);
         EXPECT_EQ(red(client), 0);
-        EXPECT_EQ(scene.tree.GetDropHilightItem(), nullptr);
+        const auto highlighted = [&] {
+            return scene.tree.GetItemState(scene.item("folder"), TVIS_DROPHILITED) != 0;
+        };
+        EXPECT_FALSE(highlighted());
         EXPECT_EQ(scene.all(), (Names{"folder", "x", "y", "b"}));
+        Visitor again(scene.tree);
+        again.enter(scene.labelPoint("x"));
+        EXPECT_TRUE(highlighted());
+        again.leave();
+        EXPECT_FALSE(highlighted());
     }
 }
 
