@@ -78,7 +78,9 @@ std::wstring folderToBeginIn(const std::wstring& path)
 
 std::unique_ptr<IShellItem, ReleaseItem> shellItemOf(const std::wstring& path)
 {
-    const HMODULE library = path.empty() ? nullptr : shell();
+    // Wine's shell reads what is not there for a path that begins with a slash, and Windows has no item for it.
+    const bool hasItem = !path.empty() && path.front() != L'/';
+    const HMODULE library = hasItem ? shell() : nullptr;
     if (!library)
         return nullptr;
     using Create = HRESULT(WINAPI*)(PCWSTR, IBindCtx*, REFIID, void**);

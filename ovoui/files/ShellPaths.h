@@ -24,7 +24,8 @@ struct ReleaseItem
     void operator()(IShellItem* item) const { item->Release(); }
 };
 
-/// The shell's item for a path; null when there is none, and for an empty path.
+/// The shell's item for a path; null when there is none, and for a path that is empty or
+/// begins with a slash.
 std::unique_ptr<IShellItem, ReleaseItem> shellItemOf(const std::wstring& path);
 
 } // namespace ovoui

@@ -130,6 +130,10 @@ TEST_F(FolderMemory, TheNewStyleDialogIsToldPurposeAndPlaces)
     dialog.AddPlace(files.path(L"below"));
     dialog.AddPlace(files.path(L"gone"));
     dialog.SetDefaultFolder(files.folder());
+    for (const wchar_t* noFolder : {L"/", L"/3,.", L"no/folder", L"\\\\"}) {
+        dialog.AddPlace(noFolder);
+        dialog.SetDefaultFolder(noFolder);
+    }
     EXPECT_EQ(fake.client, kPictures);
     EXPECT_EQ(fake.topPlaces, 1);
     EXPECT_EQ(fake.bottomPlaces, 1);
