@@ -52,6 +52,25 @@ std::wstring classOf(HWND wnd)
     return name;
 }
 
+/// Which window the user would type into, for one who reads why a test failed.
+std::string inFront()
+{
+    const HWND wnd = ::GetForegroundWindow();
+    if (!wnd)
+        return "no window is in front";
+    const std::string words = "\"" + fs::path(textOf(wnd)).string() + "\" is in front";
+    return ::IsWindowEnabled(wnd) ? words : words + ", disabled";
+}
+
+/// Neither it nor a window that it is part of is disabled or hidden.
+bool takesInput(HWND wnd)
+{
+    for (HWND part = wnd; part; part = ::GetAncestor(part, GA_PARENT))
+        if (!::IsWindowEnabled(part))
+            return false;
+    return ::IsWindowVisible(wnd) != FALSE;
+}
+
 } // namespace
 
 RunningProgram::RunningProgram(const std::wstring& name, const std::wstring& arguments)
@@ -191,7 +210,7 @@ void RunningProgram::clickAt(CPoint screen, Button button)
 
 void RunningProgram::click(HWND wnd, Button button)
 {
-    waitFor("the window to be enabled", [wnd] { return ::IsWindowVisible(wnd) && ::IsWindowEnabled(wnd); });
+    waitFor("the window to be enabled", [=, this] { return takesInput(wnd) && isInFront(); });
     clickAt(rectOf(wnd).CenterPoint(), button);
 }
 
@@ -250,7 +269,7 @@ void RunningProgram::waitFor(const std::string& what, const std::function<bool()
     const auto end = std::chrono::steady_clock::now() + limit;
     while (!condition()) {
         if (std::chrono::steady_clock::now() > end)
-            throw std::runtime_error("waited in vain for " + what);
+            throw std::runtime_error("waited in vain for " + what + "; " + inFront());
         std::this_thread::sleep_for(5ms);
     }
 }

@@ -42,7 +42,7 @@ public:
     HWND child(HWND parent, const std::wstring& windowClass) const;
 
     // Input
-    /// Clicks with `button` into the middle of `wnd`, once it can be used.
+    /// Clicks with `button` into the middle of `wnd`, once it can be used and the program is in front.
     void click(HWND wnd, Button button = Button::Left);
     /// Clicks with `button` at a point of the client area of `wnd`, `client`.
     void click(HWND wnd, CPoint client, Button button = Button::Left);
@@ -58,7 +58,8 @@ public:
     /// Types `text`, once the program is in front.
     void type(const std::wstring& text);
 
-    /// Throws with the words of `what` when the condition does not hold within `limit`.
+    /// Throws with the words of `what` and the window in front when the condition does not hold within
+    /// `limit`.
     void waitFor(const std::string& what, const std::function<bool()>& condition, Limit limit = kPatience);
     /// Does `act`, and again as long as `condition` does not hold; throws as waitFor does, after `limit`. For
     /// what a late movement of the pointer, which the display reports in its own time, can undo.

@@ -95,15 +95,19 @@ protected:
         m_program.waitFor("the change", [this] { return canUndo(); });
     }
 
-    /// The question whether to save, once it can be answered.
+    /// The question whether to save where it can be answered now, or null.
+    HWND asked() const
+    {
+        const HWND box = ::GetForegroundWindow();
+        const bool asks = ::GetWindow(box, GW_OWNER) == m_program.main() && ::GetDlgItem(box, IDYES) &&
+                          ::GetDlgItem(box, IDNO) && ::GetDlgItem(box, IDCANCEL);
+        return asks ? box : nullptr;
+    }
+
     HWND question()
     {
         HWND box = nullptr;
-        m_program.waitFor("the question whether to save", [&] {
-            box = ::GetForegroundWindow();
-            return ::GetWindow(box, GW_OWNER) == m_program.main() && ::GetDlgItem(box, IDYES) &&
-                   ::GetDlgItem(box, IDNO) && ::GetDlgItem(box, IDCANCEL);
-        });
+        m_program.waitFor("the question whether to save", [&] { return (box = asked()) != nullptr; });
         return box;
     }
 
@@ -384,9 +388,10 @@ TEST_F(PaletteEditor, AsksBeforeItOpensAnotherPalette)
     const TemporaryFiles files;
     std::ofstream(std::filesystem::path(files.path(L"two.txt"))) << "#102030 Night\nsteelblue Steel\n";
     change();
-    m_program.click(item(IDC_OPEN));
+    const auto asks = [this] { return asked() != nullptr; };
+    pressUntil(IDC_OPEN, asks);
     answer(kCancel);
-    m_program.click(item(IDC_OPEN)); // the first time no file was asked for, or the editor would be disabled
+    pressUntil(IDC_OPEN, asks); // the first time no file was asked for, or the editor would be disabled
     answer(kNo);
     answerFileDialog(m_program, files.path(L"two.txt"));
     waitForRows(2);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <stdexcept>
 
 using namespace ovo::testkit;
@@ -24,15 +25,16 @@ TEST(RunningProgram, ThatDoesNotExistIsAnError)
     EXPECT_THROW(RunningProgram(L"no such program"), std::runtime_error);
 }
 
-TEST(RunningProgram, WaitsInVainInTheWordsOfTheCondition)
+TEST(RunningProgram, WaitsInVainInTheWordsOfTheConditionAndTellsWhatIsInFront)
 {
     RunningProgram program{kProgram};
+    const std::string title = std::filesystem::path(textOf(program.main())).string();
     try {
         program.waitFor(
             "the moon to rise", [] { return false; }, 50ms);
         FAIL() << "nothing was thrown";
     } catch (const std::runtime_error& error) {
-        EXPECT_STREQ(error.what(), "waited in vain for the moon to rise");
+        EXPECT_EQ(error.what(), "waited in vain for the moon to rise; \"" + title + "\" is in front");
     }
 }
 
@@ -59,7 +61,8 @@ TEST(RunningProgram, WaitsInVainForAWindowThatDoesNotCome)
         program.window(L"The moon", 50ms);
         FAIL() << "nothing was thrown";
     } catch (const std::runtime_error& error) {
-        EXPECT_STREQ(error.what(), "waited in vain for the window \"The moon\"");
+        EXPECT_TRUE(std::string(error.what()).starts_with("waited in vain for the window \"The moon\"; "))
+            << error.what();
     }
 }
 
