@@ -116,6 +116,14 @@ std::string Driver::story() const
     return story;
 }
 
+std::string Driver::lastInputs() const
+{
+    std::wstring inputs;
+    for (size_t i = m_story.size() - std::min<size_t>(2, m_story.size()); i < m_story.size(); ++i)
+        inputs += (inputs.empty() ? L"" : L"; ") + m_story[i];
+    return {inputs.begin(), inputs.end()};
+}
+
 // Steps
 
 void Driver::next()
@@ -152,6 +160,8 @@ void Driver::step()
         next();
         return;
     }
+    if (beforeInput)
+        beforeInput();
     --m_left;
     ++m_done;
     next(); // asked for first: this step may not return before a dialog is closed

@@ -41,6 +41,10 @@ public:
     std::function<void()> whenStuck;
 
     const Reach& reach() const { return m_reach; }
+    /// Called before each input, where the messages of all but the last one have been dealt with.
+    std::function<void()> beforeInput;
+    /// The last two inputs.
+    std::string lastInputs() const;
     /// The last inputs, the latest one at the end.
     std::string story() const;
 

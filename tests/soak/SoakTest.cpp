@@ -2,6 +2,8 @@
 //
 //   OVO_SOAK_STEPS=1000000 OVO_SEED=7 ./test_soak.exe     as many inputs as wanted, 20,000 by default
 //   OVO_SOAK_PAGE=lists ./test_soak.exe                   on one page alone
+//   OVO_SOAK_BIRTHS=1 ./test_soak.exe                     tells which inputs made the objects that are left
+#include "Births.h"
 #include "Driver.h"
 #include "support/GdiTypes.h"
 #include "support/HeapCounter.h"
@@ -44,6 +46,7 @@ constexpr int kWarm = 1000; // inputs, by which the system has made most of what
 constexpr int kLateObjects = 60;
 /// The frames of the two bars that can float, with a dock bar each, the clipboard's window, and tips.
 constexpr int kLateWindows = 8;
+constexpr ULONGLONG kSlow = 3000;         // milliseconds for an input, from which on it is told
 constexpr long long kBytesPerInput = 400; ///< see docs/testing.md for what takes them
 
 /// Counts the controls of the system of which many keep a font under Wine when they go: month calendars and
@@ -109,12 +112,9 @@ Count count(const FontKeepers& keepers)
     });
     // No more than there are: a calendar that a date field drops keeps none.
     const int kept = std::min(keepers.made(), fonts);
-    return {GdiCounter::live() - kept,
-            WindowCounter::live(),
-            HeapCounter::live(),
-            static_cast<long long>(MemoryCounter::live()),
-            std::move(objects),
-            windowKinds()};
+    return {GdiCounter::live() - kept, WindowCounter::live(),
+            HeapCounter::live(),       static_cast<long long>(MemoryCounter::live()),
+            std::move(objects),        windowKinds()};
 }
 
 /// What the system makes when it is first asked for, and shares from then on: cursors, and the shell's
@@ -243,13 +243,25 @@ TEST_F(Soak, TheGalleryStandsRandomInputs)
     driver.whenStuck = [] { tellStory("what is open cannot be closed"); };
     ::SetUnhandledExceptionFilter(&onCrash);
     std::signal(SIGABRT, &onAbort);
+    Births births;
+    const bool wantsBirths = std::getenv("OVO_SOAK_BIRTHS") != nullptr;
+    ULONGLONG lastInput = ::GetTickCount64();
+    driver.beforeInput = [&] {
+        const ULONGLONG now = ::GetTickCount64();
+        if (now > lastInput + kSlow)
+            std::printf("%llu s: %s\n", (now - lastInput) / 1000, driver.lastInputs().c_str());
+        lastInput = now;
+        if (wantsBirths)
+            births.look(driver.lastInputs());
+    };
     std::vector<Count> counts;
     const ULONGLONG begin = ::GetTickCount64();
     try {
         for (int done = 0; done < steps; done += kBatch) {
             ASSERT_TRUE(batch(scene, driver, kBatch)) << "what is open cannot be closed; " << driver.story();
             counts.push_back(count(keepers));
-            std::printf("%d inputs, %llu s\n", done + kBatch, (::GetTickCount64() - begin) / 1000);
+            std::printf("%d inputs, %llu s, %d GDI objects\n", done + kBatch,
+                        (::GetTickCount64() - begin) / 1000, counts.back().gdi);
             std::fflush(stdout);
         }
     } catch (const std::exception& error) {
@@ -273,6 +285,7 @@ TEST_F(Soak, TheGalleryStandsRandomInputs)
     }
     EXPECT_GE(inputsOf(reach), steps * 99 / 100) << "some pages have no pose to show, all else is an input";
 
+    std::printf("%s", births.since(kWarm).c_str());
     printCounts(counts);
     expectFlat(counts);
 }

@@ -34,7 +34,9 @@ std::string fontText(HGDIOBJ object)
     return "font " + name + " of height " + std::to_string(font.lfHeight);
 }
 
-std::string describe(HGDIOBJ object)
+} // namespace
+
+std::string gdiDescription(HGDIOBJ object)
 {
     switch (::GetObjectType(object)) {
     case OBJ_BITMAP:
@@ -59,13 +61,11 @@ std::string describe(HGDIOBJ object)
     }
 }
 
-} // namespace
-
 std::map<std::string, int> gdiObjects()
 {
     std::map<std::string, int> found;
     for (const HGDIOBJ object : ovo::testkit::gdiHandles())
-        ++found[describe(object)];
+        ++found[gdiDescription(object)];
     return found;
 }
 
