@@ -40,12 +40,16 @@ namespace
 {
 
 constexpr int kBatch = 500; // inputs, after which everything is closed and counted
-constexpr int kWarm = 1000; // inputs, by which the system has made most of what it keeps
+/// The share of a run by which the system and the frame have made most of what they keep. The longer the run,
+/// the rarer is what it meets for the first time.
+constexpr int kWarmShare = 10;
+constexpr int kLeastWarm = 1000; // inputs
 /// What may come later, however long the run: cursors, fonts and system brushes that are shown for the first
 /// time and shared from then on. A page or a control that keeps an object each time exceeds it soon.
 constexpr int kLateObjects = 60;
 /// The frames of the two bars that can float, with a dock bar each, the clipboard's window, and tips.
 constexpr int kLateWindows = 8;
+constexpr int kLeap = 8;                  // GDI objects of a batch, from which on they are told
 constexpr ULONGLONG kSlow = 3000;         // milliseconds for an input, from which on it is told
 constexpr long long kBytesPerInput = 400; ///< see docs/testing.md for what takes them
 
@@ -176,16 +180,30 @@ void printCounts(const std::vector<Count>& counts)
                     (i + 1) * kBatch, counts[i].gdi, counts[i].windows, counts[i].blocks, counts[i].bytes);
 }
 
+/// A batch after which much more is alive: what that is.
+void tellLeap(const Count& before, const Count& now, const std::string& births)
+{
+    if (now.gdi > before.gdi + kLeap)
+        std::printf("%d GDI objects more:\n%s%s", now.gdi - before.gdi,
+                    gdiGrowth(before.objects, now.objects).c_str(), births.c_str());
+}
+
+int warmInputs(int all)
+{
+    return std::max(kLeastWarm, all / kWarmShare);
+}
+
 /// What is alive stays as it was when the run was warm.
 void expectFlat(const std::vector<Count>& counts)
 {
-    constexpr size_t kWarmCount = kWarm / kBatch;
-    ASSERT_GT(counts.size(), kWarmCount) << "the run is too short to say";
-    const Count& warm = counts[kWarmCount - 1];
+    const auto inputsDone = static_cast<int>(counts.size()) * kBatch;
+    const auto warmCount = static_cast<size_t>(warmInputs(inputsDone) / kBatch);
+    ASSERT_GT(counts.size(), warmCount) << "the run is too short to say";
+    const Count& warm = counts[warmCount - 1];
     const Count& last = counts.back();
     EXPECT_LE(last.gdi, warm.gdi + kLateObjects) << gdiGrowth(warm.objects, last.objects);
     EXPECT_LE(last.windows, warm.windows + kLateWindows) << gdiGrowth(warm.kinds, last.kinds);
-    const auto inputs = static_cast<long long>((counts.size() - kWarmCount) * kBatch);
+    const auto inputs = static_cast<long long>((counts.size() - warmCount) * kBatch);
     std::printf("%lld bytes more for each input since it was warm\n%s%s", (last.bytes - warm.bytes) / inputs,
                 gdiGrowth(warm.objects, last.objects).c_str(), gdiGrowth(warm.kinds, last.kinds).c_str());
     EXPECT_LE(last.bytes, warm.bytes + inputs * kBytesPerInput);
@@ -260,6 +278,8 @@ TEST_F(Soak, TheGalleryStandsRandomInputs)
         for (int done = 0; done < steps; done += kBatch) {
             ASSERT_TRUE(batch(scene, driver, kBatch)) << "what is open cannot be closed; " << driver.story();
             counts.push_back(count(keepers));
+            if (counts.size() > 1)
+                tellLeap(counts[counts.size() - 2], counts.back(), births.since(done));
             std::printf("%d inputs, %llu s, %d GDI objects\n", done + kBatch,
                         (::GetTickCount64() - begin) / 1000, counts.back().gdi);
             std::fflush(stdout);
@@ -285,7 +305,7 @@ TEST_F(Soak, TheGalleryStandsRandomInputs)
     }
     EXPECT_GE(inputsOf(reach), steps * 99 / 100) << "some pages have no pose to show, all else is an input";
 
-    std::printf("%s", births.since(kWarm).c_str());
+    std::printf("%s", births.since(warmInputs(steps)).c_str());
     printCounts(counts);
     expectFlat(counts);
 }
