@@ -2,6 +2,7 @@
 // and what accessibility sees.
 #include "SliderButtonScene.h"
 
+#include <support/EmptyDialog.h>
 #include <testkit/AccessibleView.h>
 #include <testkit/ImportPatch.h>
 #include <testkit/TestApp.h>
@@ -435,25 +436,17 @@ namespace
 constexpr UINT kPress = WM_APP + 1;
 
 /// A dialog whose handler presses a slider button.
-class PressingDialog : public COVOModalDialog
+class PressingDialog : public EmptyDialog<COVOModalDialog>
 {
 public:
     explicit PressingDialog(SliderButtonUtils& utils)
-        : COVOModalDialog(0, nullptr)
+        : EmptyDialog(0, nullptr)
         , slider(utils)
     {
     }
 
-    void create()
+    void fill()
     {
-        struct
-        {
-            DLGTEMPLATE head{WS_POPUP | WS_VISIBLE | WS_CAPTION, 0, 0, 20, 20, 120, 60};
-            WORD menu = 0;
-            WORD windowClass = 0;
-            WORD title = 0;
-        } empty;
-        CreateIndirect(&empty.head, nullptr);
         edit.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 100, 32), this, kBuddyId);
         CStatic plain;
         plain.Create(L"", WS_CHILD | WS_VISIBLE, CRect(102, 10, 118, 32), this, 9);
@@ -483,7 +476,8 @@ END_MESSAGE_MAP()
 TEST_F(SliderButtonOptions, WhatAConversionThrowsIsShownByTheDialog)
 {
     PressingDialog dialog(utils);
-    dialog.create();
+    ASSERT_TRUE(dialog.create({20, 20}, {120, 60}));
+    dialog.fill();
     utils.misdeed = [] { throw std::runtime_error("no such unit"); };
     dialog.SendMessage(kPress);
     ASSERT_EQ(TestApp::instance().boxes().size(), 1u);
