@@ -3,6 +3,7 @@
 #include "HostParts.h"
 
 #include <ovocor/Text.h>
+#include <ovocor/WinError.h>
 #include <ovoui/ovoui.h>
 
 #include <testkit/Clipboard.h>
