@@ -139,6 +139,24 @@ TEST_F(SliderButtonOptions, TheBubbleFollowsTheThumb)
     EXPECT_GT(after.left, before.left);
 }
 
+/// Before any other message: the thumb is followed while the mouse is dragged.
+TEST_F(SliderButtonOptions, TheBubbleShowsTheNumberAtOnce)
+{
+    button->ShowBubble(true);
+    setBuddyText(L"50");
+    show();
+    button->SetFocus();
+    button->SendMessage(WM_KEYDOWN, VK_SPACE);
+    ASSERT_NE(bubble(), nullptr);
+    EXPECT_FALSE(::GetUpdateRect(bubble(), nullptr, FALSE)) << "it is painted";
+    const Picture shown = Picture::ofClient(bubble());
+    CRect inside(0, 0, shown.width(), shown.height());
+    inside.DeflateRect(2, 2);   // its border
+    constexpr int kSmooth = 60; // of the edges of letters
+    EXPECT_GT(shown.count(::GetSysColor(COLOR_INFOTEXT), kSmooth, inside), 5);
+    button->SendMessage(WM_KEYDOWN, VK_SPACE);
+}
+
 TEST_F(SliderButtonOptions, TheBubbleGoesWithThePopupThatAnotherProgramCloses)
 {
     button->ShowBubble(true);
