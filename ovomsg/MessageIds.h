@@ -17,6 +17,8 @@ enum OvoMessageId : unsigned
     OVOMSG_FILE_NOT_OPENED = 311, ///< a file that cannot be opened: its path; the system's reason follows
     OVOMSG_FILE_NOT_READ = 312,   ///< a file that cannot be read: its path; the system's reason follows
     OVOMSG_CLIPBOARD_BUSY = 313,  ///< nothing could be copied, since another program has the clipboard
+    OVOMSG_CLIPBOARD_NO_OLE =
+        314, ///< nothing could be copied, since the host has not started OLE; the system's reason follows
     OVOMSG_DOWNLOAD_FAILED =
         321, ///< a download that failed: the address, the reason, which is one of those that follow
     OVOMSG_DOWNLOAD_SCHEME = 322,    ///< reason: the address is neither http nor https

@@ -123,11 +123,13 @@ protected:
         CVantorToolBar::ActivateApp(active); // closes an open flyout
     }
 
-    afx_msg void OnClose()
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        m_list.saveLayout();
-        m_bar.SaveChoices(FileList::kSection);
-        CFrameWnd::OnClose();
+        if (message == WM_CLOSE || (message == WM_ENDSESSION && wParam)) { // the last that it surely hears
+            m_list.saveLayout();
+            m_bar.SaveChoices(FileList::kSection);
+        }
+        return CFrameWnd::WindowProc(message, wParam, lParam);
     }
     DECLARE_MESSAGE_MAP()
 
@@ -156,7 +158,6 @@ BEGIN_MESSAGE_MAP(BrowserFrame, CFrameWnd)
     ON_COMMAND(ID_BAR_KEYS, &BrowserFrame::OnBarKeys)
     ON_WM_ACTIVATEAPP()
     ON_WM_SETFOCUS()
-    ON_WM_CLOSE()
 END_MESSAGE_MAP()
 
 class BrowserApp : public CWinApp

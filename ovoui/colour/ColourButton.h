@@ -29,8 +29,9 @@ struct ColourIdentity;
 /// choose, Escape and Tab close it. It opens upwards where the screen ends. A colour with alpha keeps it when
 /// another is chosen from the palette.
 ///
-/// The parent is sent WM_COMMAND with the codes below, and may destroy the button in each of them. It gets no
-/// BN_CLICKED. Whatever the style, the button draws itself; its text is the name that accessibility tells.
+/// The parent is sent WM_COMMAND with the codes below, and may destroy the button in each of them. It may do
+/// so too when it is asked for the brush behind the button. It gets no BN_CLICKED. Whatever the style, the
+/// button draws itself; its text is the name that accessibility tells.
 class OVOUI_API CColourButton : public CButton
 {
     DECLARE_DYNAMIC(CColourButton)

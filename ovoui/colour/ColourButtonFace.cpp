@@ -24,7 +24,8 @@ ColourButtonFace::ColourButtonFace(CWnd& button, const Colour& colour, const Loo
 void ColourButtonFace::paint(CDC& dc, const CRect& rect, UINT state) const
 {
     const bool enabled = !(state & ODS_DISABLED);
-    paintBack(dc, rect, state);
+    if (!paintBack(dc, rect, state))
+        return;
     const ButtonFaceLayout layout = layOutButtonFace(frame::toBox(rect), dc.GetDeviceCaps(LOGPIXELSX));
     const COLORREF lines = ink(state);
     if (layout.showsSwatch())
@@ -38,19 +39,23 @@ void ColourButtonFace::paint(CDC& dc, const CRect& rect, UINT state) const
     }
 }
 
-void ColourButtonFace::paintBack(CDC& dc, CRect rect, UINT state) const
+bool ColourButtonFace::paintBack(CDC& dc, CRect rect, UINT state) const
 {
     if (CThemeData::getThemeData().IsAppThemed()) {
         // The corners of a themed button show what is behind it.
+        const Lifeline::Watch watch(m_button);
         const auto behind = reinterpret_cast<HBRUSH>(
             frame::sendToHost(::GetParent(m_button), WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC),
                               reinterpret_cast<LPARAM>(m_button.m_hWnd)));
+        if (!watch.alive())
+            return false;
         ::FillRect(dc, &rect, behind ? behind : ::GetSysColorBrush(COLOR_BTNFACE));
         frame::KeptTheme theme(L"Button");
         if (theme.draw(m_button, dc, BP_PUSHBUTTON, themedState(state), rect))
-            return;
+            return true;
     }
     ::DrawFrameControl(dc, &rect, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed(state) ? DFCS_PUSHED : 0));
+    return true;
 }
 
 bool ColourButtonFace::pressed(UINT state) const

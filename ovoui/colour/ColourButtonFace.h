@@ -21,11 +21,12 @@ public:
 
     ColourButtonFace(CWnd& button, const Colour& colour, const Look& look);
 
-    /// `state` has flags ODS_...
+    /// `state` has flags ODS_... Nothing more is drawn once the parent has destroyed the button.
     void paint(CDC& dc, const CRect& rect, UINT state) const;
 
 private:
-    void paintBack(CDC& dc, CRect rect, UINT state) const;
+    /// Whether the button is still there: the parent, which is asked for the brush, may destroy or delete it.
+    bool paintBack(CDC& dc, CRect rect, UINT state) const;
     void paintColour(CDC& dc, const ButtonFaceLayout& layout, bool enabled, COLORREF ink) const;
 
     bool pressed(UINT state) const;

@@ -2,6 +2,7 @@
 
 #include <ovocor/OvoError.h>
 #include <ovocor/Text.h>
+#include <ovocor/WinError.h>
 
 #include <ovomsg/ovomsg.h>
 
@@ -53,19 +54,22 @@ void offer(COleDataSource& source, CLIPFORMAT format, GlobalMemory memory)
         source.CacheGlobalData(format, memory.release());
 }
 
-bool copied(const std::wstring& text)
+/// What OLE says to it.
+HRESULT copy(const std::wstring& text)
 {
     auto source = std::make_unique<COleDataSource>();
     offerText(*source, text);
+    HRESULT status = S_OK;
     try {
         source->SetClipboard();
         source.release(); // the clipboard owns it now
-        return true;
+        return status;
     } catch (COleException* error) {
+        status = error->m_sc;
         error->Delete();
     }
     source.release()->InternalRelease();
-    return false;
+    return status;
 }
 
 } // namespace
@@ -100,7 +104,12 @@ void offerText(COleDataSource& source, const std::wstring& text)
 
 void copyByOle(const std::wstring& text)
 {
-    for (int attempt = 1; !copied(text); ++attempt) {
+    for (int attempt = 1;; ++attempt) {
+        const HRESULT status = copy(text);
+        if (SUCCEEDED(status))
+            return;
+        if (status == CO_E_NOTINITIALIZED)
+            throw WinError(ovoMsg(OVOMSG_CLIPBOARD_NO_OLE), static_cast<DWORD>(status));
         if (attempt == kTries)
             throw OvoError(ovoMsg(OVOMSG_CLIPBOARD_BUSY));
         ::Sleep(kPause);

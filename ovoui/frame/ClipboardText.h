@@ -38,7 +38,7 @@ void offerText(COleDataSource& source, const std::wstring& text);
 
 /// Puts text on the clipboard by OLE, for hosts that have started it: the text is theirs until they flush
 /// the clipboard or end OLE. Tries again for a moment while another program has the clipboard open, and
-/// throws OvoError when that does not end.
+/// throws OvoError when that does not end; without OLE WinError with CO_E_NOTINITIALIZED, at once.
 void copyByOle(const std::wstring& text);
 
 } // namespace ovoui::frame

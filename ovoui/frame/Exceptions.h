@@ -33,8 +33,7 @@ void keepFirst(std::exception_ptr& kept, Call&& call)
         kept = raised;
 }
 
-/// Makes a call where no exception may leave, such as in a destructor, or in a procedure that the system
-/// calls and whose callers know nothing of exceptions: what it raises is lost.
+/// Makes a call where no exception may leave, such as in a destructor: what it raises is lost.
 template <class Call>
 void dropping(Call&& call) noexcept
 {

@@ -51,6 +51,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/ProfileSection.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ProgressBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ProgressBoxDlg.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/RaiseLater.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RedrawHold.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ResourceVersion.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TabKeys.cpp

@@ -1,12 +1,14 @@
 #include <ovoui/sliders/PopupWatcher.h>
 
 #include <ovoui/frame/Exceptions.h>
+#include <ovoui/frame/RaiseLater.h>
 #include <ovoui/sliders/core/PopupRules.h>
 
 #include <utility>
 
 using namespace ovoui::sliders;
-using ovoui::frame::dropping;
+using ovoui::frame::keeping;
+using ovoui::frame::raiseLater;
 
 PopupWatcher* PopupWatcher::s_current = nullptr;
 
@@ -32,14 +34,16 @@ LRESULT CALLBACK PopupWatcher::hear(int code, WPARAM removed, LPARAM message)
 {
     auto& taken = *reinterpret_cast<MSG*>(message);
     if (code == HC_ACTION && removed == PM_REMOVE && s_current) {
-        // The calls are copied, since the watcher may go. Exceptions do not pass through the system.
+        // The calls are copied, since the watcher may go. What they raise does not pass through the system,
+        // and does not keep the message from its window.
         switch (popupInputOf(taken.message, static_cast<unsigned>(taken.wParam))) {
         case PopupInput::Press:
-            dropping([pressed = s_current->m_calls.pressed, under = taken.hwnd] { pressed(under); });
+            raiseLater(
+                keeping([pressed = s_current->m_calls.pressed, under = taken.hwnd] { pressed(under); }));
             break;
         case PopupInput::Escape:
             taken.message = WM_NULL;
-            dropping([escape = s_current->m_calls.escape] { escape(); });
+            raiseLater(keeping([escape = s_current->m_calls.escape] { escape(); }));
             break;
         case PopupInput::Other:
             break;

@@ -18,7 +18,7 @@ public:
         std::function<void()> escape;
     };
 
-    /// The calls may destroy the watcher. What they throw is lost.
+    /// The calls may destroy the watcher. What they raise is raised anew in a later message.
     explicit PopupWatcher(Calls calls);
     ~PopupWatcher();
     PopupWatcher(const PopupWatcher&) = delete;

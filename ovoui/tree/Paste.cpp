@@ -69,7 +69,7 @@ bool MultiTreeCtrl::Paste::run() const
     if (!data.AttachClipboard())
         return false;
     bool taken = false;
-    host.report([&] {
+    const bool succeeded = host.report([&] {
         const Place place = find(data);
         taken = host.usable() && place.point;
         if (!taken)
@@ -78,7 +78,7 @@ bool MultiTreeCtrl::Paste::run() const
         if (place.drop.target && host.usable())
             m_tree.updateUI(*place.drop.target);
     });
-    return taken;
+    return taken || !succeeded;
 }
 
 bool MultiTreeCtrl::Paste::isPossible() const

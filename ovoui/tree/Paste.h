@@ -14,7 +14,8 @@ public:
     }
 
     bool isPossible() const;
-    /// False when the data is not taken anywhere.
+    /// False when the data is not taken anywhere. An error that was reported is the end of it: nobody else is
+    /// to paste what the user wanted here.
     bool run() const;
 
 private:

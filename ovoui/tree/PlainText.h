@@ -12,6 +12,6 @@ class COleDataSource;
 OVOUI_API void cachePlaintext(COleDataSource& source, const std::wstring& text);
 
 /// Puts `text` on the clipboard in the same formats, for hosts that have called AfxOleInit. Tries again for a
-/// moment while another program has the clipboard open, and throws OvoError when that does not end, and where
-/// OLE was not started.
+/// moment while another program has the clipboard open, and throws OvoError when that does not end; where OLE
+/// was not started, WinError with CO_E_NOTINITIALIZED.
 OVOUI_API void copyPlaintext(const std::wstring& text);

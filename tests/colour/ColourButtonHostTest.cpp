@@ -7,6 +7,8 @@
 #include <testkit/Picture.h>
 #include <testkit/WinEvents.h>
 
+#include <ovoui/frame/ThemeData.h>
+
 #include <afxext.h>
 
 using namespace ovo::testkit;
@@ -138,6 +140,52 @@ TEST_F(ColourButton, TheParentMayDestroyOrDeleteItWhenItLosesTheFocus)
         EXPECT_TRUE(!button || !button->m_hWnd);
         EXPECT_EQ(shownPopup(), nullptr);
         EXPECT_EQ(::GetCapture(), nullptr);
+    }
+}
+
+/// What paints it here is a picture, on which is seen whether anything is painted afterwards.
+TEST_F(ColourButton, TheParentMayDestroyOrDeleteItWhenItIsAskedForTheBrush)
+{
+    if (!CThemeData::getThemeData().IsAppThemed())
+        GTEST_SKIP() << "visual styles are off, and the parent is not asked";
+    const struct
+    {
+        const char* name;
+        std::function<void()> act;
+        bool paints;
+    } answers[] = {{"leaves it alone", [] {}, true},
+                   {"destroys it", [this] { button->DestroyWindow(); }, false},
+                   {"deletes it", [this] { button.reset(); }, false}};
+    constexpr COLORREF kPaper = RGB(255, 0, 200);
+    for (const auto& [name, act, paints] : answers) {
+        SCOPED_TRACE(name);
+        show();
+        button = std::make_unique<Perishing<PenButton>>();
+        button->Create(L"Pen", WS_CHILD | WS_VISIBLE, CRect(20, 20, 80, 44), &parent, 7);
+        button->SetColour(Colour::colorref(kRust));
+        const Picture picture(60, 24, kPaper);
+        int asked = 0;
+        parent.onMessage = [&, act = act](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+            if (message != WM_CTLCOLORBTN)
+                return std::nullopt;
+            ++asked;
+            act();
+            return reinterpret_cast<LRESULT>(::GetSysColorBrush(COLOR_BTNFACE));
+        };
+        DRAWITEMSTRUCT item{.CtlType = ODT_BUTTON,
+                            .CtlID = 7,
+                            .itemID = 0,
+                            .itemAction = ODA_DRAWENTIRE,
+                            .itemState = 0,
+                            .hwndItem = button->m_hWnd,
+                            .hDC = picture.dc(),
+                            .rcItem = {0, 0, 60, 24},
+                            .itemData = 0};
+        parent.SendMessage(WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
+        parent.onMessage = nullptr;
+        EXPECT_EQ(asked, 1);
+        EXPECT_EQ(picture.at(20, 12), paints ? kRust : kPaper);
+        EXPECT_EQ(picture.count(kPaper), paints ? 0 : 60 * 24);
     }
 }
 

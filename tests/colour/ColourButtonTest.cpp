@@ -1,6 +1,7 @@
 // The colour button: its looks, its palette with mouse and keyboard, and its dialog.
 #include "ColourButtonScene.h"
 
+#include <support/EmptyDialog.h>
 #include <testkit/GdiPlusSession.h>
 #include <testkit/Picture.h>
 #include <testkit/TemporaryProfile.h>
@@ -418,22 +419,8 @@ TEST_F(ColourButton, ThePaletteShowsItsColoursItsMarkAndItsLine)
 
 TEST_F(ColourButton, InADialogTheKeysAreThePalettesWhileItIsOpen)
 {
-    class Form : public CDialog
-    {
-    public:
-        void create()
-        {
-            struct
-            {
-                DLGTEMPLATE head{WS_POPUP | WS_VISIBLE | WS_CAPTION, WS_EX_CONTROLPARENT, 0, 60, 60, 160, 90};
-                WORD menu = 0;
-                WORD windowClass = 0;
-                WORD title = 0;
-            } empty;
-            CreateIndirect(&empty.head, nullptr);
-        }
-    } form;
-    form.create();
+    EmptyDialog form;
+    ASSERT_TRUE(form.create({60, 60}, {160, 90}));
     constexpr DWORD kStop = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
     CEdit before;
     before.Create(kStop | WS_BORDER, CRect(10, 10, 100, 30), &form, 1001);

@@ -1,7 +1,9 @@
 // The grid of colours.
 #include "ColourControlsScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/AccessibleView.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
 #include <testkit/WinEvents.h>
 
@@ -29,6 +31,11 @@ protected:
 
     std::unique_ptr<CColourGrid> grid;
 };
+
+HWND WINAPI noWindow(DWORD, LPCWSTR, LPCWSTR, DWORD, int, int, int, int, HWND, HMENU, HINSTANCE, void*)
+{
+    return nullptr;
+}
 
 } // namespace
 
@@ -125,6 +132,19 @@ TEST_F(ColourGrid, TakesThePlaceOfAControl)
     EXPECT_EQ(rect, CRect(30, 40, 130, 60));
     EXPECT_TRUE(grid->GetStyle() & WS_TABSTOP);
     EXPECT_FALSE(CColourGrid().createInPlace(parent, 10)) << "there is no such control";
+}
+
+TEST_F(ColourGrid, LeavesTheControlWhosePlaceItCannotTake)
+{
+    CStatic place;
+    place.Create(L"Leaves", WS_CHILD | WS_VISIBLE, CRect(30, 40, 130, 60), &parent, 9);
+    CColourGrid own;
+    {
+        const ImportPatch patch(L"ovomfc.dll", "CreateWindowExW", reinterpret_cast<void*>(&noWindow));
+        EXPECT_FALSE(own.createInPlace(parent, 9));
+    }
+    EXPECT_FALSE(own.m_hWnd);
+    EXPECT_EQ(parent.GetDlgItem(9), &place);
 }
 
 TEST_F(ColourGrid, TakesTheStateAndTheTurnOfTheControl)
@@ -253,4 +273,28 @@ TEST_F(ColourGrid, TheParentMayDestroyOrDeleteItInEveryCall)
                 parent.onCode = nullptr;
                 grid.reset();
             }
+}
+
+TEST_F(ColourGrid, TheParentMayDestroyOrDeleteItWhenItIsAskedForTheBrush)
+{
+    for (const bool erase : {false, true}) {
+        SCOPED_TRACE(erase);
+        show();
+        grid = std::make_unique<Perishing<CColourGrid>>();
+        grid->Create(WS_VISIBLE, CRect(20, 20, 284, 60), &parent, 7);
+        grid->SetColours({kLeaf, kRust}, 2);
+        const HWND wnd = *grid;
+        bool asked = false;
+        parent.onMessage = [&](UINT message, WPARAM, LPARAM control) -> std::optional<LRESULT> {
+            if (message != WM_CTLCOLORSTATIC || reinterpret_cast<HWND>(control) != wnd)
+                return std::nullopt;
+            asked = true;
+            erase ? grid.reset() : static_cast<void>(grid->DestroyWindow());
+            return reinterpret_cast<LRESULT>(::GetSysColorBrush(COLOR_BTNFACE));
+        };
+        ::RedrawWindow(wnd, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        parent.onMessage = nullptr;
+        EXPECT_TRUE(asked);
+        EXPECT_TRUE(!grid || !grid->m_hWnd);
+    }
 }

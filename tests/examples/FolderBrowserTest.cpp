@@ -42,6 +42,11 @@ protected:
             std::filesystem::last_write_time(path,
                                              std::chrono::file_clock::now() - std::chrono::days(daysOld));
         }
+        start();
+    }
+
+    void start()
+    {
         m_program.emplace(L"folder-browser", L"\"" + m_files.folder() + L"\"");
         m_program->waitFor("the list", [this] { return ask(list(), LVM_GETITEMCOUNT) == kEntries; });
     }
@@ -80,6 +85,23 @@ protected:
         for (std::size_t at = 0, end; (end = text.find(L"\r\n", at)) != std::wstring::npos; at = end + 2)
             names += text.substr(at, end - at).substr(folder().size() + 1) + L' ';
         return names;
+    }
+
+    void sortBySize()
+    {
+        m_program->key(VK_F6); // the toolbar; its last button but one sorts
+        m_program->key(VK_END);
+        m_program->key(VK_LEFT);
+        m_program->key(VK_DOWN);
+        m_program->key(VK_RIGHT);
+        m_program->key(VK_RETURN);
+        waitForTheOrderBySize();
+    }
+    void waitForTheOrderBySize()
+    {
+        m_program->waitFor("the order", [this] {
+            return copiedNames().ends_with(L"big.txt harvest.csv pond.png hedge.jpg ");
+        });
     }
 
     void close()
@@ -128,14 +150,28 @@ TEST_F(FolderBrowser, FollowsTheTree)
 
 TEST_F(FolderBrowser, SortsByWhatIsChosenInTheFlyout)
 {
-    m_program->key(VK_F6); // the toolbar; its last button but one sorts
-    m_program->key(VK_END);
-    m_program->key(VK_LEFT);
-    m_program->key(VK_DOWN);
-    m_program->key(VK_RIGHT);
-    m_program->key(VK_RETURN);
-    m_program->waitFor(
-        "the order", [this] { return copiedNames().ends_with(L"big.txt harvest.csv pond.png hedge.jpg "); });
+    sortBySize();
+    close();
+}
+
+TEST_F(FolderBrowser, ComesBackInTheOrderInWhichItWasClosed)
+{
+    sortBySize();
+    close();
+    start();
+    waitForTheOrderBySize();
+    close();
+}
+
+/// The system may end a program as soon as its windows have been told.
+TEST_F(FolderBrowser, ComesBackInTheOrderThatItHadWhenTheSessionEnded)
+{
+    sortBySize();
+    EXPECT_EQ(ask(m_program->main(), WM_QUERYENDSESSION), TRUE);
+    ask(m_program->main(), WM_ENDSESSION, TRUE);
+    m_program.reset();
+    start();
+    waitForTheOrderBySize();
     close();
 }
 

@@ -3,6 +3,7 @@
 #include "HostParts.h"
 
 #include <ovocor/Text.h>
+#include <ovocor/WinError.h>
 #include <ovoui/ovoui.h>
 
 #include <testkit/Clipboard.h>
@@ -13,6 +14,8 @@
 #include <testkit/TemporaryProfile.h>
 
 #include <gtest/gtest.h>
+
+#include <afxole.h>
 
 #include <limits>
 
@@ -437,9 +440,9 @@ TEST(GdiPlusSession, EndsWhatItHasBegun)
     static int s_ended;
     s_ended = 0;
     const ImportPatch patch(L"ovoui.dll", "GdiplusShutdown", reinterpret_cast<void*>(+[](ULONG_PTR token) {
-        ++s_ended;
-        Gdiplus::GdiplusShutdown(token);
-    }));
+                                ++s_ended;
+                                Gdiplus::GdiplusShutdown(token);
+                            }));
     {
         const CGdiPlusSession session;
         ASSERT_TRUE(session.IsStarted());
@@ -459,6 +462,19 @@ TEST(GdiPlusSession, StartsBesideAnother)
     images.Create(16, 16, 11);
     EXPECT_GE(images.AddBitmap(IDB_FILES_16, false, -1, CSize(16, 16), CSize(16, 16), nullptr, nullptr), 0)
         << "the inner one's end leaves the outer one";
+}
+
+TEST(PlainText, NeedsOleAndSaysSo)
+{
+    AfxOleTerm();
+    DWORD code = 0;
+    try {
+        copyPlaintext(L"leaf");
+    } catch (const WinError& error) {
+        code = error.code();
+    }
+    ASSERT_TRUE(AfxOleInit());
+    EXPECT_EQ(code, static_cast<DWORD>(CO_E_NOTINITIALIZED));
 }
 
 TEST(PlainText, GoesOntoTheClipboard)

@@ -136,6 +136,21 @@ TEST(MessageBoxWrap, AParagraphOfAnyLengthIsWrappedAndCanBeReadToItsEnd)
     }
 }
 
+TEST(MessageBoxWrap, LinesBeginWithWords)
+{
+    const std::wstring message = prose(300);
+    inspect({.text = message.c_str()}, [&message](HWND box) {
+        const HWND text = textControl(box);
+        const LRESULT lines = send(text, EM_GETLINECOUNT);
+        ASSERT_GT(lines, 3);
+        for (LRESULT line = 1; line < lines; ++line) {
+            const auto begin = static_cast<std::size_t>(send(text, EM_LINEINDEX, static_cast<WPARAM>(line)));
+            ASSERT_LT(begin, message.size());
+            EXPECT_EQ(message[begin - 1], L' ') << line;
+        }
+    });
+}
+
 TEST(MessageBoxWrap, AWordThatFitsNoLineIsScrolledWhileTheRestIsWrapped)
 {
     const std::wstring longWord(400, L'W');

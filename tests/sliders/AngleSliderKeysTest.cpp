@@ -235,6 +235,22 @@ TEST_F(AngleSliderKeys, TheSmallEditHasTheUsualFontAndLiesInTheMiddle)
     EXPECT_TRUE(parent.told.empty());
 }
 
+/// The style does not tell: the control may take it off and draw the line itself.
+TEST_F(AngleSliderKeys, TheSmallEditHasALineAroundIt)
+{
+    round->SetFocus();
+    user.type(L"4").waitFor("the edit", [&] { return edit() != nullptr; });
+    const Picture shown = Picture::ofWindow(edit());
+    const int width = shown.width();
+    const int height = shown.height();
+    const COLORREF ground = ::GetSysColor(COLOR_WINDOW);
+    ASSERT_EQ(shown.at(3, height / 2), ground) << "beside the text";
+    for (const CRect& side : {CRect(0, 0, width, 1), CRect(0, height - 1, width, height),
+                              CRect(0, 0, 1, height), CRect(width - 1, 0, width, height)})
+        EXPECT_EQ(shown.count(ground, 0, side), 0) << side.left << ' ' << side.top;
+    user.key(VK_ESCAPE).waitFor("the edit to go", [&] { return edit() == nullptr; });
+}
+
 TEST_F(AngleSliderKeys, CharactersThatAreOnTheirWayWhenTheEditOpensGoIntoIt)
 {
     round->SetFocus();

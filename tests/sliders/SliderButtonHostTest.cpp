@@ -111,9 +111,8 @@ TEST_F(SliderButton, AHostMayDeleteItWhenItHearsThatItIsDisabled)
                                reinterpret_cast<LPARAM>(wnd));
             return result;
         };
-        const HWND window =
-            ::CreateWindowW(L"STATIC", L"", WS_CHILD | WS_VISIBLE | SS_NOTIFY, 102, 0, 16, 22, panel,
-                            reinterpret_cast<HMENU>(9), nullptr, nullptr);
+        const HWND window = ::CreateWindowW(L"STATIC", L"", WS_CHILD | WS_VISIBLE | SS_NOTIFY, 102, 0, 16, 22,
+                                            panel, reinterpret_cast<HMENU>(9), nullptr, nullptr);
         label = reinterpret_cast<WNDPROC>(
             ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(telling)));
         std::unique_ptr<CSliderButton> slider = std::make_unique<Perishing<CSliderButton>>(utils);
@@ -130,7 +129,8 @@ TEST_F(SliderButton, AHostMayDeleteItWhenItHearsThatItIsDisabled)
         show();
         slider->SendMessage(WM_KEYDOWN, VK_SPACE);
         EXPECT_TRUE(isOpen());
-        ::SendMessageW(window, WM_ENABLE, FALSE, 0); // as EnableWindow does, out of which a crash would not come
+        ::SendMessageW(window, WM_ENABLE, FALSE,
+                       0); // as EnableWindow does, out of which a crash would not come
         EXPECT_TRUE(told);
         EXPECT_TRUE(isClosed());
         panel.DestroyWindow();
@@ -312,6 +312,31 @@ TEST_F(SliderButton, AParentThatRaisesWhenItIsCancelledHearsOfTheEnd)
     EXPECT_EQ(buddyText(), L"50");
     EXPECT_TRUE(isClosed());
     EXPECT_EQ(panel.told, (std::vector<UINT>{kChanged, kReleased}));
+}
+
+/// The system tells of these messages before they reach their window, in the middle of its own work.
+TEST_F(SliderButton, WhatTheParentRaisesWhenAPressElsewhereOrEscapeEndsThePopupComesOutOfTheMessageLoop)
+{
+    const struct
+    {
+        UINT message;
+        WPARAM wParam;
+    } ends[] = {{WM_LBUTTONDOWN, MK_LBUTTON}, {WM_KEYDOWN, VK_ESCAPE}};
+    ToldPanel panel(parent, buddy);
+    show();
+    for (const auto& [message, wParam] : ends) {
+        SCOPED_TRACE(message);
+        open();
+        panel.told.clear();
+        panel.raisesWhen = kReleased;
+        ::PostMessageW(other, message, wParam, 0);
+        EXPECT_THROW(GuiThread::settle(), int);
+        panel.raisesWhen = 0;
+        EXPECT_TRUE(isClosed());
+        EXPECT_EQ(panel.told, std::vector<UINT>{kReleased});
+        ::PostMessageW(other, WM_LBUTTONUP, 0, 0);
+        EXPECT_NO_THROW(GuiThread::settle()) << "once";
+    }
 }
 
 TEST_F(SliderButton, WhatIsRaisedFirstComesOutWhenThePopupDoesNotOpen)

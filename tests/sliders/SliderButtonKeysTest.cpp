@@ -1,6 +1,8 @@
 // A slider button and its popup with the keyboard.
 #include "SliderButtonScene.h"
 
+#include <support/EmptyDialog.h>
+
 using namespace ovo::testkit;
 
 TEST_F(SliderButton, DialogsDoNotTakeItForAStaticControl)
@@ -14,22 +16,8 @@ TEST_F(SliderButton, DialogsDoNotTakeItForAStaticControl)
 
 TEST_F(SliderButton, TabGoesThroughItInADialog)
 {
-    class Form : public CDialog
-    {
-    public:
-        void create()
-        {
-            struct
-            {
-                DLGTEMPLATE head{WS_POPUP | WS_VISIBLE | WS_CAPTION, WS_EX_CONTROLPARENT, 0, 20, 20, 120, 60};
-                WORD menu = 0;
-                WORD windowClass = 0;
-                WORD title = 0;
-            } empty;
-            CreateIndirect(&empty.head, nullptr);
-        }
-    } form;
-    form.create();
+    EmptyDialog form;
+    ASSERT_TRUE(form.create({20, 20}, {120, 60}));
     buddy.SetParent(&form);
     button->SetParent(&form);
     other.SetParent(&form);

@@ -2,6 +2,7 @@
 // and what accessibility sees.
 #include "SliderButtonScene.h"
 
+#include <support/EmptyDialog.h>
 #include <testkit/AccessibleView.h>
 #include <testkit/ImportPatch.h>
 #include <testkit/TestApp.h>
@@ -136,6 +137,24 @@ TEST_F(SliderButtonOptions, TheBubbleFollowsTheThumb)
         .release()
         .waitFor("the bubble to go", [] { return bubble() == nullptr; });
     EXPECT_GT(after.left, before.left);
+}
+
+/// Before any other message: the thumb is followed while the mouse is dragged.
+TEST_F(SliderButtonOptions, TheBubbleShowsTheNumberAtOnce)
+{
+    button->ShowBubble(true);
+    setBuddyText(L"50");
+    show();
+    button->SetFocus();
+    button->SendMessage(WM_KEYDOWN, VK_SPACE);
+    ASSERT_NE(bubble(), nullptr);
+    EXPECT_FALSE(::GetUpdateRect(bubble(), nullptr, FALSE)) << "it is painted";
+    const Picture shown = Picture::ofClient(bubble());
+    CRect inside(0, 0, shown.width(), shown.height());
+    inside.DeflateRect(2, 2);   // its border
+    constexpr int kSmooth = 60; // of the edges of letters
+    EXPECT_GT(shown.count(::GetSysColor(COLOR_INFOTEXT), kSmooth, inside), 5);
+    button->SendMessage(WM_KEYDOWN, VK_SPACE);
 }
 
 TEST_F(SliderButtonOptions, TheBubbleGoesWithThePopupThatAnotherProgramCloses)
@@ -435,25 +454,17 @@ namespace
 constexpr UINT kPress = WM_APP + 1;
 
 /// A dialog whose handler presses a slider button.
-class PressingDialog : public COVOModalDialog
+class PressingDialog : public EmptyDialog<COVOModalDialog>
 {
 public:
     explicit PressingDialog(SliderButtonUtils& utils)
-        : COVOModalDialog(0, nullptr)
+        : EmptyDialog(0, nullptr)
         , slider(utils)
     {
     }
 
-    void create()
+    void fill()
     {
-        struct
-        {
-            DLGTEMPLATE head{WS_POPUP | WS_VISIBLE | WS_CAPTION, 0, 0, 20, 20, 120, 60};
-            WORD menu = 0;
-            WORD windowClass = 0;
-            WORD title = 0;
-        } empty;
-        CreateIndirect(&empty.head, nullptr);
         edit.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 100, 32), this, kBuddyId);
         CStatic plain;
         plain.Create(L"", WS_CHILD | WS_VISIBLE, CRect(102, 10, 118, 32), this, 9);
@@ -483,7 +494,8 @@ END_MESSAGE_MAP()
 TEST_F(SliderButtonOptions, WhatAConversionThrowsIsShownByTheDialog)
 {
     PressingDialog dialog(utils);
-    dialog.create();
+    ASSERT_TRUE(dialog.create({20, 20}, {120, 60}));
+    dialog.fill();
     utils.misdeed = [] { throw std::runtime_error("no such unit"); };
     dialog.SendMessage(kPress);
     ASSERT_EQ(TestApp::instance().boxes().size(), 1u);

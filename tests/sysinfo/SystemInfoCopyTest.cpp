@@ -181,3 +181,15 @@ TEST_F(SystemInfoCopy, OneThatStaysInUseIsSaidClearlyAndNothingIsLost)
     copyByCommand(shown);
     EXPECT_EQ(clipboardText(), text) << "the next try";
 }
+
+TEST_F(SystemInfoCopy, WithoutOleItIsSaidThatTheProgramHasNotStartedIt)
+{
+    Shown shown;
+    AfxOleTerm();
+    copyByCommand(shown);
+    ASSERT_TRUE(AfxOleInit());
+    EXPECT_EQ(g_tries, 1) << "there is nothing to wait for";
+    ASSERT_EQ(TestApp::instance().boxes().size(), 1u);
+    EXPECT_NE(TestApp::instance().boxes()[0].text.find(L"has not started OLE"), std::wstring::npos);
+    EXPECT_TRUE(shown.dialog().IsWindowVisible());
+}

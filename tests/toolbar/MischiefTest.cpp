@@ -163,6 +163,40 @@ TEST(FlyoutMischief, TheBarMayGoWhileItsFlyoutIsOpen)
     }
 }
 
+namespace
+{
+
+/// A host's bar that does not hand WM_DESTROY on to the class that it derives from.
+class ForgetfulBar : public TestBar
+{
+protected:
+    afx_msg void OnDestroy() { CToolBar::OnDestroy(); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ForgetfulBar, TestBar)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+} // namespace
+
+TEST(FlyoutMischief, ADeletedBarTakesItsFlyoutAlongWhateverItHasHeardBefore)
+{
+    BarScene scene;
+    auto bar = std::make_unique<ForgetfulBar>();
+    bar->CreateEx(&scene.frame(), TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP);
+    static constexpr UINT kButtons[] = {ID_ARC, ID_OTHER};
+    bar->LoadBitmap(IDR_SHAPES);
+    bar->SetButtons(kButtons, 2);
+    bar->AttachBar(0, IDR_SHAPES, 16, {0, 1}, false);
+    bar->CreatePopup(0, CRect(300, 300, 320, 320), 0);
+    ASSERT_TRUE(BarScene::flyoutShown());
+    bar->DestroyWindow();
+    EXPECT_NE(BarScene::flyout(), nullptr) << "it has not heard";
+    bar.reset();
+    EXPECT_EQ(BarScene::flyout(), nullptr);
+}
+
 TEST(FlyoutMischief, TheFrameMayGoWhileTheFlyoutIsOpen)
 {
     RecordingParent bystander(CSize(1000, 800)); // takes the release when the frame has gone

@@ -6,6 +6,7 @@
 #include <testkit/TemporaryProfile.h>
 
 #include <ovocor/OvoError.h>
+#include <ovoui/tree/PlainText.h>
 #include <ovouires/resource.h>
 
 #include <gtest/gtest.h>
@@ -263,6 +264,29 @@ TEST(TreeCommands, APasteThatNoNodeTakesGoesToTheParent)
     scene.command(ID_EDIT_PASTE);
     EXPECT_EQ(pasted, 1) << "the node's";
     EXPECT_EQ(scene.journal, (Journal{"gesture 57637", "doCommand 57637 a", "gesture 0"}));
+}
+
+TEST(TreeCommands, APasteThatANodeAnswersWithAnErrorIsOverWhenThatIsReported)
+{
+    CommandScene scene({"a"});
+    scene.tree.SelectItem(scene.item("a"));
+    int pasted = 0;
+    scene.host().routing = [&](UINT id, int code, void*, AFX_CMDHANDLERINFO* info) -> BOOL {
+        if (id != ID_EDIT_PASTE || code != CN_COMMAND)
+            return FALSE;
+        pasted += info ? 0 : 1;
+        return TRUE;
+    };
+    copyPlaintext(L"pasted");
+    scene.command(ID_EDIT_PASTE);
+    EXPECT_EQ(pasted, 1) << "the node takes nothing, so it is the parent's";
+    scene.node("a").draggingInto = [](COleDataObject&, DWORD&, bool&, int) -> DWORD {
+        throw OvoError(L"locked");
+    };
+    scene.command(ID_EDIT_PASTE);
+    EXPECT_EQ(scene.tree.errors, Journal{"locked"});
+    EXPECT_EQ(pasted, 1) << "not pasted elsewhere";
+    ::OleSetClipboard(nullptr);
 }
 
 TEST(TreeCommands, ANodeThatDeletesTheOthersDoesNoHarm)
