@@ -14,11 +14,10 @@ enum OvoMessageId : unsigned
     OVOMSG_UPDATE_LIST_ALTERED = 303,  ///< the signature does not fit: the list's address
     OVOMSG_UPDATE_LIST_OLD = 304,      ///< older than a list that was seen before: the list's address
     OVOMSG_UPDATE_LIST_NOT_READ = 305, ///< a downloaded list that cannot be read; the system's reason follows
-    OVOMSG_FILE_NOT_OPENED = 311, ///< a file that cannot be opened: its path; the system's reason follows
-    OVOMSG_FILE_NOT_READ = 312,   ///< a file that cannot be read: its path; the system's reason follows
-    OVOMSG_CLIPBOARD_BUSY = 313,  ///< nothing could be copied, since another program has the clipboard
-    OVOMSG_CLIPBOARD_NO_OLE =
-        314, ///< nothing could be copied, since the host has not started OLE; the system's reason follows
+    OVOMSG_FILE_NOT_OPENED = 311,  ///< a file that cannot be opened: its path; the system's reason follows
+    OVOMSG_FILE_NOT_READ = 312,    ///< a file that cannot be read: its path; the system's reason follows
+    OVOMSG_CLIPBOARD_BUSY = 313,   ///< nothing could be copied, since another program has the clipboard
+    OVOMSG_CLIPBOARD_NO_OLE = 314, ///< the same, since the host has not started OLE; the reason follows
     OVOMSG_DOWNLOAD_FAILED =
         321, ///< a download that failed: the address, the reason, which is one of those that follow
     OVOMSG_DOWNLOAD_SCHEME = 322,    ///< reason: the address is neither http nor https
