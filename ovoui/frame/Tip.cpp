@@ -111,6 +111,7 @@ UINT Tip::delayTime(WPARAM which) const
 
 void Tip::moveTo(CPoint corner)
 {
+    m_corner = corner;
     ::SendMessageW(m_tip, TTM_TRACKPOSITION, 0, MAKELPARAM(corner.x, corner.y));
 }
 

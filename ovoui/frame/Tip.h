@@ -42,6 +42,8 @@ public:
     CPoint cornerAround(const CRect& place) const;
 
     void showAt(CPoint corner);
+    /// Where it was shown last, which is where it was to be: some platforms keep it on the screen.
+    CPoint corner() const { return m_corner; }
     /// Shows itself below or above what it tells about.
     void showBeside(const CRect& about);
     void hide();
@@ -60,6 +62,7 @@ private:
 
     HWND m_tip = nullptr;
     HWND m_tool = nullptr;
+    CPoint m_corner;
     bool m_wasShown = false;
 };
 

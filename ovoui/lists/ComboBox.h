@@ -32,6 +32,7 @@ class ComboHits;
 class ComboItems;
 class ComboSearch;
 struct ComboSettings;
+struct ItemLook;
 struct Taking;
 struct Verdict;
 enum class Told;
@@ -96,7 +97,7 @@ public:
 
     /// The colour of the item `item`: a COLORREF with the alpha in its highest byte, 255 for opaque. Needs
     /// the styles CBS_OWNERDRAWFIXED and CBS_HASSTRINGS, as images do. Both stay with their items while
-    /// others come and go, and are gone with the item.
+    /// others come and go, and are gone with the item. An open list shows them at once.
     void SetItemColour(int item, DWORD colour);
     /// The image of the item `item`, of the list of images, or -1 for none.
     void SetItemImage(int item, int image);
@@ -120,6 +121,7 @@ protected:
     void MeasureItem(LPMEASUREITEMSTRUCT item) override;
     afx_msg BOOL OnDropdown();
     afx_msg LRESULT OnAddItem(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnAddFiles(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnResetItems(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnFont(WPARAM wParam, LPARAM lParam);
@@ -163,6 +165,8 @@ private:
     void removeItem(int item);
     template <class Change, class IndexAfter>
     void changeItems(const Change& change, const IndexAfter& indexAfter);
+    void setLook(int item, const ovoui::lists::ItemLook& look);
+    CWnd* openList() const;
     void drawItems();
     void setListItemHeight();
     int listItemHeight();

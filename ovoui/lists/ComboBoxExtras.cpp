@@ -19,6 +19,21 @@ namespace
 constexpr UINT kWithFocusToo = TRUE;
 constexpr auto kField = static_cast<UINT>(-1); ///< in place of an item's number
 
+/// What an item is known by: its text and the host's data.
+using KnownItem = std::pair<std::wstring, DWORD_PTR>;
+
+std::vector<KnownItem> knownItems(const CComboBox& combo)
+{
+    std::vector<KnownItem> items;
+    CString text;
+    const int count = combo.GetCount();
+    for (int item = 0; item < count; ++item) {
+        combo.GetLBText(item, text);
+        items.emplace_back(text.GetString(), combo.GetItemData(item));
+    }
+    return items;
+}
+
 } // namespace
 
 // Keys
@@ -204,16 +219,43 @@ void COVOComboBox::SetItemColour(int item, DWORD colour)
 {
     ItemLook look = m_items->looks.at(item);
     look.colour = colour;
-    m_items->looks.set(item, look);
-    drawItems();
+    setLook(item, look);
 }
 
 void COVOComboBox::SetItemImage(int item, int image)
 {
     ItemLook look = m_items->looks.at(item);
     look.image = image;
+    setLook(item, look);
+}
+
+/// In an open list the item is painted anew; all are when the host has drawn them so far, and when the first
+/// colour moves all texts.
+void COVOComboBox::setLook(int item, const ItemLook& look)
+{
+    CWnd* const list = openList();
+    const bool othersStay = list && m_items->asked && (!look.colour || m_items->looks.haveColours());
     m_items->looks.set(item, look);
     drawItems();
+    if (m_search)
+        m_search->repaint();
+    if (!list)
+        return;
+    RECT place{};
+    if (!othersStay)
+        list->Invalidate(FALSE);
+    else if (list->SendMessage(LB_GETITEMRECT, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&place)) !=
+             LB_ERR)
+        list->InvalidateRect(&place, FALSE);
+}
+
+/// Null while the list is closed.
+CWnd* COVOComboBox::openList() const
+{
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    const bool isOpen = m_hWnd && GetComboBoxInfo(&info) && ::IsWindowVisible(info.hwndList);
+    return isOpen ? CWnd::FromHandle(info.hwndList) : nullptr;
 }
 
 void COVOComboBox::SetImageList(CImageList* images)
@@ -254,6 +296,22 @@ LRESULT COVOComboBox::OnAddItem(WPARAM, LPARAM)
     if (watch.alive())
         m_items->looks.inserted(static_cast<int>(item));
     return item;
+}
+
+/// The list tells where the last name has gone only. Items with the same text and the same data are not told
+/// apart: nobody could.
+LRESULT COVOComboBox::OnAddFiles(WPARAM, LPARAM)
+{
+    const Lifeline::Watch watch(*this);
+    itemsChange();
+    if (m_items->looks.empty() || !itemsHaveTexts())
+        return Default();
+    const ItemLooks looks = m_items->looks;
+    const std::vector<KnownItem> before = knownItems(*this);
+    const LRESULT last = Default();
+    if (watch.alive())
+        m_items->looks = looks.amongMore(before, knownItems(*this));
+    return last;
 }
 
 LRESULT COVOComboBox::OnDeleteItem(WPARAM wParam, LPARAM)

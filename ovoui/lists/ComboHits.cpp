@@ -169,6 +169,12 @@ bool ComboHits::isShown() const
     return m_hWnd && IsWindowVisible();
 }
 
+void ComboHits::repaint()
+{
+    if (isShown())
+        m_list.Invalidate(FALSE);
+}
+
 void ComboHits::select(int index)
 {
     m_list.SetCurSel(index);

@@ -43,6 +43,8 @@ public:
     void show(std::vector<int> items, const std::wstring& foldedPart);
     void hide();
     bool isShown() const;
+    /// All hits that are in sight, which are few.
+    void repaint();
 
     int count() const { return static_cast<int>(m_items.size()); }
     /// Among the items shown; -1 for none.

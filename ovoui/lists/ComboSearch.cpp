@@ -58,6 +58,11 @@ void ComboSearch::findAgain()
         typed(std::wstring(m_typed));
 }
 
+void ComboSearch::repaint()
+{
+    m_hits.repaint();
+}
+
 void ComboSearch::end()
 {
     m_hits.hide();

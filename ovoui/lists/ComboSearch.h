@@ -18,11 +18,15 @@ public:
     /// Whether a key that is on its way to the edit field is done with.
     bool takesKey(WPARAM virtualKey);
 
-    /// The items are about to change. True when that concerns the hits, for the first time since they were found.
+    /// The items are about to change. True when that concerns the hits, for the first time since they were
+    /// found.
     bool doubts();
 
     /// Finds the hits once more, if some are still shown.
     void findAgain();
+
+    /// The hits look different from before.
+    void repaint();
 
     /// Shows nothing any more.
     void end();

@@ -30,6 +30,17 @@ bool endsTip(UINT message)
     }
 }
 
+/// Whether a message is one by which code scrolls a list, if there is need.
+bool mayScroll(UINT message)
+{
+    return message == LVM_SCROLL || message == LVM_ENSUREVISIBLE;
+}
+
+CRect textIn(const ovoui::frame::Box& area, int column)
+{
+    return toRect(textBox(area, column == 0 ? kLabelInset : kCellInset));
+}
+
 } // namespace
 
 COVOListCellTips::COVOListCellTips()
@@ -73,6 +84,8 @@ void COVOListCellTips::heard(UINT message, WPARAM, LPARAM lParam)
 {
     if (message == WM_MOUSEMOVE)
         pointerAt(CPoint(lParam));
+    else if (mayScroll(message) && liesElsewhere())
+        hide();
 }
 
 void COVOListCellTips::pointerAt(CPoint point)
@@ -103,7 +116,7 @@ std::wstring COVOListCellTips::cutText(const Cell& cell, CRect& textPlace) const
     if (!area)
         return {};
     const bool isLabel = cell.column == 0;
-    textPlace = toRect(textBox(*area, isLabel ? kLabelInset : kCellInset));
+    textPlace = textIn(*area, cell.column);
     CClientDC dc(&list);
     const ovoui::frame::SelectedTool font(dc, list.GetFont());
     const std::wstring shown = COVOListCtrlEx::MakeShortString(&dc, text.c_str(), area->width(),
@@ -132,6 +145,17 @@ void COVOListCellTips::show(const Cell& cell)
 void COVOListCellTips::hide()
 {
     m_tip->hide();
+}
+
+/// Whether a tip is shown whose cell is not below it any more.
+bool COVOListCellTips::liesElsewhere() const
+{
+    if (!::IsWindowVisible(Window()))
+        return false;
+    const auto area = ListCells(*m_list).textArea(m_cell.item, m_cell.column);
+    CRect place = area ? textIn(*area, m_cell.column) : CRect();
+    m_list->ClientToScreen(&place);
+    return m_tip->cornerAround(place) != m_tip->corner();
 }
 
 HWND COVOListCellTips::Window() const

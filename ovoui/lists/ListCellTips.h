@@ -17,7 +17,7 @@ class Tip;
 }
 
 /// While the pointer rests on a cell whose text is cut, a tip with the whole text lies over the cell, in its
-/// font. It goes when the pointer leaves the cell, and with a key, a click or scrolling.
+/// font. It goes when the pointer leaves the cell, and with a key, a click or scrolling, by code as well.
 class OVOUI_API COVOListCellTips : private ovoui::lists::ListHelper
 {
 public:
@@ -46,6 +46,7 @@ private:
     void pointerAt(CPoint point);
     void show(const Cell& cell);
     void hide();
+    bool liesElsewhere() const;
     std::wstring cutText(const Cell& cell, CRect& textPlace) const;
 
     COVOListCtrlEx* m_list = nullptr;

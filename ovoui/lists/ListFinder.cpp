@@ -114,9 +114,11 @@ void COVOListFinder::Detach()
     stopHearing();
 }
 
+/// A list whose window is another's now may be gone, and of one that is being deleted nothing but the window
+/// is left.
 void COVOListFinder::left()
 {
-    if (CWnd::FromHandlePermanent(m_window) == m_list)
+    if (dynamic_cast<COVOListCtrlEx*>(CWnd::FromHandlePermanent(m_window)) == m_list)
         keep({});
     *m_state = {};
     m_list = nullptr;

@@ -3,6 +3,7 @@
 #include "ListScene.h"
 
 #include <testkit/Picture.h>
+#include <testkit/TemporaryFiles.h>
 
 #include <gtest/gtest.h>
 
@@ -25,12 +26,13 @@ Picture openList(ComboScene& scene)
     return Picture::ofClient(scene.listBox());
 }
 
-/// The first item as it is drawn, 120 pixels wide.
-Picture firstItem(ComboScene& scene, int height, UINT state)
+/// An item as it is drawn, 120 pixels wide.
+Picture drawnItem(ComboScene& scene, int item, int height, UINT state)
 {
     Picture picture(120, height);
     DRAWITEMSTRUCT draw{};
     draw.CtlType = ODT_COMBOBOX;
+    draw.itemID = static_cast<UINT>(item);
     draw.itemState = state;
     draw.hDC = picture.dc();
     draw.hwndItem = scene.combo;
@@ -39,6 +41,31 @@ Picture firstItem(ComboScene& scene, int height, UINT state)
     scene.parent.SendMessage(WM_DRAWITEM, 21, reinterpret_cast<LPARAM>(&draw));
     ::SelectObject(picture.dc(), old);
     return picture;
+}
+
+Picture firstItem(ComboScene& scene, int height, UINT state)
+{
+    return drawnItem(scene, 0, height, state);
+}
+
+bool hasColour(ComboScene& scene, int item, COLORREF colour)
+{
+    return drawnItem(scene, item, 20, 0).count(colour) > 0;
+}
+
+using Texts = std::vector<std::wstring>;
+
+/// The texts of the items that have a colour.
+Texts withColour(ComboScene& scene, COLORREF colour)
+{
+    Texts texts;
+    CString text;
+    for (int item = 0; item < scene.combo.GetCount(); ++item)
+        if (hasColour(scene, item, colour)) {
+            scene.combo.GetLBText(item, text);
+            texts.emplace_back(text.GetString());
+        }
+    return texts;
 }
 
 CRect itemRect(ComboScene& scene, int item)
@@ -223,6 +250,107 @@ TEST(ComboItemLooks, StayWithTheirItems)
     scene.combo.AddString(L"a");
     scene.combo.AddString(L"b");
     EXPECT_EQ(openList(scene).count(kRed), 0);
+}
+
+TEST(ComboItemLooks, StayWithTheirItemsAtEveryChange)
+{
+    ComboScene scene({L"leaf", L"rose", L"stem"}, kOwnerDrawn);
+    const Texts rose{L"rose"};
+    scene.combo.SetItemColour(1, kOpaque | kRed);
+    ASSERT_EQ(withColour(scene, kRed), rose);
+    scene.combo.InsertString(0, L"first");
+    EXPECT_EQ(withColour(scene, kRed), rose);
+    scene.combo.InsertString(-1, L"last");
+    EXPECT_EQ(withColour(scene, kRed), rose);
+    scene.combo.AddString(L"more");
+    EXPECT_EQ(withColour(scene, kRed), rose);
+    scene.combo.DeleteString(0);
+    EXPECT_EQ(withColour(scene, kRed), rose);
+    scene.combo.DeleteString(4);
+    EXPECT_EQ(withColour(scene, kRed), rose);
+    scene.combo.DeleteString(1);
+    EXPECT_EQ(withColour(scene, kRed), Texts{}) << "it is gone with the rose";
+    scene.combo.SetItemColour(0, kOpaque | kRed);
+    ASSERT_EQ(withColour(scene, kRed), Texts{L"leaf"});
+    scene.combo.ResetContent();
+    scene.combo.AddString(L"leaf");
+    EXPECT_EQ(withColour(scene, kRed), Texts{});
+}
+
+TEST(ComboItemLooks, StayWithTheirItemsWhenFilesComeBetween)
+{
+    const TemporaryFiles files{L"apple.txt", L"cherry.txt"};
+    ComboScene scene({L"berry", L"date"}, kOwnerDrawn | CBS_SORT);
+    scene.combo.SetItemColour(0, kOpaque | kRed);
+    scene.combo.SetItemColour(1, kOpaque | kGreen);
+    scene.combo.Dir(0, files.path(L"*.txt").c_str());
+    ASSERT_EQ(scene.combo.GetCount(), 4);
+    ASSERT_EQ(scene.combo.FindStringExact(-1, L"berry"), 1);
+    ASSERT_EQ(scene.combo.FindStringExact(-1, L"date"), 3);
+    EXPECT_EQ(withColour(scene, kRed), Texts{L"berry"});
+    EXPECT_EQ(withColour(scene, kGreen), Texts{L"date"});
+}
+
+TEST(ComboItemLooks, AFileTakesNoColourFromAnItemWithItsName)
+{
+    const TemporaryFiles files{L"apple.txt"};
+    ComboScene scene({L"apple.txt"}, kOwnerDrawn | CBS_SORT);
+    scene.combo.SetItemData(0, 7);
+    scene.combo.SetItemColour(0, kOpaque | kRed);
+    scene.combo.Dir(0, files.path(L"*.txt").c_str());
+    ASSERT_EQ(scene.combo.GetCount(), 2);
+    for (int item = 0; item < 2; ++item)
+        EXPECT_EQ(hasColour(scene, item, kRed), scene.combo.GetItemData(item) == 7) << item;
+}
+
+TEST(ComboItemLooks, AnOpenListShowsANewOneAtOnce)
+{
+    CImageList images;
+    fillImages(images, 16, {kGreen});
+    ComboScene scene({L"leaf", L"rose", L"none"}, kOwnerDrawn);
+    scene.combo.SetImageList(&images);
+    scene.combo.SetItemColour(0, kOpaque | kGreen);
+    scene.enter();
+    openList(scene);
+    const auto changed = [&] {
+        CRect place;
+        ::GetUpdateRect(scene.listBox(), &place, FALSE);
+        return place;
+    };
+    ASSERT_TRUE(changed().IsRectEmpty());
+    scene.combo.SetItemColour(1, kOpaque | kRed);
+    EXPECT_EQ(changed(), itemRect(scene, 1)) << "the others stay as they are";
+    EXPECT_GT(Picture::ofClient(scene.listBox()).count(kRed, 0, itemRect(scene, 1)), 50);
+    scene.combo.SetItemImage(2, 0);
+    EXPECT_EQ(changed(), itemRect(scene, 2));
+    EXPECT_EQ(Picture::ofClient(scene.listBox()).count(kGreen, 0, itemRect(scene, 2)), 12 * 12);
+}
+
+TEST(ComboItemLooks, TheFirstColourMovesAllTextsOfAnOpenList)
+{
+    ComboScene scene({L"MMM", L"rose"}, kOwnerDrawn);
+    scene.combo.SetItemImage(1, -1);
+    scene.enter();
+    scene.robot.moveTo(Spot{scene.button}); // a pointer over the opening list would select
+    openList(scene);
+    const auto reachesTheLeft = [&] {
+        CRect left = itemRect(scene, 0);
+        left.right = left.left + 12;
+        return Picture::ofClient(scene.listBox()).count(::GetSysColor(COLOR_WINDOWTEXT), 0, left) > 0;
+    };
+    ASSERT_TRUE(reachesTheLeft());
+    scene.combo.SetItemColour(1, kOpaque | kRed);
+    EXPECT_FALSE(reachesTheLeft()) << "the swatches stand there";
+}
+
+TEST(ComboItemLooks, TheFirstOneInAnOpenListBringsAllTexts)
+{
+    ComboScene scene({L"leaf", L"rose"}, kOwnerDrawn);
+    scene.enter();
+    ASSERT_EQ(openList(scene).count(::GetSysColor(COLOR_WINDOWTEXT)), 0) << "this host draws nothing";
+    scene.combo.SetItemImage(0, -1);
+    const Picture list = Picture::ofClient(scene.listBox());
+    EXPECT_GT(list.count(::GetSysColor(COLOR_WINDOWTEXT), 0, itemRect(scene, 1)), 5);
 }
 
 TEST(ComboItemLooks, WithoutThemTheHostDraws)

@@ -2,6 +2,7 @@
 #include "ComboScene.h"
 
 #include <testkit/Picture.h>
+#include <testkit/TemporaryFiles.h>
 #include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
@@ -273,6 +274,28 @@ TEST_F(ComboSearching, FollowsItemsThatTheHostChangesAgain)
         GuiThread::settle();
         EXPECT_EQ(hitCount(), 3 + more);
     }
+}
+
+TEST_F(ComboSearching, FollowsFilesThatTheHostAdds)
+{
+    const TemporaryFiles files{L"elderberry.txt"};
+    scene.robot.type(L"err");
+    ASSERT_EQ(hitCount(), 3);
+    scene.combo.Dir(0, files.path(L"*.txt").c_str());
+    GuiThread::settle();
+    EXPECT_EQ(hitCount(), 4);
+}
+
+TEST_F(ComboSearching, TheHitsShowANewColourAtOnce)
+{
+    constexpr COLORREF kGreen = RGB(0, 200, 0);
+    scene.robot.type(L"err");
+    ASSERT_TRUE(hitsWindow());
+    ASSERT_EQ(Picture::ofClient(hitsList()).count(kGreen), 0);
+    scene.combo.SetItemColour(2, 0xFF000000 | kGreen);
+    CRect row;
+    ::SendMessageW(hitsList(), LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(static_cast<RECT*>(&row)));
+    EXPECT_GT(Picture::ofClient(hitsList()).count(kGreen, 0, row), 50);
 }
 
 TEST_F(ComboSearching, GoesWhenTheHostTakesTheItemsAway)

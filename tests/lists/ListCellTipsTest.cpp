@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <utility>
 
 using namespace ovo::testkit;
@@ -344,6 +345,42 @@ TEST_F(ListTips, SoDoScrollingAndALossOfTheFocus)
             scene.list.PostMessage(message + 1, 0, 0);
         EXPECT_TRUE(GuiThread::runUntil([&] { return !shows(); })) << "message " << message;
     }
+}
+
+TEST_F(ListTips, SoDoesScrollingByCode)
+{
+    constexpr int kRows = 60;
+    for (int row = 2; row < kRows; ++row)
+        scene.list.AddItem(row, 0, L"fits", 0, -1);
+    scene.addColumn(L"c", 600);
+    rest(1, 0, false); // the pointer stays there
+    const std::pair<const char*, std::function<void()>> scrolls[] = {
+        {"Scroll down", [&] { scene.list.Scroll(CSize(0, 100)); }},
+        {"Scroll to the right", [&] { scene.list.Scroll(CSize(30, 0)); }},
+        {"EnsureVisible", [&] { scene.list.EnsureVisible(kRows - 1, FALSE); }},
+        {"WM_VSCROLL", [&] { scene.list.SendMessage(WM_VSCROLL, SB_PAGEDOWN); }}};
+    for (const auto& [name, scroll] : scrolls) {
+        scene.list.EnsureVisible(0, FALSE);
+        scene.list.Scroll(CSize(-600, 0));
+        const CPoint cell = scene.cell(0, 1).CenterPoint();
+        pointAt(1, 0);
+        pointAt(cell);
+        ASSERT_TRUE(shows()) << name;
+        scroll();
+        EXPECT_FALSE(shows()) << name;
+        EXPECT_NE(scene.cell(0, 1).CenterPoint(), cell) << name << ": the list was scrolled";
+    }
+}
+
+TEST_F(ListTips, CodeThatScrollsNothingLeavesIt)
+{
+    rest(1, 0, false); // the pointer stays there
+    pointAt(0, 1);
+    ASSERT_TRUE(shows());
+    scene.list.EnsureVisible(1, FALSE);
+    EXPECT_TRUE(shows());
+    scene.list.Scroll(CSize(0, 0));
+    EXPECT_TRUE(shows());
 }
 
 TEST_F(ListTips, TheTipHasTheListsFont)

@@ -1,14 +1,18 @@
 // Finding rows by typing.
 #include "ListScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/ImportPatch.h>
+#include <testkit/TestApp.h>
 
 #include <ovoui/lists/ListFinder.h>
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <stdexcept>
+#include <utility>
 
 using namespace ovo::testkit;
 
@@ -16,6 +20,30 @@ namespace
 {
 
 using Rows = std::vector<int>;
+
+/// A list without storage, of 1,000 rows.
+template <class Base>
+class Virtual : public Base
+{
+public:
+    explicit Virtual(CWnd& parent)
+    {
+        this->Create(WS_CHILD | WS_VISIBLE | LVS_OWNERDATA, CRect(0, 0, 90, 90), &parent, 40);
+        this->AddColumn(L"c", 0, -1, false, LVCF_TEXT | LVCF_WIDTH, 0);
+        this->SetItemCountEx(1000);
+    }
+};
+
+using VirtualList = Virtual<List>;
+
+int g_repaints = 0; ///< of the window that is watched
+HWND g_watched = nullptr;
+
+BOOL WINAPI countRepaints(HWND window, const RECT* place, BOOL erase)
+{
+    g_repaints += window == g_watched;
+    return ::InvalidateRect(window, place, erase);
+}
 
 class ListFinding : public ::testing::Test
 {
@@ -50,6 +78,21 @@ protected:
     }
 
     int focused() { return scene.list.GetNextItem(-1, LVNI_FOCUSED); }
+
+    /// Finds a text, and gives the rows that the parent hears are deselected.
+    Rows deselectedBy(const wchar_t* text)
+    {
+        Rows rows;
+        scene.parent.answer(static_cast<UINT>(LVN_ITEMCHANGED), [&](NMHDR* header) -> LRESULT {
+            const auto& change = *reinterpret_cast<const NMLISTVIEW*>(header);
+            if (change.uOldState & ~change.uNewState & LVIS_SELECTED)
+                rows.push_back(change.iItem);
+            return 0;
+        });
+        EXPECT_TRUE(finder.Find(text));
+        scene.parent.answer(static_cast<UINT>(LVN_ITEMCHANGED), 0);
+        return rows;
+    }
 
     bool emphasises()
     {
@@ -181,6 +224,15 @@ TEST_F(ListFinding, ASpaceThatBeginsATextSelects)
     EXPECT_EQ(selected(), Rows{}) << "the platform deselects the row";
 }
 
+TEST_F(ListFinding, ASpaceThatBelongsToTheTextSelectsNothing)
+{
+    robot.type(L"gar");
+    scene.list.SetItemState(0, 0, LVIS_SELECTED);
+    robot.key(VK_SPACE); // no row has it
+    EXPECT_EQ(finder.Text(), L"gar");
+    EXPECT_EQ(selected(), Rows{}) << "the list does not get the key";
+}
+
 TEST_F(ListFinding, OneRowIsSelectedAfterwards)
 {
     for (const int row : {0, 1, 3})
@@ -198,6 +250,31 @@ TEST_F(ListFinding, TheParentHearsOfNoChangeWhenTheRowIsSelectedAlready)
     robot.type(L"r");
     EXPECT_EQ(finder.Text(), L"gar");
     EXPECT_EQ(changes, 0);
+}
+
+TEST_F(ListFinding, TheRowThatIsFoundStaysSelectedHoweverManyAre)
+{
+    Rows others;
+    for (int i = 0; i < 30; ++i)
+        add(L"row", L"far");
+    for (int row = 0; row < 35; ++row)
+        if (row != 1)
+            others.push_back(row);
+    scene.list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_EQ(deselectedBy(L"kitchen"), others);
+    EXPECT_EQ(selected(), Rows{1});
+}
+
+TEST_F(ListFinding, ARowThatGoesWhenTheOneThatIsFoundIsSelectedEndsIt)
+{
+    bool gone = false;
+    scene.parent.answer(static_cast<UINT>(LVN_ITEMCHANGED), [&](NMHDR*) -> LRESULT {
+        if (!std::exchange(gone, true))
+            scene.list.DeleteItem(4);
+        return 0;
+    });
+    EXPECT_FALSE(finder.Find(L"kitchen"));
+    EXPECT_TRUE(gone);
 }
 
 TEST_F(ListFinding, TheFocusedRowIsScrolledIntoViewAgain)
@@ -259,6 +336,49 @@ TEST_F(ListFinding, DetachingEndsTheSearch)
     EXPECT_EQ(finder.Text(), L"");
 }
 
+TEST_F(ListFinding, AFinderThatGoesEndsItsSearch)
+{
+    finder.Detach();
+    auto another = std::make_unique<COVOListFinder>();
+    another->Attach(scene.list);
+    ASSERT_TRUE(another->Find(L"gar"));
+    ASSERT_TRUE(emphasises());
+    another.reset();
+    EXPECT_FALSE(emphasises());
+}
+
+TEST_F(ListFinding, AHostThatEndsTheSearchHearsNoBeep)
+{
+    static int beeps;
+    beeps = 0;
+    using Beep = BOOL(WINAPI*)(UINT);
+    const ImportPatch patch(L"ovoui.dll", "MessageBeep",
+                            reinterpret_cast<void*>(Beep([](UINT) -> BOOL { return ++beeps; })));
+    finder.Detach();
+    scene.list.SetItemText(0, 1, LPSTR_TEXTCALLBACK);
+    scene.list.ValidateRect(nullptr); // drawing would ask, too
+    for (const bool deletes : {false, true}) {
+        auto another = std::make_unique<COVOListFinder>();
+        another->Attach(scene.list);
+        bool asked = false;
+        scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), [&](NMHDR* header) -> LRESULT {
+            LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(header)->item;
+            if (item.mask & LVIF_TEXT)
+                ::lstrcpynW(item.pszText, L"garden", item.cchTextMax);
+            asked = true;
+            if (deletes)
+                another.reset();
+            else
+                another->Detach();
+            return 0;
+        });
+        scene.list.SendMessage(WM_CHAR, L'x', 1);
+        EXPECT_TRUE(asked);
+        EXPECT_EQ(beeps, 0) << (deletes ? "deleted" : "detached");
+        scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), 0);
+    }
+}
+
 TEST_F(ListFinding, EscapeIsWantedWhileSearchingOnly)
 {
     MSG escape{scene.list, WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
@@ -281,6 +401,9 @@ TEST_F(ListFinding, OtherKeysStayTheDialogsWhileSearching)
         const LRESULT code = scene.list.SendMessage(WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&down));
         EXPECT_FALSE(code & DLGC_WANTALLKEYS) << key;
     }
+    MSG up{scene.list, WM_KEYUP, VK_ESCAPE, 1, 0, {}};
+    EXPECT_FALSE(scene.list.SendMessage(WM_GETDLGCODE, VK_ESCAPE, reinterpret_cast<LPARAM>(&up)) &
+                 DLGC_WANTALLKEYS);
     EXPECT_FALSE(scene.list.SendMessage(WM_GETDLGCODE) & DLGC_WANTALLKEYS);
 }
 
@@ -355,6 +478,65 @@ TEST_F(ListFinding, AListWithoutStorageKeepsItsSelectionWhenItsParentRaises)
     EXPECT_EQ(finder.Text(), L"s");
 }
 
+TEST_F(ListFinding, AListWithoutStorageFindsNothingWhenTheFrameworkShowsWhatItsParentRaises)
+{
+    constexpr UINT kSelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
+    VirtualList stored(scene.parent);
+    stored.SetItemState(500, kSelectedAndFocused, kSelectedAndFocused);
+    stored.SetFocus();
+    finder.Attach(stored);
+    const std::function<void()> raises[] = {[] { AfxThrowUserException(); },
+                                            [] { AfxThrowMemoryException(); }};
+    for (const auto& raise : raises) {
+        scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), [&](NMHDR*) -> LRESULT {
+            raise();
+            return 0;
+        });
+        EXPECT_FALSE(finder.Find(L"seven"));
+        robot.type(L"s");
+        EXPECT_EQ(stored.GetCurSel(), 500);
+        EXPECT_EQ(finder.Text(), L"");
+    }
+    EXPECT_EQ(TestApp::instance().boxes().size(), 2u) << "of the memory";
+}
+
+TEST_F(ListFinding, AListWithoutStorageAndParentFindsNothing)
+{
+    List lone;
+    lone.CWnd::CreateEx(0, WC_LISTVIEW, nullptr, WS_POPUP | LVS_OWNERDATA, CRect(0, 0, 90, 90), nullptr, 0);
+    lone.SetItemCountEx(10);
+    ASSERT_EQ(lone.GetItemCount(), 10);
+    finder.Attach(lone);
+    EXPECT_FALSE(finder.Find(L"seven"));
+    EXPECT_EQ(lone.GetCurSel(), -1);
+}
+
+TEST_F(ListFinding, AListWithoutStorageKeepsTheRowThatIsFoundSelected)
+{
+    VirtualList stored(scene.parent);
+    scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), 700);
+    finder.Attach(stored);
+    ASSERT_TRUE(finder.Find(L"seven"));
+    stored.SetItemState(3, LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_EQ(deselectedBy(L"seven"), Rows{3});
+    EXPECT_EQ(stored.GetCurSel(), 700);
+}
+
+TEST_F(ListFinding, ASearchThatIsEndedWhileAllRowsAreDeselectedSelectsNone)
+{
+    VirtualList stored(scene.parent);
+    stored.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+    ASSERT_EQ(stored.GetSelectedCount(), 1000u);
+    finder.Attach(stored);
+    scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), 700);
+    scene.parent.answer(static_cast<UINT>(LVN_ITEMCHANGED), [&](NMHDR*) -> LRESULT {
+        finder.Detach();
+        return 0;
+    });
+    EXPECT_FALSE(finder.Find(L"seven"));
+    EXPECT_EQ(stored.GetSelectedCount(), 0u);
+}
+
 TEST_F(ListFinding, AListWithoutStorageDeselectsAllItsRowsAtOnce)
 {
     List stored;
@@ -380,6 +562,36 @@ TEST_F(ListFinding, TheListMayBeDestroyedFirst)
     EXPECT_EQ(finder.Text(), L"");
     EXPECT_FALSE(finder.Find(L"gar"));
     EXPECT_FALSE(finder.FindNext(true));
+}
+
+TEST_F(ListFinding, AListThatIsDeletedIsNotTouchedAnyMore)
+{
+    auto stored = std::make_unique<VirtualList>(scene.parent);
+    scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), 0);
+    finder.Attach(*stored);
+    ASSERT_TRUE(finder.Find(L"seven"));
+    g_watched = stored->m_hWnd;
+    g_repaints = 0;
+    const ImportPatch patch(L"ovoui.dll", "InvalidateRect", reinterpret_cast<void*>(&countRepaints));
+    stored->EmphasiseText(L"seven");
+    ASSERT_EQ(g_repaints, 1) << "what the finder would do";
+    stored.reset();
+    EXPECT_EQ(g_repaints, 1);
+    EXPECT_EQ(finder.Text(), L"");
+    EXPECT_FALSE(finder.Find(L"seven"));
+}
+
+TEST_F(ListFinding, AListThatHasGivenUpItsWindowMayGoFirst)
+{
+    auto* const stored = new Virtual<Perishing<List>>(scene.parent);
+    scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), 0);
+    finder.Attach(*stored);
+    ASSERT_TRUE(finder.Find(L"seven"));
+    const HWND window = stored->Detach();
+    delete stored;
+    finder.Detach();
+    EXPECT_EQ(finder.Text(), L"");
+    ::DestroyWindow(window);
 }
 
 // What hosts may do when they are asked for a text, or hear of the selection.

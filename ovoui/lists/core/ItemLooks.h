@@ -1,6 +1,7 @@
 /// What the items of a list look like beside their texts.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -51,6 +52,26 @@ public:
     }
 
     void clear() { m_looks.clear(); }
+
+    bool empty() const { return m_looks.empty(); }
+
+    /// The looks after items have come in unknown places. `before` and `after` hold what each item is known
+    /// by, in the order of the list: the items of before have kept their order. Of several that are the same
+    /// the first one counts.
+    template <class Known>
+    ItemLooks amongMore(const std::vector<Known>& before, const std::vector<Known>& after) const
+    {
+        ItemLooks looks;
+        auto from = after.begin();
+        for (std::size_t item = 0; item < before.size() && item < m_looks.size(); ++item) {
+            const auto place = std::find(from, after.end(), before[item]);
+            if (place == after.end())
+                continue;
+            looks.set(static_cast<int>(place - after.begin()), m_looks[item]);
+            from = place + 1;
+        }
+        return looks;
+    }
 
     /// Whether any item has one: then all texts stand behind the room for it.
     bool haveColours() const
