@@ -478,28 +478,6 @@ TEST_F(ListFinding, AListWithoutStorageKeepsItsSelectionWhenItsParentRaises)
     EXPECT_EQ(finder.Text(), L"s");
 }
 
-TEST_F(ListFinding, AListWithoutStorageFindsNothingWhenTheFrameworkShowsWhatItsParentRaises)
-{
-    constexpr UINT kSelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
-    VirtualList stored(scene.parent);
-    stored.SetItemState(500, kSelectedAndFocused, kSelectedAndFocused);
-    stored.SetFocus();
-    finder.Attach(stored);
-    const std::function<void()> raises[] = {[] { AfxThrowUserException(); },
-                                            [] { AfxThrowMemoryException(); }};
-    for (const auto& raise : raises) {
-        scene.parent.answer(static_cast<UINT>(LVN_ODFINDITEM), [&](NMHDR*) -> LRESULT {
-            raise();
-            return 0;
-        });
-        EXPECT_FALSE(finder.Find(L"seven"));
-        robot.type(L"s");
-        EXPECT_EQ(stored.GetCurSel(), 500);
-        EXPECT_EQ(finder.Text(), L"");
-    }
-    EXPECT_EQ(TestApp::instance().boxes().size(), 2u) << "of the memory";
-}
-
 TEST_F(ListFinding, AListWithoutStorageAndParentFindsNothing)
 {
     List lone;

@@ -26,15 +26,6 @@ MSG& currentMessage()
     return thread ? thread->m_msgCur : withoutThread;
 }
 
-/// Whether a list asks for a row: the answer 0 would be its first one.
-bool asksForRow(const MSG& message)
-{
-    if (message.message != WM_NOTIFY || !message.lParam)
-        return false;
-    const UINT code = reinterpret_cast<const NMHDR*>(message.lParam)->code;
-    return code == static_cast<UINT>(LVN_ODFINDITEMW) || code == static_cast<UINT>(LVN_ODFINDITEMA);
-}
-
 bool fetch(MSG& message)
 {
     return loopCallOut([&] { return ::GetMessageW(&message, nullptr, 0, 0); }) != 0;
@@ -201,8 +192,6 @@ LRESULT CWinThread::ProcessWndProcException(CException* exception, const MSG* me
     if (!dynamic_cast<CUserException*>(exception))
         exception->ReportError(MB_ICONEXCLAMATION | MB_SYSTEMMODAL,
                                command ? AFX_IDP_COMMAND_FAILURE : AFX_IDP_INTERNAL_FAILURE);
-    if (asksForRow(*message))
-        return -1; // not found
     return command ? 1 : 0;
 }
 

@@ -565,24 +565,6 @@ TEST(ProcessedExceptions, WithoutATextSayWhatFailed)
     EXPECT_FALSE(boxes[1].text.empty());
 }
 
-TEST(ProcessedExceptions, AnswerAListThatAsksForARowThatThereIsNone)
-{
-    CUserException exception(FALSE);
-    NMHDR header{};
-    MSG message = messageOf(WM_NOTIFY);
-    const auto answer = [&](int code) {
-        header.code = static_cast<UINT>(code);
-        return AfxGetThread()->ProcessWndProcException(&exception, &message);
-    };
-    EXPECT_EQ(answer(LVN_ODFINDITEMW), 0) << "a message without a structure";
-    message.lParam = reinterpret_cast<LPARAM>(&header);
-    EXPECT_EQ(answer(LVN_ODFINDITEMW), -1);
-    EXPECT_EQ(answer(LVN_ODFINDITEMA), -1);
-    EXPECT_EQ(answer(LVN_ITEMCHANGING), 0);
-    message.message = WM_APP;
-    EXPECT_EQ(answer(LVN_ODFINDITEMW), 0);
-}
-
 TEST(ProcessedExceptions, OfTheUserSayNothing)
 {
     CUserException exception(FALSE);
