@@ -4,6 +4,7 @@
 #include <afxpriv.h>
 
 #include "../dlg/dialogmessages.h"
+#include "../wnd/mnemonicsearch.h"
 
 #include <detail/help.h>
 #include <detail/send.h>
@@ -178,10 +179,14 @@ BOOL CPropertySheet::SetActivePage(CPropertyPage* page)
     return SetActivePage(GetPageIndex(page));
 }
 
-/// A page that is hidden or destroyed may take the focus along, and without one the keys reach nothing.
+/// A page that is hidden or destroyed may take the focus along, and then the keys reach nothing that the user
+/// sees.
 void CPropertySheet::keepFocus()
 {
-    if (m_hWnd && ::GetAncestor(m_hWnd, GA_ROOT) == ::GetActiveWindow() && !::GetFocus())
+    if (!m_hWnd || ::GetAncestor(m_hWnd, GA_ROOT) != ::GetActiveWindow())
+        return;
+    const HWND focus = ::GetFocus();
+    if (!focus || (::IsChild(m_hWnd, focus) && !::IsWindowVisible(focus)))
         SendMessage(WM_NEXTDLGCTL); // to the first control
 }
 
@@ -339,6 +344,8 @@ BOOL CPropertySheet::PreTranslateMessage(MSG* message)
         return TRUE;
     const CWinApp* const app = AfxGetApp();
     if (app && app->m_bHelpMode) // keys look for help now
+        return FALSE;
+    if (afxdetail::isLostCharacter(m_hWnd, *message))
         return FALSE;
     const HWND wnd = m_hWnd;
     const BOOL taken = send<BOOL>(*this, PSM_ISDIALOGMESSAGE, nullptr, message);

@@ -1,5 +1,6 @@
 target_sources(ovomfc PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/handlemap.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/mnemonicsearch.cpp
   ${CMAKE_CURRENT_LIST_DIR}/modalloop.cpp
   ${CMAKE_CURRENT_LIST_DIR}/pending.cpp
   ${CMAKE_CURRENT_LIST_DIR}/wndactivate.cpp

@@ -1,31 +1,11 @@
 // CWnd: messages, and the items of a dialog.
 #include <afxwin.h>
 
+#include "mnemonicsearch.h"
+
 #include <detail/pending.h>
 
 using afxdetail::callOut;
-
-namespace
-{
-
-/// Whether a search of a dialog for mnemonics, which enters windows that are shown and enabled alone, comes
-/// to a window. A window that does not belong to the dialog counts as well.
-bool isFoundBySearch(HWND dialog, HWND window)
-{
-    for (HWND around = ::GetParent(window); around && around != dialog; around = ::GetParent(around)) {
-        const LONG style = ::GetWindowLongW(around, GWL_STYLE);
-        if (!(style & WS_VISIBLE) || (style & WS_DISABLED))
-            return !::IsChild(dialog, window);
-    }
-    return true;
-}
-
-bool isCharacter(UINT message)
-{
-    return message == WM_CHAR || message == WM_SYSCHAR;
-}
-
-} // namespace
 
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const
 {
@@ -37,11 +17,9 @@ LRESULT CWnd::SendDlgItemMessage(int id, UINT message, WPARAM wParam, LPARAM lPa
     return callOut([&] { return ::SendDlgItemMessageW(m_hWnd, id, message, wParam, lParam); });
 }
 
-/// A character to a window within something hidden has no mnemonics to be looked for: some platforms would go
-/// on for ever, looking for the window where the search began.
 BOOL CWnd::IsDialogMessage(LPMSG message)
 {
-    if (isCharacter(message->message) && !isFoundBySearch(m_hWnd, message->hwnd))
+    if (afxdetail::isLostCharacter(m_hWnd, *message))
         return FALSE;
     return callOut([&] { return ::IsDialogMessageW(m_hWnd, message); });
 }

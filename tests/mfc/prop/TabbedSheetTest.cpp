@@ -95,6 +95,46 @@ TEST_F(TabbedSheet, KeysGoFromPageToPage)
     });
 }
 
+TEST_F(TabbedSheet, TheFocusStaysInSightWhereverThePagesGo)
+{
+    const auto focusIsSeen = [this] {
+        const HWND focus = ::GetFocus();
+        return ::IsChild(sheet.m_hWnd, focus) && ::IsWindowVisible(focus);
+    };
+    show([&](Story story) {
+        return story.then([this] { general.GetDlgItem(IDC_NUMBER)->SetFocus(); })
+            .chordUntil("the second page", VK_CONTROL, VK_NEXT,
+                        [this] { return sheet.GetActivePage() == &colours; })
+            .then([&] { EXPECT_TRUE(focusIsSeen()) << "after keys"; })
+            .then([this] { colours.GetDlgItem(IDC_NUMBER)->SetFocus(); })
+            .then([&] {
+                sheet.SetActivePage(&lists);
+                EXPECT_TRUE(focusIsSeen()) << "after code";
+            })
+            .then([this] { lists.GetDlgItem(IDC_NUMBER)->SetFocus(); })
+            .click(tab(0))
+            .waitFor("the first page", [this] { return general.IsWindowVisible() != FALSE; })
+            .then([&] { EXPECT_TRUE(focusIsSeen()) << "after a click"; })
+            .key(VK_ESCAPE);
+    });
+}
+
+TEST_F(TabbedSheet, ACharacterForAPageThatWasLeftHarmsNothing)
+{
+    show([this](Story story) {
+        return story
+            .chordUntil("the second page", VK_CONTROL, VK_TAB,
+                        [this] { return sheet.GetActivePage() == &colours; })
+            .then([this] {
+                for (const UINT message : {WM_CHAR, WM_SYSCHAR})
+                    for (const int id : {IDC_NUMBER, ID_TEST_ACT})
+                        general.GetDlgItem(id)->PostMessage(message, 'z'); // no label's letter
+            })
+            .then([this] { EXPECT_EQ(sheet.GetActivePage(), &colours); })
+            .key(VK_ESCAPE);
+    });
+}
+
 TEST_F(TabbedSheet, TabMovesThroughPageAndButtons)
 {
     std::vector<int> met;
