@@ -277,6 +277,21 @@ TEST(TreeBand, FromBelowTheLastItemReachesUpwards)
     EXPECT_EQ(scene.selected(), Names{});
 }
 
+TEST(TreeBand, GoesByTheHeightOfAPointerBesideTheTree)
+{
+    Scene scene{{"a", "b", "c", "d"}};
+    scene.tree.setExtras(Extra::RubberBand);
+    CRect client;
+    scene.tree.GetClientRect(&client);
+    for (const int x : {client.right + 20, client.left - 20}) {
+        scene.user.press(scene.beside("b"))
+            .moveTo(Spot{scene.tree, CPoint(x, scene.labelPoint("c").y)})
+            .waitFor("rows", [&] { return scene.selected().size() > 1; })
+            .release();
+        EXPECT_EQ(scene.selected(), (Names{"b", "c"})) << x;
+    }
+}
+
 TEST(TreeBand, WithCtrlChangesOverWhatItPasses)
 {
     Scene scene{{"a", "b", "c", "d"}};

@@ -518,6 +518,20 @@ TEST(TreeInsertion, ARefusedNodeChangesNothingOfTheSelection)
     EXPECT_EQ(scene.selected(), Names{"a"});
 }
 
+TEST(TreeInsertion, AnItemThatTheParentDeletesWhenItHearsOfTheSelectionIsNotGiven)
+{
+    Scene scene{{"a"}};
+    bool first = true;
+    scene.parent().answer(static_cast<UINT>(TVN_SELCHANGEDW), [&](NMHDR*) -> LRESULT {
+        if (scene.tree.GetCount() == 2)
+            scene.tree.DeleteItem(scene.item("b"));
+        return 0;
+    });
+    EXPECT_EQ(scene.tree.insertAndSelect(fresh("b"), first, TVI_ROOT, TVI_LAST), nullptr);
+    EXPECT_FALSE(first);
+    EXPECT_EQ(scene.all(), Names{"a"});
+}
+
 TEST(TreeInsertion, AnExistingEqualItemIsSelectedInPlaceOfTheNew)
 {
     Scene scene{{"a", "b"}};
