@@ -114,6 +114,12 @@ void RunningProgram::comeToTheFront()
     waitFor("the program to come to the front", [this] { return isInFront() && isActive(); });
     m_place = rectOf(m_main).TopLeft() + CSize(5, 5);
     waitFor("the window to be seen", [this] { return colourAt(m_place) != kBareScreen; });
+    letCatchUp();
+}
+
+/// Lets the program deal with what the display has told it: it does so before it looks for messages.
+void RunningProgram::letCatchUp() const
+{
     for (int i = 0; i < 2; ++i) {
         DWORD_PTR ignored = 0;
         ::SendMessageTimeoutW(m_main, WM_NULL, 0, 0, SMTO_NORMAL, kAnswerLimit, &ignored);
@@ -191,13 +197,20 @@ bool RunningProgram::isActive() const
 
 // Input
 
+/// The display tells the program of each movement in its own time, and the program takes the pointer there
+/// once more: to a place that it has left, where that comes late.
 void RunningProgram::moveTo(CPoint screen)
 {
-    m_input.moveTo(screen);
-    waitFor("the pointer to move", [screen] {
+    const auto isThere = [screen] {
         CPoint point;
         ::GetCursorPos(&point);
         return point == screen;
+    };
+    waitFor("the pointer to stay", [&] {
+        m_input.moveTo(screen);
+        waitFor("the pointer to move", isThere);
+        letCatchUp();
+        return isThere();
     });
 }
 

@@ -77,6 +77,7 @@ private:
     std::vector<HWND> shownWindows() const;
     void comeToTheFront();
     void leaveABareScreen() const;
+    void letCatchUp() const;
     bool isInFront() const;
     bool isActive() const;
     void moveTo(CPoint screen);

@@ -25,28 +25,33 @@ LRESULT CVantorToolBar::onGetObject(WPARAM wParam, LPARAM lParam)
     if (!m_state->accessible || !ovoui::frame::asksForContents(lParam))
         return 0;
 
+    // A client may keep it long after the bar is gone, whose images are not to stay for that.
     class Bar : public AccessibleBar
     {
     public:
-        explicit Bar(std::shared_ptr<State> state)
-            : m_state(std::move(state))
+        explicit Bar(const std::shared_ptr<State>& state)
+            : m_state(state)
         {
         }
 
     private:
-        CToolBar* bar() const override { return m_state->usable() ? m_state->control() : nullptr; }
+        CToolBar* bar() const override
+        {
+            const std::shared_ptr<State> state = m_state.lock();
+            return state && state->usable() ? state->control() : nullptr;
+        }
         std::wstring nameOfButton(int index) const override
         {
-            return ovoui::toolbar::nameOfButton(*m_state->control(), index);
+            return ovoui::toolbar::nameOfButton(*m_state.lock()->control(), index);
         }
-        bool opensFlyout(int index) const override { return m_state->control()->HasFlyout(index); }
+        bool opensFlyout(int index) const override { return m_state.lock()->control()->HasFlyout(index); }
         int focusedButton() const override
         {
-            const bool at = m_state->keyboard.on && m_state->keyboard.button >= 0;
-            return at ? m_state->keyboard.button : kNone;
+            const State::Keyboard& keyboard = m_state.lock()->keyboard;
+            return keyboard.on && keyboard.button >= 0 ? keyboard.button : kNone;
         }
 
-        std::shared_ptr<State> m_state;
+        std::weak_ptr<State> m_state;
     };
     return ovoui::frame::accessibleAnswer(wParam, std::make_shared<Bar>(m_state));
 }

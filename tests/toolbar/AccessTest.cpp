@@ -2,7 +2,11 @@
 #include "ToolBarScene.h"
 
 #include <testkit/AccessibleView.h>
+#include <testkit/GdiCounter.h>
+#include <testkit/GdiPlusSession.h>
 #include <testkit/WinEvents.h>
+
+#include <ovouires/resource.h>
 
 #include <gtest/gtest.h>
 
@@ -228,4 +232,22 @@ TEST_F(BarAccess, TheObjectOutlivesTheBar)
     EXPECT_EQ(bar->get_accChildCount(&count), CO_E_OBJNOTCONNECTED);
     EXPECT_EQ(bar->get_accRole(AccessibleView::numbered(1), &variant), CO_E_OBJNOTCONNECTED);
     EXPECT_EQ(bar->accDoDefaultAction(AccessibleView::numbered(1)), CO_E_OBJNOTCONNECTED);
+}
+
+TEST_F(BarAccess, AnObjectThatIsKeptKeepsNoImages)
+{
+    const GdiPlusSession gdiPlus;
+    const auto keptOfABar = [] {
+        BarScene another;
+        another.bar().UseAccessibleNames(true);
+        another.bar().UseStrips({{IDB_TOOLBAR_16, 16}}, 16);
+        AccessibleView kept(another.bar());
+        another.deleteBar();
+        return kept;
+    };
+    const AccessibleView first = keptOfABar(); // the system has what it shares now
+    const GdiCounter counter;
+    const AccessibleView second = keptOfABar();
+    EXPECT_TRUE(second);
+    EXPECT_EQ(counter.grown(), 0);
 }

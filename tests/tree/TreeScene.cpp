@@ -441,3 +441,11 @@ RootScene::RootScene(const std::vector<std::string>& names, DWORD style)
     : Scene(std::make_unique<RootParent>(CSize(420, 380), L"Tree"), names, style)
 {
 }
+
+Names numbered(int count)
+{
+    Names names;
+    for (int i = 0; i < count; ++i)
+        names.push_back(std::to_string(100 + i));
+    return names;
+}

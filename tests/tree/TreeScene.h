@@ -187,7 +187,7 @@ public:
     ovo::testkit::Spot button(const std::string& name);
     ovo::testkit::Spot beside(const std::string& name); ///< right of the label
     ovo::testkit::Spot below();                         ///< on the empty space below all items
-    CPoint labelPoint(const std::string& name);    ///< client coordinates
+    CPoint labelPoint(const std::string& name);         ///< client coordinates
 
     // What is there
     std::vector<std::string> selected(); ///< in the order of the tree
@@ -248,4 +248,7 @@ public:
 };
 
 using Names = std::vector<std::string>;
+
+/// So many names of one length, in their order: "100", "101".
+Names numbered(int count);
 using Changes = std::vector<Change>;
