@@ -187,6 +187,7 @@ TEST_F(TextLanguage, GoesBackToThatOfTheUser)
     ASSERT_TRUE(setTextLanguage(kGerman));
     ASSERT_TRUE(setTextLanguage(0));
     EXPECT_EQ(textLanguage(), L"en");
+    EXPECT_EQ(::GetThreadLocale(), ::GetUserDefaultLCID());
 }
 
 TEST_F(TextLanguage, IsThatOfTheThreadAlone)
