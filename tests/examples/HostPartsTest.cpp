@@ -435,6 +435,24 @@ TEST(ShellImages, TellFoldersFromFiles)
     }
 }
 
+TEST(ShellImages, AreTheFirstOneWhereTheShellHasNoneAndOpenWhereThatIsWanted)
+{
+    static UINT s_flags;
+    const ImportPatch patch(
+        L"ovoui.dll", "SHGetFileInfoW",
+        reinterpret_cast<void*>(+[](LPCWSTR, DWORD, SHFILEINFOW* info, UINT, UINT flags) -> DWORD_PTR {
+            s_flags = flags;
+            info->iIcon = 7;
+            return 0;
+        }));
+    EXPECT_EQ(shellImage(L"beds", FILE_ATTRIBUTE_DIRECTORY), 0);
+    const UINT closed = s_flags;
+    EXPECT_FALSE(closed & SHGFI_OPENICON);
+    EXPECT_TRUE(closed & SHGFI_USEFILEATTRIBUTES);
+    EXPECT_EQ(shellImage(L"beds", FILE_ATTRIBUTE_DIRECTORY, true), 0);
+    EXPECT_EQ(s_flags, closed | SHGFI_OPENICON);
+}
+
 TEST(GdiPlusSession, EndsWhatItHasBegun)
 {
     static int s_ended;
