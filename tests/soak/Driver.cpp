@@ -20,7 +20,7 @@ constexpr UINT kPauseTime = 10; // milliseconds, in which timers and painting ge
 constexpr int kPauseEvery = 40; // steps
 constexpr int kStuck = 400;     // attempts to close what is open
 constexpr size_t kStory = 40;
-constexpr int kDearOnce = 12; ///< of so many presses on a button that opens a dialog of the shell
+constexpr int kDearOnce = 12; ///< of so many presses on a button that is answered after seconds
 
 std::wstring classOf(HWND wnd)
 {
@@ -235,7 +235,7 @@ bool Driver::cancelsFiles(HWND top) const
 /// looked at.
 bool Driver::isDear(HWND target) const
 {
-    if (!isOpen(L"files"))
+    if (!isOpen(L"files") && !isServerThat(L"A large list over a slow line"))
         return false;
     const HWND focus = ::GetFocus();
     return classOf(target) == L"Button" || (focus && classOf(focus) == L"Button");
@@ -246,16 +246,27 @@ bool Driver::isOpen(std::wstring_view page) const
     return m_frame.openedPage() && m_frame.openedPage()->name == page;
 }
 
+/// The list of what servers answer, on its page; null on others.
+HWND Driver::servers() const
+{
+    return isOpen(L"updates") ? ::GetDlgItem(m_frame.page().GetSafeHwnd(), IDC_UPDATES_OUTCOME) : nullptr;
+}
+
+/// Whether updates are looked for at the server whose answer has this name.
+bool Driver::isServerThat(const wchar_t* answer) const
+{
+    const HWND list = servers();
+    const LRESULT place =
+        ::SendMessageW(list, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(answer));
+    return list && place != CB_ERR && ::SendMessageW(list, CB_GETCURSEL, 0, 0) == place;
+}
+
 /// A server that never answers is waited for by the system, three times half a minute.
 void Driver::leaveSilentServer()
 {
-    if (!isOpen(L"updates"))
+    if (!isServerThat(L"A server that never answers"))
         return;
-    const HWND outcomes = ::GetDlgItem(m_frame.page().GetSafeHwnd(), IDC_UPDATES_OUTCOME);
-    const LRESULT silent = ::SendMessageW(outcomes, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                          reinterpret_cast<LPARAM>(L"A server that never answers"));
-    if (!outcomes || silent == CB_ERR || ::SendMessageW(outcomes, CB_GETCURSEL, 0, 0) != silent)
-        return;
+    const HWND outcomes = servers();
     ::SendMessageW(outcomes, CB_SETCURSEL, 0, 0);
     m_frame.page().SendMessage(WM_COMMAND, MAKEWPARAM(IDC_UPDATES_OUTCOME, CBN_SELCHANGE),
                                reinterpret_cast<LPARAM>(outcomes));

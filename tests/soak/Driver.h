@@ -59,6 +59,8 @@ private:
     bool cancelsFiles(HWND top) const;
     bool isDear(HWND target) const;
     bool isOpen(std::wstring_view page) const;
+    HWND servers() const;
+    bool isServerThat(const wchar_t* answer) const;
     void leaveSilentServer();
 
     // What the user does
