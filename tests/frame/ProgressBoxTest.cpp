@@ -4,6 +4,7 @@
 #include <testkit/GdiCounter.h>
 #include <testkit/ImportPatch.h>
 #include <testkit/MemoryCounter.h>
+#include <testkit/TestApp.h>
 #include <testkit/WindowCounter.h>
 
 #include <ovocor/WinError.h>
@@ -274,6 +275,17 @@ TEST(ProgressBox, EnterWithoutAButtonAnswersNothing)
     ::SendMessageW(box, WM_COMMAND, IDOK, 0);
     EXPECT_EQ(openBox(), box);
     EXPECT_TRUE(progress.Advance(1, 2));
+}
+
+TEST(ProgressBox, HasNoHelpPage)
+{
+    COVOProgressBox progress(nullptr, L"Working", L"Box");
+    HELPINFO asked{};
+    asked.cbSize = sizeof asked;
+    asked.iContextType = HELPINFO_WINDOW;
+    asked.hItemHandle = cancelButton();
+    ::SendMessageW(openBox(), WM_HELP, 0, reinterpret_cast<LPARAM>(&asked));
+    EXPECT_TRUE(TestApp::instance().helps().empty());
 }
 
 TEST(ProgressBox, AnOwnerDestroyedMeanwhileCancels)
