@@ -1,6 +1,7 @@
 #include "Poses.h"
 
 #include <testkit/GuiThread.h>
+#include <testkit/Watchdog.h>
 
 #include <gtest/gtest.h>
 
@@ -78,6 +79,7 @@ PosesSeen lookAtPoses(GalleryScene& scene, const Look& look, const Wanted& wante
             const std::wstring name = std::wstring(entry.name) + L"/" + pose;
             if (!wanted(name))
                 continue;
+            Watchdog::progress();
             scene.frame().MoveWindow(&place); // a pose before may have moved it to the edge of the screen
             scene.frame().openPage(entry);
             const DialogWatch watch(look);
