@@ -58,8 +58,15 @@ std::string inFront()
     const HWND wnd = ::GetForegroundWindow();
     if (!wnd)
         return "no window is in front";
-    const std::string words = "\"" + fs::path(textOf(wnd)).string() + "\" is in front";
-    return ::IsWindowEnabled(wnd) ? words : words + ", disabled";
+    std::string words = "\"" + fs::path(textOf(wnd)).string() + "\" is in front";
+    if (!::IsWindowEnabled(wnd))
+        words += ", disabled";
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof thread;
+    if (::GetGUIThreadInfo(::GetWindowThreadProcessId(wnd, nullptr), &thread) && thread.hwndFocus)
+        words += ", and the keyboard at " + fs::path(classOf(thread.hwndFocus)).string() + " " +
+                 std::to_string(::GetDlgCtrlID(thread.hwndFocus));
+    return words;
 }
 
 /// Neither it nor a window that it is part of is disabled or hidden.
@@ -195,6 +202,11 @@ bool RunningProgram::isActive() const
     return ::GetGUIThreadInfo(::GetWindowThreadProcessId(m_main, nullptr), &info) && info.hwndActive;
 }
 
+bool RunningProgram::canClick(HWND wnd) const
+{
+    return takesInput(wnd) && isInFront();
+}
+
 // Input
 
 /// The display tells the program of each movement in its own time, and the program takes the pointer there
@@ -223,8 +235,16 @@ void RunningProgram::clickAt(CPoint screen, Button button)
 
 void RunningProgram::click(HWND wnd, Button button)
 {
-    waitFor("the window to be enabled", [=, this] { return takesInput(wnd) && isInFront(); });
+    waitFor("the window to be enabled", [=, this] { return canClick(wnd); });
     clickAt(rectOf(wnd).CenterPoint(), button);
+}
+
+bool RunningProgram::clickNow(HWND wnd, Button button)
+{
+    if (!canClick(wnd))
+        return false;
+    clickAt(rectOf(wnd).CenterPoint(), button);
+    return true;
 }
 
 void RunningProgram::click(HWND wnd, CPoint client, Button button)

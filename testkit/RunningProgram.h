@@ -44,6 +44,8 @@ public:
     // Input
     /// Clicks with `button` into the middle of `wnd`, once it can be used and the program is in front.
     void click(HWND wnd, Button button = Button::Left);
+    /// The same where it can be used at once; false, and nothing is done, where it cannot.
+    bool clickNow(HWND wnd, Button button = Button::Left);
     /// Clicks with `button` at a point of the client area of `wnd`, `client`.
     void click(HWND wnd, CPoint client, Button button = Button::Left);
     /// Presses `button` at the first point of `way`, moves to the others in turn, and releases it at the
@@ -80,6 +82,7 @@ private:
     void letCatchUp() const;
     bool isInFront() const;
     bool isActive() const;
+    bool canClick(HWND wnd) const;
     void moveTo(CPoint screen);
     void clickAt(CPoint screen, Button button);
 

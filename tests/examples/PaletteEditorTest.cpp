@@ -61,11 +61,14 @@ protected:
     /// A button that has nothing left to do is disabled, and not pressed again.
     void pressUntil(int button, const std::function<bool()>& condition)
     {
-        const auto press = [=, this] {
-            if (::IsWindowEnabled(item(button)))
-                m_program.click(item(button));
-        };
-        m_program.tryUntil("button " + std::to_string(button), press, condition);
+        m_program.tryUntil(
+            "button " + std::to_string(button), [=, this] { m_program.clickNow(item(button)); }, condition);
+    }
+
+    /// A button that asks the user, who cannot use the editor then.
+    void pressToBeAsked(int button)
+    {
+        pressUntil(button, [this] { return !::IsWindowEnabled(m_program.main()); });
     }
 
     void waitForRows(int count)
@@ -147,13 +150,13 @@ protected:
     /// Nothing is asked: all that was changed has been saved or undone.
     void close()
     {
-        m_program.click(item(IDCANCEL));
+        pressUntil(IDCANCEL, [this] { return !::IsWindow(m_program.main()); });
         EXPECT_TRUE(m_program.endsByItself());
     }
 
     void closeWithoutSaving()
     {
-        m_program.click(item(IDCANCEL));
+        pressToBeAsked(IDCANCEL);
         answer(kNo);
         EXPECT_TRUE(m_program.endsByItself());
     }
@@ -277,7 +280,7 @@ TEST_F(PaletteEditor, SavesWhatWasMovedAndAddedAndOpensItAgain)
     m_program.key(VK_RETURN);
     m_program.waitFor("the editor's end", [this] { return !m_program.child(item(IDC_LIST), L"Edit"); });
 
-    m_program.click(item(IDC_SAVE));
+    pressToBeAsked(IDC_SAVE);
     answerFileDialog(m_program, files.path(L"saved"));
     const std::wstring path = files.path(L"saved.txt");
     const std::vector<std::wstring> lines = savedLines(m_program, path);
@@ -287,7 +290,7 @@ TEST_F(PaletteEditor, SavesWhatWasMovedAndAddedAndOpensItAgain)
     EXPECT_TRUE(lines[2].ends_with(L" Gr\u00FCn \u4E2D")) << "no letter is lost, whatever the code page";
 
     pressUntil(IDC_REMOVE, [this] { return rows() < 11; });
-    m_program.click(item(IDC_OPEN));
+    pressToBeAsked(IDC_OPEN);
     answer(kNo);
     answerFileDialog(m_program, path);
     waitForRows(11);
@@ -388,10 +391,10 @@ TEST_F(PaletteEditor, AsksBeforeItOpensAnotherPalette)
     const TemporaryFiles files;
     std::ofstream(std::filesystem::path(files.path(L"two.txt"))) << "#102030 Night\nsteelblue Steel\n";
     change();
-    const auto asks = [this] { return asked() != nullptr; };
-    pressUntil(IDC_OPEN, asks);
+    pressToBeAsked(IDC_OPEN);
     answer(kCancel);
-    pressUntil(IDC_OPEN, asks); // the first time no file was asked for, or the editor would be disabled
+    waitForEditor();
+    pressToBeAsked(IDC_OPEN); // the first time no file was asked for, or the editor would be disabled
     answer(kNo);
     answerFileDialog(m_program, files.path(L"two.txt"));
     waitForRows(2);
@@ -402,7 +405,7 @@ TEST_F(PaletteEditor, AsksBeforeItOpensAnotherPalette)
 TEST_F(PaletteEditor, AsksBeforeTheSessionEnds)
 {
     EXPECT_EQ(askedForTheSession().get(), 1) << "nothing would be lost";
-    m_program.click(item(IDC_OPEN));
+    pressToBeAsked(IDC_OPEN);
     const HWND dialog = openedFileDialog(m_program);
     EXPECT_EQ(askedForTheSession().get(), 1) << "nor while a file is asked for";
     cancelFileDialog(dialog);
