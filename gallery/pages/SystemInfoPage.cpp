@@ -10,6 +10,7 @@
 #include <ovouires/resource.h>
 
 #include <algorithm>
+#include <array>
 
 namespace
 {
@@ -22,6 +23,9 @@ struct Form
 
 constexpr Form kForms[] = {
     {L"Text with tabs", &modulesAsText}, {L"Markdown table", &modulesAsMarkdown}, {L"JSON", &modulesAsJson}};
+
+/// Where the columns of the text with tabs begin behind the first, in quarters of a letter's average width.
+constexpr std::array kColumns = {75, 150, 195, 300, 370, 440, 490, 540, 590};
 
 /// With the line ends of edit controls.
 CString forEdit(const std::wstring& text)
@@ -69,6 +73,9 @@ BOOL SystemInfoPage::OnInitDialog()
     m_form.SetCurSel(0);
     for (const int id : {IDC_SYSINFO_MACHINE_TEXT, IDC_SYSINFO_MODULES})
         static_cast<CEdit*>(GetDlgItem(id))->SetLimitText(0);
+    auto columns = kColumns;
+    static_cast<CEdit*>(GetDlgItem(IDC_SYSINFO_MODULES))
+        ->SetTabStops(static_cast<int>(columns.size()), columns.data());
     showData();
     stretch(IDC_SYSINFO_MACHINE_TEXT, {.growX = 100});
     stretch(IDC_SYSINFO_MODULES, {.growX = 100, .growY = 100});
