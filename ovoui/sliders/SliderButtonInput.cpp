@@ -131,10 +131,13 @@ UINT CSliderButton::OnGetDlgCode()
     return CStatic::OnGetDlgCode() & ~static_cast<UINT>(DLGC_STATIC);
 }
 
+/// Space counts when it goes down. While it is held the buddy would get the focus, and the blanks.
 void CSliderButton::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
     if (buttonKeyOf(key) != ButtonKey::Space)
         CStatic::OnKeyDown(key, repeat, flags);
+    else if (flags & KF_REPEAT)
+        return;
     else if (meaningOfPress(m_parts->pressed) == PressMeaning::Dismiss)
         dismiss();
     else
@@ -156,6 +159,9 @@ bool CSliderButton::takesKey(const MSG& message)
     switch (meaning) {
     case KeyMeaning::Open:
         press(middle());
+        return true;
+    case KeyMeaning::Close:
+        dismiss();
         return true;
     case KeyMeaning::Cancel:
         cancelPopup();
