@@ -217,6 +217,35 @@ TEST_F(AngleSliderKeys, ANumberIsTypedIntoASmallEdit)
     EXPECT_EQ(::GetFocus(), wheel->m_hWnd);
 }
 
+/// As when another program comes to the front.
+TEST_F(AngleSliderKeys, AFocusThatGoesToNoWindowIsNotTakenBack)
+{
+    round->SetFocus();
+    user.type(L"5").waitFor("the edit", [&] { return edit() != nullptr; });
+    ::SetFocus(nullptr);
+    EXPECT_EQ(edit(), nullptr);
+    EXPECT_EQ(round->GetPos(), 5);
+    EXPECT_EQ(::GetFocus(), nullptr);
+}
+
+static int WINAPI commaForDecimals(LCID locale, LCTYPE type, LPWSTR text, int room)
+{
+    if (type != LOCALE_SDECIMAL)
+        return ::GetLocaleInfoW(locale, type, text, room);
+    ::lstrcpynW(text, L",", room);
+    return 2;
+}
+
+TEST_F(AngleSliderKeys, ANumberIsTypedWithTheUsersDecimalSign)
+{
+    const ImportPatch patch(L"ovoui.dll", "GetLocaleInfoW", reinterpret_cast<void*>(&commaForDecimals));
+    round->SetFocus();
+    for (const auto& [typed, angle] : {std::pair{L"12,5", 12.5}, std::pair{L"-7.25", -7.25}}) {
+        user.type(typed).key(VK_RETURN).waitFor("the edit to go", [&] { return edit() == nullptr; });
+        EXPECT_EQ(round->GetPos(), angle);
+    }
+}
+
 TEST_F(AngleSliderKeys, TheSmallEditHasTheUsualFontAndLiesInTheMiddle)
 {
     round->SetFocus();
