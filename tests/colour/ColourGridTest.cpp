@@ -79,6 +79,20 @@ TEST_F(ColourGrid, KeysMoveTheMarkAndChoose)
     EXPECT_EQ(parent.codes().size(), 5u);
 }
 
+TEST_F(ColourGrid, FromRightToLeftTheKeysGoWhereTheyPoint)
+{
+    show();
+    grid->ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    ASSERT_LT(cell(1).find().x, cell(0).find().x);
+    grid->SetFocus();
+    user.key(VK_LEFT);
+    EXPECT_EQ(grid->Current(), 1);
+    user.key(VK_DOWN);
+    EXPECT_EQ(grid->Current(), 4);
+    user.key(VK_RIGHT);
+    EXPECT_EQ(grid->Current(), 3);
+}
+
 TEST_F(ColourGrid, TheMarkIsShownWithTheFocus)
 {
     show();
