@@ -1,5 +1,6 @@
 // Mouse, wheel, tip and keyboard of a slider button.
 #include <ovoui/frame/LoadedText.h>
+#include <ovoui/frame/PressWatch.h>
 #include <ovoui/sliders/SliderButtonParts.h>
 #include <ovoui/sliders/core/ButtonKeys.h>
 #include <ovoui/sliders/core/PopupRules.h>
@@ -33,7 +34,8 @@ void CSliderButton::OnLButtonDown(UINT, CPoint point)
         dismiss();
         return;
     }
-    if (!press(point))
+    const ovoui::frame::PressWatch held;
+    if (!press(point) || !held.goesOn())
         return;
     SetCapture();
     const CPoint pointer = onScreen(*this, point);

@@ -7,6 +7,7 @@
 #include <ovoui/colour/core/WheelGeometry.h>
 
 #include <cmath>
+#include <utility>
 
 using namespace ovo::testkit;
 
@@ -236,6 +237,27 @@ TEST_F(PickerKeys, WhatIsBeingTypedCountsBeforeThePress)
     user.click(onRing(120));
     EXPECT_EQ(lightness(), 20);
     EXPECT_NEAR(picker->GetColour().h_hls().degrees(), 120, 0.7);
+}
+
+TEST_F(PickerKeys, AHostThatShowsAMessageWhenTheFocusComesLeavesNoDragBehind)
+{
+    open(ColPickerModeHLS, Colour::hls(Angle::degrees(30), 0.5, 1));
+    picker->m_value2.SetFocus();
+    picker->m_value2.SetWindowText(L"20");
+    bool asked = false;
+    picker->onChange = [&](bool) {
+        if (!std::exchange(asked, true))
+            picker->MessageBox(L"Really?", L"Host");
+    };
+    user.press(onRing(120))
+        .release()
+        .waitFor("the message", [] { return shownWindow(L"Host") != nullptr; })
+        .key(VK_RETURN)
+        .waitFor("its end", [] { return shownWindow(L"Host") == nullptr; });
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(picker->m_drag, Picker::Drag::None);
+    EXPECT_NE(::GetCapture(), picker->m_hWnd);
+    EXPECT_NEAR(picker->GetColour().h_hls().degrees(), 30, 1e-6) << "the press is over with the message";
 }
 
 TEST_F(PickerKeys, TheFocusMarkIsShownAndLeavesNoTrace)

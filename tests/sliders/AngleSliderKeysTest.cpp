@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 using namespace ovo::testkit;
 
@@ -169,6 +170,26 @@ TEST_F(AngleSliderKeys, AClickTakesTheFocusWhichIsMarked)
     round->SetPos(0);
     round->UpdateWindow();
     EXPECT_GT(dottedLine(), without + 50);
+}
+
+TEST_F(AngleSliderKeys, AMessageThatIsShownWhenTheFocusComesLeavesNoDragBehind)
+{
+    wheel->SetFocus();
+    const auto wheelsEdit = [&] { return ::FindWindowExW(*wheel, nullptr, L"Edit", nullptr); };
+    user.type(L"5").waitFor("the edit", [&] { return wheelsEdit() != nullptr; });
+    bool asked = false;
+    parent.react = [&] {
+        if (!std::exchange(asked, true))
+            parent.MessageBox(L"Really?", L"Host");
+    };
+    user.press(Spot{*round, CPoint(60, 20)})
+        .release()
+        .waitFor("the message", [] { return shownWindow(L"Host") != nullptr; })
+        .key(VK_RETURN)
+        .waitFor("its end", [] { return shownWindow(L"Host") == nullptr; });
+    EXPECT_TRUE(asked);
+    EXPECT_NE(::GetCapture(), round->m_hWnd);
+    EXPECT_EQ(round->GetPos(), 0);
 }
 
 TEST_F(AngleSliderKeys, ShiftSnapsADrag)
