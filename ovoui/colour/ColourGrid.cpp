@@ -56,7 +56,7 @@ CColourGrid::CColourGrid()
     m_identity->cellAction = [this] {
         return IsWindowEnabled() ? ovoui::frame::loadedText(IDS_COLOUR_TAKE) : std::wstring();
     };
-    m_identity->pressCell = [this](int cell) { choose(cell); };
+    m_identity->pressCell = [this](int cell) { postClick(*this, CellRect(cell).CenterPoint()); };
 }
 
 CColourGrid::~CColourGrid()
