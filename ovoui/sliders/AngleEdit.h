@@ -16,7 +16,7 @@ class AngleEdit : public CEdit
 {
 public:
     /// Gets the angle that was typed; nothing when it is none or Escape was pressed. `byKey`: Enter or Escape
-    /// has ended it, and the focus is no one's yet. The window is gone then, and the call may destroy this
+    /// has ended it, and the focus may be no one's. The window is gone then, and the call may destroy this
     /// object.
     using Done = std::function<void(std::optional<double> degrees, bool byKey)>;
 
