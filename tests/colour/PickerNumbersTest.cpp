@@ -270,8 +270,7 @@ TEST_F(PickerNumbers, WhatWasPickedStaysWhenAnEditIsLeftBeforeAnyMessageToPaint)
         },
         [this] {
             picker->m_slider3.SetPos(200);
-            picker->SendMessage(WM_HSCROLL, SB_ENDSCROLL,
-                                reinterpret_cast<LPARAM>(picker->m_slider3.m_hWnd));
+            picker->SendMessage(WM_HSCROLL, SB_ENDSCROLL, reinterpret_cast<LPARAM>(picker->m_slider3.m_hWnd));
         },
     };
     for (const auto& pick : picks) {
