@@ -81,6 +81,13 @@ private:
 
 } // namespace
 
+void postClick(const CWnd& window, CPoint point)
+{
+    const LPARAM at = MAKELPARAM(point.x, point.y);
+    ::PostMessageW(window.m_hWnd, WM_LBUTTONDOWN, MK_LBUTTON, at);
+    ::PostMessageW(window.m_hWnd, WM_LBUTTONUP, 0, at);
+}
+
 std::shared_ptr<frame::Accessible> accessibleColours(std::shared_ptr<ColourIdentity> identity)
 {
     return std::make_shared<AccessibleColours>(std::move(identity));

@@ -19,7 +19,7 @@ struct ColourIdentity
     std::function<std::wstring()> name;
     std::function<std::wstring()> value;
     std::function<std::wstring()> action; ///< what `press` does; null where nothing can be done
-    std::function<void()> press;
+    std::function<void()> press;          ///< posted, as by postClick
 
     int cells = 0;
     std::function<std::wstring(int)> cellName;
@@ -27,8 +27,12 @@ struct ColourIdentity
     std::function<int()> current;        ///< the cell with the focus mark; kSelf when there is none
     std::function<bool()> hasFocus;      ///< null where it is the window's own
     std::function<std::wstring()> cellAction;
-    std::function<void(int)> pressCell;
+    std::function<void(int)> pressCell; ///< the same
 };
+
+/// Clicks a window at a client point when it comes to its messages: a client that presses something waits for
+/// the answer, and the host, which hears of the click, may show a dialog or raise an exception.
+void postClick(const CWnd& window, CPoint point);
 
 /// The object for accessibleAnswer.
 std::shared_ptr<frame::Accessible> accessibleColours(std::shared_ptr<ColourIdentity> identity);

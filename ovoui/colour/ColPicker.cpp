@@ -331,12 +331,16 @@ void ColPicker::invalidatePatch(CWnd* wnd)
         wnd->InvalidateRect(&m_patchRect, FALSE);
 }
 
-/// By the user. Whether picker and window still exist afterwards.
+/// By the user. Whether picker and window still exist afterwards. The edits show the colour when it is
+/// painted; while the host was busy the user may have left one of them, and with the numbers of before it
+/// would bring the colour of before back.
 bool ColPicker::change(CWnd* wnd, const Colour& colour, bool force, bool final)
 {
     const Lifeline::Watch watch(m_lifeline);
     SetColour(wnd, colour, force);
     if (watch.alive() && wnd->m_hWnd)
         UpdateExternalColours(final);
+    if (watch.alive() && wnd->m_hWnd)
+        wnd->UpdateWindow();
     return watch.alive() && wnd->m_hWnd;
 }

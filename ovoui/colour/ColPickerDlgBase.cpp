@@ -4,6 +4,9 @@
 #include <ovoui/colour/core/ControlKeys.h>
 #include <ovouires/resource.h>
 
+#include <algorithm>
+#include <initializer_list>
+
 using namespace ovoui::colour;
 
 IMPLEMENT_DYNAMIC(ColPickerDlgBase, COVOModalDialog)
@@ -25,6 +28,17 @@ BEGIN_MESSAGE_MAP(ColPickerDlgBase, COVOModalDialog)
     ON_WM_CTLCOLOR()
     ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
+
+namespace
+{
+
+bool isOneOf(HWND window, std::initializer_list<const CWnd*> controls)
+{
+    return window &&
+           std::ranges::any_of(controls, [window](const CWnd* one) { return one->m_hWnd == window; });
+}
+
+} // namespace
 
 ColPickerDlgBase::ColPickerDlgBase(CWinApp& app, ColPickerModeType mode, const Colour& colour, CWnd* centreOn,
                                    CWnd* parent)
@@ -90,11 +104,13 @@ BOOL ColPickerDlgBase::OnInitDialog()
     return TRUE;
 }
 
-/// Typed numbers count, whichever way the dialog is told to close.
+/// A number that is being typed counts, whichever way the dialog is told to close. Otherwise the edits are
+/// not read: they show the colour rounded.
 void ColPickerDlgBase::OnOK()
 {
     const Lifeline::Watch watch(m_dialogLifeline);
-    DoKillfocusColpickerValues(this);
+    if (isOneOf(::GetFocus(), {&m_value1, &m_value2, &m_value3, &m_valueAlpha}))
+        DoKillfocusColpickerValues(this);
     if (!watch.alive() || !m_hWnd)
         return;
     if (m_modeless)

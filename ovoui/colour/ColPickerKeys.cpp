@@ -83,7 +83,9 @@ void ColPicker::makeSwatchStop(CWnd* wnd)
     };
     identity->current = [this] { return m_stops->swatch; };
     identity->cellAction = [] { return loadedText(IDS_COLOUR_TAKE); };
-    identity->pressCell = [this, wnd](int cell) { takeSwatch(wnd, cell); };
+    identity->pressCell = [this, wnd](int cell) {
+        postClick(*wnd, m_swatches[static_cast<std::size_t>(cell)].CenterPoint());
+    };
     m_stops->swatches = std::make_unique<PickerStop>(
         PickerStop::Calls{[](UINT key) { return swatchKey(key) != SwatchKey::None; },
                           [this, wnd] { wnd->InvalidateRect(&m_customRect, FALSE); }},

@@ -3,11 +3,13 @@
 
 #include <ovoui/colour/ColourWheelImage.h>
 #include <ovoui/colour/core/PickerGesture.h>
+#include <ovoui/frame/PressWatch.h>
 #include <ovouires/resource.h>
 
 #include <utility>
 
 using namespace ovoui::colour;
+using ovoui::frame::PressWatch;
 
 namespace
 {
@@ -24,11 +26,6 @@ HCURSOR dragCursor()
 {
     const LPCTSTR name = MAKEINTRESOURCE(IDC_DRAG_COLOUR);
     return ::LoadCursorW(AfxFindResourceHandle(name, RT_GROUP_CURSOR), name);
-}
-
-bool isButtonDown()
-{
-    return ::GetKeyState(VK_LBUTTON) < 0;
 }
 
 } // namespace
@@ -69,7 +66,8 @@ bool ColPicker::isOnSwatches(CPoint point) const
 bool ColPicker::DoLButtonDown(CWnd* wnd, UINT, CPoint point)
 {
     const Drag part = partAt(point);
-    if (!focusPart(wnd, part))
+    const PressWatch press;
+    if (!focusPart(wnd, part) || !press.goesOn())
         return true;
     switch (pickerAction(PickerInput::Press, part, isOnSwatches(point))) {
     case PickerAction::Take:
@@ -88,9 +86,8 @@ bool ColPicker::DoLButtonDown(CWnd* wnd, UINT, CPoint point)
 
 void ColPicker::takeByPress(CWnd* wnd, Drag part, CPoint point)
 {
-    const bool wasDown = isButtonDown();
-    const bool isThere = change(wnd, colourAt(part, point), choosesHue(part), false);
-    if (beginsDrag(isThere, wasDown, isButtonDown()))
+    const PressWatch press;
+    if (change(wnd, colourAt(part, point), choosesHue(part), false) && press.goesOn())
         beginDrag(wnd, part);
 }
 

@@ -254,9 +254,9 @@ UINT CColourButton::OnGetDlgCode()
     return m_drop ? usual | DLGC_WANTALLKEYS : usual | DLGC_WANTARROWS;
 }
 
-void CColourButton::OnKeyDown(UINT key, UINT, UINT)
+void CColourButton::OnKeyDown(UINT key, UINT, UINT flags)
 {
-    carryOut(dropButtonKey(key, false, m_drop != nullptr), key);
+    carryOut(dropButtonKey(key, false, (flags & KF_REPEAT) != 0, m_drop != nullptr), key);
 }
 
 void CColourButton::carryOut(DropButtonKey meaning, UINT key)
@@ -296,9 +296,9 @@ void CColourButton::OnKeyUp(UINT key, UINT, UINT)
         Default();
 }
 
-void CColourButton::OnSysKeyDown(UINT key, UINT, UINT)
+void CColourButton::OnSysKeyDown(UINT key, UINT, UINT flags)
 {
-    carryOut(dropButtonKey(key, true, m_drop != nullptr), key);
+    carryOut(dropButtonKey(key, true, (flags & KF_REPEAT) != 0, m_drop != nullptr), key);
 }
 
 /// A parent that asks for it (BS_NOTIFY) is told, and may do anything.

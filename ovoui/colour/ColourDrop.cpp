@@ -59,7 +59,9 @@ ColourDrop::ColourDrop(Content content, Calls calls)
     m_identity->current = [this] { return current(); };
     m_identity->hasFocus = [this] { return ::GetFocus() == m_button->m_hWnd; };
     m_identity->cellAction = [] { return frame::loadedText(IDS_COLOUR_TAKE); };
-    m_identity->pressCell = m_calls.chosen;
+    m_identity->pressCell = [this](int cell) {
+        postClick(*this, CRect(toRect(m_layout->place(cell))).CenterPoint());
+    };
 }
 
 ColourDrop::~ColourDrop()

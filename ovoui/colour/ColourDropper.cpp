@@ -4,6 +4,7 @@
 #include <ovoui/colour/core/ControlKeys.h>
 #include <ovoui/colour/core/ScreenPick.h>
 #include <ovoui/frame/AskedKey.h>
+#include <ovoui/frame/PressWatch.h>
 #include <ovoui/frame/TellParent.h>
 
 using namespace ovoui::colour;
@@ -104,8 +105,9 @@ bool CColourDropper::isOnButton(CPoint client) const
 void CColourDropper::OnLButtonDown(UINT, CPoint)
 {
     const Lifeline::Watch watch(m_lifeline);
+    const ovoui::frame::PressWatch press;
     SetFocus(); // the window that loses it may do anything
-    if (!watch.alive() || !m_hWnd)
+    if (!watch.alive() || !m_hWnd || !press.goesOn())
         return;
     const ScreenPick::Act act = m_pick->press();
     if (act == ScreenPick::Act::Begin)

@@ -56,7 +56,7 @@ CColourGrid::CColourGrid()
     m_identity->cellAction = [this] {
         return IsWindowEnabled() ? ovoui::frame::loadedText(IDS_COLOUR_TAKE) : std::wstring();
     };
-    m_identity->pressCell = [this](int cell) { choose(cell); };
+    m_identity->pressCell = [this](int cell) { postClick(*this, CellRect(cell).CenterPoint()); };
 }
 
 CColourGrid::~CColourGrid()
@@ -177,10 +177,13 @@ void CColourGrid::OnLButtonUp(UINT, CPoint where)
 
 void CColourGrid::OnKeyDown(UINT key, UINT, UINT)
 {
+    const bool fromTheRight = (GetExStyle() & WS_EX_LAYOUTRTL) != 0;
     switch (gridKey(key, m_colours.empty())) {
-    case GridKey::Move:
-        point(cellAfter(m_current, m_identity->cells, m_columns, *wheelKeyOf(key)));
+    case GridKey::Move: {
+        const WheelKey pressed = *wheelKeyOf(key);
+        point(cellAfter(m_current, m_identity->cells, m_columns, fromTheRight ? mirrored(pressed) : pressed));
         break;
+    }
     case GridKey::Choose:
         choose(m_current);
         break;

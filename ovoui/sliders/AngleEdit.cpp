@@ -4,6 +4,7 @@
 #include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/frame/WindowText.h>
+#include <ovoui/sliders/UnitNumbers.h>
 #include <ovoui/sliders/core/SliderPlaces.h>
 
 #include <string>
@@ -58,7 +59,7 @@ void AngleEdit::OnKeyDown(UINT key, UINT repeat, UINT flags)
     if (end == EditEnd::GoesOn)
         CEdit::OnKeyDown(key, repeat, flags);
     else
-        finish(end);
+        finish(end, true);
 }
 
 void AngleEdit::OnKillFocus(CWnd* other)
@@ -66,18 +67,20 @@ void AngleEdit::OnKillFocus(CWnd* other)
     const Lifeline::Watch watch(*this); // the slider is told, which a host may have derived
     CEdit::OnKillFocus(other);
     if (watch.alive())
-        finish(EditEnd::Accept);
+        finish(EditEnd::Accept, false);
 }
 
 /// Destroying the window takes the focus from it: the second time there is nothing left to do.
-void AngleEdit::finish(EditEnd end)
+void AngleEdit::finish(EditEnd end, bool byKey)
 {
     const Done done = std::exchange(m_done, nullptr);
     if (!done)
         return;
-    const std::wstring text = frame::windowText(m_hWnd);
+    CUnitNumbers usersSigns(std::wstring(), false);
+    std::wstring text;
+    usersSigns.fromDisplay(text, frame::windowText(m_hWnd));
     DestroyWindow();
-    done(typedAngle(end, text));
+    done(typedAngle(end, text), byKey);
 }
 
 } // namespace ovoui::sliders

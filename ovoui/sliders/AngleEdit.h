@@ -15,9 +15,10 @@ namespace ovoui::sliders
 class AngleEdit : public CEdit
 {
 public:
-    /// Gets the angle that was typed; nothing when it is none or Escape was pressed. The window is gone then,
-    /// and the call may destroy this object.
-    using Done = std::function<void(std::optional<double> degrees)>;
+    /// Gets the angle that was typed; nothing when it is none or Escape was pressed. `byKey`: Enter or Escape
+    /// has ended it, and the focus may be no one's. The window is gone then, and the call may destroy this
+    /// object.
+    using Done = std::function<void(std::optional<double> degrees, bool byKey)>;
 
     /// In the middle of `over`, with the first character that was typed.
     void open(CWnd& over, wchar_t first, Done done);
@@ -29,7 +30,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void finish(EditEnd end);
+    void finish(EditEnd end, bool byKey);
 
     Done m_done;
 };

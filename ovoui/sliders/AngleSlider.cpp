@@ -5,6 +5,7 @@
 #include <ovoui/frame/DcScopes.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/frame/OwnWindow.h>
+#include <ovoui/frame/PressWatch.h>
 #include <ovoui/frame/TellParent.h>
 #include <ovoui/sliders/AngleSliderOptions.h>
 #include <ovoui/sliders/SystemShade.h>
@@ -93,9 +94,10 @@ void CAngleSlider::OnLButtonDown(UINT flags, CPoint point)
 void CAngleSlider::OnLButtonDblClk(UINT, CPoint point)
 {
     const Lifeline::Watch watch(*this);
+    const ovoui::frame::PressWatch press;
     if (m_options->keyboard)
         SetFocus();
-    if (!watch.alive())
+    if (!watch.alive() || !press.goesOn())
         return;
     m_drag->press(angleAt(point, true));
     SetCapture();

@@ -72,9 +72,9 @@ void CAngleSlider::OnChar(UINT character, UINT repeat, UINT flags)
         edit.SendMessage(WM_CHAR, character, MAKELPARAM(repeat, flags));
         break;
     case AngleCharacter::Open:
-        edit.open(*this, static_cast<wchar_t>(character), [this](std::optional<double> typed) {
+        edit.open(*this, static_cast<wchar_t>(character), [this](std::optional<double> typed, bool byKey) {
             const Lifeline::Watch watch(*this);
-            if (::GetFocus() == nullptr)
+            if (byKey && ::GetFocus() == nullptr)
                 SetFocus(); // the edit control had it
             if (watch.alive() && typed)
                 turnTo(*typed);

@@ -7,8 +7,8 @@
 ///
 /// The user clicks the button and moves the slider, or presses, drags straight onto the thumb and lets go.
 /// The popup never takes the activation by itself: the arrow keys, Page Up and Down, Home and End of the
-/// button move the slider while it is open; Escape puts back the text from before. Accessibility sees a
-/// slider with the name of the buddy's label and the buddy's text for its value.
+/// button move the slider while it is open; Tab and Enter close it, Escape also puts back the text from
+/// before. Accessibility sees a slider with the name of the buddy's label and the buddy's text for its value.
 #pragma once
 
 #include <ovoui/export.h>

@@ -1,5 +1,6 @@
 // Mouse, wheel, tip and keyboard of a slider button.
 #include <ovoui/frame/LoadedText.h>
+#include <ovoui/frame/PressWatch.h>
 #include <ovoui/sliders/SliderButtonParts.h>
 #include <ovoui/sliders/core/ButtonKeys.h>
 #include <ovoui/sliders/core/PopupRules.h>
@@ -33,7 +34,8 @@ void CSliderButton::OnLButtonDown(UINT, CPoint point)
         dismiss();
         return;
     }
-    if (!press(point))
+    const ovoui::frame::PressWatch held;
+    if (!press(point) || !held.goesOn())
         return;
     SetCapture();
     const CPoint pointer = onScreen(*this, point);
@@ -131,10 +133,13 @@ UINT CSliderButton::OnGetDlgCode()
     return CStatic::OnGetDlgCode() & ~static_cast<UINT>(DLGC_STATIC);
 }
 
+/// Space counts when it goes down. While it is held the buddy would get the focus, and the blanks.
 void CSliderButton::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
     if (buttonKeyOf(key) != ButtonKey::Space)
         CStatic::OnKeyDown(key, repeat, flags);
+    else if (flags & KF_REPEAT)
+        return;
     else if (meaningOfPress(m_parts->pressed) == PressMeaning::Dismiss)
         dismiss();
     else
@@ -156,6 +161,9 @@ bool CSliderButton::takesKey(const MSG& message)
     switch (meaning) {
     case KeyMeaning::Open:
         press(middle());
+        return true;
+    case KeyMeaning::Close:
+        dismiss();
         return true;
     case KeyMeaning::Cancel:
         cancelPopup();

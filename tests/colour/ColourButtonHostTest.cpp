@@ -35,7 +35,20 @@ TEST_F(ColourButton, AccessibilitySeesAButtonWithItsColour)
     user.key(VK_LEFT);
     EXPECT_EQ(moves.of(shownPopup(), 3), 1);
     EXPECT_EQ(list->accDoDefaultAction(AccessibleView::numbered(5)), S_OK);
-    EXPECT_EQ(now(), RGB(0, 0, 255));
+    user.waitFor("the colour", [this] { return now() == RGB(0, 0, 255); });
+}
+
+TEST_F(ColourButton, AccessibilityHasItsAnswerBeforeTheDialogIsShown)
+{
+    show();
+    button->onAsk = [](const Colour&) { return Colour::rgb(0, 1, 0); };
+    open();
+    const AccessibleView list(shownPopup());
+    EXPECT_EQ(list->accDoDefaultAction(AccessibleView::numbered(7)), S_OK);
+    EXPECT_EQ(button->asked, 0);
+    user.waitFor("the answer", [this] { return now() == RGB(0, 255, 0); });
+    EXPECT_EQ(button->asked, 1);
+    EXPECT_EQ(parent.codes(), (std::vector<UINT>{kDropped, kClosed, kGridChosen}));
 }
 
 TEST_F(ColourButton, AccessibilityOpensItAndSeesTheMark)

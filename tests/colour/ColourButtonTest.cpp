@@ -179,6 +179,29 @@ TEST_F(ColourButton, KeysOpenMoveAndChoose)
     EXPECT_EQ(now(), kLeaf);
 }
 
+TEST_F(ColourButton, AKeyThatIsHeldOpensOnceAndChoosesNothing)
+{
+    constexpr LPARAM kFirst = 1;
+    constexpr LPARAM kAgain = 0x40000001;
+    show();
+    button->SetFocus();
+    for (const WPARAM key : {VK_SPACE, VK_F4}) {
+        parent.log().clear();
+        button->SendMessage(WM_KEYDOWN, key, kFirst);
+        ASSERT_TRUE(button->IsDropped()) << key;
+        button->SendMessage(WM_KEYDOWN, key, kAgain);
+        button->SendMessage(WM_KEYDOWN, key, kAgain);
+        EXPECT_TRUE(button->IsDropped()) << key;
+        EXPECT_EQ(parent.codes(), (std::vector<UINT>{kDropped})) << key;
+        button->SendMessage(WM_KEYDOWN, VK_LEFT, kAgain);
+        EXPECT_EQ(button->PointedColour()->colorref(), kRust) << "held, an arrow goes on";
+        button->CloseUp();
+    }
+    button->SendMessage(WM_SYSKEYDOWN, VK_DOWN, kFirst);
+    button->SendMessage(WM_SYSKEYDOWN, VK_DOWN, kAgain);
+    EXPECT_TRUE(button->IsDropped()) << "Alt+Down";
+}
+
 TEST_F(ColourButton, EscapeAndTheLossOfTheFocusClose)
 {
     show();

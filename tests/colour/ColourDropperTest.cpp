@@ -7,6 +7,8 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <utility>
 
 using namespace ovo::testkit;
 
@@ -53,6 +55,29 @@ TEST_F(ColourDropper, TheColourUnderThePointerIsTakenOnRelease)
     EXPECT_EQ(::GetCapture(), nullptr);
     EXPECT_EQ(shownPopup(), nullptr);
     EXPECT_EQ(parent.log().count(BN_CLICKED), 0);
+}
+
+TEST_F(ColourDropper, AMessageThatIsShownWhenTheFocusComesLeavesNoPickingBehind)
+{
+    show();
+    CEdit field;
+    field.Create(WS_CHILD | WS_VISIBLE, CRect(20, 60, 120, 82), &parent, 9);
+    field.SetFocus();
+    bool asked = false;
+    parent.onMessage = [&](UINT message, WPARAM wParam, LPARAM) -> std::optional<LRESULT> {
+        if (message == WM_COMMAND && HIWORD(wParam) == EN_KILLFOCUS && !std::exchange(asked, true))
+            parent.MessageBox(L"Really?", L"Host");
+        return std::nullopt;
+    };
+    user.press(Spot{*dropper})
+        .release()
+        .waitFor("the message", [] { return shownWindow(L"Host") != nullptr; })
+        .key(VK_RETURN)
+        .waitFor("its end", [] { return shownWindow(L"Host") == nullptr; });
+    EXPECT_TRUE(asked);
+    EXPECT_FALSE(dropper->IsPicking());
+    EXPECT_NE(::GetCapture(), dropper->m_hWnd);
+    EXPECT_TRUE(parent.codes().empty());
 }
 
 TEST_F(ColourDropper, TheMagnifierFollowsThePointerAndStaysOnTheScreen)

@@ -41,6 +41,20 @@ TEST_F(PickerDialog, OkKeepsTheColour)
     expectColour(picker->GetColour(), 0, 1, 0);
 }
 
+TEST_F(PickerDialog, OkRoundsNoColourWhereNothingIsTyped)
+{
+    const Colour odd = Colour::rgba(0.1234, 0.5678, 0.4321, -1);
+    for (const auto mode : {ColPickerModeRGB, ColPickerModeHLS, ColPickerModeHSV}) {
+        open(mode, odd);
+        picker->m_space.SetFocus();
+        picker->SendMessage(WM_COMMAND, IDOK);
+        EXPECT_FALSE(picker->m_hWnd);
+        expectColour(picker->GetColour(), odd.r(), odd.g(), odd.b(), 0);
+        EXPECT_EQ(picker->GetColour().a(), -1) << "it has none still";
+        EXPECT_TRUE(picker->told.empty());
+    }
+}
+
 TEST_F(PickerDialog, TheColourIsKnownBeforeDuringAndAfter)
 {
     const Colour grey = Colour::hlsa(Angle::degrees(77), 0.5, 0, -1);

@@ -7,6 +7,7 @@
 #include <ovoui/colour/core/WheelGeometry.h>
 
 #include <cmath>
+#include <utility>
 
 using namespace ovo::testkit;
 
@@ -238,6 +239,27 @@ TEST_F(PickerKeys, WhatIsBeingTypedCountsBeforeThePress)
     EXPECT_NEAR(picker->GetColour().h_hls().degrees(), 120, 0.7);
 }
 
+TEST_F(PickerKeys, AHostThatShowsAMessageWhenTheFocusComesLeavesNoDragBehind)
+{
+    open(ColPickerModeHLS, Colour::hls(Angle::degrees(30), 0.5, 1));
+    picker->m_value2.SetFocus();
+    picker->m_value2.SetWindowText(L"20");
+    bool asked = false;
+    picker->onChange = [&](bool) {
+        if (!std::exchange(asked, true))
+            picker->MessageBox(L"Really?", L"Host");
+    };
+    user.press(onRing(120))
+        .release()
+        .waitFor("the message", [] { return shownWindow(L"Host") != nullptr; })
+        .key(VK_RETURN)
+        .waitFor("its end", [] { return shownWindow(L"Host") == nullptr; });
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(picker->m_drag, Picker::Drag::None);
+    EXPECT_NE(::GetCapture(), picker->m_hWnd);
+    EXPECT_NEAR(picker->GetColour().h_hls().degrees(), 30, 1e-6) << "the press is over with the message";
+}
+
 TEST_F(PickerKeys, TheFocusMarkIsShownAndLeavesNoTrace)
 {
     open();
@@ -382,7 +404,8 @@ TEST_F(PickerKeys, AccessibilitySeesAListOfSwatches)
     EXPECT_EQ(list.place(3), third);
     EXPECT_EQ(list.action(3), L"Take");
     EXPECT_EQ(list->accDoDefaultAction(AccessibleView::numbered(3)), S_OK);
-    EXPECT_EQ(host->GetColour().colorref(), RGB(255, 0, 0));
+    EXPECT_NE(host->GetColour().colorref(), RGB(255, 0, 0)) << "the client has its answer first";
+    user.waitFor("the colour", [this] { return host->GetColour().colorref() == RGB(255, 0, 0); });
 }
 
 // The host's code may do anything.

@@ -256,6 +256,36 @@ TEST_F(PickerNumbers, AHueJustBelowTheFullTurn)
     EXPECT_EQ(picker->m_slider1.GetPos(), 359);
 }
 
+TEST_F(PickerNumbers, WhatWasPickedStaysWhenAnEditIsLeftBeforeAnyMessageToPaint)
+{
+    const std::function<void()> picks[] = {
+        [this] {
+            const CPoint middle = picker->centre();
+            picker->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(middle.x, middle.y));
+            picker->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(middle.x, middle.y));
+        },
+        [this] {
+            const CPoint bottom = picker->centre() + CSize(0, picker->outer() * 9 / 10);
+            picker->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(bottom.x, bottom.y));
+        },
+        [this] {
+            picker->m_slider3.SetPos(200);
+            picker->SendMessage(WM_HSCROLL, SB_ENDSCROLL, reinterpret_cast<LPARAM>(picker->m_slider3.m_hWnd));
+        },
+    };
+    for (const auto& pick : picks) {
+        open();
+        picker->m_value1.SetFocus();
+        picker->paint();
+        pick();
+        const COLORREF picked = picker->GetColour().colorref();
+        ASSERT_NE(picked, kOrange.colorref());
+        picker->m_space.SetFocus();
+        EXPECT_EQ(picker->GetColour().colorref(), picked);
+        picker->DestroyWindow();
+    }
+}
+
 // Sliders
 
 TEST_F(PickerNumbers, SlidersInEveryMode)

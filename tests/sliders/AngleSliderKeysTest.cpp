@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 using namespace ovo::testkit;
 
@@ -171,6 +172,26 @@ TEST_F(AngleSliderKeys, AClickTakesTheFocusWhichIsMarked)
     EXPECT_GT(dottedLine(), without + 50);
 }
 
+TEST_F(AngleSliderKeys, AMessageThatIsShownWhenTheFocusComesLeavesNoDragBehind)
+{
+    wheel->SetFocus();
+    const auto wheelsEdit = [&] { return ::FindWindowExW(*wheel, nullptr, L"Edit", nullptr); };
+    user.type(L"5").waitFor("the edit", [&] { return wheelsEdit() != nullptr; });
+    bool asked = false;
+    parent.react = [&] {
+        if (!std::exchange(asked, true))
+            parent.MessageBox(L"Really?", L"Host");
+    };
+    user.press(Spot{*round, CPoint(60, 20)})
+        .release()
+        .waitFor("the message", [] { return shownWindow(L"Host") != nullptr; })
+        .key(VK_RETURN)
+        .waitFor("its end", [] { return shownWindow(L"Host") == nullptr; });
+    EXPECT_TRUE(asked);
+    EXPECT_NE(::GetCapture(), round->m_hWnd);
+    EXPECT_EQ(round->GetPos(), 0);
+}
+
 TEST_F(AngleSliderKeys, ShiftSnapsADrag)
 {
     round->SetSnap(15);
@@ -215,6 +236,35 @@ TEST_F(AngleSliderKeys, ANumberIsTypedIntoASmallEdit)
     EXPECT_EQ(edit(), nullptr) << "leaving it accepts";
     EXPECT_EQ(round->GetPos(), 1);
     EXPECT_EQ(::GetFocus(), wheel->m_hWnd);
+}
+
+/// As when another program comes to the front.
+TEST_F(AngleSliderKeys, AFocusThatGoesToNoWindowIsNotTakenBack)
+{
+    round->SetFocus();
+    user.type(L"5").waitFor("the edit", [&] { return edit() != nullptr; });
+    ::SetFocus(nullptr);
+    EXPECT_EQ(edit(), nullptr);
+    EXPECT_EQ(round->GetPos(), 5);
+    EXPECT_EQ(::GetFocus(), nullptr);
+}
+
+static int WINAPI commaForDecimals(LCID locale, LCTYPE type, LPWSTR text, int room)
+{
+    if (type != LOCALE_SDECIMAL)
+        return ::GetLocaleInfoW(locale, type, text, room);
+    ::lstrcpynW(text, L",", room);
+    return 2;
+}
+
+TEST_F(AngleSliderKeys, ANumberIsTypedWithTheUsersDecimalSign)
+{
+    const ImportPatch patch(L"ovoui.dll", "GetLocaleInfoW", reinterpret_cast<void*>(&commaForDecimals));
+    round->SetFocus();
+    for (const auto& [typed, angle] : {std::pair{L"12,5", 12.5}, std::pair{L"-7.25", -7.25}}) {
+        user.type(typed).key(VK_RETURN).waitFor("the edit to go", [&] { return edit() == nullptr; });
+        EXPECT_EQ(round->GetPos(), angle);
+    }
 }
 
 TEST_F(AngleSliderKeys, TheSmallEditHasTheUsualFontAndLiesInTheMiddle)

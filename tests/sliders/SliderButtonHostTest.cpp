@@ -239,6 +239,25 @@ TEST_F(SliderButton, AHostMayDeleteItInAConversion)
     }
 }
 
+TEST_F(SliderButton, AHostThatShowsAMessageDuringThePressLeavesNoDragBehind)
+{
+    button->SetType(CSliderButton::SliderLinear);
+    show();
+    bool asked = false;
+    utils.misdeed = [&] {
+        if (!std::exchange(asked, true))
+            parent.MessageBox(L"Really?", L"Host");
+    };
+    user.press(Spot{*button})
+        .release()
+        .waitFor("the message", [] { return shownWindow(L"Host") != nullptr; })
+        .key(VK_RETURN)
+        .waitFor("its end", [] { return shownWindow(L"Host") == nullptr; });
+    EXPECT_TRUE(asked);
+    EXPECT_NE(::GetCapture(), button->m_hWnd);
+    EXPECT_TRUE(isOpen()) << "as after a click";
+}
+
 TEST_F(SliderButton, AHostMayDeleteItWhenItsWindowBecomesActiveAgain)
 {
     // Hiding the popup, which is active, activates the window that owns it.

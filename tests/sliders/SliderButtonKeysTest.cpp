@@ -46,6 +46,45 @@ TEST_F(SliderButton, SpaceOpensAndCloses)
     EXPECT_EQ(::GetFocus(), buddy.m_hWnd);
 }
 
+TEST_F(SliderButton, SpaceThatIsHeldOpensOnce)
+{
+    constexpr LPARAM kFirst = 0x00390001;
+    constexpr LPARAM kAgain = 0x40390001;
+    setBuddyText(L"50");
+    show();
+    button->SetFocus();
+    button->SendMessage(WM_KEYDOWN, VK_SPACE, kFirst);
+    ASSERT_TRUE(isOpen());
+    button->SendMessage(WM_KEYDOWN, VK_SPACE, kAgain);
+    button->SendMessage(WM_KEYDOWN, VK_SPACE, kAgain);
+    EXPECT_TRUE(isOpen());
+    EXPECT_EQ(::GetFocus(), button->m_hWnd);
+    EXPECT_TRUE(told().empty());
+    button->SendMessage(WM_KEYDOWN, VK_SPACE, kFirst);
+    EXPECT_TRUE(isClosed());
+    EXPECT_EQ(told(), (std::vector<UINT>{kReleased}));
+}
+
+TEST_F(SliderButton, TabAndEnterOnTheButtonCloseThePopupAlone)
+{
+    EmptyDialog form;
+    ASSERT_TRUE(form.create({20, 20}, {120, 60}));
+    for (CWnd* const control : {static_cast<CWnd*>(&buddy), static_cast<CWnd*>(button.get())})
+        control->SetParent(&form);
+    button->SetWindowPos(&buddy, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    present(form);
+    for (const WORD key : {VK_TAB, VK_RETURN}) {
+        setBuddyText(L"50");
+        button->SetFocus();
+        user.key(VK_DOWN).waitFor("the popup", [] { return slider() && isOpen(); });
+        user.key(VK_RIGHT).waitFor("the value", [&] { return buddyText() == L"51"; });
+        user.key(key).waitFor("the popup to go", [] { return slider() == nullptr; });
+        EXPECT_EQ(buddyText(), L"51");
+        EXPECT_EQ(::GetFocus(), buddy.m_hWnd) << "as after the same key in the slider";
+        EXPECT_TRUE(form.IsWindowVisible());
+    }
+}
+
 TEST_F(SliderButton, DownOpensAndTheKeysMoveTheSlider)
 {
     setBuddyText(L"50");

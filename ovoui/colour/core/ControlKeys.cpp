@@ -11,8 +11,6 @@ using namespace keys;
 namespace
 {
 
-// Letters, which have the numbers of their characters
-
 bool isArrow(unsigned key)
 {
     return key >= kVkLeft && key <= kVkDown;
@@ -26,6 +24,24 @@ bool moves(unsigned key)
 bool presses(unsigned key)
 {
     return key == kVkSpace || key == kVkReturn;
+}
+
+/// What a key means to a button with a palette when it goes down.
+DropButtonKey pressedOnDropButton(unsigned key, bool alt, bool open)
+{
+    const bool upOrDown = key == kVkUp || key == kVkDown;
+    if (alt && !upOrDown)
+        return DropButtonKey::Platform;
+    if (alt)
+        return open ? DropButtonKey::Close : DropButtonKey::Open;
+    if (!open)
+        return key == kVkSpace || key == kVkDown || key == kVkF4 ? DropButtonKey::Open
+                                                                 : DropButtonKey::Platform;
+    if (paletteKey(key, true) != PaletteKey::None)
+        return DropButtonKey::ToPalette;
+    if (key == kVkTab)
+        return DropButtonKey::CloseAndGoOn;
+    return key == kVkEscape || key == kVkF4 ? DropButtonKey::Close : DropButtonKey::Ignore;
 }
 
 } // namespace
@@ -57,21 +73,12 @@ PaletteKey paletteKey(unsigned key, bool marked)
     return marked ? PaletteKey::Choose : PaletteKey::Close;
 }
 
-DropButtonKey dropButtonKey(unsigned key, bool alt, bool open)
+DropButtonKey dropButtonKey(unsigned key, bool alt, bool again, bool open)
 {
-    const bool upOrDown = key == kVkUp || key == kVkDown;
-    if (alt && !upOrDown)
-        return DropButtonKey::Platform;
-    if (alt)
-        return open ? DropButtonKey::Close : DropButtonKey::Open;
-    if (!open)
-        return key == kVkSpace || key == kVkDown || key == kVkF4 ? DropButtonKey::Open
-                                                                 : DropButtonKey::Platform;
-    if (paletteKey(key, true) != PaletteKey::None)
-        return DropButtonKey::ToPalette;
-    if (key == kVkTab)
-        return DropButtonKey::CloseAndGoOn;
-    return key == kVkEscape || key == kVkF4 ? DropButtonKey::Close : DropButtonKey::Ignore;
+    const DropButtonKey meaning = pressedOnDropButton(key, alt, open);
+    const bool onlyOnce =
+        meaning != DropButtonKey::Platform && !(meaning == DropButtonKey::ToPalette && moves(key));
+    return again && onlyOnce ? DropButtonKey::Ignore : meaning;
 }
 
 DropperKey dropperKey(unsigned key, bool again, bool picking)

@@ -44,7 +44,9 @@ enum class DropButtonKey
     CloseAndGoOn, ///< and the focus goes to the next control
     ToPalette
 };
-DropButtonKey dropButtonKey(unsigned key, bool alt, bool open);
+/// `again`: the key is being held, which only the keys that move the mark take notice of. `open`: the palette
+/// is.
+DropButtonKey dropButtonKey(unsigned key, bool alt, bool again, bool open);
 
 /// On a button by which a colour is picked from the screen.
 enum class DropperKey

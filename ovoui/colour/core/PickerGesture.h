@@ -32,13 +32,6 @@ enum class PickerAction
 /// `onSwatches`: the mouse is over the swatches, or between them.
 PickerAction pickerAction(PickerInput input, PickerPart part, bool onSwatches);
 
-/// Whether a drag begins after the colour of a press was told to the host, which may have shown a message:
-/// the dialog must be there, and the button as it was, down or up.
-constexpr bool beginsDrag(bool isThere, bool wasDown, bool isDown)
-{
-    return isThere && wasDown == isDown;
-}
-
 /// Whether a colour chosen there is shown anew even where it seems the same: a grey has hues, too.
 constexpr bool choosesHue(PickerPart part)
 {

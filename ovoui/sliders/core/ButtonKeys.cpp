@@ -34,6 +34,9 @@ ButtonKey buttonKeyOf(unsigned virtualKey)
         return ButtonKey::Escape;
     case kVkSpace:
         return ButtonKey::Space;
+    case kVkTab:
+    case kVkReturn:
+        return ButtonKey::Done;
     default:
         return ButtonKey::Other;
     }
@@ -54,6 +57,8 @@ KeyMeaning meaningOf(ButtonKey key, bool pressed, bool fine)
         return KeyMeaning::Slider;
     case ButtonKey::Escape:
         return KeyMeaning::Cancel;
+    case ButtonKey::Done:
+        return KeyMeaning::Close;
     case ButtonKey::Space:
     case ButtonKey::Other:
         break;

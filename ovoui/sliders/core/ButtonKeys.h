@@ -13,6 +13,7 @@ enum class ButtonKey
     Travel, ///< Page Up, Page Down, Home or End
     Escape,
     Space, ///< presses the button, as the mouse does
+    Done,  ///< Tab or Enter
     Other,
 };
 
@@ -23,7 +24,8 @@ enum class KeyMeaning
 {
     Nothing,  ///< the key goes on its way
     Open,     ///< presses the button and opens the popup
-    Cancel,   ///< closes the popup and puts the text from before back
+    Close,    ///< closes the popup
+    Cancel,   ///< the same, and puts the text from before back
     Slider,   ///< goes on to the slider
     FineMore, ///< a part of a position up
     FineLess, ///< the same down

@@ -29,13 +29,15 @@ std::vector<double> dialTicks(const DialRange& range, double step)
     constexpr double kWholeTurn = 360;
     constexpr double kLeastStep = 0.5;
     std::vector<double> ticks;
-    if (step < kLeastStep)
+    if (!(step >= kLeastStep) || std::isinf(step))
         return ticks;
     const double low = range.stops ? std::min(range.low, range.high) : 0;
     const double high =
         range.stops ? std::min(std::max(range.low, range.high), low + kWholeTurn) : kWholeTurn - step / 2;
-    for (double tick = low; tick <= high; tick += step)
-        ticks.push_back(tick);
+    constexpr double kRounding = 1e-9;
+    const double last = std::floor((high - low) / step + kRounding); // NaN when there is nothing to begin at
+    for (int i = 0; i <= last; ++i)
+        ticks.push_back(low + i * step);
     return ticks;
 }
 

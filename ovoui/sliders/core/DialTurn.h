@@ -35,7 +35,7 @@ struct DialRange
 };
 
 /// The ticks of a dial, `step` apart: from stop to stop, no more than once round, or all round without stops.
-/// None when they are too close to be seen.
+/// None when they are too close to be seen, or the lower stop is infinitely far.
 std::vector<double> dialTicks(const DialRange& range, double step);
 
 } // namespace ovoui::sliders

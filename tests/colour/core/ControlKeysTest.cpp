@@ -64,7 +64,8 @@ TEST(ColourKeys, OnAButtonWithAPalette)
 {
     for (unsigned key = 0; key <= 0xFF; ++key) {
         const bool opens = key == kSpace || key == kDown || key == kF4;
-        EXPECT_EQ(dropButtonKey(key, false, false), opens ? DropButtonKey::Open : DropButtonKey::Platform);
+        EXPECT_EQ(dropButtonKey(key, false, false, false),
+                  opens ? DropButtonKey::Open : DropButtonKey::Platform);
 
         DropButtonKey open = DropButtonKey::Ignore; // every key is the button's
         if (moves(key) || key == kSpace || key == kEnter)
@@ -73,12 +74,26 @@ TEST(ColourKeys, OnAButtonWithAPalette)
             open = DropButtonKey::Close;
         if (key == kTab)
             open = DropButtonKey::CloseAndGoOn;
-        EXPECT_EQ(dropButtonKey(key, false, true), open) << key;
+        EXPECT_EQ(dropButtonKey(key, false, false, true), open) << key;
 
         const bool upOrDown = key == kUp || key == kDown;
-        EXPECT_EQ(dropButtonKey(key, true, false), upOrDown ? DropButtonKey::Open : DropButtonKey::Platform);
-        EXPECT_EQ(dropButtonKey(key, true, true), upOrDown ? DropButtonKey::Close : DropButtonKey::Platform);
+        EXPECT_EQ(dropButtonKey(key, true, false, false),
+                  upOrDown ? DropButtonKey::Open : DropButtonKey::Platform);
+        EXPECT_EQ(dropButtonKey(key, true, false, true),
+                  upOrDown ? DropButtonKey::Close : DropButtonKey::Platform);
     }
+}
+
+TEST(ColourKeys, HeldOnAButtonWithAPaletteOnlyTheKeysThatMoveTheMarkMeanAnything)
+{
+    for (unsigned key = 0; key <= 0xFF; ++key)
+        for (const bool alt : {false, true})
+            for (const bool open : {false, true}) {
+                const DropButtonKey first = dropButtonKey(key, alt, false, open);
+                const bool goesOn = first == DropButtonKey::Platform || (open && !alt && moves(key));
+                EXPECT_EQ(dropButtonKey(key, alt, true, open), goesOn ? first : DropButtonKey::Ignore)
+                    << key << (alt ? " with Alt" : "") << (open ? ", open" : "");
+            }
 }
 
 TEST(ColourKeys, OnADropper)

@@ -44,15 +44,6 @@ TEST(PickerGesture, EachInputOnEachPart)
                     << static_cast<int>(input) << ", " << static_cast<int>(part) << ", " << onSwatches;
 }
 
-TEST(PickerGesture, ADragBeginsOnlyWithTheButtonAsItWas)
-{
-    for (const bool wasDown : {false, true})
-        for (const bool isDown : {false, true}) {
-            EXPECT_EQ(beginsDrag(true, wasDown, isDown), wasDown == isDown);
-            EXPECT_FALSE(beginsDrag(false, wasDown, isDown));
-        }
-}
-
 TEST(PickerGesture, OnlyTheRingChoosesAHue)
 {
     for (const PickerPart part : kParts)

@@ -6,8 +6,9 @@ using namespace ovoui::sliders;
 
 TEST(ButtonKeys, WhileThePopupIsClosedDownAloneMeansSomething)
 {
-    for (const ButtonKey key : {ButtonKey::Left, ButtonKey::Right, ButtonKey::Up, ButtonKey::Down,
-                                ButtonKey::Travel, ButtonKey::Escape, ButtonKey::Space, ButtonKey::Other})
+    for (const ButtonKey key :
+         {ButtonKey::Left, ButtonKey::Right, ButtonKey::Up, ButtonKey::Down, ButtonKey::Travel,
+          ButtonKey::Escape, ButtonKey::Space, ButtonKey::Done, ButtonKey::Other})
         for (const bool fine : {false, true})
             EXPECT_EQ(meaningOf(key, false, fine),
                       key == ButtonKey::Down ? KeyMeaning::Open : KeyMeaning::Nothing);
@@ -27,6 +28,7 @@ TEST(ButtonKeys, WhileItIsOpenTheyMoveTheSlider)
                 {ButtonKey::Travel, KeyMeaning::Slider, KeyMeaning::Slider},
                 {ButtonKey::Escape, KeyMeaning::Cancel, KeyMeaning::Cancel},
                 {ButtonKey::Space, KeyMeaning::Nothing, KeyMeaning::Nothing},
+                {ButtonKey::Done, KeyMeaning::Close, KeyMeaning::Close},
                 {ButtonKey::Other, KeyMeaning::Nothing, KeyMeaning::Nothing}};
     for (const auto& [key, plain, fine] : rows) {
         EXPECT_EQ(meaningOf(key, true, false), plain);
@@ -52,14 +54,17 @@ TEST(ButtonKeys, WhatEveryKeyIsToTheButton)
             expected = ButtonKey::Escape;
         if (key == 0x20)
             expected = ButtonKey::Space;
+        if (key == 0x09 || key == 0x0D) // Tab, Enter
+            expected = ButtonKey::Done;
         EXPECT_EQ(buttonKeyOf(key), expected) << key;
     }
 }
 
 TEST(ButtonKeys, FineStepsAreATenthAndOpposite)
 {
-    for (const KeyMeaning meaning : {KeyMeaning::Nothing, KeyMeaning::Open, KeyMeaning::Cancel,
-                                     KeyMeaning::Slider, KeyMeaning::FineMore, KeyMeaning::FineLess}) {
+    for (const KeyMeaning meaning :
+         {KeyMeaning::Nothing, KeyMeaning::Open, KeyMeaning::Close, KeyMeaning::Cancel, KeyMeaning::Slider,
+          KeyMeaning::FineMore, KeyMeaning::FineLess}) {
         double expected = 0;
         if (meaning == KeyMeaning::FineMore)
             expected = 0.1;

@@ -112,5 +112,23 @@ TEST(DialTicks, ThatCannotBeToldApartAreLeftOut)
 {
     for (const double step : {-30.0, 0.0, 0.49})
         EXPECT_TRUE(dialTicks({0, 90, true}, step).empty()) << step;
+    for (const double step :
+         {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()})
+        EXPECT_TRUE(dialTicks({0, 90, true}, step).empty()) << step;
     EXPECT_EQ(dialTicks({0, 1, true}, 0.5).size(), 3u);
+}
+
+TEST(DialTicks, EndForStopsThatAreFarAway)
+{
+    constexpr double kFar = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(dialTicks({0, kFar, true}, 90), (std::vector<double>{0, 90, 180, 270, 360}));
+    EXPECT_TRUE(dialTicks({-kFar, 90, true}, 90).empty());
+    EXPECT_TRUE(dialTicks({-kFar, kFar, true}, 90).empty());
+    EXPECT_LT(dialTicks({1e17, 2e17, true}, 0.5).size(), 1000u) << "where half a degree is less than nothing";
+}
+
+TEST(DialTicks, TheLastOneIsNotLostToRounding)
+{
+    for (const double step : {0.55, 0.9, 1.7})
+        EXPECT_EQ(dialTicks({-135.1, -135.1 + 9 * step, true}, step).size(), 10u) << step;
 }
