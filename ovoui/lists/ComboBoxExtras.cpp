@@ -108,7 +108,10 @@ void COVOComboBox::showTyped(const std::wstring& text)
 
 void COVOComboBox::KeepHistory(LPCWSTR section, LPCWSTR entry, int limit)
 {
-    m_history = std::make_unique<ComboHistory>(*this, section, entry, limit);
+    const Lifeline::Watch watch(*this);
+    auto history = std::make_unique<ComboHistory>(*this, section, entry, limit);
+    if (watch.alive())
+        m_history = std::move(history);
 }
 
 /// The list is about to close, and the host is to be told first.
@@ -189,6 +192,7 @@ void COVOComboBox::moveItem(int from, int to)
     const Lifeline::Watch watch(*this);
     changeItems(
         [&] {
+            SetItemData(from, 0); // or the owner of the item would be told to free it
             DeleteString(static_cast<UINT>(from));
             if (!watch.alive())
                 return;

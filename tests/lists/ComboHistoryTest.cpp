@@ -1,10 +1,13 @@
 // The texts that were used last.
 #include "ComboScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/Picture.h>
 #include <testkit/TemporaryProfile.h>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 using namespace ovo::testkit;
 
@@ -12,6 +15,20 @@ namespace
 {
 
 using Texts = std::vector<std::wstring>;
+
+constexpr DWORD kOwnerDrawn = CBS_DROPDOWN | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
+
+/// Gets the data of an item that is deleted, for its owner to free.
+using Freeing = std::function<void(ULONG_PTR)>;
+
+LRESULT CALLBACK hearDeletions(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                               DWORD_PTR freeing)
+{
+    if (message == WM_DELETEITEM)
+        (*reinterpret_cast<const Freeing*>(freeing))(
+            reinterpret_cast<const DELETEITEMSTRUCT*>(lParam)->itemData);
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
 
 class ComboRemembering : public ::testing::Test
 {
@@ -94,7 +111,7 @@ TEST_F(ComboRemembering, ItemsOfTheHostMove)
 
 TEST_F(ComboRemembering, ItemsMoveWithTheirColours)
 {
-    ComboScene scene({L"fir", L"yew"}, CBS_DROPDOWN | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
+    ComboScene scene({L"fir", L"yew"}, kOwnerDrawn);
     keep(scene);
     scene.combo.SetItemColour(1, 0xFF000000 | RGB(0, 200, 0));
     scene.enter();
@@ -107,6 +124,54 @@ TEST_F(ComboRemembering, ItemsMoveWithTheirColours)
     const int height = scene.combo.GetItemHeight(0);
     EXPECT_GT(list.count(RGB(0, 200, 0), 0, CRect(0, 0, list.width(), height)), 50);
     EXPECT_EQ(list.count(RGB(0, 200, 0), 0, CRect(0, height, list.width(), 2 * height)), 0);
+}
+
+TEST_F(ComboRemembering, TheOwnerOfAnItemThatMovesIsNotToldToFreeItsData)
+{
+    constexpr ULONG_PTR kData = 77;
+    std::vector<ULONG_PTR> freed;
+    const Freeing freeing = [&](ULONG_PTR data) { freed.push_back(data); };
+    ComboScene scene({L"fir", L"yew"}, kOwnerDrawn);
+    keep(scene);
+    scene.combo.SetItemData(1, kData);
+    scene.enter();
+    ::SetWindowSubclass(scene.parent, &hearDeletions, 1, reinterpret_cast<DWORD_PTR>(&freeing));
+    accept(scene, L"yew");
+    EXPECT_EQ(items(scene), (Texts{L"yew", L"fir"}));
+    EXPECT_EQ(scene.combo.GetItemData(0), kData);
+    EXPECT_EQ(std::ranges::count(freed, kData), 0);
+    scene.combo.DeleteString(0);
+    EXPECT_EQ(std::ranges::count(freed, kData), 1) << "when it goes";
+    ::RemoveWindowSubclass(scene.parent, &hearDeletions, 1);
+}
+
+TEST_F(ComboRemembering, TheComboBoxMayBeDeletedWhenItsParentHearsThatAnItemIsMoved)
+{
+    ComboParent parent;
+    auto* const combo = new Perishing<COVOComboBox>;
+    combo->Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | kOwnerDrawn, CRect(10, 10, 210, 160), &parent, 21);
+    for (const wchar_t* item : {L"fir", L"ash"})
+        combo->AddString(item);
+    combo->ConfirmAnyText(true);
+    combo->KeepHistory(L"Combo", L"Plant", 1);
+    const auto acceptNow = [combo](const wchar_t* text) {
+        combo->SetWindowText(text);
+        combo->SendMessage(WM_COMMAND, 0x0400, 0); // Enter
+        GuiThread::settle();
+    };
+    acceptNow(L"oak");
+    ASSERT_EQ(inProfile(), Texts{L"oak"});
+    HWND window = nullptr;
+    const Freeing freeing = [&](ULONG_PTR) {
+        window = combo->UnsubclassWindow(); // which the platform goes on with
+        delete combo;
+    };
+    ::SetWindowSubclass(parent, &hearDeletions, 1, reinterpret_cast<DWORD_PTR>(&freeing));
+    acceptNow(L"ash"); // moves to the top, and oak is to go then
+    ::RemoveWindowSubclass(parent, &hearDeletions, 1);
+    ASSERT_TRUE(window);
+    EXPECT_EQ(inProfile(), Texts{L"ash"});
+    ::DestroyWindow(window);
 }
 
 TEST_F(ComboRemembering, WhatIsMarkedInTheFieldStaysMarked)
