@@ -427,6 +427,21 @@ TEST_F(ComboRemembering, TheParentMayDestroyItWhenATextIsAccepted)
     };
     accept(scene, L"fir");
     EXPECT_FALSE(scene.combo.m_hWnd);
+    EXPECT_EQ(inProfile(), Texts{L"fir"});
+}
+
+TEST_F(ComboRemembering, ATextThatIsAcceptedAsTheWindowGoesIsKept)
+{
+    ComboScene scene{L"fir"};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene, 1);
+    scene.enter();
+    accept(scene, L"elm");
+    ASSERT_EQ(inProfile(), Texts{L"elm"});
+    scene.setText(L"oak");
+    scene.button.SetFocus();
+    scene.combo.DestroyWindow(); // before any message, as when a button that ends a dialog is pressed by Alt
+    EXPECT_EQ(inProfile(), Texts{L"oak"});
 }
 
 TEST_F(ComboRemembering, TheHostMayEmptyTheListMeanwhile)
