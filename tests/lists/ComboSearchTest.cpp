@@ -1,5 +1,6 @@
 // Completion by any part of the text.
 #include "ComboScene.h"
+#include "ListScene.h"
 
 #include <testkit/Picture.h>
 #include <testkit/TemporaryFiles.h>
@@ -296,6 +297,26 @@ TEST_F(ComboSearching, TheHitsShowANewColourAtOnce)
     CRect row;
     ::SendMessageW(hitsList(), LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(static_cast<RECT*>(&row)));
     EXPECT_GT(Picture::ofClient(hitsList()).count(kGreen, 0, row), 50);
+}
+
+TEST(ComboSearch, TheHitsShowOtherImagesAtOnce)
+{
+    constexpr COLORREF kGreen = RGB(0, 200, 0);
+    constexpr COLORREF kRed = RGB(220, 0, 0);
+    CImageList green;
+    CImageList red;
+    fillImages(green, 16, {kGreen});
+    fillImages(red, 16, {kRed}); // of the same size
+    ComboScene scene({L"berry", L"cherry"}, CBS_DROPDOWN | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
+    scene.combo.SetImageList(&green);
+    scene.combo.SetItemImage(0, 0);
+    scene.combo.SearchInside(true);
+    scene.enter();
+    scene.robot.type(L"err");
+    ASSERT_EQ(hitCount(), 2);
+    ASSERT_EQ(Picture::ofClient(hitsList()).count(kGreen), 12 * 12);
+    scene.combo.SetImageList(&red);
+    EXPECT_EQ(Picture::ofClient(hitsList()).count(kRed), 12 * 12);
 }
 
 TEST_F(ComboSearching, GoesWhenTheHostTakesTheItemsAway)
