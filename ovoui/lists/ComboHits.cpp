@@ -100,9 +100,12 @@ bool ComboHits::create()
     m_top = top->m_hWnd;
     ::SetWindowSubclass(m_top, &topProcedure, reinterpret_cast<UINT_PTR>(this),
                         reinterpret_cast<DWORD_PTR>(this));
-    return m_list.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_NODATA |
-                             LBS_NOINTEGRALHEIGHT,
-                         CRect(), this, kListId) != FALSE;
+    if (m_list.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_NODATA |
+                          LBS_NOINTEGRALHEIGHT,
+                      CRect(), this, kListId))
+        return true;
+    DestroyWindow(); // to be tried again
+    return false;
 }
 
 void ComboHits::OnDestroy()

@@ -2,6 +2,7 @@
 #include "ComboScene.h"
 #include "ListScene.h"
 
+#include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
 #include <testkit/TemporaryFiles.h>
 #include <testkit/WindowCounter.h>
@@ -106,6 +107,31 @@ TEST_F(ComboSearching, ShowsTheItemsThatHaveTheTextAnywhere)
     scene.robot.type(L"Yx");
     EXPECT_EQ(hitCount(), 0);
     scene.robot.key(VK_BACK);
+    EXPECT_EQ(hitCount(), 3);
+}
+
+namespace
+{
+
+HWND WINAPI makeAllButLists(DWORD exStyle, LPCWSTR windowClass, LPCWSTR title, DWORD style, int x, int y,
+                            int width, int height, HWND parent, HMENU menu, HINSTANCE instance, void* data)
+{
+    const bool isList = !IS_INTRESOURCE(windowClass) && std::wstring(windowClass) == WC_LISTBOXW;
+    return isList ? nullptr
+                  : ::CreateWindowExW(exStyle, windowClass, title, style, x, y, width, height, parent, menu,
+                                      instance, data);
+}
+
+} // namespace
+
+TEST_F(ComboSearching, AListThatCannotBeMadeIsTriedAgain)
+{
+    {
+        const ImportPatch patch(L"ovomfc.dll", "CreateWindowExW", reinterpret_cast<void*>(&makeAllButLists));
+        scene.robot.type(L"er");
+        EXPECT_EQ(scene.text(), L"er");
+    }
+    scene.robot.type(L"r");
     EXPECT_EQ(hitCount(), 3);
 }
 
