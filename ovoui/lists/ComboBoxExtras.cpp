@@ -115,10 +115,8 @@ void COVOComboBox::showTyped(const std::wstring& text)
 
 void COVOComboBox::KeepHistory(LPCWSTR section, LPCWSTR entry, int limit)
 {
-    const Lifeline::Watch watch(*this);
-    auto history = std::make_unique<ComboHistory>(*this, section, entry, limit);
-    if (watch.alive())
-        m_history = std::move(history);
+    m_history = std::make_unique<ComboHistory>(*this, section, entry, limit);
+    m_history->bringBack();
 }
 
 /// The list is about to close, and the host is to be told first.

@@ -14,9 +14,14 @@ ComboHistory::ComboHistory(COVOComboBox& combo, LPCWSTR section, LPCWSTR entry, 
     , m_texts(limit)
 {
     m_texts.restore(read());
-    const Lifeline::Watch watch(combo);
+}
+
+void ComboHistory::bringBack()
+{
+    const std::vector<std::wstring> texts = m_texts.texts(); // this object goes with the combo box
+    const Lifeline::Watch watch(m_combo);
     int place = 0;
-    for (const std::wstring& text : m_texts.texts())
+    for (const std::wstring& text : texts)
         if (watch.alive())
             bringToTop(text, place++);
 }

@@ -20,8 +20,11 @@ namespace ovoui::lists
 class ComboHistory
 {
 public:
-    /// Brings what the profile has to the top of the list.
+    /// Reads what the profile has.
     ComboHistory(COVOComboBox& combo, LPCWSTR section, LPCWSTR entry, int limit);
+
+    /// Brings all texts to the top of the list.
+    void bringBack();
 
     /// Brings a text to the top, and keeps it.
     void use(const std::wstring& text);
