@@ -145,14 +145,51 @@ TEST_F(ComboRemembering, TheOwnerOfAnItemThatMovesIsNotToldToFreeItsData)
     ::RemoveWindowSubclass(scene.parent, &hearDeletions, 1);
 }
 
-TEST_F(ComboRemembering, TheComboBoxMayBeDeletedWhenItsParentHearsThatAnItemIsMoved)
+namespace
 {
-    ComboParent parent;
-    auto* const combo = new Perishing<COVOComboBox>;
-    combo->Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | kOwnerDrawn, CRect(10, 10, 210, 160), &parent, 21);
-    for (const wchar_t* item : {L"fir", L"ash"})
-        combo->AddString(item);
-    combo->ConfirmAnyText(true);
+
+/// A combo box that its parent deletes as soon as an item goes.
+class Doomed
+{
+public:
+    Doomed()
+    {
+        combo->Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | kOwnerDrawn, CRect(10, 10, 210, 160), &m_parent,
+                      21);
+        for (const wchar_t* item : {L"fir", L"ash", L"oak"})
+            combo->AddString(item);
+    }
+    ~Doomed()
+    {
+        ::RemoveWindowSubclass(m_parent, &hearDeletions, 1);
+        if (!isDeleted())
+            delete combo;
+    }
+    Doomed(const Doomed&) = delete;
+    Doomed& operator=(const Doomed&) = delete;
+
+    void begin() { ::SetWindowSubclass(m_parent, &hearDeletions, 1, reinterpret_cast<DWORD_PTR>(&m_end)); }
+    bool isDeleted() const { return m_window != nullptr; }
+
+    Perishing<COVOComboBox>* const combo = new Perishing<COVOComboBox>;
+
+private:
+    ComboParent m_parent;
+    HWND m_window = nullptr; ///< which the platform goes on with
+    const Freeing m_end = [this](ULONG_PTR) {
+        if (isDeleted())
+            return;
+        m_window = combo->UnsubclassWindow();
+        delete combo;
+    };
+};
+
+} // namespace
+
+TEST_F(ComboRemembering, TheComboBoxMayBeDeletedWhenAnAcceptedItemMoves)
+{
+    Doomed doomed;
+    COVOComboBox* const combo = doomed.combo;
     combo->KeepHistory(L"Combo", L"Plant", 1);
     const auto acceptNow = [combo](const wchar_t* text) {
         combo->SetWindowText(text);
@@ -161,17 +198,20 @@ TEST_F(ComboRemembering, TheComboBoxMayBeDeletedWhenItsParentHearsThatAnItemIsMo
     };
     acceptNow(L"oak");
     ASSERT_EQ(inProfile(), Texts{L"oak"});
-    HWND window = nullptr;
-    const Freeing freeing = [&](ULONG_PTR) {
-        window = combo->UnsubclassWindow(); // which the platform goes on with
-        delete combo;
-    };
-    ::SetWindowSubclass(parent, &hearDeletions, 1, reinterpret_cast<DWORD_PTR>(&freeing));
-    acceptNow(L"ash"); // moves to the top, and oak is to go then
-    ::RemoveWindowSubclass(parent, &hearDeletions, 1);
-    ASSERT_TRUE(window);
+    doomed.begin();
+    acceptNow(L"ash"); // moves to the top, and oak is to make room then
+    EXPECT_TRUE(doomed.isDeleted());
     EXPECT_EQ(inProfile(), Texts{L"ash"});
-    ::DestroyWindow(window);
+}
+
+TEST_F(ComboRemembering, TheComboBoxMayBeDeletedWhenItsHistoryComesBack)
+{
+    AfxGetApp()->WriteProfileString(L"Combo", L"Plant1", L"ash");
+    AfxGetApp()->WriteProfileString(L"Combo", L"Plant2", L"oak");
+    Doomed doomed;
+    doomed.begin();
+    doomed.combo->KeepHistory(L"Combo", L"Plant", 3);
+    EXPECT_TRUE(doomed.isDeleted());
 }
 
 TEST_F(ComboRemembering, WhatIsMarkedInTheFieldStaysMarked)
