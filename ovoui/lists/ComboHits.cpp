@@ -88,11 +88,13 @@ ComboHits::~ComboHits()
     DestroyWindow();
 }
 
+/// The combo box may have come into another window since.
 bool ComboHits::create()
 {
-    if (m_hWnd)
+    CWnd* const top = m_combo.GetAncestor(GA_ROOT);
+    if (m_hWnd && top && top->m_hWnd == m_top)
         return true;
-    CWnd* const top = m_combo.GetTopLevelParent();
+    DestroyWindow();
     const LPCTSTR windowClass = frame::arrowClass(CS_DROPSHADOW, reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
     if (!top || !frame::createPopup(*this, windowClass, *top, WS_BORDER))
         return false;

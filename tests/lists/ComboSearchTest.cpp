@@ -406,6 +406,88 @@ TEST_F(ComboSearching, AWindowThatIsSizedTakesThemAway)
     EXPECT_FALSE(hitsWindow());
 }
 
+namespace
+{
+
+/// A window with a title bar, of which another one may be the owner.
+void makeDialog(CWnd& dialog, CWnd* owner)
+{
+    dialog.CreateEx(0, AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW)), L"Dialog",
+                    WS_POPUP | WS_CAPTION, CRect(80, 80, 480, 400), owner, 0);
+}
+
+void move(CWnd& dialog)
+{
+    CRect place;
+    dialog.GetWindowRect(&place);
+    dialog.SetWindowPos(nullptr, place.left + 20, place.top + 20, 0, 0,
+                        SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void makeCombo(COVOComboBox& combo, CWnd& parent)
+{
+    combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL, CRect(10, 10, 210, 160),
+                 &parent, 21);
+    for (const wchar_t* item : {L"berry", L"blackberry"})
+        combo.AddString(item);
+    combo.SearchInside(true);
+}
+
+void typeInto(COVOComboBox& combo, const wchar_t* text)
+{
+    combo.SetFocus();
+    Robot robot;
+    robot.type(text);
+}
+
+} // namespace
+
+TEST(ComboSearch, TheHitsGoWhenADialogMovesThatAnotherWindowOwns)
+{
+    ComboParent owner;
+    CWnd dialog;
+    makeDialog(dialog, &owner);
+    COVOComboBox combo;
+    makeCombo(combo, dialog);
+    present(owner);
+    present(dialog);
+    typeInto(combo, L"err");
+    ASSERT_TRUE(hitsWindow());
+    EXPECT_EQ(::GetWindow(hitsWindow(), GW_OWNER), dialog.m_hWnd);
+    move(owner);
+    EXPECT_TRUE(hitsWindow()) << "the field is where it was";
+    move(dialog);
+    EXPECT_FALSE(hitsWindow());
+    combo.DestroyWindow();
+    dialog.DestroyWindow();
+}
+
+TEST(ComboSearch, TheHitsBelongToTheWindowThatTheFieldIsInNow)
+{
+    CWnd first;
+    CWnd second;
+    makeDialog(first, nullptr);
+    makeDialog(second, nullptr);
+    CWnd bar;
+    bar.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &first, 31);
+    COVOComboBox combo;
+    makeCombo(combo, bar);
+    present(first);
+    typeInto(combo, L"er");
+    ASSERT_TRUE(hitsWindow());
+    bar.SetParent(&second);
+    present(second);
+    typeInto(combo, L"r");
+    ASSERT_TRUE(hitsWindow());
+    EXPECT_EQ(::GetWindow(hitsWindow(), GW_OWNER), second.m_hWnd);
+    move(second);
+    EXPECT_FALSE(hitsWindow());
+    combo.DestroyWindow();
+    bar.DestroyWindow();
+    second.DestroyWindow();
+    first.DestroyWindow();
+}
+
 TEST_F(ComboSearching, NoMoreThanTwelveRowsAreShownAtOnce)
 {
     for (int i = 0; i < 40; ++i)
