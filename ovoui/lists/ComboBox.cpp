@@ -379,6 +379,9 @@ BOOL COVOComboBox::OnCloseup()
 void COVOComboBox::PostNcDestroy()
 {
     CWnd::PostNcDestroy();
+    for (const std::wstring& text : std::exchange(m_accepted, {}))
+        if (m_history) // which has not been told yet: the focus has gone with the window
+            m_history->keep(text);
     m_items->looks.clear();
     if (m_search)
         m_search->end();

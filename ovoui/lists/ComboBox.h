@@ -97,7 +97,8 @@ public:
 
     /// The colour of the item `item`: a COLORREF with the alpha in its highest byte, 255 for opaque. Needs
     /// the styles CBS_OWNERDRAWFIXED and CBS_HASSTRINGS, as images do. Both stay with their items while
-    /// others come and go, and are gone with the item. An open list shows them at once.
+    /// others come and go, and are gone with the item. An open list shows them at once. Nothing happens when
+    /// there is no such item.
     void SetItemColour(int item, DWORD colour);
     /// The image of the item `item`, of the list of images, or -1 for none.
     void SetItemImage(int item, int image);

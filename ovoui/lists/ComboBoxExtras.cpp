@@ -34,6 +34,13 @@ std::vector<KnownItem> knownItems(const CComboBox& combo)
     return items;
 }
 
+/// All items of an open list; null for one that is closed.
+void repaint(CWnd* list)
+{
+    if (list)
+        list->Invalidate(FALSE);
+}
+
 } // namespace
 
 // Keys
@@ -109,6 +116,7 @@ void COVOComboBox::showTyped(const std::wstring& text)
 void COVOComboBox::KeepHistory(LPCWSTR section, LPCWSTR entry, int limit)
 {
     m_history = std::make_unique<ComboHistory>(*this, section, entry, limit);
+    m_history->bringBack();
 }
 
 /// The list is about to close, and the host is to be told first.
@@ -189,6 +197,7 @@ void COVOComboBox::moveItem(int from, int to)
     const Lifeline::Watch watch(*this);
     changeItems(
         [&] {
+            SetItemData(from, 0); // or the owner of the item would be told to free it
             DeleteString(static_cast<UINT>(from));
             if (!watch.alive())
                 return;
@@ -233,17 +242,17 @@ void COVOComboBox::SetItemImage(int item, int image)
 /// colour moves all texts.
 void COVOComboBox::setLook(int item, const ItemLook& look)
 {
+    if (!m_hWnd || item < 0 || item >= GetCount())
+        return;
     CWnd* const list = openList();
     const bool othersStay = list && m_items->asked && (!look.colour || m_items->looks.haveColours());
     m_items->looks.set(item, look);
     drawItems();
     if (m_search)
         m_search->repaint();
-    if (!list)
-        return;
     RECT place{};
     if (!othersStay)
-        list->Invalidate(FALSE);
+        repaint(list);
     else if (list->SendMessage(LB_GETITEMRECT, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&place)) !=
              LB_ERR)
         list->InvalidateRect(&place, FALSE);
@@ -263,6 +272,9 @@ void COVOComboBox::SetImageList(CImageList* images)
     m_items->images = images;
     m_items->asked = true;
     setListItemHeight();
+    repaint(openList());
+    if (m_search)
+        m_search->repaint();
 }
 
 /// From now on the control draws the items, and not the host.
@@ -314,13 +326,19 @@ LRESULT COVOComboBox::OnAddFiles(WPARAM, LPARAM)
     return last;
 }
 
+/// When the last colour goes, the texts of the others move back to where it was.
 LRESULT COVOComboBox::OnDeleteItem(WPARAM wParam, LPARAM)
 {
     const Lifeline::Watch watch(*this);
     itemsChange();
     const LRESULT left = Default();
-    if (left != CB_ERR && watch.alive())
-        m_items->looks.deleted(static_cast<int>(wParam));
+    if (left == CB_ERR || !watch.alive())
+        return left;
+    ItemLooks& looks = m_items->looks;
+    const bool hadColour = looks.at(static_cast<int>(wParam)).colour.has_value();
+    looks.deleted(static_cast<int>(wParam));
+    if (hadColour && !looks.haveColours())
+        repaint(openList());
     return left;
 }
 

@@ -1,5 +1,6 @@
 #include <ovoui/lists/ComboHistory.h>
 
+#include <ovoui/frame/Lifeline.h>
 #include <ovoui/lists/ComboBox.h>
 
 namespace ovoui::lists
@@ -13,20 +14,35 @@ ComboHistory::ComboHistory(COVOComboBox& combo, LPCWSTR section, LPCWSTR entry, 
     , m_texts(limit)
 {
     m_texts.restore(read());
+}
+
+void ComboHistory::bringBack()
+{
+    const std::vector<std::wstring> texts = m_texts.texts(); // this object goes with the combo box
+    const Lifeline::Watch watch(m_combo);
     int place = 0;
-    for (const std::wstring& text : m_texts.texts())
-        bringToTop(text, place++);
+    for (const std::wstring& text : texts)
+        if (watch.alive())
+            bringToTop(text, place++);
 }
 
 void ComboHistory::use(const std::wstring& text)
 {
     if (text.empty() || m_limit < 1)
         return;
-    const std::vector<std::wstring> gone = m_texts.use(text);
+    const std::vector<std::wstring> gone = keep(text);
+    const Lifeline::Watch watch(m_combo);
     bringToTop(text, 0);
     for (const std::wstring& old : gone)
-        drop(old);
+        if (watch.alive())
+            drop(old);
+}
+
+std::vector<std::wstring> ComboHistory::keep(const std::wstring& text)
+{
+    std::vector<std::wstring> gone = m_texts.use(text);
     write();
+    return gone;
 }
 
 bool ComboHistory::forget(int item)
@@ -34,8 +50,8 @@ bool ComboHistory::forget(int item)
     const std::wstring text = m_combo.itemText(item);
     if (!m_texts.forget(text))
         return false;
-    drop(text);
     write();
+    drop(text);
     return true;
 }
 
@@ -43,8 +59,8 @@ void ComboHistory::bringToTop(const std::wstring& text, int place)
 {
     const int item = m_combo.itemWith(text);
     if (item == -1) {
-        m_combo.insertItem(place, text);
         m_added.insert(text);
+        m_combo.insertItem(place, text);
         return;
     }
     m_combo.moveItem(item, place);

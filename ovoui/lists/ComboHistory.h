@@ -8,20 +8,29 @@
 
 #include <set>
 #include <string>
+#include <vector>
 
 class COVOComboBox;
 
 namespace ovoui::lists
 {
 
+/// The parent of an owner-drawn list hears of changes while they are made, and may destroy the combo box:
+/// what is kept is written before.
 class ComboHistory
 {
 public:
-    /// Brings what the profile has to the top of the list.
+    /// Reads what the profile has.
     ComboHistory(COVOComboBox& combo, LPCWSTR section, LPCWSTR entry, int limit);
+
+    /// Brings all texts to the top of the list.
+    void bringBack();
 
     /// Brings a text to the top, and keeps it.
     void use(const std::wstring& text);
+
+    /// Keeps a text without looking at the list. Gives the texts that have no room any more.
+    std::vector<std::wstring> keep(const std::wstring& text);
 
     /// Removes the item if its text is one of the history's: from the list too, unless it is an item of the
     /// host's. False for any other item.

@@ -88,11 +88,13 @@ ComboHits::~ComboHits()
     DestroyWindow();
 }
 
+/// The combo box may have come into another window since.
 bool ComboHits::create()
 {
-    if (m_hWnd)
+    CWnd* const top = m_combo.GetAncestor(GA_ROOT);
+    if (m_hWnd && top && top->m_hWnd == m_top)
         return true;
-    CWnd* const top = m_combo.GetTopLevelParent();
+    DestroyWindow();
     const LPCTSTR windowClass = frame::arrowClass(CS_DROPSHADOW, reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
     if (!top || !frame::createPopup(*this, windowClass, *top, WS_BORDER))
         return false;
@@ -100,9 +102,12 @@ bool ComboHits::create()
     m_top = top->m_hWnd;
     ::SetWindowSubclass(m_top, &topProcedure, reinterpret_cast<UINT_PTR>(this),
                         reinterpret_cast<DWORD_PTR>(this));
-    return m_list.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_NODATA |
-                             LBS_NOINTEGRALHEIGHT,
-                         CRect(), this, kListId) != FALSE;
+    if (m_list.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_NODATA |
+                          LBS_NOINTEGRALHEIGHT,
+                      CRect(), this, kListId))
+        return true;
+    DestroyWindow(); // to be tried again
+    return false;
 }
 
 void ComboHits::OnDestroy()

@@ -115,11 +115,14 @@ int COVOListCtrlEx::AddItem(int nItem, int nSubItem, const std::wstring& text, D
         item.mask |= LVIF_IMAGE;
         item.iImage = image;
     }
+    const Lifeline::Watch watch(*this);
     int index = nItem;
     if (nSubItem != 0)
         SetItem(&item);
     else
         index = InsertItem(&item);
+    if (!watch.alive()) // the parent hears of the row
+        return index;
     if (nSubItem == 0 && index != -1 && m_useRowColours)
         m_rowColours[nItem] = colour;
     SetItemData(nItem, static_cast<DWORD_PTR>(nItem));

@@ -36,10 +36,12 @@ bool isHeld(int key)
     return ::GetKeyState(key) < 0;
 }
 
-bool hasText(const COVOListCtrlEx& list, int row, int columns, const std::wstring& foldedText)
+/// The host may be asked for each text, and may destroy the list then: the rest is not looked at.
+bool hasText(const COVOListCtrlEx& list, const Lifeline::Watch& watch, int row, int columns,
+             const std::wstring& foldedText)
 {
     CellText reader;
-    for (int column = 0; column < columns; ++column)
+    for (int column = 0; column < columns && watch.alive(); ++column)
         if (folded(reader(list, row, column)).find(foldedText) != std::wstring::npos)
             return true;
     return false;
@@ -213,7 +215,7 @@ int COVOListFinder::rowWith(const std::wstring& text, Search how) const
     const int columns = header ? header->GetItemCount() : 1;
     const int count = list.GetItemCount();
     return findRow(count, focused, how, [&](int row) {
-        const bool found = hasText(list, row, columns, part);
+        const bool found = hasText(list, watch, row, columns, part);
         if (!watch.alive() || list.GetItemCount() != count)
             return Look::Stop;
         return found ? Look::Yes : Look::No;

@@ -251,7 +251,7 @@ void ListRowPainter::paintSubItems(const frame::Box& label)
         item.iSubItem = i;
         item.pszText = s_itemText;
         item.cchTextMax = kItemTextRoom;
-        if (DirectList::ask(m_list, LVM_GETITEMW, 0, item))
+        if (DirectList::ask(m_list, LVM_GETITEMW, 0, item) && watch.alive())
             paintSubItem(textOf(item), box, column.format, isColourColumn(i));
     }
 }

@@ -1,10 +1,13 @@
 // The texts that were used last.
 #include "ComboScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/Picture.h>
 #include <testkit/TemporaryProfile.h>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 using namespace ovo::testkit;
 
@@ -12,6 +15,20 @@ namespace
 {
 
 using Texts = std::vector<std::wstring>;
+
+constexpr DWORD kOwnerDrawn = CBS_DROPDOWN | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
+
+/// Gets the data of an item that is deleted, for its owner to free.
+using Freeing = std::function<void(ULONG_PTR)>;
+
+LRESULT CALLBACK hearDeletions(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                               DWORD_PTR freeing)
+{
+    if (message == WM_DELETEITEM)
+        (*reinterpret_cast<const Freeing*>(freeing))(
+            reinterpret_cast<const DELETEITEMSTRUCT*>(lParam)->itemData);
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
 
 class ComboRemembering : public ::testing::Test
 {
@@ -94,7 +111,7 @@ TEST_F(ComboRemembering, ItemsOfTheHostMove)
 
 TEST_F(ComboRemembering, ItemsMoveWithTheirColours)
 {
-    ComboScene scene({L"fir", L"yew"}, CBS_DROPDOWN | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
+    ComboScene scene({L"fir", L"yew"}, kOwnerDrawn);
     keep(scene);
     scene.combo.SetItemColour(1, 0xFF000000 | RGB(0, 200, 0));
     scene.enter();
@@ -107,6 +124,94 @@ TEST_F(ComboRemembering, ItemsMoveWithTheirColours)
     const int height = scene.combo.GetItemHeight(0);
     EXPECT_GT(list.count(RGB(0, 200, 0), 0, CRect(0, 0, list.width(), height)), 50);
     EXPECT_EQ(list.count(RGB(0, 200, 0), 0, CRect(0, height, list.width(), 2 * height)), 0);
+}
+
+TEST_F(ComboRemembering, TheOwnerOfAnItemThatMovesIsNotToldToFreeItsData)
+{
+    constexpr ULONG_PTR kData = 77;
+    std::vector<ULONG_PTR> freed;
+    const Freeing freeing = [&](ULONG_PTR data) { freed.push_back(data); };
+    ComboScene scene({L"fir", L"yew"}, kOwnerDrawn);
+    keep(scene);
+    scene.combo.SetItemData(1, kData);
+    scene.enter();
+    ::SetWindowSubclass(scene.parent, &hearDeletions, 1, reinterpret_cast<DWORD_PTR>(&freeing));
+    accept(scene, L"yew");
+    EXPECT_EQ(items(scene), (Texts{L"yew", L"fir"}));
+    EXPECT_EQ(scene.combo.GetItemData(0), kData);
+    EXPECT_EQ(std::ranges::count(freed, kData), 0);
+    scene.combo.DeleteString(0);
+    EXPECT_EQ(std::ranges::count(freed, kData), 1) << "when it goes";
+    ::RemoveWindowSubclass(scene.parent, &hearDeletions, 1);
+}
+
+namespace
+{
+
+/// A combo box that its parent deletes as soon as an item goes.
+class Doomed
+{
+public:
+    Doomed()
+    {
+        combo->Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | kOwnerDrawn, CRect(10, 10, 210, 160), &m_parent,
+                      21);
+        for (const wchar_t* item : {L"fir", L"ash", L"oak"})
+            combo->AddString(item);
+    }
+    ~Doomed()
+    {
+        ::RemoveWindowSubclass(m_parent, &hearDeletions, 1);
+        if (!isDeleted())
+            delete combo;
+    }
+    Doomed(const Doomed&) = delete;
+    Doomed& operator=(const Doomed&) = delete;
+
+    void begin() { ::SetWindowSubclass(m_parent, &hearDeletions, 1, reinterpret_cast<DWORD_PTR>(&m_end)); }
+    bool isDeleted() const { return m_window != nullptr; }
+
+    Perishing<COVOComboBox>* const combo = new Perishing<COVOComboBox>;
+
+private:
+    ComboParent m_parent;
+    HWND m_window = nullptr; ///< which the platform goes on with
+    const Freeing m_end = [this](ULONG_PTR) {
+        if (isDeleted())
+            return;
+        m_window = combo->UnsubclassWindow();
+        delete combo;
+    };
+};
+
+} // namespace
+
+TEST_F(ComboRemembering, TheComboBoxMayBeDeletedWhenAnAcceptedItemMoves)
+{
+    Doomed doomed;
+    COVOComboBox* const combo = doomed.combo;
+    combo->KeepHistory(L"Combo", L"Plant", 1);
+    const auto acceptNow = [combo](const wchar_t* text) {
+        combo->SetWindowText(text);
+        combo->SendMessage(WM_COMMAND, 0x0400, 0); // Enter
+        GuiThread::settle();
+    };
+    acceptNow(L"oak");
+    ASSERT_EQ(inProfile(), Texts{L"oak"});
+    doomed.begin();
+    acceptNow(L"ash"); // moves to the top, and oak is to make room then
+    EXPECT_TRUE(doomed.isDeleted());
+    EXPECT_EQ(inProfile(), Texts{L"ash"});
+}
+
+TEST_F(ComboRemembering, TheComboBoxMayBeDeletedWhenItsHistoryComesBack)
+{
+    AfxGetApp()->WriteProfileString(L"Combo", L"Plant1", L"ash");
+    AfxGetApp()->WriteProfileString(L"Combo", L"Plant2", L"oak");
+    Doomed doomed;
+    doomed.begin();
+    doomed.combo->KeepHistory(L"Combo", L"Plant", 3);
+    EXPECT_TRUE(doomed.isDeleted());
 }
 
 TEST_F(ComboRemembering, WhatIsMarkedInTheFieldStaysMarked)
@@ -362,6 +467,21 @@ TEST_F(ComboRemembering, TheParentMayDestroyItWhenATextIsAccepted)
     };
     accept(scene, L"fir");
     EXPECT_FALSE(scene.combo.m_hWnd);
+    EXPECT_EQ(inProfile(), Texts{L"fir"});
+}
+
+TEST_F(ComboRemembering, ATextThatIsAcceptedAsTheWindowGoesIsKept)
+{
+    ComboScene scene{L"fir"};
+    scene.combo.ConfirmAnyText(true);
+    keep(scene, 1);
+    scene.enter();
+    accept(scene, L"elm");
+    ASSERT_EQ(inProfile(), Texts{L"elm"});
+    scene.setText(L"oak");
+    scene.button.SetFocus();
+    scene.combo.DestroyWindow(); // before any message, as when a button that ends a dialog is pressed by Alt
+    EXPECT_EQ(inProfile(), Texts{L"oak"});
 }
 
 TEST_F(ComboRemembering, TheHostMayEmptyTheListMeanwhile)

@@ -76,6 +76,14 @@ CRect itemRect(ComboScene& scene, int item)
     return rect;
 }
 
+/// Whether the text of the first item begins where a swatch would stand, as the open list shows it.
+bool reachesTheLeft(ComboScene& scene)
+{
+    CRect left = itemRect(scene, 0);
+    left.right = left.left + 12;
+    return Picture::ofClient(scene.listBox()).count(::GetSysColor(COLOR_WINDOWTEXT), 0, left) > 0;
+}
+
 } // namespace
 
 TEST(ComboItemLooks, AColourForEachItem)
@@ -333,14 +341,51 @@ TEST(ComboItemLooks, TheFirstColourMovesAllTextsOfAnOpenList)
     scene.enter();
     scene.robot.moveTo(Spot{scene.button}); // a pointer over the opening list would select
     openList(scene);
-    const auto reachesTheLeft = [&] {
-        CRect left = itemRect(scene, 0);
-        left.right = left.left + 12;
-        return Picture::ofClient(scene.listBox()).count(::GetSysColor(COLOR_WINDOWTEXT), 0, left) > 0;
-    };
-    ASSERT_TRUE(reachesTheLeft());
+    ASSERT_TRUE(reachesTheLeft(scene));
     scene.combo.SetItemColour(1, kOpaque | kRed);
-    EXPECT_FALSE(reachesTheLeft()) << "the swatches stand there";
+    EXPECT_FALSE(reachesTheLeft(scene)) << "the swatches stand there";
+}
+
+TEST(ComboItemLooks, TextsOfAnOpenListMoveBackWhenTheLastColourGoes)
+{
+    ComboScene scene({L"MMM", L"rose", L"leaf"}, kOwnerDrawn);
+    scene.combo.SetItemColour(1, kOpaque | kRed);
+    scene.combo.SetItemColour(2, kOpaque | kGreen);
+    scene.enter();
+    scene.robot.moveTo(Spot{scene.button}); // a pointer over the opening list would select
+    openList(scene);
+    ASSERT_FALSE(reachesTheLeft(scene)) << "the swatches stand there";
+    scene.combo.DeleteString(2);
+    ASSERT_FALSE(reachesTheLeft(scene)) << "there is one left";
+    scene.combo.DeleteString(1);
+    EXPECT_TRUE(reachesTheLeft(scene));
+}
+
+TEST(ComboItemLooks, AnOpenListShowsOtherImagesAtOnce)
+{
+    CImageList green;
+    CImageList red;
+    fillImages(green, 16, {kGreen});
+    fillImages(red, 16, {kRed}); // of the same size
+    ComboScene scene({L"leaf"}, kOwnerDrawn);
+    scene.combo.SetImageList(&green);
+    scene.combo.SetItemImage(0, 0);
+    scene.enter();
+    ASSERT_EQ(openList(scene).count(kGreen, 0, itemRect(scene, 0)), 12 * 12);
+    scene.combo.SetImageList(&red);
+    EXPECT_EQ(Picture::ofClient(scene.listBox()).count(kRed, 0, itemRect(scene, 0)), 12 * 12);
+}
+
+TEST(ComboItemLooks, OnesOfNoItemAreLeftOut)
+{
+    ComboScene scene({L"MMM"}, kOwnerDrawn);
+    scene.combo.SetItemImage(0, -1);
+    scene.enter();
+    scene.robot.moveTo(Spot{scene.button}); // a pointer over the opening list would select
+    for (const int item : {-1, 1, 7})
+        scene.combo.SetItemColour(item, kOpaque | kRed);
+    openList(scene);
+    EXPECT_TRUE(reachesTheLeft(scene)) << "there is no swatch";
 }
 
 TEST(ComboItemLooks, TheFirstOneInAnOpenListBringsAllTexts)

@@ -1,6 +1,8 @@
 // Completion by any part of the text.
 #include "ComboScene.h"
+#include "ListScene.h"
 
+#include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
 #include <testkit/TemporaryFiles.h>
 #include <testkit/WindowCounter.h>
@@ -105,6 +107,31 @@ TEST_F(ComboSearching, ShowsTheItemsThatHaveTheTextAnywhere)
     scene.robot.type(L"Yx");
     EXPECT_EQ(hitCount(), 0);
     scene.robot.key(VK_BACK);
+    EXPECT_EQ(hitCount(), 3);
+}
+
+namespace
+{
+
+HWND WINAPI makeAllButLists(DWORD exStyle, LPCWSTR windowClass, LPCWSTR title, DWORD style, int x, int y,
+                            int width, int height, HWND parent, HMENU menu, HINSTANCE instance, void* data)
+{
+    const bool isList = !IS_INTRESOURCE(windowClass) && std::wstring(windowClass) == WC_LISTBOXW;
+    return isList ? nullptr
+                  : ::CreateWindowExW(exStyle, windowClass, title, style, x, y, width, height, parent, menu,
+                                      instance, data);
+}
+
+} // namespace
+
+TEST_F(ComboSearching, AListThatCannotBeMadeIsTriedAgain)
+{
+    {
+        const ImportPatch patch(L"ovomfc.dll", "CreateWindowExW", reinterpret_cast<void*>(&makeAllButLists));
+        scene.robot.type(L"er");
+        EXPECT_EQ(scene.text(), L"er");
+    }
+    scene.robot.type(L"r");
     EXPECT_EQ(hitCount(), 3);
 }
 
@@ -298,6 +325,26 @@ TEST_F(ComboSearching, TheHitsShowANewColourAtOnce)
     EXPECT_GT(Picture::ofClient(hitsList()).count(kGreen, 0, row), 50);
 }
 
+TEST(ComboSearch, TheHitsShowOtherImagesAtOnce)
+{
+    constexpr COLORREF kGreen = RGB(0, 200, 0);
+    constexpr COLORREF kRed = RGB(220, 0, 0);
+    CImageList green;
+    CImageList red;
+    fillImages(green, 16, {kGreen});
+    fillImages(red, 16, {kRed}); // of the same size
+    ComboScene scene({L"berry", L"cherry"}, CBS_DROPDOWN | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
+    scene.combo.SetImageList(&green);
+    scene.combo.SetItemImage(0, 0);
+    scene.combo.SearchInside(true);
+    scene.enter();
+    scene.robot.type(L"err");
+    ASSERT_EQ(hitCount(), 2);
+    ASSERT_EQ(Picture::ofClient(hitsList()).count(kGreen), 12 * 12);
+    scene.combo.SetImageList(&red);
+    EXPECT_EQ(Picture::ofClient(hitsList()).count(kRed), 12 * 12);
+}
+
 TEST_F(ComboSearching, GoesWhenTheHostTakesTheItemsAway)
 {
     scene.robot.type(L"err");
@@ -357,6 +404,88 @@ TEST_F(ComboSearching, AWindowThatIsSizedTakesThemAway)
     ASSERT_TRUE(hitsWindow());
     scene.parent.SetWindowPos(nullptr, 0, 0, 420, 380, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_FALSE(hitsWindow());
+}
+
+namespace
+{
+
+/// A window with a title bar, of which another one may be the owner.
+void makeDialog(CWnd& dialog, CWnd* owner)
+{
+    dialog.CreateEx(0, AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW)), L"Dialog",
+                    WS_POPUP | WS_CAPTION, CRect(80, 80, 480, 400), owner, 0);
+}
+
+void move(CWnd& dialog)
+{
+    CRect place;
+    dialog.GetWindowRect(&place);
+    dialog.SetWindowPos(nullptr, place.left + 20, place.top + 20, 0, 0,
+                        SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void makeCombo(COVOComboBox& combo, CWnd& parent)
+{
+    combo.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL, CRect(10, 10, 210, 160),
+                 &parent, 21);
+    for (const wchar_t* item : {L"berry", L"blackberry"})
+        combo.AddString(item);
+    combo.SearchInside(true);
+}
+
+void typeInto(COVOComboBox& combo, const wchar_t* text)
+{
+    combo.SetFocus();
+    Robot robot;
+    robot.type(text);
+}
+
+} // namespace
+
+TEST(ComboSearch, TheHitsGoWhenADialogMovesThatAnotherWindowOwns)
+{
+    ComboParent owner;
+    CWnd dialog;
+    makeDialog(dialog, &owner);
+    COVOComboBox combo;
+    makeCombo(combo, dialog);
+    present(owner);
+    present(dialog);
+    typeInto(combo, L"err");
+    ASSERT_TRUE(hitsWindow());
+    EXPECT_EQ(::GetWindow(hitsWindow(), GW_OWNER), dialog.m_hWnd);
+    move(owner);
+    EXPECT_TRUE(hitsWindow()) << "the field is where it was";
+    move(dialog);
+    EXPECT_FALSE(hitsWindow());
+    combo.DestroyWindow();
+    dialog.DestroyWindow();
+}
+
+TEST(ComboSearch, TheHitsBelongToTheWindowThatTheFieldIsInNow)
+{
+    CWnd first;
+    CWnd second;
+    makeDialog(first, nullptr);
+    makeDialog(second, nullptr);
+    CWnd bar;
+    bar.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &first, 31);
+    COVOComboBox combo;
+    makeCombo(combo, bar);
+    present(first);
+    typeInto(combo, L"er");
+    ASSERT_TRUE(hitsWindow());
+    bar.SetParent(&second);
+    present(second);
+    typeInto(combo, L"r");
+    ASSERT_TRUE(hitsWindow());
+    EXPECT_EQ(::GetWindow(hitsWindow(), GW_OWNER), second.m_hWnd);
+    move(second);
+    EXPECT_FALSE(hitsWindow());
+    combo.DestroyWindow();
+    bar.DestroyWindow();
+    second.DestroyWindow();
+    first.DestroyWindow();
 }
 
 TEST_F(ComboSearching, NoMoreThanTwelveRowsAreShownAtOnce)

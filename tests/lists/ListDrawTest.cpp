@@ -1,6 +1,8 @@
 // Rows pixel by pixel, in memory and on the screen.
 #include "ListScene.h"
 
+#include <support/Perishing.h>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -732,6 +734,32 @@ TEST(ListDraw, TheListMayBeDeletedWhenItIsAskedForAColour)
     list->DrawItem(&draw);
     EXPECT_FALSE(::IsWindow(window));
     EXPECT_EQ(picture.count(RGB(9, 9, 9)), 200 * 60);
+}
+
+TEST(ListDraw, TheListMayBeDeletedWhenItIsAskedForAText)
+{
+    RecordingParent parent;
+    auto* const list = new Perishing<List>;
+    list->Create(WS_CHILD, CRect(0, 0, 300, 150), &parent, 7);
+    for (const int column : {0, 1})
+        list->InsertColumn(column, L"c", LVCFMT_LEFT, 100);
+    list->InsertItem(0, L"");
+    list->SetItemText(0, 1, LPSTR_TEXTCALLBACKW);
+    HWND window = nullptr;
+    parent.answer(static_cast<UINT>(LVN_GETDISPINFOW), [&](NMHDR* header) -> LRESULT {
+        ::lstrcpynW(reinterpret_cast<NMLVDISPINFOW*>(header)->item.pszText, L"MMM", 4);
+        window = list->UnsubclassWindow(); // which the platform goes on with
+        delete list;
+        return 0;
+    });
+    Picture picture(300, 60, RGB(9, 9, 9));
+    DRAWITEMSTRUCT draw{};
+    draw.hDC = picture.dc();
+    list->DrawItem(&draw);
+    ASSERT_TRUE(window);
+    EXPECT_GT(picture.count(::GetSysColor(COLOR_WINDOW)), 0) << "the row was begun";
+    EXPECT_EQ(picture.count(::GetSysColor(COLOR_WINDOWTEXT)), 0);
+    ::DestroyWindow(window);
 }
 
 TEST(ListDraw, LeavesTheDeviceContextAsItWas)

@@ -572,6 +572,26 @@ TEST_F(ListFinding, AListThatHasGivenUpItsWindowMayGoFirst)
     ::DestroyWindow(window);
 }
 
+TEST_F(ListFinding, TheListMayBeDeletedWhenItIsAskedForTheFirstOfManyTexts)
+{
+    auto* const list = new Perishing<List>;
+    list->Create(WS_CHILD, CRect(0, 0, 90, 90), &scene.parent, 41);
+    for (const int column : {0, 1, 2})
+        list->InsertColumn(column, L"c", LVCFMT_LEFT, 30);
+    list->InsertItem(0, LPSTR_TEXTCALLBACKW);
+    HWND window = nullptr;
+    scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFOW), [&](NMHDR*) -> LRESULT {
+        window = list->Detach(); // which the platform goes on with
+        delete list;
+        return 0;
+    });
+    finder.Attach(*list);
+    EXPECT_FALSE(finder.Find(L"gar"));
+    ASSERT_TRUE(window);
+    finder.Detach();
+    ::DestroyWindow(window);
+}
+
 // What hosts may do when they are asked for a text, or hear of the selection.
 
 struct Misdeed

@@ -1,6 +1,7 @@
 // Columns, rows and the selection, as a host uses them.
 #include "ListScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/GdiCounter.h>
 #include <testkit/WindowCounter.h>
 
@@ -366,6 +367,24 @@ TEST(ListRows, ACellOfNoRowGivesTheIndexAskedForAndNothingElse)
     EXPECT_EQ(scene.list.AddItem(7, 1, L"nowhere", 0, -1), 7);
     EXPECT_EQ(scene.list.GetItemCount(), 1);
     EXPECT_EQ(scene.list.GetItemText(0, 1), L"0.1");
+}
+
+TEST(ListRows, TheListMayBeDeletedWhenTheParentHearsOfARow)
+{
+    RecordingParent parent;
+    auto* const list = new Perishing<List>;
+    list->Create(WS_CHILD, CRect(0, 0, 300, 150), &parent, 7);
+    list->UseRowColours(TRUE);
+    list->InsertColumn(0, L"c", LVCFMT_LEFT, 60);
+    HWND window = nullptr;
+    parent.answer(static_cast<UINT>(LVN_INSERTITEM), [&](NMHDR*) -> LRESULT {
+        window = list->UnsubclassWindow(); // which the platform goes on with
+        delete list;
+        return 0;
+    });
+    EXPECT_EQ(list->AddItem(0, 0, L"x", kOpaque, -1), 0);
+    ASSERT_TRUE(window);
+    ::DestroyWindow(window);
 }
 
 TEST(ListRows, InsertedInFrontShareTheColourOfTheirIndex)
