@@ -165,19 +165,7 @@ TEST_F(BarStates, ADockedBarThatFloatedOnAMonitorThatIsGoneFloatsInsideAWorkArea
 
 TEST_F(BarStates, ABarMayGoWhenItIsAskedForItsSizeToFloatAgain)
 {
-    class Vanishing : public ButtonBar
-    {
-    public:
-        bool vanishes = false;
-        CSize CalcDynamicLayout(int length, DWORD mode) override
-        {
-            if (std::exchange(vanishes, false)) {
-                DestroyWindow();
-                return CSize(10, 10);
-            }
-            return ButtonBar::CalcDynamicLayout(length, mode);
-        }
-    } bar;
+    AskedBar bar;
     ASSERT_TRUE(bar.create(*frame, ID_BAR_DIALOG, L"Vanishing", 2));
     bar.EnableDocking(kAnySide);
     frame->DockControlBar(&bar);
@@ -185,7 +173,7 @@ TEST_F(BarStates, ABarMayGoWhenItIsAskedForItsSizeToFloatAgain)
     frame->DockControlBar(&bar);
     frame->RecalcLayout();
     ovo::testkit::present(*frame);
-    bar.vanishes = true;
+    bar.whenAsked = [&] { bar.DestroyWindow(); };
     bar.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(-4, 5)); // on its gripper
     EXPECT_EQ(bar.m_hWnd, nullptr);
     EXPECT_EQ(frame->GetControlBar(ID_BAR_DIALOG), nullptr);
