@@ -189,7 +189,10 @@ LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam)
 
     const Side side = afxdetail::sideOf(m_dwStyle);
     const DWORD direction = isHorizontal(side) ? LM_HORZ | LM_HORZDOCK : LM_VERTDOCK;
+    const HWND wnd = m_hWnd;
     const CSize size = CalcDynamicLayout(-1, direction | (layout.bStretch ? LM_STRETCH : 0));
+    if (FromHandlePermanent(wnd) != this)
+        return 0;
 
     Area free = afxdetail::areaOf(layout.rect);
     afxdetail::Extent total = afxdetail::extentOf(layout.sizeTotal);
