@@ -60,6 +60,9 @@ CControlBar::~CControlBar()
 {
     if (m_hWnd)
         DestroyWindow();
+    // A derived class may have kept WM_DESTROY to itself.
+    if (m_pDockBar)
+        m_pDockBar->release(*this);
     if (m_pDockSite)
         m_pDockSite->removeControlBar(this);
 }

@@ -32,6 +32,8 @@ CDockBar::~CDockBar()
 {
     if (m_hWnd)
         DestroyWindow();
+    for (CControlBar* bar : bars())
+        bar->m_pDockBar = nullptr;
 }
 
 BOOL CDockBar::Create(CWnd* parent, DWORD style, UINT id)
