@@ -129,7 +129,7 @@ private:
 
 int CVantorToolBar::buttonCount() const
 {
-    return m_hWnd ? static_cast<int>(::SendMessageW(m_hWnd, TB_BUTTONCOUNT, 0, 0)) : 0;
+    return m_hWnd ? toCount(static_cast<std::size_t>(::SendMessageW(m_hWnd, TB_BUTTONCOUNT, 0, 0))) : 0;
 }
 
 bool CVantorToolBar::hasButton(int index) const
