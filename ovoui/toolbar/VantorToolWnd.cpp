@@ -40,7 +40,7 @@ LRESULT CVantorToolWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
     case WM_CLOSE: {
-        // The system gives the focus to the side that the bar is docked at, which makes nothing of keys.
+        // Else it stays here, or goes to the side that the bar is docked at, which makes nothing of keys.
         const HWND focused = ::IsChild(m_hWnd, ::GetFocus()) ? m_frame->GetSafeHwnd() : nullptr;
         ShowWindow(SW_HIDE);
         if (focused)
