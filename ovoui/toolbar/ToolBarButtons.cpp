@@ -99,15 +99,22 @@ private:
     std::list<Part> m_parts;
 };
 
+/// Not asked of the parents, which may be hidden for the time being.
+bool isHidden(HWND wnd)
+{
+    return (::GetWindowLongPtrW(wnd, GWL_STYLE) & WS_VISIBLE) == 0;
+}
+
 /// A change during which the control does not redraw, and does not tell the owner, which could destroy it in
-/// the middle. Where the platform invalidates all of the bar when it may redraw again, that is taken back.
+/// the middle. Where the platform invalidates all of the bar when it may redraw again, that is taken back. A
+/// hidden bar does not redraw anyway, and by default a window that may redraw again shows.
 class QuietChange
 {
 public:
     explicit QuietChange(HWND wnd)
         : m_withoutOwner(wnd)
         , m_sameInvalid(ovoui::platform().invalidatesWholeBar ? std::make_unique<SameInvalid>(wnd) : nullptr)
-        , m_hold(wnd, RedrawHold::By::Control)
+        , m_hold(isHidden(wnd) ? nullptr : std::make_unique<RedrawHold>(wnd, RedrawHold::By::Control))
     {
     }
 
@@ -115,14 +122,14 @@ private:
     // They end in the opposite order.
     const WithoutOwner m_withoutOwner;
     const std::unique_ptr<SameInvalid> m_sameInvalid;
-    const RedrawHold m_hold;
+    const std::unique_ptr<RedrawHold> m_hold;
 };
 
 } // namespace
 
 int CVantorToolBar::buttonCount() const
 {
-    return m_hWnd ? static_cast<int>(::SendMessageW(m_hWnd, TB_BUTTONCOUNT, 0, 0)) : 0;
+    return m_hWnd ? toCount(static_cast<std::size_t>(::SendMessageW(m_hWnd, TB_BUTTONCOUNT, 0, 0))) : 0;
 }
 
 bool CVantorToolBar::hasButton(int index) const

@@ -39,9 +39,14 @@ BOOL CVantorToolWnd::Create(CFrameWnd* frame, UINT templateId, UINT style, UINT 
 LRESULT CVantorToolWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
-    case WM_CLOSE:
+    case WM_CLOSE: {
+        // Else it stays here, or goes to the side that the bar is docked at, which makes nothing of keys.
+        const HWND focused = ::IsChild(m_hWnd, ::GetFocus()) ? m_frame->GetSafeHwnd() : nullptr;
         ShowWindow(SW_HIDE);
+        if (focused)
+            ::SetFocus(focused);
         return 0;
+    }
     case WM_HELP:
         OnHelp();
         return 1;

@@ -21,9 +21,19 @@ public:
     }
     static void operator delete(void* memory, std::size_t size)
     {
-        std::fill_n(static_cast<std::byte*>(memory), size, std::byte{0xDD});
+        std::fill_n(static_cast<std::byte*>(memory), size, kNonsense);
+    }
+
+    /// Whether nothing has been written to an object since it was deleted.
+    static bool isUntouched(const void* deleted)
+    {
+        const auto* const memory = static_cast<const std::byte*>(deleted);
+        return std::all_of(memory, memory + sizeof(Perishing),
+                           [](std::byte byte) { return byte == kNonsense; });
     }
 
 private:
+    static constexpr std::byte kNonsense{0xDD};
+
     inline static std::vector<std::unique_ptr<std::byte[]>> s_memory;
 };

@@ -173,6 +173,28 @@ TEST(BarButton, AControlThatWaitsToBePaintedStillDoes)
     }
 }
 
+TEST(BarButton, OfAHiddenBarIsReplacedWithoutAMessageThatCouldShowIt)
+{
+    BarScene scene;
+    int told = 0;
+    scene.bar().seeing = [&](UINT message, WPARAM) { told += message == WM_SETREDRAW; };
+    const auto showImage = [&](int image) {
+        TBBUTTON button;
+        scene.bar()._getButton(BarScene::Lines, &button);
+        button.iBitmap = image;
+        scene.bar()._setButton(BarScene::Lines, &button);
+        EXPECT_EQ(scene.image(BarScene::Lines), image);
+    };
+    scene.bar().ShowWindow(SW_HIDE);
+    showImage(6);
+    EXPECT_EQ(told, 0);
+    EXPECT_FALSE(scene.bar().GetStyle() & WS_VISIBLE);
+    scene.bar().ShowWindow(SW_SHOWNA);
+    showImage(5);
+    EXPECT_EQ(told, 2) << "off, and on again";
+    scene.bar().seeing = nullptr;
+}
+
 TEST(BarButton, AnotherWidthPaintsTheWholeBar)
 {
     BarScene scene;

@@ -1,6 +1,8 @@
 // Which buttons carry a flyout: attaching, detaching, copying, inserting and deleting buttons.
 #include "ToolBarScene.h"
 
+#include <ovocor/IntCast.h>
+
 #include <gtest/gtest.h>
 
 #include <type_traits>
@@ -72,6 +74,33 @@ TEST_F(FlyoutAttach, OnlyToButtonsThatTheBarHas)
     EXPECT_EQ(flyouts(), "------");
     attachCommands(bar, 3, {1});
     EXPECT_EQ(flyouts(), "---f--");
+}
+
+TEST(FlyoutAttachLimits, MoreButtonsThanAnIntCanCountRaiseTheRangeError)
+{
+    class CrowdedBar : public TestBar
+    {
+    public:
+        bool crowded = false;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            constexpr LRESULT kMany = 0x80000000;
+            return crowded && message == TB_BUTTONCOUNT ? kMany
+                                                        : TestBar::WindowProc(message, wParam, lParam);
+        }
+    } bar;
+    auto* const frame = new BarFrame;
+    static constexpr UINT kButtons[] = {1, 2};
+    ASSERT_TRUE(bar.CreateEx(frame, TBSTYLE_FLAT, WS_CHILD | CBRS_TOP));
+    ASSERT_TRUE(bar.SetButtons(kButtons, 2));
+    bar.crowded = true;
+    EXPECT_THROW(bar.AttachBar(0, IDR_SHAPES, 16, {0}, false), IntCastError);
+    bar.crowded = false;
+    EXPECT_FALSE(bar.HasFlyout(0));
+    bar.AttachBar(0, IDR_SHAPES, 16, {0}, false);
+    EXPECT_TRUE(bar.HasFlyout(0));
+    bar.DestroyWindow();
+    frame->DestroyWindow();
 }
 
 TEST_F(FlyoutAttach, WithoutAWindowNothingHappens)

@@ -225,6 +225,28 @@ TEST_F(ToolWnd, WmCloseHidesIt)
     expectWork();
 }
 
+TEST_F(ToolWnd, AFocusInItGoesToTheFrameWhenItIsClosed)
+{
+    for (const bool floats : {false, true}) {
+        SCOPED_TRACE(floats);
+        floats ? makeFloat() : dock();
+        frame->ShowControlBar(&palette, TRUE, FALSE);
+        Robot().click(Spot{item(IDC_PALETTE_EDIT)});
+        ASSERT_EQ(::GetFocus(), item(IDC_PALETTE_EDIT).m_hWnd);
+        palette.SendMessage(WM_CLOSE);
+        EXPECT_FALSE(palette.IsVisible());
+        EXPECT_EQ(::GetFocus(), frame->m_hWnd);
+    }
+}
+
+TEST_F(ToolWnd, AFocusElsewhereStaysWhenItIsClosed)
+{
+    dock();
+    pane.SetFocus();
+    palette.SendMessage(WM_CLOSE);
+    EXPECT_EQ(::GetFocus(), pane.m_hWnd);
+}
+
 TEST_F(ToolWnd, TheCaptionsCloseBoxHidesIt)
 {
     makeFloat();

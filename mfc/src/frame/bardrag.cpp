@@ -33,6 +33,53 @@ Extent dragDistance()
     return {::GetSystemMetrics(SM_CXDRAG), ::GetSystemMetrics(SM_CYDRAG)};
 }
 
+/// The mouse is a window's, until the end of the scope or until another one takes it.
+class HeldMouse
+{
+public:
+    explicit HeldMouse(HWND wnd)
+        : m_wnd(wnd)
+    {
+        ::SetCapture(wnd);
+    }
+    ~HeldMouse()
+    {
+        if (::GetCapture() == m_wnd)
+            ::ReleaseCapture();
+    }
+    HeldMouse(const HeldMouse&) = delete;
+    HeldMouse& operator=(const HeldMouse&) = delete;
+
+private:
+    const HWND m_wnd;
+};
+
+/// A bar that says for the rest of the scope that it floats, or that it does not.
+class Pretended
+{
+public:
+    Pretended(CControlBar& bar, bool floats)
+        : m_bar(bar)
+        , m_wnd(bar.m_hWnd)
+        , m_style(bar.m_dwStyle)
+    {
+        constexpr DWORD kFloating = CBRS_FLOATING;
+        bar.m_dwStyle = floats ? m_style | kFloating : m_style & ~kFloating;
+    }
+    ~Pretended()
+    {
+        if (CWnd::FromHandlePermanent(m_wnd) == &m_bar)
+            m_bar.m_dwStyle = m_style;
+    }
+    Pretended(const Pretended&) = delete;
+    Pretended& operator=(const Pretended&) = delete;
+
+private:
+    CControlBar& m_bar;
+    const HWND m_wnd;
+    const DWORD m_style;
+};
+
 } // namespace
 
 BarDrag::BarDrag(CControlBar& bar, CWnd& held, CPoint grab)
@@ -53,17 +100,17 @@ bool BarDrag::isAlive() const
 }
 
 /// Asks the bar for its size in each state, last in the one that it is in: some bars break their rows when
-/// they are asked. A floating bar has no gripper.
+/// they are asked. A floating bar has no gripper. A bar that has gone when it was asked is asked no more.
 void BarDrag::measure()
 {
     const DWORD style = m_bar.GetBarStyle();
     const bool floats = (style & CBRS_FLOATING) != 0;
     const bool lies = (style & CBRS_ORIENT_HORZ) != 0;
     const auto ask = [&](bool floating, DWORD mode) {
-        m_bar.m_dwStyle = floating ? style | CBRS_FLOATING : style & ~static_cast<DWORD>(CBRS_FLOATING);
-        const CSize size = m_bar.CalcDynamicLayout(-1, mode);
-        m_bar.m_dwStyle = style;
-        return size;
+        if (!isAlive())
+            return CSize(0, 0);
+        const Pretended pretended(m_bar, floating);
+        return m_bar.CalcDynamicLayout(-1, mode);
     };
     const auto askFloating = [&](DWORD mode) {
         return extentOf(CMiniDockFrameWnd::outerSize(ask(true, mode), style));
@@ -81,8 +128,11 @@ void BarDrag::measure()
         ask(true, LM_HORZ | LM_MRUWIDTH);
 }
 
+/// Where the bar may be docked now: sides may come and go while it is dragged.
 void BarDrag::collectSides()
 {
+    m_sides.clear();
+    m_strips.clear();
     for (const auto& side : m_frame.m_dockBars) {
         if (!(side->GetBarStyle() & m_bar.m_dwDockStyle & CBRS_ALIGN_ANY))
             continue;
@@ -105,20 +155,22 @@ void BarDrag::collectSides()
     }
 }
 
-DragTarget BarDrag::target() const
+/// Of a bar that is alive. The sides are those of this moment.
+DragTarget BarDrag::target()
 {
+    collectSides();
     return outlineAt(m_dragged, m_strips, m_pointer, {isDown(VK_CONTROL), isDown(VK_SHIFT)});
 }
 
 void BarDrag::run()
 {
-    ::SetCapture(m_held);
-    const End end = followMouse();
-    if (::GetCapture() == m_held)
-        ::ReleaseCapture();
-    const DragTarget where = m_moved ? target() : DragTarget{};
+    End end = End::GivenUp;
+    {
+        const HeldMouse mouse(m_held);
+        end = followMouse();
+    }
     if (end == End::Dropped && m_moved && isAlive())
-        drop(where);
+        drop(target());
 }
 
 /// Whatever is no input for the drag goes its ordinary way, and may end the bar.
@@ -166,7 +218,6 @@ void BarDrag::follow()
         measure();
         if (!isAlive())
             return;
-        collectSides();
     }
     const DragTarget where = target();
     m_outline.show(rectOf(where.area), where.strip ? kDockedThickness : kFloatingThickness);

@@ -35,7 +35,7 @@ private:
     void collectSides();
     End followMouse();
     void follow();
-    DragTarget target() const;
+    DragTarget target();
     void drop(const DragTarget& where);
     bool isAlive() const;
 

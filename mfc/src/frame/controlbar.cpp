@@ -60,6 +60,9 @@ CControlBar::~CControlBar()
 {
     if (m_hWnd)
         DestroyWindow();
+    // A derived class may have kept WM_DESTROY to itself.
+    if (m_pDockBar)
+        m_pDockBar->release(*this);
     if (m_pDockSite)
         m_pDockSite->removeControlBar(this);
 }
@@ -189,7 +192,10 @@ LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam)
 
     const Side side = afxdetail::sideOf(m_dwStyle);
     const DWORD direction = isHorizontal(side) ? LM_HORZ | LM_HORZDOCK : LM_VERTDOCK;
+    const HWND wnd = m_hWnd;
     const CSize size = CalcDynamicLayout(-1, direction | (layout.bStretch ? LM_STRETCH : 0));
+    if (FromHandlePermanent(wnd) != this)
+        return 0;
 
     Area free = afxdetail::areaOf(layout.rect);
     afxdetail::Extent total = afxdetail::extentOf(layout.sizeTotal);

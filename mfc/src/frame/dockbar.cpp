@@ -32,6 +32,8 @@ CDockBar::~CDockBar()
 {
     if (m_hWnd)
         DestroyWindow();
+    for (CControlBar* bar : bars())
+        bar->m_pDockBar = nullptr;
 }
 
 BOOL CDockBar::Create(CWnd* parent, DWORD style, UINT id)
@@ -141,7 +143,7 @@ void CDockBar::remember(CControlBar& bar) const
 
 // Layout
 
-/// A bar's size as it lies here.
+/// A bar's size as it lies here. The bar may end this one, with the frame, when it is asked.
 CSize CDockBar::askSize(CControlBar& bar) const
 {
     if (m_bFloating)
@@ -151,12 +153,15 @@ CSize CDockBar::askSize(CControlBar& bar) const
 
 afxdetail::Extent CDockBar::measure()
 {
+    const HWND wnd = m_hWnd;
     for (CControlBar* bar : bars()) {
         DockPlace place = afxdetail::placeOf(*m_rows, bar);
         if (place.row == m_rows->rows.size()) // gone since another bar was asked
             continue;
         const bool shown = bar->IsVisible() != FALSE;
         const CSize size = shown ? askSize(*bar) : CSize(0, 0);
+        if (FromHandlePermanent(wnd) != this)
+            return {};
         place = afxdetail::placeOf(*m_rows, bar);
         if (place.row == m_rows->rows.size())
             continue;
@@ -213,8 +218,9 @@ CSize CDockBar::CalcFixedLayout(BOOL stretch, BOOL horizontal)
 LRESULT CDockBar::OnSizeParent(WPARAM, LPARAM lParam)
 {
     auto& layout = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
+    const HWND wnd = m_hWnd;
     const CSize size = CalcFixedLayout(layout.bStretch, isHorizontal());
-    if (!m_hWnd) // a bar that was asked for its size has ended the frame
+    if (FromHandlePermanent(wnd) != this) // a bar that was asked for its size has ended the frame
         return 0;
     afxdetail::Area free = afxdetail::areaOf(layout.rect);
     const afxdetail::Area place = takeStrip(free, afxdetail::extentOf(size), afxdetail::sideOf(m_dwStyle));

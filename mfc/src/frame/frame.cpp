@@ -210,6 +210,7 @@ void CFrameWnd::OnDestroy()
         window->DestroyWindow(); // owned by the top-level frame, which this one need not be
     CWnd::OnDestroy();
     m_pViewActive = nullptr;
+    m_layingOut = false; // a layout that has led here does not reset it
 }
 
 void CFrameWnd::PostNcDestroy()

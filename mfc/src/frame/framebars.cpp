@@ -4,19 +4,34 @@
 
 #include "flagscope.h"
 
+namespace
+{
+
+/// Whether a window is there and is shown while its parents are.
+bool isShown(HWND wnd)
+{
+    return (::GetWindowLongPtrW(wnd, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+} // namespace
+
 // Layout
 
 void CFrameWnd::RecalcLayout(BOOL)
 {
-    if (m_layingOut)
+    if (m_layingOut || !m_hWnd)
         return;
-    const afxdetail::FlagScope layingOut(m_layingOut);
+    // Bars that are shown or asked for their sizes may end the frame.
+    const afxdetail::WindowFlagScope layingOut(*this, m_layingOut);
     m_layoutPending = false;
     applyPendingBars();
+    if (!layingOut.windowIsThere())
+        return;
     if (m_dockOrderStale)
         orderDockBars();
     RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, reposExtra, &m_rectBorder);
-    layOutFloats();
+    if (layingOut.windowIsThere())
+        layOutFloats();
 }
 
 void CFrameWnd::OnSize(UINT type, int cx, int cy)
@@ -83,10 +98,16 @@ void CFrameWnd::ShowControlBar(CControlBar* bar, BOOL show, BOOL delay)
 
 void CFrameWnd::applyPendingBars()
 {
+    const HWND frame = m_hWnd;
     for (CControlBar* bar : std::vector<CControlBar*>(m_bars)) {
-        const bool hadFocus = bar->m_hWnd && AfxIsDescendant(bar->m_hWnd, ::GetFocus());
+        if (FromHandlePermanent(frame) != this)
+            return;
+        if (std::find(m_bars.begin(), m_bars.end(), bar) == m_bars.end())
+            continue; // gone since another one was shown or hidden
+        const HWND wnd = bar->m_hWnd;
+        const bool hadFocus = wnd && AfxIsDescendant(wnd, ::GetFocus());
         bar->applyPending();
-        if (hadFocus && !bar->IsVisible())
+        if (hadFocus && FromHandlePermanent(frame) == this && !isShown(wnd))
             SetFocus();
     }
 }

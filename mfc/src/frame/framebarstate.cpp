@@ -103,8 +103,10 @@ void CFrameWnd::SetDockState(const CDockState& state)
             continue;
         if (info->floating && bar->m_dockingEnabled) {
             const bool lies = info->horizontal != FALSE;
-            FloatControlBar(bar, afxdetail::placeToFloatAgain(*bar, info->floatPoint, lies),
-                            lies ? CBRS_ALIGN_TOP : CBRS_ALIGN_LEFT);
+            const CPoint point = afxdetail::placeToFloatAgain(*bar, info->floatPoint, lies);
+            if (GetControlBar(info->id) != bar)
+                continue; // the bar that was asked for its size has gone
+            FloatControlBar(bar, point, lies ? CBRS_ALIGN_TOP : CBRS_ALIGN_LEFT);
         }
         restoreMemory(*bar, *info);
         bar->delayShow(info->visible != FALSE);

@@ -131,7 +131,10 @@ void CFrameWnd::FloatControlBar(CControlBar* bar, CPoint point, DWORD style)
 /// Windows of floating bars have the size of their bars; one without bars ends.
 void CFrameWnd::layOutFloats()
 {
+    const HWND frame = m_hWnd;
     for (CMiniDockFrameWnd* window : std::vector<CMiniDockFrameWnd*>(m_floats)) {
+        if (FromHandlePermanent(frame) != this)
+            return;
         if (std::find(m_floats.begin(), m_floats.end(), window) == m_floats.end())
             continue; // ended since another one was laid out
         if (window->m_wndDockBar.bars().empty())

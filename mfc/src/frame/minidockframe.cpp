@@ -93,14 +93,15 @@ void CMiniDockFrameWnd::RecalcLayout(BOOL)
 {
     if (m_layingOut || !m_wndDockBar.m_hWnd)
         return;
-    const HWND wnd = m_hWnd;
-    const afxdetail::FlagScope layingOut(m_layingOut);
+    const afxdetail::WindowFlagScope layingOut(*this, m_layingOut);
     const afxdetail::Extent extent = m_wndDockBar.measure();
-    if (FromHandlePermanent(wnd) != this)
+    if (!layingOut.windowIsThere())
         return;
     CRect rect(0, 0, extent.width, extent.height);
     m_wndDockBar.MoveWindow(&rect);
     m_wndDockBar.placeBars((m_wndDockBar.GetBarStyle() & CBRS_ORIENT_HORZ) ? extent.width : extent.height);
+    if (!layingOut.windowIsThere())
+        return;
     ::AdjustWindowRectEx(&rect, GetStyle(), FALSE, GetExStyle());
     const bool shown = isShownWithFrame();
     SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height(),
@@ -159,9 +160,12 @@ void CMiniDockFrameWnd::OnSize(UINT type, int cx, int cy)
 void CMiniDockFrameWnd::OnClose()
 {
     const HWND wnd = m_hWnd;
-    for (CControlBar* bar : m_wndDockBar.bars()) {
-        const HWND closed = bar->m_hWnd;
-        if (CWnd::FromHandlePermanent(closed) == bar && bar->IsVisible())
+    std::vector<HWND> closed;
+    for (const CControlBar* bar : m_wndDockBar.bars())
+        closed.push_back(bar->m_hWnd);
+    for (const HWND one : closed) {
+        const auto* const bar = dynamic_cast<const CControlBar*>(FromHandlePermanent(one));
+        if (bar && bar->IsVisible())
             bar->SendMessage(WM_CLOSE);
         if (FromHandlePermanent(wnd) != this)
             return;

@@ -30,27 +30,46 @@ bool isLockKey(UINT id)
     return id == ID_INDICATOR_CAPS || id == ID_INDICATOR_NUM || id == ID_INDICATOR_SCRL;
 }
 
-/// Shows a command in a pane.
+/// Shows a command in a pane. A handler may have destroyed the bar, or left it fewer panes.
 class StatusCmdUI : public CCmdUI
 {
 public:
+    explicit StatusCmdUI(CStatusBar& bar)
+        : m_bar(bar.m_hWnd)
+    {
+        m_pOther = &bar;
+    }
+
+    bool isPaneThere() const
+    {
+        return CWnd::FromHandlePermanent(m_bar) == m_pOther && static_cast<int>(m_nIndex) < bar().GetCount();
+    }
+
     void Enable(BOOL on) override
     {
         m_bEnableChanged = TRUE;
         setStyle(SBPS_DISABLED, !on);
     }
     void SetCheck(int check) override { setStyle(SBPS_POPOUT, check != 0); }
-    void SetText(LPCTSTR text) override { bar().SetPaneText(static_cast<int>(m_nIndex), text); }
+    void SetText(LPCTSTR text) override
+    {
+        if (isPaneThere())
+            bar().SetPaneText(static_cast<int>(m_nIndex), text);
+    }
 
 private:
     CStatusBar& bar() const { return *static_cast<CStatusBar*>(m_pOther); }
 
     void setStyle(UINT bit, bool on)
     {
+        if (!isPaneThere())
+            return;
         const int index = static_cast<int>(m_nIndex);
         const UINT style = bar().GetPaneStyle(index) & ~bit;
         bar().SetPaneStyle(index, on ? style | bit : style);
     }
+
+    const HWND m_bar;
 };
 
 } // namespace
@@ -246,17 +265,18 @@ void CStatusBar::OnSize(UINT type, int cx, int cy)
 
 void CStatusBar::OnUpdateCmdUI(CFrameWnd* target, BOOL)
 {
-    StatusCmdUI ui;
-    ui.m_pOther = this;
+    StatusCmdUI ui(*this);
     ui.m_nIndexMax = static_cast<UINT>(m_panes.size());
-    for (ui.m_nIndex = 0; ui.m_nIndex < ui.m_nIndexMax; ++ui.m_nIndex) {
+    for (ui.m_nIndex = 0; ui.isPaneThere(); ++ui.m_nIndex) {
         const int index = static_cast<int>(ui.m_nIndex);
         ui.m_nID = pane(index).id;
         const bool handledHere =
             ui.m_nID != ID_SEPARATOR &&
             CWnd::OnCmdMsg(ui.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &ui, nullptr);
-        if (!handledHere)
+        if (!handledHere && ui.isPaneThere())
             ui.DoUpdate(target, FALSE);
+        if (!ui.isPaneThere())
+            return;
         if (pane(index).stale)
             show(index);
     }

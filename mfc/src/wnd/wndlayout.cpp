@@ -148,6 +148,7 @@ void CWnd::RepositionBars(UINT first, UINT last, UINT leftOver, UINT flag, LPREC
     else
         GetClientRect(&area);
 
+    const HWND parent = m_hWnd;
     LayoutPass pass(area, stretch != FALSE, kind != reposQuery);
     HWND rest = nullptr;
     for (HWND child = ::GetTopWindow(m_hWnd); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
@@ -156,6 +157,8 @@ void CWnd::RepositionBars(UINT first, UINT last, UINT leftOver, UINT flag, LPREC
             rest = child;
         else if (id >= first && id <= last && FromHandlePermanent(child))
             pass.offer(child);
+        if (!::IsWindow(parent))
+            return; // a bar that was asked for its room has ended it
     }
 
     AFX_SIZEPARENTPARAMS& left = pass.params;

@@ -95,8 +95,8 @@ bool pointsToFlyout(WalkKey walk, const KeyView& view)
 
 int nextStop(std::span<const Stop> stops, int from, WalkKey key, bool mirrored)
 {
-    if (stops.empty() || from >= static_cast<int>(stops.size()))
-        return kNoStop;
+    if (from >= static_cast<int>(stops.size()))
+        from = kNoStop;
     switch (key) {
     case WalkKey::Left:
     case WalkKey::Right:

@@ -30,7 +30,8 @@ inline constexpr int kNoStop = -1;
 
 /// Where a key leads from a stop, or from kNoStop. Left and right follow the order of the stops, and from the
 /// last to the first; up and down go to the nearest one of the next row, where there is one. In a mirrored
-/// bar left and right change places. kNoStop when nothing is reachable.
+/// bar left and right change places. A stop that is not there any more counts as kNoStop. kNoStop when
+/// nothing is reachable.
 int nextStop(std::span<const Stop> stops, int from, WalkKey key, bool mirrored);
 
 /// The bar as the key finds it.

@@ -15,11 +15,6 @@ int toCount(std::size_t size)
     return static_cast<int>(size);
 }
 
-int FlyoutRecord::entryCount() const
-{
-    return toCount(fromResource() ? buttonIndices.size() : commands.size());
-}
-
 int imageOfEntry(const FlyoutRecord& record, int entry, int present)
 {
     if (entry < 0)

@@ -28,7 +28,6 @@ struct FlyoutRecord
     void* imageList = nullptr; ///< the bar's when the commands were attached; never owned
 
     bool fromResource() const { return toolbarId != 0; }
-    int entryCount() const;
 
     friend bool operator==(const FlyoutRecord&, const FlyoutRecord&) = default;
 };

@@ -2,6 +2,7 @@
 #include "TestFrame.h"
 #include "resource.h"
 
+#include <support/Perishing.h>
 #include <testkit/Picture.h>
 
 #include <gtest/gtest.h>
@@ -226,6 +227,37 @@ TEST_F(StatusBar, UpdateHandlersShowTheirPane)
     GuiThread::settle();
     EXPECT_EQ(shown(2), L"A rather wide indicator");
     EXPECT_TRUE(drawType(2) & SBT_POPOUT) << "checked";
+}
+
+TEST_F(StatusBar, AnUpdateHandlerMayLeaveFewerPanes)
+{
+    m_frame->updates[ID_INDICATOR_TREE] = [this](CCmdUI& ui) {
+        m_bar.SetIndicators(kPanes, 1);
+        ui.Enable(FALSE);
+        ui.SetCheck();
+        ui.SetText(L"OAK");
+    };
+    EXPECT_NO_THROW(m_bar.OnUpdateCmdUI(&*m_frame, FALSE));
+    EXPECT_EQ(m_bar.GetCount(), 1);
+    EXPECT_EQ(shown(0), L"");
+}
+
+TEST_F(StatusBar, AnUpdateHandlerMayDeleteTheBar)
+{
+    m_bar.DestroyWindow();
+    auto* const bar = new Perishing<CStatusBar>;
+    const void* const memory = bar;
+    ASSERT_TRUE(bar->Create(&*m_frame));
+    ASSERT_TRUE(bar->SetIndicators(kPanes, static_cast<int>(std::size(kPanes))));
+    m_frame->updates[ID_INDICATOR_TREE] = [bar](CCmdUI& ui) {
+        delete bar;
+        ui.Enable(FALSE);
+        ui.SetCheck();
+        ui.SetText(L"OAK");
+    };
+    bar->OnUpdateCmdUI(&*m_frame, FALSE);
+    EXPECT_EQ(m_frame->GetMessageBar(), nullptr);
+    EXPECT_TRUE(Perishing<CStatusBar>::isUntouched(memory));
 }
 
 TEST_F(StatusBar, APaneWithoutAHandlerStaysAsItIs)

@@ -1,6 +1,7 @@
 // The arrangement of bars, saved in the profile and brought back.
 #include "DockScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/TemporaryProfile.h>
 
 #include <gtest/gtest.h>
@@ -165,19 +166,7 @@ TEST_F(BarStates, ADockedBarThatFloatedOnAMonitorThatIsGoneFloatsInsideAWorkArea
 
 TEST_F(BarStates, ABarMayGoWhenItIsAskedForItsSizeToFloatAgain)
 {
-    class Vanishing : public ButtonBar
-    {
-    public:
-        bool vanishes = false;
-        CSize CalcDynamicLayout(int length, DWORD mode) override
-        {
-            if (std::exchange(vanishes, false)) {
-                DestroyWindow();
-                return CSize(10, 10);
-            }
-            return ButtonBar::CalcDynamicLayout(length, mode);
-        }
-    } bar;
+    AskedBar bar;
     ASSERT_TRUE(bar.create(*frame, ID_BAR_DIALOG, L"Vanishing", 2));
     bar.EnableDocking(kAnySide);
     frame->DockControlBar(&bar);
@@ -185,10 +174,28 @@ TEST_F(BarStates, ABarMayGoWhenItIsAskedForItsSizeToFloatAgain)
     frame->DockControlBar(&bar);
     frame->RecalcLayout();
     ovo::testkit::present(*frame);
-    bar.vanishes = true;
+    bar.whenAsked = [&] { bar.DestroyWindow(); };
     bar.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(-4, 5)); // on its gripper
     EXPECT_EQ(bar.m_hWnd, nullptr);
     EXPECT_EQ(frame->GetControlBar(ID_BAR_DIALOG), nullptr);
+}
+
+TEST_F(BarStates, ABarMayGoWhenItIsAskedForItsSizeBecauseItFloatedWhenItWasSaved)
+{
+    auto* const bar = new Perishing<AskedBar>;
+    const void* const memory = bar;
+    ASSERT_TRUE(bar->create(*frame, ID_BAR_DIALOG, L"Vanishing", 2));
+    bar->EnableDocking(kAnySide);
+    frame->FloatControlBar(bar, CPoint(300, 300));
+    frame->RecalcLayout();
+    CDockState state;
+    frame->GetDockState(state);
+    frame->DockControlBar(bar);
+    frame->RecalcLayout();
+    bar->whenAsked = [bar] { delete bar; };
+    frame->SetDockState(state);
+    EXPECT_EQ(frame->GetControlBar(ID_BAR_DIALOG), nullptr);
+    EXPECT_TRUE(Perishing<AskedBar>::isUntouched(memory));
 }
 
 TEST_F(BarStates, BarsThatAreUnknownOrMissingDoNoHarm)

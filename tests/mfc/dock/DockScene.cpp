@@ -1,5 +1,7 @@
 #include "DockScene.h"
 
+#include <utility>
+
 using namespace ovo::testkit;
 
 namespace docktest
@@ -37,6 +39,15 @@ LRESULT ButtonBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     painted += message == WM_PAINT;
     return CToolBar::WindowProc(message, wParam, lParam);
+}
+
+CSize AskedBar::CalcDynamicLayout(int length, DWORD mode)
+{
+    const std::function<void()> act = std::exchange(whenAsked, nullptr);
+    if (!act)
+        return ButtonBar::CalcDynamicLayout(length, mode);
+    act();
+    return CSize(10, 10);
 }
 
 DockScene::DockScene(Options options)

@@ -12,6 +12,7 @@
 #include <afxext.h>
 #include <afxpriv.h>
 
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -42,6 +43,15 @@ public:
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+};
+
+/// Does something the next time that it is asked for its size; it may be gone afterwards.
+class AskedBar : public ButtonBar
+{
+public:
+    std::function<void()> whenAsked;
+
+    CSize CalcDynamicLayout(int length, DWORD mode) override;
 };
 
 struct Options

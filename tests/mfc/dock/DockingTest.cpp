@@ -1,6 +1,8 @@
 // Bars that a program docks: sides, rows, who is told of their buttons.
 #include "DockScene.h"
 
+#include <support/Perishing.h>
+
 #include <gtest/gtest.h>
 
 using namespace ovo::testkit;
@@ -13,7 +15,53 @@ class Docking : public ::testing::Test, protected DockScene
 {
 };
 
+/// Does not hand WM_DESTROY on to the class that it derives from.
+class ForgetfulBar : public ButtonBar
+{
+protected:
+    afx_msg void OnDestroy() {}
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ForgetfulBar, ButtonBar)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+/// Docks a bar at the top.
+void dock(DockFrame& frame, ButtonBar& bar)
+{
+    ASSERT_TRUE(bar.create(frame, ID_BAR_DIALOG, L"Forgetful", 2));
+    bar.EnableDocking(kAnySide);
+    frame.DockControlBar(&bar, AFX_IDW_DOCKBAR_TOP);
+    frame.RecalcLayout();
+}
+
 } // namespace
+
+TEST_F(Docking, ADeletedBarIsForgottenWhateverItHasHeardBefore)
+{
+    auto* const bar = new Perishing<ForgetfulBar>;
+    const void* const memory = bar;
+    dock(*frame, *bar);
+    EXPECT_EQ(side(AFX_IDW_DOCKBAR_TOP)->bars(), std::vector<CControlBar*>{bar});
+    bar->DestroyWindow();
+    delete bar;
+    EXPECT_TRUE(side(AFX_IDW_DOCKBAR_TOP)->bars().empty());
+    EXPECT_EQ(frame->GetControlBar(ID_BAR_DIALOG), nullptr);
+    frame->RecalcLayout();
+    EXPECT_TRUE(Perishing<ForgetfulBar>::isUntouched(memory));
+}
+
+TEST(DockingEnd, ABarThatHasHeardNothingMayOutliveItsFrame)
+{
+    DockScene scene;
+    ForgetfulBar bar;
+    dock(*scene.frame, bar);
+    scene.frame->DestroyWindow();
+    scene.frame = nullptr;
+    EXPECT_EQ(bar.m_hWnd, nullptr);
+    EXPECT_EQ(bar.GetDockingFrame(), nullptr);
+}
 
 TEST_F(Docking, ABarLiesAtItsSide)
 {

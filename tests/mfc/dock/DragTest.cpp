@@ -1,9 +1,12 @@
 // Bars that a user drags with the mouse.
 #include "DockScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/Picture.h>
 
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 using namespace ovo::testkit;
 using namespace docktest;
@@ -47,6 +50,36 @@ protected:
     Spot middle() const { return inFrame(250, 200); }
 
     bool isAt(const CControlBar& bar, UINT id) const { return bar.GetParent() == side(id); }
+
+    /// Makes a bar of a test's own, in a row of its own at the top.
+    void dock(ButtonBar& bar)
+    {
+        ASSERT_TRUE(bar.create(*frame, ID_BAR_DIALOG, L"Another", 2));
+        bar.EnableDocking(kAnySide);
+        frame->DockControlBar(&bar);
+        frame->RecalcLayout();
+    }
+
+    /// A press on the gripper without a robot, whose loop would get what is raised meanwhile. The drag goes
+    /// on with the messages that are posted already.
+    void takeHold(CControlBar& bar) const
+    {
+        CPoint point = gripper(bar).find();
+        bar.ScreenToClient(&point);
+        bar.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    }
+};
+
+/// Raises an exception when it gets WM_APP.
+class RaisingWnd : public CWnd
+{
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_APP)
+            throw std::runtime_error("message");
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
 };
 
 } // namespace
@@ -349,6 +382,61 @@ TEST_F(Drag, TheFrameMayGoWhileABarIsDragged)
     frame = nullptr;
     EXPECT_EQ(two.m_hWnd, nullptr);
     EXPECT_TRUE(outline().IsRectEmpty());
+}
+
+TEST_F(Drag, TheBarMayGoWhenItIsAskedForItsSize)
+{
+    auto* const bar = new Perishing<AskedBar>;
+    dock(*bar);
+    const HWND wnd = *bar;
+    bar->whenAsked = [bar] { delete bar; };
+    robot.press(gripper(*bar)).moveTo(middle()).release();
+    EXPECT_FALSE(::IsWindow(wnd));
+    EXPECT_TRUE(outline().IsRectEmpty());
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_F(Drag, ABarThatRaisesAnExceptionWhenItIsAskedForItsSizeStaysAsItWas)
+{
+    AskedBar bar;
+    dock(bar);
+    const DWORD style = bar.GetBarStyle();
+    robot.moveTo(middle());
+    bar.PostMessage(WM_MOUSEMOVE, MK_LBUTTON);
+    bar.whenAsked = [] { throw std::runtime_error("size"); };
+    EXPECT_THROW(takeHold(bar), std::runtime_error);
+    EXPECT_EQ(bar.GetBarStyle(), style) << "it is asked as if it floated";
+    EXPECT_TRUE(isAt(bar, AFX_IDW_DOCKBAR_TOP));
+    EXPECT_EQ(::GetCapture(), nullptr);
+    bar.DestroyWindow();
+}
+
+TEST_F(Drag, WhatAnotherWindowRaisesMeanwhileGivesTheMouseBack)
+{
+    RaisingWnd other;
+    ASSERT_TRUE(other.Create(AfxRegisterWndClass(0), nullptr, WS_CHILD, CRect(), frame, ID_BAR_DIALOG));
+    other.PostMessage(WM_APP);
+    EXPECT_THROW(takeHold(two), std::runtime_error);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_TRUE(isAt(two, AFX_IDW_DOCKBAR_TOP));
+    other.DestroyWindow();
+}
+
+TEST_F(Drag, AWindowThatGoesMeanwhileDoesNotTakeTheBar)
+{
+    one.EnableDocking(kAnySide | CBRS_FLOAT_MULTI);
+    two.EnableDocking(kAnySide | CBRS_FLOAT_MULTI);
+    robot.drag(gripper(one), middle())
+        .press(gripper(two))
+        .moveTo(Spot{one})
+        .then([&] {
+            one.DestroyWindow();
+            frame->RecalcLayout(); // the window without bars ends
+        })
+        .release();
+    ASSERT_TRUE(floatOf(two));
+    EXPECT_TRUE(two.IsFloating());
+    EXPECT_TRUE(floatOf(two)->IsWindowVisible()) << "in a window of its own";
 }
 
 TEST_F(Drag, BarsThatMayFloatTogetherShareAWindow)

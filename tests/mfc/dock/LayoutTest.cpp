@@ -1,7 +1,11 @@
 // The frame's layout: who takes room first, what is painted anew, mirrored frames.
 #include "DockScene.h"
 
+#include <support/Perishing.h>
+
 #include <gtest/gtest.h>
+
+#include <utility>
 
 using namespace ovo::testkit;
 using namespace docktest;
@@ -175,6 +179,66 @@ TEST_F(DockLayout, ABarThatHidesItselfGivesItsRoomBackWhenThereIsTime)
     one.ShowWindow(SW_SHOWNA);
     GuiThread::settle();
     EXPECT_EQ(panePlace().top, place(one).bottom);
+}
+
+TEST(DockLayoutEnd, ABarMayEndTheFrameWhenItIsAskedForItsSize)
+{
+    enum class State
+    {
+        Fixed,
+        Docked,
+        Floating
+    };
+    for (const State state : {State::Fixed, State::Docked, State::Floating}) {
+        SCOPED_TRACE(static_cast<int>(state));
+        auto* const frame = new Perishing<DockFrame>;
+        const void* const memory = frame;
+        ASSERT_TRUE(frame->Create(nullptr, L"Docking", WS_OVERLAPPEDWINDOW, CRect(100, 100, 600, 400)));
+        frame->EnableDocking(kAnySide);
+        AskedBar bar;
+        ASSERT_TRUE(bar.create(*frame, ID_BAR_ONE, L"One", 2));
+        bar.EnableDocking(kAnySide);
+        if (state == State::Docked)
+            frame->DockControlBar(&bar);
+        else if (state == State::Floating)
+            frame->FloatControlBar(&bar, CPoint(300, 300));
+        frame->RecalcLayout();
+        bar.whenAsked = [=] { frame->DestroyWindow(); };
+        frame->RecalcLayout();
+        EXPECT_EQ(bar.m_hWnd, nullptr);
+        EXPECT_TRUE(Perishing<DockFrame>::isUntouched(memory));
+    }
+}
+
+TEST_F(DockLayout, ABarThatIsShownMayDeleteAnother)
+{
+    class ShownBar : public ButtonBar
+    {
+    public:
+        std::function<void()> whenShown;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_SHOWWINDOW && whenShown)
+                std::exchange(whenShown, nullptr)();
+            return ButtonBar::WindowProc(message, wParam, lParam);
+        }
+    } bar;
+    auto* const other = new Perishing<ButtonBar>;
+    const void* const memory = other;
+    ASSERT_TRUE(bar.create(*frame, ID_BAR_DIALOG, L"Shown", 2));
+    ASSERT_TRUE(other->create(*frame, ID_BAR_DIALOG + 1, L"Deleted", 2));
+    frame->ShowControlBar(&bar, FALSE, FALSE);
+    frame->ShowControlBar(other, FALSE, FALSE);
+    bar.whenShown = [=] { delete other; };
+    frame->ShowControlBar(&bar, TRUE, TRUE);
+    frame->ShowControlBar(other, TRUE, TRUE);
+    frame->RecalcLayout();
+    EXPECT_TRUE(bar.IsVisible());
+    EXPECT_EQ(frame->GetControlBar(ID_BAR_DIALOG + 1), nullptr);
+    EXPECT_TRUE(Perishing<ButtonBar>::isUntouched(memory));
+    bar.DestroyWindow();
 }
 
 TEST(DockMirrored, EverythingBeginsAtTheRight)

@@ -109,6 +109,19 @@ TEST(BarWalk, WhereNothingCanBeReachedThereIsNoStop)
     }
 }
 
+TEST(BarWalk, FromAStopThatHasGoneTheKeysLeadOn)
+{
+    const auto row = grid("|bb|", 4);
+    for (const int gone : {4, 9}) {
+        EXPECT_EQ(nextStop(row, gone, WalkKey::Right, false), 1);
+        EXPECT_EQ(nextStop(row, gone, WalkKey::Left, false), 2);
+        EXPECT_EQ(nextStop(row, gone, WalkKey::Down, false), 1);
+        EXPECT_EQ(nextStop(row, gone, WalkKey::Up, false), 2);
+        EXPECT_EQ(nextStop(row, gone, WalkKey::First, false), 1);
+        EXPECT_EQ(nextStop(row, gone, WalkKey::Last, false), 2);
+    }
+}
+
 TEST(BarKey, EveryKeyInEveryState)
 {
     for (const KeyView& view : everyView()) {

@@ -37,7 +37,8 @@ std::vector<Span> placeRow(const DockRow& row, int room)
     room = std::max(room, 0);
     std::vector<Span> spans;
     for (const DockedBar& bar : row)
-        spans.push_back({std::max(bar.start, 0), bar.shown ? std::max(bar.length, 0) : 0});
+        // What begins beyond the end is pushed back all the same; a profile may hold any number.
+        spans.push_back({std::clamp(bar.start, 0, room), bar.shown ? std::max(bar.length, 0) : 0});
     cut(spans, room);
     int end = 0;
     for (Span& span : spans) {

@@ -9,12 +9,16 @@ namespace afxdetail
 namespace
 {
 
+// Places come from the profile, too, which may be damaged: they can be as far away as numbers go.
+
 /// Whether a part of the upper edge, wide enough to take hold of, lies in the area.
 bool isReachable(Place at, Extent size, const Area& area)
 {
-    const int visible = std::min(at.x + size.width, area.right) - std::max(at.x, area.left);
+    const long long left = at.x;
+    const long long visible =
+        std::min<long long>(left + size.width, area.right) - std::max<long long>(left, area.left);
     return visible >= std::min(size.width, kReachable) && at.y >= area.top &&
-           at.y + kReachable <= area.bottom;
+           at.y <= area.bottom - kReachable;
 }
 
 Place pulledInto(Place at, Extent size, const Area& area)
@@ -23,9 +27,11 @@ Place pulledInto(Place at, Extent size, const Area& area)
             std::max(area.top, std::min(at.y, area.bottom - size.height))};
 }
 
-long long squared(int value)
+double squaredDistance(Place one, Place other)
 {
-    return static_cast<long long>(value) * value;
+    const double x = static_cast<double>(one.x) - other.x;
+    const double y = static_cast<double>(one.y) - other.y;
+    return x * x + y * y;
 }
 
 } // namespace
@@ -33,12 +39,12 @@ long long squared(int value)
 Place bringBack(Place topLeft, Extent size, std::span<const Area> workAreas)
 {
     Place best = topLeft;
-    long long least = std::numeric_limits<long long>::max();
+    double least = std::numeric_limits<double>::max();
     for (const Area& area : workAreas) {
         if (isReachable(topLeft, size, area))
             return topLeft;
         const Place pulled = pulledInto(topLeft, size, area);
-        const long long moved = squared(pulled.x - topLeft.x) + squared(pulled.y - topLeft.y);
+        const double moved = squaredDistance(pulled, topLeft);
         if (moved < least) {
             least = moved;
             best = pulled;

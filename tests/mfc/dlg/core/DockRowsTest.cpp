@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <numeric>
 
 using namespace afxdetail;
@@ -58,6 +59,14 @@ TEST(DockRow, TheEndPushesBack)
     EXPECT_EQ(placeRow({bar(A, 300, 100), bar(B, 480, 60)}, 500), (Spans{{300, 100}, {440, 60}}));
     EXPECT_EQ(placeRow({bar(A, 420, 100), bar(B, 480, 60)}, 500), (Spans{{340, 100}, {440, 60}}));
     EXPECT_EQ(placeRow({bar(A, -40, 100)}, 500), (Spans{{0, 100}}));
+}
+
+TEST(DockRow, ABarThatWantsToBeginAtTheEndOfAllNumbersPushesTheOthersAllTheSame)
+{
+    constexpr int kMost = std::numeric_limits<int>::max();
+    EXPECT_EQ(placeRow({bar(A, kMost, 50), bar(B, 100, 50)}, 300), (Spans{{200, 50}, {250, 50}}));
+    EXPECT_EQ(placeRow({bar(A, 0, 50), bar(B, kMost, 50), bar(C, kMost, 50)}, 300),
+              (Spans{{0, 50}, {200, 50}, {250, 50}}));
 }
 
 TEST(DockRow, WhatIsTooLongIsCutNotLost)

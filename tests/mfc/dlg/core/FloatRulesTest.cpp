@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 using namespace afxdetail;
 
 namespace
@@ -43,6 +45,18 @@ TEST(FloatRules, ComesBackToTheNearestArea)
 {
     EXPECT_EQ(back({1900, 300}, {kMain, kSecond}), (Place{1600, 300}));
     EXPECT_EQ(back({-300, 300}, {kSecond, kMain}), (Place{0, 300}));
+}
+
+TEST(FloatRules, ComesBackFromTheEndsOfAllNumbers)
+{
+    constexpr int kLeast = std::numeric_limits<int>::min();
+    constexpr int kMost = std::numeric_limits<int>::max();
+    EXPECT_EQ(back({kMost, 300}, {kMain}), (Place{800, 300}));
+    EXPECT_EQ(back({kLeast, 300}, {kSecond}), (Place{1000, 300}));
+    EXPECT_EQ(back({300, kMost}, {kMain}), (Place{300, 640}));
+    EXPECT_EQ(back({300, kLeast}, {kMain}), (Place{300, 0}));
+    EXPECT_EQ(back({kMost, 300}, {kMain, kSecond}), (Place{1600, 300})) << "the nearest area";
+    EXPECT_EQ(back({kLeast, 300}, {kMain, kSecond}), (Place{0, 300})) << "the nearest area";
 }
 
 TEST(FloatRules, OneThatIsTooLargeBeginsAtTheCorner)
