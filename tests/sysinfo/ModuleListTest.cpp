@@ -189,3 +189,27 @@ TEST_F(ModuleList, TheListGrowsWithTheDialog)
     list->GetWindowRect(&after);
     EXPECT_EQ(after.Size(), before.Size() + CSize(80, 60));
 }
+
+TEST(ModuleListDialog, ShownAgainItGrowsAsTheFirstTime)
+{
+    CModuleListDlg dialog;
+    for (int time = 1; time <= 2; ++time) {
+        CRect before;
+        CRect after;
+        auto story = Robot()
+                         .waitFor("the dialog", [] { return shownDialog() != nullptr; })
+                         .then([&] {
+                             CWnd* const list = dialog.GetDlgItem(IDC_MODULES_LIST);
+                             list->GetWindowRect(&before);
+                             CRect window;
+                             dialog.GetWindowRect(&window);
+                             dialog.SetWindowPos(nullptr, 0, 0, window.Width() + 40, window.Height() + 30,
+                                                 SWP_NOMOVE | SWP_NOZORDER);
+                             list->GetWindowRect(&after);
+                         })
+                         .key(VK_ESCAPE)
+                         .start();
+        EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+        EXPECT_EQ(after.Size(), before.Size() + CSize(40, 30)) << "time " << time;
+    }
+}
