@@ -1,6 +1,7 @@
 #include <ovoui/sysinfo/ModuleListDlg.h>
 
 #include <ovoui/frame/ClipboardText.h>
+#include <ovoui/frame/MenuBelow.h>
 #include <ovoui/frame/Module.h>
 #include <ovoui/sysinfo/LoadedModules.h>
 #include <ovoui/sysinfo/StretchedControls.h>
@@ -228,9 +229,7 @@ void CModuleListDlg::OnCopyAs()
     CMenu menu;
     if (!menu.LoadMenu(IDR_MODULES_COPY_MENU))
         return;
-    CRect button;
-    GetDlgItem(IDC_MODULES_COPY)->GetWindowRect(&button);
-    menu.GetSubMenu(0)->TrackPopupMenu(TPM_LEFTALIGN | TPM_LEFTBUTTON, button.left, button.bottom, this);
+    ovoui::frame::openBelow(*menu.GetSubMenu(0), TPM_LEFTBUTTON, GetDlgItem(IDC_MODULES_COPY)->m_hWnd, *this);
 }
 
 void CModuleListDlg::OnCopyAsFormat(UINT id)

@@ -167,6 +167,28 @@ TEST_F(ModuleList, TheButtonOpensTheMenuOfForms)
     EXPECT_NEAR(menu.top, button.bottom, 4);
 }
 
+TEST_F(ModuleList, TheMenuOfFormsReadsFromTheRightWhereTheDialogDoes)
+{
+    dialog.ModifyStyleEx(0, WS_EX_LAYOUTRTL, SWP_FRAMECHANGED);
+    CRect button;
+    CRect menu;
+    DWORD style = 0;
+    const HWND copy = dialog.GetDlgItem(IDC_MODULES_COPY)->m_hWnd;
+    Robot()
+        .click(Spot{copy})
+        .waitFor("the menu", [] { return shownMenu() != nullptr; })
+        .then([&] {
+            ::GetWindowRect(copy, &button);
+            ::GetWindowRect(shownMenu(), &menu);
+            style = static_cast<DWORD>(::GetWindowLongPtrW(shownMenu(), GWL_EXSTYLE));
+        })
+        .key(VK_ESCAPE)
+        .waitFor("no menu", [] { return shownMenu() == nullptr; });
+    EXPECT_NEAR(menu.right, button.right, 4);
+    EXPECT_NEAR(menu.top, button.bottom, 4);
+    EXPECT_TRUE(style & WS_EX_LAYOUTRTL);
+}
+
 TEST_F(ModuleList, AFailureIsShownAndTheListStays)
 {
     const ImportPatch patch(
