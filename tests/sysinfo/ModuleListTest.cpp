@@ -189,6 +189,37 @@ TEST_F(ModuleList, TheMenuOfFormsReadsFromTheRightWhereTheDialogDoes)
     EXPECT_TRUE(style & WS_EX_LAYOUTRTL);
 }
 
+TEST_F(ModuleList, ALetterInTheListLeadsToTheNextNameWithIt)
+{
+    const std::vector<std::wstring> names = column(0);
+    const auto begins = [](const std::wstring& name) { return lowercase(name).starts_with(L"t"); };
+    const auto next = std::find_if(names.begin() + 1, names.end(), begins);
+    ASSERT_NE(next, names.end()) << "this program's own name begins so";
+    const int row = static_cast<int>(next - names.begin());
+    list->SetFocus();
+    Robot().type(L"t");
+    EXPECT_EQ(list->GetNextItem(-1, LVNI_FOCUSED), row);
+    EXPECT_EQ(list->GetNextItem(-1, LVNI_SELECTED), row);
+    Robot().type(L"~"); // no name has it, wherever it stands
+    EXPECT_EQ(list->GetNextItem(-1, LVNI_FOCUSED), row);
+}
+
+TEST_F(ModuleList, ASearchForSomethingElseThanATextFindsNothing)
+{
+    NMLVFINDITEM search{};
+    search.hdr = {list->m_hWnd, IDC_MODULES_LIST, static_cast<UINT>(LVN_ODFINDITEM)};
+    const auto found = [&] {
+        return dialog.SendMessage(WM_NOTIFY, IDC_MODULES_LIST, reinterpret_cast<LPARAM>(&search));
+    };
+    search.lvfi.flags = LVFI_NEARESTXY;
+    EXPECT_EQ(found(), -1);
+    search.lvfi.flags = LVFI_STRING | LVFI_PARTIAL;
+    EXPECT_EQ(found(), -1) << "no text";
+    search.lvfi.psz = L"";
+    search.iStart = -1;
+    EXPECT_EQ(found(), 0) << "every name begins so";
+}
+
 TEST_F(ModuleList, AFailureIsShownAndTheListStays)
 {
     const ImportPatch patch(
