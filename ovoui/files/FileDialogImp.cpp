@@ -72,10 +72,11 @@ BOOL COVOFileDialogImp::OnInitDialog()
     return result;
 }
 
-/// The system may let messages through before it shows the dialog; then this waits.
+/// The system may let messages through before it shows the dialog; then this waits. The child itself may stay
+/// hidden.
 LRESULT COVOFileDialogImp::OnPostInit(WPARAM wParam, LPARAM lParam)
 {
-    if (!IsWindowVisible()) {
+    if (!::IsWindowVisible(::GetAncestor(m_hWnd, GA_ROOT))) {
         ::SetTimer(m_hWnd, kPostInit, USER_TIMER_MINIMUM, &postAgain);
         return 0;
     }

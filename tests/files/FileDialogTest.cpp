@@ -400,12 +400,12 @@ TEST(ClassicHost, IsToldThatTheDialogIsShownOnlyWhenItIs)
     FakeClassicDialog fake;
     HostDialog dialog(Kind::Classic);
     fake.onShow = [&](HWND child) {
-        ::ShowWindow(child, SW_HIDE);
+        ::ShowWindow(::GetParent(child), SW_HIDE);
         dialog.forgetEvents();
         EXPECT_EQ(::SendMessageW(child, kPostInit, 3, 4), 0);
         waitForTicks();
         EXPECT_EQ(dialog.count("PostInit 3 4") + dialog.count("PostInit 0 0"), 0);
-        ::ShowWindow(child, SW_SHOW);
+        ::ShowWindow(::GetParent(child), SW_SHOW);
         EXPECT_TRUE(GuiThread::runUntil([&] { return dialog.count("PostInit 0 0") > 0; }));
         waitForTicks();
         EXPECT_EQ(dialog.count("PostInit 0 0"), 1);
@@ -413,6 +413,20 @@ TEST(ClassicHost, IsToldThatTheDialogIsShownOnlyWhenItIs)
         EXPECT_EQ(dialog.count("PostInit 3 4"), 1);
     };
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+}
+
+TEST(ClassicHost, IsToldThatTheDialogIsShownAlsoWhenItHidesItsOwnControls)
+{
+    FakeClassicDialog fake;
+    HostDialog dialog(Kind::Classic);
+    dialog.on["InitDone"] = [&] { dialog.DialogWnd()->ShowWindow(SW_HIDE); };
+    fake.onShow = [&](HWND child) {
+        EXPECT_FALSE(::IsWindowVisible(child));
+        EXPECT_EQ(::SendMessageW(child, kPostInit, 3, 4), 1) << "the host's answer";
+        EXPECT_EQ(dialog.count("PostInit 3 4"), 1);
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(dialog.count("PostInit 0 0"), 1);
 }
 
 TEST(ClassicHost, ReadsControlsAsAWindowDoes)
