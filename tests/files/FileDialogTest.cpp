@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <commdlg.h>
+#include <detail/modulestate.h>
 
 #include <cstring>
 
@@ -656,6 +657,54 @@ TEST(ClassicHostDeathTest, NamesAnOperationOfTheNewStyleThatIsCalled)
 }
 
 // The new-style path
+
+namespace
+{
+
+/// Takes down the module state in which its handlers are called.
+class StateNotingDialog : public COVOFileDialog
+{
+public:
+    StateNotingDialog()
+        : COVOFileDialog(TRUE, nullptr, nullptr, 0, nullptr, nullptr, TRUE)
+    {
+    }
+    std::vector<AFX_MODULE_STATE*> states;
+
+protected:
+    void OnItemSelected(DWORD, DWORD) override { note(); }
+    void OnButtonClicked(DWORD) override { note(); }
+    void OnCheckButtonToggled(DWORD, BOOL) override { note(); }
+    void OnControlActivating(DWORD) override { note(); }
+
+private:
+    void note() { states.push_back(AfxGetModuleState()); }
+};
+
+} // namespace
+
+TEST(NewStyleHost, IsToldOfItsControlsInTheModuleStateThatItWasMadeIn)
+{
+    FakeShellDialog fake;
+    StateNotingDialog dialog;
+    AFX_MODULE_STATE other;
+    fake.onShow = [&](IFileDialogEvents& events) {
+        IFileDialogControlEvents* controls = nullptr;
+        events.QueryInterface(IID_IFileDialogControlEvents, reinterpret_cast<void**>(&controls));
+        {
+            const AFX_MAINTAIN_STATE foreign(&other);
+            EXPECT_EQ(controls->OnItemSelected(nullptr, 1, 2), S_OK);
+            EXPECT_EQ(controls->OnButtonClicked(nullptr, 1), S_OK);
+            EXPECT_EQ(controls->OnCheckButtonToggled(nullptr, 1, TRUE), S_OK);
+            EXPECT_EQ(controls->OnControlActivating(nullptr, 1), S_OK);
+            EXPECT_EQ(AfxGetModuleState(), &other) << "for the call alone";
+        }
+        controls->Release();
+        return HRESULT_FROM_WIN32(ERROR_CANCELLED);
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(dialog.states, std::vector<AFX_MODULE_STATE*>(4, AfxGetModuleState()));
+}
 
 TEST(NewStyleHost, ReadsNumbersAsFarAsTheyGo)
 {
