@@ -521,6 +521,60 @@ TEST(ClassicHost, TellsOfSizesAndHelp)
     EXPECT_EQ(dialog.count("HelpInfo 1"), static_cast<int>(TestApp::instance().helps().size()));
 }
 
+namespace
+{
+
+/// Takes down what messages of the child dialog come with.
+class MessageNotingDialog : public COVOFileDialog
+{
+public:
+    MessageNotingDialog()
+        : COVOFileDialog(TRUE, nullptr, nullptr, 0, nullptr, nullptr, FALSE)
+    {
+        ofn->Flags |= OFN_ENABLETEMPLATE;
+        ofn->lpTemplateName = MAKEINTRESOURCE(IDD_CONTROLS);
+    }
+    std::vector<UINT> size; ///< type, width and height of the last one
+    HELPINFO* helpInfo = nullptr;
+    BOOL helpAnswer = FALSE;
+
+protected:
+    void OnSize(UINT type, int cx, int cy) override
+    {
+        size = {type, static_cast<UINT>(cx), static_cast<UINT>(cy)};
+    }
+    BOOL OnHelpInfo(HELPINFO* info, BOOL) override
+    {
+        helpInfo = info;
+        return helpAnswer;
+    }
+};
+
+} // namespace
+
+TEST(ClassicHost, IsGivenWhatTheMessagesOfSizesAndHelpHave)
+{
+    FakeClassicDialog fake;
+    MessageNotingDialog dialog;
+    fake.onShow = [&](HWND child) {
+        ::SendMessageW(child, WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(70, 30));
+        EXPECT_EQ(dialog.size, (std::vector<UINT>{SIZE_MAXIMIZED, 70, 30}));
+        HELPINFO info{};
+        info.cbSize = sizeof info;
+        info.iContextType = HELPINFO_WINDOW;
+        info.iCtrlId = IDC_QUALITY;
+        info.hItemHandle = ::GetDlgItem(child, IDC_QUALITY);
+        for (const BOOL answer : {FALSE, TRUE}) {
+            dialog.helpInfo = nullptr;
+            dialog.helpAnswer = answer;
+            EXPECT_EQ(::SendMessageW(child, WM_HELP, 0, reinterpret_cast<LPARAM>(&info)), answer);
+            EXPECT_EQ(dialog.helpInfo, &info);
+        }
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_FALSE(dialog.size.empty()) << "the dialog was shown";
+}
+
 // It has the code of a selection, but no control.
 TEST(ClassicHost, IgnoresAccelerators)
 {
