@@ -2,10 +2,12 @@
 
 #include <ovoui/files/core/ClassicEvents.h>
 #include <ovoui/frame/Exceptions.h>
+#include <ovoui/frame/MenuBelow.h>
 
 #include <ovocor/IntCast.h>
 
 #include <utility>
+#include <vector>
 
 #pragma GCC diagnostic ignored "-Winvalid-offsetof" // the parts of a class are found by their offset
 
@@ -70,10 +72,11 @@ BOOL COVOFileDialogImp::OnInitDialog()
     return result;
 }
 
-/// The system may let messages through before it shows the dialog; then this waits.
+/// The system may let messages through before it shows the dialog; then this waits. The child itself may stay
+/// hidden.
 LRESULT COVOFileDialogImp::OnPostInit(WPARAM wParam, LPARAM lParam)
 {
-    if (!IsWindowVisible()) {
+    if (!::IsWindowVisible(::GetAncestor(m_hWnd, GA_ROOT))) {
         ::SetTimer(m_hWnd, kPostInit, USER_TIMER_MINIMUM, &postAgain);
         return 0;
     }
@@ -132,21 +135,22 @@ void COVOFileDialogImp::tellOfSelection(WORD id, HWND control)
     m_owner->OnItemSelected(id, *item);
 }
 
-/// Below its button, as in the new-style dialog.
+/// Below its button, as in the new-style dialog. The menu's own numbers are places: an item of the host may
+/// have the number 0, which stands for no choice there.
 void COVOFileDialogImp::openMenu(WORD id)
 {
     m_owner->OnControlActivating(id);
     if (!m_hWnd)
         return; // the owner has destroyed the dialog
+    const std::vector<ovoui::MenuItem>& items = m_declared.menuItems(id);
     CMenu menu;
     menu.CreatePopupMenu();
-    for (const ovoui::MenuItem& item : m_declared.menuItems(id))
-        menu.AppendMenu(MF_STRING, item.id, item.label.c_str());
-    CRect button;
-    ::GetWindowRect(::GetDlgItem(m_hWnd, id), &button);
-    const int chosen = menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY, button.left, button.bottom, this);
-    if (chosen && m_hWnd)
-        m_owner->OnItemSelected(id, static_cast<DWORD>(chosen));
+    for (std::size_t place = 0; place < items.size(); ++place)
+        menu.AppendMenu(MF_STRING, place + 1, items[place].label.c_str());
+    const int chosen =
+        ovoui::frame::openBelow(menu, TPM_RETURNCMD | TPM_NONOTIFY, ::GetDlgItem(m_hWnd, id), *this);
+    if (chosen > 0 && m_hWnd)
+        m_owner->OnItemSelected(id, items[static_cast<std::size_t>(chosen) - 1].id);
 }
 
 BOOL COVOFileDialogImp::OnHelpInfo(HELPINFO* info)

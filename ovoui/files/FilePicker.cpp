@@ -76,12 +76,13 @@ std::optional<fs::path> firstOf(const std::vector<fs::path>& paths)
     return paths.empty() ? std::nullopt : std::optional(paths.front());
 }
 
-/// Without a new-style dialog for folders.
+/// Without a new-style dialog for folders. The older one would have no owner where no parent is given, and
+/// leave the main window enabled.
 std::vector<fs::path> browseForFolder(const FolderQuestion& question)
 {
     wchar_t path[MAX_PATH]{};
     ::lstrcpynW(path, question.folder.c_str(), MAX_PATH);
-    if (BrowseForDir(question.parent, question.title, path))
+    if (BrowseForDir(CWnd::GetSafeOwner(question.parent), question.title, path))
         return {fs::path(path)};
     return {};
 }

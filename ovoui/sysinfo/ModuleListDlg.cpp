@@ -1,6 +1,7 @@
 #include <ovoui/sysinfo/ModuleListDlg.h>
 
 #include <ovoui/frame/ClipboardText.h>
+#include <ovoui/frame/MenuBelow.h>
 #include <ovoui/frame/Module.h>
 #include <ovoui/sysinfo/LoadedModules.h>
 #include <ovoui/sysinfo/StretchedControls.h>
@@ -21,6 +22,7 @@ BEGIN_MESSAGE_MAP(CModuleListDlg, COVOModalDialog)
     ON_EN_CHANGE(IDC_MODULES_FILTER, &CModuleListDlg::OnFilterChange)
     ON_NOTIFY(LVN_COLUMNCLICK, IDC_MODULES_LIST, &CModuleListDlg::OnColumnClick)
     ON_NOTIFY(LVN_GETDISPINFO, IDC_MODULES_LIST, &CModuleListDlg::OnGetDispInfo)
+    ON_NOTIFY(LVN_ODFINDITEM, IDC_MODULES_LIST, &CModuleListDlg::OnFindItem)
     ON_NOTIFY(NM_CUSTOMDRAW, IDC_MODULES_LIST, &CModuleListDlg::OnCustomDraw)
     ON_BN_CLICKED(IDC_MODULES_COPY, &CModuleListDlg::OnCopyAs)
     ON_BN_CLICKED(IDC_MODULES_REFRESH, &CModuleListDlg::OnRefresh)
@@ -197,6 +199,19 @@ void CModuleListDlg::OnGetDispInfo(NMHDR* header, LRESULT* result)
     *result = 0;
 }
 
+/// For what the user types in the list. Without an answer the list would take its first row for the one that
+/// was found.
+void CModuleListDlg::OnFindItem(NMHDR* header, LRESULT* result)
+{
+    const auto& wanted = *reinterpret_cast<const NMLVFINDITEM*>(header);
+    *result = -1;
+    if (!(wanted.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) || !wanted.lvfi.psz)
+        return;
+    const auto start = static_cast<std::size_t>(std::max(wanted.iStart, 0));
+    if (const auto row = rowNamed(m_modules, m_visible, wanted.lvfi.psz, start))
+        *result = static_cast<LRESULT>(*row);
+}
+
 void CModuleListDlg::OnCustomDraw(NMHDR* header, LRESULT* result)
 {
     auto& draw = *reinterpret_cast<NMLVCUSTOMDRAW*>(header);
@@ -228,9 +243,7 @@ void CModuleListDlg::OnCopyAs()
     CMenu menu;
     if (!menu.LoadMenu(IDR_MODULES_COPY_MENU))
         return;
-    CRect button;
-    GetDlgItem(IDC_MODULES_COPY)->GetWindowRect(&button);
-    menu.GetSubMenu(0)->TrackPopupMenu(TPM_LEFTALIGN | TPM_LEFTBUTTON, button.left, button.bottom, this);
+    ovoui::frame::openBelow(*menu.GetSubMenu(0), TPM_LEFTBUTTON, GetDlgItem(IDC_MODULES_COPY)->m_hWnd, *this);
 }
 
 void CModuleListDlg::OnCopyAsFormat(UINT id)

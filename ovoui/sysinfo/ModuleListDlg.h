@@ -18,11 +18,11 @@ class StretchedControls;
 struct ModuleOrder;
 } // namespace ovoui::sysinfo
 
-/// A click on a heading sorts, another one turns the order round; the filter leaves the modules that hold all
-/// of its words. Modules without a version record or from other folders than the program's and the system's
-/// have a remark and another colour. The user copies what the list shows as text with tabs, as a Markdown
-/// table or as JSON: the selected modules, or all when none is selected. For that the host has called
-/// AfxOleInit.
+/// A click on a heading sorts, another one turns the order round; letters typed in the list lead to the next
+/// name that begins with them; the filter leaves the modules that hold all of its words. Modules without a
+/// version record or from other folders than the program's and the system's have a remark and another colour.
+/// The user copies what the list shows as text with tabs, as a Markdown table or as JSON: the selected
+/// modules, or all when none is selected. For that the host has called AfxOleInit.
 class OVOUI_API CModuleListDlg : public COVOModalDialog
 {
     DECLARE_DYNAMIC(CModuleListDlg)
@@ -41,6 +41,7 @@ protected:
     afx_msg void OnCopyAsFormat(UINT id);
     afx_msg void OnCustomDraw(NMHDR* header, LRESULT* result);
     afx_msg void OnFilterChange();
+    afx_msg void OnFindItem(NMHDR* header, LRESULT* result);
     afx_msg void OnGetDispInfo(NMHDR* header, LRESULT* result);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* info);
     afx_msg void OnRefresh();

@@ -7,6 +7,7 @@ namespace ovoui::sysinfo
 
 void StretchedControls::begin(CWnd& dialog)
 {
+    m_controls.clear(); // of a dialog that was shown before
     m_dialog = &dialog;
     CRect rect;
     dialog.GetWindowRect(&rect);

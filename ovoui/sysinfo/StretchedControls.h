@@ -14,7 +14,8 @@ namespace ovoui::sysinfo
 class StretchedControls
 {
 public:
-    /// The dialog has the size of its template now.
+    /// The dialog has the size of its template now, and its controls are to be added, each time that it is
+    /// made.
     void begin(CWnd& dialog);
     void add(int id, Stretch how) { m_controls.push_back({id, how}); }
 

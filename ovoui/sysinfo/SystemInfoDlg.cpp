@@ -65,6 +65,7 @@ void CSystemInfoDlg::useFixedFont()
     face.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
     ::lstrcpynW(face.lfFaceName, L"Courier New", LF_FACESIZE);
     face.lfWidth = 0;
+    m_fixedFont.DeleteObject(); // of a control that has gone
     if (m_fixedFont.CreateFontIndirect(&face))
         m_text.SetFont(&m_fixedFont, FALSE);
 }

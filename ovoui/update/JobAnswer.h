@@ -34,18 +34,38 @@ private:
     std::atomic<State> m_state;
 };
 
-/// Notes of progress, of which one at a time is on its way.
+/// Notes of progress, of which one at a time is on its way, and the end, which is told after all of them. One
+/// thread sends notes; the rest may be called on any.
 class ProgressNotes
 {
 public:
-    /// There is something new. Whether a note is to be sent.
-    bool toBeSent() noexcept { return !m_onItsWay.exchange(true); }
+    /// There is something new. Whether a note is to be sent; then `sent` is to be called.
+    bool toBeSent() noexcept
+    {
+        unsigned char before = m_state;
+        do {
+            if (before & (kOnItsWay | kEnded))
+                return false;
+        } while (!m_state.compare_exchange_weak(before, before | kOnItsWay | kBeingSent));
+        return true;
+    }
+
+    /// The note has been sent. False when the end has come meanwhile: then the sender tells of it.
+    bool sent() noexcept { return !(m_state.fetch_and(static_cast<unsigned char>(~kBeingSent)) & kEnded); }
 
     /// The receiver has looked.
-    void seen() noexcept { m_onItsWay = false; }
+    void seen() noexcept { m_state.fetch_and(static_cast<unsigned char>(~kOnItsWay)); }
+
+    /// There are no more notes. Whether the caller tells of the end; false while a note is being sent, whose
+    /// sender does.
+    bool end() noexcept { return !(m_state.fetch_or(kEnded) & kBeingSent); }
 
 private:
-    std::atomic<bool> m_onItsWay = false;
+    static constexpr unsigned char kOnItsWay = 1;
+    static constexpr unsigned char kBeingSent = 2;
+    static constexpr unsigned char kEnded = 4;
+
+    std::atomic<unsigned char> m_state = 0;
 };
 
 } // namespace ovoui::update

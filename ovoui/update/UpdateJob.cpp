@@ -31,10 +31,15 @@ public:
     }
     void progressed() override
     {
-        if (m_notes.toBeSent())
-            m_job.post(Progress);
+        if (!m_notes.toBeSent())
+            return;
+        m_job.post(Progress);
+        if (!m_notes.sent())
+            m_job.post(Answered); // cancelled meanwhile
     }
     void seen() noexcept { m_notes.seen(); }
+    /// No progress is told any more. False while it is being told: then the answer follows it.
+    bool end() noexcept { return m_notes.end(); }
 
 private:
     const UpdateJob& m_job;
@@ -66,7 +71,8 @@ void UpdateJob::cancel() noexcept
     if (!m_answer.claim())
         return;
     m_answer.give(State::Cancelled);
-    post(Answered);
+    if (m_control->end())
+        post(Answered);
 }
 
 UpdateJob::Bytes UpdateJob::progress() noexcept

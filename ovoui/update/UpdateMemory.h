@@ -14,7 +14,8 @@ public:
     /// What is known about `product`.
     explicit UpdateMemory(const std::wstring& product);
 
-    /// Whether the last check is `days` days or more ago, and no reminder is put off.
+    /// Whether the last check is `days` days or more ago, or the day has come for which the user was promised
+    /// a reminder; before that day nothing is due.
     bool isDue(int days) const;
     /// A check has been made now.
     void noteCheck();

@@ -106,6 +106,19 @@ TEST_F(BrowseTest, BeginsInTheNearestFolder)
     }
 }
 
+TEST_F(BrowseTest, BeginsInTheFolderOfTheNameUnlessItIsGone)
+{
+    File there{.folder = files.folder(), .path = files.path(L"below\\new.txt")};
+    auto answering = whenAsked().key(VK_RETURN).start();
+    EXPECT_TRUE(there.ask());
+    EXPECT_EQ(there.path, files.path(L"below\\new.txt"));
+
+    File gone{.folder = files.folder(), .path = files.path(L"gone\\new.txt")};
+    auto again = whenAsked().key(VK_RETURN).start();
+    EXPECT_TRUE(gone.ask());
+    EXPECT_EQ(gone.path, files.path(L"new.txt"));
+}
+
 TEST_F(BrowseTest, BeginsSomewhereWhenThereIsNoSuchFolder)
 {
     for (const std::wstring start : {L"", L"Q:\\gone", L"\\\\no-such-server\\share\\folder", L"gone"}) {

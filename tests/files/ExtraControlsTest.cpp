@@ -221,6 +221,51 @@ TEST(ExtraControlsOfTheClassicDialog, OpenTheirMenuBelowItsButton)
     EXPECT_EQ(menu.TopLeft(), CPoint(button.left, button.bottom));
 }
 
+TEST(ExtraControlsOfTheClassicDialog, OpenTheirMenuFromTheRightWhereTheDialogReadsFromThere)
+{
+    WithExtras dialog(Kind::Classic);
+    CRect button;
+    CRect menu;
+    DWORD style = 0;
+    auto answering =
+        whenAsked()
+            .then([&] { dialog.DialogWnd()->ModifyStyleEx(0, WS_EX_LAYOUTRTL, SWP_FRAMECHANGED); })
+            .click(&onMenuButton)
+            .waitFor("the menu", [] { return shownMenu() != nullptr; })
+            .then([&] {
+                ::GetWindowRect(menuButton(), &button);
+                ::GetWindowRect(shownMenu(), &menu);
+                style = static_cast<DWORD>(::GetWindowLongPtrW(shownMenu(), GWL_EXSTYLE));
+            })
+            .key(VK_ESCAPE)
+            .waitFor("the menu's end", [] { return shownMenu() == nullptr; })
+            .key(VK_ESCAPE)
+            .start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_NEAR(menu.right, button.right, 4);
+    EXPECT_NEAR(menu.top, button.bottom, 4);
+    EXPECT_TRUE(style & WS_EX_LAYOUTRTL);
+}
+
+TEST(ExtraControlsOfTheClassicDialog, TellAnItemWithTheNumberZero)
+{
+    WithExtras dialog(Kind::Classic);
+    dialog.AddMenuItem(IDC_OPEN_LIST, 0, L"Third");
+    const std::string chosen = event("ItemSelected", IDC_OPEN_LIST) + " 0";
+    auto answering = whenAsked()
+                         .click(&onMenuButton)
+                         .waitFor("the menu", [] { return shownMenu() != nullptr; })
+                         .key(VK_DOWN)
+                         .key(VK_DOWN)
+                         .key(VK_DOWN)
+                         .key(VK_RETURN)
+                         .waitFor("the menu's end", [] { return shownMenu() == nullptr; })
+                         .key(VK_ESCAPE)
+                         .start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(dialog.events, (std::vector<std::string>{event("ControlActivating", IDC_OPEN_LIST), chosen}));
+}
+
 TEST(ExtraControlsOfTheClassicDialog, MayDestroyTheOwnerBeforeTheirMenuOpens)
 {
     CWnd parent;

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <commdlg.h>
+#include <detail/modulestate.h>
 
 #include <cstring>
 
@@ -400,12 +401,12 @@ TEST(ClassicHost, IsToldThatTheDialogIsShownOnlyWhenItIs)
     FakeClassicDialog fake;
     HostDialog dialog(Kind::Classic);
     fake.onShow = [&](HWND child) {
-        ::ShowWindow(child, SW_HIDE);
+        ::ShowWindow(::GetParent(child), SW_HIDE);
         dialog.forgetEvents();
         EXPECT_EQ(::SendMessageW(child, kPostInit, 3, 4), 0);
         waitForTicks();
         EXPECT_EQ(dialog.count("PostInit 3 4") + dialog.count("PostInit 0 0"), 0);
-        ::ShowWindow(child, SW_SHOW);
+        ::ShowWindow(::GetParent(child), SW_SHOW);
         EXPECT_TRUE(GuiThread::runUntil([&] { return dialog.count("PostInit 0 0") > 0; }));
         waitForTicks();
         EXPECT_EQ(dialog.count("PostInit 0 0"), 1);
@@ -413,6 +414,20 @@ TEST(ClassicHost, IsToldThatTheDialogIsShownOnlyWhenItIs)
         EXPECT_EQ(dialog.count("PostInit 3 4"), 1);
     };
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+}
+
+TEST(ClassicHost, IsToldThatTheDialogIsShownAlsoWhenItHidesItsOwnControls)
+{
+    FakeClassicDialog fake;
+    HostDialog dialog(Kind::Classic);
+    dialog.on["InitDone"] = [&] { dialog.DialogWnd()->ShowWindow(SW_HIDE); };
+    fake.onShow = [&](HWND child) {
+        EXPECT_FALSE(::IsWindowVisible(child));
+        EXPECT_EQ(::SendMessageW(child, kPostInit, 3, 4), 1) << "the host's answer";
+        EXPECT_EQ(dialog.count("PostInit 3 4"), 1);
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(dialog.count("PostInit 0 0"), 1);
 }
 
 TEST(ClassicHost, ReadsControlsAsAWindowDoes)
@@ -504,6 +519,60 @@ TEST(ClassicHost, TellsOfSizesAndHelp)
     dialog.DoModal();
     // The framework has shown its help first, and said so.
     EXPECT_EQ(dialog.count("HelpInfo 1"), static_cast<int>(TestApp::instance().helps().size()));
+}
+
+namespace
+{
+
+/// Takes down what messages of the child dialog come with.
+class MessageNotingDialog : public COVOFileDialog
+{
+public:
+    MessageNotingDialog()
+        : COVOFileDialog(TRUE, nullptr, nullptr, 0, nullptr, nullptr, FALSE)
+    {
+        ofn->Flags |= OFN_ENABLETEMPLATE;
+        ofn->lpTemplateName = MAKEINTRESOURCE(IDD_CONTROLS);
+    }
+    std::vector<UINT> size; ///< type, width and height of the last one
+    HELPINFO* helpInfo = nullptr;
+    BOOL helpAnswer = FALSE;
+
+protected:
+    void OnSize(UINT type, int cx, int cy) override
+    {
+        size = {type, static_cast<UINT>(cx), static_cast<UINT>(cy)};
+    }
+    BOOL OnHelpInfo(HELPINFO* info, BOOL) override
+    {
+        helpInfo = info;
+        return helpAnswer;
+    }
+};
+
+} // namespace
+
+TEST(ClassicHost, IsGivenWhatTheMessagesOfSizesAndHelpHave)
+{
+    FakeClassicDialog fake;
+    MessageNotingDialog dialog;
+    fake.onShow = [&](HWND child) {
+        ::SendMessageW(child, WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(70, 30));
+        EXPECT_EQ(dialog.size, (std::vector<UINT>{SIZE_MAXIMIZED, 70, 30}));
+        HELPINFO info{};
+        info.cbSize = sizeof info;
+        info.iContextType = HELPINFO_WINDOW;
+        info.iCtrlId = IDC_QUALITY;
+        info.hItemHandle = ::GetDlgItem(child, IDC_QUALITY);
+        for (const BOOL answer : {FALSE, TRUE}) {
+            dialog.helpInfo = nullptr;
+            dialog.helpAnswer = answer;
+            EXPECT_EQ(::SendMessageW(child, WM_HELP, 0, reinterpret_cast<LPARAM>(&info)), answer);
+            EXPECT_EQ(dialog.helpInfo, &info);
+        }
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_FALSE(dialog.size.empty()) << "the dialog was shown";
 }
 
 // It has the code of a selection, but no control.
@@ -642,6 +711,54 @@ TEST(ClassicHostDeathTest, NamesAnOperationOfTheNewStyleThatIsCalled)
 }
 
 // The new-style path
+
+namespace
+{
+
+/// Takes down the module state in which its handlers are called.
+class StateNotingDialog : public COVOFileDialog
+{
+public:
+    StateNotingDialog()
+        : COVOFileDialog(TRUE, nullptr, nullptr, 0, nullptr, nullptr, TRUE)
+    {
+    }
+    std::vector<AFX_MODULE_STATE*> states;
+
+protected:
+    void OnItemSelected(DWORD, DWORD) override { note(); }
+    void OnButtonClicked(DWORD) override { note(); }
+    void OnCheckButtonToggled(DWORD, BOOL) override { note(); }
+    void OnControlActivating(DWORD) override { note(); }
+
+private:
+    void note() { states.push_back(AfxGetModuleState()); }
+};
+
+} // namespace
+
+TEST(NewStyleHost, IsToldOfItsControlsInTheModuleStateThatItWasMadeIn)
+{
+    FakeShellDialog fake;
+    StateNotingDialog dialog;
+    AFX_MODULE_STATE other;
+    fake.onShow = [&](IFileDialogEvents& events) {
+        IFileDialogControlEvents* controls = nullptr;
+        events.QueryInterface(IID_IFileDialogControlEvents, reinterpret_cast<void**>(&controls));
+        {
+            const AFX_MAINTAIN_STATE foreign(&other);
+            EXPECT_EQ(controls->OnItemSelected(nullptr, 1, 2), S_OK);
+            EXPECT_EQ(controls->OnButtonClicked(nullptr, 1), S_OK);
+            EXPECT_EQ(controls->OnCheckButtonToggled(nullptr, 1, TRUE), S_OK);
+            EXPECT_EQ(controls->OnControlActivating(nullptr, 1), S_OK);
+            EXPECT_EQ(AfxGetModuleState(), &other) << "for the call alone";
+        }
+        controls->Release();
+        return HRESULT_FROM_WIN32(ERROR_CANCELLED);
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(dialog.states, std::vector<AFX_MODULE_STATE*>(4, AfxGetModuleState()));
+}
 
 TEST(NewStyleHost, ReadsNumbersAsFarAsTheyGo)
 {

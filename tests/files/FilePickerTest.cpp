@@ -10,6 +10,8 @@
 
 #include <shlobj.h>
 
+#include <utility>
+
 using namespace ovo::testkit;
 namespace fs = std::filesystem;
 
@@ -26,12 +28,14 @@ protected:
 /// The system's older dialog for folders, which the test answers.
 struct OlderDialog
 {
+    static inline HWND owner = nullptr;
     static inline std::wstring title;
     static inline std::wstring start;
     static inline std::wstring answer;
 
     static LPITEMIDLIST WINAPI ask(LPBROWSEINFOW question)
     {
+        owner = question->hwndOwner;
         title = question->lpszTitle;
         start = reinterpret_cast<const wchar_t*>(question->lParam);
         return ::ILCreateFromPathW(answer.c_str());
@@ -177,6 +181,35 @@ TEST_F(FilePicker, AFolderOfTheOlderDialogIsGiven)
     EXPECT_EQ(OlderDialog::title, L"Where to?");
     EXPECT_EQ(OlderDialog::start, files.folder());
     EXPECT_EQ(pickFolders(question), std::vector<fs::path>{files.path(L"below")});
+}
+
+TEST_F(FilePicker, TheOlderDialogForFoldersBelongsToTheParentOrElseToTheMainWindow)
+{
+    FakeShellDialog fake;
+    fake.creation = REGDB_E_CLASSNOTREG;
+    const ImportPatch patch(L"ovoui.dll", "SHBrowseForFolderW", reinterpret_cast<void*>(&OlderDialog::ask));
+    CWnd main;
+    CWnd parent;
+    for (CWnd* const window : {&main, &parent})
+        window->CreateEx(0, AfxRegisterWndClass(0), L"Window", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr);
+    struct MainWindow
+    {
+        explicit MainWindow(CWnd& window)
+            : before(std::exchange(AfxGetThread()->m_pMainWnd, &window))
+        {
+        }
+        ~MainWindow() { AfxGetThread()->m_pMainWnd = before; }
+        CWnd* before;
+    };
+    {
+        const MainWindow given(main);
+        pickFolder({});
+        EXPECT_EQ(OlderDialog::owner, main.m_hWnd);
+        pickFolders({.parent = &parent});
+        EXPECT_EQ(OlderDialog::owner, parent.m_hWnd);
+    }
+    parent.DestroyWindow();
+    main.DestroyWindow();
 }
 
 TEST_F(FilePicker, HandsOverNameTypeAndTheExtensionWithoutItsPeriod)

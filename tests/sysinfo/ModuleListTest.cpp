@@ -167,6 +167,59 @@ TEST_F(ModuleList, TheButtonOpensTheMenuOfForms)
     EXPECT_NEAR(menu.top, button.bottom, 4);
 }
 
+TEST_F(ModuleList, TheMenuOfFormsReadsFromTheRightWhereTheDialogDoes)
+{
+    dialog.ModifyStyleEx(0, WS_EX_LAYOUTRTL, SWP_FRAMECHANGED);
+    CRect button;
+    CRect menu;
+    DWORD style = 0;
+    const HWND copy = dialog.GetDlgItem(IDC_MODULES_COPY)->m_hWnd;
+    Robot()
+        .click(Spot{copy})
+        .waitFor("the menu", [] { return shownMenu() != nullptr; })
+        .then([&] {
+            ::GetWindowRect(copy, &button);
+            ::GetWindowRect(shownMenu(), &menu);
+            style = static_cast<DWORD>(::GetWindowLongPtrW(shownMenu(), GWL_EXSTYLE));
+        })
+        .key(VK_ESCAPE)
+        .waitFor("no menu", [] { return shownMenu() == nullptr; });
+    EXPECT_NEAR(menu.right, button.right, 4);
+    EXPECT_NEAR(menu.top, button.bottom, 4);
+    EXPECT_TRUE(style & WS_EX_LAYOUTRTL);
+}
+
+TEST_F(ModuleList, ALetterInTheListLeadsToTheNextNameWithIt)
+{
+    const std::vector<std::wstring> names = column(0);
+    const auto begins = [](const std::wstring& name) { return lowercase(name).starts_with(L"t"); };
+    const auto next = std::find_if(names.begin() + 1, names.end(), begins);
+    ASSERT_NE(next, names.end()) << "this program's own name begins so";
+    const int row = static_cast<int>(next - names.begin());
+    list->SetFocus();
+    Robot().type(L"t");
+    EXPECT_EQ(list->GetNextItem(-1, LVNI_FOCUSED), row);
+    EXPECT_EQ(list->GetNextItem(-1, LVNI_SELECTED), row);
+    Robot().type(L"~"); // no name has it, wherever it stands
+    EXPECT_EQ(list->GetNextItem(-1, LVNI_FOCUSED), row);
+}
+
+TEST_F(ModuleList, ASearchForSomethingElseThanATextFindsNothing)
+{
+    NMLVFINDITEM search{};
+    search.hdr = {list->m_hWnd, IDC_MODULES_LIST, static_cast<UINT>(LVN_ODFINDITEM)};
+    const auto found = [&] {
+        return dialog.SendMessage(WM_NOTIFY, IDC_MODULES_LIST, reinterpret_cast<LPARAM>(&search));
+    };
+    search.lvfi.flags = LVFI_NEARESTXY;
+    EXPECT_EQ(found(), -1);
+    search.lvfi.flags = LVFI_STRING | LVFI_PARTIAL;
+    EXPECT_EQ(found(), -1) << "no text";
+    search.lvfi.psz = L"";
+    search.iStart = -1;
+    EXPECT_EQ(found(), 0) << "every name begins so";
+}
+
 TEST_F(ModuleList, AFailureIsShownAndTheListStays)
 {
     const ImportPatch patch(
@@ -188,4 +241,28 @@ TEST_F(ModuleList, TheListGrowsWithTheDialog)
     CRect after;
     list->GetWindowRect(&after);
     EXPECT_EQ(after.Size(), before.Size() + CSize(80, 60));
+}
+
+TEST(ModuleListDialog, ShownAgainItGrowsAsTheFirstTime)
+{
+    CModuleListDlg dialog;
+    for (int time = 1; time <= 2; ++time) {
+        CRect before;
+        CRect after;
+        auto story = Robot()
+                         .waitFor("the dialog", [] { return shownDialog() != nullptr; })
+                         .then([&] {
+                             CWnd* const list = dialog.GetDlgItem(IDC_MODULES_LIST);
+                             list->GetWindowRect(&before);
+                             CRect window;
+                             dialog.GetWindowRect(&window);
+                             dialog.SetWindowPos(nullptr, 0, 0, window.Width() + 40, window.Height() + 30,
+                                                 SWP_NOMOVE | SWP_NOZORDER);
+                             list->GetWindowRect(&after);
+                         })
+                         .key(VK_ESCAPE)
+                         .start();
+        EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+        EXPECT_EQ(after.Size(), before.Size() + CSize(40, 30)) << "time " << time;
+    }
 }

@@ -353,6 +353,35 @@ TEST_F(SystemInfo, RunsModallyAndClosesByKeyboard)
     EXPECT_TRUE(dialog.IsKindOf(RUNTIME_CLASS(CSystemInfoDlg)));
 }
 
+TEST_F(SystemInfo, ShownAgainItIsAsTheFirstTime)
+{
+    CSystemInfoDlg dialog;
+    for (int time = 1; time <= 2; ++time) {
+        CRect before;
+        CRect after;
+        bool fixed = false;
+        const auto copyRect = [](CRect& rect) { ::GetWindowRect(::GetDlgItem(shownDialog(), kCopy), &rect); };
+        auto story = Robot()
+                         .waitFor("the dialog", [] { return shownDialog() != nullptr; })
+                         .then([&] {
+                             copyRect(before);
+                             CRect window;
+                             ::GetWindowRect(shownDialog(), &window);
+                             ::SetWindowPos(shownDialog(), nullptr, 0, 0, window.Width() + 40,
+                                            window.Height() + 30, SWP_NOMOVE | SWP_NOZORDER);
+                             copyRect(after);
+                             LOGFONT face{};
+                             dialog.GetDlgItem(kText)->GetFont()->GetLogFont(&face);
+                             fixed = std::wstring(face.lfFaceName) == L"Courier New";
+                         })
+                         .key(VK_ESCAPE)
+                         .start();
+        EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+        EXPECT_EQ(after, CRect(before + CPoint(40, 30))) << "time " << time;
+        EXPECT_TRUE(fixed) << "time " << time;
+    }
+}
+
 TEST_F(SystemInfo, TheMachineComesFirstOnRequest)
 {
     class Dialog : public CSystemInfoDlg

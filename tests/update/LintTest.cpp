@@ -93,6 +93,20 @@ TEST(UpdateLint, NamesTheLineOfEveryMistake)
     EXPECT_TRUE(outcome.output.ends_with("lint-test.csv: 2 errors, 1 warnings\n"));
 }
 
+TEST(UpdateLint, NamesTheFirstLineWithLettersOfACodePage)
+{
+    const ListFile list(std::string(kColumns) + "#update,Board,,,,11,12.0,https://example.org/12,News\r\n"
+                                                "#update,Board,,,,10,11.0,https://example.org/11,Gr\xFC\xDF"
+                                                "e\r\n"
+                                                "#update,Board,,,,9,10.0,https://example.org/10,M\xFC"
+                                                "he\r\n");
+    const Outcome outcome = run(ListFile::kName);
+    EXPECT_EQ(outcome.code, 0u);
+    EXPECT_TRUE(outcome.output.starts_with("lint-test.csv:3: warning: The list is neither UTF-8 nor UTF-16"))
+        << outcome.output;
+    EXPECT_TRUE(outcome.output.ends_with("lint-test.csv: 0 errors, 1 warnings\n")) << outcome.output;
+}
+
 TEST(UpdateLint, WithoutAListItSaysHowItIsUsed)
 {
     EXPECT_EQ(run(L"").code, 2u);

@@ -122,6 +122,23 @@ TEST_F(PoliteCheck, LaterIsAFewDaysFromNow)
     EXPECT_TRUE(g_opened.empty());
 }
 
+TEST_F(PoliteCheck, TheReminderComesInItsDaysAndNotWithTheNextLook)
+{
+    checkAndClick(IDC_UPDATE_LATER);
+    pass(2);
+    check();
+    EXPECT_EQ(server.requests().size(), 1u);
+    pass(1);
+    checkAndClick(IDOK);
+    EXPECT_EQ(g_opened.size(), 1u);
+    pass(6);
+    check();
+    EXPECT_EQ(server.requests().size(), 2u) << "it comes once";
+    pass(1);
+    checkAndClick(IDOK);
+    EXPECT_EQ(g_opened.size(), 2u);
+}
+
 TEST_F(PoliteCheck, ClosingTheDialogPutsItOffToo)
 {
     auto answering =

@@ -1,6 +1,7 @@
 // The check on a thread of the host's: progress, cancelling, the answer posted to a window.
 #include "ovocor/LoopbackServer.h"
 #include <support/Raising.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/Robot.h>
 
 #include <ovoui/update/UpdateJob.h>
@@ -24,6 +25,16 @@ constexpr UINT kMessage = WM_APP + 7;
 constexpr char kList[] =
     "UpdateType,Product,Options,OS,Processor,Version,UpdateVersion,UpdateInfo,UpdateDescription\n"
     "#update,Board,,,,,12,http://example.org/12,News\n";
+
+UpdateJob* g_cancelled = nullptr;
+
+/// Posts a message of progress after the job has been cancelled, as by another thread in between.
+BOOL WINAPI postAfterCancelling(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == kMessage && wParam == UpdateJob::Progress)
+        g_cancelled->cancel();
+    return ::PostMessageW(window, message, wParam, lParam);
+}
 
 /// The window that the answer is posted to.
 class Host : public CWnd
@@ -189,6 +200,25 @@ TEST_F(UpdateJobs, CancellingEndsAListThatStopsInTheMiddle)
     waitForAnswer();
     EXPECT_EQ(job->state(), UpdateJob::State::Cancelled);
     over->set_value();
+}
+
+TEST_F(UpdateJobs, TheAnswerIsTheLastMessageAlsoWhenItIsCancelledWhileProgressIsTold)
+{
+    server.answer("/updates.csv", LoopbackServer::page("200 OK", kList));
+    std::function<void()> later;
+    const auto job =
+        UpdateJob::start(question(), host, kMessage, [&](std::function<void()> work) { later = work; });
+    g_cancelled = job.get();
+    const ImportPatch patch(L"ovoui.dll", "PostMessageW", reinterpret_cast<void*>(&postAfterCancelling));
+    later();
+    g_cancelled = nullptr;
+    EXPECT_EQ(job->state(), UpdateJob::State::Cancelled);
+    MSG message;
+    while (::PeekMessageW(&message, host, kMessage, kMessage, PM_REMOVE))
+        ::DispatchMessageW(&message);
+    ASSERT_EQ(host.events.size(), 2u);
+    EXPECT_EQ(host.events[0].first, UpdateJob::Progress);
+    EXPECT_EQ(host.events[1].first, UpdateJob::Answered);
 }
 
 TEST_F(UpdateJobs, CancelledBeforeItBeginsItSendsNoRequest)

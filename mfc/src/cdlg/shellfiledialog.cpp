@@ -46,6 +46,16 @@ std::wstring fullPath(const std::wstring& path)
     return full;
 }
 
+/// Whether the dialog begins in this folder now; not when there is none.
+bool beginIn(IFileDialog& dialog, const std::wstring& folder)
+{
+    Reference<IShellItem> item;
+    return !folder.empty() &&
+           SUCCEEDED(::SHCreateItemFromParsingName(fullPath(folder).c_str(), nullptr, IID_IShellItem,
+                                                   reinterpret_cast<void**>(&item))) &&
+           SUCCEEDED(dialog.SetFolder(item.get()));
+}
+
 /// The path in the file system; empty for what is not there.
 std::wstring pathOf(IShellItem& item)
 {
@@ -171,20 +181,13 @@ void CFileDialog::ApplyOFNToShellDialog()
     applyFolderAndName();
 }
 
-/// A folder in the file name goes before the initial folder.
+/// A folder in the file name goes before the initial folder, unless it is gone.
 void CFileDialog::applyFolderAndName()
 {
     const std::wstring file = m_ofn.lpstrFile ? m_ofn.lpstrFile : L"";
     const afxdetail::PathParts parts = afxdetail::splitPath(file);
-    std::wstring folder(parts.folder);
-    if (folder.empty() && m_ofn.lpstrInitialDir)
-        folder = m_ofn.lpstrInitialDir;
-    if (!folder.empty()) {
-        Reference<IShellItem> item;
-        if (SUCCEEDED(::SHCreateItemFromParsingName(fullPath(folder).c_str(), nullptr, IID_IShellItem,
-                                                    reinterpret_cast<void**>(&item))))
-            m_pIFileDialog->SetFolder(item.get());
-    }
+    if (!beginIn(*m_pIFileDialog, std::wstring(parts.folder)) && m_ofn.lpstrInitialDir)
+        beginIn(*m_pIFileDialog, m_ofn.lpstrInitialDir);
     if (!parts.name.empty())
         m_pIFileDialog->SetFileName(std::wstring(parts.name).c_str());
 }

@@ -183,6 +183,19 @@ std::vector<std::size_t> modulesToCopy(const std::vector<std::size_t>& rows,
     return selected.empty() ? rows : selected;
 }
 
+std::optional<std::size_t> rowNamed(const std::vector<LoadedModule>& modules,
+                                    const std::vector<std::size_t>& rows, std::wstring_view beginning,
+                                    std::size_t start)
+{
+    const std::wstring wanted = folded(beginning);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const std::size_t row = (start + i) % rows.size();
+        if (folded(modules[rows[row]].name).starts_with(wanted))
+            return row;
+    }
+    return std::nullopt;
+}
+
 std::vector<std::size_t> visibleModules(const std::vector<LoadedModule>& modules, std::wstring_view filter,
                                         const ModuleOrder& order, const RemarkTexts& remarks)
 {

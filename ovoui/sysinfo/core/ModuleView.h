@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -90,6 +91,12 @@ Ink remarkInk(const Ink& window);
 /// selected. `isSelected` is asked by row.
 std::vector<std::size_t> modulesToCopy(const std::vector<std::size_t>& rows,
                                        const std::function<bool(std::size_t row)>& isSelected);
+
+/// The row whose module has a name that begins with `beginning`, letters in any case: the first one from
+/// `start` on, or before it when none follows. None when no row has such a name.
+std::optional<std::size_t> rowNamed(const std::vector<LoadedModule>& modules,
+                                    const std::vector<std::size_t>& rows, std::wstring_view beginning,
+                                    std::size_t start);
 
 /// The indices of the modules that hold every word of `filter` in some column, letters in any case, in order:
 /// addresses, sizes and versions by their numbers, the rest by letters. Equal ones stay as they stand.

@@ -125,8 +125,11 @@ void ListLint::examine(const OVO::CSVRecord& record)
         return;
     if (first)
         report(Weight::Warning, L"The first row is not the names of the columns.");
-    examineType(row.text(Column::UpdateType));
-    if (row.text(Column::UpdateType) != L"#update")
+    const std::wstring_view type = row.text(Column::UpdateType);
+    examineType(type);
+    if (type == kIssueKind)
+        examineIssue(row.text(Column::UpdateVersion));
+    if (type != kUpdateKind)
         return;
     m_hasUpdates = true;
     examineConditions(row);
@@ -136,13 +139,22 @@ void ListLint::examine(const OVO::CSVRecord& record)
 
 void ListLint::examineType(std::wstring_view type)
 {
-    if (type == L"#update" || type == L"#issue")
+    if (type == kUpdateKind || type == kIssueKind)
         return;
     const std::wstring plain = lower(trimmed(type));
-    if (plain == L"#update" || plain == L"update")
-        report(Weight::Error, quoted(type) + L" is not #update: the row is skipped.");
-    else
-        report(Weight::Warning, L"Rows of the kind " + quoted(type) + L" are skipped.");
+    for (const std::wstring_view kind : {kUpdateKind, kIssueKind})
+        if (plain == kind || plain == kind.substr(1))
+            return report(Weight::Error,
+                          quoted(type) + L" is not " + std::wstring(kind) + L": the row is skipped.");
+    report(Weight::Warning, L"Rows of the kind " + quoted(type) + L" are skipped.");
+}
+
+void ListLint::examineIssue(std::wstring_view number)
+{
+    constexpr std::wstring_view kNone;
+    if (!wasIssuedBefore(kNone, number))
+        report(Weight::Error,
+               quoted(number) + L" is no number of a list: this one is older than all that have one.");
 }
 
 void ListLint::examineConditions(const UpdateRow& row)

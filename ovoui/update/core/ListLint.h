@@ -46,6 +46,7 @@ private:
     void examineRows();
     void examine(const OVO::CSVRecord& record);
     void examineType(std::wstring_view type);
+    void examineIssue(std::wstring_view number);
     void examineConditions(const UpdateRow& row);
     void examineOffer(const UpdateRow& row);
     void examineOrder(const UpdateRow& row);

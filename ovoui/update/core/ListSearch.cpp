@@ -4,12 +4,6 @@
 
 namespace ovoui::update
 {
-namespace
-{
-
-constexpr std::wstring_view kIssue = L"#issue";
-
-} // namespace
 
 UpdateRow rowOf(const OVO::CSVRecord& record)
 {
@@ -47,7 +41,7 @@ void ListSearch::examineRows()
             throw IncompleteRow{record->line};
         if (isFor(row, m_running))
             m_offer = offerOf(row);
-        else if (row.text(Column::UpdateType) == kIssue)
+        else if (row.text(Column::UpdateType) == kIssueKind)
             m_issue = row.text(Column::UpdateVersion);
     }
 }

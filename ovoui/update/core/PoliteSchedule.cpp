@@ -15,6 +15,8 @@ bool PoliteSchedule::isDue(std::int64_t now, int days) const
 {
     if (remindAt > now && remindAt - now <= kYear)
         return false;
+    if (remindAt > lastCheck && remindAt <= now)
+        return true;
     return lastCheck == 0 || lastCheck > now || now - lastCheck >= days * kDay;
 }
 

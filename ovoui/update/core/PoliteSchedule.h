@@ -15,8 +15,9 @@ struct PoliteSchedule
     std::int64_t remindAt = 0;
     std::wstring skipped; ///< a version that the user does not want to hear of
 
-    /// Whether a check every so many days is due. A clock that was set back does not put checks off for ever:
-    /// a last check in the future, or a reminder more than a year ahead, does not count.
+    /// Whether a check every so many days is due, or the reminder that the user wants. None is due before the
+    /// reminder. A clock that was set back does not put checks off for ever: a last check in the future, or a
+    /// reminder more than a year ahead, does not count.
     bool isDue(std::int64_t now, int days) const;
 
     /// Whether this version is the one that the user does not want to hear of.

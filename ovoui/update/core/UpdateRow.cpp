@@ -5,7 +5,6 @@ namespace ovoui::update
 namespace
 {
 
-constexpr std::wstring_view kUpdate = L"#update";
 constexpr std::wstring_view kAny = L"*";
 
 bool allows(std::wstring_view field, std::wstring_view value)
@@ -35,7 +34,7 @@ bool isComplete(const UpdateRow& row)
 
 bool isFor(const UpdateRow& row, const RunningProduct& running)
 {
-    return row.text(Column::UpdateType) == kUpdate && row.text(Column::Product) == running.product &&
+    return row.text(Column::UpdateType) == kUpdateKind && row.text(Column::Product) == running.product &&
            allows(row.text(Column::Options), running.options) &&
            allows(row.text(Column::OS), running.system) &&
            allows(row.text(Column::Processor), running.processor) &&

@@ -27,6 +27,11 @@ enum class Column : std::size_t
     Count
 };
 
+// The kinds of rows that count, by their UpdateType
+inline constexpr std::wstring_view kUpdateKind = L"#update";
+inline constexpr std::wstring_view kIssueKind =
+    L"#issue"; ///< has the number of the list as its UpdateVersion
+
 /// The names of the columns, as the row of a list.
 extern const wchar_t* const kUpdateColumns;
 

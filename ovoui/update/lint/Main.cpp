@@ -30,14 +30,32 @@ void say(FILE* stream, const std::wstring& text)
     std::fwrite(bytes.data(), 1, static_cast<std::size_t>(size), stream);
 }
 
+bool isPlain(const std::wstring& line)
+{
+    return std::ranges::all_of(line, [](wchar_t c) { return c < 0x80; });
+}
+
 std::vector<Finding> findingsIn(const std::wstring& path)
 {
     OVO::TextReader reader(path);
     ListLint lint;
     std::wstring line;
-    while (reader.readLine(line))
+    std::size_t lines = 0;
+    std::size_t letters = 0; // the first line with letters that not every code page has
+    while (reader.readLine(line)) {
+        ++lines;
+        if (letters == 0 && !isPlain(line))
+            letters = lines;
         lint.feedLine(line);
-    return lint.finish();
+    }
+    std::vector<Finding> findings = lint.finish();
+    if (reader.encoding() == OVO::TextEncoding::Ansi) {
+        findings.push_back(
+            {std::max<std::size_t>(letters, 1), Finding::Weight::Warning,
+             L"The list is neither UTF-8 nor UTF-16: other machines read other letters here."});
+        std::ranges::stable_sort(findings, {}, &Finding::line);
+    }
+    return findings;
 }
 
 int report(const std::wstring& path, const std::vector<Finding>& findings)

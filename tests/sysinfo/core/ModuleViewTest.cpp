@@ -153,6 +153,25 @@ TEST(ModuleView, RemarksStandOutFromLightAndDarkWindows)
     }
 }
 
+TEST(ModuleView, ANameIsFoundByItsBeginningFromARowOnAndRound)
+{
+    const std::vector<LoadedModule> modules{module(L"beta.dll"), module(L"Alpha.dll"), module(L"alpine.dll"),
+                                            module(L"gamma.dll")};
+    const std::vector<std::size_t> rows{1, 2, 0}; // gamma is not shown
+    const struct
+    {
+        const wchar_t* beginning;
+        std::size_t start;
+        std::optional<std::size_t> row;
+    } cases[] = {{L"a", 0, 0},      {L"A", 1, 1},          {L"a", 2, 0}, {L"alpi", 0, 1},
+                 {L"b", 0, 2},      {L"beta.dll", 2, 2},   {L"a", 3, 0}, {L"lpha", 0, {}},
+                 {L"gamma", 0, {}}, {L"alpha.dll.", 0, {}}};
+    for (const auto& [beginning, start, row] : cases)
+        EXPECT_EQ(rowNamed(modules, rows, beginning, start), row)
+            << testing::PrintToString(beginning) << " from " << start;
+    EXPECT_EQ(rowNamed(modules, {}, L"a", 0), std::nullopt);
+}
+
 TEST(ModuleView, TheSelectedRowsAreCopiedOrAll)
 {
     const std::vector<std::size_t> rows{7, 3, 9, 0};

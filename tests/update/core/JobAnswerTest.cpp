@@ -86,8 +86,62 @@ TEST(ProgressNotes, OneAtATimeIsOnItsWay)
     EXPECT_FALSE(notes.toBeSent());
     notes.seen();
     EXPECT_TRUE(notes.toBeSent());
+    EXPECT_TRUE(notes.sent());
     notes.seen();
     notes.seen();
     EXPECT_TRUE(notes.toBeSent());
     EXPECT_FALSE(notes.toBeSent());
+}
+
+TEST(ProgressNotes, WhatWasSeenBeforeItsSenderIsDoneIsNoMoreOnItsWay)
+{
+    ProgressNotes notes;
+    EXPECT_TRUE(notes.toBeSent());
+    notes.seen();
+    EXPECT_TRUE(notes.sent());
+    EXPECT_TRUE(notes.toBeSent());
+}
+
+TEST(ProgressNotes, TheEndIsToldOnceAndLastInWhateverOrderTheStepsAreTaken)
+{
+    std::string order = "esss"; // the end, and the steps of a sender
+    int orders = 0;
+    do {
+        ProgressNotes notes;
+        std::string told;
+        bool sending = false;
+        int step = 0;
+        for (const char who : order) {
+            if (who == 'e')
+                told += notes.end() ? "E" : "";
+            else if (++step == 1)
+                sending = notes.toBeSent();
+            else if (sending)
+                told += step == 2 ? "P" : notes.sent() ? "" : "E";
+        }
+        EXPECT_EQ(told, order[0] == 'e' ? "E" : "PE") << order;
+        EXPECT_FALSE(notes.toBeSent()) << order;
+        notes.seen();
+        EXPECT_FALSE(notes.toBeSent()) << order << ": nothing comes after the end";
+        ++orders;
+    } while (std::next_permutation(order.begin(), order.end()));
+    EXPECT_EQ(orders, 4);
+}
+
+TEST(ProgressNotes, OfTwoThreadsOneTellsOfTheEnd)
+{
+    for (int round = 0; round < 50; ++round) {
+        ProgressNotes notes;
+        int ends = 0;
+        std::thread sender([&] {
+            while (notes.toBeSent()) {
+                if (!notes.sent())
+                    ++ends;
+                notes.seen();
+            }
+        });
+        const bool own = notes.end();
+        sender.join();
+        EXPECT_EQ(ends + (own ? 1 : 0), 1);
+    }
 }

@@ -25,6 +25,7 @@ std::vector<Finding> findings(std::initializer_list<const wchar_t*> rows)
 TEST(ListLint, AGoodListHasNoFindings)
 {
     EXPECT_TRUE(findings({kGood}).empty());
+    EXPECT_TRUE(findings({L"#issue,-,,,,,2024.7,-", kGood}).empty());
     EXPECT_TRUE(findings({L"#issue,-,,,,,7,-", L"", kGood,
                           L"#update,Board,,*,*,,12,ftp://example.org/12,\"With, a comma\""})
                     .empty());
@@ -42,6 +43,12 @@ TEST(ListLint, EveryMistakeIsFoundWhereItIs)
                 {L"<html>", Weight::Error, L"required field is missing"},
                 {L"#Update,Board,,,,,13,http://x/,", Weight::Error, L"is not #update"},
                 {L" update,Board,,,,,13,http://x/,", Weight::Error, L"is not #update"},
+                {L"#Issue,-,,,,,7,-", Weight::Error, L"is not #issue"},
+                {L"issue ,-,,,,,7,-", Weight::Error, L"is not #issue"},
+                {L"#issue,-,,,,,v7,-", Weight::Error, L"\"v7\" is no number of a list"},
+                {L"#issue,-,,,,,,-", Weight::Error, L"is no number of a list"},
+                {L"#issue,-,,,,,0,-", Weight::Error, L"is no number of a list"},
+                {L"#issue,-,,,,,*,-", Weight::Error, L"is no number of a list"},
                 {L"#news,Board,,,,,13,http://x/,", Weight::Warning, L"are skipped"},
                 {L"#update,,,,,,13,http://x/,", Weight::Error, L"product is empty"},
                 {L"#update,Board ,,,,,13,http://x/,", Weight::Warning, L"blanks at its ends"},

@@ -36,7 +36,18 @@ TEST(PoliteSchedule, AReminderPutsItOff)
     EXPECT_TRUE((PoliteSchedule{0, kNow, {}}.isDue(kNow, 0)));
     EXPECT_FALSE((PoliteSchedule{0, kNow + 366 * kDay, {}}.isDue(kNow, 0)));
     EXPECT_TRUE((PoliteSchedule{0, kNow + 366 * kDay + 1, {}}.isDue(kNow, 0))) << "not for ever";
-    EXPECT_FALSE((PoliteSchedule{kNow - kDay, kNow - 1, {}}.isDue(kNow, 7))) << "both count";
+}
+
+TEST(PoliteSchedule, AReminderDoesNotWaitForTheNextCheck)
+{
+    const std::int64_t last = kNow - 3 * kDay;
+    EXPECT_FALSE((PoliteSchedule{last, kNow + 1, {}}.isDue(kNow, 7)));
+    EXPECT_TRUE((PoliteSchedule{last, kNow, {}}.isDue(kNow, 7)));
+    EXPECT_TRUE((PoliteSchedule{last, kNow - kDay, {}}.isDue(kNow, 7))) << "the program did not run that day";
+    EXPECT_FALSE((PoliteSchedule{last, last, {}}.isDue(kNow, 7))) << "a check since has reminded";
+    EXPECT_FALSE((PoliteSchedule{last, last - kDay, {}}.isDue(kNow, 7)));
+    EXPECT_FALSE((PoliteSchedule{last, 0, {}}.isDue(kNow, 7))) << "none was wanted";
+    EXPECT_FALSE((PoliteSchedule{kNow - 7 * kDay, kNow + 1, {}}.isDue(kNow, 7))) << "not before it either";
 }
 
 TEST(PoliteSchedule, TimesAreNumbers)
