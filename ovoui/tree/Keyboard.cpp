@@ -151,7 +151,7 @@ void MultiTreeCtrl::Keyboard::perform(Action action, HTREEITEM goal, const Defau
         tree().EnsureVisible(goal);
         break;
     case Action::SelectAlone:
-        tree().doSelectItem(goal);
+        selection.choose(goal, way);
         break;
     case Action::SelectRange:
         selection.selectRange(goal, way);
