@@ -38,8 +38,16 @@ CPoint placeAt(const CTreeCtrl& tree, HTREEITEM item)
     return place;
 }
 
+bool isOnScrollBar(const CWnd& wnd, CPoint screen)
+{
+    const LRESULT hit = wnd.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(screen.x, screen.y));
+    return hit == HTVSCROLL || hit == HTHSCROLL;
+}
+
 } // namespace
 
+/// A scroll bar has a menu of the system's.
+///
 /// To show the caret, nodes around it may be asked to open, which may do anything to the tree. Where they
 /// refuse, the menu opens at the item that hides the caret.
 void MultiTreeCtrl::OnContextMenu(CWnd*, CPoint screen)
@@ -47,6 +55,10 @@ void MultiTreeCtrl::OnContextMenu(CWnd*, CPoint screen)
     const HostCalls host(*this);
     const std::shared_ptr<State> state = m_state;
     const bool keyboard = screen == CPoint(-1, -1);
+    if (!keyboard && isOnScrollBar(*this, screen)) {
+        Default();
+        return;
+    }
     const Tracker caret(state, keyboard ? state->view.caret() : nullptr);
     if (caret)
         EnsureVisible(caret.item());

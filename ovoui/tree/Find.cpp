@@ -2,6 +2,7 @@
 
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
+#include <ovoui/tree/Selection.h>
 
 #include <ovoui/lists/ListFinder.h>
 
@@ -80,8 +81,8 @@ bool MultiTreeCtrl::Find::search(const FindState& wanted, Search how)
     const Tracker found(shared(), item);
     m_finding = wanted;
     m_found = item;
-    if (item != view().caret() || m_state.selectedItems().size() != 1)
-        tree().doSelectItem(item);
+    if (item != view().caret() || m_state.selectedItems() != std::vector{item})
+        m_state.selection->choose(item, {TVC_BYKEYBOARD});
     if (!host.usable() || !found)
         return true;
     tree().m_anchor = item;

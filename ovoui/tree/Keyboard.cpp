@@ -94,7 +94,8 @@ void MultiTreeCtrl::Keyboard::character(UINT character, const Default& handle)
 {
     if (m_state.takesKey(WM_CHAR, character) || !m_state.usable())
         return;
-    perform({Aim::None, characterTyped(static_cast<wchar_t>(character), isDown(VK_CONTROL))}, handle);
+    const bool ctrl = isDown(VK_CONTROL) && !isDown(VK_MENU);
+    perform({Aim::None, characterTyped(static_cast<wchar_t>(character), ctrl)}, handle);
 }
 
 void MultiTreeCtrl::Keyboard::perform(const KeyRule& rule, const Default& handle)
@@ -151,7 +152,7 @@ void MultiTreeCtrl::Keyboard::perform(Action action, HTREEITEM goal, const Defau
         tree().EnsureVisible(goal);
         break;
     case Action::SelectAlone:
-        tree().doSelectItem(goal);
+        selection.choose(goal, way);
         break;
     case Action::SelectRange:
         selection.selectRange(goal, way);
@@ -258,7 +259,8 @@ bool MultiTreeCtrl::Keyboard::translate(MSG& message)
     }
     if (message.message != WM_KEYDOWN || message.wParam != VK_RETURN)
         return false;
-    tree().OnOk();
+    if (!isDown(VK_MENU))
+        tree().OnOk();
     return true;
 }
 

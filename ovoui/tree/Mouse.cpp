@@ -156,10 +156,10 @@ void MultiTreeCtrl::Mouse::perform(Action action, const Click& click)
         tree().Default();
         break;
     case Action::SelectAlone:
-        tree().doSelectItem(item);
+        selection.choose(item, click.way());
         break;
     case Action::SelectForCertain:
-        selection.selectForCertain(item);
+        selection.selectForCertain(item, click.way());
         break;
     case Action::Clear:
         tree().doSelectItem(nullptr);

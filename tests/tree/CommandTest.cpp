@@ -3,6 +3,7 @@
 
 #include <support/Perishing.h>
 
+#include <testkit/ImportPatch.h>
 #include <testkit/TemporaryProfile.h>
 
 #include <ovocor/OvoError.h>
@@ -102,6 +103,14 @@ public:
 
     bool isGrey = false;
 };
+
+int g_menus = 0; ///< that would have been shown
+
+BOOL WINAPI countMenu(HMENU, UINT, int, int, int, HWND, const RECT*)
+{
+    ++g_menus;
+    return FALSE;
+}
 
 /// Answers the question before a deletion.
 class Answer
@@ -536,6 +545,44 @@ TEST(TreeMenus, TheContextMenuOpensByKeyboardAtTheCaretAndRunsTheCommand)
     scene.tree.ClientToScreen(&label);
     EXPECT_NEAR(menu.left, label.left, 8);
     EXPECT_NEAR(menu.top, label.bottom, 8);
+}
+
+TEST(TreeMenus, TheMenuOfAScrollBarIsTheSystems)
+{
+    class PassingTree : public TestTree
+    {
+    public:
+        int passedOn = 0;
+
+    protected:
+        LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message != WM_CONTEXTMENU)
+                return TestTree::DefWindowProc(message, wParam, lParam);
+            ++passedOn;
+            return 0;
+        }
+    };
+    RecordingParent parent(CSize(200, 200), L"Tree");
+    PassingTree tree;
+    tree.Create(Scene::kStyle, CRect(0, 0, 150, 120), &parent, 1);
+    for (const std::string& name : numbered(60))
+        (new TestNode(name))->insert(tree, TVI_ROOT, TVI_LAST);
+    present(parent);
+    ASSERT_TRUE(tree.GetStyle() & WS_VSCROLL);
+    CRect window;
+    tree.GetWindowRect(&window);
+    const ImportPatch counting(L"ovomfc.dll", "TrackPopupMenu", reinterpret_cast<void*>(&countMenu));
+    g_menus = 0;
+    const auto ask = [&](int x, int y) {
+        tree.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(tree.m_hWnd), MAKELPARAM(x, y));
+    };
+    ask(window.right - 3, window.CenterPoint().y);
+    EXPECT_EQ(tree.passedOn, 1);
+    EXPECT_EQ(g_menus, 0);
+    ask(window.left + 20, window.top + 20);
+    EXPECT_EQ(tree.passedOn, 1);
+    EXPECT_EQ(g_menus, 1);
 }
 
 /// A tree whose host does a deed instead of bringing an item into view.

@@ -3,6 +3,7 @@
 
 #include <support/Perishing.h>
 
+#include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
 
 #include <ovoui/tree/DropMenu.h>
@@ -31,6 +32,14 @@ std::wstring textOf(COleDataObject& data)
     ::GlobalUnlock(memory);
     ::GlobalFree(memory);
     return text;
+}
+
+int g_allocations = 0; ///< since a test began to count
+int g_refused = 0;     ///< which of these fails, counted from 1
+
+HGLOBAL WINAPI refuseMemory(UINT flags, SIZE_T size)
+{
+    return ++g_allocations == g_refused ? nullptr : ::GlobalAlloc(flags, size);
 }
 
 /// What is dragged over a tree from another program, by OLE's own calls.
@@ -523,6 +532,37 @@ TEST(TreeDropMenu, WithOneEffectAllowedTheOthersAreGrey)
                             "Create &Link to Fish && Chips Here"}));
 }
 
+TEST(TreeDropMenu, ShowsWhichIsTheDefaultAndGivesWhatIsChosen)
+{
+    struct Choice
+    {
+        DWORD effect;
+        UINT command;
+        const wchar_t* key;
+    };
+    for (const auto& [effect, command, key] : {Choice{DROPEFFECT_MOVE, 5610, L"m"},
+                                               {DROPEFFECT_COPY, 1191, L"c"},
+                                               {DROPEFFECT_LINK, 1194, L"l"}}) {
+        SCOPED_TRACE(effect);
+        RecordingParent parent;
+        present(parent);
+        UINT standard = 0;
+        Robot user;
+        auto choosing = user.waitFor("the menu", [] { return shownMenu() != nullptr; })
+                            .then([&] {
+                                standard = ::GetMenuDefaultItem(
+                                    reinterpret_cast<HMENU>(::SendMessageW(shownMenu(), MN_GETHMENU, 0, 0)),
+                                    FALSE, GMDI_USEDISABLED);
+                            })
+                            .type(key)
+                            .start();
+        EXPECT_EQ(nondefaultDrop(parent, effect, DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK,
+                                 CPoint(20, 20), L""),
+                  effect);
+        EXPECT_EQ(standard, command);
+    }
+}
+
 TEST(TreeDropMenu, DismissedIsNoEffect)
 {
     RecordingParent parent;
@@ -642,6 +682,27 @@ TEST(TreePlainText, IsOfferedAsUnicodeAndInTheCodePage)
     ::GlobalFree(memory);
     data.Detach();
     source->InternalRelease();
+}
+
+TEST(TreePlainText, AFormatForWhichThereIsNoMemoryIsLeftOut)
+{
+    for (const int refused : {1, 2}) {
+        SCOPED_TRACE(refused);
+        auto* source = new COleDataSource;
+        g_allocations = 0;
+        g_refused = refused;
+        {
+            const ImportPatch patch(L"ovoui.dll", "GlobalAlloc", reinterpret_cast<void*>(&refuseMemory));
+            cachePlaintext(*source, L"text");
+        }
+        EXPECT_EQ(g_allocations, 2);
+        COleDataObject data;
+        data.Attach(static_cast<IDataObject*>(source->GetInterface(&IID_IDataObject)), FALSE);
+        EXPECT_EQ(data.IsDataAvailable(CF_UNICODETEXT) != FALSE, refused != 1);
+        EXPECT_EQ(data.IsDataAvailable(CF_TEXT) != FALSE, refused != 2);
+        data.Detach();
+        source->InternalRelease();
+    }
 }
 
 // Paste

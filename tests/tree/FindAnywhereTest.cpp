@@ -172,6 +172,21 @@ TEST(TreeFind, WhatIsFoundIsSelectedAloneSeenAndTheAnchor)
     EXPECT_EQ(scene.selected(), (Names{"150", "151"}));
 }
 
+/// The caret need not be the one item that is selected.
+TEST(TreeFind, ACaretThatIsFoundIsSelectedInPlaceOfAnotherItem)
+{
+    Scene scene{{"carrot", "rose"}};
+    scene.tree.setExtras(Extra::FindAnywhere);
+    scene.tree.SetFocus();
+    scene.tree.SelectItem(scene.item("carrot"));
+    scene.tree.SetItemState(scene.item("carrot"), 0, TVIS_SELECTED);
+    scene.tree.SetItemState(scene.item("rose"), TVIS_SELECTED, TVIS_SELECTED);
+    scene.forget();
+    type(scene, "ot");
+    EXPECT_EQ(scene.selected(), Names{"carrot"});
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYKEYBOARD, "carrot", "carrot"}}));
+}
+
 TEST(TreeFind, LooksAtDisplayedItemsOnly)
 {
     Scene scene{{"a", "b"}};

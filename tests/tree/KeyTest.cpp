@@ -22,6 +22,27 @@ public:
     }
 };
 
+/// Keys that are held as this thread sees it, for messages that are sent.
+class KeysHeld
+{
+public:
+    explicit KeysHeld(std::initializer_list<int> held)
+    {
+        ::GetKeyboardState(m_before);
+        BYTE keys[256];
+        std::copy(std::begin(m_before), std::end(m_before), keys);
+        for (const int key : held)
+            keys[key] = 0x80;
+        ::SetKeyboardState(keys);
+    }
+    ~KeysHeld() { ::SetKeyboardState(m_before); }
+    KeysHeld(const KeysHeld&) = delete;
+    KeysHeld& operator=(const KeysHeld&) = delete;
+
+private:
+    BYTE m_before[256]{};
+};
+
 } // namespace
 
 TEST(TreeKeys, ArrowsMoveTheSelection)
@@ -68,6 +89,20 @@ TEST(TreeKeys, AnArrowLeavesAMultipleSelection)
     scene.user.holding(VK_CONTROL).click(scene.label("c"));
     scene.user.key(VK_DOWN);
     EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+/// Of a caret that stays the tree view says nothing.
+TEST(TreeKeys, HomeTellsOfTheCaretThatWasTakenOut)
+{
+    KeyScene scene({"a", "b"}, "a");
+    scene.user.holding(VK_CONTROL).key(VK_SPACE);
+    ASSERT_EQ(scene.selected(), Names{});
+    scene.forget();
+    scene.user.key(VK_HOME);
+    EXPECT_EQ(scene.selected(), Names{"a"});
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYKEYBOARD, "a", "a"}}));
+    scene.user.key(VK_HOME);
+    EXPECT_EQ(scene.changes().size(), 1u) << "nothing has changed";
 }
 
 TEST(TreeKeys, EndAndLettersAreTheTreeViews)
@@ -179,6 +214,18 @@ TEST(TreeKeys, AForbiddenSelectAllDoesNothing)
     EXPECT_EQ(scene.selected(), Names{"b"});
 }
 
+/// Where AltGr with this key types a letter.
+TEST(TreeKeys, ALetterTypedWithAltGrIsLookedForAsAnyOther)
+{
+    KeyScene scene({"ant", "bee", "cat"}, "ant");
+    scene.user.holding(VK_CONTROL).click(scene.label("bee"));
+    const KeysHeld altGr{VK_CONTROL, VK_MENU};
+    scene.tree.SendMessage(WM_KEYDOWN, 'A', 1);
+    EXPECT_EQ(scene.selected(), (Names{"ant", "bee"})) << "it does not select all";
+    scene.tree.SendMessage(WM_CHAR, 'c', 1);
+    EXPECT_EQ(scene.selected(), Names{"cat"});
+}
+
 // The default action
 
 TEST(TreeKeys, EnterAndSpaceActivateAllSelectedNodes)
@@ -203,13 +250,10 @@ TEST(TreeKeys, EnterWithAltDoesNothing)
 TEST(TreeKeys, EnterWithAltAndCtrlWhichComesAsAnOrdinaryKeyDoesNothing)
 {
     KeyScene scene({"a"}, "a");
-    BYTE keys[256]{};
-    ::GetKeyboardState(keys);
-    keys[VK_MENU] = 0x80;
-    ::SetKeyboardState(keys);
-    scene.tree.SendMessage(WM_KEYDOWN, VK_RETURN, 1);
-    keys[VK_MENU] = 0;
-    ::SetKeyboardState(keys);
+    MSG enter{scene.tree.m_hWnd, WM_KEYDOWN, VK_RETURN, 1, 0, {}};
+    const KeysHeld held{VK_MENU, VK_CONTROL};
+    scene.tree.SendMessage(enter.message, enter.wParam, enter.lParam);
+    EXPECT_TRUE(scene.tree.PreTranslateMessage(&enter)) << "nor does the dialog take it";
     EXPECT_EQ(scene.journal, Journal{});
 }
 

@@ -14,6 +14,7 @@ enum class When
     Always,
     Alt,
     Ctrl,
+    CtrlAlone, ///< without Alt: both together, or AltGr, type a character
     Shift,
     AddingRange, ///< Ctrl and Shift, where they add ranges
     CheckBox,    ///< the caret has one
@@ -28,6 +29,8 @@ bool holds(When when, const KeyPress& press)
         return press.alt;
     case When::Ctrl:
         return press.ctrl;
+    case When::CtrlAlone:
+        return press.ctrl && !press.alt;
     case When::Shift:
         return press.shift;
     case When::AddingRange:
@@ -76,7 +79,7 @@ const Row kRows[] = {
     {kMovingByTreeView, When::Always, {FollowAlone}},
 
     {{kVkDelete}, When::Always, {Delete}},
-    {{kVkA}, When::Ctrl, {SelectAll}},
+    {{kVkA}, When::CtrlAlone, {SelectAll}},
     {{kVkF2}, When::Caret, {Rename}},
     {{kVkF5}, When::Always, {Redraw, LeaveToTreeView}},
 };

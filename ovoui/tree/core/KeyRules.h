@@ -44,7 +44,7 @@ KeyRule keyPressed(const KeyPress& press);
 /// A key that goes down with Alt held comes as a message of its own kind.
 Actions systemKeyPressed(unsigned key);
 
-/// The character of a key, by which the tree view searches among its items.
+/// The character of a key, by which the tree view searches among its items. `ctrl`: Ctrl is held without Alt.
 Actions characterTyped(wchar_t character, bool ctrl);
 
 } // namespace ovoui::tree
