@@ -43,7 +43,8 @@ public:
     // Looks and filters
     CImageList* GetImageList() const;
     CImageList* SetImageList(CImageList* list); ///< Gives the list of before.
-    CImageList* CreateDragImage(int index);     ///< The caller deletes both the list and the object.
+    /// A temporary object, unlike that of trees and lists. The image list behind it is the caller's.
+    CImageList* CreateDragImage(int index);
     int GetBitmapMargin() const;
     int SetBitmapMargin(int width); ///< Gives the margin of before.
     int SetFilterChangeTimeout(DWORD milliseconds);

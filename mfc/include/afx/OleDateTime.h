@@ -4,6 +4,7 @@
 #include <afx/Platform.h>
 #include <afx/String.h>
 
+#include <algorithm>
 #include <ctime>
 
 /// A length of time in days and parts of them.
@@ -41,12 +42,27 @@ public:
     CString Format(LPCTSTR format) const;
 
     operator double() const { return m_span; }
-    COleDateTimeSpan operator+(const COleDateTimeSpan& other) const { return m_span + other.m_span; }
-    COleDateTimeSpan operator-(const COleDateTimeSpan& other) const { return m_span - other.m_span; }
-    COleDateTimeSpan operator-() const { return -m_span; }
+    // Null when one of the spans is null, else invalid when one of them is
+    COleDateTimeSpan operator+(const COleDateTimeSpan& other) const
+    {
+        return combined(other, m_span + other.m_span);
+    }
+    COleDateTimeSpan operator-(const COleDateTimeSpan& other) const
+    {
+        return combined(other, m_span - other.m_span);
+    }
+    COleDateTimeSpan operator-() const { return combined(*this, -m_span); }
 
     double m_span = 0;
     DateTimeSpanStatus m_status = valid;
+
+private:
+    COleDateTimeSpan combined(const COleDateTimeSpan& other, double days) const
+    {
+        COleDateTimeSpan result(days);
+        result.m_status = std::max(m_status, other.m_status);
+        return result;
+    }
 };
 
 /// A date with a time of day, from the year 100 to 9999, in local time.
@@ -73,7 +89,7 @@ public:
     DateTimeStatus GetStatus() const { return m_status; }
     void SetStatus(DateTimeStatus status) { m_status = status; }
 
-    // 0 when valid, else the status
+    // 0 when valid, else the status; what is no date leaves the value as it was
     int SetDateTime(int year, int month, int day, int hour, int minute, int second);
     int SetDate(int year, int month, int day);
     int SetTime(int hour, int minute, int second);
@@ -97,6 +113,7 @@ public:
     CString Format(LPCTSTR format) const;
 
     operator DATE() const { return m_dt; }
+    // Null when one of the two is null; else invalid when one of them is, or the date outside of the years
     COleDateTime operator+(const COleDateTimeSpan& span) const;
     COleDateTime operator-(const COleDateTimeSpan& span) const;
     COleDateTimeSpan operator-(const COleDateTime& other) const;

@@ -216,7 +216,8 @@ inline std::strong_ordering operator<=>(const CString& left, LPCWSTR right)
     return left.Compare(right) <=> 0;
 }
 
-/// The `index`-th part of a text between separators. FALSE, and an empty text, when there are not so many.
+/// The `index`-th part of a text between separators. FALSE, and an empty text, when there are not so many;
+/// FALSE, and `part` as it was, without a text.
 OVOMFC_API BOOL AFXAPI AfxExtractSubString(CString& part, LPCTSTR text, int index, TCHAR separator = '\n');
 
 /// %1 (and %2) in a string resource or text replaced by the arguments.

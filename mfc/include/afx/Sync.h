@@ -130,7 +130,8 @@ public:
     /// WAIT_TIMEOUT, WAIT_FAILED.
     DWORD Lock(DWORD timeout = INFINITE, BOOL waitForAll = TRUE, DWORD wakeMask = 0);
     BOOL Unlock(); ///< All that are held. FALSE when one could not be let go.
-    BOOL Unlock(LONG count, LPLONG previous = nullptr); ///< The semaphores among them.
+    /// The semaphores among them. FALSE when none is held, or one could not be let go.
+    BOOL Unlock(LONG count, LPLONG previous = nullptr);
     BOOL IsLocked(DWORD index) const;
 
 private:

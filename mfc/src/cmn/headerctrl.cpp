@@ -1,8 +1,6 @@
 #include <afxwin.h>
 #include <afxcmn.h>
 
-#include "ownedlist.h"
-
 #include <detail/handleof.h>
 #include <detail/send.h>
 
@@ -120,7 +118,7 @@ CImageList* CHeaderCtrl::SetImageList(CImageList* list)
 
 CImageList* CHeaderCtrl::CreateDragImage(int index)
 {
-    return afxdetail::ownedList(send<HIMAGELIST>(*this, HDM_CREATEDRAGIMAGE, index));
+    return CImageList::FromHandle(send<HIMAGELIST>(*this, HDM_CREATEDRAGIMAGE, index));
 }
 
 int CHeaderCtrl::GetBitmapMargin() const

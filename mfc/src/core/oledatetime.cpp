@@ -36,6 +36,16 @@ bool systemTimeOf(DATE date, SYSTEMTIME& time)
     return ::VariantTimeToSystemTime(date, &time) != FALSE;
 }
 
+/// A date that a span of this status was added to. Null goes before invalid.
+COleDateTime withStatusOf(const COleDateTimeSpan& span, COleDateTime date)
+{
+    if (span.GetStatus() == COleDateTimeSpan::null)
+        date.SetStatus(COleDateTime::null);
+    else if (span.GetStatus() != COleDateTimeSpan::valid && date.GetStatus() == COleDateTime::valid)
+        date.SetStatus(COleDateTime::invalid);
+    return date;
+}
+
 long long wholeSeconds(double days)
 {
     return std::llround(days * kSecondsPerDay);
@@ -151,10 +161,13 @@ int COleDateTime::SetDateTime(int year, int month, int day, int hour, int minute
     // The system takes days beyond the month's end for days of the next one, and years of two digits for this
     // century's.
     SYSTEMTIME back{};
+    DATE date = 0;
     const bool inRange = year >= 100 && year <= 9999 && month >= 1 && month <= 12 && day >= 1 && day <= 31 &&
                          hour >= 0 && hour < 24 && minute >= 0 && minute < 60 && second >= 0 && second < 60;
-    const bool exists = inRange && ::SystemTimeToVariantTime(&parts, &m_dt) && systemTimeOf(m_dt, back) &&
+    const bool exists = inRange && ::SystemTimeToVariantTime(&parts, &date) && systemTimeOf(date, back) &&
                         back.wDay == parts.wDay;
+    if (exists)
+        m_dt = date;
     m_status = exists ? valid : invalid;
     return m_status;
 }
@@ -272,17 +285,22 @@ COleDateTime COleDateTime::moved(double days) const
 
 COleDateTime COleDateTime::operator+(const COleDateTimeSpan& span) const
 {
-    return moved(span.m_span);
+    return withStatusOf(span, moved(span.m_span));
 }
 
 COleDateTime COleDateTime::operator-(const COleDateTimeSpan& span) const
 {
-    return moved(-span.m_span);
+    return withStatusOf(span, moved(-span.m_span));
 }
 
 COleDateTimeSpan COleDateTime::operator-(const COleDateTime& other) const
 {
-    return straight(m_dt) - straight(other.m_dt);
+    COleDateTimeSpan span = straight(m_dt) - straight(other.m_dt);
+    if (m_status == null || other.m_status == null)
+        span.SetStatus(COleDateTimeSpan::null);
+    else if (m_status != valid || other.m_status != valid)
+        span.SetStatus(COleDateTimeSpan::invalid);
+    return span;
 }
 
 COleDateTime& COleDateTime::operator+=(const COleDateTimeSpan& span)

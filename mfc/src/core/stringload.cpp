@@ -24,6 +24,8 @@ BOOL CString::LoadString(HINSTANCE module, UINT id, WORD language)
 
 BOOL AFXAPI AfxExtractSubString(CString& part, LPCTSTR text, int index, TCHAR separator)
 {
+    if (!text)
+        return FALSE;
     for (; text && index > 0; --index) {
         text = std::wcschr(text, separator);
         text = text ? text + 1 : nullptr;

@@ -194,14 +194,16 @@ BOOL CMultiLock::Unlock()
 
 BOOL CMultiLock::Unlock(LONG count, LPLONG previous)
 {
+    BOOL any = FALSE;
     BOOL all = TRUE;
     for (std::size_t i = 0; i < m_locked.size(); ++i) {
         if (!m_locked[i] || !m_objects[i]->IsKindOf(RUNTIME_CLASS(CSemaphore)))
             continue;
+        any = TRUE;
         m_locked[i] = !m_objects[i]->Unlock(count, previous);
         all = all && !m_locked[i];
     }
-    return all;
+    return any && all;
 }
 
 BOOL CMultiLock::IsLocked(DWORD index) const

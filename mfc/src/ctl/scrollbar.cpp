@@ -1,6 +1,8 @@
 #include <afxwin.h>
 
-#include <detail/send.h>
+#include <detail/pending.h>
+
+using afxdetail::callOut;
 
 IMPLEMENT_DYNAMIC(CScrollBar, CWnd)
 
@@ -18,7 +20,7 @@ int CScrollBar::GetScrollPos() const
 
 int CScrollBar::SetScrollPos(int position, BOOL redraw)
 {
-    return ::SetScrollPos(m_hWnd, SB_CTL, position, redraw);
+    return callOut([&] { return ::SetScrollPos(m_hWnd, SB_CTL, position, redraw); });
 }
 
 void CScrollBar::GetScrollRange(LPINT minimum, LPINT maximum) const
@@ -28,23 +30,23 @@ void CScrollBar::GetScrollRange(LPINT minimum, LPINT maximum) const
 
 void CScrollBar::SetScrollRange(int minimum, int maximum, BOOL redraw)
 {
-    ::SetScrollRange(m_hWnd, SB_CTL, minimum, maximum, redraw);
+    callOut([&] { ::SetScrollRange(m_hWnd, SB_CTL, minimum, maximum, redraw); });
 }
 
 void CScrollBar::ShowScrollBar(BOOL show)
 {
-    ::ShowScrollBar(m_hWnd, SB_CTL, show);
+    callOut([&] { ::ShowScrollBar(m_hWnd, SB_CTL, show); });
 }
 
 BOOL CScrollBar::EnableScrollBar(UINT arrows)
 {
-    return ::EnableScrollBar(m_hWnd, SB_CTL, arrows);
+    return callOut([&] { return ::EnableScrollBar(m_hWnd, SB_CTL, arrows); });
 }
 
 BOOL CScrollBar::SetScrollInfo(LPSCROLLINFO info, BOOL redraw)
 {
     info->cbSize = sizeof *info;
-    ::SetScrollInfo(m_hWnd, SB_CTL, info, redraw);
+    callOut([&] { ::SetScrollInfo(m_hWnd, SB_CTL, info, redraw); });
     return TRUE; // the system gives the position, which is no success value
 }
 
@@ -65,5 +67,6 @@ int CScrollBar::GetScrollLimit()
 
 BOOL CScrollBar::GetScrollBarInfo(PSCROLLBARINFO info) const
 {
+    info->cbSize = sizeof *info;
     return ::GetScrollBarInfo(m_hWnd, OBJID_CLIENT, info);
 }

@@ -66,6 +66,8 @@ CFrameWnd* CWnd::GetParentFrame() const
 
 CFrameWnd* CWnd::GetTopLevelFrame() const
 {
+    if (!GetSafeHwnd())
+        return nullptr;
     CFrameWnd* frame =
         IsFrameWnd() ? static_cast<CFrameWnd*>(const_cast<CWnd*>(this)) : GetParentFrame();
     while (frame) {

@@ -50,6 +50,47 @@ TEST(OleDateTime, RefusesWhatIsNoDate)
     EXPECT_EQ(COleDateTime(2012, 2, 29, 0, 0, 0).GetStatus(), COleDateTime::valid);
 }
 
+TEST(OleDateTime, ARefusedDateLeavesTheValueAsItWas)
+{
+    COleDateTime date(2009, 3, 19, 22, 15, 7);
+    const DATE before = date.m_dt;
+    EXPECT_EQ(date.SetDateTime(1925, 2, 30, 0, 0, 0), COleDateTime::invalid);
+    EXPECT_EQ(date.m_dt, before);
+    EXPECT_EQ(date.SetDate(2009, 4, 31), COleDateTime::invalid);
+    EXPECT_EQ(date.m_dt, before);
+    EXPECT_EQ(date.SetTime(25, 30, 0), COleDateTime::invalid);
+    EXPECT_EQ(date.m_dt, before);
+}
+
+TEST(OleDateTime, AnOperandWithoutAValueGivesNone)
+{
+    const COleDateTime some(2009, 3, 19, 0, 0, 0);
+    COleDateTime nullDate = some;
+    nullDate.SetStatus(COleDateTime::null);
+    COleDateTime invalidDate = some;
+    invalidDate.SetStatus(COleDateTime::invalid);
+    const COleDateTimeSpan day(1, 0, 0, 0);
+    COleDateTimeSpan nullSpan = day;
+    nullSpan.SetStatus(COleDateTimeSpan::null);
+    COleDateTimeSpan invalidSpan = day;
+    invalidSpan.SetStatus(COleDateTimeSpan::invalid);
+
+    EXPECT_EQ((some + day).GetStatus(), COleDateTime::valid);
+    EXPECT_EQ((some + nullSpan).GetStatus(), COleDateTime::null);
+    EXPECT_EQ((some - invalidSpan).GetStatus(), COleDateTime::invalid);
+    EXPECT_EQ((nullDate - day).GetStatus(), COleDateTime::null);
+    EXPECT_EQ((invalidDate + day).GetStatus(), COleDateTime::invalid);
+    EXPECT_EQ((nullDate + invalidSpan).GetStatus(), COleDateTime::null) << "null goes before invalid";
+    EXPECT_EQ((invalidDate - nullSpan).GetStatus(), COleDateTime::null);
+    COleDateTime sum = some;
+    EXPECT_EQ((sum += nullSpan).GetStatus(), COleDateTime::null);
+
+    EXPECT_EQ((some - some).GetStatus(), COleDateTimeSpan::valid);
+    EXPECT_EQ((some - nullDate).GetStatus(), COleDateTimeSpan::null);
+    EXPECT_EQ((invalidDate - some).GetStatus(), COleDateTimeSpan::invalid);
+    EXPECT_EQ((invalidDate - nullDate).GetStatus(), COleDateTimeSpan::null);
+}
+
 TEST(OleDateTime, MovesBySpansAcrossItsBeginning)
 {
     const COleDateTimeSpan twelveHours(0, 12, 0, 0);
@@ -105,4 +146,20 @@ TEST(OleDateTimeSpan, IsSplitIntoItsParts)
     EXPECT_EQ(span.Format(L"%D %H:%M:%S"), L"3 04:05:06");
     EXPECT_EQ((-span).GetHours(), -4);
     EXPECT_DOUBLE_EQ(COleDateTimeSpan(1.5).GetTotalHours(), 36);
+}
+
+TEST(OleDateTimeSpan, AnOperandWithoutAValueGivesNone)
+{
+    const COleDateTimeSpan day(1, 0, 0, 0);
+    COleDateTimeSpan none = day;
+    none.SetStatus(COleDateTimeSpan::null);
+    COleDateTimeSpan wrong = day;
+    wrong.SetStatus(COleDateTimeSpan::invalid);
+
+    EXPECT_EQ((day + day).GetStatus(), COleDateTimeSpan::valid);
+    EXPECT_EQ((day + none).GetStatus(), COleDateTimeSpan::null);
+    EXPECT_EQ((wrong - day).GetStatus(), COleDateTimeSpan::invalid);
+    EXPECT_EQ((wrong + none).GetStatus(), COleDateTimeSpan::null);
+    EXPECT_EQ((-none).GetStatus(), COleDateTimeSpan::null);
+    EXPECT_EQ((-none).Format(L"%D"), L"");
 }

@@ -172,7 +172,7 @@ TEST(SubStrings, AreCountedBetweenSingleSeparators)
         {L"one\ntwo\n\nfour", 4, FALSE, L""},
         {L"", 0, TRUE, L""},
         {L"", 1, FALSE, L""},
-        {nullptr, 0, FALSE, L""},
+        {nullptr, 0, FALSE, L"before"},
     };
     for (const auto& row : rows) {
         CString part = L"before";

@@ -155,6 +155,27 @@ TEST(Sync, ALockOnSeveralWaitsForOneOrAll)
     EXPECT_TRUE(lock.IsLocked(0) && lock.IsLocked(1));
 }
 
+TEST(Sync, ALockOnSeveralLetsGoOfItsSemaphores)
+{
+    CEvent event(TRUE, TRUE);
+    CSemaphore semaphore(2, 2);
+    CSyncObject* objects[] = {&event, &semaphore};
+    CMultiLock lock(objects, 2);
+    EXPECT_FALSE(lock.Unlock(1)) << "nothing is held yet";
+    EXPECT_EQ(lock.Lock(0, FALSE), DWORD{WAIT_OBJECT_0});
+    EXPECT_FALSE(lock.Unlock(1)) << "an event is no semaphore";
+
+    EXPECT_LT(lock.Lock(0, TRUE), DWORD{WAIT_OBJECT_0 + 2});
+    EXPECT_FALSE(lock.Unlock(5)) << "more than there are";
+    EXPECT_TRUE(lock.IsLocked(1));
+    LONG before = 0;
+    EXPECT_TRUE(lock.Unlock(1, &before));
+    EXPECT_EQ(before, 1);
+    EXPECT_FALSE(lock.IsLocked(1));
+    EXPECT_TRUE(lock.IsLocked(0));
+    EXPECT_FALSE(lock.Unlock(1)) << "it has been let go";
+}
+
 TEST(Sync, ALockOnSeveralWakesForMessages)
 {
     CEvent event;

@@ -100,3 +100,15 @@ TEST_F(HeaderCtrlTest, MarginsAndListsAreKept)
     EXPECT_EQ(header.GetImageList(), &images);
     EXPECT_EQ(header.SetImageList(nullptr), &images);
 }
+
+TEST_F(HeaderCtrlTest, ADragImageIsATemporaryObject)
+{
+    CImageList* const image = header.CreateDragImage(1);
+
+    ASSERT_TRUE(image);
+    const HIMAGELIST list = image->m_hImageList;
+    EXPECT_EQ(image->GetImageCount(), 1);
+    EXPECT_EQ(CImageList::FromHandlePermanent(list), nullptr) << "nobody has to delete the object";
+    EXPECT_EQ(CImageList::FromHandle(list), image);
+    EXPECT_TRUE(image->DeleteImageList());
+}

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <testkit/RecordingParent.h>
 
+#include <stdexcept>
+
 using ovo::testkit::RecordingParent;
 
 namespace
@@ -73,7 +75,33 @@ TEST_F(ScrollBarTest, HidesAndDisables)
     EXPECT_TRUE(bar.GetStyle() & WS_VISIBLE);
     EXPECT_TRUE(bar.EnableScrollBar(ESB_DISABLE_BOTH));
     bar.EnableScrollBar();
+}
+
+TEST_F(ScrollBarTest, ItsPartsAreKnownWithoutASize)
+{
     SCROLLBARINFO info{};
-    info.cbSize = sizeof info;
+
     EXPECT_TRUE(bar.GetScrollBarInfo(&info));
+    EXPECT_EQ(info.rcScrollBar.right - info.rcScrollBar.left, 200);
+}
+
+TEST(ScrollBar, WhatAHandlerRaisesComesOutOfTheCall)
+{
+    struct Raising : CScrollBar
+    {
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_SHOWWINDOW && raises)
+                throw std::runtime_error("shown or hidden");
+            return CScrollBar::WindowProc(message, wParam, lParam);
+        }
+        bool raises = false;
+    };
+    RecordingParent parent;
+    Raising bar;
+    bar.Create(WS_CHILD | WS_VISIBLE | SBS_HORZ, CRect(10, 10, 210, 30), &parent, 7);
+
+    bar.raises = true;
+    EXPECT_THROW(bar.ShowScrollBar(FALSE), std::runtime_error);
+    bar.raises = false;
 }

@@ -120,6 +120,7 @@ TEST_F(WindowTree, FramesAreFoundUpwards)
     EXPECT_EQ(inner.GetParentFrame(), &outer) << "a frame is not its own parent";
     EXPECT_EQ(pane.GetTopLevelFrame(), &outer);
     EXPECT_EQ(outer.GetTopLevelFrame(), &outer);
+    EXPECT_EQ(Frame().GetTopLevelFrame(), nullptr) << "it has no window";
     EXPECT_EQ(outer.GetParentFrame(), nullptr);
     EXPECT_EQ(child.GetParentFrame(), nullptr);
     pane.DestroyWindow();
