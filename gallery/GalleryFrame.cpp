@@ -34,6 +34,7 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_COMMAND(ID_PAGE_NEXT, &GalleryFrame::OnNextPage)
     ON_COMMAND(ID_PAGE_PREVIOUS, &GalleryFrame::OnPreviousPage)
     ON_WM_SETFOCUS()
+    ON_WM_ACTIVATE()
     ON_MESSAGE(WM_NEXTDLGCTL, &GalleryFrame::OnNextControl)
     ON_MESSAGE(WM_DPICHANGED, &GalleryFrame::OnResolutionChanged)
     // toolbar
@@ -265,9 +266,20 @@ void GalleryFrame::OnPreviousPage()
     stepPage(-1);
 }
 
+/// As in a dialog: who has answered a box goes on at the same control. Floating bars know themselves where
+/// the keyboard was.
+void GalleryFrame::OnActivate(UINT state, CWnd* other, BOOL minimized)
+{
+    if (state == WA_INACTIVE && !dynamic_cast<CMiniFrameWnd*>(other))
+        m_lastFocus = ::GetFocus();
+    CFrameWnd::OnActivate(state, other, minimized);
+}
+
 void GalleryFrame::OnSetFocus(CWnd*)
 {
-    m_pageList.SetFocus();
+    const HWND last = std::exchange(m_lastFocus, nullptr);
+    const bool takesIt = ::IsChild(m_hWnd, last) && ::IsWindowVisible(last) && ::IsWindowEnabled(last);
+    ::SetFocus(takesIt ? last : m_pageList.m_hWnd);
 }
 
 // The flyout of a toolbar closes with the application's activation.
