@@ -53,6 +53,7 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_EN_CHANGE(IDC_FRAME_LIST_WIDTH, &GalleryFrame::OnPaletteChanged)
     ON_EN_CHANGE(IDC_FRAME_LOG_HEIGHT, &GalleryFrame::OnPaletteChanged)
     ON_WM_CLOSE()
+    ON_WM_ENDSESSION()
     // log
     ON_COMMAND(ID_LOG_CLEAR, &GalleryFrame::OnLogClear)
     ON_UPDATE_COMMAND_UI(ID_LOG_CLEAR, &GalleryFrame::OnUpdateLogClear)

@@ -33,7 +33,7 @@ public:
 
     /// Brings back what the profile knows of bars, palette and choices.
     void restoreBars();
-    /// The same is saved when the window is closed.
+    /// The same is saved when the window is closed, or the session ends.
     void saveBars();
 
     /// Makes the toolbar float over the page, in so many rows of buttons.
@@ -73,6 +73,7 @@ protected:
     afx_msg void OnHScroll(UINT code, UINT pos, CScrollBar* bar);
     afx_msg void OnPaletteChanged();
     afx_msg void OnClose();
+    afx_msg void OnEndSession(BOOL ending);
     afx_msg void OnLogClear();
     afx_msg void OnUpdateLogClear(CCmdUI* ui);
     afx_msg void OnSetFocus(CWnd* old);
