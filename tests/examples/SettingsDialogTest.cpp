@@ -112,6 +112,28 @@ TEST_F(SettingsDialog, ShowsThePageWithTheNumberThatIsNone)
     end(IDOK);
 }
 
+TEST_F(SettingsDialog, IsUsedByKeyboardAlone)
+{
+    const auto waitForFocus = [this](int id) {
+        m_program->waitFor("the focus", [=, this] {
+            GUITHREADINFO thread{};
+            thread.cbSize = sizeof thread;
+            const HWND control = onPage(id);
+            return ::GetGUIThreadInfo(::GetWindowThreadProcessId(control, nullptr), &thread) &&
+                   (thread.hwndFocus == control || ::IsChild(control, thread.hwndFocus));
+        });
+    };
+    waitForFocus(IDC_FONT);
+    m_program->key(VK_TAB);
+    waitForFocus(IDC_POINTS);
+    nextPage(IDC_INK);
+    waitForFocus(IDC_INK);
+    nextPage(IDC_MARK);
+    waitForFocus(IDC_MARK);
+    m_program->key(VK_ESCAPE);
+    EXPECT_TRUE(m_program->endsByItself());
+}
+
 TEST_F(SettingsDialog, FollowsTheSlider)
 {
     const Picture before = seen(item(IDC_PREVIEW));
