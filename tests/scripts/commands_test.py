@@ -120,7 +120,6 @@ class Refusals(Checkout):
             self.assertEqual(process.returncode, 1)
             self.assertEqual(process.stderr, "run: --dpi needs a number from 48 to 480\n")
 
-
     def test_a_word_that_package_does_not_know(self):
         for words in (["--archive"], ["--twice", "again"], [""]):
             process = subprocess.run([self.root / "package", *words], capture_output=True, text=True, check=False)
