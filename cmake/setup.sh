@@ -1,4 +1,4 @@
-# Sourced by run and test: packages, and building with progress. Expects $root, the folder of the checkout.
+# Sourced by run, test and package: packages, and building with progress. Expects $root, the folder of the checkout.
 
 packages=(
   cmake ninja-build g++                                  # native build
@@ -7,7 +7,7 @@ packages=(
   fonts-vlgothic                                         # Japanese texts
   googletest catch2 clang libclang-rt-14-dev llvm lld    # tests, benchmarks, fuzzing, import libraries
   gdb                                                    # the debugger's views
-  librsvg2-bin imagemagick python3                       # icons from drawings, scripts
+  librsvg2-bin python3                                   # icons from drawings, scripts
   doxygen                                                # the reference
   pkgconf                                                # hosts that are built by hand
 )
@@ -34,7 +34,7 @@ require_packages() {
   mapfile -t missing < <(missing_packages)
   [ ${#missing[@]} -eq 0 ] && return
   [ "$(id -u)" -eq 0 ] ||
-    fail "packages are missing; as root run: apt-get install --no-install-recommends ${missing[*]}"
+    fail "packages are missing; as root run: apt-get update && apt-get install --no-install-recommends ${missing[*]}"
   # One installation at a time, whatever else is being set up on this machine.
   (
     flock 9

@@ -34,6 +34,7 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_COMMAND(ID_PAGE_NEXT, &GalleryFrame::OnNextPage)
     ON_COMMAND(ID_PAGE_PREVIOUS, &GalleryFrame::OnPreviousPage)
     ON_WM_SETFOCUS()
+    ON_WM_ACTIVATE()
     ON_MESSAGE(WM_NEXTDLGCTL, &GalleryFrame::OnNextControl)
     ON_MESSAGE(WM_DPICHANGED, &GalleryFrame::OnResolutionChanged)
     // toolbar
@@ -52,6 +53,7 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_EN_CHANGE(IDC_FRAME_LIST_WIDTH, &GalleryFrame::OnPaletteChanged)
     ON_EN_CHANGE(IDC_FRAME_LOG_HEIGHT, &GalleryFrame::OnPaletteChanged)
     ON_WM_CLOSE()
+    ON_WM_ENDSESSION()
     // log
     ON_COMMAND(ID_LOG_CLEAR, &GalleryFrame::OnLogClear)
     ON_UPDATE_COMMAND_UI(ID_LOG_CLEAR, &GalleryFrame::OnUpdateLogClear)
@@ -265,9 +267,20 @@ void GalleryFrame::OnPreviousPage()
     stepPage(-1);
 }
 
+/// As in a dialog: who has answered a box goes on at the same control. Floating bars know themselves where
+/// the keyboard was.
+void GalleryFrame::OnActivate(UINT state, CWnd* other, BOOL minimized)
+{
+    if (state == WA_INACTIVE && !dynamic_cast<CMiniFrameWnd*>(other))
+        m_lastFocus = ::GetFocus();
+    CFrameWnd::OnActivate(state, other, minimized);
+}
+
 void GalleryFrame::OnSetFocus(CWnd*)
 {
-    m_pageList.SetFocus();
+    const HWND last = std::exchange(m_lastFocus, nullptr);
+    const bool takesIt = ::IsChild(m_hWnd, last) && ::IsWindowVisible(last) && ::IsWindowEnabled(last);
+    ::SetFocus(takesIt ? last : m_pageList.m_hWnd);
 }
 
 // The flyout of a toolbar closes with the application's activation.

@@ -33,7 +33,7 @@ public:
 
     /// Brings back what the profile knows of bars, palette and choices.
     void restoreBars();
-    /// The same is saved when the window is closed.
+    /// The same is saved when the window is closed, or the session ends.
     void saveBars();
 
     /// Makes the toolbar float over the page, in so many rows of buttons.
@@ -73,9 +73,11 @@ protected:
     afx_msg void OnHScroll(UINT code, UINT pos, CScrollBar* bar);
     afx_msg void OnPaletteChanged();
     afx_msg void OnClose();
+    afx_msg void OnEndSession(BOOL ending);
     afx_msg void OnLogClear();
     afx_msg void OnUpdateLogClear(CCmdUI* ui);
     afx_msg void OnSetFocus(CWnd* old);
+    afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
     afx_msg void OnActivateApp(BOOL active, DWORD thread);
     afx_msg LRESULT OnResolutionChanged(WPARAM dots, LPARAM place);
     afx_msg LRESULT OnNextControl(WPARAM next, LPARAM direct);
@@ -120,6 +122,7 @@ private:
     std::shared_ptr<GalleryPage> m_page;
     const PageEntry* m_entry = nullptr;
     const PageEntry* m_chosen = nullptr; ///< in the list, and due to open
+    HWND m_lastFocus = nullptr; ///< when another window became active
     HWND m_posing = nullptr; ///< the modal box whose picture is due
     std::wstring m_posePath; ///< where the picture of the next modal box goes; empty when none is wanted
     bool m_poseSaved = false;

@@ -110,6 +110,14 @@ void GalleryFrame::OnClose()
     CFrameWnd::OnClose();
 }
 
+/// The system may end the program without closing its windows.
+void GalleryFrame::OnEndSession(BOOL ending)
+{
+    if (ending)
+        saveBars();
+    CFrameWnd::OnEndSession(ending);
+}
+
 // The toolbar
 
 BarKeyboard::Bars GalleryFrame::bars()

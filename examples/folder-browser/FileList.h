@@ -33,6 +33,7 @@ public:
     }
     void saveLayout() { saveColumnLayout(*this, kSection, L"Columns", &m_sorter); }
     void sortBy(int column) { m_sorter.Sort(column, true); }
+    const fs::path& path(int row) const { return m_paths[GetItemData(row)]; }
 
     /// Throws fs::filesystem_error when the folder cannot be read; the list is empty then, and for no folder.
     void show(const fs::path& folder)
@@ -43,8 +44,6 @@ public:
             add(entry.path());
         m_sorter.Sort(m_sorter.Column(), m_sorter.Ascending());
     }
-
-    const fs::path& path(int row) const { return m_paths[GetItemData(row)]; }
 
     /// The paths of the selected rows, or of all without any, as lines.
     std::wstring chosenPaths() const

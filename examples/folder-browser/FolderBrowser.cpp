@@ -2,7 +2,7 @@
 #include "FileList.h"
 #include "resource.h"
 
-#include <ovocor/Text.h>
+#include <ovocor/OvoError.h>
 #include <ovouires/resource.h>
 
 #include <fstream>
@@ -11,7 +11,6 @@ class BrowserFrame : public CFrameWnd
 {
 public:
     void open(const fs::path& folder) { m_tree.open(folder); }
-
     void RecalcLayout(BOOL notify = TRUE) override
     {
         CFrameWnd::RecalcLayout(notify);
@@ -66,23 +65,25 @@ protected:
     }
 
     afx_msg void OnFolderChosen(NMHDR*, LRESULT*) { OnRefresh(); }
-
     afx_msg void OnRefresh()
     try {
         m_list.show(m_tree.folder());
         SetWindowText(m_tree.folder().c_str());
-    } catch (const std::exception& error) {
-        m_tree.reportError(getWCS(error.what()).c_str());
+    } catch (const fs::filesystem_error&) {
+        m_tree.reportError((m_tree.folder().wstring() + L" cannot be read.").c_str());
     }
 
     /// A folder is shown, a file opened by its program.
     afx_msg void OnRowOpened(NMHDR*, LRESULT*)
     {
         const int row = m_list.GetNextItem(-1, LVNI_FOCUSED | LVNI_SELECTED);
-        if (row >= 0 && ::PathIsDirectoryW(m_list.path(row).c_str()))
-            m_tree.selectPath(m_tree.selectedPath() + L"/" + m_list.path(row).filename().wstring());
-        else if (row >= 0)
-            ::ShellExecuteW(m_hWnd, nullptr, m_list.path(row).c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+        const fs::path path = row >= 0 ? m_list.path(row) : fs::path();
+        if (::PathIsDirectoryW(path.c_str())) {
+            m_tree.selectPath(m_tree.selectedPath() + L"/" + path.filename().wstring());
+            if (m_tree.folder() != path)
+                open(path); // it is newer than what the tree has read
+        } else if (row >= 0)
+            ::ShellExecuteW(m_hWnd, nullptr, path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
     }
 
     afx_msg void OnOpen()
@@ -90,7 +91,6 @@ protected:
         if (const auto folder = pickFolder({.parent = this, .title = L"Browse", .folder = m_tree.folder()}))
             open(*folder);
     }
-
     afx_msg void OnUp() { m_tree.goUp(); }
     afx_msg void OnUpdateUp(CCmdUI* ui) { ui->Enable(m_tree.folder().has_relative_path()); }
 
@@ -102,7 +102,6 @@ protected:
         if (path && !std::ofstream(*path, std::ios::binary).write(bytes, 2 * text.size()).flush())
             m_tree.reportError(L"The file cannot be written.");
     }
-
     afx_msg void OnCopyRows() { copySelectedRows(m_list, true); }
     afx_msg void OnCopyPaths() { copyPlaintext(m_list.chosenPaths()); }
     afx_msg void OnSort(UINT command) { m_list.sortBy(static_cast<int>(command - ID_SORT_NAME)); }
@@ -115,21 +114,21 @@ protected:
     }
     afx_msg void OnModules() { CModuleListDlg(this).DoModal(); }
     afx_msg void OnBarKeys() { m_bar.FocusButtons(); }
-    afx_msg void OnSetFocus(CWnd*) { m_tree.SetFocus(); }
-
-    afx_msg void OnActivateApp(BOOL active, DWORD thread)
-    {
-        CFrameWnd::OnActivateApp(active, thread);
-        CVantorToolBar::ActivateApp(active); // closes an open flyout
-    }
+    afx_msg void OnPaneFocus(UINT id, NMHDR*, LRESULT*) { m_pane = id; }
+    afx_msg void OnSetFocus(CWnd*) { ::SetFocus(::GetDlgItem(m_hWnd, m_pane)); } // after a dialog, too
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
+    try {
+        if (message == WM_ACTIVATEAPP) // an open flyout closes
+            CVantorToolBar::ActivateApp(wParam != 0);
         if (message == WM_CLOSE || (message == WM_ENDSESSION && wParam)) { // the last that it surely hears
             m_list.saveLayout();
             m_bar.SaveChoices(FileList::kSection);
         }
         return CFrameWnd::WindowProc(message, wParam, lParam);
+    } catch (const OvoError& error) { // or it would end the program
+        m_tree.reportError(error.wwhat());
+        return 0;
     }
     DECLARE_MESSAGE_MAP()
 
@@ -139,10 +138,12 @@ private:
     FileList m_list;
     CVantorToolBar m_bar;
     CStatusBar m_status;
+    UINT m_pane = IDC_TREE; // that had the focus last
 };
 
 BEGIN_MESSAGE_MAP(BrowserFrame, CFrameWnd)
     ON_NOTIFY(TVN_SELCHANGEDW, IDC_TREE, &BrowserFrame::OnFolderChosen)
+    ON_NOTIFY_RANGE(NM_SETFOCUS, IDC_TREE, IDC_LIST, &BrowserFrame::OnPaneFocus)
     ON_NOTIFY(NM_DBLCLK, IDC_LIST, &BrowserFrame::OnRowOpened)
     ON_NOTIFY(NM_RETURN, IDC_LIST, &BrowserFrame::OnRowOpened)
     ON_COMMAND(ID_FOLDER_OPEN, &BrowserFrame::OnOpen)
@@ -156,7 +157,6 @@ BEGIN_MESSAGE_MAP(BrowserFrame, CFrameWnd)
     ON_COMMAND(ID_INFO_SYSTEM, &BrowserFrame::OnSystemInfo)
     ON_COMMAND(ID_INFO_MODULES, &BrowserFrame::OnModules)
     ON_COMMAND(ID_BAR_KEYS, &BrowserFrame::OnBarKeys)
-    ON_WM_ACTIVATEAPP()
     ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 
@@ -170,7 +170,7 @@ class BrowserApp : public CWinApp
         m_pMainWnd = frame;
         if (!frame->LoadFrame(IDR_MAIN_FRAME))
             return FALSE;
-        frame->open(__argc > 1 ? fs::path(__wargv[1]) : fs::current_path());
+        frame->open(__argc > 1 ? (fs::current_path() / __wargv[1]).lexically_normal() : fs::current_path());
         const int inch = CClientDC(nullptr).GetDeviceCaps(LOGPIXELSX);
         frame->SetWindowPos(nullptr, 0, 0, 8 * inch, 4 * inch, SWP_NOMOVE | SWP_NOZORDER);
         frame->ShowWindow(m_nCmdShow);

@@ -10,8 +10,8 @@ namespace fs = std::filesystem;
 class FolderNode : public MultiTreeCtrl::Node
 {
 public:
-    explicit FolderNode(fs::path path)
-        : m_path(std::move(path))
+    explicit FolderNode(const fs::path& path)
+        : m_path(path.has_filename() ? path : path.parent_path())
     {
         children = 1; // until opening it shows that there are none
     }
@@ -29,8 +29,9 @@ public:
     /// What is thrown here is reported by the tree, and the folder stays closed.
     bool expand(MultiTreeCtrl& tree) override
     {
+        fs::directory_iterator entries(m_path);
         children = 0;
-        for (const auto& entry : fs::directory_iterator(m_path))
+        for (const auto& entry : entries)
             if (entry.is_directory())
                 children = (new FolderNode(entry.path()))->insert(tree, hTreeItem(), TVI_SORT) ? 1 : 0;
         return true;

@@ -88,10 +88,11 @@ private:
     int count() const { return static_cast<int>(m_palette.size()); }
     int current() const { return m_list.GetNextItem(-1, LVNI_FOCUSED); }
 
-    /// The end of a gesture.
+    /// The end of a gesture, which is a step to be undone if it has changed anything.
     void keep(int row)
     {
-        m_history.keep(m_palette);
+        if (m_palette != m_history.present())
+            m_history.keep(m_palette);
         showPalette(row);
     }
 
@@ -136,11 +137,10 @@ private:
 
     afx_msg void OnRemove()
     {
-        const int row = current();
         for (int i = count(); i-- > 0;)
             if (m_list.GetItemState(i, LVIS_SELECTED))
                 m_palette.erase(m_palette.begin() + i);
-        keep(row);
+        keep(current());
     }
 
     afx_msg void OnMove(UINT command)
@@ -228,7 +228,7 @@ private:
 
     UINT commandOf(WPARAM key)
     {
-        if (::GetKeyState(VK_CONTROL) < 0)
+        if (::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_MENU) >= 0) // with Alt it is AltGr
             return key == 'Z' ? IDC_UNDO : key == 'Y' ? IDC_REDO : 0;
         return key == VK_DELETE && ::GetFocus() == m_list.m_hWnd ? IDC_REMOVE : 0;
     }

@@ -207,11 +207,17 @@ protected:
         m_settings.draw(*CDC::FromHandle(item->hDC), item->rcItem, kSample + kSample);
     }
 
-    /// A page that cannot be read tells so itself.
+    /// Each page comes up to be read: one that cannot be tells so itself, and stays.
     void OnOK() override
     {
-        if (m_text.UpdateData(TRUE) && m_colours.UpdateData(TRUE) && m_mark.UpdateData(TRUE))
-            COVOModalDialog::OnOK();
+        Page* const pages[] = {&m_text, &m_colours, &m_mark};
+        for (int i = 0; i < m_tabs.GetItemCount(); ++i) {
+            m_tabs.SetCurSel(i);
+            CShadedTabPage::ShowChosen(m_tabs);
+            if (!pages[i]->UpdateData(TRUE))
+                return;
+        }
+        COVOModalDialog::OnOK();
     }
     DECLARE_MESSAGE_MAP()
 

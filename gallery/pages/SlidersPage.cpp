@@ -229,10 +229,16 @@ void SlidersPage::OnCheck()
 
 void SlidersPage::OnConvention()
 {
-    if (!UpdateData(TRUE) || !m_hWnd)
+    const bool areRead = UpdateData(TRUE) != FALSE;
+    if (!m_hWnd)
         return;
-    const int chosen = static_cast<CComboBox*>(GetDlgItem(IDC_SLIDERS_CONVENTION))->GetCurSel();
-    m_numbers.use(kConventions[chosen].decimal, kConventions[chosen].separator);
+    auto& conventions = *static_cast<CComboBox*>(GetDlgItem(IDC_SLIDERS_CONVENTION));
+    if (!areRead) {
+        conventions.SetCurSel(m_convention); // which goes on
+        return;
+    }
+    m_convention = conventions.GetCurSel();
+    m_numbers.use(kConventions[m_convention].decimal, kConventions[m_convention].separator);
     UpdateData(FALSE);
 }
 

@@ -59,6 +59,7 @@ private:
     UnitsWithTip m_shares{CUnitNumbers::Percent};
     std::array<CSliderButton, kRows> m_buttons;
     std::array<double, kRows> m_values{};
+    int m_convention = 0; ///< in which they are written
     CurvePlot m_plot;
     TurnedBox m_box;
     // Which way they turn is settled when they are made.

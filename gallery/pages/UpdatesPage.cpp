@@ -212,8 +212,12 @@ void UpdatesPage::tellAnswer()
 void UpdatesPage::showRunning(bool running)
 {
     m_progress.SetPos(0);
-    GetDlgItem(IDC_UPDATES_BACKGROUND)->EnableWindow(!running);
-    GetDlgItem(IDC_UPDATES_CANCEL)->EnableWindow(running);
+    CWnd* const next = GetDlgItem(running ? IDC_UPDATES_CANCEL : IDC_UPDATES_BACKGROUND);
+    CWnd* const over = GetDlgItem(running ? IDC_UPDATES_BACKGROUND : IDC_UPDATES_CANCEL);
+    next->EnableWindow(TRUE);
+    if (GetFocus() == over)
+        next->SetFocus(); // or the keyboard would have no window
+    over->EnableWindow(FALSE);
 }
 
 void UpdatesPage::endJob()

@@ -2,6 +2,32 @@
 
 #include <ovoui/colour/ShadedTabCtrl.h>
 
+namespace
+{
+
+/// The page of a tab, or null.
+HWND pageOf(HWND tabs, int index)
+{
+    TCITEMW item{};
+    item.mask = TCIF_PARAM;
+    if (!::SendMessageW(tabs, TCM_GETITEMW, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item)))
+        return nullptr;
+    const auto page = reinterpret_cast<HWND>(item.lParam);
+    return page && ::GetParent(page) == tabs ? page : nullptr;
+}
+
+/// A page that goes out of sight gives the keyboard to the one that is shown, else to the tabs.
+void hide(HWND page, HWND shown, HWND tabs)
+{
+    if (::IsChild(page, ::GetFocus())) {
+        const HWND next = shown ? ::GetNextDlgTabItem(shown, nullptr, FALSE) : nullptr;
+        ::SetFocus(next ? next : tabs);
+    }
+    ::ShowWindow(page, SW_HIDE);
+}
+
+} // namespace
+
 IMPLEMENT_DYNAMIC(CShadedTabPage, CDialog)
 
 BEGIN_MESSAGE_MAP(CShadedTabPage, CDialog)
@@ -31,14 +57,12 @@ BOOL CShadedTabPage::AddTo(CTabCtrl& tabs, UINT templateId, LPCTSTR title)
 void CShadedTabPage::ShowChosen(CTabCtrl& tabs)
 {
     const HWND wnd = tabs.m_hWnd; // which a page may destroy when it hears that it is shown
-    const int chosen = tabs.GetCurSel();
-    for (int i = 0; ::IsWindow(wnd) && i < tabs.GetItemCount(); ++i) {
-        TCITEMW item{};
-        item.mask = TCIF_PARAM;
-        const HWND page = tabs.GetItem(i, &item) ? reinterpret_cast<HWND>(item.lParam) : nullptr;
-        if (page && ::GetParent(page) == wnd)
-            ::ShowWindow(page, i == chosen ? SW_SHOW : SW_HIDE);
-    }
+    const HWND shown = pageOf(wnd, tabs.GetCurSel());
+    if (shown)
+        ::ShowWindow(shown, SW_SHOW);
+    for (int i = 0; ::IsWindow(wnd) && i < tabs.GetItemCount(); ++i)
+        if (const HWND page = pageOf(wnd, i); page && page != shown)
+            hide(page, shown, wnd);
 }
 
 void CShadedTabPage::OnOK() {}

@@ -17,6 +17,9 @@
 /// The template is a child without a border (DS_CONTROL | WS_CHILD), hidden. The page belongs to the host and
 /// lives as long as the tab control's window. Enter and Escape are left to the dialog around it.
 ///
+/// Tab leads to the controls of the page when the tab control has the style WS_EX_CONTROLPARENT; then it
+/// stops at the tabs no more, which PreTranslateTabControl turns by Ctrl+Tab.
+///
 /// With a CShadedTabCtrl the shade shows through; pages on a plain tab control look as dialogs do.
 class OVOUI_API CShadedTabPage : public CDialog
 {
@@ -28,7 +31,8 @@ public:
     /// (TCIF_PARAM) holds the page's window. FALSE, without a tab and a window, when either cannot be made.
     BOOL AddTo(CTabCtrl& tabs, UINT templateId, LPCTSTR title);
 
-    /// Shows the page of the chosen tab of `tabs` and hides the others; tabs without a page are left out.
+    /// Shows the page of the chosen tab of `tabs` and hides the others; tabs without a page are left out. A
+    /// page that had the focus gives it to the first control of the one that is shown.
     static void ShowChosen(CTabCtrl& tabs);
 
 protected:

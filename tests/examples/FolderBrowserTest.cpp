@@ -31,6 +31,16 @@ constexpr File kFiles[] = {{L"a plan.md", 3, 0},    {L"big.txt", 5, 3},   {L"har
                            {L"hedge.jpg", 250, 40}, {L"notes.txt", 1, 0}, {L"pond.png", 88, 5}};
 constexpr int kEntries = std::size(kFiles) + 2; // with two folders
 
+/// The clipboard, which nobody else can use meanwhile.
+class HeldClipboard
+{
+public:
+    HeldClipboard() { EXPECT_TRUE(::OpenClipboard(nullptr)); }
+    ~HeldClipboard() { ::CloseClipboard(); }
+    HeldClipboard(const HeldClipboard&) = delete;
+    HeldClipboard& operator=(const HeldClipboard&) = delete;
+};
+
 class FolderBrowser : public Example
 {
 protected:
@@ -60,6 +70,16 @@ protected:
     void waitForTitle(const std::wstring& title)
     {
         m_program->waitFor("the folder", [&] { return textOf(m_program->main()) == title; });
+    }
+
+    void waitForFocus(HWND wnd)
+    {
+        m_program->waitFor("the focus", [wnd] {
+            GUITHREADINFO thread{};
+            thread.cbSize = sizeof thread;
+            return ::GetGUIThreadInfo(::GetWindowThreadProcessId(wnd, nullptr), &thread) &&
+                   thread.hwndFocus == wnd;
+        });
     }
 
     /// What these keys put on the clipboard.
@@ -181,6 +201,61 @@ TEST_F(FolderBrowser, SeesWhatIsNewWhenItReadsAgain)
     m_program->key(VK_TAB); // to the list: in the tree, F5 is the tree's own
     m_program->key(VK_F5);
     m_program->waitFor("the new file", [this] { return ask(list(), LVM_GETITEMCOUNT) == kEntries + 1; });
+    close();
+}
+
+/// The tree has read its folders before.
+TEST_F(FolderBrowser, OpensAFolderThatIsNew)
+{
+    m_files.addFolder(L"later");
+    m_program->key(VK_TAB); // to the list
+    m_program->key(VK_F5);
+    m_program->waitFor("the new folder", [this] { return ask(list(), LVM_GETITEMCOUNT) == kEntries + 1; });
+    m_program->key(VK_HOME);
+    m_program->key(VK_DOWN, 5);
+    m_program->key(VK_RETURN);
+    waitForTitle(folder(L"later"));
+    m_program->chord(VK_MENU, VK_UP);
+    waitForTitle(folder());
+    close();
+}
+
+TEST_F(FolderBrowser, GoesOnInTheListAfterADialog)
+{
+    m_program->key(VK_TAB); // to the list
+    waitForFocus(list());
+    m_program->chord(VK_CONTROL, 'S');
+    const HWND dialog = openedFileDialog(*m_program);
+    m_program->key(VK_ESCAPE);
+    m_program->waitFor("the end of the file dialog", [dialog] { return !::IsWindow(dialog); });
+    waitForFocus(list());
+    close();
+}
+
+TEST_F(FolderBrowser, TellsThatAnotherProgramHasTheClipboard)
+{
+    const HWND main = m_program->main();
+    {
+        const HeldClipboard held;
+        m_program->chord({VK_CONTROL, VK_SHIFT}, 'C');
+        m_program->waitFor("the message", [main] { return ::IsWindow(main) && !::IsWindowEnabled(main); });
+    }
+    m_program->key(VK_ESCAPE);
+    m_program->waitFor("its end", [main] { return ::IsWindowEnabled(main) != FALSE; });
+    EXPECT_FALSE(copiedNames().empty()) << "the program goes on";
+    close();
+}
+
+TEST_F(FolderBrowser, TakesAFolderFromWhereItWasStarted)
+{
+    close();
+    m_program.emplace(L"folder-browser", L"."); // which starts beside the tests
+    wchar_t module[MAX_PATH]{};
+    ::GetModuleFileNameW(nullptr, module, std::size(module));
+    const std::filesystem::path here = std::filesystem::path(module).parent_path();
+    waitForTitle(here.wstring());
+    m_program->chord(VK_MENU, VK_UP);
+    waitForTitle(here.parent_path().wstring());
     close();
 }
 

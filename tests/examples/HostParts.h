@@ -5,3 +5,4 @@
 
 #define IDD_HOST_PAGE 301
 #define IDC_HOST_LABEL 311
+#define IDC_HOST_EDIT 312

@@ -237,6 +237,25 @@ TEST_F(TabScene, ShowsThePageOfTheChosenTab)
     EXPECT_TRUE(second.IsWindowVisible());
 }
 
+TEST_F(TabScene, GivesTheFocusOfAPageToTheOneThatIsShown)
+{
+    first.GetDlgItem(IDC_HOST_EDIT)->SetFocus();
+    choose(1);
+    EXPECT_EQ(::GetFocus(), second.GetDlgItem(IDC_HOST_EDIT)->m_hWnd);
+    choose(0);
+    EXPECT_EQ(::GetFocus(), first.GetDlgItem(IDC_HOST_EDIT)->m_hWnd);
+    m_tabs.InsertItem(2, L"Plain");
+    choose(2);
+    EXPECT_EQ(::GetFocus(), m_tabs.m_hWnd) << "there is no page";
+}
+
+TEST_F(TabScene, LeavesTheFocusWhereItIsOutsideOfThePages)
+{
+    m_tabs.SetFocus();
+    choose(1);
+    EXPECT_EQ(::GetFocus(), m_tabs.m_hWnd);
+}
+
 TEST_F(TabScene, FillsTheAreaBelowTheTabs)
 {
     CRect area;

@@ -232,6 +232,35 @@ TEST_F(PaletteEditor, AddsAndRemovesColours)
     close();
 }
 
+/// AltGr is Ctrl and Alt, and writes letters with Z and Y on some keyboards.
+TEST_F(PaletteEditor, UndoesNothingByAltGr)
+{
+    change();
+    m_program.chord({VK_CONTROL, VK_MENU}, 'Z');
+    m_program.key(VK_ESCAPE);
+    answer(kNo); // it is asked, since the change is still there
+    EXPECT_TRUE(m_program.endsByItself());
+}
+
+TEST_F(PaletteEditor, BringsNothingBackByAltGr)
+{
+    change();
+    pressUntil(IDC_UNDO, [this] { return !canUndo(); });
+    m_program.chord({VK_CONTROL, VK_MENU}, 'Y');
+    m_program.key(VK_ESCAPE);
+    EXPECT_TRUE(m_program.endsByItself()) << "nothing is asked, since nothing has changed";
+}
+
+TEST_F(PaletteEditor, TakesNoStepBackToWhereNothingHasChanged)
+{
+    m_program.click(item(IDC_LIST), CPoint(20, rectOf(item(IDC_LIST)).Height() - 8)); // none selected
+    m_program.click(item(IDC_REMOVE));
+    change();
+    m_program.click(item(IDC_UNDO));
+    m_program.waitFor("the end: there was one step", [this] { return !canUndo(); });
+    close();
+}
+
 TEST_F(PaletteEditor, TurnsTheHuesOfAllColours)
 {
     const std::wstring before = hue();

@@ -2,6 +2,8 @@
 #include "ExampleScene.h"
 #include "settings-dialog/resource.h"
 
+#include <commctrl.h>
+
 #include <optional>
 
 using namespace ovo::testkit;
@@ -93,6 +95,43 @@ TEST_F(SettingsDialog, StaysOpenForANumberThatIsNone)
     m_program->waitFor("its end", [this] { return ::IsWindowEnabled(m_program->main()) != FALSE; });
     fill(IDC_POINTS, L"12");
     end(IDOK);
+}
+
+TEST_F(SettingsDialog, ShowsThePageWithTheNumberThatIsNone)
+{
+    fill(IDC_POINTS, L"large");
+    nextPage(IDC_INK);
+    m_program->click(item(IDOK));
+    m_program->waitFor("the message", [this] { return !::IsWindowEnabled(m_program->main()); });
+    EXPECT_TRUE(::IsWindowVisible(onPage(IDC_POINTS))) << "behind the message";
+    EXPECT_EQ(ask(item(IDC_TABS), TCM_GETCURSEL), 0);
+    m_program->key(VK_ESCAPE);
+    m_program->waitFor("its end", [this] { return ::IsWindowEnabled(m_program->main()) != FALSE; });
+    m_program->type(L"12"); // the number is selected
+    m_program->waitFor("the number", [this] { return textOf(onPage(IDC_POINTS)) == L"12"; });
+    end(IDOK);
+}
+
+TEST_F(SettingsDialog, IsUsedByKeyboardAlone)
+{
+    const auto waitForFocus = [this](int id) {
+        m_program->waitFor("the focus", [=, this] {
+            GUITHREADINFO thread{};
+            thread.cbSize = sizeof thread;
+            const HWND control = onPage(id);
+            return ::GetGUIThreadInfo(::GetWindowThreadProcessId(control, nullptr), &thread) &&
+                   (thread.hwndFocus == control || ::IsChild(control, thread.hwndFocus));
+        });
+    };
+    waitForFocus(IDC_FONT);
+    m_program->key(VK_TAB);
+    waitForFocus(IDC_POINTS);
+    nextPage(IDC_INK);
+    waitForFocus(IDC_INK);
+    nextPage(IDC_MARK);
+    waitForFocus(IDC_MARK);
+    m_program->key(VK_ESCAPE);
+    EXPECT_TRUE(m_program->endsByItself());
 }
 
 TEST_F(SettingsDialog, FollowsTheSlider)

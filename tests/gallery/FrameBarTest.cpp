@@ -318,6 +318,20 @@ TEST(GalleryBarState, BarsAndChoicesAreFoundAgainAfterARestart)
     EXPECT_EQ(onScreen(scene.frame().pageList()).Width(), scaled(scene.frame(), 222));
 }
 
+/// The system may end a program as soon as its windows have been told.
+TEST(GalleryBarState, IsSavedWhenTheSessionEnds)
+{
+    const TemporaryProfile profile;
+    GalleryScene scene;
+    scene.frame().ShowControlBar(&scene.frame().palette(), TRUE, FALSE);
+    scene.frame().palette().SetDlgItemInt(IDC_FRAME_LIST_WIDTH, 222);
+    scene.frame().SendMessage(WM_ENDSESSION, FALSE, 0); // another program refused
+    EXPECT_NE(AfxGetApp()->GetProfileInt(L"Palette", L"ListWidth", 0), 222u);
+    EXPECT_EQ(scene.frame().SendMessage(WM_QUERYENDSESSION), TRUE);
+    scene.frame().SendMessage(WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(AfxGetApp()->GetProfileInt(L"Palette", L"ListWidth", 0), 222u);
+}
+
 // Pictures
 
 TEST(GalleryPictures, ShowWhatIdleTimeBringsUpToDate)

@@ -250,6 +250,19 @@ TEST_F(KeyboardWalk, EscapeLeadsBackFromEveryBar)
     }
 }
 
+/// The buttons take turns: one that is pressed and disabled hands the keyboard to the other.
+TEST_F(KeyboardWalk, TheKeyboardFollowsACheckInTheBackground)
+{
+    scene.open(L"updates");
+    ::SetFocus(scene.control(IDC_UPDATES_BACKGROUND));
+    scene.page().SendMessage(WM_COMMAND, IDC_UPDATES_BACKGROUND);
+    EXPECT_FALSE(::IsWindowEnabled(scene.control(IDC_UPDATES_BACKGROUND)));
+    EXPECT_EQ(::GetFocus(), scene.control(IDC_UPDATES_CANCEL));
+    EXPECT_TRUE(GuiThread::runUntil(
+        [&] { return ::IsWindowEnabled(scene.control(IDC_UPDATES_BACKGROUND)) != FALSE; }));
+    EXPECT_EQ(::GetFocus(), scene.control(IDC_UPDATES_BACKGROUND));
+}
+
 TEST_F(KeyboardWalk, LettersLeadToTheControlsOfThePalette)
 {
     openWithBars(L"toolbars");

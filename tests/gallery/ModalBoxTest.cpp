@@ -53,6 +53,20 @@ TEST_F(GalleryModalBox, TheAnswerIsShownByThePage)
     EXPECT_STREQ(answer, L"IDYES");
 }
 
+TEST_F(GalleryModalBox, TheFocusComesBackToTheButton)
+{
+    whenBoxIsOpen().key(VK_RETURN).waitFor("the box to go", [] { return shownDialog() == nullptr; });
+    EXPECT_EQ(::GetFocus(), scene.control(IDC_BOX_SHOW));
+}
+
+TEST_F(GalleryModalBox, TheFocusComesToTheListWhenItsControlHasGone)
+{
+    whenBoxIsOpen().then([this] { scene.open(L"themes"); }).key(VK_ESCAPE).waitFor("the box to go", [] {
+        return shownDialog() == nullptr;
+    });
+    EXPECT_EQ(::GetFocus(), scene.frame().pageList().m_hWnd);
+}
+
 TEST_F(GalleryModalBox, AnotherPageMayBeOpenedMeanwhile)
 {
     const std::weak_ptr<GalleryPage> page = scene.page().weak_from_this();

@@ -1,4 +1,4 @@
-"""The commands run and test in a small checkout: what they say where they cannot go on, and two at a time."""
+"""The commands run, test and package in a small checkout: what they say where they cannot go on, and two at a time."""
 import os
 import pathlib
 import shutil
@@ -26,7 +26,7 @@ class Checkout(unittest.TestCase):
         self.programs = top / "programs"
         (self.root / "cmake").mkdir(parents=True)
         self.programs.mkdir()
-        for name in ("run", "test", "cmake/setup.sh"):
+        for name in ("run", "test", "package", "cmake/setup.sh"):
             shutil.copy(ROOT / name, self.root / name)
         self.program("cmake", "exit 0")
         self.program("dpkg-query", "printf installed")
@@ -82,7 +82,7 @@ class Refusals(Checkout):
         self.program("dpkg-query", '[ "${@: -1}" = xvfb ] || printf installed')
         for command in ("test", "run"):
             self.refused(self.start(command, NOBODY),
-                         "packages are missing; as root run: apt-get install --no-install-recommends xvfb")
+                         "packages are missing; as root run: apt-get update && apt-get install --no-install-recommends xvfb")
 
     def test_a_system_without_packages(self):
         self.programs.joinpath("dpkg-query").unlink()
@@ -119,6 +119,12 @@ class Refusals(Checkout):
             process = subprocess.run([self.root / "run", "--dpi", words], capture_output=True, text=True, check=False)
             self.assertEqual(process.returncode, 1)
             self.assertEqual(process.stderr, "run: --dpi needs a number from 48 to 480\n")
+
+    def test_a_word_that_package_does_not_know(self):
+        for words in (["--archive"], ["--twice", "again"], [""]):
+            process = subprocess.run([self.root / "package", *words], capture_output=True, text=True, check=False)
+            self.assertEqual(process.returncode, 1)
+            self.assertEqual(process.stderr, "package: takes nothing but --twice\n")
 
 
 class TwoAtATime(Checkout):
