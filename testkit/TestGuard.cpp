@@ -19,7 +19,8 @@ BOOL CALLBACK collectShown(HWND window, LPARAM windows)
 
 void TestGuard::OnTestStart(const ::testing::TestInfo&)
 {
-    TestApp::instance().forget();
+    if (auto* const app = dynamic_cast<TestApp*>(AfxGetApp())) // not the host's own application
+        app->forget();
     GuiThread::tookQuit();
     m_watchdog.begin();
 }
