@@ -208,8 +208,8 @@ TEST(TestGuard, LetsATestPassThatCleansUp)
 
 TEST(TestGuard, FailsATestThatLeavesAnExceptionAndRunsTheOthers)
 {
-    const Outcome outcome = runAlone(
-        L"DISABLED_Wrong.LeavesAMessageThatIsAnsweredByAnException:DISABLED_Wrong.LeavesNothing");
+    const Outcome outcome =
+        runAlone(L"DISABLED_Wrong.LeavesAMessageThatIsAnsweredByAnException:DISABLED_Wrong.LeavesNothing");
 
     EXPECT_NE(outcome.exitCode, 0U);
     EXPECT_THAT(outcome.output, HasSubstr("too late"));

@@ -46,8 +46,7 @@ TEST(HostApp, IsLeftAloneByTheGuard)
 TEST(HostApp, ShowsItsMessageBoxes)
 {
     Robot robot;
-    auto answering =
-        robot.waitFor("the box", [] { return shownDialog() != nullptr; }).key(VK_ESCAPE).start();
+    auto answering = robot.waitFor("the box", [] { return shownDialog() != nullptr; }).key(VK_ESCAPE).start();
     EXPECT_EQ(AfxMessageBox(L"Really?", MB_OKCANCEL), IDCANCEL);
 }
 
