@@ -81,9 +81,18 @@ void takeTreeData(Notification& notification, const NMHDR& header)
     case TVN_KEYDOWN:
         notification.action = reinterpret_cast<const NMTVKEYDOWN&>(header).wVKey;
         return;
+    case TVN_ITEMCHANGINGW:
+    case TVN_ITEMCHANGEDW: { // which not every platform sends
+        const auto& change = reinterpret_cast<const NMTVITEMCHANGE&>(header);
+        notification.newItem = change.hItem;
+        notification.state = change.uStateNew;
+        notification.itemData = change.lParam;
+        return;
+    }
     case TVN_GETDISPINFOW:
     case TVN_SETDISPINFOW:
     case TVN_GETINFOTIPW:
+    case TVN_ASYNCDRAW:
         return;
     default: {
         const auto& change = reinterpret_cast<const NMTREEVIEWW&>(header);
