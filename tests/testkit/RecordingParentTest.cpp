@@ -96,12 +96,13 @@ TEST(RecordingParent, DecodesTreeNotifications)
 TEST(RecordingParent, DecodesAChangeOfAnItemsState)
 {
     TreeScene scene;
-    // Only some platforms send it. It is shorter than what comes with a selection.
+    // It is shorter than what comes with a selection.
     union {
         NMTREEVIEWW whole;
         NMTVITEMCHANGE change;
     } sent{};
     for (const UINT code : {static_cast<UINT>(TVN_ITEMCHANGINGW), static_cast<UINT>(TVN_ITEMCHANGEDW)}) {
+        scene.parent.log().regard(code);
         sent.change = {{scene.tree, kTreeId, code}, TVIF_STATE, scene.elm, TVIS_BOLD, TVIS_SELECTED, 77};
         scene.parent.SendMessage(WM_NOTIFY, kTreeId, reinterpret_cast<LPARAM>(&sent));
 
@@ -112,6 +113,16 @@ TEST(RecordingParent, DecodesAChangeOfAnItemsState)
         EXPECT_EQ(change.itemData, 77);
         EXPECT_EQ(change.action, 0U);
     }
+}
+
+TEST(RecordingParent, LeavesOutChangesOfStateThatOnlySomePlatformsTell)
+{
+    TreeScene scene;
+    for (const UINT code : {static_cast<UINT>(TVN_ITEMCHANGINGW), static_cast<UINT>(TVN_ITEMCHANGEDW)}) {
+        NMTVITEMCHANGE sent{{scene.tree, kTreeId, code}, TVIF_STATE, scene.elm, TVIS_BOLD, 0, 77};
+        scene.parent.SendMessage(WM_NOTIFY, kTreeId, reinterpret_cast<LPARAM>(&sent));
+    }
+    EXPECT_TRUE(scene.parent.log().empty());
 }
 
 TEST(RecordingParent, DecodesTheTextOfALabelEdit)
