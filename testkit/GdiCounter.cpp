@@ -1,5 +1,6 @@
 #include "GdiCounter.h"
 #include "GdiHandles.h"
+#include "detail/UnderWine.h"
 
 #include <winternl.h>
 
@@ -25,11 +26,6 @@ static_assert(sizeof(HandleEntry) == 24);
 
 constexpr std::uintptr_t kTableSize = 0x10000;
 constexpr int kTableInPeb = 0xF8;
-
-bool runsUnderWine()
-{
-    return ::GetProcAddress(::GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-}
 
 /// Calls `take` with the handle of each object that is alive. Objects that the system deletes in batches are
 /// gone then.

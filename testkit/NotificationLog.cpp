@@ -81,9 +81,18 @@ void takeTreeData(Notification& notification, const NMHDR& header)
     case TVN_KEYDOWN:
         notification.action = reinterpret_cast<const NMTVKEYDOWN&>(header).wVKey;
         return;
+    case TVN_ITEMCHANGINGW:
+    case TVN_ITEMCHANGEDW: {
+        const auto& change = reinterpret_cast<const NMTVITEMCHANGE&>(header);
+        notification.newItem = change.hItem;
+        notification.state = change.uStateNew;
+        notification.itemData = change.lParam;
+        return;
+    }
     case TVN_GETDISPINFOW:
     case TVN_SETDISPINFOW:
     case TVN_GETINFOTIPW:
+    case TVN_ASYNCDRAW:
         return;
     default: {
         const auto& change = reinterpret_cast<const NMTREEVIEWW&>(header);
@@ -100,8 +109,9 @@ void takeTreeData(Notification& notification, const NMHDR& header)
 } // namespace
 
 NotificationLog::NotificationLog()
-    : m_ignored{static_cast<UINT>(NM_CUSTOMDRAW), static_cast<UINT>(NM_SETCURSOR),
-                static_cast<UINT>(TVN_GETDISPINFOW), static_cast<UINT>(LVN_GETDISPINFOW)}
+    : m_ignored{static_cast<UINT>(NM_CUSTOMDRAW),     static_cast<UINT>(NM_SETCURSOR),
+                static_cast<UINT>(TVN_GETDISPINFOW),  static_cast<UINT>(LVN_GETDISPINFOW),
+                static_cast<UINT>(TVN_ITEMCHANGINGW), static_cast<UINT>(TVN_ITEMCHANGEDW)}
 {
 }
 

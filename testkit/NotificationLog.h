@@ -34,7 +34,8 @@ struct Notification
 };
 
 /// Notifications in the order in which they came. Those that windows send at will while drawing and
-/// hovering (custom draw, cursors, requests for display data) are left out.
+/// hovering (custom draw, cursors, requests for display data) are left out, and so are changes of the state
+/// of tree items (TVN_ITEMCHANGING, TVN_ITEMCHANGED), of which not every platform tells.
 class NotificationLog
 {
 public:

@@ -2,6 +2,7 @@
 #include "GuiThread.h"
 #include "Snapshot.h"
 #include "Watchdog.h"
+#include "detail/Thrown.h"
 
 #include <gtest/gtest.h>
 
@@ -97,6 +98,7 @@ Performance::~Performance() noexcept(false)
         finish();
         return;
     }
+    // One exception is on its way already; what else handlers throw meanwhile has no way out.
     m_state->cut = true;
     leave();
 }
@@ -105,29 +107,38 @@ void Performance::finish()
 {
     if (!m_thread.joinable())
         return;
-    // Every wait inside a story has a limit of its own, so that this one needs none but the watchdog's.
-    GuiThread::runUntil([this] { return m_state->over.load(); }, kForever);
-    leave();
+    std::exception_ptr thrown;
+    try {
+        // Every wait inside a story has a limit of its own, so that this one needs none but the watchdog's.
+        GuiThread::runUntil([this] { return m_state->over.load(); }, kForever);
+    } catch (...) {
+        thrown = std::current_exception();
+        m_state->cut = true;
+    }
+    const std::exception_ptr later = leave();
+    if (thrown || later)
+        std::rethrow_exception(thrown ? thrown : later);
     GuiThread::settle();
     if (!m_state->problem.empty())
         ADD_FAILURE() << m_state->problem;
 }
 
-// Waits for the robot's thread, which may still be asking something.
-void Performance::leave()
+// Waits for the robot's thread, which may still be asking something. Gives the first exception that handlers
+// throw meanwhile.
+std::exception_ptr Performance::leave()
 {
+    std::exception_ptr first;
     m_state->loopFree = true;
-    for (;;) {
+    while (!m_state->gone) {
         try {
             GuiThread::runUntil([this] { return m_state->gone.load(); }, kForever);
-            break;
         } catch (...) {
-            // One exception is on its way already; what else handlers throw meanwhile has no way out.
-            if (std::uncaught_exceptions() == 0)
-                throw;
+            if (!first)
+                first = std::current_exception();
         }
     }
     m_thread.join();
+    return first;
 }
 
 void Performance::act(State& state)
@@ -142,8 +153,9 @@ void Performance::act(State& state)
             step.act(stage);
             Watchdog::progress();
         }
-    } catch (const std::exception& problem) {
-        state.problem = std::string{"the story stopped at \""} + name + "\": " + problem.what();
+    } catch (...) {
+        state.problem =
+            std::string{"the story stopped at \""} + name + "\": " + thrownText(std::current_exception());
         takeSnapshot(state.problem);
     }
     letGo(stage);

@@ -3,6 +3,7 @@
 #include "Stage.h"
 
 #include <atomic>
+#include <exception>
 #include <memory>
 #include <string>
 #include <thread>
@@ -39,7 +40,7 @@ public:
 private:
     struct State;
 
-    void leave();
+    std::exception_ptr leave();
     static void act(State& state);
     static void letGo(Stage& stage);
     static void freeTheLoop(State& state, Stage& stage);

@@ -35,8 +35,11 @@ LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         return result;
     // The control has had its say by reflection above; the parent has the last word.
     auto* header = reinterpret_cast<NMHDR*>(lParam);
-    const auto reply = m_replies.find(header->code);
-    return reply == m_replies.end() ? result : reply->second(header);
+    const auto found = m_replies.find(header->code);
+    if (found == m_replies.end())
+        return result;
+    const auto reply = found->second; // which may put another one in its place
+    return reply(header);
 }
 
 } // namespace ovo::testkit

@@ -1,4 +1,5 @@
 #include "RunningProgram.h"
+#include "detail/UnderWine.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -69,6 +70,13 @@ std::string inFront()
     return words;
 }
 
+/// Whether the display still has to do, in its own time, what a window at a point asks for by being `shown`
+/// or gone. That is so under Wine alone; on Windows the screen may be black in a window and is not without.
+bool isBehind(CPoint screen, bool shown)
+{
+    return runsUnderWine() && (colourAt(screen) == kBareScreen) == shown;
+}
+
 /// Neither it nor a window that it is part of is disabled or hidden.
 bool takesInput(HWND wnd)
 {
@@ -85,12 +93,23 @@ RunningProgram::RunningProgram(const std::wstring& name, const std::wstring& arg
     const fs::path program = folderOfTests() / (name + L".exe");
     std::wstring commandLine = L"\"" + program.wstring() + L"\" " + arguments;
     m_process = started(commandLine, program.parent_path());
-    waitFor("the program's main window", [this] { return !shownWindows().empty(); });
-    m_main = shownWindows().back();
-    comeToTheFront();
+    try {
+        waitFor("the program's main window", [this] { return !shownWindows().empty(); });
+        m_main = shownWindows().back();
+        comeToTheFront();
+    } catch (...) {
+        end();
+        throw;
+    }
 }
 
 RunningProgram::~RunningProgram()
+{
+    end();
+    leaveABareScreen();
+}
+
+void RunningProgram::end()
 {
     m_input.releaseAll();
     if (::WaitForSingleObject(m_process.hProcess, 0) != WAIT_OBJECT_0) {
@@ -99,15 +118,13 @@ RunningProgram::~RunningProgram()
     }
     ::CloseHandle(m_process.hThread);
     ::CloseHandle(m_process.hProcess);
-    leaveABareScreen();
 }
 
-/// The display takes the windows of an ended program away in its own time; the next program must not be taken
-/// for shown because of them.
+/// The next program must not be taken for shown because of what the display has not taken away yet.
 void RunningProgram::leaveABareScreen() const
 {
     const auto end = std::chrono::steady_clock::now() + kPatience;
-    while (colourAt(m_place) != kBareScreen && std::chrono::steady_clock::now() < end)
+    while (isBehind(m_place, false) && std::chrono::steady_clock::now() < end)
         std::this_thread::sleep_for(5ms);
 }
 
@@ -120,7 +137,7 @@ void RunningProgram::comeToTheFront()
         ::SetForegroundWindow(m_main);
     waitFor("the program to come to the front", [this] { return isInFront() && isActive(); });
     m_place = rectOf(m_main).TopLeft() + CSize(5, 5);
-    waitFor("the window to be seen", [this] { return colourAt(m_place) != kBareScreen; });
+    waitFor("the window to be seen", [this] { return !isBehind(m_place, true); });
     letCatchUp();
 }
 

@@ -76,6 +76,7 @@ public:
     bool endsByItself() { return waitForEnd() < 0x10000; }
 
 private:
+    void end();
     std::vector<HWND> shownWindows() const;
     void comeToTheFront();
     void leaveABareScreen() const;

@@ -35,7 +35,7 @@ struct AskedHelp
 class TestApp : public CWinApp
 {
 public:
-    /// The one object there is.
+    /// The one object there is. Not where the program has an application of its own.
     static TestApp& instance();
 
     /// The boxes since the test began, in order.

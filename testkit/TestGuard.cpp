@@ -1,6 +1,7 @@
 #include "TestGuard.h"
 #include "GuiThread.h"
 #include "TestApp.h"
+#include "detail/Thrown.h"
 
 namespace ovo::testkit
 {
@@ -19,16 +20,28 @@ BOOL CALLBACK collectShown(HWND window, LPARAM windows)
 
 void TestGuard::OnTestStart(const ::testing::TestInfo&)
 {
-    TestApp::instance().forget();
+    if (auto* const app = dynamic_cast<TestApp*>(AfxGetApp())) // not the host's own application
+        app->forget();
     GuiThread::tookQuit();
     m_watchdog.begin();
 }
 
 void TestGuard::OnTestEnd(const ::testing::TestInfo&)
 {
-    GuiThread::settle();
+    handleLeftMessages();
     closeLeftWindows();
     m_watchdog.end();
+}
+
+// What a handler throws now would end the program before the other tests have run.
+void TestGuard::handleLeftMessages()
+{
+    try {
+        GuiThread::settle();
+    } catch (...) {
+        ADD_FAILURE() << "a message that the test left was answered by an exception: "
+                      << thrownText(std::current_exception());
+    }
 }
 
 // What one test leaves open would take the next one's input.

@@ -16,6 +16,7 @@ public:
     void OnTestEnd(const ::testing::TestInfo& test) override;
 
 private:
+    static void handleLeftMessages();
     static void closeLeftWindows();
 
     Watchdog m_watchdog;

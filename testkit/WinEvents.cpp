@@ -24,7 +24,10 @@ WinEvents::~WinEvents()
 {
     ::UnhookWinEvent(m_hook);
     ::DestroyWindow(m_marker);
-    s_first = m_next;
+    WinEvents** place = &s_first;
+    while (*place != this)
+        place = &(*place)->m_next;
+    *place = m_next;
 }
 
 void CALLBACK WinEvents::hear(HWINEVENTHOOK hook, DWORD, HWND window, LONG object, LONG child, DWORD, DWORD)

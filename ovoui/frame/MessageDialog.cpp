@@ -51,13 +51,14 @@ void COVOMessageDialog::PressDefaultAfter(unsigned seconds)
 
 int COVOMessageDialog::DoModal() const
 {
-    COVOMessageDialogBox box(*this);
-    const int known = m_entry.empty() ? 0 : answers().number(m_entry);
+    const COVOMessageDialog own = *this; // the host may delete this object while the box is open
+    COVOMessageDialogBox box(own);
+    const int known = own.m_entry.empty() ? 0 : answers().number(own.m_entry);
     if (box.mayBeKept(known))
         return known;
     const int answer = static_cast<int>(box.DoModal());
     if (box.keepsAnswer() && box.mayBeKept(answer))
-        answers().write(m_entry, answer);
+        answers().write(own.m_entry, answer);
     return answer;
 }
 

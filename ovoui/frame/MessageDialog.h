@@ -48,7 +48,7 @@ public:
     /// As `helpId` of OVOMessageBox.
     void SetHelp(UINT helpId) { m_helpId = helpId; }
 
-    /// The id of the button pressed; else as OVOMessageBox.
+    /// The id of the button pressed; else as OVOMessageBox. This object may be deleted while the box is open.
     int DoModal() const;
 
     /// Forgets what the user has answered for an `entry`: its box is shown again.

@@ -31,6 +31,8 @@ END_MESSAGE_MAP()
 namespace
 {
 
+constexpr auto kOutside = static_cast<DWORD>(MAKELONG(0xFFFF, 0xFFFF)); ///< where no character is
+
 /// What the platform knows of the characters; nothing where it fails.
 std::vector<CharacterBreak> platformBreaks(const std::wstring& text)
 {
@@ -157,7 +159,7 @@ LRESULT MessageText::OnPosFromChar(WPARAM position, LPARAM)
 LRESULT MessageText::OnCharFromPos(WPARAM, LPARAM point)
 {
     const LRESULT found = DefWindowProc(EM_CHARFROMPOS, 0, point);
-    if (m_wrapped.isPlain() || found == -1)
+    if (m_wrapped.isPlain() || static_cast<DWORD>(found) == kOutside) // with its sign or without
         return found;
     const LRESULT line = DefWindowProc(EM_LINEINDEX, HIWORD(found), 0);
     const std::size_t position =

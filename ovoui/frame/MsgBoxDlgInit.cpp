@@ -114,7 +114,7 @@ BOOL COVOMsgBoxDlg::OnInitDialog()
 
 void COVOMsgBoxDlg::readSavedPosition()
 {
-    m_saved = parsePosition(settingsSection().text(m_settingsKey.GetString()));
+    m_saved = withinReach(parsePosition(settingsSection().text(m_settingsKey.GetString())));
 }
 
 void COVOMsgBoxDlg::useGuiFont()

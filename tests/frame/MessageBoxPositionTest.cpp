@@ -117,13 +117,15 @@ TEST_F(MessageBoxPosition, TheEmptyKeyRemembersToo)
 
 TEST_F(MessageBoxPosition, APlaceOffTheScreenIsPulledIntoView)
 {
-    save(L"off", L"9000,8000");
     CRect work;
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-    inspect({.settingsKey = L"off"}, [&work](HWND box) {
-        EXPECT_EQ(screenRect(box).right, work.right);
-        EXPECT_EQ(screenRect(box).bottom, work.bottom);
-    });
+    for (const wchar_t* place : {L"9000,8000", L"2147483647,2147483647"}) {
+        save(L"off", place);
+        inspect({.settingsKey = L"off"}, [&](HWND box) {
+            EXPECT_EQ(screenRect(box).right, work.right) << place;
+            EXPECT_EQ(screenRect(box).bottom, work.bottom) << place;
+        });
+    }
 }
 
 TEST_F(MessageBoxPosition, APlaceThatIsThatOfTheTemplateIsNotTakenForNone)

@@ -338,6 +338,29 @@ TEST(MessageBoxWrap, PositionsAndPointsBelongTogether)
     });
 }
 
+namespace
+{
+
+/// A platform that answers a point outside of the text without a sign.
+LRESULT WINAPI unsignedProcedure(WNDPROC procedure, HWND wnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT answer = ::CallWindowProcW(procedure, wnd, message, wParam, lParam);
+    return message == EM_CHARFROMPOS ? static_cast<LRESULT>(static_cast<DWORD>(answer)) : answer;
+}
+
+} // namespace
+
+TEST(MessageBoxWrap, APointOutsideOfTheTextHasNoPositionWhateverItsSign)
+{
+    const ImportPatch patch{L"ovomfc.dll", "CallWindowProcW", reinterpret_cast<void*>(&unsignedProcedure)};
+    const std::wstring message = prose(400);
+    inspect({.text = message.c_str()}, [](HWND box) {
+        const LRESULT found = send(textControl(box), EM_CHARFROMPOS, 0, MAKELPARAM(5000, 5000));
+        EXPECT_EQ(LOWORD(found), 0xFFFF);
+        EXPECT_EQ(HIWORD(found), 0xFFFF);
+    });
+}
+
 TEST(MessageBoxWrap, TheTextCanBeReadInPieces)
 {
     const std::wstring message = prose(700);

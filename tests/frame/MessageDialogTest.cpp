@@ -1,6 +1,7 @@
 // COVOMessageDialog: the host's buttons, details, answers that are kept, the count.
 #include "MessageBoxScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/Clipboard.h>
 #include <testkit/GdiCounter.h>
 #include <testkit/ImportPatch.h>
@@ -394,6 +395,28 @@ TEST_F(MessageDialogTest, AnAnswerIsKeptAndGivenWithoutABox)
     COVOMessageDialog::ForgetAnswer(L"Fonts");
     EXPECT_EQ(answerBy(box, clicking(kReplace)), kReplace);
     EXPECT_EQ(kept(L"Fonts"), -1);
+}
+
+TEST_F(MessageDialogTest, MayBeDeletedByItsHostWhileItIsShown)
+{
+    auto box = std::make_unique<Perishing<COVOMessageDialog>>(nullptr, L"The message.", L"Box");
+    box->AddButton(kReplace, L"&Replace");
+    box->SetDetails(L"More");
+    box->OfferNotToAsk(L"Fonts");
+    const auto checked = [] {
+        return ::SendMessageW(control(kNotAgainId), BM_GETCHECK, 0, 0) == BST_CHECKED;
+    };
+    auto answering = whenOpen()
+                         .then([&box] { box.reset(); })
+                         .click([] { return control(kDetailsButtonId); })
+                         .waitFor("the details", &detailsShown)
+                         .click([] { return control(kNotAgainId); })
+                         .waitFor("the mark", checked)
+                         .click([] { return control(kReplace); })
+                         .start();
+    EXPECT_EQ(box->DoModal(), kReplace);
+    EXPECT_FALSE(box);
+    EXPECT_EQ(kept(L"Fonts"), kReplace);
 }
 
 TEST_F(MessageDialogTest, AMarkThatIsTakenBackKeepsNothing)

@@ -31,6 +31,8 @@ public:
     {
     }
 
+    BOOL dispatch(LRESULT& result) { return OnWndMsg(kAct, 0, 0, &result); }
+
     std::function<void()> onInit = [] {};
     std::function<void()> onAct = [] {};
     LRESULT actResult = -7;
@@ -101,6 +103,22 @@ TEST(ModalDialog, ShowsAStandardException)
     EXPECT_EQ(boxes()[0].text, L"no more elms");
     EXPECT_EQ(boxes()[0].type, 0x2030u);
     EXPECT_EQ(boxes()[0].helpId, static_cast<UINT>(IDD_ERROR_DIALOG));
+}
+
+TEST(ModalDialog, AnErrorCountsAsHandledAndLeavesTheAnswerAlone)
+{
+    ErrorDialog dialog;
+    LRESULT answer = -7;
+    EXPECT_TRUE(dialog.dispatch(answer));
+    EXPECT_EQ(answer, 42);
+    for (const auto& act : {std::function<void()>([] { throw OvoError(L"oak"); }),
+                            std::function<void()>([] { throw std::runtime_error("elm"); })}) {
+        dialog.onAct = act;
+        answer = -7;
+        EXPECT_TRUE(dialog.dispatch(answer));
+        EXPECT_EQ(answer, -7);
+    }
+    EXPECT_EQ(boxes().size(), 2u);
 }
 
 namespace

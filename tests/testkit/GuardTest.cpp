@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 using namespace ovo::testkit;
 using ::testing::HasSubstr;
@@ -139,6 +140,21 @@ TEST(DISABLED_Wrong, LeavesAWindow)
     present(*forgotten);
 }
 
+TEST(DISABLED_Wrong, LeavesAMessageThatIsAnsweredByAnException)
+{
+    class Throwing : public RecordingParent
+    {
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_APP)
+                throw std::runtime_error("too late");
+            return RecordingParent::WindowProc(message, wParam, lParam);
+        }
+    };
+    (new Throwing)->PostMessage(WM_APP);
+}
+
 TEST(DISABLED_Wrong, LeavesNothing)
 {
     RecordingParent parent;
@@ -188,6 +204,17 @@ TEST(TestGuard, LetsATestPassThatCleansUp)
 
     EXPECT_EQ(outcome.exitCode, 0U) << outcome.output;
     EXPECT_THAT(outcome.output, Not(HasSubstr("left a window open")));
+}
+
+TEST(TestGuard, FailsATestThatLeavesAnExceptionAndRunsTheOthers)
+{
+    const Outcome outcome =
+        runAlone(L"DISABLED_Wrong.LeavesAMessageThatIsAnsweredByAnException:DISABLED_Wrong.LeavesNothing");
+
+    EXPECT_NE(outcome.exitCode, 0U);
+    EXPECT_THAT(outcome.output, HasSubstr("too late"));
+    EXPECT_THAT(outcome.output, HasSubstr("[  FAILED  ] DISABLED_Wrong.LeavesAMessage"));
+    EXPECT_THAT(outcome.output, HasSubstr("[       OK ] DISABLED_Wrong.LeavesNothing"));
 }
 
 TEST(ImportPatch, EndsAProgramThatPatchesWhatIsNotImported)

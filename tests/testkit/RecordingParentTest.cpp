@@ -7,6 +7,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest-spi.h>
 
+#include <memory>
+
 using namespace ovo::testkit;
 using ::testing::ElementsAre;
 
@@ -91,6 +93,38 @@ TEST(RecordingParent, DecodesTreeNotifications)
     EXPECT_EQ(change.action, static_cast<UINT>(TVC_UNKNOWN));
 }
 
+TEST(RecordingParent, DecodesAChangeOfAnItemsState)
+{
+    TreeScene scene;
+    // It is shorter than what comes with a selection.
+    union {
+        NMTREEVIEWW whole;
+        NMTVITEMCHANGE change;
+    } sent{};
+    for (const UINT code : {static_cast<UINT>(TVN_ITEMCHANGINGW), static_cast<UINT>(TVN_ITEMCHANGEDW)}) {
+        scene.parent.log().regard(code);
+        sent.change = {{scene.tree, kTreeId, code}, TVIF_STATE, scene.elm, TVIS_BOLD, TVIS_SELECTED, 77};
+        scene.parent.SendMessage(WM_NOTIFY, kTreeId, reinterpret_cast<LPARAM>(&sent));
+
+        const Notification change = scene.parent.log().last(code);
+        EXPECT_EQ(change.newItem, scene.elm);
+        EXPECT_EQ(change.oldItem, nullptr);
+        EXPECT_EQ(change.state, static_cast<UINT>(TVIS_BOLD));
+        EXPECT_EQ(change.itemData, 77);
+        EXPECT_EQ(change.action, 0U);
+    }
+}
+
+TEST(RecordingParent, LeavesOutChangesOfStateThatOnlySomePlatformsTell)
+{
+    TreeScene scene;
+    for (const UINT code : {static_cast<UINT>(TVN_ITEMCHANGINGW), static_cast<UINT>(TVN_ITEMCHANGEDW)}) {
+        NMTVITEMCHANGE sent{{scene.tree, kTreeId, code}, TVIF_STATE, scene.elm, TVIS_BOLD, 0, 77};
+        scene.parent.SendMessage(WM_NOTIFY, kTreeId, reinterpret_cast<LPARAM>(&sent));
+    }
+    EXPECT_TRUE(scene.parent.log().empty());
+}
+
 TEST(RecordingParent, DecodesTheTextOfALabelEdit)
 {
     TreeScene scene;
@@ -129,6 +163,25 @@ TEST(RecordingParent, AnswerIsAskedForWithTheOriginalStructure)
 
     EXPECT_EQ(wanted, scene.elm);
     EXPECT_EQ(scene.tree.GetSelectedItem(), scene.elm);
+}
+
+TEST(RecordingParent, AnAnswerMayReplaceItself)
+{
+    TreeScene scene;
+    auto kept = std::make_shared<int>(0);
+    const std::weak_ptr<int> alive = kept;
+    bool aliveBehind = false;
+    scene.parent.answer(TVN_SELCHANGINGW, [&, own = std::move(kept)](NMHDR*) -> LRESULT {
+        scene.parent.answer(TVN_SELCHANGINGW, FALSE);
+        aliveBehind = !alive.expired();
+        return TRUE;
+    });
+
+    scene.tree.SelectItem(scene.elm);
+    EXPECT_EQ(scene.tree.GetSelectedItem(), scene.oak) << "the first answer";
+    EXPECT_TRUE(aliveBehind);
+    scene.tree.SelectItem(scene.elm);
+    EXPECT_EQ(scene.tree.GetSelectedItem(), scene.elm) << "the second one";
 }
 
 TEST(RecordingParent, LeavesOutWhatIsSentForDrawing)

@@ -1,9 +1,11 @@
+#include <testkit/ImportPatch.h>
 #include <testkit/RunningProgram.h>
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <stdexcept>
+#include <string>
 
 using namespace ovo::testkit;
 using namespace std::chrono_literals;
@@ -13,12 +15,42 @@ namespace
 
 constexpr wchar_t kProgram[] = L"mfc_program_units"; // its main window is a dialog
 
+constexpr wchar_t kWindowless[] = L"ovo program without a window";
+
 bool isGone(HWND window)
 {
     return !::IsWindow(window);
 }
 
+bool exists(const wchar_t* mutex)
+{
+    const HANDLE found = ::OpenMutexW(SYNCHRONIZE, FALSE, mutex);
+    if (found)
+        ::CloseHandle(found);
+    return found != nullptr;
+}
+
+FARPROC WINAPI noWine(HMODULE module, LPCSTR function)
+{
+    return std::string(function) == "wine_get_version" ? nullptr : ::GetProcAddress(module, function);
+}
+
+int s_pixels = 0; ///< that were looked at
+
+COLORREF WINAPI blackPixel(HDC, int, int)
+{
+    ++s_pixels;
+    return RGB(0, 0, 0);
+}
+
 } // namespace
+
+// Run only by the test below.
+TEST(DISABLED_Program, WithoutAWindow)
+{
+    ::CreateMutexW(nullptr, FALSE, kWindowless);
+    ::Sleep(INFINITE);
+}
 
 TEST(RunningProgram, ThatDoesNotExistIsAnError)
 {
@@ -110,6 +142,29 @@ TEST(RunningProgram, EndsWithItsObject)
         EXPECT_FALSE(isGone(window));
     }
     EXPECT_TRUE(isGone(window));
+}
+
+TEST(RunningProgram, ThatShowsNoWindowIsAnErrorAndEnds)
+{
+    EXPECT_THROW(
+        RunningProgram(L"test_testkit",
+                       L"--gtest_also_run_disabled_tests --gtest_filter=DISABLED_Program.WithoutAWindow"),
+        std::runtime_error);
+    EXPECT_FALSE(exists(kWindowless));
+}
+
+/// There the screen may be black in a window, and is not without one.
+TEST(RunningProgram, IsNotLookedForOnTheScreenOfWindows)
+{
+    {
+        const ImportPatch windows{nullptr, "GetProcAddress", reinterpret_cast<void*>(&noWine)};
+        const ImportPatch screen{nullptr, "GetPixel", reinterpret_cast<void*>(&blackPixel)};
+        s_pixels = 0;
+        RunningProgram program{kProgram};
+        EXPECT_TRUE(program.shows(textOf(program.main())));
+    }
+    EXPECT_EQ(s_pixels, 0);
+    RunningProgram{kProgram}; // leaves a bare screen to the next test
 }
 
 TEST(RunningProgram, ThatCrashesHasNotEndedByItself)

@@ -187,6 +187,14 @@ TEST(Story, ConditionThatThrowsFailsTheStory)
     EXPECT_NONFATAL_FAILURE(robot.waitFor("a leaf", condition), "no such leaf");
 }
 
+TEST(Story, WhateverADeedThrowsFailsTheStory)
+{
+    Robot robot;
+
+    EXPECT_NONFATAL_FAILURE(robot.then([] { throw 5; }), "no exception of the standard library");
+    EXPECT_NONFATAL_FAILURE(robot.then([] { ::AfxThrowNotSupportedException(); }), "a CException: L\"");
+}
+
 TEST(Story, PointingAtAWindowThatIsGoneFailsTheStory)
 {
     Robot robot;
@@ -288,6 +296,15 @@ TEST(Story, WhatAHandlerThrowsComesOutOfTheStory)
     Robot robot;
 
     EXPECT_THROW(robot.click(Spot{window}), std::runtime_error);
+}
+
+TEST(Story, WhatAHandlerThrowsComesOutOfAStoryThatTheTestHasStartedAndLeft)
+{
+    ThrowingWindow window;
+    present(window);
+    Robot robot;
+
+    EXPECT_THROW({ auto clicking = robot.click(Spot{window}).start(); }, std::runtime_error);
 }
 
 TEST(Story, IsOverWithWhatItSetOffWhenTheNextStatementBegins)

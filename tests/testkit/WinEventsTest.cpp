@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 using namespace ovo::testkit;
 
 namespace
@@ -64,6 +66,18 @@ TEST(WinEvents, HearsOnlyWhatIsToldWhileItLives)
     }
     teller.tell();
     EXPECT_EQ(events.of(teller), 2);
+}
+
+TEST(WinEvents, MayGoInAnyOrder)
+{
+    Teller teller;
+    std::optional<WinEvents> first(std::in_place, kEvent);
+    WinEvents second(kEvent);
+    WinEvents third(kEvent);
+    first.reset();
+    teller.tell();
+    EXPECT_EQ(second.of(teller), 1);
+    EXPECT_EQ(third.of(teller), 1);
 }
 
 TEST(WinEvents, EachListenerHearsItsOwnKind)

@@ -12,9 +12,11 @@ namespace
 
 constexpr std::uint64_t kSecond = 1000;
 
-constexpr unsigned kInput[] = {messages::kKeyDown,    messages::kSystemKeyDown, messages::kPressLeft,
-                               messages::kPressRight, messages::kPressMiddle,   messages::kFramePressLeft,
-                               messages::kWheel};
+constexpr unsigned kInput[] = {
+    messages::kKeyDown,         messages::kSystemKeyDown,   messages::kPressLeft,
+    messages::kPressRight,      messages::kPressMiddle,     messages::kPressOther,
+    messages::kFramePressLeft,  messages::kFramePressRight, messages::kFramePressMiddle,
+    messages::kFramePressOther, messages::kWheel,           messages::kSidewaysWheel};
 
 } // namespace
 

@@ -7,6 +7,7 @@ namespace ovoui::messages
 inline constexpr unsigned kFramePressLeft = 0x00A1; ///< a button goes down on a window's frame
 inline constexpr unsigned kFramePressRight = 0x00A4;
 inline constexpr unsigned kFramePressMiddle = 0x00A7;
+inline constexpr unsigned kFramePressOther = 0x00AB;
 inline constexpr unsigned kKeyDown = 0x0100;
 inline constexpr unsigned kSystemKeyDown = 0x0104;
 inline constexpr unsigned kFirstOfMouse = 0x0200; ///< the mouse in a window's client area, to kLastOfMouse
@@ -16,6 +17,7 @@ inline constexpr unsigned kReleaseLeft = 0x0202;
 inline constexpr unsigned kPressRight = 0x0204;
 inline constexpr unsigned kPressMiddle = 0x0207;
 inline constexpr unsigned kWheel = 0x020A;
+inline constexpr unsigned kPressOther = 0x020B; ///< a button beside the three usual ones goes down
 inline constexpr unsigned kSidewaysWheel = 0x020E;
 inline constexpr unsigned kLastOfMouse = 0x020E;
 

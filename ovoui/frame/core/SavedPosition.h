@@ -22,6 +22,9 @@ struct SavedPosition
 /// Reads "x,y" in decimal; coordinates that cannot be read stay unset.
 SavedPosition parsePosition(const std::wstring& text);
 
+/// The position, but not so far beyond any screen that a window there could not be moved back.
+SavedPosition withinReach(const SavedPosition& position);
+
 std::wstring formatPosition(const SavedPosition& position);
 
 } // namespace ovoui::frame

@@ -69,8 +69,10 @@ TEST(Countdown, EachTickShowsWhatIsLeftUntilOnePresses)
 
 TEST(Countdown, KeysButtonsAndTheWheelEndIt)
 {
-    // WM_KEYDOWN, WM_SYSKEYDOWN, the presses of three mouse buttons and of one in the frame, the wheel
-    const std::set<unsigned> input{0x100, 0x104, 0x201, 0x204, 0x207, 0xA1, 0x20A};
+    // WM_KEYDOWN, WM_SYSKEYDOWN, the presses of mouse buttons, those in the frame, the wheel in both
+    // directions
+    const std::set<unsigned> input{0x100, 0x104, 0x201, 0x204, 0x207, 0x20B,
+                                   0xA1,  0xA4,  0xA7,  0xAB,  0x20A, 0x20E};
     for (unsigned message = 0; message <= 0xFFFF; ++message)
         ASSERT_EQ(endsCountdown(message), input.contains(message)) << std::hex << message;
 }
