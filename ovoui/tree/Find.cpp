@@ -2,7 +2,6 @@
 
 #include <ovoui/tree/HostCalls.h>
 #include <ovoui/tree/ItemTracker.h>
-#include <ovoui/tree/Selection.h>
 
 #include <ovoui/lists/ListFinder.h>
 
@@ -82,7 +81,7 @@ bool MultiTreeCtrl::Find::search(const FindState& wanted, Search how)
     m_finding = wanted;
     m_found = item;
     if (item != view().caret() || m_state.selectedItems() != std::vector{item})
-        m_state.selection->choose(item, {TVC_BYKEYBOARD});
+        tree().doSelectItem(item);
     if (!host.usable() || !found)
         return true;
     tree().m_anchor = item;

@@ -152,7 +152,7 @@ void MultiTreeCtrl::Keyboard::perform(Action action, HTREEITEM goal, const Defau
         tree().EnsureVisible(goal);
         break;
     case Action::SelectAlone:
-        selection.choose(goal, way);
+        tree().doSelectItem(goal);
         break;
     case Action::SelectRange:
         selection.selectRange(goal, way);

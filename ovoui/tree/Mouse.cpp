@@ -156,10 +156,10 @@ void MultiTreeCtrl::Mouse::perform(Action action, const Click& click)
         tree().Default();
         break;
     case Action::SelectAlone:
-        selection.choose(item, click.way());
+        tree().doSelectItem(item);
         break;
     case Action::SelectForCertain:
-        selection.selectForCertain(item, click.way());
+        selection.selectForCertain(item);
         break;
     case Action::Clear:
         tree().doSelectItem(nullptr);

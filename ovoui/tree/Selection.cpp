@@ -67,24 +67,14 @@ bool MultiTreeCtrl::Selection::selectAlone(HTREEITEM item)
     return done;
 }
 
-void MultiTreeCtrl::Selection::choose(HTREEITEM item, const Way& way)
-{
-    const HostCalls host(tree());
-    const Tracker chosen(shared(), item);
-    const bool unsaid = item && goesUnsaid(item == view().caret(), view().isSelected(item), items().size());
-    tree().doSelectItem(item);
-    if (unsaid && host.usable() && chosen && item == view().caret() && view().isSelected(item))
-        tree().notifyTvnSelchanged(way.action, item, item, way.point);
-}
-
 /// Selects the item even if the parent refuses it the caret; not if the parent has chosen another one
 /// instead.
-void MultiTreeCtrl::Selection::selectForCertain(HTREEITEM item, const Way& way)
+void MultiTreeCtrl::Selection::selectForCertain(HTREEITEM item)
 {
     const HostCalls host(tree());
     const Tracker selected(shared(), item);
     const HTREEITEM before = view().caret();
-    choose(item, way);
+    tree().doSelectItem(item);
     if (!host.usable() || !selected)
         return;
     const HTREEITEM now = view().caret();

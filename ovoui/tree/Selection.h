@@ -36,8 +36,7 @@ public:
     };
 
     // What the user does. The parent hears of it once.
-    void choose(HTREEITEM item, const Way& way); ///< selects it alone; clears when it is null
-    void selectForCertain(HTREEITEM item, const Way& way);
+    void selectForCertain(HTREEITEM item);
     void selectRange(HTREEITEM end, const Way& way);
     void addRange(HTREEITEM end, const Way& way);
     void set(HTREEITEM item, bool selected, const Way& way);

@@ -91,20 +91,6 @@ TEST(TreeKeys, AnArrowLeavesAMultipleSelection)
     EXPECT_EQ(scene.selected(), Names{"b"});
 }
 
-/// Of a caret that stays the tree view says nothing.
-TEST(TreeKeys, HomeTellsOfTheCaretThatWasTakenOut)
-{
-    KeyScene scene({"a", "b"}, "a");
-    scene.user.holding(VK_CONTROL).key(VK_SPACE);
-    ASSERT_EQ(scene.selected(), Names{});
-    scene.forget();
-    scene.user.key(VK_HOME);
-    EXPECT_EQ(scene.selected(), Names{"a"});
-    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYKEYBOARD, "a", "a"}}));
-    scene.user.key(VK_HOME);
-    EXPECT_EQ(scene.changes().size(), 1u) << "nothing has changed";
-}
-
 TEST(TreeKeys, EndAndLettersAreTheTreeViews)
 {
     KeyScene scene({"ant", "bee", "cat"}, "ant");

@@ -88,24 +88,6 @@ TEST(TreeMouse, LeavingAMultipleSelectionForItsCaretTellsTheParentOnce)
     EXPECT_EQ(scene.changes(), (Changes{{TVC_UNKNOWN, "a", "a"}}));
 }
 
-/// The tree view says nothing here either, and no others were deselected.
-TEST(TreeMouse, AClickOnTheCaretThatWasTakenOutTellsTheParentOnce)
-{
-    for (const Names& rest : {Names{}, Names{"b"}}) {
-        Scene scene{{"a", "b", "c"}};
-        scene.user.click(scene.label("a"));
-        for (const std::string& name : rest)
-            scene.user.holding(VK_CONTROL).click(scene.label(name));
-        scene.user.holding(VK_CONTROL).click(scene.label("a"));
-        ASSERT_EQ(scene.caret(), "a");
-        ASSERT_EQ(scene.selected(), rest);
-        scene.forget();
-        scene.user.click(scene.label("a"));
-        EXPECT_EQ(scene.selected(), Names{"a"});
-        EXPECT_EQ(scene.changes(), (Changes{{TVC_BYMOUSE, "a", "a"}}));
-    }
-}
-
 TEST(TreeMouse, AClickOnEmptySpaceClearsTheSelection)
 {
     Scene scene{{"a", "b"}};

@@ -20,11 +20,6 @@ bool selectsForCertain(bool caretReached, bool caretStayed)
     return caretReached || caretStayed;
 }
 
-bool goesUnsaid(bool isCaret, bool isSelected, std::size_t selectedBefore)
-{
-    return isCaret && !isSelected && selectedBefore <= 1;
-}
-
 bool treeViewSelects(std::size_t selected, bool caretAlone, bool range)
 {
     return !range && (selected == 0 || caretAlone);

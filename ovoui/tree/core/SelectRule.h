@@ -32,10 +32,6 @@ AfterAsking afterAsking(const CaretAsked& asked);
 /// another caret instead.
 bool selectsForCertain(bool caretReached, bool caretStayed);
 
-/// Whether the parent would hear nothing when an item is selected alone: it is the caret already, of which
-/// the tree view says nothing, was not selected, and at most one other item was.
-bool goesUnsaid(bool isCaret, bool isSelected, std::size_t selectedBefore);
-
 /// Whether a caret that follows a key is left to the tree view alone, which tells the parent: where nothing
 /// but the caret is selected, and no range is to be. `caretAlone`: the caret is the one item selected.
 bool treeViewSelects(std::size_t selected, bool caretAlone, bool range);

@@ -49,20 +49,6 @@ TEST(SelectRule, AnItemThatIsTheCaretNowIsSelectedAndOneThatWasRefusedIsNot)
     }
 }
 
-/// Of the caret that stays the tree view says nothing, and of others that were deselected afterAsking() does.
-TEST(SelectRule, WhatTheUserSelectsIsSaidOnce)
-{
-    for (const bool isCaret : {false, true})
-        for (const bool isSelected : {false, true})
-            for (unsigned before = isSelected ? 1 : 0; before < 4; ++before) {
-                const AfterAsking after = afterAsking({true, true, isCaret, before});
-                const bool told = !isCaret || after == AfterAsking::SelectAndTell;
-                const bool changes = !isCaret || !isSelected || before > 1;
-                EXPECT_EQ(goesUnsaid(isCaret, isSelected, before), changes && !told)
-                    << isCaret << isSelected << before;
-            }
-}
-
 TEST(SelectRule, NotAgainstAParentThatHasChosenAnotherCaret)
 {
     for (const bool reached : {false, true})
