@@ -24,7 +24,7 @@ void RecordingParent::answer(UINT code, LRESULT result)
 
 void RecordingParent::answer(UINT code, std::function<LRESULT(NMHDR*)> reply)
 {
-    m_replies[code] = std::move(reply);
+    m_replies[code] = std::make_shared<std::function<LRESULT(NMHDR*)>>(std::move(reply));
 }
 
 LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -39,7 +39,7 @@ LRESULT RecordingParent::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (found == m_replies.end())
         return result;
     const auto reply = found->second; // which may put another one in its place
-    return reply(header);
+    return (*reply)(header);
 }
 
 } // namespace ovo::testkit

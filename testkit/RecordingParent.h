@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 
 namespace ovo::testkit
 {
@@ -29,7 +30,8 @@ public:
     /// What the sender of a WM_NOTIFY code gets as the result from now on.
     void answer(UINT code, LRESULT result);
 
-    /// `reply` is asked for the result of a WM_NOTIFY code from now on, with the original structure.
+    /// `reply` is asked for the result of a WM_NOTIFY code from now on, with the original structure. It may put
+    /// another one in its place.
     void answer(UINT code, std::function<LRESULT(NMHDR*)> reply);
 
 protected:
@@ -37,7 +39,7 @@ protected:
 
 private:
     NotificationLog m_log;
-    std::map<UINT, std::function<LRESULT(NMHDR*)>> m_replies;
+    std::map<UINT, std::shared_ptr<std::function<LRESULT(NMHDR*)>>> m_replies;
 };
 
 } // namespace ovo::testkit

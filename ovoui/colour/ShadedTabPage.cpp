@@ -1,9 +1,20 @@
 #include <ovoui/colour/ShadedTabPage.h>
 
 #include <ovoui/colour/ShadedTabCtrl.h>
+#include <ovoui/frame/HeldKeysNow.h>
+#include <ovoui/frame/core/TabStep.h>
+
+using namespace ovoui::frame;
 
 namespace
 {
+
+bool isForDialogAround(const MSG& message)
+{
+    const auto key = static_cast<unsigned>(message.wParam);
+    return message.message == WM_KEYDOWN &&
+           (key == VK_RETURN || key == VK_ESCAPE || tabDirection(key, heldKeysNow()));
+}
 
 /// The page of a tab, or null.
 HWND pageOf(HWND tabs, int index)
@@ -21,9 +32,10 @@ void hide(HWND page, HWND shown, HWND tabs)
 {
     if (::IsChild(page, ::GetFocus())) {
         const HWND next = shown ? ::GetNextDlgTabItem(shown, nullptr, FALSE) : nullptr;
-        ::SetFocus(next ? next : tabs);
+        CWnd::FromHandle(next ? next : tabs)->SetFocus();
     }
-    ::ShowWindow(page, SW_HIDE);
+    if (::IsWindow(page)) // which may go when the focus does
+        CWnd::FromHandle(page)->ShowWindow(SW_HIDE);
 }
 
 } // namespace
@@ -59,10 +71,15 @@ void CShadedTabPage::ShowChosen(CTabCtrl& tabs)
     const HWND wnd = tabs.m_hWnd; // which a page may destroy when it hears that it is shown
     const HWND shown = pageOf(wnd, tabs.GetCurSel());
     if (shown)
-        ::ShowWindow(shown, SW_SHOW);
+        CWnd::FromHandle(shown)->ShowWindow(SW_SHOW);
     for (int i = 0; ::IsWindow(wnd) && i < tabs.GetItemCount(); ++i)
         if (const HWND page = pageOf(wnd, i); page && page != shown)
             hide(page, shown, wnd);
+}
+
+BOOL CShadedTabPage::PreTranslateMessage(MSG* message)
+{
+    return isForDialogAround(*message) ? FALSE : CDialog::PreTranslateMessage(message);
 }
 
 void CShadedTabPage::OnOK() {}

@@ -36,6 +36,8 @@ public:
     static void ShowChosen(CTabCtrl& tabs);
 
 protected:
+    /// Enter, Escape and the keys that turn the tabs are left to the dialog around the page.
+    BOOL PreTranslateMessage(MSG* message) override;
     /// Enter closes the dialog around the page, not the page.
     void OnOK() override;
     void OnCancel() override;

@@ -134,6 +134,16 @@ TEST_F(SettingsDialog, IsUsedByKeyboardAlone)
     EXPECT_TRUE(m_program->endsByItself());
 }
 
+TEST_F(SettingsDialog, TakesWhatIsTypedWithEnter)
+{
+    fill(IDC_POINTS, L"21");
+    m_program->key(VK_RETURN);
+    EXPECT_TRUE(m_program->endsByItself());
+    start();
+    EXPECT_EQ(textOf(onPage(IDC_POINTS)).substr(0, 2), L"21");
+    end(IDCANCEL);
+}
+
 TEST_F(SettingsDialog, FollowsTheSlider)
 {
     const Picture before = seen(item(IDC_PREVIEW));
