@@ -8,6 +8,8 @@ namespace afxdetail
 namespace
 {
 
+constexpr int kFarthest = 1 << 24; // pixels: beyond all screens, and far from the end of all numbers
+
 /// Cuts lengths, from the last one, until they fit.
 void cut(std::vector<Span>& spans, int room)
 {
@@ -37,8 +39,8 @@ std::vector<Span> placeRow(const DockRow& row, int room)
     room = std::max(room, 0);
     std::vector<Span> spans;
     for (const DockedBar& bar : row)
-        // What begins beyond the end is pushed back all the same; a profile may hold any number.
-        spans.push_back({std::clamp(bar.start, 0, room), bar.shown ? std::max(bar.length, 0) : 0});
+        // A profile may hold any number.
+        spans.push_back({std::clamp(bar.start, 0, kFarthest), bar.shown ? std::max(bar.length, 0) : 0});
     cut(spans, room);
     int end = 0;
     for (Span& span : spans) {

@@ -69,6 +69,12 @@ TEST(DockRow, ABarThatWantsToBeginAtTheEndOfAllNumbersPushesTheOthersAllTheSame)
               (Spans{{0, 50}, {200, 50}, {250, 50}}));
 }
 
+TEST(DockRow, WhereThereIsNoRoomOrABarIsHiddenItKeepsItsBeginning)
+{
+    EXPECT_EQ(placeRow({bar(A, 40, 30), bar(B, 90, 30)}, 0), (Spans{{40, 0}, {90, 0}}));
+    EXPECT_EQ(placeRow({hidden(A, 400, 30), bar(B, 90, 30)}, 200), (Spans{{400, 0}, {90, 30}}));
+}
+
 TEST(DockRow, WhatIsTooLongIsCutNotLost)
 {
     EXPECT_EQ(placeRow({bar(A, 0, 900)}, 500), (Spans{{0, 500}}));
