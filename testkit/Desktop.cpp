@@ -73,7 +73,7 @@ void present(CWnd& window)
         return ::GetForegroundWindow() == handle && ::GetUpdateRect(handle, nullptr, FALSE) == FALSE;
     });
     EXPECT_TRUE(active) << "the window does not become the active one";
-    GuiThread::settle();
+    GuiThread::settleOnScreen();
 }
 
 } // namespace ovo::testkit

@@ -17,7 +17,8 @@ HWND shownDialog();
 /// The open popup menu, the innermost of several; else null.
 HWND shownMenu();
 
-/// Shows a window, makes it the active one, and lets it paint. To be called before it gets input.
+/// Shows a window, makes it the active one, and lets it paint, until it is seen on the screen. To be called
+/// before it gets input.
 void present(CWnd& window);
 
 } // namespace ovo::testkit

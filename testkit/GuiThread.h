@@ -39,12 +39,21 @@ public:
     /// Runs the message loop until the queue is empty and idle processing has nothing left to do.
     static void settle();
 
+    /// The same, and until the screen shows what came of it: the display maps windows in its own time, and
+    /// tells them only then that they have the focus, or the pointer, or are to be seen. To be called before
+    /// the screen is read, or keys are held in a window that has just come up.
+    static void settleOnScreen();
+
     /// Whether WM_QUIT has come since the last call.
     static bool tookQuit();
 
     /// For other threads: runs `question` on the thread with the windows and waits for it. What it throws
     /// is thrown here. Throws Unanswered when the limit passes first; the question is then dropped.
     static void ask(const std::function<void()>& question, Limit limit = Limit{30000});
+
+    /// For other threads: waits until the display has done what it was asked for so far, and the thread with
+    /// the windows has taken what it was told of that. Throws as `ask` does.
+    static void catchUp();
 };
 
 } // namespace ovo::testkit

@@ -91,10 +91,14 @@ public:
             }
         });
     }
-    /// Holds a key until letGo with the same key, or to the end of the story.
+    /// Holds a key until letGo with the same key, or to the end of the story. The display tells a window that
+    /// has come up what is held on its own keyboard, which is nothing: the key goes down afterwards.
     auto holding(WORD virtualKey)
     {
-        return tell("hold a key", [=](Stage& stage) { stage.keyDown(virtualKey); });
+        return tell("hold a key", [=](Stage& stage) {
+            GuiThread::catchUp();
+            stage.keyDown(virtualKey);
+        });
     }
     /// Lets go of the held key `virtualKey`.
     auto letGo(WORD virtualKey)
@@ -104,14 +108,20 @@ public:
     /// Types `text`, each character by its key where the keyboard has one.
     auto type(std::wstring text)
     {
-        return tell("type", [=](Stage& stage) { stage.type(text); });
+        return tell("type", [=](Stage& stage) {
+            GuiThread::catchUp(); // as for a key that is held, since capitals hold Shift
+            stage.type(text);
+        });
     }
 
     /// Presses `virtualKey` while `held` is held, and again until `condition` holds, which `what` names: on a
     /// busy machine the display can report late that nothing is held.
     auto chordUntil(std::string what, WORD held, WORD virtualKey, std::function<bool()> condition)
     {
-        return tell(what, [=](Stage& stage) { stage.chordUntil(what, held, virtualKey, condition); });
+        return tell(what, [=](Stage& stage) {
+            GuiThread::catchUp();
+            stage.chordUntil(what, held, virtualKey, condition);
+        });
     }
 
     // Looking.
