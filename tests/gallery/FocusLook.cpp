@@ -35,7 +35,7 @@ bool isOfThePlatform(HWND window)
 
 void showNow(HWND window)
 {
-    GuiThread::settle();
+    GuiThread::settleOnScreen();
     ::RedrawWindow(::GetAncestor(window, GA_ROOT), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     ::GdiFlush();
 }

@@ -131,12 +131,12 @@ TEST(GalleryRightToLeft, BarsThatMoveArePaintedWhereTheyGo)
 {
     GalleryScene scene(From::Right);
     const auto lookAgain = [&](const std::wstring& what) {
-        GuiThread::settle();
+        GuiThread::settleOnScreen();
         for (const HWND window : {scene.frame().bar().m_hWnd, scene.frame().page().m_hWnd}) {
             const Picture shown = shownBy(window);
             ::RedrawWindow(window, nullptr, nullptr,
                            RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
-            GuiThread::settle();
+            GuiThread::settleOnScreen();
             EXPECT_EQ(shownBy(window).differences(shown), 0) << ::testing::PrintToString(what);
         }
     };
@@ -175,6 +175,7 @@ TEST(GalleryRightToLeft, PicturesStayAsTheyAre)
         GuiThread::settle();
         const HWND window = scene.control(control);
         ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        GuiThread::settleOnScreen();
         return shownBy(window, 2);
     };
     for (const auto& [page, control] : pictures) {

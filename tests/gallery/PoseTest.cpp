@@ -31,7 +31,7 @@ protected:
         CRect place;
         scene.frame().GetWindowRect(&place);
         ::SetCursorPos(place.CenterPoint().x, place.CenterPoint().y);
-        GuiThread::settle();
+        GuiThread::settleOnScreen(); // or the display tells of this place after the pose has left it
     }
 
     GalleryScene scene{GetParam()};

@@ -84,7 +84,7 @@ PosesSeen lookAtPoses(GalleryScene& scene, const Look& look, const Wanted& wante
             scene.frame().openPage(entry);
             const DialogWatch watch(look);
             EXPECT_TRUE(scene.page().pose(pose)) << ::testing::PrintToString(name);
-            GuiThread::settle();
+            GuiThread::settleOnScreen(); // the pose may have opened a window
             for (const Problems& problems : {look(scene.frame()), watch.problems()})
                 for (const std::wstring& problem : problems)
                     seen.problems.push_back(name + L": " + problem);

@@ -32,7 +32,7 @@ protected:
 
     void showNow()
     {
-        GuiThread::settle();
+        GuiThread::settleOnScreen();
         scene.frame().RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
         ::GdiFlush();
     }
@@ -191,7 +191,7 @@ TEST(Readability, OfAControlInTheWrongColours)
     const auto problems = [&](COLORREF colour) {
         parent.colour = colour;
         label.RedrawWindow();
-        GuiThread::settle();
+        GuiThread::settleOnScreen();
         return linesOf(readabilityProblems(parent));
     };
     EXPECT_EQ(problems(RGB(0, 0, 0)), "");

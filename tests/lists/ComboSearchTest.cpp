@@ -555,6 +555,7 @@ TEST_F(ComboSearching, TheHitsReadFromTheRightWhereTheComboBoxDoes)
     const auto letters = [](const CRect& place) {
         return Picture::ofScreen().count(::GetSysColor(COLOR_WINDOWTEXT), 0, place);
     };
+    GuiThread::settleOnScreen(); // until then the display may show what the hits will cover
     EXPECT_TRUE(GuiThread::runUntil([&] { return letters(right) > 0; }));
     EXPECT_EQ(letters(left), 0);
     scene.robot.click(overHit(1));

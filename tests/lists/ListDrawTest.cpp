@@ -555,6 +555,7 @@ TEST(ListDraw, RightToLeft)
     const auto at = [&](int fromTheRight, int item) {
         return Picture::ofScreen().at(window.right - fromTheRight, window.top + scene.itemRect(item).top + 2);
     };
+    GuiThread::settleOnScreen(); // all of the list, not the part that is painted first
     EXPECT_TRUE(GuiThread::runUntil([&] { return at(380, 1) == ::GetSysColor(COLOR_HIGHLIGHT); }));
     EXPECT_THAT(at(150, 0), IsColour(RGB(200, 0, 0)));
     EXPECT_THAT(at(50, 0), IsColour(::GetSysColor(COLOR_WINDOW)));
