@@ -18,11 +18,16 @@ namespace
 /// What the bar's timers are set to, by their number.
 std::map<UINT_PTR, std::vector<UINT>> tipTimers;
 bool tipsGoSoon = false;
+bool tipsStayAway = false; ///< until one is brought, however slow the machine is
 
 UINT_PTR WINAPI noteTipTimer(HWND wnd, UINT_PTR id, UINT elapse, TIMERPROC procedure)
 {
     tipTimers[id].push_back(elapse);
-    return ::SetTimer(wnd, id, tipsGoSoon && id == 44 ? 10 : elapse, procedure);
+    if (tipsGoSoon && id == 44)
+        elapse = 10;
+    if (tipsStayAway && id == 43)
+        elapse = 300'000; // milliseconds, more than a test may take
+    return ::SetTimer(wnd, id, elapse, procedure);
 }
 
 class BarKeyboardTips : public ::testing::Test
@@ -32,6 +37,7 @@ protected:
     {
         tipTimers.clear();
         tipsGoSoon = false;
+        tipsStayAway = false;
         scene.user.moveTo(scene.outside()); // no tip of the mouse
     }
 
@@ -77,6 +83,7 @@ TEST_F(BarKeyboardTips, ShowAfterAWhileAndTheNextOnesSooner)
     const UINT first = ::GetDoubleClickTime(); // as the platform's tips have it
     EXPECT_EQ(tipTimers[43], (std::vector<UINT>{first, first / 5}));
     EXPECT_EQ(tipTimers[44], (std::vector<UINT>{first * 10, first * 10}));
+    tipsStayAway = true; // the next one
     scene.user.key(VK_RIGHT).then([] { EXPECT_EQ(tip(), nullptr) << "the one of before goes at once"; });
 }
 
@@ -118,9 +125,11 @@ TEST_F(BarKeyboardTips, DoNotComeOverAFlyoutThatIsOpenedBefore)
 
 TEST_F(BarKeyboardTips, NeedTheStyleAndAText)
 {
+    tipsStayAway = true;
     scene.bar().FocusButtons();
     scene.user.key(VK_END).waitFor("its timer", [] { return tipTimers[43].size() == 2; });
     const MessageCounter timers(TOOLBARCLASSNAMEW, WM_TIMER, 43);
+    ::SetTimer(scene.bar().m_hWnd, 43, USER_TIMER_MINIMUM, nullptr);
     scene.user.waitFor("the timer", [&] { return timers.count() > 0; });
     EXPECT_EQ(tip(), nullptr) << "the command has no string";
     scene.user.key(VK_ESCAPE);

@@ -131,6 +131,15 @@ protected:
             .waitFor("the time that tips take", [this] { return wnd.rested; });
     }
 
+    /// Takes the pointer to a place of the window at once. Where the hand is slow, tools on the way show their tips.
+    Story jumpTo(CPoint client)
+    {
+        return robot.then([this, client]() mutable {
+            wnd.ClientToScreen(&client);
+            ::SetCursorPos(client.x, client.y);
+        });
+    }
+
     Zoned wnd;
     Robot robot;
 };
@@ -184,7 +193,7 @@ TEST_F(ToolTips, FollowThePointerFromToolToTool)
 {
     robot.moveTo(Spot{wnd, wnd.left()}).waitFor("the left tip", tipSays(L"tip 30"));
     robot.moveTo(Spot{wnd, wnd.right()}).waitFor("the right tip", tipSays(L"right"));
-    robot.moveTo(Spot{wnd.button}).waitFor("the button's tip", tipSays(L"tip 5"));
+    jumpTo(CPoint(60, 30)).waitFor("the button's tip", tipSays(L"tip 5")); // past the left one
     EXPECT_EQ(wnd.asked, (std::vector<UINT_PTR>{30, 5})) << "the right one has a text of its own";
 }
 
