@@ -11,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <filesystem>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -61,14 +60,23 @@ inline void answerFileDialog(ovo::testkit::RunningProgram& program, const std::w
     program.waitFor("the program to go on", [&] { return ::IsWindowEnabled(program.main()) != FALSE; });
 }
 
+/// Whether a file is there in which nobody writes any more.
+inline bool isWritten(const std::wstring& path)
+{
+    const HANDLE file =
+        ::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return false;
+    LARGE_INTEGER size{};
+    const bool written = ::GetFileSizeEx(file, &size) && size.QuadPart > 0;
+    ::CloseHandle(file);
+    return written;
+}
+
 /// The lines of a file that the program saves, once they are there.
 inline std::vector<std::wstring> savedLines(ovo::testkit::RunningProgram& program, const std::wstring& path)
 {
-    program.waitFor("the file", [&] {
-        std::error_code missing;
-        const auto size = std::filesystem::file_size(path, missing);
-        return !missing && size > 0;
-    });
+    program.waitFor("the file", [&] { return isWritten(path); });
     std::vector<std::wstring> lines;
     OVO::TextReader reader(path);
     for (std::wstring line; reader.readLine(line);)

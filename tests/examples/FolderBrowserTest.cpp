@@ -31,11 +31,14 @@ constexpr File kFiles[] = {{L"a plan.md", 3, 0},    {L"big.txt", 5, 3},   {L"har
                            {L"hedge.jpg", 250, 40}, {L"notes.txt", 1, 0}, {L"pond.png", 88, 5}};
 constexpr int kEntries = std::size(kFiles) + 2; // with two folders
 
-/// The clipboard, which nobody else can use meanwhile.
+/// The clipboard, which nobody else can use meanwhile. The program may have it open for another moment.
 class HeldClipboard
 {
 public:
-    HeldClipboard() { EXPECT_TRUE(::OpenClipboard(nullptr)); }
+    explicit HeldClipboard(RunningProgram& program)
+    {
+        program.waitFor("the clipboard", [] { return ::OpenClipboard(nullptr) != FALSE; });
+    }
     ~HeldClipboard() { ::CloseClipboard(); }
     HeldClipboard(const HeldClipboard&) = delete;
     HeldClipboard& operator=(const HeldClipboard&) = delete;
@@ -86,7 +89,10 @@ protected:
     std::wstring copied(const std::vector<WORD>& held, WORD key)
     {
         std::wstring text;
-        emptyClipboard();
+        {
+            const HeldClipboard held(*m_program);
+            ::EmptyClipboard();
+        }
         const auto copy = [&] {
             ::SetForegroundWindow(m_program->main());
             m_program->chord(held, key);
@@ -236,7 +242,7 @@ TEST_F(FolderBrowser, TellsThatAnotherProgramHasTheClipboard)
 {
     const HWND main = m_program->main();
     {
-        const HeldClipboard held;
+        const HeldClipboard held(*m_program);
         m_program->chord({VK_CONTROL, VK_SHIFT}, 'C');
         m_program->waitFor("the message", [main] { return ::IsWindow(main) && !::IsWindowEnabled(main); });
     }
@@ -330,6 +336,6 @@ TEST_F(FolderBrowser, TellsAboutTheMachine)
     EXPECT_NE(text.find(L"\r\nfolder-browser.exe\t"), std::wstring::npos) << "then come the modules";
     m_program->key(VK_ESCAPE);
     m_program->waitFor("its end", [this] { return ::IsWindowEnabled(m_program->main()) != FALSE; });
-    EXPECT_FALSE(m_program->shows(L"System Information"));
+    m_program->waitFor("the dialog to go", [this] { return !m_program->shows(L"System Information"); });
     close();
 }
