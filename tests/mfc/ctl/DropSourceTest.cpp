@@ -107,10 +107,14 @@ TEST(DropSource, ReleasingInsideTheStartRectangleIsAClick)
     window.startRect = CRect(50, 50, 200, 200);
     window.ClientToScreen(&window.startRect);
 
+    // A button that is held for longer begins a drag, and a hand may be slow.
+    ::WriteProfileStringW(L"windows", L"DragDelay", L"20000");
+
     Robot().click(Spot(window, CPoint(100, 100)));
 
     EXPECT_EQ(window.source.asked, 1);
     EXPECT_FALSE(window.source.began);
+    ::WriteProfileStringW(L"windows", L"DragDelay", nullptr);
 }
 
 TEST(DropSource, MovingInsideTheStartRectangleIsNoDragUntilItIsLeft)

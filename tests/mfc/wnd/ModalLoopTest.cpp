@@ -68,6 +68,7 @@ protected:
         if (message == WM_ENTERIDLE && wParam == MSGF_DIALOGBOX) {
             ++idles;
             who = reinterpret_cast<HWND>(lParam);
+            ::PostMessageW(who, kEnd, 7, 0);
         }
         return CWnd::WindowProc(message, wParam, lParam);
     }
@@ -132,8 +133,9 @@ TEST(ModalLoop, TellsTheOwnerThatItIsIdleUnlessToldNotTo)
     owner.create();
     Waiting wnd;
     wnd.create(WS_POPUP, &owner);
-    wnd.SetTimer(1, 20, nullptr);
+    wnd.SetTimer(1, 10'000, nullptr); // the owner ends the loop before
     EXPECT_EQ(wnd.RunModalLoop(), 7);
+    wnd.KillTimer(1);
     EXPECT_GE(owner.idles, 1);
     EXPECT_EQ(owner.who, wnd.m_hWnd);
     owner.idles = 0;
