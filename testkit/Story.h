@@ -109,8 +109,11 @@ public:
     auto type(std::wstring text)
     {
         return tell("type", [=](Stage& stage) {
-            GuiThread::catchUp(); // as for a key that is held, since capitals hold Shift
-            stage.type(text);
+            for (const wchar_t character : text) {
+                if (HIBYTE(::VkKeyScanW(character)) & 1) // holds Shift
+                    GuiThread::catchUp();
+                stage.type(std::wstring(1, character));
+            }
         });
     }
 
