@@ -2,6 +2,7 @@
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/version.h>
 #include <ovouires/resource.h>
+#include <support/StartProcess.h>
 
 #include <gtest/gtest.h>
 
@@ -31,11 +32,8 @@ class RunningProbe
 public:
     RunningProbe(const fs::path& program, const wchar_t* argument)
     {
-        std::wstring line = L"\"" + program.wstring() + L"\" " + argument;
-        STARTUPINFOW startup{};
-        startup.cb = sizeof startup;
-        ::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
-                         program.parent_path().c_str(), &startup, &m_process);
+        support::startProcess(L"\"" + program.wstring() + L"\" " + argument, {}, m_process, FALSE,
+                              CREATE_NO_WINDOW, program.parent_path().c_str());
     }
     ~RunningProbe()
     {

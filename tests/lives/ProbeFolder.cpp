@@ -1,5 +1,6 @@
 #include "ProbeFolder.h"
 
+#include <support/StartProcess.h>
 #include <testkit/Watchdog.h>
 
 namespace fs = std::filesystem;
@@ -14,14 +15,12 @@ fs::path thisProgram()
 DWORD exitCodeOf(std::wstring line, const fs::path& folder)
 {
     STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdInput = ::GetStdHandle(STD_INPUT_HANDLE);
     startup.hStdOutput = ::GetStdHandle(STD_OUTPUT_HANDLE);
     startup.hStdError = ::GetStdHandle(STD_ERROR_HANDLE);
     PROCESS_INFORMATION process{};
-    if (!::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, folder.c_str(), &startup,
-                          &process))
+    if (!support::startProcess(std::move(line), startup, process, TRUE, 0, folder.c_str()))
         return ~DWORD{0};
     while (::WaitForSingleObject(process.hProcess, 1000) == WAIT_TIMEOUT)
         ovo::testkit::Watchdog::progress(); // a program that hangs is ended by its own

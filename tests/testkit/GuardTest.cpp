@@ -1,4 +1,5 @@
 // What happens to tests that hang or leave windows behind: tried in this program started once more.
+#include <support/StartProcess.h>
 #include <testkit/Desktop.h>
 #include <testkit/ImportPatch.h>
 #include <testkit/RecordingParent.h>
@@ -60,16 +61,14 @@ Outcome runAlone(const std::wstring& test, const wchar_t* limit = nullptr)
     ::SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
 
     STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdOutput = writeEnd;
     startup.hStdError = writeEnd;
-    std::wstring command =
+    const std::wstring command =
         L"\"" + ownProgram().wstring() + L"\" --gtest_also_run_disabled_tests --gtest_filter=" + test;
     PROCESS_INFORMATION process{};
     ::SetEnvironmentVariableW(L"OVO_TEST_LIMIT", limit);
-    const BOOL started = ::CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                                          nullptr, &startup, &process);
+    const bool started = support::startProcess(command, startup, process, TRUE);
     ::SetEnvironmentVariableW(L"OVO_TEST_LIMIT", nullptr);
     ::CloseHandle(writeEnd);
 

@@ -1,6 +1,7 @@
 // The tool window: making, closing, scrolling, help, docking.
 #include "resource.h"
 
+#include <support/StartProcess.h>
 #include <testkit/Desktop.h>
 #include <testkit/GuiThread.h>
 #include <testkit/Robot.h>
@@ -142,12 +143,8 @@ TEST(ToolWndBorders, AreZeroUntilTheFirstOneThenTwoForEver)
 
 TEST(ToolWndBorders, WhatTheHostSetsBeforeTheFirstOneStays)
 {
-    wchar_t command[] = L"toolwnd_probe.exe";
-    STARTUPINFOW start{};
-    start.cb = sizeof start;
     PROCESS_INFORMATION process{};
-    ASSERT_TRUE(
-        ::CreateProcessW(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process));
+    ASSERT_TRUE(support::startProcess(L"toolwnd_probe.exe", {}, process));
     ::WaitForSingleObject(process.hProcess, INFINITE);
     DWORD code = 0;
     ::GetExitCodeProcess(process.hProcess, &code);

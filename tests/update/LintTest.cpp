@@ -1,4 +1,6 @@
 // The program for publishers of lists, run as they run it.
+#include <support/StartProcess.h>
+
 #include <gtest/gtest.h>
 
 #include <windows.h>
@@ -21,13 +23,10 @@ Outcome run(const std::wstring& arguments)
     HANDLE writing = nullptr;
     EXPECT_TRUE(::CreatePipe(&reading, &writing, &inherited, 0));
     STARTUPINFOW start{};
-    start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES;
     start.hStdOutput = start.hStdError = writing;
-    std::wstring line = L"ovo-update-lint.exe " + arguments;
     PROCESS_INFORMATION process{};
-    EXPECT_TRUE(::CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start,
-                                 &process));
+    EXPECT_TRUE(support::startProcess(L"ovo-update-lint.exe " + arguments, start, process, TRUE));
     ::CloseHandle(writing);
     Outcome outcome;
     char piece[1000];

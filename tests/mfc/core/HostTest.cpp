@@ -1,6 +1,8 @@
 // A windowed program from its start to its end, in a process of its own.
 #include <afxwin.h>
 
+#include <support/StartProcess.h>
+
 #include <gmock/gmock.h>
 
 #include <filesystem>
@@ -30,11 +32,8 @@ fs::path programFolder()
 
 DWORD exitCodeOf(std::wstring commandLine)
 {
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
-    if (!::CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                          programFolder().c_str(), &startup, &process))
+    if (!support::startProcess(std::move(commandLine), {}, process, FALSE, 0, programFolder().c_str()))
         return 0xFFFF;
     ::WaitForSingleObject(process.hProcess, INFINITE);
     DWORD code = 0;
