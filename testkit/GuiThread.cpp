@@ -1,4 +1,5 @@
 #include "GuiThread.h"
+#include "detail/Display.h"
 
 #include <afxwin.h>
 
@@ -69,17 +70,6 @@ bool messageWaits()
     return ::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE) != FALSE;
 }
 
-// Reading from the screen takes until the display has done what this program asked it for. Its windows and
-// its pixels go there by ways of their own, so that only the second reading comes after both. GetDC might
-// make a device context that the system keeps, which tests would count.
-void awaitScreen()
-{
-    const HDC screen = ::CreateDCW(L"DISPLAY", nullptr, nullptr, nullptr);
-    for (int i = 0; i < 2; ++i)
-        ::GetPixel(screen, 0, 0);
-    ::DeleteDC(screen);
-}
-
 } // namespace
 
 GuiThread::GuiThread()
@@ -137,7 +127,7 @@ void GuiThread::settle()
 void GuiThread::settleOnScreen()
 {
     settle();
-    awaitScreen();
+    awaitDisplay();
     settle();
 }
 
@@ -173,7 +163,7 @@ void GuiThread::catchUp()
             ask([] {});
     };
     askTwice();
-    awaitScreen();
+    awaitDisplay();
     askTwice();
 }
 

@@ -79,9 +79,14 @@ INPUT unicode(wchar_t character, DWORD flags)
     return input;
 }
 
+void send(std::vector<INPUT> inputs)
+{
+    ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof inputs[0]);
+}
+
 void send(INPUT input)
 {
-    ::SendInput(1, &input, sizeof input);
+    send(std::vector{input});
 }
 
 // Screen pixels in the 16-bit units of absolute moves; rounded up, so that the system's rounding down gives
@@ -139,12 +144,17 @@ void Input::release(Button button)
     send(mouse(flagsOf(button).up, 0));
 }
 
+void Input::click(Button button)
+{
+    const auto [down, up] = flagsOf(button);
+    send({atThePoint(mouse(down, nextTime())), mouse(up, 0)});
+}
+
 void Input::doubleClick(Button button)
 {
     const DWORD time = nextTime();
     const auto [down, up] = flagsOf(button);
-    INPUT inputs[] = {atThePoint(mouse(down, time)), mouse(up, time), mouse(down, time), mouse(up, time)};
-    ::SendInput(static_cast<UINT>(std::size(inputs)), inputs, sizeof inputs[0]);
+    send({atThePoint(mouse(down, time)), mouse(up, time), mouse(down, time), mouse(up, time)});
 }
 
 void Input::turnWheel(int notches)
@@ -166,6 +176,18 @@ void Input::keyUp(WORD virtualKey)
     send(keyboard(virtualKey, KEYEVENTF_KEYUP));
 }
 
+void Input::chord(const std::vector<WORD>& held, WORD virtualKey)
+{
+    std::vector<INPUT> inputs;
+    for (const WORD each : held)
+        inputs.push_back(keyboard(each, 0));
+    inputs.push_back(keyboard(virtualKey, 0));
+    inputs.push_back(keyboard(virtualKey, KEYEVENTF_KEYUP));
+    for (auto each = held.rbegin(); each != held.rend(); ++each)
+        inputs.push_back(keyboard(*each, KEYEVENTF_KEYUP));
+    send(std::move(inputs));
+}
+
 void Input::holdAgain(WORD virtualKey)
 {
     send(keyboard(virtualKey, 0));
@@ -176,16 +198,10 @@ void Input::character(wchar_t character)
     const SHORT key = ::VkKeyScanW(character);
     const int modifiers = HIBYTE(key);
     if (key == -1 || (modifiers & ~1)) {
-        send(unicode(character, 0));
-        send(unicode(character, KEYEVENTF_KEYUP));
+        send({unicode(character, 0), unicode(character, KEYEVENTF_KEYUP)});
         return;
     }
-    if (modifiers & 1)
-        keyDown(VK_SHIFT);
-    keyDown(LOBYTE(key));
-    keyUp(LOBYTE(key));
-    if (modifiers & 1)
-        keyUp(VK_SHIFT);
+    chord(modifiers & 1 ? std::vector<WORD>{VK_SHIFT} : std::vector<WORD>{}, LOBYTE(key));
 }
 
 void Input::releaseAll()

@@ -34,6 +34,9 @@ public:
     /// Lets go of `button`.
     void release(Button button);
 
+    /// Presses `button` and lets go of it: not held for long, however slow the machine is.
+    void click(Button button);
+
     /// Two presses with the same time, however slow the machine is.
     void doubleClick(Button button);
 
@@ -44,6 +47,10 @@ public:
     void keyDown(WORD virtualKey);
     /// Lets go of the key with that VK_ code, `virtualKey`.
     void keyUp(WORD virtualKey);
+
+    /// Presses `virtualKey` while the keys `held` are down: one SendInput as well, so that nothing of the
+    /// system comes in between.
+    void chord(const std::vector<WORD>& held, WORD virtualKey);
 
     /// The keys that are down, in the order in which they went down.
     const std::vector<WORD>& heldKeys() const { return m_keys; }

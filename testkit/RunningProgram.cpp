@@ -1,4 +1,5 @@
 #include "RunningProgram.h"
+#include "detail/Display.h"
 #include "detail/UnderWine.h"
 
 #include <cstdio>
@@ -150,6 +151,16 @@ void RunningProgram::letCatchUp() const
     }
 }
 
+/// Under Wine the display tells a window that gets the pointer or the keyboard, in its own time, that nothing
+/// is held on its keyboard, and Wine lets go of the modifiers: Alt+C becomes C. That has happened when this
+/// returns.
+void RunningProgram::awaitViewOfKeyboard() const
+{
+    letCatchUp();
+    awaitDisplay();
+    letCatchUp();
+}
+
 // Windows
 
 std::vector<HWND> RunningProgram::shownWindows() const
@@ -246,8 +257,7 @@ void RunningProgram::moveTo(CPoint screen)
 void RunningProgram::clickAt(CPoint screen, Button button)
 {
     moveTo(screen);
-    m_input.press(button);
-    m_input.release(button);
+    m_input.click(button);
 }
 
 void RunningProgram::click(HWND wnd, Button button)
@@ -301,10 +311,8 @@ void RunningProgram::chord(WORD held, WORD virtualKey)
 void RunningProgram::chord(const std::vector<WORD>& held, WORD virtualKey)
 {
     waitFor("the program to be in front", [this] { return isInFront(); });
-    for (const WORD each : held)
-        m_input.keyDown(each);
-    key(virtualKey);
-    m_input.releaseAll();
+    awaitViewOfKeyboard();
+    m_input.chord(held, virtualKey);
 }
 
 void RunningProgram::type(const std::wstring& text)
@@ -343,14 +351,13 @@ void RunningProgram::tryUntil(const std::string& what, const std::function<void(
 void RunningProgram::closeByKeys()
 {
     const auto ended = [this] { return ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_OBJECT_0; };
-    const auto press = [this] {
-        m_input.keyDown(VK_MENU);
-        m_input.keyDown(VK_F4);
-        m_input.keyUp(VK_F4);
-        m_input.keyUp(VK_MENU);
+    const auto pressOrRaise = [this] {
+        if (isInFront())
+            m_input.chord({VK_MENU}, VK_F4);
+        else
+            ::SetForegroundWindow(m_main);
     };
-    tryUntil(
-        "the program to end", [&] { isInFront() ? press() : comeToTheFront(); }, ended);
+    tryUntil("the program to end", pressOrRaise, ended);
 }
 
 DWORD RunningProgram::waitForEnd()

@@ -81,6 +81,7 @@ private:
     void comeToTheFront();
     void leaveABareScreen() const;
     void letCatchUp() const;
+    void awaitViewOfKeyboard() const;
     bool isInFront() const;
     bool isActive() const;
     bool canClick(HWND wnd) const;

@@ -1,5 +1,6 @@
 #include "Stage.h"
 #include "GuiThread.h"
+#include "detail/Display.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -24,15 +25,6 @@ CPoint pointer()
     CPoint point;
     ::GetCursorPos(&point);
     return point;
-}
-
-// Reading from the screen takes until the display has done, and told the windows, what it was asked before.
-void awaitScreen()
-{
-    const HDC screen = ::GetDC(nullptr);
-    for (int i = 0; i < 2; ++i)
-        ::GetPixel(screen, 0, 0);
-    ::ReleaseDC(nullptr, screen);
 }
 
 CPoint onScreen(CPoint point)
@@ -106,7 +98,7 @@ void Stage::keepHeldKeysDown()
     const std::vector<WORD> held = m_input.heldKeys();
     if (held.empty())
         return;
-    awaitScreen();
+    awaitDisplay();
     awaitInputTaken();
     std::vector<WORD> lost;
     GuiThread::ask([&] {

@@ -109,11 +109,8 @@ public:
     auto type(std::wstring text)
     {
         return tell("type", [=](Stage& stage) {
-            for (const wchar_t character : text) {
-                if (HIBYTE(::VkKeyScanW(character)) & 1) // holds Shift
-                    GuiThread::catchUp();
-                stage.type(std::wstring(1, character));
-            }
+            GuiThread::catchUp(); // capitals hold Shift
+            stage.type(text);
         });
     }
 

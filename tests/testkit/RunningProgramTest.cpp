@@ -43,6 +43,15 @@ COLORREF WINAPI blackPixel(HDC, int, int)
     return RGB(0, 0, 0);
 }
 
+UINT WINAPI hesitantInput(UINT count, LPINPUT inputs, int size)
+{
+    static const auto send = reinterpret_cast<decltype(&::SendInput)>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleW(L"user32.dll"), "SendInput")));
+    const UINT sent = send(count, inputs, size);
+    ::Sleep(30);
+    return sent;
+}
+
 } // namespace
 
 // Run only by the test below.
@@ -131,6 +140,27 @@ TEST(RunningProgram, ClicksAndPressesKeysAsAUserDoes)
     program.closeByKeys();
     EXPECT_TRUE(program.endsByItself());
     ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\ovoui test programs"); // where it remembers a number
+}
+
+// The display tells the dialog below the pointer, a moment after it has opened, that nothing is held.
+TEST(RunningProgram, HoldsTheKeysOfAChordHoweverSlowTheMachineIs)
+{
+    RunningProgram program{L"mfc_program_finder"};
+    CPoint there = rectOf(program.main()).CenterPoint();
+    const ImportPatch slow{nullptr, "SendInput", reinterpret_cast<void*>(&hesitantInput)};
+    for (int i = 0; i < 5; ++i) {
+        ::SetCursorPos(there.x, there.y);
+        program.chord(VK_CONTROL, 'F');
+        const HWND dialog = program.window(L"Find");
+        program.chord(VK_MENU, 'C'); // marks the first button, a check box
+        program.waitFor("the mark", [mark = program.child(dialog, L"Button")] {
+            return ::SendMessageW(mark, BM_GETCHECK, 0, 0) == BST_CHECKED;
+        });
+        there = rectOf(dialog).CenterPoint();
+        program.key(VK_ESCAPE);
+        program.waitFor("the end of the dialog", [dialog] { return !::IsWindow(dialog); });
+        ::SetCursorPos(0, 0);
+    }
 }
 
 TEST(RunningProgram, EndsWithItsObject)
