@@ -12,6 +12,10 @@ namespace
 
 constexpr int kMostPieces = 500; // of a curve
 
+/// How near to its beginning a closed line has come back, as a share of the tolerance: relative commands
+/// round.
+constexpr double kSame = 1e-4;
+
 double angleBetween(Point u, Point v)
 {
     return std::atan2(cross(u, v), dot(u, v));
@@ -36,8 +40,9 @@ Point onCubic(Point p0, Point p1, Point p2, Point p3, double t)
 class Flattener
 {
 public:
-    explicit Flattener(Budget& budget)
-        : m_budget(budget)
+    Flattener(double tolerance, Budget& budget)
+        : m_same(tolerance * kSame)
+        , m_budget(budget)
     {
     }
 
@@ -67,7 +72,8 @@ public:
         if (m_line.points.empty())
             return;
         m_line.closed = closed;
-        while (closed && m_line.points.size() > 1 && m_line.points.back() == m_line.points.front()) {
+        while (closed && m_line.points.size() > 1 &&
+               length(m_line.points.back() - m_line.points.front()) <= m_same) {
             m_line.points.pop_back();
             m_line.smooth.pop_back();
         }
@@ -80,6 +86,7 @@ public:
     std::vector<Polyline> lines() { return std::move(m_lines); }
 
 private:
+    const double m_same;
     Budget& m_budget;
     Polyline m_line;
     bool m_drawn = false; ///< it is more than the place where it would begin
@@ -154,7 +161,7 @@ Box Path::bounds() const
 
 std::vector<Polyline> Path::flattened(double tolerance, Budget& budget) const
 {
-    Flattener flattener(budget);
+    Flattener flattener(tolerance, budget);
     Point current;
     Point start;
     const Point* next = m_points.data();

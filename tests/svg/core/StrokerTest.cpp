@@ -98,6 +98,15 @@ TEST(Stroke, OfAClosedBoxHasFourCorners)
         << "not closed, it lacks the corner where it ends";
 }
 
+TEST(Stroke, OfAClosedBoxHasItsFirstCornerWhereRelativeNumbersDoNotQuiteReturn)
+{
+    const double back = 10.4 + 20.2 - 20.2;
+    ASSERT_NE(back, 10.4) << "by the rounding of floating point";
+    EXPECT_NEAR(areaOf("m10.4 10.2h20.2v20.2h-20.2v-20.2z", pen(4)), 24.2 * 24.2 - 16.2 * 16.2, kNear);
+    EXPECT_NEAR(areaOf("m10.4 10.2h20.2v20.2h-20.2v-20.2z", pen(4, LineCap::Butt, LineJoin::Bevel)),
+                24.2 * 24.2 - 16.2 * 16.2 - 4 * 2, kNear);
+}
+
 TEST(Stroke, OfACircleIsARing)
 {
     // The curves that stand for a circle are up to 3 parts in 10,000 larger than it.
