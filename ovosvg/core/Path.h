@@ -15,7 +15,8 @@ struct Polyline
     std::vector<Point> points; ///< no two that follow each other are the same
     /// By point: whether it lies within a curve or an arc, where the line bends but has no corner.
     std::vector<bool> smooth;
-    bool closed = false; ///< the last point, which is not the first one again, is joined to the first
+    bool closed = false;   ///< the last point, which is not the first one again, is joined to the first
+    Point direction{1, 0}; ///< of a point alone: along it lies a square cap
 };
 
 class Path

@@ -41,7 +41,7 @@ public:
     {
         const std::vector<Point>& points = line.points;
         if (points.size() == 1) {
-            dot(points.front());
+            dot(points.front(), line.direction);
             return;
         }
         const std::size_t count = points.size();
@@ -120,13 +120,13 @@ private:
             add({at - side, at - side + direction * m_half, at + side + direction * m_half, at + side});
     }
 
-    /// A line without a length shows its caps, square ones along the axes.
-    void dot(Point at)
+    /// A line without a length shows its caps.
+    void dot(Point at, Point direction)
     {
         if (m_pen.cap == LineCap::Round)
             pie(at, {1, 0}, 2 * kPi);
         else if (m_pen.cap == LineCap::Square)
-            segment({at.x - m_half, at.y}, {at.x + m_half, at.y});
+            segment(at - direction * m_half, at + direction * m_half);
     }
 
     const Pen& m_pen;
@@ -209,6 +209,7 @@ private:
             const Point at = from + (to - from) * (done / whole);
             if (walk.isOn()) {
                 add(at, false);
+                m_dash.direction = unit(to - from);
                 end();
             }
             walk.next();

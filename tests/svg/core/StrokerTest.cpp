@@ -216,6 +216,23 @@ TEST(Dashes, WithoutALengthAreDotsUnderRoundCaps)
     EXPECT_NEAR(areaOf("M10 20H31", dots), 5 * kPi, 0.02);
 }
 
+TEST(Dashes, WithoutALengthAreSquaresThatLieAlongTheLineUnderSquareCaps)
+{
+    const auto outline = [](const char* path, const Pen& own) {
+        Budget budget;
+        return strokeOutline(readPath(path).path.flattened(0.01, budget), own, 0.01, budget);
+    };
+    Pen dots = pen(2, LineCap::Square);
+    dots.dashes = {0, 20};
+    const auto dot = outline("M10 10L18 16", dots);
+    const auto same = outline("M9.2 9.4L10.8 10.6", pen(2));
+    ASSERT_EQ(dot.size(), 1u);
+    ASSERT_EQ(same.size(), 1u);
+    ASSERT_EQ(dot[0].size(), same[0].size());
+    for (std::size_t i = 0; i < dot[0].size(); ++i)
+        EXPECT_LT(length(dot[0][i] - same[0][i]), 1e-9) << i;
+}
+
 TEST(Dashes, BeyondAllBoundsDoNotCount)
 {
     for (const double offset : {-1.0, 0.0, 1.0, -1e308}) {
