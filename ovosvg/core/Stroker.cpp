@@ -192,7 +192,11 @@ public:
             along(walk, line.points[i - 1], line.points[i % count], line.smooth[i % count]);
         const bool endsOn = !m_dash.points.empty();
         end();
-        if (line.closed && beginsOn && endsOn && m_dashes.size() > first + 1)
+        if (!line.closed || !beginsOn || !endsOn)
+            return;
+        if (m_dashes.size() == first + 1)
+            m_dashes.back() = line; // one dash goes all around
+        else
             joinEnds(first);
     }
 

@@ -209,6 +209,16 @@ TEST(Dashes, OfAClosedLineMeetWhereItBegins)
     EXPECT_FALSE(dashes[0].closed);
 }
 
+TEST(Dashes, ThatGoAllAroundAClosedLineLeaveNoGapInItsFirstCorner)
+{
+    for (const double length : {80.0, 1000.0}) {
+        Pen whole = pen(4);
+        whole.dashes = {length};
+        EXPECT_NEAR(areaOf("M10 10h20v20h-20z", whole), 24 * 24 - 16 * 16, kNear) << length;
+        EXPECT_NEAR(areaOf("M10 10h20v20h-20v-20", whole), 24 * 24 - 16 * 16 - 4, kNear) << "not closed";
+    }
+}
+
 TEST(Dashes, WithoutALengthAreDotsUnderRoundCaps)
 {
     Pen dots = pen(2, LineCap::Round);
