@@ -168,13 +168,40 @@ Setting inherit(Style& style, const Style& parent, std::string_view name)
     return notSupported(name, "none") == Setting::Unknown ? Setting::Unknown : Setting::NotSupported;
 }
 
-/// A value without the "!important" at its end, which no style sheet contests here.
+/// A value without the "!important" at its end.
 std::string_view withoutImportance(std::string_view value)
 {
     const std::size_t mark = value.rfind('!');
     return mark != std::string_view::npos && trimmed(value.substr(mark + 1)) == "important"
                ? trimmed(value.substr(0, mark))
                : value;
+}
+
+/// What follows the comments that a style attribute begins with.
+std::string_view behindComments(std::string_view style)
+{
+    style = trimmed(style);
+    while (style.starts_with("/*")) {
+        const std::size_t end = style.find("*/", 2);
+        style = end == std::string_view::npos ? std::string_view() : trimmed(style.substr(end + 2));
+    }
+    return style;
+}
+
+/// Each declaration that is important, or each other one.
+void forEachOf(std::string_view style, bool important,
+               const std::function<void(std::string_view name, std::string_view value)>& see)
+{
+    for (style = behindComments(style); !style.empty(); style = behindComments(style)) {
+        const std::size_t end = std::min(style.find(';'), style.size());
+        const std::string_view declaration = style.substr(0, end);
+        const std::size_t colon = std::min(declaration.find(':'), end);
+        const std::string_view whole = trimmed(declaration.substr(std::min(colon + 1, end)));
+        const std::string_view value = withoutImportance(whole);
+        if (colon < end && (value.size() < whole.size()) == important)
+            see(trimmed(declaration.substr(0, colon)), value);
+        style.remove_prefix(std::min(end + 1, style.size()));
+    }
 }
 
 } // namespace
@@ -227,15 +254,8 @@ Setting setProperty(Style& style, const Style& parent, std::string_view name, st
 void forEachDeclaration(std::string_view style,
                         const std::function<void(std::string_view name, std::string_view value)>& see)
 {
-    while (!style.empty()) {
-        const std::size_t end = std::min(style.find(';'), style.size());
-        const std::string_view declaration = style.substr(0, end);
-        const std::size_t colon = declaration.find(':');
-        if (colon != std::string_view::npos)
-            see(trimmed(declaration.substr(0, colon)),
-                withoutImportance(trimmed(declaration.substr(colon + 1))));
-        style.remove_prefix(std::min(end + 1, style.size()));
-    }
+    forEachOf(style, false, see);
+    forEachOf(style, true, see);
 }
 
 Style styleOf(const XmlElement& element, const Style& parent, const Report& report)

@@ -148,6 +148,31 @@ TEST(SvgDrawing, StyleComesFromTheElementAndWhatItLiesIn)
     EXPECT_EQ(drawn("<rect width='16' height='16'/>").at(3, 3), 0xFF000000u) << "black unless told";
 }
 
+TEST(SvgDrawing, AnImportantDeclarationCountsMoreThanALaterOne)
+{
+    const auto at = [](const std::string& style) {
+        return drawn("<rect width='16' height='16' style='" + style + "'/>").at(8, 8);
+    };
+    EXPECT_EQ(at("fill:red!important;fill:blue"), kRed);
+    EXPECT_EQ(at("fill:blue;fill:red"), kRed) << "else the later one counts";
+    EXPECT_EQ(at("fill:blue!important;fill:red !important;fill:blue"), kRed);
+    EXPECT_EQ(drawn("<linearGradient id='a'><stop style='stop-color:red!important;stop-color:blue'/>"
+                    "</linearGradient><rect width='16' height='16' fill='url(#a)'/>")
+                  .at(8, 8),
+              kRed);
+}
+
+TEST(SvgDrawing, CommentsAmongDeclarationsArePassedOver)
+{
+    for (const char* style :
+         {"/* fill */fill:red", "/* a; fill:blue */ fill:red", "stroke:none; /* x *//* y */ fill:red",
+          "fill:red;/* fill:blue;", "fill:red; /**/", "fill:red;/*/fill:blue"}) {
+        const Pixels pixels = drawn("<rect width='16' height='16' style='" + std::string(style) + "'/>");
+        EXPECT_EQ(pixels.at(8, 8), kRed) << style;
+        EXPECT_THAT(pixels.notes, IsEmpty()) << style;
+    }
+}
+
 TEST(SvgDrawing, EachPropertyCanBeInheritedInsteadOfItsAttribute)
 {
     struct Property
