@@ -13,7 +13,7 @@ namespace
 /// A paint without a reference.
 std::optional<Paint> plainPaintFrom(std::string_view text)
 {
-    if (text == "none")
+    if (isWord(text, "none"))
         return Paint{};
     if (isCurrentColour(text))
         return Paint{Paint::Kind::Current, 0, {}};
@@ -49,7 +49,7 @@ template <class Value, std::size_t count>
 std::optional<Value> wordFrom(std::string_view text, const Word<Value> (&words)[count])
 {
     for (const auto& [name, value] : words)
-        if (text == name)
+        if (isWord(text, name))
             return value;
     return std::nullopt;
 }
@@ -75,7 +75,7 @@ std::optional<Length> widthFrom(std::string_view text)
 
 std::optional<std::vector<Length>> dashesFrom(std::string_view text)
 {
-    if (text == "none")
+    if (isWord(text, "none"))
         return std::vector<Length>{};
     auto lengths = lengthsFrom(text);
     const auto isNegative = [](const Length& length) { return length.value < 0; };
@@ -122,7 +122,7 @@ Setting notSupported(std::string_view name, std::string_view value)
     const auto harmless = wordFrom(name, kNotSupported);
     if (!harmless)
         return Setting::Unknown;
-    return value == *harmless ? Setting::Done : Setting::NotSupported;
+    return isWord(value, *harmless) ? Setting::Done : Setting::NotSupported;
 }
 
 template <class Value>
@@ -214,7 +214,7 @@ std::int64_t Style::cost() const
 Setting setProperty(Style& style, const Style& parent, std::string_view name, std::string_view raw)
 {
     const std::string_view value = trimmed(raw);
-    if (value == "inherit")
+    if (isWord(value, "inherit"))
         return inherit(style, parent, name);
     if (name == "fill")
         return put(style.fill, paintFrom(value));
@@ -223,7 +223,7 @@ Setting setProperty(Style& style, const Style& parent, std::string_view name, st
     if (name == "opacity")
         return put(style.opacity, shareFrom(value));
     if (name == "display") {
-        style.displayed = value != "none";
+        style.displayed = !isWord(value, "none");
         return Setting::Done;
     }
     if (name == "fill-opacity")

@@ -202,6 +202,11 @@ std::string_view trimmed(std::string_view text)
     return text.substr(begin, text.find_last_not_of(kBlanks) + 1 - begin);
 }
 
+bool isWord(std::string_view text, std::string_view word)
+{
+    return text.size() == word.size() && lowercase(text) == word;
+}
+
 std::optional<Length> lengthFrom(std::string_view text)
 {
     Scanner scanner(trimmed(text));
@@ -245,7 +250,7 @@ std::optional<std::uint32_t> colourFrom(std::string_view text)
 
 bool isCurrentColour(std::string_view text)
 {
-    return lowercase(trimmed(text)) == "currentcolor";
+    return isWord(trimmed(text), "currentcolor");
 }
 
 std::optional<Matrix> transformFrom(std::string_view text)

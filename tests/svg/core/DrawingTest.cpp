@@ -162,6 +162,25 @@ TEST(SvgDrawing, AnImportantDeclarationCountsMoreThanALaterOne)
               kRed);
 }
 
+TEST(SvgDrawing, WordsOfPropertiesMayHaveCapitals)
+{
+    const std::pair<const char*, const char*> same[] = {
+        {"fill='None' stroke='red'", "fill='none' stroke='red'"},
+        {"fill-rule='EvenOdd'", "fill-rule='evenodd'"},
+        {"stroke='red' style='stroke-linejoin:ROUND'", "stroke='red' stroke-linejoin='round'"},
+        {"stroke='red' stroke-dasharray='None' clip-path='None'", "stroke='red'"},
+        {"fill='blue' style='fill:Inherit'", ""},
+        {"display='None'", "display='none'"},
+        {"visibility='Hidden'", "visibility='hidden'"}};
+    const auto path = [](const std::string& attributes) {
+        return drawn("<path stroke-width='2' d='M2 2H14L2 14zM3 4H8L3 9z' " + attributes + "/>");
+    };
+    for (const auto& [capitals, without] : same) {
+        EXPECT_TRUE(path(capitals) == path(without)) << capitals;
+        EXPECT_THAT(path(capitals).notes, IsEmpty()) << capitals;
+    }
+}
+
 TEST(SvgDrawing, CommentsAmongDeclarationsArePassedOver)
 {
     for (const char* style :
