@@ -476,6 +476,32 @@ TEST(SvgDrawing, PrefixesAndForeignElements)
     EXPECT_THAT(notesOf("<title>t</title><desc/><metadata><x:y/></metadata><edit:view a='b'/>"), IsEmpty());
 }
 
+TEST(SvgDrawing, ElementsMayHaveAnyPrefixThatIsOneOfDrawings)
+{
+    const std::string ofDrawings = "'http://www.w3.org/2000/svg'";
+    const auto at = [](const std::string& text) { return Pixels(text, 16).at(4, 4); };
+    EXPECT_EQ(at("<svg xmlns=" + ofDrawings + " xmlns:s=" + ofDrawings +
+                 "><s:rect width='16' height='16' fill='red'/></svg>"),
+              kRed);
+    EXPECT_EQ(at("<s:svg xmlns=" + ofDrawings + " xmlns:s=" + ofDrawings +
+                 "><rect width='16' height='16' fill='red'/></s:svg>"),
+              kRed);
+    EXPECT_EQ(at("<svg xmlns:s='http://example.org'><s:rect width='16' height='16'/></svg>"), 0u);
+    EXPECT_EQ(at("<svg><s:rect width='16' height='16'/></svg>"), 0u);
+}
+
+TEST(SvgDrawing, ReferencesMayHaveAnyPrefix)
+{
+    const Pixels pixels("<n:svg xmlns:n='http://www.w3.org/2000/svg' xmlns:m='http://www.w3.org/1999/xlink'>"
+                        "<n:defs><n:rect id='a' width='8' height='8' fill='red'/>"
+                        "<n:rect id='b' width='8' height='8' fill='blue'/></n:defs>"
+                        "<n:use m:href='#a'/><n:use x='8' m:href='#a' href='#b'/></n:svg>",
+                        16);
+    EXPECT_EQ(pixels.at(4, 4), kRed);
+    EXPECT_EQ(pixels.at(12, 4), kBlue) << "without a prefix it counts more";
+    EXPECT_THAT(pixels.notes, IsEmpty());
+}
+
 TEST(SvgDrawing, OfASwitchTheFirstChildThatMayBeIsDrawn)
 {
     const std::string red = " width='16' height='16' fill='red'/>";
