@@ -89,6 +89,8 @@ Canvas Renderer::render(std::uint32_t currentColour)
     m_currentColour = currentColour;
     context.style.colour = currentColour;
     context.style = styleFor(m_root, context.style);
+    if (transformOf(m_root) != Matrix{})
+        note(SvgIssue::NotSupported, m_root, "transform");
     context.viewport = {0, 0, static_cast<double>(m_width), static_cast<double>(m_height)};
     Box room = context.viewport;
     if (!viewBoxOf(m_root)) {
@@ -141,6 +143,7 @@ void Renderer::noteContent(const XmlElement& shape)
 
 void Renderer::drawChildren(const XmlElement& element, const Context& context)
 {
+    m_budget.spend(static_cast<std::int64_t>(element.children.size())); // of which many may not be drawn
     for (const XmlElement& child : element.children)
         drawElement(child, context);
 }

@@ -578,6 +578,19 @@ TEST(SvgDrawing, SaysWhatItDoesNotDraw)
     EXPECT_THAT(pixels.notes, ElementsAre(SvgNote{SvgIssue::NotSupported, 3, 3, "text"}));
 }
 
+TEST(SvgDrawing, SaysThatTheOutermostElementIsNotTransformed)
+{
+    const auto notes = [](const std::string& attribute) {
+        return Pixels("<svg " + attribute + "/>", 16).notes;
+    };
+    const SvgNote unsupported{SvgIssue::NotSupported, 1, 1, "transform"};
+    EXPECT_THAT(notes("transform='rotate(90)'"), ElementsAre(unsupported));
+    EXPECT_THAT(notes("style='transform:scale(-1 1)'"), ElementsAre(unsupported));
+    EXPECT_THAT(notes("transform='turn(90)'"), ElementsAre(SvgNote{SvgIssue::BadValue, 1, 1, "transform"}));
+    EXPECT_THAT(notes("transform='translate(0)'"), IsEmpty());
+    EXPECT_THAT(notes("transform='none'"), IsEmpty());
+}
+
 TEST(SvgDrawing, SaysWhatItCannotRead)
 {
     EXPECT_THAT(notesOf("<rect width='wide' height='9'/>"), ElementsAre("bad value: width"));
@@ -680,6 +693,7 @@ TEST(SvgDrawing, WhatIsReadAgainAndAgainEnds)
     EXPECT_TRUE(isTooMuch("<g id='a' transform='" + many(" ") + "'/>" + uses));
     EXPECT_TRUE(isTooMuch("<path id='a' visibility='hidden' d='M0 0" + many("m0 0") + "'/>" + uses));
     EXPECT_TRUE(isTooMuch("<symbol id='a' x='0" + many(" ") + "'/>" + uses));
+    EXPECT_TRUE(isTooMuch("<g id='a'>" + many("<x:a/>") + "</g>" + uses)) << "not drawn, and walked over";
     EXPECT_TRUE(isTooMuch("<g stroke-dasharray='" + many("1 ") + "'>" + many("<g/>") + "</g>"));
     EXPECT_TRUE(isTooMuch("<g fill='url(#" + many("x") + ")'>" + many("<g/>") + "</g>"));
     const std::string rows = many("m-1 1h1");
