@@ -344,6 +344,18 @@ TEST(SvgDrawing, StopsHaveColoursOfTheirOwn)
     EXPECT_EQ(at("", 3), 0u) << "without stops nothing is painted";
 }
 
+TEST(SvgDrawing, InFrontOfAGradientIsTheFirstOfTwoStopsAtTheSamePlace)
+{
+    const Pixels pixels = drawn("<linearGradient id='a' gradientUnits='userSpaceOnUse' x1='4' x2='12'>"
+                                "<stop stop-color='red'/><stop stop-color='lime'/>"
+                                "<stop offset='1' stop-color='lime'/><stop offset='1' stop-color='blue'/>"
+                                "</linearGradient><rect width='16' height='16' fill='url(#a)'/>");
+    EXPECT_EQ(pixels.at(2, 8), kRed);
+    EXPECT_EQ(pixels.at(4, 8), 0xFF00FF00u);
+    EXPECT_EQ(pixels.at(11, 8), 0xFF00FF00u);
+    EXPECT_EQ(pixels.at(13, 8), kBlue);
+}
+
 TEST(SvgDrawing, AStopHasTheCurrentColourOfWhatItLiesIn)
 {
     const auto at = [](const std::string& gradients) {
