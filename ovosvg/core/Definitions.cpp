@@ -54,6 +54,11 @@ const XmlElement* Definitions::referredBy(const XmlElement& element) const
     return text.starts_with('#') ? find(text.substr(1)) : nullptr;
 }
 
+bool Definitions::refers(const XmlElement& element)
+{
+    return addressOf(element) != nullptr;
+}
+
 const XmlElement* Definitions::parentOf(const XmlElement& element) const
 {
     const auto found = m_parents.find(&element);

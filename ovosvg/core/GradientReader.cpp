@@ -26,6 +26,8 @@ public:
              next = definitions.referredBy(*next)) {
             m_use.budget.spend(next->cost());
             m_chain.push_back(next);
+            if (Definitions::refers(*next) && !definitions.referredBy(*next))
+                m_note("href", *next);
         }
     }
 

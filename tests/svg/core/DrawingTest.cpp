@@ -624,6 +624,10 @@ TEST(SvgDrawing, SaysWhatItCannotRead)
                         "<rect width='9' height='9' fill='url(#a)'/>"),
                 ElementsAre("bad value: offset", "bad value: stop-color", "bad value: x1",
                             "bad value: gradientTransform"));
+    EXPECT_THAT(notesOf("<linearGradient id='a' href='#none'/><radialGradient id='b' href='other.svg#a'/>"
+                        "<rect width='9' height='9' fill='url(#a)' stroke='url(#b)'/>"),
+                ElementsAre("bad value: href", "bad value: href"))
+        << "of gradients, which show nothing then";
     EXPECT_EQ(drawn("<g fill='red'><rect width='16' height='16' fill='reddish'/></g>").at(4, 4), kRed)
         << "what cannot be read changes nothing";
     EXPECT_EQ(drawn("<path d='M0 0H16V16H0Z L9' fill='red'/>").at(4, 4), kRed)
