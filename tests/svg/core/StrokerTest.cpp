@@ -31,6 +31,28 @@ double areaOf(const char* path, const Pen& pen)
     return areaOf(readPath(path).path, pen);
 }
 
+/// What a wide pen covers around the middle of the picture: of a quarter, and of the rest.
+struct Quarter
+{
+    double own = 0;
+    double others = 0;
+};
+
+Quarter coveredOf(const Path& path, const Pen& pen, bool above)
+{
+    constexpr double kUsual = 0.01; // as coarse as pictures have it
+    Budget budget;
+    const auto pieces = strokeOutline(path.flattened(kUsual, budget), pen, kUsual, budget);
+    const auto [part, values] = coverage(pieces, FillRule::NonZero, kSize, kSize, budget);
+    Quarter sum;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const int x = part.left + static_cast<int>(i) % part.width;
+        const int y = part.top + static_cast<int>(i) / part.width;
+        (x >= kSize / 2 && (y < kSize / 2) == above ? sum.own : sum.others) += static_cast<double>(values[i]);
+    }
+    return sum;
+}
+
 Pen pen(double width, LineCap cap = LineCap::Butt, LineJoin join = LineJoin::Miter)
 {
     Pen result;
@@ -119,6 +141,14 @@ TEST(Stroke, OfACircleIsARing)
         }
     EXPECT_NEAR(areaOf(ellipsePath({20, 20}, 4, 4), pen(12), kTolerance), kPi * 10 * 10, 0.25)
         << "wider than the circle";
+}
+
+TEST(Stroke, OfAnArcEndsSquareToTheArcAndNotToTheLinesThatStandForIt)
+{
+    // As wide as the circle: a quarter of one of twice the radius, a piece of a cake.
+    const Quarter quarter = coveredOf(readPath("M20 10A10 10 0 0 1 30 20").path, pen(20), true);
+    EXPECT_NEAR(quarter.own, 100 * kPi, 0.6);
+    EXPECT_LT(quarter.others, 0.1);
 }
 
 TEST(Stroke, OfAPointShowsItsCap)
@@ -217,6 +247,15 @@ TEST(Dashes, ThatGoAllAroundAClosedLineLeaveNoGapInItsFirstCorner)
         EXPECT_NEAR(areaOf("M10 10h20v20h-20z", whole), 24 * 24 - 16 * 16, kNear) << length;
         EXPECT_NEAR(areaOf("M10 10h20v20h-20v-20", whole), 24 * 24 - 16 * 16 - 4, kNear) << "not closed";
     }
+}
+
+TEST(Dashes, OfACircleEndSquareToIt)
+{
+    Pen cake = pen(20);
+    cake.dashes = {5 * kPi, 100};
+    const Quarter quarter = coveredOf(ellipsePath({20, 20}, 10, 10), cake, false);
+    EXPECT_NEAR(quarter.own, 100 * kPi, 0.6);
+    EXPECT_LT(quarter.others, 0.2);
 }
 
 TEST(Dashes, WithoutALengthAreDotsUnderRoundCaps)
