@@ -325,6 +325,22 @@ TEST(SvgDrawing, RadialGradientsGoFromTheFocusToTheCircle)
         << "a focus outside comes to the circle";
 }
 
+TEST(SvgDrawing, ARadiusBelowZeroOfAGradientIsAsIfItWereNotThere)
+{
+    const auto gradient = [](const std::string& attributes) {
+        return drawn("<radialGradient id='a' " + attributes +
+                     "><stop stop-color='red'/><stop offset='1' stop-color='blue'/></radialGradient>"
+                     "<rect width='16' height='16' fill='url(#a)'/>");
+    };
+    for (const std::string units : {"", " gradientUnits='userSpaceOnUse'"}) {
+        const Pixels pixels = gradient("r='-2'" + units);
+        EXPECT_TRUE(pixels == gradient(units)) << units;
+        ASSERT_EQ(pixels.notes.size(), 1u);
+        EXPECT_EQ(pixels.notes[0].issue, SvgIssue::BadValue);
+        EXPECT_EQ(pixels.notes[0].what, "r");
+    }
+}
+
 TEST(SvgDrawing, StopsHaveColoursOfTheirOwn)
 {
     const auto at = [](const std::string& stops, int x) {
