@@ -302,7 +302,7 @@ private:
 /// No farther away than numbers can be told apart there.
 Point nearer(Point p)
 {
-    constexpr double kFarthest = 1e9;
+    constexpr double kFarthest = 1e12; // where they are a ten-thousandth of a pixel apart
     return {std::clamp(p.x, -kFarthest, kFarthest), std::clamp(p.y, -kFarthest, kFarthest)};
 }
 

@@ -22,8 +22,10 @@ public:
 
     /// Null when there is none.
     const XmlElement* find(std::string_view id) const;
-    /// What the element refers to by href or xlink:href; null without it and for what lies outside.
+    /// What the element refers to by href, with whatever prefix; null without it and for what lies outside.
     const XmlElement* referredBy(const XmlElement& element) const;
+    /// Whether the element refers to anything, be it there or not.
+    static bool refers(const XmlElement& element);
     /// What the element lies in; null for the outermost one.
     const XmlElement* parentOf(const XmlElement& element) const;
 

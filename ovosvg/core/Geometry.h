@@ -30,6 +30,11 @@ inline double length(Point a)
 {
     return std::hypot(a.x, a.y);
 }
+/// The same direction with the length 1, of what has a length.
+inline Point unit(Point a)
+{
+    return a * (1 / length(a));
+}
 inline bool isFinite(Point a)
 {
     return std::isfinite(a.x) && std::isfinite(a.y);

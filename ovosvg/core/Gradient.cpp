@@ -55,7 +55,7 @@ double Gradient::spreadShare(double share) const
         return twice > 1 ? 2 - twice : twice;
     }
     default:
-        return std::clamp(share, 0.0, 1.0);
+        return share; // in front of the first stop it has that one's colour, behind the last the last one's
     }
 }
 

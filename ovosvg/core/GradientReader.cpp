@@ -26,6 +26,8 @@ public:
              next = definitions.referredBy(*next)) {
             m_use.budget.spend(next->cost());
             m_chain.push_back(next);
+            if (Definitions::refers(*next) && !definitions.referredBy(*next))
+                m_note("href", *next);
         }
     }
 
@@ -100,6 +102,12 @@ private:
         const double diagonal = std::sqrt((view.width * view.width + view.height * view.height) / 2);
         gradient.to = {coordinate("cx", {0.5, true}, view.width), coordinate("cy", {0.5, true}, view.height)};
         gradient.radius = coordinate("r", {0.5, true}, diagonal);
+        if (gradient.radius < 0) {
+            const XmlElement* owner = nullptr;
+            attribute("r", &owner);
+            m_note("r", *owner);
+            gradient.radius = 0.5 * (m_byBounds ? 1 : diagonal);
+        }
         gradient.from = {coordinate("fx", {gradient.to.x, false}, view.width),
                          coordinate("fy", {gradient.to.y, false}, view.height)};
         const XmlElement* owner = nullptr;

@@ -12,6 +12,10 @@ namespace
 
 constexpr int kMostPieces = 500; // of a curve
 
+/// How near to its beginning a closed line has come back, as a share of the tolerance: relative commands
+/// round.
+constexpr double kSame = 1e-4;
+
 double angleBetween(Point u, Point v)
 {
     return std::atan2(cross(u, v), dot(u, v));
@@ -32,12 +36,20 @@ Point onCubic(Point p0, Point p1, Point p2, Point p3, double t)
     return p0 * (s * s * s) + p1 * (3 * s * s * t) + p2 * (3 * s * t * t) + p3 * (t * t * t);
 }
 
+/// Where the curve goes there; no direction at a cusp.
+Point directionOn(Point p0, Point p1, Point p2, Point p3, double t)
+{
+    const double s = 1 - t;
+    return (p1 - p0) * (s * s) + (p2 - p1) * (2 * s * t) + (p3 - p2) * (t * t);
+}
+
 /// Puts points together to polylines.
 class Flattener
 {
 public:
-    explicit Flattener(Budget& budget)
-        : m_budget(budget)
+    Flattener(double tolerance, Budget& budget)
+        : m_same(tolerance * kSame)
+        , m_budget(budget)
     {
     }
 
@@ -50,7 +62,11 @@ public:
         m_drawn = false;
     }
 
-    void add(Point p, bool smooth)
+    /// A straight line.
+    void add(Point p) { add(p, false, {}, {}); }
+
+    /// A piece of a curve that begins and ends in these directions.
+    void add(Point p, bool smooth, Point begin, Point end)
     {
         m_budget.spend(kPointCost);
         m_drawn = true;
@@ -58,6 +74,7 @@ public:
             m_line.smooth.back() = m_line.smooth.back() && smooth;
             return;
         }
+        addCourse(p, begin, end);
         m_line.points.push_back(p);
         m_line.smooth.push_back(smooth);
     }
@@ -67,10 +84,15 @@ public:
         if (m_line.points.empty())
             return;
         m_line.closed = closed;
-        while (closed && m_line.points.size() > 1 && m_line.points.back() == m_line.points.front()) {
+        const std::size_t count = m_line.points.size();
+        while (closed && m_line.points.size() > 1 &&
+               length(m_line.points.back() - m_line.points.front()) <= m_same) {
             m_line.points.pop_back();
             m_line.smooth.pop_back();
         }
+        if (closed && count > 1 && m_line.points.size() == count)
+            addCourse(m_line.points.front(), {}, {});
+        m_line.courses.resize(closed ? m_line.points.size() : count - 1);
         if (m_drawn || closed)
             m_lines.push_back(std::move(m_line));
         m_line = {};
@@ -80,11 +102,36 @@ public:
     std::vector<Polyline> lines() { return std::move(m_lines); }
 
 private:
+    /// From the last point to another. Where there is no direction it is the piece's.
+    void addCourse(Point p, Point begin, Point end)
+    {
+        const Point straight = unit(p - m_line.points.back());
+        const auto known = [&](Point direction) {
+            return length(direction) > 0 ? unit(direction) : straight;
+        };
+        m_line.courses.push_back({known(begin), known(end)});
+    }
+
+    const double m_same;
     Budget& m_budget;
     Polyline m_line;
     bool m_drawn = false; ///< it is more than the place where it would begin
     std::vector<Polyline> m_lines;
 };
+
+/// A curve from a point, by two control points and its end.
+void addCubic(Flattener& flattener, Point from, const Point* to, double tolerance)
+{
+    const int pieces = piecesOf(from, to[0], to[1], to[2], tolerance);
+    Point begin = directionOn(from, to[0], to[1], to[2], 0);
+    for (int i = 1; i <= pieces; ++i) {
+        const double t = 1.0 * i / pieces;
+        const bool isLast = i == pieces;
+        const Point end = directionOn(from, to[0], to[1], to[2], t);
+        flattener.add(isLast ? to[2] : onCubic(from, to[0], to[1], to[2], t), !isLast, begin, end);
+        begin = end;
+    }
+}
 
 } // namespace
 
@@ -154,7 +201,7 @@ Box Path::bounds() const
 
 std::vector<Polyline> Path::flattened(double tolerance, Budget& budget) const
 {
-    Flattener flattener(budget);
+    Flattener flattener(tolerance, budget);
     Point current;
     Point start;
     const Point* next = m_points.data();
@@ -168,17 +215,13 @@ std::vector<Polyline> Path::flattened(double tolerance, Budget& budget) const
             break;
         case Verb::Line:
             current = *next++;
-            flattener.add(current, false);
+            flattener.add(current);
             break;
-        case Verb::Cubic: {
-            const int pieces = piecesOf(current, next[0], next[1], next[2], tolerance);
-            for (int i = 1; i < pieces; ++i)
-                flattener.add(onCubic(current, next[0], next[1], next[2], 1.0 * i / pieces), true);
+        case Verb::Cubic:
+            addCubic(flattener, current, next, tolerance);
             current = next[2];
-            flattener.add(current, false);
             next += 3;
             break;
-        }
         case Verb::Close:
             current = start;
             flattener.end(true);

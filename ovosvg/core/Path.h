@@ -9,13 +9,23 @@
 namespace ovosvg
 {
 
+/// The directions, 1 in length, in which a piece of a line begins and ends: in a curve not quite that of the
+/// piece.
+struct Course
+{
+    Point begin;
+    Point end;
+};
+
 /// A run of points, with curves made into short lines.
 struct Polyline
 {
     std::vector<Point> points; ///< no two that follow each other are the same
     /// By point: whether it lies within a curve or an arc, where the line bends but has no corner.
     std::vector<bool> smooth;
-    bool closed = false; ///< the last point, which is not the first one again, is joined to the first
+    std::vector<Course> courses; ///< of the pieces that follow the points; an open line ends without one
+    bool closed = false;         ///< the last point, which is not the first one again, is joined to the first
+    Point direction{1, 0};       ///< of a point alone: along it lies a square cap
 };
 
 class Path

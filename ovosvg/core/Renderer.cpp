@@ -53,12 +53,27 @@ bool conditionsHold(const XmlElement& element)
            (!features || hasFeatures(*features));
 }
 
+/// The prefixes of a drawing's elements, with their colons: that of the outermost one, and what it declares.
+std::set<std::string, std::less<>> prefixesOf(const XmlElement& root)
+{
+    std::set<std::string, std::less<>> all{root.name.substr(0, root.name.find(':') + 1)};
+    for (const auto& [name, value, place] : root.attributes) {
+        if (trimmed(value) != "http://www.w3.org/2000/svg")
+            continue;
+        if (name == "xmlns")
+            all.insert("");
+        else if (name.starts_with("xmlns:"))
+            all.insert(name.substr(name.find(':') + 1) + ":");
+    }
+    return all;
+}
+
 } // namespace
 
 Renderer::Renderer(const XmlElement& root, int width, int height, std::vector<SvgNote>& notes,
                    const Budget& budget)
     : m_root(root)
-    , m_prefix(root.name.substr(0, root.name.find(':') + 1))
+    , m_prefixes(prefixesOf(root))
     , m_definitions(root)
     , m_width(width)
     , m_height(height)
@@ -74,6 +89,8 @@ Canvas Renderer::render(std::uint32_t currentColour)
     m_currentColour = currentColour;
     context.style.colour = currentColour;
     context.style = styleFor(m_root, context.style);
+    if (transformOf(m_root) != Matrix{})
+        note(SvgIssue::NotSupported, m_root, "transform");
     context.viewport = {0, 0, static_cast<double>(m_width), static_cast<double>(m_height)};
     Box room = context.viewport;
     if (!viewBoxOf(m_root)) {
@@ -103,13 +120,14 @@ void Renderer::noteStyleSheets(const XmlElement& element)
     }
 }
 
-/// The name without the drawing's prefix; empty for an element of another name space.
+/// The name without its prefix; empty for an element of another name space.
 std::string_view Renderer::nameOf(const XmlElement& element) const
 {
-    if (!element.name.starts_with(m_prefix))
-        return {};
-    const std::string_view name = std::string_view(element.name).substr(m_prefix.size());
-    return name.find(':') == std::string_view::npos ? name : std::string_view();
+    const std::string_view name = localName(element.name);
+    const std::string_view prefix =
+        std::string_view(element.name).substr(0, element.name.size() - name.size());
+    return m_prefixes.contains(prefix) && name.find(':') == std::string_view::npos ? name
+                                                                                   : std::string_view();
 }
 
 /// What stands in a shape, such as animations.
@@ -125,6 +143,7 @@ void Renderer::noteContent(const XmlElement& shape)
 
 void Renderer::drawChildren(const XmlElement& element, const Context& context)
 {
+    m_budget.spend(static_cast<std::int64_t>(element.children.size())); // of which many may not be drawn
     for (const XmlElement& child : element.children)
         drawElement(child, context);
 }

@@ -6,8 +6,11 @@
 #include <ovosvg/core/Path.h>
 #include <ovosvg/core/Style.h>
 
+#include <functional>
 #include <optional>
+#include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ovosvg
@@ -82,7 +85,7 @@ private:
     void note(SvgIssue issue, XmlPlace place, std::string what);
 
     const XmlElement& m_root;
-    const std::string m_prefix; ///< of the drawing's names, with its colon
+    const std::set<std::string, std::less<>> m_prefixes; ///< of the drawing's elements, with their colons
     const Definitions m_definitions;
     const int m_width;
     const int m_height;

@@ -11,12 +11,9 @@ namespace ovosvg
 namespace
 {
 
-constexpr double kMostArcPieces = 200; // of a whole turn
-
-Point unit(Point p)
-{
-    return p * (1 / length(p));
-}
+constexpr double kMostArcPieces = 200;  // of a whole turn
+constexpr double kNearlyStraight = 0.9; // cosine of the angle up to which a curve and its piece are one
+constexpr double kTightest = 1.1;       // half widths by the radius of a bend that a pen can follow
 
 /// Square to a direction, to the side where x turns towards y.
 Point normal(Point direction)
@@ -41,19 +38,23 @@ public:
     {
         const std::vector<Point>& points = line.points;
         if (points.size() == 1) {
-            dot(points.front());
+            dot(points.front(), line.direction);
             return;
         }
         const std::size_t count = points.size();
         const std::size_t segments = line.closed ? count : count - 1;
-        for (std::size_t i = 0; i < segments; ++i)
-            segment(points[i], points[(i + 1) % count]);
+        std::vector<Course> courses;
+        for (std::size_t i = 0; i < segments; ++i) {
+            const Point& to = points[(i + 1) % count];
+            courses.push_back(courseOf(points[i], to, line.courses[i]));
+            segment(points[i], to, courses[i]);
+        }
         const std::size_t firstJoin = line.closed ? 0 : 1;
         for (std::size_t i = firstJoin; i + firstJoin < count; ++i)
-            join(points[(i + count - 1) % count], points[i], points[(i + 1) % count], line.smooth[i]);
+            join(points[i], courses[(i + segments - 1) % segments].end, courses[i].begin, line.smooth[i]);
         if (!line.closed) {
-            cap(points[0], unit(points[0] - points[1]));
-            cap(points[count - 1], unit(points[count - 1] - points[count - 2]));
+            cap(points[0], courses.front().begin * -1);
+            cap(points[count - 1], courses.back().end);
         }
     }
 
@@ -66,10 +67,31 @@ private:
         m_pieces.push_back(std::move(piece));
     }
 
-    void segment(Point from, Point to)
+    /// That of a piece as the pen follows it: of a curve, unless the bend is too tight for the pen.
+    Course courseOf(Point from, Point to, const Course& course) const
     {
-        const Point side = normal(unit(to - from)) * m_half;
-        add({from - side, to - side, to + side, from + side});
+        if (course.begin == course.end)
+            return course;
+        const Point straight = unit(to - from);
+        const auto isNear = [&](Point end) { return ovosvg::dot(end, straight) > kNearlyStraight; };
+        const double gain = ovosvg::dot(normal(course.end) - normal(course.begin), straight) * m_half;
+        const bool follows =
+            isNear(course.begin) && isNear(course.end) && std::abs(gain) <= length(to - from) * kTightest;
+        return follows ? course : Course{straight, straight};
+    }
+
+    /// Cut off square to the directions in which it begins and ends, so pieces of a curve fit together.
+    void segment(Point from, Point to, const Course& course)
+    {
+        const Point before = normal(course.begin) * m_half;
+        const Point behind = normal(course.end) * m_half;
+        Polygon piece{from - before, to - behind, to + behind, from + before};
+        const auto runsBack = [&](Point one, Point next) { return ovosvg::dot(next - one, to - from) < 0; };
+        if (runsBack(piece[0], piece[1])) // the inner side of a bend that is tighter than the pen
+            std::swap(piece[0], piece[1]);
+        if (runsBack(piece[3], piece[2]))
+            std::swap(piece[2], piece[3]);
+        add(std::move(piece));
     }
 
     /// A part of the circle around a point, from one direction on by an angle that is not negative.
@@ -86,11 +108,9 @@ private:
         add(std::move(piece));
     }
 
-    /// The gap on the outer side of a bend.
-    void join(Point before, Point at, Point after, bool smooth)
+    /// The gap on the outer side of a bend from one direction to another.
+    void join(Point at, Point in, Point out, bool smooth)
     {
-        const Point in = unit(at - before);
-        const Point out = unit(after - at);
         const double turn = std::atan2(cross(in, out), ovosvg::dot(in, out));
         if (!(std::abs(turn) > 0)) // or no number
             return;
@@ -120,13 +140,13 @@ private:
             add({at - side, at - side + direction * m_half, at + side + direction * m_half, at + side});
     }
 
-    /// A line without a length shows its caps, square ones along the axes.
-    void dot(Point at)
+    /// A line without a length shows its caps.
+    void dot(Point at, Point direction)
     {
         if (m_pen.cap == LineCap::Round)
             pie(at, {1, 0}, 2 * kPi);
         else if (m_pen.cap == LineCap::Square)
-            segment({at.x - m_half, at.y}, {at.x + m_half, at.y});
+            segment(at - direction * m_half, at + direction * m_half, {direction, direction});
     }
 
     const Pen& m_pen;
@@ -189,45 +209,62 @@ public:
         if (walk.isOn())
             begin(line.points.front());
         for (std::size_t i = 1; i < count + (line.closed && count > 1 ? 1 : 0); ++i)
-            along(walk, line.points[i - 1], line.points[i % count], line.smooth[i % count]);
+            along(walk, line.points[i - 1], line.points[i % count], line.courses[i - 1],
+                  line.smooth[i % count]);
         const bool endsOn = !m_dash.points.empty();
         end();
-        if (line.closed && beginsOn && endsOn && m_dashes.size() > first + 1)
+        if (!line.closed || !beginsOn || !endsOn)
+            return;
+        if (m_dashes.size() == first + 1)
+            m_dashes.back() = line; // one dash goes all around
+        else
             joinEnds(first);
     }
 
     std::vector<Polyline> dashes() { return std::move(m_dashes); }
 
 private:
-    void along(DashWalk& walk, Point from, Point to, bool smooth)
+    void along(DashWalk& walk, Point from, Point to, const Course& course, bool smooth)
     {
         const double whole = length(to - from);
         double done = 0;
+        Point begun = course.begin;
         while (whole - done > walk.left()) {
             m_budget.spend(kDashCost);
             done += walk.left();
             const Point at = from + (to - from) * (done / whole);
+            const Point direction = directionAt(course, done / whole);
             if (walk.isOn()) {
-                add(at, false);
+                add(at, {begun, direction}, false);
+                m_dash.direction = direction;
                 end();
             }
+            begun = direction;
             walk.next();
             if (walk.isOn())
                 begin(at);
         }
         walk.go(whole - done);
         if (walk.isOn())
-            add(to, smooth);
+            add(to, {begun, course.end}, smooth);
     }
 
-    void begin(Point p) { m_dash = {{p}, {false}, false}; }
-    void add(Point p, bool smooth)
+    static Point directionAt(const Course& course, double share)
+    {
+        if (course.begin == course.end)
+            return course.begin;
+        return unit(course.begin * (1 - share) + course.end * share);
+    }
+
+    void begin(Point p) { m_dash = {{p}, {false}, {}, false}; }
+    void add(Point p, const Course& course, bool smooth)
     {
         m_budget.spend(kPointCost);
         if (p == m_dash.points.back())
             return;
         m_dash.points.push_back(p);
         m_dash.smooth.push_back(smooth);
+        m_dash.courses.push_back(course);
     }
     void end()
     {
@@ -243,6 +280,7 @@ private:
         const Polyline& begin = m_dashes[first];
         last.points.insert(last.points.end(), begin.points.begin() + 1, begin.points.end());
         last.smooth.insert(last.smooth.end(), begin.smooth.begin() + 1, begin.smooth.end());
+        last.courses.insert(last.courses.end(), begin.courses.begin(), begin.courses.end());
         m_dashes[first] = std::move(last);
     }
 

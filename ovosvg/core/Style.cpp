@@ -13,7 +13,7 @@ namespace
 /// A paint without a reference.
 std::optional<Paint> plainPaintFrom(std::string_view text)
 {
-    if (text == "none")
+    if (isWord(text, "none"))
         return Paint{};
     if (isCurrentColour(text))
         return Paint{Paint::Kind::Current, 0, {}};
@@ -49,7 +49,7 @@ template <class Value, std::size_t count>
 std::optional<Value> wordFrom(std::string_view text, const Word<Value> (&words)[count])
 {
     for (const auto& [name, value] : words)
-        if (text == name)
+        if (isWord(text, name))
             return value;
     return std::nullopt;
 }
@@ -75,7 +75,7 @@ std::optional<Length> widthFrom(std::string_view text)
 
 std::optional<std::vector<Length>> dashesFrom(std::string_view text)
 {
-    if (text == "none")
+    if (isWord(text, "none"))
         return std::vector<Length>{};
     auto lengths = lengthsFrom(text);
     const auto isNegative = [](const Length& length) { return length.value < 0; };
@@ -122,7 +122,7 @@ Setting notSupported(std::string_view name, std::string_view value)
     const auto harmless = wordFrom(name, kNotSupported);
     if (!harmless)
         return Setting::Unknown;
-    return value == *harmless ? Setting::Done : Setting::NotSupported;
+    return isWord(value, *harmless) ? Setting::Done : Setting::NotSupported;
 }
 
 template <class Value>
@@ -168,13 +168,40 @@ Setting inherit(Style& style, const Style& parent, std::string_view name)
     return notSupported(name, "none") == Setting::Unknown ? Setting::Unknown : Setting::NotSupported;
 }
 
-/// A value without the "!important" at its end, which no style sheet contests here.
+/// A value without the "!important" at its end.
 std::string_view withoutImportance(std::string_view value)
 {
     const std::size_t mark = value.rfind('!');
     return mark != std::string_view::npos && trimmed(value.substr(mark + 1)) == "important"
                ? trimmed(value.substr(0, mark))
                : value;
+}
+
+/// What follows the comments that a style attribute begins with.
+std::string_view behindComments(std::string_view style)
+{
+    style = trimmed(style);
+    while (style.starts_with("/*")) {
+        const std::size_t end = style.find("*/", 2);
+        style = end == std::string_view::npos ? std::string_view() : trimmed(style.substr(end + 2));
+    }
+    return style;
+}
+
+/// Each declaration that is important, or each other one.
+void forEachOf(std::string_view style, bool important,
+               const std::function<void(std::string_view name, std::string_view value)>& see)
+{
+    for (style = behindComments(style); !style.empty(); style = behindComments(style)) {
+        const std::size_t end = std::min(style.find(';'), style.size());
+        const std::string_view declaration = style.substr(0, end);
+        const std::size_t colon = std::min(declaration.find(':'), end);
+        const std::string_view whole = trimmed(declaration.substr(std::min(colon + 1, end)));
+        const std::string_view value = withoutImportance(whole);
+        if (colon < end && (value.size() < whole.size()) == important)
+            see(trimmed(declaration.substr(0, colon)), value);
+        style.remove_prefix(std::min(end + 1, style.size()));
+    }
 }
 
 } // namespace
@@ -187,7 +214,7 @@ std::int64_t Style::cost() const
 Setting setProperty(Style& style, const Style& parent, std::string_view name, std::string_view raw)
 {
     const std::string_view value = trimmed(raw);
-    if (value == "inherit")
+    if (isWord(value, "inherit"))
         return inherit(style, parent, name);
     if (name == "fill")
         return put(style.fill, paintFrom(value));
@@ -196,7 +223,7 @@ Setting setProperty(Style& style, const Style& parent, std::string_view name, st
     if (name == "opacity")
         return put(style.opacity, shareFrom(value));
     if (name == "display") {
-        style.displayed = value != "none";
+        style.displayed = !isWord(value, "none");
         return Setting::Done;
     }
     if (name == "fill-opacity")
@@ -227,15 +254,8 @@ Setting setProperty(Style& style, const Style& parent, std::string_view name, st
 void forEachDeclaration(std::string_view style,
                         const std::function<void(std::string_view name, std::string_view value)>& see)
 {
-    while (!style.empty()) {
-        const std::size_t end = std::min(style.find(';'), style.size());
-        const std::string_view declaration = style.substr(0, end);
-        const std::size_t colon = declaration.find(':');
-        if (colon != std::string_view::npos)
-            see(trimmed(declaration.substr(0, colon)),
-                withoutImportance(trimmed(declaration.substr(colon + 1))));
-        style.remove_prefix(std::min(end + 1, style.size()));
-    }
+    forEachOf(style, false, see);
+    forEachOf(style, true, see);
 }
 
 Style styleOf(const XmlElement& element, const Style& parent, const Report& report)

@@ -76,7 +76,7 @@ using Report = std::function<void(const std::string& name, Setting setting, XmlP
 /// What an element has of the style of what it lies in: its attributes, then its style attribute.
 Style styleOf(const XmlElement& element, const Style& parent, const Report& report);
 
-/// Each declaration of a style attribute.
+/// Each declaration of a style attribute, the important ones at last.
 void forEachDeclaration(std::string_view style,
                         const std::function<void(std::string_view name, std::string_view value)>& see);
 

@@ -113,7 +113,7 @@ std::optional<std::uint32_t> functionColour(std::string_view name, std::string_v
     for (std::size_t i = 0; i < 4; ++i) {
         if (i == 3 && scanner.atEnd())
             break;
-        const double whole = i == 3 || isHsl ? 1 : 255;
+        const double whole = i == 3 ? 1 : isHsl ? 100 : 255;
         const std::optional<double> value = isHsl && i == 0 ? hueFrom(scanner) : component(scanner, whole);
         if (!value)
             return std::nullopt;
@@ -123,7 +123,7 @@ std::optional<std::uint32_t> functionColour(std::string_view name, std::string_v
     if (!scanner.atEnd())
         return std::nullopt;
     const double alpha = std::clamp(values[3], 0.0, 1.0);
-    return isHsl ? fromHsl(values[0], values[1], values[2], alpha)
+    return isHsl ? fromHsl(values[0], values[1] / 100, values[2] / 100, alpha)
                  : packed(values[0], values[1], values[2], alpha);
 }
 
@@ -202,6 +202,11 @@ std::string_view trimmed(std::string_view text)
     return text.substr(begin, text.find_last_not_of(kBlanks) + 1 - begin);
 }
 
+bool isWord(std::string_view text, std::string_view word)
+{
+    return text.size() == word.size() && lowercase(text) == word;
+}
+
 std::optional<Length> lengthFrom(std::string_view text)
 {
     Scanner scanner(trimmed(text));
@@ -245,7 +250,7 @@ std::optional<std::uint32_t> colourFrom(std::string_view text)
 
 bool isCurrentColour(std::string_view text)
 {
-    return lowercase(trimmed(text)) == "currentcolor";
+    return isWord(trimmed(text), "currentcolor");
 }
 
 std::optional<Matrix> transformFrom(std::string_view text)

@@ -13,6 +13,9 @@ namespace ovosvg
 
 std::string_view trimmed(std::string_view text);
 
+/// Whether a text is a word of CSS, in capitals or not; `word` has none.
+bool isWord(std::string_view text, std::string_view word);
+
 /// A length as it is written.
 struct Length
 {

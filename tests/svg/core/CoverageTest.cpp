@@ -210,6 +210,13 @@ TEST(Coverage, BeyondThePictureNothingIsLost)
     EXPECT_NEAR(sum(covered({{{-8, -8}, {16, -8}, {-8, 16}}})), 32, kNear) << "half of the picture";
 }
 
+TEST(Coverage, OfALineToAPlaceFarAwayKeepsItsDirection)
+{
+    for (const double away : {1e3, 1e9, 1e10, 5e11})
+        EXPECT_NEAR(sum(covered({{{0, 0}, {2 * away, away}, {0, away}}})), 64 - 16, 1e-3) << away;
+    EXPECT_NEAR(sum(covered({{{-1e11, -5e10}, {1e11, 5e10}, {-1e11, 5e10}}})), 64 - 16, 1e-3);
+}
+
 TEST(Coverage, OfNothingIsNothing)
 {
     EXPECT_EQ(sum(covered({})), 0);

@@ -148,6 +148,50 @@ TEST(SvgDrawing, StyleComesFromTheElementAndWhatItLiesIn)
     EXPECT_EQ(drawn("<rect width='16' height='16'/>").at(3, 3), 0xFF000000u) << "black unless told";
 }
 
+TEST(SvgDrawing, AnImportantDeclarationCountsMoreThanALaterOne)
+{
+    const auto at = [](const std::string& style) {
+        return drawn("<rect width='16' height='16' style='" + style + "'/>").at(8, 8);
+    };
+    EXPECT_EQ(at("fill:red!important;fill:blue"), kRed);
+    EXPECT_EQ(at("fill:blue;fill:red"), kRed) << "else the later one counts";
+    EXPECT_EQ(at("fill:blue!important;fill:red !important;fill:blue"), kRed);
+    EXPECT_EQ(drawn("<linearGradient id='a'><stop style='stop-color:red!important;stop-color:blue'/>"
+                    "</linearGradient><rect width='16' height='16' fill='url(#a)'/>")
+                  .at(8, 8),
+              kRed);
+}
+
+TEST(SvgDrawing, WordsOfPropertiesMayHaveCapitals)
+{
+    const std::pair<const char*, const char*> same[] = {
+        {"fill='None' stroke='red'", "fill='none' stroke='red'"},
+        {"fill-rule='EvenOdd'", "fill-rule='evenodd'"},
+        {"stroke='red' style='stroke-linejoin:ROUND'", "stroke='red' stroke-linejoin='round'"},
+        {"stroke='red' stroke-dasharray='None' clip-path='None'", "stroke='red'"},
+        {"fill='blue' style='fill:Inherit'", ""},
+        {"display='None'", "display='none'"},
+        {"visibility='Hidden'", "visibility='hidden'"}};
+    const auto path = [](const std::string& attributes) {
+        return drawn("<path stroke-width='2' d='M2 2H14L2 14zM3 4H8L3 9z' " + attributes + "/>");
+    };
+    for (const auto& [capitals, without] : same) {
+        EXPECT_TRUE(path(capitals) == path(without)) << capitals;
+        EXPECT_THAT(path(capitals).notes, IsEmpty()) << capitals;
+    }
+}
+
+TEST(SvgDrawing, CommentsAmongDeclarationsArePassedOver)
+{
+    for (const char* style :
+         {"/* fill */fill:red", "/* a; fill:blue */ fill:red", "stroke:none; /* x *//* y */ fill:red",
+          "fill:red;/* fill:blue;", "fill:red; /**/", "fill:red;/*/fill:blue"}) {
+        const Pixels pixels = drawn("<rect width='16' height='16' style='" + std::string(style) + "'/>");
+        EXPECT_EQ(pixels.at(8, 8), kRed) << style;
+        EXPECT_THAT(pixels.notes, IsEmpty()) << style;
+    }
+}
+
 TEST(SvgDrawing, EachPropertyCanBeInheritedInsteadOfItsAttribute)
 {
     struct Property
@@ -281,6 +325,22 @@ TEST(SvgDrawing, RadialGradientsGoFromTheFocusToTheCircle)
         << "a focus outside comes to the circle";
 }
 
+TEST(SvgDrawing, ARadiusBelowZeroOfAGradientIsAsIfItWereNotThere)
+{
+    const auto gradient = [](const std::string& attributes) {
+        return drawn("<radialGradient id='a' " + attributes +
+                     "><stop stop-color='red'/><stop offset='1' stop-color='blue'/></radialGradient>"
+                     "<rect width='16' height='16' fill='url(#a)'/>");
+    };
+    for (const std::string units : {"", " gradientUnits='userSpaceOnUse'"}) {
+        const Pixels pixels = gradient("r='-2'" + units);
+        EXPECT_TRUE(pixels == gradient(units)) << units;
+        ASSERT_EQ(pixels.notes.size(), 1u);
+        EXPECT_EQ(pixels.notes[0].issue, SvgIssue::BadValue);
+        EXPECT_EQ(pixels.notes[0].what, "r");
+    }
+}
+
 TEST(SvgDrawing, StopsHaveColoursOfTheirOwn)
 {
     const auto at = [](const std::string& stops, int x) {
@@ -298,6 +358,18 @@ TEST(SvgDrawing, StopsHaveColoursOfTheirOwn)
     EXPECT_EQ(at("<stop stop-color='currentColor' color='blue'/>", 3), kBlue);
     EXPECT_EQ(at("<stop stop-color='currentcolor' style='color:blue!important'/>", 3), kBlue);
     EXPECT_EQ(at("", 3), 0u) << "without stops nothing is painted";
+}
+
+TEST(SvgDrawing, InFrontOfAGradientIsTheFirstOfTwoStopsAtTheSamePlace)
+{
+    const Pixels pixels = drawn("<linearGradient id='a' gradientUnits='userSpaceOnUse' x1='4' x2='12'>"
+                                "<stop stop-color='red'/><stop stop-color='lime'/>"
+                                "<stop offset='1' stop-color='lime'/><stop offset='1' stop-color='blue'/>"
+                                "</linearGradient><rect width='16' height='16' fill='url(#a)'/>");
+    EXPECT_EQ(pixels.at(2, 8), kRed);
+    EXPECT_EQ(pixels.at(4, 8), 0xFF00FF00u);
+    EXPECT_EQ(pixels.at(11, 8), 0xFF00FF00u);
+    EXPECT_EQ(pixels.at(13, 8), kBlue);
 }
 
 TEST(SvgDrawing, AStopHasTheCurrentColourOfWhatItLiesIn)
@@ -432,6 +504,32 @@ TEST(SvgDrawing, PrefixesAndForeignElements)
     EXPECT_THAT(notesOf("<title>t</title><desc/><metadata><x:y/></metadata><edit:view a='b'/>"), IsEmpty());
 }
 
+TEST(SvgDrawing, ElementsMayHaveAnyPrefixThatIsOneOfDrawings)
+{
+    const std::string ofDrawings = "'http://www.w3.org/2000/svg'";
+    const auto at = [](const std::string& text) { return Pixels(text, 16).at(4, 4); };
+    EXPECT_EQ(at("<svg xmlns=" + ofDrawings + " xmlns:s=" + ofDrawings +
+                 "><s:rect width='16' height='16' fill='red'/></svg>"),
+              kRed);
+    EXPECT_EQ(at("<s:svg xmlns=" + ofDrawings + " xmlns:s=" + ofDrawings +
+                 "><rect width='16' height='16' fill='red'/></s:svg>"),
+              kRed);
+    EXPECT_EQ(at("<svg xmlns:s='http://example.org'><s:rect width='16' height='16'/></svg>"), 0u);
+    EXPECT_EQ(at("<svg><s:rect width='16' height='16'/></svg>"), 0u);
+}
+
+TEST(SvgDrawing, ReferencesMayHaveAnyPrefix)
+{
+    const Pixels pixels("<n:svg xmlns:n='http://www.w3.org/2000/svg' xmlns:m='http://www.w3.org/1999/xlink'>"
+                        "<n:defs><n:rect id='a' width='8' height='8' fill='red'/>"
+                        "<n:rect id='b' width='8' height='8' fill='blue'/></n:defs>"
+                        "<n:use m:href='#a'/><n:use x='8' m:href='#a' href='#b'/></n:svg>",
+                        16);
+    EXPECT_EQ(pixels.at(4, 4), kRed);
+    EXPECT_EQ(pixels.at(12, 4), kBlue) << "without a prefix it counts more";
+    EXPECT_THAT(pixels.notes, IsEmpty());
+}
+
 TEST(SvgDrawing, OfASwitchTheFirstChildThatMayBeIsDrawn)
 {
     const std::string red = " width='16' height='16' fill='red'/>";
@@ -508,6 +606,19 @@ TEST(SvgDrawing, SaysWhatItDoesNotDraw)
     EXPECT_THAT(pixels.notes, ElementsAre(SvgNote{SvgIssue::NotSupported, 3, 3, "text"}));
 }
 
+TEST(SvgDrawing, SaysThatTheOutermostElementIsNotTransformed)
+{
+    const auto notes = [](const std::string& attribute) {
+        return Pixels("<svg " + attribute + "/>", 16).notes;
+    };
+    const SvgNote unsupported{SvgIssue::NotSupported, 1, 1, "transform"};
+    EXPECT_THAT(notes("transform='rotate(90)'"), ElementsAre(unsupported));
+    EXPECT_THAT(notes("style='transform:scale(-1 1)'"), ElementsAre(unsupported));
+    EXPECT_THAT(notes("transform='turn(90)'"), ElementsAre(SvgNote{SvgIssue::BadValue, 1, 1, "transform"}));
+    EXPECT_THAT(notes("transform='translate(0)'"), IsEmpty());
+    EXPECT_THAT(notes("transform='none'"), IsEmpty());
+}
+
 TEST(SvgDrawing, SaysWhatItCannotRead)
 {
     EXPECT_THAT(notesOf("<rect width='wide' height='9'/>"), ElementsAre("bad value: width"));
@@ -529,6 +640,10 @@ TEST(SvgDrawing, SaysWhatItCannotRead)
                         "<rect width='9' height='9' fill='url(#a)'/>"),
                 ElementsAre("bad value: offset", "bad value: stop-color", "bad value: x1",
                             "bad value: gradientTransform"));
+    EXPECT_THAT(notesOf("<linearGradient id='a' href='#none'/><radialGradient id='b' href='other.svg#a'/>"
+                        "<rect width='9' height='9' fill='url(#a)' stroke='url(#b)'/>"),
+                ElementsAre("bad value: href", "bad value: href"))
+        << "of gradients, which show nothing then";
     EXPECT_EQ(drawn("<g fill='red'><rect width='16' height='16' fill='reddish'/></g>").at(4, 4), kRed)
         << "what cannot be read changes nothing";
     EXPECT_EQ(drawn("<path d='M0 0H16V16H0Z L9' fill='red'/>").at(4, 4), kRed)
@@ -610,6 +725,7 @@ TEST(SvgDrawing, WhatIsReadAgainAndAgainEnds)
     EXPECT_TRUE(isTooMuch("<g id='a' transform='" + many(" ") + "'/>" + uses));
     EXPECT_TRUE(isTooMuch("<path id='a' visibility='hidden' d='M0 0" + many("m0 0") + "'/>" + uses));
     EXPECT_TRUE(isTooMuch("<symbol id='a' x='0" + many(" ") + "'/>" + uses));
+    EXPECT_TRUE(isTooMuch("<g id='a'>" + many("<x:a/>") + "</g>" + uses)) << "not drawn, and walked over";
     EXPECT_TRUE(isTooMuch("<g stroke-dasharray='" + many("1 ") + "'>" + many("<g/>") + "</g>"));
     EXPECT_TRUE(isTooMuch("<g fill='url(#" + many("x") + ")'>" + many("<g/>") + "</g>"));
     const std::string rows = many("m-1 1h1");

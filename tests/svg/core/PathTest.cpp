@@ -233,6 +233,22 @@ TEST(Path, BendsWithinACurveAreNoCorners)
         EXPECT_EQ(line.smooth[i], i > 0 && i + 2 < line.points.size()) << i;
 }
 
+TEST(Path, PiecesOfACurveKnowWhereItGoesAtTheirEnds)
+{
+    const auto lines = linesOf(readPath("M0 0C0 9 9 9 9 0L20 0z").path, 0.1);
+    const Polyline& line = lines.at(0);
+    const std::size_t pieces = line.points.size() - 2; // of the curve
+    ASSERT_EQ(line.courses.size(), line.points.size()) << "with the one that closes the line";
+    EXPECT_LT(length(line.courses[0].begin - Point{0, 1}), 1e-12);
+    EXPECT_LT(length(line.courses[pieces - 1].end - Point{0, -1}), 1e-12);
+    for (std::size_t i = 1; i < pieces; ++i)
+        EXPECT_EQ(line.courses[i].begin, line.courses[i - 1].end) << i;
+    for (const Point end : {line.courses[pieces].begin, line.courses[pieces].end})
+        EXPECT_EQ(end, (Point{1, 0}));
+    for (const Point end : {line.courses[pieces + 1].begin, line.courses[pieces + 1].end})
+        EXPECT_EQ(end, (Point{-1, 0}));
+}
+
 TEST(Shapes, HaveTheirCorners)
 {
     const auto box = linesOf(rectanglePath({1, 2, 3, 4}, 0, 0));

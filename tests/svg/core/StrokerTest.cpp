@@ -31,6 +31,28 @@ double areaOf(const char* path, const Pen& pen)
     return areaOf(readPath(path).path, pen);
 }
 
+/// What a wide pen covers around the middle of the picture: of a quarter, and of the rest.
+struct Quarter
+{
+    double own = 0;
+    double others = 0;
+};
+
+Quarter coveredOf(const Path& path, const Pen& pen, bool above)
+{
+    constexpr double kUsual = 0.01; // as coarse as pictures have it
+    Budget budget;
+    const auto pieces = strokeOutline(path.flattened(kUsual, budget), pen, kUsual, budget);
+    const auto [part, values] = coverage(pieces, FillRule::NonZero, kSize, kSize, budget);
+    Quarter sum;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const int x = part.left + static_cast<int>(i) % part.width;
+        const int y = part.top + static_cast<int>(i) / part.width;
+        (x >= kSize / 2 && (y < kSize / 2) == above ? sum.own : sum.others) += static_cast<double>(values[i]);
+    }
+    return sum;
+}
+
 Pen pen(double width, LineCap cap = LineCap::Butt, LineJoin join = LineJoin::Miter)
 {
     Pen result;
@@ -98,6 +120,15 @@ TEST(Stroke, OfAClosedBoxHasFourCorners)
         << "not closed, it lacks the corner where it ends";
 }
 
+TEST(Stroke, OfAClosedBoxHasItsFirstCornerWhereRelativeNumbersDoNotQuiteReturn)
+{
+    const double back = 10.4 + 20.2 - 20.2;
+    ASSERT_NE(back, 10.4) << "by the rounding of floating point";
+    EXPECT_NEAR(areaOf("m10.4 10.2h20.2v20.2h-20.2v-20.2z", pen(4)), 24.2 * 24.2 - 16.2 * 16.2, kNear);
+    EXPECT_NEAR(areaOf("m10.4 10.2h20.2v20.2h-20.2v-20.2z", pen(4, LineCap::Butt, LineJoin::Bevel)),
+                24.2 * 24.2 - 16.2 * 16.2 - 4 * 2, kNear);
+}
+
 TEST(Stroke, OfACircleIsARing)
 {
     // The curves that stand for a circle are up to 3 parts in 10,000 larger than it.
@@ -110,6 +141,14 @@ TEST(Stroke, OfACircleIsARing)
         }
     EXPECT_NEAR(areaOf(ellipsePath({20, 20}, 4, 4), pen(12), kTolerance), kPi * 10 * 10, 0.25)
         << "wider than the circle";
+}
+
+TEST(Stroke, OfAnArcEndsSquareToTheArcAndNotToTheLinesThatStandForIt)
+{
+    // As wide as the circle: a quarter of one of twice the radius, a piece of a cake.
+    const Quarter quarter = coveredOf(readPath("M20 10A10 10 0 0 1 30 20").path, pen(20), true);
+    EXPECT_NEAR(quarter.own, 100 * kPi, 0.6);
+    EXPECT_LT(quarter.others, 0.1);
 }
 
 TEST(Stroke, OfAPointShowsItsCap)
@@ -200,11 +239,47 @@ TEST(Dashes, OfAClosedLineMeetWhereItBegins)
     EXPECT_FALSE(dashes[0].closed);
 }
 
+TEST(Dashes, ThatGoAllAroundAClosedLineLeaveNoGapInItsFirstCorner)
+{
+    for (const double length : {80.0, 1000.0}) {
+        Pen whole = pen(4);
+        whole.dashes = {length};
+        EXPECT_NEAR(areaOf("M10 10h20v20h-20z", whole), 24 * 24 - 16 * 16, kNear) << length;
+        EXPECT_NEAR(areaOf("M10 10h20v20h-20v-20", whole), 24 * 24 - 16 * 16 - 4, kNear) << "not closed";
+    }
+}
+
+TEST(Dashes, OfACircleEndSquareToIt)
+{
+    Pen cake = pen(20);
+    cake.dashes = {5 * kPi, 100};
+    const Quarter quarter = coveredOf(ellipsePath({20, 20}, 10, 10), cake, false);
+    EXPECT_NEAR(quarter.own, 100 * kPi, 0.6);
+    EXPECT_LT(quarter.others, 0.2);
+}
+
 TEST(Dashes, WithoutALengthAreDotsUnderRoundCaps)
 {
     Pen dots = pen(2, LineCap::Round);
     dots.dashes = {0, 5};
     EXPECT_NEAR(areaOf("M10 20H31", dots), 5 * kPi, 0.02);
+}
+
+TEST(Dashes, WithoutALengthAreSquaresThatLieAlongTheLineUnderSquareCaps)
+{
+    const auto outline = [](const char* path, const Pen& own) {
+        Budget budget;
+        return strokeOutline(readPath(path).path.flattened(0.01, budget), own, 0.01, budget);
+    };
+    Pen dots = pen(2, LineCap::Square);
+    dots.dashes = {0, 20};
+    const auto dot = outline("M10 10L18 16", dots);
+    const auto same = outline("M9.2 9.4L10.8 10.6", pen(2));
+    ASSERT_EQ(dot.size(), 1u);
+    ASSERT_EQ(same.size(), 1u);
+    ASSERT_EQ(dot[0].size(), same[0].size());
+    for (std::size_t i = 0; i < dot[0].size(); ++i)
+        EXPECT_LT(length(dot[0][i] - same[0][i]), 1e-9) << i;
 }
 
 TEST(Dashes, BeyondAllBoundsDoNotCount)

@@ -106,6 +106,13 @@ TEST(Colours, AreWrittenInManyWays)
         EXPECT_FALSE(colourFrom(text)) << text;
 }
 
+TEST(Colours, OfHslNumbersWithoutASignArePercentages)
+{
+    EXPECT_EQ(colourFrom("hsl(120 100 25)"), 0xFF008000);
+    EXPECT_EQ(colourFrom("hsl(0 100 50 / .5)"), 0x80FF0000);
+    EXPECT_EQ(colourFrom("hsl(240deg 100% 50)"), 0xFF0000FF);
+}
+
 TEST(Transforms, AreCarriedOutFromTheRight)
 {
     expectNear(*transformFrom("matrix(1 2 3 4 5 6)"), {1, 2, 3, 4, 5, 6}, "matrix");
