@@ -204,6 +204,18 @@ TEST_F(SliderExchange, WhatIsNoNumberOfTheRangeIsRefused)
     }
 }
 
+TEST_F(SliderExchange, WhatTheSliderShowsAtItsEndIsTaken)
+{
+    button.SetType(CSliderButton::SliderLogarithmic);
+    button.SetRange(1.0, 1000.0, 2);
+    EXPECT_EQ(button.Limits(), std::pair(1.0, 1000.0));
+    buddy.SetWindowText(L"1000.00 mm");
+    CDataExchange reading(&parent, TRUE);
+    double number = 7;
+    DDX_SliderNumber(&reading, button, number);
+    EXPECT_EQ(number, 1000);
+}
+
 TEST_F(SliderExchange, WhatIsRefusedGetsTheFocusAndIsSelected)
 {
     buddy.SetWindowText(L"51");
