@@ -1,24 +1,44 @@
 #include <ovoui/sliders/SliderData.h>
 
 #include <ovoui/frame/Module.h>
+#include <ovoui/sliders/core/NumberText.h>
 #include <ovoui/sliders/core/SliderNumbers.h>
 #include <ovouires/resource.h>
 
 #include <ovocor/Text.h>
 
 #include <cmath>
+#include <exception>
+#include <optional>
+#include <string>
 
 using namespace ovoui::sliders;
+
+/// The ends of a button's range as texts.
+struct ovoui::sliders::LimitText
+{
+    /// As the buddy would show it; none when the host's conversion has deleted the button.
+    static std::optional<std::wstring> of(const CSliderButton& button, double limit)
+    {
+        return button.displayed(formatShort(limit));
+    }
+};
 
 namespace
 {
 
-/// Says what is wrong, gives the focus to the control, and ends the exchange.
-[[noreturn]] void refuse(CDataExchange& exchange, HWND control, double low, double high)
+/// Says what is wrong, gives the focus to the buddy, and ends the exchange.
+[[noreturn]] void refuse(CDataExchange& exchange, const CSliderButton& button,
+                         const std::pair<double, double>& limits)
 {
-    exchange.PrepareEditCtrl(::GetDlgCtrlID(control));
-    AfxMessageBox(stringPrintf(ovoui::resourceString(IDS_SLIDER_RANGE).c_str(), low, high).c_str(),
-                  MB_ICONEXCLAMATION);
+    const HWND buddy = button.Buddy();
+    const auto low = LimitText::of(button, limits.first);
+    const auto high = low ? LimitText::of(button, limits.second) : std::nullopt;
+    if (high) {
+        exchange.PrepareEditCtrl(::GetDlgCtrlID(buddy));
+        const std::wstring format = ovoui::resourceString(IDS_SLIDER_RANGE);
+        AfxMessageBox(stringPrintf(format.c_str(), low->c_str(), high->c_str()).c_str(), MB_ICONEXCLAMATION);
+    }
     exchange.Fail();
     std::terminate(); // Fail throws
 }
@@ -28,7 +48,7 @@ double takenNumber(CDataExchange& exchange, const CSliderButton& button,
 {
     const std::optional<double> number = button.Number();
     if (!isTaken(number, limits.first, limits.second))
-        refuse(exchange, button.Buddy(), limits.first, limits.second);
+        refuse(exchange, button, limits);
     return *number;
 }
 

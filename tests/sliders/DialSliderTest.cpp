@@ -1,5 +1,6 @@
 // The dial with real input, and the exchange of data with dialogs.
 #include <testkit/Desktop.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
 #include <testkit/RecordingParent.h>
 #include <testkit/Robot.h>
@@ -166,6 +167,38 @@ protected:
     CSliderButton button{plainNumbers};
 };
 
+int WINAPI signsOfTheTest(LCID locale, LCTYPE type, LPWSTR text, int room)
+{
+    if (type != LOCALE_SDECIMAL && type != LOCALE_STHOUSAND)
+        return ::GetLocaleInfoW(locale, type, text, room);
+    ::lstrcpynW(text, type == LOCALE_SDECIMAL ? L"," : L".", room);
+    return 2;
+}
+
+/// What the user reads when a slider button of this range does not take a number.
+template <class Number>
+std::wstring refusal(SliderButtonUtils& numbers, double low, double high)
+{
+    RecordingParent parent;
+    CEdit buddy;
+    buddy.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(10, 10, 90, 30), &parent, 7);
+    CSliderButton button(numbers);
+    button.SetBuddy(buddy);
+    button.SetType(CSliderButton::SliderLinear);
+    button.SetRange(low, high, 2);
+    present(parent);
+    TestApp::instance().forget();
+    CDataExchange reading(&parent, TRUE);
+    try {
+        Number number = 7;
+        DDX_SliderNumber(&reading, button, number);
+    } catch (CUserException* error) {
+        error->Delete();
+    }
+    const auto& boxes = TestApp::instance().boxes();
+    return boxes.size() == 1 ? std::wstring(boxes[0].text) : L"no box, or several";
+}
+
 } // namespace
 
 TEST_F(SliderExchange, NumbersGoThroughTheButtonsConversions)
@@ -200,8 +233,24 @@ TEST_F(SliderExchange, WhatIsNoNumberOfTheRangeIsRefused)
         EXPECT_TRUE(failed) << testing::PrintToString(wrong);
         EXPECT_EQ(number, 7) << "the member stays";
         ASSERT_EQ(TestApp::instance().boxes().size(), 1u);
-        EXPECT_EQ(TestApp::instance().boxes()[0].text, L"Enter a number from 0 to 50.");
+        EXPECT_EQ(TestApp::instance().boxes()[0].text, L"Enter a number from 0 mm to 50 mm.");
     }
+}
+
+TEST(SliderRefusal, NamesTheEndsAsTheUserWritesThem)
+{
+    const ImportPatch patch(L"ovoui.dll", "GetLocaleInfoW", reinterpret_cast<void*>(&signsOfTheTest));
+    CUnitNumbers percent(CUnitNumbers::Percent);
+    EXPECT_EQ(refusal<double>(percent, 0.005, 0.75), L"Enter a number from 0,5 % to 75 %.");
+    CUnitNumbers grouped(L"mm");
+    EXPECT_EQ(refusal<double>(grouped, -0.25, 1234567.5), L"Enter a number from -0,25 mm to 1.234.567,5 mm.");
+}
+
+TEST(SliderRefusal, NamesAllDigitsOfTheEnds)
+{
+    CUnitNumbers plain(L"", false);
+    EXPECT_EQ(refusal<double>(plain, 0, 0.336), L"Enter a number from 0 to 0.336.");
+    EXPECT_EQ(refusal<int>(plain, -1e10, 1e10), L"Enter a number from -2147483648 to 2147483647.");
 }
 
 TEST_F(SliderExchange, WhatTheSliderShowsAtItsEndIsTaken)
