@@ -3,6 +3,9 @@
 #include <ovocor/OvoError.h>
 #include <ovocor/TextReader.h>
 #include <ovocor/Url.h>
+#include <ovocor/WinError.h>
+
+#include <testkit/ImportPatch.h>
 
 #include <windows.h>
 #include <wininet.h>
@@ -287,6 +290,38 @@ TEST_F(Download, OfABodyCutShortLeavesNoFileBehind)
     const std::wstring cache = parentOf(parentOf(whole));
     EXPECT_TRUE(holdsFile(cache, L"whole" + wideMark)) << "where files are looked for, they are found";
     EXPECT_FALSE(holdsFile(cache, L"cut" + wideMark));
+    ::DeleteUrlCacheEntryW(server.address(L"/whole" + wideMark).c_str());
+}
+
+namespace
+{
+
+HANDLE WINAPI openNothing(LPCWSTR, DWORD, DWORD, LPSECURITY_ATTRIBUTES, DWORD, DWORD, HANDLE)
+{
+    ::SetLastError(ERROR_SHARING_VIOLATION);
+    return INVALID_HANDLE_VALUE;
+}
+
+} // namespace
+
+TEST_F(Download, WhoseFileCannotBeOpenedSaysSoAndLeavesNoneBehind)
+{
+    const std::string mark = std::to_string(::GetTickCount64());
+    const std::wstring wideMark(mark.begin(), mark.end());
+    const std::wstring url = server.address(L"/held" + wideMark);
+    server.answer("/whole" + mark, LoopbackServer::page("200 OK", "oak"));
+    server.answer("/held" + mark, LoopbackServer::page("200 OK", "oak"));
+    const std::wstring whole = downloadUrlToCache(server.address(L"/whole" + wideMark));
+    {
+        const ovo::testkit::ImportPatch opening(L"ovocor11.dll", "CreateFileW",
+                                                reinterpret_cast<void*>(&openNothing));
+        const std::wstring error = errorOf(url);
+        EXPECT_TRUE(mentions(error, url)) << testing::PrintToString(error);
+        EXPECT_TRUE(error.ends_with(formatMessage(ERROR_SHARING_VIOLATION))) << testing::PrintToString(error);
+    }
+    const std::wstring cache = parentOf(parentOf(whole));
+    EXPECT_TRUE(holdsFile(cache, L"whole" + wideMark)) << "where files are looked for, they are found";
+    EXPECT_FALSE(holdsFile(cache, L"held" + wideMark));
     ::DeleteUrlCacheEntryW(server.address(L"/whole" + wideMark).c_str());
 }
 
