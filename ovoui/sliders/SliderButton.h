@@ -27,7 +27,7 @@
 
 namespace ovoui::sliders
 {
-struct LimitText;
+struct ExchangedButton;
 }
 
 /// The buddy's parent is sent kValueChanged whenever the slider has rewritten the buddy's text, and kReleased
@@ -135,7 +135,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    friend struct ovoui::sliders::LimitText;
+    friend struct ovoui::sliders::ExchangedButton;
 
     struct Parts;
 

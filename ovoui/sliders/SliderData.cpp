@@ -1,6 +1,7 @@
 #include <ovoui/sliders/SliderData.h>
 
 #include <ovoui/frame/Module.h>
+#include <ovoui/sliders/SliderButtonParts.h>
 #include <ovoui/sliders/core/NumberText.h>
 #include <ovoui/sliders/core/SliderNumbers.h>
 #include <ovouires/resource.h>
@@ -14,13 +15,18 @@
 
 using namespace ovoui::sliders;
 
-/// The ends of a button's range as texts.
-struct ovoui::sliders::LimitText
+/// What data exchange asks of a button beyond what hosts may.
+struct ovoui::sliders::ExchangedButton
 {
-    /// As the buddy would show it; none when the host's conversion has deleted the button.
-    static std::optional<std::wstring> of(const CSliderButton& button, double limit)
+    /// The end of a range as the buddy would show it; none when the host's conversion has deleted the button.
+    static std::optional<std::wstring> limitText(const CSliderButton& button, double limit)
     {
         return button.displayed(formatShort(limit));
+    }
+    static int decimals(const CSliderButton& button)
+    {
+        const SliderNumbers& numbers = button.m_parts->numbers;
+        return numbers.whole ? 0 : numbers.decimals;
     }
 };
 
@@ -32,8 +38,8 @@ namespace
                          const std::pair<double, double>& limits)
 {
     const HWND buddy = button.Buddy();
-    const auto low = LimitText::of(button, limits.first);
-    const auto high = low ? LimitText::of(button, limits.second) : std::nullopt;
+    const auto low = ExchangedButton::limitText(button, limits.first);
+    const auto high = low ? ExchangedButton::limitText(button, limits.second) : std::nullopt;
     if (high) {
         exchange.PrepareEditCtrl(::GetDlgCtrlID(buddy));
         const std::wstring format = ovoui::resourceString(IDS_SLIDER_RANGE);
@@ -43,11 +49,11 @@ namespace
     std::terminate(); // Fail throws
 }
 
-double takenNumber(CDataExchange& exchange, const CSliderButton& button,
-                   const std::pair<double, double>& limits)
+double numberOf(CDataExchange& exchange, const CSliderButton& button, const std::pair<double, double>& limits)
 {
-    const std::optional<double> number = button.Number();
-    if (!isTaken(number, limits.first, limits.second))
+    const int decimals = ExchangedButton::decimals(button);
+    const auto number = takenNumber(button.Number(), limits.first, limits.second, decimals);
+    if (!number)
         refuse(exchange, button, limits);
     return *number;
 }
@@ -57,7 +63,7 @@ double takenNumber(CDataExchange& exchange, const CSliderButton& button,
 void DDX_SliderNumber(CDataExchange* exchange, CSliderButton& button, double& value)
 {
     if (exchange->m_bSaveAndValidate)
-        value = takenNumber(*exchange, button, button.Limits());
+        value = numberOf(*exchange, button, button.Limits());
     else
         button.ShowNumber(value);
 }
@@ -65,7 +71,7 @@ void DDX_SliderNumber(CDataExchange* exchange, CSliderButton& button, double& va
 void DDX_SliderNumber(CDataExchange* exchange, CSliderButton& button, int& value)
 {
     if (exchange->m_bSaveAndValidate)
-        value = static_cast<int>(std::lround(takenNumber(*exchange, button, limitsOfWhole(button.Limits()))));
+        value = static_cast<int>(std::lround(numberOf(*exchange, button, limitsOfWhole(button.Limits()))));
     else
         button.ShowNumber(value);
 }

@@ -263,6 +263,14 @@ TEST_F(SliderExchange, WhatTheSliderShowsAtItsEndIsTaken)
     double number = 7;
     DDX_SliderNumber(&reading, button, number);
     EXPECT_EQ(number, 1000);
+
+    button.SetType(CSliderButton::SliderLinear);
+    button.SetRange(0.333, 0.666, 2);
+    for (const auto& [text, expected] : {std::pair(L"0.33 mm", 0.333), {L"0.67 mm", 0.666}}) {
+        buddy.SetWindowText(text);
+        DDX_SliderNumber(&reading, button, number);
+        EXPECT_EQ(number, expected);
+    }
 }
 
 TEST_F(SliderExchange, WhatIsRefusedGetsTheFocusAndIsSelected)
