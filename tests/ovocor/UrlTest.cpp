@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -251,6 +252,21 @@ TEST_F(Download, SaysWhatToDoAboutOtherAnswersOfTheServer)
 
     server.answer("/curt", "HTTP/1.1 418\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
     EXPECT_TRUE(mentions(errorOf(server.address(L"/curt")), L"answered 418. Check"));
+}
+
+TEST_F(Download, TellsTheServerWhatEscapesInNameAndPasswordStandFor)
+{
+    server.answer("/secret", "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"oak\"\r\n"
+                             "Content-Length: 0\r\nConnection: close\r\n\r\n");
+    const std::wstring address = server.address(L"/secret");
+    const std::wstring url = L"http://me%40firm.example:p%3Ass@" + address.substr(address.find(L"//") + 2);
+    EXPECT_TRUE(mentions(errorOf(url), L"Access denied."));
+    const std::vector<std::string> requests = server.requests();
+    const auto saysBoth = [](const std::string& request) {
+        const char* const wanted = "bWVAZmlybS5leGFtcGxlOnA6c3M="; // me@firm.example:p:ss
+        return request.find(std::string("Authorization: Basic ") + wanted + "\r\n") != request.npos;
+    };
+    EXPECT_TRUE(std::ranges::any_of(requests, saysBoth)) << testing::PrintToString(requests);
 }
 
 TEST_F(Download, OfARefusedConnectionNamesTheServer)
