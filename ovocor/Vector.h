@@ -36,7 +36,7 @@ public:
     /// The second component.
     constexpr double y() const requires(N >= 2) { return m_components[1]; }
 
-    /// Never negative; it does not overflow before the components do.
+    /// Never negative; infinite only where no double can hold it.
     double length() const
     {
         // std::hypot does not overflow where the squares would.
