@@ -10,40 +10,48 @@
 
 #include <cmath>
 #include <exception>
-#include <optional>
 #include <string>
 
 using namespace ovoui::sliders;
 
-/// What data exchange asks of a button beyond what hosts may.
+/// What data exchange asks of a button beyond what hosts may. The host's conversions may delete the button.
 struct ovoui::sliders::ExchangedButton
 {
-    /// The end of a range as the buddy would show it; none when the host's conversion has deleted the button.
-    static std::optional<std::wstring> limitText(const CSliderButton& button, double limit)
+    explicit ExchangedButton(const CSliderButton& asked)
+        : button(asked)
+        , watch(asked.m_lifeline)
+        , buddy(asked.Buddy())
+        , decimals(asked.m_parts->numbers.whole ? 0 : asked.m_parts->numbers.decimals)
     {
-        return button.displayed(formatShort(limit));
     }
-    static int decimals(const CSliderButton& button)
+
+    bool alive() const { return watch.alive(); }
+
+    /// An end of the range as the buddy would show it.
+    std::wstring limitText(double limit) const
     {
-        const SliderNumbers& numbers = button.m_parts->numbers;
-        return numbers.whole ? 0 : numbers.decimals;
+        return alive() ? button.displayed(formatShort(limit)).value_or(L"") : L"";
     }
+
+    const CSliderButton& button;
+    const Lifeline::Watch watch;
+    const HWND buddy;
+    const int decimals;
 };
 
 namespace
 {
 
 /// Says what is wrong, gives the focus to the buddy, and ends the exchange.
-[[noreturn]] void refuse(CDataExchange& exchange, const CSliderButton& button,
+[[noreturn]] void refuse(CDataExchange& exchange, const ExchangedButton& asked,
                          const std::pair<double, double>& limits)
 {
-    const HWND buddy = button.Buddy();
-    const auto low = ExchangedButton::limitText(button, limits.first);
-    const auto high = low ? ExchangedButton::limitText(button, limits.second) : std::nullopt;
-    if (high) {
-        exchange.PrepareEditCtrl(::GetDlgCtrlID(buddy));
+    const std::wstring low = asked.limitText(limits.first);
+    const std::wstring high = asked.limitText(limits.second);
+    if (asked.alive()) {
+        exchange.PrepareEditCtrl(::GetDlgCtrlID(asked.buddy));
         const std::wstring format = ovoui::resourceString(IDS_SLIDER_RANGE);
-        AfxMessageBox(stringPrintf(format.c_str(), low->c_str(), high->c_str()).c_str(), MB_ICONEXCLAMATION);
+        AfxMessageBox(stringPrintf(format.c_str(), low.c_str(), high.c_str()).c_str(), MB_ICONEXCLAMATION);
     }
     exchange.Fail();
     std::terminate(); // Fail throws
@@ -51,10 +59,10 @@ namespace
 
 double numberOf(CDataExchange& exchange, const CSliderButton& button, const std::pair<double, double>& limits)
 {
-    const int decimals = ExchangedButton::decimals(button);
-    const auto number = takenNumber(button.Number(), limits.first, limits.second, decimals);
+    const ExchangedButton asked(button);
+    const auto number = takenNumber(button.Number(), limits.first, limits.second, asked.decimals);
     if (!number)
-        refuse(exchange, button, limits);
+        refuse(exchange, asked, limits);
     return *number;
 }
 

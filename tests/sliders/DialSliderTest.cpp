@@ -1,4 +1,5 @@
 // The dial with real input, and the exchange of data with dialogs.
+#include <support/Perishing.h>
 #include <testkit/Desktop.h>
 #include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
@@ -251,6 +252,50 @@ TEST(SliderRefusal, NamesAllDigitsOfTheEnds)
     CUnitNumbers plain(L"", false);
     EXPECT_EQ(refusal<double>(plain, 0, 0.336), L"Enter a number from 0 to 0.336.");
     EXPECT_EQ(refusal<int>(plain, -1e10, 1e10), L"Enter a number from -2147483648 to 2147483647.");
+}
+
+TEST(SliderRefusal, SaysNothingWhenTheHostDeletesTheButtonMeanwhile)
+{
+    struct Deleting : CUnitNumbers
+    {
+        using CUnitNumbers::CUnitNumbers;
+        void fromDisplay(std::wstring& out, const std::wstring& displayed) override
+        {
+            CUnitNumbers::fromDisplay(out, displayed);
+            if (deletesWhenRead)
+                button.reset();
+        }
+        void toDisplay(std::wstring& out, const std::wstring& machine) override
+        {
+            CUnitNumbers::toDisplay(out, machine);
+            button.reset();
+        }
+        bool deletesWhenRead = false;
+        std::unique_ptr<CSliderButton> button;
+    };
+    for (const bool whenRead : {true, false}) {
+        RecordingParent parent;
+        CEdit buddy;
+        buddy.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(10, 10, 90, 30), &parent, 7);
+        Deleting numbers(L"mm");
+        numbers.deletesWhenRead = whenRead;
+        numbers.button = std::make_unique<Perishing<CSliderButton>>(numbers);
+        CSliderButton* const button = numbers.button.get();
+        button->SetBuddy(buddy);
+        button->SetType(CSliderButton::SliderLinear);
+        TestApp::instance().forget();
+        CDataExchange reading(&parent, TRUE);
+        double number = 7;
+        try {
+            DDX_SliderNumber(&reading, *button, number);
+            ADD_FAILURE() << "taken as " << number;
+        } catch (CUserException* error) {
+            error->Delete();
+        }
+        EXPECT_FALSE(numbers.button) << "it has been deleted";
+        EXPECT_TRUE(Perishing<CSliderButton>::isUntouched(button));
+        EXPECT_TRUE(TestApp::instance().boxes().empty());
+    }
 }
 
 TEST_F(SliderExchange, WhatTheSliderShowsAtItsEndIsTaken)
