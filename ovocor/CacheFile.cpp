@@ -17,8 +17,12 @@ CacheFile::CacheFile(const std::wstring& url)
         fail();
     m_path = path;
     m_file = ::CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (m_file == INVALID_HANDLE_VALUE)
+    if (m_file == INVALID_HANDLE_VALUE) {
+        const DWORD code = ::GetLastError();
+        ::DeleteFileW(path); // the cache has made it, and the destructor is not called
+        ::SetLastError(code);
         fail();
+    }
 }
 
 CacheFile::~CacheFile()

@@ -5,6 +5,7 @@
 #include <ovocor/Text.h>
 #include <ovocor/Url.h>
 #include <ovocor/WinError.h>
+#include <ovocor/core/Escapes.h>
 #include <ovomsg/ovomsg.h>
 
 #include <algorithm>
@@ -89,8 +90,9 @@ void Download::takeApart()
     m_secure = parts.nScheme == INTERNET_SCHEME_HTTPS;
     m_port = parts.nPort;
     m_host.assign(parts.lpszHostName, parts.dwHostNameLength);
-    m_user.assign(parts.lpszUserName, parts.dwUserNameLength);
-    m_password.assign(parts.lpszPassword, parts.dwPasswordLength);
+    // Servers are told what these stand for.
+    m_user = withoutEscapes({parts.lpszUserName, parts.dwUserNameLength});
+    m_password = withoutEscapes({parts.lpszPassword, parts.dwPasswordLength});
     m_object.assign(parts.lpszUrlPath, parts.dwUrlPathLength);
     m_object += std::wstring_view(parts.lpszExtraInfo, parts.dwExtraInfoLength);
     m_object.erase(std::min(m_object.find(L'#'), m_object.size())); // the fragment is not sent to a server

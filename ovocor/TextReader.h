@@ -31,7 +31,8 @@ public:
     ~TextReader();
 
     /// Puts the next line, without its line end, into `line`. False, with `line` empty, at the end of the
-    /// file and after `close`. Throws WinError when the file cannot be read.
+    /// file and after `close`. Throws WinError when the file cannot be read; the next call tries again and
+    /// loses nothing of the line.
     bool readLine(std::wstring& line);
 
     /// How the file is written; also known after `close`.

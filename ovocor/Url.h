@@ -13,7 +13,7 @@ OVOCOR_API std::wstring canonicalizeUrl(const std::wstring& url);
 
 /// Downloads an http or https address into the system's URL cache, always anew, and gives the full name
 /// of the local file. The cache entry is kept under `url`: ::DeleteUrlCacheEntryW(url) removes it with the
-/// file.
+/// file. A name and a password in the address may have escapes, such as %40 for @.
 ///
 /// Returns when the download is complete. Throws OvoError with a text that names the address, what went wrong
 /// and what to try: the address is not valid, the server is not found, cannot be reached or does not answer

@@ -36,7 +36,7 @@ public:
     /// The second component.
     constexpr double y() const requires(N >= 2) { return m_components[1]; }
 
-    /// Never negative; it does not overflow before the components do.
+    /// Never negative; infinite only where no double can hold it.
     double length() const
     {
         // std::hypot does not overflow where the squares would.
@@ -54,7 +54,11 @@ public:
     }
 
     /// Direction from the x axis towards the y axis, above -180 and up to 180 degrees; 0 for the zero vector.
-    Angle theta() const requires(N == 2) { return Angle::radians(std::atan2(y(), x())); }
+    Angle theta() const requires(N == 2)
+    {
+        // + 0.0: no negative zeros, whose sign would turn the direction round.
+        return Angle::radians(std::atan2(y() + 0.0, x() + 0.0));
+    }
 
     /// x1·y2 − y1·x2: positive when `other` lies towards the y axis from this vector.
     constexpr double cross(const Vector& other) const requires(N == 2)

@@ -120,18 +120,27 @@ std::string_view TextStream::unread() const
 bool TextStream::readLine(std::wstring& line)
 {
     line.clear();
+    // What an exception has left of a line is kept for the next call.
+    if (!m_rawIsWhole && !takeLine())
+        return false;
+    m_rawIsWhole = true;
+    decode(line);
     m_raw.clear();
-    bool ended = false;
-    while (!(ended = takeUpToLineEnd()) && fill()) {
-    }
-    if (!ended) {
+    m_rawIsWhole = false;
+    return true;
+}
+
+/// Moves the rest of the current line to `m_raw`; false at the end of the text.
+bool TextStream::takeLine()
+{
+    while (!takeUpToLineEnd()) {
+        if (fill())
+            continue;
         // The last line has no end; in UTF-16 half a unit may be left over.
         m_raw += unread();
         m_position = m_size;
-        if (m_raw.empty())
-            return false;
+        return !m_raw.empty();
     }
-    decode(line);
     return true;
 }
 

@@ -37,13 +37,15 @@ public:
 
     TextEncoding encoding() const { return m_encoding; }
 
-    /// The next line without its line end (CRLF, LF or CR); false, with `line` empty, at the end.
+    /// The next line without its line end (CRLF, LF or CR); false, with `line` empty, at the end. After an
+    /// exception it goes on with the same line.
     bool readLine(std::wstring& line);
 
 private:
     void detectEncoding();
     void skipMark(std::size_t size);
     bool fill();
+    bool takeLine();
     bool takeUpToLineEnd();
     std::string_view unread() const;
     void decode(std::wstring& line) const;
@@ -55,6 +57,7 @@ private:
     std::size_t m_size = 0;     // bytes in the buffer
     std::size_t m_position = 0; // of them used
     std::string m_raw;          // the current line, as it stands in the source
+    bool m_rawIsWhole = false;  // it is to be decoded
     bool m_afterReturn = false; // a line feed now belongs to the line end before it
 };
 

@@ -25,6 +25,11 @@
 #include <utility>
 #include <vector>
 
+namespace ovoui::sliders
+{
+struct ExchangedButton;
+}
+
 /// The buddy's parent is sent kValueChanged whenever the slider has rewritten the buddy's text, and kReleased
 /// when the button is released, after the buddy got the focus; wParam is the buddy, lParam 0. It may destroy
 /// the button or the buddy in both, and so may the operations of SliderButtonUtils.
@@ -130,6 +135,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend struct ovoui::sliders::ExchangedButton;
+
     struct Parts;
 
     // popup

@@ -49,7 +49,7 @@
 #define TEXT_COLOUR_OPEN "Öffnen"
 #define TEXT_COLOUR_MORE "&Weitere Farben..."
 
-#define TEXT_SLIDER_RANGE "Geben Sie eine Zahl von %g bis %g ein."
+#define TEXT_SLIDER_RANGE "Geben Sie eine Zahl von %s bis %s ein."
 
 #define TEXT_SYSTEM_INFO "Systeminformationen"
 #define TEXT_SYSTEM_INFO_MODULES "&Geladene Module:"

@@ -59,8 +59,8 @@
 // Below the colours that a colour button drops
 #define TEXT_COLOUR_MORE "&More colours..."
 
-// Sliders: the least and the greatest number
-#define TEXT_SLIDER_RANGE "Enter a number from %g to %g."
+// Sliders: the least and the greatest number, with what the host shows beside them, such as a unit
+#define TEXT_SLIDER_RANGE "Enter a number from %s to %s."
 
 // System information
 #define TEXT_SYSTEM_INFO "System Information"

@@ -49,7 +49,7 @@
 #define TEXT_COLOUR_OPEN "Abrir"
 #define TEXT_COLOUR_MORE "&Más colores..."
 
-#define TEXT_SLIDER_RANGE "Escriba un número de %g a %g."
+#define TEXT_SLIDER_RANGE "Escriba un número de %s a %s."
 
 #define TEXT_SYSTEM_INFO "Información del sistema"
 #define TEXT_SYSTEM_INFO_MODULES "&Módulos cargados:"

@@ -49,7 +49,7 @@
 #define TEXT_COLOUR_OPEN "Ouvrir"
 #define TEXT_COLOUR_MORE "A&utres couleurs..."
 
-#define TEXT_SLIDER_RANGE "Entrez un nombre compris entre %g et %g."
+#define TEXT_SLIDER_RANGE "Entrez un nombre compris entre %s et %s."
 
 #define TEXT_SYSTEM_INFO "Informations système"
 #define TEXT_SYSTEM_INFO_MODULES "&Modules chargés :"

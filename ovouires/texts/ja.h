@@ -49,7 +49,7 @@
 #define TEXT_COLOUR_OPEN "開く"
 #define TEXT_COLOUR_MORE "その他の色(&M)..."
 
-#define TEXT_SLIDER_RANGE "%g から %g までの数値を入力してください。"
+#define TEXT_SLIDER_RANGE "%s から %s までの数値を入力してください。"
 
 #define TEXT_SYSTEM_INFO "システム情報"
 #define TEXT_SYSTEM_INFO_MODULES "読み込まれたモジュール(&L):"

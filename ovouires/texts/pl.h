@@ -49,7 +49,7 @@
 #define TEXT_COLOUR_OPEN "Otwórz"
 #define TEXT_COLOUR_MORE "&Więcej kolorów..."
 
-#define TEXT_SLIDER_RANGE "Wprowadź liczbę od %g do %g."
+#define TEXT_SLIDER_RANGE "Wprowadź liczbę od %s do %s."
 
 #define TEXT_SYSTEM_INFO "Informacje o systemie"
 #define TEXT_SYSTEM_INFO_MODULES "&Załadowane moduły:"

@@ -3,12 +3,16 @@
 #include <ovocor/OvoError.h>
 #include <ovocor/TextReader.h>
 #include <ovocor/Url.h>
+#include <ovocor/WinError.h>
+
+#include <testkit/ImportPatch.h>
 
 #include <windows.h>
 #include <wininet.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -250,6 +254,21 @@ TEST_F(Download, SaysWhatToDoAboutOtherAnswersOfTheServer)
     EXPECT_TRUE(mentions(errorOf(server.address(L"/curt")), L"answered 418. Check"));
 }
 
+TEST_F(Download, TellsTheServerWhatEscapesInNameAndPasswordStandFor)
+{
+    server.answer("/secret", "HTTP/1.1 401 Unauthorized\r\nWWW-Authenticate: Basic realm=\"oak\"\r\n"
+                             "Content-Length: 0\r\nConnection: close\r\n\r\n");
+    const std::wstring address = server.address(L"/secret");
+    const std::wstring url = L"http://me%40firm.example:p%3Ass@" + address.substr(address.find(L"//") + 2);
+    EXPECT_TRUE(mentions(errorOf(url), L"Access denied."));
+    const std::vector<std::string> requests = server.requests();
+    const auto saysBoth = [](const std::string& request) {
+        const char* const wanted = "bWVAZmlybS5leGFtcGxlOnA6c3M="; // me@firm.example:p:ss
+        return request.find(std::string("Authorization: Basic ") + wanted + "\r\n") != request.npos;
+    };
+    EXPECT_TRUE(std::ranges::any_of(requests, saysBoth)) << testing::PrintToString(requests);
+}
+
 TEST_F(Download, OfARefusedConnectionNamesTheServer)
 {
     const LoopbackPort closed;
@@ -287,6 +306,38 @@ TEST_F(Download, OfABodyCutShortLeavesNoFileBehind)
     const std::wstring cache = parentOf(parentOf(whole));
     EXPECT_TRUE(holdsFile(cache, L"whole" + wideMark)) << "where files are looked for, they are found";
     EXPECT_FALSE(holdsFile(cache, L"cut" + wideMark));
+    ::DeleteUrlCacheEntryW(server.address(L"/whole" + wideMark).c_str());
+}
+
+namespace
+{
+
+HANDLE WINAPI openNothing(LPCWSTR, DWORD, DWORD, LPSECURITY_ATTRIBUTES, DWORD, DWORD, HANDLE)
+{
+    ::SetLastError(ERROR_SHARING_VIOLATION);
+    return INVALID_HANDLE_VALUE;
+}
+
+} // namespace
+
+TEST_F(Download, WhoseFileCannotBeOpenedSaysSoAndLeavesNoneBehind)
+{
+    const std::string mark = std::to_string(::GetTickCount64());
+    const std::wstring wideMark(mark.begin(), mark.end());
+    const std::wstring url = server.address(L"/held" + wideMark);
+    server.answer("/whole" + mark, LoopbackServer::page("200 OK", "oak"));
+    server.answer("/held" + mark, LoopbackServer::page("200 OK", "oak"));
+    const std::wstring whole = downloadUrlToCache(server.address(L"/whole" + wideMark));
+    {
+        const ovo::testkit::ImportPatch opening(L"ovocor11.dll", "CreateFileW",
+                                                reinterpret_cast<void*>(&openNothing));
+        const std::wstring error = errorOf(url);
+        EXPECT_TRUE(mentions(error, url)) << testing::PrintToString(error);
+        EXPECT_TRUE(error.ends_with(formatMessage(ERROR_SHARING_VIOLATION))) << testing::PrintToString(error);
+    }
+    const std::wstring cache = parentOf(parentOf(whole));
+    EXPECT_TRUE(holdsFile(cache, L"whole" + wideMark)) << "where files are looked for, they are found";
+    EXPECT_FALSE(holdsFile(cache, L"held" + wideMark));
     ::DeleteUrlCacheEntryW(server.address(L"/whole" + wideMark).c_str());
 }
 

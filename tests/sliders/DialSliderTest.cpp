@@ -1,5 +1,7 @@
 // The dial with real input, and the exchange of data with dialogs.
+#include <support/Perishing.h>
 #include <testkit/Desktop.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
 #include <testkit/RecordingParent.h>
 #include <testkit/Robot.h>
@@ -166,6 +168,38 @@ protected:
     CSliderButton button{plainNumbers};
 };
 
+int WINAPI signsOfTheTest(LCID locale, LCTYPE type, LPWSTR text, int room)
+{
+    if (type != LOCALE_SDECIMAL && type != LOCALE_STHOUSAND)
+        return ::GetLocaleInfoW(locale, type, text, room);
+    ::lstrcpynW(text, type == LOCALE_SDECIMAL ? L"," : L".", room);
+    return 2;
+}
+
+/// What the user reads when a slider button of this range does not take a number.
+template <class Number>
+std::wstring refusal(SliderButtonUtils& numbers, double low, double high)
+{
+    RecordingParent parent;
+    CEdit buddy;
+    buddy.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(10, 10, 90, 30), &parent, 7);
+    CSliderButton button(numbers);
+    button.SetBuddy(buddy);
+    button.SetType(CSliderButton::SliderLinear);
+    button.SetRange(low, high, 2);
+    present(parent);
+    TestApp::instance().forget();
+    CDataExchange reading(&parent, TRUE);
+    try {
+        Number number = 7;
+        DDX_SliderNumber(&reading, button, number);
+    } catch (CUserException* error) {
+        error->Delete();
+    }
+    const auto& boxes = TestApp::instance().boxes();
+    return boxes.size() == 1 ? std::wstring(boxes[0].text) : L"no box, or several";
+}
+
 } // namespace
 
 TEST_F(SliderExchange, NumbersGoThroughTheButtonsConversions)
@@ -200,7 +234,87 @@ TEST_F(SliderExchange, WhatIsNoNumberOfTheRangeIsRefused)
         EXPECT_TRUE(failed) << testing::PrintToString(wrong);
         EXPECT_EQ(number, 7) << "the member stays";
         ASSERT_EQ(TestApp::instance().boxes().size(), 1u);
-        EXPECT_EQ(TestApp::instance().boxes()[0].text, L"Enter a number from 0 to 50.");
+        EXPECT_EQ(TestApp::instance().boxes()[0].text, L"Enter a number from 0 mm to 50 mm.");
+    }
+}
+
+TEST(SliderRefusal, NamesTheEndsAsTheUserWritesThem)
+{
+    const ImportPatch patch(L"ovoui.dll", "GetLocaleInfoW", reinterpret_cast<void*>(&signsOfTheTest));
+    CUnitNumbers percent(CUnitNumbers::Percent);
+    EXPECT_EQ(refusal<double>(percent, 0.005, 0.75), L"Enter a number from 0,5 % to 75 %.");
+    CUnitNumbers grouped(L"mm");
+    EXPECT_EQ(refusal<double>(grouped, -0.25, 1234567.5), L"Enter a number from -0,25 mm to 1.234.567,5 mm.");
+}
+
+TEST(SliderRefusal, NamesAllDigitsOfTheEnds)
+{
+    CUnitNumbers plain(L"", false);
+    EXPECT_EQ(refusal<double>(plain, 0, 0.336), L"Enter a number from 0 to 0.336.");
+    EXPECT_EQ(refusal<int>(plain, -1e10, 1e10), L"Enter a number from -2147483648 to 2147483647.");
+}
+
+TEST(SliderRefusal, SaysNothingWhenTheHostDeletesTheButtonMeanwhile)
+{
+    struct Deleting : CUnitNumbers
+    {
+        using CUnitNumbers::CUnitNumbers;
+        void fromDisplay(std::wstring& out, const std::wstring& displayed) override
+        {
+            CUnitNumbers::fromDisplay(out, displayed);
+            if (deletesWhenRead)
+                button.reset();
+        }
+        void toDisplay(std::wstring& out, const std::wstring& machine) override
+        {
+            CUnitNumbers::toDisplay(out, machine);
+            button.reset();
+        }
+        bool deletesWhenRead = false;
+        std::unique_ptr<CSliderButton> button;
+    };
+    for (const bool whenRead : {true, false}) {
+        RecordingParent parent;
+        CEdit buddy;
+        buddy.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(10, 10, 90, 30), &parent, 7);
+        Deleting numbers(L"mm");
+        numbers.deletesWhenRead = whenRead;
+        numbers.button = std::make_unique<Perishing<CSliderButton>>(numbers);
+        CSliderButton* const button = numbers.button.get();
+        button->SetBuddy(buddy);
+        button->SetType(CSliderButton::SliderLinear);
+        TestApp::instance().forget();
+        CDataExchange reading(&parent, TRUE);
+        double number = 7;
+        try {
+            DDX_SliderNumber(&reading, *button, number);
+            ADD_FAILURE() << "taken as " << number;
+        } catch (CUserException* error) {
+            error->Delete();
+        }
+        EXPECT_FALSE(numbers.button) << "it has been deleted";
+        EXPECT_TRUE(Perishing<CSliderButton>::isUntouched(button));
+        EXPECT_TRUE(TestApp::instance().boxes().empty());
+    }
+}
+
+TEST_F(SliderExchange, WhatTheSliderShowsAtItsEndIsTaken)
+{
+    button.SetType(CSliderButton::SliderLogarithmic);
+    button.SetRange(1.0, 1000.0, 2);
+    EXPECT_EQ(button.Limits(), std::pair(1.0, 1000.0));
+    buddy.SetWindowText(L"1000.00 mm");
+    CDataExchange reading(&parent, TRUE);
+    double number = 7;
+    DDX_SliderNumber(&reading, button, number);
+    EXPECT_EQ(number, 1000);
+
+    button.SetType(CSliderButton::SliderLinear);
+    button.SetRange(0.333, 0.666, 2);
+    for (const auto& [text, expected] : {std::pair(L"0.33 mm", 0.333), {L"0.67 mm", 0.666}}) {
+        buddy.SetWindowText(text);
+        DDX_SliderNumber(&reading, button, number);
+        EXPECT_EQ(number, expected);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <limits>
 #include <system_error>
 
@@ -12,6 +13,7 @@ namespace
 
 constexpr int kUsualDecimals = 6;
 constexpr int kMostDecimals = 1000;
+constexpr int kSureDigits = std::numeric_limits<double>::digits10;
 
 bool isSpace(wchar_t c)
 {
@@ -83,6 +85,14 @@ std::wstring formatReal(double value, int decimals)
     const auto [end, error] =
         std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, digits);
     return std::wstring(text.data(), end);
+}
+
+std::wstring formatShort(double value)
+{
+    char text[32]; // 15 digits, sign, point and exponent
+    const auto [end, error] =
+        std::to_chars(text, std::end(text), value, std::chars_format::general, kSureDigits);
+    return std::wstring(text, end);
 }
 
 } // namespace ovoui::sliders

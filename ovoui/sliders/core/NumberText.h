@@ -20,4 +20,7 @@ std::optional<int> parseWhole(std::wstring_view text);
 /// `value` with that many digits behind the point, as printf's "%.*f" has it: a negative count means six.
 std::wstring formatReal(double value, int decimals);
 
+/// `value` with the digits that count, at most 15, which are the same however a number was worked out.
+std::wstring formatShort(double value);
+
 } // namespace ovoui::sliders

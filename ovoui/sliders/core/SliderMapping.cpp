@@ -54,7 +54,9 @@ double fractionOf(double value, Mapping mapping, const RealRange& range)
 double valueAtShare(double share, Mapping mapping, const RealRange& range)
 {
     const double value = mapped(share, mapping, range);
-    return std::isfinite(value) ? value : range.low;
+    if (!std::isfinite(value))
+        return range.low;
+    return share == 1 ? range.high : value; // what is worked out for the end may lie beside it
 }
 
 int positionOf(double value, Mapping mapping, const RealRange& range, const Positions& positions)

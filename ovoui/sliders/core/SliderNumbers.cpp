@@ -47,6 +47,16 @@ bool isTaken(std::optional<double> typed, double low, double high)
     return typed && *typed >= low && *typed <= high;
 }
 
+std::optional<double> takenNumber(std::optional<double> typed, double low, double high, int decimals)
+{
+    if (isTaken(typed, low, high))
+        return typed;
+    for (const double end : {low, high})
+        if (typed && typed == parseReal(formatReal(end, decimals)))
+            return end;
+    return std::nullopt;
+}
+
 std::pair<double, double> limitsOfWhole(const std::pair<double, double>& limits)
 {
     using Whole = std::numeric_limits<int>;

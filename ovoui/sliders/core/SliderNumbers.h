@@ -26,6 +26,10 @@ struct HostMapping
 /// Whether data exchange takes what the user has typed: a number, and one from `low` to `high`.
 bool isTaken(std::optional<double> typed, double low, double high);
 
+/// What data exchange makes of it, none for what it does not take. An end stands for its own text, which may
+/// lie beyond it, since it is rounded to `decimals`.
+std::optional<double> takenNumber(std::optional<double> typed, double low, double high, int decimals);
+
 /// What an int can hold of a range. Where it holds nothing of it, the first is greater than the second.
 std::pair<double, double> limitsOfWhole(const std::pair<double, double>& limits);
 

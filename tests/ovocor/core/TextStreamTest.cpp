@@ -6,9 +6,11 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <random>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace OVO;
@@ -179,4 +181,53 @@ TEST(TextStream, PassesOnTheErrorsOfItsSource)
     EXPECT_TRUE(stream.readLine(line));
     EXPECT_EQ(line, L"a");
     EXPECT_THROW(while (stream.readLine(line)){}, std::runtime_error);
+}
+
+TEST(TextStream, LosesNothingOfALineWhenItsSourceFailsInBetween)
+{
+    class FailingOnce : public MemorySource
+    {
+    public:
+        using MemorySource::MemorySource;
+        std::size_t read(char* bytes, std::size_t size) override
+        {
+            if (++m_reads == 3)
+                throw std::runtime_error("the network is away");
+            return MemorySource::read(bytes, size);
+        }
+
+    private:
+        int m_reads = 0;
+    };
+    FailingOnce source("\xEF\xBB\xBF"
+                       "oak tree\nelm\n",
+                       4);
+    TextStream stream(source, &fromLatin1, 4);
+    std::wstring line;
+    EXPECT_THROW(stream.readLine(line), std::runtime_error) << "in the middle of the first line";
+    EXPECT_TRUE(stream.readLine(line));
+    EXPECT_EQ(line, L"oak tree");
+    EXPECT_TRUE(stream.readLine(line));
+    EXPECT_EQ(line, L"elm");
+    EXPECT_FALSE(stream.readLine(line));
+}
+
+TEST(TextStream, GivesALineAgainThatCouldNotBeDecoded)
+{
+    static bool s_failing;
+    s_failing = true;
+    const auto decoder = [](std::string_view bytes) {
+        if (std::exchange(s_failing, false))
+            throw std::bad_alloc();
+        return fromLatin1(bytes);
+    };
+    MemorySource source("caf\xE9\nelm\n");
+    TextStream stream(source, decoder);
+    std::wstring line;
+    EXPECT_THROW(stream.readLine(line), std::bad_alloc);
+    EXPECT_TRUE(stream.readLine(line));
+    EXPECT_EQ(line, L"caf\u00E9");
+    EXPECT_TRUE(stream.readLine(line));
+    EXPECT_EQ(line, L"elm");
+    EXPECT_FALSE(stream.readLine(line));
 }

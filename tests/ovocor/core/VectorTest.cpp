@@ -26,6 +26,14 @@ TEST(Vector, PointsFromTheXAxisTowardsTheYAxis)
         EXPECT_NEAR(Vector<2>(row.x, row.y).theta().degrees(), row.degrees, 1e-12) << row.x << " " << row.y;
 }
 
+TEST(Vector, PointsTheSameWayWhateverTheSignOfItsZeros)
+{
+    EXPECT_EQ((-Vector<2>(1, 0)).theta().degrees(), 180) << "from the right to the left";
+    EXPECT_EQ((Vector<2>(0, 5) * -1).theta().degrees(), -90);
+    EXPECT_EQ((-Vector<2>()).theta().degrees(), 0);
+    EXPECT_EQ(Vector<2>(-0.0, 0).theta().degrees(), 0);
+}
+
 TEST(Vector, HasAUnitVector)
 {
     const Vector<2> unit = Vector<2>(3, -4).unit();

@@ -57,3 +57,13 @@ TEST(SliderNumberText, WritesTheDigitsAskedFor)
     EXPECT_EQ(formatReal(1e308, 1).size(), 311u);
     EXPECT_EQ(formatReal(0.1, 100).size(), 102u);
 }
+
+TEST(SliderNumberText, WritesTheDigitsThatCount)
+{
+    EXPECT_EQ(formatShort(50), L"50");
+    EXPECT_EQ(formatShort(-0.25), L"-0.25");
+    EXPECT_EQ(formatShort(2147483647), L"2147483647");
+    EXPECT_EQ(formatShort(999.9999999999998), L"1000") << "as a logarithm gives it";
+    EXPECT_EQ(formatShort(0.1 + 0.2), L"0.3");
+    EXPECT_EQ(formatShort(-std::numeric_limits<double>::max()).size(), 22u);
+}

@@ -97,6 +97,15 @@ TEST(SliderMapping, EveryValueHasOneOfThePositions)
                 }
 }
 
+TEST(SliderMapping, TheEndsAreThoseOfTheRangeToTheLastBit)
+{
+    for (const RealRange& range : {RealRange{1, 1000}, {1000, 1}, {0.1, 1000}, {8, 72}, {0.3, 3e7}})
+        for (const Mapping mapping : {Mapping::Linear, Mapping::Logarithmic, Mapping::SquareRoot}) {
+            EXPECT_EQ(valueAtShare(0, mapping, range), range.low);
+            EXPECT_EQ(valueAtShare(1, mapping, range), range.high);
+        }
+}
+
 TEST(SliderMapping, ReversedRangesRunTheOtherWay)
 {
     EXPECT_EQ(position(100, Mapping::Linear, {100, 0}), 0);

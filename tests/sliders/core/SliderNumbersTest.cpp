@@ -163,6 +163,19 @@ TEST(SliderNumbers, DataExchangeTakesANumberThatIsNotBeyondTheEnds)
     EXPECT_FALSE(isTaken(std::numeric_limits<double>::quiet_NaN(), -1, 1));
 }
 
+TEST(SliderNumbers, DataExchangeTakesAnEndForItsOwnText)
+{
+    constexpr double kNearly = 999.9999999999998; // what a mapping by logarithms makes of 1000
+    EXPECT_EQ(takenNumber(1000, 1, kNearly, 2), kNearly);
+    EXPECT_EQ(takenNumber(0.34, 0, 0.336, 2), 0.336);
+    EXPECT_EQ(takenNumber(0.33, 0.333, 1, 2), 0.333);
+    EXPECT_EQ(takenNumber(0.5, 0.333, 1, 2), 0.5);
+    EXPECT_EQ(takenNumber(0.337, 0, 0.336, 2), std::nullopt) << "beyond the end, and not its text";
+    EXPECT_EQ(takenNumber(0.35, 0, 0.336, 2), std::nullopt);
+    EXPECT_EQ(takenNumber(std::nullopt, 0, 1, 2), std::nullopt);
+    EXPECT_EQ(takenNumber(std::numeric_limits<double>::quiet_NaN(), 0, 1, 2), std::nullopt);
+}
+
 TEST(SliderNumbers, AnIntTakesThePartOfARangeThatItCanHold)
 {
     constexpr double kLeast = std::numeric_limits<int>::min();
