@@ -54,7 +54,7 @@ CPropertySheet::CPropertySheet(LPCTSTR caption, CWnd* parent, UINT selectPage, H
 CPropertySheet::~CPropertySheet()
 {
     if (m_hWnd)
-        DestroyWindow();
+        ::DestroyWindow(m_hWnd); // not by the member: no exception may leave a destructor
 }
 
 void CPropertySheet::Construct(UINT captionId, CWnd* parent, UINT selectPage)
