@@ -157,6 +157,23 @@ TEST(ProgressBox, ABoxThatCannotBeCreatedLeavesOwnerAndWorkAlone)
     work(owner);
 }
 
+/// As the work asks the user something on its way.
+TEST(ProgressBox, AMessageBoxOfItsOwnerLeavesThatDisabled)
+{
+    Owner owner;
+    present(owner);
+    const COVOProgressBox progress(owner, L"Working", L"Box");
+    const HWND box = openBox();
+    auto answering = Robot()
+                         .waitFor("the message box", [box] { return openBox() && openBox() != box; })
+                         .key(VK_RETURN)
+                         .start();
+    EXPECT_EQ(show({.owner = owner}), IDOK);
+    answering.finish();
+    EXPECT_FALSE(owner.IsWindowEnabled());
+    EXPECT_EQ(::GetActiveWindow(), box);
+}
+
 TEST(ProgressBox, LeavesAnOwnerDisabledThatWasDisabled)
 {
     Owner owner;
