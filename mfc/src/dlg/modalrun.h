@@ -49,9 +49,10 @@ private:
     void activateNext() const
     {
         const HWND active = ::GetActiveWindow();
-        const HWND next = m_lockedBefore ? m_activeBefore : m_owner;
-        // The end of a dialog has activated its owner, although that is locked.
-        const bool isLeft = active == m_wnd.m_hWnd || (m_lockedBefore && active == m_owner);
+        const bool locked = m_lockedBefore && !::IsWindowEnabled(m_owner);
+        const HWND next = locked ? m_activeBefore : m_owner;
+        // The end of a dialog activates its owner, even one that is locked.
+        const bool isLeft = active == m_wnd.m_hWnd || (locked && active == m_owner);
         if (next && isLeft)
             ::SetActiveWindow(next);
     }
