@@ -133,6 +133,44 @@ TEST(ModalDialog, IsShownExactlyOnce)
     }
 }
 
+/// The queue is never empty then.
+TEST(ModalDialog, IsShownBesideAWindowThatIsAlwaysToBePainted)
+{
+    class Film : public OwnerWindow
+    {
+    public:
+        bool runs() const { return !m_stopped && ::GetTickCount64() < m_end; }
+        void stop() { m_stopped = true; }
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            const LRESULT result = OwnerWindow::WindowProc(message, wParam, lParam);
+            if (message == WM_PAINT && runs())
+                Invalidate();
+            return result;
+        }
+
+    private:
+        bool m_stopped = false;
+        const ULONGLONG m_end = ::GetTickCount64() + 10000;
+    };
+    Film film;
+    film.Invalidate();
+    TestDialog dialog;
+    bool ranOn = false;
+    auto answering = whenShown()
+                         .then([&] {
+                             ranOn = film.runs();
+                             film.stop();
+                         })
+                         .key(VK_ESCAPE)
+                         .start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_TRUE(ranOn) << "it was shown after the film";
+    EXPECT_EQ(dialog.shown, 1);
+}
+
 TEST(ModalDialog, EndedInItsInitialisationIsNeverShown)
 {
     for (const DWORD visible : {DWORD{0}, DWORD{WS_VISIBLE}}) {
