@@ -40,7 +40,8 @@ public:
     void OfferNotToAsk(std::wstring entry, std::wstring label = {});
 
     /// Presses the default button after so many seconds, at most a day, which its label counts. A key or a
-    /// mouse button pressed in the box ends the count, as does the wheel turned there.
+    /// mouse button pressed in the box ends the count, as does the wheel turned there. While the box is
+    /// disabled by another one in front of it, its button is not pressed.
     void PressDefaultAfter(unsigned seconds);
 
     /// As `settingsKey` of OVOMessageBox.

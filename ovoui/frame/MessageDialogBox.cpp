@@ -25,6 +25,7 @@ constexpr int kCheckMark = 18; ///< pixels at 96 dots per inch beside a check bo
 BEGIN_MESSAGE_MAP(COVOMessageDialogBox, COVOMsgBoxDlg)
     ON_BN_CLICKED(kNotAgainId, &COVOMessageDialogBox::OnNotAgain)
     ON_BN_CLICKED(kDetailsButtonId, &COVOMessageDialogBox::OnDetails)
+    ON_WM_CLOSE()
     ON_WM_TIMER()
 END_MESSAGE_MAP()
 
@@ -72,10 +73,17 @@ BOOL COVOMessageDialogBox::OnCommand(WPARAM wParam, LPARAM lParam)
 {
     const int id = LOWORD(wParam);
     if (isAnswer(buttons(), id, HIWORD(wParam))) {
+        m_answered = true;
         EndDialog(id);
         return TRUE;
     }
     return COVOMsgBoxDlg::OnCommand(wParam, lParam);
+}
+
+void COVOMessageDialogBox::OnClose()
+{
+    m_answered = true;
+    COVOMsgBoxDlg::OnClose();
 }
 
 void COVOMessageDialogBox::OnNotAgain()
@@ -102,6 +110,8 @@ void COVOMessageDialogBox::OnTimer(UINT_PTR timer)
         COVOMsgBoxDlg::OnTimer(timer);
         return;
     }
+    if (!IsWindowEnabled())
+        return; // what the host shows in front of the box is answered first
     const ULONGLONG now = ::GetTickCount64();
     switch (m_countdown.tick(now)) {
     case CountTick::Press:

@@ -14,8 +14,9 @@ public:
 
     /// Whether an answer may be kept, and given without showing the box.
     bool mayBeKept(int answer) const;
-    /// Whether the user has asked for the answer to be kept.
-    bool keepsAnswer() const { return m_keepsAnswer; }
+    /// Whether the user has asked for the answer to be kept, and has given one: a box also goes with its
+    /// owner and with the program.
+    bool keepsAnswer() const { return m_keepsAnswer && m_answered; }
 
     BOOL PreTranslateMessage(MSG* message) override;
 
@@ -26,6 +27,7 @@ protected:
 
     afx_msg void OnNotAgain();
     afx_msg void OnDetails();
+    afx_msg void OnClose();
     afx_msg void OnTimer(UINT_PTR timer);
     DECLARE_MESSAGE_MAP()
 
@@ -51,4 +53,5 @@ private:
     ovoui::frame::Countdown m_countdown;
     std::wstring m_defaultLabel; ///< without the count
     bool m_keepsAnswer = false;
+    bool m_answered = false;
 };

@@ -1,6 +1,7 @@
 #include <ovoui/frame/ModalDialog.h>
 
 #include <ovoui/frame/Exceptions.h>
+#include <ovoui/frame/Lifeline.h>
 
 COVOModalDialog::COVOModalDialog(UINT nIDTemplate, CWnd* pParentWnd)
     : CDialog(nIDTemplate, pParentWnd)
@@ -14,9 +15,15 @@ COVOModalDialog::~COVOModalDialog() = default;
 BOOL COVOModalDialog::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
     BOOL handled = TRUE;
+    const Lifeline::Watch watch(*this);
+    const UINT helpId = m_nIDHelp;
     const auto error =
         ovoui::frame::errorOf([&] { handled = CWnd::OnWndMsg(message, wParam, lParam, pResult); });
-    if (error)
-        AfxMessageBox(error->c_str(), MB_ICONEXCLAMATION | MB_TASKMODAL, m_nIDHelp);
-    return handled;
+    if (!error)
+        return handled;
+    const bool alive = watch.alive();
+    if (alive && message == WM_PAINT)
+        ValidateRect(nullptr); // or the dialog would be asked to paint again behind the box, and so on
+    AfxMessageBox(error->c_str(), MB_ICONEXCLAMATION | MB_TASKMODAL, alive ? m_nIDHelp : helpId);
+    return TRUE;
 }

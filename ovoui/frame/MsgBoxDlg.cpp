@@ -74,7 +74,9 @@ void COVOMsgBoxDlg::DoDataExchange(CDataExchange* exchange)
 
 BOOL COVOMsgBoxDlg::PreTranslateMessage(MSG* message)
 {
-    const bool down = message->message == WM_KEYDOWN;
+    // Windows that the host puts in front of the box belong to it as well, and have keys of their own.
+    const bool isInside = message->hwnd == m_hWnd || ::IsChild(m_hWnd, message->hwnd);
+    const bool down = message->message == WM_KEYDOWN && isInside;
     switch (down ? boxKey(static_cast<unsigned>(message->wParam), heldKeysNow()) : BoxKey::None) {
     case BoxKey::Cancel:
         SendMessage(WM_COMMAND, IDCANCEL);

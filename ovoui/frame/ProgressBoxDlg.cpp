@@ -55,12 +55,13 @@ void COVOProgressBoxDlg::open()
 }
 
 /// The owner is enabled before the box goes: the system looks for the next active window before it tells the
-/// box of its end, and would take another one, maybe another program's.
+/// box of its end, and would take another one, maybe another program's. What the host raises meanwhile waits
+/// for the message loop: this is the end of an object, which no exception may leave.
 void COVOProgressBoxDlg::close()
 {
     enableOwner();
     if (m_hWnd)
-        DestroyWindow();
+        ::DestroyWindow(m_hWnd);
 }
 
 void COVOProgressBoxDlg::enableOwner()
@@ -158,17 +159,14 @@ bool COVOProgressBoxDlg::letMessagesThrough()
     if (!m_opened || !letsMessagesThrough(now, m_lastMessages))
         return true;
     const Lifeline::Watch watch(m_lifeline);
+    bool goesOn = true;
     MSG message;
-    while (goesOnWithMessages(::GetTickCount64(), now) &&
-           ::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) {
-        const bool goesOn = dispatchOne();
-        if (!watch.alive())
-            return false;
-        if (!goesOn) {
-            m_cancelled = true;
-            break;
-        }
-    }
+    while (goesOn && watch.alive() && goesOnWithMessages(::GetTickCount64(), now) &&
+           ::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) // delivers what other threads send, too
+        goesOn = dispatchOne();
+    if (!watch.alive())
+        return false;
+    m_cancelled = m_cancelled || !goesOn;
     m_lastMessages = ::GetTickCount64();
     return true;
 }

@@ -34,7 +34,7 @@ protected:
 private:
     void enableOwner();
     void showUnknown();
-    bool dispatchOne();
+    static bool dispatchOne();
 
     Lifeline m_lifeline;
     HWND m_owner;

@@ -140,6 +140,32 @@ TEST(MessageBoxAnswer, EscapeInTheTextAnswersCancelToo)
     EXPECT_EQ(show({.type = MB_YESNO}), IDCANCEL) << "the close box would answer No";
 }
 
+/// As a host answers Help with a window that belongs to the box.
+TEST(MessageBoxAnswer, KeysInAWindowInFrontOfTheBoxAreThatWindows)
+{
+    HWND box = nullptr;
+    HWND front = nullptr;
+    auto acting = whenOpen()
+                      .then([&] {
+                          box = openBox();
+                          front = ::CreateWindowExW(0, L"EDIT", L"Help", WS_POPUP | WS_VISIBLE, 10, 10, 200,
+                                                    40, box, nullptr, nullptr, nullptr);
+                          ::SetForegroundWindow(front);
+                          ::SetFocus(front);
+                      })
+                      .waitFor("the focus in front", [&] { return ::GetFocus() == front; })
+                      .key(VK_ESCAPE)
+                      .then([&] {
+                          EXPECT_TRUE(::IsWindowVisible(box));
+                          ::DestroyWindow(front);
+                          ::SetForegroundWindow(box);
+                      })
+                      .waitFor("the focus in the box", [&] { return focusedId(box) == IDOK; })
+                      .key(VK_RETURN)
+                      .start();
+    EXPECT_EQ(show({.type = MB_OK}), IDOK) << "not by Escape";
+}
+
 TEST(MessageBoxAnswer, TheCloseBoxAnswersTheMildestButtonThereIs)
 {
     EXPECT_EQ(answerByClosing(MB_OK), IDOK);

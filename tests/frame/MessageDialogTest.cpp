@@ -82,6 +82,11 @@ ULONGLONG WINAPI toldNow()
     return g_now;
 }
 
+bool isMarked()
+{
+    return ::SendMessageW(control(kNotAgainId), BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
+
 int answerBy(const COVOMessageDialog& box, Story story)
 {
     auto answering = std::move(story).start();
@@ -444,6 +449,37 @@ TEST_F(MessageDialogTest, AMarkThatIsTakenBackKeepsNothing)
     EXPECT_EQ(kept(L"Fonts"), -1);
 }
 
+TEST_F(MessageDialogTest, TheAnswerOfTheCloseBoxIsKept)
+{
+    COVOMessageDialog box(nullptr, L"The message.", L"Box", MB_YESNO);
+    box.OfferNotToAsk(L"Fonts");
+    EXPECT_EQ(answerBy(box, clicking(kNotAgainId).waitFor("the mark", &isMarked).then([] {
+                  ::PostMessageW(openBox(), WM_CLOSE, 0, 0);
+              })),
+              IDNO);
+    EXPECT_EQ(kept(L"Fonts"), IDNO);
+}
+
+/// A box that nobody answers gives IDABORT, which this one has a button for.
+TEST_F(MessageDialogTest, WhatNobodyHasAnsweredIsNotKept)
+{
+    COVOMessageDialog box(nullptr, L"The message.", L"Box", MB_ABORTRETRYIGNORE);
+    box.OfferNotToAsk(L"Fonts");
+    EXPECT_EQ(answerBy(box, clicking(kNotAgainId).waitFor("the mark", &isMarked).then([] {
+                  ::PostQuitMessage(0);
+              })),
+              IDABORT);
+    EXPECT_EQ(kept(L"Fonts"), -1);
+    GuiThread::settle();
+    EXPECT_TRUE(GuiThread::tookQuit());
+
+    EXPECT_EQ(answerBy(box, clicking(kNotAgainId).waitFor("the mark", &isMarked).click([] {
+                  return control(IDABORT);
+              })),
+              IDABORT);
+    EXPECT_EQ(kept(L"Fonts"), IDABORT) << "that of the button is";
+}
+
 TEST_F(MessageDialogTest, ABoxThatOffersNothingIsShownWhateverIsKept)
 {
     keep(L"", kReplace);
@@ -493,6 +529,30 @@ TEST_F(MessageDialogTest, TheCountPressesTheDefaultButton)
               })),
               kKeep);
     EXPECT_EQ(label, L"&Keep (1)");
+}
+
+/// As a host shows one by a timer. A box that ended behind it would leave what it locks to the user.
+TEST_F(MessageDialogTest, TheCountWaitsBehindAnotherBox)
+{
+    COVOMessageDialog box = withOwnButtons();
+    box.PressDefaultAfter(2);
+    HWND behind = nullptr;
+    ULONGLONG over = 0;
+    const int answer = answerBy(
+        box, whenOpen()
+                 .then([&] {
+                     behind = openBox();
+                     over = ::GetTickCount64() + 3000;
+                     ::SetTimer(behind, 99, USER_TIMER_MINIMUM, [](HWND wnd, UINT, UINT_PTR timer, DWORD) {
+                         ::KillTimer(wnd, timer);
+                         OVOMessageBox(wnd, L"In front.", L"Front", MB_OK, nullptr, 0);
+                     });
+                 })
+                 .waitFor("the box in front", [&] { return openBox() && openBox() != behind; })
+                 .waitFor("the end of the count", [&] { return ::GetTickCount64() >= over; })
+                 .then([&] { EXPECT_TRUE(::IsWindowVisible(behind)); })
+                 .key(VK_RETURN)); // answers the one in front
+    EXPECT_EQ(answer, kReplace);
 }
 
 TEST_F(MessageDialogTest, ACountOnHelpAsksForItAndLeavesTheBoxOpen)

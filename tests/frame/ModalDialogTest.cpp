@@ -1,4 +1,5 @@
 // The modal dialog base: what happens to the errors of its handlers.
+#include <support/Perishing.h>
 #include <testkit/Desktop.h>
 #include <testkit/Robot.h>
 #include <testkit/TestApp.h>
@@ -54,6 +55,23 @@ protected:
 
 BEGIN_MESSAGE_MAP(ErrorDialog, COVOModalDialog)
     ON_MESSAGE(kAct, &ErrorDialog::OnAct)
+END_MESSAGE_MAP()
+
+class UnpaintedDialog : public COVOModalDialog
+{
+public:
+    UnpaintedDialog()
+        : COVOModalDialog(IDD_ERROR_DIALOG, nullptr)
+    {
+    }
+
+protected:
+    afx_msg void OnPaint() { throw OvoError(L"no colours"); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(UnpaintedDialog, COVOModalDialog)
+    ON_WM_PAINT()
 END_MESSAGE_MAP()
 
 /// Opens the dialog, lets its handler act, and closes it with Escape.
@@ -193,6 +211,45 @@ TEST(ModalDialog, ShowsAnErrorOfItsInitialisationAndStaysOpen)
     EXPECT_EQ(run(dialog), IDCANCEL);
     ASSERT_EQ(boxes().size(), 1u);
     EXPECT_NE(boxes()[0].text.find(L"Planting"), std::wstring::npos);
+}
+
+TEST(ModalDialog, AnErrorOfPaintingIsNotRaisedAgainBehindItsBox)
+{
+    bool waits = true;
+    UnpaintedDialog dialog;
+    TestApp::instance().onBox = [&] { waits = ::GetUpdateRect(dialog, nullptr, FALSE) != FALSE; };
+    ASSERT_TRUE(dialog.Create(IDD_ERROR_DIALOG));
+    dialog.ShowWindow(SW_SHOWNA);
+    dialog.UpdateWindow();
+    ASSERT_FALSE(boxes().empty());
+    EXPECT_FALSE(waits) << "a box has a loop of its own, which paints what is to be painted";
+    dialog.DestroyWindow();
+}
+
+/// As a modeless dialog goes, which deletes itself with its window.
+TEST(ModalDialog, ThatItsHandlerHasDeletedShowsTheErrorUnderItsHelpId)
+{
+    class Leaving : public COVOModalDialog
+    {
+    public:
+        Leaving()
+            : COVOModalDialog(IDD_ERROR_DIALOG, nullptr)
+        {
+        }
+
+    protected:
+        BOOL OnCommand(WPARAM, LPARAM) override
+        {
+            delete this;
+            throw OvoError(L"oak");
+        }
+    };
+    auto* const dialog = new Perishing<Leaving>;
+    ASSERT_TRUE(dialog->Create(IDD_ERROR_DIALOG));
+    ::SendMessageW(*dialog, WM_COMMAND, IDOK, 0);
+    ASSERT_EQ(boxes().size(), 1u);
+    EXPECT_EQ(boxes()[0].text, L"oak");
+    EXPECT_EQ(boxes()[0].helpId, static_cast<UINT>(IDD_ERROR_DIALOG));
 }
 
 TEST(ModalDialog, LetsAnyOtherExceptionPass)

@@ -9,6 +9,7 @@
 
 #include <ovocor/WinError.h>
 #include <ovoui/frame/ProgressBox.h>
+#include <ovoui/frame/ProgressBoxDlg.h>
 #include <ovoui/frame/MessageBoxIds.h>
 #include <ovouires/resource.h>
 
@@ -16,7 +17,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
+#include <stdexcept>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -151,6 +155,23 @@ TEST(ProgressBox, ABoxThatCannotBeCreatedLeavesOwnerAndWorkAlone)
     }
     const ImportPatch patch{L"ovomfc.dll", "CreateDialogIndirectParamW", reinterpret_cast<void*>(&endAtOnce)};
     work(owner);
+}
+
+/// As the work asks the user something on its way.
+TEST(ProgressBox, AMessageBoxOfItsOwnerLeavesThatDisabled)
+{
+    Owner owner;
+    present(owner);
+    const COVOProgressBox progress(owner, L"Working", L"Box");
+    const HWND box = openBox();
+    auto answering = Robot()
+                         .waitFor("the message box", [box] { return openBox() && openBox() != box; })
+                         .key(VK_RETURN)
+                         .start();
+    EXPECT_EQ(show({.owner = owner}), IDOK);
+    answering.finish();
+    EXPECT_FALSE(owner.IsWindowEnabled());
+    EXPECT_EQ(::GetActiveWindow(), box);
 }
 
 TEST(ProgressBox, LeavesAnOwnerDisabledThatWasDisabled)
@@ -339,6 +360,72 @@ TEST(ProgressBox, MayBeDeletedByAMessageThatItLetsThrough)
         ::Sleep(1);
     EXPECT_EQ(s_progress, nullptr);
     EXPECT_EQ(openBox(), nullptr);
+}
+
+/// Such a message arrives while the box looks for messages, and not by one of them. Memory of the box's size
+/// is taken in its place, so that what the box still reads and writes there is seen.
+TEST(ProgressBox, MayBeDeletedByAMessageThatAnotherThreadSends)
+{
+    static COVOProgressBox* s_progress;
+    static std::vector<std::vector<char>> s_inItsPlace;
+    class Host : public Owner
+    {
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message != WM_APP)
+                return Owner::WindowProc(message, wParam, lParam);
+            delete std::exchange(s_progress, nullptr);
+            for (int i = 0; i < 1000; ++i)
+                s_inItsPlace.emplace_back(sizeof(COVOProgressBoxDlg));
+            return 0;
+        }
+    };
+    Host host;
+    s_inItsPlace.reserve(1000);
+    s_progress = new COVOProgressBox(nullptr, L"Working", L"Box");
+    GuiThread::settle();
+    std::thread sender([wnd = host.m_hWnd] { ::SendMessageW(wnd, WM_APP, 0, 0); });
+    while (HIWORD(::GetQueueStatus(QS_SENDMESSAGE)) == 0)
+        ::Sleep(1);
+    bool goesOn = true;
+    while (s_progress && goesOn)
+        goesOn = s_progress->Advance(1, 2);
+    sender.join();
+    EXPECT_EQ(s_progress, nullptr);
+    EXPECT_FALSE(goesOn) << "a box that is gone must not be asked any more";
+    const auto isUntouched = [](const std::vector<char>& memory) {
+        return std::ranges::count(memory, char{0}) == static_cast<std::ptrdiff_t>(memory.size());
+    };
+    EXPECT_TRUE(std::ranges::all_of(s_inItsPlace, isUntouched));
+    s_inItsPlace.clear();
+}
+
+TEST(ProgressBox, WhatItsOwnerRaisesAsTheBoxGoesWaitsForTheMessageLoop)
+{
+    class Raising : public Owner
+    {
+    public:
+        bool raises = false;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE && std::exchange(raises, false))
+                throw std::runtime_error("active again");
+            return Owner::WindowProc(message, wParam, lParam);
+        }
+    };
+    Raising owner;
+    present(owner);
+    {
+        const COVOProgressBox progress(owner, L"Working", L"Box");
+        owner.raises = true;
+    }
+    EXPECT_EQ(openBox(), nullptr);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    owner.PostMessage(WM_NULL); // the loop has something to do
+    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
 }
 
 TEST(ProgressBox, TheEndOfTheProgramIsNotLost)

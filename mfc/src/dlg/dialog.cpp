@@ -110,7 +110,7 @@ CDialog::CDialog(LPCTSTR templateName, CWnd* parent)
 CDialog::~CDialog()
 {
     if (m_hWnd)
-        DestroyWindow();
+        ::DestroyWindow(m_hWnd); // not by the member: no exception may leave a destructor
 }
 
 BOOL CDialog::Create(UINT templateId, CWnd* parent)

@@ -79,5 +79,11 @@ void CDialog::EndDialog(int result)
 {
     if (m_nFlags & (afxdetail::kModalLoop | afxdetail::kContinueModal))
         EndModalLoop(result);
-    afxdetail::callOut([&] { ::EndDialog(m_hWnd, result); });
+    afxdetail::callOut([&] {
+        const HWND owner = (m_nFlags & afxdetail::kOwnerLocked) ? ::GetWindow(m_hWnd, GW_OWNER) : nullptr;
+        const bool staysLocked = owner && !::IsWindowEnabled(owner);
+        ::EndDialog(m_hWnd, result);
+        if (staysLocked)
+            ::EnableWindow(owner, FALSE); // some systems enable it, whoever has disabled it
+    });
 }

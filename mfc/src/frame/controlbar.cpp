@@ -59,7 +59,7 @@ CControlBar::CControlBar() = default;
 CControlBar::~CControlBar()
 {
     if (m_hWnd)
-        DestroyWindow();
+        ::DestroyWindow(m_hWnd); // not by the member: no exception may leave a destructor
     // A derived class may have kept WM_DESTROY to itself.
     if (m_pDockBar)
         m_pDockBar->release(*this);

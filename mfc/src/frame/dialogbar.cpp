@@ -39,7 +39,7 @@ CDialogBar::CDialogBar()
 CDialogBar::~CDialogBar()
 {
     if (m_hWnd)
-        DestroyWindow();
+        ::DestroyWindow(m_hWnd); // not by the member: no exception may leave a destructor
 }
 
 BOOL CDialogBar::Create(CWnd* parent, UINT templateId, UINT style, UINT id)

@@ -90,9 +90,10 @@ CToolBar::CToolBar() = default;
 
 CToolBar::~CToolBar()
 {
-    // The control draws with the bitmap: it must go first.
+    // The control draws with the bitmap: it must go first. Not by the member: no exception may leave a
+    // destructor.
     if (m_hWnd)
-        DestroyWindow();
+        ::DestroyWindow(m_hWnd);
     ::DeleteObject(m_bitmap);
 }
 

@@ -27,6 +27,22 @@ BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
     ON_MESSAGE(WM_COMMANDHELP, &CPropertySheet::OnCommandHelp)
 END_MESSAGE_MAP()
 
+namespace
+{
+
+/// Escape in an edit control of several lines, which takes it to itself and closes the page around it.
+bool isEscapeInText(const MSG& message)
+{
+    if (message.message != WM_KEYDOWN || message.wParam != VK_ESCAPE ||
+        !(::GetWindowLongW(message.hwnd, GWL_STYLE) & ES_MULTILINE))
+        return false;
+    wchar_t name[8]{};
+    ::GetClassNameW(message.hwnd, name, static_cast<int>(std::size(name)));
+    return ::lstrcmpiW(name, L"Edit") == 0;
+}
+
+} // namespace
+
 CPropertySheet::CPropertySheet() = default;
 
 CPropertySheet::CPropertySheet(UINT captionId, CWnd* parent, UINT selectPage)
@@ -54,7 +70,7 @@ CPropertySheet::CPropertySheet(LPCTSTR caption, CWnd* parent, UINT selectPage, H
 CPropertySheet::~CPropertySheet()
 {
     if (m_hWnd)
-        DestroyWindow();
+        ::DestroyWindow(m_hWnd); // not by the member: no exception may leave a destructor
 }
 
 void CPropertySheet::Construct(UINT captionId, CWnd* parent, UINT selectPage)
@@ -348,7 +364,10 @@ BOOL CPropertySheet::PreTranslateMessage(MSG* message)
     if (afxdetail::isLostCharacter(m_hWnd, *message))
         return FALSE;
     const HWND wnd = m_hWnd;
-    const BOOL taken = send<BOOL>(*this, PSM_ISDIALOGMESSAGE, nullptr, message);
+    MSG asked = *message;
+    if (::IsChild(wnd, asked.hwnd) && isEscapeInText(asked))
+        asked.hwnd = wnd;
+    const BOOL taken = send<BOOL>(*this, PSM_ISDIALOGMESSAGE, nullptr, &asked);
     if (taken && FromHandlePermanent(wnd) == this)
         keepFocus();
     return taken;

@@ -28,6 +28,8 @@ private:
     UINT& m_flags;
 };
 
+constexpr ULONGLONG kLongestHidden = 200; ///< milliseconds; the queue may never be empty
+
 bool queueIsEmpty()
 {
     MSG next;
@@ -50,20 +52,27 @@ int CWnd::RunModalLoop(DWORD flags)
     const HWND owner = ::GetParent(m_hWnd);
     const auto goesOn = [this] { return m_hWnd && ContinueModal(); };
     bool show = (flags & MLF_SHOWONIDLE) && !(GetStyle() & WS_VISIBLE);
+    const auto showNow = [&] {
+        show = false;
+        ShowWindow(SW_SHOWNORMAL);
+        UpdateWindow();
+    };
+    const ULONGLONG latest = ::GetTickCount64() + kLongestHidden;
     bool idle = true;
     LONG idleCount = 0;
 
     for (;;) {
         while (goesOn() && idle && queueIsEmpty()) {
-            if (std::exchange(show, false)) {
-                ShowWindow(SW_SHOWNORMAL);
-                UpdateWindow();
+            if (show) {
+                showNow();
                 continue;
             }
             if (!(flags & MLF_NOIDLEMSG) && owner && idleCount == 0)
                 callOut([&] { ::SendMessageW(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd)); });
             idle = goesOn() && !(flags & MLF_NOKICKIDLE) && SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, idleCount++);
         }
+        if (show && goesOn() && ::GetTickCount64() >= latest)
+            showNow();
         if (!m_hWnd && ContinueModal())
             return -1; // destroyed without a word
         if (!goesOn())

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 using namespace ovo::testkit;
 
 namespace
@@ -66,6 +68,44 @@ protected:
 };
 
 } // namespace
+
+namespace
+{
+
+/// Raises an exception as it goes.
+class RaisingChild : public CStatic
+{
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_DESTROY)
+            throw std::runtime_error("spruce");
+        return CStatic::WindowProc(message, wParam, lParam);
+    }
+};
+
+} // namespace
+
+TEST_F(ControlBar, WhatIsRaisedAsItsObjectGoesWaitsForTheMessageLoop)
+{
+    RaisingChild child;
+    {
+        PlainBar bar;
+        ASSERT_TRUE(bar.create(*m_frame, WS_VISIBLE | CBRS_TOP, kFirstBar));
+        ASSERT_TRUE(child.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), &bar));
+    }
+    EXPECT_EQ(child.m_hWnd, nullptr);
+    m_frame->PostMessage(WM_NULL); // the loop has something to do
+    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
+    {
+        CToolBar bar;
+        ASSERT_TRUE(bar.CreateEx(&*m_frame, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP));
+        ASSERT_TRUE(child.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), &bar));
+    }
+    EXPECT_EQ(child.m_hWnd, nullptr);
+    m_frame->PostMessage(WM_NULL);
+    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
+}
 
 // Layout
 

@@ -133,6 +133,44 @@ TEST(ModalDialog, IsShownExactlyOnce)
     }
 }
 
+/// The queue is never empty then.
+TEST(ModalDialog, IsShownBesideAWindowThatIsAlwaysToBePainted)
+{
+    class Film : public OwnerWindow
+    {
+    public:
+        bool runs() const { return !m_stopped && ::GetTickCount64() < m_end; }
+        void stop() { m_stopped = true; }
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            const LRESULT result = OwnerWindow::WindowProc(message, wParam, lParam);
+            if (message == WM_PAINT && runs())
+                Invalidate();
+            return result;
+        }
+
+    private:
+        bool m_stopped = false;
+        const ULONGLONG m_end = ::GetTickCount64() + 10000;
+    };
+    Film film;
+    film.Invalidate();
+    TestDialog dialog;
+    bool ranOn = false;
+    auto answering = whenShown()
+                         .then([&] {
+                             ranOn = film.runs();
+                             film.stop();
+                         })
+                         .key(VK_ESCAPE)
+                         .start();
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_TRUE(ranOn) << "it was shown after the film";
+    EXPECT_EQ(dialog.shown, 1);
+}
+
 TEST(ModalDialog, EndedInItsInitialisationIsNeverShown)
 {
     for (const DWORD visible : {DWORD{0}, DWORD{WS_VISIBLE}}) {
@@ -203,14 +241,43 @@ TEST(ModalDialog, LeavesADisabledOwnerDisabled)
         return TRUE;
     };
     dialog.DoModal();
-    // The system enables the owner of every dialog that is ended; a dialog that is destroyed shows what we
-    // do.
-    owner.EnableWindow(FALSE);
+    EXPECT_FALSE(owner.IsWindowEnabled()) << "though some systems enable the owner of a dialog that ends";
     TestDialog destroyed(&owner);
     destroyed.onAct = [](TestDialog& d) { d.DestroyWindow(); };
     auto answering = whenShown().then(pressAct).start();
     destroyed.DoModal();
     EXPECT_FALSE(owner.IsWindowEnabled());
+}
+
+/// A host that always names its main window opens one from another one so.
+TEST(ModalDialog, LeavesItsOwnerToTheDialogThatHasLockedIt)
+{
+    OwnerWindow owner;
+    TestDialog outer(&owner);
+    bool ownerEnabled = true;
+    bool activeAgain = false;
+    int focused = 0;
+    outer.onAct = [&](TestDialog& d) {
+        d.GotoDlgCtrl(d.GetDlgItem(TestDialog::kEdit));
+        TestDialog inner(&owner);
+        auto answering =
+            Robot()
+                .waitFor("the inner dialog", [&] { return shownDialog() && shownDialog() != d.m_hWnd; })
+                .key(VK_ESCAPE)
+                .start();
+        EXPECT_EQ(inner.DoModal(), IDCANCEL);
+        answering.finish();
+        ownerEnabled = owner.IsWindowEnabled() != FALSE;
+        activeAgain = ::GetActiveWindow() == d.m_hWnd;
+        focused = ::GetDlgCtrlID(::GetFocus());
+        d.EndDialog(IDOK);
+    };
+    auto story = whenShown().then(pressAct).start();
+    EXPECT_EQ(outer.DoModal(), IDOK);
+    EXPECT_FALSE(ownerEnabled);
+    EXPECT_TRUE(activeAgain);
+    EXPECT_EQ(focused, TestDialog::kEdit);
+    EXPECT_TRUE(owner.IsWindowEnabled()) << "afterwards";
 }
 
 TEST(ModalDialog, OfAChildWindowIsOwnedByTheTopLevelWindow)

@@ -166,6 +166,30 @@ TEST(ModelessDialog, IsDestroyedWithItsObject)
     EXPECT_FALSE(::IsWindow(wnd));
 }
 
+TEST(ModelessDialog, WhatIsRaisedAsItsObjectGoesWaitsForTheMessageLoop)
+{
+    class Raising : public CStatic
+    {
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_DESTROY)
+                throw std::runtime_error("elder");
+            return CStatic::WindowProc(message, wParam, lParam);
+        }
+    };
+    OwnerWindow owner;
+    Raising child;
+    {
+        TestDialog dialog;
+        ASSERT_TRUE(dialog.createModeless(&owner));
+        ASSERT_TRUE(child.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), &dialog));
+    }
+    EXPECT_EQ(child.m_hWnd, nullptr);
+    owner.PostMessage(WM_NULL); // the loop has something to do
+    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
+}
+
 TEST(ModelessDialog, ReadsItsValuesOnOk)
 {
     TestDialog dialog(nullptr, TestDialog::kStyle | WS_VISIBLE);

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 using namespace ovo::testkit;
 using namespace docktest;
 
@@ -39,6 +41,29 @@ TEST_F(DialogBar, HasTheControlsOfItsTemplate)
     EXPECT_EQ(frame->GetDlgItem(ID_BAR_DIALOG), &m_bar) << "the number is the bar's, not the template's";
     EXPECT_EQ(m_bar.GetDlgItem(IDC_LIST)->SendMessage(CB_GETCOUNT), 2) << "filled as its resource says";
     EXPECT_EQ(frame->GetControlBar(ID_BAR_DIALOG), &m_bar);
+}
+
+TEST_F(DialogBar, WhatIsRaisedAsItsObjectGoesWaitsForTheMessageLoop)
+{
+    class Raising : public CStatic
+    {
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_DESTROY)
+                throw std::runtime_error("larch");
+            return CStatic::WindowProc(message, wParam, lParam);
+        }
+    };
+    Raising child;
+    {
+        CDialogBar bar;
+        ASSERT_TRUE(bar.Create(frame, IDD_BAR, WS_CHILD | WS_VISIBLE | CBRS_LEFT, ID_BAR_DIALOG));
+        ASSERT_TRUE(child.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), &bar));
+    }
+    EXPECT_EQ(child.m_hWnd, nullptr);
+    frame->PostMessage(WM_NULL); // the loop has something to do
+    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
 }
 
 TEST_F(DialogBar, LiesAtItsSideAsLargeAsItsTemplate)

@@ -4,6 +4,7 @@
 #include <testkit/WindowCounter.h>
 
 #include <memory>
+#include <stdexcept>
 
 using namespace ovo::testkit;
 
@@ -152,6 +153,31 @@ TEST_F(ModelessSheet, AnObjectThatGoesTakesItsWindowAlong)
     local.reset();
     EXPECT_FALSE(::IsWindow(wnd));
     EXPECT_FALSE(general.m_hWnd);
+}
+
+TEST_F(ModelessSheet, WhatIsRaisedAsItsObjectGoesWaitsForTheMessageLoop)
+{
+    class Raising : public CStatic
+    {
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_DESTROY)
+                throw std::runtime_error("holly");
+            return CStatic::WindowProc(message, wParam, lParam);
+        }
+    };
+    Raising child;
+    {
+        CPropertySheet local(L"Local", &owner);
+        local.AddPage(&general);
+        ASSERT_TRUE(local.Create(&owner));
+        ASSERT_TRUE(child.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), &local));
+    }
+    EXPECT_FALSE(child.m_hWnd);
+    EXPECT_FALSE(general.m_hWnd);
+    owner.PostMessage(WM_NULL); // the loop has something to do
+    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
 }
 
 TEST_F(ModelessSheet, APageMayDestroyItInAnyCall)

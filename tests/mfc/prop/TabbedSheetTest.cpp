@@ -362,6 +362,48 @@ TEST_F(TabbedSheet, CancelEscapeAndTheCloseBoxResetThePages)
     EXPECT_EQ(show([](Story story) { return story.key(VK_ESCAPE); }), IDCANCEL);
 }
 
+/// An edit control of several lines would close the page around it, which then hears of a cancelling.
+TEST_F(TabbedSheet, EscapeInATextOfSeveralLinesCancelsTheSheet)
+{
+    CEdit text;
+    const INT_PTR answer = show([&](Story story) {
+        return story
+            .then([&] {
+                text.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_MULTILINE, CRect(0, 90, 90, 120),
+                            &general, IDC_OTHER);
+                text.SetFocus();
+                taken();
+            })
+            .waitFor("the focus", [&] { return ::GetFocus() == text.m_hWnd; })
+            .key(VK_ESCAPE);
+    });
+    EXPECT_EQ(answer, IDCANCEL);
+    EXPECT_EQ(taken(), (Calls{"general query cancel", "general reset", "general cancel"}));
+}
+
+TEST_F(TabbedSheet, EscapeInATextOfSeveralLinesMayBeRefused)
+{
+    CEdit text;
+    general.answers["query cancel"] = FALSE;
+    show([&](Story story) {
+        return story
+            .then([&] {
+                text.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_MULTILINE, CRect(0, 90, 90, 120),
+                            &general, IDC_OTHER);
+                text.SetFocus();
+                taken();
+            })
+            .waitFor("the focus", [&] { return ::GetFocus() == text.m_hWnd; })
+            .key(VK_ESCAPE)
+            .waitFor("the question", [this] { return !calls.empty(); })
+            .then([&] {
+                EXPECT_EQ(taken(), Calls{"general query cancel"});
+                EXPECT_TRUE(text.m_hWnd && text.IsWindowVisible());
+                sheet.EndDialog(IDCANCEL);
+            });
+    });
+}
+
 TEST_F(TabbedSheet, CancelMayBeRefused)
 {
     general.answers["query cancel"] = FALSE;
