@@ -67,7 +67,7 @@ ColPickerDlgBase::ColPickerDlgBase(int templateId, CWinApp& app, const Colour& c
 ColPickerDlgBase::~ColPickerDlgBase()
 {
     if (m_hWnd)
-        DestroyWindow();
+        ::DestroyWindow(m_hWnd);
 }
 
 // Opening and closing

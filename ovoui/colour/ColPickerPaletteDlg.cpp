@@ -99,7 +99,7 @@ ColPickerPaletteDlg::ColPickerPaletteDlg(CWinApp& app, ColPickerModeType mode, c
 ColPickerPaletteDlg::~ColPickerPaletteDlg()
 {
     if (m_hWnd)
-        DestroyWindow(); // while its colours can still be kept
+        ::DestroyWindow(m_hWnd); // while its colours can still be kept
 }
 
 // Settings

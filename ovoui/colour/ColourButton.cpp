@@ -77,7 +77,7 @@ CColourButton::CColourButton()
 CColourButton::~CColourButton()
 {
     m_identity->window = nullptr;
-    DestroyWindow();
+    ::DestroyWindow(m_hWnd);
 }
 
 BOOL CColourButton::PreCreateWindow(CREATESTRUCT& cs)

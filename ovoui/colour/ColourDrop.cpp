@@ -67,7 +67,7 @@ ColourDrop::ColourDrop(Content content, Calls calls)
 ColourDrop::~ColourDrop()
 {
     m_identity->window = nullptr;
-    DestroyWindow();
+    ::DestroyWindow(m_hWnd);
 }
 
 bool ColourDrop::open(CWnd& button)

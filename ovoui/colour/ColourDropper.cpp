@@ -46,7 +46,7 @@ CColourDropper::CColourDropper()
 
 CColourDropper::~CColourDropper()
 {
-    DestroyWindow();
+    ::DestroyWindow(m_hWnd);
 }
 
 bool CColourDropper::IsPicking() const

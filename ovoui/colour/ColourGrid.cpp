@@ -62,7 +62,7 @@ CColourGrid::CColourGrid()
 CColourGrid::~CColourGrid()
 {
     m_identity->window = nullptr;
-    DestroyWindow();
+    ::DestroyWindow(m_hWnd);
 }
 
 BOOL CColourGrid::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)

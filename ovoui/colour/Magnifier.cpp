@@ -42,7 +42,7 @@ COLORREF screenColour(CPoint point)
 
 Magnifier::~Magnifier()
 {
-    DestroyWindow();
+    ::DestroyWindow(m_hWnd);
 }
 
 bool Magnifier::create(CWnd& owner)

@@ -28,7 +28,7 @@ PickerStop::PickerStop(Calls calls, std::shared_ptr<ColourIdentity> identity)
 PickerStop::~PickerStop()
 {
     m_identity->window = nullptr;
-    DestroyWindow();
+    ::DestroyWindow(m_hWnd);
 }
 
 bool PickerStop::create(CWnd& dialog, const CRect& place, UINT id, CWnd* before)

@@ -19,7 +19,7 @@ TipWindow::TipWindow(CSize margins)
 
 TipWindow::~TipWindow()
 {
-    DestroyWindow();
+    ::DestroyWindow(m_hWnd);
 }
 
 HGDIOBJ TipWindow::font() const

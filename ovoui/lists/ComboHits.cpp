@@ -85,7 +85,7 @@ ComboHits::ComboHits(COVOComboBox& combo, std::function<void(int)> taken)
 
 ComboHits::~ComboHits()
 {
-    DestroyWindow();
+    ::DestroyWindow(m_hWnd);
 }
 
 /// The combo box may have come into another window since.

@@ -30,7 +30,7 @@ struct ovoui::sliders::ExchangedButton
     /// An end of the range as the buddy would show it.
     std::wstring limitText(double limit) const
     {
-        return alive() ? button.displayed(formatShort(limit)).value_or(L"") : L"";
+        return alive() ? button.displayed(formatShort(limit)).value_or(std::wstring()) : std::wstring();
     }
 
     const CSliderButton& button;

@@ -74,7 +74,7 @@ CFlyoutToolbar::CFlyoutToolbar()
 
 CFlyoutToolbar::~CFlyoutToolbar()
 {
-    DestroyWindow();
+    ::DestroyWindow(m_hWnd);
 }
 
 bool CFlyoutToolbar::create(CVantorToolBar& bar, const FlyoutRecord& record, bool horizontal)

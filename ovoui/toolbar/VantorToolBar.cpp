@@ -62,7 +62,7 @@ CVantorToolBar::CVantorToolBar()
 CVantorToolBar::~CVantorToolBar()
 {
     interrupt(Interruption::BarGone);
-    DestroyWindow(); // while the handlers of this class still answer
+    ::DestroyWindow(m_hWnd); // while the handlers of this class still answer
     m_state->controlGoes();
 }
 

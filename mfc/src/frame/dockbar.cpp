@@ -31,7 +31,7 @@ CDockBar::CDockBar(BOOL floating)
 CDockBar::~CDockBar()
 {
     if (m_hWnd)
-        DestroyWindow();
+        ::DestroyWindow(m_hWnd);
     for (CControlBar* bar : bars())
         bar->m_pDockBar = nullptr;
 }

@@ -3,11 +3,10 @@
 #include "TestDialog.h"
 #include "resource.h"
 
+#include <support/RaisingChild.h>
 #include <testkit/Picture.h>
 
 #include <gtest/gtest.h>
-
-#include <stdexcept>
 
 using namespace ovo::testkit;
 
@@ -69,42 +68,21 @@ protected:
 
 } // namespace
 
-namespace
-{
-
-/// Raises an exception as it goes.
-class RaisingChild : public CStatic
-{
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message == WM_DESTROY)
-            throw std::runtime_error("spruce");
-        return CStatic::WindowProc(message, wParam, lParam);
-    }
-};
-
-} // namespace
-
 TEST_F(ControlBar, WhatIsRaisedAsItsObjectGoesWaitsForTheMessageLoop)
 {
-    RaisingChild child;
+    support::RaisingChild child;
     {
         PlainBar bar;
         ASSERT_TRUE(bar.create(*m_frame, WS_VISIBLE | CBRS_TOP, kFirstBar));
-        ASSERT_TRUE(child.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), &bar));
+        ASSERT_TRUE(child.createIn(bar));
     }
-    EXPECT_EQ(child.m_hWnd, nullptr);
-    m_frame->PostMessage(WM_NULL); // the loop has something to do
-    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
+    child.expectRaisedInLoop();
     {
         CToolBar bar;
         ASSERT_TRUE(bar.CreateEx(&*m_frame, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | CBRS_TOP));
-        ASSERT_TRUE(child.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), &bar));
+        ASSERT_TRUE(child.createIn(bar));
     }
-    EXPECT_EQ(child.m_hWnd, nullptr);
-    m_frame->PostMessage(WM_NULL);
-    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
+    child.expectRaisedInLoop();
 }
 
 // Layout

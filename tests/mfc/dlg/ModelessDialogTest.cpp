@@ -2,6 +2,7 @@
 #include "TestDialog.h"
 #include "resource.h"
 
+#include <support/RaisingChild.h>
 #include <testkit/WindowCounter.h>
 
 #include <gtest/gtest.h>
@@ -168,26 +169,14 @@ TEST(ModelessDialog, IsDestroyedWithItsObject)
 
 TEST(ModelessDialog, WhatIsRaisedAsItsObjectGoesWaitsForTheMessageLoop)
 {
-    class Raising : public CStatic
-    {
-    protected:
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            if (message == WM_DESTROY)
-                throw std::runtime_error("elder");
-            return CStatic::WindowProc(message, wParam, lParam);
-        }
-    };
     OwnerWindow owner;
-    Raising child;
+    support::RaisingChild child;
     {
         TestDialog dialog;
         ASSERT_TRUE(dialog.createModeless(&owner));
-        ASSERT_TRUE(child.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), &dialog));
+        ASSERT_TRUE(child.createIn(dialog));
     }
-    EXPECT_EQ(child.m_hWnd, nullptr);
-    owner.PostMessage(WM_NULL); // the loop has something to do
-    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
+    child.expectRaisedInLoop();
 }
 
 TEST(ModelessDialog, ReadsItsValuesOnOk)

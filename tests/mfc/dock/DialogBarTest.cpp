@@ -1,9 +1,9 @@
 // Bars with the controls of a dialog template.
 #include "DockScene.h"
 
-#include <gtest/gtest.h>
+#include <support/RaisingChild.h>
 
-#include <stdexcept>
+#include <gtest/gtest.h>
 
 using namespace ovo::testkit;
 using namespace docktest;
@@ -45,25 +45,13 @@ TEST_F(DialogBar, HasTheControlsOfItsTemplate)
 
 TEST_F(DialogBar, WhatIsRaisedAsItsObjectGoesWaitsForTheMessageLoop)
 {
-    class Raising : public CStatic
-    {
-    protected:
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            if (message == WM_DESTROY)
-                throw std::runtime_error("larch");
-            return CStatic::WindowProc(message, wParam, lParam);
-        }
-    };
-    Raising child;
+    support::RaisingChild child;
     {
         CDialogBar bar;
         ASSERT_TRUE(bar.Create(frame, IDD_BAR, WS_CHILD | WS_VISIBLE | CBRS_LEFT, ID_BAR_DIALOG));
-        ASSERT_TRUE(child.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), &bar));
+        ASSERT_TRUE(child.createIn(bar));
     }
-    EXPECT_EQ(child.m_hWnd, nullptr);
-    frame->PostMessage(WM_NULL); // the loop has something to do
-    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
+    child.expectRaisedInLoop();
 }
 
 TEST_F(DialogBar, LiesAtItsSideAsLargeAsItsTemplate)

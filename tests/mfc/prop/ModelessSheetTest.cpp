@@ -1,10 +1,10 @@
 // A modeless property sheet.
 #include "SheetScene.h"
 
+#include <support/RaisingChild.h>
 #include <testkit/WindowCounter.h>
 
 #include <memory>
-#include <stdexcept>
 
 using namespace ovo::testkit;
 
@@ -157,27 +157,15 @@ TEST_F(ModelessSheet, AnObjectThatGoesTakesItsWindowAlong)
 
 TEST_F(ModelessSheet, WhatIsRaisedAsItsObjectGoesWaitsForTheMessageLoop)
 {
-    class Raising : public CStatic
-    {
-    protected:
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            if (message == WM_DESTROY)
-                throw std::runtime_error("holly");
-            return CStatic::WindowProc(message, wParam, lParam);
-        }
-    };
-    Raising child;
+    support::RaisingChild child;
     {
         CPropertySheet local(L"Local", &owner);
         local.AddPage(&general);
         ASSERT_TRUE(local.Create(&owner));
-        ASSERT_TRUE(child.Create(L"", WS_CHILD, CRect(0, 0, 9, 9), &local));
+        ASSERT_TRUE(child.createIn(local));
     }
-    EXPECT_FALSE(child.m_hWnd);
     EXPECT_FALSE(general.m_hWnd);
-    owner.PostMessage(WM_NULL); // the loop has something to do
-    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
+    child.expectRaisedInLoop();
 }
 
 TEST_F(ModelessSheet, APageMayDestroyItInAnyCall)
