@@ -141,20 +141,22 @@ void Input::press(Button button)
 void Input::release(Button button)
 {
     std::erase(m_buttons, button);
-    send(mouse(flagsOf(button).up, 0));
+    send(atThePoint(mouse(flagsOf(button).up, 0)));
 }
 
 void Input::click(Button button)
 {
     const auto [down, up] = flagsOf(button);
-    send({atThePoint(mouse(down, nextTime())), mouse(up, 0)});
+    send({atThePoint(mouse(down, nextTime())), atThePoint(mouse(up, 0))});
 }
 
 void Input::doubleClick(Button button)
 {
     const DWORD time = nextTime();
     const auto [down, up] = flagsOf(button);
-    send({atThePoint(mouse(down, time)), mouse(up, time), mouse(down, time), mouse(up, time)});
+    const INPUT press = atThePoint(mouse(down, time));
+    const INPUT release = atThePoint(mouse(up, time));
+    send({press, release, press, release});
 }
 
 void Input::turnWheel(int notches)

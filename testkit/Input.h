@@ -31,7 +31,7 @@ public:
 
     /// Presses `button` where the pointer was last moved to.
     void press(Button button);
-    /// Lets go of `button`.
+    /// Lets go of `button`, there as well.
     void release(Button button);
 
     /// Presses `button` and lets go of it: not held for long, however slow the machine is.

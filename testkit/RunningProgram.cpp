@@ -151,10 +151,10 @@ void RunningProgram::letCatchUp() const
     }
 }
 
-/// Under Wine the display tells a window that gets the pointer or the keyboard, in its own time, that nothing
-/// is held on its keyboard, and Wine lets go of the modifiers: Alt+C becomes C. That has happened when this
-/// returns.
-void RunningProgram::awaitViewOfKeyboard() const
+/// Under Wine the display tells a window, in its own time, that it has got the pointer or the keyboard, and
+/// that nothing is held on that. Wine then takes the pointer there, lets go of the modifiers, so that Alt+C
+/// becomes C, and cancels what the mouse was about. That has happened when this returns.
+void RunningProgram::awaitWordOfDisplay() const
 {
     letCatchUp();
     awaitDisplay();
@@ -248,8 +248,7 @@ void RunningProgram::moveTo(CPoint screen)
     };
     waitFor("the pointer to stay", [&] {
         m_input.moveTo(screen);
-        waitFor("the pointer to move", isThere);
-        letCatchUp();
+        awaitWordOfDisplay();
         return isThere();
     });
 }
@@ -311,7 +310,7 @@ void RunningProgram::chord(WORD held, WORD virtualKey)
 void RunningProgram::chord(const std::vector<WORD>& held, WORD virtualKey)
 {
     waitFor("the program to be in front", [this] { return isInFront(); });
-    awaitViewOfKeyboard();
+    awaitWordOfDisplay();
     m_input.chord(held, virtualKey);
 }
 

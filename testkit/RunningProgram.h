@@ -81,7 +81,7 @@ private:
     void comeToTheFront();
     void leaveABareScreen() const;
     void letCatchUp() const;
-    void awaitViewOfKeyboard() const;
+    void awaitWordOfDisplay() const;
     bool isInFront() const;
     bool isActive() const;
     bool canClick(HWND wnd) const;

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <iterator>
 #include <thread>
+#include <utility>
 
 namespace ovo::testkit
 {
@@ -135,8 +136,18 @@ void Stage::send(void (Input::*act)(Parameters...), std::type_identity_t<Paramet
     awaitInputTaken();
 }
 
+// Under Wine the display tells a window that has come to the front so in its own time, and Wine then cancels
+// what the mouse is about.
+void Stage::catchUpInNewFront()
+{
+    const HWND front = ::GetForegroundWindow();
+    if (std::exchange(m_front, front) != front)
+        GuiThread::catchUp();
+}
+
 void Stage::press(Button button)
 {
+    catchUpInNewFront();
     send(&Input::press, button);
 }
 
@@ -147,6 +158,7 @@ void Stage::release(Button button)
 
 void Stage::doubleClick(Button button)
 {
+    catchUpInNewFront();
     send(&Input::doubleClick, button);
 }
 

@@ -60,10 +60,12 @@ private:
     template <class... Parameters>
     void send(void (Input::*act)(Parameters...), std::type_identity_t<Parameters>... what);
     void jumpTo(CPoint point);
+    void catchUpInNewFront();
     void awaitInputTaken();
     void keepHeldKeysDown();
 
     Input m_input;
+    HWND m_front = nullptr; ///< the window that was in front at the last press
 };
 
 } // namespace ovo::testkit
