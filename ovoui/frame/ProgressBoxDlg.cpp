@@ -48,6 +48,8 @@ void COVOProgressBoxDlg::open()
     m_opened = Create(IDD_MESSAGE_BOX, FromHandle(m_owner)) != FALSE;
     if (m_opened) {
         ShowWindow(SW_SHOW);
+        RedrawWindow(nullptr, nullptr,
+                     RDW_UPDATENOW | RDW_ALLCHILDREN); // the work begins before messages go through
         return;
     }
     m_cancelled = false; // by the end of a window that was not finished

@@ -213,6 +213,13 @@ TEST(ProgressBox, ShowsTheShareThatIsDone)
     }
 }
 
+TEST(ProgressBox, IsPaintedBeforeTheWorkBegins)
+{
+    const COVOProgressBox progress(nullptr, L"Working", L"Box");
+    for (const HWND window : {openBox(), bar(), cancelButton()})
+        EXPECT_FALSE(::GetUpdateRect(window, nullptr, FALSE)) << ::GetDlgCtrlID(window);
+}
+
 TEST(ProgressBox, OfUnknownLengthRunsWithoutAnEnd)
 {
     COVOProgressBox progress(nullptr, L"Working", L"Box");

@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <detail/pending.h>
+
 #include <utility>
 
 namespace afxdetail
@@ -23,7 +25,7 @@ public:
             m_owner = owner;
         }
     }
-    ~LockedOwner() { unlock(); }
+    ~LockedOwner() { unlockQuietly(); }
     LockedOwner(const LockedOwner&) = delete;
     LockedOwner& operator=(const LockedOwner&) = delete;
 
@@ -31,10 +33,20 @@ public:
     {
         if (m_owner)
             ::EnableWindow(std::exchange(m_owner, nullptr), TRUE);
+        CFrameWnd* const frame = std::exchange(m_frame, nullptr);
         // The frame may have been destroyed meanwhile, by a command of the dialog.
-        if (m_frame && CWnd::FromHandlePermanent(m_frameWnd) == m_frame)
-            m_frame->EndModalState();
-        m_frame = nullptr;
+        if (frame && CWnd::FromHandlePermanent(m_frameWnd) == frame)
+            frame->EndModalState();
+    }
+
+    /// For destructors: what the frame raises waits for the message loop.
+    void unlockQuietly() noexcept
+    {
+        try {
+            unlock();
+        } catch (...) {
+            storePendingException();
+        }
     }
 
 private:

@@ -25,7 +25,7 @@ public:
     }
     ~ModalRun()
     {
-        m_locked.unlock();
+        m_locked.unlockQuietly();
         m_wnd.m_nFlags &= ~(kContinueModal | kOwnerLocked);
         if (m_wnd.m_hWnd)
             ::DestroyWindow(m_wnd.m_hWnd);

@@ -18,6 +18,23 @@ struct Foreign
 {
 };
 
+/// Raises an exception when a modal dialog of it is over.
+class RaisingFrame : public CFrameWnd
+{
+public:
+    RaisingFrame() { Create(nullptr, L"Frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(100, 100, 500, 400)); }
+    ~RaisingFrame() override { ::DestroyWindow(m_hWnd); }
+
+    void EndModalState() override
+    {
+        CFrameWnd::EndModalState();
+        throw std::runtime_error("the frame");
+    }
+
+protected:
+    void PostNcDestroy() override {} // it is not on the heap
+};
+
 void pressAct()
 {
     ::PostMessageW(shownDialog(), WM_COMMAND, TestDialog::kAct, 0);
@@ -422,4 +439,27 @@ TEST(ModalDialog, MayOpenAnother)
     story.finish();
     EXPECT_EQ(innerResult, IDCANCEL);
     EXPECT_FALSE(outerEnabled);
+}
+
+TEST(ModalDialog, WhatItsFrameRaisesAtTheEndComesOutOfIt)
+{
+    RaisingFrame frame;
+    TestDialog dialog(&frame);
+    auto answering = whenShown().key(VK_ESCAPE).start();
+    EXPECT_THROW(dialog.DoModal(), std::runtime_error);
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_TRUE(frame.IsWindowEnabled());
+    expectNothingPending();
+}
+
+TEST(ModalDialog, WhatItsFrameRaisesBehindAnotherExceptionWaitsForTheMessageLoop)
+{
+    RaisingFrame frame;
+    TestDialog dialog(&frame);
+    dialog.onInit = [](TestDialog&) -> BOOL { throw Foreign{}; };
+    EXPECT_THROW(dialog.DoModal(), Foreign);
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_TRUE(frame.IsWindowEnabled());
+    frame.PostMessage(WM_NULL); // the loop has something to do
+    EXPECT_THROW(AfxPumpMessage(), std::runtime_error);
 }
