@@ -1,6 +1,7 @@
 #include <ovoui/update/UpdateAvailable.h>
 
 #include <ovoui/update/UpdateText.h>
+#include <ovoui/update/UpdateTextBox.h>
 
 #include <ovouires/resource.h>
 
@@ -28,8 +29,6 @@ CUpdateAvailable::~CUpdateAvailable() = default;
 BOOL CUpdateAvailable::OnInitDialog()
 {
     GetDlgItem(IDOK)->EnableWindow(m_available);
-    const std::wstring text =
-        m_available ? availableText(m_product, m_description, m_page) : upToDateText(m_product);
-    SetDlgItemText(IDC_UPDATE_TEXT, text.c_str());
+    showText(*this, m_available ? availableText(m_product, m_description, m_page) : upToDateText(m_product));
     return COVOModalDialog::OnInitDialog();
 }

@@ -1,6 +1,7 @@
 #include <ovoui/update/UpdateOffer.h>
 
 #include <ovoui/update/UpdateText.h>
+#include <ovoui/update/UpdateTextBox.h>
 
 using namespace ovoui::update;
 
@@ -19,7 +20,7 @@ CUpdateOffer::~CUpdateOffer() = default;
 
 BOOL CUpdateOffer::OnInitDialog()
 {
-    SetDlgItemText(IDC_UPDATE_TEXT, availableText(m_product, m_update.description, m_update.page).c_str());
+    showText(*this, availableText(m_product, m_update.description, m_update.page));
     return COVOModalDialog::OnInitDialog();
 }
 

@@ -29,6 +29,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/UpdateMemory.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UpdateOffer.cpp
   ${CMAKE_CURRENT_LIST_DIR}/UpdateText.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/UpdateTextBox.cpp
   ${CMAKE_CURRENT_LIST_DIR}/WinInetModule.cpp)
 target_link_libraries(ovoui PRIVATE bcrypt shell32)
 

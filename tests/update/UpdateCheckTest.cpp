@@ -413,3 +413,23 @@ TEST_F(UpdateCheck, ALongDescriptionCanBeScrolledTo)
     EXPECT_GT(lines, 60);
     EXPECT_TRUE(scrolls);
 }
+
+TEST_F(UpdateCheck, ATextThatFitsHasNoScrollBar)
+{
+    const auto hasBar = [&](const std::string& description) {
+        publish("#update,Board,,,,,13,http://example.org/13,\"" + description + "\"\r\n");
+        bool bar = false;
+        auto answering = Robot()
+                             .waitFor("the dialog", [] { return shownDialog() != nullptr; })
+                             .then([&] {
+                                 const HWND text = ::GetDlgItem(shownDialog(), 20508);
+                                 bar = (::GetWindowLongW(text, GWL_STYLE) & WS_VSCROLL) != 0;
+                             })
+                             .key(VK_ESCAPE)
+                             .start();
+        checkForUpdates(list(), L"Board", L"Pro", kInstalled);
+        return bar;
+    };
+    EXPECT_FALSE(hasBar("Faster"));
+    EXPECT_TRUE(hasBar("1\n2\n3\n4\n5\n6\n7\n8\n9"));
+}
