@@ -5,6 +5,8 @@
 #include <testkit/TestApp.h>
 #include <testkit/WindowCounter.h>
 
+#include <utility>
+
 using namespace ovo::testkit;
 
 namespace
@@ -29,6 +31,20 @@ protected:
         CString text;
         wnd.GetWindowText(text);
         return std::wstring(text);
+    }
+
+    /// Puts an edit control of several lines, `text`, on the first page, and presses Escape in it.
+    Story escapeIn(CEdit& text, Story story)
+    {
+        return story
+            .then([&] {
+                text.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_MULTILINE, CRect(0, 90, 90, 120),
+                            &general, IDC_OTHER);
+                text.SetFocus();
+                taken();
+            })
+            .waitFor("the focus", [&] { return ::GetFocus() == text.m_hWnd; })
+            .key(VK_ESCAPE);
     }
 };
 
@@ -366,17 +382,7 @@ TEST_F(TabbedSheet, CancelEscapeAndTheCloseBoxResetThePages)
 TEST_F(TabbedSheet, EscapeInATextOfSeveralLinesCancelsTheSheet)
 {
     CEdit text;
-    const INT_PTR answer = show([&](Story story) {
-        return story
-            .then([&] {
-                text.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_MULTILINE, CRect(0, 90, 90, 120),
-                            &general, IDC_OTHER);
-                text.SetFocus();
-                taken();
-            })
-            .waitFor("the focus", [&] { return ::GetFocus() == text.m_hWnd; })
-            .key(VK_ESCAPE);
-    });
+    const INT_PTR answer = show([&](Story story) { return escapeIn(text, std::move(story)); });
     EXPECT_EQ(answer, IDCANCEL);
     EXPECT_EQ(taken(), (Calls{"general query cancel", "general reset", "general cancel"}));
 }
@@ -386,15 +392,7 @@ TEST_F(TabbedSheet, EscapeInATextOfSeveralLinesMayBeRefused)
     CEdit text;
     general.answers["query cancel"] = FALSE;
     show([&](Story story) {
-        return story
-            .then([&] {
-                text.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_MULTILINE, CRect(0, 90, 90, 120),
-                            &general, IDC_OTHER);
-                text.SetFocus();
-                taken();
-            })
-            .waitFor("the focus", [&] { return ::GetFocus() == text.m_hWnd; })
-            .key(VK_ESCAPE)
+        return escapeIn(text, std::move(story))
             .waitFor("the question", [this] { return !calls.empty(); })
             .then([&] {
                 EXPECT_EQ(taken(), Calls{"general query cancel"});
