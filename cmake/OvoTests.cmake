@@ -1,8 +1,9 @@
 # Test programs: cross-compiled ones that run under Wine, native ones that run under the sanitizers.
 #
-#   ovo_test(NAME [NO_MANIFEST] SOURCES a.cpp ... LIBS target ... [RESOURCES x.rc ...] [TIMEOUT SECONDS])
+#   ovo_test(NAME [NO_MANIFEST] [UNSEEN] SOURCES a.cpp ... LIBS target ... [RESOURCES x.rc ...] [TIMEOUT SECONDS])
 #       A GoogleTest program for Windows with the test kit, registered with CTest. It asks for the
-#       common controls 6 unless NO_MANIFEST is given.
+#       common controls 6 unless NO_MANIFEST is given. With UNSEEN it runs without a display, which is quicker where many
+#       windows are made and none is looked at.
 #   ovo_test_variant(NAME VARIANT [FILTER PATTERN] [THEMES OFF] [DPI N] [SCHEME NAME])
 #       Runs the program NAME once more, as NAME.VARIANT: a part of it, with visual styles off, at a resolution of
 #       N dots per inch instead of 96, or with the system's colours and fonts of a scheme in cmake/schemes.
@@ -28,7 +29,7 @@ set(OVO_TEST_TIMEOUT 1500)
 # Seconds of the runs that take longest. They begin first, so that none of them goes on alone at the end; CTest knows that by itself
 # only in a folder where it has run them before.
 set(OVO_TEST_COSTS
-  test_lives=170 package=100 test_soak=90 test_gallery=80 test_faults=60 reproducible=55 test_tree=50 test_toolbar=40 test_lists=40
+  test_lives=270 package=100 test_soak=90 test_gallery=80 test_faults=65 reproducible=55 test_tree=50 test_toolbar=40 test_lists=40
   test_update=35 test_files=25 test_colour=25 test_frame=25 test_testkit=20 test_colour.classic=20 test_colour.dpi144=20
   test_frame_plain=15 test_frame.classic=15 test_mfc_wnd=15 test_mfc_cdlg=15 test_sliders=10 test_mfc_dlg=10)
 
@@ -52,7 +53,7 @@ function(_ovo_register name program timeout)
     set(report Z:${report}) # without a drive, GoogleTest takes it for a path below the working directory
   endif()
   set(arguments --gtest_output=xml:${report})
-  cmake_parse_arguments(arg "" "FILTER;THEMES;DPI;SCHEME" "" ${ARGN})
+  cmake_parse_arguments(arg "UNSEEN" "FILTER;THEMES;DPI;SCHEME" "" ${ARGN})
   if(arg_FILTER)
     list(APPEND arguments --gtest_filter=${arg_FILTER})
   endif()
@@ -70,6 +71,9 @@ function(_ovo_register name program timeout)
     if(arg_SCHEME)
       list(APPEND launcher --scheme ${arg_SCHEME})
     endif()
+    if(arg_UNSEEN)
+      list(APPEND launcher --unseen)
+    endif()
   endif()
   add_test(NAME ${name} COMMAND ${launcher} $<TARGET_FILE:${program}> ${arguments}
            WORKING_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
@@ -81,7 +85,7 @@ function(ovo_test name)
   if(NOT WIN32)
     return()
   endif()
-  cmake_parse_arguments(arg "NO_MANIFEST" "TIMEOUT" "SOURCES;LIBS;RESOURCES" ${ARGN})
+  cmake_parse_arguments(arg "NO_MANIFEST;UNSEEN" "TIMEOUT" "SOURCES;LIBS;RESOURCES" ${ARGN})
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT ${OVO_TEST_TIMEOUT})
   endif()
@@ -97,7 +101,11 @@ function(ovo_test name)
   target_precompile_headers(${name} REUSE_FROM ovo_testkit)
   # A library's own definitions may keep the shared header from being reused; that costs time only.
   set_target_properties(${name} PROPERTIES PCH_WARN_INVALID OFF)
-  _ovo_register(${name} ${name} ${arg_TIMEOUT})
+  set(how "")
+  if(arg_UNSEEN)
+    set(how UNSEEN)
+  endif()
+  _ovo_register(${name} ${name} ${arg_TIMEOUT} ${how})
 endfunction()
 
 function(ovo_test_variant name variant)

@@ -160,14 +160,11 @@ protected:
         return happened;
     }
 
-    /// In how many lives each function is to have failed; lives that take long are for those that fail
-    /// nowhere else.
+    /// In how many lives each function is to have failed.
     static int livesEach()
     {
         const char* const text = std::getenv("OVO_FAULT_LIVES");
-        if (text && std::atoi(text) > 0)
-            return std::atoi(text);
-        return GetParam().share < 20 ? 3 : 1;
+        return text && std::atoi(text) > 0 ? std::atoi(text) : 3;
     }
 
     RecordingParent m_parent;

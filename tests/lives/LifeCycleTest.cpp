@@ -2,7 +2,7 @@
 //
 //   OVO_LIFE_CYCLES=10000 ./test_lives.exe --gtest_filter='*LifeCycle*'     so many lives of each control
 //
-// By default they are 1,000, and of those that take long as small a part of it as their table says.
+// By default they are 1,000.
 #include "Leftovers.h"
 #include "Lives.h"
 #include "support/HeapCounter.h"
@@ -23,15 +23,14 @@ namespace
 {
 
 constexpr int kUsualCycles = 1000;
-constexpr int kWarm = 30;      // what the system and the library keep is made by then
-constexpr int kWarmLeast = 10; // for lives that take long
+constexpr int kWarm = 30; // what the system and the library keep is made by then
 /// Blocks that the system's own lists and caches may take meanwhile, whatever the number of cycles.
 constexpr int kSlack = 40;
 
-int cyclesOf(const Life& life)
+int cycles()
 {
     const char* const text = std::getenv("OVO_LIFE_CYCLES");
-    return text && std::atoi(text) > 0 ? std::atoi(text) : kUsualCycles / life.share;
+    return text && std::atoi(text) > 0 ? std::atoi(text) : kUsualCycles;
 }
 
 class LifeCycle : public ::testing::TestWithParam<Life>
@@ -55,10 +54,10 @@ TEST_P(LifeCycle, LeavesNothingBehind)
         GuiThread::settle();
         return blocks.grown();
     };
-    const int times = cyclesOf(GetParam());
-    growth(GetParam().live, std::min(kWarm, std::max(kWarmLeast, times)));
+    const int times = cycles();
+    growth(GetParam().live, kWarm);
     // What each life of the platform's own leaves is known from some of them.
-    const int sample = std::min(times, std::max(kWarmLeast, times / 10));
+    const int sample = std::min(times, std::max(kWarm, times / 10));
     const int platform = GetParam().platform ? growth(GetParam().platform, sample) * times / sample : 0;
     const Leftovers leftovers;
     EXPECT_LE(growth(GetParam().live, times), platform + kSlack);

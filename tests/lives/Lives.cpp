@@ -345,45 +345,45 @@ void PrintTo(const Life& life, std::ostream* out)
 const std::vector<Life>& lives()
 {
     static const std::vector<Life> all{
-        Life{"Tree", 1, liveTree},
-        Life{"List", 1, liveList},
-        Life{"Combo", 1, liveCombo},
-        Life{"ToolBar", 1, liveToolBar},
-        Life{"RoundSlider", 1,
+        Life{"Tree", liveTree},
+        Life{"List", liveList},
+        Life{"Combo", liveCombo},
+        Life{"ToolBar", liveToolBar},
+        Life{"RoundSlider",
              [](CWnd& parent) {
                  CRoundSlider slider(false);
                  turn(slider, parent);
              }},
-        Life{"WheelSlider", 1,
+        Life{"WheelSlider",
              [](CWnd& parent) {
                  CWheelSlider slider(false);
                  turn(slider, parent);
              }},
-        Life{"DialSlider", 1,
+        Life{"DialSlider",
              [](CWnd& parent) {
                  CDialSlider slider;
                  turn(slider, parent);
              }},
-        Life{"SliderButton", 1, liveSliderButton},
-        Life{"Colours", 1, liveColours},
-        Life{"ShadedTabs", 1, liveTabs},
-        Life{"Images", 1, liveImages},
-        Life{"ImageStrips", 1, liveStrips},
-        Life{"Picker", 1, livePicker, livePlainDialog<IDD_COLOUR_PICKER>},
-        Life{"Palette", 5, livePalette, livePlainDialog<IDD_COLOUR_PALETTE>},
-        Life{"ToolWindow", 1, liveToolWindow, livePlainDialog<IDD_FRAME_PALETTE>},
-        Life{"ModuleList", 5, liveDialog<CModuleListDlg>, livePlainDialog<IDD_MODULE_LIST>},
-        Life{"SystemInfo", 5, liveDialog<CSystemInfoDlg>, livePlainSystemInfo},
-        Life{"ProgressBox", 1, liveProgress},
-        Life{"MessageBox", 1, liveMessageBox}};
+        Life{"SliderButton", liveSliderButton},
+        Life{"Colours", liveColours},
+        Life{"ShadedTabs", liveTabs},
+        Life{"Images", liveImages},
+        Life{"ImageStrips", liveStrips},
+        Life{"Picker", livePicker, livePlainDialog<IDD_COLOUR_PICKER>},
+        Life{"Palette", livePalette, livePlainDialog<IDD_COLOUR_PALETTE>},
+        Life{"ToolWindow", liveToolWindow, livePlainDialog<IDD_FRAME_PALETTE>},
+        Life{"ModuleList", liveDialog<CModuleListDlg>, livePlainDialog<IDD_MODULE_LIST>},
+        Life{"SystemInfo", liveDialog<CSystemInfoDlg>, livePlainSystemInfo},
+        Life{"ProgressBox", liveProgress},
+        Life{"MessageBox", liveMessageBox}};
     return all;
 }
 
 const std::vector<Life>& livesOfFileDialogs()
 {
     static const std::vector<Life> all{
-        Life{"FileDialog", 10, liveFileDialog<true>, livePlainFileDialog<true>},
-        Life{"ClassicFileDialog", 10, liveFileDialog<false>, livePlainFileDialog<false>},
-        Life{"FolderDialog", 10, liveFolderDialog, livePlainFolderDialog}};
+        Life{"FileDialog", liveFileDialog<true>, livePlainFileDialog<true>},
+        Life{"ClassicFileDialog", liveFileDialog<false>, livePlainFileDialog<false>},
+        Life{"FolderDialog", liveFolderDialog, livePlainFolderDialog}};
     return all;
 }

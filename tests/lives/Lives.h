@@ -11,7 +11,6 @@
 struct Life
 {
     const char* name;
-    int share; ///< one of so many of the usual cycles: lives that take long are lived less often
     std::function<void(CWnd& parent)> live;
     /// The same without the library, for windows that the system itself does not clean up.
     std::function<void(CWnd& parent)> platform{};
@@ -24,5 +23,5 @@ std::string liveOnce(const Life& life, CWnd& parent);
 
 const std::vector<Life>& lives();
 
-/// Those that show dialogs of the system, which take long.
+/// Those that show dialogs of the system.
 const std::vector<Life>& livesOfFileDialogs();

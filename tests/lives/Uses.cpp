@@ -243,10 +243,10 @@ void tellOfMachine(CWnd&)
 
 const std::vector<Life>& uses()
 {
-    static const std::vector<Life> all{Life{"Reader", 1, beRead},         Life{"CopyAndSort", 1, copyAndSort},
-                                       Life{"Images", 1, showImages},     Life{"Tree", 1, askTree},
-                                       Life{"DragInTree", 1, dragInTree}, Life{"Screen", 1, pickFromScreen},
-                                       Life{"Palette", 1, dropColours},   Life{"Machine", 1, tellOfMachine},
-                                       Life{"Drawings", 1, makeDrawings}, Life{"Folder", 20, askForFolder}};
+    static const std::vector<Life> all{Life{"Reader", beRead},         Life{"CopyAndSort", copyAndSort},
+                                       Life{"Images", showImages},     Life{"Tree", askTree},
+                                       Life{"DragInTree", dragInTree}, Life{"Screen", pickFromScreen},
+                                       Life{"Palette", dropColours},   Life{"Machine", tellOfMachine},
+                                       Life{"Drawings", makeDrawings}, Life{"Folder", askForFolder}};
     return all;
 }
