@@ -39,7 +39,7 @@ public:
         if (gradient.stops.empty())
             return std::nullopt;
         gradient.spread = spread();
-        m_byBounds = attribute("gradientUnits") != "userSpaceOnUse";
+        m_byBounds = choice("gradientUnits", {"objectBoundingBox", "userSpaceOnUse"}) == 0;
         if (m_byBounds && (m_use.bounds.width <= 0 || m_use.bounds.height <= 0))
             return std::nullopt;
         if (gradient.radial)
@@ -131,12 +131,24 @@ private:
         return matrix.value_or(Matrix{});
     }
 
+    /// Which of the words an attribute is; the first where it is none of them.
+    std::size_t choice(const char* name, const std::vector<std::string_view>& words) const
+    {
+        const XmlElement* owner = nullptr;
+        const std::string_view text = attribute(name, &owner);
+        const auto found = std::find(words.begin(), words.end(), text);
+        if (found != words.end())
+            return static_cast<std::size_t>(found - words.begin());
+        if (owner)
+            m_note(name, *owner);
+        return 0;
+    }
+
     Gradient::Spread spread() const
     {
-        const std::string_view text = attribute("spreadMethod");
-        return text == "reflect"  ? Gradient::Spread::Reflect
-               : text == "repeat" ? Gradient::Spread::Repeat
-                                  : Gradient::Spread::Pad;
+        constexpr Gradient::Spread kSpreads[] = {Gradient::Spread::Pad, Gradient::Spread::Reflect,
+                                                 Gradient::Spread::Repeat};
+        return kSpreads[choice("spreadMethod", {"pad", "reflect", "repeat"})];
     }
 
     std::vector<GradientStop> stops() const

@@ -119,7 +119,7 @@ TEST(RunningProgram, TriesAgainAndGivesUpInTheEnd)
     EXPECT_THROW(program.tryUntil(
                      "the sun", act, [] { return false; }, 50ms),
                  std::runtime_error);
-    EXPECT_EQ(tries, 3) << "not without trying";
+    EXPECT_GE(tries, 3) << "not without trying";
 }
 
 TEST(RunningProgram, ClicksAndPressesKeysAsAUserDoes)

@@ -341,6 +341,29 @@ TEST(SvgDrawing, ARadiusBelowZeroOfAGradientIsAsIfItWereNotThere)
     }
 }
 
+TEST(Gradients, ReportWordsThatNobodyKnows)
+{
+    const auto gradient = [](const std::string& attribute) {
+        return drawn("<linearGradient id='a' " + attribute +
+                     "><stop stop-color='red'/><stop offset='.5' stop-color='blue'/></linearGradient>"
+                     "<rect width='16' height='16' fill='url(#a)'/>");
+    };
+    const std::pair<const char*, std::vector<const char*>> known[] = {
+        {"spreadMethod", {"pad", "reflect", "repeat"}},
+        {"gradientUnits", {"objectBoundingBox", "userSpaceOnUse"}}};
+    for (const auto& [name, words] : known) {
+        for (const char* word : words)
+            EXPECT_THAT(gradient(std::string(name) + "='" + word + "'").notes, IsEmpty()) << word;
+        for (const char* word : {"", "mirror"}) {
+            const Pixels pixels = gradient(std::string(name) + "='" + word + "'");
+            EXPECT_TRUE(pixels == gradient("")) << name;
+            ASSERT_EQ(pixels.notes.size(), 1u) << name;
+            EXPECT_EQ(pixels.notes[0].issue, SvgIssue::BadValue);
+            EXPECT_EQ(pixels.notes[0].what, name);
+        }
+    }
+}
+
 TEST(SvgDrawing, StopsHaveColoursOfTheirOwn)
 {
     const auto at = [](const std::string& stops, int x) {
