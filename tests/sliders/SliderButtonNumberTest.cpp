@@ -157,6 +157,32 @@ TEST_F(SliderButton, TheTipIsTheStringOfTheBuddysNumberUpToTheLineFeed)
     EXPECT_EQ(utils.calls[4], L"show Width of the pen") << "it is loaded once";
 }
 
+TEST_F(SliderButton, AfterAWindowThatWentWithItsTipTheNextOneHasATipToo)
+{
+    const std::vector<std::wstring> tip{L"show Width of the pen"};
+    show();
+    button->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    ASSERT_EQ(utils.calls, tip);
+    button->DestroyWindow(); // as by Enter or Escape in a dialog that is opened again
+    utils.calls.clear();
+    button->SubclassWindow(::CreateWindowExW(0, L"Static", L"", WS_CHILD | WS_VISIBLE, 102, 10, 16, 22,
+                                             parent, reinterpret_cast<HMENU>(9), nullptr, nullptr));
+    button->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(utils.calls, tip);
+}
+
+TEST_F(SliderButton, WhileItIsPressedThereIsNoTip)
+{
+    const auto send = [this](UINT message) { button->SendMessage(message, 0, MAKELPARAM(5, 5)); };
+    show();
+    send(WM_LBUTTONDOWN);
+    send(WM_MOUSEMOVE);
+    EXPECT_TRUE(utils.calls.empty());
+    send(WM_LBUTTONUP);
+    send(WM_MOUSEMOVE);
+    EXPECT_EQ(utils.calls, (std::vector<std::wstring>{L"show Width of the pen"}));
+}
+
 TEST_F(SliderButton, WithoutATextThereIsNoTipForGood)
 {
     button->SetBuddy(other);
