@@ -112,6 +112,17 @@ TEST_F(SliderButton, PagesArePartsOfTheRange)
     EXPECT_EQ(::SendMessageW(slider(), TBM_GETPAGESIZE, 0, 0), 25);
 }
 
+TEST_F(SliderButton, UntoldTheRangesEndAtAHundred)
+{
+    CSliderButton untold(utils);
+    EXPECT_EQ(untold.Limits(), std::pair(0.0, 100.0));
+    for (const auto type :
+         {CSliderButton::SliderLinear, CSliderButton::SliderLogarithmic, CSliderButton::SliderSquareRoot}) {
+        untold.SetType(type);
+        EXPECT_EQ(untold.Limits(), std::pair(1.0, 100.0)) << type;
+    }
+}
+
 TEST_F(SliderButton, WithoutABuddyNothingIsWritten)
 {
     button->SetBuddy(nullptr);
