@@ -1,6 +1,8 @@
 // The number that a slider button's buddy shows, the host's conversions of it, and the tip.
 #include "SliderButtonScene.h"
 
+#include <ovoui/sliders/Separators.h>
+
 using namespace ovo::testkit;
 
 TEST_F(SliderButton, WholeNumbersGoRoundTheHostsConversions)
@@ -147,6 +149,22 @@ TEST_F(SliderButton, TheNumberIsReadAndShownBeforeTheButtonHasAWindow)
     EXPECT_EQ(early.Number().value_or(0), 2.5);
     early.ShowNumber(7);
     EXPECT_EQ(buddyText(), L"7,00 mm");
+}
+
+// What hosts convert with
+
+TEST(Separators, TheUsersSignsBecomeTheMachinesAndBack)
+{
+    EXPECT_EQ(change_from_intl_seps(L"1,5;'2,5'", L";", L','), L"1.5,'2,5'");
+    EXPECT_EQ(change_to_intl_seps(L"1.5,'2.5'", L";", L','), L"1,5;'2.5'");
+}
+
+TEST(Separators, NullStandsForNoSeparator)
+{
+    for (const wchar_t* const none : {static_cast<const wchar_t*>(nullptr), L""}) {
+        EXPECT_EQ(change_from_intl_seps(L"1,5;2", none, L','), L"1.5;2");
+        EXPECT_EQ(change_to_intl_seps(L"1.5,2", none, L','), L"1,52");
+    }
 }
 
 // The tip
