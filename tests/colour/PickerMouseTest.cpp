@@ -412,6 +412,28 @@ TEST_F(PickerMouse, AnErrorOfTheHostInAMoveEndsTheDragBeforeItIsShown)
     EXPECT_NEAR(hueNow(), 100, 0.7);
 }
 
+TEST_F(PickerMouse, TheHostMayCloseTheDialogAndRaiseInAMove)
+{
+    std::size_t boxes = 0;
+    for (const bool deletes : {false, true}) {
+        open();
+        const CPoint p = hue(50);
+        picker->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(p.x, p.y));
+        picker->onChange = [this, deletes](bool) {
+            picker->onChange = nullptr;
+            if (deletes)
+                picker.reset();
+            else
+                picker->DestroyWindow();
+            throw OvoError(L"No such colour");
+        };
+        picker->SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(p.x, p.y + 1));
+        EXPECT_EQ(TestApp::instance().boxes().size(), ++boxes);
+        EXPECT_EQ(picker == nullptr, deletes);
+        EXPECT_EQ(::GetCapture(), nullptr);
+    }
+}
+
 TEST_F(PickerMouse, CustomColoursMayCloseTheDialog)
 {
     for (const bool drop : {false, true}) {
