@@ -214,6 +214,7 @@ private:
     void takePureHue(CWnd* wnd, CPoint point);
     void beginDrag(CWnd* wnd, Drag drag);
     void beginPatchDrag(CWnd* wnd);
+    void followDrag(CWnd* wnd, CPoint point);
     void endByRelease(CWnd* wnd, CPoint point);
     void showDragCursor(CPoint point);
     void dropPatch(CWnd* wnd, CPoint point);

@@ -3,13 +3,16 @@
 
 #include <ovoui/colour/ColourWheelImage.h>
 #include <ovoui/colour/core/PickerGesture.h>
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/frame/PressWatch.h>
 #include <ovouires/resource.h>
 
 #include <utility>
 
 using namespace ovoui::colour;
+using ovoui::frame::keeping;
 using ovoui::frame::PressWatch;
+using ovoui::frame::raise;
 
 namespace
 {
@@ -127,8 +130,19 @@ bool ColPicker::DoMouseMove(CWnd* wnd, UINT, CPoint point)
     if (pickerAction(PickerInput::Move, m_drag, isOnSwatches(point)) == PickerAction::ShowTarget)
         showDragCursor(point);
     else
-        change(wnd, colourAt(m_drag, point), choosesHue(m_drag), false);
+        followDrag(wnd, point);
     return true;
+}
+
+/// What the host raises ends the drag before it is shown: the box needs the mouse.
+void ColPicker::followDrag(CWnd* wnd, CPoint point)
+{
+    const Lifeline::Watch watch(m_lifeline);
+    const std::exception_ptr raised =
+        keeping([&] { change(wnd, colourAt(m_drag, point), choosesHue(m_drag), false); });
+    if (raised && watch.alive() && wnd->m_hWnd)
+        cancelDrag(wnd);
+    raise(raised);
 }
 
 void ColPicker::showDragCursor(CPoint point)

@@ -103,6 +103,13 @@ CShadedTabCtrl::CShadedTabCtrl() = default;
 
 CShadedTabCtrl::~CShadedTabCtrl() = default;
 
+/// A picture of the window before, as of a dialog that is opened again, may have another size or theme.
+void CShadedTabCtrl::PreSubclassWindow()
+{
+    m_captured = false;
+    CTabCtrl::PreSubclassWindow();
+}
+
 // The picture
 
 void CShadedTabCtrl::captureBackground()

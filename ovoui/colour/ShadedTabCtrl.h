@@ -19,7 +19,7 @@
 /// Without visual styles there is no brush, and every control keeps what it has.
 ///
 /// The picture is taken when the brush is first asked for, after each change of the size, and anew after a
-/// change of the theme.
+/// change of the theme and for each window that the object gets.
 class OVOUI_API CShadedTabCtrl : public CTabCtrl
 {
     DECLARE_DYNAMIC(CShadedTabCtrl)
@@ -53,6 +53,8 @@ public:
 protected:
     /// Takes the picture anew. Nothing of this object may be used afterwards when painting has destroyed it.
     void captureBackground();
+
+    void PreSubclassWindow() override;
 
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     afx_msg void OnSize(UINT type, int width, int height);

@@ -21,6 +21,7 @@ BEGIN_MESSAGE_MAP(CAngleSlider, CWnd)
     ON_WM_LBUTTONDBLCLK()
     ON_WM_LBUTTONUP()
     ON_WM_CAPTURECHANGED()
+    ON_WM_DESTROY()
     ON_WM_MOUSEWHEEL()
     ON_WM_GETDLGCODE() // keyboard
     ON_WM_KEYDOWN()
@@ -130,6 +131,14 @@ void CAngleSlider::OnCaptureChanged(CWnd* wnd)
         announceValue();
     }
     CWnd::OnCaptureChanged(wnd);
+}
+
+/// A window that goes in the middle of a drag may lose the capture without a word. The next one of this
+/// object begins without a drag.
+void CAngleSlider::OnDestroy()
+{
+    m_drag->cancel();
+    CWnd::OnDestroy();
 }
 
 /// Whether the slider still has its window afterwards.

@@ -76,6 +76,7 @@ protected:
 
     afx_msg void OnCaptureChanged(CWnd* wnd);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
+    afx_msg void OnDestroy();
     afx_msg void OnEnable(BOOL enable);
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg UINT OnGetDlgCode();

@@ -72,6 +72,7 @@ void CSliderButton::OnDestroy()
 {
     m_parts->pressed = false;
     m_parts->drag.end();
+    m_parts->tip.leave(); // nobody tells a window that is gone that the pointer has left it
     m_parts->watcher.reset();
     m_parts->theme.forget();
     m_parts->bubble.DestroyWindow();

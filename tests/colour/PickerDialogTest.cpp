@@ -218,6 +218,21 @@ TEST_F(PickerDialog, ModelessItMayBeOpenedAgain)
     EXPECT_EQ(picker->text(kValue2), L"128");
 }
 
+TEST_F(PickerDialog, WithoutSwatchesAllCustomColoursAreOne)
+{
+    struct Reaching : ColPickerDlg
+    {
+        using ColPickerDlg::ColPickerDlg;
+        using ColPickerDlg::customCols;
+    };
+    Reaching one(TestApp::instance(), ColPickerModeRGB, kOrange, nullptr, nullptr);
+    Reaching other(TestApp::instance(), ColPickerModeHSV, kOrange, nullptr, nullptr);
+    for (int i = 0; i < 18; ++i) {
+        EXPECT_EQ(&one.customCols(i), &one.customCols(0)) << i;
+        EXPECT_EQ(&other.customCols(i), &one.customCols(0)) << i;
+    }
+}
+
 // Templates of hosts
 
 TEST_F(PickerDialog, AHostsTemplateBeginsWithRedGreenAndBlueWithoutAlpha)

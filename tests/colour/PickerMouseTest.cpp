@@ -392,6 +392,48 @@ TEST_F(PickerMouse, AnErrorOfTheHostEndsTheDragAndIsShown)
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
+TEST_F(PickerMouse, AnErrorOfTheHostInAMoveEndsTheDragBeforeItIsShown)
+{
+    open();
+    const auto send = [this](UINT message, CPoint p) {
+        picker->SendMessage(message, MK_LBUTTON, MAKELPARAM(p.x, p.y));
+    };
+    send(WM_LBUTTONDOWN, hue(50));
+    ASSERT_EQ(::GetCapture(), picker->m_hWnd);
+    picker->onChange = [](bool) { throw OvoError(L"No such colour"); };
+    send(WM_MOUSEMOVE, hue(100));
+    ASSERT_EQ(TestApp::instance().boxes().size(), 1u);
+    EXPECT_EQ(picker->m_drag, Picker::Drag::None);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    picker->told.clear();
+    send(WM_MOUSEMOVE, hue(150));
+    send(WM_LBUTTONUP, hue(150));
+    EXPECT_TRUE(picker->told.empty()) << "the moves after it and the release count no more";
+    EXPECT_NEAR(hueNow(), 100, 0.7);
+}
+
+TEST_F(PickerMouse, TheHostMayCloseTheDialogAndRaiseInAMove)
+{
+    std::size_t boxes = 0;
+    for (const bool deletes : {false, true}) {
+        open();
+        const CPoint p = hue(50);
+        picker->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(p.x, p.y));
+        picker->onChange = [this, deletes](bool) {
+            picker->onChange = nullptr;
+            if (deletes)
+                picker.reset();
+            else
+                picker->DestroyWindow();
+            throw OvoError(L"No such colour");
+        };
+        picker->SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(p.x, p.y + 1));
+        EXPECT_EQ(TestApp::instance().boxes().size(), ++boxes);
+        EXPECT_EQ(picker == nullptr, deletes);
+        EXPECT_EQ(::GetCapture(), nullptr);
+    }
+}
+
 TEST_F(PickerMouse, CustomColoursMayCloseTheDialog)
 {
     for (const bool drop : {false, true}) {

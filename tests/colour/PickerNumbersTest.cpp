@@ -326,6 +326,14 @@ TEST_F(PickerNumbers, TheUserMovesASliderByKeys)
         EXPECT_TRUE(final);
 }
 
+TEST_F(PickerNumbers, ASliderThatEndsWhereItWasIsToldAsFinalToo)
+{
+    open(ColPickerModeRGB, Colour::rgba(1, 0.2, 0, 1));
+    picker->SendMessage(WM_HSCROLL, SB_ENDSCROLL, reinterpret_cast<LPARAM>(picker->m_slider1.m_hWnd));
+    EXPECT_EQ(picker->told, (std::vector<bool>{true}));
+    expectColour(picker->GetColour(), 1, 0.2, 0);
+}
+
 TEST_F(PickerNumbers, TheHueOfAGreyIsMovedBySlider)
 {
     open(ColPickerModeHLS, Colour::hlsa(Angle::degrees(10), 0.5, 0, 1));

@@ -288,6 +288,27 @@ TEST_F(ShadedTabCtrl, WithoutAWindowThereIsNone)
     EXPECT_EQ(brush, white());
 }
 
+TEST_F(ShadedTabCtrl, EachWindowOfTheObjectHasAPictureOfItsOwn)
+{
+    NEEDS_THEMES();
+    PatternTabs again;
+    HBRUSH brush = nullptr;
+    CPoint origin;
+    EXPECT_FALSE(again.GetBackgroundBrush(brush, origin, nullptr)) << "there is no window yet";
+    for (const int size : {50, 80}) { // as in a dialog that is opened again and has another font then
+        again.SubclassWindow(::CreateWindowExW(0, WC_TABCONTROLW, L"", WS_CHILD, 0, 0, size, size,
+                                               frame.m_hWnd, nullptr, nullptr, nullptr));
+        ASSERT_TRUE(again.GetBackgroundBrush(brush, origin, &again)) << size;
+        const Picture picture(100, 10);
+        const RECT all{0, 0, 100, 10};
+        ::SetBrushOrgEx(picture.dc(), 0, 0, nullptr);
+        ::FillRect(picture.dc(), &all, brush);
+        EXPECT_EQ(picture.at(size - 1, 5), pixelOf(size - 1, 5));
+        EXPECT_EQ(picture.at(size, 5), pixelOf(0, 5)) << "the pattern begins again";
+        again.DestroyWindow();
+    }
+}
+
 TEST_F(ShadedTabCtrl, NothingIsLostHoweverOftenItIsTaken)
 {
     const auto cycle = [this] {

@@ -243,6 +243,22 @@ TEST_F(AngleSlider, LosingTheCaptureEndsTheDragWithoutAWord)
     EXPECT_EQ(Picture::ofClient(round->m_hWnd).differences(before), 0) << "the committed angle shows again";
 }
 
+TEST_F(AngleSlider, AWindowThatGoesInADragLeavesNoneToTheNext)
+{
+    const auto send = [this](UINT message, int x) { round->SendMessage(message, 0, MAKELPARAM(2 + x, 20)); };
+    round->SetPos(10);
+    send(WM_LBUTTONDOWN, 100);
+    send(WM_MOUSEMOVE, 50);
+    ASSERT_EQ(parent.told.size(), 1u);
+    round->DestroyWindow(); // as by Escape in a dialog
+    parent.told.clear();
+    round->Create(WS_CHILD | WS_VISIBLE, kSideways, &parent, 5);
+    send(WM_MOUSEMOVE, 150);
+    send(WM_LBUTTONUP, 150);
+    EXPECT_TRUE(parent.told.empty());
+    EXPECT_EQ(round->GetPos(), 10);
+}
+
 TEST_F(AngleSlider, SetPosDuringADragShowsWhenTheDragIsOver)
 {
     user.press(onRound(100)).moveBy(-50, 0).then([&] {

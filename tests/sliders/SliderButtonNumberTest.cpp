@@ -1,6 +1,8 @@
 // The number that a slider button's buddy shows, the host's conversions of it, and the tip.
 #include "SliderButtonScene.h"
 
+#include <ovoui/sliders/Separators.h>
+
 using namespace ovo::testkit;
 
 TEST_F(SliderButton, WholeNumbersGoRoundTheHostsConversions)
@@ -112,6 +114,17 @@ TEST_F(SliderButton, PagesArePartsOfTheRange)
     EXPECT_EQ(::SendMessageW(slider(), TBM_GETPAGESIZE, 0, 0), 25);
 }
 
+TEST_F(SliderButton, UntoldTheRangesEndAtAHundred)
+{
+    CSliderButton untold(utils);
+    EXPECT_EQ(untold.Limits(), std::pair(0.0, 100.0));
+    for (const auto type :
+         {CSliderButton::SliderLinear, CSliderButton::SliderLogarithmic, CSliderButton::SliderSquareRoot}) {
+        untold.SetType(type);
+        EXPECT_EQ(untold.Limits(), std::pair(1.0, 100.0)) << type;
+    }
+}
+
 TEST_F(SliderButton, WithoutABuddyNothingIsWritten)
 {
     button->SetBuddy(nullptr);
@@ -138,6 +151,22 @@ TEST_F(SliderButton, TheNumberIsReadAndShownBeforeTheButtonHasAWindow)
     EXPECT_EQ(buddyText(), L"7,00 mm");
 }
 
+// What hosts convert with
+
+TEST(Separators, TheUsersSignsBecomeTheMachinesAndBack)
+{
+    EXPECT_EQ(change_from_intl_seps(L"1,5;'2,5'", L";", L','), L"1.5,'2,5'");
+    EXPECT_EQ(change_to_intl_seps(L"1.5,'2.5'", L";", L','), L"1,5;'2.5'");
+}
+
+TEST(Separators, NullStandsForNoSeparator)
+{
+    for (const wchar_t* const none : {static_cast<const wchar_t*>(nullptr), L""}) {
+        EXPECT_EQ(change_from_intl_seps(L"1,5;2", none, L','), L"1.5;2");
+        EXPECT_EQ(change_to_intl_seps(L"1.5,2", none, L','), L"1,52");
+    }
+}
+
 // The tip
 
 TEST_F(SliderButton, TheTipIsTheStringOfTheBuddysNumberUpToTheLineFeed)
@@ -155,6 +184,32 @@ TEST_F(SliderButton, TheTipIsTheStringOfTheBuddysNumberUpToTheLineFeed)
     button->SetBuddy(other);
     user.moveTo(Spot{*button}).waitFor("the tip again", [&] { return utils.calls.size() == 5; });
     EXPECT_EQ(utils.calls[4], L"show Width of the pen") << "it is loaded once";
+}
+
+TEST_F(SliderButton, AfterAWindowThatWentWithItsTipTheNextOneHasATipToo)
+{
+    const std::vector<std::wstring> tip{L"show Width of the pen"};
+    show();
+    button->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    ASSERT_EQ(utils.calls, tip);
+    button->DestroyWindow(); // as by Enter or Escape in a dialog that is opened again
+    utils.calls.clear();
+    button->SubclassWindow(::CreateWindowExW(0, L"Static", L"", WS_CHILD | WS_VISIBLE, 102, 10, 16, 22,
+                                             parent, reinterpret_cast<HMENU>(9), nullptr, nullptr));
+    button->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(utils.calls, tip);
+}
+
+TEST_F(SliderButton, WhileItIsPressedThereIsNoTip)
+{
+    const auto send = [this](UINT message) { button->SendMessage(message, 0, MAKELPARAM(5, 5)); };
+    show();
+    send(WM_LBUTTONDOWN);
+    send(WM_MOUSEMOVE);
+    EXPECT_TRUE(utils.calls.empty());
+    send(WM_LBUTTONUP);
+    send(WM_MOUSEMOVE);
+    EXPECT_EQ(utils.calls, (std::vector<std::wstring>{L"show Width of the pen"}));
 }
 
 TEST_F(SliderButton, WithoutATextThereIsNoTipForGood)
