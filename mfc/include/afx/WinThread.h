@@ -64,9 +64,10 @@ OVOMFC_API CWinThread* AFXAPI AfxGetThread();
 /// The main window of the running thread, or NULL.
 OVOMFC_API CWnd* AFXAPI AfxGetMainWnd();
 OVOMFC_API MSG* AFXAPI AfxGetCurrentMessage();
-/// The running thread's loop: one message, or, while it is empty, idle work.
+/// Waits for a message to the running thread and handles it, without idle work; FALSE for WM_QUIT.
 OVOMFC_API BOOL AFXAPI AfxPumpMessage();
 /// Ends the thread's loop.
 OVOMFC_API void AFXAPI AfxPostQuitMessage(int exitCode);
-/// Offers a message to the windows from `message.hwnd` up to `stop`; TRUE when one is done with it.
+/// Offers a message to the windows that may want it before it is dispatched, as the running thread's
+/// PreTranslateMessage does; TRUE when one is done with it.
 OVOMFC_API BOOL AFXAPI AfxPreTranslateMessage(MSG* message);

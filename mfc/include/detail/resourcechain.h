@@ -19,4 +19,7 @@ std::wstring_view stringResource(HINSTANCE module, UINT id, WORD language);
 /// another module may have the block, but not the string.
 std::wstring_view stringResource(UINT id);
 
+/// The module of that string, for controls that load it themselves; the current one when none has it.
+HINSTANCE moduleOfString(UINT id);
+
 } // namespace afxdetail

@@ -3,6 +3,7 @@
 #include <afxcmn.h>
 
 #include <detail/handleof.h>
+#include <detail/resourcechain.h>
 #include <detail/send.h>
 
 using afxdetail::controlFrom;
@@ -157,8 +158,7 @@ void CToolBarCtrl::LoadImages(int bitmapId, HINSTANCE instance)
 
 int CToolBarCtrl::AddString(UINT stringId)
 {
-    const LPCTSTR block = MAKEINTRESOURCEW(stringId / 16 + 1); // strings come in blocks of 16
-    return send<int>(*this, TB_ADDSTRINGW, AfxFindResourceHandle(block, RT_STRING), stringId);
+    return send<int>(*this, TB_ADDSTRINGW, afxdetail::moduleOfString(stringId), stringId);
 }
 
 int CToolBarCtrl::AddStrings(LPCTSTR strings)

@@ -2,6 +2,7 @@
 #include <afxcmn.h>
 
 #include <detail/handleof.h>
+#include <detail/resourcechain.h>
 #include <detail/send.h>
 
 using afxdetail::handleOf;
@@ -31,8 +32,7 @@ TOOLINFO toolOf(const CWnd* window, UINT_PTR id)
 /// Makes a string resource the text of a tool.
 void setText(TOOLINFO& info, UINT textId)
 {
-    const LPCTSTR block = MAKEINTRESOURCEW(textId / 16 + 1); // strings come in blocks of 16
-    info.hinst = AfxFindResourceHandle(block, RT_STRING);
+    info.hinst = afxdetail::moduleOfString(textId);
     info.lpszText = MAKEINTRESOURCEW(textId);
 }
 

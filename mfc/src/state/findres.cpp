@@ -57,6 +57,13 @@ std::wstring_view afxdetail::stringResource(UINT id)
     return text;
 }
 
+HINSTANCE afxdetail::moduleOfString(UINT id)
+{
+    const HINSTANCE found = firstInResourceChain(
+        [id](HINSTANCE module) { return !stringResource(module, id, kAnyLanguage).empty(); });
+    return found ? found : AfxGetResourceHandle();
+}
+
 HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR name, LPCTSTR type)
 {
     const HINSTANCE found = afxdetail::firstInResourceChain(

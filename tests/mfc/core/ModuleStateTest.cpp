@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include <stdexcept>
+#include <vector>
 
 TEST(ModuleState, TheProgramIsTheInstance)
 {
@@ -40,18 +41,25 @@ TEST(ModuleState, AProgramAndItsExtensionsShareOne)
 TEST(ModuleState, ManagingItHoldsForAScope)
 {
     AFX_MODULE_STATE* const before = AfxGetModuleState();
+    int places[2]{}; // nothing looks into a state that only stands for another
+    auto* const outer = reinterpret_cast<AFX_MODULE_STATE*>(&places[0]);
+    auto* const inner = reinterpret_cast<AFX_MODULE_STATE*>(&places[1]);
+    std::vector<AFX_MODULE_STATE*> seen;
     const auto method = [&](bool fails) {
-        AFX_MANAGE_STATE(AfxGetStaticModuleState())
+        AFX_MANAGE_STATE(outer)
         {
-            AFX_MANAGE_STATE(AfxGetAppModuleState());
-            EXPECT_EQ(AfxGetApp(), &ovo::testkit::TestApp::instance());
+            AFX_MANAGE_STATE(inner);
+            seen.push_back(AfxGetModuleState());
         }
+        seen.push_back(AfxGetModuleState());
         if (fails)
             throw std::runtime_error("from a method");
     };
     method(false);
+    seen.push_back(AfxGetModuleState());
     EXPECT_THROW(method(true), std::runtime_error);
-    EXPECT_EQ(AfxGetModuleState(), before);
+    seen.push_back(AfxGetModuleState());
+    EXPECT_EQ(seen, (std::vector<AFX_MODULE_STATE*>{inner, outer, before, inner, outer, before}));
 }
 
 TEST(ModuleState, TheMainWindowIsTheThreads)

@@ -1,5 +1,6 @@
 // The messages behind the common controls' members that Wine's controls do not answer, or not visibly.
 #include "MessageSpy.h"
+#include "resource.h"
 
 #include <gtest/gtest.h>
 #include <testkit/RecordingParent.h>
@@ -299,6 +300,16 @@ TEST(CommonControlMessages, OfToolbars)
     EXPECT_EQ(spy.of([=](CToolBarCtrl& c) { c.SetWindowTheme(theme); }),
               (Sent{TB_SETWINDOWTHEME, 0, asLParam(theme)}));
     EXPECT_EQ(spy.of([&](CToolBarCtrl& c) { c.GetDropTarget(&target); }).lParam, asLParam(&target));
+}
+
+TEST(CommonControlMessages, OfToolbarsNameTheModuleThatHasTheString)
+{
+    Spied<CToolBarCtrl> scene;
+    const auto module = [&](UINT id) {
+        return scene.spy.of([id](CToolBarCtrl& c) { c.AddString(id); }).wParam;
+    };
+    EXPECT_EQ(module(AFX_IDS_IDLEMESSAGE), asWParam(::GetModuleHandleW(L"ovomfc.dll")));
+    EXPECT_EQ(module(IDS_BESIDE_READY), asWParam(::GetModuleHandleW(nullptr))) << "of the same block";
 }
 
 TEST(CommonControlMessages, OfTooltips)

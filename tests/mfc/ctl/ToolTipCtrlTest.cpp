@@ -71,6 +71,16 @@ TEST_F(ToolTipCtrlTest, ATextMayComeFromTheResources)
     EXPECT_STREQ(textOf(parent, 1), L"From the resources");
 }
 
+TEST_F(ToolTipCtrlTest, ATextIsFoundWhereItIsAndNotWhereItsBlockIs)
+{
+    CString ready;
+    ASSERT_TRUE(ready.LoadString(AFX_IDS_IDLEMESSAGE));
+    EXPECT_TRUE(tip.AddTool(&button, AFX_IDS_IDLEMESSAGE));
+    EXPECT_STREQ(textOf(button), ready);
+    tip.UpdateTipText(IDS_BESIDE_READY, &button);
+    EXPECT_STREQ(textOf(button), L"Beside the framework's");
+}
+
 TEST_F(ToolTipCtrlTest, ATextOnDemandIsAskedOfTheWindow)
 {
     parent.answer(TTN_GETDISPINFOW, [](NMHDR* header) {

@@ -10,3 +10,4 @@
 
 #define IDS_TIP 201
 #define IDS_BUTTONS 202
+#define IDS_BESIDE_READY 0xE00F // in the block of AFX_IDS_IDLEMESSAGE, which only the framework has

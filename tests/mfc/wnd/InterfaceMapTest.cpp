@@ -21,6 +21,7 @@ public:
 
 public:
     CLSID m_id = {0x1234, 0, 0, {0}};
+    AFX_MODULE_STATE* m_stateInMethod = nullptr;
 };
 
 int Persisting::s_deleted = 0;
@@ -50,6 +51,7 @@ STDMETHODIMP Persisting::XPersist::QueryInterface(REFIID iid, LPVOID* object)
 STDMETHODIMP Persisting::XPersist::GetClassID(CLSID* id)
 {
     METHOD_PROLOGUE(Persisting, Persist)
+    pThis->m_stateInMethod = AfxGetModuleState();
     *id = pThis->m_id;
     return S_OK;
 }
@@ -188,9 +190,14 @@ TEST(InterfaceMap, ReferencesOfAnObjectInAnotherGoToTheOuterOne)
 
 TEST(InterfaceMap, AMethodWorksInTheStateOfItsModule)
 {
+    AFX_MODULE_STATE* const program = AfxGetModuleState();
     Persisting object;
-    EXPECT_EQ(object.m_pModuleState, AfxGetModuleState());
+    EXPECT_EQ(object.m_pModuleState, program);
+    int place = 0; // nothing looks into a state that only stands for another
+    auto* const other = reinterpret_cast<AFX_MODULE_STATE*>(&place);
+    object.m_pModuleState = other;
     CLSID id{};
     object.m_xPersist.GetClassID(&id);
-    EXPECT_EQ(object.m_pModuleState, AfxGetModuleState());
+    EXPECT_EQ(object.m_stateInMethod, other);
+    EXPECT_EQ(AfxGetModuleState(), program) << "again";
 }
