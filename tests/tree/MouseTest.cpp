@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace ovo::testkit;
 
 namespace
@@ -43,6 +45,21 @@ HWND WINAPI noCapture(HWND)
 BOOL WINAPI noMessage(LPMSG, HWND, UINT, UINT, UINT)
 {
     return FALSE;
+}
+
+/// Drag rectangles that are 10 pixels wide and 80 high, 75 of these below the press.
+int WINAPI highDragArea(int index)
+{
+    if (index == SM_CXDRAG)
+        return 10;
+    return index == SM_CYDRAG ? 80 : ::GetSystemMetrics(index);
+}
+
+/// In front of the tree: counts the keys that go down.
+LRESULT CALLBACK countKeys(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR count)
+{
+    *reinterpret_cast<int*>(count) += message == WM_KEYDOWN ? 1 : 0;
+    return ::DefSubclassProc(window, message, wParam, lParam);
 }
 
 /// Between the tree and the tree view's own procedure: notes the clicks that reach this one, and keeps them.
@@ -316,6 +333,41 @@ TEST(TreeMouse, APressThatStaysWithinTheDragRectangleIsAClick)
     scene.user.press(scene.label("b")).moveBy(1, 0).moveBy(-1, 0).release();
     EXPECT_EQ(scene.parent().log().count(static_cast<UINT>(TVN_BEGINDRAGW)), 0);
     EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+/// By messages, which the wait finds in the queue: no time passes.
+TEST(TreeMouse, TheDragRectangleIsTheSystems)
+{
+    const ImportPatch high(L"ovoui.dll", "GetSystemMetrics", reinterpret_cast<void*>(&highDragArea));
+    for (const auto& [right, down, drags] :
+         {std::tuple{0, 60, 0}, std::tuple{0, -20, 1}, std::tuple{20, 0, 1}, std::tuple{-3, -3, 0}}) {
+        SCOPED_TRACE(std::to_string(right) + ", " + std::to_string(down));
+        Scene scene{{"a", "b", "c"}};
+        const CPoint at = scene.labelPoint("c");
+        const LPARAM moved = MAKELPARAM(at.x + right, at.y + down);
+        scene.tree.PostMessage(WM_MOUSEMOVE, MK_LBUTTON, moved);
+        scene.tree.PostMessage(WM_LBUTTONUP, 0, moved);
+        scene.tree.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+        EXPECT_EQ(dragsBegun(scene), drags);
+        EXPECT_EQ(scene.selected(), Names{"c"});
+    }
+}
+
+TEST(TreeMouse, EscapeThatEndsTheWaitIsNoKeyForTheTree)
+{
+    for (const auto& [key, reaches] : {std::pair<WPARAM, int>{VK_ESCAPE, 0}, {VK_F8, 1}}) {
+        Scene scene{{"a", "b"}};
+        int keys = 0;
+        ASSERT_TRUE(
+            ::SetWindowSubclass(scene.tree.m_hWnd, &countKeys, 1, reinterpret_cast<DWORD_PTR>(&keys)));
+        const CPoint at = scene.labelPoint("b");
+        scene.tree.PostMessage(WM_KEYDOWN, key, 1);
+        scene.tree.PostMessage(WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+        scene.tree.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+        EXPECT_EQ(keys, reaches) << key;
+        EXPECT_EQ(dragsBegun(scene), 0);
+        ::RemoveWindowSubclass(scene.tree.m_hWnd, &countKeys, 1);
+    }
 }
 
 TEST(TreeMouse, HoldingTheButtonStillStartsADrag)
