@@ -45,12 +45,14 @@ LRESULT MultiTreeCtrl::OnEditLabelAgain(WPARAM, LPARAM)
     return 0;
 }
 
+/// An editor that opened under a modal dialog would get no key, and would stay open behind it.
 void MultiTreeCtrl::OnTimer(UINT_PTR id)
 {
-    if (const HTREEITEM item = m_state->mouse->takeItemToEdit(id))
-        m_state->labelEdit->edit(item);
-    else
+    const HTREEITEM item = m_state->mouse->takeItemToEdit(id);
+    if (!item)
         CTreeCtrl::OnTimer(id);
+    else if (IsWindowEnabled() && ::IsWindowEnabled(::GetAncestor(m_hWnd, GA_ROOT)))
+        m_state->labelEdit->edit(item);
 }
 
 // Editing

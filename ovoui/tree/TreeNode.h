@@ -36,7 +36,8 @@ public:
     Node& operator=(const Node&) = delete;
 
     /// Shows this node in `tree`, under `parent` behind `after`; both are items or the tree view's TVI_
-    /// markers. Gives the new item, or null on failure: the node is then as it was before.
+    /// markers. `state` keeps its cut, drop-highlighted and bold bits alone. Gives the new item, or null on
+    /// failure: nothing else of the node has changed then.
     HTREEITEM insert(MultiTreeCtrl& tree, HTREEITEM parent, HTREEITEM after);
 
     /// Sets the item's label to text(). Nothing without an item.
@@ -53,7 +54,7 @@ public:
     /// The default action: double click, Enter.
     virtual void activate(MultiTreeCtrl& tree) = 0;
     /// The item is about to open: inserts the children (by Node::insert) and gives true. False, as by
-    /// default, keeps it closed.
+    /// default, keeps it closed; after an error it opens with what was inserted.
     virtual bool expand(MultiTreeCtrl& tree);
     /// The text of the tooltip; empty, as by default, for none.
     virtual std::wstring infotip(MultiTreeCtrl& tree) const;

@@ -708,6 +708,7 @@ TEST(TreeErasing, TheQuestionNamesASingleNode)
     CommandScene scene({"a", "plan"});
     scene.node("plan").erasable = true;
     scene.user.click(scene.label("plan"));
+    scene.forget();
     const Answer no(scene.user, VK_ESCAPE);
     // Escape is no answer to Yes or No: the box is left by its No.
     auto answering = scene.user.waitFor("the box to ignore Escape", [] { return shownDialog() != nullptr; })
@@ -716,6 +717,8 @@ TEST(TreeErasing, TheQuestionNamesASingleNode)
     scene.tree.eraseSelectedNodes();
     EXPECT_EQ(no.text, L"Are you sure you want to delete \u201Cplan\u201D?");
     EXPECT_EQ(scene.all(), (Names{"a", "plan"}));
+    EXPECT_EQ(scene.journal, Journal{}) << "the node hears of nothing before the answer";
+    EXPECT_EQ(scene.changes(), Changes{});
 }
 
 TEST(TreeErasing, TheQuestionOpensWhereTheUserHasPutMessages)

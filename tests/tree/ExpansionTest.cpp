@@ -156,6 +156,30 @@ TEST(TreeExpansion, AnErrorIsReportedAndTheItemShowsTheNodesState)
     EXPECT_EQ(scene.tree.errors, (Journal{"what?"}));
 }
 
+/// Only a node that says so keeps its item closed.
+TEST(TreeExpansion, AnItemOpensWithTheChildrenThatWereMadeBeforeAnError)
+{
+    Scene scene{{"a", "b"}};
+    for (const char* name : {"a", "b"}) {
+        TestNode& node = folder(scene, name, {});
+        node.expanding = [&node](MultiTreeCtrl& tree) -> bool {
+            node.state |= TVIS_BOLD;
+            node.name += "!";
+            if (node.name == "a!")
+                (new TestNode("x"))->insert(tree, node.hTreeItem(), TVI_LAST);
+            throw OvoError(L"the rest cannot be read");
+        };
+        scene.tree.Expand(node.hTreeItem(), TVE_EXPAND);
+        EXPECT_EQ(scene.tree.errors, (Journal{"the rest cannot be read"}));
+    }
+    EXPECT_EQ(scene.all(), (Names{"a!", "x", "b!"})) << "the items show what the nodes are now";
+    EXPECT_TRUE(scene.isExpanded("a!"));
+    EXPECT_TRUE(scene.node("a!").expanded());
+    EXPECT_EQ(imageOf(scene, "a!"), 2);
+    for (const char* name : {"a!", "b!"})
+        EXPECT_NE(scene.tree.GetItemState(scene.item(name), TVIS_BOLD), 0u) << name;
+}
+
 TEST(TreeExpansion, AForeignExceptionPassesOnAndTheTreeGoesOnWorking)
 {
     Scene scene{{"a", "b"}};

@@ -226,6 +226,14 @@ TEST(TreeKeys, EnterAndSpaceActivateAllSelectedNodes)
     EXPECT_EQ(scene.journal, expected);
 }
 
+TEST(TreeKeys, EnterIsAGestureWhereNothingIsSelected)
+{
+    KeyScene scene({"a"}, "a");
+    scene.tree.clearselection(scene.tree.GetRootItem());
+    scene.user.key(VK_RETURN);
+    EXPECT_EQ(scene.journal, (Journal{"gesture 1118", "gesture 0"})) << "the caret alone is not activated";
+}
+
 TEST(TreeKeys, EnterWithAltDoesNothing)
 {
     KeyScene scene({"a"}, "a");

@@ -38,6 +38,15 @@ public:
             edit->GetWindowText(text);
         return narrow(text.GetString());
     }
+
+    /// A click by messages: no time passes until the edit's timer is asked to run out.
+    void clickNow(const std::string& name)
+    {
+        const CPoint at = labelPoint(name);
+        tree.PostMessage(WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+        tree.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    }
+    void letTheTimeRunOut() { tree.SendMessage(WM_TIMER, 2115); }
 };
 
 } // namespace
@@ -252,6 +261,35 @@ TEST(TreeLabelEdit, ADoubleClickComesBeforeTheEditor)
     });
     EXPECT_FALSE(scene.isEditing());
     EXPECT_EQ(scene.journal, (Journal{"gesture 1118", "activate a", "gesture 0"}));
+}
+
+TEST(TreeLabelEdit, ARightDoubleClickComesBeforeTheEditor)
+{
+    EditScene scene({"a"});
+    scene.clickNow("a");
+    const CPoint at = scene.labelPoint("a");
+    scene.tree.SendMessage(WM_RBUTTONDBLCLK, MK_RBUTTON, MAKELPARAM(at.x, at.y));
+    scene.letTheTimeRunOut();
+    EXPECT_FALSE(scene.isEditing());
+    EXPECT_EQ(scene.selected(), Names{"a"});
+}
+
+/// As when Enter comes right after the second click, and the node shows a modal dialog.
+TEST(TreeLabelEdit, NoEditorOpensWhereNobodyCouldType)
+{
+    for (const bool disabled : {false, true}) {
+        SCOPED_TRACE(disabled);
+        EditScene scene({"a", "b"});
+        scene.clickNow("a");
+        scene.parent().EnableWindow(!disabled);
+        scene.letTheTimeRunOut();
+        EXPECT_EQ(scene.isEditing(), !disabled);
+        EXPECT_EQ(scene.selected(), disabled ? Names{"a"} : Names{});
+        scene.parent().EnableWindow(TRUE);
+        scene.letTheTimeRunOut();
+        EXPECT_EQ(scene.isEditing(), !disabled) << "the click is forgotten";
+        scene.tree.EndEditLabelNow(TRUE);
+    }
 }
 
 TEST(TreeLabelEdit, OkKeepsTheTextOfAnOpenEditor)

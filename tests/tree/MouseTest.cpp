@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace ovo::testkit;
 
 namespace
@@ -43,6 +45,30 @@ HWND WINAPI noCapture(HWND)
 BOOL WINAPI noMessage(LPMSG, HWND, UINT, UINT, UINT)
 {
     return FALSE;
+}
+
+/// Drag rectangles that are 10 pixels wide and 80 high, 75 of these below the press.
+int WINAPI highDragArea(int index)
+{
+    if (index == SM_CXDRAG)
+        return 10;
+    return index == SM_CYDRAG ? 80 : ::GetSystemMetrics(index);
+}
+
+/// In front of the tree: counts the keys that go down.
+LRESULT CALLBACK countKeys(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR count)
+{
+    *reinterpret_cast<int*>(count) += message == WM_KEYDOWN ? 1 : 0;
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+/// Between the tree and the tree view's own procedure: notes the clicks that reach this one, and keeps them.
+LRESULT CALLBACK keepClicks(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR kept)
+{
+    if (message < WM_LBUTTONDOWN || message > WM_RBUTTONDBLCLK)
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    reinterpret_cast<std::vector<UINT>*>(kept)->push_back(message);
+    return 0;
 }
 
 } // namespace
@@ -245,6 +271,18 @@ TEST(TreeMouse, ShiftClickBelowTheLastItemGoesToIt)
     EXPECT_EQ(scene.caret(), "c");
 }
 
+/// As while something else has the mouse captured.
+TEST(TreeMouse, ShiftClickAboveTheTreeGoesToTheFirstItem)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.click(scene.label("b"));
+    scene.forget();
+    scene.tree.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, MAKELPARAM(20, -5));
+    EXPECT_EQ(scene.selected(), (Names{"a", "b"}));
+    EXPECT_EQ(scene.caret(), "a");
+    EXPECT_EQ(scene.changes(), (Changes{{TVC_BYMOUSE, "b", "a"}}));
+}
+
 TEST(TreeMouse, ShiftClickInAnEmptyTreeIsNothing)
 {
     Scene scene;
@@ -297,6 +335,41 @@ TEST(TreeMouse, APressThatStaysWithinTheDragRectangleIsAClick)
     EXPECT_EQ(scene.selected(), Names{"b"});
 }
 
+/// By messages, which the wait finds in the queue: no time passes.
+TEST(TreeMouse, TheDragRectangleIsTheSystems)
+{
+    const ImportPatch high(L"ovoui.dll", "GetSystemMetrics", reinterpret_cast<void*>(&highDragArea));
+    for (const auto& [right, down, drags] :
+         {std::tuple{0, 60, 0}, std::tuple{0, -20, 1}, std::tuple{20, 0, 1}, std::tuple{-3, -3, 0}}) {
+        SCOPED_TRACE(std::to_string(right) + ", " + std::to_string(down));
+        Scene scene{{"a", "b", "c"}};
+        const CPoint at = scene.labelPoint("c");
+        const LPARAM moved = MAKELPARAM(at.x + right, at.y + down);
+        scene.tree.PostMessage(WM_MOUSEMOVE, MK_LBUTTON, moved);
+        scene.tree.PostMessage(WM_LBUTTONUP, 0, moved);
+        scene.tree.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+        EXPECT_EQ(dragsBegun(scene), drags);
+        EXPECT_EQ(scene.selected(), Names{"c"});
+    }
+}
+
+TEST(TreeMouse, EscapeThatEndsTheWaitIsNoKeyForTheTree)
+{
+    for (const auto& [key, reaches] : {std::pair<WPARAM, int>{VK_ESCAPE, 0}, {VK_F8, 1}}) {
+        Scene scene{{"a", "b"}};
+        int keys = 0;
+        ASSERT_TRUE(
+            ::SetWindowSubclass(scene.tree.m_hWnd, &countKeys, 1, reinterpret_cast<DWORD_PTR>(&keys)));
+        const CPoint at = scene.labelPoint("b");
+        scene.tree.PostMessage(WM_KEYDOWN, key, 1);
+        scene.tree.PostMessage(WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+        scene.tree.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+        EXPECT_EQ(keys, reaches) << key;
+        EXPECT_EQ(dragsBegun(scene), 0);
+        ::RemoveWindowSubclass(scene.tree.m_hWnd, &countKeys, 1);
+    }
+}
+
 TEST(TreeMouse, HoldingTheButtonStillStartsADrag)
 {
     Scene scene{{"a", "b"}};
@@ -313,6 +386,16 @@ TEST(TreeMouse, EscapeEndsTheWaitWithoutADrag)
     scene.user.press(scene.label("b")).key(VK_ESCAPE).moveBy(0, 60).release();
     EXPECT_EQ(scene.parent().log().count(static_cast<UINT>(TVN_BEGINDRAGW)), 0);
     EXPECT_NE(::GetCapture(), scene.tree.m_hWnd);
+}
+
+TEST(TreeMouse, WhatComesForTheTreeDuringTheWaitIsHandled)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.press(scene.label("b"))
+        .then([&] { scene.tree.PostMessage(WM_COMMAND, ID_EDIT_SELECT_ALL); })
+        .waitFor("all to be selected", [&] { return scene.selected().size() == 3; })
+        .release();
+    EXPECT_EQ(scene.selected(), Names{"b"}) << "by the release";
 }
 
 TEST(TreeMouse, TheMouseIsLetGoAfterTheWait)
@@ -470,6 +553,22 @@ TEST(TreeMouse, ADoubleClickActivatesTheItem)
     EXPECT_EQ(scene.journal, (Journal{"gesture 1118", "activate b", "gesture 0"}));
 }
 
+/// The second release comes by itself, and must not take out what the first press has added.
+TEST(TreeMouse, ACtrlDoubleClickAddsTheItemAndActivatesAllSelected)
+{
+    Scene scene{{"a", "b", "c"}};
+    scene.user.click(scene.label("a"));
+    scene.forget();
+    const CPoint at = scene.labelPoint("b");
+    const LPARAM where = MAKELPARAM(at.x, at.y);
+    scene.tree.PostMessage(WM_LBUTTONUP, MK_CONTROL, where); // for the wait of the press
+    scene.tree.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | MK_CONTROL, where);
+    scene.tree.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON | MK_CONTROL, where);
+    scene.tree.SendMessage(WM_LBUTTONUP, MK_CONTROL, where);
+    EXPECT_EQ(scene.selected(), (Names{"a", "b"}));
+    EXPECT_EQ(scene.journal, (Journal{"gesture 1118", "activate a", "activate b", "gesture 0"}));
+}
+
 TEST(TreeMouse, ADoubleClickOnEmptySpaceDoesNothing)
 {
     Scene scene{{"a"}};
@@ -538,6 +637,48 @@ TEST(TreeMouse, APlaceOfTheNodesOwnHearsWhichButtonAndKeysPressIt)
     EXPECT_EQ(place, scene.labelPoint("b"));
     EXPECT_EQ(scene.journal, Journal{"buttonDown b"});
     EXPECT_EQ(scene.selected(), Names{});
+}
+
+TEST(TreeMouse, WhatTheNodeMakesNothingOfInItsOwnPlaceIsTheTreeViews)
+{
+    RecordingParent parent;
+    const HWND plain = ::CreateWindowExW(0, WC_TREEVIEWW, L"", Scene::kStyle, 0, 0, 200, 200, parent.m_hWnd,
+                                         reinterpret_cast<HMENU>(1), nullptr, nullptr);
+    std::vector<UINT> kept;
+    ASSERT_TRUE(::SetWindowSubclass(plain, &keepClicks, 1, reinterpret_cast<DWORD_PTR>(&kept)));
+    TestTree tree;
+    ASSERT_TRUE(tree.SubclassWindow(plain));
+    Journal journal;
+    auto* const node = new TestNode("a", &journal);
+    const HTREEITEM item = node->insert(tree, TVI_ROOT, TVI_LAST);
+    present(parent);
+    node->hitting = [](CPoint, unsigned& flags) { flags = 0x10000; };
+    const CPoint at(30, 5);
+    ASSERT_EQ(tree.HitTest(at), item);
+    const LPARAM where = MAKELPARAM(at.x, at.y);
+    const auto clickInAllWays = [&] {
+        tree.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, where);
+        tree.SendMessage(WM_LBUTTONUP, 0, where);
+        tree.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, where);
+        tree.SendMessage(WM_RBUTTONUP, MK_SHIFT, where);
+        tree.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, where);
+    };
+    clickInAllWays();
+    const Journal asked{"buttonDown a", "buttonUp a", "buttonDown a"};
+    EXPECT_EQ(kept, (std::vector<UINT>{WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN, WM_RBUTTONUP,
+                                       WM_LBUTTONDBLCLK}));
+    EXPECT_EQ(journal, asked) << "nothing is activated";
+    EXPECT_EQ(tree.GetSelectedItem(), nullptr);
+    EXPECT_EQ(tree.contextMenus, 0);
+
+    kept.clear();
+    journal.clear();
+    node->pressing = [](unsigned, CPoint, unsigned) { return true; };
+    node->releasing = [](CPoint, unsigned) { return true; };
+    clickInAllWays();
+    EXPECT_EQ(kept, (std::vector<UINT>{WM_RBUTTONUP, WM_LBUTTONDBLCLK})) << "of which the node is not told";
+    EXPECT_EQ(journal, asked);
+    tree.DestroyWindow();
 }
 
 TEST(TreeMouse, AFlagOfTheNodesOwnBesideTheTreeViewsChangesNothing)

@@ -213,6 +213,10 @@ TEST(TreeSelection, TheNotificationDescribesBothItems)
     EXPECT_EQ(seen.itemNew.hItem, scene.item("b"));
     EXPECT_EQ(seen.itemNew.state & (TVIS_BOLD | TVIS_SELECTED), UINT{TVIS_BOLD | TVIS_SELECTED});
     EXPECT_EQ(seen.itemNew.lParam, static_cast<LPARAM>(scene.tree.GetItemData(scene.item("b"))));
+    for (const TVITEM& item : {seen.itemOld, seen.itemNew}) {
+        EXPECT_EQ(item.mask, UINT{TVIF_HANDLE | TVIF_STATE | TVIF_PARAM}) << "what is told";
+        EXPECT_EQ(item.stateMask, ~0u);
+    }
     EXPECT_EQ(seen.ptDrag.x, 3);
     EXPECT_EQ(seen.ptDrag.y, 4);
 
