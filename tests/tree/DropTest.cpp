@@ -359,6 +359,24 @@ TEST(TreeDrop, AnErrorWhileDraggingIsSwallowed)
     EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
 }
 
+TEST(TreeDrop, ANodeThatRaisesAnErrorTakesNothingWhateverItHasAllowedBefore)
+{
+    Scene scene{{"a"}};
+    scene.node("a").draggingInto = [](COleDataObject&, DWORD& effects, bool&, int) -> DWORD {
+        effects = DROPEFFECT_COPY;
+        throw std::runtime_error("what?");
+    };
+    COleDropTarget& target = *scene.tree.m_pDropTarget;
+    COleDataObject data;
+    const CPoint point = scene.labelPoint("a");
+    constexpr DWORD kNone = DROPEFFECT_NONE;
+    EXPECT_EQ(target.OnDragEnter(&scene.tree, &data, MK_RBUTTON, point), kNone);
+    EXPECT_EQ(target.OnDragEnter(&scene.tree, &data, MK_LBUTTON | MK_CONTROL, point), kNone);
+    EXPECT_EQ(target.OnDropEx(&scene.tree, &data, DROPEFFECT_COPY, DROPEFFECT_COPY, point), kNone);
+    EXPECT_EQ(scene.journal, Journal{}) << "nothing is dropped into it";
+    EXPECT_EQ(scene.tree.errors, Journal{});
+}
+
 TEST(TreeDrop, ATargetThatDeletesItselfDoesNoHarm)
 {
     DropScene scene({"source", "target"});
