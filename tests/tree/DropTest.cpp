@@ -42,6 +42,14 @@ HGLOBAL WINAPI refuseMemory(UINT flags, SIZE_T size)
     return ++g_allocations == g_refused ? nullptr : ::GlobalAlloc(flags, size);
 }
 
+int g_menus = 0; ///< that would have been shown
+
+BOOL WINAPI countMenu(HMENU, UINT, int, int, int, HWND, const RECT*)
+{
+    ++g_menus;
+    return FALSE;
+}
+
 /// What is dragged over a tree from another program, by OLE's own calls.
 class Visitor
 {
@@ -521,6 +529,27 @@ TEST(TreeDrop, WithNothingAllowedTheRightButtonShowsNoMenu)
         });
     EXPECT_FALSE(menu);
     EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+}
+
+TEST(TreeDrop, WithNothingThatBothAllowTheRightButtonShowsNoMenu)
+{
+    const ImportPatch counting(L"ovomfc.dll", "TrackPopupMenu", reinterpret_cast<void*>(&countMenu));
+    Scene scene{{"a"}};
+    scene.node("a").draggingInto = [](COleDataObject&, DWORD& effects, bool&, int) {
+        return effects = DROPEFFECT_MOVE;
+    };
+    COleDropTarget& target = *scene.tree.m_pDropTarget;
+    COleDataObject data;
+    const CPoint point = scene.labelPoint("a");
+    const auto drop = [&](DWORD allowed) {
+        target.OnDragEnter(&scene.tree, &data, MK_RBUTTON, point);
+        return target.OnDropEx(&scene.tree, &data, DROPEFFECT_NONE, allowed, point);
+    };
+    g_menus = 0;
+    EXPECT_EQ(drop(DROPEFFECT_COPY | DROPEFFECT_LINK), DWORD{DROPEFFECT_NONE});
+    EXPECT_EQ(g_menus, 0);
+    EXPECT_EQ(drop(DROPEFFECT_COPY | DROPEFFECT_MOVE), DWORD{DROPEFFECT_NONE}) << "it is dismissed";
+    EXPECT_EQ(g_menus, 1);
 }
 
 // The menu by itself
