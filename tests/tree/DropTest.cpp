@@ -481,6 +481,37 @@ TEST(TreeDrop, TheMarkIsBehindTheItemAndGoesWithTheDrag)
     }
 }
 
+TEST(TreeDrop, AtTheTopLevelTheMarkIsBehindTheItemAndNothingIsHighlighted)
+{
+    constexpr COLORREF kRed = RGB(255, 0, 0);
+    DropScene scene({"a", "b", "c"});
+    scene.takeAtTheTop();
+    scene.take("a");
+    scene.tree.SetInsertMarkColor(kRed);
+    const auto highlighted = [&] {
+        Names names;
+        for (const char* const name : {"a", "b", "c"})
+            if (scene.tree.GetItemState(scene.item(name), TVIS_DROPHILITED))
+                names.push_back(name);
+        return names;
+    };
+    const auto red = [&](const CRect& within) {
+        return Picture::ofClient(scene.tree).count(kRed, 0, within);
+    };
+    CRect row;
+    scene.tree.GetItemRect(scene.item("b"), &row, FALSE);
+    const int middle = row.CenterPoint().y;
+    Visitor visitor(scene.tree);
+    visitor.enter(scene.labelPoint("a"));
+    EXPECT_EQ(highlighted(), Names{"a"});
+    EXPECT_EQ(visitor.moveTo(scene.labelPoint("b")), DWORD{DROPEFFECT_MOVE});
+    EXPECT_EQ(highlighted(), Names{});
+    EXPECT_GT(red(CRect(row.left, middle, row.right, row.bottom + 4)), 0);
+    EXPECT_EQ(red(CRect(row.left, row.top - 4, row.right, middle)), 0);
+    EXPECT_EQ(scene.asked.back(), (Asked{2, "root"}));
+    visitor.leave();
+}
+
 // The right button
 
 TEST(TreeDrop, TheRightButtonEndsInAMenu)
