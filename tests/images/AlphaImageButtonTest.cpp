@@ -4,6 +4,7 @@
 #include <testkit/Desktop.h>
 #include <testkit/GdiCounter.h>
 #include <testkit/GdiPlusSession.h>
+#include <testkit/GuiThread.h>
 #include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
 #include <testkit/RecordingParent.h>
@@ -167,6 +168,18 @@ TEST_F(AlphaImageButton, AMissingResourceShowsNoImage)
     EXPECT_EQ(count(&green), 0);
     button.loadImage(strip());
     EXPECT_GT(count(&green), 0);
+}
+
+TEST_F(AlphaImageButton, LoadingWithoutAWindowMakesNoOtherWindowInvalid)
+{
+    present(parent);
+    GuiThread::settleOnScreen();
+    parent.UpdateWindow();
+    ASSERT_FALSE(parent.GetUpdateRect(nullptr));
+    CAlphaImageButton later;
+    later.setSize(16);
+    later.loadImage(strip());
+    EXPECT_FALSE(parent.GetUpdateRect(nullptr));
 }
 
 TEST_F(AlphaImageButton, ADisabledImageIsMadeFromTheNormalOneOnRequest)
