@@ -211,6 +211,7 @@ TEST(TreeCommands, ThatAreForbiddenDoNothing)
     scene.select({"a"});
     scene.tree.disabled = {kPrint};
     scene.command(kPrint);
+    EXPECT_TRUE(scene.tree.OnCmdMsg(kPrint, CN_COMMAND, nullptr, nullptr)) << "nobody else is to do it";
     EXPECT_EQ(scene.journal, Journal{});
     EXPECT_EQ(scene.printed(), 0);
 }

@@ -700,6 +700,17 @@ TEST(TreeDropScroll, GoesOneItemUpOrDown)
     EXPECT_FALSE(scene.tree.dragScroll(0x01FF, 0, false)) << "there is nothing below";
 }
 
+TEST(TreeDropScroll, ShowsTheNewRowsAtOnce)
+{
+    Scene scene{numbered(60)};
+    scene.tree.UpdateWindow();
+    scene.tree.counting = true;
+    ASSERT_TRUE(scene.tree.dragScroll(0x01FF, 0, false));
+    EXPECT_EQ(scene.tree.paints, 0) << "asked only";
+    ASSERT_TRUE(scene.tree.dragScroll(0x01FF, 0, true));
+    EXPECT_GT(scene.tree.paints, 0);
+}
+
 TEST(TreeDropScroll, ADragNearTheEdgeScrolls)
 {
     Names many{"source"};
