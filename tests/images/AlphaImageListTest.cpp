@@ -108,12 +108,58 @@ TEST_F(AlphaImageList, ClearGoesBackToTheBeginning)
     EXPECT_EQ(add(strip, CSize(16, 16), CSize(16, 16)), 0);
 }
 
-TEST(AlphaImageListCreate, FailsAtOnceWhenTheNormalListCannotBeMade)
+namespace
 {
+
+/// What the platform was asked to make a list with: width, height, flags, room, growth.
+using ListFacts = std::vector<int>;
+
+std::vector<ListFacts> g_lists; ///< asked for since a test began
+std::size_t g_refusedList = 0;  ///< which of these cannot be made, counted from 1; 0 for none
+
+HIMAGELIST WINAPI makeList(int cx, int cy, UINT flags, int initial, int grow)
+{
+    g_lists.push_back({cx, cy, static_cast<int>(flags), initial, grow});
+    return g_lists.size() == g_refusedList ? nullptr : ::ImageList_Create(cx, cy, flags, initial, grow);
+}
+
+class AlphaImageListCreate : public ::testing::Test
+{
+protected:
+    AlphaImageListCreate()
+    {
+        g_lists.clear();
+        g_refusedList = 0;
+    }
+
+    const ImportPatch m_patch{L"ovomfc.dll", "ImageList_Create", reinterpret_cast<void*>(&makeList)};
     CAlphaImageList images;
+};
+
+} // namespace
+
+TEST_F(AlphaImageListCreate, MakesTwoListsOf32BitsWithAMaskThatGrowByOne)
+{
+    EXPECT_TRUE(images.Create(16, 24, 5));
+    const ListFacts facts{16, 24, 0x21, 5, 1};
+    EXPECT_EQ(g_lists, (std::vector<ListFacts>{facts, facts}));
+}
+
+TEST_F(AlphaImageListCreate, FailsAtOnceWhenTheNormalListCannotBeMade)
+{
     EXPECT_FALSE(images.Create(-1, 16, 1));
     EXPECT_EQ(images.GetImageList(), nullptr);
     EXPECT_EQ(images.GetHotImageList(), nullptr);
+    EXPECT_EQ(g_lists.size(), 1u) << "the hot one is not tried";
+}
+
+TEST_F(AlphaImageListCreate, FailsWhenTheHotListCannotBeMade)
+{
+    g_refusedList = 2;
+    EXPECT_FALSE(images.Create(16, 16, 1));
+    EXPECT_EQ(images.GetHotImageList(), nullptr);
+    EXPECT_TRUE(images.Create(16, 16, 1));
+    EXPECT_NE(images.GetHotImageList(), nullptr);
 }
 
 // With alpha
