@@ -66,7 +66,8 @@ void CAlphaImageButton::loadThemed(unsigned int id)
     list.himl = m_images->GetImageList();
     list.uAlign = BUTTON_IMAGELIST_ALIGN_CENTER;
     SendMessage(BCM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(&list));
-    Invalidate();
+    if (m_hWnd) // or all windows would be invalid
+        Invalidate();
 }
 
 /// With more than one image in the list, the button takes one for each of its states.

@@ -29,7 +29,8 @@ public:
     /// Shows the bitmap resource `id`, found by the framework's search: the first image of it with visual
     /// styles, all of it without. In the latter case only a bitmap with a palette gets the system's colours.
     /// Without such a resource the button shows no image. Can be called again, for another image or after a
-    /// change of the theme.
+    /// change of the theme. The window must be there: one that is made later shows nothing until the next
+    /// call.
     void loadImage(unsigned int id);
 
     /// Whether the image of the disabled button is made from the normal one, instead of being left to the

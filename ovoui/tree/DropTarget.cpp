@@ -144,10 +144,11 @@ bool MultiTreeCtrl::DropTarget::drop(COleDataObject& data, DROPEFFECT& effect, D
     Dropping& dropping = *tree.m_state->dropping;
     Dropping::Place place;
     dropping.dragHitTest(data, point, place);
-    if (!host.usable() || !(place.effects & kDropAny))
+    const DWORD possible = rightButton ? allowed & place.effects : place.effects;
+    if (!host.usable() || !(possible & kDropAny))
         return false;
     if (rightButton)
-        effect = nondefaultDrop(tree, effect, allowed & place.effects, point, std::wstring());
+        effect = nondefaultDrop(tree, effect, possible, point, std::wstring());
     if (effect == DROPEFFECT_NONE || !host.usable())
         return false;
     const OVO::Handle<Node>& node = place.target;

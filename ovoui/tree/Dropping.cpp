@@ -29,8 +29,9 @@ DWORD MultiTreeCtrl::Dropping::dragHitTest(COleDataObject& data, CPoint point, P
             hovered = view().getLastItem();
         return ask(data, hovered, place);
     } catch (const std::exception&) {
-        // A place that cannot answer takes nothing. That is not reported: it may happen at every movement of
-        // the mouse.
+        // A place that cannot answer takes nothing, whatever it has allowed before. That is not reported: it
+        // may happen at every movement of the mouse.
+        place.effects = DROPEFFECT_NONE;
         return DROPEFFECT_NONE;
     }
 }

@@ -1,9 +1,11 @@
 // A push button with an image, with visual styles and without.
+#include "AddedImage.h"
 #include "resource.h"
 
 #include <testkit/Desktop.h>
 #include <testkit/GdiCounter.h>
 #include <testkit/GdiPlusSession.h>
+#include <testkit/GuiThread.h>
 #include <testkit/ImportPatch.h>
 #include <testkit/Picture.h>
 #include <testkit/RecordingParent.h>
@@ -169,6 +171,18 @@ TEST_F(AlphaImageButton, AMissingResourceShowsNoImage)
     EXPECT_GT(count(&green), 0);
 }
 
+TEST_F(AlphaImageButton, LoadingWithoutAWindowMakesNoOtherWindowInvalid)
+{
+    present(parent);
+    GuiThread::settleOnScreen();
+    parent.UpdateWindow();
+    ASSERT_FALSE(parent.GetUpdateRect(nullptr));
+    CAlphaImageButton later;
+    later.setSize(16);
+    later.loadImage(strip());
+    EXPECT_FALSE(parent.GetUpdateRect(nullptr));
+}
+
 TEST_F(AlphaImageButton, ADisabledImageIsMadeFromTheNormalOneOnRequest)
 {
     button.useDisabledImage(true);
@@ -288,6 +302,28 @@ TEST_F(AlphaImageButton, WithoutASizeTheListIsForNothing)
     button.setSize(0);
     button.loadImage(strip());
     EXPECT_EQ(g_createdSize, CSize(0, 0));
+}
+
+TEST_F(AlphaImageButton, TheFirstImageOfAStripWithoutAlphaTakesTheColourOfTextsForItsBlack)
+{
+    if (!themed())
+        return; // TheBlackOfAClassicBitmapIsTheColourOfTexts
+    const AddedImages added;
+    const int element = COLOR_BTNTEXT;
+    const COLORREF before = ::GetSysColor(element);
+    const COLORREF text = RGB(10, 20, 200);
+    ::SetSysColors(1, &element, &text);
+    button.setSize(8);
+    button.loadImage(TESTSTRIP_24);
+    ::SetSysColors(1, &element, &before);
+    ASSERT_EQ(added.all().size(), 1u);
+    const AddedImage& image = added.last();
+    EXPECT_TRUE(image.masked) << "in the normal list";
+    EXPECT_EQ(image.width, 8);
+    EXPECT_EQ(image.height, 8);
+    EXPECT_EQ(image.at(3, 0), 0xFF000000u | text) << "black before";
+    EXPECT_EQ(image.at(0, 0), 0xFFFF0000u) << "all else is as it was";
+    EXPECT_EQ(image.at(7, 3) >> 24, 0u) << "light grey before";
 }
 
 // The classic way is forced, whatever the theme of the test is.

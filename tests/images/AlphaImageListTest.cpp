@@ -15,6 +15,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <string>
 #include <vector>
 
 using namespace ovo::testkit;
@@ -32,6 +33,13 @@ std::uint32_t squares(int x, int y)
 {
     const bool inside = x % 16 >= 4 && x % 16 < 12 && y >= 4 && y < 12;
     return inside ? kColours[x / 16] : 0;
+}
+
+/// Opaque, with another colour at almost every pixel.
+std::uint32_t busy(int x, int y)
+{
+    const auto number = static_cast<std::uint32_t>(37 * x * x + 91 * y + 13 * x * y);
+    return 0xFF000000u | (number * 0x9E3779B1u) >> 8;
 }
 
 class AlphaImageList : public ::testing::Test
@@ -100,12 +108,58 @@ TEST_F(AlphaImageList, ClearGoesBackToTheBeginning)
     EXPECT_EQ(add(strip, CSize(16, 16), CSize(16, 16)), 0);
 }
 
-TEST(AlphaImageListCreate, FailsAtOnceWhenTheNormalListCannotBeMade)
+namespace
 {
+
+/// What the platform was asked to make a list with: width, height, flags, room, growth.
+using ListFacts = std::vector<int>;
+
+std::vector<ListFacts> g_lists; ///< asked for since a test began
+std::size_t g_refusedList = 0;  ///< which of these cannot be made, counted from 1; 0 for none
+
+HIMAGELIST WINAPI makeList(int cx, int cy, UINT flags, int initial, int grow)
+{
+    g_lists.push_back({cx, cy, static_cast<int>(flags), initial, grow});
+    return g_lists.size() == g_refusedList ? nullptr : ::ImageList_Create(cx, cy, flags, initial, grow);
+}
+
+class AlphaImageListCreate : public ::testing::Test
+{
+protected:
+    AlphaImageListCreate()
+    {
+        g_lists.clear();
+        g_refusedList = 0;
+    }
+
+    const ImportPatch m_patch{L"ovomfc.dll", "ImageList_Create", reinterpret_cast<void*>(&makeList)};
     CAlphaImageList images;
+};
+
+} // namespace
+
+TEST_F(AlphaImageListCreate, MakesTwoListsOf32BitsWithAMaskThatGrowByOne)
+{
+    EXPECT_TRUE(images.Create(16, 24, 5));
+    const ListFacts facts{16, 24, 0x21, 5, 1};
+    EXPECT_EQ(g_lists, (std::vector<ListFacts>{facts, facts}));
+}
+
+TEST_F(AlphaImageListCreate, FailsAtOnceWhenTheNormalListCannotBeMade)
+{
     EXPECT_FALSE(images.Create(-1, 16, 1));
     EXPECT_EQ(images.GetImageList(), nullptr);
     EXPECT_EQ(images.GetHotImageList(), nullptr);
+    EXPECT_EQ(g_lists.size(), 1u) << "the hot one is not tried";
+}
+
+TEST_F(AlphaImageListCreate, FailsWhenTheHotListCannotBeMade)
+{
+    g_refusedList = 2;
+    EXPECT_FALSE(images.Create(16, 16, 1));
+    EXPECT_EQ(images.GetHotImageList(), nullptr);
+    EXPECT_TRUE(images.Create(16, 16, 1));
+    EXPECT_NE(images.GetHotImageList(), nullptr);
 }
 
 // With alpha
@@ -157,6 +211,26 @@ TEST_F(AlphaImageList, ScaledImagesAreSharpened)
     images.SetSharpenMode(false);
     add(one, CSize(16, 16), CSize(24, 24));
     EXPECT_NE(added.last().pixels, added.all()[added.all().size() - 2].pixels);
+}
+
+TEST_F(AlphaImageList, EachImageOfAStripIsSharpenedByItself)
+{
+    const CSize source(16, 16);
+    const CSize target(32, 64); // so many times larger that the place in the picture makes no difference
+    const TestStrip strip(48, 16, 32, busy);
+    add(strip, source, target);
+    const AddedImage all = added.last();
+    ASSERT_EQ(all.width, 96);
+    for (int i = 0; i < 3; ++i) {
+        add(strip, source, target, i);
+        const AddedImage& one = added.last();
+        ASSERT_EQ(one.width, 32);
+        int different = 0;
+        for (int y = 0; y < 64; ++y)
+            for (int x = 0; x < 32; ++x)
+                different += all.at(32 * i + x, y) != one.at(x, y) ? 1 : 0;
+        EXPECT_EQ(different, 0) << "image " << i;
+    }
 }
 
 TEST_F(AlphaImageList, ImagesThatKeepTheirSizeAreNotSharpened)
@@ -250,6 +324,53 @@ TEST_F(AlphaImageList, TheInterpolationIsTheOneSet)
     for (int x = 12; x < 20; ++x)
         between = between || ((added.last().at(x, 9) & 0xFF) != 0 && (added.last().at(x, 9) & 0xFF) != 0xFF);
     EXPECT_TRUE(between);
+}
+
+namespace
+{
+
+std::vector<std::string> g_steps; ///< by which a picture is got ready
+
+Gdiplus::GpStatus WINGDIPAPI setCompositing(Gdiplus::GpGraphics* graphics, Gdiplus::CompositingMode mode)
+{
+    g_steps.push_back("compositing " + std::to_string(mode));
+    return Gdiplus::DllExports::GdipSetCompositingMode(graphics, mode);
+}
+
+Gdiplus::GpStatus WINGDIPAPI setInterpolation(Gdiplus::GpGraphics* graphics, Gdiplus::InterpolationMode mode)
+{
+    g_steps.push_back("interpolation " + std::to_string(mode));
+    return Gdiplus::DllExports::GdipSetInterpolationMode(graphics, mode);
+}
+
+Gdiplus::GpStatus WINGDIPAPI clear(Gdiplus::GpGraphics* graphics, Gdiplus::ARGB colour)
+{
+    g_steps.push_back("clear " + std::to_string(colour));
+    return Gdiplus::DllExports::GdipGraphicsClear(graphics, colour);
+}
+
+} // namespace
+
+TEST_F(AlphaImageList, APictureBeginsTransparentAndIsDrawnInLowQualityAtFirst)
+{
+    const wchar_t* const module = L"ovoui.dll";
+    const ImportPatch first(module, "GdipSetCompositingMode", reinterpret_cast<void*>(&setCompositing));
+    const ImportPatch second(module, "GdipSetInterpolationMode", reinterpret_cast<void*>(&setInterpolation));
+    const ImportPatch third(module, "GdipGraphicsClear", reinterpret_cast<void*>(&clear));
+    const TestStrip strip(16, 16, 32, squares);
+    const auto steps = [&](int interpolation) {
+        return std::vector<std::string>{"compositing " + std::to_string(Gdiplus::CompositingModeSourceCopy),
+                                        "interpolation " + std::to_string(interpolation),
+                                        "clear " + std::to_string(kTransparentWhite),
+                                        "compositing " + std::to_string(Gdiplus::CompositingModeSourceOver)};
+    };
+    g_steps.clear();
+    add(strip, CSize(16, 16), CSize(16, 16));
+    EXPECT_EQ(g_steps, steps(Gdiplus::InterpolationModeLowQuality));
+    images.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
+    g_steps.clear();
+    add(strip, CSize(16, 16), CSize(16, 16));
+    EXPECT_EQ(g_steps, steps(Gdiplus::InterpolationModeHighQualityBicubic));
 }
 
 // Without alpha

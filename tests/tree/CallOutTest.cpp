@@ -365,6 +365,7 @@ const std::vector<TreeCallOut>& callOuts()
         {"dragEnding", [](TreeHost& host) { host.eraseSelected(); }, kReported},
         {"hitTest", [](TreeHost& host) { host.tree.HitTest(CPoint(30, 5)); }, kToCaller},
         {"hitTest", [](TreeHost& host) { host.click(); }, kAsAHandler},
+        {"hitTest", [](TreeHost& host) { host.dragToFirst(); }, {Quiet, Passes, Passes}},
         {"buttonDown",
          [](TreeHost& host) {
              host.node->hasOwnPlaces = true;

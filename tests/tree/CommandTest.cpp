@@ -211,6 +211,7 @@ TEST(TreeCommands, ThatAreForbiddenDoNothing)
     scene.select({"a"});
     scene.tree.disabled = {kPrint};
     scene.command(kPrint);
+    EXPECT_TRUE(scene.tree.OnCmdMsg(kPrint, CN_COMMAND, nullptr, nullptr)) << "nobody else is to do it";
     EXPECT_EQ(scene.journal, Journal{});
     EXPECT_EQ(scene.printed(), 0);
 }
@@ -400,6 +401,21 @@ TEST(TreeMenus, GreyWhatIsForbiddenEvenIfANodeOffersIt)
     const AskedMenu menu(scene.tree, {kPaint, kPrint});
     EXPECT_TRUE(menu.isGrey(kPaint));
     EXPECT_TRUE(menu.isGrey(kPrint));
+}
+
+TEST(TreeMenus, GreyEveryLineOfAForbiddenCommand)
+{
+    CommandScene scene({"a"});
+    scene.node("a").offer(kPaint);
+    scene.select({"a"});
+    scene.tree.disabled = {kPaint};
+    CMenu menu;
+    menu.CreatePopupMenu();
+    for (const wchar_t* const text : {L"first", L"second"})
+        menu.AppendMenu(MF_STRING, kPaint, text);
+    scene.tree.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
+    for (const UINT line : {0u, 1u})
+        EXPECT_TRUE(menu.GetMenuState(line, MF_BYPOSITION) & MF_GRAYED) << line;
 }
 
 TEST(TreeMenus, GreyDeleteUnlessEverySelectedNodeCanBeErased)

@@ -42,6 +42,14 @@ HGLOBAL WINAPI refuseMemory(UINT flags, SIZE_T size)
     return ++g_allocations == g_refused ? nullptr : ::GlobalAlloc(flags, size);
 }
 
+int g_menus = 0; ///< that would have been shown
+
+BOOL WINAPI countMenu(HMENU, UINT, int, int, int, HWND, const RECT*)
+{
+    ++g_menus;
+    return FALSE;
+}
+
 /// What is dragged over a tree from another program, by OLE's own calls.
 class Visitor
 {
@@ -359,6 +367,24 @@ TEST(TreeDrop, AnErrorWhileDraggingIsSwallowed)
     EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
 }
 
+TEST(TreeDrop, ANodeThatRaisesAnErrorTakesNothingWhateverItHasAllowedBefore)
+{
+    Scene scene{{"a"}};
+    scene.node("a").draggingInto = [](COleDataObject&, DWORD& effects, bool&, int) -> DWORD {
+        effects = DROPEFFECT_COPY;
+        throw std::runtime_error("what?");
+    };
+    COleDropTarget& target = *scene.tree.m_pDropTarget;
+    COleDataObject data;
+    const CPoint point = scene.labelPoint("a");
+    constexpr DWORD kNone = DROPEFFECT_NONE;
+    EXPECT_EQ(target.OnDragEnter(&scene.tree, &data, MK_RBUTTON, point), kNone);
+    EXPECT_EQ(target.OnDragEnter(&scene.tree, &data, MK_LBUTTON | MK_CONTROL, point), kNone);
+    EXPECT_EQ(target.OnDropEx(&scene.tree, &data, DROPEFFECT_COPY, DROPEFFECT_COPY, point), kNone);
+    EXPECT_EQ(scene.journal, Journal{}) << "nothing is dropped into it";
+    EXPECT_EQ(scene.tree.errors, Journal{});
+}
+
 TEST(TreeDrop, ATargetThatDeletesItselfDoesNoHarm)
 {
     DropScene scene({"source", "target"});
@@ -455,6 +481,37 @@ TEST(TreeDrop, TheMarkIsBehindTheItemAndGoesWithTheDrag)
     }
 }
 
+TEST(TreeDrop, AtTheTopLevelTheMarkIsBehindTheItemAndNothingIsHighlighted)
+{
+    constexpr COLORREF kRed = RGB(255, 0, 0);
+    DropScene scene({"a", "b", "c"});
+    scene.takeAtTheTop();
+    scene.take("a");
+    scene.tree.SetInsertMarkColor(kRed);
+    const auto highlighted = [&] {
+        Names names;
+        for (const char* const name : {"a", "b", "c"})
+            if (scene.tree.GetItemState(scene.item(name), TVIS_DROPHILITED))
+                names.push_back(name);
+        return names;
+    };
+    const auto red = [&](const CRect& within) {
+        return Picture::ofClient(scene.tree).count(kRed, 0, within);
+    };
+    CRect row;
+    scene.tree.GetItemRect(scene.item("b"), &row, FALSE);
+    const int middle = row.CenterPoint().y;
+    Visitor visitor(scene.tree);
+    visitor.enter(scene.labelPoint("a"));
+    EXPECT_EQ(highlighted(), Names{"a"});
+    EXPECT_EQ(visitor.moveTo(scene.labelPoint("b")), DWORD{DROPEFFECT_MOVE});
+    EXPECT_EQ(highlighted(), Names{});
+    EXPECT_GT(red(CRect(row.left, middle, row.right, row.bottom + 4)), 0);
+    EXPECT_EQ(red(CRect(row.left, row.top - 4, row.right, middle)), 0);
+    EXPECT_EQ(scene.asked.back(), (Asked{2, "root"}));
+    visitor.leave();
+}
+
 // The right button
 
 TEST(TreeDrop, TheRightButtonEndsInAMenu)
@@ -503,6 +560,27 @@ TEST(TreeDrop, WithNothingAllowedTheRightButtonShowsNoMenu)
         });
     EXPECT_FALSE(menu);
     EXPECT_EQ(scene.result, DWORD{DROPEFFECT_NONE});
+}
+
+TEST(TreeDrop, WithNothingThatBothAllowTheRightButtonShowsNoMenu)
+{
+    const ImportPatch counting(L"ovomfc.dll", "TrackPopupMenu", reinterpret_cast<void*>(&countMenu));
+    Scene scene{{"a"}};
+    scene.node("a").draggingInto = [](COleDataObject&, DWORD& effects, bool&, int) {
+        return effects = DROPEFFECT_MOVE;
+    };
+    COleDropTarget& target = *scene.tree.m_pDropTarget;
+    COleDataObject data;
+    const CPoint point = scene.labelPoint("a");
+    const auto drop = [&](DWORD allowed) {
+        target.OnDragEnter(&scene.tree, &data, MK_RBUTTON, point);
+        return target.OnDropEx(&scene.tree, &data, DROPEFFECT_NONE, allowed, point);
+    };
+    g_menus = 0;
+    EXPECT_EQ(drop(DROPEFFECT_COPY | DROPEFFECT_LINK), DWORD{DROPEFFECT_NONE});
+    EXPECT_EQ(g_menus, 0);
+    EXPECT_EQ(drop(DROPEFFECT_COPY | DROPEFFECT_MOVE), DWORD{DROPEFFECT_NONE}) << "it is dismissed";
+    EXPECT_EQ(g_menus, 1);
 }
 
 // The menu by itself
@@ -620,6 +698,17 @@ TEST(TreeDropScroll, GoesOneItemUpOrDown)
     EXPECT_FALSE(scene.tree.dragScroll(0xFF00, 0, true)) << "there is no horizontal scrolling";
     scene.tree.EnsureVisible(scene.item("159"));
     EXPECT_FALSE(scene.tree.dragScroll(0x01FF, 0, false)) << "there is nothing below";
+}
+
+TEST(TreeDropScroll, ShowsTheNewRowsAtOnce)
+{
+    Scene scene{numbered(60)};
+    scene.tree.UpdateWindow();
+    scene.tree.counting = true;
+    ASSERT_TRUE(scene.tree.dragScroll(0x01FF, 0, false));
+    EXPECT_EQ(scene.tree.paints, 0) << "asked only";
+    ASSERT_TRUE(scene.tree.dragScroll(0x01FF, 0, true));
+    EXPECT_GT(scene.tree.paints, 0);
 }
 
 TEST(TreeDropScroll, ADragNearTheEdgeScrolls)

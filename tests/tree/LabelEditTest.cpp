@@ -178,6 +178,19 @@ TEST(TreeLabelEdit, AForbiddenRenameOpensNoEditor)
     EXPECT_EQ(scene.journal, Journal{});
 }
 
+TEST(TreeLabelEdit, WithoutACaretTheSelectionStays)
+{
+    Scene scene{{"a", "b"}};
+    scene.node("b").renamable = true;
+    scene.tree.SelectItem(nullptr);
+    scene.tree.SetItemState(scene.item("b"), TVIS_SELECTED, TVIS_SELECTED);
+    ASSERT_EQ(scene.caret(), "-");
+    EXPECT_TRUE(scene.tree.OnCmdMsg(5598, CN_COMMAND, nullptr, nullptr));
+    EXPECT_EQ(scene.selected(), Names{"b"});
+    EXPECT_EQ(scene.tree.GetEditControl(), nullptr);
+    EXPECT_EQ(scene.journal, Journal{});
+}
+
 TEST(TreeLabelEdit, AnErrorAtTheBeginningRefusesTheEdit)
 {
     EditScene scene({"a"});

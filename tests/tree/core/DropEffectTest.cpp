@@ -21,7 +21,9 @@ TEST(DropEffect, WithoutKeysTheAnswerStands)
     EXPECT_EQ(resolve(0, kDropMove), kDropMove);
     EXPECT_EQ(resolve(0, kDropCopy), kDropCopy);
     EXPECT_EQ(resolve(0, kDropNone), kDropNone);
-    EXPECT_EQ(resolve(0x01), kDropMove); // the left button is no modifier
+    EXPECT_EQ(resolve(0x01), kDropMove);                    // the left button is no modifier
+    EXPECT_EQ(resolve(0, kDropMove, kDropCopy), kDropMove); // it need not be one to choose from
+    EXPECT_EQ(resolve(0, kDropMove, kDropCopy, true), kDropMove);
 }
 
 TEST(DropEffect, KeysChoose)

@@ -53,7 +53,21 @@ TEST(EdgeScrollTimer, WaitsLongerForTheFirstStep)
     EXPECT_TRUE(timer.running());
     EXPECT_FALSE(timer.stepDue(0x00FF, 1050)); // more than the delay
     EXPECT_TRUE(timer.stepDue(0x00FF, 1051));
-    EXPECT_FALSE(timer.stepDue(0x00FF, 1051 + 20 - 20));
+    EXPECT_FALSE(timer.stepDue(0x00FF, 1051 + 20)); // from then on more than the interval
+    EXPECT_TRUE(timer.stepDue(0x00FF, 1051 + 21));
+    EXPECT_FALSE(timer.stepDue(0x00FF, 1051 + 41));
+    EXPECT_TRUE(timer.stepDue(0x00FF, 1051 + 42));
+}
+
+TEST(EdgeScrollTimer, TheSameDirectionBeginsAnewAfterAStop)
+{
+    EdgeScrollTimer timer(50, 20);
+    timer.stepDue(0x00FF, 0);
+    EXPECT_TRUE(timer.stepDue(0x00FF, 60));
+    timer.stop();
+    EXPECT_FALSE(timer.stepDue(0x00FF, 200));
+    EXPECT_FALSE(timer.stepDue(0x00FF, 250));
+    EXPECT_TRUE(timer.stepDue(0x00FF, 251));
 }
 
 TEST(EdgeScrollTimer, ANewDirectionBeginsAnew)
