@@ -1,5 +1,6 @@
 #include <ovoui/lists/ListCtrlEx.h>
 
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/frame/TellParent.h>
 #include <ovoui/lists/ColumnFit.h>
@@ -15,6 +16,8 @@
 #include <cwchar>
 
 using namespace ovoui::lists;
+using ovoui::frame::keepFirst;
+using ovoui::frame::raise;
 
 IMPLEMENT_DYNCREATE(COVOListCtrlEx, CListCtrl)
 
@@ -115,17 +118,22 @@ int COVOListCtrlEx::AddItem(int nItem, int nSubItem, const std::wstring& text, D
         item.mask |= LVIF_IMAGE;
         item.iImage = image;
     }
+    // The parent hears of the row, and may delete the list. What it raises does not leave the row without its
+    // colour and data.
     const Lifeline::Watch watch(*this);
+    std::exception_ptr raised;
     int index = nItem;
-    if (nSubItem != 0)
-        SetItem(&item);
-    else
-        index = InsertItem(&item);
-    if (!watch.alive()) // the parent hears of the row
-        return index;
-    if (nSubItem == 0 && index != -1 && m_useRowColours)
+    keepFirst(raised, [&] {
+        if (nSubItem != 0)
+            SetItem(&item);
+        else
+            index = InsertItem(&item);
+    });
+    if (watch.alive() && nSubItem == 0 && index != -1 && m_useRowColours)
         m_rowColours[nItem] = colour;
-    SetItemData(nItem, static_cast<DWORD_PTR>(nItem));
+    if (watch.alive())
+        keepFirst(raised, [&] { SetItemData(nItem, static_cast<DWORD_PTR>(nItem)); });
+    raise(raised);
     return index;
 }
 
