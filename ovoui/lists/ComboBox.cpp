@@ -361,10 +361,11 @@ BOOL COVOComboBox::OnSelEndOk()
     return FALSE;
 }
 
+/// Items without texts, which their owner draws, cannot differ from what was typed.
 BOOL COVOComboBox::OnCloseup()
 {
     const int selection = GetCurSel();
-    if (selection == -1)
+    if (selection == -1 || !itemsHaveTexts())
         return FALSE;
     const std::wstring text = editText();
     if (text != itemText(selection)) {

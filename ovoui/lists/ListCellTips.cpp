@@ -88,13 +88,24 @@ void COVOListCellTips::heard(UINT message, WPARAM, LPARAM lParam)
         hide();
 }
 
+/// No cell beside the cells, and when the list goes meanwhile.
+COVOListCellTips::Cell COVOListCellTips::cellAt(COVOListCtrlEx& list, CPoint point)
+{
+    const Lifeline::Watch watch(list);
+    const ListCells cells(list);
+    const int row = cells.rowAt(point.y);
+    const int column = row == -1 || !watch.alive() ? -1 : cells.columnAt(row, point.x);
+    return column == -1 ? Cell{} : Cell{row, column};
+}
+
+/// The pointer may have moved on, or the list been left, when the host has given the text of a label.
 void COVOListCellTips::pointerAt(CPoint point)
 {
-    const ListCells cells(*m_list);
-    const int row = cells.rowAt(point.y);
-    const int column = row == -1 ? -1 : cells.columnAt(row, point.x);
-    const Cell cell = column == -1 ? Cell{} : Cell{row, column};
-    if (cell == m_cell)
+    const Lifeline::Watch watch(m_lifeline);
+    const HWND window = m_window;
+    const Cell before = m_cell;
+    const Cell cell = cellAt(*m_list, point);
+    if (!watch.alive() || m_window != window || m_cell != before || cell == before)
         return;
     hide();
     m_cell = cell;
@@ -113,7 +124,7 @@ std::wstring COVOListCellTips::cutText(const Cell& cell, CRect& textPlace) const
     CellText reader;
     const std::wstring text = reader(list, cell.item, cell.column);
     const auto area = watch.alive() ? ListCells(list).textArea(cell.item, cell.column) : std::nullopt;
-    if (!area)
+    if (!area || !watch.alive())
         return {};
     const bool isLabel = cell.column == 0;
     textPlace = textIn(*area, cell.column);
@@ -152,7 +163,11 @@ bool COVOListCellTips::liesElsewhere() const
 {
     if (!::IsWindowVisible(Window()))
         return false;
+    const Lifeline::Watch watch(m_lifeline);
+    const HWND window = m_window;
     const auto area = ListCells(*m_list).textArea(m_cell.item, m_cell.column);
+    if (!watch.alive() || m_window != window)
+        return false;
     CRect place = area ? textIn(*area, m_cell.column) : CRect();
     m_list->ClientToScreen(&place);
     return m_tip->cornerAround(place) != m_tip->corner();

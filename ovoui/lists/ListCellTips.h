@@ -43,6 +43,7 @@ private:
     bool takes(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
     void heard(UINT message, WPARAM wParam, LPARAM lParam) override;
     void left() override;
+    static Cell cellAt(COVOListCtrlEx& list, CPoint point);
     void pointerAt(CPoint point);
     void show(const Cell& cell);
     void hide();

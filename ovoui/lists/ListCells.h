@@ -18,7 +18,9 @@ frame::Box itemBox(const COVOListCtrlEx& list, int row, UINT part);
 frame::Box cellBox(COVOListCtrlEx& list, int row, int column, int width, const frame::Box& before,
                    bool followsOrder);
 
-/// The cells of a list as the user sees them, in client coordinates. Calls no host.
+/// The cells of a list as the user sees them, in client coordinates. Some platforms ask the host for the text
+/// of a label, or the indent of a virtual list's item, to tell where it is: who asks for a place looks
+/// afterwards whether the list is still there.
 class ListCells
 {
 public:
@@ -33,7 +35,7 @@ public:
     /// -1 beside the cells.
     int columnAt(int row, int x) const;
 
-    /// What a cell's text may use, the insets included. None when there is no such cell.
+    /// What a cell's text may use, the insets included. None when there is no such cell, or no list any more.
     std::optional<frame::Box> textArea(int row, int column) const;
 
 private:

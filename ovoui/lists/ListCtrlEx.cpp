@@ -1,5 +1,6 @@
 #include <ovoui/lists/ListCtrlEx.h>
 
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/frame/Lifeline.h>
 #include <ovoui/frame/TellParent.h>
 #include <ovoui/lists/ColumnFit.h>
@@ -15,6 +16,8 @@
 #include <cwchar>
 
 using namespace ovoui::lists;
+using ovoui::frame::keepFirst;
+using ovoui::frame::raise;
 
 IMPLEMENT_DYNCREATE(COVOListCtrlEx, CListCtrl)
 
@@ -115,17 +118,22 @@ int COVOListCtrlEx::AddItem(int nItem, int nSubItem, const std::wstring& text, D
         item.mask |= LVIF_IMAGE;
         item.iImage = image;
     }
+    // The parent hears of the row, and may delete the list. What it raises does not leave the row without its
+    // colour and data.
     const Lifeline::Watch watch(*this);
+    std::exception_ptr raised;
     int index = nItem;
-    if (nSubItem != 0)
-        SetItem(&item);
-    else
-        index = InsertItem(&item);
-    if (!watch.alive()) // the parent hears of the row
-        return index;
-    if (nSubItem == 0 && index != -1 && m_useRowColours)
+    keepFirst(raised, [&] {
+        if (nSubItem != 0)
+            SetItem(&item);
+        else
+            index = InsertItem(&item);
+    });
+    if (watch.alive() && nSubItem == 0 && index != -1 && m_useRowColours)
         m_rowColours[nItem] = colour;
-    SetItemData(nItem, static_cast<DWORD_PTR>(nItem));
+    if (watch.alive())
+        keepFirst(raised, [&] { SetItemData(nItem, static_cast<DWORD_PTR>(nItem)); });
+    raise(raised);
     return index;
 }
 
@@ -224,12 +232,17 @@ bool COVOListCtrlEx::inReportView() const
 
 /// What is right of the last column belongs to the rows: it is painted with whatever needs painting. The
 /// header does not: it is left out, since it takes longer to paint than all the rows.
+///
+/// Some platforms ask the host of a virtual list for the indent of an item to tell where it is.
 void COVOListCtrlEx::OnPaint()
 {
+    const Lifeline::Watch watch(*this);
     CRect bounds;
     CRect update;
-    if (inReportView() && GetItemRect(0, &bounds, LVIR_BOUNDS) && bounds.right < m_clientWidth &&
-        GetUpdateRect(&update)) {
+    const bool hasRows = inReportView() && GetItemRect(0, &bounds, LVIR_BOUNDS);
+    if (!watch.alive())
+        return;
+    if (hasRows && bounds.right < m_clientWidth && GetUpdateRect(&update)) {
         update.left = std::min(update.left, bounds.right - 1);
         update.right = m_clientWidth;
         RedrawWindow(&update, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
@@ -293,24 +306,29 @@ void COVOListCtrlEx::repaintSelectionUnless(bool inOurChild)
         RepaintSelectedItems();
 }
 
-/// Only rows that are shown are looked at: all of a million may be selected.
+/// Only rows that are shown are looked at: all of a million may be selected. The host may be asked for the
+/// text of a row's label, and delete the list then.
 void COVOListCtrlEx::RepaintSelectedItems()
 {
+    const Lifeline::Watch watch(*this);
     repaintRow(GetNextItem(-1, LVNI_FOCUSED));
-    if (!(GetStyle() & LVS_SHOWSELALWAYS)) {
+    if (watch.alive() && !(GetStyle() & LVS_SHOWSELALWAYS)) {
         const RowRange shown = rowsShown(GetTopIndex(), GetCountPerPage(), GetItemCount());
-        for (int item = shown.first; item < shown.end; ++item)
+        for (int item = shown.first; watch.alive() && item < shown.end; ++item)
             if (GetItemState(item, LVIS_SELECTED))
                 repaintRow(item);
     }
-    UpdateWindow();
+    if (watch.alive())
+        UpdateWindow();
 }
 
 void COVOListCtrlEx::repaintRow(int item)
 {
+    const Lifeline::Watch watch(*this);
     CRect bounds;
     CRect label;
-    if (item == -1 || !GetItemRect(item, &bounds, LVIR_BOUNDS) || !GetItemRect(item, &label, LVIR_LABEL))
+    if (item == -1 || !GetItemRect(item, &bounds, LVIR_BOUNDS) || !watch.alive() ||
+        !GetItemRect(item, &label, LVIR_LABEL) || !watch.alive())
         return;
     bounds.left = m_followsOrder ? 0 : label.left; // cells may lie before the label
     InvalidateRect(&bounds, FALSE);

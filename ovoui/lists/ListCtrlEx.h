@@ -79,7 +79,8 @@ public:
 
     /// The text if it fits into `width` less `offset`, both in pixels, in the font of `pDC`; else as much of
     /// it as fits with dots behind it, in a buffer that the next call overwrites, of at most 263 characters.
-    /// Empty when `width` is less than 1 or not even the first character fits.
+    /// Empty when `width` is less than 1 or not even the first of several characters fits; a single one is
+    /// never cut.
     static LPCWSTR MakeShortString(CDC* pDC, LPCWSTR text, int width, int offset);
 
     // Off unless asked for

@@ -106,38 +106,54 @@ ListRowPainter::ListRowPainter(COVOListCtrlEx& list, const DRAWITEMSTRUCT& draw,
 
 void ListRowPainter::paint()
 {
-    if (!readItem())
+    if (!findPlaces() || !readItem())
         return;
     chooseColours();
-    const frame::Box label = itemBox(m_list, m_index, LVIR_LABEL);
-    const frame::Box row = rowBoxOf(label);
 
     const TextLook kept(m_dc, m_text, m_background);
-    fillRow(row);
-    paintLabel(label);
-    paintSubItems(label);
+    fillRow();
+    paintLabel();
+    paintSubItems();
     if ((m_item.state & LVIS_FOCUSED) && m_look.list.focused) {
-        const RECT edge = toRect(row);
+        const RECT edge = toRect(m_row);
         m_dc.DrawFocusRect(&edge);
     }
 }
 
+/// Some platforms ask the host for a label's text to tell where the label is, and for the indent of a virtual
+/// list's item for each of its places. The host may delete the list then: false when it has gone. Or draw
+/// another list, whose texts are read into the same buffer: so the places come before the text.
+bool ListRowPainter::findPlaces()
+{
+    const Lifeline::Watch watch(m_list);
+    m_label = itemBox(m_list, m_index, LVIR_LABEL);
+    if (!watch.alive())
+        return false;
+    const frame::Box bounds = itemBox(m_list, m_index, LVIR_BOUNDS);
+    if (!watch.alive())
+        return false;
+    m_row = rowBoxOf(bounds);
+    if (watch.alive() && m_look.list.icons)
+        m_icon = itemBox(m_list, m_index, LVIR_ICON);
+    return watch.alive();
+}
+
 /// By a brush: filling with a text's background leaves out a column of pixels in mirrored lists of some
 /// platforms.
-void ListRowPainter::fillRow(const frame::Box& row)
+void ListRowPainter::fillRow()
 {
     SolidFill fill(m_dc);
     fill.setColour(m_background);
-    fill(row);
+    fill(m_row);
 }
 
 /// Other cells may lie before the label: the row begins with the first one shown.
-frame::Box ListRowPainter::rowBoxOf(const frame::Box& label) const
+frame::Box ListRowPainter::rowBoxOf(const frame::Box& bounds) const
 {
-    frame::Box row = rowBox(itemBox(m_list, m_index, LVIR_BOUNDS), label, m_look.clientWidth);
+    frame::Box row = rowBox(bounds, m_label, m_look.clientWidth);
     const CHeaderCtrl* const header = m_look.followsOrder ? m_list.GetHeaderCtrl() : nullptr;
     if (header)
-        row.left = cellOf(header->OrderToIndex(0), 0, label).left;
+        row.left = cellOf(header->OrderToIndex(0), 0, m_label).left;
     return row;
 }
 
@@ -184,16 +200,16 @@ void ListRowPainter::paintSwatch(const frame::Box& box)
 
 // Column 0
 
-void ListRowPainter::paintLabel(const frame::Box& label)
+void ListRowPainter::paintLabel()
 {
     std::optional<OverSwatch> readable;
     if (isColourColumn(0)) {
         readable.emplace(m_dc, m_colours.text);
-        paintSwatch(label);
+        paintSwatch(m_label);
     }
     paintStateImage();
     paintIcon();
-    const frame::Box area = labelTextBox(label, m_look.stateImageWidth);
+    const frame::Box area = labelTextBox(m_label, m_look.stateImageWidth);
     const LPCWSTR text = textOf(m_item);
     const LPCWSTR shown = COVOListCtrlEx::MakeShortString(&m_dc, text, area.width(), kLabelOffset);
     drawText(text, shown, textBox(area, kLabelInset), DT_LEFT);
@@ -223,8 +239,7 @@ void ListRowPainter::paintIcon()
 {
     if (!m_look.list.icons || CRect(m_draw.rcItem).Width() < kNarrowestForIcon)
         return;
-    const frame::Box icon = itemBox(m_list, m_index, LVIR_ICON);
-    ::ImageList_Draw(m_look.list.icons, m_item.iImage, m_dc, icon.left, icon.top,
+    ::ImageList_Draw(m_look.list.icons, m_item.iImage, m_dc, m_icon.left, m_icon.top,
                      ILD_TRANSPARENT | (m_item.state & LVIS_OVERLAYMASK));
 }
 
@@ -235,9 +250,9 @@ frame::Box ListRowPainter::cellOf(int column, int width, const frame::Box& befor
     return cellBox(m_list, m_index, column, width, before, m_look.followsOrder);
 }
 
-void ListRowPainter::paintSubItems(const frame::Box& label)
+void ListRowPainter::paintSubItems()
 {
-    frame::Box box = label;
+    frame::Box box = m_label;
     const Lifeline::Watch watch(m_list);
     const int count = static_cast<int>(m_look.list.columns.size());
     // The platform may ask the host for a text, who may destroy the list instead.

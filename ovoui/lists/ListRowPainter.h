@@ -39,19 +39,20 @@ public:
     void paint();
 
 private:
+    bool findPlaces();
     bool readItem();
     void chooseColours();
     bool looksSelected() const;
     bool isColourColumn(int column) const;
 
-    frame::Box rowBoxOf(const frame::Box& label) const;
+    frame::Box rowBoxOf(const frame::Box& bounds) const;
     frame::Box cellOf(int column, int width, const frame::Box& before) const;
-    void fillRow(const frame::Box& row);
+    void fillRow();
     void paintSwatch(const frame::Box& box);
     void paintStateImage();
     void paintIcon();
-    void paintLabel(const frame::Box& label);
-    void paintSubItems(const frame::Box& label);
+    void paintLabel();
+    void paintSubItems();
     void paintSubItem(LPCWSTR text, const frame::Box& box, int format, bool isColour);
     void drawText(LPCWSTR text, LPCWSTR shown, const frame::Box& box, UINT alignment);
 
@@ -60,6 +61,9 @@ private:
     const RowLook& m_look;
     CDC& m_dc;
     const int m_index;
+    frame::Box m_label{};
+    frame::Box m_row{};
+    frame::Box m_icon{};
     LVITEM m_item{};
     COLORREF m_text = 0;
     COLORREF m_background = 0;

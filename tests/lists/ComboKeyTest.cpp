@@ -726,3 +726,15 @@ TEST(ComboList, ClosingItKeepsWhatDiffersInCaseOnly)
     EXPECT_EQ(scene.text(), L"Berry");
     EXPECT_EQ(scene.combo.GetCurSel(), -1);
 }
+
+TEST(ComboList, ClosingItKeepsASelectedItemThatHasNoText)
+{
+    ComboScene scene({L"apple", L"berry"}, CBS_DROPDOWN | CBS_OWNERDRAWFIXED);
+    scene.enterWith(0);
+    EXPECT_EQ(scene.combo.GetCurSel(), 0) << "the focus tells the parent of a list that opens and closes";
+    scene.combo.ShowDropDown();
+    ::SendMessageW(scene.listBox(), LB_SETCURSEL, 1, 0);
+    ASSERT_EQ(scene.combo.GetCurSel(), 1);
+    scene.combo.ShowDropDown(FALSE);
+    EXPECT_EQ(scene.combo.GetCurSel(), 1);
+}

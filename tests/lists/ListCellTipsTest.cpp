@@ -1,6 +1,7 @@
 // Tips for cells whose text was cut.
 #include "ListScene.h"
 
+#include <support/Perishing.h>
 #include <testkit/ImportPatch.h>
 
 #include <ovoui/lists/ListCellTips.h>
@@ -327,6 +328,42 @@ TEST_F(ListTips, AHostThatDetachesThemWhenItIsAskedGetsNone)
         EXPECT_FALSE(tips.Window());
     }
     other.DestroyWindow();
+}
+
+// Some platforms ask for the text of a label to tell where it is, too.
+TEST_F(ListTips, TheyMayGoWheneverTheHostIsAskedForALabel)
+{
+    rest(1, 0, false);
+    tips.Detach();
+    const CPoint label = scene.cell(0, 0).CenterPoint();
+    scene.list.SetItemText(0, 0, LPSTR_TEXTCALLBACK);
+    scene.list.ValidateRect(nullptr); // drawing would ask, too
+    int last = 0;
+    for (bool gone = true; gone && last < 50;) {
+        auto* const doomed = new Perishing<COVOListCellTips>;
+        doomed->Attach(scene.list);
+        gone = false;
+        int left = ++last;
+        scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), [&](NMHDR* header) -> LRESULT {
+            LVITEM& item = reinterpret_cast<NMLVDISPINFO*>(header)->item;
+            if (item.mask & LVIF_TEXT)
+                ::lstrcpynW(item.pszText, L"a label with no room", item.cchTextMax);
+            if (--left == 0) {
+                delete doomed;
+                gone = true;
+            }
+            return 0;
+        });
+        pointAt(label);
+        scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFO), 0);
+        if (gone)
+            EXPECT_TRUE(Perishing<COVOListCellTips>::isUntouched(doomed))
+                << "when asked for the " << last << "th time";
+        else
+            delete doomed;
+    }
+    EXPECT_GT(last, 1) << "the host has been asked";
+    EXPECT_LT(last, 50);
 }
 
 TEST_F(ListTips, SoDoScrollingAndALossOfTheFocus)

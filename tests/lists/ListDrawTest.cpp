@@ -763,6 +763,154 @@ TEST(ListDraw, TheListMayBeDeletedWhenItIsAskedForAText)
     ::DestroyWindow(window);
 }
 
+namespace
+{
+
+/// A list with one row in a shown parent, which gives the texts, and deletes the list when it is told to.
+class DoomedList
+{
+public:
+    DoomedList(RecordingParent& parent, DWORD style)
+        : m_parent(parent)
+    {
+        fillImages(m_icons, 16, {RGB(0, 150, 0)});
+        m_list->Create(WS_CHILD | WS_VISIBLE | LVS_SHAREIMAGELISTS | style, CRect(0, 0, 300, 150), &parent,
+                       7);
+        m_window = *m_list;
+        m_list->SetImageList(&m_icons, LVSIL_SMALL);
+        for (const int column : {0, 1})
+            m_list->InsertColumn(column, L"c", LVCFMT_LEFT, 100);
+        answer(0);
+        if (style & LVS_OWNERDATA) {
+            m_list->SetItemCountEx(1);
+        } else {
+            m_list->InsertItem(0, LPSTR_TEXTCALLBACKW);
+            m_list->SetItemText(0, 1, LPSTR_TEXTCALLBACKW);
+        }
+        m_list->SetItemState(0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        parent.SetFocus();
+        m_list->UpdateWindow();
+    }
+    ~DoomedList()
+    {
+        m_parent.answer(static_cast<UINT>(LVN_GETDISPINFOW), 0);
+        ::DestroyWindow(m_window);
+        if (!m_deleted)
+            delete m_list;
+    }
+    DoomedList(const DoomedList&) = delete;
+    DoomedList& operator=(const DoomedList&) = delete;
+
+    List& list() { return *m_list; }
+    HWND window() const { return m_window; }
+    bool isDeleted() const { return m_deleted; }
+    bool isUntouched() const { return Perishing<List>::isUntouched(m_list); }
+
+    /// From now on, until the list is deleted when its parent is asked for the `last`th time; never for 0.
+    void answer(int last)
+    {
+        m_parent.answer(static_cast<UINT>(LVN_GETDISPINFOW), [this, last](NMHDR* header) mutable -> LRESULT {
+            auto& item = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
+            if (item.mask & LVIF_TEXT)
+                ::lstrcpynW(item.pszText, L"text", item.cchTextMax);
+            if (last > 0 && --last == 0) {
+                m_list->UnsubclassWindow(); // which the platform goes on with
+                delete m_list;
+                m_deleted = true;
+            }
+            return 0;
+        });
+    }
+
+private:
+    RecordingParent& m_parent;
+    CImageList m_icons;
+    Perishing<List>* const m_list = new Perishing<List>;
+    HWND m_window = nullptr;
+    bool m_deleted = false;
+};
+
+struct Occasion
+{
+    const char* name;
+    void (*act)(DoomedList&);
+};
+
+const Occasion kOccasions[] = {
+    {"drawing a row",
+     [](DoomedList& doomed) {
+         Picture picture(300, 60);
+         DRAWITEMSTRUCT draw{};
+         draw.hDC = picture.dc();
+         draw.rcItem = {0, 0, 300, 20};
+         doomed.list().DrawItem(&draw);
+     }},
+    {"painting",
+     [](DoomedList& doomed) {
+         ::RedrawWindow(doomed.window(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+     }},
+    {"the focus comes", [](DoomedList& doomed) { ::SetFocus(doomed.window()); }},
+    {"the focus goes",
+     [](DoomedList& doomed) {
+         ::SetFocus(doomed.window());
+         ::SetFocus(::GetParent(doomed.window()));
+     }},
+};
+
+} // namespace
+
+// Some platforms ask for the text of a label to tell where it is, too.
+TEST(ListDraw, TheListMayBeDeletedWheneverItsParentIsAskedForAnItem)
+{
+    RecordingParent parent;
+    present(parent);
+    for (const DWORD style : {DWORD{0}, DWORD{LVS_OWNERDATA}})
+        for (const Occasion& occasion : kOccasions) {
+            SCOPED_TRACE(occasion.name);
+            int last = 0;
+            for (bool deleted = true; deleted && last < 100;) {
+                DoomedList doomed(parent, style);
+                doomed.answer(++last);
+                occasion.act(doomed);
+                deleted = doomed.isDeleted();
+                EXPECT_TRUE(!deleted || doomed.isUntouched()) << "when asked for the " << last << "th time";
+            }
+            EXPECT_GT(last, 2) << "the parent has been asked for both texts";
+            EXPECT_LT(last, 100);
+        }
+}
+
+TEST(ListDraw, AnotherListMayBeDrawnWhenTheHostIsAskedForAText)
+{
+    ListScene scene;
+    scene.fill({100, 100}, 1);
+    for (const int column : {0, 1})
+        scene.list.SetItemText(0, column, LPSTR_TEXTCALLBACKW);
+    List other;
+    other.Create(WS_CHILD, CRect(0, 0, 200, 100), &scene.parent, 9);
+    other.InsertColumn(0, L"c", LVCFMT_LEFT, 100);
+    other.InsertItem(0, L"another list");
+    Picture aside(200, 60);
+    bool drawsOther = false;
+    scene.parent.answer(static_cast<UINT>(LVN_GETDISPINFOW), [&](NMHDR* header) -> LRESULT {
+        if (drawsOther)
+            drawRow(aside, other, 0);
+        auto& item = reinterpret_cast<NMLVDISPINFOW*>(header)->item;
+        if (item.mask & LVIF_TEXT)
+            ::lstrcpynW(item.pszText, item.iSubItem ? L"second" : L"first", item.cchTextMax);
+        return 0;
+    });
+    Picture expected(300, 60);
+    drawRow(expected, scene.list, 0);
+    EXPECT_GT(expected.count(::GetSysColor(COLOR_WINDOWTEXT)), 0);
+    drawsOther = true;
+    Picture drawn(300, 60);
+    drawRow(drawn, scene.list, 0);
+    EXPECT_GT(aside.count(::GetSysColor(COLOR_WINDOWTEXT)), 0) << "the host was asked";
+    EXPECT_EQ(drawn.differences(expected), 0);
+    other.DestroyWindow();
+}
+
 TEST(ListDraw, LeavesTheDeviceContextAsItWas)
 {
     ListScene scene;

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 using namespace ovo::testkit;
 
 namespace
@@ -385,6 +387,24 @@ TEST(ListRows, TheListMayBeDeletedWhenTheParentHearsOfARow)
     EXPECT_EQ(list->AddItem(0, 0, L"x", kOpaque, -1), 0);
     ASSERT_TRUE(window);
     ::DestroyWindow(window);
+}
+
+TEST(ListRows, HaveTheirColourAndDataWhateverTheParentRaisesWhenItHearsOfThem)
+{
+    ListScene scene;
+    scene.list.UseRowColours(TRUE);
+    scene.addColumn(L"a", 60);
+    scene.addColumn(L"b", 60, true);
+    scene.list.AddItem(0, 0, L"x", kOpaque | RGB(200, 0, 0), -1);
+    scene.parent.answer(static_cast<UINT>(LVN_INSERTITEM),
+                        [](NMHDR*) -> LRESULT { throw std::runtime_error("host"); });
+    EXPECT_THROW(scene.list.AddItem(1, 0, L"y", kOpaque | RGB(0, 200, 0), -1), std::runtime_error);
+    scene.parent.answer(static_cast<UINT>(LVN_INSERTITEM), 0);
+    ASSERT_EQ(scene.list.GetItemCount(), 2);
+    EXPECT_EQ(scene.list.GetItemData(1), 1u);
+    scene.list.SetItemText(1, 1, L".");
+    scene.show();
+    EXPECT_THAT(shownColour(scene, 1), IsColour(RGB(0, 200, 0)));
 }
 
 TEST(ListRows, InsertedInFrontShareTheColourOfTheirIndex)
