@@ -760,6 +760,31 @@ TEST(NewStyleHost, IsToldOfItsControlsInTheModuleStateThatItWasMadeIn)
     EXPECT_EQ(dialog.states, std::vector<AFX_MODULE_STATE*>(4, AfxGetModuleState()));
 }
 
+TEST(NewStyleHost, GivesTheFilesOfThisTimeWhateverTheBufferHeldBefore)
+{
+    const std::vector<std::vector<std::wstring>> choices{
+        {L"C:\\a.txt"}, {L"C:\\plans\\b.txt", L"C:\\plans\\c.txt"}, {L"C:\\plans.txt"}};
+    for (const bool hostsBuffer : {false, true}) {
+        FakeShellDialog fake;
+        const COVOFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT, nullptr, nullptr, TRUE);
+        std::vector<wchar_t> buffer(200, L'#'); // as a host's that has cleared only its first character
+        buffer.front() = L'\0';
+        buffer.back() = L'\0';
+        if (hostsBuffer) {
+            dialog.ofn->lpstrFile = buffer.data();
+            dialog.ofn->nMaxFile = static_cast<DWORD>(buffer.size() - 1);
+        }
+        for (const std::vector<std::wstring>& chosen : choices) {
+            fake.results = chosen;
+            ASSERT_EQ(dialog.DoModal(), IDOK);
+            std::vector<std::wstring> paths;
+            for (POSITION position = dialog.GetStartPosition(); position;)
+                paths.emplace_back(dialog.GetNextPathName(position).GetString());
+            EXPECT_EQ(paths, chosen) << hostsBuffer;
+        }
+    }
+}
+
 TEST(NewStyleHost, ReadsNumbersAsFarAsTheyGo)
 {
     HostDialog dialog(Kind::NewStyle);
