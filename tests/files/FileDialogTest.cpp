@@ -449,6 +449,23 @@ TEST(ClassicHost, ReadsControlsAsAWindowDoes)
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
 }
 
+TEST(ClassicHost, TakesAButtonInItsThirdStateForChecked)
+{
+    FakeClassicDialog fake;
+    HostDialog dialog(Kind::Classic);
+    fake.onShow = [&](HWND child) {
+        const HWND button = ::GetDlgItem(child, IDC_BACKUP);
+        ::SendMessageW(button, BM_SETSTYLE, BS_AUTO3STATE, FALSE);
+        ::SendMessageW(button, BM_SETCHECK, BST_INDETERMINATE, 0);
+        EXPECT_EQ(::IsDlgButtonChecked(child, IDC_BACKUP), UINT{BST_INDETERMINATE});
+        EXPECT_TRUE(dialog.GetCheckButtonState(IDC_BACKUP));
+        ::SendMessageW(child, WM_COMMAND, MAKEWPARAM(IDC_BACKUP, BN_CLICKED),
+                       reinterpret_cast<LPARAM>(button));
+        EXPECT_EQ(dialog.count("CheckButtonToggled " + idOf(IDC_BACKUP) + " 1"), 1);
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+}
+
 TEST(ClassicHost, TellsAPushButtonAsACheckBox)
 {
     HostDialog dialog(Kind::Classic);
@@ -886,6 +903,7 @@ TEST(NewStyleHost, PutsControlsIntoGroupsAndTakesThemAsTheHostSays)
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     EXPECT_EQ(missing, std::vector<std::wstring>{});
     EXPECT_TRUE(dialog.GetCheckButtonState(IDC_BACKUP)) << "as it was added";
+    EXPECT_TRUE(dialog.GetControlStateVisible(IDC_FORMAT_LABEL)) << "the label's number is that of the group";
     EXPECT_EQ(dialog.GetSelectedControlItem(kUnlabelled), 5);
     EXPECT_EQ(dialog.GetEditBoxText(kEmpty), L"")
         << "0 stands for no text, not for a control with that number";
