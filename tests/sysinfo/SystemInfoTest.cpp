@@ -35,6 +35,8 @@ System g_system;
 
 HANDLE WINAPI snapshot(DWORD flags, DWORD process)
 {
+    EXPECT_EQ(flags, DWORD{TH32CS_SNAPMODULE | TH32CS_SNAPMODULE32});
+    EXPECT_EQ(process, ::GetCurrentProcessId());
     if (g_system.failSnapshot) {
         ::SetLastError(ERROR_BAD_LENGTH);
         return INVALID_HANDLE_VALUE;
@@ -59,6 +61,8 @@ BOOL WINAPI first(HANDLE handle, MODULEENTRY32W* entry)
 
 BOOL WINAPI versionInfo(LPCWSTR path, DWORD ignored, DWORD size, LPVOID data)
 {
+    DWORD unused = 0;
+    EXPECT_EQ(size, 2 * ::GetFileVersionInfoSizeW(path, &unused)) << "the system may need more than it says";
     return !g_system.failVersion && ::GetFileVersionInfoW(path, ignored, size, data);
 }
 
