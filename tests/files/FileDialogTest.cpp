@@ -449,6 +449,25 @@ TEST(ClassicHost, ReadsControlsAsAWindowDoes)
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
 }
 
+TEST(ClassicHost, GivesNothingForControlsThatAreNotThere)
+{
+    FakeClassicDialog fake;
+    HostDialog dialog(Kind::Classic);
+    int looks = 0;
+    fake.onShow = [&](HWND) {
+        ++looks;
+        EXPECT_EQ(dialog.GetSelectedControlItem(99), 0);
+        EXPECT_FALSE(dialog.GetCheckButtonState(99));
+        EXPECT_FALSE(dialog.GetControlStateVisible(99));
+        EXPECT_EQ(dialog.GetEditBoxText(99), L"");
+        EXPECT_EQ(dialog.GetEditBoxInt(99), 0);
+        dialog.SetControlState(99, true, true);
+        dialog.SetEditBoxInt(99, 5);
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(looks, 1);
+}
+
 TEST(ClassicHost, TakesAButtonInItsThirdStateForChecked)
 {
     FakeClassicDialog fake;
