@@ -642,6 +642,49 @@ TEST(ClassicHost, TellsASelectionOfTheOldStyle)
     EXPECT_EQ(dialog.count("LBSelChanged 1120 3 1"), 1);
 }
 
+namespace
+{
+
+/// A control of the host's that hears of its own notifications.
+class HearingButton : public CButton
+{
+public:
+    explicit HearingButton(std::vector<std::string>& events)
+        : m_events(events)
+    {
+    }
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
+    {
+        if (message == WM_COMMAND)
+            m_events.push_back("button");
+        return CButton::OnChildNotify(message, wParam, lParam, result);
+    }
+
+private:
+    std::vector<std::string>& m_events;
+};
+
+} // namespace
+
+TEST(ClassicHost, IsToldOfACommandBeforeItGoesOn)
+{
+    FakeClassicDialog fake;
+    HostDialog dialog(Kind::Classic);
+    fake.onShow = [&](HWND child) {
+        HearingButton button(dialog.events);
+        EXPECT_TRUE(button.SubclassDlgItem(IDC_BACKUP, dialog.DialogWnd()));
+        dialog.forgetEvents();
+        ::SendMessageW(child, WM_COMMAND, MAKEWPARAM(IDC_BACKUP, BN_CLICKED),
+                       reinterpret_cast<LPARAM>(button.m_hWnd));
+        EXPECT_EQ(dialog.events,
+                  (std::vector<std::string>{"CheckButtonToggled " + idOf(IDC_BACKUP) + " 0", "button"}));
+        button.UnsubclassWindow();
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+}
+
 TEST(ClassicHost, TellsAMenuCommandAsACheckBox)
 {
     HostDialog dialog(Kind::Classic);
