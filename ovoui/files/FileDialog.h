@@ -73,8 +73,8 @@ protected:
     virtual void OnFolderChange();
     /// The dialog is ready to be shown.
     virtual void OnInitDone();
-    /// Classic only: the list box or combo box `nIDBox` has another selection, `iCurSel`; `nCode` says how it
-    /// changed.
+    /// Classic only, and only where the host has taken OFN_EXPLORER out of the flags: the list box or combo
+    /// box `nIDBox` of the dialog has another selection, `iCurSel`; `nCode` says how it changed.
     virtual void OnLBSelChangedNotify(UINT nIDBox, UINT iCurSel, UINT nCode);
     /// Another file type was chosen.
     virtual void OnTypeChange();

@@ -21,8 +21,9 @@ struct AvailableUpdate
 /// `options`, and this installed `version` (four numbers) on Windows for Intel64 processors; none when there
 /// is no newer one. Where several rows of the list apply, the last one counts.
 ///
-/// Waits for the server. Throws OvoError, with the address, when the list cannot be fetched or read, or when
-/// a row lacks a column that every row must have. Keeps no copy of the list.
+/// Waits for the server. Throws OvoError, with the address, when the list cannot be fetched or a row lacks a
+/// column that every row must have; with the file or the line, when what came cannot be read or is not in
+/// the form of a list. Keeps no copy of the list.
 OVOUI_API std::optional<AvailableUpdate> findUpdate(const std::wstring& address, const std::wstring& product,
                                                     const std::wstring& options, const int version[4]);
 

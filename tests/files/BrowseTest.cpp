@@ -13,6 +13,7 @@
 #include <shlobj.h>
 #include <shlwapi.h>
 
+#include <cwchar>
 #include <cwctype>
 
 using namespace ovo::testkit;
@@ -367,6 +368,106 @@ TEST_F(BrowseTest, HandsOverNameTypeAndExtensionAsTheyStand)
     EXPECT_EQ(fake.name, L"");
     EXPECT_EQ(fake.type, 2u);
     EXPECT_EQ(fake.extension, L".JPG");
+}
+
+// The classic dialog, where there is no other
+
+namespace
+{
+
+/// What the system is asked for in its classic dialogs. The user cancels them.
+struct AskedRecord
+{
+    static inline std::vector<std::string> dialogs;
+    static inline OPENFILENAMEW record;
+    static inline std::wstring title;
+    static inline std::wstring folder;
+    static inline std::wstring name;
+    static inline std::wstring filter;
+
+    static BOOL WINAPI open(OPENFILENAMEW* asked) { return take("open", *asked); }
+    static BOOL WINAPI save(OPENFILENAMEW* asked) { return take("save", *asked); }
+
+private:
+    static BOOL take(const char* dialog, const OPENFILENAMEW& asked)
+    {
+        const auto textOrNone = [](const wchar_t* text) { return text ? text : L"(none)"; };
+        dialogs.emplace_back(dialog);
+        record = asked;
+        title = textOrNone(asked.lpstrTitle);
+        folder = textOrNone(asked.lpstrInitialDir);
+        name = asked.lpstrFile;
+        filter.clear();
+        for (const wchar_t* part = asked.lpstrFilter; *part; part += std::wcslen(part) + 1)
+            filter.append(part) += L'|';
+        return FALSE;
+    }
+};
+
+class ClassicBrowseTest : public BrowseTest
+{
+protected:
+    ClassicBrowseTest()
+    {
+        fake.creation = REGDB_E_CLASSNOTREG;
+        AskedRecord::dialogs.clear();
+        parent.CreateEx(0, AfxRegisterWndClass(0), L"Parent", WS_POPUP, 0, 0, 300, 200, nullptr, nullptr);
+    }
+    ~ClassicBrowseTest() override { parent.DestroyWindow(); }
+
+    /// Without what the framework adds for every dialog.
+    static DWORD flags() { return AskedRecord::record.Flags & ~DWORD{OFN_EXPLORER | OFN_ENABLEHOOK}; }
+
+    FakeShellDialog fake;
+    CWnd parent;
+
+private:
+    ImportPatch m_opening{L"ovomfc.dll", "GetOpenFileNameW", reinterpret_cast<void*>(&AskedRecord::open)};
+    ImportPatch m_saving{L"ovomfc.dll", "GetSaveFileNameW", reinterpret_cast<void*>(&AskedRecord::save)};
+};
+
+} // namespace
+
+TEST_F(ClassicBrowseTest, OneFileIsAskedForAsAgreed)
+{
+    std::wstring path = L"b.txt";
+    EXPECT_FALSE(
+        BrowseForFile(&parent, L"Which picture?", files.path(L"gone"), L".jpg", kFilter, path, 1, 0));
+    const OPENFILENAMEW& record = AskedRecord::record;
+    EXPECT_EQ(record.lStructSize, sizeof(OPENFILENAMEW));
+    EXPECT_EQ(record.hwndOwner, parent.m_hWnd);
+    EXPECT_EQ(flags(), 0x580Cu);
+    EXPECT_EQ(record.nFilterIndex, 2u);
+    EXPECT_EQ(AskedRecord::title, L"Which picture?");
+    EXPECT_EQ(AskedRecord::folder, files.folder());
+    EXPECT_EQ(AskedRecord::name, L"b.txt");
+    EXPECT_EQ(AskedRecord::filter, kFilter);
+    EXPECT_EQ(path, L"b.txt");
+
+    EXPECT_FALSE(BrowseForFile(&parent, L"", L"", nullptr, kFilter, path, 0, 1));
+    EXPECT_EQ(flags(), 0x480Eu);
+    EXPECT_EQ(record.lpstrDefExt, nullptr);
+    EXPECT_EQ(AskedRecord::title, L"(none)");
+    EXPECT_EQ(AskedRecord::folder, L"(none)");
+    EXPECT_EQ(AskedRecord::dialogs, (std::vector<std::string>{"open", "save"}));
+}
+
+TEST_F(ClassicBrowseTest, SeveralFilesAreAskedForAsAgreed)
+{
+    std::vector<std::wstring> paths{L"as before"};
+    EXPECT_FALSE(BrowseForFiles(&parent, L"Which?", files.path(L"below"), L".PNG", kFilter, paths));
+    const OPENFILENAMEW& record = AskedRecord::record;
+    EXPECT_EQ(record.hwndOwner, parent.m_hWnd);
+    EXPECT_EQ(flags(), 0x85A0Cu & ~DWORD{OFN_EXPLORER});
+    EXPECT_NE(record.Flags & OFN_EXPLORER, 0u);
+    EXPECT_EQ(record.nMaxFile, 32767u);
+    EXPECT_EQ(record.nFilterIndex, 2u);
+    EXPECT_EQ(AskedRecord::title, L"Which?");
+    EXPECT_EQ(AskedRecord::folder, files.path(L"below"));
+    EXPECT_EQ(AskedRecord::name, L"");
+    EXPECT_EQ(AskedRecord::filter, kFilter);
+    EXPECT_EQ(AskedRecord::dialogs, std::vector<std::string>{"open"});
+    EXPECT_EQ(paths, std::vector<std::wstring>{L"as before"});
 }
 
 // A folder

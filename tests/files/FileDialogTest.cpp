@@ -449,6 +449,42 @@ TEST(ClassicHost, ReadsControlsAsAWindowDoes)
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
 }
 
+TEST(ClassicHost, GivesNothingForControlsThatAreNotThere)
+{
+    FakeClassicDialog fake;
+    HostDialog dialog(Kind::Classic);
+    int looks = 0;
+    fake.onShow = [&](HWND) {
+        ++looks;
+        EXPECT_EQ(dialog.GetSelectedControlItem(99), 0);
+        EXPECT_FALSE(dialog.GetCheckButtonState(99));
+        EXPECT_FALSE(dialog.GetControlStateVisible(99));
+        EXPECT_EQ(dialog.GetEditBoxText(99), L"");
+        EXPECT_EQ(dialog.GetEditBoxInt(99), 0);
+        dialog.SetControlState(99, true, true);
+        dialog.SetEditBoxInt(99, 5);
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(looks, 1);
+}
+
+TEST(ClassicHost, TakesAButtonInItsThirdStateForChecked)
+{
+    FakeClassicDialog fake;
+    HostDialog dialog(Kind::Classic);
+    fake.onShow = [&](HWND child) {
+        const HWND button = ::GetDlgItem(child, IDC_BACKUP);
+        ::SendMessageW(button, BM_SETSTYLE, BS_AUTO3STATE, FALSE);
+        ::SendMessageW(button, BM_SETCHECK, BST_INDETERMINATE, 0);
+        EXPECT_EQ(::IsDlgButtonChecked(child, IDC_BACKUP), UINT{BST_INDETERMINATE});
+        EXPECT_TRUE(dialog.GetCheckButtonState(IDC_BACKUP));
+        ::SendMessageW(child, WM_COMMAND, MAKEWPARAM(IDC_BACKUP, BN_CLICKED),
+                       reinterpret_cast<LPARAM>(button));
+        EXPECT_EQ(dialog.count("CheckButtonToggled " + idOf(IDC_BACKUP) + " 1"), 1);
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+}
+
 TEST(ClassicHost, TellsAPushButtonAsACheckBox)
 {
     HostDialog dialog(Kind::Classic);
@@ -606,6 +642,49 @@ TEST(ClassicHost, TellsASelectionOfTheOldStyle)
     EXPECT_EQ(dialog.count("LBSelChanged 1120 3 1"), 1);
 }
 
+namespace
+{
+
+/// A control of the host's that hears of its own notifications.
+class HearingButton : public CButton
+{
+public:
+    explicit HearingButton(std::vector<std::string>& events)
+        : m_events(events)
+    {
+    }
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
+    {
+        if (message == WM_COMMAND)
+            m_events.push_back("button");
+        return CButton::OnChildNotify(message, wParam, lParam, result);
+    }
+
+private:
+    std::vector<std::string>& m_events;
+};
+
+} // namespace
+
+TEST(ClassicHost, IsToldOfACommandBeforeItGoesOn)
+{
+    FakeClassicDialog fake;
+    HostDialog dialog(Kind::Classic);
+    fake.onShow = [&](HWND child) {
+        HearingButton button(dialog.events);
+        EXPECT_TRUE(button.SubclassDlgItem(IDC_BACKUP, dialog.DialogWnd()));
+        dialog.forgetEvents();
+        ::SendMessageW(child, WM_COMMAND, MAKEWPARAM(IDC_BACKUP, BN_CLICKED),
+                       reinterpret_cast<LPARAM>(button.m_hWnd));
+        EXPECT_EQ(dialog.events,
+                  (std::vector<std::string>{"CheckButtonToggled " + idOf(IDC_BACKUP) + " 0", "button"}));
+        button.UnsubclassWindow();
+    };
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+}
+
 TEST(ClassicHost, TellsAMenuCommandAsACheckBox)
 {
     HostDialog dialog(Kind::Classic);
@@ -760,6 +839,31 @@ TEST(NewStyleHost, IsToldOfItsControlsInTheModuleStateThatItWasMadeIn)
     EXPECT_EQ(dialog.states, std::vector<AFX_MODULE_STATE*>(4, AfxGetModuleState()));
 }
 
+TEST(NewStyleHost, GivesTheFilesOfThisTimeWhateverTheBufferHeldBefore)
+{
+    const std::vector<std::vector<std::wstring>> choices{
+        {L"C:\\a.txt"}, {L"C:\\plans\\b.txt", L"C:\\plans\\c.txt"}, {L"C:\\plans.txt"}};
+    for (const bool hostsBuffer : {false, true}) {
+        FakeShellDialog fake;
+        const COVOFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT, nullptr, nullptr, TRUE);
+        std::vector<wchar_t> buffer(200, L'#'); // as a host's that has cleared only its first character
+        buffer.front() = L'\0';
+        buffer.back() = L'\0';
+        if (hostsBuffer) {
+            dialog.ofn->lpstrFile = buffer.data();
+            dialog.ofn->nMaxFile = static_cast<DWORD>(buffer.size() - 1);
+        }
+        for (const std::vector<std::wstring>& chosen : choices) {
+            fake.results = chosen;
+            ASSERT_EQ(dialog.DoModal(), IDOK);
+            std::vector<std::wstring> paths;
+            for (POSITION position = dialog.GetStartPosition(); position;)
+                paths.emplace_back(dialog.GetNextPathName(position).GetString());
+            EXPECT_EQ(paths, chosen) << hostsBuffer;
+        }
+    }
+}
+
 TEST(NewStyleHost, ReadsNumbersAsFarAsTheyGo)
 {
     HostDialog dialog(Kind::NewStyle);
@@ -861,6 +965,7 @@ TEST(NewStyleHost, PutsControlsIntoGroupsAndTakesThemAsTheHostSays)
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     EXPECT_EQ(missing, std::vector<std::wstring>{});
     EXPECT_TRUE(dialog.GetCheckButtonState(IDC_BACKUP)) << "as it was added";
+    EXPECT_TRUE(dialog.GetControlStateVisible(IDC_FORMAT_LABEL)) << "the label's number is that of the group";
     EXPECT_EQ(dialog.GetSelectedControlItem(kUnlabelled), 5);
     EXPECT_EQ(dialog.GetEditBoxText(kEmpty), L"")
         << "0 stands for no text, not for a control with that number";

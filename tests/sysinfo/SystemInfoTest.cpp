@@ -13,8 +13,10 @@
 #include <tlhelp32.h>
 
 #include <algorithm>
+#include <climits>
 #include <functional>
 #include <memory>
+#include <string_view>
 
 using namespace ovo::testkit;
 
@@ -35,6 +37,8 @@ System g_system;
 
 HANDLE WINAPI snapshot(DWORD flags, DWORD process)
 {
+    EXPECT_EQ(flags, DWORD{TH32CS_SNAPMODULE | TH32CS_SNAPMODULE32});
+    EXPECT_EQ(process, ::GetCurrentProcessId());
     if (g_system.failSnapshot) {
         ::SetLastError(ERROR_BAD_LENGTH);
         return INVALID_HANDLE_VALUE;
@@ -59,6 +63,8 @@ BOOL WINAPI first(HANDLE handle, MODULEENTRY32W* entry)
 
 BOOL WINAPI versionInfo(LPCWSTR path, DWORD ignored, DWORD size, LPVOID data)
 {
+    DWORD unused = 0;
+    EXPECT_EQ(size, 2 * ::GetFileVersionInfoSizeW(path, &unused)) << "the system may need more than it says";
     return !g_system.failVersion && ::GetFileVersionInfoW(path, ignored, size, data);
 }
 
@@ -157,6 +163,73 @@ TEST_F(SystemInfo, RecordsOfEveryKind)
             EXPECT_EQ(columns[kFlags], row.flags);
         EXPECT_EQ(columns[kOs], row.os);
         EXPECT_EQ(columns[kDescription], row.description);
+    }
+}
+
+namespace
+{
+
+/// What is damaged in the records that the system gives.
+struct Damage
+{
+    UINT translationBytes = UINT_MAX; ///< of the block, if it has more
+    UINT fixedBytes = UINT_MAX;       ///< likewise
+    bool fixedIsForeign = false;      ///< something else stands in its place
+};
+Damage g_damage;
+
+BOOL WINAPI queryValue(LPCVOID record, LPCWSTR path, LPVOID* value, PUINT length)
+{
+    if (!::VerQueryValueW(record, path, value, length))
+        return FALSE;
+    if (std::wstring_view(path) == L"\\VarFileInfo\\Translation")
+        *length = std::min(*length, g_damage.translationBytes);
+    if (std::wstring_view(path) == L"\\") {
+        *length = std::min(*length, g_damage.fixedBytes);
+        static VS_FIXEDFILEINFO s_foreign;
+        if (g_damage.fixedIsForeign)
+            *value = &s_foreign;
+    }
+    return TRUE;
+}
+
+/// How the module with two languages is listed when its record is damaged.
+LoadedModule listed(const Damage& damage)
+{
+    g_damage = damage;
+    const std::vector<LoadedModule> modules = loadedModules();
+    const auto found = std::ranges::find(modules, std::wstring(L"sysinfo_two_languages.dll"),
+                                         [](const LoadedModule& module) { return lowercase(module.name); });
+    EXPECT_NE(found, modules.end());
+    return found == modules.end() ? LoadedModule() : *found;
+}
+
+} // namespace
+
+TEST_F(SystemInfo, OnlyWholePairsOfATranslationCount)
+{
+    const ImportPatch patch(L"ovoui.dll", "VerQueryValueW", reinterpret_cast<void*>(&queryValue));
+    const Library module(L"sysinfo_two_languages.dll");
+    for (UINT bytes = 0; bytes <= 8; ++bytes)
+        EXPECT_EQ(listed({.translationBytes = bytes}).fileDescription, bytes < 4 ? L""
+                                                                       : bytes < 8
+                                                                           ? L"Two languages"
+                                                                           : L"Two languages\tZwei Sprachen")
+            << bytes;
+}
+
+TEST_F(SystemInfo, WithoutItsFixedBlockARecordHasItsDescriptionsAlone)
+{
+    const ImportPatch patch(L"ovoui.dll", "VerQueryValueW", reinterpret_cast<void*>(&queryValue));
+    const Library library(L"sysinfo_two_languages.dll");
+    EXPECT_EQ(listed({}).fileVersion, L"1.2.3.4");
+    for (const Damage& damage : {Damage{.fixedBytes = 0}, Damage{.fixedBytes = sizeof(VS_FIXEDFILEINFO) - 1},
+                                 Damage{.fixedIsForeign = true}}) {
+        const LoadedModule module = listed(damage);
+        EXPECT_EQ(module.fileVersion + module.productVersion + module.type + module.flags + module.system,
+                  L"");
+        EXPECT_EQ(module.fileDescription, L"Two languages\tZwei Sprachen");
+        EXPECT_TRUE(module.hasVersionRecord);
     }
 }
 

@@ -201,6 +201,14 @@ TEST_F(BrowseUrl, AnAddressThatCannotBeSplitIsReportedWithTheReason)
     EXPECT_TRUE(g_opened.empty());
 }
 
+TEST_F(BrowseUrl, AnAddressWithoutACanonicalFormIsReportedWithTheReason)
+{
+    EXPECT_EQ(refusal(L""),
+              message(OVOMSG_ADDRESS_INVALID, L"",
+                      formatMessage(ERROR_INTERNET_INVALID_URL, ::GetModuleHandleW(L"wininet.dll"))));
+    EXPECT_TRUE(g_opened.empty());
+}
+
 TEST_F(BrowseUrl, TextsWithAZeroAreNotValid)
 {
     for (const std::wstring& address : {std::wstring(L"calc.exe\0http://example.org/", 29),

@@ -87,6 +87,7 @@ protected:
         auto answering = Robot()
                              .waitFor("the dialog", [] { return shownDialog() != nullptr; })
                              .then([&] {
+                                 EXPECT_FALSE(isCached()) << "the copy goes before the user is asked";
                                  CString shown;
                                  CWnd::FromHandle(shownDialog())->GetDlgItemText(20508, shown);
                                  text = shown;
@@ -132,6 +133,9 @@ TEST_F(UpdateCheck, TheLastRowThatAppliesCounts)
     EXPECT_EQ(update->version, L"12");
     publish("#update,Board,,,,,13,http://example.org/13,\r\n#update,Board,,,,,11,http://example.org/11,\r\n");
     EXPECT_FALSE(found()) << "even when it is not newer";
+    publish("#update,Board,,,,,13,http://example.org/13,\r\n"
+            "#update,Board,,,,,next,http://example.org/next,\r\n");
+    EXPECT_FALSE(found()) << "even when what it offers is no version";
 }
 
 TEST_F(UpdateCheck, WithoutARowThereIsNone)
@@ -344,6 +348,25 @@ TEST_F(UpdateCheck, AnUpdateIsOfferedAndItsPageOpenedOnRequest)
     EXPECT_NE(text.find(L"Board"), std::wstring::npos);
     EXPECT_NE(text.find(L"http://example.org/new page"), std::wstring::npos);
     EXPECT_EQ(g_opened, (std::vector<std::wstring>{L"http://example.org/new%20page"}));
+}
+
+TEST_F(UpdateCheck, TheDialogSaysWhatIsNewForWhatAndWhereItIsDescribed)
+{
+    const auto withoutReturns = [](std::wstring text) {
+        std::erase(text, L'\r');
+        return text;
+    };
+    CString format;
+    ASSERT_TRUE(format.LoadString(20222));
+    publish("#update,Board,,,,,13,http://example.org/13,Faster\r\n");
+    EXPECT_EQ(withoutReturns(shownText(VK_ESCAPE)),
+              stringPrintf(format, L"Faster", L"Board", L"http://example.org/13"));
+    publish("#update,Board,,,,,13,http://example.org/13,\r\n");
+    EXPECT_EQ(withoutReturns(shownText(VK_ESCAPE)),
+              stringPrintf(format, L"13", L"Board", L"http://example.org/13"));
+    ASSERT_TRUE(format.LoadString(20223));
+    publish("");
+    EXPECT_EQ(withoutReturns(shownText(VK_ESCAPE)), stringPrintf(format, L"Board"));
 }
 
 TEST_F(UpdateCheck, DecliningOpensNothing)

@@ -209,11 +209,13 @@ void CFileDialog::UpdateOFNFromShellDialog()
 /// False when there is no file, and when the host's buffer is too small; it then holds the length needed.
 bool CFileDialog::storePaths()
 {
-    const afxdetail::FileList list =
+    afxdetail::FileList list =
         afxdetail::packPaths(isAsking() ? std::vector<std::wstring>{static_cast<LPCTSTR>(GetPathName())}
                                         : resultsOf(*m_pIFileDialog));
     if (list.text.empty() || !m_ofn.lpstrFile)
         return false;
+    if (m_ofn.Flags & OFN_ALLOWMULTISELECT)
+        list.endAsAList();
     if (m_ofn.lpstrFile == m_data->file.data() && list.text.size() > m_data->file.size()) {
         m_data->file.resize(list.text.size());
         m_ofn.lpstrFile = m_data->file.data();

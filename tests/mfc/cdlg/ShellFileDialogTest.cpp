@@ -109,6 +109,25 @@ TEST(ShellFileDialog, TellsTheHostThatItsBufferIsTooSmall)
     EXPECT_EQ(buffer.data(), fake.results[0]);
 }
 
+TEST(ShellFileDialog, CountsTheEndOfTheListForOneOfSeveralFiles)
+{
+    FakeShellDialog fake;
+    fake.results = {L"C:\\" + std::wstring(100, L'x')};
+    for (const DWORD size : {104u, 105u}) {
+        RecordingFileDialog dialog(Kind::Newer, TRUE, OFN_ALLOWMULTISELECT);
+        std::vector<wchar_t> buffer(size + 1, L'#');
+        buffer[0] = L'\0';
+        dialog.m_ofn.lpstrFile = buffer.data();
+        dialog.m_ofn.nMaxFile = size;
+        EXPECT_EQ(dialog.DoModal(), size < 105 ? IDCANCEL : IDOK);
+        EXPECT_EQ(buffer[0], size < 105 ? 105 : L'C');
+        EXPECT_EQ(buffer[size], L'#');
+        if (size == 105) {
+            EXPECT_EQ(pathsOf(dialog), fake.results);
+        }
+    }
+}
+
 TEST(ShellFileDialog, GivesManyFiles)
 {
     FakeShellDialog fake;

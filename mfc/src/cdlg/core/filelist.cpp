@@ -70,6 +70,13 @@ std::size_t extensionOffset(std::wstring_view path)
     return dot != std::wstring_view::npos && path[dot] == L'.' ? dot + 1 : path.size();
 }
 
+void FileList::endAsAList()
+{
+    constexpr std::wstring_view kEnd(L"\0", 2);
+    if (!text.ends_with(kEnd))
+        text += L'\0';
+}
+
 FileList packPaths(const std::vector<std::wstring>& paths)
 {
     FileList list;

@@ -28,6 +28,10 @@ struct FileList
     std::wstring text;               ///< with the zeros that belong to it, the last one included
     std::size_t nameOffset = 0;      ///< of the first name
     std::size_t extensionOffset = 0; ///< 0: none, or several files
+
+    /// Where several files may be chosen, an empty text follows one file too: what a buffer holds behind its
+    /// path is no further name.
+    void endAsAList();
 };
 
 /// One path as it is. Of several the folder, the names, and an empty text, each ended by a zero; a file of

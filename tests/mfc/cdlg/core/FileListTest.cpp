@@ -52,10 +52,16 @@ TEST(FileList, WhatWasPackedComesBack)
         EXPECT_EQ(unpacked(packPaths(paths).text, ListStyle::Zeros), paths);
 }
 
-TEST(FileList, OnePathOfADialogForSeveral)
+TEST(FileList, OnePathOfADialogForSeveralIsAListToo)
 {
-    EXPECT_EQ(unpacked(packPaths({L"C:\\docs\\a.txt"}).text, ListStyle::Zeros),
+    FileList list = packPaths({L"C:\\docs\\a.txt"});
+    list.endAsAList();
+    EXPECT_EQ(unpacked(list.text + L"held before", ListStyle::Zeros),
               std::vector<std::wstring>{L"C:\\docs\\a.txt"});
+    const FileList several = packPaths({L"C:\\docs\\a.txt", L"C:\\docs\\b.txt"});
+    list = several;
+    list.endAsAList();
+    EXPECT_EQ(list.text, several.text) << "as it is";
 }
 
 TEST(FileList, OfTheOldStyleHasBlanks)
