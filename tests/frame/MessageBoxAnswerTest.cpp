@@ -315,6 +315,44 @@ TEST(MessageBoxAnswer, TheHelpButtonTellsTheOwnerAndLeavesTheBoxOpen)
     owner.DestroyWindow();
 }
 
+TEST(MessageBoxAnswer, AChildThatOwnsTheBoxHearsOfHelpAndTheWindowAroundItIsDisabled)
+{
+    class Hearing : public CWnd
+    {
+    public:
+        int helps = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            helps += message == m_help;
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+
+    private:
+        const UINT m_help = ::RegisterWindowMessageW(L"commdlg_help");
+    };
+    Hearing around;
+    around.CreateEx(0, AfxRegisterWndClass(0), L"around", WS_POPUP | WS_VISIBLE, 0, 0, 300, 300, nullptr,
+                    nullptr);
+    Hearing child;
+    child.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), &around, 1);
+
+    bool enabledMeanwhile = true;
+    auto story = whenOpen()
+                     .then([&] { enabledMeanwhile = around.IsWindowEnabled() != FALSE; })
+                     .click([] { return ::GetDlgItem(openBox(), IDHELP); })
+                     .waitFor("the child to hear", [&] { return child.helps == 1; })
+                     .key(VK_ESCAPE)
+                     .start();
+    EXPECT_EQ(show({.type = MB_YESNO | MB_HELP, .owner = child.m_hWnd}), IDCANCEL);
+    story.finish();
+    EXPECT_FALSE(enabledMeanwhile);
+    EXPECT_TRUE(around.IsWindowEnabled());
+    EXPECT_EQ(around.helps, 0);
+    around.DestroyWindow();
+}
+
 TEST(MessageBoxAnswer, HelpThatNobodyHearsLeavesTheBoxOpen)
 {
     auto asking = whenOpen()
