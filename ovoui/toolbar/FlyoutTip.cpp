@@ -1,5 +1,6 @@
 #include <ovoui/toolbar/FlyoutTip.h>
 
+#include <ovoui/frame/Exceptions.h>
 #include <ovoui/frame/NonClientMetrics.h>
 #include <ovoui/frame/Tip.h>
 
@@ -28,11 +29,14 @@ CFlyoutTip::CFlyoutTip()
 {
 }
 
+/// Where the system does not tell its font for tips, that of dialogs serves: a tip is no reason for an error.
 bool CFlyoutTip::create(CWnd& owner)
 {
-    const OvoNonClientMetrics metrics;
-    if (m_statusFont.CreateFontIndirect(&metrics.lfStatusFont))
-        setFont(m_statusFont);
+    ovoui::frame::quietly([this] {
+        const OvoNonClientMetrics metrics;
+        if (m_statusFont.CreateFontIndirect(&metrics.lfStatusFont))
+            setFont(m_statusFont);
+    });
     return registerClass() && CreateEx(WS_EX_TOOLWINDOW, kClass, L"OVO_FLYOUT_TOOLTIP", WS_POPUP, 0, 0, 0, 0,
                                        owner.m_hWnd, nullptr);
 }

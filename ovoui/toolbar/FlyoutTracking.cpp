@@ -154,9 +154,10 @@ void CFlyoutToolbar::showTip()
     if (text.empty())
         return;
     if (!m_tip) {
-        m_tip = std::make_unique<CFlyoutTip>();
-        if (!m_tip->create(*this))
-            return;
+        auto tip = std::make_unique<CFlyoutTip>();
+        if (!tip->create(*this))
+            return; // tried again at the next entry
+        m_tip = std::move(tip);
     }
     CRect entry;
     GetItemRect(m_hot, &entry);

@@ -119,8 +119,12 @@ void CVantorToolBar::CreatePopup(int index, const CRect& rect, int held)
     if (state->accessible)
         flyout->useAccessibleNames(nameOfButton(*this, index));
     flyout->placeAt(rect, horizontal);
-    if (!held || !flyout->showLater(holdDelay()))
-        flyout->show();
+    if (held && flyout->showLater(holdDelay()))
+        return;
+    const std::exception_ptr foreign = keeping([&] { flyout->show(); }); // asks the host's update handlers
+    if (foreign && ms_popupBar == flyout)
+        closeFlyout(); // keys would walk in it although nobody sees it
+    raise(foreign);
 }
 
 void CVantorToolBar::SetHoldDelay(UINT milliseconds)

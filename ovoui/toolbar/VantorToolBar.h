@@ -193,7 +193,8 @@ protected:
     /// False where there is none; the results are left alone.
     bool ButtonHitTest(CPoint point, int& index, CRect& rect, bool& hasFlyout) const;
     /// Opens the flyout of the button `index`, whose rectangle `rect` on the screen is given, in place of the
-    /// one that is open. `held` makes it show itself after the hold delay.
+    /// one that is open. `held` makes it show itself after the hold delay. What an update handler raises comes
+    /// out of here, and the flyout is closed then.
     void CreatePopup(int index, const CRect& rect, int held);
     /// The images of the strip `bitmapId` begin at the index `offset` of the bar's images.
     void noteBitmap(int bitmapId, int offset);

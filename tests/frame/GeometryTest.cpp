@@ -13,8 +13,9 @@ constexpr RECT kPrimaryWork{0, 0, 1920, 1040};
 constexpr RECT kSecondaryWork{1920, 100, 3200, 900};
 
 /// Two monitors side by side: the first answers for what starts left of x = 1920.
-HMONITOR WINAPI nearestOfTwo(LPCRECT rect, DWORD)
+HMONITOR WINAPI nearestOfTwo(LPCRECT rect, DWORD elsewhere)
 {
+    EXPECT_EQ(elsewhere, static_cast<DWORD>(MONITOR_DEFAULTTONEAREST));
     return reinterpret_cast<HMONITOR>(static_cast<INT_PTR>(rect->left < 1920 ? 1 : 2));
 }
 

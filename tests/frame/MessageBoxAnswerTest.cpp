@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 using namespace ovo::testkit;
 
 namespace
@@ -78,6 +80,41 @@ TEST(MessageBoxAnswer, WithoutItsStringsTheButtonsHaveTheSameLabels)
         const ImportPatch patch{L"ovoui.dll", "LoadStringW", reinterpret_cast<void*>(&noStrings)};
         inspect({.type = type}, [&](HWND box) { EXPECT_EQ(labels(box), expected); });
     }
+}
+
+TEST(MessageBoxAnswer, ItsPartsHaveTheNumbersThatHostsKnow)
+{
+    const struct
+    {
+        int id;
+        UINT label;
+    } rows[] = {
+        {IDABORT, 20100}, {IDOK, 20101}, {IDCANCEL, 20102}, {IDRETRY, 20103}, {IDIGNORE, 20104},
+        {IDYES, 20105},   {IDNO, 20106}, {1298, 20107},     {1299, 20108},    {IDHELP, 20109},
+    };
+    std::set<int> seen;
+    std::set<std::wstring> words;
+    for (const UINT type :
+         {UINT{MB_ABORTRETRYIGNORE | MB_HELP}, UINT{MB_OKCANCEL}, UINT{OVOMB_EXTBUTTONS | 3}}) {
+        inspect({.type = type, .caption = nullptr}, [&](HWND box) {
+            for (const auto& row : rows) {
+                const HWND button = ::GetDlgItem(box, row.id);
+                if (!button)
+                    continue;
+                EXPECT_EQ(windowText(button), libraryString(row.label)) << row.id;
+                seen.insert(row.id);
+                words.insert(windowText(button));
+            }
+            EXPECT_EQ(windowText(box), libraryString(20110));
+            const LONG style = ::GetWindowLongW(::GetDlgItem(box, 20507), GWL_STYLE);
+            EXPECT_EQ(style & (ES_MULTILINE | ES_READONLY), ES_MULTILINE | ES_READONLY);
+        });
+    }
+    EXPECT_EQ(seen.size(), std::size(rows));
+    EXPECT_EQ(words.size(), std::size(rows)) << "each has words of its own";
+    EXPECT_FALSE(libraryString(20110).empty());
+    EXPECT_NE(::FindResourceW(::GetModuleHandleW(L"ovouires.dll"), MAKEINTRESOURCEW(1505), RT_DIALOG),
+              nullptr);
 }
 
 TEST(MessageBoxAnswer, EveryButtonOfEverySetAnswersItsIdWhenClicked)
@@ -276,6 +313,56 @@ TEST(MessageBoxAnswer, TheHelpButtonTellsTheOwnerAndLeavesTheBoxOpen)
     EXPECT_EQ(reinterpret_cast<HWND>(s_box), box);
     EXPECT_EQ(s_more, 0);
     owner.DestroyWindow();
+}
+
+TEST(MessageBoxAnswer, AChildThatOwnsTheBoxHearsOfHelpAndTheWindowAroundItIsDisabled)
+{
+    class Hearing : public CWnd
+    {
+    public:
+        int helps = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            helps += message == m_help;
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+
+    private:
+        const UINT m_help = ::RegisterWindowMessageW(L"commdlg_help");
+    };
+    Hearing around;
+    around.CreateEx(0, AfxRegisterWndClass(0), L"around", WS_POPUP | WS_VISIBLE, 0, 0, 300, 300, nullptr,
+                    nullptr);
+    Hearing child;
+    child.Create(AfxRegisterWndClass(0), L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), &around, 1);
+
+    bool enabledMeanwhile = true;
+    auto story = whenOpen()
+                     .then([&] { enabledMeanwhile = around.IsWindowEnabled() != FALSE; })
+                     .click([] { return ::GetDlgItem(openBox(), IDHELP); })
+                     .waitFor("the child to hear", [&] { return child.helps == 1; })
+                     .key(VK_ESCAPE)
+                     .start();
+    EXPECT_EQ(show({.type = MB_YESNO | MB_HELP, .owner = child.m_hWnd}), IDCANCEL);
+    story.finish();
+    EXPECT_FALSE(enabledMeanwhile);
+    EXPECT_TRUE(around.IsWindowEnabled());
+    EXPECT_EQ(around.helps, 0);
+    around.DestroyWindow();
+}
+
+TEST(MessageBoxAnswer, HelpThatNobodyHearsLeavesTheBoxOpen)
+{
+    auto asking = whenOpen()
+                      .key(VK_RETURN) // Help is the default
+                      .then([] { EXPECT_NE(openBox(), nullptr); })
+                      .click([] { return ::GetDlgItem(openBox(), IDHELP); })
+                      .then([] { EXPECT_NE(openBox(), nullptr); })
+                      .key(VK_ESCAPE)
+                      .start();
+    EXPECT_EQ(show({.type = MB_YESNO | MB_HELP | MB_DEFBUTTON3, .owner = nullptr}), IDCANCEL);
 }
 
 TEST(MessageBoxAnswer, TheOwnerIsDisabledMeanwhileAndNoLonger)

@@ -142,6 +142,8 @@ TEST(MessageBoxLayout, ButtonsAreAsTallAsTheFontSaysAndHoldEveryLabel)
         for (const int id : buttonsFromTheLeft(box)) {
             const HWND button = ::GetDlgItem(box, id);
             EXPECT_EQ(style(button) & ~DWORD{BS_TYPEMASK}, 0x50014000u) << "shown, for Tab, and notifying";
+            EXPECT_EQ(::GetWindowLongPtrW(button, GWLP_HINSTANCE),
+                      reinterpret_cast<LONG_PTR>(::GetModuleHandleW(L"ovoui.dll")));
             EXPECT_EQ(placeInParent(button).Height(), font.tmHeight * 14 / 8);
             EXPECT_GE(placeInParent(button).Width(), font.tmAveCharWidth * 50 / 4);
             EXPECT_EQ(::SendMessageW(button, WM_GETFONT, 0, 0),

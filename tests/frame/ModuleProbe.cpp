@@ -3,6 +3,9 @@
 //   module_probe openly    the same with boxes
 //   module_probe cycles    0 loaded and unloaded 200 times with no growth of handles, GDI objects and
 //                          modules; 1 it did not load, 2 it stayed loaded, 3 something grew
+//   module_probe leaving   0 while the library is loaded, and only then, the framework, which stays, finds
+//                          its resources, and its resource module stays too; 1 it did not load, 2 they are
+//                          not found, 3 it stayed loaded, 4 the resource module went, 5 they are still found
 //   module_probe damaged   0 a resource module that is empty or cut at any multiple of 4 KiB was refused, and
 //                          the whole one taken; 1 a cut one was taken, 2 another error, 3 the whole one was
 //                          refused
@@ -108,6 +111,35 @@ int loadAndUnload()
                 static_cast<unsigned long long>(before.committed),
                 static_cast<unsigned long long>(after.committed));
     return grew ? 3 : 0;
+}
+
+/// Several times: what is left of one time could be in the way of the next.
+int loadAndLeave()
+{
+    constexpr int kTimes = 3;
+    constexpr int kMessageBox = 1505;
+    const HMODULE framework = ::LoadLibraryW(L"ovomfc.dll"); // stays
+    const auto search = reinterpret_cast<HINSTANCE (*)(LPCWSTR, LPCWSTR)>(
+        reinterpret_cast<void*>(::GetProcAddress(framework, "_Z21AfxFindResourceHandlePKwS0_")));
+    const auto finds = [search] {
+        const HINSTANCE found = search(MAKEINTRESOURCEW(kMessageBox), RT_DIALOG);
+        return found && found == ::GetModuleHandleW(L"ovouires.dll");
+    };
+    for (int i = 0; i < kTimes; ++i) {
+        const HMODULE library = ::LoadLibraryW(L"ovoui.dll");
+        if (!library)
+            return 1;
+        if (!finds())
+            return 2;
+        ::FreeLibrary(library);
+        if (::GetModuleHandleW(L"ovoui.dll"))
+            return 3;
+        if (!::GetModuleHandleW(L"ovouires.dll"))
+            return 4;
+        if (finds())
+            return 5;
+    }
+    return 0;
 }
 
 std::string contentOf(const wchar_t* path)
@@ -256,6 +288,8 @@ int wmain(int argc, wchar_t** argv)
     const std::wstring_view how = argc > 1 ? argv[1] : L"once";
     if (how == L"cycles")
         return loadAndUnload();
+    if (how == L"leaving")
+        return loadAndLeave();
     if (how == L"damaged")
         return loadDamaged();
     if (how == L"unlinked")

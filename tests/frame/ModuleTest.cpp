@@ -239,6 +239,11 @@ TEST(Module, JoinsItsResourcesToTheFrameworksSearch)
     EXPECT_EQ(AfxGetResourceHandle(), before);
 }
 
+TEST(Module, LeavesTheFrameworksSearchWhenItIsUnloaded)
+{
+    EXPECT_EQ(exitCodeOf(programFolder() / L"module_probe.exe", L"leaving"), 0u);
+}
+
 TEST(Module, HoldsTheMessageBoxIconsItself)
 {
     for (const wchar_t* name : {L"COMPUTER", L"DISCCD", L"DISCFIXED", L"DISCNETWORK", L"DISCREMOVABLE",

@@ -1,7 +1,15 @@
 #include <ovoui/frame/ThemeData.h>
 
+#include <testkit/ImportPatch.h>
+
 #include <afxwin.h>
 #include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+using ovo::testkit::ImportPatch;
 
 namespace
 {
@@ -202,4 +210,177 @@ TEST_F(ThemeDataAnyTheme, ACopySharesTheModule)
 TEST_F(ThemeDataAnyTheme, OneInstanceServesTheProcess)
 {
     EXPECT_EQ(&CThemeData::getThemeData(), &CThemeData::getThemeData());
+}
+
+// With entry points of the test's own
+
+namespace
+{
+
+/// What the entry points of an engine answer, and what they were asked.
+struct Engine
+{
+    std::vector<std::string> names; ///< of entry points that were looked for
+    std::vector<std::string> calls;
+    BOOL isOn = TRUE;
+    bool hasTheme = true;
+    bool writesColour = true;
+    const RECT* rect = nullptr; ///< that was drawn into
+    HWND wnd = nullptr;         ///< whose theme was opened
+};
+
+Engine s_engine;
+
+constexpr COLORREF kEngineColour = RGB(1, 2, 3);
+
+const HTHEME kEngineTheme = reinterpret_cast<HTHEME>(0x1234);
+
+void note(const std::string& name, const std::vector<int>& numbers)
+{
+    std::string call = name;
+    for (const int number : numbers)
+        call += " " + std::to_string(number);
+    s_engine.calls.push_back(call);
+}
+
+HTHEME WINAPI openTheme(HWND wnd, LPCWSTR classes)
+{
+    const std::wstring asked = classes;
+    s_engine.calls.push_back("open " + std::string(asked.begin(), asked.end()));
+    s_engine.wnd = wnd;
+    return s_engine.hasTheme ? kEngineTheme : nullptr;
+}
+
+HRESULT WINAPI closeTheme(HTHEME theme)
+{
+    s_engine.calls.push_back(theme == kEngineTheme ? "close" : "close another");
+    return S_OK;
+}
+
+/// Fails, whether or not it has written a colour.
+HRESULT WINAPI themeColour(HTHEME, int part, int state, int property, COLORREF* colour)
+{
+    note("colour", {part, state, property});
+    if (s_engine.writesColour)
+        *colour = kEngineColour;
+    return E_FAIL;
+}
+
+HBRUSH WINAPI themeBrush(HTHEME, int id)
+{
+    note("brush", {id});
+    return nullptr;
+}
+
+BOOL WINAPI themesOn()
+{
+    s_engine.calls.push_back("on");
+    return s_engine.isOn;
+}
+
+HRESULT WINAPI drawTheme(HTHEME, HDC, int part, int state, LPCRECT rect, LPCRECT clip)
+{
+    note(clip ? "draw clipped" : "draw", {part, state});
+    s_engine.rect = rect;
+    return E_FAIL;
+}
+
+FARPROC WINAPI entryPointOf(HMODULE, LPCSTR name)
+{
+    const struct
+    {
+        const char* name;
+        void* function;
+    } points[] = {
+        {"OpenThemeData", reinterpret_cast<void*>(&openTheme)},
+        {"CloseThemeData", reinterpret_cast<void*>(&closeTheme)},
+        {"GetThemeColor", reinterpret_cast<void*>(&themeColour)},
+        {"GetThemeSysColorBrush", reinterpret_cast<void*>(&themeBrush)},
+        {"IsAppThemed", reinterpret_cast<void*>(&themesOn)},
+        {"DrawThemeBackground", reinterpret_cast<void*>(&drawTheme)},
+    };
+    s_engine.names.push_back(name);
+    for (const auto& point : points)
+        if (s_engine.names.back() == point.name)
+            return reinterpret_cast<FARPROC>(point.function);
+    return nullptr;
+}
+
+HMODULE anyLibrary(const wchar_t*)
+{
+    return ::LoadLibraryW(L"uxtheme.dll"); // the theme data lets go of it
+}
+
+CThemeData ofEngine()
+{
+    s_engine = {};
+    const ImportPatch patch{L"ovoui.dll", "GetProcAddress", reinterpret_cast<void*>(&entryPointOf)};
+    return CThemeData(&anyLibrary);
+}
+
+using Calls = std::vector<std::string>;
+
+/// The calls since this was asked last.
+Calls callsSince()
+{
+    return std::exchange(s_engine.calls, {});
+}
+
+} // namespace
+
+TEST_F(ThemeDataAnyTheme, ItsEntryPointsAreFoundByNameOnceAndInOrder)
+{
+    const CThemeData themes = ofEngine();
+    EXPECT_EQ(s_engine.names, (Calls{"OpenThemeData", "CloseThemeData", "GetThemeColor",
+                                     "GetThemeSysColorBrush", "IsAppThemed", "DrawThemeBackground"}));
+    themes.GroupboxText(m_wnd);
+    EXPECT_EQ(s_engine.names.size(), 6u) << "not looked for anew";
+}
+
+TEST_F(ThemeDataAnyTheme, WhetherThemesAreOnIsAskedAtEveryCall)
+{
+    CThemeData themes = ofEngine();
+    for (const BOOL answer : {FALSE, TRUE, BOOL{0x100}, BOOL{-1}, FALSE}) {
+        s_engine.isOn = answer;
+        EXPECT_EQ(themes.IsAppThemed(), answer != FALSE) << answer;
+    }
+    EXPECT_EQ(callsSince(), Calls(5, "on"));
+}
+
+TEST_F(ThemeDataAnyTheme, TheGroupTitleIsWhatTheEngineHasWrittenWhateverItAnswers)
+{
+    const CThemeData themes = ofEngine();
+    EXPECT_EQ(themes.GroupboxText(m_wnd), kEngineColour);
+    EXPECT_EQ(callsSince(), (Calls{"open Button", "colour 4 1 3803", "close"}));
+    EXPECT_EQ(s_engine.wnd, m_wnd);
+    s_engine.writesColour = false;
+    EXPECT_EQ(themes.GroupboxText(m_wnd), ::GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_EQ(callsSince(), (Calls{"open Button", "colour 4 1 3803", "close"}));
+    s_engine.hasTheme = false;
+    EXPECT_EQ(themes.GroupboxText(m_wnd), ::GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_EQ(callsSince(), Calls{"open Button"}) << "nothing to close";
+}
+
+TEST_F(ThemeDataAnyTheme, AButtonIsDrawnInItsStateWithoutAClipRectangle)
+{
+    CThemeData themes = ofEngine();
+    for (int state = 1; state <= 5; ++state) {
+        EXPECT_TRUE(draw(themes, L"bUTTON", state)) << "whatever the engine answers";
+        EXPECT_EQ(callsSince(), (Calls{"open bUTTON", "draw 1 " + std::to_string(state), "close"}));
+        EXPECT_EQ(s_engine.rect, &kArea);
+        EXPECT_EQ(s_engine.wnd, m_wnd);
+    }
+    EXPECT_TRUE(draw(themes, L"Tab"));
+    EXPECT_EQ(callsSince(), (Calls{"open Tab", "close"}));
+    s_engine.hasTheme = false;
+    EXPECT_TRUE(draw(themes, L"Button"));
+    EXPECT_EQ(callsSince(), Calls{"open Button"});
+}
+
+TEST_F(ThemeDataAnyTheme, TheSystemsColoursAreNotAskedOfTheEngine)
+{
+    CThemeData themes = ofEngine();
+    EXPECT_EQ(themes.ButtonFace(m_wnd), ::GetSysColor(COLOR_BTNFACE));
+    EXPECT_EQ(themes.BackgroundBrush(m_wnd), ::GetSysColorBrush(COLOR_BTNFACE));
+    EXPECT_EQ(callsSince(), Calls{});
 }

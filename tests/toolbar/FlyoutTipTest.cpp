@@ -73,6 +73,28 @@ UINT_PTR WINAPI noteTimer(HWND wnd, UINT_PTR id, UINT elapse, TIMERPROC procedur
     return ::SetTimer(wnd, id, tipTime && id != 42 ? tipTime : elapse, procedure);
 }
 
+BOOL WINAPI noFonts(UINT action, UINT parameter, void* value, UINT how)
+{
+    if (action != SPI_GETNONCLIENTMETRICS)
+        return ::SystemParametersInfoW(action, parameter, value, how);
+    ::SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return FALSE;
+}
+
+int refusedTips = 0;
+
+/// Makes all windows but the first tip.
+HWND WINAPI refuseOneTip(DWORD extendedStyle, LPCWSTR windowClass, LPCWSTR name, DWORD style, int x, int y,
+                         int width, int height, HWND parent, HMENU menu, HINSTANCE instance, void* data)
+{
+    if (refusedTips == 0 && name && ::lstrcmpW(name, L"OVO_FLYOUT_TOOLTIP") == 0) {
+        ++refusedTips;
+        return nullptr;
+    }
+    return ::CreateWindowExW(extendedStyle, windowClass, name, style, x, y, width, height, parent, menu,
+                             instance, data);
+}
+
 /// Lets the tip come that is awaited.
 void bringTip()
 {
@@ -152,6 +174,33 @@ TEST_F(FlyoutTips, TheFirstWaitsLongerThanTheNext)
         .moveTo(scene.outside())
         .release();
     EXPECT_EQ(timers[42], std::vector<UINT>{});
+}
+
+TEST_F(FlyoutTips, AppearWhereTheSystemDoesNotTellTheirFont)
+{
+    const ImportPatch patch{L"ovoui.dll", "SystemParametersInfoW", reinterpret_cast<void*>(&noFonts)};
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(0))
+        .waitFor("the tip", [] { return shownTip() != nullptr; })
+        .moveTo(scene.outside())
+        .release();
+    EXPECT_TRUE(BarScene::idle());
+}
+
+TEST_F(FlyoutTips, AppearAtTheNextEntryAfterOneThatCouldNotBeMade)
+{
+    refusedTips = 0;
+    const ImportPatch patch{L"ovomfc.dll", "CreateWindowExW", reinterpret_cast<void*>(&refuseOneTip)};
+    scene.user.press(scene.button(BarScene::Lines))
+        .waitFor(kShown, &BarScene::flyoutShown)
+        .moveTo(scene.entry(0))
+        .waitFor("the refusal", [] { return refusedTips == 1; })
+        .then([] { EXPECT_TRUE(timers[44].empty()) << "nothing was shown that could end"; })
+        .moveTo(scene.entry(1))
+        .waitFor("the tip", [] { return shownTip() != nullptr; })
+        .moveTo(scene.outside())
+        .release();
 }
 
 TEST_F(FlyoutTips, ComeOnce)

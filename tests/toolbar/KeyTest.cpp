@@ -126,6 +126,17 @@ TEST_F(BarKeys, EveryKeyWithAndWithoutCtrlForEveryDialogCode)
     postedCommands();
 }
 
+TEST_F(BarKeys, CharactersAreLeftToTheFrameworkWhateverTheirKeys)
+{
+    for (const bool ctrl : {false, true}) {
+        const HeldCtrl held(ctrl);
+        for (const UINT message : {UINT{WM_CHAR}, UINT{WM_SYSCHAR}})
+            for (const UINT code : {UINT{'C'}, UINT{VK_RETURN}, UINT{VK_BACK}})
+                EXPECT_EQ(wayOf(probe.m_hWnd, message, code), Way::Framework) << message << " " << code;
+    }
+    EXPECT_TRUE(postedCommands().empty());
+}
+
 TEST_F(BarKeys, EnterEscapeAndTabPostTheControlsNumber)
 {
     for (const UINT key : {VK_RETURN, VK_ESCAPE, VK_TAB}) {

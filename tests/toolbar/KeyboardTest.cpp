@@ -261,6 +261,27 @@ TEST_F(BarKeyboard, DownOpensTheFlyoutAndArrowsWalkItsEntries)
     EXPECT_EQ(scene.commands(), Ids{});
 }
 
+TEST_F(BarKeyboard, AFlyoutThatAnUpdateHandlerKeepsFromBeingShownIsNotOpen)
+{
+    const auto press = [&](WPARAM key) { scene.bar().SendMessage(WM_KEYDOWN, key); };
+    scene.bar().FocusButtons();
+    press(VK_RIGHT);
+    scene.frame().onUpdate = [](UINT id) {
+        if (id == ID_CURVE) // asked for by the flyout alone
+            throw std::runtime_error("misdeed");
+    };
+    EXPECT_THROW(press(VK_DOWN), std::runtime_error);
+    scene.frame().onUpdate = nullptr;
+    EXPECT_TRUE(BarScene::idle());
+    press(VK_RIGHT);
+    EXPECT_EQ(hot(), BarScene::Shapes) << "the keys walk in the bar";
+    press(VK_LEFT);
+    press(VK_DOWN);
+    EXPECT_TRUE(BarScene::flyoutShown()) << "another time it may be";
+    press(VK_ESCAPE);
+    EXPECT_EQ(hot(), BarScene::Lines);
+}
+
 TEST_F(BarKeyboard, AltDownOpensAndAltUpCloses)
 {
     scene.bar().FocusButtons();

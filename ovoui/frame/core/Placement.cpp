@@ -1,9 +1,40 @@
 #include <ovoui/frame/core/Placement.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 
 namespace ovoui::frame
 {
+namespace
+{
+
+/// One side of a box, in numbers that hold any sum of coordinates.
+struct Span
+{
+    std::int64_t begin;
+    std::int64_t end;
+};
+
+int asCoordinate(std::int64_t value)
+{
+    return static_cast<int>(
+        std::clamp<std::int64_t>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
+/// The order matters: the beginning is corrected last, so that it wins.
+Span movedInto(const Span& span, const Span& area)
+{
+    const std::int64_t length = span.end - span.begin;
+    Span moved = span;
+    if (moved.end > area.end)
+        moved = {area.end - length, area.end};
+    if (moved.begin < area.begin)
+        moved = {area.begin, area.begin + length};
+    return moved;
+}
+
+} // namespace
 
 Box movedBy(const Box& box, int dx, int dy)
 {
@@ -12,17 +43,10 @@ Box movedBy(const Box& box, int dx, int dy)
 
 Box movedInto(const Box& box, const Box& area)
 {
-    // The order matters: the left and the top edge are corrected last, so that they win.
-    Box moved = box;
-    if (moved.right > area.right)
-        moved = movedBy(moved, area.right - moved.right, 0);
-    if (moved.left < area.left)
-        moved = movedBy(moved, area.left - moved.left, 0);
-    if (moved.bottom > area.bottom)
-        moved = movedBy(moved, 0, area.bottom - moved.bottom);
-    if (moved.top < area.top)
-        moved = movedBy(moved, 0, area.top - moved.top);
-    return moved;
+    const Span across = movedInto(Span{box.left, box.right}, Span{area.left, area.right});
+    const Span down = movedInto(Span{box.top, box.bottom}, Span{area.top, area.bottom});
+    return {asCoordinate(across.begin), asCoordinate(down.begin), asCoordinate(across.end),
+            asCoordinate(down.end)};
 }
 
 Box intersection(const Box& one, const Box& other)

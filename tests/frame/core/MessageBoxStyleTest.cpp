@@ -143,6 +143,24 @@ TEST(MessageBoxStyle, FifthAndSixthDefaultNeedTheExtensionBit)
     EXPECT_EQ(defaultId(five | OVOMB_EXTDEFBUTTON | 0x200), 7) << "the lower values still hold";
 }
 
+TEST(MessageBoxStyle, OtherFlagsAreIgnored)
+{
+    constexpr unsigned kKnown = 0x00000FFF | kHelp | OVOMB_EXTBUTTONS | OVOMB_EXTICONS | OVOMB_EXTDEFBUTTON;
+    std::vector<unsigned> others{~kKnown};
+    for (unsigned bit = 1; bit != 0; bit <<= 1)
+        if (!(bit & kKnown))
+            others.push_back(bit);
+    for (const unsigned other : others)
+        for (const unsigned type :
+             {0u, 4u | 0x100, OVOMB_EXTICONS | 0x30 | 2, OVOMB_EXTBUTTONS | 3 | kHelp | 0x200,
+              OVOMB_EXTBUTTONS | 3 | OVOMB_EXTDEFBUTTON | 0x400}) {
+            SCOPED_TRACE(::testing::Message() << std::hex << type << " with " << other);
+            EXPECT_EQ(ids(type | other), ids(type));
+            EXPECT_EQ(defaultId(type | other), defaultId(type));
+            EXPECT_STREQ(messageBoxIcon(type | other), messageBoxIcon(type));
+        }
+}
+
 TEST(MessageBoxStyle, NoTwoButtonsShareAnIdOrALabel)
 {
     std::set<int> ids;

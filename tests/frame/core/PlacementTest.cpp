@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <ostream>
 
 namespace ovoui::frame
@@ -43,6 +44,19 @@ TEST(Placement, TooWideEndsAtTheLeftEdgeAndHangsOverAtTheRight)
 TEST(Placement, TooTallEndsAtTheTopEdgeAndHangsOverAtTheBottom)
 {
     EXPECT_EQ(movedInto({10, 900, 20, 2900}, kScreen), (Box{10, 0, 20, 2000}));
+}
+
+TEST(Placement, FromTheEndsOfTheNumbersABoxComesIntoView)
+{
+    constexpr int kLeast = std::numeric_limits<int>::min();
+    constexpr int kMost = std::numeric_limits<int>::max();
+    const Box right{1920, 0, 3200, 1040};
+    EXPECT_EQ(movedInto({kLeast, kLeast, kLeast + 300, kLeast + 200}, right), (Box{1920, 0, 2220, 200}));
+    EXPECT_EQ(movedInto({kMost - 300, kMost - 200, kMost, kMost}, right), (Box{2900, 840, 3200, 1040}));
+    const Box left{-1280, -50, 0, 900};
+    EXPECT_EQ(movedInto({kLeast, kLeast, kLeast + 300, kLeast + 200}, left), (Box{-1280, -50, -980, 150}));
+    EXPECT_EQ(movedInto({kMost - 300, kMost - 200, kMost, kMost}, left), (Box{-300, 700, 0, 900}));
+    EXPECT_EQ(movedInto({kLeast, 0, kMost, 100}, kScreen), (Box{0, 0, kMost, 100})) << "wider than a number";
 }
 
 TEST(Placement, UsesTheAreaOfAMonitorLeftOfThePrimary)
