@@ -6,6 +6,8 @@
 #include <atltypes.h>
 #include <ole2.h>
 
+#include <memory>
+
 class COleDataObject;
 class CWnd;
 
@@ -13,7 +15,8 @@ class CWnd;
 ///
 /// All points are client coordinates of the window in pixels. Effects are DROPEFFECT_ bits, of which the
 /// source sees those it allows. Exceptions that leave an overridable come out of the call that runs the drag,
-/// when this program runs it, else of the next message handled here.
+/// when this program runs it, else of the next message handled here. An overridable may revoke the target, and
+/// delete it.
 class OVOMFC_API COleDropTarget : public CCmdTarget
 {
 public:
@@ -65,4 +68,6 @@ private:
     DROPEFFECT drop(LPDATAOBJECT dataObject, DWORD keyState, POINTL screen, DROPEFFECT allowed);
     CPoint clientPoint(POINTL screen) const;
     void keepData(LPDATAOBJECT dataObject);
+
+    std::shared_ptr<void> m_life = std::make_shared<char>(); ///< expires for those who watch the object
 };

@@ -98,6 +98,7 @@ void COleDropTarget::keepData(LPDATAOBJECT dataObject)
 
 DROPEFFECT COleDropTarget::answer(Question ask, DWORD keyState, POINTL screen, DROPEFFECT allowed)
 {
+    const std::weak_ptr<void> life = m_life;
     CWnd* const window = CWnd::FromHandle(m_hWnd);
     const CPoint point = clientPoint(screen);
     keyState = withAlt(keyState);
@@ -105,22 +106,25 @@ DROPEFFECT COleDropTarget::answer(Question ask, DWORD keyState, POINTL screen, D
     m_lpDataObject->AddRef(); // the overridables may revoke the target
     data.Attach(m_lpDataObject);
     DROPEFFECT effect = OnDragScroll(window, keyState, point);
-    if (!(effect & DROPEFFECT_SCROLL))
+    if (!life.expired() && !(effect & DROPEFFECT_SCROLL))
         effect = (this->*ask)(window, &data, keyState, point);
     return effect & (allowed | DROPEFFECT_SCROLL);
 }
 
 DROPEFFECT COleDropTarget::drop(LPDATAOBJECT dataObject, DWORD keyState, POINTL screen, DROPEFFECT allowed)
 {
+    const std::weak_ptr<void> life = m_life;
     CWnd* const window = CWnd::FromHandle(m_hWnd);
     const CPoint point = clientPoint(screen);
     COleDataObject data;
     data.Attach(dataObject, FALSE);
     const DROPEFFECT usual =
         OnDragOver(window, &data, withAlt(keyState), point) & allowed & ~DROPEFFECT_SCROLL;
+    if (life.expired())
+        return DROPEFFECT_NONE;
     const DROPEFFECT effect = OnDropEx(window, &data, usual, allowed, point);
-    if (effect != kNotHandled)
-        return effect;
+    if (effect != kNotHandled || life.expired())
+        return effect == kNotHandled ? DROPEFFECT_NONE : effect;
     if (usual != DROPEFFECT_NONE)
         return OnDrop(window, &data, usual, point) ? usual : DROPEFFECT_NONE;
     OnDragLeave(window);
@@ -172,11 +176,13 @@ STDMETHODIMP COleDropTarget::XDropTarget::DragOver(DWORD keyState, POINTL point,
 STDMETHODIMP COleDropTarget::XDropTarget::DragLeave()
 {
     METHOD_PROLOGUE(COleDropTarget, DropTarget)
+    const std::weak_ptr<void> life = pThis->m_life;
     const HRESULT status = guarded([&] {
         pThis->OnDragLeave(CWnd::FromHandle(pThis->m_hWnd));
         return S_OK;
     });
-    pThis->keepData(nullptr);
+    if (!life.expired())
+        pThis->keepData(nullptr);
     return status;
 }
 
@@ -185,10 +191,12 @@ STDMETHODIMP COleDropTarget::XDropTarget::Drop(LPDATAOBJECT dataObject, DWORD ke
 {
     METHOD_PROLOGUE(COleDropTarget, DropTarget)
     const DROPEFFECT allowed = std::exchange(*effect, DROPEFFECT_NONE);
+    const std::weak_ptr<void> life = pThis->m_life;
     const HRESULT status = guarded([&] {
         *effect = pThis->drop(dataObject, keyState, point, allowed);
         return S_OK;
     });
-    pThis->keepData(nullptr);
+    if (!life.expired())
+        pThis->keepData(nullptr);
     return status;
 }

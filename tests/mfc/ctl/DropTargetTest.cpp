@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 #include <testkit/RecordingParent.h>
 
+#include "support/Perishing.h"
+
+#include <functional>
 #include <stdexcept>
 
 using ovo::testkit::RecordingParent;
@@ -27,6 +30,7 @@ public:
     DROPEFFECT dropEx = kNotHandled;
     BOOL takes = TRUE;
     const char* throwsIn = "";
+    std::function<void(const std::string& what)> misdeed;
 
     CWnd* window = nullptr;
     CPoint point;
@@ -38,37 +42,34 @@ public:
 
     DROPEFFECT OnDragEnter(CWnd* wnd, COleDataObject* data, DWORD keyState, CPoint pt) override
     {
-        note("enter", wnd, data, keyState, pt);
-        return enter;
+        return note("enter", enter, wnd, data, keyState, pt);
     }
     DROPEFFECT OnDragOver(CWnd* wnd, COleDataObject* data, DWORD keyState, CPoint pt) override
     {
-        note("over", wnd, data, keyState, pt);
-        return over;
+        return note("over", over, wnd, data, keyState, pt);
     }
     DROPEFFECT OnDragScroll(CWnd* wnd, DWORD keyState, CPoint pt) override
     {
-        note("scroll", wnd, nullptr, keyState, pt);
-        return scroll;
+        return note("scroll", scroll, wnd, nullptr, keyState, pt);
     }
-    void OnDragLeave(CWnd* wnd) override { note("leave", wnd, nullptr, 0, CPoint()); }
+    void OnDragLeave(CWnd* wnd) override { note("leave", 0, wnd, nullptr, 0, CPoint()); }
     DROPEFFECT OnDropEx(CWnd* wnd, COleDataObject* data, DROPEFFECT usual, DROPEFFECT list,
                         CPoint pt) override
     {
         dropDefault = usual;
         dropList = list;
-        note("dropEx", wnd, data, 0, pt);
-        return dropEx;
+        return note("dropEx", dropEx, wnd, data, 0, pt);
     }
     BOOL OnDrop(CWnd* wnd, COleDataObject* data, DROPEFFECT effect, CPoint pt) override
     {
         dropped = effect;
-        note("drop", wnd, data, 0, pt);
-        return takes;
+        return note("drop", takes, wnd, data, 0, pt);
     }
 
 private:
-    void note(const char* what, CWnd* wnd, COleDataObject* data, DWORD keyState, CPoint pt)
+    /// Gives `answer`, also where the misdeed deletes the target.
+    template <class Answer>
+    Answer note(const char* what, Answer answer, CWnd* wnd, COleDataObject* data, DWORD keyState, CPoint pt)
     {
         asked.push_back(what);
         window = wnd;
@@ -78,6 +79,9 @@ private:
             text = takeText(data->GetGlobalData(CF_UNICODETEXT));
         if (std::string(throwsIn) == what)
             throw std::runtime_error(what);
+        if (misdeed)
+            misdeed(what);
+        return answer;
     }
 };
 
@@ -330,6 +334,38 @@ TEST_F(DropTargetTest, RevokingDuringADragReleasesTheData)
     target.Revoke();
 
     EXPECT_EQ(data.references, 1);
+}
+
+TEST(DropTarget, MayBeDeletedByWhateverItIsAsked)
+{
+    using Fleeting = Perishing<Target>;
+    for (const char* const last : {"scroll", "enter", "over", "dropEx", "drop", "leave"})
+        for (const bool drops : {false, true}) {
+            SCOPED_TRACE(std::string(last) + (drops ? ", dropped" : ", left"));
+            FakeDataObject data{L"dragged"};
+            RecordingParent window;
+            auto* const target = new Fleeting;
+            EXPECT_TRUE(target->Register(&window));
+            bool alive = true;
+            target->misdeed = [&](std::string what) {
+                if (what == last && std::exchange(alive, false))
+                    delete target;
+            };
+            auto* const part = static_cast<IDropTarget*>(target->GetInterface(&IID_IDropTarget));
+            DWORD effect = DROPEFFECT_COPY;
+            part->DragEnter(&data, MK_LBUTTON, {}, &effect);
+            if (alive && drops)
+                part->Drop(&data, 0, {}, &effect);
+            if (alive && !drops)
+                part->DragOver(MK_LBUTTON, {}, &effect);
+            if (alive && !drops)
+                part->DragLeave();
+            EXPECT_EQ(data.references, 1);
+            if (alive)
+                delete target;
+            else
+                EXPECT_TRUE(Fleeting::isUntouched(target));
+        }
 }
 
 TEST(DropTarget, TheWindowRevokesItWhenItIsDestroyed)
