@@ -48,6 +48,18 @@ void waitForTicks()
     ::KillTimer(nullptr, timer);
 }
 
+/// What the getters give, and the setters leave alone, where there is no such control.
+void expectNoControl(COVOFileDialog& dialog, DWORD id)
+{
+    EXPECT_EQ(dialog.GetSelectedControlItem(id), 0);
+    EXPECT_FALSE(dialog.GetCheckButtonState(id));
+    EXPECT_FALSE(dialog.GetControlStateVisible(id));
+    EXPECT_EQ(dialog.GetEditBoxText(id), L"");
+    EXPECT_EQ(dialog.GetEditBoxInt(id), 0);
+    dialog.SetControlState(id, true, true);
+    dialog.SetEditBoxInt(id, 5);
+}
+
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(Both, FileDialogTest, testing::Values(Kind::Classic, Kind::NewStyle),
@@ -456,13 +468,7 @@ TEST(ClassicHost, GivesNothingForControlsThatAreNotThere)
     int looks = 0;
     fake.onShow = [&](HWND) {
         ++looks;
-        EXPECT_EQ(dialog.GetSelectedControlItem(99), 0);
-        EXPECT_FALSE(dialog.GetCheckButtonState(99));
-        EXPECT_FALSE(dialog.GetControlStateVisible(99));
-        EXPECT_EQ(dialog.GetEditBoxText(99), L"");
-        EXPECT_EQ(dialog.GetEditBoxInt(99), 0);
-        dialog.SetControlState(99, true, true);
-        dialog.SetEditBoxInt(99, 5);
+        expectNoControl(dialog, 99);
     };
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     EXPECT_EQ(looks, 1);
@@ -894,13 +900,7 @@ TEST(NewStyleHost, ReadsNumbersAsFarAsTheyGo)
 TEST(NewStyleHost, GivesNothingForControlsThatAreNotThere)
 {
     HostDialog dialog(Kind::NewStyle);
-    EXPECT_EQ(dialog.GetSelectedControlItem(99), 0);
-    EXPECT_FALSE(dialog.GetCheckButtonState(99));
-    EXPECT_FALSE(dialog.GetControlStateVisible(99));
-    EXPECT_EQ(dialog.GetEditBoxText(99), L"");
-    EXPECT_EQ(dialog.GetEditBoxInt(99), 0);
-    dialog.SetControlState(99, true, true);
-    dialog.SetEditBoxInt(99, 5);
+    expectNoControl(dialog, 99);
     dialog.SetSelectedControlItem(99, 1);
 }
 
