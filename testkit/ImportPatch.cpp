@@ -41,7 +41,8 @@ ImportPatch::ImportPatch(const wchar_t* module, const char* function, void* repl
     : m_slot(findSlot(::GetModuleHandleW(module), function))
 {
     if (!m_slot) {
-        std::fprintf(stderr, "no import of %s to patch in %ls\n", function, module ? module : L"this program");
+        std::fprintf(stderr, "no import of %s to patch in %ls\n", function,
+                     module ? module : L"this program");
         std::abort();
     }
     m_original = *m_slot;
