@@ -31,7 +31,8 @@ const std::vector<PageEntry>& pageTable()
 {
     static const std::vector<PageEntry> pages{
         {L"messagebox", L"Message box",
-         L"OVOMessageBox: more buttons and icons than the system's, and a place that it remembers.",
+         L"OVOMessageBox: more buttons and icons. COVOMessageDialog: your own, with details. "
+         L"COVOProgressBox.",
          &make<MessageBoxPage>, PageGroup::Frame},
         {L"geometry", L"Geometry and keys",
          L"GetWorkArea and EnsureRectVisible keep rectangles on the screen; PreTranslateTabControl pages by "
@@ -40,16 +41,17 @@ const std::vector<PageEntry>& pageTable()
         {L"themes", L"Themes", L"CThemeData: colours and button backgrounds, with visual styles or without.",
          &make<ThemesPage>, PageGroup::Frame},
         {L"images", L"Alpha images",
-         L"CAlphaImageList and CImageStrips scale images and keep their alpha; CAlphaImageButton shows one.",
+         L"CAlphaImageList, CImageStrips: images with alpha, scaled or drawn (SvgStrip). CAlphaImageButton.",
          &make<ImagesPage>, PageGroup::Frame},
         {L"tree", L"Multi-selection tree",
-         L"MultiTreeCtrl: select several, drag them with either button, rename, delete, copy and paste.",
+         L"MultiTreeCtrl: select several, drag, rename, delete, copy and paste; filter, check and find on "
+         L"request.",
          &make<TreePage>, PageGroup::Lists},
         {L"toolbars", L"Toolbars",
          L"CVantorToolBar: hold a button and choose from its flyout; edits and combo boxes in the bar.",
          &make<ToolBarPage>, PageGroup::Bars},
         {L"sliders", L"Sliders",
-         L"CSliderButton drops a slider for the number beside it; CRoundSlider and CWheelSlider turn a box.",
+         L"CSliderButton drops a slider for a number; CRoundSlider, CWheelSlider and CDialSlider turn a box.",
          &make<SlidersPage>, PageGroup::Values},
         {L"lists", L"Lists",
          L"COVOListCtrlEx: rows with colours and cut texts. Headings sort and can be moved, typing finds, "
@@ -63,7 +65,7 @@ const std::vector<PageEntry>& pageTable()
          L"folders.",
          &make<FilesPage>},
         {L"colourpicker", L"Colour picker",
-         L"ColPickerDlg: a ring of hues, a triangle of shades, and the numbers of three colour models.",
+         L"ColPickerDlg: a ring of hues, a triangle, three colour models. CColourButton, CColourDropper.",
          &make<ColourPickerPage>},
         {L"shadedtabs", L"Shaded tabs",
          L"CShadedTabCtrl: the page of a tab control shows through the controls on it.",

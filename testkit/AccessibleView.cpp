@@ -6,9 +6,12 @@ namespace ovo::testkit
 namespace
 {
 
-LONG numberIn(HRESULT result, const VARIANT& answer)
+// Frees the answer, which may be an object instead of a number.
+LONG numberIn(HRESULT result, VARIANT& answer)
 {
-    return result == S_OK && answer.vt == VT_I4 ? answer.lVal : -1;
+    const LONG number = result == S_OK && answer.vt == VT_I4 ? answer.lVal : -1;
+    ::VariantClear(&answer);
+    return number;
 }
 
 } // namespace

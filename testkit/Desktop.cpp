@@ -66,6 +66,10 @@ HWND shownMenu()
 void present(CWnd& window)
 {
     const HWND handle = window.GetSafeHwnd();
+    if (!::IsWindow(handle)) {
+        ADD_FAILURE() << "the window to present does not exist";
+        return;
+    }
     ::ShowWindow(handle, SW_SHOWNORMAL);
     ::SetForegroundWindow(handle);
     ::UpdateWindow(handle);

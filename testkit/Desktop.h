@@ -18,7 +18,7 @@ HWND shownDialog();
 HWND shownMenu();
 
 /// Shows a window, makes it the active one, and lets it paint, until it is seen on the screen. To be called
-/// before it gets input.
+/// before it gets input. Fails the test when that cannot be.
 void present(CWnd& window);
 
 } // namespace ovo::testkit

@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <gtest/gtest.h>
+
 #include <future>
 #include <map>
 #include <mutex>
@@ -112,11 +114,15 @@ bool GuiThread::runUntil(const std::function<bool()>& done, Limit limit)
     return true;
 }
 
-void GuiThread::settle()
+void GuiThread::settle(Limit limit)
 {
     LONG idleCount = 0;
-    const auto end = std::chrono::steady_clock::now() + Limit{30000};
-    for (bool busy = true; busy && std::chrono::steady_clock::now() < end;) {
+    const auto end = std::chrono::steady_clock::now() + limit;
+    for (bool busy = true; busy;) {
+        if (std::chrono::steady_clock::now() > end) {
+            ADD_FAILURE() << "the windows do not come to rest";
+            return;
+        }
         if (messageWaits())
             pump();
         else

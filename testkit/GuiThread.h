@@ -36,8 +36,9 @@ public:
     /// first. A WM_QUIT on the way is taken out of the queue and remembered.
     static bool runUntil(const std::function<bool()>& done, Limit limit = Limit{30000});
 
-    /// Runs the message loop until the queue is empty and idle processing has nothing left to do.
-    static void settle();
+    /// Runs the message loop until the queue is empty and idle processing has nothing left to do. Fails the
+    /// test when the limit passes first.
+    static void settle(Limit limit = Limit{30000});
 
     /// The same, and until the screen shows what came of it: the display maps windows in its own time, and
     /// tells them only then that they have the focus, or the pointer, or are to be seen. To be called before

@@ -12,10 +12,14 @@ namespace
 
 void** findSlot(HMODULE module, const char* function)
 {
+    if (!module)
+        return nullptr;
     auto* base = reinterpret_cast<BYTE*>(module);
     const auto* dos = reinterpret_cast<IMAGE_DOS_HEADER*>(base);
     const auto* nt = reinterpret_cast<IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
     const IMAGE_DATA_DIRECTORY& directory = nt->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
+    if (!directory.VirtualAddress)
+        return nullptr;
     auto* import = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(base + directory.VirtualAddress);
     for (; import->Name; ++import) {
         const auto* names = reinterpret_cast<IMAGE_THUNK_DATA*>(base + import->OriginalFirstThunk);
@@ -37,7 +41,8 @@ ImportPatch::ImportPatch(const wchar_t* module, const char* function, void* repl
     : m_slot(findSlot(::GetModuleHandleW(module), function))
 {
     if (!m_slot) {
-        std::fprintf(stderr, "no import of %s to patch\n", function);
+        std::fprintf(stderr, "no import of %s to patch in %ls\n", function,
+                     module ? module : L"this program");
         std::abort();
     }
     m_original = *m_slot;

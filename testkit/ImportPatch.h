@@ -6,7 +6,8 @@ namespace ovo::testkit
 {
 
 /// Replaces a function that a loaded module imports, to make a system call fail or answer what a test needs.
-/// In force while the object lives. Ends the program at once when the module does not import the function.
+/// In force while the object lives. Ends the program at once when the module does not import the function, or
+/// is not loaded.
 class ImportPatch
 {
 public:

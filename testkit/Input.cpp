@@ -1,6 +1,7 @@
 #include "Input.h"
 
 #include <atomic>
+#include <stdexcept>
 
 namespace ovo::testkit
 {
@@ -79,9 +80,18 @@ INPUT unicode(wchar_t character, DWORD flags)
     return input;
 }
 
+bool isTaken(std::vector<INPUT> inputs)
+{
+    const auto count = static_cast<UINT>(inputs.size());
+    return ::SendInput(count, inputs.data(), sizeof inputs[0]) == count;
+}
+
+// Input is refused, for example, while the screen is locked. A test that went on would find that nothing has
+// happened, which may be just what it expects.
 void send(std::vector<INPUT> inputs)
 {
-    ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof inputs[0]);
+    if (!isTaken(std::move(inputs)))
+        throw std::runtime_error("the system does not take the input");
 }
 
 void send(INPUT input)
@@ -208,10 +218,10 @@ void Input::character(wchar_t character)
 
 void Input::releaseAll()
 {
-    while (!m_buttons.empty())
-        release(m_buttons.back());
-    while (!m_keys.empty())
-        keyUp(m_keys.back());
+    for (; !m_buttons.empty(); m_buttons.pop_back())
+        isTaken({atThePoint(mouse(flagsOf(m_buttons.back()).up, 0))});
+    for (; !m_keys.empty(); m_keys.pop_back())
+        isTaken({keyboard(m_keys.back(), KEYEVENTF_KEYUP)});
 }
 
 } // namespace ovo::testkit

@@ -16,8 +16,9 @@ enum class Button
     Middle ///< the wheel, pressed
 };
 
-/// The keyboard and the mouse as the system sees them: every call is one SendInput. It remembers what is
-/// down, so that nothing stays pressed when a script ends early.
+/// The keyboard and the mouse as the system sees them: every call is one SendInput, and throws
+/// std::runtime_error when the system refuses it. What is down is remembered, so that nothing stays pressed
+/// when a script ends early.
 class Input
 {
 public:
@@ -61,7 +62,7 @@ public:
     /// One character: by its key where the keyboard has one, else as a character of its own.
     void character(wchar_t character);
 
-    /// Lets go of everything that is still down.
+    /// Lets go of everything that is still down. Does not throw.
     void releaseAll();
 
 private:

@@ -68,6 +68,16 @@ void giveUp(int round)
         ::PostQuitMessage(0);
 }
 
+void attempt(const std::function<void()>& act)
+{
+    try {
+        act();
+    } catch (const std::exception&) {
+        // The thread with the windows does not answer, or the system takes no input: the rest is tried all
+        // the same, and the watchdog ends what is stuck for good.
+    }
+}
+
 } // namespace
 
 struct Performance::State
@@ -158,19 +168,10 @@ void Performance::act(State& state)
             std::string{"the story stopped at \""} + name + "\": " + thrownText(std::current_exception());
         takeSnapshot(state.problem);
     }
-    letGo(stage);
+    attempt([&stage] { stage.letGo(); });
     state.over = true;
     if (!state.problem.empty())
         freeTheLoop(state, stage);
-}
-
-void Performance::letGo(Stage& stage)
-{
-    try {
-        stage.letGo();
-    } catch (const std::exception&) {
-        // What is stuck is seen to below, or ended by the watchdog.
-    }
 }
 
 // A story that stopped leaves its dialog, menu or drag open, and the test in its loop: end them as a user
@@ -178,13 +179,9 @@ void Performance::letGo(Stage& stage)
 void Performance::freeTheLoop(State& state, Stage& stage)
 {
     for (int round = 0; !state.loopFree; ++round) {
-        try {
-            GuiThread::ask([round] { giveUp(round); }, kGiveUpLimit);
-        } catch (const Unanswered&) {
-            // Stuck for good: the watchdog will end the program.
-        }
+        attempt([round] { GuiThread::ask([round] { giveUp(round); }, kGiveUpLimit); });
         if (round >= kEscapeRound && !state.loopFree)
-            stage.escape();
+            attempt([&stage] { stage.escape(); });
         for (int i = 0; i < 20 && !state.loopFree; ++i)
             std::this_thread::sleep_for(std::chrono::milliseconds{10});
     }

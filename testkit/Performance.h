@@ -42,7 +42,6 @@ private:
 
     std::exception_ptr leave();
     static void act(State& state);
-    static void letGo(Stage& stage);
     static void freeTheLoop(State& state, Stage& stage);
 
     std::shared_ptr<State> m_state;

@@ -95,8 +95,11 @@ RunningProgram::RunningProgram(const std::wstring& name, const std::wstring& arg
     std::wstring commandLine = L"\"" + program.wstring() + L"\" " + arguments;
     m_process = started(commandLine, program.parent_path());
     try {
-        waitFor("the program's main window", [this] { return !shownWindows().empty(); });
-        m_main = shownWindows().back();
+        waitFor("the program's main window", [this] {
+            const std::vector<HWND> shown = shownWindows();
+            m_main = shown.empty() ? nullptr : shown.back();
+            return m_main != nullptr;
+        });
         comeToTheFront();
     } catch (...) {
         end();

@@ -27,8 +27,8 @@ void TestApp::forget()
 int TestApp::DoMessageBox(LPCTSTR text, UINT type, UINT helpId)
 {
     m_boxes.push_back({text, type, helpId});
-    if (onBox)
-        onBox();
+    if (const auto called = onBox) // which may put another one in its place
+        called();
     if (m_showsBoxes)
         return CWinApp::DoMessageBox(text, type, helpId);
     if (m_results.empty())

@@ -49,7 +49,7 @@ public:
     /// Shows boxes for real until forget() is called: for tests that answer them.
     void showBoxes() { m_showsBoxes = true; }
 
-    /// Called while a box waits for its answer.
+    /// Called while a box waits for its answer. May put another one in its place.
     std::function<void()> onBox;
 
     /// Back to the beginning; called before each test.

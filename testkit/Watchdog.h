@@ -28,7 +28,7 @@ public:
     void end();
 
     /// Until the test is over, `story` gives what is to be told beside the rest when it hangs, such as what
-    /// it has done last. It is asked from another thread, while the test's hangs.
+    /// it has done last. It is asked from another thread, while the test's hangs. An empty one takes it back.
     static void tellWhenHung(std::function<std::string()> story);
 
     /// The running test is getting on, however slowly: counts anew. Any thread.

@@ -164,6 +164,8 @@ constexpr int kBelowText[] = {
     IDC_BOX_HELP_ID_LABEL,    IDC_BOX_HELP_ID,       IDC_BOX_SHOW,    IDC_BOX_RESULT_LABEL, IDC_BOX_RESULT,
     IDC_BOX_REMEMBERED_LABEL, IDC_BOX_REMEMBERED,    IDC_BOX_OWN,     IDC_BOX_FORGET,       IDC_BOX_PROGRESS};
 
+constexpr wchar_t kFontsEntry[] = L"MissingFonts"; ///< of the answer that is kept
+
 const UINT s_helpMessage = ::RegisterWindowMessageW(L"commdlg_help");
 
 } // namespace
@@ -241,6 +243,8 @@ void MessageBoxPage::showAnswer(const wchar_t* function, int answer)
 void MessageBoxPage::OnOwnButtons()
 {
     showAnswer(L"COVOMessageDialog", askAboutFonts(m_hWnd));
+    if (AfxGetApp()->GetProfileInt(L"answers", kFontsEntry, 0))
+        log(L"The answer is kept: the box is not shown again until the answers are forgotten");
 }
 
 int MessageBoxPage::askAboutFonts(HWND owner) const
@@ -253,7 +257,7 @@ int MessageBoxPage::askAboutFonts(HWND owner) const
     box.AddButton(IDCANCEL, L"Cancel");
     box.SetDetails(
         L"Garden Sans, used in 12 places\nHedge Serif, used in 3 places\nTrellis Mono, used in 1 place");
-    box.OfferNotToAsk(L"MissingFonts");
+    box.OfferNotToAsk(kFontsEntry);
     box.PressDefaultAfter(60);
     return box.DoModal();
 }

@@ -95,7 +95,7 @@ constexpr Convention kConventions[] = {
 };
 
 constexpr double kDialTicks = 30;
-constexpr double kSnap = 15;
+constexpr double kSnap = 15; // degrees, as explainExtras says
 constexpr double kStartHeading = 30;
 constexpr double kStartTilt = 25;
 
@@ -265,6 +265,18 @@ void SlidersPage::OnExtras()
     m_buttons[Logarithmic].SetTicks(use ? std::vector<double>{1, 10, 100} : std::vector<double>());
     for (CAngleSlider* const slider : angleSliders())
         slider->SetSnap(use ? kSnap : 0);
+    explainExtras(use);
+}
+
+/// What there is to try, since the controls look the same until they are used.
+void SlidersPage::explainExtras(bool on) const
+{
+    if (!on)
+        return log(L"the sliders are as a host gets them at first");
+    log(L"StepByWheel: the wheel over a number or its button changes it; StepFinelyByShift: with Shift, "
+        L"finely");
+    log(L"ShowBubble: the number stands above the thumb; SetTicks: marks below the logarithmic slider");
+    log(L"SetSnap: with Shift the mouse turns heading and tilt to multiples of 15 degrees");
 }
 
 void SlidersPage::OnReversed()

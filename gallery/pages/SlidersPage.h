@@ -53,6 +53,7 @@ private:
     void openPopup(std::size_t row);
     void openAtScreenEdge();
     bool poseAngles(const std::wstring& name);
+    void explainExtras(bool on) const;
 
     DisplayedNumbers m_numbers;
     UnitsWithTip m_volumes{L"mm\u00B3"};

@@ -81,6 +81,18 @@ void TreePage::OnExtras()
     const unsigned all = Tree::RubberBand | Tree::AddRanges | Tree::FindAnywhere | Tree::CheckBoxes;
     for (ProjectPane* const pane : {&m_project, &m_archive})
         pane->tree().setExtras(on ? all : 0u);
+    explainExtras(on);
+}
+
+/// What there is to try, since the trees look the same but for the boxes.
+void TreePage::explainExtras(bool on) const
+{
+    if (!on)
+        return log(L"setExtras(0): the trees are as a host gets them at first");
+    log(L"RubberBand: drag a frame from beside the labels; Ctrl changes over what it meets");
+    log(L"AddRanges: Ctrl+Shift with a click or an arrow key adds a range to the selection");
+    log(L"FindAnywhere: type a part of a label; F3 goes to the next, Escape ends the search");
+    log(L"CheckBoxes: a click or Space checks; Space takes all that is selected along");
 }
 
 /// Leaves what has the typed text in its name.

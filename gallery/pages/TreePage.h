@@ -28,6 +28,7 @@ private:
     void createPane(ProjectPane& pane, int id);
     void selectSome(ProjectTree& tree);
     bool poseExtras(ProjectTree& tree);
+    void explainExtras(bool on) const;
 
     ProjectPane m_project;
     ProjectPane m_archive;

@@ -9,6 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 using namespace ovo::testkit;
 
 namespace
@@ -24,6 +27,17 @@ protected:
         const HWND tree = ::GetDlgItem(scene.control(IDC_TREE_PROJECT), IDC_PROJECT_TREE);
         return dynamic_cast<MultiTreeCtrl&>(*CWnd::FromHandle(tree));
     }
+
+    /// The labels of the items that are in no other.
+    std::vector<std::wstring> outermost()
+    {
+        std::vector<std::wstring> labels;
+        for (HTREEITEM item = project().GetRootItem(); item; item = project().GetNextItem(item, TVGN_NEXT))
+            labels.push_back(project().node(item)->text(project()));
+        return labels;
+    }
+
+    UINT checkBoxOf(HTREEITEM item) { return project().GetItemState(item, TVIS_STATEIMAGEMASK); }
 
     TemporaryProfile profile;
     GalleryScene scene;
@@ -50,4 +64,30 @@ TEST_F(GalleryTree, WithNothingSavedIsLeftAlone)
     const std::wstring shown = project().saveView();
     robot.click(Spot{scene.control(IDC_TREE_RESTORE_VIEW)});
     EXPECT_EQ(project().saveView(), shown);
+}
+
+TEST_F(GalleryTree, ShowsCheckBoxesAndFindsAnywhereWhenItIsAsked)
+{
+    project().selectPath(L"/Notes.txt");
+    const HTREEITEM notes = project().GetSelectedItem();
+    EXPECT_EQ(checkBoxOf(notes), 0u);
+    robot.click(Spot{scene.control(IDC_TREE_EXTRAS)});
+    const UINT off = checkBoxOf(notes);
+    EXPECT_NE(off, 0u);
+    project().SetFocus();
+    robot.key(VK_SPACE);
+    EXPECT_NE(checkBoxOf(notes), off);
+    robot.type(L"cence");
+    EXPECT_EQ(project().selectedPath(), L"/Garden/Licence.txt");
+}
+
+TEST_F(GalleryTree, TheFilterLeavesWhatHasTheTypedText)
+{
+    const std::vector<std::wstring> all = outermost();
+    ASSERT_EQ(all.size(), 3u);
+    robot.click(Spot{scene.control(IDC_TREE_FILTER)});
+    robot.type(L"notes");
+    EXPECT_EQ(outermost(), (std::vector<std::wstring>{L"Notes.txt"}));
+    robot.key(VK_BACK, 5);
+    EXPECT_EQ(outermost(), all);
 }

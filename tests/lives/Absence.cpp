@@ -50,14 +50,6 @@ FARPROC WINAPI getProcAddress(HMODULE module, LPCSTR name)
     return nullptr;
 }
 
-void write(void** slot, void* function)
-{
-    DWORD before = 0;
-    ::VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &before);
-    *slot = function;
-    ::VirtualProtect(slot, sizeof *slot, before, &before);
-}
-
 } // namespace
 
 Absence::Absence(const wchar_t* library, const char* function)
@@ -74,14 +66,14 @@ Absence::Absence(const wchar_t* library, const char* function)
         for (const Import& import : importsOf(::GetModuleHandleW(module)))
             if (const auto found = replaced.find(import.function); found != replaced.end()) {
                 m_slots.push_back({import.slot, *import.slot});
-                write(import.slot, found->second);
+                writeSlot(import.slot, found->second);
             }
 }
 
 Absence::~Absence()
 {
     for (const Slot& slot : m_slots)
-        write(slot.place, slot.original);
+        writeSlot(slot.place, slot.original);
 }
 
 int Absence::asked() const

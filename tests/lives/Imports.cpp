@@ -51,6 +51,14 @@ std::vector<Import> importsOf(HMODULE module)
     return found;
 }
 
+void writeSlot(void** slot, void* function)
+{
+    DWORD before = 0;
+    ::VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &before);
+    *slot = function;
+    ::VirtualProtect(slot, sizeof *slot, before, &before);
+}
+
 FirstCallFails::FirstCallFails(const Import& import, std::uintptr_t value)
     : m_slot(import.slot)
     , m_original(*import.slot)
@@ -59,23 +67,15 @@ FirstCallFails::FirstCallFails(const Import& import, std::uintptr_t value)
     g_faultOriginal = m_original;
     g_faultValue = value;
     g_faultSetLastError = reinterpret_cast<void*>(&::SetLastError);
-    write(reinterpret_cast<void*>(&failFirstCall));
+    writeSlot(m_slot, reinterpret_cast<void*>(&failFirstCall));
 }
 
 FirstCallFails::~FirstCallFails()
 {
-    write(m_original);
+    writeSlot(m_slot, m_original);
 }
 
 bool FirstCallFails::happened() const
 {
     return g_faultCountdown < 1;
-}
-
-void FirstCallFails::write(void* function)
-{
-    DWORD before = 0;
-    ::VirtualProtect(m_slot, sizeof *m_slot, PAGE_READWRITE, &before);
-    *m_slot = function;
-    ::VirtualProtect(m_slot, sizeof *m_slot, before, &before);
 }

@@ -17,6 +17,9 @@ struct Import
 /// The functions that a module imports by name.
 std::vector<Import> importsOf(HMODULE module);
 
+/// From now on the module calls `function` where it called what was in the slot before.
+void writeSlot(void** slot, void* function);
+
 /// While it lives, the first call of the function gives `value`, with ERROR_NOT_ENOUGH_MEMORY for the last
 /// error; the calls after it go where they belong. Whatever the function's arguments are: x86-64 leaves them
 /// to the caller. One at a time.
@@ -32,8 +35,6 @@ public:
     bool happened() const;
 
 private:
-    void write(void* function);
-
     void** m_slot;
     void* m_original;
 };

@@ -110,6 +110,7 @@ void Driver::stop()
 
 std::string Driver::story() const
 {
+    const std::lock_guard guard{m_storyLock};
     std::string story = "the last inputs of " + std::to_string(m_done) + ":\n";
     for (const std::wstring& line : m_story)
         story += "  " + std::string(line.begin(), line.end()) + "\n";
@@ -462,6 +463,7 @@ void Driver::note(const wchar_t* action, HWND target)
         std::wstring(action) + L" " + classOf(target) + L" " + std::to_wstring(::GetDlgCtrlID(target));
     if (m_frame.openedPage())
         line += std::wstring(L" on ") + m_frame.openedPage()->name;
+    const std::lock_guard guard{m_storyLock};
     m_story.push_back(std::move(line));
     if (m_story.size() > kStory)
         m_story.pop_front();

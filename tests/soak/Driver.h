@@ -13,8 +13,10 @@
 
 #include <afxwin.h>
 
+#include <atomic>
 #include <deque>
 #include <functional>
+#include <mutex>
 #include <random>
 #include <string>
 #include <string_view>
@@ -45,7 +47,7 @@ public:
     std::function<void()> beforeInput;
     /// The last two inputs.
     std::string lastInputs() const;
-    /// The last inputs, the latest one at the end.
+    /// The last inputs, the latest one at the end. Any thread: the watchdog asks while dialogs go on.
     std::string story() const;
 
 protected:
@@ -88,10 +90,11 @@ private:
     std::mt19937 m_random;
     bool m_active = false;
     int m_left = 0;
-    int m_done = 0;
+    std::atomic<int> m_done{0};
     int m_closing = 0;                     ///< attempts since the batch was over
     std::vector<const PageEntry*> m_table; ///< the pages to open
     size_t m_pages = 0;                    ///< that were opened, in the order of the table
     Reach m_reach;
+    mutable std::mutex m_storyLock;
     std::deque<std::wstring> m_story;
 };

@@ -138,26 +138,79 @@ BOOL WINAPI openNothing(SHELLEXECUTEINFOW*)
     return TRUE;
 }
 
-const Driver* g_driver = nullptr;
-
-void tellStory(const char* what)
+/// While it lives, a crash, a hang, and what cannot be closed are told with the inputs that led there.
+class Telling
 {
-    std::fprintf(stderr, "%s; %s%s", what, g_driver ? g_driver->story().c_str() : "",
-                 describeOwnCalls().c_str());
-    std::fflush(stderr);
-}
+public:
+    explicit Telling(Driver& driver)
+    {
+        s_driver = &driver;
+        driver.whenStuck = [] { tell("what is open cannot be closed"); };
+        Watchdog::tellWhenHung([&driver] { return driver.story(); });
+        ::SetUnhandledExceptionFilter(&onCrash);
+        std::signal(SIGABRT, &onAbort);
+    }
+    ~Telling()
+    {
+        std::signal(SIGABRT, SIG_DFL);
+        ::SetUnhandledExceptionFilter(nullptr);
+        Watchdog::tellWhenHung(nullptr);
+        s_driver = nullptr;
+    }
+    Telling(const Telling&) = delete;
+    Telling& operator=(const Telling&) = delete;
 
-/// Says what led to a crash, which then goes its way.
-LONG WINAPI onCrash(EXCEPTION_POINTERS*)
-{
-    tellStory("a crash");
-    return EXCEPTION_CONTINUE_SEARCH;
-}
+private:
+    static void tell(const char* what)
+    {
+        std::fprintf(stderr, "%s; %s%s", what, s_driver ? s_driver->story().c_str() : "",
+                     describeOwnCalls().c_str());
+        std::fflush(stderr);
+    }
 
-void onAbort(int)
+    /// The crash goes its way afterwards.
+    static LONG WINAPI onCrash(EXCEPTION_POINTERS*)
+    {
+        tell("a crash");
+        return EXCEPTION_CONTINUE_SEARCH;
+    }
+
+    static void onAbort(int) { tell("the program gives up"); }
+
+    inline static const Driver* s_driver = nullptr;
+};
+
+/// Is there at each input: tells of slow ones, and finds out, where that is wanted, which objects they make.
+class Onlooker
 {
-    tellStory("the program gives up");
-}
+public:
+    explicit Onlooker(Driver& driver)
+        : m_driver(driver)
+    {
+        driver.beforeInput = [this] { look(); };
+    }
+    ~Onlooker() { m_driver.beforeInput = nullptr; }
+    Onlooker(const Onlooker&) = delete;
+    Onlooker& operator=(const Onlooker&) = delete;
+
+    const Births& births() const { return m_births; }
+
+private:
+    void look()
+    {
+        const ULONGLONG now = ::GetTickCount64();
+        if (now > m_lastInput + kSlow)
+            std::printf("%llu s: %s\n", (now - m_lastInput) / 1000, m_driver.lastInputs().c_str());
+        m_lastInput = now;
+        if (m_wantsBirths)
+            m_births.look(m_driver.lastInputs());
+    }
+
+    Driver& m_driver;
+    Births m_births;
+    const bool m_wantsBirths = std::getenv("OVO_SOAK_BIRTHS") != nullptr;
+    ULONGLONG m_lastInput = ::GetTickCount64();
+};
 
 void printReach(const char* title, const std::map<std::wstring, int>& reached)
 {
@@ -209,34 +262,94 @@ void expectFlat(const std::vector<Count>& counts)
     EXPECT_LE(last.bytes, warm.bytes + inputs * kBytesPerInput);
 }
 
+/// The gallery and who drives it.
+class SoakRun
+{
+public:
+    SoakRun(unsigned seed, const std::wstring& onlyPage)
+        : m_driver(m_scene.frame(), seed, onlyPage)
+    {
+    }
+
+    /// A fatal failure where the gallery does not stand it.
+    void drive(int steps)
+    {
+        try {
+            for (int done = 0; done < steps; done += kBatch) {
+                ASSERT_TRUE(batch()) << "what is open cannot be closed; " << m_driver.story();
+                takeStock(done);
+            }
+        } catch (const std::exception& error) {
+            FAIL() << "an exception: " << error.what() << "; " << m_driver.story();
+        } catch (CException* error) {
+            error->Delete();
+            FAIL() << "an exception of the framework; " << m_driver.story();
+        }
+    }
+
+    const Reach& reach() const { return m_driver.reach(); }
+    const Births& births() const { return m_onlooker.births(); }
+    /// After each batch.
+    const std::vector<Count>& counts() const { return m_counts; }
+
+private:
+    /// Then the first page is open alone; false where something else cannot be closed.
+    bool batch()
+    {
+        m_driver.begin(kBatch);
+        for (int second = 0; second < 120; ++second) {
+            Watchdog::progress();
+            if (GuiThread::runUntil([&] { return m_driver.isOver(); }, 1s))
+                break;
+        }
+        const bool over = m_driver.isOver();
+        GuiThread::settle(); // what was posted last may open a menu, which the driver still closes
+        m_driver.stop();
+        if (!over || !m_scene.isOpen())
+            return false;
+        m_scene.frame().openPage(pageTable().front());
+        GuiThread::settle();
+        return true;
+    }
+
+    void takeStock(int done)
+    {
+        m_counts.push_back(count(m_keepers));
+        if (m_counts.size() > 1)
+            tellLeap(m_counts[m_counts.size() - 2], m_counts.back(), births().since(done));
+        std::printf("%d inputs, %llu s, %d GDI objects\n", done + kBatch,
+                    (::GetTickCount64() - m_begin) / 1000, m_counts.back().gdi);
+        std::fflush(stdout);
+    }
+
+    const FontKeepers m_keepers; // first: the gallery makes calendars, too
+    GalleryScene m_scene;
+    Driver m_driver;
+    const Telling m_telling{m_driver};
+    const Onlooker m_onlooker{m_driver};
+    std::vector<Count> m_counts;
+    const ULONGLONG m_begin = ::GetTickCount64();
+};
+
+void expectReached(const Reach& reach, int steps, bool everyPage)
+{
+    printReach("pages", reach.pages);
+    printReach("controls", reach.controls);
+    printReach("inputs", reach.actions);
+    std::printf("inputs while a dialog, box or menu was open: %d\n", reach.modal);
+    if (steps >= 3000 && everyPage) {
+        EXPECT_EQ(reach.pages.size(), pageTable().size()) << "a page was not reached";
+    }
+    if (everyPage) {
+        EXPECT_GT(reach.modal, steps / 50);
+    }
+    EXPECT_GE(inputsOf(reach), steps * 99 / 100) << "some pages have no pose to show, all else is an input";
+}
+
 class Soak : public ::testing::Test
 {
 protected:
     Soak() { TestApp::instance().showBoxes(); }
-    ~Soak() override
-    {
-        ::SetUnhandledExceptionFilter(nullptr);
-        std::signal(SIGABRT, SIG_DFL);
-    }
-
-    /// One batch, then the first page alone.
-    bool batch(GalleryScene& scene, Driver& driver, int steps)
-    {
-        driver.begin(steps);
-        for (int second = 0; second < 120; ++second) {
-            Watchdog::progress();
-            if (GuiThread::runUntil([&] { return driver.isOver(); }, 1s))
-                break;
-        }
-        const bool over = driver.isOver();
-        GuiThread::settle(); // what was posted last may open a menu, which the driver still closes
-        driver.stop();
-        if (!over || !scene.isOpen())
-            return false;
-        scene.frame().openPage(pageTable().front());
-        GuiThread::settle();
-        return true;
-    }
 
     TemporaryProfile m_profile;
     const ImportPatch m_noBrowser{L"ovoui.dll", "ShellExecuteExW", reinterpret_cast<void*>(&openNothing)};
@@ -252,60 +365,12 @@ TEST_F(Soak, TheGalleryStandsRandomInputs)
     std::fflush(stdout);
 
     warmSystem();
-    const FontKeepers keepers;
-    GalleryScene scene;
     const std::wstring onlyPage = pageFromEnvironment();
-    Driver driver(scene.frame(), seed, onlyPage);
-    g_driver = &driver;
-    Watchdog::tellWhenHung([&driver] { return driver.story(); });
-    driver.whenStuck = [] { tellStory("what is open cannot be closed"); };
-    ::SetUnhandledExceptionFilter(&onCrash);
-    std::signal(SIGABRT, &onAbort);
-    Births births;
-    const bool wantsBirths = std::getenv("OVO_SOAK_BIRTHS") != nullptr;
-    ULONGLONG lastInput = ::GetTickCount64();
-    driver.beforeInput = [&] {
-        const ULONGLONG now = ::GetTickCount64();
-        if (now > lastInput + kSlow)
-            std::printf("%llu s: %s\n", (now - lastInput) / 1000, driver.lastInputs().c_str());
-        lastInput = now;
-        if (wantsBirths)
-            births.look(driver.lastInputs());
-    };
-    std::vector<Count> counts;
-    const ULONGLONG begin = ::GetTickCount64();
-    try {
-        for (int done = 0; done < steps; done += kBatch) {
-            ASSERT_TRUE(batch(scene, driver, kBatch)) << "what is open cannot be closed; " << driver.story();
-            counts.push_back(count(keepers));
-            if (counts.size() > 1)
-                tellLeap(counts[counts.size() - 2], counts.back(), births.since(done));
-            std::printf("%d inputs, %llu s, %d GDI objects\n", done + kBatch,
-                        (::GetTickCount64() - begin) / 1000, counts.back().gdi);
-            std::fflush(stdout);
-        }
-    } catch (const std::exception& error) {
-        FAIL() << "an exception: " << error.what() << "; " << driver.story();
-    } catch (CException* error) {
-        error->Delete();
-        FAIL() << "an exception of the framework; " << driver.story();
-    }
-    g_driver = nullptr;
+    SoakRun run(seed, onlyPage);
+    ASSERT_NO_FATAL_FAILURE(run.drive(steps));
 
-    const Reach& reach = driver.reach();
-    printReach("pages", reach.pages);
-    printReach("controls", reach.controls);
-    printReach("inputs", reach.actions);
-    std::printf("inputs while a dialog, box or menu was open: %d\n", reach.modal);
-    if (steps >= 3000 && onlyPage.empty()) {
-        EXPECT_EQ(reach.pages.size(), pageTable().size()) << "a page was not reached";
-    }
-    if (onlyPage.empty()) {
-        EXPECT_GT(reach.modal, steps / 50);
-    }
-    EXPECT_GE(inputsOf(reach), steps * 99 / 100) << "some pages have no pose to show, all else is an input";
-
-    std::printf("%s", births.since(warmInputs(steps)).c_str());
-    printCounts(counts);
-    expectFlat(counts);
+    expectReached(run.reach(), steps, onlyPage.empty());
+    std::printf("%s", run.births().since(warmInputs(steps)).c_str());
+    printCounts(run.counts());
+    expectFlat(run.counts());
 }

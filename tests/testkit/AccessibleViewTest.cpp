@@ -13,7 +13,7 @@ class Spoken final : public IAccessible
 {
 public:
     int references = 1;
-    int forms = VT_I4; ///< what numbers come as
+    bool givesObjects = false; ///< instead of numbers: itself
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** out) override
     {
@@ -111,7 +111,13 @@ private:
     HRESULT number(const VARIANT& child, LONG value, VARIANT* out)
     {
         *out = {};
-        out->vt = static_cast<VARTYPE>(forms);
+        if (givesObjects) {
+            out->vt = VT_DISPATCH;
+            out->pdispVal = this;
+            AddRef();
+            return answer(child);
+        }
+        out->vt = VT_I4;
         out->lVal = value + child.lVal;
         return answer(child);
     }
@@ -187,13 +193,16 @@ TEST(AccessibleView, WhereThereIsNoneItSaysSo)
 TEST(AccessibleView, TakesNothingElseForANumber)
 {
     Spoken spoken;
-    spoken.forms = VT_DISPATCH;
+    spoken.givesObjects = true;
     Window window(&spoken);
-    const AccessibleView seen(window);
-    EXPECT_EQ(seen.role(), -1);
-    EXPECT_EQ(seen.state(), -1);
-    EXPECT_EQ(seen.focused(), -1);
-    EXPECT_EQ(seen.at({11, 22}), -1);
+    {
+        const AccessibleView seen(window);
+        EXPECT_EQ(seen.role(), -1);
+        EXPECT_EQ(seen.state(), -1);
+        EXPECT_EQ(seen.focused(), -1);
+        EXPECT_EQ(seen.at({11, 22}), -1);
+    }
+    EXPECT_EQ(spoken.references, 1) << "the objects are given back as well";
 }
 
 TEST(AccessibleView, OfAnyWindowTheSystemAnswers)

@@ -75,6 +75,12 @@ TEST(Desktop, FindsTheDialogThatCanBeAnswered)
     EXPECT_EQ(shownMenu(), nullptr);
 }
 
+TEST(Desktop, CannotPresentAWindowThatDoesNotExist)
+{
+    CWnd none;
+    EXPECT_NONFATAL_FAILURE(present(none), "does not exist");
+}
+
 TEST(Clipboard, GivesTheTextThatIsOnIt)
 {
     putOnClipboard(L"Loam, \x4E2D");

@@ -5,6 +5,7 @@
 #include <testkit/RecordingParent.h>
 #include <testkit/Robot.h>
 #include <testkit/Snapshot.h>
+#include <testkit/Watchdog.h>
 
 #include <gmock/gmock.h>
 
@@ -124,6 +125,7 @@ bool namesHang(const std::string& output)
 
 TEST(DISABLED_Wrong, Hangs)
 {
+    Watchdog::tellWhenHung([] { return std::string("it has done nothing yet"); });
     RecordingParent parent{{200, 100}, L"The window of the hanging test"};
     present(parent);
     hang();
@@ -169,6 +171,11 @@ TEST(DISABLED_Wrong, PatchesWhatIsNotImported)
     const ImportPatch patch(L"ovomfc.dll", "NoSuchFunction", nullptr);
 }
 
+TEST(DISABLED_Wrong, PatchesAModuleThatIsNotLoaded)
+{
+    const ImportPatch patch(L"no such module.dll", "LoadCursorW", nullptr);
+}
+
 TEST(Watchdog, EndsAProgramThatHangsWithAPictureOfWhatItWasAt)
 {
     std::filesystem::remove(failureFile("DISABLED_Wrong.Hangs.txt"));
@@ -178,6 +185,7 @@ TEST(Watchdog, EndsAProgramThatHangsWithAPictureOfWhatItWasAt)
 
     EXPECT_EQ(outcome.exitCode, 3U);
     EXPECT_THAT(outcome.output, HasSubstr("watchdog"));
+    EXPECT_THAT(outcome.output, HasSubstr("it has done nothing yet"));
     EXPECT_TRUE(namesHang(outcome.output)) << outcome.output;
     EXPECT_THAT(outcome.output, HasSubstr("The window of the hanging test"));
     EXPECT_THAT(contents(failureFile("DISABLED_Wrong.Hangs.txt")),
@@ -226,6 +234,14 @@ TEST(ImportPatch, EndsAProgramThatPatchesWhatIsNotImported)
 
     EXPECT_NE(outcome.exitCode, 0U);
     EXPECT_THAT(outcome.output, HasSubstr("no import of NoSuchFunction"));
+}
+
+TEST(ImportPatch, EndsAProgramThatPatchesAModuleThatIsNotLoaded)
+{
+    const Outcome outcome = runAlone(L"DISABLED_Wrong.PatchesAModuleThatIsNotLoaded");
+
+    EXPECT_NE(outcome.exitCode, 0U);
+    EXPECT_THAT(outcome.output, HasSubstr("no import of LoadCursorW to patch in no such module.dll"));
 }
 
 TEST(Snapshot, DescribesWindowsWithTheirChildrenAndState)

@@ -1,5 +1,8 @@
 #include <testkit/GuiThread.h>
 
+#include <afxwin.h>
+
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -8,6 +11,31 @@
 
 using namespace ovo::testkit;
 using namespace std::chrono_literals;
+
+namespace
+{
+
+/// Posts itself a message again and again.
+class Restless : public CWnd
+{
+public:
+    Restless()
+    {
+        CreateEx(0, AfxRegisterWndClass(0), L"", 0, CRect(), CWnd::FromHandle(HWND_MESSAGE), 0);
+        PostMessage(WM_APP);
+    }
+    ~Restless() override { DestroyWindow(); }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_APP)
+            PostMessage(WM_APP);
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
+
+} // namespace
 
 TEST(GuiThread, RunsTheLoopUntilTheConditionHolds)
 {
@@ -18,6 +46,13 @@ TEST(GuiThread, RunsTheLoopUntilTheConditionHolds)
 TEST(GuiThread, GivesUpAtTheLimit)
 {
     EXPECT_FALSE(GuiThread::runUntil([] { return false; }, 30ms));
+}
+
+TEST(GuiThread, FailsTheTestWhoseWindowsDoNotComeToRest)
+{
+    const Restless restless;
+
+    EXPECT_NONFATAL_FAILURE(GuiThread::settle(30ms), "do not come to rest");
 }
 
 TEST(GuiThread, TakesQuitOutOfTheQueueAndRemembersItOnce)

@@ -9,6 +9,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <thread>
 
 using namespace ovo::testkit;
 
@@ -60,13 +61,26 @@ TEST(DebugOutput, TakesDownWhatIsWritten)
     EXPECT_EQ(output.lines().size(), 2U);
 }
 
+TEST(DebugOutput, TakesDownWhatSeveralThreadsWriteAtATime)
+{
+    constexpr int kTexts = 200;
+    const auto write = [] {
+        for (int i = 0; i < kTexts; ++i)
+            ::OutputDebugStringW(L"a leaf fell");
+    };
+    const DebugOutput output;
+    std::thread other(write);
+    write();
+    other.join();
+    EXPECT_EQ(output.count(L"a leaf fell"), 2 * kTexts);
+}
+
 TEST(DebugOutput, HearsNothingAfterItsEnd)
 {
     std::optional<DebugOutput> output(std::in_place);
-    const std::vector<std::wstring>& lines = output->lines(); // of all objects of the class
     output.reset();
     ::OutputDebugStringW(L"unheard");
-    EXPECT_TRUE(lines.empty());
+    EXPECT_TRUE(DebugOutput::lines().empty());
 }
 
 TEST(TemporaryFiles, ThatCannotBeMadeFailTheTest)

@@ -1,9 +1,11 @@
 #include <testkit/Desktop.h>
 #include "ProbeWindow.h"
+#include <testkit/ImportPatch.h>
 #include <testkit/RecordingParent.h>
 #include <testkit/Robot.h>
 
 #include <gmock/gmock.h>
+#include <gtest/gtest-spi.h>
 
 using namespace ovo::testkit;
 using ::testing::SizeIs;
@@ -32,6 +34,11 @@ struct EditScene
         return text.GetString();
     }
 };
+
+UINT WINAPI noInput(UINT, LPINPUT, int)
+{
+    return 0;
+}
 
 } // namespace
 
@@ -91,4 +98,17 @@ TEST(RobotKeys, HeldKeysChangeWhatOthersMean)
     EXPECT_GE(::GetKeyState(VK_SHIFT), 0) << "held no longer than the story";
     scene.robot.type(L"x");
     EXPECT_EQ(scene.text(), L"x");
+}
+
+TEST(RobotKeys, FailTheStoryWhereTheSystemTakesNoInput)
+{
+    EditScene scene;
+    {
+        const ImportPatch locked{nullptr, "SendInput", reinterpret_cast<void*>(&noInput)};
+        EXPECT_NONFATAL_FAILURE(scene.robot.type(L"a"), "the system does not take the input");
+        EXPECT_NONFATAL_FAILURE(scene.robot.click(Spot{scene.edit}), "the system does not take the input");
+    }
+    scene.robot.type(L"b");
+
+    EXPECT_EQ(scene.text(), L"b");
 }

@@ -142,6 +142,24 @@ TEST(RunningProgram, ClicksAndPressesKeysAsAUserDoes)
     ::RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\ovoui test programs"); // where it remembers a number
 }
 
+TEST(RunningProgram, DragsFromPointToPoint)
+{
+    RunningProgram program{kProgram};
+    program.click(program.child(program.main(), L"Button"));
+    const HWND number = program.child(program.window(L"Convert"), L"Edit");
+    program.click(number);
+    program.chord(VK_CONTROL, 'A');
+    program.type(L"123");
+    program.waitFor("the typed number", [&] { return textOf(number) == L"123"; });
+    CRect client;
+    ::GetClientRect(number, &client);
+    const int line = client.CenterPoint().y;
+    const auto selected = [number] { return ::SendMessageW(number, EM_GETSEL, 0, 0); };
+    ASSERT_EQ(selected(), MAKELONG(3, 3));
+    program.drag(number, {{client.right - 2, line}, client.CenterPoint(), {client.left + 1, line}});
+    program.waitFor("the dragged selection", [&] { return selected() == MAKELONG(0, 3); });
+}
+
 // The display tells the dialog below the pointer, a moment after it has opened, that nothing is held.
 TEST(RunningProgram, HoldsTheKeysOfAChordHoweverSlowTheMachineIs)
 {

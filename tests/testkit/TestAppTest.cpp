@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 using namespace ovo::testkit;
 
 namespace
@@ -43,18 +45,52 @@ TEST(TestApp, AnswersBoxesInOrder)
     EXPECT_EQ(AfxMessageBox(L"c"), IDOK);
 }
 
+TEST(TestApp, CallsTheTestWhileABoxWaits)
+{
+    TestApp& app = TestApp::instance();
+    std::size_t asked = 0;
+    app.onBox = [&] { asked = app.boxes().size(); };
+    app.answerBoxes({IDNO});
+
+    EXPECT_EQ(AfxMessageBox(L"a"), IDNO);
+
+    EXPECT_EQ(asked, 1U) << "it is written down by then";
+}
+
+TEST(TestApp, WhatIsCalledAtABoxMayTakeItselfAway)
+{
+    TestApp& app = TestApp::instance();
+    auto made = std::make_shared<int>(0);
+    bool lasts = false;
+    app.onBox = [&lasts, own = std::move(made)] {
+        const std::weak_ptr<int> watched = own;
+        bool& outcome = lasts;
+        TestApp::instance().onBox = nullptr;
+        outcome = !watched.expired();
+    };
+
+    AfxMessageBox(L"a");
+
+    EXPECT_TRUE(lasts) << "until it returns";
+    EXPECT_FALSE(app.onBox);
+}
+
 TEST(TestApp, ForgetsBetweenTests)
 {
     EXPECT_TRUE(TestApp::instance().boxes().empty()) << "the boxes of the tests before";
+    EXPECT_FALSE(TestApp::instance().onBox) << "nor does a test before call its own variables";
 }
 
 TEST(TestApp, WritesCallsForHelpDown)
 {
     AfxGetApp()->HtmlHelp(77, HH_DISPLAY_TOPIC);
+    AfxGetApp()->WinHelp(78, HELP_QUIT);
 
-    ASSERT_EQ(TestApp::instance().helps().size(), 1U);
+    ASSERT_EQ(TestApp::instance().helps().size(), 2U);
     EXPECT_EQ(TestApp::instance().helps()[0].data, 77U);
     EXPECT_EQ(TestApp::instance().helps()[0].command, static_cast<UINT>(HH_DISPLAY_TOPIC));
+    EXPECT_EQ(TestApp::instance().helps()[1].data, 78U);
+    EXPECT_EQ(TestApp::instance().helps()[1].command, static_cast<UINT>(HELP_QUIT));
 }
 
 TEST(TemporaryProfile, KeepsTheProfileInTheRegistryAndRemovesIt)
