@@ -24,7 +24,8 @@ bool detectDrag(HWND window, POINT press)
         // Whatever else took the mouse, it will not tell us when the button goes up.
         if (!wait.holdsMouse())
             return false;
-        if (leaves(queuedMouse(message), area))
+        // The queue may never be empty.
+        if (leaves(queuedMouse(message), area) || isLate(message.time, static_cast<std::uint32_t>(end)))
             return true;
     }
 }

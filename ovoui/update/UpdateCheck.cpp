@@ -26,7 +26,10 @@ std::optional<AvailableUpdate> findTrustedUpdate(const std::wstring& address, co
 void checkForUpdates(const std::wstring& address, const std::wstring& product, const std::wstring& options,
                      const int version[4])
 {
-    const std::optional<AvailableUpdate> update = findUpdate(address, product, options, version);
+    const std::optional<AvailableUpdate> update = [&] {
+        const CWaitCursor wait;
+        return findUpdate(address, product, options, version);
+    }();
     if (!update) {
         CUpdateAvailable(product).DoModal();
         return;

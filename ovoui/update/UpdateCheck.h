@@ -28,7 +28,7 @@ OVOUI_API std::optional<AvailableUpdate> findUpdate(const std::wstring& address,
                                                     const std::wstring& options, const int version[4]);
 
 /// Asks with `address`, `product`, `options` and `version` as findUpdate does, and tells the user the result
-/// in a modal dialog. When the user accepts an update, its page is opened with `browseUrl`, whose errors come
-/// out of here too.
+/// in a modal dialog. The wait cursor is shown until it has been asked. When the user accepts an update, its
+/// page is opened with `browseUrl`, whose errors come out of here too.
 OVOUI_API void checkForUpdates(const std::wstring& address, const std::wstring& product,
                                const std::wstring& options, const int version[4]);

@@ -62,6 +62,20 @@ LRESULT CALLBACK countKeys(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     return ::DefSubclassProc(window, message, wParam, lParam);
 }
 
+constexpr UINT kAgain = WM_APP + 77;
+
+/// In front of the tree: a message that is posted again whenever it comes, until a time of ::GetTickCount64.
+LRESULT CALLBACK postAgain(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR end)
+{
+    if (message != kAgain)
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    if (auto& left = *reinterpret_cast<ULONGLONG*>(end); ::GetTickCount64() < left)
+        ::PostMessageW(window, kAgain, 0, 0);
+    else
+        left = 0;
+    return 0;
+}
+
 /// Between the tree and the tree view's own procedure: notes the clicks that reach this one, and keeps them.
 LRESULT CALLBACK keepClicks(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR kept)
 {
@@ -378,6 +392,19 @@ TEST(TreeMouse, HoldingTheButtonStillStartsADrag)
                  [&] { return scene.parent().log().count(static_cast<UINT>(TVN_BEGINDRAGW)) == 1; })
         .release();
     EXPECT_EQ(scene.selected(), Names{"b"});
+}
+
+TEST(TreeMouse, HoldingTheButtonStartsADragThoughMessagesNeverEnd)
+{
+    Scene scene{{"a", "b"}};
+    ULONGLONG end = ::GetTickCount64() + 20 * ::GetDoubleClickTime();
+    ASSERT_TRUE(::SetWindowSubclass(scene.tree.m_hWnd, &postAgain, 1, reinterpret_cast<DWORD_PTR>(&end)));
+    const CPoint at = scene.labelPoint("b");
+    scene.tree.PostMessage(kAgain);
+    scene.tree.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    EXPECT_EQ(dragsBegun(scene), 1);
+    EXPECT_NE(end, 0u) << "the messages ended first";
+    ::RemoveWindowSubclass(scene.tree.m_hWnd, &postAgain, 1);
 }
 
 TEST(TreeMouse, EscapeEndsTheWaitWithoutADrag)

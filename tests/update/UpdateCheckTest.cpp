@@ -235,6 +235,40 @@ TEST_F(UpdateCheck, ACopyThatCannotBeReadIsReportedAsTheReaderDoes)
     EXPECT_FALSE(isCached()) << "the copy is gone";
 }
 
+namespace
+{
+
+HCURSOR g_whileReading = nullptr;
+
+BOOL WINAPI lookAtCursor(HANDLE file, LPVOID bytes, DWORD count, LPDWORD done, LPOVERLAPPED overlapped)
+{
+    g_whileReading = ::GetCursor();
+    return ::ReadFile(file, bytes, count, done, overlapped);
+}
+
+} // namespace
+
+TEST_F(UpdateCheck, TheWaitCursorIsShownUntilTheListIsRead)
+{
+    const HCURSOR wait = ::LoadCursorW(nullptr, IDC_WAIT);
+    const ImportPatch reading(L"ovocor11.dll", "ReadFile", reinterpret_cast<void*>(&lookAtCursor));
+    HCURSOR whileAsking = wait;
+    publish("#update,Board,,,,,13,http://example.org/13,\r\n");
+    auto answering = Robot()
+                         .waitFor("the dialog", [] { return shownDialog() != nullptr; })
+                         .then([&] { whileAsking = ::GetCursor(); })
+                         .key(VK_ESCAPE)
+                         .start();
+    checkForUpdates(list(), L"Board", L"Pro", kInstalled);
+    EXPECT_EQ(std::exchange(g_whileReading, nullptr), wait);
+    EXPECT_NE(whileAsking, wait);
+
+    publish("#update,Board,,,,,13\r\n");
+    EXPECT_THROW(checkForUpdates(list(), L"Board", L"Pro", kInstalled), OvoError);
+    EXPECT_EQ(g_whileReading, wait);
+    EXPECT_NE(::GetCursor(), wait) << "after a failure, too";
+}
+
 TEST_F(UpdateCheck, AnUnclosedQuoteIsAnError)
 {
     publish("#update,Board,,,,,13,http://example.org/13,\"never closed\r\n");

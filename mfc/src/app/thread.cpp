@@ -121,20 +121,20 @@ BOOL CWinThread::PumpMessage()
 
 BOOL CWinThread::PreTranslateMessage(MSG* message)
 {
-    if (!message->hwnd && dispatchThreadMessage(*message))
-        return TRUE;
-    CWnd* main = AfxGetMainWnd();
     if (!message->hwnd)
-        return FALSE;
+        return dispatchThreadMessage(*message);
+    CWnd* const main = AfxGetMainWnd();
+    const HWND mainWindow = main ? main->m_hWnd : nullptr;
     for (HWND wnd = message->hwnd; wnd; wnd = ::GetParent(wnd)) {
         CWnd* object = CWnd::FromHandlePermanent(wnd);
         if (object && object->PreTranslateMessage(message))
             return TRUE;
-        if (main && wnd == main->m_hWnd)
+        if (wnd == mainWindow)
             return FALSE;
     }
-    // The main window's accelerators hold in windows beside it too.
-    return main && CWnd::FromHandlePermanent(main->m_hWnd) == main && main->PreTranslateMessage(message);
+    // The main window's accelerators hold in windows beside it too. Those asked may have deleted its object.
+    CWnd* const stillMain = CWnd::FromHandlePermanent(mainWindow);
+    return stillMain && stillMain->PreTranslateMessage(message);
 }
 
 BOOL CWinThread::dispatchThreadMessage(const MSG& message)

@@ -49,6 +49,11 @@ bool leaves(const MouseMessage& message, const frame::Box& area)
     return isMouse(message.message) && !wheel && !contains(area, message.x, message.y);
 }
 
+bool isLate(std::uint32_t time, std::uint32_t end)
+{
+    return static_cast<std::int32_t>(time - end) >= 0;
+}
+
 BandStep bandStep(const MouseMessage& message)
 {
     if (isEscape(message))

@@ -4,6 +4,8 @@
 
 #include <ovoui/frame/core/Placement.h>
 
+#include <cstdint>
+
 namespace ovoui::tree
 {
 
@@ -25,6 +27,9 @@ bool endsWithoutDrag(const MouseMessage& message);
 
 /// Whether the pointer leaves the drag rectangle, which makes it a drag. The wheel tells of another place.
 bool leaves(const MouseMessage& message, const frame::Box& area);
+
+/// Whether a message came when a time was over. Both are in milliseconds, which begin anew after 2^32.
+bool isLate(std::uint32_t time, std::uint32_t end);
 
 /// What a message leads to while a band is drawn.
 enum class BandStep

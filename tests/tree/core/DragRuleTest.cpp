@@ -48,6 +48,14 @@ TEST(DragRule, ThePointerLeavesTheRectangleByAnyMessageOfTheMouseButTheWheels)
             }
 }
 
+TEST(DragRule, AMessageIsLateFromTheEndOnAlsoWhereTheTimeBeginsAnew)
+{
+    constexpr std::uint32_t kWait = 500;
+    for (const std::uint32_t press : {0u, 1000u, 0x7FFFFF00u, 0x80000000u, 0xFFFFFF00u, 0xFFFFFFFFu})
+        for (std::uint32_t passed = 0; passed <= 3 * kWait; ++passed)
+            ASSERT_EQ(isLate(press + passed, press + kWait), passed >= kWait) << press << ' ' << passed;
+}
+
 TEST(DragRule, MovesAndTheReleaseOfTheLeftButtonDrawABandAndEscapeGivesItUp)
 {
     for (unsigned message = 0; message <= 0x300; ++message)
