@@ -2,6 +2,7 @@
 
 #include <ovoui/frame/BufferedPaint.h>
 #include <ovoui/frame/DcScopes.h>
+#include <ovoui/frame/Resolution.h>
 
 namespace ovoui::frame
 {
@@ -27,13 +28,19 @@ HGDIOBJ TipWindow::font() const
     return m_font ? m_font : ::GetStockObject(DEFAULT_GUI_FONT);
 }
 
+CSize TipWindow::marginsOn(const CDC& dc) const
+{
+    return CSize(scaledTo(dc, m_margins.cx), scaledTo(dc, m_margins.cy));
+}
+
 CSize TipWindow::sizeAroundText()
 {
     CClientDC dc(this);
     const frame::SelectedTool selected(dc, font());
     CRect text;
     dc.DrawText(m_text.c_str(), static_cast<int>(m_text.size()), &text, DT_CALCRECT | DT_NOPREFIX);
-    return CSize(text.Width() + 2 * m_margins.cx, text.Height() + 2 * m_margins.cy);
+    const CSize margins = marginsOn(dc);
+    return text.Size() + margins + margins;
 }
 
 void TipWindow::showAt(const CRect& place, const CWnd& below)
@@ -57,7 +64,7 @@ void TipWindow::OnPaint()
     GetClientRect(&rect);
     dc.FillSolidRect(&rect, ::GetSysColor(COLOR_INFOBK));
     dc.Draw3dRect(&rect, ::GetSysColor(COLOR_INFOTEXT), ::GetSysColor(COLOR_INFOTEXT));
-    rect.DeflateRect(m_margins.cx, m_margins.cy);
+    rect.DeflateRect(marginsOn(dc));
     const frame::SelectedTool selected(dc, font());
     dc.SetTextColor(::GetSysColor(COLOR_INFOTEXT));
     dc.SetBkMode(TRANSPARENT);

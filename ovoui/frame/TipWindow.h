@@ -17,7 +17,7 @@ public:
     void hide();
 
 protected:
-    /// `margins` in pixels from each edge to the text; the border lies within.
+    /// `margins` from each edge to the text, in pixels at the usual resolution; the border lies within.
     explicit TipWindow(CSize margins);
 
     /// `font` stays the caller's; null for that of the platform's dialogs.
@@ -35,6 +35,8 @@ protected:
 
 private:
     HGDIOBJ font() const;
+    /// In pixels of the device.
+    CSize marginsOn(const CDC& dc) const;
 
     const CSize m_margins;
     HFONT m_font = nullptr;

@@ -12,7 +12,7 @@ namespace ovoui::sliders
 namespace
 {
 
-constexpr int kMargin = 4; // pixels around the text
+constexpr int kMargin = 4; // pixels around the text, at the usual resolution
 
 CRect thumbOf(CWnd& slider)
 {

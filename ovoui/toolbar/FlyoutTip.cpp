@@ -8,7 +8,7 @@ namespace
 {
 
 constexpr wchar_t kClass[] = L"OvoFlyoutTip";
-constexpr int kMarginX = 5; // pixels from the window's edge to the text
+constexpr int kMarginX = 5; // pixels from the window's edge to the text, at the usual resolution
 constexpr int kMarginY = 3;
 
 bool registerClass()

@@ -95,6 +95,12 @@ HWND WINAPI refuseOneTip(DWORD extendedStyle, LPCWSTR windowClass, LPCWSTR name,
                              instance, data);
 }
 
+/// A screen of twice the resolution, whose fonts are as large as before.
+int WINAPI twiceTheResolution(HDC dc, int index)
+{
+    return ::GetDeviceCaps(dc, index) * (index == LOGPIXELSX ? 2 : 1);
+}
+
 /// Lets the tip come that is awaited.
 void bringTip()
 {
@@ -108,6 +114,20 @@ protected:
     {
         timers.clear();
         tipTime = 0;
+    }
+
+    /// Of the tip of the first entry.
+    CSize sizeOfTip()
+    {
+        CRect place;
+        scene.user.press(scene.button(BarScene::Lines))
+            .waitFor(kShown, &BarScene::flyoutShown)
+            .moveTo(scene.entry(0))
+            .waitFor("the tip", [] { return shownTip() != nullptr; })
+            .then([&] { ::GetWindowRect(shownTip(), &place); })
+            .moveTo(scene.outside())
+            .release();
+        return place.Size();
     }
 
     BarScene scene;
@@ -147,6 +167,16 @@ TEST_F(FlyoutTips, AppearBesideTheHotEntry)
         .moveTo(scene.outside())
         .then([] { EXPECT_EQ(shownTip(), nullptr); })
         .release();
+}
+
+TEST_F(FlyoutTips, TheirMarginsGrowWithTheResolution)
+{
+    const CClientDC screen(nullptr);
+    const CSize margins(::MulDiv(5, screen.GetDeviceCaps(LOGPIXELSX), 96),
+                        ::MulDiv(3, screen.GetDeviceCaps(LOGPIXELSX), 96));
+    const CSize usual = sizeOfTip();
+    const ImportPatch patch{L"ovomfc.dll", "GetDeviceCaps", reinterpret_cast<void*>(&twiceTheResolution)};
+    EXPECT_EQ(sizeOfTip() - usual, margins + margins);
 }
 
 TEST_F(FlyoutTips, TheFirstWaitsLongerThanTheNext)
