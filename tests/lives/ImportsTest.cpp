@@ -32,3 +32,17 @@ TEST(Imports, OfTheCommonControlsEveryVersionHas)
         EXPECT_GT(fromCommonControls, 0);
     }
 }
+
+/// The folder of Windows is the one that its modules lie in. GetWindowsDirectory gives a user of a server
+/// with several users another one.
+TEST(Imports, TheFolderOfWindowsIsNotAskedForAsTheUsersOwn)
+{
+    for (const wchar_t* const module : {L"ovoui.dll", L"ovomfc.dll"}) {
+        bool asksForTheSystems = false;
+        for (const Import& import : importsOf(::GetModuleHandleW(module))) {
+            asksForTheSystems = asksForTheSystems || import.function == "GetSystemWindowsDirectoryW";
+            EXPECT_NE(import.function, "GetWindowsDirectoryW");
+        }
+        EXPECT_TRUE(asksForTheSystems);
+    }
+}

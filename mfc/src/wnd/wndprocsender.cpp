@@ -23,7 +23,8 @@ bool isOfWindows(HMODULE module)
 {
     wchar_t windows[MAX_PATH]{};
     wchar_t file[MAX_PATH]{};
-    const UINT length = ::GetWindowsDirectoryW(windows, MAX_PATH);
+    // Not GetWindowsDirectory: on a server with several users it may give a folder of the user's own.
+    const UINT length = ::GetSystemWindowsDirectoryW(windows, MAX_PATH);
     ::GetModuleFileNameW(module, file, MAX_PATH); // cut off when it is longer, which does no harm
     return length > 0 && ::_wcsnicmp(file, windows, length) == 0;
 }
