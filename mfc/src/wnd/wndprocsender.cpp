@@ -1,5 +1,7 @@
 #include "wndprocsender.h"
 
+#include "core/functionparts.h"
+
 #include <detail/modulestate.h>
 
 #include <afxwin.h>
@@ -80,7 +82,7 @@ public:
             return false;
         function = ::RtlLookupFunctionEntry(m_context.Rip, &base, nullptr);
         m_module = reinterpret_cast<HMODULE>(base);
-        m_function = function ? reinterpret_cast<const void*>(base + function->BeginAddress) : nullptr;
+        m_function = function ? beginningOf(base, *function) : nullptr;
         return function != nullptr;
     }
 
@@ -92,6 +94,13 @@ public:
     }
 
 private:
+    static const void* beginningOf(DWORD64 module, const RUNTIME_FUNCTION& entry)
+    {
+        const auto* const base = reinterpret_cast<const std::byte*>(module);
+        return base +
+               afxdetail::beginningOfFunction(base, {entry.BeginAddress, entry.EndAddress, entry.UnwindData});
+    }
+
     CONTEXT m_context{};
     HMODULE m_module = nullptr;
     const void* m_function = nullptr;
