@@ -2,8 +2,7 @@
 #pragma once
 
 #include <ovoui/frame/AsHandler.h>
-
-#include <commctrl.h>
+#include <ovoui/frame/Subclass.h>
 
 #include <memory>
 
@@ -17,7 +16,7 @@ namespace ovoui::frame
 ///
 /// `Object` has
 ///     static constexpr wchar_t kProperty[];   // of the window, which keeps the object there
-///     LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam);   // DefSubclassProc goes on
+///     LRESULT handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam);   // nextProcedure goes on
 ///     void end();   // the window goes: before its WM_NCDESTROY is handled
 template <class Object>
 class WindowCompanion : public std::enable_shared_from_this<Object>
@@ -37,7 +36,7 @@ public:
         const auto made = std::make_shared<Object>();
         if (!::SetPropW(window, Object::kProperty, made.get()))
             return nullptr;
-        if (!::SetWindowSubclass(window, &procedure, 0, reinterpret_cast<DWORD_PTR>(made.get()))) {
+        if (!setSubclass(window, &procedure, 0, reinterpret_cast<DWORD_PTR>(made.get()))) {
             ::RemovePropW(window, Object::kProperty);
             return nullptr;
         }
@@ -51,7 +50,7 @@ private:
     {
         const std::shared_ptr<Object> object = reinterpret_cast<Object*>(self)->shared_from_this();
         if (message == WM_NCDESTROY) {
-            ::RemoveWindowSubclass(window, &procedure, 0);
+            removeSubclass(window, &procedure, 0);
             ::RemovePropW(window, Object::kProperty);
             object->end();
             object->m_keepsItself.reset();

@@ -54,6 +54,7 @@ target_sources(ovoui PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/RaiseLater.cpp
   ${CMAKE_CURRENT_LIST_DIR}/RedrawHold.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ResourceVersion.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/Subclass.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TabKeys.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ThemeData.cpp
   ${CMAKE_CURRENT_LIST_DIR}/Tip.cpp

@@ -38,7 +38,7 @@ LRESULT WatchedWindow::handle(HWND window, UINT message, WPARAM wParam, LPARAM l
         if (!::IsWindow(window))
             return 0;
     }
-    return ::DefSubclassProc(window, message, wParam, lParam);
+    return frame::nextProcedure(window, message, wParam, lParam);
 }
 
 } // namespace ovoui::images

@@ -3,10 +3,9 @@
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/Geometry.h>
 #include <ovoui/frame/OwnWindow.h>
+#include <ovoui/frame/Subclass.h>
 #include <ovoui/lists/ComboBox.h>
 #include <ovoui/lists/core/ComboItemLayout.h>
-
-#include <commctrl.h>
 
 using ovoui::frame::toBox;
 using ovoui::frame::toRect;
@@ -100,8 +99,8 @@ bool ComboHits::create()
         return false;
     ModifyStyleEx(0, m_combo.GetExStyle() & WS_EX_LAYOUTRTL); // the list inherits it
     m_top = top->m_hWnd;
-    ::SetWindowSubclass(m_top, &topProcedure, reinterpret_cast<UINT_PTR>(this),
-                        reinterpret_cast<DWORD_PTR>(this));
+    frame::setSubclass(m_top, &topProcedure, reinterpret_cast<UINT_PTR>(this),
+                       reinterpret_cast<DWORD_PTR>(this));
     if (m_list.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_NODATA |
                           LBS_NOINTEGRALHEIGHT,
                       CRect(), this, kListId))
@@ -112,7 +111,7 @@ bool ComboHits::create()
 
 void ComboHits::OnDestroy()
 {
-    ::RemoveWindowSubclass(m_top, &topProcedure, reinterpret_cast<UINT_PTR>(this));
+    frame::removeSubclass(m_top, &topProcedure, reinterpret_cast<UINT_PTR>(this));
     CWnd::OnDestroy();
 }
 
@@ -121,7 +120,7 @@ LRESULT CALLBACK ComboHits::topProcedure(HWND window, UINT message, WPARAM wPara
 {
     if (message == WM_MOVE || message == WM_SIZE)
         reinterpret_cast<ComboHits*>(hits)->hide();
-    return ::DefSubclassProc(window, message, wParam, lParam);
+    return frame::nextProcedure(window, message, wParam, lParam);
 }
 
 /// The list asks it, too.

@@ -52,7 +52,7 @@ LRESULT ListMessages::handle(HWND window, UINT message, WPARAM wParam, LPARAM lP
     LRESULT result = 0;
     if (eachUntil([&](ListHelper& helper) { return helper.takes(message, wParam, lParam, result); }))
         return result;
-    result = ::DefSubclassProc(window, message, wParam, lParam);
+    result = frame::nextProcedure(window, message, wParam, lParam);
     eachUntil([&](ListHelper& helper) {
         helper.heard(message, wParam, lParam);
         return false;

@@ -1,8 +1,7 @@
 #include <ovoui/sliders/BuddyWheel.h>
 
 #include <ovoui/frame/AsHandler.h>
-
-#include <commctrl.h>
+#include <ovoui/frame/Subclass.h>
 
 #include <utility>
 
@@ -13,14 +12,14 @@ BuddyWheel::BuddyWheel(HWND buddy, std::function<void(int)> turned)
     : m_buddy(buddy)
     , m_turned(std::move(turned))
 {
-    ::SetWindowSubclass(m_buddy, &BuddyWheel::hear, reinterpret_cast<UINT_PTR>(this),
-                        reinterpret_cast<DWORD_PTR>(this));
+    frame::setSubclass(m_buddy, &BuddyWheel::hear, reinterpret_cast<UINT_PTR>(this),
+                       reinterpret_cast<DWORD_PTR>(this));
 }
 
 BuddyWheel::~BuddyWheel()
 {
     if (m_buddy)
-        ::RemoveWindowSubclass(m_buddy, &BuddyWheel::hear, reinterpret_cast<UINT_PTR>(this));
+        frame::removeSubclass(m_buddy, &BuddyWheel::hear, reinterpret_cast<UINT_PTR>(this));
 }
 
 LRESULT CALLBACK BuddyWheel::hear(HWND wnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
@@ -35,10 +34,10 @@ LRESULT CALLBACK BuddyWheel::hear(HWND wnd, UINT message, WPARAM wParam, LPARAM 
         });
     }
     if (message == WM_NCDESTROY) {
-        ::RemoveWindowSubclass(wnd, &BuddyWheel::hear, id);
+        frame::removeSubclass(wnd, &BuddyWheel::hear, id);
         wheel.m_buddy = nullptr;
     }
-    return ::DefSubclassProc(wnd, message, wParam, lParam);
+    return frame::nextProcedure(wnd, message, wParam, lParam);
 }
 
 } // namespace ovoui::sliders

@@ -24,14 +24,26 @@ namespace
 {
 
 constexpr wchar_t kNoList[] = L"Cannot get loaded module list";
+constexpr int kSnapshotTries = 16;
+
+/// The system refuses while another thread loads or frees a module, and is then to be asked again.
+HANDLE takenSnapshot()
+{
+    HANDLE taken = INVALID_HANDLE_VALUE;
+    for (int left = kSnapshotTries; left > 0; --left) {
+        taken = ::CreateToolhelp32Snapshot(TH32CS_SNAPMODULE | TH32CS_SNAPMODULE32, ::GetCurrentProcessId());
+        if (taken != INVALID_HANDLE_VALUE || ::GetLastError() != ERROR_BAD_LENGTH)
+            break;
+    }
+    return taken;
+}
 
 /// The modules of this process at one moment.
 class ModuleSnapshot
 {
 public:
     ModuleSnapshot()
-        : m_handle(
-              ::CreateToolhelp32Snapshot(TH32CS_SNAPMODULE | TH32CS_SNAPMODULE32, ::GetCurrentProcessId()))
+        : m_handle(takenSnapshot())
     {
         if (m_handle == INVALID_HANDLE_VALUE)
             throw WinError(L"CreateToolhelp32Snapshot failed", ::GetLastError());
@@ -123,7 +135,7 @@ private:
     const std::wstring m_programFolder = programFolder();
     const std::vector<std::wstring> m_systemFolders{folderFrom(&::GetSystemDirectoryW),
                                                     folderFrom(&::GetSystemWow64DirectoryW),
-                                                    folderFrom(&::GetWindowsDirectoryW) + L"\\WinSxS"};
+                                                    folderFrom(&::GetSystemWindowsDirectoryW) + L"\\WinSxS"};
 };
 
 } // namespace

@@ -43,7 +43,9 @@ HMODULE WINAPI getModuleHandle(LPCWSTR file)
 
 FARPROC WINAPI getProcAddress(HMODULE module, LPCSTR name)
 {
-    if (!g_function || std::strcmp(name, g_function) != 0 || module != ::GetModuleHandleW(g_library))
+    const bool byNumber = IS_INTRESOURCE(name);
+    if (!g_function || byNumber || std::strcmp(name, g_function) != 0 ||
+        module != ::GetModuleHandleW(g_library))
         return ::GetProcAddress(module, name);
     ++g_asked;
     ::SetLastError(ERROR_PROC_NOT_FOUND);

@@ -43,7 +43,7 @@ const std::set<std::string> kCannotFail{
     "GetNativeSystemInfo", "DeleteCriticalSection", "EnterCriticalSection", "InitializeCriticalSection",
     "LeaveCriticalSection",
     // the window's own procedure, of which the answer is that of the message
-    "CallNextHookEx", "CallWindowProcA", "CallWindowProcW", "DefSubclassProc", "DefWindowProcW",
+    "CallNextHookEx", "CallWindowProcA", "CallWindowProcW", "DefWindowProcW",
     "DispatchMessageW", "SendMessageW", "TranslateMessage",
     // colours, metrics and keys, of which every number is a good one
     "GetSysColor", "GetSystemMetrics", "GetKeyState", "GetGuiResources", "IsWinEventHookInstalled",

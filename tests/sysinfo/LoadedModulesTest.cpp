@@ -31,6 +31,18 @@ HANDLE WINAPI noSnapshot(DWORD, DWORD)
     return INVALID_HANDLE_VALUE;
 }
 
+int g_refusals = 0;
+
+/// As while other threads load modules.
+HANDLE WINAPI snapshotAfterRefusals(DWORD flags, DWORD process)
+{
+    if (g_refusals == 0)
+        return ::CreateToolhelp32Snapshot(flags, process);
+    --g_refusals;
+    ::SetLastError(ERROR_BAD_LENGTH);
+    return INVALID_HANDLE_VALUE;
+}
+
 } // namespace
 
 TEST(LoadedModules, KnowWhereTheirFilesLie)
@@ -81,6 +93,18 @@ TEST(LoadedModules, AFailureIsAnErrorWithItsCause)
         EXPECT_EQ(std::wstring(error.wwhat()),
                   L"CreateToolhelp32Snapshot failed: " + formatMessage(ERROR_ACCESS_DENIED));
     }
+}
+
+TEST(LoadedModules, AreListedWhenTheSystemCanTellThemAgain)
+{
+    const ImportPatch patch(L"ovoui.dll", "CreateToolhelp32Snapshot",
+                            reinterpret_cast<void*>(&snapshotAfterRefusals));
+    g_refusals = 3;
+    EXPECT_NE(find(loadedModules(), L"ovoui.dll"), nullptr);
+
+    g_refusals = 1'000'000; // for ever
+    EXPECT_THROW(loadedModules(), WinError);
+    EXPECT_GT(g_refusals, 0);
 }
 
 // The machine

@@ -16,12 +16,19 @@ std::vector<void (*)()>& termWork()
     return *work;
 }
 
+void startClasses(DWORD classes)
+{
+    const INITCOMMONCONTROLSEX wanted{sizeof wanted, classes};
+    ::InitCommonControlsEx(&wanted);
+}
+
+/// What version 6 alone has is asked for by itself: version 5 refuses everything along with what it does not
+/// know.
 void startCommonControls()
 {
-    INITCOMMONCONTROLSEX classes{sizeof classes, ICC_WIN95_CLASSES | ICC_USEREX_CLASSES | ICC_DATE_CLASSES |
-                                                     ICC_COOL_CLASSES | ICC_STANDARD_CLASSES};
-    if (!::InitCommonControlsEx(&classes))
-        ::InitCommonControls();
+    startClasses(ICC_WIN95_CLASSES | ICC_USEREX_CLASSES | ICC_DATE_CLASSES | ICC_COOL_CLASSES |
+                 ICC_INTERNET_CLASSES);
+    startClasses(ICC_STANDARD_CLASSES);
 }
 
 } // namespace

@@ -8,7 +8,9 @@
 namespace
 {
 
-COleDataSource* s_onClipboard = nullptr;
+/// What the running thread has put there. Asked from another one, the system says that it is not there any
+/// more.
+thread_local COleDataSource* s_onClipboard = nullptr;
 
 FORMATETC describe(CLIPFORMAT format, LPFORMATETC formatEtc, DWORD medium)
 {

@@ -24,6 +24,72 @@ DWORD withAlt(DWORD keyState)
     return ::GetKeyState(VK_MENU) < 0 ? keyState | MK_ALT : keyState;
 }
 
+/// What the system is given for a target. A drag may hold on to it while the target, or its registration,
+/// goes: it is what remains then.
+class RegisteredTarget final : public IDropTarget
+{
+public:
+    RegisteredTarget(COleDropTarget& target, HWND wnd, std::weak_ptr<void> life)
+        : m_target(target)
+        , m_wnd(wnd)
+        , m_life(std::move(life))
+    {
+    }
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override
+    {
+        const bool known = iid == IID_IUnknown || iid == IID_IDropTarget;
+        *object = known ? this : nullptr;
+        if (!known)
+            return E_NOINTERFACE;
+        AddRef();
+        return S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override
+    {
+        return static_cast<ULONG>(::InterlockedIncrement(&m_references));
+    }
+    STDMETHODIMP_(ULONG) Release() override
+    {
+        const LONG left = ::InterlockedDecrement(&m_references);
+        if (left == 0)
+            delete this;
+        return static_cast<ULONG>(left);
+    }
+
+    STDMETHODIMP DragEnter(LPDATAOBJECT dataObject, DWORD keyState, POINTL point, LPDWORD effect) override
+    {
+        return isRegistered() ? m_target.m_xDropTarget.DragEnter(dataObject, keyState, point, effect)
+                              : nothing(*effect);
+    }
+    STDMETHODIMP DragOver(DWORD keyState, POINTL point, LPDWORD effect) override
+    {
+        return isRegistered() ? m_target.m_xDropTarget.DragOver(keyState, point, effect) : nothing(*effect);
+    }
+    STDMETHODIMP DragLeave() override { return isRegistered() ? m_target.m_xDropTarget.DragLeave() : S_OK; }
+    STDMETHODIMP Drop(LPDATAOBJECT dataObject, DWORD keyState, POINTL point, LPDWORD effect) override
+    {
+        return isRegistered() ? m_target.m_xDropTarget.Drop(dataObject, keyState, point, effect)
+                              : nothing(*effect);
+    }
+
+private:
+    ~RegisteredTarget() = default;
+
+    bool isRegistered() const { return !m_life.expired() && m_target.m_hWnd == m_wnd; }
+
+    static HRESULT nothing(DWORD& effect)
+    {
+        effect = DROPEFFECT_NONE;
+        return S_OK;
+    }
+
+    COleDropTarget& m_target;
+    const HWND m_wnd;
+    const std::weak_ptr<void> m_life;
+    LONG m_references = 1;
+};
+
 } // namespace
 
 COleDropTarget::COleDropTarget() = default;
@@ -36,7 +102,12 @@ COleDropTarget::~COleDropTarget()
 BOOL COleDropTarget::Register(CWnd* window)
 {
     const HWND wnd = afxdetail::handleOf(window);
-    if (m_hWnd || FAILED(::RegisterDragDrop(wnd, &m_xDropTarget)))
+    if (m_hWnd)
+        return FALSE;
+    auto* const registered = new RegisteredTarget(*this, wnd, m_life);
+    const HRESULT status = ::RegisterDragDrop(wnd, registered);
+    registered->Release(); // the system keeps it
+    if (FAILED(status))
         return FALSE;
     m_hWnd = wnd;
     window->m_pDropTarget = this;

@@ -96,7 +96,8 @@ HWND CPropertySheet::createWindow(const Creation& creation)
     const INT_PTR made = ::PropertySheetW(&header);
     if (AfxUnhookWindowCreate())
         PostNcDestroy(); // no window came to be, so no message ended it
-    const HWND wnd = made > 0 ? reinterpret_cast<HWND>(made) : nullptr;
+    // A window's number may be negative: it has 32 bits, and their sign goes on.
+    const HWND wnd = made != -1 ? reinterpret_cast<HWND>(made) : nullptr;
     const bool complete = wnd && ::IsWindow(wnd) && !making.failed();
     if (!complete && wnd && ::IsWindow(wnd))
         ::DestroyWindow(wnd);

@@ -1,4 +1,5 @@
 target_sources(ovomfc PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/core/functionparts.cpp
   ${CMAKE_CURRENT_LIST_DIR}/handlemap.cpp
   ${CMAKE_CURRENT_LIST_DIR}/mnemonicsearch.cpp
   ${CMAKE_CURRENT_LIST_DIR}/modalloop.cpp

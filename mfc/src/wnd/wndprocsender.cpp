@@ -1,5 +1,7 @@
 #include "wndprocsender.h"
 
+#include "core/functionparts.h"
+
 #include <detail/modulestate.h>
 
 #include <afxwin.h>
@@ -23,7 +25,8 @@ bool isOfWindows(HMODULE module)
 {
     wchar_t windows[MAX_PATH]{};
     wchar_t file[MAX_PATH]{};
-    const UINT length = ::GetWindowsDirectoryW(windows, MAX_PATH);
+    // Not GetWindowsDirectory: on a server with several users it may give a folder of the user's own.
+    const UINT length = ::GetSystemWindowsDirectoryW(windows, MAX_PATH);
     ::GetModuleFileNameW(module, file, MAX_PATH); // cut off when it is longer, which does no harm
     return length > 0 && ::_wcsnicmp(file, windows, length) == 0;
 }
@@ -79,7 +82,7 @@ public:
             return false;
         function = ::RtlLookupFunctionEntry(m_context.Rip, &base, nullptr);
         m_module = reinterpret_cast<HMODULE>(base);
-        m_function = function ? reinterpret_cast<const void*>(base + function->BeginAddress) : nullptr;
+        m_function = function ? beginningOf(base, *function) : nullptr;
         return function != nullptr;
     }
 
@@ -91,6 +94,13 @@ public:
     }
 
 private:
+    static const void* beginningOf(DWORD64 module, const RUNTIME_FUNCTION& entry)
+    {
+        const auto* const base = reinterpret_cast<const std::byte*>(module);
+        return base +
+               afxdetail::beginningOfFunction(base, {entry.BeginAddress, entry.EndAddress, entry.UnwindData});
+    }
+
     CONTEXT m_context{};
     HMODULE m_module = nullptr;
     const void* m_function = nullptr;

@@ -1,9 +1,12 @@
 // CWinApp: its resources, the hourglass, help, and the end.
 #include "Texts.h"
+#include <testkit/ImportPatch.h>
 #include <testkit/RecordingParent.h>
 #include <testkit/TestApp.h>
 
 #include <afxwin.h>
+
+#include <commctrl.h>
 
 using namespace ovo::testkit;
 
@@ -46,12 +49,35 @@ private:
     AFX_HELP_TYPE m_oldMode;
 };
 
+DWORD g_startedClasses = 0;
+
+/// As version 5 of the common controls answers.
+BOOL WINAPI startClassesOfVersion5(const INITCOMMONCONTROLSEX* wanted)
+{
+    if (wanted->dwICC & (ICC_STANDARD_CLASSES | ICC_LINK_CLASS))
+        return FALSE;
+    g_startedClasses |= wanted->dwICC;
+    return TRUE;
+}
+
 HCURSOR hourglass()
 {
     return ::LoadCursorW(nullptr, IDC_WAIT);
 }
 
 } // namespace
+
+TEST(WinApp, StartsEachClassThatItsVersionOfTheCommonControlsHas)
+{
+    const ImportPatch patch(L"ovomfc.dll", "InitCommonControlsEx",
+                            reinterpret_cast<void*>(&startClassesOfVersion5));
+    g_startedClasses = 0;
+    const CWinApp& app = *AfxGetApp();
+    ASSERT_TRUE(AfxWinInit(app.m_hInstance, nullptr, app.m_lpCmdLine, app.m_nCmdShow));
+    for (const DWORD classes :
+         {ICC_WIN95_CLASSES, ICC_USEREX_CLASSES, ICC_DATE_CLASSES, ICC_COOL_CLASSES, ICC_INTERNET_CLASSES})
+        EXPECT_EQ(g_startedClasses & classes, classes);
+}
 
 TEST(WinApp, LoadsTheSystemsCursorsAndIcons)
 {

@@ -43,6 +43,14 @@ std::wstring clipboardText()
     return memory ? takeText(memory) : L"(nothing)";
 }
 
+/// Gives the source that the running thread has put on the clipboard.
+UINT AFX_CDECL useOle(LPVOID owner)
+{
+    AfxOleInit();
+    *static_cast<COleDataSource**>(owner) = COleDataSource::GetClipboardOwner();
+    return 0; // the end of the thread ends OLE
+}
+
 struct ClipboardTest : ::testing::Test
 {
     ~ClipboardTest() override { ::OleSetClipboard(nullptr); }
@@ -139,6 +147,26 @@ TEST_F(ClipboardTest, AnExceptionWhileFlushingComesOut)
     source->SetClipboard();
 
     EXPECT_THROW(COleDataSource::FlushClipboard(), std::runtime_error);
+}
+
+TEST_F(ClipboardTest, AnotherThreadsEndLeavesTheSourceAlone)
+{
+    source->DelayRenderData(CF_UNICODETEXT);
+    source->SetClipboard();
+
+    COleDataSource* seen = source;
+    CWinThread* const thread = AfxBeginThread(&useOle, &seen, THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+    ASSERT_NE(thread, nullptr);
+    thread->m_bAutoDelete = FALSE;
+    thread->ResumeThread();
+    EXPECT_EQ(::WaitForSingleObject(thread->m_hThread, 30'000), WAIT_OBJECT_0);
+    delete thread;
+
+    EXPECT_EQ(seen, nullptr);
+    EXPECT_EQ(source->rendered, 0) << "flushed by the other thread";
+    EXPECT_EQ(COleDataSource::GetClipboardOwner(), source);
+    COleDataSource::FlushClipboard();
+    EXPECT_TRUE(gone);
 }
 
 TEST_F(ClipboardTest, OtherProgramsSeeOrdinaryClipboardData)

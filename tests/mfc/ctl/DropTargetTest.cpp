@@ -85,6 +85,15 @@ private:
     }
 };
 
+/// What the system was given for a window's target, with a reference, as a drag holds it.
+IDropTarget* heldTarget(HWND window)
+{
+    auto* const held = static_cast<IDropTarget*>(::GetPropW(window, L"OleDropTargetInterface"));
+    if (held)
+        held->AddRef();
+    return held;
+}
+
 /// A window with a target, and a hand that drags over it.
 struct DropTargetTest : ::testing::Test
 {
@@ -368,18 +377,67 @@ TEST(DropTarget, MayBeDeletedByWhateverItIsAsked)
         }
 }
 
+TEST(DropTarget, MayBeDeletedWhileADragHoldsIt)
+{
+    using Fleeting = Perishing<Target>;
+    FakeDataObject data{L"dragged"};
+    RecordingParent window;
+    auto* const target = new Fleeting;
+    ASSERT_TRUE(target->Register(&window));
+    IDropTarget* const held = heldTarget(window.m_hWnd);
+    ASSERT_NE(held, nullptr);
+    DWORD effect = DROPEFFECT_COPY;
+    EXPECT_EQ(held->DragEnter(&data, MK_LBUTTON, {}, &effect), S_OK);
+    EXPECT_EQ(effect, DWORD{DROPEFFECT_COPY});
+
+    delete target;
+
+    effect = DROPEFFECT_COPY;
+    EXPECT_EQ(held->DragOver(MK_LBUTTON, {}, &effect), S_OK);
+    EXPECT_EQ(effect, DWORD{DROPEFFECT_NONE});
+    EXPECT_EQ(held->DragLeave(), S_OK);
+    effect = DROPEFFECT_COPY;
+    EXPECT_EQ(held->DragEnter(&data, MK_LBUTTON, {}, &effect), S_OK);
+    EXPECT_EQ(effect, DWORD{DROPEFFECT_NONE});
+    effect = DROPEFFECT_COPY;
+    EXPECT_EQ(held->Drop(&data, 0, {}, &effect), S_OK);
+    EXPECT_EQ(effect, DWORD{DROPEFFECT_NONE});
+    EXPECT_EQ(held->Release(), 0u);
+    EXPECT_EQ(data.references, 1);
+    EXPECT_TRUE(Fleeting::isUntouched(target));
+}
+
+TEST_F(DropTargetTest, IsAskedNoMoreByADragThatHoldsItAfterItWasRevoked)
+{
+    IDropTarget* const held = heldTarget(window.m_hWnd);
+    ASSERT_NE(held, nullptr);
+    DWORD effect = allowed;
+    held->DragEnter(&data, MK_LBUTTON, at(CPoint(10, 20)), &effect);
+    target.Revoke();
+    target.asked.clear();
+
+    held->DragOver(MK_LBUTTON, at(CPoint(10, 20)), &effect);
+    held->DragLeave();
+    held->Release();
+
+    EXPECT_EQ(effect, DWORD{DROPEFFECT_NONE});
+    EXPECT_TRUE(target.asked.empty());
+}
+
 TEST(DropTarget, TheWindowRevokesItWhenItIsDestroyed)
 {
     Target target;
     CWnd window;
     window.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0);
     ASSERT_TRUE(target.Register(&window));
+    IDropTarget* const held = heldTarget(window.m_hWnd);
+    ASSERT_NE(held, nullptr);
 
     window.DestroyWindow();
 
     EXPECT_EQ(target.m_hWnd, nullptr);
     EXPECT_EQ(window.m_pDropTarget, nullptr);
-    EXPECT_EQ(target.m_dwRef, 1) << "the system has let go of it";
+    EXPECT_EQ(held->Release(), 0u) << "the system has let go of it";
 }
 
 TEST(DropTarget, ItsDestructorRevokes)

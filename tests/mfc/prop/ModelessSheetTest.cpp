@@ -2,6 +2,7 @@
 #include "SheetScene.h"
 
 #include <support/RaisingChild.h>
+#include <testkit/ImportPatch.h>
 #include <testkit/WindowCounter.h>
 
 #include <memory>
@@ -16,6 +17,13 @@ class ModelessSheet : public SheetScene
 protected:
     bool isShown(int id) const { return ::IsWindowVisible(::GetDlgItem(sheet.m_hWnd, id)); }
 };
+
+/// Gives the window's number as it is where many windows have been made before. An upper half of ones stands
+/// for any.
+INT_PTR WINAPI sheetOfANegativeNumber(LPCPROPSHEETHEADERW header)
+{
+    return static_cast<LONG>(0xFFFF0000 | LOWORD(::PropertySheetW(header)));
+}
 
 } // namespace
 
@@ -36,6 +44,15 @@ TEST_F(ModelessSheet, IsShownWithoutButtons)
     EXPECT_EQ(client.bottom - pages.bottom, pages.left) << "as much room below as beside";
     EXPECT_TRUE(sheet.DestroyWindow());
     EXPECT_FALSE(general.m_hWnd);
+}
+
+TEST_F(ModelessSheet, IsMadeWhateverTheNumberOfItsWindow)
+{
+    const ImportPatch patch(L"ovomfc.dll", "PropertySheetW",
+                            reinterpret_cast<void*>(&sheetOfANegativeNumber));
+    EXPECT_TRUE(sheet.Create(&owner));
+    EXPECT_TRUE(sheet.IsWindowVisible());
+    sheet.DestroyWindow();
 }
 
 TEST_F(ModelessSheet, WithoutAParentItBelongsToTheDesktop)
