@@ -194,8 +194,10 @@ DROPEFFECT COleDropTarget::drop(LPDATAOBJECT dataObject, DWORD keyState, POINTL 
     if (life.expired())
         return DROPEFFECT_NONE;
     const DROPEFFECT effect = OnDropEx(window, &data, usual, allowed, point);
-    if (effect != kNotHandled || life.expired())
-        return effect == kNotHandled ? DROPEFFECT_NONE : effect;
+    if (effect != kNotHandled)
+        return effect;
+    if (life.expired())
+        return DROPEFFECT_NONE;
     if (usual != DROPEFFECT_NONE)
         return OnDrop(window, &data, usual, point) ? usual : DROPEFFECT_NONE;
     OnDragLeave(window);
