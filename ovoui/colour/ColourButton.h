@@ -25,7 +25,7 @@ struct ColourIdentity;
 } // namespace ovoui::colour
 
 /// Shows a colour, and drops a small palette with a line that opens the dialog: by a press of the mouse, or
-/// Space, Down, Alt+Down and F4. Arrows, Home, End and the page keys move in the palette, Enter and Space
+/// Space, Down, F4, Alt+Down and Alt+Up. Arrows, Home, End and the page keys move in the palette, Enter and Space
 /// choose, Escape and Tab close it. It opens upwards where the screen ends. A colour with alpha keeps it when
 /// another is chosen from the palette.
 ///

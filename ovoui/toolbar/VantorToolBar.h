@@ -66,8 +66,8 @@ public:
     /// shows the same; with `shiftImages` each is counted from where the strip `bitmapIds[i]` begins
     /// (noteBitmap). An entry beyond `bitmapIds` leaves the button its image. In a bar without an image list
     /// the strips `bitmapIds` are added, to the bar and to the flyout. `names` serve as tips for commands
-    /// that have no string. The image list stays the bar's; it must live as long as the record, or be
-    /// replaced by AttachBar.
+    /// that have no string. The image list stays the bar's; it must live as long as the flyout is attached,
+    /// or be replaced by AttachBar.
     /// `bitmapSize` is the width of the images in pixels; `styleFlag` as above.
     void AttachBar(int button, int bitmapSize, const std::vector<int>& commands,
                    const std::vector<int>& bitmapIds, const std::vector<int>& images,
@@ -137,11 +137,11 @@ public:
 
     // Buttons. The flyouts stay with theirs.
 
-    /// Without a button only the records behind `index` move up, and the result is 1; otherwise it is the
-    /// control's.
+    /// Inserts `button` in front of the button `index`; the result is the control's. For a null `button` only
+    /// the flyouts of the buttons from `index` on move up by one, and the result is 1.
     BOOL InsertButton(int index, TBBUTTON* button);
-    /// Deletes the button `index`; the result is the control's. Without such a button only the records behind
-    /// it move down.
+    /// Deletes the button `index`; the result is the control's. Without such a button only the flyouts of the
+    /// buttons behind it move down by one.
     BOOL DeleteButton(int index);
 
     /// Adds the strip of the bitmap resource `bitmapId`, with images `bitmapSize` pixels wide, to the bar's
