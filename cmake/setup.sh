@@ -20,6 +20,13 @@ fail() {
   exit 1
 }
 
+# help_where_asked ARGUMENTS: prints the comment that the command begins with, if the first argument asks for it.
+help_where_asked() {
+  [ "$1" = --help ] || [ "$1" = -h ] || return
+  sed -n '2,/^[^#]/ s/^# \{0,1\}//p' "$0"
+  exit 0
+}
+
 missing_packages() {
   local package
   for package in "${packages[@]}"; do

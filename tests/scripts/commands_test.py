@@ -127,6 +127,29 @@ class Refusals(Checkout):
             self.assertEqual(process.stderr, "package: takes nothing but --twice\n")
 
 
+    def test_words_that_test_does_not_know(self):
+        for words in (["--verbose"], ["Tree", "List"]):
+            process = subprocess.run([self.root / "test", *words], capture_output=True, text=True, check=False)
+            self.assertEqual(process.returncode, 1)
+            self.assertEqual(process.stderr, "test: takes one filter at most\n")
+
+
+class Help(Checkout):
+    def test_each_command_tells_how_it_is_called(self):
+        self.program("dpkg-query", "exit 1")  # nothing is needed for help, and nothing done
+        for command in ("run", "test", "package"):
+            for asked in ("--help", "-h"):
+                process = subprocess.run([self.root / command, asked], capture_output=True, text=True, check=False,
+                                         env=dict(os.environ, PATH=f"{self.programs}:{os.environ['PATH']}"))
+                self.assertEqual((process.returncode, process.stderr), (0, ""))
+                comment = [line for line in (ROOT / command).read_text().splitlines()[1:] if line.startswith("# ")]
+                first = process.stdout.splitlines()[0]
+                self.assertEqual("# " + first, comment[0])
+                self.assertIn(f"  ./{command}  ", process.stdout)
+                self.assertNotIn("root=", process.stdout)
+        self.assertFalse((self.root / "build").exists())
+
+
 class TwoAtATime(Checkout):
     def test_the_second_waits_and_says_so(self):
         self.script(self.root / "cmake/run-tests", """
