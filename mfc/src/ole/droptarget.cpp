@@ -1,5 +1,6 @@
 #include <afxole.h>
 
+#include "comobject.h"
 #include "guarded.h"
 
 #include <detail/handleof.h>
@@ -26,7 +27,7 @@ DWORD withAlt(DWORD keyState)
 
 /// What the system is given for a target. A drag may hold on to it while the target, or its registration,
 /// goes: it is what remains then.
-class RegisteredTarget final : public IDropTarget
+class RegisteredTarget final : public afxdetail::ComObject<IDropTarget, IID_IDropTarget>
 {
 public:
     RegisteredTarget(COleDropTarget& target, HWND wnd, std::weak_ptr<void> life)
@@ -34,27 +35,6 @@ public:
         , m_wnd(wnd)
         , m_life(std::move(life))
     {
-    }
-
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override
-    {
-        const bool known = iid == IID_IUnknown || iid == IID_IDropTarget;
-        *object = known ? this : nullptr;
-        if (!known)
-            return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override
-    {
-        return static_cast<ULONG>(::InterlockedIncrement(&m_references));
-    }
-    STDMETHODIMP_(ULONG) Release() override
-    {
-        const LONG left = ::InterlockedDecrement(&m_references);
-        if (left == 0)
-            delete this;
-        return static_cast<ULONG>(left);
     }
 
     STDMETHODIMP DragEnter(LPDATAOBJECT dataObject, DWORD keyState, POINTL point, LPDWORD effect) override
@@ -74,8 +54,6 @@ public:
     }
 
 private:
-    ~RegisteredTarget() = default;
-
     bool isRegistered() const { return !m_life.expired() && m_target.m_hWnd == m_wnd; }
 
     static HRESULT nothing(DWORD& effect)
@@ -87,7 +65,6 @@ private:
     COleDropTarget& m_target;
     const HWND m_wnd;
     const std::weak_ptr<void> m_life;
-    LONG m_references = 1;
 };
 
 } // namespace

@@ -1,6 +1,9 @@
 #include "formatenumerator.h"
 
+#include "comobject.h"
+
 #include <cstring>
+#include <new>
 
 namespace
 {
@@ -23,7 +26,7 @@ FORMATETC copyFormat(const FORMATETC& format)
     return copy;
 }
 
-class FormatEnumerator final : public IEnumFORMATETC
+class FormatEnumerator final : public afxdetail::ComObject<IEnumFORMATETC, IID_IEnumFORMATETC>
 {
 public:
     FormatEnumerator(const std::vector<FORMATETC>& formats, std::size_t next)
@@ -34,27 +37,10 @@ public:
             m_formats.push_back(copyFormat(format));
     }
 
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override
+    ~FormatEnumerator() override
     {
-        const bool known = iid == IID_IUnknown || iid == IID_IEnumFORMATETC;
-        *object = known ? this : nullptr;
-        if (!known)
-            return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
-    }
-
-    STDMETHODIMP_(ULONG) AddRef() override
-    {
-        return static_cast<ULONG>(::InterlockedIncrement(&m_references));
-    }
-
-    STDMETHODIMP_(ULONG) Release() override
-    {
-        const LONG left = ::InterlockedDecrement(&m_references);
-        if (left == 0)
-            delete this;
-        return static_cast<ULONG>(left);
+        for (const FORMATETC& format : m_formats)
+            ::CoTaskMemFree(format.ptd);
     }
 
     STDMETHODIMP Next(ULONG count, FORMATETC* formats, ULONG* fetched) override
@@ -82,18 +68,16 @@ public:
 
     STDMETHODIMP Clone(IEnumFORMATETC** clone) override
     {
-        *clone = new FormatEnumerator(m_formats, m_next);
-        return S_OK;
+        try {
+            *clone = new FormatEnumerator(m_formats, m_next);
+            return S_OK;
+        } catch (const std::bad_alloc&) {
+            *clone = nullptr;
+            return E_OUTOFMEMORY;
+        }
     }
 
 private:
-    ~FormatEnumerator()
-    {
-        for (const FORMATETC& format : m_formats)
-            ::CoTaskMemFree(format.ptd);
-    }
-
-    LONG m_references = 1;
     std::vector<FORMATETC> m_formats;
     std::size_t m_next;
 };
