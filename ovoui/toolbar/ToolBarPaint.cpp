@@ -75,6 +75,8 @@ int textHeight(HWND control)
 void CVantorToolBar::OnPaint()
 {
     const std::shared_ptr<State> state = m_state;
+    if (state->keyboard.on)
+        redrawButton(state->keyboard.button); // its mark would be inverted away where only others are painted
     CToolBar::OnPaint(); // asks the owner about custom drawing
     if (state->usable())
         erasePlaces();

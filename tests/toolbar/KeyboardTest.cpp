@@ -44,6 +44,19 @@ protected:
     bool hasKeyboard() const { return ::GetFocus() == scene.bar().m_hWnd; }
     bool paneHasFocus() const { return ::GetFocus() == pane.m_hWnd; }
 
+    /// Whether a button has the mark as it should be: its dots alternate along the whole of its upper edge.
+    bool isMarked(int index)
+    {
+        CRect rect;
+        scene.bar().GetItemRect(index, &rect);
+        scene.bar().UpdateWindow();
+        const Picture picture = Picture::ofClient(scene.bar().m_hWnd);
+        int changes = 0;
+        for (int x = rect.left + 4; x < rect.right - 4; ++x)
+            changes += picture.at(CPoint(x, rect.top + 2)) != picture.at(CPoint(x + 1, rect.top + 2));
+        return changes > rect.Width() - 10;
+    }
+
     BarScene scene;
     Pane pane;
 };
@@ -91,23 +104,31 @@ TEST_F(BarKeyboard, ArrowsWalkTheButtonsWithTheirPrompts)
 
 TEST_F(BarKeyboard, TheButtonIsMarked)
 {
-    // The dots of the mark alternate along its upper edge.
-    const auto coloursAcross = [&](int index) {
-        CRect rect;
-        scene.bar().GetItemRect(index, &rect);
-        scene.bar().UpdateWindow();
-        const Picture picture = Picture::ofClient(scene.bar().m_hWnd);
-        std::set<COLORREF> colours;
-        for (int x = rect.left + 4; x < rect.right - 4; ++x)
-            colours.insert(picture.at(CPoint(x, rect.top + 2)));
-        return colours.size();
-    };
-    EXPECT_EQ(coloursAcross(BarScene::Other), 1u);
+    EXPECT_FALSE(isMarked(BarScene::Other));
     scene.bar().FocusButtons();
     scene.user.key(VK_END);
-    EXPECT_EQ(coloursAcross(BarScene::Other), 2u);
+    EXPECT_TRUE(isMarked(BarScene::Other));
     scene.user.key(VK_ESCAPE);
-    EXPECT_EQ(coloursAcross(BarScene::Other), 1u);
+    EXPECT_FALSE(isMarked(BarScene::Other));
+}
+
+/// The mark inverts what is below it: drawn once more over itself it would be gone.
+TEST_F(BarKeyboard, TheMarkStaysWhenSomethingElseIsPainted)
+{
+    scene.bar().FocusButtons();
+    scene.user.key(VK_END);
+    ASSERT_TRUE(isMarked(BarScene::Other));
+    CRect mark;
+    scene.bar().GetItemRect(BarScene::Other, &mark);
+    CRect part(mark.left, mark.top, mark.CenterPoint().x, mark.bottom);
+    CRect elsewhere;
+    scene.bar().GetItemRect(BarScene::Plain, &elsewhere);
+    for (const CRect& painted : {elsewhere, part}) {
+        scene.bar().InvalidateRect(&painted);
+        EXPECT_TRUE(isMarked(BarScene::Other));
+    }
+    scene.bar().RedrawWindow(nullptr, nullptr, RDW_INTERNALPAINT);
+    EXPECT_TRUE(isMarked(BarScene::Other));
 }
 
 TEST_F(BarKeyboard, EscapeGivesTheFocusBack)
