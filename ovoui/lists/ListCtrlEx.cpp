@@ -330,6 +330,14 @@ void COVOListCtrlEx::repaintRow(int item)
     if (item == -1 || !GetItemRect(item, &bounds, LVIR_BOUNDS) || !watch.alive() ||
         !GetItemRect(item, &label, LVIR_LABEL) || !watch.alive())
         return;
-    bounds.left = m_followsOrder ? 0 : label.left; // cells may lie before the label
+    // What lies before the label is not filled: its image would be blended with itself.
+    bounds.left = labelComesFirst() ? label.left : 0;
     InvalidateRect(&bounds, FALSE);
+}
+
+/// Whether no cell lies before the label.
+bool COVOListCtrlEx::labelComesFirst()
+{
+    const CHeaderCtrl* const header = m_followsOrder ? GetHeaderCtrl() : nullptr;
+    return !header || header->OrderToIndex(0) == 0;
 }

@@ -125,6 +125,7 @@ private:
     std::vector<ovoui::lists::ColumnShape> columnShapes() const;
     bool isOurs(const CWnd* window) const;
     void repaintRow(int item);
+    bool labelComesFirst();
     void repaintSelectionUnless(bool inOurChild);
     void setColourColumn(int column, bool isColour);
 

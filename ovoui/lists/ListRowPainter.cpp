@@ -207,8 +207,10 @@ void ListRowPainter::paintLabel()
         readable.emplace(m_dc, m_colours.text);
         paintSwatch(m_label);
     }
-    paintStateImage();
-    paintIcon();
+    if (m_draw.itemAction != ODA_FOCUS) { // else they are there, and would be blended with themselves
+        paintStateImage();
+        paintIcon();
+    }
     const frame::Box area = labelTextBox(m_label, m_look.stateImageWidth);
     const LPCWSTR text = textOf(m_item);
     const LPCWSTR shown = COVOListCtrlEx::MakeShortString(&m_dc, text, area.width(), kLabelOffset);

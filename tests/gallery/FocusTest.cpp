@@ -1,7 +1,9 @@
-// Where the keyboard is can be seen: on every page, in every bar, in every dialog that the pages open.
+// Where the keyboard is can be seen: on every page, in every bar, in every dialog that the pages open. It
+// still is when a part of the window has been covered and seen again.
 #include "AccessibleText.h"
 #include "FocusLook.h"
 #include "GalleryScene.h"
+#include "PartPainting.h"
 #include "Poses.h"
 
 #include <testkit/GuiThread.h>
@@ -50,6 +52,7 @@ TEST_F(GalleryFocus, IsSeenWhereverTabLeads)
         do {
             user.key(VK_TAB);
             const HWND focus = ::GetFocus();
+            EXPECT_EQ(linesOf(changedByPartialPainting(focus)), "") << described(entry, focus);
             EXPECT_TRUE(isFocusSeen(focus, clientOf(focus))) << described(entry, focus);
             ::SetFocus(focus);
         } while (::GetFocus() != start && ++stops < kMostStops);
@@ -70,6 +73,8 @@ TEST_F(GalleryFocus, IsSeenInBars)
             CRect first;
             buttons->GetItemRect(0, &first);
             ASSERT_TRUE(buttons->FocusButtons());
+            EXPECT_EQ(linesOf(changedByPartialPainting(*bar)), "")
+                << ::testing::PrintToString(std::wstring(page));
             EXPECT_TRUE(isFocusSeen(*bar, first)) << ::testing::PrintToString(std::wstring(page));
         }
     }
@@ -85,6 +90,32 @@ TEST_F(GalleryFocus, IsSeenInDialogs)
 }
 
 /// What the tests above rely on.
+TEST(PartPainting, FindsWhatInvertsItsGroundOnceMore)
+{
+    class Inverting : public CWnd
+    {
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message != WM_PAINT)
+                return CWnd::WindowProc(message, wParam, lParam);
+            Default();
+            CClientDC dc(this);
+            dc.DrawFocusRect(CRect(2, 2, 60, 30));
+            return 0;
+        }
+    };
+    CFrameWnd parent;
+    ASSERT_TRUE(parent.Create(nullptr, L"", WS_POPUP | WS_VISIBLE, CRect(100, 100, 400, 200)));
+    Inverting child;
+    const LPCTSTR ground = AfxRegisterWndClass(0, nullptr, ::GetSysColorBrush(COLOR_BTNFACE));
+    child.Create(ground, L"", WS_CHILD | WS_VISIBLE, CRect(10, 10, 90, 50), &parent, 7);
+    present(parent);
+    EXPECT_EQ(changedByPartialPainting(child).size(), 3u);
+    EXPECT_TRUE(changedByPartialPainting(parent).empty());
+    child.DestroyWindow();
+    parent.DestroyWindow();
+}
+
 TEST(FocusLook, FindsAControlThatDoesNotShowTheFocus)
 {
     class Hidden : public CButton

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 
 using namespace ovo::testkit;
 
@@ -307,6 +308,35 @@ TEST_F(ListFocus, TheListMayBeDestroyedWhenTheFocusComesOrGoes)
         if (list)
             button.SetFocus();
         EXPECT_FALSE(list);
+    }
+}
+
+/// An image with soft edges that is drawn over itself gets darker.
+TEST_F(ListFocus, ImagesStayAsTheyAre)
+{
+    constexpr int kSide = 16;
+    const std::vector<std::uint32_t> blackHalfOpaque(kSide * kSide, 0x80000000);
+    CBitmap soft;
+    soft.CreateBitmap(kSide, kSide, 1, 32, blackHalfOpaque.data());
+    for (const bool follows : {false, true}) {
+        ListScene scene;
+        CImageList images;
+        images.Create(kSide, kSide, ILC_COLOR32, 1, 1);
+        images.Add(&soft, static_cast<CBitmap*>(nullptr));
+        scene.list.SetImageList(&images, LVSIL_SMALL);
+        scene.list.FollowColumnOrder(follows);
+        scene.fill({100, 80}, 3);
+        scene.list.SetItemState(1, LVIS_FOCUSED, LVIS_FOCUSED);
+        scene.show();
+        const CPoint middle = scene.rect(1, LVIR_ICON).CenterPoint();
+        const COLORREF before = Picture::ofClient(scene.list).at(middle);
+        EXPECT_THAT(before, IsColour(RGB(127, 127, 127), 2));
+        for (int i = 0; i < 3; ++i) {
+            scene.list.SetFocus();
+            EXPECT_THAT(Picture::ofClient(scene.list).at(middle), IsColour(before)) << follows;
+            scene.button.SetFocus();
+            EXPECT_THAT(Picture::ofClient(scene.list).at(middle), IsColour(before)) << follows;
+        }
     }
 }
 
