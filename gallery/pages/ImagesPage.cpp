@@ -179,6 +179,7 @@ int ImageSamples::drawStates(CDC& dc, int top)
 
 BEGIN_MESSAGE_MAP(ImagesPage, GalleryPage)
     ON_BN_CLICKED(IDC_IMAGES_DRAWINGS, &ImagesPage::OnDrawings)
+    ON_WM_SYSCOLORCHANGE()
 END_MESSAGE_MAP()
 
 ImagesPage::ImagesPage()
@@ -195,7 +196,9 @@ BOOL ImagesPage::OnInitDialog()
     replace(IDC_IMAGES_SAMPLES, m_samples);
     m_drawings.create(*this);
     replace(IDC_IMAGES_DRAWING_SAMPLES, m_drawings);
-    loadButtons();
+    for (std::size_t i = 0; i < m_buttons.size(); ++i)
+        m_buttons[i].SubclassDlgItem(IDC_IMAGES_BUTTON + static_cast<UINT>(i), this);
+    loadImages();
     stretch(IDC_IMAGES_SAMPLES, {.growX = 100, .growY = 100});
     stretch(IDC_IMAGES_DRAWING_SAMPLES, {.growX = 100, .growY = 100});
     stretch(IDC_IMAGES_BUTTONS_LABEL, {.moveY = 100});
@@ -227,14 +230,20 @@ void ImagesPage::OnDrawings()
     log(drawings ? L"The images are drawn for each size." : L"The images come from strips.");
 }
 
-void ImagesPage::loadButtons()
+/// Images that are made with the system's colours are made anew.
+void ImagesPage::OnSysColorChange()
+{
+    GalleryPage::OnSysColorChange();
+    loadImages();
+}
+
+void ImagesPage::loadImages()
 {
     const auto [size, first] = imagesForButtons(scaled(kButton));
-    const bool themed = CThemeData::getThemeData().IsAppThemed();
+    const UINT strip = CThemeData::getThemeData().IsAppThemed() ? first : IDB_ADD_16_CLASSIC;
     for (std::size_t i = 0; i < m_buttons.size(); ++i) {
-        m_buttons[i].SubclassDlgItem(IDC_IMAGES_BUTTON + static_cast<UINT>(i), this);
         m_buttons[i].setSize(static_cast<unsigned>(size));
         m_buttons[i].useDisabledImage(true);
-        m_buttons[i].loadImage((themed ? first : IDB_ADD_16_CLASSIC) + static_cast<UINT>(i) % kButtonImages);
+        m_buttons[i].loadImage(strip + static_cast<UINT>(i) % kButtonImages);
     }
 }

@@ -42,10 +42,11 @@ public:
 protected:
     BOOL OnInitDialog() override;
     afx_msg void OnDrawings();
+    afx_msg void OnSysColorChange();
     DECLARE_MESSAGE_MAP()
 
 private:
-    void loadButtons();
+    void loadImages();
 
     ImageSamples m_samples;
     DrawingSamples m_drawings;

@@ -4,6 +4,7 @@ target_sources(ovomfc PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/mnemonicsearch.cpp
   ${CMAKE_CURRENT_LIST_DIR}/modalloop.cpp
   ${CMAKE_CURRENT_LIST_DIR}/pending.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/systemchange.cpp
   ${CMAKE_CURRENT_LIST_DIR}/wndactivate.cpp
   ${CMAKE_CURRENT_LIST_DIR}/wndcmd.cpp
   ${CMAKE_CURRENT_LIST_DIR}/wndcreate.cpp

@@ -1,5 +1,6 @@
 // From the system's call to the handler.
 #include "handlemap.h"
+#include "systemchange.h"
 #include "wndactivate.h"
 #include "wndprocsender.h"
 
@@ -127,9 +128,11 @@ LRESULT AFXAPI AfxCallWndProc(CWnd* object, HWND wnd, UINT message, WPARAM wPara
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    const HWND wnd = m_hWnd;
     LRESULT result = 0;
     if (!OnWndMsg(message, wParam, lParam, &result))
         result = DefWindowProc(message, wParam, lParam);
+    afxdetail::passOnSystemChange(wnd, message, wParam, lParam);
     return result;
 }
 
