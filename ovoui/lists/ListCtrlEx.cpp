@@ -186,7 +186,14 @@ LPCWSTR COVOListCtrlEx::MakeShortString(CDC* pDC, LPCWSTR text, int width, int o
     if (fits(extents.whole(), width, offset))
         return text;
     const int dots = width < 1 ? 0 : pDC->GetTextExtent(kDots.data(), kMeasuredDots).cx;
-    const ShortText result = shorten(extents.beginnings(), dots, width, offset);
+    ShortText result = shorten(
+        length, [&](std::size_t count) { return extents.beginnings()[count - 1]; }, dots, width, offset);
+    if (changesShape({text, length})) {
+        const auto extentOf = [&](std::size_t count) {
+            return pDC->GetTextExtent(text, static_cast<int>(count)).cx;
+        };
+        result = shortenNear(result.length, length, extentOf, dots, width, offset);
+    }
     std::wmemmove(s_shortText, text, result.length); // the text may be an earlier result
     std::wcscpy(s_shortText + result.length, result.dots ? kDots.data() : L"");
     return s_shortText;

@@ -4,6 +4,7 @@
 #include <afxwin.h>
 
 #include <array>
+#include <climits>
 #include <span>
 #include <vector>
 
@@ -20,7 +21,8 @@ public:
         , m_beginnings(m_long.empty() ? std::span(m_usual).first(length) : std::span(m_long))
     {
         SIZE size{};
-        ::GetTextExtentExPointW(dc.m_hAttribDC, text, static_cast<int>(length), 0, nullptr,
+        int fit = 0; // some platforms give no extents without it
+        ::GetTextExtentExPointW(dc.m_hAttribDC, text, static_cast<int>(length), INT_MAX, &fit,
                                 m_beginnings.data(), &size);
         m_whole = size.cx;
     }
@@ -29,7 +31,7 @@ public:
 
     int whole() const { return m_whole; }
 
-    /// At k - 1 the extent of the first k characters.
+    /// At k - 1 how far the first k characters reach within the text.
     std::span<const int> beginnings() const { return m_beginnings; }
 
 private:

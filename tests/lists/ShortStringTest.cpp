@@ -8,6 +8,7 @@
 #include <random>
 
 using namespace ovo::testkit;
+using namespace std::string_literals;
 
 namespace
 {
@@ -84,6 +85,16 @@ BOOL WINAPI countExtents(HDC dc, LPCWSTR text, int count, int room, LPINT fit, L
 {
     ++g_measured;
     return ::GetTextExtentExPointW(dc, text, count, room, fit, extents, size);
+}
+
+/// As some platforms do it: nothing for who does not ask how many characters fit, and within a text
+/// characters that take less than on their own.
+BOOL WINAPI narrowExtents(HDC dc, LPCWSTR text, int count, int room, LPINT fit, LPINT extents, LPSIZE size)
+{
+    const BOOL measured = ::GetTextExtentExPointW(dc, text, count, room, fit, extents, size);
+    for (int i = 0; i < count; ++i)
+        extents[i] = !fit ? 0 : text[i] >= 0x300 ? extents[i] * 2 / 3 : extents[i];
+    return measured;
 }
 
 } // namespace
@@ -203,4 +214,16 @@ TEST(ShortString, MeasuresAtMostTwiceHoweverLongTheText)
             EXPECT_LE(g_measured, 2) << length << " characters, width " << width;
             EXPECT_GE(g_measured, 1);
         }
+}
+
+TEST(ShortString, IsTheSameWhereATextIsMeasuredOtherwiseThanItsBeginnings)
+{
+    const Ruler ruler(L"Tahoma", 11);
+    const ImportPatch patch(L"ovoui.dll", "GetTextExtentExPointW", reinterpret_cast<void*>(&narrowExtents));
+    for (const std::wstring& text :
+         {std::wstring(30, L'm'), std::wstring(30, 0x5D0), L"plain and \x05D0\x05D1\x05D2\x05D3 mixed"s})
+        for (int width = 1; width < ruler.extent(text); width += 3)
+            EXPECT_EQ(std::wstring(ruler.shorten(text, width, 4)),
+                      shortByDefinition(ruler.dc(), text, width, 4))
+                << "width " << width;
 }
