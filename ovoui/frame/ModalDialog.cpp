@@ -22,8 +22,8 @@ BOOL COVOModalDialog::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESU
     if (!error)
         return handled;
     const bool alive = watch.alive();
-    if (alive && message == WM_PAINT)
-        ValidateRect(nullptr); // or the dialog would be asked to paint again behind the box, and so on
+    if (alive && message == WM_PAINT) // or the dialog would be asked to paint again behind the box, and so on
+        RedrawWindow(nullptr, nullptr, RDW_VALIDATE | RDW_NOERASE | RDW_NOFRAME | RDW_NOINTERNALPAINT);
     AfxMessageBox(error->c_str(), MB_ICONEXCLAMATION | MB_TASKMODAL, alive ? m_nIDHelp : helpId);
     return TRUE;
 }

@@ -3,6 +3,7 @@
 #include <afxpriv.h>
 
 #include <detail/handlemap.h>
+#include <detail/painted.h>
 #include <detail/pending.h>
 
 using afxdetail::callOut;
@@ -185,7 +186,7 @@ LRESULT CWinThread::ProcessWndProcException(CException* exception, const MSG* me
     case WM_CREATE:
         return -1; // the window is not created
     case WM_PAINT:
-        ::ValidateRect(message->hwnd, nullptr); // or it would be asked to paint for ever
+        afxdetail::markPainted(message->hwnd);
         return 0;
     }
     const bool command = message->message == WM_COMMAND || message->message == WM_SYSCOMMAND;

@@ -6,6 +6,7 @@
 
 #include <afxpriv.h>
 
+#include <detail/painted.h>
 #include <detail/pending.h>
 
 using afxdetail::threadState;
@@ -79,7 +80,7 @@ LRESULT callReporting(CWnd& object, const MSG& message)
 LRESULT resultOfFailure(HWND wnd, UINT message)
 {
     if (message == WM_PAINT)
-        ::ValidateRect(wnd, nullptr); // or the window would be asked to paint, and fail, for ever
+        afxdetail::markPainted(wnd);
     return message == WM_CREATE ? -1 : 0;
 }
 
