@@ -4,6 +4,7 @@
 #include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/ImageStrip.h>
 #include <ovoui/toolbar/ToolBarState.h>
+#include <ovoui/toolbar/WithoutOwner.h>
 #include <ovoui/toolbar/core/BarRules.h>
 #include <ovoui/toolbar/core/FlyoutGesture.h>
 
@@ -33,24 +34,6 @@ ButtonChange changeBetween(const TBBUTTON& before, const TBBUTTON& after)
         wanted.text = before.iString; // the same words elsewhere
     return changeOf(fieldsOf(before), wanted);
 }
-
-/// While it lives the control tells its owner nothing.
-class WithoutOwner
-{
-public:
-    explicit WithoutOwner(HWND wnd)
-        : m_wnd(wnd)
-        , m_owner(::SendMessageW(wnd, TB_SETPARENT, 0, 0))
-    {
-    }
-    ~WithoutOwner() { ::SendMessageW(m_wnd, TB_SETPARENT, static_cast<WPARAM>(m_owner), 0); }
-    WithoutOwner(const WithoutOwner&) = delete;
-    WithoutOwner& operator=(const WithoutOwner&) = delete;
-
-private:
-    HWND m_wnd;
-    LRESULT m_owner;
-};
 
 /// In the end as much of a window, and of the controls in it, is invalid as at the beginning.
 class SameInvalid

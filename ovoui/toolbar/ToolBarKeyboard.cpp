@@ -1,9 +1,11 @@
 // CVantorToolBar: the keyboard in the bar itself.
 #include <ovoui/frame/BoxRect.h>
 #include <ovoui/frame/Exceptions.h>
+#include <ovoui/frame/TellParent.h>
 #include <ovoui/toolbar/BarButtons.h>
 #include <ovoui/toolbar/FlyoutToolbar.h>
 #include <ovoui/toolbar/ToolBarState.h>
+#include <ovoui/toolbar/WithoutOwner.h>
 #include <ovoui/toolbar/core/BarWalk.h>
 #include <ovoui/toolbar/core/ButtonRules.h>
 #include <ovoui/toolbar/core/FlyoutGesture.h>
@@ -69,7 +71,7 @@ HWND CVantorToolBar::promptFrame() const
     return frame ? frame->m_hWnd : GetTopLevelFrame()->GetSafeHwnd();
 }
 
-/// The keyboard is at this button now, or at none. The owner hears of the hot button.
+/// The keyboard is at this button now, or at none.
 void CVantorToolBar::goToButton(int index)
 {
     const std::shared_ptr<State> state = m_state;
@@ -78,11 +80,36 @@ void CVantorToolBar::goToButton(int index)
     const UINT prompt = hasButton(index) ? GetItemID(index) : AFX_IDS_IDLEMESSAGE;
     if (const HWND frame = promptFrame())
         ::PostMessageW(frame, WM_SETMESSAGESTRING, prompt, 0);
-    SendMessage(TB_SETHOTITEM, static_cast<WPARAM>(index));
+    makeHot(index);
     if (state->usable())
         awaitTip();
     if (state->usable() && index != kNoButton)
         announceFocus(index);
+}
+
+/// The owner is asked as the control asks it, and may forbid the change. It may also destroy the bar, which
+/// the control would not stand in the middle of its change.
+void CVantorToolBar::makeHot(int index)
+{
+    const std::shared_ptr<State> state = m_state;
+    const auto before = static_cast<int>(SendMessage(TB_GETHOTITEM));
+    if (before == index)
+        return;
+    NMTBHOTITEM change{};
+    change.hdr.hwndFrom = m_hWnd;
+    change.hdr.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID());
+    change.hdr.code = TBN_HOTITEMCHANGE;
+    change.idOld = hasButton(before) ? static_cast<int>(GetItemID(before)) : 0;
+    change.idNew = hasButton(index) ? static_cast<int>(GetItemID(index)) : 0;
+    change.dwFlags =
+        HICF_OTHER | (hasButton(before) ? 0u : HICF_ENTERING) | (hasButton(index) ? 0u : HICF_LEAVING);
+    const HWND owner = WithoutOwner(m_hWnd).owner();
+    const bool forbidden =
+        ovoui::frame::sendToHost(owner, WM_NOTIFY, change.hdr.idFrom, reinterpret_cast<LPARAM>(&change)) != 0;
+    if (forbidden || !state->usable())
+        return;
+    const WithoutOwner quiet(m_hWnd);
+    SendMessage(TB_SETHOTITEM, static_cast<WPARAM>(index));
 }
 
 void CVantorToolBar::redrawButton(int index)

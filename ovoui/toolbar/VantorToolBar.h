@@ -251,6 +251,7 @@ private:
     std::vector<ovoui::toolbar::ButtonFields> allFields() const;
     HWND promptFrame() const;
     void goToButton(int index);
+    void makeHot(int index);
     void redrawButton(int index);
     bool onOperatingKey(UINT key, bool alt);
     void walkBar(ovoui::toolbar::WalkKey key);

@@ -489,6 +489,39 @@ TEST_F(BarKeyboard, TheOwnerMayDeleteTheBarWhenTheFocusLeaves)
     EXPECT_EQ(bar, nullptr);
 }
 
+TEST_F(BarKeyboard, TheOwnerHearsOfTheHotButtonAndMayForbidIt)
+{
+    struct Change
+    {
+        int from;
+        int to;
+        DWORD flags;
+        bool operator==(const Change&) const = default;
+    };
+    scene.bar().SendMessage(TB_SETHOTITEM, static_cast<WPARAM>(-1)); // wherever the pointer is
+    std::vector<Change> heard;
+    int forbidden = 0;
+    scene.frame().onNotify = [&](NMHDR* header) -> LRESULT {
+        if (header->hwndFrom != scene.bar().m_hWnd || header->code != static_cast<UINT>(TBN_HOTITEMCHANGE))
+            return 0;
+        const NMTBHOTITEM& change = *reinterpret_cast<NMTBHOTITEM*>(header);
+        heard.push_back({change.idOld, change.idNew, change.dwFlags});
+        return change.idNew == forbidden;
+    };
+    scene.bar().FocusButtons();
+    scene.user.key(VK_RIGHT);
+    forbidden = ID_BOX;
+    scene.user.key(VK_RIGHT);
+    EXPECT_EQ(hot(), BarScene::Lines);
+    scene.user.key(VK_ESCAPE);
+    scene.frame().onNotify = nullptr;
+    constexpr DWORD kOther = HICF_OTHER;
+    EXPECT_EQ(heard, (std::vector<Change>{{0, ID_PLAIN, kOther | HICF_ENTERING},
+                                          {ID_PLAIN, ID_LINE, kOther},
+                                          {ID_LINE, ID_BOX, kOther},
+                                          {ID_LINE, 0, kOther | HICF_LEAVING}}));
+}
+
 TEST_F(BarKeyboard, HostsMayDestroyTheBarOnTheWay)
 {
     scene.bar().FocusButtons();
