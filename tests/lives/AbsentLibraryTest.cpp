@@ -185,13 +185,19 @@ protected:
         const Absence absence(absent.library, absent.function);
         RecordingParent parent;
         parent.ShowWindow(SW_SHOWNOACTIVATE);
-        const WindowCounter windows;
         absent.documented(parent);
         EXPECT_GT(absence.asked(), 0);
+        liveAll(parent); // some platforms make windows of their own, which stay
+        const WindowCounter windows;
+        liveAll(parent);
+        EXPECT_EQ(windows.grown(), 0);
+    }
+
+    static void liveAll(CWnd& parent)
+    {
         for (const Life& life : lives())
             EXPECT_NO_THROW(life.live(parent)) << life.name;
         GuiThread::settle();
-        EXPECT_EQ(windows.grown(), 0);
     }
 };
 

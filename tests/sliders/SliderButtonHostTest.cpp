@@ -409,15 +409,17 @@ TEST_F(SliderButton, AHostMayChangeTextAndFocusWhenTheValueChanges)
 TEST_F(SliderButton, OpeningAndClosingLeavesNothingBehind)
 {
     show();
-    open();
-    user.click(Spot{*button}).waitFor("the popup to go", &isClosed);
+    const auto openAndClose = [&](int rounds) {
+        for (int round = 0; round < rounds; ++round) {
+            button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+            button->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+            button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+        }
+    };
+    openAndClose(10); // what the platform makes once and keeps
     const GdiCounter objects;
     const WindowCounter windows;
-    for (int round = 0; round < 1000; ++round) {
-        button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-        button->SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-        button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-    }
+    openAndClose(1000);
     EXPECT_TRUE(isClosed());
     EXPECT_EQ(objects.grown(), 0);
     EXPECT_EQ(windows.grown(), 0);
