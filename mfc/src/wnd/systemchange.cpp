@@ -4,8 +4,6 @@
 
 void afxdetail::passOnSystemChange(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const bool isChange = message == WM_SYSCOLORCHANGE || message == WM_SETTINGCHANGE;
-    if (!isChange || !::IsWindow(window) || (::GetWindowLongPtrW(window, GWL_STYLE) & WS_CHILD))
-        return;
-    CWnd::SendMessageToDescendants(window, message, wParam, lParam, TRUE, FALSE);
+    if (::IsWindow(window) && !(::GetWindowLongPtrW(window, GWL_STYLE) & WS_CHILD))
+        CWnd::SendMessageToDescendants(window, message, wParam, lParam, TRUE, FALSE);
 }

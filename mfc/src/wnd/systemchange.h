@@ -6,8 +6,14 @@
 namespace afxdetail
 {
 
-/// The system tells of such changes to top-level windows alone, and leaves it to them to tell the controls in
-/// them. Does so after `window` has handled `message`, if it is one of those; `window` may be gone.
+/// New colours or settings of the system. It tells top-level windows alone, and leaves it to them to tell the
+/// controls in them.
+inline bool isSystemChange(UINT message)
+{
+    return message == WM_SYSCOLORCHANGE || message == WM_SETTINGCHANGE;
+}
+
+/// Tells everything in `window`, which has handled the message itself and may be gone, unless it is a child.
 void passOnSystemChange(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 } // namespace afxdetail

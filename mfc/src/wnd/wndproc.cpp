@@ -133,7 +133,8 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     LRESULT result = 0;
     if (!OnWndMsg(message, wParam, lParam, &result))
         result = DefWindowProc(message, wParam, lParam);
-    afxdetail::passOnSystemChange(wnd, message, wParam, lParam);
+    if (afxdetail::isSystemChange(message))
+        afxdetail::passOnSystemChange(wnd, message, wParam, lParam);
     return result;
 }
 
