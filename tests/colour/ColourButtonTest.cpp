@@ -179,6 +179,21 @@ TEST_F(ColourButton, KeysOpenMoveAndChoose)
     EXPECT_EQ(now(), kLeaf);
 }
 
+TEST_F(ColourButton, AltAndAnArrowOpensAndCloses)
+{
+    show();
+    button->SetFocus();
+    for (const WORD opens : {VK_DOWN, VK_UP})
+        for (const WORD closes : {VK_DOWN, VK_UP}) {
+            button->SetColour(Colour::colorref(kSky));
+            user.holding(VK_MENU).key(opens);
+            EXPECT_TRUE(button->IsDropped()) << opens;
+            user.key(VK_HOME).holding(VK_MENU).key(closes);
+            EXPECT_FALSE(button->IsDropped()) << closes;
+            EXPECT_EQ(now(), kSky) << "nothing is chosen";
+        }
+}
+
 TEST_F(ColourButton, AKeyThatIsHeldOpensOnceAndChoosesNothing)
 {
     constexpr LPARAM kFirst = 1;
